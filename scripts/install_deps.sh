@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building and testing need, and only those that are not there yet.
+# usage: scripts/install_deps.sh [build|test]
+set -euo pipefail
+
+packages=(g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libedit-dev
+          libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev python3)
+if [ "${1:-build}" = test ]; then
+    packages+=(clang clang-format libclang-rt-14-dev)
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+done
+if [ ${#missing[@]} -eq 0 ]; then
+    echo "packages: all there"
+    exit 0
+fi
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+        echo "These packages are missing and neither root nor sudo is at hand: ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+echo "packages: installing ${missing[*]}"
+log=$(mktemp)
+if ! { "${as_root[@]}" apt-get update -qq &&
+       "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}"; } >"$log" 2>&1; then
+    cat "$log" >&2
+    exit 1
+fi
+rm -f "$log"

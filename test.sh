@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds and runs every test: an optimised build, the same tests under the sanitizers, a
+# clang build of everything that is free of Qt, and the checks of formatting and includes.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+scripts/install_deps.sh test
+
+build() {
+    echo "build: $1"
+    cmake --preset "$1" >"build/$1.log" 2>&1 || { cat "build/$1.log"; exit 1; }
+    cmake --build --preset "$1" -j "$(nproc)" >>"build/$1.log" 2>&1 || { tail -n 100 "build/$1.log"; exit 1; }
+}
+
+mkdir -p build
+echo "format: checking"
+scripts/check_format.sh
+build default
+echo "tests: default"
+ctest --preset default -j "$(nproc)"
+build sanitize
+echo "tests: sanitize"
+ctest --preset sanitize -j "$(nproc)"
+build core-only
+echo "all tests passed"
