@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace fabula::text {
+
+struct Rgb {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+
+    friend bool operator==(const Rgb&, const Rgb&) = default;
+};
+
+/// 16 colours by number, such as an adventure may bring for itself.
+using Palette = std::array<Rgb, 16>;
+
+/// "Black" for 0 to "Bright White" for 15; empty for any other number.
+std::string_view ColorName(int number);
+
+/// The colour of a number from 0 to 15; black for any other.
+Rgb ColorRGB(int number);
+
+/// The lowest number whose ColorRGB, or whose entry in the session's own palette, is `colour`. A colour
+/// that is in neither gives 0 when `fallback` is 1, and else 7.
+int ColorIndex(Rgb colour, int fallback, const Palette* sessionPalette = nullptr);
+
+}  // namespace fabula::text

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace fabula::text {
+
+/// The number in a piece of character data: hexadecimal behind "&h" or "&H", else decimal with an optional
+/// minus. Blanks in front don't count; reading ends at the first character that is no digit, and no digit
+/// at all gives 0. A number beyond 32 bits gives the nearest one within.
+std::int32_t HexToValue(std::string_view text);
+
+/// The whole number that the text consists of: decimal digits behind an optional sign, and nothing else. A
+/// number beyond 64 bits gives the nearest one within.
+std::optional<std::int64_t> WholeNumber(std::string_view text);
+
+}  // namespace fabula::text

@@ -1,0 +1,57 @@
+#include "text/numbers.h"
+
+#include <gtest/gtest.h>
+
+namespace fabula::text {
+namespace {
+
+TEST(HexToValue, ReadsHexadecimalBehindItsSign) {
+    EXPECT_EQ(HexToValue("&hFF"), 255);
+    EXPECT_EQ(HexToValue("&H1a"), 26);
+    EXPECT_EQ(HexToValue(" &h3C "), 60);
+}
+
+TEST(HexToValue, ReadsAnythingElseAsDecimal) {
+    EXPECT_EQ(HexToValue("60"), 60);
+    EXPECT_EQ(HexToValue(" 007"), 7);
+    EXPECT_EQ(HexToValue("-5"), -5);
+}
+
+TEST(HexToValue, ReadingEndsAtTheFirstCharacterThatIsNoDigit) {
+    EXPECT_EQ(HexToValue("12x"), 12);
+    EXPECT_EQ(HexToValue("&h1G"), 1);
+    EXPECT_EQ(HexToValue("&h"), 0);
+    EXPECT_EQ(HexToValue("&h-1"), 0);
+    EXPECT_EQ(HexToValue("x"), 0);
+    EXPECT_EQ(HexToValue(""), 0);
+}
+
+TEST(HexToValue, ANumberBeyond32BitsGivesTheNearestWithin) {
+    EXPECT_EQ(HexToValue("&hFFFFFFFFFFFFFFFFFF"), 2147483647);
+    EXPECT_EQ(HexToValue("99999999999"), 2147483647);
+    EXPECT_EQ(HexToValue("-99999999999"), -2147483647 - 1);
+    EXPECT_EQ(HexToValue("-2147483648"), -2147483647 - 1);
+}
+
+TEST(WholeNumber, IsDigitsBehindAnOptionalSignAndNothingElse) {
+    EXPECT_EQ(WholeNumber("16"), 16);
+    EXPECT_EQ(WholeNumber("+16"), 16);
+    EXPECT_EQ(WholeNumber("-16"), -16);
+    EXPECT_EQ(WholeNumber("007"), 7);
+    EXPECT_EQ(WholeNumber(""), std::nullopt);
+    EXPECT_EQ(WholeNumber("-"), std::nullopt);
+    EXPECT_EQ(WholeNumber("+-1"), std::nullopt);
+    EXPECT_EQ(WholeNumber("x"), std::nullopt);
+    EXPECT_EQ(WholeNumber("1x"), std::nullopt);
+    EXPECT_EQ(WholeNumber(" 1"), std::nullopt);
+    EXPECT_EQ(WholeNumber("1.5"), std::nullopt);
+}
+
+TEST(WholeNumber, ANumberBeyond64BitsGivesTheNearestWithin) {
+    EXPECT_EQ(WholeNumber("99999999999999999999999"), INT64_MAX);
+    EXPECT_EQ(WholeNumber("-99999999999999999999999"), INT64_MIN);
+    EXPECT_EQ(WholeNumber("-9223372036854775808"), INT64_MIN);
+}
+
+}  // namespace
+}  // namespace fabula::text
