@@ -1,0 +1,106 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <list>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "store/adventure.h"
+#include "store/schema.h"
+#include "text/value.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace fabula::store {
+
+/// Marks an adventure file ("FABU") and numbers its form; both stand in the file's header.
+inline constexpr std::uint32_t kApplicationId = 0x46414255;
+inline constexpr std::uint32_t kFileVersion = 1;
+
+/// The name of the integer primary key that every table carries and that is no field: cursors know their
+/// record by it, and change sets need it.
+inline constexpr std::string_view kStoreKey = "storekey";
+
+struct StatementCloser {
+    void operator()(sqlite3_stmt* statement) const;
+};
+using Statement = std::unique_ptr<sqlite3_stmt, StatementCloser>;
+
+/// The store's side of an open file: the database handle, the schema as read from the file, and the
+/// statements kept prepared. Only src/store/ sees it. Every failure is a fabula::Error that says what was
+/// being done.
+class Connection {
+  public:
+    /// Opens the file as SQLite sees it, with everything switched off that an adventure does not need.
+    /// Checks nothing yet.
+    Connection(const std::filesystem::path& file, int openFlags);
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection();
+
+    sqlite3* Handle() const { return handle_; }
+
+    /// Runs statements that return nothing. `doing` completes "Could not ...".
+    void Run(const std::string& sql, const char* doing);
+    Statement Compile(const std::string& sql, const char* doing);
+    /// A statement that is kept prepared for the next caller with the same text. It is reset, with no
+    /// values bound.
+    sqlite3_stmt* Cached(const std::string& sql);
+
+    /// Steps to the next row; false after the last.
+    bool Step(sqlite3_stmt* statement, const char* doing);
+    static void Bind(sqlite3_stmt* statement, int parameter, const text::Value& value);
+
+    std::int64_t LastInsertKey() const;
+    int ChangedRows() const;
+
+    /// Throws the Error for the handle's latest failure.
+    [[noreturn]] void Fail(const char* doing) const;
+
+    /// Reads field lists and types from the `Tables` table. Tables that the file lacks have no fields.
+    void LoadSchema();
+    const TableSchema& SchemaOf(TableNum table) const;
+    TableSchema& SchemaToChange(TableNum table);
+
+    void BeginWork();
+    void CommitWork();
+    void RollBackWork() noexcept;
+    void BeginReading();
+    void EndReading() noexcept;
+
+  private:
+    static constexpr std::size_t kStatementsKept = 64;
+
+    sqlite3* handle_ = nullptr;
+    int workDepth_ = 0;
+    int readDepth_ = 0;
+    std::map<TableNum, TableSchema> schemas_;
+
+    /// Least recently used statements go first; the front of the list is the latest.
+    struct Kept {
+        std::string sql;
+        Statement statement;
+    };
+    std::list<Kept> kept_;
+    std::unordered_map<std::string_view, std::list<Kept>::iterator> keptBySql_;
+};
+
+/// Resets a cached statement when the work with it is done, so that it holds no lock.
+class StatementUse {
+  public:
+    explicit StatementUse(sqlite3_stmt* statement) : statement_(statement) {}
+    StatementUse(const StatementUse&) = delete;
+    StatementUse& operator=(const StatementUse&) = delete;
+    ~StatementUse();
+
+  private:
+    sqlite3_stmt* statement_;
+};
+
+}  // namespace fabula::store

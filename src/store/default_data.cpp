@@ -1,0 +1,130 @@
+#include "store/default_data.h"
+
+#include <fstream>
+#include <iterator>
+
+#include "platform/error.h"
+#include "text/fields.h"
+#include "text/str_edit.h"
+
+namespace fabula::store {
+namespace {
+
+struct MarkerRow {
+    std::string_view marker;
+    std::string_view edit;  ///< the keyword that decodes a line
+};
+
+constexpr MarkerRow kMarkers[] = {
+    {"SCRAMBLED", "unscramble"},
+    {"SCRAMBLECED", "unscramblec"},
+    {"ENCODED", "unscramblec"},
+    {"CRYPTED", "uncrypt"},
+};
+
+constexpr std::string_view kInfoSection = "INFO";
+
+std::string_view EditFor(std::string_view marker) {
+    for (const MarkerRow& row : kMarkers) {
+        if (row.marker == marker) return row.edit;
+    }
+    return {};
+}
+
+std::string ReadBytes(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw Error("Could not read the default data: there is no file " + file.string() + ".");
+    std::error_code error;
+    if (std::filesystem::file_size(file, error) > kLargestDefaultData || error) {
+        throw Error("Could not read the default data: " + file.string() + " is too large.");
+    }
+    std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    if (stream.bad()) throw Error("Could not read the default data from " + file.string() + ".");
+    return bytes;
+}
+
+std::vector<DefaultData::Line> ReadLines(const std::filesystem::path& file) {
+    const std::string bytes = ReadBytes(file);
+    std::vector<DefaultData::Line> lines;
+    std::string_view edit;
+    for (std::string_view line : text::Split(bytes, "\n")) {
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        const int number = static_cast<int>(lines.size()) + 1;
+        if (number == 1) edit = EditFor(text::StrEdit(line, "trim"));
+        const bool decode = number > 1 && !edit.empty();
+        lines.push_back({number, decode ? text::StrEdit(line, edit) : std::string(line)});
+    }
+    return lines;
+}
+
+}  // namespace
+
+DefaultData DefaultData::Read(const std::filesystem::path& file) {
+    DefaultData data;
+    data.file_ = file;
+    Section* section = nullptr;
+    std::string name;
+    for (Line& line : ReadLines(file)) {
+        const bool isMark = line.number > 1 && line.text.starts_with("::");
+        if (!section) {
+            if (!isMark) continue;
+            name = line.text.substr(2);
+            const auto [place, isNew] = data.sections_.try_emplace(name);
+            if (!isNew) data.Malformed(name, line, "the section stands there twice");
+            section = &place->second;
+        } else if (line.text == "::END") {
+            section = nullptr;
+        } else if (isMark) {
+            data.Malformed(name, line, "the section has no end");
+        } else {
+            section->push_back(std::move(line));
+        }
+    }
+    if (section)
+        throw Error("The default data " + file.string() + " has no end to its section ::" + name + ".");
+    for (const Line& line : data.Lines(kInfoSection)) {
+        const std::size_t sign = line.text.find('=');
+        if (sign == std::string::npos) data.Malformed(kInfoSection, line, "there is no '='");
+        data.info_[line.text.substr(0, sign)] = line.text.substr(sign + 1);
+    }
+    if (data.Info("Delimiter").empty())
+        throw Error("The default data " + file.string() + " names no delimiter.");
+    return data;
+}
+
+const std::string& DefaultData::Info(std::string_view key) const {
+    const auto found = info_.find(key);
+    if (found == info_.end()) {
+        throw Error("The default data " + file_.string() + " has no '" + std::string(key) + "' in ::INFO.");
+    }
+    return found->second;
+}
+
+bool DefaultData::Has(std::string_view section) const {
+    return sections_.contains(section);
+}
+
+const DefaultData::Section& DefaultData::Lines(std::string_view section) const {
+    const auto found = sections_.find(section);
+    if (found == sections_.end()) {
+        throw Error("The default data " + file_.string() + " has no section ::" + std::string(section) +
+                    ".");
+    }
+    return found->second;
+}
+
+std::vector<std::string> DefaultData::Columns(std::string_view section, const Line& row,
+                                              std::size_t least) const {
+    std::vector<std::string> columns;
+    for (const std::string_view column : text::Split(row.text, Info("Delimiter")))
+        columns.emplace_back(column);
+    if (columns.size() < least) Malformed(section, row, "it has too few columns");
+    return columns;
+}
+
+void DefaultData::Malformed(std::string_view section, const Line& line, const std::string& why) const {
+    throw Error("The default data " + file_.string() + " is wrong in section ::" + std::string(section) +
+                " at line " + std::to_string(line.number) + ": " + why + ".");
+}
+
+}  // namespace fabula::store

@@ -1,0 +1,246 @@
+#include "store/file_check.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <fstream>
+
+#include <sqlite3.h>
+
+#include "store/connection.h"
+#include "text/utf8.h"
+
+namespace fabula::store {
+namespace {
+
+/// Where the file's header keeps what is read here; all numbers are big-endian.
+constexpr std::size_t kHeaderSize = 100;
+constexpr std::string_view kMagic{"SQLite format 3\0", 16};
+constexpr std::size_t kWriteVersionAt = 18;
+constexpr std::size_t kReadVersionAt = 19;
+constexpr std::size_t kUserVersionAt = 60;
+constexpr std::size_t kApplicationIdAt = 68;
+/// Read and write version of a file with a rollback journal.
+constexpr char kRollbackJournal = 1;
+
+struct IndexEntry {
+    TableNum table;
+    std::string_view fields;
+};
+
+/// The look-ups that are made often.
+constexpr IndexEntry kIndexes[] = {
+    {TableNum::Locations, "locnum"},     {TableNum::Messages, "msgnum"},
+    {TableNum::Objects, "objnum"},       {TableNum::ProcessTables, "canum"},
+    {TableNum::ProcessTables, "estype"}, {TableNum::SystemMessages, "smsgnum"},
+    {TableNum::Vocabulary, "word"},      {TableNum::Vocabulary, "vocnum"},
+    {TableNum::Flags, "flgnum"},         {TableNum::CondActs, "canum"},
+    {TableNum::CondActs, "caname"},      {TableNum::Codes, "codenum"},
+    {TableNum::Codes, "FabulaTag"},      {TableNum::Characters, "charkey"},
+    {TableNum::Pictures, "locnum"},
+};
+
+/// The fields of an index that are text, and so are ordered without regard to case.
+constexpr std::string_view kTextIndexes[] = {"word", "caname", "FabulaTag"};
+
+std::string_view SqlTypeOf(FieldType type) {
+    switch (ClassOf(type)) {
+        case FieldClass::Number:
+            return type == FieldType::Double ? "REAL" : "INTEGER";
+        case FieldClass::Truth:
+            return "INTEGER";
+        case FieldClass::Text:
+            return "TEXT";
+        case FieldClass::Binary:
+            return "BLOB";
+    }
+    return "BLOB";
+}
+
+[[noreturn]] void Refuse(Refusal reason, const std::filesystem::path& file) {
+    struct Row {
+        Refusal reason;
+        std::string_view text;
+    };
+    static constexpr Row kRows[] = {
+        {Refusal::Missing, "there is no such file"},
+        {Refusal::NotAnAdventure, "it is not an adventure file"},
+        {Refusal::Damaged, "it is damaged"},
+        {Refusal::NewerVersion, "it was written by a newer version of Fabula"},
+        {Refusal::InUse, "it is in use by another program"},
+        {Refusal::TooLarge, "it is too large"},
+    };
+    std::string message = "Could not open " + file.string() + ": ";
+    for (const Row& row : kRows) {
+        if (row.reason == reason) message += row.text;
+    }
+    throw OpenError(reason, message + ".");
+}
+
+std::uint32_t BigEndian(const std::array<char, kHeaderSize>& header, std::size_t at) {
+    std::uint32_t number = 0;
+    for (std::size_t i = 0; i < 4; ++i)
+        number = number << 8 | static_cast<unsigned char>(header[at + i]);
+    return number;
+}
+
+void CheckHeader(const std::filesystem::path& file) {
+    std::error_code error;
+    if (!std::filesystem::exists(file, error)) Refuse(Refusal::Missing, file);
+    if (!std::filesystem::is_regular_file(file, error)) Refuse(Refusal::NotAnAdventure, file);
+    if (std::filesystem::file_size(file, error) > kLargestFile) Refuse(Refusal::TooLarge, file);
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw Error("Could not open " + file.string() + ": it can't be read.");
+    std::array<char, kHeaderSize> header{};
+    stream.read(header.data(), header.size());
+    if (stream.gcount() < static_cast<std::streamsize>(header.size()))
+        Refuse(Refusal::NotAnAdventure, file);
+    if (std::string_view(header.data(), kMagic.size()) != kMagic) Refuse(Refusal::NotAnAdventure, file);
+    if (BigEndian(header, kApplicationIdAt) != kApplicationId) Refuse(Refusal::NotAnAdventure, file);
+    if (BigEndian(header, kUserVersionAt) > kFileVersion) Refuse(Refusal::NewerVersion, file);
+    if (header[kWriteVersionAt] != kRollbackJournal || header[kReadVersionAt] != kRollbackJournal) {
+        Refuse(Refusal::Damaged, file);
+    }
+}
+
+std::string TextColumn(sqlite3_stmt* statement, int column) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    return text ? text : "";
+}
+
+bool IsIdentifier(std::string_view name) {
+    const auto isLetter = [](unsigned char c) { return std::isalpha(c) || c == '_'; };
+    const auto isLetterOrDigit = [](unsigned char c) { return std::isalnum(c) || c == '_'; };
+    return !name.empty() && isLetter(static_cast<unsigned char>(name.front())) &&
+           std::all_of(name.begin(), name.end(), isLetterOrDigit);
+}
+
+/// Whether each column of a table is declared, with its type and nothing more, in the statement that made
+/// it.
+bool IsPlainTable(Connection& connection, const std::string& name, const std::string& sql) {
+    std::string expected = "CREATE TABLE " + name + " (" + std::string(kStoreKey) + " INTEGER PRIMARY KEY";
+    const Statement columns =
+        connection.Compile("SELECT name, type FROM pragma_table_xinfo(?)", "check the file");
+    Connection::Bind(columns.get(), 1, name);
+    bool first = true;
+    while (connection.Step(columns.get(), "check the file")) {
+        const std::string column = TextColumn(columns.get(), 0);
+        if (!IsIdentifier(column)) return false;
+        if (!first) expected += ", " + column + " " + TextColumn(columns.get(), 1);
+        first = false;
+    }
+    return sql == expected + ") STRICT";
+}
+
+bool IsPlainSchema(Connection& connection) {
+    const std::vector<std::string> indexes = CreateIndexSql();
+    std::size_t tables = 0;
+    const Statement entries =
+        connection.Compile("SELECT type, name, sql FROM sqlite_schema", "check the file");
+    while (connection.Step(entries.get(), "check the file")) {
+        const std::string type = TextColumn(entries.get(), 0);
+        const std::string name = TextColumn(entries.get(), 1);
+        const std::string sql = TextColumn(entries.get(), 2);
+        if (type == "table") {
+            const TableEntry* table = FindTable(name);
+            if (!table || table->name != name || !IsPlainTable(connection, name, sql)) return false;
+            ++tables;
+        } else if (type != "index" || std::find(indexes.begin(), indexes.end(), sql) == indexes.end()) {
+            return false;
+        }
+    }
+    return tables == AllTables().size();
+}
+
+bool HasSoundPages(Connection& connection) {
+    const Statement check = connection.Compile("PRAGMA quick_check(1)", "check the file");
+    return connection.Step(check.get(), "check the file") && TextColumn(check.get(), 0) == "ok";
+}
+
+/// Whether the list of fields tells of every column, with a type that fits the column's.
+bool FieldsFitColumns(Connection& connection) {
+    for (const TableEntry& table : AllTables()) {
+        const TableSchema& schema = connection.SchemaOf(table.number);
+        const Statement columns =
+            connection.Compile("SELECT name, type FROM pragma_table_xinfo(?) WHERE pk=0", "check the file");
+        Connection::Bind(columns.get(), 1, std::string(table.name));
+        std::size_t count = 0;
+        while (connection.Step(columns.get(), "check the file")) {
+            const auto field = schema.Find(TextColumn(columns.get(), 0));
+            if (!field || SqlTypeOf(schema.fields[*field].type) != TextColumn(columns.get(), 1))
+                return false;
+            ++count;
+        }
+        if (count != schema.fields.size()) return false;
+    }
+    return true;
+}
+
+bool HasOneRecord(Connection& connection, const char* table) {
+    const Statement count =
+        connection.Compile(std::string("SELECT count(*) FROM ") + table, "check the file");
+    return connection.Step(count.get(), "check the file") && sqlite3_column_int(count.get(), 0) == 1;
+}
+
+bool IsSound(Connection& connection) {
+    if (!IsPlainSchema(connection) || !HasSoundPages(connection)) return false;
+    connection.LoadSchema();
+    return FieldsFitColumns(connection) && HasOneRecord(connection, "Adventure") &&
+           HasOneRecord(connection, "System");
+}
+
+/// What the database said when a check could not even run.
+Refusal RefusalFor(int result) {
+    switch (result & 0xff) {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return Refusal::InUse;
+        case SQLITE_NOTADB:
+            return Refusal::NotAnAdventure;
+        default:
+            return Refusal::Damaged;
+    }
+}
+
+}  // namespace
+
+std::string CreateTableSql(const TableSchema& schema) {
+    std::string sql =
+        "CREATE TABLE " + schema.name + " (" + std::string(kStoreKey) + " INTEGER PRIMARY KEY";
+    for (const Field& field : schema.fields)
+        sql += ", " + field.name + " " + std::string(SqlTypeOf(field.type));
+    return sql + ") STRICT";
+}
+
+std::vector<std::string> CreateIndexSql() {
+    std::vector<std::string> statements;
+    for (const IndexEntry& index : kIndexes) {
+        const std::string table(FindTable(index.table)->name);
+        const std::string field(index.fields);
+        const bool isText = std::find(std::begin(kTextIndexes), std::end(kTextIndexes), index.fields) !=
+                            std::end(kTextIndexes);
+        statements.push_back("CREATE INDEX " + table + "_" + field + " ON " + table + "(" + field +
+                             (isText ? " COLLATE fabula_nocase)" : ")"));
+    }
+    return statements;
+}
+
+std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenMode mode) {
+    CheckHeader(file);
+    // A file that was not closed properly is mended by its journal even for a reader, so reading asks for
+    // writing too and then switches it off; where the file can't be written, the database falls back by
+    // itself.
+    auto connection = std::make_unique<Connection>(file, SQLITE_OPEN_READWRITE);
+    try {
+        connection->Run("PRAGMA cell_size_check=ON; PRAGMA synchronous=EXTRA", "open the adventure");
+        if (!IsSound(*connection)) Refuse(Refusal::Damaged, file);
+    } catch (const OpenError&) {
+        throw;
+    } catch (const Error&) {
+        Refuse(RefusalFor(sqlite3_errcode(connection->Handle())), file);
+    }
+    if (mode == OpenMode::ReadOnly) connection->Run("PRAGMA query_only=ON", "open the adventure");
+    return connection;
+}
+
+}  // namespace fabula::store

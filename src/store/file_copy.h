@@ -1,0 +1,34 @@
+#pragma once
+
+#include <filesystem>
+
+namespace fabula::store {
+
+class Connection;
+
+/// Writes a copy of the open file to `target` through the database: into a file beside it, checked and on
+/// the disk before it takes the target's place. Throws fabula::Error and leaves `target` as it was.
+void WriteCopy(Connection& connection, const std::filesystem::path& target);
+
+/// A name beside `target` for a file in the making; it does not exist yet.
+std::filesystem::path TemporaryBeside(const std::filesystem::path& target);
+
+/// Puts a finished file in the place of `target`: its bytes and the change of name are on the disk when
+/// this returns. Throws fabula::Error; `target` is then as it was.
+void MoveIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& target);
+
+/// Deletes a file in the making, with its journal, unless it was moved into place.
+class TemporaryFile {
+  public:
+    explicit TemporaryFile(std::filesystem::path path) : path_(std::move(path)) {}
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile();
+
+    const std::filesystem::path& Path() const { return path_; }
+
+  private:
+    std::filesystem::path path_;
+};
+
+}  // namespace fabula::store

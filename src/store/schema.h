@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fabula::store {
+
+/// The nine types of a field, by the tags that `Tables.fieldtype` and the default data use.
+enum class FieldType : std::uint8_t {
+    SmallInt,         ///< `adsmallint`: 16-bit signed
+    Integer,          ///< `adinteger`: 32-bit signed
+    VarWChar,         ///< `advarwchar`: text of at most `size` characters
+    Double,           ///< `addouble`
+    Date,             ///< `addate`: the text "yyyy-mm-dd hh:mm:ss"
+    Boolean,          ///< `adboolean`: 0 or 1
+    UnsignedTinyInt,  ///< `adunsignedtinyint`: 0 to 255
+    LongVarWChar,     ///< `adlongvarwchar`: text without a limit
+    LongVarBinary,    ///< `adlongvarbinary`
+};
+
+/// What a field may be compared with.
+enum class FieldClass : std::uint8_t { Number, Text, Truth, Binary };
+
+struct Field {
+    std::string name;  ///< as declared; compared without regard to case
+    FieldType type = FieldType::Integer;
+    int size = 0;  ///< of `advarwchar`, in characters; 0 for the others
+};
+
+struct TableSchema {
+    std::string name;
+    std::vector<Field> fields;  ///< in the order of declaration
+
+    /// The index of the field called `field`, case ignored; nullopt when there is none.
+    std::optional<std::size_t> Find(std::string_view field) const;
+};
+
+/// The type that a tag names, case ignored; nullopt for any other text.
+std::optional<FieldType> FieldTypeFromTag(std::string_view tag);
+std::string_view TagOf(FieldType type);
+FieldClass ClassOf(FieldType type);
+
+/// The size of an `advarwchar` field that declares none.
+inline constexpr int kDefaultTextSize = 255;
+
+}  // namespace fabula::store
