@@ -35,8 +35,8 @@ def closure(table, folder):
 
 
 def folder_of(path, folders):
-    """The longest folder of the table that `path` (relative to src/) lies in."""
-    candidates = [folder for folder in folders if path.startswith(folder + "/")]
+    """The longest folder of the table that `path` (relative to src/, or to src/apps/ in an include) lies in."""
+    candidates = [folder for folder in folders if path.startswith((folder + "/", folder.removeprefix("apps/") + "/"))]
     return max(candidates, key=len, default=None)
 
 

@@ -1,0 +1,76 @@
+#include <charconv>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/verb.h"
+#include "store/adventure.h"
+
+namespace fabula::cli {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct Options {
+    std::string file;
+    std::string table;
+    std::string fields = "*";
+    std::string where;
+    std::string order;
+};
+
+/// A table by its name or its number.
+const store::TableEntry& TableNamed(const std::string& text) {
+    int number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool isNumber = read.ec == std::errc{} && read.ptr == text.data() + text.size();
+    const store::TableEntry* table =
+        isNumber ? store::FindTable(static_cast<store::TableNum>(number)) : store::FindTable(text);
+    if (!table) throw UsageError("there is no table '" + text + "'; 'fabula tables' shows them");
+    return *table;
+}
+
+Json JsonOf(const text::Value& value, store::FieldClass fieldClass) {
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
+        return fieldClass == store::FieldClass::Truth ? Json(*number != 0) : Json(*number);
+    }
+    if (const auto* real = std::get_if<double>(&value)) return *real;
+    if (const auto* words = std::get_if<std::string>(&value)) return *words;
+    if (const auto* bytes = std::get_if<text::Blob>(&value)) return {{"bytes", bytes->size()}};
+    return nullptr;
+}
+
+int Dump(const Options& options) {
+    const store::TableEntry& table = TableNamed(options.table);
+    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    std::optional<std::string_view> order;
+    if (!options.order.empty()) order = options.order;
+    store::Cursor& cursor = adventure->OpenTable(table.number, options.fields, options.where, order);
+    for (; !cursor.Eof(); cursor.MoveNext()) {
+        Json record = Json::object();
+        for (std::size_t i = 0; i < cursor.Fields().size(); ++i) {
+            const store::Field& field = cursor.Fields()[i];
+            record[field.name] = JsonOf(cursor.Field(i), store::ClassOf(field.type));
+        }
+        std::cout << record.dump(-1, ' ', false, Json::error_handler_t::replace) << "\n";
+    }
+    return kDone;
+}
+
+}  // namespace
+
+void AddDumpVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = app.add_subcommand("dump", "Shows the records of a table, one JSON object a line");
+    verb->footer(
+        "A binary field shows as {\"bytes\": N}. FILTER compares fields with values or each other by = <> "
+        "< > <= >=\n"
+        "and like, joined by and, or and parentheses: --where \"vocnum=5 or word like 'L%'\".");
+    verb->add_option("file", options->file, "The file, FILE.fbd")->required();
+    verb->add_option("table", options->table, "The table, by its name or number")->required();
+    verb->add_option("--fields", options->fields, "Only these fields, a,b,...");
+    verb->add_option("--where", options->where, "Only the records that match this filter");
+    verb->add_option("--order", options->order, "In this order: fields, each optionally with desc");
+    verb->callback([options, &chosen] { chosen.body = [options] { return Dump(*options); }; });
+}
+
+}  // namespace fabula::cli

@@ -1,0 +1,59 @@
+#include "cli/installation.h"
+#include "cli/verb.h"
+#include "platform/clock.h"
+#include "platform/error.h"
+#include "platform/event_pump.h"
+#include "platform/operator.h"
+#include "store/create.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string file;
+    std::string type = "fabula";
+    bool graphics = false;
+    bool charSets = false;
+    bool force = false;
+};
+
+/// Nobody is asked on the command line: what the default data has to say goes to standard error, and an
+/// existing file is a matter of --force.
+class Terminal final : public platform::Operator {
+  public:
+    void Tell(std::string_view text, std::string_view) override { std::cerr << text << "\n"; }
+    bool Confirm(std::string_view, std::string_view) override { return false; }
+};
+
+int Create(const Options& options) {
+    const auto kind = store::AdventureKindFrom(options.type);
+    if (!kind) throw UsageError("--type must be fabula, vel or marlo, not '" + options.type + "'");
+    store::frmSetup setup;
+    setup.ChooseGraphics(options.graphics);
+    setup.ChooseCharSets(options.charSets);
+    setup.ChooseType(*kind);
+    Terminal terminal;
+    const platform::SystemClock clock;
+    platform::NoEvents events;
+    if (!store::CreateAdventure(options.force, options.file, setup,
+                                {terminal, clock, events, DefaultDataFile()})) {
+        throw Error("Could not create " + options.file + ": it exists already; --force replaces it.");
+    }
+    return kDone;
+}
+
+}  // namespace
+
+void AddNewVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = app.add_subcommand("new", "Creates an adventure file");
+    verb->add_option("file", options->file, "The file, FILE.fbd")->required();
+    verb->add_option("--type", options->type, "fabula, vel or marlo")->capture_default_str();
+    verb->add_flag("--graphics", options->graphics, "The game has drawn pictures");
+    verb->add_flag("--charsets", options->charSets,
+                   "The game writes with character sets (marlo always does)");
+    verb->add_flag("--force", options->force, "Replace a file that exists");
+    verb->callback([options, &chosen] { chosen.body = [options] { return Create(*options); }; });
+}
+
+}  // namespace fabula::cli

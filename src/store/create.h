@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+
+#include "platform/clock.h"
+#include "platform/event_pump.h"
+#include "platform/operator.h"
+#include "store/setup.h"
+
+namespace fabula::store {
+
+/// What the creation of an adventure needs of its surroundings.
+struct CreationHost {
+    platform::Operator& person;
+    const platform::Clock& clock;
+    platform::EventPump& events;
+    std::filesystem::path
+        defaultData;  ///< the file Fabula.ini; templates (*.tpl) lie in the folder beside it
+};
+
+/// Creates the adventure file `path` from the default data, with the type and switches of `setup`. An
+/// existing file is replaced after the operator has agreed, or at once with `replace`; it stays as it was
+/// until the new one is complete. Returns false when the operator did not agree.
+///
+/// Throws fabula::Error when the default data is incomplete (with section and line) or a file can't be
+/// written; no half-made file is left.
+bool CreateAdventure(bool replace, const std::filesystem::path& path, const frmSetup& setup,
+                     const CreationHost& host);
+
+}  // namespace fabula::store

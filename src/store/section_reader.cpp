@@ -1,0 +1,210 @@
+#include "store/section_reader.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "text/fields.h"
+#include "text/format.h"
+#include "text/line_ends.h"
+#include "text/numbers.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::store {
+namespace {
+
+constexpr std::size_t kCharacterColumns = 4;
+constexpr std::size_t kCharacterRows = 8;
+/// A character's key is its set's number times this, plus its own.
+constexpr std::int64_t kCharactersInSet = 1000;
+
+std::optional<bool> TruthValue(std::string_view text) {
+    if (text::EqualsNoCase(text, "True")) return true;
+    if (text::EqualsNoCase(text, "False")) return false;
+    return std::nullopt;
+}
+
+/// Reads the sections whose records begin at lines "/n", and the plain rows.
+class SectionReader {
+  public:
+    SectionReader(const DefaultData& data, const std::string& section, const SectionForm& form,
+                  const TableSchema& schema, platform::EventPump& events)
+        : data_(data), section_(section), form_(form), schema_(schema), events_(events) {
+        if (!form.columns.empty()) columns_ = text::Split(form.columns, " ");
+    }
+
+    std::vector<Record> Read() {
+        for (const DefaultData::Line& line : data_.Lines(section_)) {
+            events_.Pump();
+            if (form_.shape == SectionForm::Shape::Rows) {
+                AddRow(line, static_cast<std::int64_t>(records_.size()) + 1);
+            } else if (line.text.starts_with('/')) {
+                number_ = ReadNumber(data_, section_, line, std::string_view(line.text).substr(1));
+                if (form_.shape == SectionForm::Shape::NumberedTexts) BeginText();
+            } else if (!number_) {
+                data_.Malformed(section_, line, "there is no line \"/n\" before it");
+            } else if (form_.shape == SectionForm::Shape::NumberedRows) {
+                AddRow(line, *number_);
+            } else {
+                AddTextLine(line);
+            }
+        }
+        FinishText();
+        return std::move(records_);
+    }
+
+  private:
+    Record ReadRow(const DefaultData::Line& line, std::int64_t number) const {
+        Record record;
+        auto values = data_.Columns(section_, line, columns_.size());
+        // The last column is free text and may hold the delimiter.
+        for (std::size_t i = columns_.size(); i < values.size(); ++i) {
+            values[columns_.size() - 1] += data_.Info("Delimiter") + values[i];
+        }
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            if (columns_[i] != "-")
+                SetText(record, data_, {section_, line, schema_}, columns_[i], values[i]);
+        }
+        if (!form_.number.empty()) record[std::string(form_.number)] = number;
+        return record;
+    }
+
+    void AddRow(const DefaultData::Line& line, std::int64_t number) {
+        records_.push_back(ReadRow(line, number));
+    }
+
+    void BeginText() {
+        FinishText();
+        pending_.emplace();
+        (*pending_)[std::string(form_.number)] = *number_;
+        needsRow_ = !columns_.empty();
+        lines_.clear();
+    }
+
+    void AddTextLine(const DefaultData::Line& line) {
+        if (needsRow_) {
+            *pending_ = ReadRow(line, *number_);
+            needsRow_ = false;
+        } else {
+            lines_.push_back(line.text);
+        }
+    }
+
+    void FinishText() {
+        if (!pending_) return;
+        (*pending_)[std::string(form_.text)] = columns_.empty() ? JoinedByLineEnds() : JoinedByBlanks();
+        records_.push_back(std::move(*pending_));
+        pending_.reset();
+    }
+
+    std::string JoinedByLineEnds() const {
+        std::string text;
+        for (std::size_t i = 0; i < lines_.size(); ++i) {
+            if (i > 0) text += text::kLineEndMarker;
+            text += lines_[i];
+        }
+        return text;
+    }
+
+    /// The form of a description: lines run on, and an empty one is a line end.
+    std::string JoinedByBlanks() const {
+        std::string text;
+        bool lineStarts = true;
+        for (const std::string& line : lines_) {
+            if (line.empty()) {
+                text += text::kLineEndMarker;
+                lineStarts = true;
+                continue;
+            }
+            if (!lineStarts) text += ' ';
+            text += line;
+            lineStarts = false;
+        }
+        return text;
+    }
+
+    const DefaultData& data_;
+    const std::string& section_;
+    const SectionForm& form_;
+    const TableSchema& schema_;
+    platform::EventPump& events_;
+    std::vector<std::string_view> columns_;
+    std::vector<Record> records_;
+    std::optional<std::int64_t> number_;
+    std::optional<Record> pending_;  ///< of a section of texts: the record whose lines are being read
+    bool needsRow_ = false;
+    std::vector<std::string> lines_;
+};
+
+std::string ReadCharacterValues(const DefaultData& data, const std::string& section,
+                                const DefaultData::Line& line, std::string_view text) {
+    std::string values;
+    const auto pieces = text::Split(text, " ");
+    if (pieces.size() != kCharacterRows) data.Malformed(section, line, "a character has eight values");
+    for (const std::string_view piece : pieces) {
+        const bool isNumber = text::WholeNumber(piece) || text::EqualsNoCase(piece.substr(0, 2), "&h");
+        const int value = text::HexToValue(piece);
+        if (!isNumber || value < 0 || value > 255)
+            data.Malformed(section, line, "a value is from 0 to 255");
+        values += (values.empty() ? "" : " ") + std::to_string(value);
+    }
+    return values;
+}
+
+}  // namespace
+
+std::int64_t ReadNumber(const DefaultData& data, std::string_view section, const DefaultData::Line& line,
+                        std::string_view text) {
+    const auto number = text::WholeNumber(text::TrimBlanks(text));
+    if (!number) data.Malformed(section, line, "'" + std::string(text) + "' is no number");
+    return *number;
+}
+
+void SetText(Record& record, const DefaultData& data, const Place& place, std::string_view field,
+             std::string_view text) {
+    const auto index = place.schema.Find(field);
+    if (!index) data.Malformed(place.section, place.line, "there is no field " + std::string(field));
+    text::Value& value = record[std::string(field)];
+    switch (ClassOf(place.schema.fields[*index].type)) {
+        case FieldClass::Number:
+            value = text.empty() ? 0 : ReadNumber(data, place.section, place.line, text);
+            return;
+        case FieldClass::Truth: {
+            const auto truth = TruthValue(text);
+            if (!truth)
+                data.Malformed(place.section, place.line,
+                               "'" + std::string(text) + "' is not True or False");
+            value = std::int64_t{*truth};
+            return;
+        }
+        case FieldClass::Text:
+            value = std::string(text);
+            return;
+        case FieldClass::Binary:
+            data.Malformed(place.section, place.line, std::string(field) + " takes no text");
+    }
+}
+
+std::vector<Record> ReadSection(const DefaultData& data, const std::string& section,
+                                const SectionForm& form, const TableSchema& schema,
+                                platform::EventPump& events) {
+    return SectionReader(data, section, form, schema, events).Read();
+}
+
+std::vector<Record> ReadCharacters(const DefaultData& data, const std::string& section) {
+    std::vector<Record> records;
+    for (const DefaultData::Line& line : data.Lines(section)) {
+        const auto columns = data.Columns(section, line, kCharacterColumns);
+        const std::int64_t set = ReadNumber(data, section, line, columns[0]);
+        const std::int64_t number = ReadNumber(data, section, line, columns[1]);
+        records.push_back({{"charkey", set * kCharactersInSet + number},
+                           {"CharSet", text::FormatText("SET !%z4", {set})},
+                           {"charsetnum", set},
+                           {"charnum", number},
+                           {"charsetname", columns[2]},
+                           {"charvals", ReadCharacterValues(data, section, line, columns[3])}});
+    }
+    return records;
+}
+
+}  // namespace fabula::store

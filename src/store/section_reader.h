@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/event_pump.h"
+#include "store/default_data.h"
+#include "store/schema.h"
+#include "store/section_forms.h"
+#include "text/value.h"
+
+namespace fabula::store {
+
+/// One record to be written: its fields' names and values.
+using Record = std::map<std::string, text::Value, std::less<>>;
+
+/// Where a value was read, for messages, and the table that it goes to.
+struct Place {
+    std::string_view section;
+    const DefaultData::Line& line;
+    const TableSchema& schema;
+};
+
+/// A whole number, with blanks around it; any other text is malformed.
+std::int64_t ReadNumber(const DefaultData& data, std::string_view section, const DefaultData::Line& line,
+                        std::string_view text);
+
+/// Puts the text of one column into `record`, converted to the type of the field: numbers, True and False,
+/// text. An empty number is 0.
+void SetText(Record& record, const DefaultData& data, const Place& place, std::string_view field,
+             std::string_view text);
+
+/// The records of a section of data. Throws fabula::Error when the section is missing or a line is
+/// malformed.
+std::vector<Record> ReadSection(const DefaultData& data, const std::string& section,
+                                const SectionForm& form, const TableSchema& schema,
+                                platform::EventPump& events);
+
+/// The records of the section of characters: rows of set number, character number, name of the set, and
+/// eight values separated by blanks, decimal or behind "&h".
+std::vector<Record> ReadCharacters(const DefaultData& data, const std::string& section);
+
+}  // namespace fabula::store

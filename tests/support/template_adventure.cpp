@@ -1,0 +1,56 @@
+#include "support/template_adventure.h"
+
+#include <map>
+#include <tuple>
+
+#include "platform/clock.h"
+#include "platform/event_pump.h"
+#include "platform/scripted_operator.h"
+#include "store/create.h"
+
+namespace fabula::test {
+namespace {
+
+void Create(const std::filesystem::path& file, const store::frmSetup& setup) {
+    platform::ScriptedOperator person;
+    const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
+    platform::NoEvents events;
+    const auto data = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
+    store::CreateAdventure(true, file, setup, {person, clock, events, data});
+}
+
+/// The files that were created so far, one for each setup; they live as long as the test program.
+const std::filesystem::path& TemplateFor(const store::frmSetup& setup) {
+    static const TempFolder folder;
+    static std::map<std::tuple<store::AdventureKind, bool, bool>, std::filesystem::path> files;
+    auto& file = files[{setup.Type(), setup.Graphics(), setup.CharSets()}];
+    if (file.empty()) {
+        file = folder.Path() / (std::to_string(files.size()) + ".fbd");
+        Create(file, setup);
+    }
+    return file;
+}
+
+store::frmSetup SetupFor(store::AdventureKind kind) {
+    store::frmSetup setup;
+    setup.ChooseType(kind);
+    return setup;
+}
+
+}  // namespace
+
+void MakeAdventure(const std::filesystem::path& file, const store::frmSetup& setup) {
+    std::filesystem::copy_file(TemplateFor(setup), file, std::filesystem::copy_options::overwrite_existing);
+}
+
+OpenedAdventure::OpenedAdventure(store::AdventureKind kind) {
+    MakeAdventure(File(), SetupFor(kind));
+    Reopen();
+}
+
+void OpenedAdventure::Reopen(store::OpenMode mode) {
+    adventure_.reset();
+    adventure_ = store::Adventure::Open(File(), mode);
+}
+
+}  // namespace fabula::test
