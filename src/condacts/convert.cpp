@@ -1,0 +1,156 @@
+#include "condacts/convert.h"
+
+#include <cstddef>
+#include <optional>
+
+#include "condacts/parser.h"
+#include "text/utf8.h"
+
+namespace fabula::condacts {
+namespace {
+
+constexpr std::size_t kLettersLookedUp = 5;
+
+struct LocationWord {
+    std::string_view word;
+    int number;
+};
+
+constexpr LocationWord kLocationWords[] = {
+    {"NOTCR", kNotCreated},
+    {"WORN", kWorn},
+    {"CARRIED", kCarried},
+    {"HERE", kHere},
+};
+
+std::optional<int> LocationNumber(std::string_view token) {
+    for (const LocationWord& entry : kLocationWords) {
+        if (text::EqualsNoCase(entry.word, token)) return entry.number;
+    }
+    return std::nullopt;
+}
+
+void Append(std::string& line, std::string_view token) {
+    if (!line.empty()) line += ' ';
+    line += token;
+}
+
+void AddError(Converted& converted, const std::string& message) {
+    if (!converted.errors.empty()) converted.errors += " and ";
+    converted.errors += message;
+    converted.ok = false;
+}
+
+void AddMissingParameters(Converted& converted, const Statement& statement) {
+    if (statement.paramsGiven < static_cast<std::size_t>(statement.condAct->paramCount)) {
+        AddError(converted, "No parameter where there should be one");
+    }
+}
+
+bool TakesWord(const CondAct& condAct, std::size_t param) {
+    return param == 0 && condAct.params[0].kind == ParamKind::Word;
+}
+
+void AppendWordNumber(Converted& converted, const CondAct& condAct, std::string_view token,
+                      const WordIndex& words) {
+    const std::string_view cut = token.substr(0, kLettersLookedUp);
+    const WordCondition* condition = FindWordCondition(condAct.name);
+    const Word* word = condition == nullptr ? nullptr : words.FindTyped(cut, condition->wordType);
+    if (word != nullptr) {
+        Append(converted.line, std::to_string(word->number));
+        return;
+    }
+    AddError(converted, "word " + std::string(cut) + " Type doesn't agree with " + condAct.name);
+}
+
+bool IsNumber(std::string_view token) {
+    return WholeNumber(token.substr(token.starts_with('-') ? 1 : 0)).has_value();
+}
+
+std::string_view WordOfNumber(const CondAct& condAct, std::string_view token, const WordIndex& words) {
+    const WordCondition* condition = FindWordCondition(condAct.name);
+    const std::optional<int> number = WholeNumber(token);
+    if (condition == nullptr || !number) return "";
+    const Word* word = words.FindNumberTyped(*number, condition->wordType);
+    return word == nullptr ? std::string_view() : std::string_view(word->word);
+}
+
+std::string TextParameter(const CondAct& condAct, std::size_t param, std::string_view token,
+                          const WordIndex& words) {
+    if (TakesWord(condAct, param)) return std::string(WordOfNumber(condAct, token, words));
+    if (condAct.params[param].kind == ParamKind::Location) {
+        for (const LocationWord& entry : kLocationWords) {
+            if (WholeNumber(token) == entry.number) return std::string(entry.word);
+        }
+    }
+    return std::string(token);
+}
+
+}  // namespace
+
+std::string LocationWordsToNumbers(std::string_view line, const Catalogue& catalogue) {
+    const ParsedLine parsed = ParseLine(line, catalogue);
+    std::vector<std::string> tokens;
+    for (const Token& token : parsed.tokens)
+        tokens.emplace_back(token.text);
+    for (const Statement& statement : parsed.statements) {
+        for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
+            const Parameter& param = statement.condAct->params[p];
+            if (param.kind != ParamKind::Location || param.maxValue != kLocationWordsAllowed) continue;
+            std::string& token = tokens[statement.name + 1 + p];
+            if (const std::optional<int> number = LocationNumber(token)) token = std::to_string(*number);
+        }
+    }
+    std::string result;
+    for (const std::string& token : tokens)
+        Append(result, token);
+    return result;
+}
+
+Converted CondActsToNumeric(std::string_view line, const Catalogue& catalogue, const WordIndex& words) {
+    Converted converted;
+    const ParsedLine parsed = ParseLine(line, catalogue);
+    for (const Statement& statement : parsed.statements) {
+        const CondAct& condAct = *statement.condAct;
+        Append(converted.line, std::to_string(condAct.number));
+        for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
+            const std::string_view token = parsed.Param(statement, p);
+            if (TakesWord(condAct, p)) {
+                AppendWordNumber(converted, condAct, token, words);
+                continue;
+            }
+            Append(converted.line, token);
+            if (!IsNumber(token))
+                AddError(converted, "Invalid number for parameter " + std::to_string(p + 1));
+        }
+        AddMissingParameters(converted, statement);
+    }
+    if (parsed.unknownName)
+        AddError(converted, InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text));
+    return converted;
+}
+
+Converted NumericToCondActs(std::string_view numericLine, const Catalogue& catalogue,
+                            const WordIndex& words) {
+    Converted converted;
+    const ParsedLine parsed = ParseNumericLine(numericLine, catalogue);
+    for (const Statement& statement : parsed.statements) {
+        const CondAct& condAct = *statement.condAct;
+        Append(converted.line, condAct.name);
+        for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
+            const std::string_view token = parsed.Param(statement, p);
+            const std::string text = TextParameter(condAct, p, token, words);
+            Append(converted.line, text);
+            if (text.empty()) {
+                AddError(converted,
+                         "word " + std::string(token) + " Type doesn't agree with " + condAct.name);
+            }
+        }
+        AddMissingParameters(converted, statement);
+    }
+    if (parsed.unknownName)
+        AddError(converted, InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text));
+    return converted;
+}
+
+}  // namespace fabula::condacts

@@ -1,0 +1,107 @@
+#include "condacts/load.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "text/utf8.h"
+
+namespace fabula::condacts {
+namespace {
+
+using store::Adventure;
+using store::PreparedQuery;
+using store::TableNum;
+
+int Int(const PreparedQuery& row, int column) {
+    return static_cast<int>(row.Number(column));
+}
+
+/// Calls `use` with each row of a table, in its default order.
+template <typename Use>
+int ForEachRow(Adventure& adventure, TableNum table, std::string_view fields, Use use) {
+    PreparedQuery rows = adventure.Prepare(table, fields, "");
+    int count = 0;
+    for (bool more = rows.First({}); more; more = rows.Next()) {
+        use(rows);
+        ++count;
+    }
+    return count;
+}
+
+int CountRows(Adventure& adventure, TableNum table, std::string_view key) {
+    return ForEachRow(adventure, table, key, [](const PreparedQuery&) {});
+}
+
+CondAct ReadCondAct(const PreparedQuery& row) {
+    CondAct condAct;
+    condAct.number = Int(row, 0);
+    condAct.isAction = text::EqualsNoCase(row.Text(1), "action");
+    condAct.name = row.Text(2);
+    condAct.paramCount = std::clamp(Int(row, 3), 0, static_cast<int>(condAct.params.size()));
+    condAct.params[0] = {static_cast<ParamKind>(Int(row, 4)), Int(row, 5)};
+    condAct.params[1] = {static_cast<ParamKind>(Int(row, 6)), Int(row, 7)};
+    condAct.fabula = Int(row, 8) != 0;
+    condAct.vel = Int(row, 9) != 0;
+    condAct.marlo = Int(row, 10) != 0;
+    condAct.pcVel = Int(row, 11) != 0;
+    return condAct;
+}
+
+void LoadObjects(Adventure& adventure, Facts& facts) {
+    facts.objects = ForEachRow(
+        adventure, TableNum::Objects, "objnum, objattrn",
+        [&](const PreparedQuery& row) { facts.objectAttributes.try_emplace(Int(row, 0), Int(row, 1)); });
+}
+
+void LoadLocations(Adventure& adventure, Facts& facts) {
+    facts.locations =
+        ForEachRow(adventure, TableNum::Locations, "locnum, numexits", [&](const PreparedQuery& row) {
+            if (Int(row, 1) > 0) facts.locationsWithExits.insert(Int(row, 0));
+        });
+}
+
+void LoadFlags(Adventure& adventure, Facts& facts) {
+    facts.flags =
+        ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgchg", [&](const PreparedQuery& row) {
+            const bool system = text::EqualsNoCase(row.Text(1), "system");
+            facts.flagRecords.try_emplace(Int(row, 0), Facts::Flag{system, Int(row, 2) != 0});
+        });
+}
+
+}  // namespace
+
+Catalogue LoadCatalogue(Adventure& adventure) {
+    std::vector<CondAct> condActs;
+    ForEachRow(adventure, TableNum::CondActs,
+               "canum, catype, caname, canumparam, caparam1, camaxval1, caparam2, camaxval2, fabula, vel, "
+               "marlo, pcvel",
+               [&](const PreparedQuery& row) { condActs.push_back(ReadCondAct(row)); });
+    return Catalogue(std::move(condActs));
+}
+
+WordIndex LoadWords(Adventure& adventure) {
+    std::vector<Word> words;
+    ForEachRow(adventure, TableNum::Vocabulary, "word, vocnum, voctypen", [&](const PreparedQuery& row) {
+        words.push_back({std::string(row.Text(0)), Int(row, 1), Int(row, 2)});
+    });
+    return WordIndex(std::move(words));
+}
+
+Facts LoadFacts(Adventure& adventure) {
+    const store::ReadTransaction reading(adventure);
+    Facts facts;
+    facts.dialect = DialectOf(adventure.AdventureType());
+    facts.messages = CountRows(adventure, TableNum::Messages, "msgnum");
+    facts.systemMessages = CountRows(adventure, TableNum::SystemMessages, "smsgnum");
+    LoadLocations(adventure, facts);
+    LoadObjects(adventure, facts);
+    LoadFlags(adventure, facts);
+    ForEachRow(adventure, TableNum::ProcDesc, "pmsgnum",
+               [&](const PreparedQuery& row) { facts.processes.insert(Int(row, 0)); });
+    facts.words = LoadWords(adventure);
+    return facts;
+}
+
+}  // namespace fabula::condacts

@@ -1,0 +1,182 @@
+#include "condacts/validate.h"
+
+#include <algorithm>
+
+#include "condacts/convert.h"
+#include "condacts/parser.h"
+#include "text/utf8.h"
+
+namespace fabula::condacts {
+namespace {
+
+using Message = std::optional<std::string>;
+
+/// The numbers from here up stand for places that are no record: not created, worn, carried, here.
+constexpr int kFirstSpecialNumber = 252;
+constexpr int kHighestNumber = kBeyondNumbers - 1;
+constexpr int kHighestMarloFlag = 32;
+constexpr int kUntouchableFlag = 1004;
+constexpr int kSwitchFlag = 1005;
+
+/// One parameter on its way through the checks.
+struct Given {
+    const CondAct& condAct;
+    const Parameter& param;
+    int place;  ///< 1 or 2
+    std::string_view token;
+    int number = 0;
+
+    bool CondActIs(std::string_view name) const { return condAct.name == name; }
+};
+
+std::string InvalidNumber(const Given& given) {
+    return "Invalid number for parameter " + std::to_string(given.place);
+}
+
+bool IsNegativeNumber(std::string_view token) {
+    if (token.size() < 2 || token.front() != '-') return false;
+    const std::string_view digits = token.substr(1);
+    return digits.find_first_not_of("0123456789.") == std::string_view::npos &&
+           std::count(digits.begin(), digits.end(), '.') <= 1 &&
+           digits.find_first_of("123456789") != std::string_view::npos;
+}
+
+bool IsRecordOrSpecial(int number, int records) {
+    return number < records || (number >= kFirstSpecialNumber && number <= kHighestNumber);
+}
+
+Message CheckContainer(const Given& given, const Facts& facts) {
+    const std::string location = "Location " + std::to_string(given.number);
+    const auto object = facts.objectAttributes.find(given.number);
+    const bool container = given.number < kFirstSpecialNumber && object != facts.objectAttributes.end() &&
+                           object->second != 0 && object->second != 2;
+    if (!container) return location + " is not a container";
+    if (facts.locationsWithExits.contains(given.number))
+        return location + " cannot be a container. It has exits.";
+    return std::nullopt;
+}
+
+Message CheckPlaceOrObject(const Given& given, const Facts& facts, int records) {
+    const bool fits = given.param.maxValue == kNoSpecialLocations
+                          ? given.number < records
+                          : IsRecordOrSpecial(given.number, records);
+    if (!fits) return InvalidNumber(given);
+    if (given.place == 2 && (given.CondActIs("PUTIN") || given.CondActIs("TAKEOUT"))) {
+        return CheckContainer(given, facts);
+    }
+    return std::nullopt;
+}
+
+Message CheckSystemMessage(const Given& given, const Facts& facts) {
+    const bool fits = given.param.maxValue == kSystemMessagesTwoToFive
+                          ? given.number >= 2 && given.number <= 5
+                          : IsRecordOrSpecial(given.number, facts.systemMessages);
+    return fits ? Message() : InvalidNumber(given);
+}
+
+Message CheckFlag(const Given& given, const Facts& facts) {
+    const int n = given.number;
+    if (n >= facts.flags || (facts.dialect == Dialect::Marlo && n > kHighestMarloFlag))
+        return InvalidNumber(given);
+    if (n == kUntouchableFlag) return "Flag 1004 cannot be modified or checked using conditions/actions";
+    if (n == kSwitchFlag && !given.CondActIs("SET") && !given.CondActIs("CLEAR")) {
+        return "Flag 1005 can only be SET or CLEAR";
+    }
+    const auto record = facts.flagRecords.find(n);
+    if (record == facts.flagRecords.end()) return std::nullopt;
+    if (record->second.system && (given.CondActIs("AUTOINC") || given.CondActIs("AUTODEC"))) {
+        return "Flag " + std::to_string(n) + " cannot be set With " + given.condAct.name;
+    }
+    if (!record->second.actionsMayChange && given.condAct.isAction) {
+        return "This flag cannot be used in an Action, only a Condition";
+    }
+    return std::nullopt;
+}
+
+/// Only the first word of the spelling is looked at, so that a word of two types may be refused by the
+/// second.
+Message CheckWord(const Given& given, const Facts& facts) {
+    const Word* word = facts.words.Find(given.token);
+    if (word == nullptr) return std::string(given.token) + " is an invalid word";
+    const WordCondition* condition = FindWordCondition(given.condAct.name);
+    if (condition == nullptr || word->type == condition->wordType || word->type == kReserved)
+        return std::nullopt;
+    return std::string(given.token) + " is not " + std::string(condition->phrase);
+}
+
+Message CheckNumber(const Given& given, const Facts& facts) {
+    switch (given.param.kind) {
+        case ParamKind::Location:
+            return CheckPlaceOrObject(given, facts, facts.locations);
+        case ParamKind::Object:
+            return CheckPlaceOrObject(given, facts, facts.objects);
+        case ParamKind::Message:
+            return given.number < facts.messages ? Message() : InvalidNumber(given);
+        case ParamKind::Process:
+            return facts.processes.contains(given.number) ? Message()
+                                                          : "There is not a Process table with that number";
+        case ParamKind::SystemMessage:
+            return CheckSystemMessage(given, facts);
+        case ParamKind::Flag:
+            return CheckFlag(given, facts);
+        case ParamKind::Value:
+            return given.number <= given.param.maxValue ? Message()
+                                                        : "Invalid Value for that Condition/Action";
+        case ParamKind::Word:
+        case ParamKind::None:
+            break;
+    }
+    return std::nullopt;
+}
+
+Message CheckParameter(Given given, const Facts& facts) {
+    if (given.param.kind == ParamKind::Word) return CheckWord(given, facts);
+    if (IsNegativeNumber(given.token)) return "Parameter cannot be < 0";
+    const std::optional<int> number = WholeNumber(given.token);
+    if (!number) return InvalidNumber(given);
+    given.number = *number;
+    return CheckNumber(given, facts);
+}
+
+std::optional<Fault> ValidateStatement(const ParsedLine& line, const Statement& statement,
+                                       const Facts& facts) {
+    const CondAct& condAct = *statement.condAct;
+    if (condAct.paramCount > 0 && statement.paramsGiven == 0) {
+        return Fault{"No parameters for a Condition/Action which must have parameter", statement.name};
+    }
+    for (std::size_t p = 0; p < static_cast<std::size_t>(condAct.paramCount); ++p) {
+        if (p >= statement.paramsGiven)
+            return Fault{"No parameter where there should be one", statement.name};
+        const Given given{condAct, condAct.params[p], static_cast<int>(p) + 1, line.Param(statement, p)};
+        if (Message message = CheckParameter(given, facts)) return Fault{*message, statement.name + 1 + p};
+    }
+    return std::nullopt;
+}
+
+/// A line as the checks want it: capitals, location words as their numbers.
+std::string Prepared(std::string_view line, const Catalogue& catalogue) {
+    return LocationWordsToNumbers(text::UpperCase(line), catalogue);
+}
+
+}  // namespace
+
+std::optional<Fault> ValidateCondActs(std::string_view line, const Catalogue& catalogue,
+                                      const Facts& facts) {
+    const std::string prepared = Prepared(line, catalogue);
+    const ParsedLine parsed = ParseLine(prepared, catalogue, facts.dialect);
+    for (const Statement& statement : parsed.statements) {
+        if (std::optional<Fault> fault = ValidateStatement(parsed, statement, facts)) return fault;
+    }
+    if (!parsed.unknownName) return std::nullopt;
+    return Fault{InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text), *parsed.unknownName};
+}
+
+std::optional<Fault> ValidateCondAct(std::string_view text, const Catalogue& catalogue,
+                                     const Facts& facts) {
+    const std::string prepared = Prepared(text, catalogue);
+    const ParsedLine parsed = ParseLine(prepared, catalogue, facts.dialect);
+    if (parsed.statements.empty()) return Fault{"Invalid Condition/Action", 0};
+    return ValidateStatement(parsed, parsed.statements.front(), facts);
+}
+
+}  // namespace fabula::condacts

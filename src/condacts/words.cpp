@@ -1,0 +1,81 @@
+#include "condacts/words.h"
+
+#include <iterator>
+#include <utility>
+
+#include "text/utf8.h"
+
+namespace fabula::condacts {
+namespace {
+
+constexpr std::string_view kTypeNames[] = {
+    "Verb", "Adverb", "Noun", "Adjective", "Preposition", "Conjugation", "Pronoun", "RESERVED",
+};
+
+template <typename Key, typename Fits>
+const Word* FirstFitting(const std::vector<Word>& words,
+                         const std::unordered_map<Key, std::vector<std::size_t>>& index, const Key& key,
+                         Fits fits) {
+    const auto found = index.find(key);
+    if (found == index.end()) return nullptr;
+    for (const std::size_t i : found->second) {
+        if (fits(words[i])) return &words[i];
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+std::string_view WordTypeName(int wordType) {
+    if (wordType < 0 || wordType >= static_cast<int>(std::size(kTypeNames))) return "";
+    return kTypeNames[wordType];
+}
+
+bool AnyWord(const Word& /*word*/) {
+    return true;
+}
+
+bool IsNounOrReserved(const Word& word) {
+    return word.type == kNoun || word.type == kReserved;
+}
+
+bool IsAdjectiveOrReserved(const Word& word) {
+    return word.type == kAdjective || word.type == kReserved;
+}
+
+bool IsMovementWord(const Word& word) {
+    return word.type == kVerb || (word.type == kNoun && word.number < kFirstPlainNoun);
+}
+
+bool IsMovementWordOrReserved(const Word& word) {
+    return IsMovementWord(word) || word.type == kReserved;
+}
+
+WordIndex::WordIndex(std::vector<Word> words) : words_(std::move(words)) {
+    for (std::size_t i = 0; i < words_.size(); ++i) {
+        bySpelling_[text::LowerCase(words_[i].word)].push_back(i);
+        byNumber_[words_[i].number].push_back(i);
+    }
+}
+
+const Word* WordIndex::Find(std::string_view spelling, WordTest test) const {
+    return FirstFitting(words_, bySpelling_, text::LowerCase(spelling), test);
+}
+
+const Word* WordIndex::FindTyped(std::string_view spelling, int wordType) const {
+    return FirstFitting(words_, bySpelling_, text::LowerCase(spelling), [wordType](const Word& word) {
+        return word.type == wordType || word.type == kReserved;
+    });
+}
+
+const Word* WordIndex::FindNumber(int number, WordTest test) const {
+    return FirstFitting(words_, byNumber_, number, test);
+}
+
+const Word* WordIndex::FindNumberTyped(int number, int wordType) const {
+    return FirstFitting(words_, byNumber_, number, [wordType](const Word& word) {
+        return word.type == wordType || word.type == kReserved;
+    });
+}
+
+}  // namespace fabula::condacts

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace fabula::condacts {
+
+/// The types of words, as `voctypen` numbers them. Reserved words stand in for every type.
+enum WordType : int {
+    kVerb = 0,
+    kAdverb = 1,
+    kNoun = 2,
+    kAdjective = 3,
+    kPreposition = 4,
+    kConjunction = 5,
+    kPronoun = 6,
+    kReserved = 7,
+};
+
+/// The name of a type as `voctype` holds it: "Verb", ... "Conjugation", "Pronoun", "RESERVED"; "" for a
+/// number that is no type.
+std::string_view WordTypeName(int wordType);
+
+/// The word that stands for "no word", and the number that goes with it.
+inline constexpr std::string_view kNoWord = "_";
+inline constexpr int kNoWordNumber = 255;
+
+/// Nouns below this number may stand in for a verb and name a direction.
+inline constexpr int kFirstPlainNoun = 20;
+
+struct Word {
+    std::string word;
+    int number = 0;  ///< `vocnum`; synonyms share it
+    int type = 0;    ///< `voctypen`
+};
+
+/// Which words a look-up takes.
+using WordTest = bool (*)(const Word&);
+
+bool AnyWord(const Word& word);
+bool IsNounOrReserved(const Word& word);
+bool IsAdjectiveOrReserved(const Word& word);
+/// A verb, or a noun that may stand in for one.
+bool IsMovementWord(const Word& word);
+bool IsMovementWordOrReserved(const Word& word);
+
+/// A vocabulary in memory, in its order: where several words fit, the first in that order is found.
+/// Spelling is compared without regard to case.
+class WordIndex {
+  public:
+    WordIndex() = default;
+    explicit WordIndex(std::vector<Word> words);
+
+    /// The first word of this spelling that passes `test`; nullptr when there is none.
+    const Word* Find(std::string_view spelling, WordTest test = AnyWord) const;
+    /// The first word of this spelling that is of type `wordType` or reserved.
+    const Word* FindTyped(std::string_view spelling, int wordType) const;
+    /// The first word of this number that passes `test`.
+    const Word* FindNumber(int number, WordTest test) const;
+    /// The first word of this number that is of type `wordType` or reserved.
+    const Word* FindNumberTyped(int number, int wordType) const;
+
+    const std::vector<Word>& All() const { return words_; }
+
+  private:
+    std::vector<Word> words_;
+    std::unordered_map<std::string, std::vector<std::size_t>> bySpelling_;
+    std::unordered_map<int, std::vector<std::size_t>> byNumber_;
+};
+
+}  // namespace fabula::condacts

@@ -1,0 +1,57 @@
+#include "condacts/catalogue.h"
+
+#include <gtest/gtest.h>
+
+#include "sample.h"
+
+namespace fabula::condacts {
+namespace {
+
+TEST(Catalogue, FindsANameWithoutRegardToCase) {
+    const Catalogue catalogue = SampleCatalogue();
+    ASSERT_NE(catalogue.Find("place"), nullptr);
+    EXPECT_EQ(catalogue.Find("place")->number, 208);
+}
+
+TEST(Catalogue, FindsANumber) {
+    const Catalogue catalogue = SampleCatalogue();
+    ASSERT_NE(catalogue.Find(250), nullptr);
+    EXPECT_EQ(catalogue.Find(250)->name, "MESSAGE");
+}
+
+TEST(Catalogue, GivesNothingForAnUnknownNameOrNumber) {
+    const Catalogue catalogue = SampleCatalogue();
+    EXPECT_EQ(catalogue.Find("XYZ"), nullptr);
+    EXPECT_EQ(catalogue.Find(999), nullptr);
+}
+
+TEST(Catalogue, ANameOfAnotherDialectIsUnknown) {
+    const Catalogue catalogue = SampleCatalogue();
+    EXPECT_NE(catalogue.Find("AUTOINC", Dialect::Fabula), nullptr);
+    EXPECT_EQ(catalogue.Find("AUTOINC", Dialect::Vel), nullptr);
+    EXPECT_EQ(catalogue.Find("AUTOINC", Dialect::Marlo), nullptr);
+    EXPECT_EQ(catalogue.Find("AUTOINC", Dialect::PCVel), nullptr);
+}
+
+TEST(Catalogue, TheFirstOfTwoRowsOfOneNameCounts) {
+    CondAct first;
+    first.number = 1;
+    first.name = "TWICE";
+    CondAct second = first;
+    second.number = 2;
+    const Catalogue catalogue({first, second});
+    EXPECT_EQ(catalogue.Find("TWICE")->number, 1);
+}
+
+TEST(DialectOf, KnowsTheThreeTypesOfAdventureInAnyCase) {
+    EXPECT_EQ(DialectOf("Fabula"), Dialect::Fabula);
+    EXPECT_EQ(DialectOf("VEL"), Dialect::Vel);
+    EXPECT_EQ(DialectOf("marlo"), Dialect::Marlo);
+}
+
+TEST(DialectOf, AnUnknownTypeCountsAsFabula) {
+    EXPECT_EQ(DialectOf("Unknwn"), Dialect::Fabula);
+}
+
+}  // namespace
+}  // namespace fabula::condacts
