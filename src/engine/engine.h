@@ -1,0 +1,116 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "engine/game_window.h"
+#include "engine/sound_player.h"
+#include "engine/trace_sink.h"
+#include "platform/operator.h"
+#include "platform/random_source.h"
+#include "store/adventure.h"
+
+namespace fabula::engine {
+
+class Game;
+
+/// What a running game asks of its host. All of it must outlive the engine.
+struct Host {
+    GameWindow& window;
+    platform::Operator& oper;  ///< boxes: refused files, run-time failures
+    platform::RandomSource& random;
+    SoundPlayer& sound;
+    TraceSink* trace = nullptr;  ///< nullptr: nothing is traced
+};
+
+struct Options {
+    bool traceFile = false;       ///< flag 1004 starts at 255: everything is traced from the start
+    bool traceRequested = false;  ///< flag 1005 starts at 255
+    /// How many condacts may run without returning to the player before the game is taken for a runaway.
+    std::int64_t condactLimit = 10'000'000;
+};
+
+/// What the game needs next.
+enum class Waiting {
+    Sentence,  ///< a line: Key or EnterLine
+    Answer,    ///< a line that answers a question: Key or EnterLine
+    AnyKey,    ///< one key: Key (or EnterLine with whatever text)
+    Pause,     ///< nothing of the player: WaitTick, when the time that StartWait told has passed
+    Nothing,   ///< no game is running: not started, or ended
+};
+
+/// One game being played.
+///
+/// The engine runs until the game needs something, then returns; it never blocks. Whoever owns it waits for what
+/// WaitingFor tells and calls the member that brings it:
+///
+///     Engine engine(adventure, host);
+///     engine.Initialize();
+///     while (engine.WaitingFor() != Waiting::Nothing) {
+///         if (engine.WaitingFor() == Waiting::Pause) engine.WaitTick();
+///         else engine.EnterLine(ReadLine());
+///     }
+///
+/// A game that goes wrong (a number out of its range, a text that does not exist, a loop without an end) ends with
+/// a box that names the process, the entry and the condact; nothing is thrown for it. The adventure is not changed,
+/// and it is locked for reading while the game runs. An engine belongs to one thread.
+class Engine {
+  public:
+    Engine(store::Adventure& adventure, const Host& host, const Options& options = {});
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+    ~Engine();
+
+    /// Loads the game and starts it; also from the beginning again. An adventure that can't be played (a flag
+    /// table too small, a damaged record) is told in a box, and the game has then ended.
+    void Initialize();
+
+    Waiting WaitingFor() const;
+
+    /// One key of the player, as a code point: kEnter, kBackspace or a character. Ignored while the game does not
+    /// wait for the player.
+    void Key(char32_t key);
+
+    /// A whole line, as if typed and ended by Enter; it may be empty. Ignored as Key is.
+    void EnterLine(std::string_view line);
+
+    /// The time-out that GameWindow::StartTimeOut started has run out.
+    void TimeOutTick();
+
+    /// The time that GameWindow::StartWait told has passed. Ignored unless the game pauses.
+    void WaitTick();
+
+    /// "Next": plays the script that SCRIPT opened, up to the next question of the game, pause or end of the file.
+    void DoNextScript();
+
+    /// The sound switch of the session. Tells the new state to the status.
+    void ToggleSound();
+    bool SoundOn() const { return soundOn_; }
+
+    /// Writes the state to a file of the form of SAVE, atomically. Throws fabula::Error. Only while a game runs.
+    void SaveTo(const std::filesystem::path& file);
+    /// Goes back to a saved state and describes the place, as LOAD does. False when the file is no save of this
+    /// adventure; nothing has then changed. Throws fabula::Error when it can't be read.
+    bool LoadFrom(const std::filesystem::path& file);
+
+    /// The name of a font by its number (TextStyle::font), "" when there is none.
+    std::string FontName(int number) const;
+
+    /// The running game's state, for diagnostics and tests; nullptr before the first Initialize.
+    Game* Running() { return game_.get(); }
+
+    static constexpr char32_t kEnter = 13;
+    static constexpr char32_t kBackspace = 8;
+
+  private:
+    store::Adventure& adventure_;
+    Host host_;
+    Options options_;
+    std::unique_ptr<Game> game_;
+    bool soundOn_ = false;
+};
+
+}  // namespace fabula::engine
