@@ -44,8 +44,8 @@ enum class Waiting {
 
 /// One game being played.
 ///
-/// The engine runs until the game needs something, then returns; it never blocks. Whoever owns it waits for what
-/// WaitingFor tells and calls the member that brings it:
+/// The engine runs until the game needs something, then returns; it never blocks. Whoever owns it waits for
+/// what WaitingFor tells and calls the member that brings it:
 ///
 ///     Engine engine(adventure, host);
 ///     engine.Initialize();
@@ -54,9 +54,10 @@ enum class Waiting {
 ///         else engine.EnterLine(ReadLine());
 ///     }
 ///
-/// A game that goes wrong (a number out of its range, a text that does not exist, a loop without an end) ends with
-/// a box that names the process, the entry and the condact; nothing is thrown for it. The adventure is not changed,
-/// and it is locked for reading while the game runs. An engine belongs to one thread.
+/// A game that goes wrong (a number out of its range, a text that does not exist, a loop without an end)
+/// ends with a box that names the process, the entry and the condact; nothing is thrown for it. The
+/// adventure is not changed, and it is locked for reading while the game runs. An engine belongs to one
+/// thread.
 class Engine {
   public:
     Engine(store::Adventure& adventure, const Host& host, const Options& options = {});
@@ -64,14 +65,14 @@ class Engine {
     Engine& operator=(const Engine&) = delete;
     ~Engine();
 
-    /// Loads the game and starts it; also from the beginning again. An adventure that can't be played (a flag
-    /// table too small, a damaged record) is told in a box, and the game has then ended.
+    /// Loads the game and starts it; also from the beginning again. An adventure that can't be played (a
+    /// flag table too small, a damaged record) is told in a box, and the game has then ended.
     void Initialize();
 
     Waiting WaitingFor() const;
 
-    /// One key of the player, as a code point: kEnter, kBackspace or a character. Ignored while the game does not
-    /// wait for the player.
+    /// One key of the player, as a code point: kEnter, kBackspace or a character. Ignored while the game
+    /// does not wait for the player.
     void Key(char32_t key);
 
     /// A whole line, as if typed and ended by Enter; it may be empty. Ignored as Key is.
@@ -83,17 +84,19 @@ class Engine {
     /// The time that GameWindow::StartWait told has passed. Ignored unless the game pauses.
     void WaitTick();
 
-    /// "Next": plays the script that SCRIPT opened, up to the next question of the game, pause or end of the file.
+    /// "Next": plays the script that SCRIPT opened, up to the next question of the game, pause or end of
+    /// the file.
     void DoNextScript();
 
     /// The sound switch of the session. Tells the new state to the status.
     void ToggleSound();
     bool SoundOn() const { return soundOn_; }
 
-    /// Writes the state to a file of the form of SAVE, atomically. Throws fabula::Error. Only while a game runs.
+    /// Writes the state to a file of the form of SAVE, atomically. Throws fabula::Error. Only while a game
+    /// runs.
     void SaveTo(const std::filesystem::path& file);
-    /// Goes back to a saved state and describes the place, as LOAD does. False when the file is no save of this
-    /// adventure; nothing has then changed. Throws fabula::Error when it can't be read.
+    /// Goes back to a saved state and describes the place, as LOAD does. False when the file is no save of
+    /// this adventure; nothing has then changed. Throws fabula::Error when it can't be read.
     bool LoadFrom(const std::filesystem::path& file);
 
     /// The name of a font by its number (TextStyle::font), "" when there is none.

@@ -8,8 +8,8 @@
 
 namespace fabula::engine {
 
-/// How a run of text looks. Colours are numbers 0 to 15: 0 black, 1 blue, 2 red, 3 magenta, 4 green, 5 cyan,
-/// 6 yellow, 7 white, 8 to 15 the same bright.
+/// How a run of text looks. Colours are numbers 0 to 15: 0 black, 1 blue, 2 red, 3 magenta, 4 green, 5
+/// cyan, 6 yellow, 7 white, 8 to 15 the same bright.
 struct TextStyle {
     int font = 0;      ///< in the character pane a character set, else a font (Engine::FontName)
     int fontSize = 0;  ///< in points
@@ -31,17 +31,19 @@ enum class TextRole {
 
 enum class LineEnd {
     Hard,     ///< the text ends its line here
-    Wrapped,  ///< the print width was reached; a window that wraps for itself, or a transcript, leaves it away
+    Wrapped,  ///< the print width was reached; a window that wraps for itself, or a transcript, leaves it
+              ///< away
 };
 
 /// What the window must know of a game before the first text.
 struct GameLook {
-    std::string title;           ///< "NAME (Version 1.0) by AUTHOR"
-    std::string gameType;        ///< "fabula", "vel" or "marlo"
-    bool characterSets = false;  ///< true: the character pane with the game's own sets; false: the text pane
-    bool graphics = false;       ///< the game shows pictures
-    int printWidth = 0;          ///< `defprintwidth`, in columns; 0 when the game sets none
-    TextStyle style;             ///< font, size, paper and ink at the start
+    std::string title;     ///< "NAME (Version 1.0) by AUTHOR"
+    std::string gameType;  ///< "fabula", "vel" or "marlo"
+    bool characterSets =
+        false;              ///< true: the character pane with the game's own sets; false: the text pane
+    bool graphics = false;  ///< the game shows pictures
+    int printWidth = 0;     ///< `defprintwidth`, in columns; 0 when the game sets none
+    TextStyle style;        ///< font, size, paper and ink at the start
 };
 
 /// A picture to show: an image in a file of the game's folder, or kept in the adventure file.
@@ -67,23 +69,23 @@ struct FileRequest {
     bool forWriting = false;     ///< the window asks before a file is overwritten
 };
 
-/// The window as the engine sees it. The engine calls it while it runs and then returns; it never waits in here.
-/// Texts are UTF-8 without markup.
+/// The window as the engine sees it. The engine calls it while it runs and then returns; it never waits in
+/// here. Texts are UTF-8 without markup.
 ///
-/// Of the character pane a run holds characters by their codes as code points: 32 to 127 the font, 128 to 143
-/// block graphics, 144 to 164 user-defined graphics. Of the text pane it holds ordinary text.
+/// Of the character pane a run holds characters by their codes as code points: 32 to 127 the font, 128 to
+/// 143 block graphics, 144 to 164 user-defined graphics. Of the text pane it holds ordinary text.
 class GameWindow {
   public:
     virtual ~GameWindow() = default;
 
     /// A game is about to start, or to start again: the input is closed and the pane of `look` shown.
     virtual void StartGame(const GameLook& look) = 0;
-    /// The game has ended. A player's window offers to load another and closes the input; that of a test run goes
-    /// back to the authoring tool.
+    /// The game has ended. A player's window offers to load another and closes the input; that of a test
+    /// run goes back to the authoring tool.
     virtual void EndGame() = 0;
 
-    /// The width at which lines break, asked before each text: columns in the text pane, pixels in the character
-    /// pane. At most kNoWidthLimit, which means that lines never break.
+    /// The width at which lines break, asked before each text: columns in the text pane, pixels in the
+    /// character pane. At most kNoWidthLimit, which means that lines never break.
     virtual int PrintWidth() const = 0;
     /// The width of one character and the gap behind it, in the character pane; in pixels, at least 1.
     virtual int CharacterAdvance() const = 0;
@@ -93,11 +95,11 @@ class GameWindow {
     virtual void EndLine(LineEnd kind) = 0;
     virtual void Clear(int paper, int ink) = 0;
 
-    /// Shows what has been typed so far, and the cursor behind it, in place of what the last call showed. Called
-    /// when the input opens (with nothing typed) and after each key.
+    /// Shows what has been typed so far, and the cursor behind it, in place of what the last call showed.
+    /// Called when the input opens (with nothing typed) and after each key.
     virtual void ShowInput(std::string_view typed, std::string_view cursor) = 0;
-    /// The line has been entered: it stays on the screen without a cursor, and its line ends. Also called for a
-    /// line that came whole, by script or through Engine::EnterLine, which no ShowInput showed.
+    /// The line has been entered: it stays on the screen without a cursor, and its line ends. Also called
+    /// for a line that came whole, by script or through Engine::EnterLine, which no ShowInput showed.
     virtual void EndInput(std::string_view typed) = 0;
 
     virtual void ShowPicture(const Picture& picture) = 0;
@@ -107,7 +109,8 @@ class GameWindow {
     /// Whether the script can be stepped by "Next".
     virtual void EnableNext(bool enabled) = 0;
 
-    /// Starts the time-out afresh: unless it is stopped or started again, Engine::TimeOutTick is due after it.
+    /// Starts the time-out afresh: unless it is stopped or started again, Engine::TimeOutTick is due after
+    /// it.
     virtual void StartTimeOut(std::chrono::milliseconds length) = 0;
     virtual void StopTimeOut() = 0;
     /// The game pauses: Engine::WaitTick is due after `length`. Until then the engine takes no keys.

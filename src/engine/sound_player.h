@@ -23,8 +23,8 @@ class SoundPlayer {
 
     /// A game starts with these settings.
     virtual void Configure(const SoundSettings& settings) = 0;
-    /// Starts a note that ends by itself. `note` counts half tones from the channel's note offset and may be
-    /// negative. Returns at once; false when nothing sounds, so that there is nothing to wait for.
+    /// Starts a note that ends by itself. `note` counts half tones from the channel's note offset and may
+    /// be negative. Returns at once; false when nothing sounds, so that there is nothing to wait for.
     virtual bool PlayTone(int note, std::chrono::milliseconds length) = 0;
     virtual void SetVoice(int voice) = 0;
 };

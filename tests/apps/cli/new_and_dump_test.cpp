@@ -124,7 +124,8 @@ TEST_F(TablesVerb, ShowsEveryTableWithItsNumberAndSize) {
     const ProgramResult result = Run({"tables", File()});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 21);
-    EXPECT_NE(result.output.find(" 9  Flags            1025 records\n"), std::string::npos) << result.output;
+    EXPECT_NE(result.output.find(" 9  Flags            1025 records\n"), std::string::npos)
+        << result.output;
     EXPECT_NE(result.output.find("30  System              1 record\n"), std::string::npos) << result.output;
 }
 
