@@ -1,5 +1,7 @@
 #include "text/format.h"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 #include "random_text.h"
@@ -109,6 +111,10 @@ TEST(FormatText, ALongNumberUsesNoWidth) {
 TEST(FormatText, TextAndFloatingNumbersAreReadAsNumbers) {
     EXPECT_EQ(FormatText("%n!,!%s4!,!%n", {" 12 ", "-3", 6.0}), "12,  -3,6");
     EXPECT_EQ(FormatText("%n!,!%n", {2.6, -2.6}), "3,-3");
+}
+
+TEST(FormatText, HalvesAreRoundedToTheEvenNeighbour) {
+    EXPECT_EQ(FormatText("%n!,!%n!,!%n", {2.5, 3.5, -2.5}), "2,4,-2");
 }
 
 TEST(FormatText, AValueThatIsNoNumberIsAProgrammingErrorWhereOneIsNeeded) {
