@@ -133,17 +133,14 @@ void Cursor::SetField(std::string_view name, text::Value value) {
     const std::size_t column = Column(name);
     if (!pending_) {
         CurrentRow();
-        pending_.emplace();
-        pending_->values.resize(fields_.size());
+        pending_.emplace(false, fields_.size());
     }
     pending_->values[column] = std::move(value);
 }
 
 void Cursor::AddNew() {
     if (!connection_) throw std::logic_error("a record was added to a cursor that is not open");
-    pending_.emplace();
-    pending_->isNew = true;
-    pending_->values.resize(fields_.size());
+    pending_.emplace(true, fields_.size());
 }
 
 void Cursor::Update() {
@@ -155,7 +152,7 @@ void Cursor::Update() {
     if (pending_->isNew) {
         std::vector<text::Value> values(fields_.size());
         for (std::size_t i = 0; i < fields_.size(); ++i)
-            values[i] = pending_->values[i].value_or(text::Value{});
+            if (pending_->values[i]) values[i] = *pending_->values[i];
         snapshot_.AppendRow(key, values);
         position_ = RowCount() - 1;
         betweenRecords_ = false;

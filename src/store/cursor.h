@@ -100,7 +100,9 @@ class Cursor {
     friend class Adventure;
 
     struct Pending {
-        bool isNew = false;
+        Pending(bool added, std::size_t columns) : isNew(added), values(columns) {}
+
+        bool isNew;
         std::vector<std::optional<text::Value>> values;  ///< by column; nullopt where nothing was set
     };
 
