@@ -23,6 +23,10 @@ constexpr LocationWord kLocationWords[] = {
     {"HERE", kHere},
 };
 
+bool AdmitsLocationWords(const Parameter& param) {
+    return param.kind == ParamKind::Location && param.maxValue == kLocationWordsAllowed;
+}
+
 std::optional<int> LocationNumber(std::string_view token) {
     for (const LocationWord& entry : kLocationWords) {
         if (text::EqualsNoCase(entry.word, token)) return entry.number;
@@ -78,7 +82,7 @@ std::string_view WordOfNumber(const CondAct& condAct, std::string_view token, co
 std::string TextParameter(const CondAct& condAct, std::size_t param, std::string_view token,
                           const WordIndex& words) {
     if (TakesWord(condAct, param)) return std::string(WordOfNumber(condAct, token, words));
-    if (condAct.params[param].kind == ParamKind::Location) {
+    if (AdmitsLocationWords(condAct.params[param])) {
         for (const LocationWord& entry : kLocationWords) {
             if (WholeNumber(token) == entry.number) return std::string(entry.word);
         }
@@ -95,8 +99,7 @@ std::string LocationWordsToNumbers(std::string_view line, const Catalogue& catal
         tokens.emplace_back(token.text);
     for (const Statement& statement : parsed.statements) {
         for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
-            const Parameter& param = statement.condAct->params[p];
-            if (param.kind != ParamKind::Location || param.maxValue != kLocationWordsAllowed) continue;
+            if (!AdmitsLocationWords(statement.condAct->params[p])) continue;
             std::string& token = tokens[statement.name + 1 + p];
             if (const std::optional<int> number = LocationNumber(token)) token = std::to_string(*number);
         }

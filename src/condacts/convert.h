@@ -30,7 +30,8 @@ std::string LocationWordsToNumbers(std::string_view line, const Catalogue& catal
 /// first five letters, whatever the type of the adventure. Location words must have been replaced before.
 Converted CondActsToNumeric(std::string_view line, const Catalogue& catalogue, const WordIndex& words);
 
-/// The text form of a numeric line, with location words where they apply.
+/// The text form of a numeric line, with location words where a parameter admits them, so that the text
+/// compiles to the same numbers.
 Converted NumericToCondActs(std::string_view numericLine, const Catalogue& catalogue,
                             const WordIndex& words);
 

@@ -126,6 +126,10 @@ TEST(NumericToCondActs, LocationsAbove255KeepTheirNumbers) {
     EXPECT_EQ(ToText("234 300").line, "GOTO 300");
 }
 
+TEST(NumericToCondActs, AParameterThatAdmitsNoLocationWordsKeepsItsNumber) {
+    EXPECT_EQ(ToText("234 254").line, "GOTO 254");
+}
+
 TEST(NumericToCondActs, OnlyLocationsAreWrittenAsWords) {
     EXPECT_EQ(ToText("228 60 254").line, "LET 60 254");
 }
