@@ -1,0 +1,104 @@
+#include "interchange/source_file.h"
+
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "platform/error.h"
+#include "support/temp_folder.h"
+
+namespace fabula::interchange {
+namespace {
+
+std::vector<std::string> LinesOf(const std::string& bytes) {
+    const test::TempFolder folder;
+    std::ofstream(folder / "source.txt", std::ios::binary) << bytes;
+    SourceFile source(folder / "source.txt");
+    std::vector<std::string> lines;
+    for (std::string line; source.Next(line);)
+        lines.push_back(line);
+    return lines;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(SourceFile, AnEmptyFileHasNoLines) {
+    EXPECT_EQ(LinesOf(""), Lines());
+}
+
+TEST(SourceFile, TheLastLineNeedsNoEnd) {
+    EXPECT_EQ(LinesOf("a\nb"), Lines({"a", "b"}));
+}
+
+TEST(SourceFile, ALastLineEndBeginsNoLine) {
+    EXPECT_EQ(LinesOf("a\n"), Lines({"a"}));
+}
+
+TEST(SourceFile, TakesMixedLineEnds) {
+    EXPECT_EQ(LinesOf("a\r\nb\nc\rd\r\n\r\ne\n\rf"), Lines({"a", "b", "c", "d", "", "e", "", "f"}));
+}
+
+TEST(SourceFile, BytesAreWindows1252) {
+    EXPECT_EQ(LinesOf("caf\xE9 \x8C"), Lines({"café Œ"}));
+}
+
+TEST(SourceFile, AByteOrderMarkMeansUtf8) {
+    EXPECT_EQ(LinesOf("\xEF\xBB\xBF"
+                      "café\n"),
+              Lines({"café"}));
+}
+
+TEST(SourceFile, BytesThatAreNoUtf8AreReplacedInAMarkedFile) {
+    EXPECT_EQ(LinesOf("\xEF\xBB\xBF"
+                      "a\xFFz"),
+              Lines({"a\uFFFDz"}));
+}
+
+TEST(SourceFile, NulBytesCountAsBlanks) {
+    EXPECT_EQ(LinesOf(std::string("a\0b", 3)), Lines({"a b"}));
+}
+
+TEST(SourceFile, ALineMayBeLongerThanTheBuffer) {
+    const std::string line(1'000'000, 'x');
+    EXPECT_EQ(LinesOf(line + "\r\n" + line), Lines({line, line}));
+}
+
+TEST(SourceFile, ALineEndMayBeSplitByTheBuffer) {
+    const std::string line(65535, 'x');
+    EXPECT_EQ(LinesOf(line + "\r\nend"), Lines({line, "end"}));
+}
+
+TEST(SourceFile, CountsLines) {
+    const test::TempFolder folder;
+    std::ofstream(folder / "source.txt", std::ios::binary) << "a\nb\n";
+    SourceFile source(folder / "source.txt");
+    std::string line;
+    EXPECT_EQ(source.LineNumber(), 0);
+    source.Next(line);
+    source.Next(line);
+    EXPECT_EQ(source.LineNumber(), 2);
+    EXPECT_EQ(source.BytesRead(), 4);
+    EXPECT_EQ(source.Size(), 4);
+}
+
+TEST(SourceFile, AMissingFileIsAnError) {
+    EXPECT_THROW(SourceFile("/no/such/file"), Error);
+}
+
+TEST(SourceFile, AFolderIsAnError) {
+    const test::TempFolder folder;
+    EXPECT_THROW(SourceFile source(folder.Path()), Error);
+}
+
+TEST(SplitWords, SplitsAtBlanksAndControlCharacters) {
+    EXPECT_EQ(SplitWords("  a\tb  é "), (std::vector<std::string_view>{"a", "b", "é"}));
+    EXPECT_TRUE(SplitWords(" ").empty());
+}
+
+TEST(TrimRight, RemovesBlanksAndControlCharacters) {
+    EXPECT_EQ(TrimRight(" a b \t"), " a b");
+    EXPECT_EQ(TrimRight("  "), "");
+}
+
+}  // namespace
+}  // namespace fabula::interchange
