@@ -11,6 +11,6 @@ echo "build: default"
 
 game=build/run/first.fbd
 echo "creating: $game"
-build/run/bin/fabula new "$game" --force
+build/run/bin/fabula new "$game" --starter --force
 echo "its tables:"
 build/run/bin/fabula tables "$game"

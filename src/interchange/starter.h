@@ -10,9 +10,9 @@ namespace fabula::interchange {
 /// created, in one step: a starter file of the default data, chosen by the adventure's type
 /// ("starters/fabula.ini" and so on).
 ///
-/// The file holds the sections "::VOCABULARY" (rows vocnum|Word|voctypen|voctype), "::MESSAGES" (a line
-/// "/n", then the lines of its text) and "::PROCESSTABLES" (rows estype|w1|w2|w1num|w2num|numcas|CondActs),
-/// each closed by "::END". Lines outside them are remarks. It is plain UTF-8.
+/// The file is built as the default data is (store/default_data.h), with an "::INFO" that names the
+/// delimiter and the sections "::MESSAGES", "::VOCABULARY" and "::PROCESSTABLES", each of which may be
+/// missing. Lines outside of sections are remarks.
 ///
 /// Throws fabula::Error, with the file and the line, when the file can't be read or is malformed; the
 /// adventure is then as it was.

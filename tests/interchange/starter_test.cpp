@@ -22,7 +22,7 @@ std::filesystem::path Starter(const char* name) {
 /// Adds a starter file of these lines.
 void Add(const test::OpenedAdventure& adventure, const char* lines) {
     const std::filesystem::path file = adventure.Folder() / "starter.ini";
-    std::ofstream(file) << lines;
+    std::ofstream(file) << "Remark.\n::INFO\nDelimiter=|\n::END\n" << lines;
     AddStarter(*adventure, file);
 }
 
@@ -33,7 +33,6 @@ TEST_P(StarterOfEachKind, HoldsNothingThatTheAdventureRefuses) {
     AddStarter(*adventure, Starter(GetParam().second));
     const condacts::Catalogue catalogue = condacts::LoadCatalogue(*adventure);
     condacts::Facts facts = condacts::LoadFacts(*adventure);
-    facts.objects = 1;  // the starters speak of object 0, which the author has still to make
     store::Cursor& entries = adventure->OpenTable(TableNum::ProcessTables, "def");
     EXPECT_GT(entries.RecordCount(), 10);
     for (; !entries.Eof(); entries.MoveNext()) {
@@ -95,10 +94,23 @@ TEST(AddStarter, AFaultyLineLeavesTheAdventureAsItWas) {
 TEST(AddStarter, NamesTheFaultyLine) {
     test::OpenedAdventure adventure;
     try {
-        Add(adventure, "Remark.\n::VOCABULARY\n50|LAMP|2\n::END\n");
+        Add(adventure, "::VOCABULARY\n50|LAMP|2\n::END\n");
         FAIL();
     } catch (const Error& error) {
-        EXPECT_NE(std::string(error.what()).find("at line 3"), std::string::npos) << error.what();
+        EXPECT_NE(std::string(error.what()).find("::VOCABULARY at line 6"), std::string::npos)
+            << error.what();
+    }
+}
+
+TEST(AddStarter, NamesTheFaultyEntry) {
+    test::OpenedAdventure adventure;
+    try {
+        Add(adventure, "::PROCESSTABLES\n0|_|_|255|255|1|NONSENSE\n::END\n");
+        FAIL();
+    } catch (const Error& error) {
+        EXPECT_STREQ(
+            error.what(),
+            "The starter has a faulty entry \"NONSENSE\": NONSENSE is an invalid Condition/Action.");
     }
 }
 

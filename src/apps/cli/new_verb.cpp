@@ -1,9 +1,11 @@
 #include "cli/installation.h"
 #include "cli/verb.h"
+#include "interchange/starter.h"
 #include "platform/clock.h"
 #include "platform/error.h"
 #include "platform/event_pump.h"
 #include "platform/operator.h"
+#include "store/adventure.h"
 #include "store/create.h"
 
 namespace fabula::cli {
@@ -14,6 +16,7 @@ struct Options {
     std::string type = "fabula";
     bool graphics = false;
     bool charSets = false;
+    bool starter = false;
     bool force = false;
 };
 
@@ -24,6 +27,12 @@ class Terminal final : public platform::Operator {
     void Tell(std::string_view text, std::string_view) override { std::cerr << text << "\n"; }
     bool Confirm(std::string_view, std::string_view) override { return false; }
 };
+
+void AddStarterTo(const std::string& file) {
+    const auto adventure = store::Adventure::Open(file);
+    const std::string name = adventure->AdventureTypeLower() + ".ini";
+    interchange::AddStarter(*adventure, DefaultDataFile().parent_path() / "starters" / name);
+}
 
 int Create(const Options& options) {
     const auto kind = store::AdventureKindFrom(options.type);
@@ -39,6 +48,7 @@ int Create(const Options& options) {
                                 {terminal, clock, events, DefaultDataFile()})) {
         throw Error("Could not create " + options.file + ": it exists already; --force replaces it.");
     }
+    if (options.starter) AddStarterTo(options.file);
     return kDone;
 }
 
@@ -52,6 +62,8 @@ void AddNewVerb(CLI::App& app, Chosen& chosen) {
     verb->add_flag("--graphics", options->graphics, "The game has drawn pictures");
     verb->add_flag("--charsets", options->charSets,
                    "The game writes with character sets (marlo always does)");
+    verb->add_flag("--starter", options->starter,
+                   "With directions, the usual verbs and their process entries");
     verb->add_flag("--force", options->force, "Replace a file that exists");
     verb->callback([options, &chosen] { chosen.body = [options] { return Create(*options); }; });
 }

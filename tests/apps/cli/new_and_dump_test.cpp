@@ -58,6 +58,18 @@ TEST_F(NewVerb, ReplacesAnExistingFileWithForce) {
     EXPECT_EQ(Run({"tables", File()}).status, 0);
 }
 
+TEST_F(NewVerb, AddsDirectionsAndVerbsWithStarter) {
+    for (const char* type : {"fabula", "vel", "marlo"}) {
+        ASSERT_EQ(Run({"new", File(), "--type", type, "--starter", "--force"}).status, 0) << type;
+        const auto north =
+            Records(Run({"dump", File(), "vocabulary", "--where", "word like 'NORT%'", "--order", "vocnum"})
+                        .output);
+        ASSERT_FALSE(north.empty()) << type;
+        EXPECT_EQ(north.front()["vocnum"], 2) << type;
+        EXPECT_FALSE(Records(Run({"dump", File(), "processtables"}).output).empty()) << type;
+    }
+}
+
 TEST_F(NewVerb, AnUnknownTypeIsWrongUsage) {
     const ProgramResult result = Run({"new", File(), "--type", "novel"});
     EXPECT_EQ(result.status, 2);
