@@ -64,9 +64,11 @@ std::string_view OrEmpty(std::optional<std::string_view> text) {
     return text.value_or(std::string_view());
 }
 
-void Append(std::string& target, std::string_view head, std::string_view tail) {
-    target.clear();
-    if (!tail.empty()) target.append(head).append(tail);
+/// `clause` may be a part of an earlier clause that its caller is about to replace.
+std::string Clause(std::string_view head, std::string_view clause) {
+    std::string text;
+    if (!clause.empty()) text.append(head).append(clause);
+    return text;
 }
 
 }  // namespace
@@ -142,8 +144,8 @@ Cursor& Adventure::OpenTable(TableNum table, std::string_view fields, std::optio
     TableInfo& info = infos_[SlotOf(table)];
     info.tablename = isFree ? free.table : entry->name;
     info.lastselect = fields;
-    Append(info.lastwhere, " where ", text.where);
-    Append(info.lastorder, " order by ", text.order);
+    info.lastwhere = Clause(" where ", text.where);
+    info.lastorder = Clause(" order by ", text.order);
 
     cursor.Reset();
     cursor.connection_ = connection_.get();
@@ -153,7 +155,12 @@ Cursor& Adventure::OpenTable(TableNum table, std::string_view fields, std::optio
     cursor.fieldIndexes_ = std::move(selection.columns);
     for (const std::size_t column : cursor.fieldIndexes_)
         cursor.fields_.push_back(schema.fields[column]);
-    cursor.Load();
+    try {
+        cursor.ReadInto(cursor.snapshot_);
+    } catch (const Error&) {
+        cursor.Reset();
+        throw;
+    }
     return cursor;
 }
 
@@ -189,6 +196,7 @@ int Adventure::DeleteFrom(TableNum table, std::optional<std::string_view> where)
         sql += " WHERE ";
         AppendSql(ParseFilter(*where, schema), schema, sql, values);
     }
+    connection_->CheckMayChange();
     const Statement statement = connection_->Compile(sql, "delete records");
     for (std::size_t i = 0; i < values.size(); ++i) {
         Connection::Bind(statement.get(), static_cast<int>(i) + 1, values[i]);

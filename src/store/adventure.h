@@ -153,7 +153,8 @@ class Transaction {
     bool open_ = true;
 };
 
-/// Many look-ups as one step: within it the file is locked for reading once, not once for each look-up.
+/// Many look-ups as one step: within it the file is locked for reading once, not once for each look-up. A
+/// change within it that is not also within a Transaction throws std::logic_error.
 class ReadTransaction {
   public:
     explicit ReadTransaction(Adventure& adventure);

@@ -133,18 +133,24 @@ void Connection::Bind(sqlite3_stmt* statement, int parameter, const text::Value&
     struct Binder {
         sqlite3_stmt* statement;
         int parameter;
-        void operator()(std::monostate) const { sqlite3_bind_null(statement, parameter); }
-        void operator()(std::int64_t number) const { sqlite3_bind_int64(statement, parameter, number); }
-        void operator()(double number) const { sqlite3_bind_double(statement, parameter, number); }
-        void operator()(const std::string& text) const {
-            sqlite3_bind_text64(statement, parameter, text.data(), text.size(), SQLITE_TRANSIENT,
-                                SQLITE_UTF8);
+        int operator()(std::monostate) const { return sqlite3_bind_null(statement, parameter); }
+        int operator()(std::int64_t number) const {
+            return sqlite3_bind_int64(statement, parameter, number);
         }
-        void operator()(const text::Blob& bytes) const {
-            sqlite3_bind_blob64(statement, parameter, bytes.data(), bytes.size(), SQLITE_TRANSIENT);
+        int operator()(double number) const { return sqlite3_bind_double(statement, parameter, number); }
+        int operator()(const std::string& text) const {
+            return sqlite3_bind_text64(statement, parameter, text.data(), text.size(), SQLITE_TRANSIENT,
+                                       SQLITE_UTF8);
+        }
+        int operator()(const text::Blob& bytes) const {
+            return sqlite3_bind_blob64(statement, parameter, bytes.data(), bytes.size(), SQLITE_TRANSIENT);
         }
     };
-    std::visit(Binder{statement, parameter}, value);
+    // A value that is too large would otherwise be stored as null.
+    if (std::visit(Binder{statement, parameter}, value) != SQLITE_OK) {
+        throw Error(std::string("Could not use a value: ") + sqlite3_errmsg(sqlite3_db_handle(statement)) +
+                    ".");
+    }
 }
 
 std::int64_t Connection::LastInsertKey() const {
@@ -181,8 +187,15 @@ TableSchema& Connection::SchemaToChange(TableNum table) {
     return schemas_[table];
 }
 
+void Connection::CheckMayChange() const {
+    if (workDepth_ == 0 && readDepth_ > 0) throw std::logic_error("a change inside a read transaction");
+    if (workDepth_ > 0 && sqlite3_get_autocommit(handle_)) {
+        throw Error("Could not write to the adventure: an earlier failure has undone the whole step.");
+    }
+}
+
 void Connection::BeginWork() {
-    if (readDepth_ > 0) throw std::logic_error("a change begins inside a read transaction");
+    CheckMayChange();
     Run(workDepth_ == 0 ? "BEGIN IMMEDIATE" : "SAVEPOINT " + WorkName(workDepth_),
         "write to the adventure");
     ++workDepth_;

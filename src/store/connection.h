@@ -68,6 +68,10 @@ class Connection {
     const TableSchema& SchemaOf(TableNum table) const;
     TableSchema& SchemaToChange(TableNum table);
 
+    /// Every change asks first: throws std::logic_error within a read transaction, and fabula::Error when a
+    /// failure (a full disk) has made the database undo the transaction that the change would be part of.
+    void CheckMayChange() const;
+
     void BeginWork();
     void CommitWork();
     void RollBackWork() noexcept;

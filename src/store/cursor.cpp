@@ -113,8 +113,9 @@ std::string_view Cursor::Text(std::size_t column) const {
 
 std::int64_t Cursor::Number(std::size_t column) const {
     const FieldClass fieldClass = ClassOf(fields_[column].type);
-    if (fieldClass != FieldClass::Number && fieldClass != FieldClass::Truth) {
-        throw std::logic_error("the field '" + fields_[column].name + "' was read as a number");
+    const bool isWhole = fieldClass == FieldClass::Number && fields_[column].type != FieldType::Double;
+    if (!isWhole && fieldClass != FieldClass::Truth) {
+        throw std::logic_error("the field '" + fields_[column].name + "' was read as a whole number");
     }
     if (const text::Value* pending = PendingValue(column)) {
         const auto* number = std::get_if<std::int64_t>(pending);
@@ -135,6 +136,9 @@ void Cursor::SetField(std::string_view name, text::Value value) {
         CurrentRow();
         pending_.emplace(false, fields_.size());
     }
+    // A floating field stores every number as one, so that it is here what it will be in the file.
+    const auto* whole = std::get_if<std::int64_t>(&value);
+    if (whole && fields_[column].type == FieldType::Double) value = static_cast<double>(*whole);
     pending_->values[column] = std::move(value);
 }
 
@@ -166,6 +170,7 @@ void Cursor::Update() {
 
 /// Writes the pending record and returns its key.
 std::int64_t Cursor::Write() {
+    connection_->CheckMayChange();
     std::string sql = pending_->isNew ? "INSERT INTO " : "UPDATE ";
     sql += schema_->name;
     const char* joint = pending_->isNew ? " (" : " SET ";
@@ -209,6 +214,7 @@ void Cursor::CancelUpdate() {
 void Cursor::Delete() {
     CancelUpdate();
     const std::size_t row = CurrentRow();
+    connection_->CheckMayChange();
     sqlite3_stmt* statement = connection_->Cached("DELETE FROM " + schema_->name + " WHERE storekey=?");
     const StatementUse use(statement);
     sqlite3_bind_int64(statement, 1, snapshot_.KeyOf(row));
@@ -223,7 +229,7 @@ void Cursor::Find(std::string_view criterion, std::optional<int> start) {
     CancelUpdate();
     const std::int64_t behind = betweenRecords_ ? position_ : position_ + 1;
     betweenRecords_ = false;
-    position_ = std::max<std::int64_t>(start ? *start - 1 : behind, 0);
+    position_ = std::max<std::int64_t>(start ? std::int64_t{*start} - 1 : behind, 0);
     while (position_ < RowCount() &&
            !Matches(filter, SnapshotRow(snapshot_, fieldIndexes_, static_cast<std::size_t>(position_)))) {
         ++position_;
@@ -232,7 +238,11 @@ void Cursor::Find(std::string_view criterion, std::optional<int> start) {
 }
 
 void Cursor::Requery() {
-    Load();
+    if (!connection_) throw std::logic_error("a cursor that is not open was read again");
+    Snapshot read;
+    ReadInto(read);
+    snapshot_ = std::move(read);
+    MoveFirst();
 }
 
 void Cursor::Reset() {
@@ -246,18 +256,15 @@ void Cursor::Reset() {
     pending_.reset();
 }
 
-void Cursor::Load() {
-    pending_.reset();
-    position_ = 0;
-    betweenRecords_ = false;
-    snapshot_.Clear(fields_.size());
+void Cursor::ReadInto(Snapshot& snapshot) const {
+    snapshot.Clear(fields_.size());
     sqlite3_stmt* statement = connection_->Cached(sql_);
     const StatementUse use(statement);
     for (std::size_t i = 0; i < parameters_.size(); ++i) {
         Connection::Bind(statement, static_cast<int>(i) + 1, parameters_[i]);
     }
     while (connection_->Step(statement, "read the adventure"))
-        snapshot_.AppendRow(statement);
+        snapshot.AppendRow(statement);
 }
 
 void Cursor::StoreFileInField(const std::filesystem::path& file, std::string_view field,

@@ -19,7 +19,7 @@ class Connection;
 
 /// One table's records as they were when the cursor was opened, in its order, to be walked both ways and
 /// edited in place. An edit is pending from the first `SetField` or `AddNew` until `Update` writes it or
-/// `CancelUpdate` or the next open drops it.
+/// `CancelUpdate`, a move, `Find` or the next open drops it.
 ///
 /// Fields are named without regard to case. Naming a field that the cursor does not have, or reading one
 /// while it stands on no record, throws std::logic_error: the program is wrong, not its user. A failing
@@ -36,7 +36,7 @@ class Cursor {
     bool IsOpen() const { return connection_ != nullptr; }
 
     /// True past the last and before the first record; both are true when there are none.
-    bool Eof() const { return position_ >= RowCount(); }
+    bool Eof() const { return position_ >= RowCount() || RowCount() == 0; }
     bool Bof() const { return position_ < 0 || RowCount() == 0; }
 
     void MoveFirst();
@@ -54,8 +54,8 @@ class Cursor {
 
     /// The value of a field of the current record, with a pending edit already in it.
     text::Value Field(std::string_view name) const { return Field(Column(name)); }
-    /// The same as text ("" for null), as a number (0 for null), as a truth value (false for null). The
-    /// text is valid until the cursor moves, is edited or opened again. A field of another class throws
+    /// The same as text ("" for null), as a whole number (0 for null), as a truth value (false for null).
+    /// The text is valid until the cursor moves, is edited or opened again. A field of another class throws
     /// std::logic_error.
     std::string_view Text(std::string_view name) const { return Text(Column(name)); }
     std::int64_t Number(std::string_view name) const { return Number(Column(name)); }
@@ -88,7 +88,7 @@ class Cursor {
     /// that matches `criterion`; `Eof` when none does. Throws FilterError when it is not well formed.
     void Find(std::string_view criterion, std::optional<int> start = std::nullopt);
 
-    /// Reads the records again and stands on the first.
+    /// Reads the records again and stands on the first. When that fails the cursor stays as it was.
     void Requery();
 
     /// Reads a file's bytes (at most kLargestBinary) into `field` and its path into `pathField`, both
@@ -111,7 +111,7 @@ class Cursor {
     const text::Value* PendingValue(std::size_t column) const;
     bool ReadsPending() const { return pending_ && pending_->isNew; }
     void Reset();
-    void Load();
+    void ReadInto(Snapshot& snapshot) const;
     std::int64_t Write();
 
     Connection* connection_ = nullptr;

@@ -53,8 +53,9 @@ struct FilterNode {
 /// Whether a filter may hold "?" in place of values.
 enum class Parameters { Refused, Allowed };
 
-/// The longest filter that is read, in bytes, and the deepest nesting of parentheses.
+/// The longest filter that is read, in bytes, its most comparisons, and the deepest nesting of parentheses.
 inline constexpr std::size_t kLongestFilter = 65536;
+inline constexpr int kMostComparisons = 500;
 inline constexpr int kDeepestFilter = 100;
 
 /// Parses a filter and checks it against the fields of its table. Throws FilterError.

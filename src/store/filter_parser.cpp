@@ -52,6 +52,7 @@ class Parser {
         if (tokens_.Next().kind == Token::Kind::Sign && tokens_.Next().text == "(")
             return ParseParentheses();
         const Token start = tokens_.Next();
+        if (++comparisons_ > kMostComparisons) tokens_.Expected("fewer comparisons");
         FilterNode node;
         node.left = ParseOperand("a field, a value or '('");
         if (tokens_.TakeWord("like")) {
@@ -149,7 +150,8 @@ class Parser {
         const std::string_view digits = tokens_.Next().text;
         const char* end = digits.data() + digits.size();
         std::int64_t whole = 0;
-        if (std::from_chars(digits.data(), end, whole).ptr == end) {
+        const auto readWhole = std::from_chars(digits.data(), end, whole);
+        if (readWhole.ec == std::errc{} && readWhole.ptr == end) {
             tokens_.Take();
             return whole;
         }
@@ -187,14 +189,15 @@ class Parser {
         Fail(blameLeft ? left : right, wantText ? "a text in quotes" : "a number");
     }
 
-    [[noreturn]] static void Fail(const Token& at, const std::string& expected) {
-        throw FilterError(at.position, expected);
+    [[noreturn]] void Fail(const Token& at, const std::string& expected) const {
+        tokens_.Expected(expected, at.position);
     }
 
     Tokenizer tokens_;
     const TableSchema& schema_;
     Parameters parameters_;
     int depth_ = 0;
+    int comparisons_ = 0;
 };
 
 }  // namespace
@@ -230,8 +233,8 @@ bool Tokenizer::TakeSign(std::string_view sign) {
     return true;
 }
 
-void Tokenizer::Expected(const std::string& what) const {
-    throw FilterError(next_.position, what);
+void Tokenizer::Expected(const std::string& what, std::size_t position) const {
+    throw FilterError(text::Length(text_.substr(0, position - 1)) + 1, what);
 }
 
 void Tokenizer::Scan() {
@@ -266,14 +269,14 @@ void Tokenizer::Scan() {
             ++at_;
             return finish(Token::Kind::Text);
         }
-        throw FilterError(at_ + 1, "a closing quote");
+        Expected("a closing quote", at_ + 1);
     }
     for (const std::string_view sign : kSigns) {
         if (text_.substr(at_, sign.size()) != sign) continue;
         at_ += sign.size();
         return finish(Token::Kind::Sign);
     }
-    throw FilterError(at_ + 1, "a name, a number, a quoted text or a sign");
+    Expected("a name, a number, a quoted text or a sign", at_ + 1);
 }
 
 std::string Unquote(std::string_view quoted) {

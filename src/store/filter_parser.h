@@ -31,8 +31,9 @@ class Tokenizer {
     /// The place of the next token, and how much of the text stands before it.
     std::size_t Offset() const { return next_.position - 1; }
 
-    /// Throws the FilterError "expected ..." at the next token.
-    [[noreturn]] void Expected(const std::string& what) const;
+    /// Throws the FilterError "expected ..." at the next token, or at the one given.
+    [[noreturn]] void Expected(const std::string& what) const { Expected(what, next_.position); }
+    [[noreturn]] void Expected(const std::string& what, std::size_t position) const;
 
   private:
     void Scan();

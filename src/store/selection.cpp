@@ -2,12 +2,14 @@
 
 #include "store/connection.h"
 #include "store/filter_parser.h"
+#include "text/str_edit.h"
 #include "text/utf8.h"
 
 namespace fabula::store {
 namespace {
 
 bool MeansAllFields(std::string_view fields) {
+    fields = text::TrimBlanks(fields);
     return text::EqualsNoCase(fields, "def") || text::EqualsNoCase(fields, "default");
 }
 

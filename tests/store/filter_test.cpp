@@ -153,6 +153,25 @@ TEST(Filter, ANumberBeyondEveryRangeIsAnError) {
     EXPECT_EQ(ErrorOf("vocnum=1.2.3"), "at 8: expected a number in range");
 }
 
+TEST(Filter, AWholeNumberBeyondSixtyFourBitsIsComparedAsAFloatingOne) {
+    EXPECT_TRUE(LampMatches("vocnum<99999999999999999999"));
+    EXPECT_FALSE(LampMatches("vocnum<-99999999999999999999"));
+}
+
+TEST(Filter, ThePlaceOfAFaultCountsCharacters) {
+    EXPECT_EQ(ErrorOf("word='\u00c4\u00d6' vocnum=1"), "at 11: expected 'and', 'or' or the end");
+    EXPECT_EQ(ErrorOf("word='\u00c4\u00d6' or word=5"), "at 19: expected a text in quotes");
+    EXPECT_EQ(ErrorOf("word='\u00c4\u00d6"), "at 9: expected a closing quote");
+}
+
+TEST(Filter, MoreThanFiveHundredComparisonsAreRefused) {
+    std::string filter = "vocnum=50";
+    for (int i = 1; i < 500; ++i)
+        filter += " or vocnum=1";
+    EXPECT_TRUE(LampMatches(filter));
+    EXPECT_EQ(ErrorOf(filter + " or vocnum=1"), "at 6002: expected fewer comparisons");
+}
+
 TEST(Filter, DeepNestingIsRefused) {
     const std::string open(200, '(');
     EXPECT_EQ(ErrorOf(open + "vocnum=1" + std::string(200, ')')),
