@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libedit-dev
-          libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev python3)
+          libpng-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev python3)
 if [ "${1:-build}" = test ]; then
     packages+=(clang clang-format libclang-rt-14-dev)
 fi
