@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "text/str_edit.h"
+#include "text/utf8.h"
 
 namespace fabula::pictures {
 
@@ -12,19 +12,19 @@ void CommandCatalogue::Add(Command command) {
         std::clamp(command.typedParameters, 0, static_cast<int>(command.typedCodes.size()));
     command.drawnParameters =
         std::clamp(command.drawnParameters, 0, static_cast<int>(command.drawnCodes.size()));
-    const std::string name = text::StrEdit(command.name, "upcase");
+    const std::string name = text::UpperCase(command.name);
     byName_.try_emplace(name, commands_.size());
     if (IsPictureCommand(command.number)) pictureByName_.try_emplace(name, commands_.size());
     commands_.push_back(std::move(command));
 }
 
 const Command* CommandCatalogue::Find(std::string_view name) const {
-    const auto found = byName_.find(text::StrEdit(name, "upcase"));
+    const auto found = byName_.find(text::UpperCase(name));
     return found == byName_.end() ? nullptr : &commands_[found->second];
 }
 
 const Command* CommandCatalogue::FindPictureCommand(std::string_view name) const {
-    const auto found = pictureByName_.find(text::StrEdit(name, "upcase"));
+    const auto found = pictureByName_.find(text::UpperCase(name));
     return found == pictureByName_.end() ? nullptr : &commands_[found->second];
 }
 

@@ -28,7 +28,7 @@ class CommandArguments {
 
   private:
     int Number(std::string_view word) const {
-        const std::optional<int> value = WholeNumber(word);
+        const std::optional<int> value = ParameterValue(word);
         if (!value) drawing_.Fail("a parameter of " + command_.name + " is missing or is no number.");
         return *value;
     }

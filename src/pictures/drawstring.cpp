@@ -1,7 +1,10 @@
 #include "pictures/drawstring.h"
 
 #include <algorithm>
+#include <cstdint>
 
+#include "text/fields.h"
+#include "text/numbers.h"
 #include "text/str_edit.h"
 
 namespace fabula::pictures {
@@ -11,16 +14,9 @@ std::vector<std::string> DrawstringWords(std::string_view drawstring) {
 }
 
 std::vector<std::string> SplitAtBlanks(std::string_view text) {
-    std::vector<std::string> words;
-    if (text.empty()) return words;
-    std::size_t start = 0;
-    for (std::size_t blank = text.find(' '); blank != std::string_view::npos;
-         blank = text.find(' ', start)) {
-        words.emplace_back(text.substr(start, blank - start));
-        start = blank + 1;
-    }
-    words.emplace_back(text.substr(start));
-    return words;
+    if (text.empty()) return {};
+    const std::vector<std::string_view> pieces = text::Split(text, " ");
+    return {pieces.begin(), pieces.end()};
 }
 
 std::string JoinWords(const std::vector<std::string>& words) {
@@ -32,16 +28,10 @@ std::string JoinWords(const std::vector<std::string>& words) {
     return text;
 }
 
-std::optional<int> WholeNumber(std::string_view word) {
-    const bool negative = word.starts_with('-');
-    if (negative || word.starts_with('+')) word.remove_prefix(1);
-    if (word.empty()) return std::nullopt;
-    int value = 0;
-    for (const char digit : word) {
-        if (digit < '0' || digit > '9') return std::nullopt;
-        value = std::min(10 * value + (digit - '0'), kLargestNumber);
-    }
-    return negative ? -value : value;
+std::optional<int> ParameterValue(std::string_view word) {
+    const std::optional<std::int64_t> value = text::WholeNumber(word);
+    if (!value) return std::nullopt;
+    return static_cast<int>(std::clamp<std::int64_t>(*value, -kLargestNumber, kLargestNumber));
 }
 
 }  // namespace fabula::pictures

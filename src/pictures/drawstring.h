@@ -25,6 +25,6 @@ std::string JoinWords(const std::vector<std::string>& words);
 inline constexpr int kLargestNumber = 32767;
 
 /// The value of a parameter: decimal digits with an optional sign; nullopt when it is anything else.
-std::optional<int> WholeNumber(std::string_view word);
+std::optional<int> ParameterValue(std::string_view word);
 
 }  // namespace fabula::pictures

@@ -6,6 +6,7 @@
 
 #include "pictures/drawstring.h"
 #include "text/str_edit.h"
+#include "text/utf8.h"
 
 namespace fabula::pictures {
 namespace {
@@ -132,12 +133,12 @@ std::string CheckParameters(Parameter parameter, const Command& command, std::sp
         const bool isScaleWord =
             parameter.check == CheckOf::WholeDrawstring && command.number == kGoSub && i == 0;
         if (isScaleWord) {
-            if (text::StrEdit(text.substr(0, 3), "upcase") != "SC=") {
+            if (!text::EqualsNoCase(text.substr(0, 3), "SC=")) {
                 return "First parameter for GOSUB must start with SC=";
             }
             text.remove_prefix(3);
         }
-        const std::optional<int> value = WholeNumber(text);
+        const std::optional<int> value = ParameterValue(text);
         if (!value) return NonNumeric(parameter.command);
         parameter.previous = parameter.text;
         parameter.previousValue = parameter.value;
@@ -188,7 +189,7 @@ DrawstringCheck ValidateDrawString(const PictureBook& book, std::string_view dra
 
 TypedCommandCheck ValidateCommandLine(const PictureBook& book, std::string_view line, PictureKind kind,
                                       bool rplotOn) {
-    std::vector<std::string> words = SplitAtBlanks(text::StrEdit(line, "trim,compress"));
+    std::vector<std::string> words = SplitAtBlanks(text::CompressText(text::TrimBlanks(line)));
     if (words.empty()) return {};
     const std::string word = words.front();
     words.erase(words.begin());
@@ -211,7 +212,7 @@ TypedCommandCheck ValidateCommandLine(const PictureBook& book, std::string_view 
 
     TypedCommandCheck result{command, {}, ""};
     for (const std::string& parameter : words) {
-        result.parameters.push_back(*WholeNumber(parameter));
+        result.parameters.push_back(*ParameterValue(parameter));
     }
     return result;
 }

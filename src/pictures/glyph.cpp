@@ -20,7 +20,7 @@ Glyph ParseCharVals(std::string_view charVals) {
     Glyph glyph{};
     const std::vector<std::string> words = SplitAtBlanks(charVals);
     for (std::size_t row = 0; row < std::min(glyph.size(), words.size()); ++row) {
-        glyph[row] = static_cast<std::uint8_t>(std::clamp(WholeNumber(words[row]).value_or(0), 0, 255));
+        glyph[row] = static_cast<std::uint8_t>(std::clamp(ParameterValue(words[row]).value_or(0), 0, 255));
     }
     return glyph;
 }

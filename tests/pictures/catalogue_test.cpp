@@ -91,25 +91,25 @@ TEST(JoinWords, PutsOneBlankBetweenTwo) {
     EXPECT_EQ(JoinWords({}), "");
 }
 
-TEST(WholeNumber, ReadsDigitsWithAnOptionalSign) {
-    EXPECT_EQ(WholeNumber("0"), 0);
-    EXPECT_EQ(WholeNumber("-20"), -20);
-    EXPECT_EQ(WholeNumber("+7"), 7);
-    EXPECT_EQ(WholeNumber("007"), 7);
+TEST(ParameterValue, ReadsDigitsWithAnOptionalSign) {
+    EXPECT_EQ(ParameterValue("0"), 0);
+    EXPECT_EQ(ParameterValue("-20"), -20);
+    EXPECT_EQ(ParameterValue("+7"), 7);
+    EXPECT_EQ(ParameterValue("007"), 7);
 }
 
-TEST(WholeNumber, AnythingElseIsNone) {
-    EXPECT_EQ(WholeNumber(""), std::nullopt);
-    EXPECT_EQ(WholeNumber("-"), std::nullopt);
-    EXPECT_EQ(WholeNumber("--5"), std::nullopt);
-    EXPECT_EQ(WholeNumber("1.5"), std::nullopt);
-    EXPECT_EQ(WholeNumber("5x"), std::nullopt);
-    EXPECT_EQ(WholeNumber("END"), std::nullopt);
+TEST(ParameterValue, AnythingElseIsNone) {
+    EXPECT_EQ(ParameterValue(""), std::nullopt);
+    EXPECT_EQ(ParameterValue("-"), std::nullopt);
+    EXPECT_EQ(ParameterValue("--5"), std::nullopt);
+    EXPECT_EQ(ParameterValue("1.5"), std::nullopt);
+    EXPECT_EQ(ParameterValue("5x"), std::nullopt);
+    EXPECT_EQ(ParameterValue("END"), std::nullopt);
 }
 
-TEST(WholeNumber, StopsAtTheLargestNumber) {
-    EXPECT_EQ(WholeNumber("32768"), kLargestNumber);
-    EXPECT_EQ(WholeNumber("-99999999999999999999999999"), -kLargestNumber);
+TEST(ParameterValue, StopsAtTheLargestNumber) {
+    EXPECT_EQ(ParameterValue("32768"), kLargestNumber);
+    EXPECT_EQ(ParameterValue("-99999999999999999999999999"), -kLargestNumber);
 }
 
 }  // namespace

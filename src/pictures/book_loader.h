@@ -1,0 +1,18 @@
+#pragma once
+
+#include "pictures/picture_book.h"
+
+namespace fabula::store {
+class Adventure;
+}
+
+namespace fabula::pictures {
+
+/// Reads an adventure's commands, characters, pictures, locations' numbers and colours. Throws
+/// fabula::Error when the file can't be read.
+PictureBook LoadPictureBook(store::Adventure& adventure);
+
+/// Its characters alone.
+CharacterSets LoadCharacterSets(store::Adventure& adventure);
+
+}  // namespace fabula::pictures

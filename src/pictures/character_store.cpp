@@ -1,0 +1,132 @@
+#include "pictures/character_store.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <optional>
+
+#include "pictures/book_loader.h"
+#include "pictures/character_file.h"
+#include "pictures/character_sets.h"
+#include "pictures/drawstring.h"
+#include "pictures/write_file.h"
+#include "platform/error.h"
+#include "store/adventure.h"
+#include "text/str_edit.h"
+#include "text/windows1252.h"
+
+namespace fabula::pictures {
+namespace {
+
+constexpr std::string_view kErrorTitle = "Error";
+
+std::string ReadText(const std::filesystem::path& file) {
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(file, error);
+    if (error) throw Error("Could not read " + file.string() + ": " + error.message() + ".");
+    if (size > kLargestCharacterFile)
+        throw Error(file.string() + " is too large for a character set file.");
+    std::ifstream stream(file, std::ios::binary);
+    const std::string bytes(std::istreambuf_iterator<char>(stream), {});
+    if (!stream) throw Error("Could not read " + file.string() + ".");
+    return text::FromWindows1252(bytes);
+}
+
+void WriteText(const std::filesystem::path& file, const std::string& text) {
+    const text::Windows1252 converted = text::ToWindows1252(text);
+    if (converted.unwritable) {
+        throw Error("Could not write " + file.string() +
+                    ": the name of a character set has a letter that such a file can't hold.");
+    }
+    WriteFile(file, converted.bytes);
+}
+
+/// The part of a list's line in front of the first "-".
+std::string_view Key(std::string_view line) {
+    return text::TrimBlanks(line.substr(0, line.find('-')));
+}
+
+std::string ListLine(std::string_view key, std::string_view name) {
+    return std::string(key).append(" - ").append(name);
+}
+
+/// Writes the characters over those of the target, all of them or none.
+void StoreSet(store::Adventure& adventure, const CharacterFileSet& set, int target,
+              const std::filesystem::path& file) {
+    store::Transaction transaction(adventure);
+    for (const Character& character : set.characters) {
+        store::Cursor& cursor = adventure.OpenTable(
+            store::TableNum::Characters, "def",
+            "charsetnum=" + std::to_string(target) + " and charnum=" + std::to_string(character.number));
+        if (cursor.Eof()) {
+            throw Error("Character set " + std::to_string(target) + " has no character " +
+                        std::to_string(character.number) + ", which " + file.string() + " holds.");
+        }
+        cursor.SetField("charvals", FormatCharVals(character.glyph));
+        cursor.SetField("charsetname", set.name);
+        cursor.Update();
+    }
+    transaction.Commit();
+}
+
+}  // namespace
+
+std::vector<std::string> ListSets(store::Adventure& adventure) {
+    const CharacterSets sets = LoadCharacterSets(adventure);
+    std::vector<std::string> lines;
+    for (const int set : sets.Sets()) {
+        lines.push_back(ListLine(std::to_string(set), sets.OfSet(set).front()->setName));
+    }
+    return lines;
+}
+
+std::vector<std::string> ListSetsInFile(const std::filesystem::path& file, platform::Operator& person) {
+    const CharacterFile content = ReadCharacterFile(ReadText(file), file.string());
+    if (!content.isCharacterFile) {
+        person.Tell(file.string() + " is not a Character Set File", kErrorTitle);
+        return {};
+    }
+    std::vector<std::string> lines;
+    for (const CharacterFileSet& set : content.sets) {
+        lines.push_back(ListLine(set.line, set.name));
+    }
+    return lines;
+}
+
+bool SaveSets(store::Adventure& adventure, const std::vector<std::string>& selected,
+              const std::filesystem::path& file, platform::Operator& person) {
+    if (selected.empty()) {
+        person.Tell("No Set is selected", kErrorTitle);
+        return false;
+    }
+    std::vector<int> numbers;
+    for (const std::string& line : selected) {
+        const std::optional<int> number = ParameterValue(Key(line));
+        if (!number) throw Error("There is no character set " + line + ".");
+        numbers.push_back(*number);
+    }
+    WriteText(file, WriteCharacterFile(LoadCharacterSets(adventure), numbers));
+    return true;
+}
+
+bool LoadSet(store::Adventure& adventure, const std::filesystem::path& file,
+             const std::vector<std::string>& selected, int target, platform::Operator& person) {
+    if (selected.size() != 1) {
+        person.Tell(selected.empty() ? "No Set is selected" : "Only one Set can be selected", kErrorTitle);
+        return false;
+    }
+    const CharacterFile content = ReadCharacterFile(ReadText(file), file.string());
+    const std::string_view setLine = Key(selected.front());
+    const auto set = std::find_if(content.sets.begin(), content.sets.end(),
+                                  [setLine](const CharacterFileSet& s) { return s.line == setLine; });
+    if (set == content.sets.end()) throw Error(file.string() + " holds no " + std::string(setLine) + ".");
+    if (target == 0 && set->name != "Default") {
+        person.Tell("This is not a valid saveset for Set 0", kErrorTitle);
+        return false;
+    }
+    StoreSet(adventure, *set, target, file);
+    person.Tell(set->name + " Loaded into Character Set " + std::to_string(target), "Load Character Set");
+    return true;
+}
+
+}  // namespace fabula::pictures
