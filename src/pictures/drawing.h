@@ -43,7 +43,7 @@ inline constexpr int kTransparent = 8;
 
 /// How deep GOSUBs may be nested, and how many commands one draw may run with all its subroutines.
 inline constexpr std::size_t kDeepestGoSub = 64;
-inline constexpr int kMostCommands = 250'000;
+inline constexpr int kMostCommands = 50'000;
 
 /// As the index of the last word to draw: all of them.
 inline constexpr std::size_t kWholeDrawstring = static_cast<std::size_t>(-1);

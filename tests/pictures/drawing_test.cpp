@@ -225,7 +225,7 @@ TEST(GoSub, ThatMultipliesWithoutEndFails) {
     AddPicture(book, 160, "END");
     EXPECT_THAT(
         FaultOf(book, "GOSUB sc=0 100 END"),
-        testing::EndsWith("can't be drawn: with its subroutines it runs more than 250000 commands."));
+        testing::EndsWith("can't be drawn: with its subroutines it runs more than 50000 commands."));
 }
 
 TEST(GoSub, ADrawAfterAFailureIsNotHarmed) {
