@@ -39,6 +39,8 @@ int main(int argc, char** argv) {
     cli::AddNewVerb(app, chosen);
     cli::AddTablesVerb(app, chosen);
     cli::AddDumpVerb(app, chosen);
+    cli::AddDrawVerb(app, chosen);
+    cli::AddCharsetVerb(app, chosen);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

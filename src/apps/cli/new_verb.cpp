@@ -1,10 +1,10 @@
 #include "cli/installation.h"
+#include "cli/terminal_operator.h"
 #include "cli/verb.h"
 #include "interchange/starter.h"
 #include "platform/clock.h"
 #include "platform/error.h"
 #include "platform/event_pump.h"
-#include "platform/operator.h"
 #include "store/adventure.h"
 #include "store/create.h"
 
@@ -20,14 +20,6 @@ struct Options {
     bool force = false;
 };
 
-/// Nobody is asked on the command line: what the default data has to say goes to standard error, and an
-/// existing file is a matter of --force.
-class Terminal final : public platform::Operator {
-  public:
-    void Tell(std::string_view text, std::string_view) override { std::cerr << text << "\n"; }
-    bool Confirm(std::string_view, std::string_view) override { return false; }
-};
-
 void AddStarterTo(const std::string& file) {
     const auto adventure = store::Adventure::Open(file);
     const std::string name = adventure->AdventureTypeLower() + ".ini";
@@ -41,7 +33,7 @@ int Create(const Options& options) {
     setup.ChooseGraphics(options.graphics);
     setup.ChooseCharSets(options.charSets);
     setup.ChooseType(*kind);
-    Terminal terminal;
+    TerminalOperator terminal;
     const platform::SystemClock clock;
     platform::NoEvents events;
     if (!store::CreateAdventure(options.force, options.file, setup,

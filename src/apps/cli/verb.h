@@ -34,5 +34,7 @@ struct Chosen {
 void AddNewVerb(CLI::App& app, Chosen& chosen);
 void AddTablesVerb(CLI::App& app, Chosen& chosen);
 void AddDumpVerb(CLI::App& app, Chosen& chosen);
+void AddDrawVerb(CLI::App& app, Chosen& chosen);
+void AddCharsetVerb(CLI::App& app, Chosen& chosen);
 
 }  // namespace fabula::cli

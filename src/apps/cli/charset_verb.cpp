@@ -1,0 +1,85 @@
+#include <filesystem>
+#include <iostream>
+#include <vector>
+
+#include "cli/terminal_operator.h"
+#include "cli/verb.h"
+#include "pictures/character_store.h"
+#include "store/adventure.h"
+#include "text/format.h"
+#include "text/utf8.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string file;
+    std::string setFile;
+    std::vector<int> sets;
+    int set = 0;
+    int target = 0;
+};
+
+int List(const Options& options) {
+    TerminalOperator terminal;
+    const bool isSetFile =
+        text::EqualsNoCase(std::filesystem::path(options.file).extension().string(), ".chr");
+    const std::vector<std::string> lines =
+        isSetFile ? pictures::ListSetsInFile(options.file, terminal)
+                  : pictures::ListSets(*store::Adventure::Open(options.file, store::OpenMode::ReadOnly));
+    for (const std::string& line : lines) {
+        std::cout << line << "\n";
+    }
+    return lines.empty() ? kFailed : kDone;
+}
+
+int Save(const Options& options) {
+    TerminalOperator terminal;
+    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    std::vector<std::string> selected;
+    for (const int set : options.sets) {
+        selected.push_back(std::to_string(set));
+    }
+    return pictures::SaveSets(*adventure, selected, options.setFile, terminal) ? kDone : kFailed;
+}
+
+int Load(const Options& options) {
+    TerminalOperator terminal;
+    const auto adventure = store::Adventure::Open(options.file);
+    const std::string selected = text::FormatText("SET!%z4", {std::int64_t{options.set}});
+    return pictures::LoadSet(*adventure, options.setFile, {selected}, options.target, terminal) ? kDone
+                                                                                                : kFailed;
+}
+
+}  // namespace
+
+void AddCharsetVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    const CLI::Range setNumbers(0, 999);
+    CLI::App* verb = app.add_subcommand("charset", "Carries character sets between adventures");
+    verb->require_subcommand(1);
+
+    CLI::App* list =
+        verb->add_subcommand("list", "Shows the sets of an adventure or of a character set file");
+    list->add_option("file", options->file, "FILE.fbd or FILE.chr")->required();
+    list->callback([options, &chosen] { chosen.body = [options] { return List(*options); }; });
+
+    CLI::App* save = verb->add_subcommand("save", "Writes sets of an adventure to a character set file");
+    save->add_option("file", options->file, "The adventure, FILE.fbd")->required();
+    save->add_option("output", options->setFile, "The file to write, FILE.chr")->required();
+    save->add_option("sets", options->sets, "The numbers of the sets")->required()->check(setNumbers);
+    save->callback([options, &chosen] { chosen.body = [options] { return Save(*options); }; });
+
+    CLI::App* load = verb->add_subcommand("load", "Puts a set of a file over a set of an adventure");
+    load->add_option("file", options->file, "The adventure, FILE.fbd")->required();
+    load->add_option("input", options->setFile, "The file to read, FILE.chr")->required();
+    load->add_option("set", options->set, "The number of the set in the file")
+        ->required()
+        ->check(setNumbers);
+    load->add_option("target", options->target, "The number of the set in the adventure")
+        ->required()
+        ->check(setNumbers);
+    load->callback([options, &chosen] { chosen.body = [options] { return Load(*options); }; });
+}
+
+}  // namespace fabula::cli

@@ -1,0 +1,123 @@
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <vector>
+
+#include "cli/verb.h"
+#include "pictures/book_loader.h"
+#include "pictures/contact_sheet.h"
+#include "pictures/drawing.h"
+#include "pictures/drawstring.h"
+#include "pictures/drawstring_check.h"
+#include "pictures/image.h"
+#include "platform/error.h"
+#include "store/adventure.h"
+#include "text/format.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string file;
+    std::optional<int> picture;
+    std::string output;
+    int scale = 1;
+    std::string plane = "colour";
+    std::optional<std::size_t> upTo;
+    std::string folder;
+    std::optional<std::string> drawstring;
+    std::string checkedIn;
+    bool subroutine = false;
+};
+
+constexpr int kSheetColumns = 5;
+
+pictures::PictureBook Load(const std::string& file) {
+    const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadOnly);
+    return pictures::LoadPictureBook(*adventure);
+}
+
+pictures::Image ChosenPlane(const pictures::Canvas& canvas, const Options& options) {
+    return pictures::ImageOf(options.plane == "pixel" ? canvas.pixel : canvas.colour, options.scale);
+}
+
+int Check(const Options& options) {
+    if (options.checkedIn.empty()) throw UsageError("--check needs the adventure: --in FILE.fbd");
+    const auto kind = options.subroutine ? pictures::PictureKind::Subroutine : pictures::PictureKind::Room;
+    const pictures::PictureBook book = Load(options.checkedIn);
+    const auto check = pictures::ValidateDrawString(book, *options.drawstring, kind);
+    if (!check.Passed()) throw Error(check.fault);
+    std::cout << pictures::JoinWords(check.words) << "\n";
+    return kDone;
+}
+
+int DrawOne(const Options& options) {
+    if (options.file.empty() || !options.picture || options.output.empty()) {
+        throw UsageError("draw needs FILE.fbd PICTURE OUT.bmp or OUT.png");
+    }
+    const pictures::PictureBook book = Load(options.file);
+    const pictures::Canvas canvas =
+        pictures::DrawPicture(book, *options.picture, options.upTo.value_or(pictures::kWholeDrawstring));
+    pictures::WriteImage(options.output, ChosenPlane(canvas, options));
+    return kDone;
+}
+
+/// Draws every picture that can be drawn, and tells of the others.
+int DrawAll(const Options& options) {
+    if (options.file.empty()) throw UsageError("draw --all needs the adventure, FILE.fbd");
+    if (options.picture || options.upTo) throw UsageError("--all draws whole pictures, and all of them");
+    const pictures::PictureBook book = Load(options.file);
+    const std::filesystem::path folder = options.folder;
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error) throw Error("Could not make the folder " + folder.string() + ": " + error.message() + ".");
+    std::vector<pictures::NumberedPicture> drawn;
+    int status = kDone;
+    for (const auto& [number, picture] : book.pictures) {
+        try {
+            const pictures::Canvas canvas = pictures::DrawPicture(book, number);
+            const std::string name = text::FormatText("Picture!%z3!.png", {std::int64_t{number}});
+            pictures::WriteImage(folder / name, ChosenPlane(canvas, options));
+            drawn.push_back(
+                {number, pictures::ImageOf(options.plane == "pixel" ? canvas.pixel : canvas.colour)});
+        } catch (const Error& failure) {
+            std::cerr << "fabula: " << failure.what() << "\n";
+            status = kFailed;
+        }
+    }
+    pictures::WriteImage(folder / "index.png",
+                         pictures::ContactSheet(drawn, book.characters, kSheetColumns));
+    return status;
+}
+
+int Draw(const Options& options) {
+    if (options.drawstring) return Check(options);
+    return options.folder.empty() ? DrawOne(options) : DrawAll(options);
+}
+
+}  // namespace
+
+void AddDrawVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb =
+        app.add_subcommand("draw", "Draws the pictures of an adventure, or checks a drawstring");
+    verb->add_option("file", options->file, "The adventure, FILE.fbd");
+    verb->add_option("picture", options->picture, "The number of a picture");
+    verb->add_option("output", options->output, "The image to write, *.bmp or *.png");
+    verb->add_option("--scale", options->scale, "The size of a pixel")
+        ->check(CLI::Range(1, pictures::kLargestScale))
+        ->capture_default_str();
+    verb->add_option("--plane", options->plane, "colour, or pixel for what counts as drawn")
+        ->check(CLI::IsMember({"colour", "pixel"}))
+        ->capture_default_str();
+    verb->add_option("--upto", options->upTo, "Draw up to this word, counted from 0")
+        ->check(CLI::NonNegativeNumber);
+    verb->add_option("--all", options->folder,
+                     "Draw all pictures into a folder, with an index of small ones");
+    verb->add_option("--check", options->drawstring, "Check a drawstring and show its words");
+    verb->add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use");
+    verb->add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine");
+    verb->callback([options, &chosen] { chosen.body = [options] { return Draw(*options); }; });
+}
+
+}  // namespace fabula::cli
