@@ -1,0 +1,50 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "condacts/catalogue.h"
+#include "interchange/job_status.h"
+#include "store/adventure.h"
+
+namespace fabula::interchange {
+
+/// Tells an author which flags an imported game uses, and by which conditions and actions, and marks these
+/// flags as used. Flags of the system are not told. Flags from 1000 up belong to the system and are not
+/// counted.
+class FlagAnalysis {
+  public:
+    /// Takes the user flags of the adventure as they are now.
+    FlagAnalysis(store::Adventure& adventure, const condacts::Catalogue& catalogue);
+
+    /// Counts the flags of one condition or action, "NAME P1 P2". RAMLOAD does not count: its flag is the
+    /// end of a range.
+    void CheckForFlags(std::string_view condAct);
+
+    /// Writes the analysis into the status, adds the flag records that are missing below the highest flag
+    /// used, and marks the used ones in their descriptions.
+    void PrintFlagAnal(store::Adventure& adventure, JobStatus& status) const;
+
+  private:
+    struct FlagUser {
+        std::string name;
+        bool first = false;   ///< its first parameter is a flag
+        bool second = false;  ///< its second parameter is one
+    };
+
+    void Count(std::size_t user, std::string_view token);
+    bool IsUserFlag(int flag) const;
+
+    std::vector<FlagUser> users_;
+    std::set<int> userFlags_;
+    int highestRecord_ = -1;
+    std::map<int, std::set<std::size_t>> uses_;  ///< by flag, the users that name it
+};
+
+/// Flags from this number up belong to the system.
+inline constexpr int kFirstExtendedFlag = 1000;
+
+}  // namespace fabula::interchange
