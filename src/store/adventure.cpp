@@ -206,7 +206,8 @@ int Adventure::DeleteFrom(TableNum table, std::optional<std::string_view> where)
 }
 
 void Adventure::SaveCopy(const std::filesystem::path& target) {
-    WriteCopy(*connection_, target);
+    if (connection_->IsChanging()) throw std::logic_error("a copy is written inside a transaction");
+    WriteCopy(file_, target);
 }
 
 Transaction::Transaction(Adventure& adventure) : connection_(*adventure.connection_) {

@@ -113,7 +113,7 @@ class Adventure {
 
     /// Writes a copy of the adventure to `target`, which is replaced only when the copy is complete,
     /// checked and on the disk. Pending edits are not part of it. Throws fabula::Error and leaves `target`
-    /// as it was.
+    /// as it was; the adventure's own file is no target. Not to be called within a Transaction.
     void SaveCopy(const std::filesystem::path& target);
 
   private:

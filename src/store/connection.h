@@ -71,6 +71,8 @@ class Connection {
     /// Every change asks first: throws std::logic_error within a read transaction, and fabula::Error when a
     /// failure (a full disk) has made the database undo the transaction that the change would be part of.
     void CheckMayChange() const;
+    /// True within a transaction that may change records.
+    bool IsChanging() const { return workDepth_ > 0; }
 
     void BeginWork();
     void CommitWork();

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <sqlite3.h>
 #include <unistd.h>
 
 #include "platform/error.h"
@@ -33,18 +34,42 @@ std::filesystem::path FolderOf(const std::filesystem::path& file) {
     return parent.empty() ? std::filesystem::path(".") : parent;
 }
 
+std::filesystem::path JournalOf(const std::filesystem::path& file) {
+    return std::filesystem::path(file) += "-journal";
+}
+
+/// Lets the database mend a file that was not closed properly, which takes its journal away; a journal that
+/// is of no use is deleted.
+void UseUpJournal(const std::filesystem::path& file) {
+    std::error_code error;
+    if (!std::filesystem::exists(JournalOf(file), error)) return;
+    if (std::filesystem::exists(file, error)) {
+        const Connection old(file, SQLITE_OPEN_READWRITE);
+        const int result =
+            sqlite3_exec(old.Handle(), "BEGIN EXCLUSIVE; ROLLBACK", nullptr, nullptr, nullptr);
+        // Any other failure tells of a file that can't be mended; it is replaced as it is.
+        if ((result & 0xff) == SQLITE_BUSY) {
+            throw Error("Could not write " + file.string() + ": it is in use by another program.");
+        }
+    }
+    std::filesystem::remove(JournalOf(file), error);
+    if (error) Fail(file, error.value());
+}
+
 }  // namespace
 
 std::filesystem::path TemporaryBeside(const std::filesystem::path& target) {
     for (int number = 0;; ++number) {
         std::filesystem::path name = target;
         name += "." + std::to_string(getpid()) + "-" + std::to_string(number) + ".tmp";
-        if (!std::filesystem::exists(name)) return name;
+        std::error_code error;  // a folder that can't be looked at fails when the file is made
+        if (!std::filesystem::exists(name, error)) return name;
     }
 }
 
 void MoveIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& target) {
     Flush(finished, target);
+    UseUpJournal(target);
     if (rename(finished.c_str(), target.c_str()) != 0) Fail(target, errno);
     Flush(FolderOf(target), target);
 }
@@ -52,18 +77,26 @@ void MoveIntoPlace(const std::filesystem::path& finished, const std::filesystem:
 TemporaryFile::~TemporaryFile() {
     std::error_code ignored;  // what can't be removed is a file named "*.tmp", which is cleaned up later
     std::filesystem::remove(path_, ignored);
-    std::filesystem::remove(std::filesystem::path(path_) += "-journal", ignored);
+    std::filesystem::remove(JournalOf(path_), ignored);
 }
 
-void WriteCopy(Connection& connection, const std::filesystem::path& target) {
-    const TemporaryFile temporary(TemporaryBeside(target));
+void WriteCopy(const std::filesystem::path& source, const std::filesystem::path& target) {
+    std::error_code error;
+    if (std::filesystem::equivalent(source, target, error)) {
+        throw Error("Could not write " + target.string() + ": it is the open adventure itself.");
+    }
+    const auto path = std::filesystem::absolute(target);
+    const TemporaryFile temporary(TemporaryBeside(path));
     {
-        const Statement copy = connection.Compile("VACUUM INTO ?", "write the copy");
+        // A connection of its own, because the open one may be reading, or may be for reading only.
+        Connection connection(source, SQLITE_OPEN_READWRITE);
+        const std::string doing = "write " + target.string();
+        const Statement copy = connection.Compile("VACUUM INTO ?", doing.c_str());
         Connection::Bind(copy.get(), 1, temporary.Path().string());
-        connection.Step(copy.get(), "write the copy");
+        connection.Step(copy.get(), doing.c_str());
     }
     OpenChecked(temporary.Path(), OpenMode::ReadOnly);
-    MoveIntoPlace(temporary.Path(), target);
+    MoveIntoPlace(temporary.Path(), path);
 }
 
 }  // namespace fabula::store

@@ -4,17 +4,17 @@
 
 namespace fabula::store {
 
-class Connection;
-
-/// Writes a copy of the open file to `target` through the database: into a file beside it, checked and on
-/// the disk before it takes the target's place. Throws fabula::Error and leaves `target` as it was.
-void WriteCopy(Connection& connection, const std::filesystem::path& target);
+/// Writes a copy of the adventure file `source`, which may be open, to `target` through the database: into
+/// a file beside it, checked and on the disk before it takes the target's place. Throws fabula::Error and
+/// leaves `target` as it was.
+void WriteCopy(const std::filesystem::path& source, const std::filesystem::path& target);
 
 /// A name beside `target` for a file in the making; it does not exist yet.
 std::filesystem::path TemporaryBeside(const std::filesystem::path& target);
 
 /// Puts a finished file in the place of `target`: its bytes and the change of name are on the disk when
-/// this returns. Throws fabula::Error; `target` is then as it was.
+/// this returns. A journal that was left beside `target` is used up first, as it would spoil the new file.
+/// Throws fabula::Error; `target` is then as it was.
 void MoveIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& target);
 
 /// Deletes a file in the making, with its journal, unless it was moved into place.
