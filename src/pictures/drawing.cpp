@@ -212,6 +212,8 @@ void Drawing::RunFill(void (Fill::*fill)(int, int), Point target, const Glyph& p
     };
     Fill run(canvas_, colourInk, pixelInk, watcher_);
     (run.*fill)(target.x, LineOfY(target.y));
+    if (run.GaveUp())
+        Fail("a fill does not end, since character 143, which marks what is filled, has gaps.");
     canvas_.colour.SetMode(WritingMode::Copy);
 }
 

@@ -14,11 +14,11 @@ class CommandArguments {
                      int scale)
         : drawing_(drawing), command_(command), words_(words), scale_(scale) {}
 
-    int operator[](std::size_t place) const { return Number(place < words_.size() ? words_[place] : ""); }
+    int operator[](std::size_t place) const { return Number(Word(place)); }
 
     /// The number behind the "=" of the first parameter, "sc=4".
     int GoSubScale() const {
-        const std::string_view word = words_.empty() ? "" : words_.front();
+        const std::string_view word = Word(0);
         const std::size_t equals = word.find('=');
         return Number(equals == std::string_view::npos ? "" : word.substr(equals + 1));
     }
@@ -27,6 +27,11 @@ class CommandArguments {
     int Scale() const { return scale_; }
 
   private:
+    /// An empty one where the drawstring ended too early.
+    std::string_view Word(std::size_t place) const {
+        return place < words_.size() ? std::string_view(words_[place]) : std::string_view();
+    }
+
     int Number(std::string_view word) const {
         const std::optional<int> value = ParameterValue(word);
         if (!value) drawing_.Fail("a parameter of " + command_.name + " is missing or is no number.");
@@ -71,7 +76,10 @@ std::span<const Drawing::Routine> Drawing::Routines() {
     return kRoutines;
 }
 
-Drawing::Drawing(const PictureBook& book, DrawWatcher* watcher) : book_(book), watcher_(watcher) {}
+Drawing::Drawing(const PictureBook& book, DrawWatcher* watcher) : book_(book), watcher_(watcher) {
+    state_.inkColour = book.textColor;
+    state_.paperColour = book.backColor;
+}
 
 void Drawing::CommDraw(const Picture& picture, std::string_view drawstring, std::size_t lastWord) {
     if (watcher_ != nullptr) watcher_->Status("Drawing.....");

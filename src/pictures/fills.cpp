@@ -1,7 +1,5 @@
 #include "pictures/fills.h"
 
-#include "platform/error.h"
-
 namespace fabula::pictures {
 
 void Fill::DoShade(int x, int line) {
@@ -49,10 +47,7 @@ void Fill::DrawSpan(Plane& plane, const PatternInk& ink, const Span& span) const
 /// Paints the span around a place on both planes. Its start is looked for from its end, not from the place:
 /// when the place is drawn, the span begins behind it.
 Fill::Span Fill::PaintSpanAt(int along, int at) {
-    if (spansLeft_-- == 0) {
-        throw Error(
-            "A fill does not end: the pattern of character 143, which marks what is filled, has gaps.");
-    }
+    --spansLeft_;
     const int last = FindEnd(along, at, 1);
     const int first = FindEnd(last, at, -1);
     DrawSpan(canvas_.colour, colourInk_, {first, last, at});
@@ -68,7 +63,7 @@ Fill::Span Fill::PaintSpanAt(int along, int at) {
 void Fill::CheckNextLines(const Span& start, int direction, bool turnsAround) {
     const int lines = byColumns_ ? kCanvasWidth : kCanvasHeight;
     std::vector<OpenSpan> open{{start, direction, false, start.first}};
-    while (!open.empty()) {
+    while (!open.empty() && !GaveUp()) {
         OpenSpan& current = open.back();
         const int heading = current.turned ? -current.direction : current.direction;
         const int next = current.span.at + heading;

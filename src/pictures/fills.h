@@ -46,6 +46,10 @@ class Fill {
     /// start.
     void DoQShade(int x, int line);
 
+    /// True when the fill stopped because it painted more spans than a picture has room for. This happens
+    /// when the pixel plane's pattern has gaps, so that nothing keeps the fill from coming back.
+    bool GaveUp() const { return spansLeft_ < 0; }
+
   private:
     /// A run of pixels from `first` to `last` along the fill's scan, on line (or column) `at`.
     struct Span {
@@ -75,7 +79,7 @@ class Fill {
     bool byColumns_ = false;
     int spansLeft_ = kMostSpans;
 
-    /// Each span of a fill but the first paints a pixel that was not drawn before, so there are no more.
+    /// Each span but the first marks a pixel that was not marked before, so an honest fill has no more.
     static constexpr int kMostSpans = kCanvasWidth * kCanvasHeight + 1;
 };
 

@@ -89,6 +89,17 @@ TEST(Paper, EightKeepsThePaperColour) {
     EXPECT_EQ(drawing.State().paperColour, IndexToColour(3));
 }
 
+TEST(Paper, OfAPictureWhoseDefaultIsEightBeginsInTheColourOfTheAdventure) {
+    PictureBook book = TestBook();
+    book.backColor = IndexToColour(5);
+    Picture picture;
+    picture.paper = 8;
+    Drawing drawing(book);
+    drawing.DrawClear(picture);
+    EXPECT_EQ(drawing.Planes().colour.Background(), IndexToColour(8));
+    EXPECT_EQ(drawing.State().paperColour, IndexToColour(5));
+}
+
 TEST(Bright, LeavesThePaperAlone) {
     const Drawing drawing = DrawAndKeep(TestBook(), "PAPER 3 INK 2 BRIGHT 1 END");
     EXPECT_EQ(drawing.State().bright, 1);
@@ -270,6 +281,16 @@ TEST(StoredDrawstring, WithoutTheSolidCharacterCanNotFill) {
     book.characters = {};
     EXPECT_EQ(FaultOf(book, "QFILL 0 0 END"),
               "Picture 12 can't be drawn: no character set has a character 143.");
+}
+
+TEST(StoredDrawstring, WithASolidCharacterThatHasGapsFailsInsteadOfFillingForEver) {
+    PictureBook book = TestBook();
+    book.characters = {};
+    book.characters.Add({0, 143, "Default", {255, 255, 0, 0, 0, 0, 0, 0}});
+    EXPECT_EQ(FaultOf(book, "QFILL 50 50 END"),
+              "Picture 12 can't be drawn: a fill does not end, since character 143, which marks what is "
+              "filled, has "
+              "gaps.");
 }
 
 TEST(StoredDrawstring, ACatalogueThatGivesAWordTooFewParametersFails) {

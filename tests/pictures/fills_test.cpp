@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/error.h"
 #include "test_book.h"
 
 namespace fabula::pictures {
@@ -213,12 +212,29 @@ TEST(Fill, PaintsTheColourPlaneWhereItMarksThePixelPlane) {
     EXPECT_EQ(CountColoured(canvas), CountDrawn(canvas) - before);
 }
 
-TEST(Fill, WhosePixelPatternMarksNothingFailsInsteadOfRunningForEver) {
+TEST(Fill, GivesUpWhenItsPixelPatternMarksNothing) {
     const PatternInk colourInk = SolidInk(2);
     PatternInk pixelInk = SolidInk(kPixelPlaneForeground);
     pixelInk.pattern = {};
     Canvas canvas;
-    EXPECT_THROW(Fill(canvas, colourInk, pixelInk, nullptr).DoQFill(10, 10), Error);
+    Fill endless(canvas, colourInk, pixelInk, nullptr);
+    endless.DoQFill(10, 10);
+    EXPECT_TRUE(endless.GaveUp());
+}
+
+TEST(Fill, OfEverySinglePixelDoesNotGiveUp) {
+    Canvas canvas;
+    const Colour wall = IndexToColour(kPixelPlaneForeground);
+    for (int line = 1; line < kCanvasHeight; line += 2) {
+        for (int x = 0; x < kCanvasWidth; x += 2) {
+            canvas.pixel.Plot(x, line, wall);
+        }
+    }
+    const PatternInk ink = SolidInk(kPixelPlaneForeground);
+    Fill fill(canvas, ink, ink, nullptr);
+    fill.DoQFill(0, 0);
+    EXPECT_FALSE(fill.GaveUp());
+    EXPECT_EQ(CountDrawn(canvas), kCanvasWidth * kCanvasHeight);
 }
 
 TEST(CheckThePoint, ComparesPaletteNumbersAndTakesPointsBeyondThePlaneForEqual) {
