@@ -6,6 +6,9 @@ cd "$(dirname "$0")"
 
 scripts/install_deps.sh test
 
+# The tests write many small files and wait for the disk each time; in memory they need not.
+[ -w /dev/shm ] && export TMPDIR=/dev/shm
+
 build() {
     echo "build: $1"
     cmake --preset "$1" >"build/$1.log" 2>&1 || { cat "build/$1.log"; exit 1; }
