@@ -25,6 +25,8 @@ void MatchesLikeForSqlite(sqlite3_context* context, int, sqlite3_value** argumen
     sqlite3_result_int(context, MatchesLike(TextArgument(arguments[0]), TextArgument(arguments[1])));
 }
 
+constexpr int kMostColumns = 200;
+
 struct Limit {
     int what;
     int most;
@@ -34,7 +36,7 @@ struct Limit {
 constexpr Limit kLimits[] = {
     {SQLITE_LIMIT_LENGTH, static_cast<int>(kLargestBinary) + 1024 * 1024},
     {SQLITE_LIMIT_SQL_LENGTH, 1024 * 1024},
-    {SQLITE_LIMIT_COLUMN, 200},
+    {SQLITE_LIMIT_COLUMN, kMostColumns},
     {SQLITE_LIMIT_EXPR_DEPTH, 1000},
     {SQLITE_LIMIT_COMPOUND_SELECT, 5},
     {SQLITE_LIMIT_ATTACHED, 1},  // a copy is written through one attached file
@@ -174,7 +176,9 @@ void Connection::LoadSchema() {
         const auto* name = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 1));
         const auto* tag = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 2));
         const auto type = FieldTypeFromTag(tag ? tag : "");
-        if (schema == schemas_.end() || !name || !type || schema->second.Find(name)) continue;
+        if (schema == schemas_.end() || !name || !type) continue;
+        // No table has so many columns, so this list is wrong, and is found to be when it is compared.
+        if (schema->second.fields.size() > kMostColumns || schema->second.Find(name)) continue;
         schema->second.fields.push_back({name, *type, sqlite3_column_int(statement.get(), 3)});
     }
 }

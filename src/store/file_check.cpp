@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <fstream>
+#include <optional>
 
 #include <sqlite3.h>
 
@@ -39,6 +39,14 @@ constexpr IndexEntry kIndexes[] = {
     {TableNum::Codes, "FabulaTag"},      {TableNum::Characters, "charkey"},
     {TableNum::Pictures, "locnum"},
 };
+
+/// What the store itself reads of the settings when it opens a file.
+constexpr std::string_view kSettingsNeeded[] = {"adventype",    "graphics",       "charsets",
+                                                "sortobjects",  "sortvocabulary", "sorttables",
+                                                "sortcondacts", "sortcommands"};
+
+/// The end of a journal that belongs to a change of several files at once.
+constexpr std::string_view kSuperJournalMark{"\xd9\xd5\x05\xf9\x20\xa1\x63\xd7", 8};
 
 /// The fields of an index that are text, and so are ordered without regard to case.
 constexpr std::string_view kTextIndexes[] = {"word", "caname", "FabulaTag"};
@@ -103,15 +111,27 @@ void CheckHeader(const std::filesystem::path& file) {
     }
 }
 
+/// Whether a journal beside the file names a further journal. None of this program's does, and the database
+/// would delete the file that is named there.
+bool HasForeignJournal(const std::filesystem::path& file) {
+    std::ifstream stream(std::filesystem::path(file) += "-journal", std::ios::binary);
+    std::array<char, kSuperJournalMark.size()> end{};
+    stream.seekg(-static_cast<std::streamoff>(end.size()), std::ios::end);
+    stream.read(end.data(), end.size());
+    return stream && std::string_view(end.data(), end.size()) == kSuperJournalMark;
+}
+
 std::string TextColumn(sqlite3_stmt* statement, int column) {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
     return text ? text : "";
 }
 
 bool IsIdentifier(std::string_view name) {
-    const auto isLetter = [](unsigned char c) { return std::isalpha(c) || c == '_'; };
-    const auto isLetterOrDigit = [](unsigned char c) { return std::isalnum(c) || c == '_'; };
-    return !name.empty() && isLetter(static_cast<unsigned char>(name.front())) &&
+    const auto isLetter = [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+    };
+    const auto isLetterOrDigit = [&](char c) { return isLetter(c) || (c >= '0' && c <= '9'); };
+    return !name.empty() && isLetter(name.front()) &&
            std::all_of(name.begin(), name.end(), isLetterOrDigit);
 }
 
@@ -119,6 +139,7 @@ bool IsIdentifier(std::string_view name) {
 /// it.
 bool IsPlainTable(Connection& connection, const std::string& name, const std::string& sql) {
     std::string expected = "CREATE TABLE " + name + " (" + std::string(kStoreKey) + " INTEGER PRIMARY KEY";
+    if (!sql.starts_with(expected)) return false;
     const Statement columns =
         connection.Compile("SELECT name, type FROM pragma_table_xinfo(?)", "check the file");
     Connection::Bind(columns.get(), 1, name);
@@ -152,12 +173,24 @@ bool IsPlainSchema(Connection& connection) {
     return tables == AllTables().size();
 }
 
+std::int64_t PragmaNumber(Connection& connection, const std::string& pragma) {
+    const Statement value = connection.Compile("PRAGMA " + pragma, "check the file");
+    return connection.Step(value.get(), "check the file") ? sqlite3_column_int64(value.get(), 0) : 0;
+}
+
+bool IsCutShort(Connection& connection, const std::filesystem::path& file) {
+    const std::int64_t bytes =
+        PragmaNumber(connection, "page_count") * PragmaNumber(connection, "page_size");
+    return std::filesystem::file_size(file) < static_cast<std::uintmax_t>(bytes);
+}
+
 bool HasSoundPages(Connection& connection) {
     const Statement check = connection.Compile("PRAGMA quick_check(1)", "check the file");
     return connection.Step(check.get(), "check the file") && TextColumn(check.get(), 0) == "ok";
 }
 
-/// Whether the list of fields tells of every column, with a type that fits the column's.
+/// Whether the list of fields tells of every column, with a type that fits the column's. From here on the
+/// names of fields are safe to stand in a statement.
 bool FieldsFitColumns(Connection& connection) {
     for (const TableEntry& table : AllTables()) {
         const TableSchema& schema = connection.SchemaOf(table.number);
@@ -167,8 +200,10 @@ bool FieldsFitColumns(Connection& connection) {
         std::size_t count = 0;
         while (connection.Step(columns.get(), "check the file")) {
             const auto field = schema.Find(TextColumn(columns.get(), 0));
-            if (!field || SqlTypeOf(schema.fields[*field].type) != TextColumn(columns.get(), 1))
+            if (!field || !IsIdentifier(schema.fields[*field].name) ||
+                SqlTypeOf(schema.fields[*field].type) != TextColumn(columns.get(), 1)) {
                 return false;
+            }
             ++count;
         }
         if (count != schema.fields.size()) return false;
@@ -182,21 +217,35 @@ bool HasOneRecord(Connection& connection, const char* table) {
     return connection.Step(count.get(), "check the file") && sqlite3_column_int(count.get(), 0) == 1;
 }
 
-bool IsSound(Connection& connection) {
-    if (!IsPlainSchema(connection) || !HasSoundPages(connection)) return false;
-    connection.LoadSchema();
-    return FieldsFitColumns(connection) && HasOneRecord(connection, "Adventure") &&
-           HasOneRecord(connection, "System");
+bool HasSettings(Connection& connection) {
+    const TableSchema& settings = connection.SchemaOf(TableNum::Adventure);
+    return std::all_of(std::begin(kSettingsNeeded), std::end(kSettingsNeeded),
+                       [&](std::string_view field) { return settings.Find(field).has_value(); });
 }
 
-/// What the database said when a check could not even run.
-Refusal RefusalFor(int result) {
+bool IsSound(Connection& connection, const std::filesystem::path& file) {
+    if (!IsPlainSchema(connection) || IsCutShort(connection, file) || !HasSoundPages(connection))
+        return false;
+    connection.LoadSchema();
+    return FieldsFitColumns(connection) && HasSettings(connection) &&
+           HasOneRecord(connection, "Adventure") && HasOneRecord(connection, "System");
+}
+
+/// What the database's answer to a check that could not even run says of the file; nullopt when it is the
+/// machine that failed.
+std::optional<Refusal> RefusalFor(int result) {
     switch (result & 0xff) {
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
             return Refusal::InUse;
         case SQLITE_NOTADB:
             return Refusal::NotAnAdventure;
+        case SQLITE_IOERR:
+        case SQLITE_NOMEM:
+        case SQLITE_FULL:
+        case SQLITE_READONLY:
+        case SQLITE_CANTOPEN:
+            return std::nullopt;
         default:
             return Refusal::Damaged;
     }
@@ -227,17 +276,20 @@ std::vector<std::string> CreateIndexSql() {
 
 std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenMode mode) {
     CheckHeader(file);
+    if (HasForeignJournal(file)) Refuse(Refusal::Damaged, file);
     // A file that was not closed properly is mended by its journal even for a reader, so reading asks for
     // writing too and then switches it off; where the file can't be written, the database falls back by
     // itself.
     auto connection = std::make_unique<Connection>(file, SQLITE_OPEN_READWRITE);
     try {
         connection->Run("PRAGMA cell_size_check=ON; PRAGMA synchronous=EXTRA", "open the adventure");
-        if (!IsSound(*connection)) Refuse(Refusal::Damaged, file);
+        if (!IsSound(*connection, file)) Refuse(Refusal::Damaged, file);
     } catch (const OpenError&) {
         throw;
     } catch (const Error&) {
-        Refuse(RefusalFor(sqlite3_errcode(connection->Handle())), file);
+        const auto reason = RefusalFor(sqlite3_errcode(connection->Handle()));
+        if (reason) Refuse(*reason, file);
+        throw Error("Could not open " + file.string() + ": it can't be read.");
     }
     if (mode == OpenMode::ReadOnly) connection->Run("PRAGMA query_only=ON", "open the adventure");
     return connection;
