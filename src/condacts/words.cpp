@@ -1,5 +1,6 @@
 #include "condacts/words.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -49,6 +50,13 @@ bool IsMovementWord(const Word& word) {
 
 bool IsMovementWordOrReserved(const Word& word) {
     return IsMovementWord(word) || word.type == kReserved;
+}
+
+bool Clashes(const Word& word, std::span<const Word> sameSpelling) {
+    if (word.type != kVerb && word.type != kNoun) return !sameSpelling.empty();
+    return std::any_of(sameSpelling.begin(), sameSpelling.end(), [&](const Word& other) {
+        return other.type == word.type && other.number == word.number;
+    });
 }
 
 WordIndex::WordIndex(std::vector<Word> words) : words_(std::move(words)) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -46,6 +47,10 @@ bool IsAdjectiveOrReserved(const Word& word);
 /// A verb, or a noun that may stand in for one.
 bool IsMovementWord(const Word& word);
 bool IsMovementWordOrReserved(const Word& word);
+
+/// Whether `word` may not stand beside the words of the same spelling: a verb beside a verb of its number, a noun
+/// beside a noun of its number, and a word of any other type beside any word.
+bool Clashes(const Word& word, std::span<const Word> sameSpelling);
 
 /// A vocabulary in memory, in its order: where several words fit, the first in that order is found.
 /// Spelling is compared without regard to case.

@@ -16,6 +16,8 @@ class JobObserver {
     /// Text was added to the status, as it stands, line ends ("\n") included.
     virtual void StatusAdded(std::string_view text) = 0;
     virtual void StatusCleared() = 0;
+    /// A line that tells how far the work is; it is no part of the status.
+    virtual void ProgressLine(std::string_view /*text*/) {}
     /// Called often; must be cheap. `maximum` is 0 while the length of the work is not known.
     virtual void Progress(std::int64_t value, std::int64_t maximum) = 0;
     /// Asked about as often as Progress is told. True ends the job, and what it has made goes.
@@ -59,6 +61,8 @@ class JobStatus {
     void AddFault(std::string_view message, const SourcePlace& place);
     /// A record that is not carried whole.
     void AddLoss(std::string_view message);
+
+    void AddProgressLine(std::string_view text) { observer_.ProgressLine(text); }
 
     /// Sets the bar's end and goes back to its start.
     void StartBar(std::int64_t maximum);

@@ -31,15 +31,17 @@ std::string WithoutBadBytes(const std::string& bytes) {
 
 }  // namespace
 
-SourceFile::SourceFile(const std::filesystem::path& file)
-    : file_(file), stream_(file, std::ios::binary), buffer_(kBufferSize) {
+SourceFile::SourceFile(const std::filesystem::path& file) : file_(file), buffer_(kBufferSize) {
     const std::string doing = "Could not read the source " + file.string();
+    // A pipe or device would wait for ever: only files are opened.
     std::error_code error;
-    if (!stream_ || !std::filesystem::is_regular_file(file, error)) throw Error(doing + ".");
+    if (!std::filesystem::is_regular_file(file, error)) throw Error(doing + ".");
     const std::uintmax_t size = std::filesystem::file_size(file, error);
     if (error) throw Error(doing + ".");
     if (size > kLargestSource) throw Error(doing + ": it is too large.");
     size_ = static_cast<std::int64_t>(size);
+    stream_.open(file, std::ios::binary);
+    if (!stream_) throw Error(doing + ".");
     if (Fill() && std::string_view(buffer_.data(), end_).starts_with(kByteOrderMark)) {
         isUtf8_ = true;
         position_ = kByteOrderMark.size();

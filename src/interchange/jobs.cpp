@@ -1,0 +1,112 @@
+#include "interchange/jobs.h"
+
+#include "platform/error.h"
+#include "store/create.h"
+#include "store/file_copy.h"
+#include "text/str_edit.h"
+
+namespace fabula::interchange {
+namespace {
+
+using store::Adventure;
+using store::Cursor;
+using store::TableNum;
+
+JobResult ResultOf(bool done, const JobStatus& status) {
+    return {done, status.Faults(), status.Losses(), status.Text()};
+}
+
+void SetSaveName(Adventure& adventure, const std::filesystem::path& target) {
+    Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
+    settings.SetField("savename", target.stem().string());
+    settings.Update();
+}
+
+void ApplySettings(Adventure& adventure, const ImportedSettings& imported) {
+    Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
+    settings.SetField("source", std::string(imported.source));
+    if (imported.setsLook) {
+        settings.SetField("backcolor", std::int64_t{imported.backColor});
+        settings.SetField("textcolor", std::int64_t{imported.textColor});
+        settings.SetField("defprintwidth", std::int64_t{imported.printWidth});
+    }
+    settings.Update();
+    Cursor& system = adventure.OpenTable(TableNum::System, "def");
+    system.SetField("flagchange", std::int64_t{imported.flagChange});
+    system.Update();
+}
+
+/// Builds the new adventure in `file`; false when the reader refused its source.
+bool Build(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& file,
+           const std::filesystem::path& target, const JobHost& host, JobStatus& status) {
+    store::CreateAdventure(true, file, kind.setup(source), {host.person, host.clock, host.events, host.defaultData});
+    const auto adventure = Adventure::Open(file);
+    store::Transaction transaction(*adventure);
+    SetSaveName(*adventure, target);
+    ImportContext context{source, *adventure, host.person, status};
+    if (!kind.read(context)) return false;
+    ApplySettings(*adventure, kind.settings);
+    transaction.Commit();
+    return true;
+}
+
+bool IsBlank(const std::filesystem::path& path) { return text::StrEdit(path.string(), "trim").empty(); }
+
+}  // namespace
+
+JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& target,
+                   bool replace, const JobHost& host) {
+    JobStatus status(host.observer);
+    if (IsBlank(source)) {
+        host.person.Tell("Source File not specified", "Error");
+        return ResultOf(false, status);
+    }
+    if (!replace && std::filesystem::exists(target) &&
+        !host.person.Confirm("All information in " + target.string() + " will be deleted.", "Warning")) {
+        return ResultOf(false, status);
+    }
+    status.AddToStatus("CLS");
+    status.AddToStatusCR("Creating default database for " + target.string());
+    status.AddToStatusCR("This will take a few minutes.");
+    const store::TemporaryFile making(store::TemporaryBeside(target));
+    bool done = false;
+    try {
+        done = Build(kind, source, making.Path(), target, host, status);
+        if (done) store::MoveIntoPlace(making.Path(), target);
+    } catch (const JobCancelled&) {
+        status.AddToStatusCR("Import cancelled");
+    } catch (const TooManyFaults&) {
+        status.AddToStatusCR("Too many errors. Import aborted.");
+    } catch (const Error& error) {
+        status.AddToStatusCR(error.what());
+        status.AddToStatusCR("Deleting bad database");
+        throw;
+    }
+    if (done) {
+        host.person.Tell(source.filename().string() + " Loaded", "Fabula");
+    } else {
+        status.AddToStatusCR("Deleting bad database");
+    }
+    return ResultOf(done, status);
+}
+
+JobResult ExportIt(const FileKind& kind, Adventure& adventure, const std::filesystem::path& target,
+                   const Verifier& verify, const JobHost& host) {
+    JobStatus status(host.observer);
+    status.AddToStatus("CLS");
+    if (IsBlank(target)) {
+        host.person.Tell("Source File not specified", "Error");
+        return ResultOf(false, status);
+    }
+    try {
+        const bool passed = verify(adventure, kind, status);
+        ExportContext context{adventure, target, host.person, status};
+        const bool done = passed && kind.write(context);
+        return ResultOf(done, status);
+    } catch (const JobCancelled&) {
+        status.AddToStatusCR("Export cancelled");
+        return ResultOf(false, status);
+    }
+}
+
+}  // namespace fabula::interchange

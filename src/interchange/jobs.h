@@ -1,0 +1,47 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "interchange/file_kinds.h"
+#include "interchange/job_status.h"
+#include "platform/clock.h"
+#include "platform/event_pump.h"
+#include "platform/operator.h"
+#include "store/adventure.h"
+
+namespace fabula::interchange {
+
+/// What jobs need of their surroundings.
+struct JobHost {
+    platform::Operator& person;
+    const platform::Clock& clock;
+    platform::EventPump& events;
+    JobObserver& observer;
+    std::filesystem::path defaultData;  ///< the file Fabula.ini
+};
+
+struct JobResult {
+    bool done = false;
+    int faults = 0;  ///< lines of the source that were left out
+    int losses = 0;  ///< records that the target does not carry whole
+    std::string status;
+};
+
+/// Reads `source` into a new adventure file. It is made beside `target` and takes its place when all is well; else
+/// nothing is left of it, and `target` is as it was. An existing target is replaced after the operator agreed, or at
+/// once with `replace`. What is open elsewhere stays open.
+///
+/// A failing machine is told in the status and thrown as fabula::Error.
+JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& target,
+                   bool replace, const JobHost& host);
+
+/// Checks an adventure for export to a kind, writes what it finds into the status, and gives true when it may go.
+using Verifier = std::function<bool(store::Adventure&, const FileKind&, JobStatus&)>;
+
+/// Verifies `adventure` for the kind and writes it to `target`, which is replaced when the file is complete.
+JobResult ExportIt(const FileKind& kind, store::Adventure& adventure, const std::filesystem::path& target,
+                   const Verifier& verify, const JobHost& host);
+
+}  // namespace fabula::interchange

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "interchange/keyed_table.h"
+#include "interchange/pc_source_job.h"
+
+namespace fabula::interchange {
+
+/// "/CON": a line "/n" for a location, then lines "word destination", one exit or several.
+class PcConnections final : public PcSection {
+  public:
+    explicit PcConnections(PcSourceJob& job) : job_(job) {}
+
+    void Begin(const std::vector<std::string_view>& words) override;
+    void Slash(std::string_view line) override;
+    void Line(std::string_view line) override;
+    void Finish() override;
+
+  private:
+    void AddExit(std::string_view word, std::string_view destination);
+    void Flush();
+
+    PcSourceJob& job_;
+    std::unique_ptr<KeyedTable> locations_;
+    std::optional<std::int64_t> location_;
+    std::string exits_;
+    std::string numericExits_;
+    std::int64_t tokens_ = 0;
+};
+
+}  // namespace fabula::interchange

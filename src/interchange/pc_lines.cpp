@@ -1,0 +1,102 @@
+#include "interchange/pc_lines.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/error.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::interchange {
+namespace {
+
+constexpr std::string_view kLink = "/LNK";
+
+/// True when `path` lies in `folder` or below; both are canonical.
+bool LiesIn(const std::filesystem::path& path, const std::filesystem::path& folder) {
+    return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first == folder.end();
+}
+
+bool IsLink(std::string_view line) {
+    return text::EqualsNoCase(line.substr(0, kLink.size()), kLink) &&
+           (line.size() == kLink.size() || line[kLink.size()] == ' ' || line[kLink.size()] == '\t');
+}
+
+}  // namespace
+
+PcLines::PcLines(const std::filesystem::path& source, char comment, std::string kind, JobStatus& status)
+    : comment_(comment), kind_(std::move(kind)), status_(status), source_(source) {
+    std::error_code error;
+    folder_ = std::filesystem::weakly_canonical(std::filesystem::absolute(source).parent_path(), error);
+    Open(source);
+}
+
+void PcLines::Open(const std::filesystem::path& file) {
+    file_ = std::make_unique<SourceFile>(file);
+    std::error_code error;
+    read_.insert(std::filesystem::weakly_canonical(std::filesystem::absolute(file), error));
+    status_.AddToStatusCR("Loading " + kind_ + " Source " + file.string());
+    status_.StartBar(file_->Size());
+}
+
+bool PcLines::RdSrcFile(std::string& line, bool skipBlank) {
+    while (!failed_ && file_->Next(whole_)) {
+        status_.SetBar(file_->BytesRead());
+        line = whole_;
+        if (!CutComment(line)) continue;
+        if (IsLink(line)) {
+            Follow(line);
+            continue;
+        }
+        if (skipBlank && TrimRight(line).empty()) continue;
+        return true;
+    }
+    return false;
+}
+
+/// False for a line that is nothing but a comment.
+bool PcLines::CutComment(std::string& line) {
+    const std::size_t start = line.find(comment_);
+    if (start == std::string::npos) return true;
+    if (start == 0) TakeName(std::string_view(line).substr(1));
+    line.resize(TrimRight(std::string_view(line).substr(0, start)).size());
+    return !line.empty();
+}
+
+void PcLines::TakeName(std::string_view comment) {
+    comment = text::TrimBlanks(comment);
+    if (adventureName_.empty() && comment.starts_with(kAdventureNameMark)) {
+        adventureName_ = comment.substr(kAdventureNameMark.size());
+    }
+}
+
+void PcLines::Follow(const std::string& line) {
+    const auto words = SplitWords(line);
+    const SourcePlace place = Place();
+    failed_ = true;
+    if (words.size() < 2) {
+        status_.AddFault("ERROR: The link names no file.", place);
+        return;
+    }
+    std::string name(words[1]);
+    std::replace(name.begin(), name.end(), '\\', '/');
+    if (name.find('.') == std::string::npos) name += source_.extension().string();
+    std::error_code error;
+    const auto file = std::filesystem::weakly_canonical(folder_ / name, error);
+    if (error || !LiesIn(file, folder_)) {
+        status_.AddFault("ERROR: The link leaves the folder of the source.", place);
+        return;
+    }
+    if (read_.contains(file)) {
+        status_.AddFault("ERROR: The link goes back to a file that was read.", place);
+        return;
+    }
+    try {
+        Open(file);
+        failed_ = false;
+    } catch (const Error& problem) {
+        status_.AddFault("ERROR: " + std::string(problem.what()), place);
+    }
+}
+
+}  // namespace fabula::interchange

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "interchange/job_status.h"
+#include "interchange/source_file.h"
+
+namespace fabula::interchange {
+
+/// The lines of a PC or ACE source: comments cut off, and the files that "/LNK" names read behind one another. A link
+/// replaces the rest of its file. It must name a file in the source's folder or below that was not read before; any
+/// other is a fault that ends the reading.
+class PcLines {
+  public:
+    /// `kind` stands in the status line of each file.
+    PcLines(const std::filesystem::path& source, char comment, std::string kind, JobStatus& status);
+
+    /// The next line; false behind the last. With `skipBlank` blank lines are left out.
+    bool RdSrcFile(std::string& line, bool skipBlank);
+
+    /// Where the latest line stands, as the file has it.
+    SourcePlace Place() const { return {file_->File(), file_->LineNumber(), whole_}; }
+
+    /// A link could not be followed.
+    bool Failed() const { return failed_; }
+
+    /// The game's name, when a comment at the head tells it as the writer of these files does.
+    const std::string& AdventureName() const { return adventureName_; }
+
+  private:
+    void Open(const std::filesystem::path& file);
+    bool CutComment(std::string& line);
+    void TakeName(std::string_view comment);
+    void Follow(const std::string& line);
+
+    char comment_;
+    std::string kind_;
+    JobStatus& status_;
+    std::filesystem::path source_;
+    std::filesystem::path folder_;
+    std::unique_ptr<SourceFile> file_;
+    std::set<std::filesystem::path> read_;
+    std::string whole_;
+    std::string adventureName_;
+    bool failed_ = false;
+};
+
+/// What stands in front of the game's name in a comment.
+inline constexpr std::string_view kAdventureNameMark = "Adventure Name: ";
+
+}  // namespace fabula::interchange

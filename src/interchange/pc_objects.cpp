@@ -1,0 +1,109 @@
+#include "interchange/pc_objects.h"
+
+#include <optional>
+
+#include "condacts/convert.h"
+#include "condacts/parser.h"
+#include "text/utf8.h"
+
+namespace fabula::interchange {
+namespace {
+
+using condacts::Word;
+using store::Cursor;
+
+constexpr int kHeaviest = 63;
+constexpr std::size_t kTokensNeeded = 6;
+
+struct NamedPlace {
+    std::string_view word;
+    int number;
+    std::string_view description;
+};
+
+constexpr NamedPlace kPlaces[] = {
+    {"252", condacts::kNotCreated, "Not created."}, {"NOTCR", condacts::kNotCreated, "Not created."},
+    {"253", condacts::kWorn, "Worn."},              {"WORN", condacts::kWorn, "Worn."},
+    {"254", condacts::kCarried, "Carried."},        {"CARRIED", condacts::kCarried, "Carried."},
+};
+
+bool IsYes(std::string_view token) { return text::EqualsNoCase(token, "Y"); }
+
+void SetWord(Cursor& object, const char* textField, const char* numberField, const Word* word) {
+    object.SetField(textField, word == nullptr ? std::string(condacts::kNoWord) : word->word);
+    object.SetField(numberField, std::int64_t{word == nullptr ? condacts::kNoWordNumber : word->number});
+}
+
+}  // namespace
+
+void PcObjects::Begin(const std::vector<std::string_view>&) {
+    objects_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Objects, "objnum");
+}
+
+void PcObjects::Slash(std::string_view line) {
+    const auto tokens = SplitSlashLine(line);
+    const std::optional<std::int64_t> number = RecordNumber(tokens);
+    if (!number || tokens.size() < kTokensNeeded || !objects_->Has(*number)) {
+        job_.Fault(kBadLine);
+        return;
+    }
+    const std::optional<int> weight = condacts::WholeNumber(tokens[2]);
+    if (!weight || *weight > kHeaviest) {
+        job_.Fault("Weight must be from 0 to 63");
+        return;
+    }
+    Cursor& object = objects_->GoTo(*number);
+    if (!SetLocation(object, tokens[1])) {
+        object.CancelUpdate();
+        job_.Fault("Invalid location");
+        return;
+    }
+    object.SetField("objweight", std::int64_t{*weight});
+    SetAttributes(object, IsYes(tokens[3]), IsYes(tokens[4]));
+    SetWords(object, *number, tokens[5], tokens.size() > kTokensNeeded ? tokens[6] : condacts::kNoWord);
+    objects_->Update();
+}
+
+void PcObjects::Line(std::string_view) { job_.Fault(kBadLine); }
+
+bool PcObjects::SetLocation(Cursor& object, std::string_view location) {
+    for (const NamedPlace& place : kPlaces) {
+        if (!text::EqualsNoCase(place.word, location)) continue;
+        object.SetField("objloc", std::int64_t{place.number});
+        object.SetField("objlocdesc", std::string(place.description));
+        return true;
+    }
+    const std::optional<int> number = condacts::WholeNumber(location);
+    if (!number || *number == condacts::kHere || *number > kHighestRecord) return false;
+    object.SetField("objloc", std::int64_t{*number});
+    object.SetField("objlocdesc", "At " + std::to_string(*number) + ".");
+    return true;
+}
+
+void PcObjects::SetAttributes(Cursor& object, bool container, bool wearable) {
+    object.SetField("objattr", std::string(container ? "C" : "") + (wearable ? "WR" : ""));
+    object.SetField("objattrn", std::int64_t{(container ? 1 : 0) + (wearable ? 2 : 0)});
+}
+
+void PcObjects::SetWords(Cursor& object, std::int64_t number, std::string_view noun, std::string_view adjective) {
+    const Word* nounFound = FindWord(noun, condacts::IsNounOrReserved);
+    const Word* adjectiveFound = FindWord(adjective, condacts::IsAdjectiveOrReserved);
+    const std::string shown = " shown for object " + std::to_string(number);
+    if (nounFound == nullptr) {
+        job_.Fault("ERROR: Noun" + shown + " is not a Noun.\nNoun and Adjective set to _");
+        adjectiveFound = nullptr;
+    } else if (adjectiveFound == nullptr) {
+        job_.Fault("ERROR: Adjective" + shown + " is not an Adjective.\nAdjective set to _");
+    }
+    SetWord(object, "objnoun", "objnumnoun", nounFound);
+    SetWord(object, "objadject", "objnumadject", adjectiveFound);
+}
+
+const Word* PcObjects::FindWord(std::string_view word, condacts::WordTest test) const {
+    if (job_.IsNullWord(word)) word = condacts::kNoWord;
+    return job_.words.Find(job_.Word(word), test);
+}
+
+void PcObjects::Finish() { job_.Status("Loaded Vel Source Object Definitions"); }
+
+}  // namespace fabula::interchange

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+
+#include "interchange/keyed_table.h"
+#include "interchange/pc_source_job.h"
+
+namespace fabula::interchange {
+
+/// "/OBJ": lines "/n location weight container wearable noun adjective". The location is a number, WORN or CARRIED;
+/// container and wearable are "Y" or not. An adjective that is missing is the word for none.
+class PcObjects final : public PcSection {
+  public:
+    explicit PcObjects(PcSourceJob& job) : job_(job) {}
+
+    void Begin(const std::vector<std::string_view>& words) override;
+    void Slash(std::string_view line) override;
+    void Line(std::string_view line) override;
+    void Finish() override;
+
+  private:
+    bool SetLocation(store::Cursor& object, std::string_view location);
+    void SetAttributes(store::Cursor& object, bool container, bool wearable);
+    void SetWords(store::Cursor& object, std::int64_t number, std::string_view noun, std::string_view adjective);
+    const condacts::Word* FindWord(std::string_view word, condacts::WordTest test) const;
+
+    PcSourceJob& job_;
+    std::unique_ptr<KeyedTable> objects_;
+};
+
+}  // namespace fabula::interchange

@@ -1,0 +1,175 @@
+#include "interchange/pc_processes.h"
+
+#include <optional>
+
+#include "condacts/parser.h"
+#include "interchange/condact_text.h"
+#include "text/utf8.h"
+
+namespace fabula::interchange {
+namespace {
+
+using condacts::CondAct;
+using condacts::Converted;
+using condacts::ParsedLine;
+using condacts::Statement;
+using condacts::Word;
+using store::Cursor;
+using store::TableNum;
+
+constexpr std::string_view kBell = "BELL";
+constexpr std::string_view kInPlaceOfBell = "BEEP 120 100";
+constexpr int kLastDescribedByDefault = 2;
+
+condacts::Catalogue WithBell(const condacts::Catalogue& catalogue) {
+    std::vector<CondAct> condActs = catalogue.All();
+    CondAct bell;
+    bell.number = -1;
+    bell.name = kBell;
+    condActs.push_back(bell);
+    return condacts::Catalogue(std::move(condActs));
+}
+
+std::string_view TextOf(const ParsedLine& parsed, const Statement& statement, std::string_view line) {
+    const condacts::Token& last = parsed.tokens[statement.name + statement.paramsGiven];
+    const std::size_t start = parsed.tokens[statement.name].position;
+    return line.substr(start, last.position + last.text.size() - start);
+}
+
+void Append(std::string& line, std::string_view more) {
+    if (!line.empty() && !more.empty()) line += ' ';
+    line += more;
+}
+
+}  // namespace
+
+PcProcesses::PcProcesses(PcSourceJob& job) : job_(job), withBell_(WithBell(job.catalogue)) {}
+
+void PcProcesses::Begin(const std::vector<std::string_view>& words) {
+    Flush();
+    if (!entries_) {
+        entries_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcessTables, "canum");
+        descriptions_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcDesc, "pmsgnum");
+    }
+    skipping_ = process_ >= kHighestProcess;
+    if (skipping_) {
+        job_.Fault("ERROR: Too many process tables.");
+        return;
+    }
+    ++process_;
+    const auto number = words.size() > 1 ? condacts::WholeNumber(words[1]) : std::nullopt;
+    if (number != process_) {
+        job_.Status("Changed Process # from " + std::string(words.size() > 1 ? words[1] : "") + " to " +
+                    std::to_string(process_));
+    }
+    if (process_ > kLastDescribedByDefault && !descriptions_->Has(process_)) {
+        descriptions_->Add(process_).SetField("pmsgmsg", std::string(" "));
+        descriptions_->Update();
+    }
+}
+
+void PcProcesses::Slash(std::string_view) {
+    Flush();
+    job_.Fault(kBadLine);
+}
+
+void PcProcesses::Line(std::string_view line) {
+    if (skipping_) return;
+    if (line.front() != ' ' && line.front() != '\t') {
+        Flush();
+        BeginEntry(line);
+    } else if (entry_) {
+        AddCondActs(line);
+    } else {
+        job_.Fault(kBadLine);
+    }
+}
+
+void PcProcesses::BeginEntry(std::string_view line) {
+    entry_ = std::make_unique<Entry>();
+    const auto tokens = SplitWords(line);
+    if (tokens.size() < 2) {
+        entry_->good = false;
+        job_.Fault(kBadLine);
+        return;
+    }
+    entry_->w1 = job_.IsNullWord(tokens[0]) ? std::string(condacts::kNoWord) : job_.Word(tokens[0]);
+    entry_->w2 = job_.IsNullWord(tokens[1]) ? std::string(condacts::kNoWord) : job_.Word(tokens[1]);
+    entry_->w1Number = condacts::kNoWordNumber;
+    entry_->w2Number = condacts::kNoWordNumber;
+    if (entry_->w1 != condacts::kNoWord) {
+        const Word* verb = job_.words.Find(entry_->w1, condacts::IsMovementWordOrReserved);
+        if (verb == nullptr) return Refuse("Word1 (" + entry_->w1 + ") not a verb");
+        entry_->w1Number = verb->number;
+    }
+    if (entry_->w2 != condacts::kNoWord) {
+        const Word* noun = job_.words.Find(entry_->w2, condacts::IsNounOrReserved);
+        if (noun == nullptr) return Refuse("Word2 (" + entry_->w2 + ") is not a Noun");
+        entry_->w2Number = noun->number;
+    }
+    if (tokens.size() > 2) AddCondActs(line.substr(static_cast<std::size_t>(tokens[2].data() - line.data())));
+}
+
+void PcProcesses::AddCondActs(std::string_view line) {
+    if (!entry_->good) return;
+    const std::string upper = text::UpperCase(WithoutBells(line));
+    const Converted source = ConvertCAs(upper, job_.catalogue);
+    if (!source.ok) return Refuse(source.errors);
+    const std::string condActs = condacts::LocationWordsToNumbers(source.line, job_.catalogue);
+    const Converted numeric = condacts::CondActsToNumeric(condActs, job_.catalogue, job_.words);
+    if (!numeric.ok) return Refuse(numeric.errors);
+    const ParsedLine parsed = condacts::ParseLine(condActs, job_.catalogue);
+    for (const Statement& statement : parsed.statements) {
+        job_.analysis.CheckForFlags(TextOf(parsed, statement, condActs));
+    }
+    Append(entry_->condActs, condActs);
+    Append(entry_->numeric, numeric.line);
+}
+
+/// The line with each BELL replaced.
+std::string PcProcesses::WithoutBells(std::string_view line) {
+    const ParsedLine parsed = condacts::ParseLine(line, withBell_);
+    std::string result;
+    std::size_t written = 0;
+    for (const Statement& statement : parsed.statements) {
+        if (statement.condAct->name != kBell) continue;
+        hadBell_ = true;
+        const condacts::Token& bell = parsed.tokens[statement.name];
+        result += line.substr(written, bell.position - written);
+        result += kInPlaceOfBell;
+        written = bell.position + bell.text.size();
+    }
+    return result.append(line.substr(written));
+}
+
+/// The entry at hand does not come in; its other lines are passed over.
+void PcProcesses::Refuse(const std::string& why) {
+    job_.Fault(why);
+    job_.Status("Record " + entry_->w1 + " " + entry_->w2);
+    job_.Status("Record Deleted");
+    entry_->good = false;
+}
+
+void PcProcesses::Flush() {
+    if (entry_ && entry_->good) {
+        Cursor& record = entries_->Add(entries_->HighestKey() + 1);
+        record.SetField("estype", std::int64_t{process_});
+        record.SetField("w1", entry_->w1);
+        record.SetField("w2", entry_->w2);
+        record.SetField("w1num", std::int64_t{entry_->w1Number});
+        record.SetField("w2num", std::int64_t{entry_->w2Number});
+        record.SetField("numcas", std::int64_t{condacts::CountTokens(entry_->condActs)});
+        record.SetField("condacts", entry_->condActs);
+        record.SetField("numericcondacts", entry_->numeric);
+        entries_->Update();
+    }
+    entry_.reset();
+}
+
+void PcProcesses::Finish() {
+    Flush();
+    job_.Status("Loaded " + std::string(job_.dialect.kind) + " Source Process Tables.");
+    if (hadBell_) job_.Status("All BELL Actions have been converted to BEEP 120 100");
+}
+
+}  // namespace fabula::interchange

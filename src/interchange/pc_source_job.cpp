@@ -1,0 +1,23 @@
+#include "interchange/pc_source_job.h"
+
+#include "condacts/parser.h"
+#include "text/utf8.h"
+
+namespace fabula::interchange {
+
+std::string PcSourceJob::Word(std::string_view word) const {
+    return text::UpperCase(text::Left(word, dialect.letters));
+}
+
+bool PcSourceJob::IsNullWord(std::string_view word) const { return word == nullWord || word == condacts::kNoWord; }
+
+std::vector<std::string_view> SplitSlashLine(std::string_view line) { return SplitWords(line.substr(1)); }
+
+std::optional<std::int64_t> RecordNumber(const std::vector<std::string_view>& words) {
+    if (words.empty()) return std::nullopt;
+    const std::optional<int> number = condacts::WholeNumber(words[0]);
+    if (!number || *number > kHighestRecord) return std::nullopt;
+    return *number;
+}
+
+}  // namespace fabula::interchange

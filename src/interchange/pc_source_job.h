@@ -1,0 +1,79 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "condacts/catalogue.h"
+#include "condacts/words.h"
+#include "interchange/ace_tags.h"
+#include "interchange/flag_analysis.h"
+#include "interchange/job_host.h"
+#include "interchange/pc_lines.h"
+
+namespace fabula::interchange {
+
+/// What sets the two kinds of source apart.
+struct PcDialect {
+    std::string_view kind;    ///< in status lines
+    char comment;
+    std::size_t letters;      ///< how many letters of a word count
+    bool hasTags;             ///< texts hold the tags of ACE sources
+    bool getsScriptCommands;  ///< the game gets the words and entries that control scripts
+};
+
+inline constexpr PcDialect kPcSource{"PCVEL", ';', 5, false, true};
+inline constexpr PcDialect kAceSource{"ACE", '#', 30, true, false};
+
+/// The highest number of a location, object or message, and of a process table.
+inline constexpr std::int64_t kHighestRecord = 999;
+inline constexpr int kHighestProcess = 256;
+
+/// What the sections of a source share while it is read.
+struct PcSourceJob {
+    ImportContext& context;
+    PcLines& lines;
+    const PcDialect& dialect;
+    condacts::Catalogue catalogue;
+    FlagAnalysis analysis;
+    std::optional<AceTags> tags;  ///< of sources that have tags
+    condacts::WordIndex words;    ///< the vocabulary, once its section is read
+    std::string nullWord = std::string(condacts::kNoWord);
+
+    /// Reports the line at hand.
+    void Fault(const std::string& message) const { context.status.AddFault(message, lines.Place()); }
+    void Status(const std::string& text) const { context.status.AddToStatusCR(text); }
+
+    /// A word as it counts: in capitals, cut.
+    std::string Word(std::string_view word) const;
+    bool IsNullWord(std::string_view word) const;
+};
+
+/// The number behind the "/" of a line "/n"; nullopt when it has none or one beyond kHighestRecord.
+std::optional<std::int64_t> RecordNumber(const std::vector<std::string_view>& words);
+
+/// The words of a "/" line, the first without its "/".
+std::vector<std::string_view> SplitSlashLine(std::string_view line);
+
+/// Told of a line that is not as it must be.
+inline constexpr const char* kBadLine = "ERROR: This line can't be understood.";
+
+/// One section of a source.
+class PcSection {
+  public:
+    virtual ~PcSection() = default;
+
+    /// True where a blank line is part of the content.
+    virtual bool TakesBlankLines() const { return false; }
+    /// The section's keyword was met; `words` are those of its line, the keyword first.
+    virtual void Begin(const std::vector<std::string_view>& words) = 0;
+    /// A line that begins with "/" and is no keyword.
+    virtual void Slash(std::string_view line) = 0;
+    virtual void Line(std::string_view line) = 0;
+    /// Another section begins, or the source ends.
+    virtual void Finish() = 0;
+};
+
+}  // namespace fabula::interchange
