@@ -1,0 +1,258 @@
+#include "engine/game_data.h"
+
+#include <charconv>
+#include <limits>
+#include <optional>
+
+#include "condacts/convert.h"
+#include "condacts/load.h"
+#include "engine/shown_text.h"
+#include "platform/error.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::engine {
+
+using store::PreparedQuery;
+using store::TableNum;
+
+namespace {
+
+constexpr int kHighestProcess = 256;
+constexpr int kHighestRecord = std::numeric_limits<std::int16_t>::max();
+constexpr int kHighestCondAct = 999;
+
+[[noreturn]] void Refuse(const std::string& what) {
+    throw Error("The game can't be played: " + what + ".");
+}
+
+std::int16_t Number16(std::int64_t value, const std::string& what) {
+    if (value < std::numeric_limits<std::int16_t>::min() ||
+        value > std::numeric_limits<std::int16_t>::max()) {
+        Refuse(what + " is " + std::to_string(value) + ", which is out of range");
+    }
+    return static_cast<std::int16_t>(value);
+}
+
+/// A record's number, which sizes what is kept of the records.
+std::size_t RecordNumber(std::int64_t value, const char* kind) {
+    if (value < 0 || value > kHighestRecord) {
+        Refuse(std::string("there is a ") + kind + " " + std::to_string(value));
+    }
+    return static_cast<std::size_t>(value);
+}
+
+/// Appends the numbers of a text of blank-separated numbers, at most `most` of them. Returns how many.
+std::uint32_t AppendNumbers(std::string_view text, std::int64_t most, std::vector<std::int16_t>& numbers,
+                            const std::string& what) {
+    std::uint32_t count = 0;
+    std::size_t at = 0;
+    while (count < most) {
+        while (at < text.size() && static_cast<unsigned char>(text[at]) <= ' ')
+            ++at;
+        if (at >= text.size()) break;
+        std::int64_t value = 0;
+        const auto [end, error] = std::from_chars(text.data() + at, text.data() + text.size(), value);
+        const auto next = static_cast<std::size_t>(end - text.data());
+        if (error != std::errc{} || (next < text.size() && static_cast<unsigned char>(text[next]) > ' ')) {
+            Refuse(what + " holds something that is no number");
+        }
+        numbers.push_back(Number16(value, what));
+        at = next;
+        ++count;
+    }
+    return count;
+}
+
+/// A text field without a value holds one blank.
+std::string Filled(std::string_view text) {
+    return std::string(text::TrimBlanks(text));
+}
+
+GameType TypeOf(const store::Adventure& adventure) {
+    const std::string& type = adventure.AdventureTypeLower();
+    if (type == "marlo") return GameType::Marlo;
+    if (type == "vel") return GameType::Vel;
+    return GameType::Fabula;
+}
+
+int SignificantLetters(GameType type) {
+    switch (type) {
+        case GameType::Marlo:
+            return 4;
+        case GameType::Vel:
+            return 5;
+        case GameType::Fabula:
+            break;
+    }
+    return 30;
+}
+
+}  // namespace
+
+GameData::GameData(store::Adventure& adventure)
+    : type(TypeOf(adventure)), significantLetters(SignificantLetters(type)) {
+    ReadSettings(adventure);
+    ReadSoundSettings(adventure);
+    ReadCodes(adventure);
+    ReadConjunctions(adventure);
+    ReadCondActParams(adventure);
+    ReadObjects(adventure);
+    ReadLocations(adventure);
+    ReadProcesses(adventure);
+}
+
+void GameData::ReadSettings(store::Adventure& adventure) {
+    PreparedQuery row = adventure.Prepare(
+        TableNum::Adventure,
+        "advname, Version, author, savename, startloc, maxobj, maxweight, Font, FontSize, BackColor, "
+        "textcolor, defprintwidth, defpickey, defpicloc, graphics, charsets, sound",
+        "");
+    if (!row.First({})) Refuse("it has no settings");
+    title = std::string(row.Text(0)) + " (Version " + std::string(row.Text(1)) + ")";
+    if (const std::string author = Filled(row.Text(2)); !author.empty()) title += " by " + author;
+    saveName = CollapseBlanks(row.Text(3));  // a line of saved games
+    startLocation = Number16(row.Number(4), "startloc");
+    maxObjects = Number16(row.Number(5), "maxobj");
+    maxWeight = Number16(row.Number(6), "maxweight");
+    font = Number16(row.Number(7), "Font");
+    fontSize = Number16(row.Number(8), "FontSize");
+    backColor = Number16(row.Number(9), "BackColor");
+    textColor = Number16(row.Number(10), "textcolor");
+    printWidth = Number16(row.Number(11), "defprintwidth");
+    if (!Filled(row.Text(12)).empty()) defaultPicture = Filled(row.Text(13));
+    graphics = row.Number(14) != 0;
+    characterSets = row.Number(15) != 0;
+    sound = row.Number(16) != 0;
+
+    PreparedQuery flags = adventure.Prepare(TableNum::Flags, "flgnum", "");
+    for (bool more = flags.First({}); more; more = flags.Next())
+        ++flagCount;
+    if (flagCount > kHighestRecord) Refuse("it has " + std::to_string(flagCount) + " flags");
+}
+
+void GameData::ReadSoundSettings(store::Adventure& adventure) {
+    PreparedQuery row = adventure.Prepare(
+        TableNum::Adventure,
+        "defsndchan, defsnddev, defsndvoice, defsndvol, defsndbal, defsndbass, defsnddevname", "");
+    row.First({});
+    soundSettings = {
+        .channel = Number16(row.Number(0), "defsndchan"),
+        .device = Number16(row.Number(1), "defsnddev"),
+        .deviceName = std::string(row.Text(6)),
+        .voice = Number16(row.Number(2), "defsndvoice"),
+        .volume = Number16(row.Number(3), "defsndvol"),
+        .balance = Number16(row.Number(4), "defsndbal"),
+        .bass = Number16(row.Number(5), "defsndbass"),
+    };
+}
+
+void GameData::ReadCodes(store::Adventure& adventure) {
+    PreparedQuery row =
+        adventure.Prepare(TableNum::Codes, "codenum, FontName, FontSize, FabulaTag", "", "codenum");
+    for (bool more = row.First({}); more; more = row.Next()) {
+        const int code = Number16(row.Number(0), "codenum");
+        if (!row.Text(1).empty()) fontNames.emplace(code, row.Text(1));
+        fontSizes.emplace(code, Number16(row.Number(2), "FontSize of code " + std::to_string(code)));
+        if (!row.Text(3).empty()) tags.push_back({text::LowerCase(row.Text(3)), code});
+    }
+}
+
+void GameData::ReadConjunctions(store::Adventure& adventure) {
+    PreparedQuery row =
+        adventure.Prepare(TableNum::Vocabulary, "Word", "voctypen=5", "voctypen, vocnum, word");
+    for (bool more = row.First({}); more; more = row.Next()) {
+        if (!row.Text(0).empty()) conjunctions.emplace_back(row.Text(0));
+    }
+}
+
+void GameData::ReadCondActParams(store::Adventure& adventure) {
+    condActParams.assign(kHighestCondAct + 1, kUnknownCondAct);
+    PreparedQuery row = adventure.Prepare(TableNum::CondActs, "canum, canumparam", "", "canum");
+    for (bool more = row.First({}); more; more = row.Next()) {
+        const std::int64_t number = row.Number(0);
+        const std::int64_t params = row.Number(1);
+        if (number < 0 || number > kHighestCondAct || params < 0 || params > 2) {
+            Refuse("condition or action " + std::to_string(number) + " has " + std::to_string(params) +
+                   " parameters");
+        }
+        condActParams[static_cast<std::size_t>(number)] = static_cast<std::int8_t>(params);
+    }
+}
+
+void GameData::ReadObjects(store::Adventure& adventure) {
+    PreparedQuery row = adventure.Prepare(
+        TableNum::Objects, "objnum, objloc, objweight, objattrn, objnumnoun, objnumadject", "", "objnum");
+    for (bool more = row.First({}); more; more = row.Next()) {
+        const std::size_t number = RecordNumber(row.Number(0), "object");
+        const std::string what = "object " + std::to_string(number) + ", ";
+        // Object numbers that are left out are objects that are nowhere and that no word names.
+        if (objects.size() <= number) objects.resize(number + 1, {252, 0, 0, 0, 0});
+        objects[number] = {
+            .startPlace = Number16(row.Number(1), what + "objloc"),
+            .weight = Number16(row.Number(2), what + "objweight"),
+            .attributes = Number16(row.Number(3), what + "objattrn"),
+            .noun = Number16(row.Number(4), what + "objnumnoun"),
+            .adjective = Number16(row.Number(5), what + "objnumadject"),
+        };
+    }
+}
+
+void GameData::ReadLocations(store::Adventure& adventure) {
+    PreparedQuery row = adventure.Prepare(
+        TableNum::Locations, "locnum, numexits, numericexits, pickey, picloc", "locnum>=0", "locnum");
+    for (bool more = row.First({}); more; more = row.Next()) {
+        const std::size_t number = RecordNumber(row.Number(0), "location");
+        if (locations.size() <= number) {
+            locations.resize(number + 1);
+            pictures.resize(number + 1);
+        }
+        LocationData& location = locations[number];
+        location = {.exists = true, .first = static_cast<std::uint32_t>(exits_.size()), .length = 0};
+        if (const std::int64_t tokens = row.Number(1); tokens > 0) {
+            location.length = AppendNumbers(row.Text(2), tokens, exits_,
+                                            "the exits of location " + std::to_string(number));
+        }
+        pictures[number] = Filled(row.Text(3)).empty() ? "" : Filled(row.Text(4));
+    }
+    if (!defaultPicture.empty() && !pictures.empty()) pictures.back() = defaultPicture;
+}
+
+void GameData::ReadProcesses(store::Adventure& adventure) {
+    const bool hasNumeric = adventure.Schema(TableNum::ProcessTables).Find("numericcondacts").has_value();
+    const std::string fields =
+        std::string("estype, canum, w1num, w2num, CondActs") + (hasNumeric ? ", numericcondacts" : "");
+    std::optional<condacts::Catalogue> catalogue;
+    std::optional<condacts::WordIndex> words;
+    PreparedQuery row =
+        adventure.Prepare(TableNum::ProcessTables, fields, "estype>=0", "estype, w1num, w2num, canum");
+    for (bool more = row.First({}); more; more = row.Next()) {
+        if (row.Number(0) > kHighestProcess) break;
+        const auto process = static_cast<std::size_t>(row.Number(0));
+        if (processes.size() <= process) processes.resize(process + 1);
+        const std::string what =
+            "entry " + std::to_string(row.Number(1)) + " of process " + std::to_string(process);
+        ProcessEntry entry{
+            .verb = Number16(row.Number(2), what + ", w1num"),
+            .noun = Number16(row.Number(3), what + ", w2num"),
+            .record = static_cast<std::int32_t>(row.Number(1)),
+            .first = static_cast<std::uint32_t>(condActs_.size()),
+        };
+        std::string compiled;
+        std::string_view numeric = hasNumeric ? row.Text(5) : std::string_view();
+        if (text::TrimBlanks(numeric).empty() && !text::TrimBlanks(row.Text(4)).empty()) {
+            // A file from before the numeric form was stored.
+            if (!catalogue) catalogue = condacts::LoadCatalogue(adventure);
+            if (!words) words = condacts::LoadWords(adventure);
+            const condacts::Converted converted =
+                condacts::CondActsToNumeric(row.Text(4), *catalogue, *words);
+            if (!converted.ok) Refuse(what + ": " + converted.errors);
+            compiled = converted.line;
+            numeric = compiled;
+        }
+        entry.length = AppendNumbers(numeric, kHighestRecord, condActs_, what);
+        processes[process].push_back(entry);
+    }
+}
+
+}  // namespace fabula::engine

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/game_type.h"
+#include "engine/sound_player.h"
+#include "store/adventure.h"
+
+namespace fabula::engine {
+
+/// One entry of a process table. Its condacts are `length` numbers of the list that all entries share.
+struct ProcessEntry {
+    std::int16_t verb = 0;
+    std::int16_t noun = 0;
+    std::int32_t record = 0;  ///< its record key (`canum`), for messages
+    std::uint32_t first = 0;
+    std::uint32_t length = 0;
+};
+
+struct ObjectData {
+    std::int16_t startPlace = 0;
+    std::int16_t weight = 0;
+    std::int16_t attributes = 0;  ///< bit 0 container, bit 1 wearable
+    std::int16_t noun = 0;
+    std::int16_t adjective = 0;
+};
+
+/// A location's exits: pairs of verb and destination, `length` numbers of the list that all locations
+/// share.
+struct LocationData {
+    bool exists = false;
+    std::uint32_t first = 0;
+    std::uint32_t length = 0;
+};
+
+/// A tag of the markup by its name, and what it does (printer.h).
+struct Tag {
+    std::string name;
+    int code = 0;
+};
+
+/// Everything numeric of an adventure, and its settings, read once. Entries are addressed as the process
+/// tables tell them: cell 4 is the first number of an entry's list.
+class GameData {
+  public:
+    /// Throws fabula::Error, with the record that is at fault, when the adventure can't be played.
+    explicit GameData(store::Adventure& adventure);
+
+    GameType type = GameType::Fabula;
+    bool IsMarlo() const { return type == GameType::Marlo; }
+    int significantLetters = 30;
+
+    std::string title;  ///< of the window
+    std::string saveName;
+    bool graphics = false;
+    bool characterSets = false;
+    bool sound = false;
+    int startLocation = 0;
+    int maxObjects = 0;
+    int maxWeight = 0;
+    int font = 0;
+    int fontSize = 0;
+    int backColor = 0;
+    int textColor = 0;
+    int printWidth = 0;
+    std::string defaultPicture;  ///< "" when there is none
+    SoundSettings soundSettings;
+
+    int flagCount = 0;
+    std::vector<ObjectData> objects;
+    std::vector<LocationData> locations;  ///< by number, up to the highest
+    std::vector<std::string> pictures;    ///< `picloc` by location; "" when it has no picture of its own
+
+    std::vector<std::vector<ProcessEntry>> processes;
+    /// How many parameters each condact takes, by number; kUnknownCondAct for a number without a row.
+    std::vector<std::int8_t> condActParams;
+    static constexpr std::int8_t kUnknownCondAct = -1;
+
+    std::vector<Tag> tags;
+    std::map<int, std::string> fontNames;   ///< by code
+    std::map<int, int> fontSizes;           ///< by code: points
+    std::vector<std::string> conjunctions;  ///< in the order of the vocabulary
+
+    std::span<const std::int16_t> ExitsOf(const LocationData& location) const {
+        return {exits_.data() + location.first, location.length};
+    }
+    std::span<const std::int16_t> CondActsOf(const ProcessEntry& entry) const {
+        return {condActs_.data() + entry.first, entry.length};
+    }
+    bool LocationExists(int location) const {
+        return location >= 0 && location < static_cast<int>(locations.size()) && locations[location].exists;
+    }
+    int LastLocation() const { return static_cast<int>(locations.size()) - 1; }
+
+  private:
+    void ReadSettings(store::Adventure& adventure);
+    void ReadSoundSettings(store::Adventure& adventure);
+    void ReadCodes(store::Adventure& adventure);
+    void ReadConjunctions(store::Adventure& adventure);
+    void ReadCondActParams(store::Adventure& adventure);
+    void ReadObjects(store::Adventure& adventure);
+    void ReadLocations(store::Adventure& adventure);
+    void ReadProcesses(store::Adventure& adventure);
+
+    std::vector<std::int16_t> exits_;
+    std::vector<std::int16_t> condActs_;
+};
+
+}  // namespace fabula::engine

@@ -1,0 +1,107 @@
+#include "engine/game_texts.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "engine/run_failure.h"
+
+namespace fabula::engine {
+
+using store::TableNum;
+
+namespace {
+
+/// A text that stands nowhere near a number this high is not kept in memory.
+constexpr std::int64_t kHighestText = 32767;
+
+std::string_view WordFilter(GameType type) {
+    return type == GameType::Marlo ? "word=? and (voctypen=0 or voctypen=2 or voctypen=7)" : "word=?";
+}
+
+}  // namespace
+
+GameTexts::GameTexts(store::Adventure& adventure, GameType type)
+    : inMemory_(type != GameType::Fabula),
+      locations_{"location", adventure.Prepare(TableNum::Locations, "locdesc", "locnum=?"), {}},
+      shortLocations_{"location", adventure.Prepare(TableNum::Locations, "locshortdesc", "locnum=?"), {}},
+      objects_{"object", adventure.Prepare(TableNum::Objects, "objdesc", "objnum=?"), {}},
+      messages_{"message", adventure.Prepare(TableNum::Messages, "msgmsg", "msgnum=?"), {}},
+      systemMessages_{
+          "system message", adventure.Prepare(TableNum::SystemMessages, "smsgmsg", "smsgnum=?"), {}},
+      words_(adventure.Prepare(TableNum::Vocabulary, "vocnum, voctypen, Word", WordFilter(type), "")),
+      nouns_(adventure.Prepare(TableNum::Vocabulary, "vocnum", "voctypen=2 and vocnum=?",
+                               "voctypen, vocnum, word")),
+      wordsByNumber_(adventure.Prepare(TableNum::Vocabulary, "Word", "voctype=? and vocnum=?",
+                                       "voctypen, vocnum, word")) {
+    if (!inMemory_) return;
+    Load(adventure, locations_, TableNum::Locations, "locnum, locdesc");
+    Load(adventure, shortLocations_, TableNum::Locations, "locnum, locshortdesc");
+    Load(adventure, objects_, TableNum::Objects, "objnum, objdesc");
+    Load(adventure, messages_, TableNum::Messages, "msgnum, msgmsg");
+    Load(adventure, systemMessages_, TableNum::SystemMessages, "smsgnum, smsgmsg");
+}
+
+void GameTexts::Load(store::Adventure& adventure, Kind& kind, TableNum table, std::string_view fields) {
+    store::PreparedQuery row = adventure.Prepare(table, fields, "");
+    for (bool more = row.First({}); more; more = row.Next()) {
+        const std::int64_t number = row.Number(0);
+        if (number < 0 || number > kHighestText) continue;
+        const auto index = static_cast<std::size_t>(number);
+        if (kind.texts.size() <= index) kind.texts.resize(index + 1);
+        if (!kind.texts[index]) kind.texts[index] = std::string(row.Text(1));
+    }
+}
+
+std::string_view GameTexts::Find(Kind& kind, int number) {
+    if (inMemory_) {
+        const auto index = static_cast<std::size_t>(number);
+        if (index >= kind.texts.size() || !kind.texts[index]) FailMissing(kind.name, number);
+        return *kind.texts[index];
+    }
+    if (!kind.query.First({number})) FailMissing(kind.name, number);
+    return kind.query.Text(0);
+}
+
+std::string_view GameTexts::Location(int location) {
+    return Find(locations_, location);
+}
+
+std::string_view GameTexts::ShortLocation(int location) {
+    return Find(shortLocations_, location);
+}
+
+std::string_view GameTexts::Object(int object) {
+    return Find(objects_, object);
+}
+
+std::string_view GameTexts::Message(int message) {
+    return Find(messages_, message);
+}
+
+std::string_view GameTexts::SystemMessage(int message) {
+    return Find(systemMessages_, message);
+}
+
+const std::vector<VocabularyWord>& GameTexts::FindWord(std::string_view word) {
+    found_.clear();
+    for (bool more = words_.First({word}); more; more = words_.Next()) {
+        found_.push_back({static_cast<int>(words_.Number(0)), static_cast<int>(words_.Number(1)),
+                          std::string(words_.Text(2))});
+    }
+    // Two rows at most, as a rule: sorting them here costs less than asking the file for an order.
+    std::sort(found_.begin(), found_.end(), [](const VocabularyWord& left, const VocabularyWord& right) {
+        return std::tie(left.type, left.number, left.word) < std::tie(right.type, right.number, right.word);
+    });
+    return found_;
+}
+
+bool GameTexts::IsNoun(int number) {
+    return nouns_.First({number});
+}
+
+std::string GameTexts::WordOf(int number, std::string_view typeName) {
+    if (!wordsByNumber_.First({typeName, number})) return {};
+    return std::string(wordsByNumber_.Text(0));
+}
+
+}  // namespace fabula::engine
