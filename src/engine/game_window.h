@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "engine/game_type.h"
+
 namespace fabula::engine {
 
 /// How a run of text looks. Colours are numbers 0 to 15: 0 black, 1 blue, 2 red, 3 magenta, 4 green, 5
@@ -37,8 +39,8 @@ enum class LineEnd {
 
 /// What the window must know of a game before the first text.
 struct GameLook {
-    std::string title;     ///< "NAME (Version 1.0) by AUTHOR"
-    std::string gameType;  ///< "fabula", "vel" or "marlo"
+    std::string title;  ///< "NAME (Version 1.0) by AUTHOR"
+    GameType type = GameType::Fabula;
     bool characterSets =
         false;              ///< true: the character pane with the game's own sets; false: the text pane
     bool graphics = false;  ///< the game shows pictures

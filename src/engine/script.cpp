@@ -1,0 +1,113 @@
+#include "engine/script.h"
+
+#include <utility>
+
+#include "platform/error.h"
+
+namespace fabula::engine {
+
+namespace {
+
+constexpr std::string_view kMark = ">>";
+constexpr std::string_view kPlayedMark = ">>Read:>>";
+
+}  // namespace
+
+std::string_view Script::StatusText() const {
+    switch (State()) {
+        case 1:
+            return "Script Writing";
+        case 2:
+            return "Script Loaded";
+        case 3:
+            return "Script Loaded & Writing";
+        default:
+            return "Script Off";
+    }
+}
+
+void Script::StartWriting(const std::filesystem::path& file) {
+    output_.clear();
+    output_.open(file, std::ios::binary | std::ios::trunc);
+    if (!output_) throw Error("Could not write the script " + file.string() + ".");
+    outputName_ = file.string();
+    atLineStart_ = true;
+    answerMarked_ = false;
+}
+
+void Script::Load(const std::filesystem::path& file) {
+    input_.clear();
+    input_.open(file, std::ios::binary);
+    if (!input_) throw Error("Could not read the script " + file.string() + ".");
+}
+
+void Script::CloseInput() {
+    input_.close();
+}
+
+void Script::CloseAll() {
+    input_.close();
+    if (output_.is_open() && !atLineStart_) WriteLineEnd();
+    output_.close();
+}
+
+void Script::Write(std::string_view text) {
+    if (!output_.is_open() || text.empty()) return;
+    output_ << text;
+    atLineStart_ = text.back() == '\n';
+    answerMarked_ = false;
+    if (output_) return;
+    output_.close();
+    failure_ = "Could not write the script " + outputName_ + ". It is closed.";
+}
+
+void Script::WriteText(std::string_view text) {
+    Write(text);
+}
+
+void Script::WriteLineEnd() {
+    Write("\n");
+}
+
+void Script::WriteAnswerMark() {
+    if (answerMarked_) return;
+    if (!atLineStart_) WriteLineEnd();
+    Write(kMark);
+    answerMarked_ = true;
+}
+
+void Script::WriteInput(std::string_view line) {
+    WriteAnswerMark();
+    Write(line);
+    WriteLineEnd();
+    output_.flush();
+}
+
+void Script::WritePlayed(std::string_view line) {
+    WriteInput(std::string("Read:>>") += line);
+}
+
+std::optional<std::string> Script::ReadLine() {
+    std::string line;
+    for (int c = input_.get(); c != std::ifstream::traits_type::eof(); c = input_.get()) {
+        if (c == '\n') return line;
+        if (c != '\r' && line.size() < kLongestScriptLine) line += static_cast<char>(c);
+    }
+    if (line.empty()) return std::nullopt;
+    return line;
+}
+
+std::optional<std::string> Script::NextInput() {
+    for (std::optional<std::string> line = ReadLine(); line; line = ReadLine()) {
+        for (const std::string_view mark : {kPlayedMark, kMark}) {
+            if (line->starts_with(mark)) return line->substr(mark.size());
+        }
+    }
+    return std::nullopt;
+}
+
+std::string Script::TakeFailure() {
+    return std::exchange(failure_, {});
+}
+
+}  // namespace fabula::engine
