@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "engine/game_window.h"
+#include "engine/process_loop.h"
 #include "engine/sound_player.h"
 #include "engine/trace_sink.h"
 #include "platform/operator.h"
@@ -16,6 +17,7 @@
 namespace fabula::engine {
 
 class Game;
+struct Session;
 
 /// What a running game asks of its host. All of it must outlive the engine.
 struct Host {
@@ -69,7 +71,7 @@ class Engine {
     /// flag table too small, a damaged record) is told in a box, and the game has then ended.
     void Initialize();
 
-    Waiting WaitingFor() const;
+    Waiting WaitingFor() const { return waiting_; }
 
     /// One key of the player, as a code point: kEnter, kBackspace or a character. Ignored while the game
     /// does not wait for the player.
@@ -90,7 +92,7 @@ class Engine {
 
     /// The sound switch of the session. Tells the new state to the status.
     void ToggleSound();
-    bool SoundOn() const { return soundOn_; }
+    bool SoundOn() const;
 
     /// Writes the state to a file of the form of SAVE, atomically. Throws fabula::Error. Only while a game
     /// runs.
@@ -102,18 +104,37 @@ class Engine {
     /// The name of a font by its number (TextStyle::font), "" when there is none.
     std::string FontName(int number) const;
 
-    /// The running game's state, for diagnostics and tests; nullptr before the first Initialize.
+    /// The running game's state, for diagnostics and tests; nullptr while no game runs.
     Game* Running() { return game_.get(); }
 
     static constexpr char32_t kEnter = 13;
     static constexpr char32_t kBackspace = 8;
 
   private:
+    template <class Step>
+    void Guard(Step step);
+    void Start();
+    void RunLoop(ProcessLoop::Outcome (ProcessLoop::*entrance)());
+    void Finish(ProcessLoop::Outcome outcome);
+    void PlayerIsBack();
+    void PressEnter();
+    void ProcessInput(bool played);
+    void FinishTick();
+    void PlayScript();
+    bool PlayScriptLine();
+    void EndGame();
+    void Fail(const std::string& what);
+    void TellScriptFailure();
+    void ShowStatus();
+
     store::Adventure& adventure_;
-    Host host_;
-    Options options_;
+    std::unique_ptr<Session> session_;
     std::unique_ptr<Game> game_;
-    bool soundOn_ = false;
+    Waiting waiting_ = Waiting::Nothing;
+    bool tickPending_ = false;    ///< the turn of a time-out has not ended yet
+    bool scriptPlaying_ = false;  ///< "Next" goes on behind a pause
+    int restarts_ = 0;            ///< since the player was last asked
+    std::int64_t pauses_ = 0;     ///< since the player was last asked
 };
 
 }  // namespace fabula::engine

@@ -1,0 +1,342 @@
+#include "engine/condact_runner.h"
+
+#include "engine/condact_table.h"
+#include "engine/flow_actions.h"
+#include "engine/game.h"
+
+namespace fabula::engine {
+
+namespace {
+
+/// Entries are looked at much faster than condacts run.
+constexpr std::int64_t kEntriesForACondAct = 100;
+
+/// PROCESS and DOALL frames together. The call stack alone can't bound them: some actions empty it.
+constexpr std::size_t kFrameDepth = 2 * CondActRunner::kCallDepth;
+
+}  // namespace
+
+CondActRunner::CondActRunner(Game& game, std::int64_t condactLimit) : game_(game), limit_(condactLimit) {
+    for (const CondActRoutine& routine : AllCondActs()) {
+        const int params = game.data.condActParams[static_cast<std::size_t>(routine.number)];
+        if (params == GameData::kUnknownCondAct) continue;
+        routines_[static_cast<std::size_t>(routine.number - kFirstCondAct)] = {&routine, params};
+    }
+}
+
+void CondActRunner::ResetBudget() {
+    condactsRun_ = 0;
+    entriesSeen_ = 0;
+}
+
+void CondActRunner::DoCondActs(int process, int startX, int startY) {
+    frames_.clear();
+    game_.tones.clear();
+    PushFrame(process, startX, startY);
+}
+
+bool CondActRunner::Run() {
+    while (!frames_.empty()) {
+        switch (frames_.back().phase) {
+            case Phase::Entry:
+                SeekEntry();
+                break;
+            case Phase::CondAct:
+                RunEntry();
+                break;
+            case Phase::Called:
+                FinishAction();
+                break;
+            case Phase::ActionDone:
+                if (!PlayTones(game_)) FinishAction();
+                break;
+            case Phase::DoAll:
+                NextObject();
+                break;
+        }
+        if (wait_.count() == 0) continue;
+        game_.host.window.StartWait(wait_);
+        wait_ = std::chrono::milliseconds(0);
+        return false;
+    }
+    return true;
+}
+
+const std::vector<ProcessEntry>* CondActRunner::Table(int process) const {
+    if (process >= static_cast<int>(game_.data.processes.size())) return nullptr;
+    return &game_.data.processes[static_cast<std::size_t>(process)];
+}
+
+void CondActRunner::PushFrame(int process, int startX, int startY) {
+    if (process < 0) FailMissing("process", process);
+    if (frames_.size() >= kFrameDepth) {
+        throw RunFailure("more than " + std::to_string(kFrameDepth) +
+                         " tables are running inside each other");
+    }
+    const Frame frame{.process = process,
+                      .entry = startX == -1 ? 0 : startX,
+                      .startCell = startY == -1 ? kFirstCell : startY};
+    game_.runningProc = process;
+    game_.SetFlag(flag::kDescribe, 0);
+    game_.SetFlag(flag::kEnded, 0);
+    game_.done = false;
+    frames_.push_back(frame);
+    if (!game_.trace.On() || !Table(process)) return;
+    Trace& trace = game_.trace;
+    trace.Write("Process " + std::to_string(process) + " stack " +
+                std::to_string(static_cast<int>(callStack.size()) - 1) + " - ");
+    trace.Write("Flag(33):" + game_.state.WordText(flag::kVerb));
+    trace.Write(") Flag(34):" + game_.state.WordText(flag::kNoun));
+    trace.Write(") StartX: " + std::to_string(startX) + " StartY: " + std::to_string(startY));
+    trace.Line(" End of Table: " + std::to_string(static_cast<int>(Table(process)->size()) - 1));
+}
+
+/// Goes to the next entry that matches the words.
+void CondActRunner::SeekEntry() {
+    Frame& frame = frames_.back();
+    const std::vector<ProcessEntry>* table = Table(frame.process);
+    const int end = table ? static_cast<int>(table->size()) : 0;
+    for (; frame.entry >= 0 && frame.entry < end; ++frame.entry) {
+        CountStep(entriesSeen_, limit_ * kEntriesForACondAct, "entries");
+        if (!Matches((*table)[static_cast<std::size_t>(frame.entry)])) continue;
+        frame.cell = frame.startCell;
+        frame.phase = Phase::CondAct;
+        return;
+    }
+    if (table && game_.trace.On()) game_.trace.Line("Normal end of process table");
+    EndTable();
+}
+
+/// Only process 0 and the tables called from it read the words, unless flag 58 says otherwise.
+bool CondActRunner::Matches(const ProcessEntry& entry) {
+    if (game_.parentProcNum > 0 && !game_.state.FlagBitSet(flag::kMatchWords, 7)) {
+        if (game_.trace.On()) {
+            game_.trace.Line(
+                "Matched using intParentProcNum > 0 (All words match in processes > 0 or called from "
+                "Processes "
+                "> 0)");
+        }
+        return true;
+    }
+    return MatchWords(entry.verb, entry.noun, game_.Flag(flag::kVerb), game_.Flag(flag::kNoun));
+}
+
+bool CondActRunner::MatchWords(int word1, int word2, int verb, int noun) {
+    const bool marlo = game_.IsMarlo();
+    const bool wild1 = word1 == kNoWord || (word1 == 1 && !marlo);
+    const bool wild2 = word2 == kNoWord || (word2 == 1 && !marlo);
+    const char* how = nullptr;
+    if (wild1 && wild2) {
+        how = "Both words wild";
+    } else if (word2 == noun && wild1) {
+        how = marlo ? "Word1 wild & word2=noun" : "word1 wild and word2=noun";
+    } else if (word1 == verb && wild2) {
+        how = marlo ? "Word1=verb & word2 wild" : "word1=verb and word2 wild";
+    } else if (word1 == verb && word2 == noun) {
+        how = marlo ? "word1=verb & word2=noun" : "word1=verb and word2=noun";
+    }
+    if (how && game_.trace.On()) {
+        game_.trace.Line("word1=" + std::to_string(word1) + ", word2=" + std::to_string(word2) +
+                         ",verb=" + std::to_string(verb) + ", noun=" + std::to_string(noun) +
+                         ". Matched using " + how);
+    }
+    return how != nullptr;
+}
+
+/// Runs the condacts of an entry until it is left, or until an action begins something of its own.
+void CondActRunner::RunEntry() {
+    Frame& frame = frames_.back();
+    const ProcessEntry& entry = (*Table(frame.process))[static_cast<std::size_t>(frame.entry)];
+    const std::span<const std::int16_t> numbers = game_.data.CondActsOf(entry);
+    const std::size_t depth = frames_.size();
+    while (frames_.size() == depth && frames_.back().phase == Phase::CondAct && wait_.count() == 0) {
+        const auto at = static_cast<std::size_t>(frames_.back().cell - kFirstCell);
+        if (at >= numbers.size()) return LeaveEntry();
+        CountStep(condactsRun_, limit_, "conditions and actions");
+        RunCondAct(Find(numbers[at]), numbers.subspan(at + 1));
+    }
+}
+
+/// `numbers` begins with the parameters.
+void CondActRunner::RunCondAct(const Runnable& condact, std::span<const std::int16_t> numbers) {
+    const CondActRoutine& routine = *condact.routine;
+    if (numbers.size() < static_cast<std::size_t>(condact.params)) {
+        throw RunFailure("the entry ends where a parameter is due");
+    }
+    const int p1 = condact.params > 0 ? numbers[0] : 0;
+    const int p2 = condact.params > 1 ? numbers[1] : 0;
+    if (game_.trace.On()) TraceCondAct(condact, p1, p2);
+    if (routine.asks) RememberPosition();
+    if (routine.IsAction()) game_.SetFlag(flag::kActed, kSet);
+
+    const std::size_t depth = frames_.size();
+    const bool result = routine.run(game_, p1, p2);
+    Frame& frame = frames_[depth - 1];
+    if (frames_.size() > depth) {
+        frame.phase = Phase::Called;
+    } else if (wait_.count() > 0) {
+        frame.phase = Phase::ActionDone;
+    } else if (frame.phase == Phase::CondAct) {
+        const bool goOn = routine.IsAction() ? GoesOnAfterAction(result) : GoesOnAfterCondition(result);
+        if (!goOn) return LeaveEntry();
+        frame.cell += 1 + condact.params;
+    }
+}
+
+void CondActRunner::TraceCondAct(const Runnable& condact, int p1, int p2) {
+    const CondActRoutine& routine = *condact.routine;
+    std::string line(routine.trace);
+    if (routine.IsAction()) {
+        if (condact.params > 0) line += " " + std::to_string(p1);
+        if (condact.params > 1) line += " " + std::to_string(p2);
+        line += " ";
+    } else {
+        if (condact.params > 0) line += std::to_string(p1);
+        if (condact.params > 1) line += "," + std::to_string(p2);
+        if (routine.traceFlag > 0) {
+            line += std::string(routine.traceFlagText) + std::to_string(game_.Flag(routine.traceFlag));
+        }
+        line += ")";
+    }
+    game_.trace.Line(line);
+}
+
+/// Where the table is entered again when the player has answered.
+void CondActRunner::RememberPosition() {
+    const Frame& frame = frames_.back();
+    game_.currentProc = frame.process;
+    game_.startX = frame.entry;
+    game_.startY = frame.cell;
+    game_.savedParentProcNum = game_.parentProcNum;
+}
+
+bool CondActRunner::GoesOnAfterCondition(bool result) {
+    if (game_.Flag(flag::kAsking) != 0) return false;
+    if (!result) return TraceLeaving("Exiting record because condition not satisfied");
+    if (game_.done) return TraceLeaving("exiting record because Done");
+    return true;
+}
+
+bool CondActRunner::GoesOnAfterAction(bool result) {
+    if (game_.Flag(flag::kAsking) != 0) return false;
+    if (game_.Flag(flag::kDescribe) != 0) return TraceLeaving("Exiting record because of Describe");
+    if (game_.done) return TraceLeaving("Exiting record because of Done");
+    if (game_.Flag(flag::kEnded) != 0) return TraceLeaving("Exiting record because of End");
+    if (!result) return TraceLeaving("Exiting record because condition not satisfied");
+    return true;
+}
+
+bool CondActRunner::TraceLeaving(const char* why) {
+    if (game_.trace.On()) game_.trace.Line(why);
+    return false;
+}
+
+/// What an action began is over: its entry goes on behind it.
+void CondActRunner::FinishAction() {
+    Frame& frame = frames_.back();
+    frame.phase = Phase::CondAct;
+    if (!GoesOnAfterAction(true)) return LeaveEntry();
+    const ProcessEntry& entry = (*Table(frame.process))[static_cast<std::size_t>(frame.entry)];
+    const std::int16_t number =
+        game_.data.CondActsOf(entry)[static_cast<std::size_t>(frame.cell - kFirstCell)];
+    frame.cell += 1 + Find(number).params;
+}
+
+void CondActRunner::LeaveEntry() {
+    if (game_.Flag(flag::kDescribe) != 0) {
+        TraceLeaving("Exiting process because of Describe");
+    } else if (game_.done) {
+        TraceLeaving("Exiting process because of Done");
+    } else if (game_.Flag(flag::kEnded) != 0) {
+        TraceLeaving("Exiting process because of End");
+    } else if (game_.Flag(flag::kAsking) != 0) {
+        TraceLeaving("Exiting process because asking for input");
+    } else {
+        Frame& frame = frames_.back();
+        ++frame.entry;
+        frame.phase = Phase::Entry;
+        return;
+    }
+    EndTable();
+}
+
+/// The running table comes back to the one that called it. Its own `done` has ended it alone.
+void CondActRunner::EndTable() {
+    frames_.pop_back();
+    if (frames_.empty()) return;
+    game_.runningProc = frames_.back().process;
+    game_.done = false;
+    if (frames_.back().phase == Phase::Called && !callStack.empty()) callStack.pop_back();
+}
+
+void CondActRunner::CallProcess(int process) {
+    if (callStack.size() >= kCallDepth) {
+        throw RunFailure("more than " + std::to_string(kCallDepth) + " calls of PROCESS inside each other");
+    }
+    const Frame& frame = frames_.back();
+    callStack.push_back({frame.process, frame.entry, frame.cell + 2});
+    PushFrame(process, -1, -1);
+}
+
+void CondActRunner::BeginDoAll() {
+    frames_.back().object = 0;
+    frames_.back().phase = Phase::DoAll;
+}
+
+/// Runs the table from its start for the next object of a DOALL.
+void CondActRunner::NextObject() {
+    Frame& frame = frames_.back();
+    while (!game_.stopDoAll && game_.Flag(flag::kAsking) == 0 && game_.Flag(flag::kEnded) == 0 &&
+           frame.object < game_.state.ObjectCount()) {
+        const int object = frame.object++;
+        if (game_.state.ObjectPlace(object) != game_.PlaceOf(game_.Flag(flag::kDoAllPlace))) continue;
+        game_.SetFlag(flag::kNoun, game_.data.objects[static_cast<std::size_t>(object)].noun);
+        game_.SetFlag(flag::kAdjective, game_.data.objects[static_cast<std::size_t>(object)].adjective);
+        return PushFrame(frame.process, -1, -1);
+    }
+    frame.phase = Phase::ActionDone;
+}
+
+void CondActRunner::ClearStack(std::string_view why) {
+    callStack.clear();
+    if (game_.trace.On()) game_.trace.Line("stack cleared because of " + std::string(why));
+}
+
+const CondActRunner::Runnable& CondActRunner::Find(int number) const {
+    const int index = number - kFirstCondAct;
+    if (index < 0 || number > kLastCondAct || !routines_[static_cast<std::size_t>(index)].routine) {
+        FailMissing("condition or action", number);
+    }
+    return routines_[static_cast<std::size_t>(index)];
+}
+
+void CondActRunner::CountStep(std::int64_t& counter, std::int64_t limit, const char* what) {
+    if (++counter > limit) {
+        throw RunFailure("the game ran more than " + std::to_string(limit) + " " + what +
+                         " without waiting for the player");
+    }
+}
+
+std::string CondActRunner::Where() const {
+    if (frames_.empty()) return {};
+    const Frame& frame = frames_.back();
+    std::string where = "Process " + std::to_string(frame.process);
+    const std::vector<ProcessEntry>* table = Table(frame.process);
+    if (!table || frame.entry < 0 || frame.entry >= static_cast<int>(table->size())) return where;
+    const ProcessEntry& entry = (*table)[static_cast<std::size_t>(frame.entry)];
+    where += ", entry " + std::to_string(frame.entry) + " (record " + std::to_string(entry.record) + ")";
+    const std::span<const std::int16_t> numbers = game_.data.CondActsOf(entry);
+    const auto at = static_cast<std::size_t>(frame.cell - kFirstCell);
+    if (frame.phase == Phase::Entry || at >= numbers.size()) return where;
+    const int index = numbers[at] - kFirstCondAct;
+    if (index < 0 || index >= static_cast<int>(routines_.size())) return where;
+    const Runnable& condact = routines_[static_cast<std::size_t>(index)];
+    if (!condact.routine) return where;
+    where += ", " + std::string(condact.routine->name);
+    for (std::size_t p = 1; p <= static_cast<std::size_t>(condact.params) && at + p < numbers.size(); ++p) {
+        where += " " + std::to_string(numbers[at + p]);
+    }
+    return where;
+}
+
+}  // namespace fabula::engine

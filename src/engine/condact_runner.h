@@ -1,0 +1,115 @@
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/game_data.h"
+
+namespace fabula::engine {
+
+class Game;
+struct CondActRoutine;
+
+/// A place in a process table: `CallStack` holds one for each pending PROCESS, behind its parameter.
+struct TablePosition {
+    int process = 0;
+    int entry = 0;
+    int cell = 0;
+};
+
+/// Runs process tables: `DoCondActs`. Tables that PROCESS calls and the walks of DOALL are frames of one
+/// stack, so that a PAUSE can stand in the midst of them while the event loop runs.
+///
+/// An entry's cells are counted as the tables tell them: its list of condacts begins at cell 4.
+class CondActRunner {
+  public:
+    static constexpr int kFirstCell = 4;
+    static constexpr int kCallDepth = 200;
+
+    CondActRunner(Game& game, std::int64_t condactLimit);
+
+    /// Begins a run of one table at an entry and cell; -1 means the first. Run then carries it out.
+    void DoCondActs(int process, int startX, int startY);
+    /// Runs on. True when the table has ended, false when a PAUSE waits: the window has then been asked for
+    /// a tick.
+    bool Run();
+
+    /// For the actions. PROCESS, DOALL, and waits: the run goes on behind the action when what it began is
+    /// over.
+    void CallProcess(int process);
+    void BeginDoAll();
+    void Wait(std::chrono::milliseconds length) { wait_ = length; }
+    /// Empties the call stack; `why` is the action's name for the trace.
+    void ClearStack(std::string_view why);
+    /// Later entries of the running call begin at their first cell again.
+    void ResetStartCell() { frames_.back().startCell = kFirstCell; }
+
+    /// The tables that are left behind (a game that ends or goes back to the player) are forgotten.
+    void Abandon() { frames_.clear(); }
+    bool Running() const { return !frames_.empty(); }
+
+    /// The calls that have not come back yet, the latest at the end.
+    std::vector<TablePosition> callStack;
+
+    /// Condacts are counted from here on.
+    void ResetBudget();
+
+    /// Where the run stands: "Process 0, entry 3 (record 57), LET 5 40000". "" when no table is running.
+    std::string Where() const;
+
+  private:
+    enum class Phase {
+        Entry,       ///< looking for the next entry that matches
+        CondAct,     ///< at a condact of an entry
+        Called,      ///< an action called a table, which is the frame above
+        ActionDone,  ///< an action waited, or walked all its objects
+        DoAll,       ///< between two objects of a DOALL
+    };
+    struct Frame {
+        int process = 0;
+        int entry = 0;
+        int cell = kFirstCell;
+        int startCell = kFirstCell;
+        int object = 0;  ///< of a DOALL: the next to look at
+        Phase phase = Phase::Entry;
+    };
+    struct Runnable {
+        const CondActRoutine* routine = nullptr;
+        int params = 0;
+    };
+
+    void PushFrame(int process, int startX, int startY);
+    void SeekEntry();
+    bool Matches(const ProcessEntry& entry);
+    bool MatchWords(int word1, int word2, int verb, int noun);
+    void RunEntry();
+    void RunCondAct(const Runnable& condact, std::span<const std::int16_t> numbers);
+    void RememberPosition();
+    /// Whether the entry goes on behind a condition or action.
+    bool GoesOnAfterCondition(bool result);
+    bool GoesOnAfterAction(bool result);
+    bool TraceLeaving(const char* why);
+    void TraceCondAct(const Runnable& condact, int p1, int p2);
+    void FinishAction();
+    void NextObject();
+    void LeaveEntry();
+    void EndTable();
+    const Runnable& Find(int number) const;
+    const std::vector<ProcessEntry>* Table(int process) const;
+    void CountStep(std::int64_t& counter, std::int64_t limit, const char* what);
+
+    Game& game_;
+    std::array<Runnable, 200> routines_{};  ///< by number, from kFirstNumber
+    std::vector<Frame> frames_;
+    std::chrono::milliseconds wait_{0};
+    std::int64_t limit_;
+    std::int64_t condactsRun_ = 0;
+    std::int64_t entriesSeen_ = 0;
+};
+
+}  // namespace fabula::engine

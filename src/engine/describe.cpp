@@ -1,0 +1,75 @@
+#include "engine/describe.h"
+
+#include "engine/auto_flags.h"
+#include "engine/game.h"
+#include "engine/print_actions.h"
+#include "text/str_edit.h"
+
+namespace fabula::engine {
+
+namespace {
+
+constexpr int kLongTextBit = 7;
+constexpr int kNoPictureBit = 6;
+constexpr int kAlwaysPictureBit = 5;
+constexpr int kDarkMessage = 0;
+
+bool PictureIsHeldBack(const Game& game, int location) {
+    const int mode = game.Flag(game.IsMarlo() ? flag::kMarloGraphicsMode : flag::kGraphicsMode);
+    if (BitSet(mode, kNoPictureBit)) return true;
+    if (BitSet(mode, kAlwaysPictureBit) || BitSet(mode, kLongTextBit)) return false;
+    return game.state.Visited(location) != 0;
+}
+
+}  // namespace
+
+void Describe(Game& game) {
+    const int location = game.Flag(flag::kLocation);
+    if (game.trace.On()) {
+        game.host.window.ShowStatus(StatusField::Location, "Location: " + std::to_string(location));
+    }
+    if (game.Flag(flag::kDescribe) == 0) return;
+    if (!game.data.LocationExists(location)) FailMissing("location", location);
+    DoAutoFlags(game, true);
+    if (game.Flag(flag::kClearMode) != 0) game.printer.Clear();
+    if (game.Flag(flag::kDark) != 0 && !game.LightIsPresent()) {
+        game.printer.PrintText(game.texts.SystemMessage(kDarkMessage), true, true);
+        ShowRoomPicture(game, game.data.LastLocation());
+        return;
+    }
+    ShowRoomPicture(game, location);
+    DescribeLocation(game, location);
+    game.state.SetVisited(location, 1);
+    if (game.IsMarlo()) ListObj(game, 0, 0);
+}
+
+void DescribeLocation(Game& game, int location) {
+    const bool wantsLong = game.state.Visited(location) == 0 ||
+                           game.state.FlagBitSet(flag::kGraphicsMode, kLongTextBit) ||
+                           game.Flag(flag::kLongText) != 0;
+    std::string_view text;
+    if (!wantsLong) text = game.texts.ShortLocation(location);
+    if (text::TrimBlanks(text).empty()) text = game.texts.Location(location);
+    game.printer.PrintText(text, true, true);
+}
+
+void ShowRoomPicture(Game& game, int location) {
+    if (!game.data.graphics) return;
+    if (PictureIsHeldBack(game, location)) return game.host.window.HidePicture();
+    ShowPictureOf(game, location);
+}
+
+void ShowPictureOf(Game& game, int location) {
+    if (!game.data.graphics) return;
+    const std::string& own = game.data.pictures.at(static_cast<std::size_t>(location));
+    const bool isLast = location == game.data.LastLocation();
+    if (!own.empty() && !(isLast && own == game.data.defaultPicture)) {
+        game.host.window.ShowPicture({own, location});
+    } else if (!game.data.defaultPicture.empty()) {
+        game.host.window.ShowPicture({game.data.defaultPicture, -1});
+    } else {
+        game.host.window.HidePicture();
+    }
+}
+
+}  // namespace fabula::engine

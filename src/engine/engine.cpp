@@ -1,0 +1,298 @@
+#include "engine/engine.h"
+
+#include "engine/game.h"
+#include "engine/location_actions.h"
+#include "engine/parser.h"
+#include "engine/prompt.h"
+#include "engine/saved_game.h"
+#include "engine/state_actions.h"
+#include "platform/error.h"
+#include "store/filter.h"
+#include "text/utf8.h"
+
+namespace fabula::engine {
+
+namespace {
+
+/// Without the player having had a turn in between.
+constexpr int kMostRestarts = 10;
+constexpr std::int64_t kMostPauses = 1'000'000;
+
+constexpr std::string_view kFailureTitle = "Run-time failure";
+
+/// The longest line that can be typed, in bytes.
+constexpr std::size_t kLongestLine = 4096;
+
+/// Keys are taken in upper case; control characters are no keys.
+void AppendKey(std::string& line, char32_t key) {
+    if (key < 32 || line.size() >= kLongestLine) return;
+    text::AppendCodePoint(line, key >= U'a' && key <= U'z' ? key - 32 : key);
+}
+
+std::string AsTyped(std::string_view line) {
+    std::string typed;
+    for (std::size_t at = 0; at < line.size();) {
+        const text::CodePoint point = text::DecodeAt(line, at);
+        AppendKey(typed, point.value == U'\t' ? U' ' : point.value);
+        at += point.size;
+    }
+    return typed;
+}
+
+void RemoveLast(std::string& line) {
+    if (line.empty()) return;
+    line.erase(text::OffsetOf(line, text::Length(line) - 1));
+}
+
+}  // namespace
+
+Engine::Engine(store::Adventure& adventure, const Host& host, const Options& options)
+    : adventure_(adventure), session_(std::make_unique<Session>(host, options)) {}
+
+Engine::~Engine() = default;
+
+/// Runs a step of the game; one that goes wrong ends the game, with a box that says where.
+template <class Step>
+void Engine::Guard(Step step) {
+    try {
+        step();
+    } catch (const RunFailure& failure) {
+        Fail(failure.what());
+    } catch (const Error& error) {
+        session_->host.oper.Tell(error.what(), kFailureTitle);
+        EndGame();
+    }
+}
+
+void Engine::Fail(const std::string& what) {
+    const std::string where = game_ ? game_->runner.Where() : "";
+    session_->host.oper.Tell(
+        "The game has gone wrong and ends. " + (where.empty() ? "" : where + ": ") + what + ".",
+        kFailureTitle);
+    EndGame();
+}
+
+void Engine::EndGame() {
+    if (game_ && game_->timeOutRunning) session_->host.window.StopTimeOut();
+    waiting_ = Waiting::Nothing;
+    tickPending_ = false;
+    scriptPlaying_ = false;
+    game_.reset();
+    session_->host.window.EndGame();
+}
+
+void Engine::Initialize() {
+    restarts_ = 0;
+    Start();
+}
+
+void Engine::Start() {
+    if (game_ && game_->timeOutRunning) session_->host.window.StopTimeOut();
+    tickPending_ = false;
+    game_.reset();
+    waiting_ = Waiting::Nothing;
+    Guard([this] {
+        if (restarts_ > kMostRestarts)
+            throw RunFailure("the game starts again and again without asking the player");
+        game_ = std::make_unique<Game>(adventure_, *session_);
+        if (!session_->begun) session_->soundOn = game_->data.sound;
+        session_->begun = true;
+        session_->host.sound.Configure(game_->data.soundSettings);
+        ShowStatus();
+    });
+    if (game_) RunLoop(&ProcessLoop::Start);
+}
+
+void Engine::ShowStatus() {
+    GameWindow& window = session_->host.window;
+    window.ShowStatus(StatusField::Script, session_->script.StatusText());
+    window.ShowStatus(StatusField::Sound, session_->soundOn ? "Sound ON" : "Sound OFF");
+    window.EnableNext(session_->script.Loaded());
+}
+
+/// Enters the turn cycle and deals with what it came to.
+void Engine::RunLoop(ProcessLoop::Outcome (ProcessLoop::*entrance)()) {
+    game_->inputReady = false;
+    game_->runner.ResetBudget();
+    game_->printer.ResetBudget();
+    Guard([&] { Finish((game_->loop.*entrance)()); });
+}
+
+void Engine::Finish(ProcessLoop::Outcome outcome) {
+    TellScriptFailure();
+    switch (outcome) {
+        case ProcessLoop::Outcome::Pauses:
+            waiting_ = Waiting::Pause;
+            return;
+        case ProcessLoop::Outcome::Ended:
+            return EndGame();
+        case ProcessLoop::Outcome::Restarts:
+            ++restarts_;
+            return Start();
+        case ProcessLoop::Outcome::WaitsForPlayer:
+            break;
+    }
+    PlayerIsBack();
+}
+
+void Engine::PlayerIsBack() {
+    pauses_ = 0;
+    restarts_ = 0;
+    waiting_ = Waiting::Sentence;
+    if (game_->Flag(flag::kAsking) != 0) waiting_ = Waiting::Answer;
+    if (game_->Flag(flag::kAnyKey) != 0) waiting_ = Waiting::AnyKey;
+    if (tickPending_) FinishTick();
+}
+
+void Engine::TellScriptFailure() {
+    const std::string failure = session_->script.TakeFailure();
+    if (failure.empty()) return;
+    session_->host.oper.Tell(failure, "Error");
+    if (game_) game_->SetFlag(flag::kScript, session_->script.State());
+    ShowStatus();
+}
+
+void Engine::Key(char32_t key) {
+    if (!game_ || !game_->inputReady) return;
+    Game& game = *game_;
+    if (game.timeOutRunning) StartTimeOut(game);
+    if (key == kEnter || game.Flag(flag::kAnyKey) != 0) return PressEnter();
+    if (key == kBackspace) {
+        RemoveLast(game.command);
+        RemoveLast(game.answer);
+    } else {
+        AppendKey(game.Flag(flag::kAsking) != 0 ? game.answer : game.command, key);
+    }
+    Guard([&] { ShowTyped(game); });
+}
+
+void Engine::EnterLine(std::string_view line) {
+    if (!game_ || !game_->inputReady) return;
+    (game_->Flag(flag::kAsking) != 0 ? game_->answer : game_->command) = AsTyped(line);
+    PressEnter();
+}
+
+void Engine::PressEnter() {
+    Game& game = *game_;
+    const bool asking = game.Flag(flag::kAsking) != 0;
+    session_->host.window.EndInput(asking ? game.answer : game.command);
+    game.printer.AtLineStart();
+    ProcessInput(false);
+}
+
+/// `ProcessInput`: the answer or the line that stands in the game's input goes to the turn cycle. An empty
+/// line that is no answer does nothing.
+void Engine::ProcessInput(bool played) {
+    Game& game = *game_;
+    Script& script = session_->script;
+    const bool asking = game.Flag(flag::kAsking) != 0;
+    const std::string line = asking ? game.answer : game.command;
+    if (!asking && line.empty()) return Guard([&] { ShowTyped(game); });
+    StopTimeOut(game);
+    played ? script.WritePlayed(line) : script.WriteInput(line);
+    if (game.trace.On())
+        game.trace.Line((asking ? "Executing AskForInput Command: " : "Executing Command: ") + line);
+    if (asking) return RunLoop(&ProcessLoop::Resume);
+    game.answer.clear();
+    game.command = SplitSentences(line, game.data.conjunctions);
+    RunLoop(&ProcessLoop::Enter);
+}
+
+void Engine::TimeOutTick() {
+    if (!game_ || !game_->timeOutRunning || !game_->inputReady) return;
+    Game& game = *game_;
+    const bool asking = game.Flag(flag::kAsking) != 0;
+    game.timeOutRunning = false;
+    if (!game.state.FlagBitSet(flag::kTimeOutOptions, 7)) {
+        game.SetFlag(flag::kTimeOutOptions, game.Flag(flag::kTimeOutOptions) + 128);
+    }
+    if (game.trace.On()) game.trace.Line("Timer TimeOut");
+    session_->host.window.EndInput(asking ? game.answer : game.command);
+    game.printer.AtLineStart();
+    game.command.clear();
+    tickPending_ = true;
+    if (!asking) return RunLoop(&ProcessLoop::Enter);
+    // The question stands: it is asked for again.
+    Guard([&] {
+        AskForInput(game);
+        FinishTick();
+    });
+}
+
+void Engine::FinishTick() {
+    tickPending_ = false;
+    ClearTimeOutMark(*game_);
+    if (TimeOutIsArmed(*game_)) StartTimeOut(*game_);
+}
+
+void Engine::WaitTick() {
+    if (waiting_ != Waiting::Pause) return;
+    if (++pauses_ > kMostPauses) {
+        return Fail("the game paused more than " + std::to_string(kMostPauses) +
+                    " times without waiting for the player");
+    }
+    RunLoop(&ProcessLoop::Continue);
+    if (scriptPlaying_) PlayScript();
+}
+
+void Engine::DoNextScript() {
+    if (!game_ || !game_->inputReady || !session_->script.Loaded()) return;
+    if (PlayScriptLine()) PlayScript();
+}
+
+/// Plays on until the game asks a question or ends, or the script does.
+void Engine::PlayScript() {
+    scriptPlaying_ = true;
+    while (waiting_ == Waiting::Sentence && session_->script.Loaded() && PlayScriptLine()) {
+    }
+    if (waiting_ != Waiting::Pause) scriptPlaying_ = false;
+}
+
+/// False at the end of the script.
+bool Engine::PlayScriptLine() {
+    const std::optional<std::string> line = session_->script.NextInput();
+    if (!line) {
+        session_->script.CloseInput();
+        session_->host.oper.Tell("End-of-file reached.", "Script");
+        game_->SetFlag(flag::kScript, session_->script.State());
+        ShowStatus();
+        return false;
+    }
+    const bool asking = game_->Flag(flag::kAsking) != 0;
+    std::string& input = asking ? game_->answer : game_->command;
+    input = AsTyped(*line);
+    session_->host.window.EndInput(input);
+    game_->printer.AtLineStart();
+    ProcessInput(true);
+    return true;
+}
+
+void Engine::ToggleSound() {
+    session_->soundOn = !session_->soundOn;
+    ShowStatus();
+}
+
+bool Engine::SoundOn() const {
+    return session_->soundOn;
+}
+
+void Engine::SaveTo(const std::filesystem::path& file) {
+    if (game_) WriteSavedGame(file, game_->data, game_->state);
+}
+
+bool Engine::LoadFrom(const std::filesystem::path& file) {
+    if (!game_ || !RestoreFrom(*game_, file)) return false;
+    game_->printer.EndLine();
+    game_->command.clear();
+    game_->SetFlag(flag::kDescribe, kSet);
+    RunLoop(&ProcessLoop::Start);
+    return true;
+}
+
+std::string Engine::FontName(int number) const {
+    if (!game_) return {};
+    const auto name = game_->data.fontNames.find(number);
+    return name == game_->data.fontNames.end() ? "" : name->second;
+}
+
+}  // namespace fabula::engine

@@ -1,0 +1,95 @@
+#include "engine/flag_actions.h"
+
+#include "engine/auto_flags.h"
+#include "engine/game.h"
+
+namespace fabula::engine {
+
+bool Set(Game& game, int flag, int) {
+    game.SetFlag(flag, kSet);
+    return true;
+}
+
+bool Clear(Game& game, int flag, int) {
+    game.SetFlag(flag, 0);
+    return true;
+}
+
+bool Plus(Game& game, int flag, int value) {
+    game.state.Plus(flag, value);
+    return true;
+}
+
+bool Minus(Game& game, int flag, int value) {
+    game.state.Minus(flag, value);
+    return true;
+}
+
+bool Let(Game& game, int flag, int value) {
+    game.SetFlag(flag, value);
+    return true;
+}
+
+bool Add(Game& game, int from, int to) {
+    return Plus(game, to, game.Flag(from));
+}
+
+bool Sub(Game& game, int from, int to) {
+    return Minus(game, to, game.Flag(from));
+}
+
+bool CopyFF(Game& game, int from, int to) {
+    return Let(game, to, game.Flag(from));
+}
+
+bool Random(Game& game, int flag, int) {
+    return Let(game, flag, game.host.random.UpTo(100));
+}
+
+bool AutoDec(Game& game, int flag, int kind) {
+    SetAutoFlag(game, flag, -kind);
+    return true;
+}
+
+bool AutoInc(Game& game, int flag, int kind) {
+    SetAutoFlag(game, flag, kind);
+    return true;
+}
+
+bool Ability(Game& game, int objects, int weight) {
+    game.SetFlag(flag::kMaxObjects, objects);
+    game.SetFlag(flag::kMaxWeight, weight);
+    return true;
+}
+
+bool Mode(Game& game, int value, int) {
+    if (value == 1 || value == 4) game.SetFlag(flag::kClearMode, 1);
+    if (value == 0 || value == 2 || value == 3) game.SetFlag(flag::kClearMode, 0);
+    return true;
+}
+
+bool Graphic(Game& game, int value, int) {
+    const int mode = game.IsMarlo() ? flag::kMarloGraphicsMode : flag::kGraphicsMode;
+    if (value >= 0 && value <= 3) game.SetFlag(mode, value * 32);
+    return true;
+}
+
+bool Prompt(Game& game, int systemMessage, int) {
+    game.SetFlag(flag::kPrompt, systemMessage);
+    return true;
+}
+
+bool Time(Game& game, int duration, int option) {
+    constexpr int kUnit = 1280;
+    const int interval = duration * kUnit;
+    if (interval < std::numeric_limits<std::int16_t>::min() ||
+        interval > std::numeric_limits<std::int16_t>::max()) {
+        FailRange("the time-out of " + std::to_string(duration) + " units", interval);
+    }
+    game.SetFlag(flag::kTimeOut, duration);
+    game.timeOutInterval = interval;
+    game.SetFlag(flag::kTimeOutOptions, option);
+    return true;
+}
+
+}  // namespace fabula::engine

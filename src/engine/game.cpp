@@ -1,0 +1,73 @@
+#include "engine/game.h"
+
+#include "engine/auto_flags.h"
+
+namespace fabula::engine {
+
+namespace {
+
+constexpr int kDefaultBeepPause = 12;
+constexpr int kPromptMessage = 33;
+constexpr int kCursorMessage = 34;
+
+void SetStartFlags(Game& game) {
+    const Options& options = game.session.options;
+    game.SetFlag(flag::kBeepPause, kDefaultBeepPause);
+    if (options.traceRequested) game.SetFlag(flag::kTrace, kSet);
+    if (options.traceFile) game.SetFlag(flag::kTraceFile, kSet);
+    for (const int wordFlag :
+         {flag::kVerb, flag::kNoun, flag::kAdjective, flag::kAdverb, flag::kPreposition, flag::kNoun2,
+          flag::kAdjective2, flag::kPronounNoun, flag::kPronounAdjective}) {
+        game.SetFlag(wordFlag, kNoWord);
+    }
+    game.SetFlag(flag::kMaxObjects, game.data.maxObjects);
+    game.SetFlag(flag::kMaxWeight, game.data.maxWeight);
+    game.SetFlag(flag::kLocation, game.data.startLocation);
+    game.SetFlag(flag::kScript, game.session.script.State());
+    game.SetFlag(flag::kDescribe, kSet);
+}
+
+void PlaceObjects(Game& game) {
+    for (int object = 0; object < game.state.ObjectCount(); ++object) {
+        game.state.SetObjectPlace(object, game.data.objects[static_cast<std::size_t>(object)].startPlace);
+        if (game.IsCarried(object)) game.state.Plus(flag::kCarriedCount, 1);
+    }
+}
+
+GameLook LookOf(const Game& game) {
+    return {
+        .title = game.data.title,
+        .type = game.data.type,
+        .characterSets = game.data.characterSets,
+        .graphics = game.data.graphics,
+        .printWidth = game.data.printWidth,
+        .style = game.printer.Style(),
+    };
+}
+
+}  // namespace
+
+Game::Game(store::Adventure& adventure, Session& theSession)
+    : session(theSession),
+      host(theSession.host),
+      reading_(adventure),
+      data(adventure),
+      texts(adventure, data.type),
+      state(data),
+      printer(host.window, data, session.script),
+      trace(host.trace, state),
+      runner(*this, session.options.condactLimit),
+      loop(*this) {
+    SetStartFlags(*this);
+    SetAutoFlags(*this);
+    PlaceObjects(*this);
+    state.FillHistory();
+    if (!IsMarlo()) {
+        prompt = texts.SystemMessage(kPromptMessage);
+        cursor = printer.WithoutMarkup(texts.SystemMessage(kCursorMessage));
+    }
+    host.window.StartGame(LookOf(*this));
+    printer.Clear();
+}
+
+}  // namespace fabula::engine

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <chrono>
+#include <deque>
+#include <string>
+#include <string_view>
+
+#include "engine/condact_runner.h"
+#include "engine/engine.h"
+#include "engine/game_data.h"
+#include "engine/game_texts.h"
+#include "engine/printer.h"
+#include "engine/process_loop.h"
+#include "engine/run_state.h"
+#include "engine/script.h"
+#include "engine/trace.h"
+
+namespace fabula::engine {
+
+/// One tone of a series: the Marlo sub-functions of PAUSE play several.
+struct Tone {
+    int duration = 0;  ///< in 10 ms
+    int pitch = 0;
+};
+
+/// What outlives a restart of the game.
+struct Session {
+    Session(const Host& theHost, const Options& theOptions) : host(theHost), options(theOptions) {}
+
+    const Host host;
+    const Options options;
+    Script script;
+    bool soundOn = false;
+    bool begun = false;  ///< a game was started: the sound switch is the player's from then on
+};
+
+/// One game from its start to its end: what the condacts, the parser and the turn cycle read and change.
+/// The routines that work on it are grouped by subject in the other headers of this folder.
+class Game {
+  public:
+    /// Loads everything, gives the window its look and clears it; the loop's Start goes on from there.
+    /// Throws fabula::Error or RunFailure when the adventure can't be played.
+    Game(store::Adventure& adventure, Session& session);
+    Game(const Game&) = delete;
+    Game& operator=(const Game&) = delete;
+
+    Session& session;
+    const Host& host;
+
+  private:
+    store::ReadTransaction reading_;
+
+  public:
+    const GameData data;
+    GameTexts texts;
+    RunState state;
+    Printer printer;
+    Trace trace;
+    CondActRunner runner;
+    ProcessLoop loop;
+
+    // What stands in front of the input and behind it, other than in "marlo": system messages 33 and 34.
+    // They are kept because every key shows them.
+    std::string prompt;
+    std::string cursor;
+
+    // The input.
+    std::string command;        ///< text not yet parsed, sentences separated by "\r" (`strCommand`)
+    std::string answer;         ///< to an asking action (`strAnswer`)
+    std::string defaultAnswer;  ///< the last character of the question
+    bool inputReady = false;    ///< keys are for the game
+
+    // Where the run stands, and where it goes on after an answer; -1 for the start of a table.
+    int runningProc = 0;
+    int currentProc = 0;
+    int startX = -1;
+    int startY = -1;
+    int parentProcNum = 0;
+    int savedParentProcNum = 0;
+
+    /// Marks that the running table looks at behind each action.
+    bool done = false;
+    bool stopDoAll = false;
+    bool restart = false;  ///< the game starts again when it ends
+
+    /// Verb and adverb that the turn cycle cleared before the sentence came; slot 1 of the history gets
+    /// them back.
+    bool wordsCleared = false;
+    int clearedVerb = kNoWord;
+    int clearedAdverb = kNoWord;
+
+    int timeOutInterval = 0;      ///< in ms, as TIME set it; 0 before
+    bool timeOutRunning = false;  ///< the window's timer runs
+    std::deque<Tone> tones;       ///< still to be played
+
+    int Flag(int flag) const { return state.Flag(flag); }
+    void SetFlag(int flag, int value) { state.SetFlag(flag, value); }
+    bool IsMarlo() const { return data.IsMarlo(); }
+
+    /// The flag 38 location, for arguments of 255 and above; any other argument itself.
+    int PlaceOf(int argument) const { return argument >= place::kHere ? Flag(flag::kLocation) : argument; }
+    bool IsWorn(int object) const { return state.ObjectPlace(object) == place::kWorn; }
+    bool IsCarried(int object) const { return state.ObjectPlace(object) == place::kCarried; }
+    bool IsHere(int object) const { return state.ObjectPlace(object) == Flag(flag::kLocation); }
+    /// Worn, carried or here.
+    bool IsPresent(int object) const { return IsWorn(object) || IsCarried(object) || IsHere(object); }
+    /// Whether the player can see: object 0 is the light.
+    bool LightIsPresent() const { return state.ObjectCount() > 0 && IsPresent(0); }
+
+    /// Throws away the rest of the typed line.
+    void ClearCommand() { command.clear(); }
+
+    /// The number that tells two turns apart. It counts 255 to flag 32, not the 256 at which flag 31 wraps.
+    int TurnNumber() const { return Flag(flag::kTurnHigh) * 255 + Flag(flag::kTurnLow); }
+};
+
+}  // namespace fabula::engine

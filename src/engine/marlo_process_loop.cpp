@@ -1,0 +1,79 @@
+#include "engine/auto_flags.h"
+#include "engine/describe.h"
+#include "engine/game.h"
+#include "engine/messages.h"
+#include "engine/process_loop.h"
+
+namespace fabula::engine {
+
+/// The cycle of "marlo": description, process 1, the sentence, exits, process 0. There is no process 2, and
+/// an exit beats the response table.
+ProcessLoop::Label ProcessLoop::MarloProcessLoop(Label label) {
+    switch (label) {
+        case Label::Top:
+            if (game_.Flag(flag::kDescribe) == 0) return Label::Parse;
+            Describe(game_);
+            return Label::StartProc1;
+
+        case Label::StartProc1:
+            TraceLine("Drop into Proc1 after setting variables");
+            StartProcess(1);
+            return Label::Proc1;
+        case Label::Proc1:
+            ClearMatchWordsBit();
+            TraceLine("Process 1 from Proc1 label");
+            return RunCurrentTable(Label::AfterProc1);
+        case Label::AfterProc1:
+            return TestTable(label, Label::Parse, true);
+
+        case Label::Parse:
+            TraceLine("Autodec any flags (if necessary) to ");
+            ClearMatchWordsBit();
+            DoAutoFlags(game_, false);
+            return ParseSentence();
+
+        case Label::StartProc0:
+            if (game_.trace.On()) {
+                game_.trace.Line("Incrementing turn to " + std::to_string(game_.Flag(flag::kTurnLow)));
+                game_.trace.Line("Current location is " + std::to_string(game_.Flag(flag::kLocation)));
+            }
+            TraceLine("Drop into Proc0 after setting variables");
+            StartProcess(0);
+            return MarloExits();
+        case Label::Proc0:
+            TraceLine("Process 0 from Proc0 label");
+            game_.SetFlag(flag::kActed, 0);
+            return RunCurrentTable(Label::AfterProc0);
+        case Label::AfterProc0:
+            return TestTable(label, Label::Answer, true);
+        case Label::Answer:
+            return MarloAnswer();
+
+        default:
+            return Label::Return;
+    }
+}
+
+/// What the search comes to without a move is kept until process 0 has run.
+ProcessLoop::Label ProcessLoop::MarloExits() {
+    TraceLine("Searching Connections table");
+    exits_ = SearchConnections(game_, game_.Flag(flag::kLocation));
+    if (exits_ != ExitSearch::Moved) return Label::Proc0;
+    TraceLine("connections goto ");
+    return Label::Top;
+}
+
+ProcessLoop::Label ProcessLoop::MarloAnswer() {
+    if (game_.Flag(flag::kActed) != 0) {
+        TraceLine("Did an action. Back to Proc1");
+    } else {
+        SayNoExit(exits_);
+    }
+    return Label::StartProc1;
+}
+
+void ProcessLoop::TraceLine(const char* text) {
+    if (game_.trace.On()) game_.trace.Line(text);
+}
+
+}  // namespace fabula::engine

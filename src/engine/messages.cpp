@@ -1,0 +1,83 @@
+#include "engine/messages.h"
+
+#include <algorithm>
+
+#include "engine/game.h"
+#include "engine/shown_text.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::engine {
+
+namespace {
+
+constexpr std::size_t kLongestText = 1024 * 1024;
+
+void Print(Game& game, std::string_view text) {
+    game.printer.PrintText(text, false, true);
+}
+
+/// What a refusal does behind its message.
+bool GiveUp(Game& game) {
+    game.ClearCommand();
+    game.done = true;
+    return true;
+}
+
+/// Prints a text with the description of the object of flag 51 in place of each "_".
+void Say(Game& game, std::string_view text) {
+    const auto marks = static_cast<std::size_t>(std::count(text.begin(), text.end(), '_'));
+    const int object = game.Flag(flag::kObject);
+    if (marks == 0 || object < 0 || object >= game.state.ObjectCount()) return Print(game, text);
+    const std::string description = CollapseBlanks(game.texts.Object(object));
+    if (marks * description.size() + text.size() > kLongestText) {
+        throw RunFailure("a message with the description of object " + std::to_string(object) +
+                         " in it is too long");
+    }
+    Print(game, text::ReplaceAll(text, "_", description));
+}
+
+}  // namespace
+
+void PrintSystemMessage(Game& game, int message) {
+    Print(game, game.texts.SystemMessage(message));
+}
+
+void SayMessage(Game& game, int message) {
+    Say(game, game.texts.Message(message));
+}
+
+void SaySystemMessage(Game& game, int message) {
+    Say(game, game.texts.SystemMessage(message));
+}
+
+void PrintObject(Game& game, int object) {
+    Print(game, game.texts.Object(object));
+}
+
+bool Refuse(Game& game, int message) {
+    SaySystemMessage(game, message);
+    return GiveUp(game);
+}
+
+void SayWithObject(Game& game, int message, int object) {
+    SaySystemMessage(game, message);
+    PrintObject(game, object);
+    SaySystemMessage(game, 51);
+}
+
+bool RefuseWithObject(Game& game, int message, int object) {
+    SayWithObject(game, message, object);
+    return GiveUp(game);
+}
+
+std::string LastCharacter(Game& game, std::string_view text) {
+    return std::string(text::Right(game.printer.WithoutMarkup(text), 1));
+}
+
+std::string FirstCharacter(Game& game, int systemMessage) {
+    const std::string shown = game.printer.WithoutMarkup(game.texts.SystemMessage(systemMessage));
+    return text::UpperCase(text::Left(shown, 1));
+}
+
+}  // namespace fabula::engine

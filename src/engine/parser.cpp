@@ -1,0 +1,294 @@
+#include "engine/parser.h"
+
+#include "engine/game.h"
+#include "engine/shown_text.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::engine {
+
+namespace {
+
+constexpr char kQuote = '"';
+constexpr std::string_view kNoWordText = "Null";
+
+enum WordType {
+    kVerbType = 0,
+    kAdverbType = 1,
+    kNounType = 2,
+    kAdjectiveType = 3,
+    kPrepositionType = 4,
+    kPronounType = 6
+};
+
+constexpr int kFirstReferableNoun = 50;
+constexpr int kFirstPlainNoun = 20;
+
+constexpr int kResetFlags[] = {flag::kVerb,        flag::kAdverb, flag::kNoun,      flag::kAdjective,
+                               flag::kPreposition, flag::kNoun2,  flag::kAdjective2};
+constexpr std::size_t kMarloKeeps = 2;  ///< the first two stay from the sentence before
+
+void SetWord(Game& game, int wordFlag, int number, std::string_view word) {
+    game.SetFlag(wordFlag, number);
+    game.state.WordText(wordFlag) = word;
+}
+
+void CopyWord(Game& game, int from, int to) {
+    SetWord(game, to, game.Flag(from), std::string(game.state.WordText(from)));
+}
+
+bool HasWord(const Game& game, int wordFlag) {
+    return game.Flag(wordFlag) != kNoWord;
+}
+
+/// A new sentence begins: the history moves on, and the words of the last one are cleared.
+void BeginSentence(Game& game) {
+    game.state.ShiftHistory();
+    if (game.wordsCleared) {
+        const auto before = game.state.Flags(1);
+        before[flag::kVerb] = static_cast<std::int16_t>(game.clearedVerb);
+        before[flag::kAdverb] = static_cast<std::int16_t>(game.clearedAdverb);
+        game.wordsCleared = false;
+    }
+    game.state.oldWordText = game.state.wordText;
+    for (std::size_t i = game.IsMarlo() ? kMarloKeeps : 0; i < std::size(kResetFlags); ++i) {
+        SetWord(game, kResetFlags[i], kNoWord, kNoWordText);
+    }
+}
+
+/// The words of one sentence of type "fabula" or "vel", one after the other.
+class SentenceReader {
+  public:
+    explicit SentenceReader(Game& game) : game_(game) {}
+
+    void Take(const std::vector<VocabularyWord>& rows) {
+        const VocabularyWord& row = rows.front();
+        switch (row.type) {
+            case kVerbType:
+                return TakeVerb(rows);
+            case kAdverbType:
+                return TakeAdverb(row);
+            case kPrepositionType:
+                if (!HasWord(game_, flag::kPreposition))
+                    SetWord(game_, flag::kPreposition, row.number, row.word);
+                return;
+            default:
+                break;
+        }
+        if (secondNounSeen_) return;
+        if (row.type == kAdjectiveType) return TakeAdjective(row);
+        if (row.type == kPronounType) return TakePronoun();
+        TakeNoun(row.number, row.word);
+    }
+
+    void Finish() {
+        if (!adverbSeen_) SetWord(game_, flag::kAdverb, kNoWord, kNoWordText);
+        KeepForPronoun(flag::kNoun2, flag::kAdjective2);
+        KeepForPronoun(flag::kNoun, flag::kAdjective);
+        if (game_.Flag(flag::kNoun) < kFirstPlainNoun && !verbSeen_)
+            CopyWord(game_, flag::kNoun, flag::kVerb);
+    }
+
+  private:
+    /// A second verb that is a noun too, and nothing else, is that noun.
+    void TakeVerb(const std::vector<VocabularyWord>& rows) {
+        if (!verbSeen_) {
+            verbSeen_ = true;
+            return SetWord(game_, flag::kVerb, rows[0].number, rows[0].word);
+        }
+        if (rows.size() != 2 || rows[1].type != kNounType || secondNounSeen_) return;
+        TakeNoun(rows[1].number, rows[1].word);
+    }
+
+    void TakeAdverb(const VocabularyWord& row) {
+        if (adverbSeen_) return;
+        adverbSeen_ = true;
+        SetWord(game_, flag::kAdverb, row.number, row.word);
+    }
+
+    void TakeAdjective(const VocabularyWord& row) {
+        if (adjectivePending_) return;
+        adjectivePending_ = true;
+        SetWord(game_, nounSeen_ ? flag::kAdjective2 : flag::kAdjective, row.number, row.word);
+    }
+
+    void TakePronoun() {
+        if (!HasWord(game_, flag::kPronounNoun)) return;
+        CopyWord(game_, flag::kPronounAdjective, nounSeen_ ? flag::kAdjective2 : flag::kAdjective);
+        TakeNoun(game_.Flag(flag::kPronounNoun), std::string(game_.state.WordText(flag::kPronounNoun)));
+    }
+
+    void TakeNoun(int number, std::string_view word) {
+        adjectivePending_ = false;
+        if (!nounSeen_) {
+            nounSeen_ = true;
+            return SetWord(game_, flag::kNoun, number, word);
+        }
+        // One noun twice names one thing, unless two different adjectives tell the things apart.
+        const bool twoThings = HasWord(game_, flag::kAdjective) && HasWord(game_, flag::kAdjective2) &&
+                               game_.Flag(flag::kAdjective) != game_.Flag(flag::kAdjective2);
+        if (number == game_.Flag(flag::kNoun) && !twoThings) return;
+        secondNounSeen_ = true;
+        SetWord(game_, flag::kNoun2, number, word);
+    }
+
+    void KeepForPronoun(int noun, int adjective) {
+        if (game_.Flag(noun) < kFirstReferableNoun || !HasWord(game_, noun)) return;
+        CopyWord(game_, noun, flag::kPronounNoun);
+        CopyWord(game_, adjective, flag::kPronounAdjective);
+    }
+
+    Game& game_;
+    bool verbSeen_ = false;
+    bool adverbSeen_ = false;
+    bool nounSeen_ = false;
+    bool secondNounSeen_ = false;
+    bool adjectivePending_ = false;
+};
+
+/// The words of one sentence of type "marlo": two count.
+class MarloReader {
+  public:
+    explicit MarloReader(Game& game) : game_(game) {}
+
+    void Take(const std::vector<VocabularyWord>& rows) {
+        ++known_;
+        if (known_ == 1) SetWord(game_, flag::kVerb, rows[0].number, rows[0].word);
+        if (known_ == 2) TakeSecond(rows[0]);
+    }
+
+    void Finish() {}
+
+  private:
+    void TakeSecond(const VocabularyWord& row) {
+        if (row.number < kFirstPlainNoun && !HasWord(game_, flag::kVerb)) {
+            return SetWord(game_, flag::kVerb, row.number, row.word);
+        }
+        if (HasWord(game_, flag::kNoun)) return SetWord(game_, flag::kNoun2, row.number, row.word);
+        SetWord(game_, flag::kNoun, row.number, row.word);
+        if (row.number > kFirstReferableNoun) SetWord(game_, flag::kPronounNoun, row.number, row.word);
+    }
+
+    Game& game_;
+    int known_ = 0;
+};
+
+/// Hands the words of a sentence to a reader. Returns what it leaves: speech, with what follows it.
+template <class Reader>
+std::string_view ReadWords(Game& game, std::string_view sentence, Reader reader) {
+    const auto letters = static_cast<std::size_t>(game.data.significantLetters);
+    while (!sentence.empty() && sentence.front() != kQuote) {
+        const std::size_t blank = sentence.find(' ');
+        const std::string_view word = sentence.substr(0, blank);
+        sentence.remove_prefix(blank == std::string_view::npos ? sentence.size() : blank + 1);
+        const std::vector<VocabularyWord>& rows = game.texts.FindWord(text::Left(word, letters));
+        if (!rows.empty()) reader.Take(rows);
+    }
+    reader.Finish();
+    return sentence;
+}
+
+}  // namespace
+
+std::string SplitSentences(std::string_view line, const std::vector<std::string>& conjunctions) {
+    constexpr std::string_view kSentenceEnds = ",;.!?";
+    std::string text = text::ReplaceAll(line, "\r\n", " ");
+    for (char& c : text) {
+        if (c == '\r' || c == '\n') c = ' ';
+    }
+    for (const std::string& conjunction : conjunctions) {
+        if (text.find(conjunction) == std::string::npos) continue;
+        text = text::ReplaceAll(text, " " + conjunction + " ", std::string(1, kSentenceEnd));
+    }
+    for (char& c : text) {
+        if (kSentenceEnds.find(c) != std::string_view::npos) c = kSentenceEnd;
+    }
+    while (text.ends_with(kSentenceEnd))
+        text.pop_back();
+    return text;
+}
+
+bool ParsePhrase(Game& game, std::string& text) {
+    if (text.empty()) return false;
+    if (game.trace.On()) game.trace.Line("Command: " + text);
+    BeginSentence(game);
+    const std::size_t end = text.find(kSentenceEnd);
+    const std::string collapsed = CollapseBlanks(std::string_view(text).substr(0, end));
+    const std::string_view sentence = text::TrimBlanks(collapsed);
+    if (game.IsMarlo()) {
+        ReadWords(game, sentence, MarloReader(game));
+        text.clear();
+    } else {
+        const std::string_view speech = ReadWords(game, sentence, SentenceReader(game));
+        const std::string rest = end == std::string::npos ? "" : text.substr(end);
+        text = text::TrimBlanks(std::string(speech) + rest);
+        text.erase(0, std::min(text.find_first_not_of(kSentenceEnd), text.size()));
+    }
+    return HasWord(game, flag::kVerb) || HasWord(game, flag::kNoun);
+}
+
+std::string SentenceWords(const Game& game) {
+    std::string words;
+    for (const int wordFlag :
+         {flag::kAdverb, flag::kVerb, flag::kAdjective, flag::kNoun, flag::kPreposition}) {
+        if (!words.empty()) words += ' ';
+        words += game.state.WordText(wordFlag);
+    }
+    return words;
+}
+
+namespace {
+
+struct StoredFlag {
+    int flag;
+    int store;
+};
+
+/// The words of the player's own sentence, while PARSE reads what was said.
+constexpr StoredFlag kStoredFlags[] = {{flag::kVerb, 1006},        {flag::kAdverb, 1007},
+                                       {flag::kNoun, 1008},        {flag::kAdjective, 1009},
+                                       {flag::kPronounNoun, 1010}, {flag::kPronounAdjective, 1011}};
+
+/// Cuts the speech out of the pending line: what stands between the first double quote and the next, or the
+/// end. `begin` is where it stood.
+std::string CutSpeech(std::string& command, std::size_t& begin) {
+    const std::size_t open = command.find(kQuote);
+    if (open == std::string::npos) return {};
+    begin = open + 1;
+    const std::size_t close = std::min(command.find(kQuote, begin), command.size());
+    std::string speech = command.substr(begin, close - begin);
+    command.erase(begin, close - begin);
+    return speech;
+}
+
+void TraceSpeech(Game& game) {
+    if (!game.trace.On()) return;
+    game.trace.Line("Processing parse sentence (abverb verb adjective noun prep " + SentenceWords(game) +
+                    ")");
+    game.trace.Line("Continuing:");
+}
+
+}  // namespace
+
+bool Parse(Game& game, int, int) {
+    for (const StoredFlag& stored : kStoredFlags) {
+        if (game.Flag(stored.store) == 0) game.SetFlag(stored.store, game.Flag(stored.flag));
+    }
+    std::size_t begin = 0;
+    std::string speech = CutSpeech(game.command, begin);
+    const bool parsed = ParsePhrase(game, speech);
+    TraceSpeech(game);
+    if (!speech.empty()) {
+        game.command.insert(begin, speech);  // further sentences were said: they wait for the next PARSE
+    } else {
+        std::erase(game.command, kQuote);
+        if (game.command.starts_with(kSentenceEnd)) game.command.erase(0, 1);
+    }
+    for (const StoredFlag& stored : kStoredFlags) {
+        if (!parsed && game.Flag(stored.store) != 0) game.SetFlag(stored.flag, game.Flag(stored.store));
+        game.SetFlag(stored.store, 0);
+    }
+    return !parsed;
+}
+
+}  // namespace fabula::engine

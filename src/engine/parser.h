@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fabula::engine {
+
+class Game;
+
+/// The separator of sentences in a pending line.
+inline constexpr char kSentenceEnd = '\r';
+
+/// Cuts a typed line into sentences: at line ends a blank, at each conjunction that has a blank on either
+/// side and at each of , ; . ! ? a kSentenceEnd. None stands at the end.
+std::string SplitSentences(std::string_view line, const std::vector<std::string>& conjunctions);
+
+/// `ParsePhrase`: takes the first sentence off `text` and puts its words into flags 33 to 36, 43 to 47.
+/// Speech (from a word that begins with a double quote on) stays in `text`. True when the sentence has a
+/// verb or a noun. An empty text changes nothing; any other shifts the history.
+bool ParsePhrase(Game& game, std::string& text);
+
+/// PARSE (condact_table.cpp): reads the speech at the head of the pending line as ParsePhrase does. When it
+/// is understood the entry ends, otherwise it goes on with the words of the player's own sentence.
+bool Parse(Game& game, int, int);
+
+/// The words of the sentence behind flags 36, 33, 35, 34 and 43, for the trace.
+std::string SentenceWords(const Game& game);
+
+}  // namespace fabula::engine

@@ -1,0 +1,203 @@
+#include "engine/process_loop.h"
+
+#include "engine/describe.h"
+#include "engine/game.h"
+#include "engine/messages.h"
+#include "engine/parser.h"
+#include "engine/prompt.h"
+
+namespace fabula::engine {
+
+ProcessLoop::Outcome ProcessLoop::Start() {
+    turnAtInput_ = kTurnOfAnswer;
+    unwinding_ = false;
+    return Run(Label::Begin);
+}
+
+ProcessLoop::Outcome ProcessLoop::Enter() {
+    if (!game_.wordsCleared) {
+        game_.wordsCleared = true;
+        game_.clearedVerb = game_.Flag(flag::kVerb);
+        game_.clearedAdverb = game_.Flag(flag::kAdverb);
+    }
+    game_.SetFlag(flag::kVerb, kNoWord);
+    game_.SetFlag(flag::kAdverb, kNoWord);
+    turnAtInput_ = game_.TurnNumber();
+    game_.startX = -1;
+    game_.startY = -1;
+    unwinding_ = false;
+    if (game_.IsMarlo() && game_.trace.On()) game_.trace.Line("Executing MarloProcessLoop -1 -1 -1");
+    return Run(Label::Top);
+}
+
+ProcessLoop::Outcome ProcessLoop::Resume() {
+    const int process = game_.currentProc;
+    turnAtInput_ = kTurnOfAnswer;  // the answer was this line's input
+    game_.parentProcNum = game_.savedParentProcNum;
+    unwinding_ = false;
+    if (game_.IsMarlo() && game_.trace.On()) {
+        game_.trace.Line("Executing MarloProcessLoop " + std::to_string(process) + " " +
+                         std::to_string(game_.startX) + " " + std::to_string(game_.startY));
+        game_.trace.Line(process <= 1
+                             ? "Back to Process " + std::to_string(process) + " after ending procedure"
+                             : "Trying to skip to " + std::to_string(process) + " in a Marlo game");
+    }
+    if (process == 1) return Run(Label::Proc1);
+    if (game_.IsMarlo()) return Run(process == 0 ? Label::Proc0 : Label::Top);
+    return Run(process == 2 ? Label::Proc2 : Label::Proc0);
+}
+
+ProcessLoop::Outcome ProcessLoop::Continue() {
+    return Run(Label::Table);
+}
+
+ProcessLoop::Outcome ProcessLoop::Run(Label label) {
+    ending_ = Outcome::WaitsForPlayer;
+    while (label != Label::Return) {
+        switch (label) {
+            case Label::Table:
+                if (!game_.runner.Run()) return Outcome::Pauses;
+                label = afterTable_;
+                break;
+            case Label::Begin:
+            case Label::BegunProc1:
+            case Label::BeginProc2:
+            case Label::BegunProc2:
+            case Label::BegunLast:
+                label = BeginStep(label);
+                break;
+            case Label::End:
+                game_.SetFlag(flag::kEnded, 0);
+                ending_ = game_.restart ? Outcome::Restarts : Outcome::Ended;
+                label = Label::Return;
+                break;
+            default:
+                label = game_.IsMarlo() ? MarloProcessLoop(label) : VelProcessLoop(label);
+                break;
+        }
+    }
+    return ending_;
+}
+
+/// The start of a game. A description that process 2 asks for is carried out once.
+ProcessLoop::Label ProcessLoop::BeginStep(Label label) {
+    if (label != Label::Begin && label != Label::BeginProc2) {
+        if (game_.Flag(flag::kEnded) != 0) return Label::End;
+        if (game_.Flag(flag::kAsking) != 0) return AskPlayer();
+    }
+    switch (label) {
+        case Label::Begin:
+        case Label::BegunProc1:
+            if (game_.Flag(flag::kDescribe) == 0) return game_.IsMarlo() ? Prompt() : Label::BeginProc2;
+            Describe(game_);
+            game_.parentProcNum = 1;
+            return RunTable(1, -1, -1, Label::BegunProc1);
+        case Label::BeginProc2:
+            game_.parentProcNum = 2;
+            return RunTable(2, -1, -1, Label::BegunProc2);
+        case Label::BegunProc2:
+            if (game_.Flag(flag::kDescribe) == 0) return Prompt();
+            Describe(game_);
+            return RunTable(1, -1, -1, Label::BegunLast);
+        default:
+            return Prompt();
+    }
+}
+
+ProcessLoop::Label ProcessLoop::RunTable(int process, int startX, int startY, Label after) {
+    game_.runner.DoCondActs(process, startX, startY);
+    afterTable_ = after;
+    return Label::Table;
+}
+
+ProcessLoop::Label ProcessLoop::RunCurrentTable(Label after) {
+    return RunTable(game_.currentProc, game_.startX, game_.startY, after);
+}
+
+ProcessLoop::Label ProcessLoop::TestTable(Label table, Label next, bool testDescribe) {
+    if (game_.Flag(flag::kAsking) != 0) return AskPlayer();
+    if (game_.Flag(flag::kEnded) != 0) return Label::End;
+    if ((testDescribe || unwinding_) && game_.Flag(flag::kDescribe) != 0) return Label::Top;
+    std::vector<TablePosition>& calls = game_.runner.callStack;
+    if (unwinding_ && !calls.empty()) calls.pop_back();
+    unwinding_ = !calls.empty();
+    if (!unwinding_) return next;
+    const TablePosition call = calls.back();
+    if (game_.IsMarlo() && game_.trace.On()) {
+        game_.trace.Line("Process " + std::to_string(call.process) + " from call stack " +
+                         (table == Label::AfterProc0 ? "after Proc0" : "after Proc1"));
+    }
+    return RunTable(call.process, call.entry, call.cell, table);
+}
+
+void ProcessLoop::StartProcess(int process) {
+    game_.currentProc = process;
+    game_.parentProcNum = process;
+    game_.startX = -1;
+    game_.startY = -1;
+    game_.runner.callStack.clear();
+    unwinding_ = false;
+}
+
+void ProcessLoop::ClearMatchWordsBit() {
+    if (game_.startX != -1 || game_.startY != -1 || !game_.state.FlagBitSet(flag::kMatchWords, 7)) return;
+    game_.SetFlag(flag::kMatchWords, game_.Flag(flag::kMatchWords) - 128);
+}
+
+/// What a line without words gets: message 35 when the time-out brought it.
+void ProcessLoop::SayNotUnderstood() {
+    constexpr int kNotUnderstood = 6;
+    constexpr int kTimePasses = 35;
+    PrintSystemMessage(game_,
+                       game_.state.FlagBitSet(flag::kTimeOutOptions, 7) ? kTimePasses : kNotUnderstood);
+}
+
+/// System message 6 for a direction without an exit, 7 for anything else that nothing answered.
+void ProcessLoop::SayNoExit(ExitSearch search) {
+    if (search == ExitSearch::NoExit) PrintSystemMessage(game_, 6);
+    if (search == ExitSearch::NoDirection) PrintSystemMessage(game_, 7);
+}
+
+/// Takes the next sentence of the line. Without one, or with one that is not understood, the player is
+/// asked.
+ProcessLoop::Label ProcessLoop::ParseSentence() {
+    if (game_.command.empty()) {
+        if (game_.TurnNumber() == turnAtInput_) SayNotUnderstood();
+        return Prompt();
+    }
+    if (!ParsePhrase(game_, game_.command)) {
+        SayNotUnderstood();
+        return Prompt();
+    }
+    TraceSentence();
+    CountTurn();
+    return Label::StartProc0;
+}
+
+void ProcessLoop::TraceSentence() {
+    if (!game_.trace.On()) return;
+    const std::string words = SentenceWords(game_);
+    game_.host.window.ShowStatus(StatusField::Command, words);
+    game_.trace.Line("Processing sentence (abverb verb adjective noun prep " + words + ")");
+}
+
+void ProcessLoop::CountTurn() {
+    constexpr int kWrap = 256;
+    game_.state.Plus(flag::kTurnLow, 1);
+    if (game_.Flag(flag::kTurnLow) == kWrap) {
+        game_.SetFlag(flag::kTurnLow, 0);
+        game_.state.Plus(flag::kTurnHigh, 1);
+    }
+}
+
+ProcessLoop::Label ProcessLoop::AskPlayer() {
+    AskForInput(game_);
+    return Label::Return;
+}
+
+ProcessLoop::Label ProcessLoop::Prompt() {
+    ProvidePrompt(game_);
+    return Label::Return;
+}
+
+}  // namespace fabula::engine

@@ -1,0 +1,76 @@
+#include "engine/prompt.h"
+
+#include "engine/game.h"
+#include "engine/messages.h"
+
+namespace fabula::engine {
+
+namespace {
+
+constexpr int kArmedBit = 2;
+constexpr int kFiredBit = 7;
+constexpr int kFired = 128;
+constexpr int kTimeOutUnit = 1280;  ///< ms
+
+/// One of system messages 2 to 5.
+int RandomPrompt(Game& game) {
+    const int chance = game.host.random.UpTo(100);
+    if (chance >= 91) return 5;
+    if (chance >= 61) return 4;
+    return chance >= 31 ? 3 : 2;
+}
+
+void OpenInput(Game& game) {
+    game.printer.PrintText(game.prompt, false, true, TextRole::Prompt);
+    if (TimeOutIsArmed(game)) StartTimeOut(game);
+    game.inputReady = true;
+    ShowTyped(game);
+}
+
+}  // namespace
+
+void ProvidePrompt(Game& game) {
+    const int message = game.Flag(flag::kPrompt);
+    PrintSystemMessage(game, message != 0 ? message : RandomPrompt(game));
+    game.printer.NewLine();
+    game.command.clear();
+    OpenInput(game);
+}
+
+void AskForInput(Game& game) {
+    game.session.script.WriteAnswerMark();
+    game.answer.clear();
+    OpenInput(game);
+}
+
+void ShowTyped(Game& game) {
+    const bool asking = game.Flag(flag::kAsking) != 0;
+    game.host.window.ShowInput(asking ? game.answer : game.command, game.cursor);
+}
+
+bool TimeOutIsArmed(const Game& game) {
+    return game.state.FlagBitSet(flag::kTimeOutOptions, kArmedBit) && game.Flag(flag::kTimeOut) != 0;
+}
+
+void StartTimeOut(Game& game) {
+    // A game that came by its flags otherwise than by TIME, from a saved state, has no interval yet.
+    const int interval =
+        game.timeOutInterval != 0 ? game.timeOutInterval : game.Flag(flag::kTimeOut) * kTimeOutUnit;
+    if (interval <= 0) return;
+    game.timeOutRunning = true;
+    game.host.window.StartTimeOut(std::chrono::milliseconds(interval));
+}
+
+void StopTimeOut(Game& game) {
+    if (!TimeOutIsArmed(game)) return;
+    game.timeOutRunning = false;
+    game.host.window.StopTimeOut();
+    ClearTimeOutMark(game);
+}
+
+void ClearTimeOutMark(Game& game) {
+    const int options = game.Flag(flag::kTimeOutOptions);
+    if (BitSet(options, kFiredBit)) game.SetFlag(flag::kTimeOutOptions, options - kFired);
+}
+
+}  // namespace fabula::engine

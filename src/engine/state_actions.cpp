@@ -1,0 +1,188 @@
+#include "engine/state_actions.h"
+
+#include "engine/game.h"
+#include "engine/location_actions.h"
+#include "engine/saved_game.h"
+#include "platform/error.h"
+#include "text/markup.h"
+
+namespace fabula::engine {
+
+namespace {
+
+constexpr std::string_view kErrorTitle = "Error";
+
+constexpr FileRequest kSaveRequest = {"Save as a Fabula Save File", "Fabula Save File|*.sav", "sav", true};
+constexpr FileRequest kLoadRequest = {"Open Existing Fabula Save File", "Fabula Save File|*.sav", "sav",
+                                      false};
+constexpr FileRequest kWriteScriptRequest = {"Output SCRIPT Name", "Fabula Script|*.scr", "scr", true};
+constexpr FileRequest kReadScriptRequest = {"Input SCRIPT Name", "Fabula Script|*.scr", "scr", false};
+
+/// The file that the player names, with the extension of its kind when the name has none.
+std::optional<std::filesystem::path> AskForFile(Game& game, const FileRequest& request) {
+    std::optional<std::filesystem::path> file = game.host.window.AskForFile(request);
+    if (file && !file->has_extension()) *file += "." + std::string(request.extension);
+    return file;
+}
+
+bool Fail(Game& game, std::string_view message) {
+    game.host.oper.Tell(message, kErrorTitle);
+    game.done = true;
+    return true;
+}
+
+/// Flags that tell of this session, not of the game, and so outlive a return to an earlier state.
+struct SessionFlags {
+    explicit SessionFlags(const Game& game)
+        : traceFile(game.Flag(flag::kTraceFile)), trace(game.Flag(flag::kTrace)) {}
+
+    void PutBack(Game& game) const {
+        game.SetFlag(flag::kTraceFile, traceFile);
+        game.SetFlag(flag::kTrace, trace);
+        game.SetFlag(flag::kScript, game.session.script.State());
+        // The action that went back is still running: it acted, and it waits for nothing.
+        game.SetFlag(flag::kActed, kSet);
+        game.SetFlag(flag::kEnded, 0);
+        game.SetFlag(flag::kAsking, 0);
+        game.SetFlag(flag::kAnyKey, 0);
+    }
+
+    int traceFile;
+    int trace;
+};
+
+void ShowScriptState(Game& game) {
+    game.SetFlag(flag::kScript, game.session.script.State());
+    game.host.window.ShowStatus(StatusField::Script, game.session.script.StatusText());
+    game.host.window.EnableNext(game.session.script.Loaded());
+}
+
+void StartScript(Game& game) {
+    const std::optional<std::filesystem::path> file = AskForFile(game, kWriteScriptRequest);
+    if (file) game.session.script.StartWriting(*file);
+}
+
+void LoadScript(Game& game) {
+    const std::optional<std::filesystem::path> file = AskForFile(game, kReadScriptRequest);
+    if (file) game.session.script.Load(*file);
+}
+
+struct WordKind {
+    int flag;
+    std::string_view typeName;
+};
+
+/// The words that AGAIN tells, in their order.
+constexpr WordKind kToldWords[] = {
+    {flag::kAdverb, "Adverb"},
+    {flag::kVerb, "Verb"},
+    {flag::kAdjective, "Adjective"},
+    {flag::kNoun, "Noun"},
+    {flag::kPreposition, "Preposition"},
+    {flag::kAdjective2, "Adjective"},
+    {flag::kNoun2, "Noun"},
+};
+
+constexpr int kRepeatedFlags[] = {flag::kVerb,        flag::kNoun,        flag::kAdjective,
+                                  flag::kAdverb,      flag::kPreposition, flag::kNoun2,
+                                  flag::kAdjective2,  flag::kPronounNoun, flag::kPronounAdjective,
+                                  flag::kObject,      flag::kObjectPlace, flag::kObjectWeight,
+                                  flag::kIsContainer, flag::kIsWearable};
+
+}  // namespace
+
+bool Save(Game& game, int, int) {
+    const std::optional<std::filesystem::path> file = AskForFile(game, kSaveRequest);
+    if (!file) return true;
+    try {
+        WriteSavedGame(*file, game.data, game.state);
+    } catch (const Error& error) {
+        return Fail(game, error.what());
+    }
+    Desc(game, 0, 0);
+    game.runner.ClearStack("Save");
+    return true;
+}
+
+bool RestoreFrom(Game& game, const std::filesystem::path& file) {
+    const SessionFlags session(game);
+    if (!ReadSavedGame(file, game.data, game.state)) return false;
+    session.PutBack(game);
+    return true;
+}
+
+bool Load(Game& game, int, int) {
+    const std::optional<std::filesystem::path> file = AskForFile(game, kLoadRequest);
+    if (!file) return true;
+    try {
+        if (!RestoreFrom(game, *file)) return Fail(game, "Invalid Save File for this Adventure");
+    } catch (const Error& error) {
+        return Fail(game, error.what());
+    }
+    Desc(game, 0, 0);
+    game.runner.ClearStack("Load");
+    return true;
+}
+
+bool RamSave(Game& game, int, int) {
+    game.state.RamSave();
+    return true;
+}
+
+bool RamLoad(Game& game, int lastFlag, int) {
+    const SessionFlags session(game);
+    game.state.RamLoad(lastFlag);
+    session.PutBack(game);
+    return true;
+}
+
+/// Score and the low turn count survive.
+bool Oops(Game& game, int slot, int) {
+    const SessionFlags session(game);
+    const int score = game.Flag(flag::kScore);
+    const int turn = game.Flag(flag::kTurnLow);
+    game.state.TakeSlot(slot);
+    game.SetFlag(flag::kScore, score);
+    game.SetFlag(flag::kTurnLow, turn);
+    session.PutBack(game);
+    game.printer.PrintText("OOPS restored from previous turn " + std::to_string(slot), false, true);
+    game.printer.EndLine();
+    return true;
+}
+
+bool Again(Game& game, int, int) {
+    const auto before = game.state.Flags(1);
+    for (const int flag : kRepeatedFlags)
+        game.SetFlag(flag, before[static_cast<std::size_t>(flag)]);
+    game.state.wordText = game.state.oldWordText;
+    std::string told = "Re-executing ";
+    for (const WordKind& kind : kToldWords) {
+        if (game.Flag(kind.flag) == kNoWord) continue;
+        const std::string word = game.texts.WordOf(game.Flag(kind.flag), kind.typeName);
+        if (!word.empty()) told += text::EscapeMarkup(word) + " ";
+    }
+    game.printer.PrintText(told, false, true);
+    game.printer.EndLine();
+    return true;
+}
+
+bool ScriptAction(Game& game, int value, int) {
+    Script& script = game.session.script;
+    try {
+        if (value == 0) {
+            script.CloseAll();
+        } else if (value == 1) {
+            if (script.Writing()) return Fail(game, "Script is already on!");
+            StartScript(game);
+        } else {
+            if (script.Loaded()) return Fail(game, "Script is already loaded!");
+            LoadScript(game);
+        }
+    } catch (const Error& error) {
+        return Fail(game, error.what());
+    }
+    ShowScriptState(game);
+    return true;
+}
+
+}  // namespace fabula::engine
