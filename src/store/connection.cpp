@@ -145,6 +145,8 @@ void Connection::Bind(sqlite3_stmt* statement, int parameter, const text::Value&
                                        SQLITE_UTF8);
         }
         int operator()(const text::Blob& bytes) const {
+            // No bytes have no address, which would be taken for null.
+            if (bytes.empty()) return sqlite3_bind_zeroblob(statement, parameter, 0);
             return sqlite3_bind_blob64(statement, parameter, bytes.data(), bytes.size(), SQLITE_TRANSIENT);
         }
     };

@@ -23,10 +23,6 @@ namespace fabula::store {
 inline constexpr std::uint32_t kApplicationId = 0x46414255;
 inline constexpr std::uint32_t kFileVersion = 1;
 
-/// The name of the integer primary key that every table carries and that is no field: cursors know their
-/// record by it, and change sets need it.
-inline constexpr std::string_view kStoreKey = "storekey";
-
 struct StatementCloser {
     void operator()(sqlite3_stmt* statement) const;
 };

@@ -124,6 +124,8 @@ class Creator {
                 host_.person.Tell("Invalid option: " + line.text, "Error");
                 continue;
             }
+            if (!IsFieldName(columns[0]))
+                data_.Malformed(section, line, "'" + columns[0] + "' is no name of a field");
             if (schema.Find(columns[0])) data_.Malformed(section, line, "the field stands there twice");
             const int size = static_cast<int>(ReadNumber(data_, section, line, columns[2]));
             schema.fields.push_back({columns[0], *type, *type == FieldType::VarWChar ? size : 0});
@@ -233,7 +235,8 @@ class Creator {
 
     void AddCharacters() {
         const TableEntry& table = *FindTable(TableNum::Characters);
-        for (const Record& record : ReadCharacters(data_, DataSection(table))) {
+        const TableSchema& schema = connection_.SchemaOf(TableNum::Characters);
+        for (const Record& record : ReadCharacters(data_, DataSection(table), schema)) {
             writer_.Add(TableNum::Characters, record);
             host_.events.Pump();
         }
@@ -289,11 +292,12 @@ void WriteNewFile(const std::filesystem::path& file, const DefaultData& data, co
 bool CreateAdventure(bool replace, const std::filesystem::path& path, const frmSetup& setup,
                      const CreationHost& host) {
     const auto target = std::filesystem::absolute(path);
-    if (!replace && std::filesystem::exists(target) &&
+    std::error_code error;  // what can't be looked at fails when the file is made
+    if (!replace && std::filesystem::exists(target, error) &&
         !host.person.Confirm("All information in " + path.string() + " will be deleted.", "Warning")) {
         return false;
     }
-    if (!std::filesystem::is_directory(target.parent_path())) {
+    if (!std::filesystem::is_directory(target.parent_path(), error)) {
         throw Error("Could not create " + path.string() + ": there is no folder " +
                     target.parent_path().string() + ".");
     }

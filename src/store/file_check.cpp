@@ -126,15 +126,6 @@ std::string TextColumn(sqlite3_stmt* statement, int column) {
     return text ? text : "";
 }
 
-bool IsIdentifier(std::string_view name) {
-    const auto isLetter = [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-    };
-    const auto isLetterOrDigit = [&](char c) { return isLetter(c) || (c >= '0' && c <= '9'); };
-    return !name.empty() && isLetter(name.front()) &&
-           std::all_of(name.begin(), name.end(), isLetterOrDigit);
-}
-
 /// Whether each column of a table is declared, with its type and nothing more, in the statement that made
 /// it.
 bool IsPlainTable(Connection& connection, const std::string& name, const std::string& sql) {
@@ -146,7 +137,7 @@ bool IsPlainTable(Connection& connection, const std::string& name, const std::st
     bool first = true;
     while (connection.Step(columns.get(), "check the file")) {
         const std::string column = TextColumn(columns.get(), 0);
-        if (!IsIdentifier(column)) return false;
+        if (!first && !IsFieldName(column)) return false;
         if (!first) expected += ", " + column + " " + TextColumn(columns.get(), 1);
         first = false;
     }
@@ -200,7 +191,7 @@ bool FieldsFitColumns(Connection& connection) {
         std::size_t count = 0;
         while (connection.Step(columns.get(), "check the file")) {
             const auto field = schema.Find(TextColumn(columns.get(), 0));
-            if (!field || !IsIdentifier(schema.fields[*field].name) ||
+            if (!field || !IsFieldName(schema.fields[*field].name) ||
                 SqlTypeOf(schema.fields[*field].type) != TextColumn(columns.get(), 1)) {
                 return false;
             }

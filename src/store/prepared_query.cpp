@@ -52,7 +52,9 @@ bool PreparedQuery::First(std::initializer_list<QueryValue> values) {
             continue;
         }
         const auto text = std::get<std::string_view>(value);
-        sqlite3_bind_text64(statement_, at, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+        // An empty view may have no address, which would be taken for null.
+        sqlite3_bind_text64(statement_, at, text.empty() ? "" : text.data(), text.size(), SQLITE_TRANSIENT,
+                            SQLITE_UTF8);
     }
     return Next();
 }

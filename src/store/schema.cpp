@@ -1,5 +1,7 @@
 #include "store/schema.h"
 
+#include <algorithm>
+
 #include "text/utf8.h"
 
 namespace fabula::store {
@@ -23,6 +25,14 @@ constexpr TypeRow kTypes[] = {
     {FieldType::LongVarBinary, "adlongvarbinary", FieldClass::Binary},
 };
 
+bool IsLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+}
+
+bool IsLetterOrDigit(char c) {
+    return IsLetter(c) || (c >= '0' && c <= '9');
+}
+
 const TypeRow& RowOf(FieldType type) {
     return kTypes[static_cast<std::size_t>(type)];
 }
@@ -45,6 +55,11 @@ std::optional<FieldType> FieldTypeFromTag(std::string_view tag) {
 
 std::string_view TagOf(FieldType type) {
     return RowOf(type).tag;
+}
+
+bool IsFieldName(std::string_view text) {
+    return !text.empty() && IsLetter(text.front()) &&
+           std::all_of(text.begin(), text.end(), IsLetterOrDigit) && !text::EqualsNoCase(text, kStoreKey);
 }
 
 FieldClass ClassOf(FieldType type) {

@@ -43,6 +43,14 @@ std::optional<FieldType> FieldTypeFromTag(std::string_view tag);
 std::string_view TagOf(FieldType type);
 FieldClass ClassOf(FieldType type);
 
+/// Whether a text may name a field: letters, digits and "_", no digit in front. Nothing else gets into a
+/// statement of the store's query language.
+bool IsFieldName(std::string_view text);
+
+/// The name of the integer primary key that every table carries and that is no field: cursors know their
+/// record by it, and change sets need it.
+inline constexpr std::string_view kStoreKey = "storekey";
+
 /// The size of an `advarwchar` field that declares none.
 inline constexpr int kDefaultTextSize = 255;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "store/record_check.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
@@ -40,7 +41,7 @@ class SectionReader {
                 AddRow(line, static_cast<std::int64_t>(records_.size()) + 1);
             } else if (line.text.starts_with('/')) {
                 number_ = ReadNumber(data_, section_, line, std::string_view(line.text).substr(1));
-                if (form_.shape == SectionForm::Shape::NumberedTexts) BeginText();
+                if (form_.shape == SectionForm::Shape::NumberedTexts) BeginText(line);
             } else if (!number_) {
                 data_.Malformed(section_, line, "there is no line \"/n\" before it");
             } else if (form_.shape == SectionForm::Shape::NumberedRows) {
@@ -65,7 +66,9 @@ class SectionReader {
             if (columns_[i] != "-")
                 SetText(record, data_, {section_, line, schema_}, columns_[i], values[i]);
         }
-        if (!form_.number.empty()) record[std::string(form_.number)] = number;
+        if (!form_.number.empty()) {
+            SetValue(record, data_, {section_, line, schema_}, form_.number, number);
+        }
         return record;
     }
 
@@ -73,10 +76,10 @@ class SectionReader {
         records_.push_back(ReadRow(line, number));
     }
 
-    void BeginText() {
+    void BeginText(const DefaultData::Line& line) {
         FinishText();
         pending_.emplace();
-        (*pending_)[std::string(form_.number)] = *number_;
+        SetValue(*pending_, data_, {section_, line, schema_}, form_.number, *number_);
         needsRow_ = !columns_.empty();
         lines_.clear();
     }
@@ -151,6 +154,12 @@ std::string ReadCharacterValues(const DefaultData& data, const std::string& sect
     return values;
 }
 
+const Field& FieldOf(const DefaultData& data, const Place& place, std::string_view field) {
+    const auto index = place.schema.Find(field);
+    if (!index) data.Malformed(place.section, place.line, "there is no field " + std::string(field));
+    return place.schema.fields[*index];
+}
+
 }  // namespace
 
 std::int64_t ReadNumber(const DefaultData& data, std::string_view section, const DefaultData::Line& line,
@@ -160,29 +169,37 @@ std::int64_t ReadNumber(const DefaultData& data, std::string_view section, const
     return *number;
 }
 
+void SetValue(Record& record, const DefaultData& data, const Place& place, std::string_view field,
+              text::Value value) {
+    const Field& target = FieldOf(data, place, field);
+    if (const auto fault = FaultOf(place.schema, target, value)) {
+        data.Malformed(place.section, place.line, *fault);
+    }
+    record[std::string(field)] = std::move(value);
+}
+
 void SetText(Record& record, const DefaultData& data, const Place& place, std::string_view field,
              std::string_view text) {
-    const auto index = place.schema.Find(field);
-    if (!index) data.Malformed(place.section, place.line, "there is no field " + std::string(field));
-    text::Value& value = record[std::string(field)];
-    switch (ClassOf(place.schema.fields[*index].type)) {
+    text::Value value;
+    switch (ClassOf(FieldOf(data, place, field).type)) {
         case FieldClass::Number:
             value = text.empty() ? 0 : ReadNumber(data, place.section, place.line, text);
-            return;
+            break;
         case FieldClass::Truth: {
             const auto truth = TruthValue(text);
             if (!truth)
                 data.Malformed(place.section, place.line,
                                "'" + std::string(text) + "' is not True or False");
             value = std::int64_t{*truth};
-            return;
+            break;
         }
         case FieldClass::Text:
             value = std::string(text);
-            return;
+            break;
         case FieldClass::Binary:
             data.Malformed(place.section, place.line, std::string(field) + " takes no text");
     }
+    SetValue(record, data, place, field, std::move(value));
 }
 
 std::vector<Record> ReadSection(const DefaultData& data, const std::string& section,
@@ -191,18 +208,21 @@ std::vector<Record> ReadSection(const DefaultData& data, const std::string& sect
     return SectionReader(data, section, form, schema, events).Read();
 }
 
-std::vector<Record> ReadCharacters(const DefaultData& data, const std::string& section) {
+std::vector<Record> ReadCharacters(const DefaultData& data, const std::string& section,
+                                   const TableSchema& schema) {
     std::vector<Record> records;
     for (const DefaultData::Line& line : data.Lines(section)) {
         const auto columns = data.Columns(section, line, kCharacterColumns);
         const std::int64_t set = ReadNumber(data, section, line, columns[0]);
         const std::int64_t number = ReadNumber(data, section, line, columns[1]);
-        records.push_back({{"charkey", set * kCharactersInSet + number},
-                           {"CharSet", text::FormatText("SET !%z4", {set})},
-                           {"charsetnum", set},
-                           {"charnum", number},
-                           {"charsetname", columns[2]},
-                           {"charvals", ReadCharacterValues(data, section, line, columns[3])}});
+        const Place place{section, line, schema};
+        Record& record = records.emplace_back();
+        SetValue(record, data, place, "charsetnum", set);
+        SetValue(record, data, place, "charnum", number);
+        SetValue(record, data, place, "charkey", set * kCharactersInSet + number);
+        SetValue(record, data, place, "CharSet", text::FormatText("SET !%z4", {set}));
+        SetValue(record, data, place, "charsetname", columns[2]);
+        SetValue(record, data, place, "charvals", ReadCharacterValues(data, section, line, columns[3]));
     }
     return records;
 }

@@ -28,6 +28,10 @@ struct Place {
 std::int64_t ReadNumber(const DefaultData& data, std::string_view section, const DefaultData::Line& line,
                         std::string_view text);
 
+/// Puts a value into `record`; one that does not fit the field is malformed.
+void SetValue(Record& record, const DefaultData& data, const Place& place, std::string_view field,
+              text::Value value);
+
 /// Puts the text of one column into `record`, converted to the type of the field: numbers, True and False,
 /// text. An empty number is 0.
 void SetText(Record& record, const DefaultData& data, const Place& place, std::string_view field,
@@ -41,6 +45,7 @@ std::vector<Record> ReadSection(const DefaultData& data, const std::string& sect
 
 /// The records of the section of characters: rows of set number, character number, name of the set, and
 /// eight values separated by blanks, decimal or behind "&h".
-std::vector<Record> ReadCharacters(const DefaultData& data, const std::string& section);
+std::vector<Record> ReadCharacters(const DefaultData& data, const std::string& section,
+                                   const TableSchema& schema);
 
 }  // namespace fabula::store

@@ -200,6 +200,14 @@ TEST_F(CursorTest, TheEmptyTextIsNotNull) {
     EXPECT_EQ(stored.Field("msgmsg"), text::Value(std::string()));
 }
 
+TEST_F(CursorTest, NoBytesAreNotNull) {
+    Cursor& locations = adventure_->OpenTable(TableNum::Locations, "*");
+    locations.SetField("picgraphic", text::Blob{});
+    locations.Update();
+    EXPECT_EQ(adventure_->OpenTable(TableNum::Locations, "*").Field("picgraphic"),
+              text::Value(text::Blob{}));
+}
+
 TEST_F(CursorTest, UpdateWritesANewRecordAndStandsOnIt) {
     Cursor& messages = Messages();
     messages.AddNew();

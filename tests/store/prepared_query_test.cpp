@@ -84,6 +84,13 @@ TEST_F(PreparedQueryTest, ANullReadsAsAnEmptyTextAndAsZero) {
     EXPECT_EQ(query.Number(1), 0);
 }
 
+TEST_F(PreparedQueryTest, AnEmptyValueIsTheEmptyTextAndNotNull) {
+    Add(4, std::string());
+    PreparedQuery query = adventure_->Prepare(TableNum::Messages, "msgnum", "msgmsg=?");
+    ASSERT_TRUE(query.First({std::string_view()}));
+    EXPECT_EQ(query.Number(0), 4);
+}
+
 TEST_F(PreparedQueryTest, AValueIsNeverPartOfTheQuery) {
     PreparedQuery query = adventure_->Prepare(TableNum::Messages, "msgmsg", "msgmsg=?");
     EXPECT_FALSE(query.First({"x' or 'a'='a"}));

@@ -1,0 +1,101 @@
+#include "store/setup.h"
+
+#include <gtest/gtest.h>
+
+#include "store/adventure.h"
+#include "support/template_adventure.h"
+
+namespace fabula::store {
+namespace {
+
+using test::OpenedAdventure;
+
+void SetSettings(Adventure& adventure, const char* type, int graphics, int charSets, int decompiled) {
+    Cursor& settings = adventure.OpenTable(TableNum::Adventure, "*");
+    settings.SetField("adventype", type);
+    settings.SetField("graphics", graphics);
+    settings.SetField("charsets", charSets);
+    settings.SetField("unmarloed", decompiled);
+    settings.Update();
+}
+
+TEST(Setup, StartsWithFabulaWithoutGraphicsAndWithTheSystemsFonts) {
+    const frmSetup setup;
+    EXPECT_EQ(setup.Type(), AdventureKind::Fabula);
+    EXPECT_FALSE(setup.Graphics());
+    EXPECT_FALSE(setup.CharSets());
+}
+
+TEST(Setup, ChoosingMarloTurnsCharacterSetsOnForGood) {
+    frmSetup setup;
+    setup.ChooseType(AdventureKind::Marlo);
+    EXPECT_TRUE(setup.CharSets());
+    EXPECT_FALSE(setup.ChooseCharSets(false));
+    EXPECT_TRUE(setup.CharSets());
+}
+
+TEST(Setup, TheOtherTypesChooseFreely) {
+    frmSetup setup;
+    setup.ChooseType(AdventureKind::Vel);
+    EXPECT_TRUE(setup.ChooseCharSets(true));
+    EXPECT_TRUE(setup.CharSets());
+    EXPECT_TRUE(setup.ChooseCharSets(false));
+    EXPECT_FALSE(setup.CharSets());
+    setup.ChooseGraphics(true);
+    EXPECT_TRUE(setup.Graphics());
+}
+
+TEST(Setup, OpensOnWhatAnExistingFileHolds) {
+    OpenedAdventure adventure;
+    SetSettings(*adventure, "VEL", 1, 1, 0);
+    const frmSetup setup(*adventure);
+    EXPECT_EQ(setup.Type(), AdventureKind::Vel);
+    EXPECT_TRUE(setup.Graphics());
+    EXPECT_TRUE(setup.CharSets());
+}
+
+TEST(Setup, AGameFromADecompilerIsMarlo) {
+    OpenedAdventure adventure;
+    SetSettings(*adventure, "VEL", 0, 0, 1);
+    const frmSetup setup(*adventure);
+    EXPECT_EQ(setup.Type(), AdventureKind::Marlo);
+    EXPECT_TRUE(setup.CharSets());
+}
+
+TEST(Setup, AFileNotYetClassifiedIsMarloFromADecompilerAndElseFabula) {
+    OpenedAdventure adventure;
+    SetSettings(*adventure, "Unknwn", 0, 0, 0);
+    EXPECT_EQ(frmSetup(*adventure).Type(), AdventureKind::Fabula);
+    SetSettings(*adventure, "Unknwn", 0, 0, 5);
+    EXPECT_EQ(frmSetup(*adventure).Type(), AdventureKind::Marlo);
+}
+
+TEST(Setup, ExplainsEveryChoiceInTheSystemsWords) {
+    EXPECT_EQ(frmSetup::kTitle, "Choose Type of Adventure");
+    EXPECT_EQ(frmSetup::ExplainType(AdventureKind::Fabula),
+              "Fabula: Takes all Fabula constructs, including extra Conditions && Actions.");
+    EXPECT_EQ(
+        frmSetup::ExplainType(AdventureKind::Vel),
+        "VEL: Only original VEL constructs (Conditions, Actions, && Graphics Commands) are available.");
+    EXPECT_EQ(
+        frmSetup::ExplainType(AdventureKind::Marlo),
+        "Marlo: Only original Marlo/Mender/Limner constructs are available. Graphics Editor is included "
+        "if Graphic selected below.");
+    EXPECT_EQ(frmSetup::ExplainGraphics(true), "Graphic: Graphics Editor is included && used in game.");
+    EXPECT_EQ(frmSetup::ExplainGraphics(false), "Non-Graphic: Graphic Editor is NOT included.");
+    EXPECT_EQ(frmSetup::ExplainCharSets(true), "Yes - Marlo && VEL character sets used");
+    EXPECT_EQ(frmSetup::ExplainCharSets(false), "No - Windows Fonts used (Saves memory)");
+}
+
+TEST(AdventureKind, IsNamedAsInTheSettings) {
+    EXPECT_EQ(NameOf(AdventureKind::Fabula), "Fabula");
+    EXPECT_EQ(NameOf(AdventureKind::Vel), "VEL");
+    EXPECT_EQ(NameOf(AdventureKind::Marlo), "Marlo");
+    EXPECT_EQ(AdventureKindFrom("vel"), AdventureKind::Vel);
+    EXPECT_EQ(AdventureKindFrom("MARLO"), AdventureKind::Marlo);
+    EXPECT_EQ(AdventureKindFrom("Unknwn"), std::nullopt);
+    EXPECT_EQ(AdventureKindFrom(""), std::nullopt);
+}
+
+}  // namespace
+}  // namespace fabula::store
