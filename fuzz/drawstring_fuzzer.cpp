@@ -47,7 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         callsOthers = callsOthers || (command != nullptr && command->number == pictures::kGoSub);
     }
     try {
-        pictures::Draw(book, lines.front());
+        pictures::Drawing(book).CommDraw(pictures::Picture{}, lines.front());
     } catch (const Error&) {
         if (check.Passed() && !callsOthers) std::abort();
     }

@@ -41,6 +41,13 @@ void WriteText(const std::filesystem::path& file, const std::string& text) {
     WriteFile(file, converted.bytes);
 }
 
+/// The sets of a file; of one of another kind none, which the person is told.
+CharacterFile ReadSets(const std::filesystem::path& file, platform::Operator& person) {
+    CharacterFile content = ReadCharacterFile(ReadText(file), file.string());
+    if (!content.isCharacterFile) person.Tell(file.string() + " is not a Character Set File", kErrorTitle);
+    return content;
+}
+
 /// The part of a list's line in front of the first "-".
 std::string_view Key(std::string_view line) {
     return text::TrimBlanks(line.substr(0, line.find('-')));
@@ -81,11 +88,7 @@ std::vector<std::string> ListSets(store::Adventure& adventure) {
 }
 
 std::vector<std::string> ListSetsInFile(const std::filesystem::path& file, platform::Operator& person) {
-    const CharacterFile content = ReadCharacterFile(ReadText(file), file.string());
-    if (!content.isCharacterFile) {
-        person.Tell(file.string() + " is not a Character Set File", kErrorTitle);
-        return {};
-    }
+    const CharacterFile content = ReadSets(file, person);
     std::vector<std::string> lines;
     for (const CharacterFileSet& set : content.sets) {
         lines.push_back(ListLine(set.line, set.name));
@@ -115,7 +118,8 @@ bool LoadSet(store::Adventure& adventure, const std::filesystem::path& file,
         person.Tell(selected.empty() ? "No Set is selected" : "Only one Set can be selected", kErrorTitle);
         return false;
     }
-    const CharacterFile content = ReadCharacterFile(ReadText(file), file.string());
+    const CharacterFile content = ReadSets(file, person);
+    if (!content.isCharacterFile) return false;
     const std::string_view setLine = Key(selected.front());
     const auto set = std::find_if(content.sets.begin(), content.sets.end(),
                                   [setLine](const CharacterFileSet& s) { return s.line == setLine; });

@@ -17,11 +17,13 @@ struct Image {
     Image() = default;
     Image(int imageWidth, int imageHeight, Colour colour);
 
-    Colour& At(int x, int y) {
-        return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
-                      static_cast<std::size_t>(x)];
+    Colour& At(int x, int y) { return pixels[IndexOf(x, y)]; }
+    Colour At(int x, int y) const { return pixels[IndexOf(x, y)]; }
+
+  private:
+    std::size_t IndexOf(int x, int y) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
     }
-    Colour At(int x, int y) const { return const_cast<Image&>(*this).At(x, y); }
 };
 
 inline constexpr int kLargestScale = 16;

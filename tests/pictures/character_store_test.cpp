@@ -103,8 +103,9 @@ TEST_F(CharacterStore, ListsTheSetsOfAFile) {
 TEST_F(CharacterStore, AFileOfAnotherKindIsToldByItsName) {
     WriteFile("SETS\n");
     EXPECT_EQ(ListSetsInFile(File(), person_), Lines{});
-    EXPECT_EQ(person_.Boxes(),
-              (std::vector<Box>{{File().string() + " is not a Character Set File", "Error"}}));
+    EXPECT_FALSE(LoadSet(*adventure_, File(), {"SET0004"}, 4, person_));
+    const Box box{File().string() + " is not a Character Set File", "Error"};
+    EXPECT_EQ(person_.Boxes(), (std::vector<Box>{box, box}));
 }
 
 TEST_F(CharacterStore, LoadsTheChosenSetOfAFileOverATarget) {

@@ -12,7 +12,6 @@
 #include "pictures/image.h"
 #include "platform/error.h"
 #include "store/adventure.h"
-#include "text/format.h"
 
 namespace fabula::cli {
 namespace {
@@ -39,6 +38,13 @@ pictures::PictureBook Load(const std::string& file) {
 
 pictures::Image ChosenPlane(const pictures::Canvas& canvas, const Options& options) {
     return pictures::ImageOf(options.plane == "pixel" ? canvas.pixel : canvas.colour, options.scale);
+}
+
+/// "Picture005.png"
+std::string FileNameOf(int number) {
+    std::string digits = std::to_string(number);
+    digits.insert(0, digits.size() < 3 ? 3 - digits.size() : 0, '0');
+    return "Picture" + digits + ".png";
 }
 
 int Check(const Options& options) {
@@ -76,8 +82,7 @@ int DrawAll(const Options& options) {
     for (const auto& [number, picture] : book.pictures) {
         try {
             const pictures::Canvas canvas = pictures::DrawPicture(book, number);
-            const std::string name = text::FormatText("Picture!%z3!.png", {std::int64_t{number}});
-            pictures::WriteImage(folder / name, ChosenPlane(canvas, options));
+            pictures::WriteImage(folder / FileNameOf(number), ChosenPlane(canvas, options));
             drawn.push_back(
                 {number, pictures::ImageOf(options.plane == "pixel" ? canvas.pixel : canvas.colour)});
         } catch (const Error& failure) {
