@@ -24,9 +24,10 @@ using store::TableNum;
 struct TargetRow {
     VerifyTarget target;
     std::string_view kind;
-    std::string_view word;      ///< in the messages
-    Dialect dialect;            ///< whose conditions and actions may be used
-    std::string_view commands;  ///< the field of `Commands` that says whose graphics commands; "" for no check
+    std::string_view word;  ///< in the messages
+    Dialect dialect;        ///< whose conditions and actions may be used
+    std::string_view
+        commands;  ///< the field of `Commands` that says whose graphics commands; "" for no check
 };
 
 constexpr TargetRow kTargets[] = {
@@ -59,7 +60,8 @@ constexpr std::int64_t kMostGraphicCharacters = 19;
 int CountRecords(Adventure& adventure, TableNum table, const char* key, std::string_view where) {
     PreparedQuery rows = adventure.Prepare(table, key, where);
     int count = 0;
-    for (bool more = rows.First({}); more; more = rows.Next()) ++count;
+    for (bool more = rows.First({}); more; more = rows.Next())
+        ++count;
     return count;
 }
 
@@ -67,7 +69,10 @@ int CountRecords(Adventure& adventure, TableNum table, const char* key, std::str
 class Verification {
   public:
     Verification(Adventure& adventure, const TargetRow* target, JobStatus& status)
-        : adventure_(adventure), target_(target), status_(status), catalogue_(condacts::LoadCatalogue(adventure)) {}
+        : adventure_(adventure),
+          target_(target),
+          status_(status),
+          catalogue_(condacts::LoadCatalogue(adventure)) {}
 
     bool Run() {
         CheckDefaultPicture();
@@ -108,7 +113,8 @@ class Verification {
 
     void CheckMarlo() {
         Step("Verifying Object table for weights > 63");
-        PreparedQuery heavy = adventure_.Prepare(TableNum::Objects, "objnum", "objweight>" + std::to_string(kHeaviest));
+        PreparedQuery heavy =
+            adventure_.Prepare(TableNum::Objects, "objnum", "objweight>" + std::to_string(kHeaviest));
         for (bool more = heavy.First({}); more; more = heavy.Next()) {
             Fail("Object # " + std::to_string(heavy.Number(0)) + " has a weight > 63.");
         }
@@ -138,8 +144,10 @@ class Verification {
         PreparedQuery rows = Entries();
         for (bool more = rows.First({}); more; more = rows.Next()) {
             if (fits(rows.Text(2)) && fits(rows.Text(3))) continue;
-            Fail("The following Process Entry has an invalid word in Verb or Noun. The word shown is a NOT a Verb or "
-                 "Noun, which is not allowed.");
+            Fail(
+                "The following Process Entry has an invalid word in Verb or Noun. The word shown is a NOT "
+                "a Verb or "
+                "Noun, which is not allowed.");
             Fail(NameOf(rows));
         }
     }
@@ -150,7 +158,8 @@ class Verification {
         PreparedQuery rows = Entries();
         int count = 0;
         for (bool more = rows.First({}); more; more = rows.Next()) {
-            if (++count % kRowsAProgressLine == 0) status_.AddProgressLine("    Process " + std::to_string(count));
+            if (++count % kRowsAProgressLine == 0)
+                status_.AddProgressLine("    Process " + std::to_string(count));
             status_.IncBar(1);
             const std::string line(rows.Text(4));
             const auto fault = condacts::ValidateCondActs(line, catalogue_, facts);
@@ -181,8 +190,8 @@ class Verification {
             const std::string key = limit.key;
             PreparedQuery highest = adventure_.Prepare(limit.table, key, key + ">=0", key + " desc");
             if (!highest.First({}) || highest.Number(0) <= limit.highest) continue;
-            Fail("Extended " + std::string(limit.record) + " " + std::to_string(highest.Number(0)) + " not allowed in " +
-                 adventure_.AdventureType() + " type Adventure");
+            Fail("Extended " + std::string(limit.record) + " " + std::to_string(highest.Number(0)) +
+                 " not allowed in " + adventure_.AdventureType() + " type Adventure");
         }
     }
 
@@ -229,10 +238,13 @@ class Verification {
     void CheckCountsForUnVel() {
         if (CountRecords(adventure_, TableNum::Pictures, "locnum", "") !=
             CountRecords(adventure_, TableNum::Locations, "locnum", "")) {
-            Fail("There are not the same number of Graphics records as Location records. This is not allowed in " +
-                 std::string(target_->word));
+            Fail(
+                "There are not the same number of Graphics records as Location records. This is not "
+                "allowed in " +
+                std::string(target_->word));
         }
-        if (CountRecords(adventure_, TableNum::Characters, "charnum", "charnum>143") > kMostGraphicCharacters) {
+        if (CountRecords(adventure_, TableNum::Characters, "charnum", "charnum>143") >
+            kMostGraphicCharacters) {
             Step("There are more than 19 UDGs. Only the first 19 will be exported.");
         }
     }
@@ -242,9 +254,9 @@ class Verification {
     }
 
     static std::string NameOf(const PreparedQuery& entry) {
-        return "Process Table " + std::to_string(entry.Number(0)) + " Entry # " + std::to_string(entry.Number(1)) +
-               " (" + std::string(entry.Text(2)) + " " + std::string(entry.Text(3)) + " " +
-               std::string(entry.Text(4)) + ")";
+        return "Process Table " + std::to_string(entry.Number(0)) + " Entry # " +
+               std::to_string(entry.Number(1)) + " (" + std::string(entry.Text(2)) + " " +
+               std::string(entry.Text(3)) + " " + std::string(entry.Text(4)) + ")";
     }
 
     Adventure& adventure_;

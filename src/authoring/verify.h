@@ -14,8 +14,8 @@ enum class VerifyTarget { Play, UnVel, PCVel, Fabula, Ace };
 /// The target that a kind of file names ("unvel", "pcvel", "fabula", "ace"), case ignored.
 std::optional<VerifyTarget> VerifyTargetFrom(std::string_view kind);
 
-/// Checks an adventure against the rules of its type, and of the kind of file it is to go to. Writes each step and each
-/// error into the status, a line each. True when there was no error; warnings don't count.
+/// Checks an adventure against the rules of its type, and of the kind of file it is to go to. Writes each
+/// step and each error into the status, a line each. True when there was no error; warnings don't count.
 bool VerifyAdventure(store::Adventure& adventure, VerifyTarget target, interchange::JobStatus& status);
 
 }  // namespace fabula::authoring

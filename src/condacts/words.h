@@ -48,8 +48,8 @@ bool IsAdjectiveOrReserved(const Word& word);
 bool IsMovementWord(const Word& word);
 bool IsMovementWordOrReserved(const Word& word);
 
-/// Whether `word` may not stand beside the words of the same spelling: a verb beside a verb of its number, a noun
-/// beside a noun of its number, and a word of any other type beside any word.
+/// Whether `word` may not stand beside the words of the same spelling: a verb beside a verb of its number,
+/// a noun beside a noun of its number, and a word of any other type beside any word.
 bool Clashes(const Word& word, std::span<const Word> sameSpelling);
 
 /// A vocabulary in memory, in its order: where several words fit, the first in that order is found.

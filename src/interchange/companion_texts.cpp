@@ -16,7 +16,17 @@ using condacts::Word;
 using condacts::WordIndex;
 
 /// What makes a companion of a field.
-enum class Maker { CondActs, Exits, Attributes, Location, Adjective, Noun, WordType, FirstWord, SecondWord };
+enum class Maker {
+    CondActs,
+    Exits,
+    Attributes,
+    Location,
+    Adjective,
+    Noun,
+    WordType,
+    FirstWord,
+    SecondWord
+};
 
 struct Companion {
     std::string_view numericField;
@@ -25,10 +35,14 @@ struct Companion {
 };
 
 constexpr Companion kCompanions[] = {
-    {"numericcondacts", "CondActs", Maker::CondActs}, {"numericexits", "Exits", Maker::Exits},
-    {"objattrn", "ObjAttr", Maker::Attributes},       {"objloc", "ObjLocDesc", Maker::Location},
-    {"objnumadject", "ObjAdject", Maker::Adjective},  {"objnumnoun", "ObjNoun", Maker::Noun},
-    {"voctypen", "VocType", Maker::WordType},         {"w1num", "W1", Maker::FirstWord},
+    {"numericcondacts", "CondActs", Maker::CondActs},
+    {"numericexits", "Exits", Maker::Exits},
+    {"objattrn", "ObjAttr", Maker::Attributes},
+    {"objloc", "ObjLocDesc", Maker::Location},
+    {"objnumadject", "ObjAdject", Maker::Adjective},
+    {"objnumnoun", "ObjNoun", Maker::Noun},
+    {"voctypen", "VocType", Maker::WordType},
+    {"w1num", "W1", Maker::FirstWord},
     {"w2num", "W2", Maker::SecondWord},
 };
 
@@ -41,9 +55,13 @@ const Companion* Find(std::string_view numericField) {
     return nullptr;
 }
 
-bool IsVerbOrNoun(const Word& word) { return word.type == condacts::kVerb || word.type == condacts::kNoun; }
+bool IsVerbOrNoun(const Word& word) {
+    return word.type == condacts::kVerb || word.type == condacts::kNoun;
+}
 
-bool IsFirstWord(const Word& word) { return IsVerbOrNoun(word) || word.type == condacts::kReserved; }
+bool IsFirstWord(const Word& word) {
+    return IsVerbOrNoun(word) || word.type == condacts::kReserved;
+}
 
 std::string WordText(const WordIndex& words, std::int64_t number, condacts::WordTest test) {
     if (number < 0 || number >= condacts::kBeyondNumbers) return "";
@@ -52,7 +70,8 @@ std::string WordText(const WordIndex& words, std::int64_t number, condacts::Word
 }
 
 std::optional<std::string> AttributesText(std::int64_t attributes) {
-    if (attributes < 0 || attributes >= static_cast<std::int64_t>(std::size(kAttributes))) return std::nullopt;
+    if (attributes < 0 || attributes >= static_cast<std::int64_t>(std::size(kAttributes)))
+        return std::nullopt;
     return std::string(kAttributes[attributes]);
 }
 
@@ -71,7 +90,9 @@ std::optional<std::string> WordTypeText(std::int64_t type) {
 
 }  // namespace
 
-bool CompanionTexts::Knows(std::string_view numericField) { return Find(numericField) != nullptr; }
+bool CompanionTexts::Knows(std::string_view numericField) {
+    return Find(numericField) != nullptr;
+}
 
 void CompanionTexts::Make(store::Cursor& record, std::string_view numericField) const {
     const Companion& companion = *Find(numericField);

@@ -9,8 +9,8 @@
 
 namespace fabula::interchange {
 
-/// Makes the texts that stand beside numeric fields ("exits" beside "numericexits") from the numbers. A number without
-/// a word gives the empty word.
+/// Makes the texts that stand beside numeric fields ("exits" beside "numericexits") from the numbers. A
+/// number without a word gives the empty word.
 class CompanionTexts {
   public:
     CompanionTexts(const condacts::Catalogue& catalogue, const condacts::WordIndex& words)
@@ -19,8 +19,8 @@ class CompanionTexts {
     /// Whether a field has a companion; case is ignored.
     static bool Knows(std::string_view numericField);
 
-    /// Sets the companion of `numericField` in the record that `record` stands on. A value without a text of its own
-    /// (attributes above 3, a type of word above 7) leaves the companion as it is.
+    /// Sets the companion of `numericField` in the record that `record` stands on. A value without a text
+    /// of its own (attributes above 3, a type of word above 7) leaves the companion as it is.
     void Make(store::Cursor& record, std::string_view numericField) const;
 
     std::string ExitsText(std::string_view numericExits) const;

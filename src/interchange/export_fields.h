@@ -8,8 +8,8 @@
 
 namespace fabula::interchange {
 
-// What the export file carries of each table stands in the adventure's own `tables`: the column `export` of a field is
-// 0 when it stays behind, 1 for the key of the table, and from 2 up for the others.
+// What the export file carries of each table stands in the adventure's own `tables`: the column `export` of
+// a field is 0 when it stays behind, 1 for the key of the table, and from 2 up for the others.
 
 /// How a value is treated on reading; the numbers are those of the column.
 enum class ExportUse : int {

@@ -76,7 +76,8 @@ std::optional<text::Value> ParseDate(std::string_view text) {
     return std::string(text);
 }
 
-/// The value of a field's text; nothing when it is not of the type. An empty text is null where it can't be a text.
+/// The value of a field's text; nothing when it is not of the type. An empty text is null where it can't be
+/// a text.
 std::optional<text::Value> ParseValue(FieldType type, ExportUse use, std::string_view text) {
     if (type == FieldType::VarWChar || type == FieldType::LongVarWChar) {
         if (use != ExportUse::LongText) return std::string(text);
@@ -103,7 +104,8 @@ class TableImport {
             const auto index = schema_->Find(field.name);
             if (!index) continue;
             if (field.use == ExportUse::Key) key = field.name;
-            fields_.try_emplace(text::LowerCase(field.name), Column{std::move(field), *index});
+            const std::string name = text::LowerCase(field.name);
+            fields_.try_emplace(name, Column{std::move(field), *index});
         }
         if (FindExportTable(number) == nullptr || key.empty()) return;
         if (number == kAdventureTable) {
@@ -142,7 +144,8 @@ class TableImport {
         } else {
             record_->Update();
         }
-        if (!numericSet_.empty()) toComplete_.emplace_back(record_->AbsolutePosition(), std::move(numericSet_));
+        if (!numericSet_.empty())
+            toComplete_.emplace_back(record_->AbsolutePosition(), std::move(numericSet_));
         numericSet_.clear();
     }
 
@@ -150,7 +153,8 @@ class TableImport {
     void Complete(const CompanionTexts& texts, JobStatus& status) {
         for (const auto& [position, numericFields] : toComplete_) {
             record_->SetAbsolutePosition(position);
-            for (const Column* column : numericFields) texts.Make(*record_, column->field.name);
+            for (const Column* column : numericFields)
+                texts.Make(*record_, column->field.name);
             record_->Update();
             status.IncBar(0);
         }
@@ -161,7 +165,7 @@ class TableImport {
     std::map<std::string, Column> fields_;  ///< by name in lower case
     std::unique_ptr<KeyedTable> keyed_;
     Cursor* record_ = nullptr;
-    std::vector<const Column*> numericSet_;  ///< of the pending record
+    std::vector<const Column*> numericSet_;                               ///< of the pending record
     std::vector<std::pair<int, std::vector<const Column*>>> toComplete_;  ///< places in the cursor
 };
 
@@ -171,7 +175,8 @@ class Reader {
     explicit Reader(ImportContext& context) : context_(context), source_(context.source) {}
 
     bool Read() {
-        const bool isOurs = source_.Next(line_) && line_ == ExportVersion(context_.adventure) && source_.Next(line_);
+        const bool isOurs =
+            source_.Next(line_) && line_ == ExportVersion(context_.adventure) && source_.Next(line_);
         if (!isOurs) {
             context_.status.AddToStatusCR("File is not a Fabula Export file or Version  is incompatible.");
             return false;
@@ -199,12 +204,15 @@ class Reader {
         const TableImport::Column* column = table.FindColumn(line.field);
         if (column == nullptr) return Refuse("The table has no field of this name that travels.");
         if (column->field.use == ExportUse::Numeric && !CompanionTexts::Knows(column->field.name)) {
-            context_.person.Tell("Send a message to the makers of Fabula RIGHT AWAY and let him know that he forgot to "
-                                 "program " + column->field.name + " into the Import exceptions for Fabula.",
-                                 "Error");
+            context_.person.Tell(
+                "Send a message to the makers of Fabula RIGHT AWAY and let him know that he forgot to "
+                "program " +
+                    column->field.name + " into the Import exceptions for Fabula.",
+                "Error");
             return Refuse("The field needs a text that this program can't make.");
         }
-        const auto value = ParseValue(table.Schema().fields[column->index].type, column->field.use, line.value);
+        const auto value =
+            ParseValue(table.Schema().fields[column->index].type, column->field.use, line.value);
         if (!value) return Refuse("The value is not of the type of its field.");
         try {
             store::CheckValue(table.Schema(), table.Schema().fields[column->index], *value);
@@ -242,7 +250,8 @@ class Reader {
 
     void ChangeTable(int number) {
         const ExportTable* last = FindExportTable(lastTable_);
-        if (last != nullptr && last->number != TableNum::Pictures) context_.status.AddToStatus(last->loaded);
+        if (last != nullptr && last->number != TableNum::Pictures)
+            context_.status.AddToStatus(last->loaded);
         context_.status.AddToStatusCR(" ");
         lastTable_ = number;
     }
@@ -277,7 +286,8 @@ class Reader {
     std::string line_;
     int lastTable_ = -1;
     std::array<std::unique_ptr<TableImport>, store::kHighestTable + 1> tables_;
-    TableImport* current_ = nullptr;  ///< the table whose record is open; its pending edit is the row being read
+    TableImport* current_ =
+        nullptr;  ///< the table whose record is open; its pending edit is the row being read
 };
 
 }  // namespace
@@ -291,7 +301,8 @@ store::frmSetup SetupOfExport(const std::filesystem::path& source) {
     while (file.Next(line)) {
         const FieldLine fieldLine = SplitFieldLine(line);
         if (!line.empty() && fieldLine.table != kAdventureTable) break;
-        if (text::EqualsNoCase(fieldLine.field, "adventype")) kind = store::AdventureKindFrom(fieldLine.value);
+        if (text::EqualsNoCase(fieldLine.field, "adventype"))
+            kind = store::AdventureKindFrom(fieldLine.value);
     }
     if (kind) setup.ChooseType(*kind);
     return setup;

@@ -7,13 +7,14 @@
 
 namespace fabula::interchange {
 
-/// What kind of adventure an export file holds: type, graphics and character sets as its settings say, which stand at
-/// its head. Where they don't, those of a new adventure. Throws fabula::Error when the file can't be read.
+/// What kind of adventure an export file holds: type, graphics and character sets as its settings say,
+/// which stand at its head. Where they don't, those of a new adventure. Throws fabula::Error when the file
+/// can't be read.
 store::frmSetup SetupOfExport(const std::filesystem::path& source);
 
-/// Reads an export file into the new adventure. Records are found by their keys: those of the default data that the
-/// file names are written over, the others stay. Gives false, with the reason in the status, when the file is of
-/// another version or a line is not as it must be.
+/// Reads an export file into the new adventure. Records are found by their keys: those of the default data
+/// that the file names are written over, the others stay. Gives false, with the reason in the status, when
+/// the file is of another version or a line is not as it must be.
 bool LoadFabula(ImportContext& context);
 
 }  // namespace fabula::interchange

@@ -30,7 +30,8 @@ class TableExport {
             }
         }
         Cursor& records = context.adventure.OpenTable(table.number, "def");
-        for (Column& column : fields_) column.index = records.Column(column.field.name);
+        for (Column& column : fields_)
+            column.index = records.Column(column.field.name);
     }
 
     /// False when a character can't be written.
@@ -74,7 +75,8 @@ class TableExport {
         const std::string stored = text::ToText(value);
         NameLosses(stored, Name(records, column), column.field.use);
         std::string line = text::ReplaceAll(stored, text::kLineEndMarker, kLineEndTag);
-        if (line.find_first_of("\r\n") != std::string::npos) line = text::NormalizeLineEnds(line, kLineEndTag);
+        if (line.find_first_of("\r\n") != std::string::npos)
+            line = text::NormalizeLineEnds(line, kLineEndTag);
         return line;
     }
 
@@ -111,7 +113,8 @@ bool ExportFabula(ExportContext& context) {
     TargetFile file(context.target);
     const auto bad = file.WriteLine(ExportVersion(context.adventure));
     if (bad) {
-        context.status.AddToStatusCR("The version holds the character " + *bad + ", which can't be written.");
+        context.status.AddToStatusCR("The version holds the character " + *bad +
+                                     ", which can't be written.");
         return false;
     }
     for (const ExportTable& table : kExportTables) {

@@ -17,7 +17,9 @@ store::frmSetup SetupOfPcSource(const std::filesystem::path&) {
     return setup;
 }
 
-store::frmSetup SetupOfAceSource(const std::filesystem::path&) { return {}; }
+store::frmSetup SetupOfAceSource(const std::filesystem::path&) {
+    return {};
+}
 
 // Paper and ink of an ACE source are white and black as screen colours; these are their numbers.
 const FileKind kKinds[] = {
@@ -52,11 +54,14 @@ const FileKind kKinds[] = {
 
 }  // namespace
 
-std::span<const FileKind> FileKinds() { return kKinds; }
+std::span<const FileKind> FileKinds() {
+    return kKinds;
+}
 
 const FileKind* FindFileKind(std::string_view wordOrName) {
     for (const FileKind& kind : kKinds) {
-        if (text::EqualsNoCase(kind.word, wordOrName) || text::EqualsNoCase(kind.name, wordOrName)) return &kind;
+        if (text::EqualsNoCase(kind.word, wordOrName) || text::EqualsNoCase(kind.name, wordOrName))
+            return &kind;
     }
     return nullptr;
 }

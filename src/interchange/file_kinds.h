@@ -19,9 +19,10 @@ struct DialogText {
 
 /// What an import leaves in the settings besides what its source says.
 struct ImportedSettings {
-    std::string_view source;    ///< `source`: where the game came from
-    bool flagChange = false;    ///< `flagchange`
-    bool setsLook = false;      ///< type, graphics and character sets are those of the new adventure; the rest applies
+    std::string_view source;  ///< `source`: where the game came from
+    bool flagChange = false;  ///< `flagchange`
+    bool setsLook =
+        false;  ///< type, graphics and character sets are those of the new adventure; the rest applies
     int backColor = 0;
     int textColor = 0;
     int printWidth = 80;

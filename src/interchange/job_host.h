@@ -8,8 +8,8 @@
 
 namespace fabula::interchange {
 
-/// What a reader works with. The adventure is a new one of the default data, in one transaction that the job keeps when
-/// the reader gives true.
+/// What a reader works with. The adventure is a new one of the default data, in one transaction that the
+/// job keeps when the reader gives true.
 struct ImportContext {
     std::filesystem::path source;
     store::Adventure& adventure;

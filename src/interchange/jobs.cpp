@@ -39,7 +39,8 @@ void ApplySettings(Adventure& adventure, const ImportedSettings& imported) {
 /// Builds the new adventure in `file`; false when the reader refused its source.
 bool Build(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& file,
            const std::filesystem::path& target, const JobHost& host, JobStatus& status) {
-    store::CreateAdventure(true, file, kind.setup(source), {host.person, host.clock, host.events, host.defaultData});
+    store::CreateAdventure(true, file, kind.setup(source),
+                           {host.person, host.clock, host.events, host.defaultData});
     const auto adventure = Adventure::Open(file);
     store::Transaction transaction(*adventure);
     SetSaveName(*adventure, target);
@@ -50,12 +51,14 @@ bool Build(const FileKind& kind, const std::filesystem::path& source, const std:
     return true;
 }
 
-bool IsBlank(const std::filesystem::path& path) { return text::StrEdit(path.string(), "trim").empty(); }
+bool IsBlank(const std::filesystem::path& path) {
+    return text::StrEdit(path.string(), "trim").empty();
+}
 
 }  // namespace
 
-JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& target,
-                   bool replace, const JobHost& host) {
+JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
+                   const std::filesystem::path& target, bool replace, const JobHost& host) {
     JobStatus status(host.observer);
     if (IsBlank(source)) {
         host.person.Tell("Source File not specified", "Error");

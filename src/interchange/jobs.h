@@ -29,18 +29,20 @@ struct JobResult {
     std::string status;
 };
 
-/// Reads `source` into a new adventure file. It is made beside `target` and takes its place when all is well; else
-/// nothing is left of it, and `target` is as it was. An existing target is replaced after the operator agreed, or at
-/// once with `replace`. What is open elsewhere stays open.
+/// Reads `source` into a new adventure file. It is made beside `target` and takes its place when all is
+/// well; else nothing is left of it, and `target` is as it was. An existing target is replaced after the
+/// operator agreed, or at once with `replace`. What is open elsewhere stays open.
 ///
 /// A failing machine is told in the status and thrown as fabula::Error.
-JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& target,
-                   bool replace, const JobHost& host);
+JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
+                   const std::filesystem::path& target, bool replace, const JobHost& host);
 
-/// Checks an adventure for export to a kind, writes what it finds into the status, and gives true when it may go.
+/// Checks an adventure for export to a kind, writes what it finds into the status, and gives true when it
+/// may go.
 using Verifier = std::function<bool(store::Adventure&, const FileKind&, JobStatus&)>;
 
-/// Verifies `adventure` for the kind and writes it to `target`, which is replaced when the file is complete.
+/// Verifies `adventure` for the kind and writes it to `target`, which is replaced when the file is
+/// complete.
 JobResult ExportIt(const FileKind& kind, store::Adventure& adventure, const std::filesystem::path& target,
                    const Verifier& verify, const JobHost& host);
 

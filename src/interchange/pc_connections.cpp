@@ -30,7 +30,8 @@ void PcConnections::Line(std::string_view line) {
         job_.Fault(kBadLine);
         return;
     }
-    for (std::size_t i = 0; i < tokens.size(); i += 2) AddExit(tokens[i], tokens[i + 1]);
+    for (std::size_t i = 0; i < tokens.size(); i += 2)
+        AddExit(tokens[i], tokens[i + 1]);
 }
 
 void PcConnections::AddExit(std::string_view word, std::string_view destination) {

@@ -24,6 +24,13 @@ bool IsLink(std::string_view line) {
 
 }  // namespace
 
+bool CutComment(std::string& line, char comment) {
+    const std::size_t start = line.find(comment);
+    if (start == std::string::npos) return true;
+    line.resize(TrimRight(std::string_view(line).substr(0, start)).size());
+    return !line.empty();
+}
+
 PcLines::PcLines(const std::filesystem::path& source, char comment, std::string kind, JobStatus& status)
     : comment_(comment), kind_(std::move(kind)), status_(status), source_(source) {
     std::error_code error;
@@ -43,7 +50,8 @@ bool PcLines::RdSrcFile(std::string& line, bool skipBlank) {
     while (!failed_ && file_->Next(whole_)) {
         status_.SetBar(file_->BytesRead());
         line = whole_;
-        if (!CutComment(line)) continue;
+        if (line.starts_with(comment_)) TakeName(std::string_view(line).substr(1));
+        if (!CutComment(line, comment_)) continue;
         if (IsLink(line)) {
             Follow(line);
             continue;
@@ -52,15 +60,6 @@ bool PcLines::RdSrcFile(std::string& line, bool skipBlank) {
         return true;
     }
     return false;
-}
-
-/// False for a line that is nothing but a comment.
-bool PcLines::CutComment(std::string& line) {
-    const std::size_t start = line.find(comment_);
-    if (start == std::string::npos) return true;
-    if (start == 0) TakeName(std::string_view(line).substr(1));
-    line.resize(TrimRight(std::string_view(line).substr(0, start)).size());
-    return !line.empty();
 }
 
 void PcLines::TakeName(std::string_view comment) {

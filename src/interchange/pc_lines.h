@@ -11,9 +11,9 @@
 
 namespace fabula::interchange {
 
-/// The lines of a PC or ACE source: comments cut off, and the files that "/LNK" names read behind one another. A link
-/// replaces the rest of its file. It must name a file in the source's folder or below that was not read before; any
-/// other is a fault that ends the reading.
+/// The lines of a PC or ACE source: comments cut off, and the files that "/LNK" names read behind one
+/// another. A link replaces the rest of its file. It must name a file in the source's folder or below that
+/// was not read before; any other is a fault that ends the reading.
 class PcLines {
   public:
     /// `kind` stands in the status line of each file.
@@ -33,7 +33,6 @@ class PcLines {
 
   private:
     void Open(const std::filesystem::path& file);
-    bool CutComment(std::string& line);
     void TakeName(std::string_view comment);
     void Follow(const std::string& line);
 
@@ -48,6 +47,10 @@ class PcLines {
     std::string adventureName_;
     bool failed_ = false;
 };
+
+/// Cuts a comment off the line, with the blanks in front of it; false for a line that is nothing but a
+/// comment.
+bool CutComment(std::string& line, char comment);
 
 /// What stands in front of the game's name in a comment.
 inline constexpr std::string_view kAdventureNameMark = "Adventure Name: ";

@@ -22,12 +22,17 @@ struct NamedPlace {
 };
 
 constexpr NamedPlace kPlaces[] = {
-    {"252", condacts::kNotCreated, "Not created."}, {"NOTCR", condacts::kNotCreated, "Not created."},
-    {"253", condacts::kWorn, "Worn."},              {"WORN", condacts::kWorn, "Worn."},
-    {"254", condacts::kCarried, "Carried."},        {"CARRIED", condacts::kCarried, "Carried."},
+    {"252", condacts::kNotCreated, "Not created."},
+    {"NOTCR", condacts::kNotCreated, "Not created."},
+    {"253", condacts::kWorn, "Worn."},
+    {"WORN", condacts::kWorn, "Worn."},
+    {"254", condacts::kCarried, "Carried."},
+    {"CARRIED", condacts::kCarried, "Carried."},
 };
 
-bool IsYes(std::string_view token) { return text::EqualsNoCase(token, "Y"); }
+bool IsYes(std::string_view token) {
+    return text::EqualsNoCase(token, "Y");
+}
 
 void SetWord(Cursor& object, const char* textField, const char* numberField, const Word* word) {
     object.SetField(textField, word == nullptr ? std::string(condacts::kNoWord) : word->word);
@@ -64,7 +69,9 @@ void PcObjects::Slash(std::string_view line) {
     objects_->Update();
 }
 
-void PcObjects::Line(std::string_view) { job_.Fault(kBadLine); }
+void PcObjects::Line(std::string_view) {
+    job_.Fault(kBadLine);
+}
 
 bool PcObjects::SetLocation(Cursor& object, std::string_view location) {
     for (const NamedPlace& place : kPlaces) {
@@ -85,7 +92,8 @@ void PcObjects::SetAttributes(Cursor& object, bool container, bool wearable) {
     object.SetField("objattrn", std::int64_t{(container ? 1 : 0) + (wearable ? 2 : 0)});
 }
 
-void PcObjects::SetWords(Cursor& object, std::int64_t number, std::string_view noun, std::string_view adjective) {
+void PcObjects::SetWords(Cursor& object, std::int64_t number, std::string_view noun,
+                         std::string_view adjective) {
     const Word* nounFound = FindWord(noun, condacts::IsNounOrReserved);
     const Word* adjectiveFound = FindWord(adjective, condacts::IsAdjectiveOrReserved);
     const std::string shown = " shown for object " + std::to_string(number);
@@ -104,6 +112,8 @@ const Word* PcObjects::FindWord(std::string_view word, condacts::WordTest test) 
     return job_.words.Find(job_.Word(word), test);
 }
 
-void PcObjects::Finish() { job_.Status("Loaded Vel Source Object Definitions"); }
+void PcObjects::Finish() {
+    job_.Status("Loaded Vel Source Object Definitions");
+}
 
 }  // namespace fabula::interchange

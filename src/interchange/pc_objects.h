@@ -7,8 +7,8 @@
 
 namespace fabula::interchange {
 
-/// "/OBJ": lines "/n location weight container wearable noun adjective". The location is a number, WORN or CARRIED;
-/// container and wearable are "Y" or not. An adjective that is missing is the word for none.
+/// "/OBJ": lines "/n location weight container wearable noun adjective". The location is a number, WORN or
+/// CARRIED; container and wearable are "Y" or not. An adjective that is missing is the word for none.
 class PcObjects final : public PcSection {
   public:
     explicit PcObjects(PcSourceJob& job) : job_(job) {}
@@ -21,7 +21,8 @@ class PcObjects final : public PcSection {
   private:
     bool SetLocation(store::Cursor& object, std::string_view location);
     void SetAttributes(store::Cursor& object, bool container, bool wearable);
-    void SetWords(store::Cursor& object, std::int64_t number, std::string_view noun, std::string_view adjective);
+    void SetWords(store::Cursor& object, std::int64_t number, std::string_view noun,
+                  std::string_view adjective);
     const condacts::Word* FindWord(std::string_view word, condacts::WordTest test) const;
 
     PcSourceJob& job_;

@@ -107,7 +107,8 @@ void PcProcesses::BeginEntry(std::string_view line) {
         if (noun == nullptr) return Refuse("Word2 (" + entry_->w2 + ") is not a Noun");
         entry_->w2Number = noun->number;
     }
-    if (tokens.size() > 2) AddCondActs(line.substr(static_cast<std::size_t>(tokens[2].data() - line.data())));
+    if (tokens.size() > 2)
+        AddCondActs(line.substr(static_cast<std::size_t>(tokens[2].data() - line.data())));
 }
 
 void PcProcesses::AddCondActs(std::string_view line) {

@@ -9,8 +9,8 @@
 
 namespace fabula::interchange {
 
-/// "/PRO n": entries that begin with their two words in column 0; conditions and actions follow on the same line or on
-/// lines of their own, indented. Tables are numbered without gaps.
+/// "/PRO n": entries that begin with their two words in column 0; conditions and actions follow on the same
+/// line or on lines of their own, indented. Tables are numbered without gaps.
 class PcProcesses final : public PcSection {
   public:
     explicit PcProcesses(PcSourceJob& job);

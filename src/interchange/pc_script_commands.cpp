@@ -49,7 +49,8 @@ constexpr Command kCommands[] = {
 class Vocabulary {
   public:
     explicit Vocabulary(store::Adventure& adventure)
-        : words_(condacts::LoadWords(adventure).All()), table_(adventure, TableNum::Vocabulary, "vocindex") {}
+        : words_(condacts::LoadWords(adventure).All()),
+          table_(adventure, TableNum::Vocabulary, "vocindex") {}
 
     void MakeSureOf(const NeededWord& needed) {
         std::vector<Word> sameSpelling;
@@ -87,14 +88,16 @@ class Vocabulary {
 };
 
 bool HasEntry(store::Adventure& adventure, const Command& command) {
-    store::PreparedQuery entries = adventure.Prepare(TableNum::ProcessTables, "canum",
-                                                     "estype=0 and w1=? and w2=? and condacts=?");
+    store::PreparedQuery entries =
+        adventure.Prepare(TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?");
     return entries.First({command.verb, kCommandNoun, command.condActs});
 }
 
 void AddEntry(PcSourceJob& job, const Command& command, const condacts::WordIndex& words) {
-    const Word* verb = words.Find(command.verb, [](const Word& word) { return word.type == condacts::kVerb; });
-    const Word* noun = words.Find(kCommandNoun, [](const Word& word) { return word.type == condacts::kNoun; });
+    const Word* verb =
+        words.Find(command.verb, [](const Word& word) { return word.type == condacts::kVerb; });
+    const Word* noun =
+        words.Find(kCommandNoun, [](const Word& word) { return word.type == condacts::kNoun; });
     const condacts::Converted numeric = condacts::CondActsToNumeric(command.condActs, job.catalogue, words);
     if (verb == nullptr || noun == nullptr || !numeric.ok) return;
     KeyedTable entries(job.context.adventure, TableNum::ProcessTables, "canum");
@@ -116,7 +119,8 @@ void AddScriptCommands(PcSourceJob& job) {
     store::Adventure& adventure = job.context.adventure;
     {
         Vocabulary vocabulary(adventure);
-        for (const NeededWord& needed : kNeededWords) vocabulary.MakeSureOf(needed);
+        for (const NeededWord& needed : kNeededWords)
+            vocabulary.MakeSureOf(needed);
     }
     const condacts::WordIndex words = condacts::LoadWords(adventure);
     for (const Command& command : kCommands) {

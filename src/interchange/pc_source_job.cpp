@@ -9,9 +9,13 @@ std::string PcSourceJob::Word(std::string_view word) const {
     return text::UpperCase(text::Left(word, dialect.letters));
 }
 
-bool PcSourceJob::IsNullWord(std::string_view word) const { return word == nullWord || word == condacts::kNoWord; }
+bool PcSourceJob::IsNullWord(std::string_view word) const {
+    return word == nullWord || word == condacts::kNoWord;
+}
 
-std::vector<std::string_view> SplitSlashLine(std::string_view line) { return SplitWords(line.substr(1)); }
+std::vector<std::string_view> SplitSlashLine(std::string_view line) {
+    return SplitWords(line.substr(1));
+}
 
 std::optional<std::int64_t> RecordNumber(const std::vector<std::string_view>& words) {
     if (words.empty()) return std::nullopt;

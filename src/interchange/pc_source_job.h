@@ -11,21 +11,11 @@
 #include "interchange/ace_tags.h"
 #include "interchange/flag_analysis.h"
 #include "interchange/job_host.h"
+#include "interchange/pc_dialect.h"
 #include "interchange/pc_lines.h"
+#include "interchange/pc_text_form.h"
 
 namespace fabula::interchange {
-
-/// What sets the two kinds of source apart.
-struct PcDialect {
-    std::string_view kind;    ///< in status lines
-    char comment;
-    std::size_t letters;      ///< how many letters of a word count
-    bool hasTags;             ///< texts hold the tags of ACE sources
-    bool getsScriptCommands;  ///< the game gets the words and entries that control scripts
-};
-
-inline constexpr PcDialect kPcSource{"PCVEL", ';', 5, false, true};
-inline constexpr PcDialect kAceSource{"ACE", '#', 30, true, false};
 
 /// The highest number of a location, object or message, and of a process table.
 inline constexpr std::int64_t kHighestRecord = 999;
@@ -38,8 +28,8 @@ struct PcSourceJob {
     const PcDialect& dialect;
     condacts::Catalogue catalogue;
     FlagAnalysis analysis;
-    std::optional<AceTags> tags;  ///< of sources that have tags
-    condacts::WordIndex words;    ///< the vocabulary, once its section is read
+    PcTextForm texts;
+    condacts::WordIndex words;  ///< the vocabulary, once its section is read
     std::string nullWord = std::string(condacts::kNoWord);
 
     /// Reports the line at hand.

@@ -20,8 +20,8 @@ namespace {
 using store::Cursor;
 using store::TableNum;
 
-/// The keywords of the sections, in the order in which they must come, and those of the documentation that the writer
-/// of these files adds, which is not read.
+/// The keywords of the sections, in the order in which they must come, and those of the documentation that
+/// the writer of these files adds, which is not read.
 constexpr std::string_view kSections[] = {"VOC", "STX", "MTX", "OTX", "LTX", "CON", "OBJ", "PRO"};
 constexpr std::string_view kDocumentation[] = {"FLG", "PRD"};
 constexpr std::size_t kSectionCount = std::size(kSections);
@@ -72,7 +72,8 @@ class Reader {
     }
 
   private:
-    /// Reads up to the vocabulary. The first character line of the control section is the word for "no word".
+    /// Reads up to the vocabulary. The first character line of the control section is the word for "no
+    /// word".
     bool FindVocabulary() {
         bool inControl = false;
         bool first = true;
@@ -153,8 +154,14 @@ bool Load(ImportContext& context, const PcDialect& dialect) {
     PcLines lines(context.source, dialect.comment, std::string(dialect.kind), context.status);
     context.status.AddToStatusCR("Look for a User Flag Analysis at end of Status");
     const condacts::Catalogue catalogue = condacts::LoadCatalogue(context.adventure);
-    PcSourceJob job{context, lines, dialect, catalogue, FlagAnalysis(context.adventure, catalogue), {}, {}};
-    if (dialect.hasTags) job.tags.emplace(context.adventure);
+    const AceTags tags(context.adventure);
+    PcSourceJob job{context,
+                    lines,
+                    dialect,
+                    catalogue,
+                    FlagAnalysis(context.adventure, catalogue),
+                    PcTextForm(dialect, dialect.hasTags ? &tags : nullptr),
+                    {}};
     if (!Reader(job).Read()) return false;
     if (context.adventure.OpenTable(TableNum::ProcessTables, "canum").RecordCount() == 0) {
         context.status.AddToStatusCR("No status records generated from file");
@@ -167,8 +174,12 @@ bool Load(ImportContext& context, const PcDialect& dialect) {
 
 }  // namespace
 
-bool LoadPCVel(ImportContext& context) { return Load(context, kPcSource); }
+bool LoadPCVel(ImportContext& context) {
+    return Load(context, kPcSource);
+}
 
-bool LoadAce(ImportContext& context) { return Load(context, kAceSource); }
+bool LoadAce(ImportContext& context) {
+    return Load(context, kAceSource);
+}
 
 }  // namespace fabula::interchange

@@ -4,9 +4,9 @@
 
 namespace fabula::interchange {
 
-// Readers of the two kinds of keyword-sectioned sources, into a new adventure. A line that can't be understood is
-// reported and left out. They give false, with the reason in the status, for a file without the keywords that every
-// source has, and for a link that can't be followed.
+// Readers of the two kinds of keyword-sectioned sources, into a new adventure. A line that can't be
+// understood is reported and left out. They give false, with the reason in the status, for a file without
+// the keywords that every source has, and for a link that can't be followed.
 
 /// A PC source; the adventure is of type VEL.
 bool LoadPCVel(ImportContext& context);

@@ -1,7 +1,8 @@
 #include "interchange/pc_source_writer.h"
 
 #include <algorithm>
-#include <optional>
+#include <exception>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -43,14 +44,15 @@ class Writer {
         : context_(context),
           dialect_(dialect),
           file_(context.target),
-          catalogue_(condacts::LoadCatalogue(context.adventure)) {
-        if (dialect.hasTags) tags_.emplace(context.adventure);
-    }
+          catalogue_(condacts::LoadCatalogue(context.adventure)),
+          tags_(context.adventure),
+          texts_(dialect, dialect.hasTags ? &tags_ : nullptr) {}
 
     void WriteAll() {
         WriteHead();
         WriteVocabulary();
-        for (std::size_t i = 0; i < std::size(kPcTextTables); ++i) WriteTexts(kPcTextTables[i], kTextKeywords[i]);
+        for (std::size_t i = 0; i < std::size(kPcTextTables); ++i)
+            WriteTexts(kPcTextTables[i], kTextKeywords[i]);
         WriteConnections();
         WriteObjects();
         WriteProcesses();
@@ -89,13 +91,15 @@ class Writer {
     void WriteHead() {
         record_ = "Adventure, name";
         const std::string name = dialect_.hasTags ? "ACE" : "PC VEL";
-        Comment("Exported in " + name + " format by Fabula Export Version " + ExportVersion(context_.adventure));
+        Comment("Exported in " + name + " format by Fabula Export Version " +
+                ExportVersion(context_.adventure));
         Comment("This is an export of Fabula DataBase " + context_.adventure.CurrentFile().string());
         store::PreparedQuery settings = context_.adventure.Prepare(TableNum::Adventure, "advname", "");
         settings.First({});
         std::string title(settings.Text(0));
         settings.Reset();
-        for (const std::string_view lineEnd : {std::string_view("\r"), std::string_view("\n"), text::kLineEndMarker}) {
+        for (const std::string_view lineEnd :
+             {std::string_view("\r"), std::string_view("\n"), text::kLineEndMarker}) {
             title = text::ReplaceAll(title, lineEnd, " ");
         }
         Comment(std::string(kAdventureNameMark) + title);
@@ -107,7 +111,8 @@ class Writer {
 
     /// A word as the source can hold it.
     std::string Word(std::string_view word) {
-        if (word.find_first_of(" \t/") != std::string_view::npos || word.find(dialect_.comment) != std::string::npos) {
+        if (word.find_first_of(" \t/") != std::string_view::npos ||
+            word.find(dialect_.comment) != std::string::npos) {
             Loss("the word " + std::string(word) + " can't be read back.");
         }
         const std::string_view cut = text::Left(word, dialect_.letters);
@@ -128,8 +133,8 @@ class Writer {
             record_ = "Vocabulary " + std::to_string(words.Number("vocindex"));
             const std::string word = Word(words.Text("word"));
             const auto type = condacts::WordTypeName(static_cast<int>(words.Number("voctypen")));
-            Line(text::FormatText("%a*!%s3!   !%a", {Width(word, kVocabularyColumn), word, words.Field("vocnum"),
-                                                     text::LowerCase(type)}));
+            Line(text::FormatText("%a*!%s3!   !%a", {Width(word, kVocabularyColumn), word,
+                                                     words.Field("vocnum"), text::LowerCase(type)}));
         }
     }
 
@@ -141,37 +146,23 @@ class Writer {
             record_ = std::string(store::FindTable(kind.table)->name) + " " +
                       std::to_string(texts.Number(kind.keyField)) + ", " + std::string(kind.textField);
             Line("/" + std::to_string(texts.Number(kind.keyField)));
-            ShowPCVelDesc("%a", texts.Text(kind.textField));
+            ShowPCVelDesc(texts.Text(kind.textField));
         }
     }
 
-    /// Writes a text in its source form, each of its lines by `format`.
-    void ShowPCVelDesc(std::string_view format, std::string_view text) {
-        std::string source = text::NormalizeLineEnds(text, text::kLineEndMarker);
-        source = text::ReplaceAll(source, "<tab>", "<ht>");
-        source = text::ReplaceAll(source, "<TAB>", "<ht>");
-        if (tags_) source = tags_->ToACETags(source);
-        source = text::ReplaceAll(source, "&amp;", "&");
-        if (source.empty()) {
-            if (format == "%a") Loss("an empty text will come back as one blank.");
-            return;
-        }
-        if (format == "%a" && source.find(dialect_.comment) != std::string::npos) {
-            Loss("what stands behind " + std::string(1, dialect_.comment) + " in a line will not come back.");
-        }
-        for (std::string_view line : text::Split(source, text::kLineEndMarker)) {
-            std::string written(line);
-            if (format == "%a" && line.starts_with('/')) {
-                Loss("a line that begins with / gets a blank in front.");
-                written.insert(0, 1, ' ');
-            }
-            TextLine(text::FormatText(format, {written}));
-        }
+    /// Writes a text in its source form.
+    void ShowPCVelDesc(std::string_view text) {
+        const PcTextForm::Written written =
+            texts_.ToSource(text::NormalizeLineEnds(text, text::kLineEndMarker));
+        if (!written.comesBack) Loss("the text will not come back as it is.");
+        for (const std::string& line : written.lines)
+            TextLine(line);
     }
 
     void WriteConnections() {
         Keyword("CON");
-        Cursor& locations = context_.adventure.OpenTable(TableNum::Locations, "def", std::nullopt, "locnum");
+        Cursor& locations =
+            context_.adventure.OpenTable(TableNum::Locations, "def", std::nullopt, "locnum");
         for (; !locations.Eof(); locations.MoveNext()) {
             record_ = "Locations " + std::to_string(locations.Number("locnum")) + ", exits";
             Line("/" + std::to_string(locations.Number("locnum")));
@@ -192,20 +183,25 @@ class Writer {
             const std::int64_t attributes = objects.Number("objattrn");
             const std::string noun = Word(objects.Text("objnoun"));
             const std::string adjective = Word(objects.Text("objadject"));
-            const auto yesOrNo = [&](std::int64_t bit) { return std::string((attributes & bit) != 0 ? "Y" : "N"); };
-            Line(text::FormatText("/!%n! !%n! !%a! !%a! !%a! !%a*!%a*",
-                                  {objects.Field("objnum"), objects.Field("objloc"),
-                                   std::to_string(objects.Number("objweight")), yesOrNo(1), yesOrNo(2),
-                                   Width(noun, kNounColumn), noun, Width(adjective, kExitColumn), adjective}));
+            const auto yesOrNo = [&](std::int64_t bit) {
+                return std::string((attributes & bit) != 0 ? "Y" : "N");
+            };
+            Line(text::FormatText(
+                "/!%n! !%n! !%a! !%a! !%a! !%a*!%a*",
+                {objects.Field("objnum"), objects.Field("objloc"),
+                 std::to_string(objects.Number("objweight")), yesOrNo(1), yesOrNo(2),
+                 Width(noun, kNounColumn), noun, Width(adjective, kExitColumn), adjective}));
         }
     }
 
-    /// Every table up to the highest stands in the file, empty ones too: their numbers are those of their order.
+    /// Every table up to the highest stands in the file, empty ones too: their numbers are those of their
+    /// order.
     void WriteProcesses() {
         for (std::int64_t process = 0; process <= HighestProcess(); ++process) {
             Keyword(("PRO " + std::to_string(process)).c_str());
-            Cursor& entries = context_.adventure.OpenTable(TableNum::ProcessTables, "def",
-                                                           "estype=" + std::to_string(process) + " and canum>=0", "canum");
+            Cursor& entries = context_.adventure.OpenTable(
+                TableNum::ProcessTables, "def", "estype=" + std::to_string(process) + " and canum>=0",
+                "canum");
             for (; !entries.Eof(); entries.MoveNext()) {
                 context_.status.IncBar(1);
                 record_ = "ProcessTables " + std::to_string(entries.Number("canum"));
@@ -230,9 +226,9 @@ class Writer {
         const std::int64_t width2 = Width(w2, kEntryColumn);
         const condacts::ParsedLine parsed = condacts::ParseLine(condActs, catalogue_);
         const auto write = [&](std::string_view name, std::string_view p1, std::string_view p2) {
-            Line(text::FormatText("%a*!%a*!%a10!%a*!%a",
-                                  {width1, w1, width2, w2, std::string(name),
-                                   Width(std::string(p1), kEntryColumn), std::string(p1), std::string(p2)}));
+            Line(text::FormatText("%a*!%a*!%a10!%a*!%a", {width1, w1, width2, w2, std::string(name),
+                                                          Width(std::string(p1), kEntryColumn),
+                                                          std::string(p1), std::string(p2)}));
             w1.clear();
             w2.clear();
         };
@@ -244,7 +240,8 @@ class Writer {
         }
         if (parsed.tokens.empty()) write("", "", "");
         if (parsed.unknownName) {
-            Loss("what stands behind " + std::string(parsed.tokens[*parsed.unknownName].text) + " is no condition or action.");
+            Loss("what stands behind " + std::string(parsed.tokens[*parsed.unknownName].text) +
+                 " is no condition or action.");
             write("", condActs.substr(parsed.tokens[*parsed.unknownName].position), "");
         }
     }
@@ -257,12 +254,16 @@ class Writer {
         Document(TableNum::ProcDesc, "pmsgnum", "pmsgmsg", "pmsgnum>2 and pmsgmsg <> ''");
     }
 
-    void Document(TableNum table, std::string_view keyField, std::string_view textField, std::string_view where) {
+    void Document(TableNum table, std::string_view keyField, std::string_view textField,
+                  std::string_view where) {
         Cursor& records = context_.adventure.OpenTable(table, "def", where, keyField);
         for (; !records.Eof(); records.MoveNext()) {
-            record_ = std::string(store::FindTable(table)->name) + " " + std::to_string(records.Number(keyField));
+            record_ =
+                std::string(store::FindTable(table)->name) + " " + std::to_string(records.Number(keyField));
             Line(dialect_.comment + text::FormatText(" /!%a", {std::to_string(records.Number(keyField))}));
-            ShowPCVelDesc(std::string(1, dialect_.comment) + " !%a", records.Text(textField));
+            for (const std::string_view line : text::Split(records.Text(textField), text::kLineEndMarker)) {
+                Comment(text::NormalizeLineEnds(line, " "));
+            }
         }
     }
 
@@ -270,7 +271,8 @@ class Writer {
     const PcDialect& dialect_;
     TargetFile file_;
     condacts::Catalogue catalogue_;
-    std::optional<AceTags> tags_;
+    AceTags tags_;
+    PcTextForm texts_;
     std::string record_;  ///< what is being written, for reports
 };
 
@@ -290,7 +292,8 @@ bool RefuseOwnCondActs(ExportContext& context) {
     std::set<std::string> own;
     store::PreparedQuery entries = context.adventure.Prepare(TableNum::ProcessTables, "condacts", "");
     for (bool more = entries.First({}); more; more = entries.Next()) {
-        for (const condacts::Statement& statement : condacts::ParseLine(entries.Text(0), catalogue).statements) {
+        for (const condacts::Statement& statement :
+             condacts::ParseLine(entries.Text(0), catalogue).statements) {
             const condacts::CondAct& condAct = *statement.condAct;
             if (condAct.fabula && !condAct.vel) own.insert(condAct.name);
         }
@@ -308,6 +311,8 @@ bool ExportPCVel(ExportContext& context) {
     return !RefuseOwnCondActs(context) && Export(context, kPcSource, "PC VEL Export completed");
 }
 
-bool ExportAce(ExportContext& context) { return Export(context, kAceSource, "ACE Export completed"); }
+bool ExportAce(ExportContext& context) {
+    return Export(context, kAceSource, "ACE Export completed");
+}
 
 }  // namespace fabula::interchange

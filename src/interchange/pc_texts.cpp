@@ -2,7 +2,6 @@
 
 #include "condacts/convert.h"
 #include "text/line_ends.h"
-#include "text/str_edit.h"
 
 namespace fabula::interchange {
 namespace {
@@ -15,12 +14,15 @@ constexpr std::string_view kNotKnownYet = " ";
 
 void SetLocationDefaults(Cursor& location) {
     location.SetField("numexits", std::int64_t{0});
-    for (const char* field : {"exits", "numericexits", "picloc", "pickey"}) location.SetField(field, std::string());
-    for (const char* field : {"locshortdesc", "oldpicloc"}) location.SetField(field, std::string(kNotKnownYet));
+    for (const char* field : {"exits", "numericexits", "picloc", "pickey"})
+        location.SetField(field, std::string());
+    for (const char* field : {"locshortdesc", "oldpicloc"})
+        location.SetField(field, std::string(kNotKnownYet));
 }
 
 void SetObjectDefaults(Cursor& object) {
-    for (const char* field : {"objnoun", "objadject"}) object.SetField(field, std::string(condacts::kNoWord));
+    for (const char* field : {"objnoun", "objadject"})
+        object.SetField(field, std::string(condacts::kNoWord));
     for (const char* field : {"objnumnoun", "objnumadject"}) {
         object.SetField(field, std::int64_t{condacts::kNoWordNumber});
     }
@@ -32,7 +34,9 @@ void SetObjectDefaults(Cursor& object) {
 }
 
 /// The numbers of the places that are no room can't be rooms.
-bool IsPlaceNumber(std::int64_t number) { return number >= condacts::kNotCreated && number <= condacts::kHere; }
+bool IsPlaceNumber(std::int64_t number) {
+    return number >= condacts::kNotCreated && number <= condacts::kHere;
+}
 
 }  // namespace
 
@@ -66,13 +70,10 @@ void PcTexts::Line(std::string_view line) {
 
 void PcTexts::Flush() {
     if (number_) {
-        std::string text = text::ReplaceAll(text_, "&", "&amp;");
-        text = text::ReplaceAll(text, "<ht>", "<tab>");
-        if (job_.tags) text = job_.tags->ConvertACETags(text);
         const bool isNew = !table_->Has(*number_);
         Cursor& record = table_->GoToOrAdd(*number_);
         if (isNew) SetDefaults(record);
-        record.SetField(kind_.textField, text.empty() ? std::string(kNotKnownYet) : text);
+        record.SetField(kind_.textField, job_.texts.FromSource(text_));
         table_->Update();
     }
     number_.reset();
@@ -89,7 +90,8 @@ void PcTexts::SetDefaults(Cursor& record) const {
 void PcTexts::AddScriptMessages() {
     const std::int64_t last = table_->HighestKey();
     const auto text = [&](std::int64_t number) {
-        return table_->Has(number) ? std::string(table_->GoTo(number).Text(kind_.textField)) : std::string();
+        return table_->Has(number) ? std::string(table_->GoTo(number).Text(kind_.textField))
+                                   : std::string();
     };
     if (text(last - 1) == kScriptMessages[0] && text(last) == kScriptMessages[1]) return;
     for (const std::string_view message : kScriptMessages) {

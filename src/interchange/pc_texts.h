@@ -17,8 +17,7 @@ struct PcTextTable {
     std::string_view name;  ///< in the status line
 };
 
-/// "/STX", "/MTX", "/OTX" and "/LTX": a line "/n" opens text n, the lines up to the next "/" are it. A text without a
-/// line is one blank, as a text that is not known yet.
+/// "/STX", "/MTX", "/OTX" and "/LTX": a line "/n" opens text n, the lines up to the next "/" are it.
 class PcTexts final : public PcSection {
   public:
     PcTexts(PcSourceJob& job, const PcTextTable& table) : job_(job), kind_(table) {}

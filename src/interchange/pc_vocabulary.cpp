@@ -43,7 +43,9 @@ void PcVocabulary::Begin(const std::vector<std::string_view>&) {
     table_ = std::make_unique<KeyedTable>(adventure, TableNum::Vocabulary, "vocindex");
 }
 
-void PcVocabulary::Slash(std::string_view) { job_.Fault(kBadLine); }
+void PcVocabulary::Slash(std::string_view) {
+    job_.Fault(kBadLine);
+}
 
 void PcVocabulary::Line(std::string_view line) {
     const auto tokens = SplitWords(line);

@@ -10,7 +10,8 @@
 
 namespace fabula::interchange {
 
-/// "/VOC": lines "word number type". A source is a whole game: the default words but the reserved ones go before it.
+/// "/VOC": lines "word number type". A source is a whole game: the default words but the reserved ones go
+/// before it.
 class PcVocabulary final : public PcSection {
   public:
     explicit PcVocabulary(PcSourceJob& job) : job_(job) {}

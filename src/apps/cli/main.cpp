@@ -36,6 +36,10 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "fabula " FABULA_VERSION);
     app.require_subcommand(1);
     cli::Chosen chosen;
+    cli::AddCheckVerb(app, chosen);
+    cli::AddExportVerb(app, chosen);
+    cli::AddImportVerb(app, chosen);
+    cli::AddVerifyVerb(app, chosen);
     cli::AddNewVerb(app, chosen);
     cli::AddTablesVerb(app, chosen);
     cli::AddDumpVerb(app, chosen);

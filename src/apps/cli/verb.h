@@ -31,6 +31,10 @@ struct Chosen {
     VerbBody body;
 };
 
+void AddCheckVerb(CLI::App& app, Chosen& chosen);
+void AddExportVerb(CLI::App& app, Chosen& chosen);
+void AddImportVerb(CLI::App& app, Chosen& chosen);
+void AddVerifyVerb(CLI::App& app, Chosen& chosen);
 void AddNewVerb(CLI::App& app, Chosen& chosen);
 void AddTablesVerb(CLI::App& app, Chosen& chosen);
 void AddDumpVerb(CLI::App& app, Chosen& chosen);

@@ -1,0 +1,84 @@
+#include <cstdlib>
+#include <filesystem>
+
+#include "authoring/verify.h"
+#include "cli/file_kind_option.h"
+#include "cli/installation.h"
+#include "cli/job_terminal.h"
+#include "cli/terminal_operator.h"
+#include "cli/verb.h"
+#include "interchange/jobs.h"
+#include "platform/error.h"
+#include "store/adventure.h"
+#include "text/utf8.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string source;
+    std::string kind;
+};
+
+/// A folder for one run, deleted with what it holds.
+class ScratchFolder {
+  public:
+    ScratchFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "fabula-check-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) throw Error("Could not make a folder for temporary files.");
+        path_ = name;
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    ~ScratchFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    const std::filesystem::path& Path() const { return path_; }
+
+  private:
+    std::filesystem::path path_;
+};
+
+/// The kind that was named, or else the one whose files have the source's extension.
+const interchange::FileKind& KindOf(const Options& options) {
+    if (!options.kind.empty()) return ReadableKind(options.kind);
+    const std::string extension = std::filesystem::path(options.source).extension().string();
+    for (const interchange::FileKind& kind : interchange::FileKinds()) {
+        if (kind.CanRead() && text::EqualsNoCase(kind.extension, extension)) return kind;
+    }
+    throw UsageError("what kind of source " + options.source +
+                     " is can't be told from its name; use --kind");
+}
+
+int Check(const Options& options) {
+    const interchange::FileKind& kind = KindOf(options);
+    const ScratchFolder folder;
+    const std::filesystem::path file = folder.Path() / "check.fbd";
+    TerminalOperator person;
+    const platform::SystemClock clock;
+    platform::NoEvents events;
+    JobTerminal observer(std::cout, ErrorsGoToTerminal());
+    const interchange::JobResult imported = interchange::ImportIt(
+        kind, options.source, file, true, {person, clock, events, observer, DefaultDataFile()});
+    if (!imported.done) return kFailed;
+    const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadOnly);
+    interchange::JobStatus status(observer);
+    const bool verified = authoring::VerifyAdventure(*adventure, authoring::VerifyTarget::Play, status);
+    return verified && imported.faults == 0 ? kDone : kFailed;
+}
+
+}  // namespace
+
+void AddCheckVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb =
+        app.add_subcommand("check", "Reads a source into a temporary adventure and verifies it");
+    verb->add_option("source", options->source, "The file that is read")->required();
+    verb->add_option("--kind", options->kind,
+                     "What it is, where its name doesn't tell: " + ReadableKinds());
+    verb->callback([options, &chosen] { chosen.body = [options] { return Check(*options); }; });
+}
+
+}  // namespace fabula::cli

@@ -1,0 +1,39 @@
+#include "cli/job_terminal.h"
+
+#include <unistd.h>
+
+namespace fabula::cli {
+
+JobTerminal::JobTerminal(std::ostream& stream, bool showsProgress)
+    : stream_(stream), showsProgress_(showsProgress) {}
+
+void JobTerminal::StatusAdded(std::string_view text) {
+    ClearProgress();
+    stream_ << text;
+}
+
+void JobTerminal::ProgressLine(std::string_view text) {
+    if (!showsProgress_) return;
+    std::cerr << "\r" << text << "\x1B[K" << std::flush;
+    progressShown_ = true;
+}
+
+void JobTerminal::Progress(std::int64_t value, std::int64_t maximum) {
+    if (!showsProgress_ || maximum <= 0) return;
+    const std::int64_t percent = value * 100 / maximum;
+    if (percent == shownPercent_) return;
+    shownPercent_ = percent;
+    ProgressLine(std::to_string(percent) + "%");
+}
+
+void JobTerminal::ClearProgress() {
+    if (!progressShown_) return;
+    std::cerr << "\r\x1B[K" << std::flush;
+    progressShown_ = false;
+}
+
+bool ErrorsGoToTerminal() {
+    return isatty(STDERR_FILENO) != 0;
+}
+
+}  // namespace fabula::cli
