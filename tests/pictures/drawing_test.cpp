@@ -107,6 +107,11 @@ TEST(Bright, LeavesThePaperAlone) {
     EXPECT_EQ(drawing.State().inkColour, IndexToColour(10));
 }
 
+TEST(Bright, TurnsBrightBlackBackToBlack) {
+    EXPECT_EQ(DrawAndKeep(TestBook(), "INK 16 BRIGHT 1 END").State().inkColour, IndexToColour(8));
+    EXPECT_EQ(DrawAndKeep(TestBook(), "INK 16 BRIGHT 0 END").State().inkColour, IndexToColour(0));
+}
+
 TEST(Flash, IsNoted) {
     EXPECT_EQ(DrawAndKeep(TestBook(), "FLASH 1 END").State().flash, 1);
 }
