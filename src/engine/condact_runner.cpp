@@ -73,9 +73,16 @@ void CondActRunner::PushFrame(int process, int startX, int startY) {
         throw RunFailure("more than " + std::to_string(kFrameDepth) +
                          " tables are running inside each other");
     }
-    const Frame frame{.process = process,
-                      .entry = startX == -1 ? 0 : startX,
-                      .startCell = startY == -1 ? kFirstCell : startY};
+    Frame frame;
+    frame.process = process;
+    frame.startCell = startY == -1 ? kFirstCell : startY;
+    if (startX != -1) {
+        // An entry that is resumed is taken as it is, without matching its words again.
+        frame.entry = startX;
+        frame.cell = frame.startCell;
+        if (Table(process) && startX < static_cast<int>(Table(process)->size()))
+            frame.phase = Phase::CondAct;
+    }
     game_.runningProc = process;
     game_.SetFlag(flag::kDescribe, 0);
     game_.SetFlag(flag::kEnded, 0);

@@ -18,9 +18,9 @@ milliseconds PauseLength(int value) {
     return milliseconds(value > 0 ? value * 20 : 0);
 }
 
-/// Half tones from the middle C of the channel.
+/// Half tones from the middle C of the channel; a half goes to the even note.
 int NoteOf(int pitch) {
-    return static_cast<int>(std::lround(pitch / 2.0 - 60));
+    return static_cast<int>(std::nearbyint(pitch / 2.0 - 60));
 }
 
 constexpr int kSeriesDuration = 5;
