@@ -577,7 +577,8 @@ TEST_F(CursorTest, ARefusedRecordStaysPendingAndMayBeMended) {
 }
 
 TEST_F(CursorTest, TextOfEveryKindComesBackAsItWentIn) {
-    const std::string odd("quote ' \" \\ ; -- \0 \u008c \u007f \U0001f409 \xff", 32);
+    using namespace std::string_literals;
+    const std::string odd = "quote ' \" \\ ; -- \0 \u008c \u007f \U0001f409 \xff"s;
     Cursor& messages = Messages();
     messages.SetField("msgmsg", odd);
     messages.Update();
