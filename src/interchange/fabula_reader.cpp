@@ -16,7 +16,6 @@
 #include "interchange/source_file.h"
 #include "platform/error.h"
 #include "store/record_check.h"
-#include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -39,9 +38,19 @@ struct FieldLine {
 };
 
 FieldLine SplitFieldLine(std::string_view line) {
-    const auto pieces = text::Split(line, kPieceDelimiter);
-    const auto piece = [&](std::size_t i) { return i < pieces.size() ? pieces[i] : kPieceDelimiter; };
-    return {text::WholeNumber(piece(0)), piece(1), piece(2)};
+    auto takePiece = [&line, beyond = false]() mutable {
+        if (beyond) return kPieceDelimiter;
+        const std::size_t end = line.find(kPieceDelimiter);
+        const std::string_view piece = line.substr(0, end);
+        beyond = end == std::string_view::npos;
+        line.remove_prefix(beyond ? line.size() : end + kPieceDelimiter.size());
+        return piece;
+    };
+    FieldLine fieldLine;
+    fieldLine.table = text::WholeNumber(takePiece());
+    fieldLine.field = takePiece();
+    fieldLine.value = takePiece();
+    return fieldLine;
 }
 
 const ExportTable* FindExportTable(std::int64_t number) {

@@ -13,6 +13,8 @@ void Append(std::string& list, const std::string& token) {
 }  // namespace
 
 void PcConnections::Begin(const std::vector<std::string_view>&) {
+    Flush();
+    if (locations_) return;
     locations_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Locations, "locnum");
 }
 

@@ -42,6 +42,7 @@ void SetWord(Cursor& object, const char* textField, const char* numberField, con
 }  // namespace
 
 void PcObjects::Begin(const std::vector<std::string_view>&) {
+    if (objects_) return;
     objects_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Objects, "objnum");
 }
 

@@ -48,6 +48,8 @@ const PcTextTable kPcTextTables[4] = {
 };
 
 void PcTexts::Begin(const std::vector<std::string_view>&) {
+    Flush();
+    if (table_) return;
     table_ = std::make_unique<KeyedTable>(job_.context.adventure, kind_.table, std::string(kind_.keyField));
 }
 
