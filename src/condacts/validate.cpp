@@ -153,9 +153,10 @@ std::optional<Fault> ValidateStatement(const ParsedLine& line, const Statement& 
     return std::nullopt;
 }
 
-/// A line as the checks want it: capitals, location words as their numbers.
+/// A line as the checks want it: location words as their numbers, in capitals. Capitals come last, since a
+/// letter outside ASCII, which counts as a blank, may have one inside.
 std::string Prepared(std::string_view line, const Catalogue& catalogue) {
-    return LocationWordsToNumbers(text::UpperCase(line), catalogue);
+    return text::UpperCase(LocationWordsToNumbers(line, catalogue));
 }
 
 }  // namespace

@@ -113,10 +113,10 @@ void PcProcesses::BeginEntry(std::string_view line) {
 
 void PcProcesses::AddCondActs(std::string_view line) {
     if (!entry_->good) return;
-    const std::string upper = text::UpperCase(WithoutBells(line));
-    const Converted source = ConvertCAs(upper, job_.catalogue);
+    const Converted source = ConvertCAs(WithoutBells(line), job_.catalogue);
     if (!source.ok) return Refuse(source.errors);
-    const std::string condActs = condacts::LocationWordsToNumbers(source.line, job_.catalogue);
+    const std::string condActs =
+        text::UpperCase(condacts::LocationWordsToNumbers(source.line, job_.catalogue));
     const Converted numeric = condacts::CondActsToNumeric(condActs, job_.catalogue, job_.words);
     if (!numeric.ok) return Refuse(numeric.errors);
     const ParsedLine parsed = condacts::ParseLine(condActs, job_.catalogue);

@@ -39,6 +39,10 @@ TEST(ValidateCondActs, NamesAndWordsMayBeInLowerCase) {
     EXPECT_EQ(Check("place 4 carried prep under"), kValid);
 }
 
+TEST(ValidateCondActs, ALetterWhoseCapitalIsAsciiIsABlankLikeAllOthers) {
+    EXPECT_EQ(Check("DONE \u017F XYZ"), FaultAt(1, "XYZ is an invalid Condition/Action"));
+}
+
 TEST(ValidateCondActs, AnUnknownNameInAListFails) {
     EXPECT_EQ(Check("DONE XYZ"), FaultAt(1, "XYZ is an invalid Condition/Action"));
 }

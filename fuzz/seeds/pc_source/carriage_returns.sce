@@ -1,0 +1,1 @@
+/CTL*/VOCGO 20 verb/PRO 0* * DONE

@@ -1,0 +1,5 @@
+/CTL
+_
+/VOC
+GO 20 verb
+/LNK part2
