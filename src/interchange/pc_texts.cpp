@@ -33,11 +33,6 @@ void SetObjectDefaults(Cursor& object) {
     object.SetField("objattrn", std::int64_t{0});
 }
 
-/// The numbers of the places that are no room can't be rooms.
-bool IsPlaceNumber(std::int64_t number) {
-    return number >= condacts::kNotCreated && number <= condacts::kHere;
-}
-
 }  // namespace
 
 const PcTextTable kPcTextTables[4] = {
@@ -56,7 +51,6 @@ void PcTexts::Begin(const std::vector<std::string_view>&) {
 void PcTexts::Slash(std::string_view line) {
     Flush();
     number_ = RecordNumber(SplitSlashLine(line));
-    if (number_ && kind_.table == TableNum::Locations && IsPlaceNumber(*number_)) number_.reset();
     if (!number_) job_.Fault(kBadLine);
 }
 

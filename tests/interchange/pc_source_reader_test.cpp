@@ -237,10 +237,10 @@ TEST(PcSourceTexts, ABadNumberIsToldAndItsTextPassedOver) {
     EXPECT_EQ(game.Count(TableNum::Messages, "msgnum>=0"), 1);
 }
 
-TEST(PcSourceTexts, TheNumbersOfNoRoomAreNoLocations) {
-    const Reading game = PcGame("/LTX\n/252\nNowhere.\n/256\nHere.\n");
-    EXPECT_EQ(game.Count(TableNum::Locations, "locnum=252"), 0);
-    EXPECT_EQ(game.Count(TableNum::Locations, "locnum=256"), 1);
+TEST(PcSourceTexts, ComeInAtTheNumbersGiven) {
+    const Reading game = PcGame("/LTX\n/252\nA.\n/999\nB.\n");
+    EXPECT_EQ(game.Text(TableNum::Locations, "locnum=252", "locdesc"), "A.");
+    EXPECT_EQ(game.Text(TableNum::Locations, "locnum=999", "locdesc"), "B.");
 }
 
 TEST(PcSourceConnections, BecomeTheExitsOfTheirLocation) {
