@@ -16,7 +16,7 @@ namespace {
 
 /// Without the player having had a turn in between.
 constexpr int kMostRestarts = 10;
-constexpr std::int64_t kMostPauses = 1'000'000;
+constexpr std::int64_t kMostPauses = 100'000;
 
 constexpr std::string_view kFailureTitle = "Run-time failure";
 
@@ -203,6 +203,7 @@ void Engine::TimeOutTick() {
     Game& game = *game_;
     const bool asking = game.Flag(flag::kAsking) != 0;
     game.timeOutRunning = false;
+    session_->host.window.StopTimeOut();
     if (!game.state.FlagBitSet(flag::kTimeOutOptions, 7)) {
         game.SetFlag(flag::kTimeOutOptions, game.Flag(flag::kTimeOutOptions) + 128);
     }

@@ -36,9 +36,8 @@ std::int16_t Number16(std::int64_t value, const std::string& what) {
 
 /// A record's number, which sizes what is kept of the records.
 std::size_t RecordNumber(std::int64_t value, const char* kind) {
-    if (value < 0 || value > kHighestRecord) {
-        Refuse(std::string("there is a ") + kind + " " + std::to_string(value));
-    }
+    if (value < 0 || value > kHighestRecord)
+        Refuse("there is " + std::string(kind) + " " + std::to_string(value));
     return static_cast<std::size_t>(value);
 }
 
@@ -184,7 +183,7 @@ void GameData::ReadObjects(store::Adventure& adventure) {
     PreparedQuery row = adventure.Prepare(
         TableNum::Objects, "objnum, objloc, objweight, objattrn, objnumnoun, objnumadject", "", "objnum");
     for (bool more = row.First({}); more; more = row.Next()) {
-        const std::size_t number = RecordNumber(row.Number(0), "object");
+        const std::size_t number = RecordNumber(row.Number(0), "an object");
         const std::string what = "object " + std::to_string(number) + ", ";
         // Object numbers that are left out are objects that are nowhere and that no word names.
         if (objects.size() <= number) objects.resize(number + 1, {252, 0, 0, 0, 0});
@@ -202,7 +201,7 @@ void GameData::ReadLocations(store::Adventure& adventure) {
     PreparedQuery row = adventure.Prepare(
         TableNum::Locations, "locnum, numexits, numericexits, pickey, picloc", "locnum>=0", "locnum");
     for (bool more = row.First({}); more; more = row.Next()) {
-        const std::size_t number = RecordNumber(row.Number(0), "location");
+        const std::size_t number = RecordNumber(row.Number(0), "a location");
         if (locations.size() <= number) {
             locations.resize(number + 1);
             pictures.resize(number + 1);
@@ -215,7 +214,8 @@ void GameData::ReadLocations(store::Adventure& adventure) {
         }
         pictures[number] = Filled(row.Text(3)).empty() ? "" : Filled(row.Text(4));
     }
-    if (!defaultPicture.empty() && !pictures.empty()) pictures.back() = defaultPicture;
+    if (locations.empty()) Refuse("it has no locations");
+    if (!defaultPicture.empty()) pictures.back() = defaultPicture;
 }
 
 void GameData::ReadProcesses(store::Adventure& adventure) {

@@ -28,6 +28,10 @@ class ProcessLoop {
     /// The wait of a PAUSE is over.
     Outcome Continue();
 
+    /// The turn count was brought back from an earlier state: it no longer tells whether the line ran a
+    /// sentence. It did, since an action of it brought the state back.
+    void ForgetTurnAtInput() { turnAtInput_ = kTurnOfAnswer; }
+
   private:
     enum class Label {
         Begin,  ///< the start of the game

@@ -56,7 +56,11 @@ void Script::Write(std::string_view text) {
     output_ << text;
     atLineStart_ = text.back() == '\n';
     answerMarked_ = false;
-    if (output_) return;
+    CheckOutput();
+}
+
+void Script::CheckOutput() {
+    if (!output_.is_open() || output_) return;
     output_.close();
     failure_ = "Could not write the script " + outputName_ + ". It is closed.";
 }
@@ -70,7 +74,7 @@ void Script::WriteLineEnd() {
 }
 
 void Script::WriteAnswerMark() {
-    if (answerMarked_) return;
+    if (!Writing() || answerMarked_) return;
     if (!atLineStart_) WriteLineEnd();
     Write(kMark);
     answerMarked_ = true;
@@ -81,6 +85,7 @@ void Script::WriteInput(std::string_view line) {
     Write(line);
     WriteLineEnd();
     output_.flush();
+    CheckOutput();
 }
 
 void Script::WritePlayed(std::string_view line) {

@@ -47,6 +47,7 @@ class Script {
 
   private:
     void Write(std::string_view text);
+    void CheckOutput();
     std::optional<std::string> ReadLine();
 
     std::ofstream output_;

@@ -45,6 +45,7 @@ struct SessionFlags {
         game.SetFlag(flag::kEnded, 0);
         game.SetFlag(flag::kAsking, 0);
         game.SetFlag(flag::kAnyKey, 0);
+        game.loop.ForgetTurnAtInput();
     }
 
     int traceFile;
