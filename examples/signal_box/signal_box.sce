@@ -294,6 +294,7 @@ CUTTI   104 noun
 ME      105 noun
 MYSEL   105 noun
 CHAIR   106 noun
+SCRIP   107 noun
 ; Adjectives
 RED     50  adjective
 HOME    50  adjective
@@ -1637,6 +1638,9 @@ SAVE _
  SAVE
  DONE
 LOAD _
+ EQ 34 107                     ; n script
+ DONE
+LOAD _
  LOAD
  DONE
 RAMSA _
@@ -2892,6 +2896,19 @@ TURN LAMP
 TURN DRUM
  AT 6                          ; hut
  MESSAGE 173                   ; tap what
+ DONE
+; The entries that record and replay a session come in with the import, before these
+TURN _
+ EQ 34 107                     ; n script
+ PREP ON
+ SYSMESS 54
+ NEWLINE
+ DONE
+TURN _
+ EQ 34 107                     ; n script
+ PREP OFF
+ SYSMESS 55
+ NEWLINE
  DONE
 RING INSTR
  AT 4                          ; box
