@@ -45,6 +45,8 @@ int main(int argc, char** argv) {
     cli::AddDumpVerb(app, chosen);
     cli::AddDrawVerb(app, chosen);
     cli::AddCharsetVerb(app, chosen);
+    cli::AddPlayVerb(app, chosen);
+    cli::AddTestVerb(app, chosen);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

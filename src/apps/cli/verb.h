@@ -40,5 +40,7 @@ void AddTablesVerb(CLI::App& app, Chosen& chosen);
 void AddDumpVerb(CLI::App& app, Chosen& chosen);
 void AddDrawVerb(CLI::App& app, Chosen& chosen);
 void AddCharsetVerb(CLI::App& app, Chosen& chosen);
+void AddPlayVerb(CLI::App& app, Chosen& chosen);
+void AddTestVerb(CLI::App& app, Chosen& chosen);
 
 }  // namespace fabula::cli

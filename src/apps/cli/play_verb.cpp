@@ -1,0 +1,92 @@
+#include <fstream>
+
+#include <unistd.h>
+
+#include "cli/verb.h"
+#include "platform/error.h"
+#include "terminal/line_editor.h"
+#include "terminal/line_reader.h"
+#include "terminal/session.h"
+#include "terminal/trace_file.h"
+#include "terminal/tty.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string file;
+    std::string script;
+    std::string transcript;
+    std::string trace;
+    std::optional<std::uint32_t> seed;
+    int width = 0;
+    bool plain = false;
+    bool realTime = false;
+    bool debug = false;
+};
+
+std::unique_ptr<terminal::LineSource> OpenInput(const Options& options) {
+    std::unique_ptr<terminal::LineSource> typed;
+    if (terminal::IsInteractive()) {
+        typed = std::make_unique<terminal::LineEditor>();
+    } else {
+        typed = std::make_unique<terminal::LineReader>(STDIN_FILENO);
+    }
+    if (options.script.empty()) return typed;
+    return std::make_unique<terminal::LineSequence>(std::make_unique<terminal::LineReader>(options.script),
+                                                    std::move(typed));
+}
+
+int Play(const Options& options) {
+    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
+    std::ofstream transcriptStream;
+    std::optional<terminal::Transcript> transcript;
+    if (!options.transcript.empty()) {
+        transcriptStream.open(options.transcript, std::ios::binary);
+        if (!transcriptStream) throw Error("Could not write " + options.transcript + ".");
+        transcript.emplace(transcriptStream);
+    }
+    std::optional<terminal::TraceFile> trace;
+    if (!options.trace.empty()) trace.emplace(options.trace);
+
+    const bool interactive = terminal::IsInteractive();
+    terminal::Output output(STDOUT_FILENO);
+    terminal::Screen screen(
+        {interactive, interactive && !options.plain && terminal::HasColours(), options.width}, output,
+        *input, transcript ? &*transcript : nullptr);
+    const terminal::NamedFiles files;
+    terminal::TerminalWindow window(screen, files);
+    terminal::PlaySession(
+        *adventure, window, screen,
+        {options.seed, interactive || options.realTime, options.debug, trace ? &*trace : nullptr});
+    if (trace) trace->Close();
+    return kDone;
+}
+
+}  // namespace
+
+void AddPlayVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = app.add_subcommand("play", "Plays an adventure");
+    verb->footer(
+        "In a terminal lines are edited and remembered, and time passes as in the game's own window.\n"
+        "From a pipe or a file nothing is echoed, pauses pass at once, and an empty line stands for a\n"
+        "time-out when the game waits with one. Before each line is read a \">\" stands at the head of a\n"
+        "line as the last character of the output. The end of the input ends the game.");
+    verb->add_option("file", options->file, "The file, FILE.fbd")->required();
+    verb->add_option("--script", options->script, "Take commands from this file first");
+    verb->add_option("--transcript", options->transcript, "Write all that is shown and typed to this file");
+    verb->add_option("--trace", options->trace, "Write what the engine does to this file");
+    verb->add_option("--seed", options->seed, "Draw the random numbers of this seed");
+    verb->add_option("--width", options->width, "Break lines at this many columns")
+        ->check(CLI::Range(10, 10000));
+    verb->add_flag("--plain", options->plain, "No colours and looks");
+    verb->add_flag("--real-time", options->realTime,
+                   "Let pauses and time-outs take their time in a pipe, too");
+    verb->add_flag("--debug", options->debug,
+                   "Lines that begin with \":\" look into the game: \":F38\", \":=5\"");
+    verb->callback([options, &chosen] { chosen.body = [options] { return Play(*options); }; });
+}
+
+}  // namespace fabula::cli

@@ -1,0 +1,95 @@
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+#include "cli/verb.h"
+#include "platform/error.h"
+#include "store/file_copy.h"
+#include "terminal/line_reader.h"
+#include "terminal/player_files.h"
+#include "terminal/session.h"
+#include "text/unified_diff.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string file;
+    std::string script;
+    std::string transcript;
+    std::uint32_t seed = 1;
+    bool update = false;
+};
+
+std::string PlayScript(const Options& options) {
+    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    terminal::LineReader script{std::filesystem::path(options.script)};
+    const terminal::ScratchFiles files(std::filesystem::path(options.script).parent_path());
+    std::ostringstream played;
+    terminal::Transcript transcript(played);
+    terminal::Output nowhere(terminal::Output::kNowhere);
+    terminal::Screen screen({}, nowhere, script, &transcript);
+    terminal::TerminalWindow window(screen, files);
+    terminal::PlaySession(*adventure, window, screen, {.seed = options.seed});
+    return played.str();
+}
+
+std::filesystem::path ExpectedFile(const Options& options) {
+    if (!options.transcript.empty()) return options.transcript;
+    const auto file = std::filesystem::path(options.script).replace_extension("transcript");
+    if (file == options.script)
+        throw UsageError("the script has the name of its transcript; say --transcript");
+    return file;
+}
+
+std::string ReadExpected(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw Error("Could not read " + file.string() + "; --update writes it.");
+    std::ostringstream content;
+    content << stream.rdbuf();
+    return content.str();
+}
+
+void WriteExpected(const std::filesystem::path& file, const std::string& transcript) {
+    const store::TemporaryFile temporary(store::TemporaryBeside(file));
+    std::ofstream stream(temporary.Path(), std::ios::binary);
+    stream << transcript;
+    stream.close();
+    if (!stream) throw Error("Could not write " + file.string() + ".");
+    store::MoveIntoPlace(temporary.Path(), file);
+}
+
+int Test(const Options& options) {
+    const std::filesystem::path expectedFile = ExpectedFile(options);
+    const std::string played = PlayScript(options);
+    if (options.update) {
+        WriteExpected(expectedFile, played);
+        return kDone;
+    }
+    const std::string difference =
+        text::UnifiedDiff(ReadExpected(expectedFile), played, expectedFile.string(), "played");
+    std::cout << difference;
+    return difference.empty() ? kDone : kFailed;
+}
+
+}  // namespace
+
+void AddTestVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = app.add_subcommand("test", "Plays a script and compares what is shown");
+    verb->footer(
+        "Shows nothing and ends with 0 when the transcript is the expected one, else shows the difference\n"
+        "and ends with 1. SCRIPT has one command a line, as 'fabula play' reads them from a pipe. Files "
+        "that\n"
+        "the game saves live as long as the test.");
+    verb->add_option("file", options->file, "The file, FILE.fbd")->required();
+    verb->add_option("script", options->script, "The commands")->required();
+    verb->add_option("--transcript", options->transcript,
+                     "The expected transcript; else SCRIPT with the extension .transcript");
+    verb->add_option("--seed", options->seed, "Draw the random numbers of this seed")
+        ->capture_default_str();
+    verb->add_flag("--update", options->update, "Write the transcript instead of comparing it");
+    verb->callback([options, &chosen] { chosen.body = [options] { return Test(*options); }; });
+}
+
+}  // namespace fabula::cli

@@ -1,0 +1,119 @@
+#include "terminal/line_wrapper.h"
+
+#include <algorithm>
+
+#include "terminal/safe_text.h"
+#include "text/utf8.h"
+
+namespace fabula::terminal {
+namespace {
+
+constexpr char32_t kNoBreakSpace = U'\u00A0';
+
+/// A character may carry marks that take no column; a line with more than this for each column is full.
+constexpr std::size_t kMostPerColumn = 16;
+
+char32_t Shown(char32_t point) {
+    return point == kNoBreakSpace ? U' ' : point;
+}
+
+}  // namespace
+
+void LineWrapper::Write(std::string_view text, const Attributes& look) {
+    passing_ = passing_ || (width_ == 0 && !text.empty());
+    for (std::size_t at = 0; at < text.size();) {
+        const text::CodePoint point = text::DecodeAt(text, at);
+        at += point.size;
+        if (width_ == 0) {
+            text::AppendCodePoint(text_, Shown(point.value));
+        } else {
+            Add({point.value, DisplayWidth(point.value), attributes_ ? look : Attributes{}});
+        }
+    }
+    if (width_ == 0) Show();
+}
+
+bool LineWrapper::Fits(const Glyph& glyph) const {
+    return column_ + glyph.width <= width_ &&
+           line_.size() < kMostPerColumn * static_cast<std::size_t>(width_);
+}
+
+void LineWrapper::Add(const Glyph& glyph) {
+    const bool fits = Fits(glyph);
+    if (glyph.point == U' ' && column_ > width_) return;  // one blank beyond the width marks the break
+    if (!fits && glyph.point != U' ' && !line_.empty()) Break();
+    line_.push_back(glyph);
+    column_ += glyph.width;
+}
+
+/// Ends the line behind its last blank, or as it is when it has none that could still be taken.
+void LineWrapper::Break() {
+    std::size_t end = line_.size();
+    while (end > shown_ && line_[end - 1].point != U' ')
+        --end;
+    if (end == 0 || line_[end - 1].point != U' ') end = line_.size();
+    std::vector<Glyph> rest(line_.begin() + static_cast<std::ptrdiff_t>(end), line_.end());
+    line_.resize(end);
+    while (line_.size() > shown_ && line_.back().point == U' ')
+        line_.pop_back();
+    EndLine();
+    line_ = std::move(rest);
+    for (const Glyph& glyph : line_)
+        column_ += glyph.width;
+}
+
+void LineWrapper::EndLine() {
+    if (column_ > width_ && line_.size() > shown_ && line_.back().point == U' ') line_.pop_back();
+    Emit();
+    SwitchTo({});
+    text_ += '\n';
+    output_.Write(text_);
+    text_.clear();
+    Forget();
+}
+
+void LineWrapper::Show() {
+    Emit();
+    SwitchTo({});
+    output_.Write(text_);
+    text_.clear();
+}
+
+std::string LineWrapper::TakeLine(char mark) {
+    std::string prompt;
+    Attributes look;
+    for (std::size_t i = 0; i < line_.size(); ++i) {
+        const Attributes wanted = i + 1 < line_.size() ? line_[i].look : Attributes{};
+        if (wanted != look) {
+            prompt += mark;
+            AppendAnsi(wanted, prompt);
+            prompt += mark;
+            look = wanted;
+        }
+        text::AppendCodePoint(prompt, Shown(line_[i].point));
+    }
+    Forget();
+    return prompt;
+}
+
+void LineWrapper::Forget() {
+    passing_ = false;
+    line_.clear();
+    shown_ = 0;
+    column_ = 0;
+}
+
+void LineWrapper::Emit() {
+    for (; shown_ < line_.size(); ++shown_) {
+        SwitchTo(line_[shown_].look);
+        text::AppendCodePoint(text_, Shown(line_[shown_].point));
+    }
+}
+
+void LineWrapper::SwitchTo(const Attributes& look) {
+    if (look == switched_) return;
+    AppendAnsi(look, text_);
+    switched_ = look;
+}
+
+}  // namespace fabula::terminal

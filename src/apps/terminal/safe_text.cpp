@@ -1,0 +1,72 @@
+#include "terminal/safe_text.h"
+
+#include <algorithm>
+
+#include <utf8proc.h>
+
+#include "text/utf8.h"
+
+namespace fabula::terminal {
+namespace {
+
+constexpr char32_t kUnshowable = U'\uFFFD';
+constexpr char32_t kLineSeparator = U'\u2028';
+constexpr char32_t kParagraphSeparator = U'\u2029';
+
+constexpr char32_t kFirstBlock = 128;
+constexpr char32_t kLastBlock = 143;
+constexpr char32_t kFirstUserDefined = 144;
+constexpr char32_t kLastUserDefined = 164;
+
+/// By number less 128.
+constexpr std::u32string_view kBlocks = U" ▝▘▀▗▐▚▜▖▞▌▛▄▟▙█";
+static_assert(kBlocks.size() == kLastBlock - kFirstBlock + 1);
+
+bool IsPlain(char c) {
+    return c >= ' ' && c < '\x7F';
+}
+
+char32_t Safe(char32_t point) {
+    if (point == '\t') return ' ';
+    const bool control = point < 0x20 || (point >= 0x7F && point < 0xA0);
+    const bool separator = point == kLineSeparator || point == kParagraphSeparator;
+    return control || separator || point >= text::kBadByte ? kUnshowable : point;
+}
+
+char32_t OfCharacterSet(char32_t code) {
+    if (code == 96) return U'£';
+    if (code == 127) return U'©';
+    if (code >= kFirstBlock && code <= kLastBlock) return kBlocks[code - kFirstBlock];
+    if (code >= kFirstUserDefined && code <= kLastUserDefined) return kPlaceholder;
+    return Safe(code);
+}
+
+template <typename Change>
+void AppendEach(std::string_view text, std::string& shown, Change change) {
+    for (std::size_t at = 0; at < text.size();) {
+        const text::CodePoint point = text::DecodeAt(text, at);
+        text::AppendCodePoint(shown, change(point.value));
+        at += point.size;
+    }
+}
+
+}  // namespace
+
+void AppendSafe(std::string_view text, std::string& shown) {
+    if (std::all_of(text.begin(), text.end(), IsPlain)) {
+        shown += text;
+    } else {
+        AppendEach(text, shown, Safe);
+    }
+}
+
+void AppendCharacters(std::string_view codes, std::string& shown) {
+    AppendEach(codes, shown, OfCharacterSet);
+}
+
+int DisplayWidth(char32_t character) {
+    if (character >= ' ' && character < 0x7F) return 1;
+    return utf8proc_charwidth(static_cast<utf8proc_int32_t>(character));
+}
+
+}  // namespace fabula::terminal

@@ -1,0 +1,101 @@
+#include "terminal/session.h"
+
+#include <thread>
+
+#include "engine/engine.h"
+#include "platform/random_source.h"
+
+namespace fabula::terminal {
+namespace {
+
+using engine::Waiting;
+
+class Session {
+  public:
+    Session(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
+            const SessionOptions& options)
+        : window_(window),
+          screen_(screen),
+          options_(options),
+          random_(options.seed ? *options.seed : platform::UnpredictableSeed()),
+          engine_(adventure, {window, window, random_, sound_, options.trace},
+                  {.traceFile = options.trace != nullptr}) {}
+
+    void Play() {
+        engine_.Initialize();
+        window_.Check();
+        while (engine_.WaitingFor() != Waiting::Nothing && Step())
+            window_.Check();
+        screen_.Finish();
+        window_.Check();
+    }
+
+  private:
+    /// Brings what the game waits for. False at the end of the input.
+    bool Step() {
+        if (engine_.WaitingFor() != Waiting::Pause) return StepInput();
+        if (options_.realTime) {
+            screen_.Show();
+            std::this_thread::sleep_for(window_.Wait());
+        }
+        engine_.WaitTick();
+        return true;
+    }
+
+    bool StepInput() {
+        const bool sentence = engine_.WaitingFor() == Waiting::Sentence;
+        const auto prompt = promptAgain_ ? Screen::Prompt::Again : Screen::Prompt::Own;
+        promptAgain_ = false;
+        const TypedLine line =
+            screen_.ReadLine(prompt, sentence, options_.realTime ? window_.TimeOut() : std::nullopt);
+        if (line.kind == TypedLine::Kind::End) return false;
+        if (line.kind == TypedLine::Kind::TimeOut) {
+            PassTimeOut();
+        } else {
+            Take(line.text, sentence);
+        }
+        return true;
+    }
+
+    void Take(const std::string& line, bool sentence) {
+        if (options_.debug && line.starts_with(':')) {
+            promptAgain_ = true;
+        } else if (!sentence || !line.empty()) {
+            engine_.EnterLine(line);
+        } else if (window_.NextEnabled()) {
+            PlayNext();
+        } else if (window_.TimeOut() && !options_.realTime) {
+            PassTimeOut();
+        } else {
+            promptAgain_ = true;
+        }
+    }
+
+    void PlayNext() {
+        window_.SetPlaying(true);
+        engine_.DoNextScript();
+        window_.SetPlaying(false);
+    }
+
+    void PassTimeOut() {
+        window_.TimeOutPassed();
+        engine_.TimeOutTick();
+    }
+
+    TerminalWindow& window_;
+    Screen& screen_;
+    const SessionOptions& options_;
+    platform::SeededRandom random_;
+    engine::SilentPlayer sound_;
+    engine::Engine engine_;
+    bool promptAgain_ = false;
+};
+
+}  // namespace
+
+void PlaySession(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
+                 const SessionOptions& options) {
+    Session(adventure, window, screen, options).Play();
+}
+
+}  // namespace fabula::terminal

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "engine/trace_sink.h"
+#include "store/adventure.h"
+#include "terminal/terminal_window.h"
+
+namespace fabula::terminal {
+
+struct SessionOptions {
+    std::optional<std::uint32_t> seed;  ///< for random numbers that can be drawn again
+    bool realTime = false;              ///< time-outs run out and pauses last
+    bool debug = false;                 ///< a line that begins with ":" is a request to frmDebug
+    engine::TraceSink* trace = nullptr;
+};
+
+/// Plays a game to its end or to the end of the input.
+///
+/// Without real time pauses pass at once, and a time-out passes when an empty line is read, so that a file
+/// of commands can say where the player let the time run out. With `debug` ":" is taken from the game; an
+/// empty line plays the next line of a script that the game loaded.
+///
+/// Throws fabula::Error when the input ends with a failure or something can't be written.
+void PlaySession(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
+                 const SessionOptions& options);
+
+}  // namespace fabula::terminal
