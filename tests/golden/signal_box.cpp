@@ -1,0 +1,74 @@
+#include "games.h"
+
+namespace fabula::test {
+namespace {
+
+enum Places { kPlatform, kSignalBox, kTunnel };
+
+void AddWords(StarterGame& game) {
+    game.Word("LIGHT", 40, condacts::kVerb);
+    game.Word("PULL", 41, condacts::kVerb);
+    game.Word("WAIT", 42, condacts::kVerb);
+    game.Word("LISTEN", 43, condacts::kVerb);
+    game.Word("LAMP", 50, condacts::kNoun);
+    game.Word("LEVER", 51, condacts::kNoun);
+    game.Word("FLAG", 52, condacts::kNoun);
+    game.Word("WHISTLE", 53, condacts::kNoun);
+    game.Word("CAP", 200, condacts::kNoun);
+}
+
+void AddPlaces(StarterGame& game) {
+    game.Location(kPlatform, "An empty platform. <#=143><#=140><#=143> The signal box is up.\u008C", "The platform.\u008C",
+                  "UP 1");
+    game.Location(kSignalBox, "The signal box: one lever, many brass plates.\u008C", "The signal box.\u008C",
+                  "DOWN 0");
+    game.Location(kTunnel, "The tunnel. Rails gleam.\u008C", "The tunnel.\u008C");
+}
+
+void AddThings(StarterGame& game) {
+    game.Object(0, "a burning lamp", condacts::kNotCreated, "LAMP");
+    game.Object(1, "a lamp", kSignalBox, "LAMP");
+    game.Object(2, "a red flag", kPlatform, "FLAG");
+    game.Object(3, "a cap", kPlatform, "CAP");
+    game.Object(4, "a whistle", kTunnel, "WHISTLE");
+    game.Setting("maxobj", 2);
+}
+
+void AddMessages(StarterGame& game) {
+    game.Message(10, "The lamp burns.");
+    game.Message(11, "The lever moves; far away a wire sings. `5 for the one who greased it.");
+    game.Message(12, "A train can be heard.");
+    game.Message(13, "The train passes. You have done your work.");
+    game.Message(14, "Nothing but the wind.");
+    game.Message(15, "Is it not time?");
+}
+
+void AddEntries(StarterGame& game) {
+    game.Entry(0, "NORTH", "_", "AT 0 GOTO 2 SET 0 DESC");
+    game.Entry(0, "SOUTH", "_", "AT 2 GOTO 0 CLEAR 0 DESC");
+    game.Entry(0, "LIGHT", "LAMP", "CARRIED 1 SWAP 0 1 MESSAGE 10 DONE");
+    game.Entry(0, "PULL", "LEVER", "AT 1 ZERO 11 SET 11 PLUS 30 5 LET 5 4 MESSAGE 11 DONE");
+    game.Entry(0, "WAIT", "_", "TIME 5 4 OK");
+    game.Entry(0, "LISTEN", "_", "PROCESS 3 DONE");
+    game.Entry(3, "_", "_", "ZERO 11 MESSAGE 14");
+    game.Entry(3, "_", "_", "NOTZERO 11 MESSAGE 12");
+    game.Entry(1, "_", "_", "TIMEOUT MESSAGE 15 TIME 0 0");
+    game.Entry(1, "_", "_", "NOTZERO 11 EQ 5 2 MESSAGE 12");
+    game.Entry(1, "_", "_", "NOTZERO 11 ZERO 5 MESSAGE 13 PLUS 30 5 SCORE TURNS END");
+}
+
+}  // namespace
+
+void BuildSignalBox(const std::filesystem::path& file) {
+    StarterGame game(file, store::AdventureKind::Marlo, true);
+    game.Setting("advname", std::string("The Signal Box"));
+    game.Setting("savename", std::string("signal"));
+    AddWords(game);
+    AddPlaces(game);
+    AddThings(game);
+    AddMessages(game);
+    AddEntries(game);
+    game.Finish();
+}
+
+}  // namespace fabula::test
