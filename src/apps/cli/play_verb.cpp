@@ -3,12 +3,14 @@
 #include <unistd.h>
 
 #include "cli/verb.h"
+#include "engine/trace_file.h"
+#include "platform/clock.h"
 #include "platform/error.h"
 #include "terminal/line_editor.h"
 #include "terminal/line_reader.h"
 #include "terminal/session.h"
-#include "terminal/trace_file.h"
 #include "terminal/tty.h"
+#include "text/format.h"
 
 namespace fabula::cli {
 namespace {
@@ -37,6 +39,16 @@ std::unique_ptr<terminal::LineSource> OpenInput(const Options& options) {
                                                     std::move(typed));
 }
 
+/// "game.fbd 2026-01-31 23:59:59 COMPUTER"
+std::string TraceHeader(const Options& options) {
+    const platform::DateTime now = platform::SystemClock().Now();
+    std::string header =
+        options.file + text::FormatText(" %z4!-!%z2!-!%z2! !%z2!:!%z2!:!%z2",
+                                        {now.year, now.month, now.day, now.hour, now.minute, now.second});
+    if (const char* computer = std::getenv("COMPUTER")) header += " " + std::string(computer);
+    return header;
+}
+
 int Play(const Options& options) {
     const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
     const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
@@ -47,20 +59,22 @@ int Play(const Options& options) {
         if (!transcriptStream) throw Error("Could not write " + options.transcript + ".");
         transcript.emplace(transcriptStream);
     }
-    std::optional<terminal::TraceFile> trace;
-    if (!options.trace.empty()) trace.emplace(options.trace);
+    std::optional<engine::TraceFile> trace;
+    if (!options.trace.empty()) trace.emplace(options.trace, TraceHeader(options));
 
     const bool interactive = terminal::IsInteractive();
+    terminal::ScreenStyle style;
+    style.interactive = interactive;
+    style.attributes = interactive && !options.plain && terminal::HasColours();
+    style.width = options.width;
     terminal::Output output(STDOUT_FILENO);
-    terminal::Screen screen(
-        {interactive, interactive && !options.plain && terminal::HasColours(), options.width}, output,
-        *input, transcript ? &*transcript : nullptr);
+    terminal::Screen screen(style, output, *input, transcript ? &*transcript : nullptr);
     const terminal::NamedFiles files;
     terminal::TerminalWindow window(screen, files);
     terminal::PlaySession(
         *adventure, window, screen,
         {options.seed, interactive || options.realTime, options.debug, trace ? &*trace : nullptr});
-    if (trace) trace->Close();
+    if (trace && !trace->IsGood()) throw Error("Could not write all of the trace " + options.trace + ".");
     return kDone;
 }
 

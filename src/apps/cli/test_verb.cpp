@@ -35,10 +35,9 @@ std::string PlayScript(const Options& options) {
 }
 
 std::filesystem::path ExpectedFile(const Options& options) {
-    if (!options.transcript.empty()) return options.transcript;
-    const auto file = std::filesystem::path(options.script).replace_extension("transcript");
-    if (file == options.script)
-        throw UsageError("the script has the name of its transcript; say --transcript");
+    std::filesystem::path file = options.transcript;
+    if (file.empty()) file = std::filesystem::path(options.script).replace_extension("transcript");
+    if (file == options.script) throw UsageError("the script can't be its own transcript");
     return file;
 }
 

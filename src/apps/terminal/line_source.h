@@ -9,7 +9,8 @@ namespace fabula::terminal {
 
 /// What someone who types is asked.
 struct Question {
-    std::string_view prompt = {};  ///< shown by a source that draws its own line; sequences between kPromptMark
+    std::string_view prompt =
+        {};  ///< shown by a source that draws its own line; sequences between kPromptMark
     /// How long to wait, counted from the last key; forever without one.
     std::optional<std::chrono::milliseconds> timeOut = std::nullopt;
     bool remember = false;  ///< the line goes into the history

@@ -3,12 +3,18 @@
 #include <thread>
 
 #include "engine/engine.h"
+#include "engine/frm_debug.h"
 #include "platform/random_source.h"
 
 namespace fabula::terminal {
 namespace {
 
 using engine::Waiting;
+
+const std::string kDebugHelp =
+    ":F38 or :O3 views a flag or an object, :38 one of the same kind. :S sets the flag in view to 255, :C "
+    "to 0; "
+    ":=5 gives it a value, or the object a location.";
 
 class Session {
   public:
@@ -19,12 +25,13 @@ class Session {
           options_(options),
           random_(options.seed ? *options.seed : platform::UnpredictableSeed()),
           engine_(adventure, {window, window, random_, sound_, options.trace},
-                  {.traceFile = options.trace != nullptr}) {}
+                  {.traceFile = options.trace != nullptr}),
+          debug_(engine_) {}
 
     void Play() {
         engine_.Initialize();
         window_.Check();
-        while (engine_.WaitingFor() != Waiting::Nothing && Step())
+        while (engine_.WaitingFor() != Waiting::Nothing && !window_.InputEnded() && Step())
             window_.Check();
         screen_.Finish();
         window_.Check();
@@ -59,7 +66,7 @@ class Session {
 
     void Take(const std::string& line, bool sentence) {
         if (options_.debug && line.starts_with(':')) {
-            promptAgain_ = true;
+            Debug(std::string_view(line).substr(1));
         } else if (!sentence || !line.empty()) {
             engine_.EnterLine(line);
         } else if (window_.NextEnabled()) {
@@ -69,6 +76,14 @@ class Session {
         } else {
             promptAgain_ = true;
         }
+    }
+
+    void Debug(std::string_view request) {
+        const engine::frmDebug::Answer answer = debug_.DoIt(request);
+        screen_.Say(!answer.refusal.empty() ? answer.refusal
+                    : answer.help           ? kDebugHelp
+                                            : debug_.DisplayVariable());
+        promptAgain_ = true;
     }
 
     void PlayNext() {
@@ -88,6 +103,7 @@ class Session {
     platform::SeededRandom random_;
     engine::SilentPlayer sound_;
     engine::Engine engine_;
+    engine::frmDebug debug_;
     bool promptAgain_ = false;
 };
 

@@ -44,15 +44,19 @@ void TerminalWindow::EnableNext(bool enabled) {
 }
 
 std::optional<std::filesystem::path> TerminalWindow::AskForFile(const engine::FileRequest& request) {
-    const std::optional<std::string> name = Ask(request.title);
-    if (!name || name->empty()) return std::nullopt;
-    std::filesystem::path file = *name;
-    if (!file.has_extension()) file += "." + std::string(request.extension);
-    file = files_.Place(file, request.forWriting);
+    const std::optional<std::string> line = Ask(request.title);
+    if (!line || line->empty()) return std::nullopt;
+    std::filesystem::path name = *line;
+    if (!name.has_extension()) name += "." + std::string(request.extension);
+    const std::filesystem::path file = files_.Place(name, request.forWriting);
     std::error_code ignored;
-    if (!request.forWriting || !screen_.IsInteractive() || !std::filesystem::exists(file, ignored))
-        return file;
-    if (!Confirm(file.string() + " exists already. Replace it?", request.title)) return std::nullopt;
+    const bool exists = std::filesystem::exists(file, ignored);
+    if (!request.forWriting && !exists) {
+        screen_.Say("There is no file " + name.string() + ".");
+        return std::nullopt;
+    }
+    if (!request.forWriting || !exists || !screen_.IsInteractive()) return file;
+    if (!Confirm(name.string() + " exists already. Replace it?", request.title)) return std::nullopt;
     return file;
 }
 
@@ -63,14 +67,15 @@ std::optional<std::string> TerminalWindow::Ask(std::string_view question) {
         screen_.WritePrompt(">", {});
         const TypedLine line = screen_.ReadLine(Screen::Prompt::Own, false, std::nullopt);
         if (line.kind == TypedLine::Kind::Line) return line.text;
+        inputEnded_ = true;
     } catch (const Error& error) {
         failure_ = error.what();
     }
     return std::nullopt;
 }
 
-void TerminalWindow::Tell(std::string_view text, std::string_view title) {
-    screen_.Say(title.empty() ? std::string(text) : std::string(title) + ": " + std::string(text));
+void TerminalWindow::Tell(std::string_view text, std::string_view) {
+    screen_.Say(text);
 }
 
 bool TerminalWindow::Confirm(std::string_view text, std::string_view) {

@@ -23,6 +23,8 @@ class TerminalWindow final : public engine::GameWindow, public platform::Operato
     std::optional<std::chrono::milliseconds> TimeOut() const { return timeOut_; }
     void TimeOutPassed() { timeOut_.reset(); }
     std::chrono::milliseconds Wait() const { return wait_; }
+    /// The input ended in a question of the engine.
+    bool InputEnded() const { return inputEnded_; }
     bool NextEnabled() const { return nextEnabled_; }
     /// The lines that the engine enters come from a script of the game, not from the screen.
     void SetPlaying(bool playing) { playing_ = playing; }
@@ -60,6 +62,7 @@ class TerminalWindow final : public engine::GameWindow, public platform::Operato
     bool characterSets_ = false;
     bool playing_ = false;
     bool nextEnabled_ = false;
+    bool inputEnded_ = false;
     std::optional<std::chrono::milliseconds> timeOut_;
     std::chrono::milliseconds wait_{0};
     std::string failure_;

@@ -1,3 +1,4 @@
+#include "condacts/convert.h"
 #include "games.h"
 
 namespace fabula::test {
@@ -92,10 +93,10 @@ void AddActions(StarterGame& game) {
     game.Entry(0, "PUT", "COAT", "NOUN2 CHEST PRESENT 6 AUTOP 6 DONE");
     game.Entry(0, "GET", "COIN", "NOUN2 CHEST PRESENT 6 AUTOT 6 DONE");
     game.Entry(0, "GET", "COAT", "NOUN2 CHEST PRESENT 6 AUTOT 6 DONE");
-    game.Entry(0, "EXAMINE", "CHEST", "PRESENT 6 LISTAT 6 NEWLINE DONE");
+    game.Entry(0, "EXAMINE", "CHEST", "PRESENT 6 LISTAT 6 DONE");
     game.Entry(0, "EXAMINE", "_", "WHATO LT 51 255 MESSAGE 13 DONE");
     game.Entry(0, "WAIT", "_", "TIME 5 4 OK");
-    game.Entry(2, "*", "*", "TIMEOUT MESSAGE 17 TIME 0 0");
+    game.Entry(2, "*", "*", "TIMEOUT MESSAGE 17 CLEAR 48");
 }
 
 /// The ferryman understands two sentences, to row and to count; his table calls another one.
@@ -114,7 +115,7 @@ void AddFerryman(StarterGame& game) {
 /// What only an adventure of type Fabula has.
 void AddLaterActions(StarterGame& game) {
     game.Entry(0, "EXAMINE", "ANVIL", "YESNO 22 MESSAGE 23 DONE");
-    game.Entry(0, "EXAMINE", "ANVIL", "EQ 1000 1 MESSAGE 24 DONE");
+    game.Entry(0, "_", "_", "EQ 1000 1 CLEAR 1000 MESSAGE 24 DONE");
     game.Entry(0, "AGAIN", "_", "AGAIN PROCESS 0 DONE");
     game.Entry(0, "OOPS", "_", "OOPS 2 DESC");
 }

@@ -1,3 +1,4 @@
+#include "condacts/convert.h"
 #include "games.h"
 
 namespace fabula::test {
@@ -14,14 +15,15 @@ void AddWords(StarterGame& game) {
     game.Word("LEVER", 51, condacts::kNoun);
     game.Word("FLAG", 52, condacts::kNoun);
     game.Word("WHISTLE", 53, condacts::kNoun);
+    // From 200 on a noun can be worn.
     game.Word("CAP", 200, condacts::kNoun);
 }
 
 void AddPlaces(StarterGame& game) {
-    game.Location(kPlatform, "An empty platform. <#=143><#=140><#=143> The signal box is up.\u008C", "The platform.\u008C",
-                  "UP 1");
-    game.Location(kSignalBox, "The signal box: one lever, many brass plates.\u008C", "The signal box.\u008C",
-                  "DOWN 0");
+    game.Location(kPlatform, "An empty platform. <#=143><#=140><#=143> The signal box is up.\u008C",
+                  "The platform.\u008C", "UP 1");
+    game.Location(kSignalBox, "The signal box: one lever, many brass plates.\u008C",
+                  "The signal box.\u008C", "DOWN 0");
     game.Location(kTunnel, "The tunnel. Rails gleam.\u008C", "The tunnel.\u008C");
 }
 
@@ -40,7 +42,6 @@ void AddMessages(StarterGame& game) {
     game.Message(12, "A train can be heard.");
     game.Message(13, "The train passes. You have done your work.");
     game.Message(14, "Nothing but the wind.");
-    game.Message(15, "Is it not time?");
 }
 
 void AddEntries(StarterGame& game) {
@@ -52,7 +53,6 @@ void AddEntries(StarterGame& game) {
     game.Entry(0, "LISTEN", "_", "PROCESS 3 DONE");
     game.Entry(3, "_", "_", "ZERO 11 MESSAGE 14");
     game.Entry(3, "_", "_", "NOTZERO 11 MESSAGE 12");
-    game.Entry(1, "_", "_", "TIMEOUT MESSAGE 15 TIME 0 0");
     game.Entry(1, "_", "_", "NOTZERO 11 EQ 5 2 MESSAGE 12");
     game.Entry(1, "_", "_", "NOTZERO 11 ZERO 5 MESSAGE 13 PLUS 30 5 SCORE TURNS END");
 }

@@ -12,9 +12,9 @@
 
 // Whole games, played by script and compared with the transcript of an earlier day.
 //
-// A case is a folder beside this file, GAME-SUBJECT, with the commands in script.txt and all that is shown
-// and typed in transcript.txt. Every folder is found and played. FABULA_RECORD=1 in the environment writes
-// the transcripts anew instead.
+// A case is a folder GAME-SUBJECT of tests/golden with the commands in script.txt and all that is shown and
+// typed in transcript.txt. Every folder that has a script is found and played. FABULA_RECORD=1 in the
+// environment writes the transcripts anew instead.
 
 namespace fabula::test {
 namespace {
@@ -37,7 +37,8 @@ Path CaseFolder() {
 std::vector<std::string> FindCases() {
     std::vector<std::string> cases;
     for (const auto& entry : std::filesystem::directory_iterator(CaseFolder())) {
-        if (entry.is_directory()) cases.push_back(entry.path().filename().string());
+        if (std::filesystem::exists(entry.path() / "script.txt"))
+            cases.push_back(entry.path().filename().string());
     }
     std::sort(cases.begin(), cases.end());
     return cases;
@@ -60,11 +61,13 @@ TEST_P(GoldenTranscript, IsWhatTheGameShows) {
     EXPECT_EQ(result.status, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Case, GoldenTranscript, testing::ValuesIn(FindCases()), [](const auto& info) {
-    std::string name = info.param;
+std::string TestName(const testing::TestParamInfo<std::string>& golden) {
+    std::string name = golden.param;
     std::replace(name.begin(), name.end(), '-', '_');
     return name;
-});
+}
+
+INSTANTIATE_TEST_SUITE_P(Case, GoldenTranscript, testing::ValuesIn(FindCases()), TestName);
 
 TEST(GoldenTranscripts, EveryTypeHasCases) {
     const std::vector<std::string> cases = FindCases();
