@@ -25,7 +25,8 @@ void AddTwoRooms(StarterGame& game, AdventureKind kind) {
     const std::string lineEnd = kind == AdventureKind::Marlo ? "\u008C" : "";
     game.Word("LAMP", kFirstNoun, condacts::kNoun);
     game.Location(0, "A wide hall with a stone floor. A door leads north." + lineEnd, " ", "NORTH 1");
-    game.Location(1, "A small kitchen that smells of bread. The hall is to the south." + lineEnd, " ", "SOUTH 0");
+    game.Location(1, "A small kitchen that smells of bread. The hall is to the south." + lineEnd, " ",
+                  "SOUTH 0");
     game.Object(0, "a lamp", 0, "LAMP");
 }
 
@@ -47,8 +48,9 @@ void AddWords(StarterGame& game) {
 void AddRecords(StarterGame& game) {
     for (int i = 2; i < kLocations; ++i) {
         const std::string number = std::to_string(i);
-        game.Location(i, "Room " + number + ", one of many, with a long description of what there is to see.",
-                      "Room " + number + ".", "NORTH " + std::to_string((i + 1) % kLocations) + " SOUTH 2 EAST 3");
+        game.Location(
+            i, "Room " + number + ", one of many, with a long description of what there is to see.",
+            "Room " + number + ".", "NORTH " + std::to_string((i + 1) % kLocations) + " SOUTH 2 EAST 3");
     }
     for (int i = 2; i < kMessages; ++i)
         game.Message(i, "Message " + std::to_string(i) + " tells what came of something that was tried.");
@@ -59,13 +61,16 @@ void AddRecords(StarterGame& game) {
 void AddEntries(StarterGame& game) {
     for (int i = 0; i < kEntriesForWords; ++i) {
         const std::string number = std::to_string(2 + i % 900);
-        game.Entry(0, VerbNumber(i % kVerbs), NounNumber(1 + i % (kNouns - 1)),
-                   "AT " + number + " PRESENT " + std::to_string(i % kObjects) + " MESSAGE " + number + " DONE");
+        game.Entry(
+            0, VerbNumber(i % kVerbs), NounNumber(1 + i % (kNouns - 1)),
+            "AT " + number + " PRESENT " + std::to_string(i % kObjects) + " MESSAGE " + number + " DONE");
     }
     for (int i = 0; i < kEntriesEachTurn; ++i)
-        game.Entry(2, "_", "_", "AT " + std::to_string(2 + i) + " ZERO 60 SET 60 MESSAGE " + std::to_string(2 + i));
+        game.Entry(2, "_", "_",
+                   "AT " + std::to_string(2 + i) + " ZERO 60 SET 60 MESSAGE " + std::to_string(2 + i));
     for (int i = 0; i < kEntriesElsewhere; ++i)
-        game.Entry(3 + i % 20, "_", "_", "EQ 61 " + std::to_string(i % 200) + " MESSAGE " + std::to_string(2 + i));
+        game.Entry(3 + i % 20, "_", "_",
+                   "EQ 61 " + std::to_string(i % 200) + " MESSAGE " + std::to_string(2 + i));
 }
 
 }  // namespace

@@ -15,6 +15,7 @@ void BuildTwoRooms(const std::filesystem::path& file, store::AdventureKind kind)
 void BuildLargeGame(const std::filesystem::path& file);
 
 /// The commands that are measured, in turn: take, walk, drop, and back.
-inline constexpr const char* kTour[] = {"take lamp", "north", "drop lamp", "take lamp", "south", "drop lamp"};
+inline constexpr const char* kTour[] = {"take lamp", "north", "drop lamp",
+                                        "take lamp", "south", "drop lamp"};
 
 }  // namespace fabula::bench

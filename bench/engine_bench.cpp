@@ -18,7 +18,9 @@ class NoWindow final : public engine::GameWindow {
     void EndGame() override {}
     int PrintWidth() const override { return 80; }
     int CharacterAdvance() const override { return 1; }
-    void Write(std::string_view text, const engine::TextStyle&, engine::TextRole) override { bytes += text.size(); }
+    void Write(std::string_view text, const engine::TextStyle&, engine::TextRole) override {
+        bytes += text.size();
+    }
     void EndLine(engine::LineEnd) override { ++bytes; }
     void Clear(int, int) override {}
     void ShowInput(std::string_view, std::string_view) override {}
@@ -30,7 +32,9 @@ class NoWindow final : public engine::GameWindow {
     void StartTimeOut(std::chrono::milliseconds) override {}
     void StopTimeOut() override {}
     void StartWait(std::chrono::milliseconds) override {}
-    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest&) override { return std::nullopt; }
+    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest&) override {
+        return std::nullopt;
+    }
 
     std::size_t bytes = 0;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <map>
 #include <optional>
 
 #include <sqlite3.h>
@@ -126,27 +127,42 @@ std::string TextColumn(sqlite3_stmt* statement, int column) {
     return text ? text : "";
 }
 
+struct Column {
+    std::string name;
+    std::string type;
+};
+
+/// The columns of each table behind its key.
+using ColumnsByTable = std::map<std::string, std::vector<Column>>;
+
+/// `query` gives name and type of each column of the table that is bound to it.
+std::vector<Column> ReadColumns(Connection& connection, sqlite3_stmt* query, const std::string& table) {
+    const StatementUse use(query);
+    Connection::Bind(query, 1, table);
+    std::vector<Column> columns;
+    if (!connection.Step(query, "check the file")) return columns;
+    while (connection.Step(query, "check the file"))
+        columns.push_back({TextColumn(query, 0), TextColumn(query, 1)});
+    return columns;
+}
+
 /// Whether each column of a table is declared, with its type and nothing more, in the statement that made
 /// it.
-bool IsPlainTable(Connection& connection, const std::string& name, const std::string& sql) {
+bool IsPlainTable(const std::string& name, const std::string& sql, const std::vector<Column>& columns) {
     std::string expected = "CREATE TABLE " + name + " (" + std::string(kStoreKey) + " INTEGER PRIMARY KEY";
-    if (!sql.starts_with(expected)) return false;
-    const Statement columns =
-        connection.Compile("SELECT name, type FROM pragma_table_xinfo(?)", "check the file");
-    Connection::Bind(columns.get(), 1, name);
-    bool first = true;
-    while (connection.Step(columns.get(), "check the file")) {
-        const std::string column = TextColumn(columns.get(), 0);
-        if (!first && !IsFieldName(column)) return false;
-        if (!first) expected += ", " + column + " " + TextColumn(columns.get(), 1);
-        first = false;
+    for (const Column& column : columns) {
+        if (!IsFieldName(column.name)) return false;
+        expected += ", " + column.name + " " + column.type;
     }
     return sql == expected + ") STRICT";
 }
 
-bool IsPlainSchema(Connection& connection) {
+/// Whether there are the tables and indexes of an adventure and nothing else; `columns` takes what the
+/// tables hold.
+bool IsPlainSchema(Connection& connection, ColumnsByTable& columns) {
     const std::vector<std::string> indexes = CreateIndexSql();
-    std::size_t tables = 0;
+    const Statement columnQuery =
+        connection.Compile("SELECT name, type FROM pragma_table_xinfo(?)", "check the file");
     const Statement entries =
         connection.Compile("SELECT type, name, sql FROM sqlite_schema", "check the file");
     while (connection.Step(entries.get(), "check the file")) {
@@ -155,13 +171,14 @@ bool IsPlainSchema(Connection& connection) {
         const std::string sql = TextColumn(entries.get(), 2);
         if (type == "table") {
             const TableEntry* table = FindTable(name);
-            if (!table || table->name != name || !IsPlainTable(connection, name, sql)) return false;
-            ++tables;
+            if (!table || table->name != name) return false;
+            columns[name] = ReadColumns(connection, columnQuery.get(), name);
+            if (!IsPlainTable(name, sql, columns[name])) return false;
         } else if (type != "index" || std::find(indexes.begin(), indexes.end(), sql) == indexes.end()) {
             return false;
         }
     }
-    return tables == AllTables().size();
+    return columns.size() == AllTables().size();
 }
 
 std::int64_t PragmaNumber(Connection& connection, const std::string& pragma) {
@@ -182,22 +199,18 @@ bool HasSoundPages(Connection& connection) {
 
 /// Whether the list of fields tells of every column, with a type that fits the column's. From here on the
 /// names of fields are safe to stand in a statement.
-bool FieldsFitColumns(Connection& connection) {
+bool FieldsFitColumns(const Connection& connection, const ColumnsByTable& columns) {
     for (const TableEntry& table : AllTables()) {
         const TableSchema& schema = connection.SchemaOf(table.number);
-        const Statement columns =
-            connection.Compile("SELECT name, type FROM pragma_table_xinfo(?) WHERE pk=0", "check the file");
-        Connection::Bind(columns.get(), 1, std::string(table.name));
-        std::size_t count = 0;
-        while (connection.Step(columns.get(), "check the file")) {
-            const auto field = schema.Find(TextColumn(columns.get(), 0));
+        const std::vector<Column>& found = columns.at(std::string(table.name));
+        if (found.size() != schema.fields.size()) return false;
+        for (const Column& column : found) {
+            const auto field = schema.Find(column.name);
             if (!field || !IsFieldName(schema.fields[*field].name) ||
-                SqlTypeOf(schema.fields[*field].type) != TextColumn(columns.get(), 1)) {
+                SqlTypeOf(schema.fields[*field].type) != column.type) {
                 return false;
             }
-            ++count;
         }
-        if (count != schema.fields.size()) return false;
     }
     return true;
 }
@@ -215,10 +228,11 @@ bool HasSettings(Connection& connection) {
 }
 
 bool IsSound(Connection& connection, const std::filesystem::path& file) {
-    if (!IsPlainSchema(connection) || IsCutShort(connection, file) || !HasSoundPages(connection))
-        return false;
+    ColumnsByTable columns;
+    if (!IsPlainSchema(connection, columns)) return false;
+    if (IsCutShort(connection, file) || !HasSoundPages(connection)) return false;
     connection.LoadSchema();
-    return FieldsFitColumns(connection) && HasSettings(connection) &&
+    return FieldsFitColumns(connection, columns) && HasSettings(connection) &&
            HasOneRecord(connection, "Adventure") && HasOneRecord(connection, "System");
 }
 
@@ -274,7 +288,9 @@ std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenM
     auto connection = std::make_unique<Connection>(file, SQLITE_OPEN_READWRITE);
     try {
         connection->Run("PRAGMA cell_size_check=ON; PRAGMA synchronous=EXTRA", "open the adventure");
+        connection->BeginReading();  // one lock for all checks
         if (!IsSound(*connection, file)) Refuse(Refusal::Damaged, file);
+        connection->EndReading();
     } catch (const OpenError&) {
         throw;
     } catch (const Error&) {

@@ -98,7 +98,7 @@ TypedLine Screen::ReadLine(Prompt prompt, bool remember, std::optional<std::chro
     output_.Flush();
     TypedLine line = source_.Read({prompt_, timeOut, remember});
     wrapper_.Forget();
-    TakeWidth();
+    if (style_.interactive) TakeWidth();  // the window may have another size by now
     if (line.kind != TypedLine::Kind::Line) return line;
     if (style_.interactive && !line.shown) ShowTyped(line.text);
     Record(line.text);
