@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, creates an adventure and shows its tables.
+# Installs what is missing, builds, and plays an example game in the terminal.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -9,8 +9,5 @@ echo "build: default"
 { cmake --preset default -DFABULA_TESTS=OFF -DFABULA_BENCH=OFF -B build/run &&
   cmake --build build/run -j "$(nproc)"; } >build/run.log 2>&1 || { tail -n 100 build/run.log; exit 1; }
 
-game=build/run/first.fbd
-echo "creating: $game"
-build/run/bin/fabula new "$game" --starter --force
-echo "its tables:"
-build/run/bin/fabula tables "$game"
+echo "playing: the lighthouse (QUIT leaves it)"
+exec build/run/bin/fabula play build/run/examples/lighthouse.fbd

@@ -1,5 +1,6 @@
-// A large game as a source: 999 locations, 999 messages, 500 objects, 5,000 process entries. It is written by this
-// program, read and written by `fabula`, each time as a process of its own, so that the memory is that of the job.
+// A large game as a source: 999 locations, 999 messages, 500 objects, 5,000 process entries. It is written
+// by this program, read and written by `fabula`, each time as a process of its own, so that the memory is
+// that of the job.
 
 #include <array>
 #include <cstdlib>
@@ -25,31 +26,39 @@ constexpr int kWords = 200;
 
 std::string Sentence(int number) {
     return "You stand in room number " + std::to_string(number) +
-           " of a castle with more rooms than anybody has counted.\nDust lies thick on the flagstones, and somewhere "
+           " of a castle with more rooms than anybody has counted.\nDust lies thick on the flagstones, and "
+           "somewhere "
            "water drips.\n";
 }
 
 /// A word of five letters, which count in every kind of source.
 std::string Word(char first, int number) {
     std::string word(1, first);
-    for (int i = 0; i < 4; ++i, number /= 26) word += static_cast<char>('A' + number % 26);
+    for (int i = 0; i < 4; ++i, number /= 26)
+        word += static_cast<char>('A' + number % 26);
     return word;
 }
 
 void WriteSource(const std::filesystem::path& file) {
     std::ofstream source(file);
     source << "/CTL\n_\n/VOC\nNORTH 2 noun\nSOUTH 3 noun\n";
-    for (int i = 0; i < kWords; ++i) source << Word('V', i) << " " << 20 + i << " verb\n";
-    for (int i = 0; i < kWords; ++i) source << Word('N', i) << " " << 50 + i << " noun\n";
+    for (int i = 0; i < kWords; ++i)
+        source << Word('V', i) << " " << 20 + i << " verb\n";
+    for (int i = 0; i < kWords; ++i)
+        source << Word('N', i) << " " << 50 + i << " noun\n";
     source << "/STX\n/MTX\n";
-    for (int i = 0; i < kRecords; ++i) source << "/" << i << "\n" << Sentence(i);
+    for (int i = 0; i < kRecords; ++i)
+        source << "/" << i << "\n" << Sentence(i);
     source << "/OTX\n";
-    for (int i = 0; i < kObjects; ++i) source << "/" << i << "\nthing number " << i << "\n";
+    for (int i = 0; i < kObjects; ++i)
+        source << "/" << i << "\nthing number " << i << "\n";
     source << "/LTX\n";
-    for (int i = 0; i < kRecords; ++i) source << "/" << i << "\n" << Sentence(i);
+    for (int i = 0; i < kRecords; ++i)
+        source << "/" << i << "\n" << Sentence(i);
     source << "/CON\n";
     for (int i = 0; i < kRecords; ++i) {
-        source << "/" << i << "\nNORTH " << (i + 1) % kRecords << "\nSOUTH " << (i + kRecords - 1) % kRecords << "\n";
+        source << "/" << i << "\nNORTH " << (i + 1) % kRecords << "\nSOUTH "
+               << (i + kRecords - 1) % kRecords << "\n";
     }
     source << "/OBJ\n";
     for (int i = 0; i < kObjects; ++i) {
@@ -57,9 +66,9 @@ void WriteSource(const std::filesystem::path& file) {
     }
     source << "/PRO 0\n";
     for (int i = 0; i < kEntries; ++i) {
-        source << Word('V', i % kWords) << " " << Word('N', i / kWords) << " AT " << i % kRecords << "\n PRESENT " << i % kObjects
-               << "\n ZERO " << 60 + i % 100 << "\n SET " << 60 + i % 100 << "\n PLACE " << i % kObjects
-               << " CARRIED\n MESSAGE " << i % kRecords << "\n DONE\n";
+        source << Word('V', i % kWords) << " " << Word('N', i / kWords) << " AT " << i % kRecords
+               << "\n PRESENT " << i % kObjects << "\n ZERO " << 60 + i % 100 << "\n SET " << 60 + i % 100
+               << "\n PLACE " << i % kObjects << " CARRIED\n MESSAGE " << i % kRecords << "\n DONE\n";
     }
 }
 
@@ -85,13 +94,15 @@ class Games {
     double Run(std::vector<std::string> arguments) const {
         arguments.insert(arguments.begin(), FABULA_PROGRAM);
         std::vector<char*> pointers;
-        for (std::string& argument : arguments) pointers.push_back(argument.data());
+        for (std::string& argument : arguments)
+            pointers.push_back(argument.data());
         pointers.push_back(nullptr);
         posix_spawn_file_actions_t actions;
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", 1, 0);
         pid_t child = 0;
-        if (posix_spawn(&child, FABULA_PROGRAM, &actions, nullptr, pointers.data(), environ) != 0) std::abort();
+        if (posix_spawn(&child, FABULA_PROGRAM, &actions, nullptr, pointers.data(), environ) != 0)
+            std::abort();
         posix_spawn_file_actions_destroy(&actions);
         int status = 0;
         rusage usage{};
@@ -130,7 +141,8 @@ void RunJob(benchmark::State& state) {
     std::vector<std::string> arguments{job.verb, job.kind, games.File(job.source), games.File(job.target)};
     if (std::string(job.verb) == "import") arguments.emplace_back("--force");
     double memory = 0;
-    for (auto _ : state) memory = games.Run(arguments);
+    for (auto _ : state)
+        memory = games.Run(arguments);
     state.counters["MiB"] = memory;
     state.SetLabel(std::string(job.verb) + " " + job.kind);
 }
