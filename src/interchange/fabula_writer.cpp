@@ -21,9 +21,10 @@ class TableExport {
   public:
     TableExport(ExportContext& context, TargetFile& file, const ExportTable& table)
         : context_(context), file_(file), number_(static_cast<int>(table.number)) {
+        const store::TableSchema& schema = context.adventure.Schema(table.number);
         for (ExportField& field : ExportFields(context.adventure, number_)) {
             const auto type = store::FieldTypeFromTag(field.type);
-            if (type && *type != FieldType::LongVarBinary) {
+            if (type && *type != FieldType::LongVarBinary && schema.Find(field.name)) {
                 fields_.push_back({std::move(field), *type});
             } else {
                 context.person.Tell("invalid field name " + field.type, "Error");

@@ -80,8 +80,7 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
         status.AddToStatusCR("Import cancelled");
     } catch (const TooManyFaults&) {
         status.AddToStatusCR("Too many errors. Import aborted.");
-    } catch (const Error& error) {
-        status.AddToStatusCR(error.what());
+    } catch (const Error&) {
         status.AddToStatusCR("Deleting bad database");
         throw;
     }

@@ -33,7 +33,7 @@ struct JobResult {
 /// well; else nothing is left of it, and `target` is as it was. An existing target is replaced after the
 /// operator agreed, or at once with `replace`. What is open elsewhere stays open.
 ///
-/// A failing machine is told in the status and thrown as fabula::Error.
+/// A failing machine is thrown as fabula::Error; nothing is left then either.
 JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
                    const std::filesystem::path& target, bool replace, const JobHost& host);
 
