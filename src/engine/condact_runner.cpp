@@ -98,14 +98,20 @@ void CondActRunner::PushFrame(int process, int startX, int startY) {
     trace.Line(" End of Table: " + std::to_string(static_cast<int>(Table(process)->size()) - 1));
 }
 
-/// Goes to the next entry that matches the words.
+/// Goes to the next entry that matches. Only process 0 and the tables called from it read the words, unless flag 58
+/// says otherwise.
 void CondActRunner::SeekEntry() {
     Frame& frame = frames_.back();
     const std::vector<ProcessEntry>* table = Table(frame.process);
     const int end = table ? static_cast<int>(table->size()) : 0;
+    const bool allMatch = game_.parentProcNum > 0 && !game_.state.FlagBitSet(flag::kMatchWords, 7);
+    const int verb = game_.Flag(flag::kVerb);
+    const int noun = game_.Flag(flag::kNoun);
     for (; frame.entry >= 0 && frame.entry < end; ++frame.entry) {
         CountStep(entriesSeen_, limit_ * kEntriesForACondAct, "entries");
-        if (!Matches((*table)[static_cast<std::size_t>(frame.entry)])) continue;
+        const ProcessEntry& entry = (*table)[static_cast<std::size_t>(frame.entry)];
+        if (!allMatch && !MatchWords(entry.verb, entry.noun, verb, noun)) continue;
+        if (game_.trace.On()) TraceMatch(entry, allMatch);
         frame.cell = frame.startCell;
         frame.phase = Phase::CondAct;
         return;
@@ -114,40 +120,32 @@ void CondActRunner::SeekEntry() {
     EndTable();
 }
 
-/// Only process 0 and the tables called from it read the words, unless flag 58 says otherwise.
-bool CondActRunner::Matches(const ProcessEntry& entry) {
-    if (game_.parentProcNum > 0 && !game_.state.FlagBitSet(flag::kMatchWords, 7)) {
-        if (game_.trace.On()) {
-            game_.trace.Line(
-                "Matched using intParentProcNum > 0 (All words match in processes > 0 or called from "
-                "Processes "
-                "> 0)");
-        }
-        return true;
-    }
-    return MatchWords(entry.verb, entry.noun, game_.Flag(flag::kVerb), game_.Flag(flag::kNoun));
+/// A wild word fits every word, another one its own.
+bool CondActRunner::MatchWords(int word1, int word2, int verb, int noun) const {
+    return (word1 == verb || IsWild(word1)) && (word2 == noun || IsWild(word2));
 }
 
-bool CondActRunner::MatchWords(int word1, int word2, int verb, int noun) {
+bool CondActRunner::IsWild(int word) const {
+    return word == kNoWord || (word == 1 && !game_.IsMarlo());
+}
+
+void CondActRunner::TraceMatch(const ProcessEntry& entry, bool allMatch) {
+    if (allMatch) {
+        return game_.trace.Line(
+            "Matched using intParentProcNum > 0 (All words match in processes > 0 or called from Processes > 0)");
+    }
     const bool marlo = game_.IsMarlo();
-    const bool wild1 = word1 == kNoWord || (word1 == 1 && !marlo);
-    const bool wild2 = word2 == kNoWord || (word2 == 1 && !marlo);
-    const char* how = nullptr;
-    if (wild1 && wild2) {
+    const char* how = marlo ? "word1=verb & word2=noun" : "word1=verb and word2=noun";
+    if (IsWild(entry.verb) && IsWild(entry.noun)) {
         how = "Both words wild";
-    } else if (word2 == noun && wild1) {
+    } else if (IsWild(entry.verb)) {
         how = marlo ? "Word1 wild & word2=noun" : "word1 wild and word2=noun";
-    } else if (word1 == verb && wild2) {
+    } else if (IsWild(entry.noun)) {
         how = marlo ? "Word1=verb & word2 wild" : "word1=verb and word2 wild";
-    } else if (word1 == verb && word2 == noun) {
-        how = marlo ? "word1=verb & word2=noun" : "word1=verb and word2=noun";
     }
-    if (how && game_.trace.On()) {
-        game_.trace.Line("word1=" + std::to_string(word1) + ", word2=" + std::to_string(word2) +
-                         ",verb=" + std::to_string(verb) + ", noun=" + std::to_string(noun) +
-                         ". Matched using " + how);
-    }
-    return how != nullptr;
+    game_.trace.Line("word1=" + std::to_string(entry.verb) + ", word2=" + std::to_string(entry.noun) +
+                     ",verb=" + std::to_string(game_.Flag(flag::kVerb)) +
+                     ", noun=" + std::to_string(game_.Flag(flag::kNoun)) + ". Matched using " + how);
 }
 
 /// Runs the condacts of an entry until it is left, or until an action begins something of its own.

@@ -85,8 +85,9 @@ class CondActRunner {
 
     void PushFrame(int process, int startX, int startY);
     void SeekEntry();
-    bool Matches(const ProcessEntry& entry);
-    bool MatchWords(int word1, int word2, int verb, int noun);
+    bool MatchWords(int word1, int word2, int verb, int noun) const;
+    bool IsWild(int word) const;
+    void TraceMatch(const ProcessEntry& entry, bool allMatch);
     void RunEntry();
     void RunCondAct(const Runnable& condact, std::span<const std::int16_t> numbers);
     void RememberPosition();

@@ -61,6 +61,7 @@ void RecordingWindow::StartTimeOut(std::chrono::milliseconds length) {
 
 std::optional<std::filesystem::path> RecordingWindow::AskForFile(const FileRequest& request) {
     fileQuestions.emplace_back(request.title);
+    if (files_.empty() && givesUp) return std::nullopt;
     if (files_.empty()) throw std::logic_error("the game asked for a file: " + std::string(request.title));
     std::optional<std::filesystem::path> file = std::move(files_.front());
     files_.pop_front();

@@ -52,6 +52,8 @@ class RecordingWindow final : public GameWindow {
     /// Queues the file for the next question; nullopt: the player gives up. A question without an answer
     /// throws std::logic_error: a test must expect its questions.
     void AnswerFile(std::optional<std::filesystem::path> file) { files_.push_back(std::move(file)); }
+    /// True: the player gives up every question that has no answer queued.
+    bool givesUp = false;
     /// The titles of the questions so far.
     std::vector<std::string> fileQuestions;
 

@@ -357,10 +357,14 @@ void GameBuilder::Write(const std::filesystem::path& file) const {
     transaction.Commit();
 }
 
-std::unique_ptr<GameRun> GameBuilder::Start() const {
+std::unique_ptr<GameRun> GameBuilder::Open() const {
     auto folder = std::make_unique<TempFolder>();
     Write(*folder / "game.fbd");
-    auto run = std::make_unique<GameRun>(std::move(folder), options_, traced_);
+    return std::make_unique<GameRun>(std::move(folder), options_, traced_);
+}
+
+std::unique_ptr<GameRun> GameBuilder::Start() const {
+    std::unique_ptr<GameRun> run = Open();
     run->engine.Initialize();
     return run;
 }

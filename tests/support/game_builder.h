@@ -141,6 +141,8 @@ class GameBuilder {
     /// Writes the game into an adventure file.
     void Write(const std::filesystem::path& file) const;
 
+    /// Opens the game without starting it: engine.Initialize is the test's to call.
+    std::unique_ptr<GameRun> Open() const;
     /// Starts the game. What it said up to the first prompt can be read by Said.
     std::unique_ptr<GameRun> Start() const;
     /// Adds the entry "DO _: condacts" to process 0, starts the game and types DO. Said then tells the
