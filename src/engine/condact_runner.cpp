@@ -98,8 +98,8 @@ void CondActRunner::PushFrame(int process, int startX, int startY) {
     trace.Line(" End of Table: " + std::to_string(static_cast<int>(Table(process)->size()) - 1));
 }
 
-/// Goes to the next entry that matches. Only process 0 and the tables called from it read the words, unless flag 58
-/// says otherwise.
+/// Goes to the next entry that matches. Only process 0 and the tables called from it read the words, unless
+/// flag 58 says otherwise.
 void CondActRunner::SeekEntry() {
     Frame& frame = frames_.back();
     const std::vector<ProcessEntry>* table = Table(frame.process);
@@ -132,7 +132,8 @@ bool CondActRunner::IsWild(int word) const {
 void CondActRunner::TraceMatch(const ProcessEntry& entry, bool allMatch) {
     if (allMatch) {
         return game_.trace.Line(
-            "Matched using intParentProcNum > 0 (All words match in processes > 0 or called from Processes > 0)");
+            "Matched using intParentProcNum > 0 (All words match in processes > 0 or called from Processes "
+            "> 0)");
     }
     const bool marlo = game_.IsMarlo();
     const char* how = marlo ? "word1=verb & word2=noun" : "word1=verb and word2=noun";

@@ -12,8 +12,8 @@ namespace {
 using engine::Waiting;
 using store::AdventureKind;
 
-/// Games that no author would write: entries of random condacts with parameters that are mostly in range. Whatever they
-/// do, the engine comes back, and the game waits for something or has ended.
+/// Games that no author would write: entries of random condacts with parameters that are mostly in range.
+/// Whatever they do, the engine comes back, and the game waits for something or has ended.
 class RandomGame {
   public:
     explicit RandomGame(std::uint32_t seed) : random_(seed) {}
@@ -33,17 +33,19 @@ class RandomGame {
                                  .container = UpTo(2) == 0,
                                  .wearable = UpTo(2) == 0});
         }
-        for (int message = 0; message < 6; ++message) game.Message(message, Text());
+        for (int message = 0; message < 6; ++message)
+            game.Message(message, Text());
         for (const int process : {0, 0, 0, 0, 1, 2, 3, 4}) {
-            for (int entry = UpTo(5); entry > 0; --entry) game.Numbers(process, Pick({1, 5, 100, 255}), Pick({1, 60, 255}), Line());
+            for (int entry = UpTo(5); entry > 0; --entry)
+                game.Numbers(process, Pick({1, 5, 100, 255}), Pick({1, 60, 255}), Line());
         }
         return game;
     }
 
     std::string Typed() {
-        static const std::vector<std::string> lines = {"DO",   "DO LAMP", "GO",        "DO RED LAMP AND GO", "Y",
-                                                       "N",    "",        "DO \"GO\"", "XYZZY",              "DO IT. GO",
-                                                       "\"\"", ",",       "DO LAMP LAMP"};
+        static const std::vector<std::string> lines = {
+            "DO",        "DO LAMP", "GO", "DO RED LAMP AND GO", "Y", "N", "", "DO \"GO\"", "XYZZY",
+            "DO IT. GO", "\"\"",    ",",  "DO LAMP LAMP"};
         return lines[static_cast<std::size_t>(UpTo(static_cast<int>(lines.size())))];
     }
 
@@ -57,8 +59,9 @@ class RandomGame {
     std::string Text() {
         std::string text;
         for (int piece = UpTo(8); piece > 0; --piece) {
-            static const std::vector<std::string> pieces = {"word ", "<TAB>", "<BRIGHT>", "&amp;", "_",      "\u008C",
-                                                            "<",     "  ",    "<#=140>",  "ä",     "<HT>x ", "<CENTER>mid"};
+            static const std::vector<std::string> pieces = {"word ",   "<TAB>",  "<BRIGHT>", "&amp;",
+                                                            "_",       "\u008C", "<",        "  ",
+                                                            "<#=140>", "ä",      "<HT>x ",   "<CENTER>mid"};
             text += pieces[static_cast<std::size_t>(UpTo(static_cast<int>(pieces.size())))];
         }
         return text;
@@ -69,10 +72,12 @@ class RandomGame {
         const auto condacts = engine::AllCondActs();
         std::string line;
         for (int i = UpTo(6) + 1; i > 0; --i) {
-            const auto& condact = condacts[static_cast<std::size_t>(UpTo(static_cast<int>(condacts.size())))];
+            const auto& condact =
+                condacts[static_cast<std::size_t>(UpTo(static_cast<int>(condacts.size())))];
             if (!line.empty()) line += ' ';
             line += std::to_string(condact.number);
-            for (int p = UpTo(12) == 0 ? UpTo(3) : ParamsOf(condact.number); p > 0; --p) line += " " + std::to_string(Param());
+            for (int p = UpTo(12) == 0 ? UpTo(3) : ParamsOf(condact.number); p > 0; --p)
+                line += " " + std::to_string(Param());
         }
         return line;
     }
@@ -84,7 +89,8 @@ class RandomGame {
 
     int Param() {
         if (UpTo(200) == 0) return UpTo(60000) - 30000;
-        return Pick({0, 1, 2, 3, 4, 5, 28, 30, 34, 38, 48, 49, 51, 53, 58, 100, 128, 252, 253, 254, 255, 1003});
+        return Pick(
+            {0, 1, 2, 3, 4, 5, 28, 30, 34, 38, 48, 49, 51, 53, 58, 100, 128, 252, 253, 254, 255, 1003});
     }
 
     std::mt19937 random_;
@@ -108,7 +114,8 @@ void Play(std::uint32_t seed) {
 }
 
 TEST(RandomGames, ComeBackWhateverTheyDo) {
-    for (std::uint32_t seed = 0; seed < 100; ++seed) Play(seed);
+    for (std::uint32_t seed = 0; seed < 100; ++seed)
+        Play(seed);
 }
 
 }  // namespace

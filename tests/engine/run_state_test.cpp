@@ -29,7 +29,8 @@ struct Model {
     Slot ram;
 
     void Shift() {
-        for (std::size_t slot = RunState::kSlots - 1; slot > 0; --slot) slots[slot] = slots[slot - 1];
+        for (std::size_t slot = RunState::kSlots - 1; slot > 0; --slot)
+            slots[slot] = slots[slot - 1];
     }
 };
 
@@ -44,7 +45,8 @@ TEST(RunState, IsAHistoryOfElevenCopiesWhateverIsDoneToIt) {
     const auto run = World().Start();
     RunState& state = run->engine.Running()->state;
     Model model;
-    for (int slot = 0; slot < RunState::kSlots; ++slot) model.slots[static_cast<std::size_t>(slot)] = SlotOf(state, slot);
+    for (int slot = 0; slot < RunState::kSlots; ++slot)
+        model.slots[static_cast<std::size_t>(slot)] = SlotOf(state, slot);
     state.RamSave();
     model.ram = model.slots[0];
     std::mt19937 random(1);
@@ -86,7 +88,8 @@ TEST(RunState, IsAHistoryOfElevenCopiesWhateverIsDoneToIt) {
                 break;
         }
         for (int s = 0; s < RunState::kSlots; ++s) {
-            ASSERT_EQ(SlotOf(state, s), model.slots[static_cast<std::size_t>(s)]) << "slot " << s << " at step " << step;
+            ASSERT_EQ(SlotOf(state, s), model.slots[static_cast<std::size_t>(s)])
+                << "slot " << s << " at step " << step;
         }
     }
 }
@@ -105,7 +108,8 @@ TEST(RunState, AllSlotsHoldTheStartOfTheGame) {
 
 TEST(RunState, EverySentenceMovesTheHistoryOn) {
     const auto run = World().Entry(0, "DO", "_", "PLUS 200 1").Start();
-    for (int turn = 0; turn < 4; ++turn) run->Type("DO");
+    for (int turn = 0; turn < 4; ++turn)
+        run->Type("DO");
     RunState& state = run->engine.Running()->state;
     EXPECT_EQ(state.Flags(0)[200], 4);
     EXPECT_EQ(state.Flags(1)[200], 3);
