@@ -443,7 +443,7 @@ A round iron stove. It has been out long enough to be as cold as everything else
 /33
 It is drawing well. There is a red line all round the door.
 /34
-Good steam coal, off the tender of somebody who was owed nothing.
+Good steam coal, off the tender of some engine that has not missed it.
 /35
 You lay some coal in the stove, the small pieces at the bottom. Now it wants paper, and a match.
 /36
@@ -463,7 +463,7 @@ It has a white face and a very slow tick, and is put right from London every mor
 /43
 A deal cupboard under the window with a small brass lock. The lid of it has been scrubbed.
 /44
-Flags, spare fuses, a Bible, and a clean square in the dust where a tin has been.
+Flags, spare wicks, a Bible, and a clean square in the dust where a tin has been.
 /45
 The small brass key turns. Behind the flags, dry and red and very carefully stacked, is a tin of fog signals.
 /46
@@ -1010,15 +1010,15 @@ SOUTH 13                       ; slip
 NORTH 12                       ; mouth
 /OBJ
 ; number, place, weight, container, wearable, noun, adjective
-/0 252 3 N N LAMP HAND         ; lamp
-/1 4 3 N N LAMP HAND           ; lamp out, box
+/0 252 3 N N LAMP _            ; lamp
+/1 4 3 N N LAMP _              ; lamp out, box
 /2 254 1 N N TELEG _           ; telegram
 /3 252 1 N N KEY IRON          ; boxkey
 /4 4 1 N N MATCH _             ; matches, box
 /5 6 4 N N CAN _               ; can, hut
 /6 6 1 N N PAPER _             ; paper, hut
 /7 4 6 N N KETTL _             ; kettle, box
-/8 11 12 N N BAR IRON          ; bar, cabin
+/8 11 12 N N BAR _             ; bar, cabin
 /9 252 4 N N SPANN _           ; spanner
 /10 252 2 N N DETON _          ; fog
 /11 252 1 N N KEY BRASS        ; cupkey
@@ -1303,6 +1303,12 @@ NORTH 12                       ; mouth
  PRESENT 5                     ; can
  LET 33 40                     ; v fill
  LET 34 54                     ; n can
+* *
+ EQ 33 255
+ EQ 34 66                      ; n lever
+ EQ 44 58                      ; n spanner
+ LET 33 72                     ; v prise
+ LET 34 58                     ; n spanner
 * *
  AT 5                          ; locking
  EQ 33 72                      ; v prise
@@ -2490,6 +2496,8 @@ OPEN CUPBO
  AT 4                          ; box
  LET 80 1                      ; f cupboard
  PLACE 10 4                    ; fog, box
+ LET 46 59                     ; n fog signals
+ LET 47 255
  MESSAGE 45                    ; cupboard opens
  DONE
 OPEN GATE
@@ -2738,6 +2746,8 @@ MOVE BUCKE
  LET 65 1                      ; f found
  PLUS 30 5
  PLACE 3 3                     ; boxkey, foot
+ LET 46 52                     ; n key
+ LET 47 255
  MESSAGE 16                    ; found key
  DONE
 MOVE _
@@ -3020,6 +3030,7 @@ _ _
  LET 64 3                      ; f hour
  LET 63 10                     ; f min
  LET 53 64
+ ABILITY 15 200
  PROMPT 2
  NEWLINE
  MESSAGE 1                     ; intro more
