@@ -41,6 +41,21 @@ void Append(std::string& line, std::string_view more) {
     line += more;
 }
 
+/// The line with the parameters of word conditions cut to the letters that count, as the vocabulary is.
+std::string WithWordsCut(const std::string& line, const PcSourceJob& job) {
+    const ParsedLine parsed = condacts::ParseLine(line, job.catalogue);
+    std::string result;
+    for (const Statement& statement : parsed.statements) {
+        Append(result, statement.condAct->name);
+        const bool takesWord = condacts::FindWordCondition(statement.condAct->name) != nullptr;
+        for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
+            const std::string_view param = parsed.Param(statement, p);
+            Append(result, takesWord ? job.Word(param) : std::string(param));
+        }
+    }
+    return result;
+}
+
 }  // namespace
 
 PcProcesses::PcProcesses(PcSourceJob& job) : job_(job), withBell_(WithBell(job.catalogue)) {}
@@ -115,8 +130,9 @@ void PcProcesses::AddCondActs(std::string_view line) {
     if (!entry_->good) return;
     const Converted source = ConvertCAs(WithoutBells(line), job_.catalogue);
     if (!source.ok) return Refuse(source.errors);
-    const std::string condActs =
+    const std::string upper =
         text::UpperCase(condacts::LocationWordsToNumbers(source.line, job_.catalogue));
+    const std::string condActs = WithWordsCut(upper, job_);
     const Converted numeric = condacts::CondActsToNumeric(condActs, job_.catalogue, job_.words);
     if (!numeric.ok) return Refuse(numeric.errors);
     const ParsedLine parsed = condacts::ParseLine(condActs, job_.catalogue);

@@ -387,6 +387,12 @@ TEST(PcSourceProcesses, LocationWordsBecomeNumbers) {
               "PLACE 0 254 ISAT 0 253 PLACE 0 252 PLACE 0 252 PREP _");
 }
 
+TEST(PcSourceProcesses, WordsOfConditionsAreCutAsTheVocabularyIs) {
+    const Reading game("pcvel", PcSource("through 5 preposition\n", "/PRO 0\n_ _ PREP through\n"));
+    EXPECT_EQ(game.Text(TableNum::ProcessTables, "canum=0", "condacts"), "PREP THROU");
+    EXPECT_EQ(game.Text(TableNum::ProcessTables, "canum=0", "numericcondacts"), "123 5");
+}
+
 TEST(PcSourceProcesses, BellIsNeverStored) {
     const Reading game = Processes("/PRO 0\n_ _\n bell\n AT 0 BELL DONE\n");
     EXPECT_EQ(game.Text(TableNum::ProcessTables, "canum=0", "condacts"),
