@@ -1,11 +1,32 @@
 #include "cli/job_terminal.h"
 
+#include <csignal>
+
 #include <unistd.h>
 
 namespace fabula::cli {
+namespace {
+
+/// Set by the signal handler, which can reach nothing else.
+volatile std::sig_atomic_t interrupted = 0;
+
+void Interrupt(int signal) {
+    interrupted = 1;
+    std::signal(signal, SIG_DFL);
+}
+
+}  // namespace
 
 JobTerminal::JobTerminal(std::ostream& stream, bool showsProgress)
-    : stream_(stream), showsProgress_(showsProgress) {}
+    : stream_(stream), showsProgress_(showsProgress) {
+    // What was started to run undisturbed by Ctrl+C stays so.
+    if (std::signal(SIGINT, Interrupt) == SIG_IGN) std::signal(SIGINT, SIG_IGN);
+    std::signal(SIGTERM, Interrupt);
+}
+
+bool JobTerminal::CancelWanted() {
+    return interrupted != 0;
+}
 
 void JobTerminal::StatusAdded(std::string_view text) {
     ClearProgress();

@@ -16,7 +16,7 @@ class JobTerminal final : public interchange::JobObserver {
     void StatusCleared() override {}
     void ProgressLine(std::string_view text) override;
     void Progress(std::int64_t value, std::int64_t maximum) override;
-    bool CancelWanted() override { return false; }
+    bool CancelWanted() override;
 
   private:
     void ClearProgress();
