@@ -60,6 +60,7 @@ void Engine::Guard(Step step) {
         Fail(failure.what());
     } catch (const Error& error) {
         session_->host.oper.Tell(error.what(), kFailureTitle);
+        failed_ = true;
         EndGame();
     }
 }
@@ -69,6 +70,7 @@ void Engine::Fail(const std::string& what) {
     session_->host.oper.Tell(
         "The game has gone wrong and ends. " + (where.empty() ? "" : where + ": ") + what + ".",
         kFailureTitle);
+    failed_ = true;
     EndGame();
 }
 
@@ -89,6 +91,7 @@ void Engine::Initialize() {
 void Engine::Start() {
     if (game_ && game_->timeOutRunning) session_->host.window.StopTimeOut();
     tickPending_ = false;
+    failed_ = false;
     game_.reset();
     waiting_ = Waiting::Nothing;
     Guard([this] {

@@ -72,6 +72,8 @@ class Engine {
     void Initialize();
 
     Waiting WaitingFor() const { return waiting_; }
+    /// Whether the latest game ended because it went wrong, or could not be played.
+    bool HasFailed() const { return failed_; }
 
     /// One key of the player, as a code point: kEnter, kBackspace or a character. Ignored while the game
     /// does not wait for the player.
@@ -131,6 +133,7 @@ class Engine {
     std::unique_ptr<Session> session_;
     std::unique_ptr<Game> game_;
     Waiting waiting_ = Waiting::Nothing;
+    bool failed_ = false;
     bool tickPending_ = false;    ///< the turn of a time-out has not ended yet
     bool scriptPlaying_ = false;  ///< "Next" goes on behind a pause
     int restarts_ = 0;            ///< since the player was last asked

@@ -89,6 +89,8 @@ class GameWindow {
     /// The width at which lines break, asked before each text: columns in the text pane, pixels in the
     /// character pane. At most kNoWidthLimit, which means that lines never break.
     virtual int PrintWidth() const = 0;
+    /// Whether the window breaks the lines by itself. Blanks that do not break then come as kNoBreakSpace.
+    virtual bool BreaksLines() const { return false; }
     /// The width of one character and the gap behind it, in the character pane; in pixels, at least 1.
     virtual int CharacterAdvance() const = 0;
 
@@ -121,6 +123,9 @@ class GameWindow {
     /// The file that the player names, or nullopt when the player gives up.
     virtual std::optional<std::filesystem::path> AskForFile(const FileRequest& request) = 0;
 };
+
+/// The blank at which no line may break (GameWindow::BreaksLines).
+inline constexpr std::string_view kNoBreakSpace = "\u00A0";
 
 /// A print width at which no line breaks.
 inline constexpr int kNoWidthLimit = 1'000'000;

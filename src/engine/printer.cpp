@@ -7,6 +7,7 @@
 #include "engine/run_failure.h"
 #include "engine/script.h"
 #include "engine/shown_text.h"
+#include "text/str_edit.h"
 #include "text/utf8.h"
 
 namespace fabula::engine {
@@ -182,6 +183,10 @@ void Printer::SendPiece(std::string_view piece) {
     AppendShown(piece, CharacterPane(), decoded_);
     const int length = static_cast<int>(std::min<std::size_t>(text::Length(decoded_), kNoWidthLimit));
     if (!CharacterPane() && column_ > 0 && column_ + length > width_) EndLine(LineEnd::Wrapped);
+    // Words end at blanks, so that those in a longer piece are the ones that do not break.
+    if (length > 1 && window_.BreaksLines() && decoded_.find(' ') != std::string::npos) {
+        decoded_ = text::ReplaceAll(decoded_, " ", kNoBreakSpace);
+    }
     Send(decoded_, length);
 }
 
@@ -264,7 +269,9 @@ void Printer::Flush() {
                          " characters without waiting for the player");
     }
     window_.Write(run_, style_, role_);
-    if (role_ == TextRole::Game) script_.WriteText(run_);
+    if (role_ == TextRole::Game && script_.Writing()) {
+        script_.WriteText(text::ReplaceAll(run_, kNoBreakSpace, " "));
+    }
     run_.clear();
 }
 

@@ -35,6 +35,7 @@ class RecordingWindow final : public GameWindow {
     /// How wide the pane is, in the unit of PrintWidth. No line breaks at first.
     int printWidth = kNoWidthLimit;
     int characterAdvance = 8;
+    bool breaksLines = false;
 
     GameLook look;
     int starts = 0;
@@ -60,6 +61,7 @@ class RecordingWindow final : public GameWindow {
     void StartGame(const GameLook& gameLook) override;
     void EndGame() override;
     int PrintWidth() const override { return printWidth; }
+    bool BreaksLines() const override { return breaksLines; }
     int CharacterAdvance() const override { return characterAdvance; }
     void Write(std::string_view text, const TextStyle& style, TextRole role) override;
     void EndLine(LineEnd kind) override;

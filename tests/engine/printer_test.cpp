@@ -128,6 +128,13 @@ TEST_F(PrinterTest, TheBlankEntityDoesNotBreakALine) {
     EXPECT_EQ(Screen("aaaa bb&sp;cc&sp;dd"), "aaaa \nbb cc dd");
 }
 
+TEST_F(PrinterTest, AWindowThatBreaksLinesGetsTheBlanksThatDoNotBreakAsNoBreakSpaces) {
+    window_.breaksLines = true;
+    EXPECT_EQ(Screen("aaaa bb&sp;cc\x7F"
+                     "dd"),
+              "aaaa bb\u00A0cc\u00A0dd");
+}
+
 TEST_F(PrinterTest, TheHardSpaceIsABlankThatDoesNotBreakALine) {
     window_.printWidth = 10;
     EXPECT_EQ(Screen("aaaa bb\x7F"

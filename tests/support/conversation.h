@@ -28,6 +28,8 @@ class Conversation {
     void Send(std::string_view text);
     /// What the program says up to and with `mark`. Throws when it ends before.
     std::string ReadUntil(std::string_view mark);
+    /// What has come behind the latest mark.
+    const std::string& Unread() const { return unread_; }
     /// The rest of what it says. A pipe to it is closed before, since most programs wait for that.
     std::string ReadToEnd();
     /// The status that it ended with; -1 when a signal ended it.

@@ -71,11 +71,11 @@ int Play(const Options& options) {
     terminal::Screen screen(style, output, *input, transcript ? &*transcript : nullptr);
     const terminal::NamedFiles files;
     terminal::TerminalWindow window(screen, files);
-    terminal::PlaySession(
+    const bool ended = terminal::PlaySession(
         *adventure, window, screen,
         {options.seed, interactive || options.realTime, options.debug, trace ? &*trace : nullptr});
     if (trace && !trace->IsGood()) throw Error("Could not write all of the trace " + options.trace + ".");
-    return kDone;
+    return ended ? kDone : kFailed;
 }
 
 }  // namespace

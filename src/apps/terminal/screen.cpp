@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include "engine/game_window.h"
 #include "platform/error.h"
 #include "terminal/safe_text.h"
 #include "terminal/tty.h"
+#include "text/str_edit.h"
 
 namespace fabula::terminal {
 namespace {
@@ -44,7 +46,7 @@ void Screen::WriteCharacters(std::string_view codes, const Attributes& look) {
 
 void Screen::WriteSafe(const Attributes& look) {
     wrapper_.Write(safe_, look);
-    if (transcript_) transcript_->Write(safe_);
+    if (transcript_) transcript_->Write(text::ReplaceAll(safe_, engine::kNoBreakSpace, " "));
 }
 
 void Screen::WritePrompt(std::string_view text, const Attributes& look) {

@@ -28,13 +28,14 @@ class Session {
                   {.traceFile = options.trace != nullptr}),
           debug_(engine_) {}
 
-    void Play() {
+    bool Play() {
         engine_.Initialize();
         window_.Check();
         while (engine_.WaitingFor() != Waiting::Nothing && !window_.InputEnded() && Step())
             window_.Check();
         screen_.Finish();
         window_.Check();
+        return !engine_.HasFailed();
     }
 
   private:
@@ -67,10 +68,10 @@ class Session {
     void Take(const std::string& line, bool sentence) {
         if (options_.debug && line.starts_with(':')) {
             Debug(std::string_view(line).substr(1));
+        } else if (line.empty() && window_.NextEnabled()) {
+            PlayNext();
         } else if (!sentence || !line.empty()) {
             engine_.EnterLine(line);
-        } else if (window_.NextEnabled()) {
-            PlayNext();
         } else if (window_.TimeOut() && !options_.realTime) {
             PassTimeOut();
         } else {
@@ -109,9 +110,9 @@ class Session {
 
 }  // namespace
 
-void PlaySession(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
+bool PlaySession(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
                  const SessionOptions& options) {
-    Session(adventure, window, screen, options).Play();
+    return Session(adventure, window, screen, options).Play();
 }
 
 }  // namespace fabula::terminal

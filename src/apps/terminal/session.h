@@ -16,14 +16,15 @@ struct SessionOptions {
     engine::TraceSink* trace = nullptr;
 };
 
-/// Plays a game to its end or to the end of the input.
+/// Plays a game to its end or to the end of the input. False when the game went wrong or could not be
+/// played; the player has then been told.
 ///
 /// Without real time pauses pass at once, and a time-out passes when an empty line is read, so that a file
-/// of commands can say where the player let the time run out. With `debug` ":" is taken from the game; an
-/// empty line plays the next line of a script that the game loaded.
+/// of commands can say where the player let the time run out. While the game has a script loaded an empty
+/// line plays it, up to the next question.
 ///
 /// Throws fabula::Error when the input ends with a failure or something can't be written.
-void PlaySession(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
+bool PlaySession(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
                  const SessionOptions& options);
 
 }  // namespace fabula::terminal

@@ -39,7 +39,7 @@ void TerminalWindow::EndInput(std::string_view typed) {
 }
 
 void TerminalWindow::EnableNext(bool enabled) {
-    if (enabled && !nextEnabled_) screen_.Say("An empty line plays the next line of the script.");
+    if (enabled && !nextEnabled_) screen_.Say("An empty line plays the script, up to the next question.");
     nextEnabled_ = enabled;
 }
 

@@ -35,6 +35,7 @@ class TerminalWindow final : public engine::GameWindow, public platform::Operato
     void StartGame(const engine::GameLook& look) override;
     void EndGame() override;
     int PrintWidth() const override { return engine::kNoWidthLimit; }
+    bool BreaksLines() const override { return true; }
     int CharacterAdvance() const override { return 1; }
     void Write(std::string_view text, const engine::TextStyle& style, engine::TextRole role) override;
     void EndLine(engine::LineEnd kind) override;

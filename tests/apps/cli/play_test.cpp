@@ -40,6 +40,7 @@ class PlayVerbByTurns : public PlayVerb {
     std::string Answer() {
         std::string said = talk_.ReadUntil("\n>");
         said.resize(said.size() - 2);
+        EXPECT_EQ(talk_.Unread(), "");
         return said;
     }
     std::string Say(const std::string& command) {
@@ -150,9 +151,10 @@ TEST_F(PlayVerbByTurns, ScriptWaitsForANameAndAnEmptyLinePlaysIt) {
     Say("inventory");
     Say("dance");
     EXPECT_EQ(Say("replay"), "Input SCRIPT Name");
-    std::ofstream(File("other.scr")) << ">>dance\n";
-    EXPECT_EQ(Say(File("other.scr")), "An empty line plays the next line of the script.\n?");
-    EXPECT_EQ(Say(""), "Sorry, that gets you nowhere.\n?\nEnd-of-file reached.");
+    std::ofstream(File("other.scr")) << ">>dance\nwhat it said\n>>ask\n>>yes\n";
+    EXPECT_EQ(Say(File("other.scr")), "An empty line plays the script, up to the next question.\n?");
+    EXPECT_EQ(Say(""), "Sorry, that gets you nowhere.\n?\n\nSure?");
+    EXPECT_EQ(Say(""), "You said yes.\n?\nEnd-of-file reached.");
 }
 
 TEST_F(PlayVerbByTurns, TheEndOfTheInputInAQuestionEndsTheProgram) {
@@ -190,6 +192,12 @@ TEST_F(PlayVerb, LinesBreakOnlyAtAWidth) {
     EXPECT_EQ(
         Play("long\n", {"--width", "24"}).output,
         "A room.\n?\n>one two three four five\nsix seven eight nine ten\neleven twelve thirteen\n?\n>\n");
+}
+
+TEST_F(PlayVerb, BlanksThatDoNotBreakAreBlanksThatDoNotBreak) {
+    EXPECT_EQ(Play("together\n", {"--width", "32", "--transcript", File("transcript")}).output,
+              "A room.\n?\n>Twenty columns, then\ntwo words together.\n?\n>\n");
+    EXPECT_NE(Content(File("transcript")).find("then two words together."), std::string::npos);
 }
 
 TEST_F(PlayVerb, ColoursAreNotWrittenIntoAPipe) {
@@ -263,6 +271,7 @@ TEST_F(PlayVerb, AGameThatGoesWrongSaysWhereAndEnds) {
     const ProgramResult result = Play("break\ninventory\n");
     EXPECT_NE(result.output.find("flag 2000"), std::string::npos) << result.output;
     EXPECT_EQ(result.output.find("carrying"), std::string::npos) << result.output;
+    EXPECT_EQ(result.status, 1);
 }
 
 TEST_F(PlayVerb, CharacterSetsAreShownAsText) {

@@ -24,6 +24,7 @@ void BuildWaitingGame(const std::filesystem::path& file) {
     game.Message(14, "Before \x1B[2J\u009B31m\abehind.");
     game.Message(15, "The hour strikes.");
     game.Message(16, "one two three four five six seven eight nine ten eleven twelve thirteen");
+    game.Message(17, "Twenty columns, then two&sp;words&sp;together.");
     AddVerb(game, 60, "ASK", "YESNO 10 MESSAGE 11 DONE");
     game.Entry(0, "_", "_", "EQ 1000 1 CLEAR 1000 MESSAGE 12 DONE");
     AddVerb(game, 61, "KEY", "ANYKEY MESSAGE 11 DONE");
@@ -38,6 +39,7 @@ void BuildWaitingGame(const std::filesystem::path& file) {
     AddVerb(game, 70, "REPLAY", "SCRIPT 2 DONE");
     AddVerb(game, 71, "ROLL", "RANDOM 60 PRINT 60 NEWLINE DONE");
     AddVerb(game, 72, "WIPE", "CLS DONE");
+    AddVerb(game, 74, "TOGETHER", "MESSAGE 17 DONE");
     AddVerb(game, 73, "BREAK", "COPYFF 999 2000 DONE");
     game.Entry(2, "*", "*", "TIMEOUT MESSAGE 15 CLEAR 48");
     game.Finish();
