@@ -45,7 +45,10 @@ void AskForInput(Game& game) {
 
 void ShowTyped(Game& game) {
     const bool asking = game.Flag(flag::kAsking) != 0;
-    game.host.window.ShowInput(asking ? game.answer : game.command, game.cursor);
+    const std::string& typed = asking ? game.answer : game.command;
+    // The character pane shows no cursor behind the prompt of a sentence before the first key.
+    const bool cursorShown = asking || !typed.empty() || !game.data.characterSets;
+    game.host.window.ShowInput(typed, cursorShown ? game.cursor : "");
 }
 
 bool TimeOutIsArmed(const Game& game) {

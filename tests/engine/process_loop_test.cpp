@@ -250,6 +250,15 @@ TEST(ProvidePrompt, PutsMessage33InFrontOfTheInputAndMessage34Behind) {
     EXPECT_EQ(run->window.cursor, "#");
 }
 
+TEST(ProvidePrompt, InTheCharacterPaneShowsTheCursorFromTheFirstKeyOn) {
+    GameBuilder game;
+    const auto run = game.CharacterSets().Start();
+    EXPECT_TRUE(run->window.look.characterSets);
+    EXPECT_EQ(run->window.cursor, "");
+    run->engine.Key(U'x');
+    EXPECT_EQ(run->window.cursor, "_");
+}
+
 TEST(ProvidePrompt, OfAMarloGameShowsNeither) {
     const auto run = GameBuilder(AdventureKind::Marlo).Start();
     EXPECT_EQ(run->window.Screen(), "Room 0?\n");
