@@ -4,7 +4,8 @@
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libedit-dev
-          libpng-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev python3)
+          libpng-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev python3
+          qt6-base-dev librtmidi-dev libfluidsynth-dev timgm6mb-soundfont)
 if [ "${1:-build}" = test ]; then
     packages+=(clang clang-format libclang-rt-14-dev)
 fi
@@ -29,7 +30,7 @@ fi
 echo "packages: installing ${missing[*]}"
 log=$(mktemp)
 if ! { "${as_root[@]}" apt-get update -qq &&
-       "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}"; } >"$log" 2>&1; then
+       "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
     cat "$log" >&2
     exit 1
 fi

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "engine/game_window.h"
+#include "platform/timers.h"
+#include "player/history.h"
+#include "player/pane_keys.h"
+#include "player/text_colours.h"
+#include "player/transcript.h"
+#include "qt/dialogs.h"
+
+class QSplitter;
+class QStackedWidget;
+
+namespace fabula::player {
+
+class CharacterPane;
+class GamePictures;
+class PicturePane;
+class Session;
+class TextPane;
+
+/// What a game tells the window around its screen.
+struct ScreenEvents {
+    std::function<void(const engine::GameLook& look)> started;
+    std::function<void()> ended;
+    std::function<void(engine::StatusField field, const std::string& text)> status;
+    std::function<void(bool enabled)> nextEnabled;
+    std::function<void(const std::string& sentence)> notice;  ///< something that went wrong
+};
+
+/// How the player wants games to be shown.
+struct ScreenLook {
+    int zoom = 100;         ///< of the text pane, in percent
+    int characterZoom = 0;  ///< of the character pane, in steps
+    Page page = Page::OfTheGame;
+    bool flashing = true;
+    bool plainText = false;  ///< games with character sets go to the text pane too
+};
+
+/// The panes of a game: picture, text and characters. It draws what the engine tells, and brings the
+/// player's keys and the passing of time to the session.
+class GameScreen final : public QWidget, public engine::GameWindow {
+  public:
+    GameScreen(platform::Timers& timers, qt::Dialogs& dialogs, ScreenEvents events);
+    ~GameScreen() override;
+
+    /// The session whose game is shown. It must be detached (nullptr) before it ends.
+    void Attach(Session* session);
+
+    void SetLook(const ScreenLook& look);
+    /// The transcript, to be opened and closed.
+    player::Transcript& Transcript() { return transcript_; }
+
+    /// Gives the keyboard to the pane that takes it.
+    void FocusInput();
+    /// To be called after each call of the session that may have made a turn.
+    void ShowStep();
+
+    TextPane& Text() { return *text_; }
+    CharacterPane& Characters() { return *characters_; }
+    PicturePane& Picture() { return *picture_; }
+    bool ShowsCharacters() const;
+
+    void StartGame(const engine::GameLook& look) override;
+    void EndGame() override;
+    int PrintWidth() const override;
+    int CharacterAdvance() const override;
+    void Write(std::string_view text, const engine::TextStyle& style, engine::TextRole role) override;
+    void EndLine(engine::LineEnd kind) override;
+    void Clear(int paper, int ink) override;
+    void ShowInput(std::string_view typed, std::string_view cursor) override;
+    void EndInput(std::string_view typed) override;
+    void ShowPicture(const engine::Picture& picture) override;
+    void HidePicture() override;
+    void ShowStatus(engine::StatusField field, std::string_view text) override;
+    void EnableNext(bool enabled) override;
+    void StartTimeOut(std::chrono::milliseconds length) override;
+    void StopTimeOut() override;
+    void StartWait(std::chrono::milliseconds length) override;
+    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request) override;
+
+  private:
+    void Type(const std::string& text);
+    void Press(PaneKey key);
+    void Send(char32_t key);
+    void ReplaceLine(const std::string& line);
+    void TimeOutTick();
+    void WaitTick();
+    void ChoosePane();
+    std::string Shown(std::string_view run) const;
+
+    qt::Dialogs& dialogs_;
+    ScreenEvents events_;
+    Session* session_ = nullptr;
+    std::unique_ptr<GamePictures> pictures_;
+    player::Transcript transcript_;
+    History history_;
+    engine::GameLook game_;
+    ScreenLook look_;
+    std::string typed_;  ///< what stands in the input
+    bool turnMade_ = false;
+    platform::Alarm timeOut_;
+    platform::Alarm wait_;
+
+    QSplitter* splitter_;
+    PicturePane* picture_;
+    QStackedWidget* panes_;
+    TextPane* text_;
+    CharacterPane* characters_;
+};
+
+}  // namespace fabula::player

@@ -1,0 +1,44 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include "midi/player.h"
+#include "platform/random_source.h"
+#include "player/vel_eng_main.h"
+#include "qt/qt_dialogs.h"
+#include "qt/qt_timers.h"
+#include "qt/strings.h"
+
+int main(int argc, char** argv) {
+    using namespace fabula;
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("Fabula");
+    QApplication::setApplicationVersion(FABULA_VERSION);
+    QApplication::setDesktopFileName("fabula-engine");
+
+    QCommandLineParser arguments;
+    arguments.setApplicationDescription("Plays text adventures.");
+    arguments.addHelpOption();
+    arguments.addVersionOption();
+    arguments.addPositionalArgument("file", "The adventure to play (*.fbd).", "[file]");
+    arguments.process(app);
+
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, "Fabula", "Fabula");
+    const auto dataFolder =
+        qt::PathFromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    platform::SeededRandom random(platform::UnpredictableSeed());
+    qt::QtTimers timers;
+    qt::QtDialogs dialogs;
+    player::frmVelEngMain* shown = nullptr;
+    midi::Player sound(timers, midi::OpenOutput,
+                       [&shown](const std::string& sentence) { shown->Tell(sentence); });
+
+    player::frmVelEngMain window({timers, dialogs, sound, random, settings, dataFolder});
+    shown = &window;
+    dialogs.SetParent(&window);
+    const QStringList files = arguments.positionalArguments();
+    if (!files.isEmpty()) window.OpenAtStart(qt::PathFromQt(files.first()));
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+namespace fabula::player {
+
+/// Shows one picture, as large as its place allows but at most kLargestFactor times its size, with its
+/// shape kept.
+class PicturePane final : public QWidget {
+  public:
+    explicit PicturePane(QWidget* parent = nullptr);
+
+    void Show(const QImage& image);
+    const QImage& Shown() const { return image_; }
+
+    /// Where the picture stands in the pane, in pixels of the display.
+    QRect Place() const;
+
+    static constexpr int kLargestFactor = 4;
+
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    const QImage& Scaled(QSize size);
+
+    QImage image_;
+    QImage scaled_;  ///< as it was drawn last
+};
+
+}  // namespace fabula::player

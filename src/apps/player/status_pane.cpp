@@ -1,0 +1,59 @@
+#include "player/status_pane.h"
+
+#include <QLabel>
+
+#include "qt/strings.h"
+
+namespace fabula::player {
+
+StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
+    setObjectName("fraStatus");
+    setSizeGripEnabled(false);
+    const auto label = [this](const char* name, const char* spoken) {
+        auto* made = new QLabel(this);
+        made->setObjectName(name);
+        made->setTextFormat(Qt::PlainText);
+        made->setAccessibleName(spoken);
+        made->setContentsMargins(4, 0, 4, 0);
+        return made;
+    };
+    status_ = label("txtStatus", "Status");
+    // A long sentence is cut rather than widening the window.
+    status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    command_ = label("lblCommand", "Command");
+    location_ = label("lblLocation", "Location");
+    script_ = label("Status1", "Script");
+    sound_ = label("Status2", "Sound");
+    addWidget(status_, 1);
+    for (QLabel* field : {command_, location_, script_, sound_})
+        addPermanentWidget(field);
+    command_->hide();
+    location_->hide();
+}
+
+void StatusPane::Tell(const std::string& sentence) {
+    status_->setText(qt::ToQt(sentence));
+    status_->setToolTip(qt::ToQt(sentence).toHtmlEscaped());
+}
+
+void StatusPane::Show(engine::StatusField field, const std::string& text) {
+    QLabel* label = nullptr;
+    switch (field) {
+        case engine::StatusField::Script:
+            label = script_;
+            break;
+        case engine::StatusField::Sound:
+            label = sound_;
+            break;
+        case engine::StatusField::Command:
+            label = command_;
+            break;
+        case engine::StatusField::Location:
+            label = location_;
+            break;
+    }
+    label->setText(qt::ToQt(text));
+    label->setVisible(!text.empty());
+}
+
+}  // namespace fabula::player

@@ -1,0 +1,352 @@
+#include "player/vel_eng_main.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QToolBar>
+#include <QWheelEvent>
+
+#include "platform/error.h"
+#include "player/about_adventure.h"
+#include "player/game_screen.h"
+#include "player/session.h"
+#include "player/status_pane.h"
+#include "player/text_pane.h"
+#include "player/welcome_page.h"
+#include "qt/strings.h"
+
+namespace fabula::player {
+
+namespace {
+
+constexpr QSize kDefaultSize(860, 640);
+constexpr QSize kSmallestSize(320, 240);
+
+}  // namespace
+
+frmVelEngMain::frmVelEngMain(const WindowServices& services)
+    : services_(services),
+      settings_(PlayerSettings::Load(services.settings)),
+      opening_(services.timers, [this] { Load(openAtStart_); }),
+      pages_(new QStackedWidget),
+      welcome_(new WelcomePage([this] { MnuFileLoad(); }, [this](const auto& file) { Load(file); })),
+      screen_(new GameScreen(services.timers, services.dialogs,
+                             {.started = [this](const engine::GameLook& look) { GameStarted(look); },
+                              .ended = [this] { GameEnded(); },
+                              .status = [this](engine::StatusField field,
+                                               const std::string& text) { status_->Show(field, text); },
+                              .nextEnabled =
+                                  [this](bool enabled) {
+                                      next_->setEnabled(enabled);
+                                      next_->setVisible(enabled);
+                                  },
+                              .notice = [this](const std::string& sentence) { Tell(sentence); }})),
+      status_(new StatusPane) {
+    setObjectName("frmVelEngMain");
+    setWindowTitle("Fabula");
+    setMinimumSize(kSmallestSize);
+    setAcceptDrops(true);
+    MakeActions();
+    MakeMenus();
+    MakeToolBar();
+    MakeEndBar();
+    auto* game = new QWidget;
+    auto* column = new QVBoxLayout(game);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(screen_, 1);
+    column->addWidget(endBar_);
+    pages_->addWidget(welcome_);
+    pages_->addWidget(game);
+    setCentralWidget(pages_);
+    setStatusBar(status_);
+    status_->Show(engine::StatusField::Script, "Script Off");
+    ApplySettings();
+    ShowRecent();
+    PlaceWindow();
+    welcome_->setFocus();
+}
+
+frmVelEngMain::~frmVelEngMain() {
+    EndSession();
+}
+
+QAction* frmVelEngMain::AddAction(const char* name, const QString& text, const QString& iconText,
+                                  std::function<void()> act) {
+    auto* action = new QAction(text, this);
+    action->setObjectName(name);
+    action->setIconText(iconText);
+    QObject::connect(action, &QAction::triggered, this, std::move(act));
+    addAction(action);
+    return action;
+}
+
+void frmVelEngMain::MakeActions() {
+    load_ = AddAction("LoadAdv", tr("&Load Adventure…"), tr("Load"), [this] { MnuFileLoad(); });
+    load_->setShortcut(QKeySequence::Open);
+    exit_ = AddAction("Exit", tr("E&xit"), tr("Exit"), [this] { close(); });
+    exit_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    next_ = AddAction("Next", tr("&Next Line of the Script"), tr("Next"), [this] {
+        if (session_ && session_->Next()) screen_->ShowStep();
+    });
+    next_->setShortcut(Qt::Key_F8);
+    next_->setEnabled(false);
+    next_->setVisible(false);
+    sound_ = AddAction("Sound", tr("&Sound"), tr("Sound"), [this] { ToggleSound(); });
+    sound_->setCheckable(true);
+    sound_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
+    startAgain_ = AddAction("StartAgain", tr("Start &Again"), tr("Start Again"), [this] { StartAgain(); });
+    transcript_ = AddAction("Transcript", tr("&Transcript…"), tr("Transcript"),
+                            [this] { ToggleTranscript(transcript_->isChecked()); });
+    transcript_->setCheckable(true);
+    about_ = AddAction("About", tr("About this &Adventure"), tr("About"), [this] { About(); });
+    debug_ = AddAction("Debug", tr("&Debug"), tr("Debug"), [] {});
+    debug_->setEnabled(false);
+    debug_->setVisible(false);
+    zoomIn_ = AddAction("ZoomIn", tr("Zoom &In"), tr("Zoom In"), [this] { Zoom(1); });
+    zoomIn_->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    zoomOut_ = AddAction("ZoomOut", tr("Zoom &Out"), tr("Zoom Out"), [this] { Zoom(-1); });
+    zoomOut_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
+    zoomNormal_ = AddAction("ZoomNormal", tr("&Normal Size"), tr("Normal Size"), [this] { Zoom(0); });
+    zoomNormal_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+    flashing_ = AddAction("Flashing", tr("&Flashing Text"), tr("Flashing"), [this] {
+        settings_.flashing = flashing_->isChecked();
+        ApplySettings();
+    });
+    flashing_->setCheckable(true);
+    plainText_ = AddAction("PlainText", tr("Character Games as &Plain Text"), tr("Plain Text"), [this] {
+        settings_.plainText = plainText_->isChecked();
+        ApplySettings();
+    });
+    plainText_->setCheckable(true);
+}
+
+void frmVelEngMain::MakeMenus() {
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->addAction(load_);
+    recentMenu_ = file->addMenu(tr("&Recent Games"));
+    file->addSeparator();
+    file->addAction(exit_);
+    QMenu* game = menuBar()->addMenu(tr("&Game"));
+    game->addActions({sound_, transcript_, next_, startAgain_});
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    view->addActions({zoomIn_, zoomOut_, zoomNormal_});
+    view->addSeparator();
+    MakeThemeMenu(*view);
+    view->addActions({flashing_, plainText_});
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(about_);
+}
+
+void frmVelEngMain::MakeThemeMenu(QMenu& view) {
+    QMenu* menu = view.addMenu(tr("&Theme"));
+    auto* group = new QActionGroup(this);
+    const auto add = [&](qt::Theme theme, const char* name, const QString& text) {
+        QAction* action = AddAction(name, text, text, [this, theme] {
+            settings_.theme = theme;
+            ApplySettings();
+        });
+        action->setCheckable(true);
+        action->setChecked(settings_.theme == theme);
+        group->addAction(action);
+        menu->addAction(action);
+    };
+    add(qt::Theme::System, "ThemeSystem", tr("&System, with the Game's Own Colours"));
+    add(qt::Theme::Light, "ThemeLight", tr("&Light"));
+    add(qt::Theme::Dark, "ThemeDark", tr("&Dark"));
+}
+
+void frmVelEngMain::MakeToolBar() {
+    QToolBar* bar = addToolBar(tr("Tools"));
+    bar->setObjectName("Toolbar");
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->addActions({load_, next_, sound_, debug_, about_, exit_});
+}
+
+void frmVelEngMain::MakeEndBar() {
+    endBar_ = new QWidget;
+    endBar_->setObjectName("EndBar");
+    auto* row = new QHBoxLayout(endBar_);
+    row->setContentsMargins(12, 6, 12, 6);
+    auto* again = new QPushButton(tr("Play Again"));
+    auto* load = new QPushButton(tr("Load Another…"));
+    QObject::connect(again, &QPushButton::clicked, this, [this] { StartAgain(); });
+    QObject::connect(load, &QPushButton::clicked, this, [this] { MnuFileLoad(); });
+    row->addWidget(new QLabel(tr("The game has ended.")), 1);
+    row->addWidget(again);
+    row->addWidget(load);
+    endBar_->setFocusProxy(again);
+    endBar_->hide();
+}
+
+void frmVelEngMain::PlaceWindow() {
+    if (!settings_.geometry.isEmpty() && restoreGeometry(settings_.geometry)) return;
+    resize(kDefaultSize.boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+void frmVelEngMain::OpenAtStart(const std::filesystem::path& file) {
+    openAtStart_ = file;
+    pages_->setCurrentIndex(1);
+    screen_->Text().Write("One moment while I Inititlize", {}, {});
+    opening_.Start(std::chrono::milliseconds(1));
+}
+
+void frmVelEngMain::MnuFileLoad() {
+    const auto& recent = settings_.recent.Files();
+    const auto start = recent.empty() ? std::filesystem::current_path() : recent.front().parent_path();
+    const auto file = services_.dialogs.ChooseFile(
+        {.title = "Open VEL Database", .filter = "VEL Database|*.fbd", .extension = "fbd", .start = start});
+    if (file) Load(*file);
+}
+
+void frmVelEngMain::Load(const std::filesystem::path& file) {
+    if (session_ && session_->IsBusy()) return;
+    std::unique_ptr<Session> opened;
+    try {
+        opened = std::make_unique<Session>(
+            file, services_.dataFolder,
+            engine::Host{*screen_, services_.dialogs, services_.random, services_.sound}, services_.timers);
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+        settings_.recent.Remove(file);
+        ShowRecent();
+        if (!session_) pages_->setCurrentIndex(0);
+        return;
+    }
+    EndSession();
+    session_ = std::move(opened);
+    screen_->Attach(session_.get());
+    settings_.recent.AddMRUItem(std::filesystem::absolute(file));
+    ShowRecent();
+    pages_->setCurrentIndex(1);
+    const bool resume =
+        session_->CanResume() &&
+        services_.dialogs.Confirm("Go on where the last session of this game stopped?", "Resume");
+    session_->Start();
+    if (resume && session_->WaitingFor() != engine::Waiting::Nothing) session_->Resume();
+    sound_->setChecked(session_->SoundOn());
+    screen_->ShowStep();
+}
+
+void frmVelEngMain::Tell(const std::string& sentence) {
+    status_->Tell(sentence);
+}
+
+void frmVelEngMain::EndSession() {
+    transcript_->setChecked(false);
+    screen_->Transcript().Close();
+    screen_->Attach(nullptr);
+    session_.reset();
+}
+
+void frmVelEngMain::GameStarted(const engine::GameLook& look) {
+    setWindowTitle(qt::ToQt(look.title));
+    status_->Tell("");
+    endBar_->hide();
+    screen_->FocusInput();
+}
+
+void frmVelEngMain::GameEnded() {
+    endBar_->show();
+    endBar_->setFocus();
+}
+
+void frmVelEngMain::StartAgain() {
+    if (!session_ || session_->IsBusy()) return;
+    session_->Start();
+    screen_->ShowStep();
+}
+
+void frmVelEngMain::ToggleSound() {
+    if (session_) session_->ToggleSound();
+    sound_->setChecked(session_ && session_->SoundOn());
+}
+
+void frmVelEngMain::ToggleTranscript(bool on) {
+    if (!on) return screen_->Transcript().Close();
+    transcript_->setChecked(false);
+    if (!session_) return;
+    const auto start = std::filesystem::is_directory(session_->SaveFolder()) ? session_->SaveFolder()
+                                                                             : services_.dataFolder;
+    const auto file = services_.dialogs.ChooseFile({.title = "Write a Transcript",
+                                                    .filter = "Text|*.txt",
+                                                    .extension = "txt",
+                                                    .forWriting = true,
+                                                    .start = start / "transcript.txt"});
+    if (!file) return;
+    try {
+        screen_->Transcript().Open(*file);
+        transcript_->setChecked(true);
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+}
+
+void frmVelEngMain::About() {
+    ShowAbout(frmAboutAdventure::Of(session_ ? &session_->Adventure() : nullptr), this);
+}
+
+void frmVelEngMain::Zoom(int direction) {
+    if (screen_->ShowsCharacters()) {
+        const int steps = direction == 0 ? 0 : settings_.characterZoom + direction;
+        settings_.characterZoom = std::clamp(steps, -kMostCharacterZoom, kMostCharacterZoom);
+    } else {
+        settings_.zoom = direction == 0 ? 100 : NextZoom(settings_.zoom, direction);
+    }
+    ApplySettings();
+}
+
+void frmVelEngMain::ApplySettings() {
+    qt::ApplyTheme(settings_.theme);
+    flashing_->setChecked(settings_.flashing);
+    plainText_->setChecked(settings_.plainText);
+    screen_->SetLook(settings_.Look());
+}
+
+void frmVelEngMain::ShowRecent() {
+    const auto& files = settings_.recent.Files();
+    recentMenu_->clear();
+    recentMenu_->setEnabled(!files.empty());
+    for (const std::filesystem::path& file : files) {
+        QAction* action = recentMenu_->addAction(qt::PathToQt(file.stem()).replace('&', "&&"));
+        action->setToolTip(qt::PathToQt(file));
+        QObject::connect(action, &QAction::triggered, this, [this, file] { Load(file); });
+    }
+    welcome_->ShowRecent(files);
+}
+
+void frmVelEngMain::closeEvent(QCloseEvent* event) {
+    if (session_ && session_->IsBusy()) return event->ignore();
+    settings_.geometry = saveGeometry();
+    settings_.Save(services_.settings);
+    event->accept();
+}
+
+void frmVelEngMain::wheelEvent(QWheelEvent* event) {
+    if ((event->modifiers() & Qt::ControlModifier) != 0 && event->angleDelta().y() != 0)
+        Zoom(event->angleDelta().y() > 0 ? 1 : -1);
+}
+
+void frmVelEngMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls() && event->mimeData()->urls().first().isLocalFile())
+        event->acceptProposedAction();
+}
+
+void frmVelEngMain::dropEvent(QDropEvent* event) {
+    const std::filesystem::path file = qt::PathFromQt(event->mimeData()->urls().first().toLocalFile());
+    // The program that the file is dragged from must not wait for the questions of loading.
+    openAtStart_ = file;
+    opening_.Start(std::chrono::milliseconds(1));
+}
+
+}  // namespace fabula::player

@@ -1,0 +1,57 @@
+#include "player/welcome_page.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "qt/strings.h"
+
+namespace fabula::player {
+
+WelcomePage::WelcomePage(std::function<void()> choose, Open open, QWidget* parent)
+    : QWidget(parent), open_(std::move(open)) {
+    auto* title = new QLabel("Fabula", this);
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 2.2);
+    large.setWeight(QFont::DemiBold);
+    title->setFont(large);
+    auto* hint = new QLabel(tr("Load an adventure and play it."), this);
+    auto* load = new QPushButton(tr("Load Adventure…"), this);
+    load->setDefault(true);
+    load->setMinimumHeight(load->sizeHint().height() * 5 / 4);
+    QObject::connect(load, &QPushButton::clicked, this, choose);
+    setFocusProxy(load);
+
+    column_ = new QVBoxLayout;
+    column_->setSpacing(8);
+    column_->addStretch(2);
+    for (QWidget* line : {static_cast<QWidget*>(title), static_cast<QWidget*>(hint)})
+        column_->addWidget(line, 0, Qt::AlignHCenter);
+    column_->addSpacing(8);
+    column_->addWidget(load, 0, Qt::AlignHCenter);
+    column_->addSpacing(16);
+    column_->addStretch(3);
+    setLayout(column_);
+}
+
+void WelcomePage::ShowRecent(const std::vector<std::filesystem::path>& files) {
+    delete recent_;
+    recent_ = new QWidget(this);
+    auto* list = new QVBoxLayout(recent_);
+    list->setSpacing(0);
+    if (!files.empty()) list->addWidget(new QLabel(tr("Recent games"), recent_), 0, Qt::AlignHCenter);
+    for (const std::filesystem::path& file : files) {
+        auto* button = new QPushButton(qt::PathToQt(file.stem()).replace('&', "&&"), recent_);
+        button->setFlat(true);
+        button->setToolTip(qt::PathToQt(file).toHtmlEscaped());
+        button->setAccessibleName(tr("Load %1").arg(qt::PathToQt(file.stem())));
+        QPalette shown = button->palette();
+        shown.setColor(QPalette::ButtonText, shown.color(QPalette::Link));
+        button->setPalette(shown);
+        QObject::connect(button, &QPushButton::clicked, this, [this, file] { open_(file); });
+        list->addWidget(button, 0, Qt::AlignHCenter);
+    }
+    column_->insertWidget(column_->count() - 1, recent_, 0, Qt::AlignHCenter);
+}
+
+}  // namespace fabula::player

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace fabula::qt {
+
+/// Where a path that an adventure names leads.
+struct GamePath {
+    enum class Fault {
+        None,
+        Outside,  ///< it leaves the game's folder, itself or by a link
+        Missing,  ///< there is no such file
+    };
+
+    std::filesystem::path file;  ///< absolute and free of links; empty with a fault
+    Fault fault = Fault::None;
+};
+
+/// The file that `stored`, relative to the game's folder, names. Folders may be parted by "\" and names may
+/// differ in case, since games come from systems where both are usual. What a stranger's game names is read
+/// only below its own folder: an absolute path, one with a drive, one that climbs out and a link that leads
+/// out are refused, and so is all that is no ordinary file.
+GamePath FindGameFile(const std::filesystem::path& folder, std::string_view stored);
+
+}  // namespace fabula::qt

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace fabula::qt {
+
+// Texts of the system are UTF-8, those of Qt UTF-16. They are converted here and nowhere else.
+
+inline QString ToQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline QString PathToQt(const std::filesystem::path& path) {
+    return QString::fromStdString(path.string());
+}
+
+inline std::string FromQt(const QString& text) {
+    return text.toStdString();
+}
+inline std::filesystem::path PathFromQt(const QString& text) {
+    return std::filesystem::path(text.toStdString());
+}
+
+}  // namespace fabula::qt

@@ -1,0 +1,146 @@
+#include <QSettings>
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "platform/error.h"
+#include "player/game_folder.h"
+#include "player/player_settings.h"
+#include "player/recent_files.h"
+#include "player/transcript.h"
+#include "qt/strings.h"
+#include "support/temp_folder.h"
+
+namespace fabula::player {
+namespace {
+
+using Files = std::vector<std::filesystem::path>;
+
+TEST(RecentFiles, TheLatestStandsFirstAndOnce) {
+    RecentFiles recent({"a.fbd", "b.fbd", "c.fbd"});
+    recent.AddMRUItem("c.fbd");
+    EXPECT_EQ(recent.Files(), (Files{"c.fbd", "a.fbd", "b.fbd"}));
+}
+
+TEST(RecentFiles, KeepsEight) {
+    RecentFiles recent;
+    for (int i = 1; i <= 9; ++i)
+        recent.AddMRUItem(std::to_string(i));
+    EXPECT_EQ(recent.Files(), (Files{"9", "8", "7", "6", "5", "4", "3", "2"}));
+}
+
+TEST(FolderOfGame, IsNamedByTheSaveName) {
+    EXPECT_EQ(FolderOfGame("/data", "vault", "/games/vault.fbd").folder, "/data/vault");
+}
+
+TEST(FolderOfGame, NameCanNotLeadElsewhere) {
+    EXPECT_EQ(FolderOfGame("/data", "../../etc", "/g.fbd").folder, "/data/_.._etc");
+    EXPECT_EQ(FolderOfGame("/data", "/etc", "/g.fbd").folder, "/data/_etc");
+    EXPECT_EQ(FolderOfGame("/data", "a\\b:c\n", "/g.fbd").folder, "/data/a_b_c_");
+    EXPECT_EQ(FolderOfGame("/data", "..", "/g.fbd").folder, "/data/Untitled");
+    EXPECT_EQ(FolderOfGame("/data", " ", "/g.fbd").folder, "/data/Untitled");
+}
+
+TEST(FolderOfGame, LongNameIsCut) {
+    EXPECT_EQ(FolderOfGame("/data", std::string(500, 'x'), "/g.fbd").folder,
+              "/data/" + std::string(64, 'x'));
+}
+
+TEST(FolderOfGame, EachAdventureFileHasAnAutosaveOfItsOwn) {
+    const auto one = FolderOfGame("/data", "vault", "/games/one.fbd").autosave;
+    const auto two = FolderOfGame("/data", "vault", "/games/two.fbd").autosave;
+    EXPECT_EQ(one, "/data/vault/autosave-8d531791d5a65834.sav");
+    EXPECT_NE(one, two);
+}
+
+std::string Contents(const std::filesystem::path& file) {
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    return text.str();
+}
+
+TEST(Transcript, TypedLinesStandBehindAMarkAtTheHeadOfTheirLine) {
+    const test::TempFolder folder;
+    Transcript transcript;
+    transcript.Open(folder / "t.txt");
+    transcript.Write("What now?");
+    transcript.Typed("NORTH");
+    transcript.Write("A ");
+    transcript.Write("moor.");
+    transcript.EndLine();
+    transcript.Typed("SOUTH");
+    EXPECT_EQ(transcript.Flush(), std::nullopt);
+    EXPECT_EQ(Contents(folder / "t.txt"), "What now?\n>NORTH\nA moor.\n>SOUTH\n");
+}
+
+TEST(Transcript, WritesNothingWhileItIsClosed) {
+    const test::TempFolder folder;
+    Transcript transcript;
+    transcript.Write("lost");
+    transcript.Open(folder / "t.txt");
+    transcript.Close();
+    transcript.Typed("LOST");
+    EXPECT_EQ(Contents(folder / "t.txt"), "");
+}
+
+TEST(Transcript, FileThatCanNotBeMadeIsAnError) {
+    Transcript transcript;
+    EXPECT_THROW(transcript.Open("/no/such/folder/t.txt"), Error);
+    EXPECT_FALSE(transcript.IsOpen());
+}
+
+TEST(Transcript, FullDiskIsToldOnceAndClosesIt) {
+    Transcript transcript;
+    transcript.Open("/dev/full");
+    transcript.Typed("NORTH");
+    EXPECT_EQ(transcript.Flush(), "Could not write the transcript /dev/full. It is closed.");
+    EXPECT_FALSE(transcript.IsOpen());
+    EXPECT_EQ(transcript.Flush(), std::nullopt);
+}
+
+TEST(PlayerSettings, ComeBackAsTheyWere) {
+    const test::TempFolder folder;
+    QSettings store(qt::PathToQt(folder / "s.ini"), QSettings::IniFormat);
+    PlayerSettings settings;
+    settings.geometry = "where";
+    settings.theme = qt::Theme::Dark;
+    settings.zoom = 200;
+    settings.characterZoom = -2;
+    settings.flashing = false;
+    settings.plainText = true;
+    settings.recent = RecentFiles({"/g/a.fbd", "/g/b.fbd"});
+    settings.Save(store);
+    const PlayerSettings read = PlayerSettings::Load(store);
+    EXPECT_EQ(read.geometry, "where");
+    EXPECT_EQ(read.theme, qt::Theme::Dark);
+    EXPECT_EQ(read.zoom, 200);
+    EXPECT_EQ(read.characterZoom, -2);
+    EXPECT_FALSE(read.flashing);
+    EXPECT_TRUE(read.plainText);
+    EXPECT_EQ(read.recent.Files(), (Files{"/g/a.fbd", "/g/b.fbd"}));
+}
+
+TEST(PlayerSettings, ValuesThatMakeNoSenseCountAsNotSet) {
+    const test::TempFolder folder;
+    QSettings store(qt::PathToQt(folder / "s.ini"), QSettings::IniFormat);
+    store.setValue("Startup/Zoom", 100000);
+    store.setValue("Startup/CharacterZoom", "large");
+    store.setValue("Startup/Theme", "purple");
+    const PlayerSettings read = PlayerSettings::Load(store);
+    EXPECT_EQ(read.zoom, 100);
+    EXPECT_EQ(read.characterZoom, 0);
+    EXPECT_EQ(read.theme, qt::Theme::System);
+}
+
+TEST(NextZoom, GoesInStepsAndStopsAtTheEnds) {
+    EXPECT_EQ(NextZoom(100, 1), 110);
+    EXPECT_EQ(NextZoom(100, -1), 90);
+    EXPECT_EQ(NextZoom(105, 1), 110);
+    EXPECT_EQ(NextZoom(105, -1), 100);
+    EXPECT_EQ(NextZoom(kLargestZoom, 1), kLargestZoom);
+    EXPECT_EQ(NextZoom(kSmallestZoom, -1), kSmallestZoom);
+}
+
+}  // namespace
+}  // namespace fabula::player

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QSettings>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "platform/manual_timers.h"
+#include "player/scripted_dialogs.h"
+#include "player/vel_eng_main.h"
+#include "support/game_builder.h"
+#include "support/temp_folder.h"
+
+namespace fabula::test {
+
+/// The engine's window on the offscreen screen, with a folder, settings, a clock and boxes of its own. It
+/// is shown and given keys as a person would.
+class PlayedWindow {
+  public:
+    PlayedWindow();
+    ~PlayedWindow();
+
+    /// Writes a game into the folder and loads it.
+    void Load(const GameBuilder& game);
+    /// The same without loading.
+    std::filesystem::path Write(const GameBuilder& game);
+
+    /// Closes the window and opens a new one with the same folder and settings.
+    void Restart();
+
+    /// Types into the widget that has the keyboard; "\n" is Enter.
+    void Type(const QString& text);
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void Pass(std::chrono::milliseconds time) { timers.Advance(time); }
+
+    /// The whole text of the text pane.
+    std::string Text() const;
+    /// The text since the last call.
+    std::string Said();
+    /// The text of a label of the status line, by its name.
+    std::string Status(const char* label) const;
+    QAction& Action(const char* name) const;
+
+    player::frmVelEngMain& Window() const { return *window_; }
+
+    TempFolder folder;
+    platform::ManualTimers timers;
+    ScriptedDialogs dialogs;
+    RecordingSound sound;
+    QueuedRandom random;
+
+  private:
+    void Open();
+
+    QSettings settings_;
+    std::unique_ptr<player::frmVelEngMain> window_;
+    std::size_t told_ = 0;
+};
+
+}  // namespace fabula::test
