@@ -14,6 +14,7 @@
 #include "player/session.h"
 #include "player/text_pane.h"
 #include "qt/strings.h"
+#include "text/colours.h"
 #include "text/utf8.h"
 
 namespace fabula::player {
@@ -89,7 +90,17 @@ void GameScreen::ChoosePane() {
     } else {
         panes_->setCurrentWidget(text_);
     }
+    ColourPicture();
     if (focused) FocusInput();
+}
+
+void GameScreen::ColourPicture() {
+    QPalette surroundings = text_->palette();
+    if (ShowsCharacters()) {
+        const text::Rgb paper = text::ColorRGB(game_.style.paper);
+        surroundings.setColor(QPalette::Base, QColor(paper.red, paper.green, paper.blue));
+    }
+    picture_->setPalette(surroundings);
 }
 
 void GameScreen::FocusInput() {
@@ -169,6 +180,7 @@ void GameScreen::EndInput(std::string_view typed) {
 
 void GameScreen::ShowPicture(const engine::Picture& picture) {
     const QImage image = pictures_->Load(picture);
+    if (picture_->isHidden()) splitter_->setSizes({height() * 2 / 5, height() * 3 / 5});
     picture_->Show(image);
     picture_->setVisible(!image.isNull());
 }
@@ -272,6 +284,7 @@ void GameScreen::ReplaceLine(const std::string& line) {
 void GameScreen::ShowStep() {
     if (game_.characterSets) characters_->ShowChanges();
     if (std::exchange(turnMade_, false)) text_->ShowTurn();
+    events_.stepped();
     if (const auto failure = transcript_.Flush()) events_.notice(*failure);
     if (session_ == nullptr) return;
     if (const std::string failure = session_->TakeFailure(); !failure.empty()) events_.notice(failure);

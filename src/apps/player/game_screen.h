@@ -30,6 +30,7 @@ struct ScreenEvents {
     std::function<void()> ended;
     std::function<void(engine::StatusField field, const std::string& text)> status;
     std::function<void(bool enabled)> nextEnabled;
+    std::function<void()> stepped;  ///< the game waits for the player, a time or nothing any more
     std::function<void(const std::string& sentence)> notice;  ///< something that went wrong
 };
 
@@ -92,6 +93,7 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     void TimeOutTick();
     void WaitTick();
     void ChoosePane();
+    void ColourPicture();
     std::string Shown(std::string_view run) const;
 
     qt::Dialogs& dialogs_;

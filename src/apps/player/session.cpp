@@ -32,11 +32,12 @@ class Mark {
 }  // namespace
 
 Session::Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
-                 const engine::Host& host, platform::Timers& timers)
+                 const engine::Host& host, platform::Timers& timers, Autosave autosave)
     : adventure_(store::Adventure::Open(file, store::OpenMode::ReadOnly)),
       folder_(FolderOfGame(dataFolder, SaveNameOf(*adventure_), file)),
       engine_(*adventure_, host),
       oper_(host.oper),
+      keeps_(autosave == Autosave::On),
       autosave_(timers, [this] { WriteAutosave(); }) {}
 
 Session::~Session() {
@@ -57,7 +58,7 @@ bool Session::Start() {
 
 bool Session::CanResume() const {
     std::error_code error;
-    return std::filesystem::is_regular_file(folder_.autosave, error);
+    return keeps_ && std::filesystem::is_regular_file(folder_.autosave, error);
 }
 
 bool Session::Resume() {
@@ -111,6 +112,7 @@ bool Session::TakesLine() const {
 }
 
 void Session::AfterTurn() {
+    if (!keeps_) return;
     if (WaitingFor() == Waiting::Sentence) autosave_.Start(kAutosaveDelay);
     if (WaitingFor() != Waiting::Nothing) return;
     autosave_.Stop();

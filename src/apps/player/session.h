@@ -12,18 +12,21 @@
 
 namespace fabula::player {
 
+/// Whether the state is written to the autosave after every turn.
+enum class Autosave { On, Off };
+
 /// One adventure being played: the open file, its engine, and the state that is kept by itself.
 ///
 /// Boxes that the engine shows run an event loop of their own, in which keys and timers still arrive; they
 /// must not break into a turn. Calls that come while the engine runs are therefore ignored, and false.
 ///
-/// After every turn the state is written to the autosave, shortly later, so that nobody waits for it. It
+/// With an autosave the state is written after every turn, shortly later, so that nobody waits for it. It
 /// goes when the game ends, and stays when the program does.
 class Session {
   public:
     /// Opens the file. Throws store::OpenError when it is refused, and fabula::Error when it can't be read.
     Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
-            const engine::Host& host, platform::Timers& timers);
+            const engine::Host& host, platform::Timers& timers, Autosave autosave = Autosave::On);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
     ~Session();
@@ -53,6 +56,9 @@ class Session {
     std::string FontName(int number) const { return engine_.FontName(number); }
     bool IsBusy() const { return busy_; }
 
+    /// For the diagnostics window; a game is played by the members above.
+    engine::Engine& Engine() { return engine_; }
+
     /// A failure to write the autosave, told once; "" when there is none to tell.
     std::string TakeFailure();
 
@@ -66,6 +72,7 @@ class Session {
     GameFolder folder_;
     engine::Engine engine_;
     platform::Operator& oper_;
+    bool keeps_;
     platform::Alarm autosave_;
     bool busy_ = false;
     bool failureTold_ = false;

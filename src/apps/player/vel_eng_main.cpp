@@ -16,6 +16,7 @@
 
 #include "platform/error.h"
 #include "player/about_adventure.h"
+#include "player/debug_window.h"
 #include "player/game_screen.h"
 #include "player/session.h"
 #include "player/status_pane.h"
@@ -29,6 +30,8 @@ namespace {
 
 constexpr QSize kDefaultSize(860, 640);
 constexpr QSize kSmallestSize(320, 240);
+/// How soon a window that can't close yet tries again.
+constexpr std::chrono::milliseconds kBusyDelay{50};
 
 }  // namespace
 
@@ -36,6 +39,7 @@ frmVelEngMain::frmVelEngMain(const WindowServices& services)
     : services_(services),
       settings_(PlayerSettings::Load(services.settings)),
       opening_(services.timers, [this] { Load(openAtStart_); }),
+      closing_(services.timers, [this] { CloseAfterGame(); }),
       pages_(new QStackedWidget),
       welcome_(new WelcomePage([this] { MnuFileLoad(); }, [this](const auto& file) { Load(file); })),
       screen_(new GameScreen(services.timers, services.dialogs,
@@ -48,7 +52,8 @@ frmVelEngMain::frmVelEngMain(const WindowServices& services)
                                       next_->setEnabled(enabled);
                                       next_->setVisible(enabled);
                                   },
-                              .notice = [this](const std::string& sentence) { Tell(sentence); }})),
+                              .stepped = [this] { if (debugWindow_) debugWindow_->Follow(); },
+           .notice = [this](const std::string& sentence) { Tell(sentence); }})),
       status_(new StatusPane) {
     setObjectName("frmVelEngMain");
     setWindowTitle("Fabula");
@@ -108,9 +113,9 @@ void frmVelEngMain::MakeActions() {
                             [this] { ToggleTranscript(transcript_->isChecked()); });
     transcript_->setCheckable(true);
     about_ = AddAction("About", tr("About this &Adventure"), tr("About"), [this] { About(); });
-    debug_ = AddAction("Debug", tr("&Debug"), tr("Debug"), [] {});
-    debug_->setEnabled(false);
-    debug_->setVisible(false);
+    debug_ = AddAction("Debug", tr("&Debug"), tr("Debug"), [this] { Debug_Click(); });
+    debug_->setEnabled(services_.testRun);
+    debug_->setVisible(services_.testRun);
     zoomIn_ = AddAction("ZoomIn", tr("Zoom &In"), tr("Zoom In"), [this] { Zoom(1); });
     zoomIn_->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
     zoomOut_ = AddAction("ZoomOut", tr("Zoom &Out"), tr("Zoom Out"), [this] { Zoom(-1); });
@@ -215,7 +220,8 @@ void frmVelEngMain::Load(const std::filesystem::path& file) {
     try {
         opened = std::make_unique<Session>(
             file, services_.dataFolder,
-            engine::Host{*screen_, services_.dialogs, services_.random, services_.sound}, services_.timers);
+            engine::Host{*screen_, services_.dialogs, services_.random, services_.sound}, services_.timers,
+            services_.testRun ? Autosave::Off : Autosave::On);
     } catch (const Error& error) {
         services_.dialogs.Tell(error.what(), "Error");
         settings_.recent.Remove(file);
@@ -226,7 +232,7 @@ void frmVelEngMain::Load(const std::filesystem::path& file) {
     EndSession();
     session_ = std::move(opened);
     screen_->Attach(session_.get());
-    settings_.recent.AddMRUItem(std::filesystem::absolute(file));
+    if (!services_.testRun) settings_.recent.AddMRUItem(std::filesystem::absolute(file));
     ShowRecent();
     pages_->setCurrentIndex(1);
     const bool resume =
@@ -243,6 +249,7 @@ void frmVelEngMain::Tell(const std::string& sentence) {
 }
 
 void frmVelEngMain::EndSession() {
+    debugWindow_.reset();
     transcript_->setChecked(false);
     screen_->Transcript().Close();
     screen_->Attach(nullptr);
@@ -257,8 +264,14 @@ void frmVelEngMain::GameStarted(const engine::GameLook& look) {
 }
 
 void frmVelEngMain::GameEnded() {
+    // The engine is still at work: a window that closes lets it finish first.
+    if (services_.testRun) return closing_.Start(std::chrono::milliseconds(0));
     endBar_->show();
     endBar_->setFocus();
+}
+
+void frmVelEngMain::CloseAfterGame() {
+    if (!close()) closing_.Start(kBusyDelay);
 }
 
 void frmVelEngMain::StartAgain() {
@@ -294,6 +307,14 @@ void frmVelEngMain::ToggleTranscript(bool on) {
 
 void frmVelEngMain::About() {
     ShowAbout(frmAboutAdventure::Of(session_ ? &session_->Adventure() : nullptr), this);
+}
+
+void frmVelEngMain::Debug_Click() {
+    if (!session_) return;
+    const auto help = [this] { Tell("There is no help for the player's window yet."); };
+    if (!debugWindow_) debugWindow_ = std::make_unique<DebugWindow>(session_->Engine(), help, this);
+    debugWindow_->show();
+    debugWindow_->activateWindow();
 }
 
 void frmVelEngMain::Zoom(int direction) {

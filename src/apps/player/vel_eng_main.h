@@ -18,6 +18,7 @@ class QStackedWidget;
 
 namespace fabula::player {
 
+class DebugWindow;
 class GameScreen;
 class Session;
 class StatusPane;
@@ -31,6 +32,9 @@ struct WindowServices {
     platform::RandomSource& random;
     QSettings& settings;
     std::filesystem::path dataFolder;  ///< where folders of saved games are made
+    /// The window is shown by the authoring tool (`strMode` is "IDE"): "Debug" is allowed, the window closes
+    /// when the game ends, and nothing of the run is kept.
+    bool testRun = false;
 };
 
 /// The engine's window: one adventure, loaded and played.
@@ -72,11 +76,13 @@ class frmVelEngMain final : public QMainWindow {
 
     void GameStarted(const engine::GameLook& look);
     void GameEnded();
+    void CloseAfterGame();
     void StartAgain();
     void EndSession();
     void ToggleSound();
     void ToggleTranscript(bool on);
     void About();
+    void Debug_Click();
     void Zoom(int direction);
     void ApplySettings();
     void ShowRecent();
@@ -84,8 +90,10 @@ class frmVelEngMain final : public QMainWindow {
     WindowServices services_;
     PlayerSettings settings_;
     platform::Alarm opening_;
+    platform::Alarm closing_;
     std::filesystem::path openAtStart_;
     std::unique_ptr<Session> session_;
+    std::unique_ptr<DebugWindow> debugWindow_;
 
     QStackedWidget* pages_;
     WelcomePage* welcome_;

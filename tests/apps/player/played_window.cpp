@@ -11,7 +11,8 @@
 
 namespace fabula::test {
 
-PlayedWindow::PlayedWindow() : settings_(qt::PathToQt(folder / "settings.ini"), QSettings::IniFormat) {
+PlayedWindow::PlayedWindow(bool testRun)
+    : testRun_(testRun), settings_(qt::PathToQt(folder / "settings.ini"), QSettings::IniFormat) {
     Open();
 }
 
@@ -19,7 +20,7 @@ PlayedWindow::~PlayedWindow() = default;
 
 void PlayedWindow::Open() {
     window_ = std::make_unique<player::frmVelEngMain>(
-        player::WindowServices{timers, dialogs, sound, random, settings_, folder / "data"});
+        player::WindowServices{timers, dialogs, sound, random, settings_, folder / "data", testRun_});
     window_->show();
     QApplication::setActiveWindow(window_.get());
     told_ = 0;

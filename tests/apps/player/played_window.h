@@ -17,7 +17,8 @@ namespace fabula::test {
 /// is shown and given keys as a person would.
 class PlayedWindow {
   public:
-    PlayedWindow();
+    /// `testRun`: as the authoring tool shows it.
+    explicit PlayedWindow(bool testRun = false);
     ~PlayedWindow();
 
     /// Writes a game into the folder and loads it.
@@ -52,6 +53,7 @@ class PlayedWindow {
   private:
     void Open();
 
+    bool testRun_;
     QSettings settings_;
     std::unique_ptr<player::frmVelEngMain> window_;
     std::size_t told_ = 0;

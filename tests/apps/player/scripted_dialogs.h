@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -15,10 +16,16 @@ class ScriptedDialogs final : public qt::Dialogs {
     void AnswerNext(bool yes) { person_.AnswerNext(yes); }
     void AnswerFile(std::optional<std::filesystem::path> file) { files_.push_back(std::move(file)); }
 
+    /// Called while a box is shown, as events come while a real one is.
+    std::function<void()> whileTelling = [] {};
+
     const std::vector<platform::ScriptedOperator::Shown>& Boxes() const { return person_.Boxes(); }
     const std::vector<qt::FileQuestion>& Questions() const { return questions_; }
 
-    void Tell(std::string_view text, std::string_view title) override { person_.Tell(text, title); }
+    void Tell(std::string_view text, std::string_view title) override {
+        person_.Tell(text, title);
+        whileTelling();
+    }
     bool Confirm(std::string_view text, std::string_view title) override {
         return person_.Confirm(text, title);
     }

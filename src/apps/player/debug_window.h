@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+
+#include <QDialog>
+
+#include "engine/frm_debug.h"
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+
+namespace fabula::player {
+
+/// The window "Diagnostics" beside a game that is tested: one request at a time, typed and carried out by
+/// Enter.
+class DebugWindow final : public QDialog {
+  public:
+    /// `help` opens the help file. The window must close before the engine ends.
+    DebugWindow(engine::Engine& engine, std::function<void()> help, QWidget* parent);
+
+    /// Shows the thing under view as it is now, when the player wants to follow the game.
+    void Follow();
+
+  private:
+    void DoIt();
+    void DisplayVariable();
+
+    engine::frmDebug debug_;
+    std::function<void()> help_;
+    QLineEdit* input_;
+    QLabel* result_;
+    QCheckBox* follow_;
+};
+
+}  // namespace fabula::player

@@ -1,0 +1,320 @@
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QBuffer>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QToolBar>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+#include "player/character_pane.h"
+#include "player/game_screen.h"
+#include "player/picture_pane.h"
+#include "player/played_window.h"
+#include "player/session.h"
+#include "player/text_pane.h"
+#include "qt/strings.h"
+
+namespace fabula::test {
+namespace {
+
+using std::chrono::milliseconds;
+
+GameBuilder Game() {
+    GameBuilder game;
+    game.SystemMessage(34, "");
+    return game;
+}
+
+void SaveImage(const std::filesystem::path& file) {
+    QImage image(8, 4, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    image.save(qt::PathToQt(file));
+}
+
+TEST(WindowPictures, PictureOfThePlaceIsShownAboveTheText) {
+    PlayedWindow played;
+    SaveImage(played.folder / "room.png");
+    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    EXPECT_TRUE(played.Window().Screen().Picture().isVisible());
+    EXPECT_EQ(played.Window().Screen().Picture().Shown().size(), QSize(8, 4));
+    EXPECT_EQ(played.Status("txtStatus"), "");
+}
+
+TEST(WindowPictures, MissingPictureShowsNothingAndIsToldOnce) {
+    PlayedWindow played;
+    played.Load(Game().Graphics().PictureOf(0, "room.png").Entry(0, "DO", "_", "PICTURE 0 DONE"));
+    EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
+    EXPECT_EQ(played.Status("txtStatus"), "The picture room.png is missing.");
+    played.Window().Tell("");
+    played.Type("do\n");
+    EXPECT_EQ(played.Status("txtStatus"), "");
+}
+
+TEST(WindowPictures, BrokenPictureShowsNothingAndIsTold) {
+    PlayedWindow played;
+    QFile file(qt::PathToQt(played.folder / "room.png"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("no picture");
+    file.close();
+    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
+    EXPECT_EQ(played.Status("txtStatus"), "The picture room.png can't be shown.");
+}
+
+TEST(WindowPictures, PathThatLeavesTheGamesFolderIsRefused) {
+    PlayedWindow played;
+    SaveImage(played.folder.Path().parent_path() / "outside-of-the-game.png");
+    played.Load(Game().Graphics().PictureOf(0, "../outside-of-the-game.png"));
+    std::filesystem::remove(played.folder.Path().parent_path() / "outside-of-the-game.png");
+    EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
+    EXPECT_EQ(played.Status("txtStatus"),
+              "The picture ../outside-of-the-game.png is refused: it lies outside the game's folder.");
+}
+
+TEST(WindowPictures, PictureKeptInTheAdventureFileIsShown) {
+    PlayedWindow played;
+    SaveImage(played.folder / "kept.png");
+    const auto file = played.Write(Game().Graphics().PictureOf(0, "room.png").Setting("graphicsindb", 1));
+    {
+        const auto adventure = store::Adventure::Open(file);
+        auto& room = adventure->OpenTable(store::TableNum::Locations, "*", "locnum=0");
+        room.StoreFileInField(played.folder / "kept.png", "picgraphic", "oldpicloc");
+        room.Update();
+    }
+    played.Window().Load(file);
+    EXPECT_EQ(played.Window().Screen().Picture().Shown().size(), QSize(8, 4));
+}
+
+TEST(WindowCharacters, GameWithCharacterSetsIsDrawnInTheCharacterPane) {
+    PlayedWindow played;
+    played.Load(Game().CharacterSets());
+    ASSERT_TRUE(played.Window().Screen().Characters().isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &played.Window().Screen().Characters());
+    EXPECT_EQ(played.Window().Screen().Characters().Screen().Text(), "Room 0?\n>\n");
+    played.Type("do");
+    EXPECT_EQ(played.Window().Screen().Characters().Screen().Text(), "Room 0?\n>DO\n");
+    played.Press(Qt::Key_Backspace);
+    EXPECT_EQ(played.Window().Screen().Characters().Screen().Text(), "Room 0?\n>D\n");
+}
+
+TEST(WindowCharacters, LinesAreWrappedAtThirtyTwoCharacters) {
+    PlayedWindow played;
+    played.Load(Game().CharacterSets().Location(0, "The quick brown fox jumps over the lazy dog. "));
+    EXPECT_EQ(played.Window().Screen().Characters().Screen().Text(),
+              "The quick brown fox jumps over\nthe lazy dog. ?\n>\n");
+}
+
+TEST(WindowCharacters, CharactersThatNoSetHasAreNotTyped) {
+    PlayedWindow played;
+    played.Load(Game().CharacterSets());
+    QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, "é");
+    QApplication::sendEvent(QApplication::focusWidget(), &event);
+    EXPECT_EQ(played.Window().Screen().Characters().Screen().Text(), "Room 0?\n>\n");
+}
+
+TEST(WindowCharacters, GameCanBeReadAsPlainTextInstead) {
+    PlayedWindow played;
+    played.Load(Game().CharacterSets().Location(0, "The quick brown fox jumps over the lazy dog. "));
+    played.Action("PlainText").trigger();
+    EXPECT_TRUE(played.Window().Screen().Text().isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &played.Window().Screen().Text());
+    EXPECT_EQ(played.Text(), "The quick brown fox jumps over the lazy dog. ?\n>");
+}
+
+TEST(WindowLook, ZoomIsChangedByKeysAndRemembered) {
+    PlayedWindow played;
+    played.Load(Game());
+    const double before = played.Window().Screen().Text().font().pointSizeF();
+    played.Press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(played.Window().Screen().Text().font().pointSizeF(), before * 1.1);
+    played.Restart();
+    played.Window().Load(played.folder / "game.fbd");
+    EXPECT_DOUBLE_EQ(played.Window().Screen().Text().font().pointSizeF(), before * 1.1);
+    played.Press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(played.Window().Screen().Text().font().pointSizeF(), before);
+}
+
+TEST(WindowLook, ZoomIsChangedByTheWheelWithCtrl) {
+    PlayedWindow played;
+    played.Load(Game());
+    QWidget& pane = *played.Window().Screen().Text().viewport();
+    const double before = played.Window().Screen().Text().font().pointSizeF();
+    QWheelEvent up(QPointF(9, 9), pane.mapToGlobal(QPointF(9, 9)), {}, QPoint(0, 120), Qt::NoButton,
+                   Qt::ControlModifier, Qt::NoScrollPhase, false);
+    // The pane leaves it to the window.
+    QApplication::sendEvent(&pane, &up);
+    EXPECT_FALSE(up.isAccepted());
+    QApplication::sendEvent(&played.Window(), &up);
+    EXPECT_GT(played.Window().Screen().Text().font().pointSizeF(), before);
+}
+
+TEST(WindowLook, ThemeIsRemembered) {
+    PlayedWindow played;
+    played.Action("ThemeDark").trigger();
+    EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 80);
+    played.Restart();
+    EXPECT_TRUE(played.Action("ThemeDark").isChecked());
+    played.Load(Game());
+    EXPECT_LT(played.Window().Screen().Text().palette().color(QPalette::Base).lightness(), 80);
+    played.Action("ThemeSystem").trigger();
+    EXPECT_EQ(played.Window().Screen().Text().palette().color(QPalette::Base), QColor(255, 255, 255));
+}
+
+TEST(WindowLook, SizeIsRemembered) {
+    PlayedWindow played;
+    played.Window().resize(612, 413);
+    played.Restart();
+    EXPECT_EQ(played.Window().size(), QSize(612, 413));
+}
+
+TEST(WindowLook, RecentGamesAreOfferedOnTheFirstPageAndInTheMenu) {
+    PlayedWindow played;
+    played.Load(Game());
+    played.Restart();
+    QTest::keyClick(&played.Window(), Qt::Key_Tab);
+    QWidget* recent = QApplication::focusWidget();
+    ASSERT_NE(recent, nullptr);
+    EXPECT_EQ(recent->accessibleName(), "Load game");
+    QTest::keyClick(recent, Qt::Key_Space);
+    EXPECT_EQ(played.Text(), "Room 0?\n>");
+}
+
+/// Gives the program another font for one test.
+class ProgramFont {
+  public:
+    explicit ProgramFont(double factor) : before_(QApplication::font()) {
+        QFont font = before_;
+        font.setPointSizeF(font.pointSizeF() * factor);
+        QApplication::setFont(font);
+    }
+    ProgramFont(const ProgramFont&) = delete;
+    ProgramFont& operator=(const ProgramFont&) = delete;
+    ~ProgramFont() { QApplication::setFont(before_); }
+
+  private:
+    QFont before_;
+};
+
+TEST(WindowLook, WindowMayBe480By320) {
+    PlayedWindow played;
+    SaveImage(played.folder / "room.png");
+    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    played.Window().resize(480, 320);
+    EXPECT_EQ(played.Window().size(), QSize(480, 320));
+    QApplication::processEvents();
+    EXPECT_GE(played.Window().Screen().Text().height(), 80);
+    EXPECT_LE(played.Window().Screen().Text().document()->idealWidth(), 480);
+}
+
+TEST(WindowLook, WindowMayBe480By320WithTextOfTwiceTheSize) {
+    const ProgramFont large(2);
+    PlayedWindow played;
+    played.Load(Game());
+    played.Window().resize(480, 320);
+    EXPECT_EQ(played.Window().size(), QSize(480, 320));
+    QApplication::processEvents();
+    EXPECT_GE(played.Window().Screen().Text().height(), 80);
+}
+
+TEST(WindowAccess, EveryWidgetThatTakesTheKeyboardHasAName) {
+    PlayedWindow played;
+    played.Load(Game());
+    played.Restart();
+    played.dialogs.AnswerNext(false);
+    for (const QWidget* widget : played.Window().findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || qobject_cast<const QMenu*>(widget) != nullptr) continue;
+        const QAccessibleInterface* access =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+        ASSERT_NE(access, nullptr);
+        EXPECT_FALSE(access->text(QAccessible::Name).isEmpty())
+            << widget->metaObject()->className() << " " << qt::FromQt(widget->objectName());
+    }
+}
+
+TEST(WindowAccess, ScreenReaderFindsTheWholeText) {
+    PlayedWindow played;
+    played.Load(Game());
+    QAccessibleInterface* access =
+        QAccessible::queryAccessibleInterface(&played.Window().Screen().Text());
+    ASSERT_NE(access->textInterface(), nullptr);
+    EXPECT_EQ(access->textInterface()->text(0, access->textInterface()->characterCount()), "Room 0?\n>");
+    EXPECT_EQ(access->textInterface()->cursorPosition(), 9);
+}
+
+TEST(WindowTestRun, DebugShowsAndChangesTheState) {
+    PlayedWindow played(true);
+    played.Load(Game());
+    ASSERT_TRUE(played.Action("Debug").isEnabled());
+    played.Action("Debug").trigger();
+    auto* debug = played.Window().findChild<QWidget*>("frmDebug");
+    ASSERT_NE(debug, nullptr);
+    EXPECT_EQ(debug->windowTitle(), "Diagnostics");
+    auto* input = debug->findChild<QLineEdit*>("txtInput");
+    auto* result = debug->findChild<QLabel*>("lblResult");
+    QTest::keyClicks(input, "f38");
+    QTest::keyClick(input, Qt::Key_Return);
+    EXPECT_EQ(result->text(), "F38 = 0");
+    QTest::keyClicks(input, "=1");
+    QTest::keyClick(input, Qt::Key_Return);
+    EXPECT_EQ(result->text(), "F38 = 1");
+    QTest::keyClicks(input, "?");
+    QTest::keyClick(input, Qt::Key_Return);
+    EXPECT_EQ(result->text(), "Invalid option");
+}
+
+TEST(WindowTestRun, DebugFollowsTheGame) {
+    PlayedWindow played(true);
+    played.Load(Game().Entry(0, "DO", "_", "LET 0 7 DONE"));
+    played.Action("Debug").trigger();
+    auto* debug = played.Window().findChild<QWidget*>("frmDebug");
+    QApplication::setActiveWindow(&played.Window());
+    played.Window().Screen().FocusInput();
+    played.Type("do\n");
+    EXPECT_EQ(debug->findChild<QLabel*>("lblResult")->text(), "F0 = 7");
+}
+
+TEST(WindowTestRun, WindowClosesWhenTheGameEnds) {
+    PlayedWindow played(true);
+    played.Load(Game().SystemMessage(13, "Again?").Entry(0, "DO", "_", "END"));
+    played.Type("do\n");
+    played.Type("n\n");
+    EXPECT_TRUE(played.Window().isVisible());
+    played.Pass(milliseconds(0));
+    EXPECT_FALSE(played.Window().isVisible());
+}
+
+TEST(WindowTestRun, NothingOfTheRunIsKept) {
+    PlayedWindow played(true);
+    played.Load(Game().Entry(0, "DO", "_", "LET 0 7 DONE"));
+    played.Type("do\n");
+    played.Pass(milliseconds(10'000));
+    EXPECT_FALSE(std::filesystem::exists(played.folder / "data"));
+}
+
+TEST(WindowBoxes, KeysAndTimesThatComeWhileABoxIsShownDoNotBreakIntoTheTurn) {
+    PlayedWindow played;
+    played.Load(Game().SystemMessage(35, "Time passes.").Entry(0, "DO", "_", "TIME 1 4 SCRIPT 2 SCRIPT 2 DONE"));
+    QFile script(qt::PathToQt(played.folder / "s.scr"));
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.close();
+    played.dialogs.AnswerFile(played.folder / "s.scr");
+    bool shown = false;
+    played.dialogs.whileTelling = [&] {
+        shown = true;
+        played.Type("x");
+        played.Pass(milliseconds(2000));
+        EXPECT_EQ(played.Text().find("Time passes."), std::string::npos);
+        EXPECT_FALSE(played.Window().close());
+    };
+    played.Type("do\n");
+    EXPECT_TRUE(shown);
+    EXPECT_TRUE(played.Window().isVisible());
+}
+
+}  // namespace
+}  // namespace fabula::test
