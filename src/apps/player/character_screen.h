@@ -47,6 +47,9 @@ class CharacterScreen {
     void ShowInput(std::string_view typed, std::string_view cursor);
     void EndInput(std::string_view typed);
 
+    /// The row of the cursor is full.
+    bool RowIsFull() const { return cursor_.column == kColumns; }
+
     const std::vector<Row>& Rows() const { return rows_; }
     /// The row at which the screen began when it was cleared last.
     std::size_t ScreenTop() const { return top_; }

@@ -144,21 +144,33 @@ std::string GameScreen::Shown(std::string_view run) const {
 }
 
 void GameScreen::Write(std::string_view run, const engine::TextStyle& style, engine::TextRole role) {
-    const std::string shown = Shown(run);
+    WriteUnwrapped(Shown(run), style, role);
+    if (game_.characterSets) characters_->Screen().Write(run, style);
+    afterBlank_ = run.ends_with(' ');
+    style_ = style;
+}
+
+void GameScreen::WriteUnwrapped(const std::string& shown, const engine::TextStyle& style,
+                                engine::TextRole role) {
     if (role == engine::TextRole::Game) transcript_.Write(shown);
     const QString family = game_.characterSets ? QString() : qt::ToQt(session_->FontName(style.font));
     text_->Write(qt::ToQt(shown), style, family);
-    if (game_.characterSets) characters_->Screen().Write(run, style);
 }
 
 void GameScreen::EndLine(engine::LineEnd kind) {
+    // A blank that finds its row full is the break itself, and is not written.
+    const bool blankBreak = game_.characterSets && characters_->Screen().RowIsFull() && !afterBlank_;
     if (game_.characterSets) characters_->Screen().EndLine();
-    if (kind == engine::LineEnd::Wrapped) return;
+    if (kind == engine::LineEnd::Wrapped) {
+        if (blankBreak) WriteUnwrapped(" ", style_, engine::TextRole::Game);
+        return;
+    }
     transcript_.EndLine();
     text_->EndLine();
 }
 
 void GameScreen::Clear(int paper, int ink) {
+    transcript_.NewPage();
     text_->ClearPage(paper, ink);
     if (game_.characterSets) characters_->Screen().Clear(paper, ink);
 }

@@ -94,6 +94,7 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     void WaitTick();
     void ChoosePane();
     void ColourPicture();
+    void WriteUnwrapped(const std::string& shown, const engine::TextStyle& style, engine::TextRole role);
     std::string Shown(std::string_view run) const;
 
     qt::Dialogs& dialogs_;
@@ -106,6 +107,8 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     ScreenLook look_;
     std::string typed_;  ///< what stands in the input
     bool turnMade_ = false;
+    engine::TextStyle style_;  ///< of the latest run
+    bool afterBlank_ = false;  ///< the latest run ended with a blank
     platform::Alarm timeOut_;
     platform::Alarm wait_;
 

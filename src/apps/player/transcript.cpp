@@ -7,6 +7,7 @@ namespace fabula::player {
 void Transcript::Open(const std::filesystem::path& file) {
     Close();
     file_ = file;
+    empty_ = true;
     atLineStart_ = true;
     output_.open(file, std::ios::binary | std::ios::trunc);
     if (!output_) throw Error("Could not write the transcript " + file.string() + ".");
@@ -20,13 +21,20 @@ void Transcript::Close() {
 void Transcript::Write(std::string_view text) {
     if (!IsOpen() || text.empty()) return;
     output_ << text;
-    atLineStart_ = false;
+    atLineStart_ = empty_ = false;
 }
 
 void Transcript::EndLine() {
     if (!IsOpen()) return;
     output_ << '\n';
     atLineStart_ = true;
+    empty_ = false;
+}
+
+void Transcript::NewPage() {
+    if (empty_) return;
+    if (!atLineStart_) EndLine();
+    EndLine();
 }
 
 void Transcript::Typed(std::string_view line) {

@@ -18,6 +18,8 @@ class Transcript {
 
     void Write(std::string_view text);
     void EndLine();
+    /// The game has cleared its pane: an empty line parts what comes from what was.
+    void NewPage();
     /// A line of the player. It stands behind a ">" at the head of its line, also where the game shows no
     /// prompt.
     void Typed(std::string_view line);
@@ -29,6 +31,7 @@ class Transcript {
   private:
     std::filesystem::path file_;
     std::ofstream output_;
+    bool empty_ = true;
     bool atLineStart_ = true;
 };
 

@@ -74,6 +74,21 @@ TEST(Transcript, TypedLinesStandBehindAMarkAtTheHeadOfTheirLine) {
     EXPECT_EQ(Contents(folder / "t.txt"), "What now?\n>NORTH\nA moor.\n>SOUTH\n");
 }
 
+TEST(Transcript, ClearedPaneIsAnEmptyLineButNotAtTheBeginning) {
+    const test::TempFolder folder;
+    Transcript transcript;
+    transcript.Open(folder / "t.txt");
+    transcript.NewPage();
+    transcript.Write("One.");
+    transcript.NewPage();
+    transcript.Write("Two.");
+    transcript.EndLine();
+    transcript.NewPage();
+    transcript.Write("Three.");
+    transcript.Close();
+    EXPECT_EQ(Contents(folder / "t.txt"), "One.\n\nTwo.\n\nThree.");
+}
+
 TEST(Transcript, WritesNothingWhileItIsClosed) {
     const test::TempFolder folder;
     Transcript transcript;

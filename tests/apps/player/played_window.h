@@ -48,7 +48,7 @@ class PlayedWindow {
     platform::ManualTimers timers;
     ScriptedDialogs dialogs;
     RecordingSound sound;
-    QueuedRandom random;
+    platform::SeededRandom random{1};
 
   private:
     void Open();
