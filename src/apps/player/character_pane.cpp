@@ -71,7 +71,7 @@ int CharacterPane::Factor() const {
 }
 
 int CharacterPane::VisibleRows() const {
-    return static_cast<int>(viewport()->height() * devicePixelRatioF()) / (kSize * Factor());
+    return std::max(1, static_cast<int>(viewport()->height() * devicePixelRatioF()) / (kSize * Factor()));
 }
 
 std::size_t CharacterPane::FirstRow() const {
@@ -130,15 +130,28 @@ QImage CharacterPane::Render(std::size_t first, int rows) const {
     return image;
 }
 
+void CharacterPane::DrawCaret(QPainter& painter, QPoint origin) const {
+    const auto caret = screen_.Caret();
+    if (!caret || !hasFocus()) return;
+    const int size = kSize * Factor();
+    const int column = std::min(caret->column, CharacterScreen::kColumns - 1);
+    const int row = static_cast<int>(caret->row) - static_cast<int>(FirstRow());
+    painter.fillRect(origin.x() + column * size, origin.y() + (row + 1) * size - Factor(), size, Factor(),
+                     QColor(ToRgb(screen_.Ink())));
+}
+
 void CharacterPane::paintEvent(QPaintEvent*) {
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), QColor(ToRgb(screen_.Paper())));
     const double ratio = devicePixelRatioF();
-    const int factor = Factor();
-    const QImage image = Render(FirstRow(), VisibleRows() + 1);
-    const int left = (static_cast<int>(viewport()->width() * ratio) - image.width() * factor) / 2;
+    const QImage image = Render(FirstRow(), VisibleRows());
+    const QSize drawn = image.size() * Factor();
+    const QSize room = (QSizeF(viewport()->size()) * ratio).toSize();
+    const QPoint origin(std::max(0, (room.width() - drawn.width()) / 2),
+                        std::max(0, (room.height() - drawn.height()) / 2));
     painter.scale(1 / ratio, 1 / ratio);
-    painter.drawImage(QRect(std::max(0, left), 0, image.width() * factor, image.height() * factor), image);
+    painter.drawImage(QRect(origin, drawn), image);
+    DrawCaret(painter, origin);
 }
 
 void CharacterPane::resizeEvent(QResizeEvent*) {

@@ -44,6 +44,7 @@ class CharacterPane final : public QAbstractScrollArea {
     void FitScrollBar();
     int VisibleRows() const;
     std::size_t FirstRow() const;
+    void DrawCaret(QPainter& painter, QPoint origin) const;
     QImage Render(std::size_t first, int rows) const;
     void Copy();
     void Paste();

@@ -79,6 +79,7 @@ void CharacterScreen::ShowInput(std::string_view typed, std::string_view cursor)
     }
     for (const char32_t code : text::Decode(typed))
         Draw(code);
+    caret_ = cursor_;
     for (const char32_t code : text::Decode(cursor))
         Draw(code);
     inputShown_ = true;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +48,16 @@ class CharacterScreen {
     void ShowInput(std::string_view typed, std::string_view cursor);
     void EndInput(std::string_view typed);
 
+    struct Place {
+        std::size_t row = 0;
+        int column = 0;  ///< kColumns behind the last one
+
+        friend bool operator==(const Place&, const Place&) = default;
+    };
+
+    /// Where the next typed character goes; nullopt while nothing is being typed.
+    std::optional<Place> Caret() const { return inputShown_ ? std::optional(caret_) : std::nullopt; }
+
     /// The row of the cursor is full.
     bool RowIsFull() const { return cursor_.column == kColumns; }
 
@@ -55,16 +66,13 @@ class CharacterScreen {
     std::size_t ScreenTop() const { return top_; }
     /// The colour beside and below the rows.
     int Paper() const { return paper_; }
+    /// The colour of the latest text.
+    int Ink() const { return style_.ink; }
 
     /// The rows from `first` on as ordinary text, one line each, without blanks at their ends.
     std::string Text(std::size_t first = 0) const;
 
   private:
-    struct Cursor {
-        std::size_t row = 0;
-        int column = 0;
-    };
-
     void Draw(char32_t code);
     void EraseInput();
     Row BlankRow() const;
@@ -73,10 +81,11 @@ class CharacterScreen {
     std::vector<Row> rows_{1};
     std::size_t top_ = 0;
     int paper_ = 0;
-    Cursor cursor_;
+    Place cursor_;
     engine::TextStyle style_;
     bool inputShown_ = false;
-    Cursor input_;  ///< where the line being typed begins
+    Place input_;  ///< where the line being typed begins
+    Place caret_;
 };
 
 }  // namespace fabula::player

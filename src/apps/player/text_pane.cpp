@@ -26,6 +26,14 @@ constexpr int kDefaultPoints = 12;
 constexpr std::chrono::milliseconds kFlashTime{320};
 constexpr std::size_t kMostFlashing = 200;
 
+/// Lines stand a little apart, for long texts.
+QTextBlockFormat LineFormat() {
+    constexpr double kPercent = 118;
+    QTextBlockFormat format;
+    format.setLineHeight(kPercent, QTextBlockFormat::ProportionalHeight);
+    return format;
+}
+
 QColor ToColour(text::Rgb rgb) {
     return QColor(rgb.red, rgb.green, rgb.blue);
 }
@@ -51,6 +59,7 @@ void TextPane::StartGame(const TextLook& look) {
     styles_.clear();
     flashing_.clear();
     clear();
+    QTextCursor(document()).setBlockFormat(LineFormat());
     turnStart_ = pageStart_ = inputStart_ = 0;
     inputShown_ = false;
     ApplyColours();
@@ -150,7 +159,7 @@ void TextPane::Write(const QString& run, const engine::TextStyle& style, const Q
 
 void TextPane::EndLine() {
     inputShown_ = false;
-    End().insertBlock(QTextBlockFormat(), QTextCharFormat());
+    End().insertBlock(LineFormat(), QTextCharFormat());
 }
 
 void TextPane::ClearPage(int paper, int ink) {
@@ -161,8 +170,8 @@ void TextPane::ClearPage(int paper, int ink) {
     flashing_.clear();
     if (!document()->isEmpty()) {
         QTextCursor end = End();
-        if (!end.atBlockStart()) end.insertBlock(QTextBlockFormat(), QTextCharFormat());
-        end.insertBlock(QTextBlockFormat(), QTextCharFormat());
+        if (!end.atBlockStart()) end.insertBlock(LineFormat(), QTextCharFormat());
+        end.insertBlock(LineFormat(), QTextCharFormat());
     }
     pageStart_ = turnStart_ = End().position();
 }

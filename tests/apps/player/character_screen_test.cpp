@@ -133,6 +133,16 @@ TEST(CharacterScreen, EnteredLineStaysWithoutItsCursor) {
     EXPECT_EQ(screen.Text(), "A\n\n");
 }
 
+TEST(CharacterScreen, CaretStandsBehindWhatIsTypedWhileALineIsOpen) {
+    CharacterScreen screen = Screen();
+    screen.Write("B", {});
+    EXPECT_EQ(screen.Caret(), std::nullopt);
+    screen.ShowInput("AA", "B");
+    EXPECT_EQ(screen.Caret(), (CharacterScreen::Place{0, 3}));
+    screen.EndInput("AA");
+    EXPECT_EQ(screen.Caret(), std::nullopt);
+}
+
 TEST(CharacterScreen, LineThatCameWholeIsWrittenToo) {
     CharacterScreen screen = Screen();
     screen.Write("B", {});

@@ -234,6 +234,18 @@ TEST_F(CharacterPaneTest, FlashCanBeSwitchedOff) {
     EXPECT_EQ(timers_.Running(), 0);
 }
 
+TEST_F(CharacterPaneTest, CaretIsDrawnWhereTheNextCharacterGoes) {
+    QApplication::setActiveWindow(&pane_);
+    pane_.setFocus();
+    pane_.Screen().Write("X", {.paper = 2, .ink = 6});
+    pane_.Screen().ShowInput("", "");
+    pane_.ShowChanges();
+    EXPECT_EQ(PixelAt(8, 6), QColor(0, 0, 230));
+    EXPECT_EQ(PixelAt(8, 7), QColor(230, 230, 0));
+    EXPECT_EQ(PixelAt(15, 7), QColor(230, 230, 0));
+    EXPECT_EQ(PixelAt(16, 7), QColor(0, 0, 230));
+}
+
 TEST_F(CharacterPaneTest, NewestRowIsInSightAndTheFirstCanBeScrolledTo) {
     for (int row = 0; row < 100; ++row)
         pane_.Screen().EndLine();
