@@ -66,8 +66,9 @@ frmAboutAdventure frmAboutAdventure::Of(store::Adventure* adventure) {
     const store::TableSchema& schema = adventure->Schema(store::TableNum::Adventure);
     if (settings.Eof()) return about;
     about.name = TextOf(settings, schema, "advname");
-    about.lines = {"Version: " + TextOf(settings, schema, "Version"),
-                   "Written by " + TextOf(settings, schema, "author")};
+    about.lines = {"Version: " + TextOf(settings, schema, "Version")};
+    const std::string author = TextOf(settings, schema, "author");
+    if (!author.empty()) about.lines.push_back("Written by " + author);
     about.description = TextOf(settings, schema, "advdesc");
     about.contact = TextOf(settings, schema, "advcontactinfo");
     about.picture = PictureOf(*adventure, settings, schema);

@@ -9,6 +9,7 @@ namespace fabula::player {
 StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
     setObjectName("fraStatus");
     setSizeGripEnabled(false);
+    setContentsMargins(0, 0, 6, 0);
     const auto label = [this](const char* name, const char* spoken) {
         auto* made = new QLabel(this);
         made->setObjectName(name);

@@ -14,7 +14,7 @@ namespace fabula::player {
 
 /// How the text pane shows a game before any tag changes it.
 struct TextLook {
-    engine::TextStyle style;
+    engine::TextStyle style{.paper = 15, .ink = 0};
     QString family{};  ///< of the game's font; "" for the program's own
     int columns = 0;   ///< the width of a line at most, in characters; 0 for the whole pane
     Page page = Page::OfTheGame;

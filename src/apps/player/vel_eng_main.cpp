@@ -202,7 +202,7 @@ void frmVelEngMain::PlaceWindow() {
 void frmVelEngMain::OpenAtStart(const std::filesystem::path& file) {
     openAtStart_ = file;
     pages_->setCurrentIndex(1);
-    screen_->Text().Write("One moment while I Inititlize", {}, {});
+    screen_->Text().Write("One moment while I Inititlize", player::TextLook().style, {});
     opening_.Start(std::chrono::milliseconds(1));
 }
 

@@ -45,9 +45,9 @@ void WelcomePage::ShowRecent(const std::vector<std::filesystem::path>& files) {
         button->setFlat(true);
         button->setToolTip(qt::PathToQt(file).toHtmlEscaped());
         button->setAccessibleName(tr("Load %1").arg(qt::PathToQt(file.stem())));
-        QPalette shown = button->palette();
-        shown.setColor(QPalette::ButtonText, shown.color(QPalette::Link));
-        button->setPalette(shown);
+        QFont underlined = button->font();
+        underlined.setUnderline(true);
+        button->setFont(underlined);
         QObject::connect(button, &QPushButton::clicked, this, [this, file] { open_(file); });
         list->addWidget(button, 0, Qt::AlignHCenter);
     }
