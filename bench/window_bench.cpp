@@ -1,9 +1,9 @@
-#include <filesystem>
-
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <filesystem>
+
 #include <benchmark/benchmark.h>
 
 #include "platform/clock.h"
@@ -29,8 +29,9 @@ class Played {
         setup.ChooseCharSets(characterSets);
         const platform::FixedClock clock({2026, 1, 1, 0, 0, 0});
         platform::NoEvents events;
-        store::CreateAdventure(true, file, setup,
-                               {dialogs_, clock, events, std::filesystem::path(FABULA_SOURCE_DIR) / "data/Fabula.ini"});
+        store::CreateAdventure(
+            true, file, setup,
+            {dialogs_, clock, events, std::filesystem::path(FABULA_SOURCE_DIR) / "data/Fabula.ini"});
         window_.show();
         QApplication::setActiveWindow(&window_);
         window_.Load(file);
@@ -58,14 +59,24 @@ class Played {
 /// Six keys, and the whole window drawn once, after as many turns as the argument says.
 void WindowTurn(benchmark::State& state, bool characterSets) {
     Played played(characterSets);
-    for (int turn = 0; turn < state.range(0); ++turn) played.Turn();
-    for (auto _ : state) played.Turn();
+    for (int turn = 0; turn < state.range(0); ++turn)
+        played.Turn();
+    for (auto _ : state)
+        played.Turn();
 }
 
 }  // namespace
 
-BENCHMARK_CAPTURE(WindowTurn, Text, false)->Arg(10)->Arg(2000)->Iterations(50)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(WindowTurn, Characters, true)->Arg(10)->Arg(2000)->Iterations(50)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(WindowTurn, Text, false)
+    ->Arg(10)
+    ->Arg(2000)
+    ->Iterations(50)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(WindowTurn, Characters, true)
+    ->Arg(10)
+    ->Arg(2000)
+    ->Iterations(50)
+    ->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -52,8 +52,11 @@ frmVelEngMain::frmVelEngMain(const WindowServices& services)
                                       next_->setEnabled(enabled);
                                       next_->setVisible(enabled);
                                   },
-                              .stepped = [this] { if (debugWindow_) debugWindow_->Follow(); },
-           .notice = [this](const std::string& sentence) { Tell(sentence); }})),
+                              .stepped =
+                                  [this] {
+                                      if (debugWindow_) debugWindow_->Follow();
+                                  },
+                              .notice = [this](const std::string& sentence) { Tell(sentence); }})),
       status_(new StatusPane) {
     setObjectName("frmVelEngMain");
     setWindowTitle("Fabula");

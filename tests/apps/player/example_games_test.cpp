@@ -1,8 +1,8 @@
+#include <QAction>
 #include <cctype>
 #include <fstream>
 #include <sstream>
 
-#include <QAction>
 #include <gtest/gtest.h>
 
 #include "player/played_window.h"
@@ -30,14 +30,16 @@ std::string InCapitals(const std::string& transcript) {
     std::string result;
     for (std::string line; std::getline(lines, line);) {
         if (line.starts_with('>'))
-            for (char& c : line) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+            for (char& c : line)
+                c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
         result += line + '\n';
     }
     return result;
 }
 
 void PlayLine(PlayedWindow& played, const std::string& line) {
-    while (played.Window().Playing()->WaitingFor() == Waiting::Pause) played.Pass(milliseconds(1000));
+    while (played.Window().Playing()->WaitingFor() == Waiting::Pause)
+        played.Pass(milliseconds(1000));
     if (played.Window().Playing()->WaitingFor() == Waiting::AnyKey) return played.Press(Qt::Key_Return);
     played.Type(QString::fromStdString(line));
     played.Press(Qt::Key_Return);
@@ -53,7 +55,8 @@ TEST_P(ExampleGames, WindowTellsWhatTheTerminalTells) {
         played.Action("Transcript").trigger();
         played.Action("StartAgain").trigger();
         std::ifstream lines(sources / (script + ".scr"));
-        for (std::string line; std::getline(lines, line);) PlayLine(played, line);
+        for (std::string line; std::getline(lines, line);)
+            PlayLine(played, line);
         played.Action("Transcript").trigger();
         EXPECT_EQ(Contents(played.folder / "transcript.txt"),
                   InCapitals(Contents(sources / (script + ".transcript"))));

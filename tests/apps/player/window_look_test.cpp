@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QToolBar>
 #include <QWheelEvent>
+
 #include <gtest/gtest.h>
 
 #include "player/character_pane.h"
@@ -239,8 +240,7 @@ TEST(WindowAccess, EveryWidgetThatTakesTheKeyboardHasAName) {
 TEST(WindowAccess, ScreenReaderFindsTheWholeText) {
     PlayedWindow played;
     played.Load(Game());
-    QAccessibleInterface* access =
-        QAccessible::queryAccessibleInterface(&played.Window().Screen().Text());
+    QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&played.Window().Screen().Text());
     ASSERT_NE(access->textInterface(), nullptr);
     EXPECT_EQ(access->textInterface()->text(0, access->textInterface()->characterCount()), "Room 0?\n>");
     EXPECT_EQ(access->textInterface()->cursorPosition(), 9);
@@ -298,7 +298,8 @@ TEST(WindowTestRun, NothingOfTheRunIsKept) {
 
 TEST(WindowBoxes, KeysAndTimesThatComeWhileABoxIsShownDoNotBreakIntoTheTurn) {
     PlayedWindow played;
-    played.Load(Game().SystemMessage(35, "Time passes.").Entry(0, "DO", "_", "TIME 1 4 SCRIPT 2 SCRIPT 2 DONE"));
+    played.Load(
+        Game().SystemMessage(35, "Time passes.").Entry(0, "DO", "_", "TIME 1 4 SCRIPT 2 SCRIPT 2 DONE"));
     QFile script(qt::PathToQt(played.folder / "s.scr"));
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
     script.close();
