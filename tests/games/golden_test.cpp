@@ -72,7 +72,8 @@ INSTANTIATE_TEST_SUITE_P(Case, GoldenTranscript, testing::ValuesIn(FindCases()),
 TEST(GoldenTranscripts, EveryTypeHasCases) {
     const std::vector<std::string> cases = FindCases();
     for (const auto& [game, build] : Games()) {
-        const auto ofGame = [&](const std::string& name) { return name.starts_with(game + "-"); };
+        const std::string prefix = game + "-";
+        const auto ofGame = [&prefix](const std::string& name) { return name.starts_with(prefix); };
         EXPECT_TRUE(std::any_of(cases.begin(), cases.end(), ofGame)) << game;
     }
 }
