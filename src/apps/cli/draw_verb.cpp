@@ -10,6 +10,7 @@
 #include "pictures/drawstring.h"
 #include "pictures/drawstring_check.h"
 #include "pictures/image.h"
+#include "pictures/picture_folder.h"
 #include "platform/error.h"
 #include "store/adventure.h"
 
@@ -24,6 +25,7 @@ struct Options {
     std::string plane = "colour";
     std::optional<std::size_t> upTo;
     std::string folder;
+    std::string drawings;
     std::optional<std::string> drawstring;
     std::string checkedIn;
     bool subroutine = false;
@@ -95,7 +97,16 @@ int DrawAll(const Options& options) {
     return status;
 }
 
+int AddFolder(const Options& options) {
+    if (options.file.empty()) throw UsageError("draw --add needs the adventure, FILE.fbd");
+    if (options.picture) throw UsageError("--add takes all drawings of its folder");
+    const auto adventure = store::Adventure::Open(options.file);
+    pictures::AddPictureFolder(*adventure, options.drawings);
+    return kDone;
+}
+
 int Draw(const Options& options) {
+    if (!options.drawings.empty()) return AddFolder(options);
     if (options.drawstring) return Check(options);
     return options.folder.empty() ? DrawOne(options) : DrawAll(options);
 }
@@ -119,6 +130,8 @@ void AddDrawVerb(CLI::App& app, Chosen& chosen) {
         ->check(CLI::NonNegativeNumber);
     verb->add_option("--all", options->folder,
                      "Draw all pictures into a folder, with an index of small ones");
+    verb->add_option("--add", options->drawings,
+                     "Put the drawings N.draw of a folder into the adventure, as pictures of its rooms");
     verb->add_option("--check", options->drawstring, "Check a drawstring and show its words");
     verb->add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use");
     verb->add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine");

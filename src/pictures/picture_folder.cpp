@@ -1,0 +1,175 @@
+#include "pictures/picture_folder.h"
+
+#include <algorithm>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "pictures/book_loader.h"
+#include "pictures/drawing.h"
+#include "pictures/drawstring.h"
+#include "pictures/drawstring_check.h"
+#include "pictures/image.h"
+#include "platform/error.h"
+#include "store/adventure.h"
+#include "text/format.h"
+
+namespace fabula::pictures {
+namespace {
+
+using store::Cursor;
+using store::TableNum;
+
+constexpr int kHighestPictureNumber = 999;
+constexpr int kHighestColour = 15;
+
+/// The words of a drawing without its remarks.
+std::vector<std::string> ReadWords(const std::filesystem::path& file) {
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(file, error);
+    if (error) throw Error("Could not read " + file.string() + ": " + error.message() + ".");
+    if (size > kLargestDrawing) throw Error(file.string() + " is too large for a drawing.");
+    std::ifstream stream(file);
+    std::string text;
+    for (std::string line; std::getline(stream, line);) {
+        if (line.empty() || line.front() != '#') text += line + " ";
+    }
+    if (stream.bad()) throw Error("Could not read " + file.string() + ".");
+    return DrawstringWords(text);
+}
+
+/// Takes the word and its colour off the front; nothing there leaves `colour` as it is.
+void TakeColour(std::vector<std::string>& words, const std::string& word, int& colour,
+                const std::filesystem::path& file) {
+    if (words.size() < 2 || words[0] != word) return;
+    const std::optional<int> number = ParameterValue(words[1]);
+    if (!number || *number < 0 || *number > kHighestColour) {
+        throw Error(file.string() + ": " + words[1] + " is no colour for " + word + ".");
+    }
+    colour = *number;
+    words.erase(words.begin(), words.begin() + 2);
+}
+
+Picture ReadPicture(const std::filesystem::path& file, int number, PictureKind kind) {
+    std::vector<std::string> words = ReadWords(file);
+    Picture picture;
+    picture.number = number;
+    picture.kind = kind;
+    TakeColour(words, "DEFPAPER", picture.paper, file);
+    TakeColour(words, "DEFINK", picture.ink, file);
+    picture.drawstring = JoinWords(words);
+    return picture;
+}
+
+/// A drawing of the folder, and what it is for.
+struct DrawingFile {
+    std::filesystem::path file;
+    int number = 0;
+    bool isDefault = false;
+};
+
+/// The drawings, the default picture last and with the number behind all others.
+std::vector<DrawingFile> FindDrawings(const std::filesystem::path& folder, const PictureBook& book) {
+    std::vector<DrawingFile> found;
+    std::optional<std::filesystem::path> defaultFile;
+    int highest = book.locations.empty() ? 0 : *book.locations.rbegin();
+    std::error_code error;
+    std::filesystem::directory_iterator entries(folder, error);
+    if (error) throw Error("Could not read the folder " + folder.string() + ": " + error.message() + ".");
+    for (const auto& entry : entries) {
+        const std::filesystem::path& file = entry.path();
+        if (file.extension() != ".draw") continue;
+        if (file.stem() == "default") {
+            defaultFile = file;
+            continue;
+        }
+        const std::optional<int> number = ParameterValue(file.stem().string());
+        if (!number || *number < 0 || *number > kHighestPictureNumber) {
+            throw Error(file.string() + " is named after no picture.");
+        }
+        found.push_back({file, *number, false});
+        highest = std::max(highest, *number);
+    }
+    if (defaultFile) found.push_back({*defaultFile, highest + 1, true});
+    return found;
+}
+
+std::string BitmapName(const store::Adventure& adventure, const DrawingFile& drawing) {
+    const std::string name =
+        drawing.isDefault ? "Default" : text::FormatText("Room!%z3", {std::int64_t{drawing.number}});
+    return "pictures/" + adventure.CurrentFile().stem().string() + "/" + name + ".bmp";
+}
+
+void StorePicture(store::Adventure& adventure, const Picture& picture, const std::string& bitmap,
+                  int room) {
+    const std::string where = "locnum=" + std::to_string(picture.number);
+    adventure.DeleteFrom(TableNum::Pictures, where);
+    Cursor& cursor = adventure.OpenTable(TableNum::Pictures, "def", where);
+    cursor.AddNew();
+    cursor.SetField("locnum", picture.number);
+    cursor.SetField("loctype", picture.kind == PictureKind::Subroutine ? "Subroutine" : "Picture");
+    cursor.SetField("locpaper", picture.paper);
+    cursor.SetField("locink", picture.ink);
+    cursor.SetField("drawstring", picture.drawstring);
+    cursor.SetField("picname", bitmap);
+    cursor.SetField("roompicnum", room);
+    cursor.Update();
+}
+
+void NameBitmap(store::Adventure& adventure, const DrawingFile& drawing, const std::string& bitmap) {
+    if (drawing.isDefault) {
+        Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
+        settings.SetField("defpickey", "Default");
+        settings.SetField("defpicloc", bitmap);
+        settings.Update();
+        return;
+    }
+    const std::string number = std::to_string(drawing.number);
+    Cursor& room = adventure.OpenTable(TableNum::Locations, "def", "locnum=" + number);
+    room.SetField("pickey", "Room" + number);
+    room.SetField("picloc", bitmap);
+    room.Update();
+}
+
+void SaveBitmap(const std::filesystem::path& file, const Canvas& canvas) {
+    std::error_code error;
+    std::filesystem::create_directories(file.parent_path(), error);
+    if (error) {
+        throw Error("Could not make the folder " + file.parent_path().string() + ": " + error.message() +
+                    ".");
+    }
+    WriteImage(file, ImageOf(canvas.colour));
+}
+
+}  // namespace
+
+void AddPictureFolder(store::Adventure& adventure, const std::filesystem::path& folder) {
+    PictureBook book = LoadPictureBook(adventure);
+    const std::vector<DrawingFile> drawings = FindDrawings(folder, book);
+    const auto isShown = [&book](const DrawingFile& drawing) {
+        return drawing.isDefault || book.locations.count(drawing.number) > 0;
+    };
+    for (const DrawingFile& drawing : drawings) {
+        const auto kind = isShown(drawing) ? PictureKind::Room : PictureKind::Subroutine;
+        book.pictures[drawing.number] = ReadPicture(drawing.file, drawing.number, kind);
+    }
+    store::Transaction transaction(adventure);
+    for (const DrawingFile& drawing : drawings) {
+        Picture& picture = book.pictures.at(drawing.number);
+        const DrawstringCheck check = ValidateDrawString(book, picture.drawstring, picture.kind);
+        if (!check.Passed()) throw Error(drawing.file.string() + ": " + check.fault);
+        const std::string bitmap = isShown(drawing) ? BitmapName(adventure, drawing) : "";
+        StorePicture(adventure, picture, bitmap,
+                     isShown(drawing) && !drawing.isDefault ? drawing.number : 0);
+        if (bitmap.empty()) continue;
+        NameBitmap(adventure, drawing, bitmap);
+        SaveBitmap(adventure.GameDir() / bitmap, DrawPicture(book, drawing.number));
+    }
+    Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
+    settings.SetField("graphics", true);
+    settings.Update();
+    transaction.Commit();
+}
+
+}  // namespace fabula::pictures
