@@ -119,6 +119,8 @@ class Adventure {
   private:
     friend class Transaction;
     friend class ReadTransaction;
+    friend class ChangeRecorder;
+    friend void DoAgain(Adventure& adventure, std::string_view changes);
 
     explicit Adventure(std::filesystem::path file, std::unique_ptr<Connection> connection);
 

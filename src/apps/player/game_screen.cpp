@@ -31,7 +31,7 @@ constexpr char32_t kLastTyped = 126;
 
 }  // namespace
 
-GameScreen::GameScreen(platform::Timers& timers, qt::Dialogs& dialogs, ScreenEvents events)
+GameScreen::GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, ScreenEvents events)
     : dialogs_(dialogs),
       events_(std::move(events)),
       timeOut_(timers, [this] { TimeOutTick(); }),

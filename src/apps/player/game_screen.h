@@ -6,12 +6,12 @@
 #include <string>
 
 #include "engine/game_window.h"
+#include "platform/dialogs.h"
 #include "platform/timers.h"
 #include "player/history.h"
 #include "player/pane_keys.h"
 #include "player/text_colours.h"
 #include "player/transcript.h"
-#include "qt/dialogs.h"
 
 class QSplitter;
 class QStackedWidget;
@@ -47,7 +47,7 @@ struct ScreenLook {
 /// player's keys and the passing of time to the session.
 class GameScreen final : public QWidget, public engine::GameWindow {
   public:
-    GameScreen(platform::Timers& timers, qt::Dialogs& dialogs, ScreenEvents events);
+    GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, ScreenEvents events);
     ~GameScreen() override;
 
     /// The session whose game is shown. It must be detached (nullptr) before it ends.
@@ -97,7 +97,7 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     void WriteUnwrapped(const std::string& shown, const engine::TextStyle& style, engine::TextRole role);
     std::string Shown(std::string_view run) const;
 
-    qt::Dialogs& dialogs_;
+    platform::Dialogs& dialogs_;
     ScreenEvents events_;
     Session* session_ = nullptr;
     std::unique_ptr<GamePictures> pictures_;

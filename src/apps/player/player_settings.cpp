@@ -46,11 +46,11 @@ PlayerSettings PlayerSettings::Load(const QSettings& store) {
     settings.flashing = store.value("Startup/Flashing", settings.flashing).toBool();
     settings.plainText = store.value("Startup/PlainText", settings.plainText).toBool();
     std::vector<std::filesystem::path> recent;
-    for (std::size_t place = 0; place < RecentFiles::kMostFiles; ++place) {
+    for (std::size_t place = 0; place < platform::RecentFiles::kMostFiles; ++place) {
         const QString file = store.value(RecentKey(place)).toString();
         if (!file.isEmpty()) recent.push_back(qt::PathFromQt(file));
     }
-    settings.recent = RecentFiles(recent);
+    settings.recent = platform::RecentFiles(recent);
     return settings;
 }
 

@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <filesystem>
 
+#include "platform/recent_files.h"
 #include "player/game_screen.h"
-#include "player/recent_files.h"
 #include "qt/theme.h"
 
 class QSettings;
@@ -20,7 +20,7 @@ struct PlayerSettings {
     int characterZoom = 0;
     bool flashing = true;
     bool plainText = false;
-    RecentFiles recent;
+    platform::RecentFiles recent;
 
     ScreenLook Look() const;
 

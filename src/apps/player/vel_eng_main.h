@@ -6,10 +6,10 @@
 #include <string>
 
 #include "engine/engine.h"
+#include "platform/dialogs.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
 #include "player/player_settings.h"
-#include "qt/dialogs.h"
 
 class QAction;
 class QLabel;
@@ -27,7 +27,7 @@ class WelcomePage;
 /// What the window asks of its program. All of it outlives the window.
 struct WindowServices {
     platform::Timers& timers;
-    qt::Dialogs& dialogs;
+    platform::Dialogs& dialogs;
     engine::SoundPlayer& sound;
     platform::RandomSource& random;
     QSettings& settings;

@@ -1,36 +1,92 @@
 #include "qt/qt_dialogs.h"
 
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
 
 #include "qt/strings.h"
+#include "text/fields.h"
 
 namespace fabula::qt {
+namespace {
+
+/// Games and files speak in these boxes too: what they say is no markup.
+QMessageBox::StandardButton Ask(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons,
+                                std::string_view text, std::string_view title, QWidget* parent) {
+    QMessageBox box(icon, ToQt(title), ToQt(text), buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+}  // namespace
 
 std::string QtFilter(const std::string& filter) {
-    const auto bar = filter.find('|');
-    const std::string pattern = bar == std::string::npos ? "*" : filter.substr(bar + 1);
-    return filter.substr(0, bar) + " (" + pattern + ")";
+    const auto parts = text::Split(filter, "|");
+    std::string shown;
+    for (std::size_t part = 0; part < parts.size(); part += 2) {
+        std::string pattern(part + 1 < parts.size() ? parts[part + 1] : "*");
+        if (pattern == "*.*") pattern = "*";
+        for (char& letter : pattern) {
+            if (letter == ';') letter = ' ';
+        }
+        if (part > 0) shown += ";;";
+        shown.append(parts[part]).append(" (").append(pattern).append(")");
+    }
+    return shown;
+}
+
+QWidget* QtDialogs::Parent() const {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return parent_ ? parent_ : QApplication::activeWindow();
 }
 
 void QtDialogs::Tell(std::string_view text, std::string_view title) {
-    QMessageBox box(QMessageBox::Information, ToQt(title), ToQt(text), QMessageBox::Ok, parent_);
-    if (title == "Error") box.setIcon(QMessageBox::Warning);
-    // Games speak in these boxes too: what they say is no markup.
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    const auto icon = title == "Error" ? QMessageBox::Warning : QMessageBox::Information;
+    Ask(icon, QMessageBox::Ok, text, title, Parent());
 }
 
 bool QtDialogs::Confirm(std::string_view text, std::string_view title) {
-    QMessageBox box(QMessageBox::Question, ToQt(title), ToQt(text), QMessageBox::Yes | QMessageBox::No,
-                    parent_);
-    box.setTextFormat(Qt::PlainText);
-    return box.exec() == QMessageBox::Yes;
+    return Ask(QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, text, title, Parent()) ==
+           QMessageBox::Yes;
 }
 
-std::optional<std::filesystem::path> QtDialogs::ChooseFile(const FileQuestion& question) {
-    QFileDialog dialog(parent_, ToQt(question.title));
-    dialog.setNameFilter(ToQt(QtFilter(question.filter)));
+bool QtDialogs::Proceed(std::string_view text, std::string_view title) {
+    return Ask(QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel, text, title, Parent()) ==
+           QMessageBox::Ok;
+}
+
+std::optional<std::string> QtDialogs::AskText(const platform::TextQuestion& question) {
+    bool agreed = false;
+    const QString text = QInputDialog::getText(Parent(), ToQt(question.title), ToQt(question.prompt),
+                                               QLineEdit::Normal, ToQt(question.proposal), &agreed);
+    if (!agreed) return std::nullopt;
+    return FromQt(text);
+}
+
+void QtDialogs::Report(std::string_view text, std::string_view title) {
+    QDialog window(Parent());
+    window.setWindowTitle(ToQt(title));
+    auto* pane = new QPlainTextEdit(ToQt(text), &window);
+    pane->setReadOnly(true);
+    pane->setAccessibleName(ToQt(title));
+    pane->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &window);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(pane);
+    layout->addWidget(buttons);
+    window.resize(640, 440);
+    window.exec();
+}
+
+std::optional<std::filesystem::path> QtDialogs::ChooseFile(const platform::FileQuestion& question) {
+    QFileDialog dialog(Parent(), ToQt(question.title));
+    dialog.setNameFilters(ToQt(QtFilter(question.filter)).split(";;"));
     dialog.setDefaultSuffix(ToQt(question.extension));
     dialog.setAcceptMode(question.forWriting ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.forWriting ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

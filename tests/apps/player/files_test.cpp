@@ -5,30 +5,15 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
+#include "platform/recent_files.h"
 #include "player/game_folder.h"
 #include "player/player_settings.h"
-#include "player/recent_files.h"
 #include "player/transcript.h"
 #include "qt/strings.h"
 #include "support/temp_folder.h"
 
 namespace fabula::player {
 namespace {
-
-using Files = std::vector<std::filesystem::path>;
-
-TEST(RecentFiles, TheLatestStandsFirstAndOnce) {
-    RecentFiles recent({"a.fbd", "b.fbd", "c.fbd"});
-    recent.AddMRUItem("c.fbd");
-    EXPECT_EQ(recent.Files(), (Files{"c.fbd", "a.fbd", "b.fbd"}));
-}
-
-TEST(RecentFiles, KeepsEight) {
-    RecentFiles recent;
-    for (int i = 1; i <= 9; ++i)
-        recent.AddMRUItem(std::to_string(i));
-    EXPECT_EQ(recent.Files(), (Files{"9", "8", "7", "6", "5", "4", "3", "2"}));
-}
 
 TEST(FolderOfGame, IsNamedByTheSaveName) {
     EXPECT_EQ(FolderOfGame("/data", "vault", "/games/vault.fbd").folder, "/data/vault");
@@ -124,7 +109,7 @@ TEST(PlayerSettings, ComeBackAsTheyWere) {
     settings.characterZoom = -2;
     settings.flashing = false;
     settings.plainText = true;
-    settings.recent = RecentFiles({"/g/a.fbd", "/g/b.fbd"});
+    settings.recent = platform::RecentFiles({"/g/a.fbd", "/g/b.fbd"});
     settings.Save(store);
     const PlayerSettings read = PlayerSettings::Load(store);
     EXPECT_EQ(read.geometry, "where");
@@ -133,7 +118,7 @@ TEST(PlayerSettings, ComeBackAsTheyWere) {
     EXPECT_EQ(read.characterZoom, -2);
     EXPECT_FALSE(read.flashing);
     EXPECT_TRUE(read.plainText);
-    EXPECT_EQ(read.recent.Files(), (Files{"/g/a.fbd", "/g/b.fbd"}));
+    EXPECT_EQ(read.recent.Files(), (std::vector<std::filesystem::path>{"/g/a.fbd", "/g/b.fbd"}));
 }
 
 TEST(PlayerSettings, ValuesThatMakeNoSenseCountAsNotSet) {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/manual_timers.h"
-#include "player/scripted_dialogs.h"
+#include "platform/scripted_dialogs.h"
 #include "player/vel_eng_main.h"
 #include "support/game_builder.h"
 #include "support/temp_folder.h"
@@ -46,7 +46,7 @@ class PlayedWindow {
 
     TempFolder folder;
     platform::ManualTimers timers;
-    ScriptedDialogs dialogs;
+    platform::ScriptedDialogs dialogs;
     RecordingSound sound;
     platform::SeededRandom random{1};
 

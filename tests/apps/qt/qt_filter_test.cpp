@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "qt/dialogs.h"
+#include "qt/qt_dialogs.h"
 
 namespace fabula::qt {
 namespace {
@@ -11,6 +11,11 @@ TEST(QtFilter, PutsThePatternInBrackets) {
 
 TEST(QtFilter, WithoutAPatternShowsAllFiles) {
     EXPECT_EQ(QtFilter("Anything"), "Anything (*)");
+}
+
+TEST(QtFilter, TakesSeveralPairsAndSeveralPatterns) {
+    EXPECT_EQ(QtFilter("Picture Files(jpg,gif,bmp)|*.jpg;*.gif;*.bmp|All Files|*.*"),
+              "Picture Files(jpg,gif,bmp) (*.jpg *.gif *.bmp);;All Files (*)");
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <vector>
 
-namespace fabula::player {
+namespace fabula::platform {
 
 /// The adventures that were opened last, the latest first.
 class RecentFiles {
@@ -24,4 +24,4 @@ class RecentFiles {
     std::vector<std::filesystem::path> files_;
 };
 
-}  // namespace fabula::player
+}  // namespace fabula::platform

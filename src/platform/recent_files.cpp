@@ -1,8 +1,8 @@
-#include "player/recent_files.h"
+#include "platform/recent_files.h"
 
 #include <utility>
 
-namespace fabula::player {
+namespace fabula::platform {
 
 RecentFiles::RecentFiles(std::vector<std::filesystem::path> files) {
     for (auto file = files.rbegin(); file != files.rend(); ++file)
@@ -19,4 +19,4 @@ void RecentFiles::Remove(const std::filesystem::path& file) {
     std::erase(files_, file);
 }
 
-}  // namespace fabula::player
+}  // namespace fabula::platform

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "store/adventure.h"
+#include "store/change_log.h"
+#include "store/change_set.h"
+
+namespace fabula::authoring {
+
+/// The adventure on the author's desk: the open file, and the changes of this sitting, each of which can be
+/// undone and redone. What was changed is in the file at once; there is nothing to save.
+class Document {
+  public:
+    /// Opens the file for writing. Throws store::OpenError when it is refused, and fabula::Error when the
+    /// file or its folder can't be written.
+    explicit Document(const std::filesystem::path& file);
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+
+    store::Adventure& Adventure() { return *adventure_; }
+    const std::filesystem::path& File() const { return adventure_->CurrentFile(); }
+
+    /// The name of the change that `Undo` would take back or `Redo` make again ("delete word LAMP");
+    /// nullopt when there is none.
+    std::optional<std::string> UndoName() const;
+    std::optional<std::string> RedoName() const;
+
+    /// Take back the latest change, and make again the latest that was taken back. They give the tables
+    /// whose records changed; cursors keep what they read, so open them again. Without such a change they
+    /// do nothing. Throw fabula::Error when the file can't be written; nothing has changed then.
+    std::set<store::TableNum> Undo();
+    std::set<store::TableNum> Redo();
+
+    /// The most changes that can be undone; older ones are forgotten.
+    static constexpr std::size_t kMostChanges = 1000;
+
+  private:
+    friend class Change;
+
+    struct Step {
+        std::string name;
+        std::int64_t changes;  ///< in the log
+    };
+
+    void Add(Step step);
+    void Forget(std::deque<Step>& steps);
+
+    std::unique_ptr<store::Adventure> adventure_;
+    store::ChangeLog log_;
+    std::deque<Step> done_;
+    std::deque<Step> undone_;
+    int depth_ = 0;  ///< how many changes are in the making, one in the other
+};
+
+/// One change of an adventure, however many records and tables it takes: one transaction of the file and
+/// one step of Undo. Without `Commit` it has never been. A change within a change is part of it.
+///
+///     Change change(document, "delete word LAMP");
+///     ... work with cursors ...
+///     change.Commit();
+class Change {
+  public:
+    /// `name` follows the words Undo and Redo: "edit message 7".
+    Change(Document& document, std::string name);
+    Change(const Change&) = delete;
+    Change& operator=(const Change&) = delete;
+    ~Change();
+
+    /// Throws fabula::Error when the file can't be written; the work is then undone.
+    void Commit();
+
+  private:
+    Document& document_;
+    std::string name_;
+    std::optional<store::ChangeRecorder> recorder_;  ///< of the outermost change
+    store::Transaction transaction_;
+};
+
+}  // namespace fabula::authoring

@@ -1,0 +1,25 @@
+#include "authoring/session.h"
+
+namespace fabula::authoring {
+namespace {
+
+int NextFree(store::Adventure& adventure, store::TableNum table, const char* key) {
+    store::PreparedQuery highest = adventure.Prepare(table, key, "", std::string(key) + " desc");
+    if (!highest.First({})) return 0;
+    return static_cast<int>(highest.Number(0)) + 1;
+}
+
+}  // namespace
+
+void ReadNextKeys(Session& session) {
+    store::Adventure& adventure = session.document.Adventure();
+    session.nextEntry = NextFree(adventure, store::TableNum::ProcessTables, "canum");
+    session.nextWord = NextFree(adventure, store::TableNum::Vocabulary, "vocindex");
+}
+
+bool Refuse(platform::Operator& person, std::string_view message) {
+    person.Tell(message, "Error");
+    return false;
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,50 @@
+#include "store/change_log.h"
+
+#include <sqlite3.h>
+
+#include "store/connection.h"
+#include "store/file_copy.h"
+
+namespace fabula::store {
+namespace {
+
+constexpr const char* kDoing = "keep the changes for Undo";
+
+}  // namespace
+
+ChangeLog::ChangeLog(const std::filesystem::path& adventure) {
+    const auto file = TemporaryBeside(adventure);
+    const TemporaryFile remover(file);
+    connection_ = std::make_unique<Connection>(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    // It need not outlive the program, so nothing waits for the disk.
+    connection_->Run(
+        "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA locking_mode=EXCLUSIVE;"
+        "CREATE TABLE changes(number INTEGER PRIMARY KEY, bytes BLOB)",
+        kDoing);
+}
+
+ChangeLog::~ChangeLog() = default;
+
+std::int64_t ChangeLog::Add(const std::string& changes) {
+    const Statement statement = connection_->Compile("INSERT INTO changes(bytes) VALUES(?)", kDoing);
+    sqlite3_bind_blob64(statement.get(), 1, changes.data(), changes.size(), SQLITE_STATIC);
+    connection_->Step(statement.get(), kDoing);
+    return connection_->LastInsertKey();
+}
+
+std::string ChangeLog::Get(std::int64_t number) const {
+    const Statement statement = connection_->Compile("SELECT bytes FROM changes WHERE number=?", kDoing);
+    sqlite3_bind_int64(statement.get(), 1, number);
+    if (!connection_->Step(statement.get(), kDoing)) return {};
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement.get(), 0));
+    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement.get(), 0));
+    return bytes ? std::string(bytes, size) : std::string();
+}
+
+void ChangeLog::Remove(std::int64_t number) {
+    const Statement statement = connection_->Compile("DELETE FROM changes WHERE number=?", kDoing);
+    sqlite3_bind_int64(statement.get(), 1, number);
+    connection_->Step(statement.get(), kDoing);
+}
+
+}  // namespace fabula::store

@@ -1,0 +1,109 @@
+#include "store/change_set.h"
+
+#include <new>
+#include <utility>
+
+#include <sqlite3.h>
+
+#include "platform/error.h"
+#include "store/adventure.h"
+#include "store/connection.h"
+
+namespace fabula::store {
+namespace {
+
+/// A change set as the database takes it. It never writes through the pointer.
+struct Bytes {
+    int size;
+    void* data;
+};
+
+Bytes BytesOf(std::string_view changes) {
+    return {static_cast<int>(changes.size()), const_cast<char*>(changes.data())};
+}
+
+void Check(int result, const char* doing) {
+    if (result == SQLITE_NOMEM) throw std::bad_alloc();
+    if (result != SQLITE_OK) {
+        throw Error(std::string("Could not ") + doing + ": " + sqlite3_errstr(result) + ".");
+    }
+}
+
+struct BufferCloser {
+    void operator()(void* buffer) const { sqlite3_free(buffer); }
+};
+using Buffer = std::unique_ptr<void, BufferCloser>;
+
+std::string Inverted(std::string_view changes) {
+    const Bytes bytes = BytesOf(changes);
+    int size = 0;
+    void* data = nullptr;
+    const int result = sqlite3changeset_invert(bytes.size, bytes.data, &size, &data);
+    const Buffer buffer(data);
+    Check(result, "turn a change round");
+    return std::string(static_cast<const char*>(data), static_cast<std::size_t>(size));
+}
+
+int RefuseConflict(void*, int, sqlite3_changeset_iter*) {
+    return SQLITE_CHANGESET_ABORT;
+}
+
+}  // namespace
+
+struct ChangeRecorder::Session {
+    ~Session() { sqlite3session_delete(session); }
+    sqlite3_session* session = nullptr;
+};
+
+ChangeRecorder::ChangeRecorder(Adventure& adventure) : session_(std::make_unique<Session>()) {
+    Check(sqlite3session_create(adventure.connection_->Handle(), "main", &session_->session),
+          "record changes");
+    Check(sqlite3session_attach(session_->session, nullptr), "record changes");
+}
+
+ChangeRecorder::~ChangeRecorder() = default;
+
+std::string ChangeRecorder::Changes() const {
+    int size = 0;
+    void* data = nullptr;
+    const int result = sqlite3session_changeset(session_->session, &size, &data);
+    const Buffer buffer(data);
+    Check(result, "record changes");
+    if (size == 0) return {};
+    return std::string(static_cast<const char*>(data), static_cast<std::size_t>(size));
+}
+
+void DoAgain(Adventure& adventure, std::string_view changes) {
+    Transaction transaction(adventure);
+    const Bytes bytes = BytesOf(changes);
+    const int result = sqlite3changeset_apply(adventure.connection_->Handle(), bytes.size, bytes.data,
+                                              nullptr, RefuseConflict, nullptr);
+    if (result == SQLITE_ABORT) {
+        throw Error("Could not change the records: they are no longer as they were.");
+    }
+    Check(result, "change the records");
+    transaction.Commit();
+}
+
+void TakeBack(Adventure& adventure, std::string_view changes) {
+    DoAgain(adventure, Inverted(changes));
+}
+
+std::set<TableNum> TablesOf(std::string_view changes) {
+    std::set<TableNum> tables;
+    if (changes.empty()) return tables;
+    const Bytes bytes = BytesOf(changes);
+    sqlite3_changeset_iter* iterator = nullptr;
+    Check(sqlite3changeset_start(&iterator, bytes.size, bytes.data), "read a change");
+    while (sqlite3changeset_next(iterator) == SQLITE_ROW) {
+        const char* name = nullptr;
+        int columns = 0;
+        int operation = 0;
+        sqlite3changeset_op(iterator, &name, &columns, &operation, nullptr);
+        if (const TableEntry* table = FindTable(std::string_view(name))) tables.insert(table->number);
+    }
+    Check(sqlite3changeset_finalize(iterator), "read a change");
+    return tables;
+}
+
+}  // namespace fabula::store

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "store/table_catalogue.h"
+
+namespace fabula::store {
+
+class Adventure;
+
+/// Records what happens to the records of all tables, to be taken back or done again. It records from its
+/// making to its end; recorders may overlap.
+class ChangeRecorder {
+  public:
+    explicit ChangeRecorder(Adventure& adventure);
+    ChangeRecorder(const ChangeRecorder&) = delete;
+    ChangeRecorder& operator=(const ChangeRecorder&) = delete;
+    ~ChangeRecorder();
+
+    /// The change set of what happened so far: bytes for the functions below, "" when nothing changed in
+    /// the end. What was rolled back is not part of it.
+    std::string Changes() const;
+
+  private:
+    struct Session;
+    std::unique_ptr<Session> session_;
+};
+
+// Both run as one transaction. They fit a file in which the records concerned stand as the change set left
+// them (found them, for DoAgain); another one is left as it is, and fabula::Error says that it does not
+// fit.
+
+/// Takes the changes back.
+void TakeBack(Adventure& adventure, std::string_view changes);
+/// Makes the changes again.
+void DoAgain(Adventure& adventure, std::string_view changes);
+
+/// The tables whose records a change set touches.
+std::set<TableNum> TablesOf(std::string_view changes);
+
+}  // namespace fabula::store
