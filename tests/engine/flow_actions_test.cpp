@@ -82,6 +82,14 @@ TEST(Process, OfANumberAboveTheTopReturnsAtOnce) {
     EXPECT_EQ(GameBuilder().Do("PROCESS 99 SET 200")->Flag(200), 255);
 }
 
+TEST(DoCondActs, EnteredAtAnEntryPastItsLastDoesNothing) {
+    const auto run = GameBuilder().Entry(0, "DO", "_", "SET 200").Start();
+    engine::CondActRunner& runner = run->engine.Running()->runner;
+    runner.DoCondActs(0, 1, 4);
+    EXPECT_TRUE(runner.Run());
+    EXPECT_EQ(run->Flag(200), 0);
+}
+
 TEST(Process, MayBeNested200Deep) {
     GameBuilder game;
     game.Entry(0, "DO", "_", "PROCESS 3").Entry(3, "_", "_", "PLUS 200 1 LT 200 200 PROCESS 3");
