@@ -1,8 +1,8 @@
 #include "engine/condact_runner.h"
 
 #include "engine/condact_table.h"
-#include "engine/flow_actions.h"
 #include "engine/game.h"
+#include "engine/sound_actions.h"
 
 namespace fabula::engine {
 

@@ -7,8 +7,9 @@
 #include "engine/flow_actions.h"
 #include "engine/location_actions.h"
 #include "engine/object_actions.h"
-#include "engine/parser.h"
 #include "engine/print_actions.h"
+#include "engine/sound_actions.h"
+#include "engine/speech.h"
 #include "engine/state_actions.h"
 
 namespace fabula::engine {

@@ -1,0 +1,132 @@
+#include "engine/sound_actions.h"
+
+#include <cmath>
+
+#include "engine/flag_actions.h"
+#include "engine/game.h"
+#include "engine/print_actions.h"
+#include "engine/state_actions.h"
+
+namespace fabula::engine {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+milliseconds PauseLength(int value) {
+    return milliseconds(value > 0 ? value * 20 : 0);
+}
+
+/// Half tones from the middle C of the channel; a half goes to the even note.
+int NoteOf(int pitch) {
+    return static_cast<int>(std::nearbyint(pitch / 2.0 - 60));
+}
+
+constexpr int kSeriesDuration = 5;
+constexpr int kRepeatedPitch = 120;
+constexpr int kLowestPitch = 100;
+
+bool PlaySeries(Game& game) {
+    game.host.sound.SetVoice(game.data.soundSettings.voice);
+    PlayTones(game);
+    return true;
+}
+
+bool RisingTones(Game& game, int value) {
+    for (int i = 0; i <= value; ++i)
+        game.tones.push_back({kSeriesDuration, kLowestPitch + i});
+    return PlaySeries(game);
+}
+
+bool FallingTones(Game& game, int value) {
+    for (int i = value; i >= 0; --i)
+        game.tones.push_back({kSeriesDuration, kLowestPitch + i});
+    return PlaySeries(game);
+}
+
+bool RepeatedTones(Game& game, int value) {
+    for (int i = 0; i < value; ++i)
+        game.tones.push_back({kSeriesDuration, kRepeatedPitch});
+    return PlaySeries(game);
+}
+
+bool RestartGame(Game& game) {
+    game.restart = true;
+    game.done = true;
+    game.SetFlag(flag::kEnded, kSet);
+    return true;
+}
+
+/// What PAUSE does in "marlo" while flag 28 holds 1 to 21.
+bool PauseFunction(Game& game, int function, int value) {
+    constexpr int kRamSaveValue = 50;
+    switch (function) {
+        case 1:
+            return RisingTones(game, value);
+        case 3:
+            return FallingTones(game, value);
+        case 2:
+        case 5:
+        case 6:
+            return RepeatedTones(game, value);
+        case 7:
+        case 8:
+            return CharSet(game, value, 0);
+        case 11:
+            return Let(game, flag::kPauseFunction, value);
+        case 12:
+        case 13:
+            return RestartGame(game);
+        case 14:
+            return Plus(game, flag::kPauseFunction, value);
+        case 15:
+            return Minus(game, flag::kMaxObjects, value);
+        case 19:
+            return Graphic(game, value, 0);
+        case 21:
+            return value == kRamSaveValue ? RamSave(game, 0, 0) : RamLoad(game, value, 0);
+        default:
+            return true;  // 4, 9, 10, 16, 17, 18 and 20 have no effect here
+    }
+}
+
+}  // namespace
+
+bool Pause(Game& game, int value, int) {
+    constexpr int kHighestFunction = 21;
+    const int function = game.IsMarlo() ? game.Flag(flag::kPauseFunction) : 0;
+    if (function >= 1 && function <= kHighestFunction) {
+        PauseFunction(game, function, value);
+        return Clear(game, flag::kPauseFunction, 0);
+    }
+    game.runner.Wait(PauseLength(value));
+    return true;
+}
+
+bool Beep(Game& game, int duration, int pitch) {
+    game.tones.push_back({duration, pitch});
+    PlayTones(game);
+    return true;
+}
+
+bool Sound(Game& game, int voice, int) {
+    game.host.sound.SetVoice(voice);
+    return true;
+}
+
+bool PlayTones(Game& game) {
+    while (!game.tones.empty()) {
+        const Tone tone = game.tones.front();
+        game.tones.pop_front();
+        const milliseconds length(tone.duration > 0 ? tone.duration * 10 : 0);
+        const bool sounds = game.session.soundOn && game.host.sound.PlayTone(NoteOf(tone.pitch), length);
+        const milliseconds wait =
+            (sounds ? length : milliseconds(0)) + PauseLength(game.Flag(flag::kBeepPause));
+        if (wait.count() == 0) continue;
+        game.runner.Wait(wait);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace fabula::engine

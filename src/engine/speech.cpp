@@ -1,0 +1,64 @@
+#include "engine/speech.h"
+
+#include <algorithm>
+
+#include "engine/game.h"
+#include "engine/parser.h"
+
+namespace fabula::engine {
+
+namespace {
+
+struct StoredFlag {
+    int flag;
+    int store;
+};
+
+/// The words of the player's own sentence, while PARSE reads what was said.
+constexpr StoredFlag kStoredFlags[] = {{flag::kVerb, 1006},        {flag::kAdverb, 1007},
+                                       {flag::kNoun, 1008},        {flag::kAdjective, 1009},
+                                       {flag::kPronounNoun, 1010}, {flag::kPronounAdjective, 1011}};
+
+/// Cuts the speech out of the pending line: what stands between the first double quote and the next, or the
+/// end. `begin` is where it stood.
+std::string CutSpeech(std::string& command, std::size_t& begin) {
+    const std::size_t open = command.find(kQuote);
+    if (open == std::string::npos) return {};
+    begin = open + 1;
+    const std::size_t close = std::min(command.find(kQuote, begin), command.size());
+    std::string speech = command.substr(begin, close - begin);
+    command.erase(begin, close - begin);
+    return speech;
+}
+
+void TraceSpeech(Game& game) {
+    if (!game.trace.On()) return;
+    game.trace.Line("Processing parse sentence (abverb verb adjective noun prep " + SentenceWords(game) +
+                    ")");
+    game.trace.Line("Continuing:");
+}
+
+}  // namespace
+
+bool Parse(Game& game, int, int) {
+    for (const StoredFlag& stored : kStoredFlags) {
+        if (game.Flag(stored.store) == 0) game.SetFlag(stored.store, game.Flag(stored.flag));
+    }
+    std::size_t begin = 0;
+    std::string speech = CutSpeech(game.command, begin);
+    const bool parsed = ParsePhrase(game, speech);
+    TraceSpeech(game);
+    if (!speech.empty()) {
+        game.command.insert(begin, speech);  // further sentences were said: they wait for the next PARSE
+    } else {
+        std::erase(game.command, kQuote);
+        if (game.command.starts_with(kSentenceEnd)) game.command.erase(0, 1);
+    }
+    for (const StoredFlag& stored : kStoredFlags) {
+        if (!parsed && game.Flag(stored.store) != 0) game.SetFlag(stored.flag, game.Flag(stored.store));
+        game.SetFlag(stored.store, 0);
+    }
+    return !parsed;
+}
+
+}  // namespace fabula::engine
