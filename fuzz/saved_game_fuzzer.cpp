@@ -26,10 +26,11 @@ class GameHarness {
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
         const auto data = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
-        store::CreateAdventure(true, folder_ / "game.fbd", store::frmSetup(), {person_, clock, events, data});
+        store::CreateAdventure(true, folder_ / "game.fbd", store::frmSetup(),
+                               {person_, clock, events, data});
         adventure_ = store::Adventure::Open(folder_ / "game.fbd", store::OpenMode::ReadOnly);
-        engine_ = std::make_unique<engine::Engine>(*adventure_,
-                                                   engine::Host{window_, person_, random_, sound_, nullptr});
+        engine_ = std::make_unique<engine::Engine>(
+            *adventure_, engine::Host{window_, person_, random_, sound_, nullptr});
     }
     ~GameHarness() { std::filesystem::remove_all(folder_); }
 
