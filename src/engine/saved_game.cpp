@@ -100,12 +100,7 @@ void WriteSavedGame(const std::filesystem::path& file, const GameData& data, Run
         }
         content += '\n';
     }
-    const store::TemporaryFile temporary(store::TemporaryBeside(file));
-    std::ofstream stream(temporary.Path(), std::ios::binary);
-    stream << content;
-    stream.close();
-    if (!stream) throw Error("Could not write the saved game " + file.string() + ".");
-    store::MoveIntoPlace(temporary.Path(), file);
+    store::WriteFile(file, content);
 }
 
 bool ReadSavedGame(const std::filesystem::path& file, const GameData& data, RunState& state) {

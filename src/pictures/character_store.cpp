@@ -9,9 +9,9 @@
 #include "pictures/character_file.h"
 #include "pictures/character_sets.h"
 #include "pictures/drawstring.h"
-#include "pictures/write_file.h"
 #include "platform/error.h"
 #include "store/adventure.h"
+#include "store/file_copy.h"
 #include "text/str_edit.h"
 #include "text/windows1252.h"
 
@@ -38,7 +38,7 @@ void WriteText(const std::filesystem::path& file, const std::string& text) {
         throw Error("Could not write " + file.string() +
                     ": the name of a character set has a letter that such a file can't hold.");
     }
-    WriteFile(file, converted.bytes);
+    store::WriteFile(file, converted.bytes);
 }
 
 /// The sets of a file; of one of another kind none, which the person is told.

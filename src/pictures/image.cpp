@@ -4,8 +4,8 @@
 
 #include <png.h>
 
-#include "pictures/write_file.h"
 #include "platform/error.h"
+#include "store/file_copy.h"
 #include "text/utf8.h"
 
 namespace fabula::pictures {
@@ -109,7 +109,7 @@ void WriteImage(const std::filesystem::path& file, const Image& image) {
     if (extension != ".bmp" && extension != ".png") {
         throw Error("Could not write " + file.string() + ": a picture's name ends in .bmp or .png.");
     }
-    WriteFile(file, extension == ".bmp" ? EncodeBmp(image) : EncodePng(image));
+    store::WriteFile(file, extension == ".bmp" ? EncodeBmp(image) : EncodePng(image));
 }
 
 }  // namespace fabula::pictures

@@ -1,6 +1,7 @@
 #include "store/file_copy.h"
 
 #include <cerrno>
+#include <fstream>
 #include <string>
 #include <system_error>
 
@@ -72,6 +73,15 @@ void MoveIntoPlace(const std::filesystem::path& finished, const std::filesystem:
     UseUpJournal(target);
     if (rename(finished.c_str(), target.c_str()) != 0) Fail(target, errno);
     Flush(FolderOf(target), target);
+}
+
+void WriteFile(const std::filesystem::path& file, std::string_view bytes) {
+    const TemporaryFile temporary(TemporaryBeside(file));
+    std::ofstream stream(temporary.Path(), std::ios::binary);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    if (!stream) throw Error("Could not write " + file.string() + ".");
+    MoveIntoPlace(temporary.Path(), file);
 }
 
 TemporaryFile::~TemporaryFile() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 namespace fabula::store {
 
@@ -16,6 +17,10 @@ std::filesystem::path TemporaryBeside(const std::filesystem::path& target);
 /// this returns. A journal that was left beside `target` is used up first, as it would spoil the new file.
 /// Throws fabula::Error; `target` is then as it was.
 void MoveIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& target);
+
+/// Writes a file whole: one that is there already is replaced when the new one is complete. Throws
+/// fabula::Error and leaves it as it was.
+void WriteFile(const std::filesystem::path& file, std::string_view bytes);
 
 /// Deletes a file in the making, with its journal, unless it was moved into place.
 class TemporaryFile {
