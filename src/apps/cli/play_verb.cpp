@@ -53,7 +53,7 @@ int Play(const Options& options) {
     const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
     const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
     std::ofstream transcriptStream;
-    std::optional<terminal::Transcript> transcript;
+    std::optional<engine::Transcript> transcript;
     if (!options.transcript.empty()) {
         transcriptStream.open(options.transcript, std::ios::binary);
         if (!transcriptStream) throw Error("Could not write " + options.transcript + ".");

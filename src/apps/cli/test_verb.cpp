@@ -26,7 +26,7 @@ std::string PlayScript(const Options& options) {
     terminal::LineReader script{std::filesystem::path(options.script)};
     const terminal::ScratchFiles files(std::filesystem::path(options.script).parent_path());
     std::ostringstream played;
-    terminal::Transcript transcript(played);
+    engine::Transcript transcript(played);
     terminal::Output nowhere(terminal::Output::kNowhere);
     terminal::Screen screen({}, nowhere, script, &transcript);
     terminal::TerminalWindow window(screen, files);

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "player/plain_characters.h"
+#include "text/safe_text.h"
 #include "text/utf8.h"
 
 namespace fabula::player {
@@ -98,7 +98,8 @@ std::string CharacterScreen::Text(std::size_t first) const {
         for (const Cell& cell : rows_[row])
             codes += cell.code;
         codes.erase(codes.find_last_not_of(U' ') + 1);
-        text += PlainCharacters(text::Encode(codes)) + '\n';
+        text::AppendCharacters(text::Encode(codes), text);
+        text += '\n';
     }
     return text;
 }

@@ -10,11 +10,11 @@
 #include "player/character_pane.h"
 #include "player/game_pictures.h"
 #include "player/picture_pane.h"
-#include "player/plain_characters.h"
 #include "player/session.h"
 #include "player/text_pane.h"
 #include "qt/strings.h"
 #include "text/colours.h"
+#include "text/safe_text.h"
 #include "text/utf8.h"
 
 namespace fabula::player {
@@ -140,7 +140,13 @@ int GameScreen::CharacterAdvance() const {
 }
 
 std::string GameScreen::Shown(std::string_view run) const {
-    return game_.characterSets ? PlainCharacters(run) : PlainText(run);
+    std::string shown;
+    if (game_.characterSets) {
+        text::AppendCharacters(run, shown);
+    } else {
+        text::AppendSafe(run, shown);
+    }
+    return shown;
 }
 
 void GameScreen::Write(std::string_view run, const engine::TextStyle& style, engine::TextRole role) {
@@ -152,7 +158,7 @@ void GameScreen::Write(std::string_view run, const engine::TextStyle& style, eng
 
 void GameScreen::WriteUnwrapped(const std::string& shown, const engine::TextStyle& style,
                                 engine::TextRole role) {
-    if (role == engine::TextRole::Game) transcript_.Write(shown);
+    if (transcript_.IsOpen() && role == engine::TextRole::Game) transcript_.Lines()->Write(shown);
     const QString family = game_.characterSets ? QString() : qt::ToQt(session_->FontName(style.font));
     text_->Write(qt::ToQt(shown), style, family);
 }
@@ -165,12 +171,12 @@ void GameScreen::EndLine(engine::LineEnd kind) {
         if (blankBreak) WriteUnwrapped(" ", style_, engine::TextRole::Game);
         return;
     }
-    transcript_.EndLine();
+    if (transcript_.IsOpen()) transcript_.Lines()->EndLine();
     text_->EndLine();
 }
 
 void GameScreen::Clear(int paper, int ink) {
-    transcript_.NewPage();
+    if (transcript_.IsOpen()) transcript_.Lines()->NewPage();
     text_->ClearPage(paper, ink);
     if (game_.characterSets) characters_->Screen().Clear(paper, ink);
 }
@@ -184,7 +190,7 @@ void GameScreen::ShowInput(std::string_view typed, std::string_view cursor) {
 void GameScreen::EndInput(std::string_view typed) {
     typed_.clear();
     history_.Add(typed);
-    transcript_.Typed(Shown(typed));
+    if (transcript_.IsOpen()) transcript_.Lines()->Typed(Shown(typed));
     text_->EndInput(qt::ToQt(Shown(typed)));
     if (game_.characterSets) characters_->Screen().EndInput(typed);
     turnMade_ = true;

@@ -11,7 +11,7 @@
 #include "player/history.h"
 #include "player/pane_keys.h"
 #include "player/text_colours.h"
-#include "player/transcript.h"
+#include "player/transcript_file.h"
 
 class QSplitter;
 class QStackedWidget;
@@ -55,7 +55,7 @@ class GameScreen final : public QWidget, public engine::GameWindow {
 
     void SetLook(const ScreenLook& look);
     /// The transcript, to be opened and closed.
-    player::Transcript& Transcript() { return transcript_; }
+    TranscriptFile& Transcript() { return transcript_; }
 
     /// Gives the keyboard to the pane that takes it.
     void FocusInput();
@@ -101,7 +101,7 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     ScreenEvents events_;
     Session* session_ = nullptr;
     std::unique_ptr<GamePictures> pictures_;
-    player::Transcript transcript_;
+    TranscriptFile transcript_;
     History history_;
     engine::GameLook game_;
     ScreenLook look_;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "terminal/safe_text.h"
+#include "text/safe_text.h"
 #include "text/utf8.h"
 
 namespace fabula::terminal {
@@ -27,7 +27,7 @@ void LineWrapper::Write(std::string_view text, const Attributes& look) {
         if (width_ == 0) {
             text::AppendCodePoint(text_, Shown(point.value));
         } else {
-            Add({point.value, DisplayWidth(point.value), attributes_ ? look : Attributes{}});
+            Add({point.value, text::DisplayWidth(point.value), attributes_ ? look : Attributes{}});
         }
     }
     if (width_ == 0) Show();

@@ -4,8 +4,8 @@
 
 #include "engine/game_window.h"
 #include "platform/error.h"
-#include "terminal/safe_text.h"
 #include "terminal/tty.h"
+#include "text/safe_text.h"
 #include "text/str_edit.h"
 
 namespace fabula::terminal {
@@ -16,7 +16,7 @@ constexpr std::string_view kClearScreen = "\x1B[H\x1B[2J";
 
 }  // namespace
 
-Screen::Screen(const ScreenStyle& style, Output& output, LineSource& source, Transcript* transcript)
+Screen::Screen(const ScreenStyle& style, Output& output, LineSource& source, engine::Transcript* transcript)
     : style_(style),
       output_(output),
       source_(source),
@@ -34,13 +34,13 @@ void Screen::TakeWidth() {
 
 void Screen::Write(std::string_view text, const Attributes& look) {
     safe_.clear();
-    AppendSafe(text, safe_);
+    text::AppendSafe(text, safe_);
     WriteSafe(look);
 }
 
 void Screen::WriteCharacters(std::string_view codes, const Attributes& look) {
     safe_.clear();
-    AppendCharacters(codes, safe_);
+    text::AppendCharacters(codes, safe_);
     WriteSafe(look);
 }
 
@@ -52,7 +52,7 @@ void Screen::WriteSafe(const Attributes& look) {
 void Screen::WritePrompt(std::string_view text, const Attributes& look) {
     if (!style_.interactive) return;
     safe_.clear();
-    AppendSafe(text, safe_);
+    text::AppendSafe(text, safe_);
     wrapper_.Write(safe_, look);
 }
 
@@ -70,9 +70,7 @@ void Screen::Clear() {
         if (!wrapper_.AtLineStart()) wrapper_.EndLine();
         wrapper_.EndLine();
     }
-    if (!transcript_) return;
-    if (!transcript_->AtLineStart()) transcript_->EndLine();
-    transcript_->EndLine();
+    if (transcript_) transcript_->NewPage();
 }
 
 void Screen::Say(std::string_view text) {
@@ -118,7 +116,7 @@ void Screen::Played(std::string_view line) {
 void Screen::ShowTyped(std::string_view line) {
     safe_ = prompt_;
     std::erase(safe_, kPromptMark);
-    AppendSafe(line, safe_);
+    text::AppendSafe(line, safe_);
     safe_ += '\n';
     output_.Write(safe_);
 }
@@ -126,7 +124,7 @@ void Screen::ShowTyped(std::string_view line) {
 void Screen::Record(std::string_view line) {
     if (!transcript_) return;
     safe_.clear();
-    AppendSafe(line, safe_);
+    text::AppendSafe(line, safe_);
     transcript_->Typed(safe_);
 }
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "engine/transcript.h"
 #include "terminal/attributes.h"
 #include "terminal/line_source.h"
 #include "terminal/line_wrapper.h"
 #include "terminal/output.h"
-#include "terminal/transcript.h"
 
 namespace fabula::terminal {
 
@@ -27,7 +27,7 @@ struct ScreenStyle {
 /// anything; they are made safe here.
 class Screen {
   public:
-    Screen(const ScreenStyle& style, Output& output, LineSource& source, Transcript* transcript);
+    Screen(const ScreenStyle& style, Output& output, LineSource& source, engine::Transcript* transcript);
 
     bool IsInteractive() const { return style_.interactive; }
 
@@ -65,7 +65,7 @@ class Screen {
     ScreenStyle style_;
     Output& output_;
     LineSource& source_;
-    Transcript* transcript_;
+    engine::Transcript* transcript_;
     LineWrapper wrapper_;
     std::string prompt_;
     std::string safe_;

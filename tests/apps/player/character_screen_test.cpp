@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "player/plain_characters.h"
-
 namespace fabula::player {
 namespace {
 
@@ -148,15 +146,6 @@ TEST(CharacterScreen, LineThatCameWholeIsWrittenToo) {
     screen.Write("B", {});
     screen.EndInput("A");
     EXPECT_EQ(screen.Text(), "BA\n\n");
-}
-
-TEST(PlainCharacters, AreThePoundTheCopyrightSignAndBlocks) {
-    EXPECT_EQ(PlainCharacters("a`\x7F"), "a£©");
-    EXPECT_EQ(PlainCharacters("\u0080\u0081\u0083\u008F\u0090\u00A4"), " ▝▀█□□");
-}
-
-TEST(PlainText, HoldsNothingThatSteersAWidget) {
-    EXPECT_EQ(PlainText("a\tb\x1B\n\u2029é\xFF"), "a b���é�");
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include "platform/recent_files.h"
 #include "player/game_folder.h"
 #include "player/player_settings.h"
-#include "player/transcript.h"
+#include "player/transcript_file.h"
 #include "qt/strings.h"
 #include "support/temp_folder.h"
 
@@ -45,55 +45,28 @@ std::string Contents(const std::filesystem::path& file) {
     return text.str();
 }
 
-TEST(Transcript, TypedLinesStandBehindAMarkAtTheHeadOfTheirLine) {
+TEST(TranscriptFile, IsWrittenWhileItIsOpen) {
     const test::TempFolder folder;
-    Transcript transcript;
+    TranscriptFile transcript;
+    EXPECT_EQ(transcript.Lines(), nullptr);
     transcript.Open(folder / "t.txt");
-    transcript.Write("What now?");
-    transcript.Typed("NORTH");
-    transcript.Write("A ");
-    transcript.Write("moor.");
-    transcript.EndLine();
-    transcript.Typed("SOUTH");
+    transcript.Lines()->Typed("NORTH");
     EXPECT_EQ(transcript.Flush(), std::nullopt);
-    EXPECT_EQ(Contents(folder / "t.txt"), "What now?\n>NORTH\nA moor.\n>SOUTH\n");
-}
-
-TEST(Transcript, ClearedPaneIsAnEmptyLineButNotAtTheBeginning) {
-    const test::TempFolder folder;
-    Transcript transcript;
-    transcript.Open(folder / "t.txt");
-    transcript.NewPage();
-    transcript.Write("One.");
-    transcript.NewPage();
-    transcript.Write("Two.");
-    transcript.EndLine();
-    transcript.NewPage();
-    transcript.Write("Three.");
+    EXPECT_EQ(Contents(folder / "t.txt"), ">NORTH\n");
     transcript.Close();
-    EXPECT_EQ(Contents(folder / "t.txt"), "One.\n\nTwo.\n\nThree.");
+    EXPECT_EQ(transcript.Lines(), nullptr);
 }
 
-TEST(Transcript, WritesNothingWhileItIsClosed) {
-    const test::TempFolder folder;
-    Transcript transcript;
-    transcript.Write("lost");
-    transcript.Open(folder / "t.txt");
-    transcript.Close();
-    transcript.Typed("LOST");
-    EXPECT_EQ(Contents(folder / "t.txt"), "");
-}
-
-TEST(Transcript, FileThatCanNotBeMadeIsAnError) {
-    Transcript transcript;
+TEST(TranscriptFile, FileThatCanNotBeMadeIsAnError) {
+    TranscriptFile transcript;
     EXPECT_THROW(transcript.Open("/no/such/folder/t.txt"), Error);
     EXPECT_FALSE(transcript.IsOpen());
 }
 
-TEST(Transcript, FullDiskIsToldOnceAndClosesIt) {
-    Transcript transcript;
+TEST(TranscriptFile, FullDiskIsToldOnceAndClosesIt) {
+    TranscriptFile transcript;
     transcript.Open("/dev/full");
-    transcript.Typed("NORTH");
+    transcript.Lines()->Typed("NORTH");
     EXPECT_EQ(transcript.Flush(), "Could not write the transcript /dev/full. It is closed.");
     EXPECT_FALSE(transcript.IsOpen());
     EXPECT_EQ(transcript.Flush(), std::nullopt);

@@ -1,8 +1,8 @@
-#include "terminal/safe_text.h"
+#include "text/safe_text.h"
 
 #include <gtest/gtest.h>
 
-namespace fabula::terminal {
+namespace fabula::text {
 namespace {
 
 std::string Safe(std::string_view text) {
@@ -73,4 +73,4 @@ TEST(SafeText, WidthsAreColumns) {
 }
 
 }  // namespace
-}  // namespace fabula::terminal
+}  // namespace fabula::text

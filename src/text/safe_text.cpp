@@ -1,4 +1,4 @@
-#include "terminal/safe_text.h"
+#include "text/safe_text.h"
 
 #include <algorithm>
 
@@ -6,7 +6,7 @@
 
 #include "text/utf8.h"
 
-namespace fabula::terminal {
+namespace fabula::text {
 namespace {
 
 constexpr char32_t kUnshowable = U'\uFFFD';
@@ -30,7 +30,7 @@ char32_t Safe(char32_t point) {
     if (point == '\t') return ' ';
     const bool control = point < 0x20 || (point >= 0x7F && point < 0xA0);
     const bool separator = point == kLineSeparator || point == kParagraphSeparator;
-    return control || separator || point >= text::kBadByte ? kUnshowable : point;
+    return control || separator || point >= kBadByte ? kUnshowable : point;
 }
 
 char32_t OfCharacterSet(char32_t code) {
@@ -44,8 +44,8 @@ char32_t OfCharacterSet(char32_t code) {
 template <typename Change>
 void AppendEach(std::string_view text, std::string& shown, Change change) {
     for (std::size_t at = 0; at < text.size();) {
-        const text::CodePoint point = text::DecodeAt(text, at);
-        text::AppendCodePoint(shown, change(point.value));
+        const CodePoint point = DecodeAt(text, at);
+        AppendCodePoint(shown, change(point.value));
         at += point.size;
     }
 }
@@ -69,4 +69,4 @@ int DisplayWidth(char32_t character) {
     return utf8proc_charwidth(static_cast<utf8proc_int32_t>(character));
 }
 
-}  // namespace fabula::terminal
+}  // namespace fabula::text

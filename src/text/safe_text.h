@@ -3,10 +3,11 @@
 #include <string>
 #include <string_view>
 
-namespace fabula::terminal {
+namespace fabula::text {
 
-// Game texts come from strangers, and a terminal obeys what it is sent. Nothing that it would obey goes on
-// from here: a control character or a byte that is no UTF-8 becomes U+FFFD, a tab a blank.
+// Game texts come from strangers, and terminals and widgets obey what they are sent. Nothing that they
+// would obey goes on from here: a control character, a separator of lines or a byte that is no UTF-8
+// becomes U+FFFD, a tab a blank.
 
 /// The sign for what can't be shown: a user-defined character of a character set.
 inline constexpr char32_t kPlaceholder = U'\u25A1';
@@ -22,4 +23,4 @@ void AppendCharacters(std::string_view codes, std::string& shown);
 /// The columns that a character takes in a terminal: 0 to 2.
 int DisplayWidth(char32_t character);
 
-}  // namespace fabula::terminal
+}  // namespace fabula::text

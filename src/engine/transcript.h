@@ -3,18 +3,20 @@
 #include <ostream>
 #include <string_view>
 
-namespace fabula::terminal {
+namespace fabula::engine {
 
 /// Everything that is shown and typed, as it happens and unbroken: lines end where the game ends them. What
 /// was typed stands behind a ">" at the head of its line, also where the game shows no prompt.
 ///
-/// It reaches the stream's file whenever something was typed. Texts must be safe (safe_text.h).
+/// It reaches the stream's file whenever something was typed. Texts must be safe (text/safe_text.h).
 class Transcript {
   public:
     explicit Transcript(std::ostream& stream) : stream_(stream) {}
 
     void Write(std::string_view text);
     void EndLine();
+    /// The game has cleared its pane: an empty line parts what comes from what was, if anything was.
+    void NewPage();
     void Typed(std::string_view line);
 
     bool AtLineStart() const { return atLineStart_; }
@@ -22,7 +24,8 @@ class Transcript {
 
   private:
     std::ostream& stream_;
+    bool used_ = false;
     bool atLineStart_ = true;
 };
 
-}  // namespace fabula::terminal
+}  // namespace fabula::engine
