@@ -1,0 +1,74 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "authoring/session.h"
+#include "store/table_catalogue.h"
+
+namespace fabula::authoring {
+
+/// The screens that edit one record.
+enum class Screen {
+    Location,      ///< frmVelLocation
+    Object,        ///< frmVelObjects
+    Word,          ///< frmVelVocabulary
+    Text,          ///< frmBothMessages: a message, a system message, the description of a process table
+    Flag,          ///< frmFlags
+    ProcessEntry,  ///< frmVelCondAct
+    Settings,      ///< frmVelAdvSettings
+};
+
+/// What the settings said when their screen was opened.
+struct SettingsBefore {
+    bool charSets = false;
+    bool graphicsInDb = false;
+};
+
+/// A screen that the window is to open, and what `Entries::AfterScreen` needs when it has closed.
+struct ScreenRequest {
+    Screen screen = Screen::Location;
+    ScreenKey key;
+    store::TableNum table = store::TableNum::Locations;  ///< whose record it is
+    std::optional<int> before;  ///< of a process entry: the key of the one that the new one goes before
+    SettingsBefore settings;
+};
+
+/// The commands on the entries of a table.
+enum class EntryCommand { Add, AddBefore, Edit, Delete };
+
+/// Why a command on a table is switched off although the table allows it: one sentence, for the editors
+/// that this version does not have. "" for all others.
+std::string_view MissingEditor(store::TableNum table, EntryCommand command);
+
+/// Add entry, Add entry before, Edit entry and Delete entry, on the table and the record that the session
+/// stands on (`currentTable`, `currentEntry`, `currentESNum`). They number new records, keep the limits of
+/// the adventure's type, and do to the other tables what a deletion asks for. Questions, refusals and
+/// reports go through the session's dialogs; what is refused changes nothing. Each command is one step of
+/// Undo, the work of its screen included.
+///
+/// What they change stands in the tables only: afterwards open the grid's cursor again. They keep
+/// `nextEntry` and `nextWord` right and never move `currentEntry`.
+class Entries {
+  public:
+    explicit Entries(Session& session) : session_(session) {}
+
+    /// The screen to open, or nullopt: refused, or there is nothing more to do (flags and character sets
+    /// are added without a screen).
+    std::optional<ScreenRequest> AddEntry();
+    /// The same for a process entry that is to stand before the current one. For other tables nullopt.
+    std::optional<ScreenRequest> AddEntryBefore();
+    std::optional<ScreenRequest> EditEntry();
+
+    /// To be called when a screen has closed, whether it stored something or not. False when the program
+    /// has to end, since character sets were switched; the author has been told.
+    bool AfterScreen(const ScreenRequest& request);
+
+    /// Asks first. True when the record is gone.
+    bool DeleteEntry();
+
+  private:
+    Session& session_;
+};
+
+}  // namespace fabula::authoring
