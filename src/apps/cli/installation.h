@@ -4,8 +4,8 @@
 
 namespace fabula::cli {
 
-/// The file of default data: in share/fabula beside the folder that the program lies in.
-/// Throws fabula::Error when it is not there.
+/// The file of default data, beside the program or in one of the data folders.
+/// Throws fabula::Error when it is nowhere.
 std::filesystem::path DefaultDataFile();
 
 }  // namespace fabula::cli
