@@ -1,0 +1,146 @@
+#include "ide/empty_page.h"
+
+#include <QCommandLinkButton>
+#include <QLabel>
+#include <QResizeEvent>
+#include <QVBoxLayout>
+
+#include "ide/icons.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr QSize kIconSize(28, 28);
+/// Letters of the window's font that must fit beside one another before there are two columns.
+constexpr int kLettersOfTwoColumns = 80;
+constexpr int kWidestLetters = 120;
+
+QLabel* Heading(const QString& text, double size) {
+    auto* label = new QLabel(text);
+    QFont font = label->font();
+    font.setPointSizeF(font.pointSizeF() * size);
+    font.setWeight(QFont::DemiBold);
+    label->setFont(font);
+    return label;
+}
+
+QCommandLinkButton* LinkButton(const QString& name, const char* icon, const QString& text,
+                               const QString& about) {
+    auto* button = new QCommandLinkButton(text, about);
+    button->setObjectName(name);
+    button->setIcon(IconOf(icon));
+    button->setIconSize(kIconSize);
+    button->setAccessibleName(QString(text).remove('&'));
+    button->setAccessibleDescription(about);
+    return button;
+}
+
+void Empty(QVBoxLayout& list) {
+    while (QLayoutItem* item = list.takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+}
+
+}  // namespace
+
+EmptyPage::EmptyPage(Actions actions, QWidget* parent) : QScrollArea(parent), actions_(std::move(actions)) {
+    setObjectName("EmptyPage");
+    setAccessibleName(tr("Start"));
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    auto* page = new QWidget;
+    page->setMaximumWidth(fontMetrics().averageCharWidth() * kWidestLetters);
+
+    auto* start = new QVBoxLayout;
+    start->setSpacing(4);
+    const auto add = [&](const char* name, const char* icon, const QString& text, const QString& about,
+                         const std::function<void()>& act) {
+        auto* button = LinkButton(name, icon, text, about);
+        QObject::connect(button, &QCommandLinkButton::clicked, this, [act] { act(); });
+        start->addWidget(button);
+        return button;
+    };
+    start->addWidget(Heading(tr("Start"), 1.2));
+    auto* create =
+        add("cmdNew", "new", tr("&New Adventure"),
+            tr("An empty game with the words and messages that every game needs."), actions_.create);
+    add("cmdOpen", "open", tr("&Open…"), tr("An adventure file that you have."), actions_.open);
+    add("cmdImport", "import", tr("&Import…"), tr("A game from an export file, a source or a listing."),
+        actions_.import);
+    start->addStretch(1);
+    setFocusProxy(create);
+
+    lists_ = new QVBoxLayout;
+    lists_->setSpacing(4);
+    recent_ = AddList(recentTitle_, tr("Recent"));
+    examples_ = AddList(examplesTitle_, tr("Examples"));
+    lists_->addStretch(1);
+
+    columns_ = new QBoxLayout(QBoxLayout::LeftToRight);
+    columns_->setSpacing(32);
+    columns_->addLayout(start, 1);
+    columns_->addLayout(lists_, 1);
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(32, 24, 32, 24);
+    column->setSpacing(4);
+    column->addStretch(1);
+    column->addWidget(Heading("Fabula", 2.4));
+    column->addWidget(new QLabel(tr("Write a text adventure, and play it as you go.")));
+    column->addSpacing(20);
+    column->addLayout(columns_);
+    column->addStretch(2);
+
+    auto* centred = new QWidget;
+    auto* row = new QHBoxLayout(centred);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch(1);
+    row->addWidget(page, 1000);
+    row->addStretch(1);
+    setWidget(centred);
+}
+
+QVBoxLayout* EmptyPage::AddList(QLabel*& title, const QString& text) {
+    title = Heading(text, 1.2);
+    title->hide();
+    lists_->addWidget(title);
+    auto* list = new QVBoxLayout;
+    list->setSpacing(0);
+    lists_->addLayout(list);
+    lists_->addSpacing(16);
+    return list;
+}
+
+void EmptyPage::ShowExamples(const std::vector<Example>& examples) {
+    Empty(*examples_);
+    examplesTitle_->setVisible(!examples.empty());
+    for (const Example& example : examples) {
+        auto* button = LinkButton(QString("Example%1").arg(examples_->count() + 1), "lamp",
+                                  qt::ToQt(example.name), qt::ToQt(example.about));
+        QObject::connect(button, &QCommandLinkButton::clicked, this,
+                         [this, example] { actions_.openExample(example); });
+        examples_->addWidget(button);
+    }
+}
+
+void EmptyPage::ShowRecent(const std::vector<std::filesystem::path>& files) {
+    Empty(*recent_);
+    recentTitle_->setVisible(!files.empty());
+    for (const std::filesystem::path& file : files) {
+        auto* button =
+            LinkButton(QString("Recent%1").arg(recent_->count() + 1), "book",
+                       qt::PathToQt(file.stem()).replace('&', "&&"), qt::PathToQt(file.parent_path()));
+        QObject::connect(button, &QCommandLinkButton::clicked, this,
+                         [this, file] { actions_.openRecent(file); });
+        recent_->addWidget(button);
+    }
+}
+
+void EmptyPage::resizeEvent(QResizeEvent* event) {
+    const bool wide = event->size().width() >= fontMetrics().averageCharWidth() * kLettersOfTwoColumns;
+    columns_->setDirection(wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    QScrollArea::resizeEvent(event);
+}
+
+}  // namespace fabula::ide
