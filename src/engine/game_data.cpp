@@ -6,7 +6,6 @@
 
 #include "condacts/convert.h"
 #include "condacts/load.h"
-#include "engine/shown_text.h"
 #include "platform/error.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -110,7 +109,7 @@ void GameData::ReadSettings(store::Adventure& adventure) {
     if (!row.First({})) Refuse("it has no settings");
     title = std::string(row.Text(0)) + " (Version " + std::string(row.Text(1)) + ")";
     if (const std::string author = Filled(row.Text(2)); !author.empty()) title += " by " + author;
-    saveName = CollapseBlanks(row.Text(3));  // a line of saved games
+    saveName = text::CollapseBlanks(row.Text(3));  // a line of saved games
     startLocation = Number16(row.Number(4), "startloc");
     maxObjects = Number16(row.Number(5), "maxobj");
     maxWeight = Number16(row.Number(6), "maxweight");

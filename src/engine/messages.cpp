@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "engine/game.h"
-#include "engine/shown_text.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -29,7 +28,7 @@ void Say(Game& game, std::string_view text) {
     const auto marks = static_cast<std::size_t>(std::count(text.begin(), text.end(), '_'));
     const int object = game.Flag(flag::kObject);
     if (marks == 0 || object < 0 || object >= game.state.ObjectCount()) return Print(game, text);
-    const std::string description = CollapseBlanks(game.texts.Object(object));
+    const std::string description = text::CollapseBlanks(game.texts.Object(object));
     if (marks * description.size() + text.size() > kLongestText) {
         throw RunFailure("a message with the description of object " + std::to_string(object) +
                          " in it is too long");

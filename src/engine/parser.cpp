@@ -1,7 +1,6 @@
 #include "engine/parser.h"
 
 #include "engine/game.h"
-#include "engine/shown_text.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -212,7 +211,7 @@ bool ParsePhrase(Game& game, std::string& text) {
     if (game.trace.On()) game.trace.Line("Command: " + text);
     BeginSentence(game);
     const std::size_t end = text.find(kSentenceEnd);
-    const std::string collapsed = CollapseBlanks(std::string_view(text).substr(0, end));
+    const std::string collapsed = text::CollapseBlanks(std::string_view(text).substr(0, end));
     const std::string_view sentence = text::TrimBlanks(collapsed);
     if (game.IsMarlo()) {
         ReadWords(game, sentence, MarloReader(game));

@@ -58,23 +58,4 @@ std::string StripTags(std::string_view text) {
     return text::StripTags(text, tags);
 }
 
-std::string CollapseBlanks(std::string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    bool inBlanks = false;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char c = text[at];
-        const bool marker = c == kMarkerLead && IsMarker(text, at);
-        if (marker) ++at;
-        if (!marker && (static_cast<unsigned char>(c) > ' ' && c != kHardSpace)) {
-            result += c;
-            inBlanks = false;
-        } else if (!inBlanks) {
-            result += ' ';
-            inBlanks = true;
-        }
-    }
-    return result;
-}
-
 }  // namespace fabula::engine

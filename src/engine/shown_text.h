@@ -26,8 +26,4 @@ void AppendCharacter(int number, bool characterPane, std::string& shown);
 /// The text without its tags.
 std::string StripTags(std::string_view text);
 
-/// The text with every run of white space, control characters, line-end markers and hard spaces turned into
-/// one blank.
-std::string CollapseBlanks(std::string_view text);
-
 }  // namespace fabula::engine

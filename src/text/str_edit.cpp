@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "text/fields.h"
+#include "text/line_ends.h"
 #include "text/scramble.h"
 #include "text/utf8.h"
 
@@ -97,6 +98,24 @@ std::string CollapseText(std::string_view text) {
     for (const char byte : text)
         if (static_cast<unsigned char>(byte) >= 33 && static_cast<unsigned char>(byte) <= 125)
             result += byte;
+    return result;
+}
+
+std::string CollapseBlanks(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    bool inBlanks = false;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const bool marker = text.substr(at, kLineEndMarker.size()) == kLineEndMarker;
+        if (marker) at += kLineEndMarker.size() - 1;
+        if (!marker && static_cast<unsigned char>(text[at]) > ' ' && text[at] != kHardSpace[0]) {
+            result += text[at];
+            inBlanks = false;
+        } else if (!inBlanks) {
+            result += ' ';
+            inBlanks = true;
+        }
+    }
     return result;
 }
 

@@ -28,6 +28,10 @@ std::string StrEdit(std::string_view text, std::string_view editList, platform::
 /// A blank at either end stays.
 std::string CompressText(std::string_view text);
 
+/// The text with every run of white space, control characters, line-end markers and hard spaces turned into
+/// one blank. Letters beyond ASCII stay, as words of a game need them.
+std::string CollapseBlanks(std::string_view text);
+
 /// The text without every character that is not in the range 33 to 125.
 std::string CollapseText(std::string_view text);
 

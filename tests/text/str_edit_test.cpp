@@ -110,5 +110,15 @@ TEST(StrEdit, AMegabyteIsEdited) {
     EXPECT_EQ(StrEdit(Repeated("é", 500'000), "upcase"), Repeated("É", 500'000));
 }
 
+TEST(CollapseBlanks, EveryRunOfBlanksBecomesOne) {
+    EXPECT_EQ(CollapseBlanks(" a\t b\r\nc\u008C\x7F"
+                             "d "),
+              " a b c d ");
+}
+
+TEST(CollapseBlanks, LettersBeyondAsciiStay) {
+    EXPECT_EQ(CollapseBlanks("T\u00DCR  \u008B"), "T\u00DCR \u008B");
+}
+
 }  // namespace
 }  // namespace fabula::text
