@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 
 #include "qt/game_image.h"
-#include "qt/game_path.h"
 #include "qt/strings.h"
 #include "store/adventure.h"
+#include "store/game_path.h"
 #include "text/line_ends.h"
 
 namespace fabula::player {
@@ -42,8 +42,8 @@ QImage PictureOf(store::Adventure& adventure, const store::Cursor& settings,
     }
     const std::string path = TextOf(settings, schema, "advpicloc");
     if (path.empty()) return {};
-    const qt::GamePath found = qt::FindGameFile(adventure.GameDir(), path);
-    return found.fault == qt::GamePath::Fault::None ? qt::ReadImage(found.file) : QImage();
+    const store::GamePath found = store::FindGameFile(adventure.GameDir(), path);
+    return found.fault == store::GamePath::Fault::None ? qt::ReadImage(found.file) : QImage();
 }
 
 QLabel* Line(const std::string& text, QWidget* parent) {

@@ -2,8 +2,8 @@
 
 #include "platform/error.h"
 #include "qt/game_image.h"
-#include "qt/game_path.h"
 #include "store/adventure.h"
+#include "store/game_path.h"
 
 namespace fabula::player {
 
@@ -48,15 +48,15 @@ QImage GamePictures::FromStore(int location) {
 }
 
 QImage GamePictures::FromFile(const std::string& path) {
-    const qt::GamePath found = qt::FindGameFile(adventure_.GameDir(), path);
+    const store::GamePath found = store::FindGameFile(adventure_.GameDir(), path);
     switch (found.fault) {
-        case qt::GamePath::Fault::Outside:
+        case store::GamePath::Fault::Outside:
             Fail(path, "The picture " + path + " is refused: it lies outside the game's folder.");
             return {};
-        case qt::GamePath::Fault::Missing:
+        case store::GamePath::Fault::Missing:
             Fail(path, "The picture " + path + " is missing.");
             return {};
-        case qt::GamePath::Fault::None:
+        case store::GamePath::Fault::None:
             break;
     }
     const QImage image = qt::ReadImage(found.file);

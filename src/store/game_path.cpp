@@ -1,11 +1,11 @@
-#include "qt/game_path.h"
+#include "store/game_path.h"
 
 #include <algorithm>
 #include <string>
 
 #include "text/utf8.h"
 
-namespace fabula::qt {
+namespace fabula::store {
 
 namespace fs = std::filesystem;
 
@@ -61,4 +61,14 @@ GamePath FindGameFile(const fs::path& folder, std::string_view stored) {
     return {file, GamePath::Fault::None};
 }
 
-}  // namespace fabula::qt
+std::optional<std::string> PathInGame(const fs::path& folder, const fs::path& file) {
+    std::error_code error;
+    const fs::path root = fs::canonical(folder, error);
+    if (error) return std::nullopt;
+    if (fs::is_symlink(file, error) && !fs::exists(file, error)) return std::nullopt;
+    const fs::path real = fs::weakly_canonical(fs::absolute(file), error);
+    if (error || !IsBelow(root, real)) return std::nullopt;
+    return real.lexically_relative(root).generic_string();
+}
+
+}  // namespace fabula::store

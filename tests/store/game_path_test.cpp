@@ -1,4 +1,4 @@
-#include "qt/game_path.h"
+#include "store/game_path.h"
 
 #include <fstream>
 
@@ -7,7 +7,7 @@
 
 #include "support/temp_folder.h"
 
-namespace fabula::qt {
+namespace fabula::store {
 namespace {
 
 namespace fs = std::filesystem;
@@ -97,5 +97,30 @@ TEST_F(GameFiles, WhatIsNoOrdinaryFileIsMissing) {
     EXPECT_EQ(FaultOf("."), Fault::Missing);
 }
 
+TEST_F(GameFiles, AreNamedFromTheGamesFolder) {
+    EXPECT_EQ(PathInGame(game_, game_ / "pictures" / "Beach.bmp"), "pictures/Beach.bmp");
+    EXPECT_EQ(PathInGame(game_, game_ / "pictures" / ".." / "Moor.bmp"), "Moor.bmp");
+}
+
+TEST_F(GameFiles, OfOtherFoldersHaveNoNameInTheGame) {
+    EXPECT_EQ(PathInGame(game_, folder_ / "secret.bmp"), std::nullopt);
+    EXPECT_EQ(PathInGame(game_, game_ / ".." / "secret.bmp"), std::nullopt);
+    EXPECT_EQ(PathInGame(game_, folder_ / "game2" / "a.bmp"), std::nullopt);
+}
+
+TEST_F(GameFiles, BehindALinkThatLeadsOutHaveNoNameInTheGame) {
+    fs::create_symlink(folder_ / "secret.bmp", game_ / "link.bmp");
+    fs::create_symlink(folder_ / "none.bmp", game_ / "broken.bmp");
+    fs::create_directory_symlink(folder_.Path(), game_ / "up");
+    EXPECT_EQ(PathInGame(game_, game_ / "link.bmp"), std::nullopt);
+    EXPECT_EQ(PathInGame(game_, game_ / "broken.bmp"), std::nullopt);
+    EXPECT_EQ(PathInGame(game_, game_ / "up" / "new.bmp"), std::nullopt);
+}
+
+TEST_F(GameFiles, BehindALinkIntoTheGameAreNamedByTheirOwnPlace) {
+    fs::create_directory_symlink(game_ / "pictures", folder_ / "shortcut");
+    EXPECT_EQ(PathInGame(game_, folder_ / "shortcut" / "Beach.bmp"), "pictures/Beach.bmp");
+}
+
 }  // namespace
-}  // namespace fabula::qt
+}  // namespace fabula::store

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
 
-namespace fabula::qt {
+namespace fabula::store {
 
 /// Where a path that an adventure names leads.
 struct GamePath {
@@ -23,4 +25,10 @@ struct GamePath {
 /// out are refused, and so is all that is no ordinary file.
 GamePath FindGameFile(const std::filesystem::path& folder, std::string_view stored);
 
-}  // namespace fabula::qt
+/// The other way round: the path under which a game names `file`, relative to its folder and with "/"
+/// between folders; nullopt when the file lies outside, itself or by a link. The file need not be there
+/// yet.
+std::optional<std::string> PathInGame(const std::filesystem::path& folder,
+                                      const std::filesystem::path& file);
+
+}  // namespace fabula::store
