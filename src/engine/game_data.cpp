@@ -89,10 +89,11 @@ int SignificantLetters(GameType type) {
 }  // namespace
 
 GameData::GameData(store::Adventure& adventure)
-    : type(TypeOf(adventure)), significantLetters(SignificantLetters(type)) {
+    : TextSettings(ReadTextSettings(adventure)),
+      type(TypeOf(adventure)),
+      significantLetters(SignificantLetters(type)) {
     ReadSettings(adventure);
     ReadSoundSettings(adventure);
-    ReadCodes(adventure);
     ReadConjunctions(adventure);
     ReadCondActParams(adventure);
     ReadObjects(adventure);
@@ -101,11 +102,11 @@ GameData::GameData(store::Adventure& adventure)
 }
 
 void GameData::ReadSettings(store::Adventure& adventure) {
-    PreparedQuery row = adventure.Prepare(
-        TableNum::Adventure,
-        "advname, Version, author, savename, startloc, maxobj, maxweight, Font, FontSize, BackColor, "
-        "textcolor, defprintwidth, defpickey, defpicloc, graphics, charsets, sound",
-        "");
+    PreparedQuery row =
+        adventure.Prepare(TableNum::Adventure,
+                          "advname, Version, author, savename, startloc, maxobj, maxweight, defpickey, "
+                          "defpicloc, graphics, sound",
+                          "");
     if (!row.First({})) Refuse("it has no settings");
     title = std::string(row.Text(0)) + " (Version " + std::string(row.Text(1)) + ")";
     if (const std::string author = Filled(row.Text(2)); !author.empty()) title += " by " + author;
@@ -113,15 +114,10 @@ void GameData::ReadSettings(store::Adventure& adventure) {
     startLocation = Number16(row.Number(4), "startloc");
     maxObjects = Number16(row.Number(5), "maxobj");
     maxWeight = Number16(row.Number(6), "maxweight");
-    font = Number16(row.Number(7), "Font");
-    fontSize = Number16(row.Number(8), "FontSize");
-    backColor = Number16(row.Number(9), "BackColor");
-    textColor = Number16(row.Number(10), "textcolor");
-    printWidth = Number16(row.Number(11), "defprintwidth");
-    if (!Filled(row.Text(12)).empty()) defaultPicture = Filled(row.Text(13));
-    graphics = row.Number(14) != 0;
-    characterSets = row.Number(15) != 0;
-    sound = row.Number(16) != 0;
+    CheckTextSettings();
+    if (!Filled(row.Text(7)).empty()) defaultPicture = Filled(row.Text(8));
+    graphics = row.Number(9) != 0;
+    sound = row.Number(10) != 0;
 
     PreparedQuery flags = adventure.Prepare(TableNum::Flags, "flgnum", "");
     for (bool more = flags.First({}); more; more = flags.Next())
@@ -145,14 +141,15 @@ void GameData::ReadSoundSettings(store::Adventure& adventure) {
     };
 }
 
-void GameData::ReadCodes(store::Adventure& adventure) {
-    PreparedQuery row =
-        adventure.Prepare(TableNum::Codes, "codenum, FontName, FontSize, FabulaTag", "", "codenum");
-    for (bool more = row.First({}); more; more = row.Next()) {
-        const int code = Number16(row.Number(0), "codenum");
-        if (!row.Text(1).empty()) fontNames.emplace(code, row.Text(1));
-        fontSizes.emplace(code, Number16(row.Number(2), "FontSize of code " + std::to_string(code)));
-        if (!row.Text(3).empty()) tags.push_back({text::LowerCase(row.Text(3)), code});
+void GameData::CheckTextSettings() const {
+    Number16(font, "Font");
+    Number16(fontSize, "FontSize");
+    Number16(backColor, "BackColor");
+    Number16(textColor, "textcolor");
+    Number16(printWidth, "defprintwidth");
+    for (const auto& [code, points] : fontSizes) {
+        Number16(code, "codenum");
+        Number16(points, "FontSize of code " + std::to_string(code));
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,6 +9,7 @@
 
 #include "engine/game_type.h"
 #include "engine/sound_player.h"
+#include "engine/text_settings.h"
 #include "store/adventure.h"
 
 namespace fabula::engine {
@@ -39,15 +39,9 @@ struct LocationData {
     std::uint32_t length = 0;
 };
 
-/// A tag of the markup by its name, and what it does (printer.h).
-struct Tag {
-    std::string name;
-    int code = 0;
-};
-
 /// Everything numeric of an adventure, and its settings, read once. Entries are addressed as the process
 /// tables tell them: cell 4 is the first number of an entry's list.
-class GameData {
+class GameData : public TextSettings {
   public:
     /// Throws fabula::Error, with the record that is at fault, when the adventure can't be played.
     explicit GameData(store::Adventure& adventure);
@@ -59,16 +53,10 @@ class GameData {
     std::string title;  ///< of the window
     std::string saveName;
     bool graphics = false;
-    bool characterSets = false;
     bool sound = false;
     int startLocation = 0;
     int maxObjects = 0;
     int maxWeight = 0;
-    int font = 0;
-    int fontSize = 0;
-    int backColor = 0;
-    int textColor = 0;
-    int printWidth = 0;
     std::string defaultPicture;  ///< "" when there is none
     SoundSettings soundSettings;
 
@@ -82,9 +70,6 @@ class GameData {
     std::vector<std::int8_t> condActParams;
     static constexpr std::int8_t kUnknownCondAct = -1;
 
-    std::vector<Tag> tags;
-    std::map<int, std::string> fontNames;   ///< by code
-    std::map<int, int> fontSizes;           ///< by code: points
     std::vector<std::string> conjunctions;  ///< in the order of the vocabulary
 
     std::span<const std::int16_t> ExitsOf(const LocationData& location) const {
@@ -101,7 +86,7 @@ class GameData {
   private:
     void ReadSettings(store::Adventure& adventure);
     void ReadSoundSettings(store::Adventure& adventure);
-    void ReadCodes(store::Adventure& adventure);
+    void CheckTextSettings() const;
     void ReadConjunctions(store::Adventure& adventure);
     void ReadCondActParams(store::Adventure& adventure);
     void ReadObjects(store::Adventure& adventure);

@@ -50,10 +50,10 @@ std::optional<int> ParseNumber(std::string_view text) {
 
 }  // namespace
 
-Printer::Printer(GameWindow& window, const GameData& data, Script& script)
-    : window_(window), data_(data), script_(script), sizeCode_(data.fontSize) {
-    CharSet(data.font);
-    FontSize(data.fontSize);
+Printer::Printer(GameWindow& window, const TextSettings& settings, Script& script)
+    : window_(window), settings_(settings), script_(script), sizeCode_(settings.fontSize) {
+    CharSet(settings.font);
+    FontSize(settings.fontSize);
     ResetColours();
 }
 
@@ -114,9 +114,9 @@ void Printer::PrintWord(std::string_view word) {
 void Printer::RunTag(std::string_view tag, std::string_view rest) {
     const std::size_t equals = tag.find('=');
     const std::string name = text::LowerCase(tag.substr(0, equals));
-    const auto found = std::find_if(data_.tags.begin(), data_.tags.end(),
+    const auto found = std::find_if(settings_.tags.begin(), settings_.tags.end(),
                                     [&](const Tag& known) { return known.name == name; });
-    if (found == data_.tags.end()) return;
+    if (found == settings_.tags.end()) return;
     switch (found->code) {
         case kTabTag:
             if (TextColumn() < kTabColumn) return SendBlanks(kTabColumn - TextColumn());
@@ -230,7 +230,7 @@ void Printer::SendCharacter(int number) {
 void Printer::Centre(std::string_view word) {
     const int length =
         static_cast<int>(std::min<std::size_t>(text::Length(WithoutMarkup(word)), kNoWidthLimit));
-    int width = CharacterPane() ? width_ / advance_ : data_.printWidth;
+    int width = CharacterPane() ? width_ / advance_ : settings_.printWidth;
     if (width <= 0) width = width_;
     if (width < kNoWidthLimit) SendBlanks((width - length) / 2);
 }
@@ -283,7 +283,7 @@ void Printer::AtLineStart() {
 void Printer::Clear() {
     Flush();
     if (CharacterPane()) ResetColours();
-    window_.Clear(data_.backColor, style_.ink);
+    window_.Clear(settings_.backColor, style_.ink);
     AtLineStart();
 }
 
@@ -326,17 +326,17 @@ void Printer::CharSet(int font) {
 
 void Printer::FontSize(int code) {
     Flush();
-    const auto size = data_.fontSizes.find(code);
-    if (size == data_.fontSizes.end()) return;
+    const auto size = settings_.fontSizes.find(code);
+    if (size == settings_.fontSizes.end()) return;
     sizeCode_ = code;
     style_.fontSize = size->second;
 }
 
 void Printer::ResetColours() {
-    if (style_.ink == data_.textColor && style_.paper == data_.backColor) return;
+    if (style_.ink == settings_.textColor && style_.paper == settings_.backColor) return;
     Flush();
-    style_.ink = data_.textColor;
-    style_.paper = data_.backColor;
+    style_.ink = settings_.textColor;
+    style_.paper = settings_.backColor;
 }
 
 std::string Printer::WithoutMarkup(std::string_view text) const {

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "engine/game_data.h"
 #include "engine/game_window.h"
+#include "engine/text_settings.h"
 
 namespace fabula::engine {
 
@@ -33,7 +33,7 @@ class Script;
 /// A tag that the catalogue lacks is left away.
 class Printer {
   public:
-    Printer(GameWindow& window, const GameData& data, Script& script);
+    Printer(GameWindow& window, const TextSettings& settings, Script& script);
 
     /// Prints a text. With `freshStart` it begins a line of its own in the game's colours. With
     /// `restoreAttributes` bright, font, size and ink are afterwards what they were.
@@ -78,12 +78,12 @@ class Printer {
     void Centre(std::string_view word);
     void Append(std::string_view text);
     void ReleaseBlank();
-    bool CharacterPane() const { return data_.characterSets; }
+    bool CharacterPane() const { return settings_.characterSets; }
     /// The column in characters, whatever the column counts.
     int TextColumn() const { return column_ / advance_; }
 
     GameWindow& window_;
-    const GameData& data_;
+    const TextSettings& settings_;
     Script& script_;
     TextStyle style_;
     int sizeCode_;

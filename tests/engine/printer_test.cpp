@@ -18,18 +18,18 @@ class PrinterTest : public testing::Test {
     PrinterTest() { UseData(); }
 
     void UseCharacterPane() {
-        data_.characterSets = true;
+        settings_.characterSets = true;
         window_.printWidth = 256;
         UseData();
     }
 
     void UseData() {
-        data_.textColor = 7;
-        data_.backColor = 0;
-        data_.font = 0;
-        data_.fontSize = 12;
-        data_.printWidth = 40;
-        printer_ = std::make_unique<engine::Printer>(window_, data_, script_);
+        settings_.textColor = 7;
+        settings_.backColor = 0;
+        settings_.font = 0;
+        settings_.fontSize = 12;
+        settings_.printWidth = 40;
+        printer_ = std::make_unique<engine::Printer>(window_, settings_, script_);
     }
 
     /// Prints a text and gives the screen.
@@ -42,7 +42,7 @@ class PrinterTest : public testing::Test {
     }
 
     OpenedAdventure adventure_;
-    engine::GameData data_{*adventure_};
+    engine::TextSettings settings_ = engine::ReadTextSettings(*adventure_);
     engine::RecordingWindow window_;
     engine::Script script_;
     std::unique_ptr<engine::Printer> printer_;
