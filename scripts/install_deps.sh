@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building and testing need, and only those that are not there yet.
-# usage: scripts/install_deps.sh [build|test]
+# usage: scripts/install_deps.sh [build|test|screenshots]
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libedit-dev
@@ -8,6 +8,8 @@ packages=(g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev
           qt6-base-dev librtmidi-dev libfluidsynth-dev timgm6mb-soundfont)
 if [ "${1:-build}" = test ]; then
     packages+=(clang clang-format libclang-rt-14-dev)
+elif [ "${1:-build}" = screenshots ]; then
+    packages+=(xvfb xdotool imagemagick fonts-dejavu-core)
 fi
 
 missing=()

@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "qt/game_image.h"
@@ -16,7 +18,7 @@ namespace fabula::player {
 namespace {
 
 constexpr QSize kLargestPicture(480, 320);
-constexpr int kTextWidth = 420;
+constexpr int kWidth = 540;
 
 /// A field that older files may lack; "" also for one blank, which stands for no value yet.
 std::string TextOf(const store::Cursor& settings, const store::TableSchema& schema,
@@ -54,6 +56,35 @@ QLabel* Line(const std::string& text, QWidget* parent) {
     return label;
 }
 
+QWidget* PageOf(const frmAboutAdventure& about) {
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->setSpacing(10);
+    layout->setContentsMargins(20, 20, 20, 16);
+    if (!about.picture.isNull()) {
+        auto* picture = new QLabel(page);
+        QImage shown = about.picture;
+        if (shown.width() > kLargestPicture.width() || shown.height() > kLargestPicture.height())
+            shown = shown.scaled(kLargestPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        picture->setPixmap(QPixmap::fromImage(shown));
+        picture->setAccessibleName("Picture of the adventure");
+        layout->addWidget(picture, 0, Qt::AlignHCenter);
+    }
+    QLabel* name = Line(about.name, page);
+    QFont large = name->font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    large.setBold(true);
+    name->setFont(large);
+    layout->addWidget(name);
+    for (const std::string& line : about.lines)
+        layout->addWidget(Line(line, page));
+    for (const std::string& text : {about.description, about.contact}) {
+        if (!text.empty()) layout->addWidget(Line(text, page));
+    }
+    layout->addStretch();
+    return page;
+}
+
 }  // namespace
 
 frmAboutAdventure frmAboutAdventure::Of(store::Adventure* adventure) {
@@ -77,34 +108,25 @@ frmAboutAdventure frmAboutAdventure::Of(store::Adventure* adventure) {
 
 void ShowAbout(const frmAboutAdventure& about, QWidget* parent) {
     QDialog dialog(parent);
+    dialog.setObjectName("frmAboutAdventure");
     dialog.setWindowTitle("About this Adventure");
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->setSpacing(10);
-    layout->setContentsMargins(20, 20, 20, 16);
-    if (!about.picture.isNull()) {
-        auto* picture = new QLabel(&dialog);
-        QImage shown = about.picture;
-        if (shown.width() > kLargestPicture.width() || shown.height() > kLargestPicture.height())
-            shown = shown.scaled(kLargestPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        picture->setPixmap(QPixmap::fromImage(shown));
-        picture->setAccessibleName("Picture of the adventure");
-        layout->addWidget(picture, 0, Qt::AlignHCenter);
-    }
-    QLabel* name = Line(about.name, &dialog);
-    QFont large = name->font();
-    large.setPointSizeF(large.pointSizeF() * 1.5);
-    large.setBold(true);
-    name->setFont(large);
-    name->setMinimumWidth(std::min(kTextWidth, parent == nullptr ? kTextWidth : parent->width() * 3 / 4));
-    layout->addWidget(name);
-    for (const std::string& line : about.lines)
-        layout->addWidget(Line(line, &dialog));
-    for (const std::string& text : {about.description, about.contact}) {
-        if (!text.empty()) layout->addWidget(Line(text, &dialog));
-    }
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setAccessibleName("About this Adventure");
+    QWidget* page = PageOf(about);
+    area->setWidget(page);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    buttons->setContentsMargins(16, 0, 16, 16);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(area);
     layout->addWidget(buttons);
+    const QSize screen = dialog.screen()->availableSize() * 4 / 5;
+    const int width = std::min(kWidth, screen.width());
+    const int height = page->layout()->totalHeightForWidth(width) + buttons->sizeHint().height();
+    dialog.resize(width, std::min(height + layout->spacing(), screen.height()));
     dialog.exec();
 }
 

@@ -22,6 +22,7 @@ DebugWindow::DebugWindow(engine::Engine& engine, std::function<void()> help, QWi
     setObjectName("frmDebug");
     input_->setObjectName("txtInput");
     input_->setAccessibleName(tr("Request"));
+    input_->setPlaceholderText(tr("F38, O3, S, C, =5 or H"));
     input_->setToolTip(tr("F38 or O3 views a flag or an object, S sets it, C clears it, =5 changes it."));
     result_->setObjectName("lblResult");
     result_->setTextFormat(Qt::PlainText);

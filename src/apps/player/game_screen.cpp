@@ -3,6 +3,8 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "engine/engine.h"
@@ -28,6 +30,9 @@ using engine::Waiting;
 constexpr std::chrono::milliseconds kBusyDelay{50};
 /// The last character of a character set that a key can type.
 constexpr char32_t kLastTyped = 126;
+/// What a picture leaves to the text; where it can't, it gives way.
+constexpr int kLeastLines = 5;
+constexpr int kLeastRows = 10;
 
 }  // namespace
 
@@ -47,12 +52,14 @@ GameScreen::GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, Scr
     panes_->addWidget(characters_);
     splitter_->addWidget(picture_);
     splitter_->addWidget(panes_);
-    splitter_->setStretchFactor(0, 2);
-    splitter_->setStretchFactor(1, 3);
     splitter_->setChildrenCollapsible(false);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(splitter_);
+    QObject::connect(splitter_, &QSplitter::splitterMoved, this, [this] {
+        const int room = splitter_->height() - splitter_->handleWidth();
+        pictureShare_ = static_cast<double>(splitter_->sizes().front()) / room;
+    });
     picture_->hide();
 }
 
@@ -91,6 +98,7 @@ void GameScreen::ChoosePane() {
         panes_->setCurrentWidget(text_);
     }
     ColourPicture();
+    FitPicture();
     if (focused) FocusInput();
 }
 
@@ -198,14 +206,35 @@ void GameScreen::EndInput(std::string_view typed) {
 
 void GameScreen::ShowPicture(const engine::Picture& picture) {
     const QImage image = pictures_->Load(picture);
-    if (picture_->isHidden()) splitter_->setSizes({height() * 2 / 5, height() * 3 / 5});
     picture_->Show(image);
-    picture_->setVisible(!image.isNull());
+    FitPicture();
 }
 
 void GameScreen::HidePicture() {
     picture_->Show({});
-    picture_->hide();
+    FitPicture();
+}
+
+int GameScreen::LeastTextHeight() const {
+    return ShowsCharacters() ? kLeastRows * CharacterScreen::kCharacterSize
+                             : kLeastLines * QFontMetrics(text_->font()).lineSpacing();
+}
+
+void GameScreen::FitPicture() {
+    const int room = splitter_->height() - splitter_->handleWidth();
+    const int most = room - LeastTextHeight();
+    const int least = picture_->minimumHeight();
+    const bool shown = !picture_->Shown().isNull() && most >= least;
+    picture_->setVisible(shown);
+    if (!shown) return;
+    const int wanted = pictureShare_ ? static_cast<int>(std::lround(room * *pictureShare_))
+                                     : picture_->HeightIn({splitter_->width(), room});
+    const int tall = std::clamp(wanted, least, most);
+    splitter_->setSizes({tall, room - tall});
+}
+
+void GameScreen::resizeEvent(QResizeEvent*) {
+    FitPicture();
 }
 
 void GameScreen::ShowStatus(engine::StatusField field, std::string_view text) {

@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "engine/game_window.h"
@@ -85,6 +86,9 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     void StartWait(std::chrono::milliseconds length) override;
     std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request) override;
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     void Type(const std::string& text);
     void Press(PaneKey key);
@@ -94,6 +98,8 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     void WaitTick();
     void ChoosePane();
     void ColourPicture();
+    void FitPicture();
+    int LeastTextHeight() const;
     void WriteUnwrapped(const std::string& shown, const engine::TextStyle& style, engine::TextRole role);
     std::string Shown(std::string_view run) const;
 
@@ -112,6 +118,7 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     platform::Alarm timeOut_;
     platform::Alarm wait_;
 
+    std::optional<double> pictureShare_;  ///< the part of the height that the player gave to pictures
     QSplitter* splitter_;
     PicturePane* picture_;
     QStackedWidget* panes_;

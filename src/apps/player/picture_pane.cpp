@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 namespace fabula::player {
 
@@ -28,6 +29,18 @@ void PicturePane::Show(const QImage& image) {
 
 QSize PicturePane::sizeHint() const {
     return image_.isNull() ? QSize(256, 176) : image_.size().boundedTo(QSize(1024, 352));
+}
+
+int PicturePane::HeightIn(QSize column) const {
+    const int least = column.height() * 2 / 5;
+    if (image_.isNull()) return least;
+    const double ratio = devicePixelRatioF();
+    for (int factor = kLargestFactor; factor >= 1; --factor) {
+        const int whole = static_cast<int>(std::ceil(image_.height() * factor / ratio)) + 2 * kMargin;
+        const bool wide = image_.width() * factor / ratio + 2 * kMargin <= column.width();
+        if (wide && whole >= least && whole <= column.height() * 11 / 20) return whole;
+    }
+    return least;
 }
 
 QRect PicturePane::Place() const {

@@ -17,6 +17,10 @@ class PicturePane final : public QWidget {
     /// Where the picture stands in the pane, in pixels of the display.
     QRect Place() const;
 
+    /// The height that suits the picture in a column that it shares with the text: two fifths of it, or up
+    /// to eleven twentieths where that gives every pixel of the picture the same size.
+    int HeightIn(QSize column) const;
+
     static constexpr int kLargestFactor = 4;
 
     QSize sizeHint() const override;

@@ -1,17 +1,38 @@
 #include "player/status_pane.h"
 
 #include <QLabel>
+#include <QPainter>
 
 #include "qt/strings.h"
 
 namespace fabula::player {
+
+namespace {
+
+/// One line that is cut, with dots, rather than widening the window.
+class StatusLabel final : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QRect room = contentsRect();
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+    }
+};
+
+}  // namespace
 
 StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
     setObjectName("fraStatus");
     setSizeGripEnabled(false);
     setContentsMargins(0, 0, 6, 0);
     const auto label = [this](const char* name, const char* spoken) {
-        auto* made = new QLabel(this);
+        auto* made = new StatusLabel(this);
         made->setObjectName(name);
         made->setTextFormat(Qt::PlainText);
         made->setAccessibleName(spoken);
@@ -19,7 +40,6 @@ StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
         return made;
     };
     status_ = label("txtStatus", "Status");
-    // A long sentence is cut rather than widening the window.
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     command_ = label("lblCommand", "Command");
     location_ = label("lblLocation", "Location");
@@ -28,8 +48,8 @@ StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
     addWidget(status_, 1);
     for (QLabel* field : {command_, location_, script_, sound_})
         addPermanentWidget(field);
-    command_->hide();
-    location_->hide();
+    for (QLabel* field : {command_, location_, script_, sound_})
+        field->hide();
 }
 
 void StatusPane::Tell(const std::string& sentence) {
@@ -54,6 +74,7 @@ void StatusPane::Show(engine::StatusField field, const std::string& text) {
             break;
     }
     label->setText(qt::ToQt(text));
+    label->setToolTip(qt::ToQt(text).toHtmlEscaped());
     label->setVisible(!text.empty());
 }
 

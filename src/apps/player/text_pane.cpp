@@ -81,6 +81,7 @@ void TextPane::SetPage(Page page) {
 }
 
 void TextPane::SetZoom(int percent) {
+    const Reading place = Place();
     zoom_ = percent;
     QFont shown = look_.family.isEmpty() ? QApplication::font() : QFont(look_.family);
     const int points = look_.style.fontSize > 0 ? look_.style.fontSize : kDefaultPoints;
@@ -88,6 +89,7 @@ void TextPane::SetZoom(int percent) {
     setFont(shown);
     Restyle();
     FitMargins();
+    Return(place);
 }
 
 void TextPane::SetFlashing(bool allowed) {
@@ -217,13 +219,26 @@ void TextPane::KeepPage() {
     if (pageStart_ > 0) bar.setMaximum(std::max(bar.maximum(), BlockTop(pageStart_) - kMargin / 2));
 }
 
+int TextPane::TurnScroll() const {
+    return std::min(verticalScrollBar()->maximum(), BlockTop(turnStart_) - kMargin / 2);
+}
+
 void TextPane::ShowTurn() {
     KeepPage();
-    QScrollBar& bar = *verticalScrollBar();
-    bar.setValue(bar.maximum());
-    const int top = BlockTop(turnStart_) - kMargin / 2;
-    if (top < bar.value()) bar.setValue(top);
+    verticalScrollBar()->setValue(TurnScroll());
     viewport()->update();
+}
+
+TextPane::Reading TextPane::Place() const {
+    return {verticalScrollBar()->value() >= TurnScroll(), cursorForPosition(QPoint(0, 0)).position()};
+}
+
+void TextPane::Return(const Reading& place) {
+    if (place.latest) return ShowTurn();
+    KeepPage();
+    QTextCursor top(document());
+    top.setPosition(place.position);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top());
 }
 
 void TextPane::FitMargins() {
@@ -241,9 +256,10 @@ void TextPane::FitMargins() {
 }
 
 void TextPane::resizeEvent(QResizeEvent* event) {
+    const Reading place = Place();
     QTextEdit::resizeEvent(event);
     FitMargins();
-    ShowTurn();
+    Return(place);
 }
 
 void TextPane::paintEvent(QPaintEvent* event) {

@@ -66,12 +66,21 @@ class TextPane final : public QTextEdit {
         friend bool operator==(const RunStyle&, const RunStyle&) = default;
     };
 
+    /// What the player looks at: the latest turn, or a place further up.
+    struct Reading {
+        bool latest = true;
+        int position = 0;  ///< of the text at the upper edge
+    };
+
     QTextCursor End() const;
     QTextCharFormat FormatOf(const RunStyle& run) const;
     QTextCharFormat Format(const RunStyle& run);
     void Restyle();
     void ApplyColours();
     void FitMargins();
+    int TurnScroll() const;
+    Reading Place() const;
+    void Return(const Reading& place);
     void KeepPage();
     void Paste();
     void Copy();

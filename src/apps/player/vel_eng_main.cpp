@@ -28,7 +28,7 @@ namespace fabula::player {
 
 namespace {
 
-constexpr QSize kDefaultSize(860, 640);
+constexpr QSize kDefaultSize(880, 780);
 constexpr QSize kSmallestSize(320, 240);
 /// How soon a window that can't close yet tries again.
 constexpr std::chrono::milliseconds kBusyDelay{50};
@@ -187,10 +187,12 @@ void frmVelEngMain::MakeEndBar() {
     auto* row = new QHBoxLayout(endBar_);
     row->setContentsMargins(12, 6, 12, 6);
     auto* again = new QPushButton(tr("Play Again"));
-    auto* load = new QPushButton(tr("Load Another…"));
+    auto* load = new QPushButton(tr("Load…"));
+    load->setAccessibleName(tr("Load another adventure"));
     QObject::connect(again, &QPushButton::clicked, this, [this] { StartAgain(); });
     QObject::connect(load, &QPushButton::clicked, this, [this] { MnuFileLoad(); });
-    row->addWidget(new QLabel(tr("The game has ended.")), 1);
+    // Short, for narrow windows and large text.
+    row->addWidget(new QLabel(tr("The end.")), 1);
     row->addWidget(again);
     row->addWidget(load);
     endBar_->setFocusProxy(again);

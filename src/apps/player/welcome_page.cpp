@@ -9,20 +9,25 @@
 namespace fabula::player {
 
 WelcomePage::WelcomePage(std::function<void()> choose, Open open, QWidget* parent)
-    : QWidget(parent), open_(std::move(open)) {
-    auto* title = new QLabel("Fabula", this);
+    : QScrollArea(parent), open_(std::move(open)) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(tr("Start"));
+    auto* page = new QWidget;
+    auto* title = new QLabel("Fabula");
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 2.2);
     large.setWeight(QFont::DemiBold);
     title->setFont(large);
-    auto* hint = new QLabel(tr("Load an adventure and play it."), this);
-    auto* load = new QPushButton(tr("Load Adventure…"), this);
+    auto* hint = new QLabel(tr("Load an adventure and play it."));
+    auto* load = new QPushButton(tr("Load Adventure…"));
     load->setDefault(true);
     load->setMinimumHeight(load->sizeHint().height() * 5 / 4);
     QObject::connect(load, &QPushButton::clicked, this, choose);
     setFocusProxy(load);
 
-    column_ = new QVBoxLayout;
+    column_ = new QVBoxLayout(page);
     column_->setSpacing(8);
     column_->addStretch(2);
     for (QWidget* line : {static_cast<QWidget*>(title), static_cast<QWidget*>(hint)})
@@ -31,12 +36,12 @@ WelcomePage::WelcomePage(std::function<void()> choose, Open open, QWidget* paren
     column_->addWidget(load, 0, Qt::AlignHCenter);
     column_->addSpacing(16);
     column_->addStretch(3);
-    setLayout(column_);
+    setWidget(page);
 }
 
 void WelcomePage::ShowRecent(const std::vector<std::filesystem::path>& files) {
     delete recent_;
-    recent_ = new QWidget(this);
+    recent_ = new QWidget;
     auto* list = new QVBoxLayout(recent_);
     list->setSpacing(0);
     if (!files.empty()) list->addWidget(new QLabel(tr("Recent games"), recent_), 0, Qt::AlignHCenter);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QScrollArea>
 #include <filesystem>
 #include <functional>
 #include <vector>
@@ -10,7 +10,7 @@ class QVBoxLayout;
 namespace fabula::player {
 
 /// What the window shows while no adventure is loaded: how to load one, and the latest ones.
-class WelcomePage final : public QWidget {
+class WelcomePage final : public QScrollArea {
   public:
     using Open = std::function<void(const std::filesystem::path& file)>;
 

@@ -267,6 +267,19 @@ TEST(PicturePane, KeepsTheShapeOfThePicture) {
     EXPECT_EQ(pane.Place(), QRect(8, 108, 400, 200));
 }
 
+TEST(PicturePane, IsMadeHighEnoughForPixelsOfOneSizeWhereThatLeavesRoomForTheText) {
+    PicturePane pane;
+    QImage image(256, 176, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    pane.Show(image);
+    EXPECT_EQ(pane.HeightIn({880, 700}), 352 + 16);
+    EXPECT_EQ(pane.HeightIn({880, 400}), 176 + 16);
+    // Neither one nor two times its size lies between two fifths and eleven twentieths.
+    EXPECT_EQ(pane.HeightIn({880, 600}), 240);
+    // As high as before, and too narrow for two times.
+    EXPECT_EQ(pane.HeightIn({500, 700}), 280);
+}
+
 TEST(PicturePane, WithoutAPictureShowsNothing) {
     PicturePane pane;
     pane.Show({});

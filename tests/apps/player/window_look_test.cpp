@@ -6,6 +6,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QSplitterHandle>
 #include <QTest>
 #include <QToolBar>
 #include <QWheelEvent>
@@ -215,11 +218,89 @@ TEST(WindowLook, WindowMayBe480By320) {
 TEST(WindowLook, WindowMayBe480By320WithTextOfTwiceTheSize) {
     const ProgramFont large(2);
     PlayedWindow played;
-    played.Load(Game());
+    SaveImage(played.folder / "room.png");
+    played.Load(
+        Game().Graphics().PictureOf(0, "room.png").SystemMessage(13, "Again?").Entry(0, "DO", "_", "END"));
+    played.Window().Tell("A sentence that is much too long for a status line of a window of this size.");
+    for (const engine::StatusField field : {engine::StatusField::Command, engine::StatusField::Location})
+        played.Window().Screen().ShowStatus(field, "A text of some length");
+    played.Window().Screen().ShowStatus(engine::StatusField::Script, "Script Loaded & Writing");
     played.Window().resize(480, 320);
-    EXPECT_EQ(played.Window().size(), QSize(480, 320));
     QApplication::processEvents();
+    EXPECT_EQ(played.Window().size(), QSize(480, 320));
     EXPECT_GE(played.Window().Screen().Text().height(), 80);
+    played.Type("do\nn\n");
+    QApplication::processEvents();
+    ASSERT_TRUE(played.Window().findChild<QWidget*>("EndBar")->isVisible());
+    EXPECT_LE(played.Window().minimumSizeHint().width(), 480);
+    EXPECT_LE(played.Window().minimumSizeHint().height(), 320);
+}
+
+TEST(WindowLook, PictureGivesWayWhereFewLinesOfTextWouldBeLeft) {
+    PlayedWindow played;
+    SaveImage(played.folder / "room.png");
+    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    played.Window().resize(480, 320);
+    QApplication::processEvents();
+    EXPECT_TRUE(played.Window().Screen().Picture().isVisible());
+    for (int step = 0; step < 8; ++step)
+        played.Press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
+    played.Window().resize(900, 900);
+    QApplication::processEvents();
+    EXPECT_TRUE(played.Window().Screen().Picture().isVisible());
+}
+
+TEST(WindowLook, HeightThatThePlayerGaveToPicturesIsKept) {
+    PlayedWindow played;
+    SaveImage(played.folder / "room.png");
+    const auto game = Game().Graphics().PictureOf(0, "room.png").Word("E", 102, 0).Word("W", 103, 0);
+    played.Load(GameBuilder(game).Exit(0, 102, 1).Exit(1, 103, 0));
+    QApplication::processEvents();
+    auto* handle = played.Window().Screen().findChild<QSplitter*>()->handle(1);
+    QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(20, 1));
+    QTest::mouseMove(handle, QPoint(20, -60));
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(20, -60));
+    const int given = played.Window().Screen().Picture().height();
+    played.Type("e\n");
+    ASSERT_FALSE(played.Window().Screen().Picture().isVisible());
+    played.Action("StartAgain").trigger();
+    QApplication::processEvents();
+    EXPECT_NEAR(played.Window().Screen().Picture().height(), given, 1);
+}
+
+TEST(WindowLook, ZoomKeepsTheLatestTurnInSight) {
+    PlayedWindow played;
+    GameBuilder game = Game().Message(0, std::string(2000, 'x')).Entry(0, "DO", "_", "MESSAGE 0 DONE");
+    played.Load(game);
+    played.Type("do\n");
+    played.Type("do nothing\n");
+    player::TextPane& pane = played.Window().Screen().Text();
+    const auto turnTop = [&] {
+        QTextCursor turn(pane.document());
+        turn.setPosition(pane.TurnStart());
+        return pane.cursorRect(turn).top();
+    };
+    ASSERT_GE(turnTop(), 0);
+    for (int step = 0; step < 6; ++step)
+        played.Press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GE(turnTop(), 0);
+    EXPECT_LT(turnTop(), pane.viewport()->height());
+}
+
+TEST(WindowLook, ZoomKeepsThePlaceOfAReaderInTheText) {
+    PlayedWindow played;
+    GameBuilder game = Game().Message(0, std::string(3000, 'x')).Entry(0, "DO", "_", "MESSAGE 0 DONE");
+    played.Load(game);
+    for (int turn = 0; turn < 5; ++turn)
+        played.Type("do\n");
+    player::TextPane& pane = played.Window().Screen().Text();
+    pane.verticalScrollBar()->setValue(pane.verticalScrollBar()->maximum() / 2);
+    const int before = pane.cursorForPosition(QPoint(0, 0)).position();
+    for (int step = 0; step < 4; ++step)
+        played.Press(Qt::Key_Plus, Qt::ControlModifier);
+    const int after = pane.cursorForPosition(QPoint(0, 0)).position();
+    EXPECT_NEAR(after, before, 200);
 }
 
 TEST(WindowAccess, EveryWidgetThatTakesTheKeyboardHasAName) {
