@@ -1,0 +1,186 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "authoring/commands.h"
+#include "authoring/document.h"
+#include "authoring/entries.h"
+#include "authoring/find.h"
+#include "authoring/session.h"
+#include "authoring/table_grid.h"
+#include "authoring/table_rights.h"
+#include "authoring/table_tree.h"
+#include "authoring/table_view.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/event_pump.h"
+#include "platform/recent_files.h"
+#include "platform/settings.h"
+#include "store/setup.h"
+
+namespace fabula::authoring {
+
+/// What the main window asks of its program. All of it outlives the window.
+struct IdeHost {
+    platform::Dialogs& dialogs;
+    platform::Settings& settings;
+    const platform::Clock& clock;
+    platform::EventPump& events;
+};
+
+/// Where the authoring tool finds and keeps its files.
+struct IdePaths {
+    std::filesystem::path defaultData;  ///< Fabula.ini
+};
+
+/// How a game is to be tested.
+struct TestRun {
+    std::filesystem::path file;
+    bool trace = false;  ///< trace mode is on
+    bool debugAtOnce =
+        false;  ///< the trace begins with the game, not when the game or the author asks for it
+};
+
+/// The main window without its widgets: the one open adventure, the tree and the grid, and the commands.
+///
+/// The window shows what the members below tell, and asks them again after each call. Whatever goes wrong
+/// is told in a box and leaves everything as it was; nothing is thrown.
+class frmVelIDEMain {
+  public:
+    enum class State { NoAdventure, Open, EngineRunning };
+
+    /// `maintenance` shows the program's own tables and fields.
+    frmVelIDEMain(const IdeHost& host, IdePaths paths, bool maintenance = false);
+    frmVelIDEMain(const frmVelIDEMain&) = delete;
+    frmVelIDEMain& operator=(const frmVelIDEMain&) = delete;
+    ~frmVelIDEMain();
+
+    // --- Start and end of the program ---
+
+    /// Opens the adventure that was open the last time. When its file is gone the program starts with none.
+    void Form_Load();
+    /// Remembers the open adventure and where the author was.
+    void Form_Unload();
+    /// The author has been told that the program has to end.
+    bool MustExit() const { return mustExit_; }
+
+    // --- Adventures ---
+
+    /// Asks for the file of a new adventure; nullopt when the author would rather not. The window then
+    /// shows the screen of its type, and calls NewAdventure.
+    std::optional<std::filesystem::path> AskNewFile();
+    /// Creates the adventure and opens it. `starter` gives it the words and entries that most games begin
+    /// with.
+    bool NewAdventure(const std::filesystem::path& file, const store::frmSetup& setup, bool starter);
+    /// Asks for an adventure and opens it.
+    bool Open();
+    /// Opens an adventure: a recent one, or one that was just made. The one that is open stays when the
+    /// file is refused.
+    bool OpenFile(const std::filesystem::path& file);
+    bool SaveAs();
+    void Close();
+
+    /// The adventures that were opened last, the latest first.
+    const std::vector<std::filesystem::path>& RecentFiles() const { return recent_.Files(); }
+
+    // --- What the window shows ---
+
+    State GetState() const;
+    /// "Fabula IDE - " and the adventure's name.
+    std::string Title() const;
+    /// The status line: the adventure's type and switches, the table and its number of records, and what
+    /// just happened.
+    std::string AdventureStatus() const;
+    std::string TableStatus() const;
+    const std::string& Message() const { return message_; }
+
+    const std::vector<TreeNode>& Tree() const { return tree_; }
+    /// The node of the view in the grid; nullptr when there is none.
+    const TreeNode* CurrentNode() const;
+    const TableGrid& Grid() const { return grid_; }
+    /// The row that is selected, -1 for none.
+    int CurrentRow() const { return row_; }
+    /// The node's caption: "Locations".
+    std::string Caption() const;
+
+    ActionState StateOf(Command command) const;
+
+    // --- What the author does with it ---
+
+    /// A node of the tree, by its position.
+    void ShowNode(int sort);
+    /// A table or a view of the process tables.
+    void Show(const TableView& view);
+    void SelectRow(int row);
+    void ClickColumn(int column);
+    void ResizeColumn(int column, int width);
+    void SetFilter(std::string_view text);
+
+    /// The text and the field to look for.
+    FindBox& Finder() { return find_; }
+
+    /// Does a command. The screen that it needs is given back: the window opens it and then calls
+    /// ScreenClosed. Commands that need a window of their own (New, Import, Export, Run, Verify, Exit,
+    /// Help, About) are the window's to do, by the other members; here they do nothing. A command that is
+    /// not enabled does nothing.
+    std::optional<ScreenRequest> Run(Command command);
+    void ScreenClosed(const ScreenRequest& request);
+    /// After work that is not a command of this class changed the adventure, such as Verify: reads grid and
+    /// tree again and stays on the row.
+    void Refresh();
+
+    /// Begins a test of the open adventure; nullopt when there is none. The window then hides, shows the
+    /// engine's window on the file, and calls EndRunTest when that has closed.
+    std::optional<TestRun> BeginRunTest();
+    void EndRunTest();
+
+    /// For the screens. Only while an adventure is open.
+    Session& CurrentSession();
+
+  private:
+    /// The open adventure and what its screens share.
+    struct Desk {
+        Desk(const std::filesystem::path& file, platform::Dialogs& dialogs);
+        Document document;
+        Session session;
+    };
+
+    bool Guard(const std::function<void()>& step);
+    void Adopt(std::unique_ptr<Desk> desk);
+    void ActivateMenus();
+    void LastTable();
+    void SetupGrid(const TableView& view);
+    void SetUpEdits();
+    void StayOn(std::optional<int> key, int row);
+    void ReadAgain();
+    void RememberView();
+    void RememberFile();
+    void StoreRecent();
+
+    void UndoOrRedo(Command command);
+    void mnuEditSort();
+    void Find();
+    std::string WhyNot(Command command) const;
+
+    IdeHost host_;
+    IdePaths paths_;
+    bool maintenance_;
+    platform::RecentFiles recent_;
+    std::unique_ptr<Desk> desk_;
+    std::vector<TreeNode> tree_;
+    TableGrid grid_;
+    TableRights rights_;
+    FindBox find_;
+    int row_ = -1;
+    std::string message_;
+    bool running_ = false;
+    bool mustExit_ = false;
+};
+
+}  // namespace fabula::authoring
