@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string_view>
+
+#include "authoring/session.h"
+
+namespace fabula::authoring {
+
+/// The list of short descriptions in the folder of the adventure: lines "locnum: text".
+inline constexpr std::string_view kShortDescFile = "ShortDesc.lis";
+
+/// Gives the locations of the list their short descriptions, as one change "load short descriptions". Lines
+/// that are no such line, name no location, or whose text no short description may be (tags, words that are
+/// too long) are left out; they and the number of the others are told at the end. Without the file, or when
+/// it has too many wrong lines, nothing changes, and false. Throws fabula::Error when a file can't be read
+/// or written.
+bool LoadShortDesc(Session& session);
+
+}  // namespace fabula::authoring
