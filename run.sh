@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and plays an example game in the terminal.
+# Installs what is missing, builds, and plays an example game: in a window when there is a display, in the terminal
+# otherwise.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -9,5 +10,9 @@ echo "build: default"
 { cmake --preset default -DFABULA_TESTS=OFF -DFABULA_BENCH=OFF -B build/run &&
   cmake --build build/run -j "$(nproc)"; } >build/run.log 2>&1 || { tail -n 100 build/run.log; exit 1; }
 
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    echo "opening: the lighthouse"
+    exec build/run/bin/FabulaEngine build/run/examples/lighthouse.fbd
+fi
 echo "playing: the lighthouse (QUIT leaves it)"
 exec build/run/bin/fabula play build/run/examples/lighthouse.fbd

@@ -38,6 +38,8 @@ CharacterPane::CharacterPane(platform::Timers& timers, PaneHandlers handlers, QW
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Game screen"));
+    setAccessibleDescription(
+        tr("The screen of a game that draws its own letters. The View menu shows it as plain text."));
 }
 
 void CharacterPane::StartGame(CharacterScreen screen) {

@@ -144,7 +144,7 @@ void frmVelEngMain::MakeMenus() {
     file->addSeparator();
     file->addAction(exit_);
     QMenu* game = menuBar()->addMenu(tr("&Game"));
-    game->addActions({sound_, transcript_, next_, startAgain_});
+    game->addActions({sound_, transcript_, next_, startAgain_, debug_});
     QMenu* view = menuBar()->addMenu(tr("&View"));
     view->addActions({zoomIn_, zoomOut_, zoomNormal_});
     view->addSeparator();
@@ -179,6 +179,9 @@ void frmVelEngMain::MakeToolBar() {
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     bar->addActions({load_, next_, sound_, debug_, about_, exit_});
+    // Tab goes from the game to the buttons and on.
+    for (QAction* action : bar->actions())
+        bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
 }
 
 void frmVelEngMain::MakeEndBar() {

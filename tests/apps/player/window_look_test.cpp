@@ -1,4 +1,3 @@
-#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QBuffer>
@@ -301,30 +300,6 @@ TEST(WindowLook, ZoomKeepsThePlaceOfAReaderInTheText) {
         played.Press(Qt::Key_Plus, Qt::ControlModifier);
     const int after = pane.cursorForPosition(QPoint(0, 0)).position();
     EXPECT_NEAR(after, before, 200);
-}
-
-TEST(WindowAccess, EveryWidgetThatTakesTheKeyboardHasAName) {
-    PlayedWindow played;
-    played.Load(Game());
-    played.Restart();
-    played.dialogs.AnswerNext(false);
-    for (const QWidget* widget : played.Window().findChildren<QWidget*>()) {
-        if (widget->focusPolicy() == Qt::NoFocus || qobject_cast<const QMenu*>(widget) != nullptr) continue;
-        const QAccessibleInterface* access =
-            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
-        ASSERT_NE(access, nullptr);
-        EXPECT_FALSE(access->text(QAccessible::Name).isEmpty())
-            << widget->metaObject()->className() << " " << qt::FromQt(widget->objectName());
-    }
-}
-
-TEST(WindowAccess, ScreenReaderFindsTheWholeText) {
-    PlayedWindow played;
-    played.Load(Game());
-    QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&played.Window().Screen().Text());
-    ASSERT_NE(access->textInterface(), nullptr);
-    EXPECT_EQ(access->textInterface()->text(0, access->textInterface()->characterCount()), "Room 0?\n>");
-    EXPECT_EQ(access->textInterface()->cursorPosition(), 9);
 }
 
 TEST(WindowTestRun, DebugShowsAndChangesTheState) {

@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QLabel>
+#include <csignal>
 #include <fstream>
 #include <sstream>
 
@@ -287,6 +288,49 @@ TEST(Window, SessionThatWasCutOffIsOfferedAtTheNextStart) {
     played.Window().Load(played.folder / "game.fbd");
     EXPECT_EQ(played.dialogs.Boxes().back().text, "Go on where the last session of this game stopped?");
     EXPECT_TRUE(played.Text().ends_with("Room 1?\n>")) << played.Text();
+}
+
+TEST(Window, SessionOfAKilledProgramIsOfferedAtTheNextStart) {
+    PlayedWindow played;
+    const auto file = played.Write(TalkingGame().Word("E", 102, 0).Exit(0, 102, 1));
+    EXPECT_EXIT(
+        {
+            played.Window().Load(file);
+            played.Type("e\n");
+            played.Pass(milliseconds(150));
+            std::raise(SIGKILL);
+        },
+        testing::KilledBySignal(SIGKILL), "");
+    played.dialogs.AnswerNext(true);
+    played.Window().Load(file);
+    EXPECT_EQ(played.dialogs.Boxes().back().text, "Go on where the last session of this game stopped?");
+    EXPECT_TRUE(played.Text().ends_with("Room 1?\n>")) << played.Text();
+}
+
+TEST(Window, SessionOfAnAdventureThatHasChangedSinceIsToldAndBeginsAnew) {
+    PlayedWindow played;
+    const auto game = TalkingGame().Word("E", 102, 0).Exit(0, 102, 1);
+    played.Load(game);
+    played.Type("e\n");
+    played.Restart();
+    played.dialogs.AnswerNext(true);
+    played.Load(GameBuilder(game).Location(2, "New."));
+    ASSERT_EQ(played.dialogs.Boxes().size(), 2U);
+    EXPECT_EQ(played.dialogs.Boxes()[1].text,
+              "The last session can't be resumed: the adventure has changed since.");
+    EXPECT_TRUE(played.Text().ends_with("Room 0?\n>")) << played.Text();
+}
+
+TEST(Window, SessionOfAGameThatEndedIsNotOffered) {
+    PlayedWindow played;
+    played.Load(GameOf("END").SystemMessage(13, "Again?").Word("E", 102, 0).Exit(0, 102, 1));
+    played.Type("e\n");
+    played.Pass(milliseconds(150));
+    played.Type("do\n");
+    played.Type("n\n");
+    played.Restart();
+    played.Window().Load(played.folder / "game.fbd");
+    EXPECT_TRUE(played.dialogs.Boxes().empty());
 }
 
 TEST(Window, SessionThatIsNotWantedBeginsAnew) {

@@ -1,0 +1,179 @@
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <algorithm>
+#include <set>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "player/character_pane.h"
+#include "player/game_screen.h"
+#include "player/played_window.h"
+#include "player/session.h"
+#include "player/text_pane.h"
+#include "qt/strings.h"
+
+namespace fabula::test {
+namespace {
+
+GameBuilder Game() {
+    GameBuilder game;
+    game.SystemMessage(34, "").SystemMessage(13, "Again?").Message(0, "Done it.");
+    return game.Entry(0, "DO", "_", "MESSAGE 0 DONE");
+}
+
+/// What a person can use or read; the rest holds such widgets, or moves them.
+bool IsControl(const QAccessibleInterface& access) {
+    static const std::set<QAccessible::Role> kOthers{
+        QAccessible::Client,    QAccessible::Pane,      QAccessible::LayeredPane, QAccessible::Splitter,
+        QAccessible::Window,    QAccessible::ScrollBar, QAccessible::ToolBar,     QAccessible::Grip,
+        QAccessible::Separator, QAccessible::MenuBar,   QAccessible::StatusBar,   QAccessible::Dialog,
+        QAccessible::Border,    QAccessible::Grouping,  QAccessible::Whitespace};
+    return !kOthers.contains(access.role());
+}
+
+/// The widgets in sight that have neither a name nor a text of their own.
+std::vector<std::string> Nameless(const QWidget& window) {
+    std::vector<std::string> nameless;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible()) continue;
+        QAccessibleInterface* access = QAccessible::queryAccessibleInterface(widget);
+        const bool used = widget->focusPolicy() != Qt::NoFocus || (access && IsControl(*access));
+        if (!used) continue;
+        if (access && !access->text(QAccessible::Name).isEmpty()) continue;
+        nameless.push_back(std::string(widget->metaObject()->className()) + " " +
+                           qt::FromQt(widget->objectName()));
+    }
+    return nameless;
+}
+
+const std::vector<std::string> kNone;
+
+TEST(WindowAccess, EveryControlOfTheFirstPageHasAName) {
+    PlayedWindow played;
+    played.Load(Game());
+    played.Restart();
+    EXPECT_EQ(Nameless(played.Window()), kNone);
+}
+
+TEST(WindowAccess, EveryControlOfAGameHasAName) {
+    PlayedWindow played(true);
+    QImage image(8, 4, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    image.save(qt::PathToQt(played.folder / "room.png"));
+    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    EXPECT_EQ(Nameless(played.Window()), kNone);
+}
+
+TEST(WindowAccess, EveryControlOfAGameWithCharacterSetsHasAName) {
+    PlayedWindow played;
+    played.Load(Game().CharacterSets());
+    EXPECT_EQ(Nameless(played.Window()), kNone);
+}
+
+TEST(WindowAccess, EveryControlOfAGameThatEndedHasAName) {
+    PlayedWindow played;
+    played.Load(Game().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END"));
+    played.Type("stop\nn\n");
+    ASSERT_TRUE(played.Window().findChild<QWidget*>("EndBar")->isVisible());
+    EXPECT_EQ(Nameless(played.Window()), kNone);
+}
+
+TEST(WindowAccess, EveryControlOfDiagnosticsHasAName) {
+    PlayedWindow played(true);
+    played.Load(Game());
+    played.Action("Debug").trigger();
+    EXPECT_EQ(Nameless(*played.Window().findChild<QWidget*>("frmDebug")), kNone);
+}
+
+TEST(WindowAccess, EveryControlOfAboutHasANameAndEscapeLeavesIt) {
+    PlayedWindow played;
+    played.Load(Game().SettingText("advdesc", "A vault.").SettingText("advcontactinfo", "Write."));
+    std::vector<std::string> nameless{"not looked at"};
+    QTimer::singleShot(0, &played.Window(), [&] {
+        QWidget* about = QApplication::activeModalWidget();
+        nameless = Nameless(*about);
+        QTest::keyClick(about, Qt::Key_Escape);
+    });
+    played.Action("About").trigger();
+    EXPECT_EQ(nameless, kNone);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+/// The widgets that Tab (or Shift+Tab) comes to until it is back where it began.
+std::vector<QWidget*> Round(PlayedWindow& played, Qt::Key key) {
+    const QWidget* start = QApplication::focusWidget();
+    std::vector<QWidget*> round;
+    do {
+        played.Press(key);
+        round.push_back(QApplication::focusWidget());
+    } while (QApplication::focusWidget() != start && round.size() < 50);
+    return round;
+}
+
+bool HasButton(const std::vector<QWidget*>& widgets, const QString& text) {
+    return std::any_of(widgets.begin(), widgets.end(), [&](const QWidget* widget) {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        return button != nullptr && button->text() == text;
+    });
+}
+
+TEST(WindowAccess, TabGoesFromTheTextToEveryButtonAndBack) {
+    PlayedWindow played;
+    played.Load(Game());
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        const auto round = Round(played, key);
+        EXPECT_EQ(round.back(), &played.Window().Screen().Text());
+        for (const char* button : {"Load", "Sound", "About", "Exit"})
+            EXPECT_TRUE(HasButton(round, button)) << button;
+    }
+}
+
+TEST(WindowAccess, TabGoesFromTheCharactersToEveryButtonAndBack) {
+    PlayedWindow played;
+    played.Load(Game().CharacterSets());
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        const auto round = Round(played, key);
+        EXPECT_EQ(round.back(), &played.Window().Screen().Characters());
+        EXPECT_TRUE(HasButton(round, "Load"));
+    }
+}
+
+TEST(WindowAccess, TabLeavesAPaneThatWaitsForAnyKeyAndIsNone) {
+    PlayedWindow played;
+    played.Load(Game().Word("WAIT", 101, 0).Entry(0, "WAIT", "_", "ANYKEY DONE"));
+    played.Type("wait\n");
+    played.Press(Qt::Key_Tab);
+    EXPECT_NE(QApplication::focusWidget(), &played.Window().Screen().Text());
+    EXPECT_EQ(played.Window().Playing()->WaitingFor(), engine::Waiting::AnyKey);
+}
+
+TEST(WindowAccess, GameCanBeLoadedPlayedAndPlayedAgainByKeysAlone) {
+    PlayedWindow played;
+    played.dialogs.AnswerFile(played.Write(Game().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END")));
+    played.Press(Qt::Key_Space);
+    played.Type("do\n");
+    EXPECT_NE(played.Text().find("Done it."), std::string::npos);
+    played.Type("stop\nn\n");
+    EXPECT_EQ(played.Window().Playing()->WaitingFor(), engine::Waiting::Nothing);
+    played.Press(Qt::Key_Space);
+    EXPECT_EQ(played.Window().Playing()->WaitingFor(), engine::Waiting::Sentence);
+    EXPECT_EQ(QApplication::focusWidget(), &played.Window().Screen().Text());
+}
+
+TEST(WindowAccess, ScreenReaderFindsTheWholeText) {
+    PlayedWindow played;
+    played.Load(Game());
+    QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&played.Window().Screen().Text());
+    ASSERT_NE(access->textInterface(), nullptr);
+    EXPECT_EQ(access->textInterface()->text(0, access->textInterface()->characterCount()), "Room 0?\n>");
+    EXPECT_EQ(access->textInterface()->cursorPosition(), 9);
+}
+
+}  // namespace
+}  // namespace fabula::test
