@@ -314,7 +314,7 @@ TEST(Window, SessionOfAnAdventureThatHasChangedSinceIsToldAndBeginsAnew) {
     played.Type("e\n");
     played.Restart();
     played.dialogs.AnswerNext(true);
-    played.Load(GameBuilder(game).Location(2, "New."));
+    played.Load(GameBuilder(game).Location(9, "New."));
     ASSERT_EQ(played.dialogs.Boxes().size(), 2U);
     EXPECT_EQ(played.dialogs.Boxes()[1].text,
               "The last session can't be resumed: the adventure has changed since.");
