@@ -37,7 +37,13 @@ std::set<store::TableNum> Document::Redo() {
     return store::TablesOf(changes);
 }
 
+void Document::SaveAs(const std::filesystem::path& file) {
+    adventure_->SaveCopy(file);
+    adventure_ = store::Adventure::Open(file);
+}
+
 void Document::Add(Step step) {
+    ++changes_;
     Forget(undone_);
     done_.push_back(std::move(step));
     if (done_.size() <= kMostChanges) return;

@@ -39,6 +39,14 @@ class Document {
     std::set<store::TableNum> Undo();
     std::set<store::TableNum> Redo();
 
+    /// How many changes were made in this sitting, for telling whether there was one. Undo and Redo don't
+    /// count.
+    int Changes() const { return changes_; }
+
+    /// Copies the adventure to another file and goes on with the copy; the old file stays as it is. What
+    /// could be undone still can. Throws fabula::Error, and nothing has happened then.
+    void SaveAs(const std::filesystem::path& file);
+
     /// The most changes that can be undone; older ones are forgotten.
     static constexpr std::size_t kMostChanges = 1000;
 
@@ -57,6 +65,7 @@ class Document {
     store::ChangeLog log_;
     std::deque<Step> done_;
     std::deque<Step> undone_;
+    int changes_ = 0;
     int depth_ = 0;  ///< how many changes are in the making, one in the other
 };
 

@@ -37,6 +37,12 @@ struct IdeHost {
 /// Where the authoring tool finds and keeps its files.
 struct IdePaths {
     std::filesystem::path defaultData;  ///< Fabula.ini
+    /// The user's folder for backup copies and work files; empty when there is none: nothing is copied
+    /// then.
+    std::filesystem::path state;
+    /// Where VersionNumbers.dat may lie, in the order in which it is looked for.
+    std::vector<std::filesystem::path> versionFolders;
+    std::string version;  ///< of the running program: "major.minor.revision"
 };
 
 /// How a game is to be tested.
@@ -63,9 +69,11 @@ class frmVelIDEMain {
 
     // --- Start and end of the program ---
 
-    /// Opens the adventure that was open the last time. When its file is gone the program starts with none.
+    /// Opens the adventure that was open the last time, notes the version of the program in it and in the
+    /// list of versions, and reports what is new. When the file is gone the program starts without an
+    /// adventure.
     void Form_Load();
-    /// Remembers the open adventure and where the author was.
+    /// Remembers the open adventure and where the author was, and deletes old work files.
     void Form_Unload();
     /// The author has been told that the program has to end.
     bool MustExit() const { return mustExit_; }
@@ -152,21 +160,30 @@ class frmVelIDEMain {
     };
 
     bool Guard(const std::function<void()>& step);
+    std::filesystem::path Folder() const;
+    void NoteVersions();
     void Adopt(std::unique_ptr<Desk> desk);
+    void RememberView();
+    void RememberFile();
+
     void ActivateMenus();
+    void InActivateMenus();
     void LastTable();
     void SetupGrid(const TableView& view);
     void SetUpEdits();
     void StayOn(std::optional<int> key, int row);
+    std::optional<int> CurrentKey() const;
     void ReadAgain();
-    void RememberView();
-    void RememberFile();
-    void StoreRecent();
 
-    void UndoOrRedo(Command command);
-    void mnuEditSort();
-    void Find();
     std::string WhyNot(Command command) const;
+    std::optional<std::string> UndoOrRedoName(Command command) const;
+    std::optional<ScreenRequest> Do(Command command);
+    std::optional<ScreenRequest> DoEntry(Command command);
+    void ShowChanges();
+    void UndoOrRedo(Command command);
+    void Find();
+    void mnuEditSort();
+    std::optional<std::string> ClickedOrder() const;
 
     IdeHost host_;
     IdePaths paths_;
@@ -179,7 +196,9 @@ class frmVelIDEMain {
     FindBox find_;
     int row_ = -1;
     std::string message_;
+    int changesBefore_ = 0;  ///< how many changes there were before the latest command
     bool running_ = false;
+    std::optional<bool> charSetsLoaded_;  ///< by an adventure of this sitting; nullopt: there was none yet
     bool mustExit_ = false;
 };
 

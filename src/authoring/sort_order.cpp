@@ -64,4 +64,10 @@ void StoreSort(Document& document, TableNum table, std::string_view order) {
     adventure.ReadSettings();
 }
 
+void ReadInPlainOrder(store::Adventure& adventure) {
+    adventure.Sorts() = SortOrders();
+    for (const SortField& field : kSortFields)
+        adventure.OpenTable(field.table, "def");
+}
+
 }  // namespace fabula::authoring

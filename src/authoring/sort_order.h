@@ -20,4 +20,8 @@ std::string FaultOfSort(const store::Adventure& adventure, store::TableNum table
 /// Throws fabula::Error when the file can't be written.
 void StoreSort(Document& document, store::TableNum table, std::string_view order);
 
+/// Puts the orders of the session back to their plain forms and reads the tables in them, until the
+/// settings are read again.
+void ReadInPlainOrder(store::Adventure& adventure);
+
 }  // namespace fabula::authoring

@@ -1,0 +1,245 @@
+#include "authoring/frm_vel_ide_main.h"
+#include "authoring/ide_settings.h"
+#include "authoring/last_records.h"
+#include "authoring/short_desc.h"
+#include "authoring/sort_order.h"
+#include "text/str_edit.h"
+
+// What the commands do, and when they can be used.
+
+namespace fabula::authoring {
+namespace {
+
+using store::TableNum;
+
+/// Commands that need no adventure.
+bool AlwaysWorks(Command command) {
+    switch (command) {
+        case Command::New:
+        case Command::Open:
+        case Command::Import:
+        case Command::Exit:
+        case Command::Trace:
+        case Command::Help:
+        case Command::HelpContents:
+        case Command::AboutAdventure:
+        case Command::About:
+            return true;
+        default:
+            return false;
+    }
+}
+
+std::optional<EntryCommand> EntryCommandOf(Command command) {
+    switch (command) {
+        case Command::Add:
+            return EntryCommand::Add;
+        case Command::AddBefore:
+            return EntryCommand::AddBefore;
+        case Command::Edit:
+            return EntryCommand::Edit;
+        case Command::Delete:
+            return EntryCommand::Delete;
+        default:
+            return std::nullopt;
+    }
+}
+
+bool NeedsRecord(Command command) {
+    return command == Command::Edit || command == Command::Delete || command == Command::AddBefore;
+}
+
+bool IsFind(Command command) {
+    return command == Command::Find || command == Command::FindNext;
+}
+
+/// A name in a menu, where "&" marks the next letter.
+std::string ForMenu(const std::string& name) {
+    return text::ReplaceAll(name, "&", "&&");
+}
+
+}  // namespace
+
+ActionState frmVelIDEMain::StateOf(Command command) const {
+    ActionState state;
+    state.why = WhyNot(command);
+    state.enabled = state.why.empty();
+    const CommandTexts texts =
+        desk_ ? TextsFor(command, grid_.View())
+              : CommandTexts{std::string(EntryOf(command).tip), std::string(EntryOf(command).text)};
+    state.text = texts.text;
+    state.menuText = texts.menuText;
+    if (command == Command::Trace) state.checked = TraceMode(host_.settings);
+    const auto name = UndoOrRedoName(command);
+    if (name) {
+        const std::string verb = command == Command::Undo ? "Undo " : "Redo ";
+        state.text = verb + *name;
+        state.menuText = "&" + verb + ForMenu(*name);
+    }
+    return state;
+}
+
+std::optional<std::string> frmVelIDEMain::UndoOrRedoName(Command command) const {
+    if (!desk_) return std::nullopt;
+    if (command == Command::Undo) return desk_->document.UndoName();
+    if (command == Command::Redo) return desk_->document.RedoName();
+    return std::nullopt;
+}
+
+std::string frmVelIDEMain::WhyNot(Command command) const {
+    if (running_) return "The game is being tested.";
+    const CommandEntry& entry = EntryOf(command);
+    if (!entry.notBuilt.empty()) return std::string(entry.notBuilt);
+    if (AlwaysWorks(command)) return "";
+    if (!desk_) return "No adventure is open.";
+    if (command == Command::Undo && !desk_->document.UndoName()) return "There is nothing to undo.";
+    if (command == Command::Redo && !desk_->document.RedoName()) return "There is nothing to redo.";
+    if (!rights_.Allows(command)) return Caption() + " does not offer this.";
+    if (IsFind(command) && grid_.View().table == TableNum::Adventure) return "The settings have no Find.";
+    const auto entryCommand = EntryCommandOf(command);
+    if (!entryCommand) return "";
+    const std::string_view missing = MissingEditor(grid_.View().table, *entryCommand);
+    if (!missing.empty()) return std::string(missing);
+    if (NeedsRecord(command) && row_ < 0) return "No record is selected.";
+    return "";
+}
+
+std::optional<ScreenRequest> frmVelIDEMain::Run(Command command) {
+    if (!StateOf(command).enabled) return std::nullopt;
+    message_.clear();
+    changesBefore_ = desk_ ? desk_->document.Changes() : 0;
+    std::optional<ScreenRequest> request;
+    Guard([&] { request = Do(command); });
+    return request;
+}
+
+std::optional<ScreenRequest> frmVelIDEMain::Do(Command command) {
+    switch (command) {
+        case Command::Open:
+            Open();
+            break;
+        case Command::SaveAs:
+            SaveAs();
+            break;
+        case Command::Close:
+            Close();
+            break;
+        case Command::Undo:
+        case Command::Redo:
+            UndoOrRedo(command);
+            break;
+        case Command::Add:
+        case Command::AddBefore:
+        case Command::Edit:
+        case Command::Delete:
+        case Command::Settings:
+            return DoEntry(command);
+        case Command::Find:
+        case Command::FindNext:
+            Find();
+            break;
+        case Command::Sort:
+            mnuEditSort();
+            break;
+        case Command::Trace:
+            SetTraceMode(host_.settings, !TraceMode(host_.settings));
+            break;
+        case Command::LastRecordKeys:
+            host_.dialogs.Report(ListLastRecords(desk_->document.Adventure()), "Last Record Keys");
+            break;
+        case Command::ShortDescriptions:
+            LoadShortDesc(desk_->session);
+            ShowChanges();
+            break;
+        default:
+            break;
+    }
+    return std::nullopt;
+}
+
+std::optional<ScreenRequest> frmVelIDEMain::DoEntry(Command command) {
+    Session& session = desk_->session;
+    Entries entries(session);
+    std::optional<ScreenRequest> request;
+    if (command == Command::Add) request = entries.AddEntry();
+    if (command == Command::AddBefore) request = entries.AddEntryBefore();
+    if (command == Command::Edit) request = entries.EditEntry();
+    if (command == Command::Settings) {
+        session.currentTable = TableNum::Adventure;
+        request = entries.EditEntry();
+        session.currentTable = grid_.View().table;
+    }
+    if (command == Command::Delete) entries.DeleteEntry();
+    if (!request) ShowChanges();
+    return request;
+}
+
+void frmVelIDEMain::ScreenClosed(const ScreenRequest& request) {
+    if (!desk_) return;
+    Guard([&] {
+        if (!Entries(desk_->session).AfterScreen(request)) mustExit_ = true;
+        ShowChanges();
+        if (!request.key.isNew) return;
+        if (const auto added = grid_.RowOf(request.key.key)) SelectRow(*added);
+    });
+}
+
+/// Reads again what a command may have changed, and says what it was.
+void frmVelIDEMain::ShowChanges() {
+    ReadAgain();
+    if (desk_->document.Changes() == changesBefore_) return;
+    if (const auto name = desk_->document.UndoName()) message_ = "Done: " + *name;
+}
+
+void frmVelIDEMain::UndoOrRedo(Command command) {
+    const bool undo = command == Command::Undo;
+    const std::string name = UndoOrRedoName(command).value_or("");
+    if (undo) {
+        desk_->document.Undo();
+    } else {
+        desk_->document.Redo();
+    }
+    ReadAgain();
+    message_ = (undo ? "Undone: " : "Done again: ") + name;
+}
+
+void frmVelIDEMain::Find() {
+    const std::optional<int> found = find_.Find(grid_, row_, Caption(), host_.dialogs);
+    if (found) SelectRow(*found);
+}
+
+/// Asks for the order that the adventure is to keep. What is proposed is the order of the column that was
+/// clicked, or else the present one.
+void frmVelIDEMain::mnuEditSort() {
+    Document& document = desk_->document;
+    const TableNum table = grid_.View().table;
+    const auto stored = StoredSort(document.Adventure(), table);
+    if (!stored) return;
+    platform::TextQuestion question{
+        "Fields to sort by, with a comma between them; behind a field, desc sorts "
+        "downwards:",
+        "Sort " + Caption(), ClickedOrder().value_or(*stored)};
+    while (const auto answer = host_.dialogs.AskText(question)) {
+        const std::string order(text::TrimBlanks(*answer));
+        const std::string fault = FaultOfSort(document.Adventure(), table, order);
+        if (fault.empty()) {
+            StoreSort(document, table, order);
+            SetupGrid(grid_.View());
+            return ShowChanges();
+        }
+        Refuse(host_.dialogs, fault);
+        question.proposal = *answer;
+    }
+}
+
+std::optional<std::string> frmVelIDEMain::ClickedOrder() const {
+    const auto column = grid_.SortColumn();
+    if (!column) return std::nullopt;
+    const std::string& field = grid_.Columns()[static_cast<std::size_t>(*column)].field;
+    const std::string key = KeyField(grid_.View().table);
+    std::string order = field + (grid_.SortsDown() ? " desc" : "");
+    if (field != key) order += ", " + key;
+    return order;
+}
+
+}  // namespace fabula::authoring

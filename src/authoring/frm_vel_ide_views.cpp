@@ -1,0 +1,137 @@
+#include <algorithm>
+
+#include "authoring/frm_vel_ide_main.h"
+#include "authoring/ide_settings.h"
+
+// Tree, grid and selection.
+
+namespace fabula::authoring {
+
+/// Reads what the adventure says of itself, and the tree with it.
+void frmVelIDEMain::ActivateMenus() {
+    store::Adventure& adventure = desk_->document.Adventure();
+    adventure.ReadSettings();
+    tree_ = LoadTreeView(adventure, maintenance_);
+    ReadNextKeys(desk_->session);
+}
+
+void frmVelIDEMain::InActivateMenus() {
+    tree_.clear();
+    grid_.Clear();
+    find_ = FindBox();
+    rights_ = TableRights();
+    row_ = -1;
+}
+
+/// Goes where the author was the last time, as far as this adventure has it.
+void frmVelIDEMain::LastTable() {
+    const LastView last = ReadLastView(host_.settings);
+    SetupGrid(NodeOf(tree_, last.view) ? last.view : TableView());
+    StayOn(last.key, 0);
+}
+
+void frmVelIDEMain::SetupGrid(const TableView& view) {
+    store::Adventure& adventure = desk_->document.Adventure();
+    Session& session = desk_->session;
+    session.currentTable = view.table;
+    if (view.table == store::TableNum::ProcessTables) session.currentESNum = view.process;
+    grid_.SetupGrid(adventure, view, maintenance_);
+    SetUpEdits();
+    find_.SetUpFindComboBox(adventure, view.table);
+    StayOn(std::nullopt, 0);
+}
+
+void frmVelIDEMain::SetUpEdits() {
+    rights_ = ReadTableRights(desk_->document.Adventure(), grid_.View().table);
+}
+
+void frmVelIDEMain::StayOn(std::optional<int> key, int row) {
+    const std::optional<int> found = key ? grid_.RowOf(*key, row) : std::nullopt;
+    SelectRow(found.value_or(std::min(std::max(row, 0), grid_.RowCount() - 1)));
+}
+
+void frmVelIDEMain::ShowNode(int sort) {
+    const TreeNode* const node = NodeAt(tree_, sort);
+    if (node) Show(node->view);
+}
+
+void frmVelIDEMain::Show(const TableView& view) {
+    if (!desk_ || running_) return;
+    message_.clear();
+    Guard([&] {
+        SetupGrid(view);
+        RememberView();
+    });
+}
+
+void frmVelIDEMain::SelectRow(int row) {
+    row_ = row >= 0 && row < grid_.RowCount() ? row : -1;
+    if (desk_) desk_->session.currentEntry = row_ < 0 ? 0 : grid_.KeyOf(row_);
+}
+
+std::optional<int> frmVelIDEMain::CurrentKey() const {
+    if (row_ < 0) return std::nullopt;
+    return grid_.KeyOf(row_);
+}
+
+void frmVelIDEMain::ClickColumn(int column) {
+    const std::optional<int> key = CurrentKey();
+    grid_.ClickColumn(column);
+    StayOn(key, row_);
+}
+
+void frmVelIDEMain::SetFilter(std::string_view text) {
+    const std::optional<int> key = CurrentKey();
+    grid_.SetFilter(text);
+    StayOn(key, row_);
+}
+
+void frmVelIDEMain::ResizeColumn(int column, int width) {
+    if (!desk_) return;
+    Guard([&] { grid_.ResizeColumn(desk_->document.Adventure(), column, width); });
+}
+
+void frmVelIDEMain::Refresh() {
+    if (!desk_) return;
+    Guard([&] { ReadAgain(); });
+}
+
+/// Reads everything that is shown again, after the adventure was changed, and stays on the row.
+void frmVelIDEMain::ReadAgain() {
+    const std::optional<int> key = CurrentKey();
+    const int row = row_;
+    const std::string before = AdventureStatus();
+    ActivateMenus();
+    TableView view = grid_.View();
+    if (view.table == store::TableNum::ProcessTables) view.process = desk_->session.currentESNum;
+    if (!NodeOf(tree_, view)) view = TableView();
+    if (view != grid_.View() || AdventureStatus() != before) {
+        SetupGrid(view);
+    } else {
+        grid_.Refresh(desk_->document.Adventure());
+    }
+    StayOn(key, row);
+}
+
+std::string frmVelIDEMain::AdventureStatus() const {
+    return desk_ ? authoring::AdventureStatus(desk_->document.Adventure()) : "";
+}
+
+std::string frmVelIDEMain::TableStatus() const {
+    if (!desk_) return "";
+    std::string status = Caption() + " - " + std::to_string(grid_.RecordCount()) + " records";
+    if (!grid_.Filter().empty()) status += ", " + std::to_string(grid_.RowCount()) + " shown";
+    return status;
+}
+
+const TreeNode* frmVelIDEMain::CurrentNode() const {
+    return desk_ ? NodeOf(tree_, grid_.View()) : nullptr;
+}
+
+std::string frmVelIDEMain::Caption() const {
+    if (const TreeNode* const node = CurrentNode()) return node->name;
+    const store::TableEntry* const table = store::FindTable(grid_.View().table);
+    return table ? std::string(table->name) : "";
+}
+
+}  // namespace fabula::authoring
