@@ -1,5 +1,6 @@
 #include "authoring/document.h"
 
+#include <stdexcept>
 #include <utility>
 
 namespace fabula::authoring {
@@ -51,6 +52,12 @@ void Document::Add(Step step) {
     done_.pop_front();
 }
 
+void Document::Replace(Step& step, std::int64_t changes) {
+    Forget(undone_);
+    log_.Remove(step.changes);
+    step.changes = changes;
+}
+
 void Document::Forget(std::deque<Step>& steps) {
     for (const Step& step : steps)
         log_.Remove(step.changes);
@@ -63,18 +70,42 @@ Change::Change(Document& document, std::string name)
     ++document_.depth_;
 }
 
+Change::Change(Document& document, WithLatest) : Change(document, document.UndoName().value_or("")) {
+    if (document.done_.empty()) throw std::logic_error("There is no change to join to.");
+    joins_ = true;
+}
+
 Change::~Change() {
-    --document_.depth_;
+    End();
+}
+
+void Change::End() {
+    if (open_) --document_.depth_;
+    open_ = false;
 }
 
 void Change::Commit() {
-    if (!recorder_) return transaction_.Commit();
+    if (recorder_)
+        CommitAsStep();
+    else
+        transaction_.Commit();
+    End();
+}
+
+void Change::CommitAsStep() {
     const std::string changes = recorder_->Changes();
     if (changes.empty()) return transaction_.Commit();
     // First the log, then the file: nothing is changed that could not be taken back.
-    Document::Step step{name_, document_.log_.Add(changes)};
+    if (!joins_) {
+        Document::Step step{name_, document_.log_.Add(changes)};
+        transaction_.Commit();
+        return document_.Add(std::move(step));
+    }
+    Document::Step& latest = document_.done_.back();
+    const std::string before = document_.log_.Get(latest.changes);
+    const std::int64_t joined = document_.log_.Add(store::Joined(before, changes));
     transaction_.Commit();
-    document_.Add(std::move(step));
+    document_.Replace(latest, joined);
 }
 
 }  // namespace fabula::authoring

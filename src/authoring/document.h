@@ -59,6 +59,7 @@ class Document {
     };
 
     void Add(Step step);
+    void Replace(Step& step, std::int64_t changes);
     void Forget(std::deque<Step>& steps);
 
     std::unique_ptr<store::Adventure> adventure_;
@@ -79,6 +80,11 @@ class Change {
   public:
     /// `name` follows the words Undo and Redo: "edit message 7".
     Change(Document& document, std::string name);
+    /// What belongs to the latest change although it comes after it, such as what follows when a screen
+    /// that stored something has closed: it becomes part of that step of Undo. Without a latest change it
+    /// throws std::logic_error.
+    struct WithLatest {};
+    Change(Document& document, WithLatest);
     Change(const Change&) = delete;
     Change& operator=(const Change&) = delete;
     ~Change();
@@ -87,8 +93,13 @@ class Change {
     void Commit();
 
   private:
+    void CommitAsStep();
+    void End();
+
     Document& document_;
     std::string name_;
+    bool joins_ = false;
+    bool open_ = true;
     std::optional<store::ChangeRecorder> recorder_;  ///< of the outermost change
     store::Transaction transaction_;
 };

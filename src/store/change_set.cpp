@@ -89,6 +89,19 @@ void TakeBack(Adventure& adventure, std::string_view changes) {
     DoAgain(adventure, Inverted(changes));
 }
 
+std::string Joined(std::string_view first, std::string_view second) {
+    const Bytes before = BytesOf(first);
+    const Bytes after = BytesOf(second);
+    int size = 0;
+    void* data = nullptr;
+    const int result =
+        sqlite3changeset_concat(before.size, before.data, after.size, after.data, &size, &data);
+    const Buffer buffer(data);
+    Check(result, "join two changes");
+    if (size == 0) return {};
+    return std::string(static_cast<const char*>(data), static_cast<std::size_t>(size));
+}
+
 std::set<TableNum> TablesOf(std::string_view changes) {
     std::set<TableNum> tables;
     if (changes.empty()) return tables;

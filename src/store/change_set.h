@@ -38,6 +38,9 @@ void TakeBack(Adventure& adventure, std::string_view changes);
 /// Makes the changes again.
 void DoAgain(Adventure& adventure, std::string_view changes);
 
+/// One change set that does what the two do, one after the other.
+std::string Joined(std::string_view first, std::string_view second);
+
 /// The tables whose records a change set touches.
 std::set<TableNum> TablesOf(std::string_view changes);
 

@@ -92,6 +92,52 @@ TEST_F(DocumentTest, AChangeWithinAChangeIsPartOfIt) {
     EXPECT_EQ(document_.UndoName(), std::nullopt);
 }
 
+TEST_F(DocumentTest, AChangeWithTheLatestIsUndoneWithIt) {
+    AddMessage(0);
+    AddMessage(1);
+    {
+        Change more(document_, Change::WithLatest{});
+        store::Cursor& messages = document_.Adventure().OpenTable(TableNum::Messages, "def", "msgnum=1");
+        messages.SetField("msgmsg", std::string("another text"));
+        messages.Update();
+        store::Cursor& flags = document_.Adventure().OpenTable(TableNum::Flags, "def", "flgnum=11");
+        flags.SetField("flgdesc", std::string("told"));
+        flags.Update();
+        more.Commit();
+    }
+    EXPECT_EQ(document_.UndoName(), "add message 1");
+    EXPECT_EQ(document_.Undo(), (std::set{TableNum::Messages, TableNum::Flags}));
+    EXPECT_EQ(Messages(), 1);
+    EXPECT_EQ(document_.Adventure().OpenTable(TableNum::Flags, "def", "flgnum=11").Text("flgdesc"), "");
+    document_.Redo();
+    EXPECT_EQ(document_.Adventure().OpenTable(TableNum::Messages, "def", "msgnum=1").Text("msgmsg"),
+              "another text");
+    document_.Undo();
+    EXPECT_EQ(document_.UndoName(), "add message 0");
+}
+
+TEST_F(DocumentTest, AChangeWithTheLatestThatIsNotCommittedLeavesTheLatest) {
+    AddMessage(0);
+    {
+        const Change more(document_, Change::WithLatest{});
+        document_.Adventure().DeleteFrom(TableNum::Vocabulary);
+    }
+    EXPECT_EQ(document_.Undo(), (std::set{TableNum::Messages}));
+}
+
+TEST_F(DocumentTest, AChangeWithTheLatestNeedsOne) {
+    EXPECT_THROW(Change(document_, Change::WithLatest{}), std::logic_error);
+    AddMessage(0);
+    EXPECT_EQ(document_.UndoName(), "add message 0");
+}
+
+TEST_F(DocumentTest, AChangeIsOverWithItsCommit) {
+    Change first(document_, "edit the settings");
+    first.Commit();
+    AddMessage(0);
+    EXPECT_EQ(document_.UndoName(), "add message 0");
+}
+
 TEST_F(DocumentTest, AChangeThatChangesNothingIsNoStep) {
     Change change(document_, "edit message 0");
     change.Commit();
