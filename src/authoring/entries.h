@@ -28,10 +28,11 @@ struct SettingsBefore {
 /// A screen that the window is to open, and what `Entries::AfterScreen` needs when it has closed.
 struct ScreenRequest {
     Screen screen = Screen::Location;
-    ScreenKey key;
+    ScreenKey key = {};
     store::TableNum table = store::TableNum::Locations;  ///< whose record it is
-    std::optional<int> before;  ///< of a process entry: the key of the one that the new one goes before
-    SettingsBefore settings;
+    /// Of a process entry: the key of the one that the new one goes before.
+    std::optional<int> before = std::nullopt;
+    SettingsBefore settings = {};
 };
 
 /// The commands on the entries of a table.
@@ -48,7 +49,8 @@ std::string_view MissingEditor(store::TableNum table, EntryCommand command);
 /// Undo, the work of its screen included.
 ///
 /// What they change stands in the tables only: afterwards open the grid's cursor again. They keep
-/// `nextEntry` and `nextWord` right and never move `currentEntry`.
+/// `nextEntry` and `nextWord` right. They leave `currentEntry` and `currentESNum` alone, except where the
+/// first process entry of all is added: then the entry is 0 and the process in view becomes 2.
 class Entries {
   public:
     explicit Entries(Session& session) : session_(session) {}
