@@ -36,13 +36,6 @@ QCommandLinkButton* LinkButton(const QString& name, const char* icon, const QStr
     return button;
 }
 
-void Empty(QVBoxLayout& list) {
-    while (QLayoutItem* item = list.takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
-}
-
 }  // namespace
 
 EmptyPage::EmptyPage(Actions actions, QWidget* parent) : QScrollArea(parent), actions_(std::move(actions)) {
@@ -72,16 +65,18 @@ EmptyPage::EmptyPage(Actions actions, QWidget* parent) : QScrollArea(parent), ac
     start->addStretch(1);
     setFocusProxy(create);
 
-    lists_ = new QVBoxLayout;
-    lists_->setSpacing(4);
-    recent_ = AddList(recentTitle_, tr("Recent"));
-    examples_ = AddList(examplesTitle_, tr("Examples"));
-    lists_->addStretch(1);
+    recent_ = MakeList(tr("Recent"));
+    examples_ = MakeList(tr("Examples"));
+    auto* lists = new QVBoxLayout;
+    lists->setSpacing(12);
+    lists->addWidget(recent_.whole);
+    lists->addWidget(examples_.whole);
+    lists->addStretch(1);
 
     columns_ = new QBoxLayout(QBoxLayout::LeftToRight);
     columns_->setSpacing(32);
     columns_->addLayout(start, 1);
-    columns_->addLayout(lists_, 1);
+    columns_->addLayout(lists, 1);
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(32, 24, 32, 24);
     column->setSpacing(4);
@@ -101,39 +96,50 @@ EmptyPage::EmptyPage(Actions actions, QWidget* parent) : QScrollArea(parent), ac
     setWidget(centred);
 }
 
-QVBoxLayout* EmptyPage::AddList(QLabel*& title, const QString& text) {
-    title = Heading(text, 1.2);
-    title->hide();
-    lists_->addWidget(title);
-    auto* list = new QVBoxLayout;
-    list->setSpacing(0);
-    lists_->addLayout(list);
-    lists_->addSpacing(16);
-    return list;
+EmptyPage::List EmptyPage::MakeList(const QString& title) {
+    auto* whole = new QWidget;
+    auto* column = new QVBoxLayout(whole);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    column->addWidget(Heading(title, 1.2));
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(0);
+    column->addLayout(lines);
+    whole->hide();
+    return {whole, lines};
+}
+
+void EmptyPage::Empty(const List& list) {
+    while (QLayoutItem* item = list.lines->takeAt(0)) {
+        // The button may be at work on the click that changed the list.
+        item->widget()->deleteLater();
+        item->widget()->hide();
+        delete item;
+    }
 }
 
 void EmptyPage::ShowExamples(const std::vector<Example>& examples) {
-    Empty(*examples_);
-    examplesTitle_->setVisible(!examples.empty());
+    Empty(examples_);
+    examples_.whole->setVisible(!examples.empty());
     for (const Example& example : examples) {
-        auto* button = LinkButton(QString("Example%1").arg(examples_->count() + 1), "lamp",
+        auto* button = LinkButton(QString("Example%1").arg(examples_.lines->count() + 1), "lamp",
                                   qt::ToQt(example.name), qt::ToQt(example.about));
         QObject::connect(button, &QCommandLinkButton::clicked, this,
                          [this, example] { actions_.openExample(example); });
-        examples_->addWidget(button);
+        examples_.lines->addWidget(button);
     }
 }
 
 void EmptyPage::ShowRecent(const std::vector<std::filesystem::path>& files) {
-    Empty(*recent_);
-    recentTitle_->setVisible(!files.empty());
+    Empty(recent_);
+    recent_.whole->setVisible(!files.empty());
     for (const std::filesystem::path& file : files) {
         auto* button =
-            LinkButton(QString("Recent%1").arg(recent_->count() + 1), "book",
+            LinkButton(QString("Recent%1").arg(recent_.lines->count() + 1), "book",
                        qt::PathToQt(file.stem()).replace('&', "&&"), qt::PathToQt(file.parent_path()));
         QObject::connect(button, &QCommandLinkButton::clicked, this,
                          [this, file] { actions_.openRecent(file); });
-        recent_->addWidget(button);
+        recent_.lines->addWidget(button);
     }
 }
 

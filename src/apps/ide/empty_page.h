@@ -3,21 +3,14 @@
 #include <QScrollArea>
 #include <filesystem>
 #include <functional>
-#include <string>
 #include <vector>
 
+#include "ide/examples.h"
+
 class QBoxLayout;
-class QLabel;
 class QVBoxLayout;
 
 namespace fabula::ide {
-
-/// An example game of the installation.
-struct Example {
-    std::filesystem::path file;
-    std::string name;   ///< "The Lighthouse"
-    std::string about;  ///< one sentence
-};
 
 /// What the window shows while no adventure is open: how to get one. Its buttons are found by their names:
 /// "cmdNew", "cmdOpen", "cmdImport", "Example1" and on, "Recent1" and on.
@@ -40,15 +33,18 @@ class EmptyPage final : public QScrollArea {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    QVBoxLayout* AddList(QLabel*& title, const QString& text);
+    /// A heading with a list below, hidden until it has lines.
+    struct List {
+        QWidget* whole;
+        QVBoxLayout* lines;
+    };
+    static List MakeList(const QString& title);
+    static void Empty(const List& list);
 
     Actions actions_;
     QBoxLayout* columns_;
-    QVBoxLayout* lists_;
-    QLabel* recentTitle_ = nullptr;
-    QVBoxLayout* recent_;
-    QLabel* examplesTitle_ = nullptr;
-    QVBoxLayout* examples_;
+    List recent_;
+    List examples_;
 };
 
 }  // namespace fabula::ide

@@ -1,20 +1,47 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QSettings>
+#include <QStandardPaths>
 
+#include "authoring/start_up.h"
 #include "ide/main_window.h"
 #include "midi/player.h"
 #include "platform/random_source.h"
+#include "platform/user_folders.h"
 #include "qt/qt_dialogs.h"
+#include "qt/qt_events.h"
+#include "qt/qt_settings.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
 
+namespace {
+
+using namespace fabula;
+
+ide::Places FindPlaces(const authoring::ProgramFiles& files, const platform::Environment& environment,
+                       const std::vector<std::filesystem::path>& folders) {
+    const auto folderOf = [](QStandardPaths::StandardLocation location) {
+        return qt::PathFromQt(QStandardPaths::writableLocation(location));
+    };
+    return {.desk = {.defaultData = files.defaultData,
+                     .state = platform::UserStateFolder(environment),
+                     .versionFolders = folders,
+                     .version = FABULA_VERSION},
+            .help = files.help,
+            .examples = ide::FindExamples(folders),
+            .ownGames = folderOf(QStandardPaths::DocumentsLocation) / "Fabula",
+            .playersData = folderOf(QStandardPaths::AppDataLocation)};
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-    using namespace fabula;
     QApplication app(argc, argv);
     QApplication::setApplicationName("Fabula");
     QApplication::setApplicationVersion(FABULA_VERSION);
     QApplication::setDesktopFileName("fabula-ide");
+    // While a game is tested the window is hidden and another one closes. This one ends the program itself.
+    QApplication::setQuitOnLastWindowClosed(false);
 
     QCommandLineParser arguments;
     arguments.setApplicationDescription("Makes text adventures.");
@@ -23,16 +50,24 @@ int main(int argc, char** argv) {
     arguments.addPositionalArgument("file", "The adventure to open (*.fbd).", "[file]");
     arguments.process(app);
 
-    QSettings settings(QSettings::IniFormat, QSettings::UserScope, "Fabula", "Fabula");
-    platform::SeededRandom random(platform::UnpredictableSeed());
-    qt::QtTimers timers;
+    QSettings store(QSettings::IniFormat, QSettings::UserScope, "Fabula", "Fabula");
+    qt::QtSettings settings(store);
     qt::QtDialogs dialogs;
-    midi::Player sound(timers, midi::OpenOutput, [](const std::string&) {});
+    const auto environment = platform::Environment::OfTheProgram();
+    const auto folders = platform::ProgramDataFolders(platform::RunningProgram(), environment);
+    const auto files = authoring::FindProgramFiles(settings, folders, dialogs);
+    if (!files) return EXIT_FAILURE;
 
-    ide::MainWindow window({timers, dialogs, sound, random, settings});
-    dialogs.SetParent(&window);
+    platform::SeededRandom random(platform::UnpredictableSeed());
+    platform::SystemClock clock;
+    qt::QtTimers timers;
+    qt::QtEvents events;
+    midi::Player sound(timers, midi::OpenOutput, [](const std::string&) {});
+    ide::MainWindow window({timers, dialogs, settings, store, clock, events, sound, random},
+                           FindPlaces(*files, environment, folders));
     window.show();
-    const QStringList files = arguments.positionalArguments();
-    if (!files.isEmpty()) window.Open(qt::PathFromQt(files.first()));
+    window.Start(arguments.positionalArguments().isEmpty()
+                     ? std::filesystem::path()
+                     : qt::PathFromQt(arguments.positionalArguments().first()));
     return QApplication::exec();
 }

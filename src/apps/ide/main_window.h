@@ -3,43 +3,129 @@
 #include <QMainWindow>
 #include <filesystem>
 #include <memory>
+#include <vector>
 
-#include "authoring/document.h"
+#include "authoring/frm_vel_ide_main.h"
 #include "engine/sound_player.h"
-#include "platform/dialogs.h"
+#include "ide/examples.h"
+#include "ide/help_request.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
+#include "qt/theme.h"
 
+class QActionGroup;
+class QLabel;
 class QSettings;
+class QSplitter;
 class QStackedWidget;
 
 namespace fabula::ide {
 
+class CommandActions;
 class EmptyPage;
+class FindBar;
+class GameTest;
+class HelpWindow;
+class RecordPanel;
+class TreePanel;
 
 /// What the window asks of its program. All of it outlives the window.
 struct Services {
     platform::Timers& timers;
     platform::Dialogs& dialogs;
+    platform::Settings& settings;
+    QSettings& store;  ///< what `settings` are kept in, for what Qt's windows remember
+    const platform::Clock& clock;
+    platform::EventPump& events;
     engine::SoundPlayer& sound;
     platform::RandomSource& random;
-    QSettings& settings;
 };
 
-/// The window of the authoring tool.
+/// Where the window finds and keeps its files.
+struct Places {
+    authoring::IdePaths desk;
+    std::filesystem::path help;         ///< the page of contents
+    std::vector<Example> examples;      ///< that it offers
+    std::filesystem::path ownGames;     ///< where an example is copied to before it is opened
+    std::filesystem::path playersData;  ///< where games that are tested keep what their players save
+};
+
+/// The window of the authoring tool: menus, tool bar, tree and grid around `frmVelIDEMain`, which decides
+/// everything. The window only shows what that tells and hands on what the author does.
 class MainWindow final : public QMainWindow {
   public:
-    explicit MainWindow(const Services& services);
+    MainWindow(const Services& services, Places places);
     ~MainWindow() override;
 
-    /// Opens an adventure; a file that is refused is told, and what was open stays.
-    void Open(const std::filesystem::path& file);
+    /// Opens a file, or without one the adventure that was open the last time.
+    void Start(const std::filesystem::path& file);
+
+    /// Does a command as its menu would.
+    void Do(authoring::Command command);
+
+    authoring::frmVelIDEMain& Logic() { return ide_; }
+    /// The game being tested; nullptr when there is none.
+    const GameTest* Test() const { return test_.get(); }
+    /// The window of the help; nullptr before it was asked for.
+    HelpWindow* Help() { return help_.get(); }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
+    void MakePages();
+    void MakeMenus();
+    void MakeThemeMenu(QMenu& view);
+    void MakeStatusBar();
+    void MakeKeys();
+    void PlaceWindow();
+
+    void ShowChanges();
+    void ShowRow();
+    void ShowActions();
+    void ShowStatus();
+    void ShowTables();
+    void ShowRecent();
+    void NextPane(int direction);
+
+    void New();
+    void Open(const std::filesystem::path& file);
+    void OpenExample(const Example& example);
+    void DoInLogic(authoring::Command command);
+    void FindOrAsk(authoring::Command command);
+    void StartTest();
+    void EndTest();
+    void ShowHelp(const HelpTopic& topic);
+    void AboutAdventure();
+    void About();
+    void AskEntryMenu(const QPoint& place);
+    void ChooseTheme(qt::Theme theme);
+
     Services services_;
+    Places places_;
+    authoring::frmVelIDEMain ide_;
+    HelpRequest helpRequest_;
+    authoring::TableView shownView_;
+    bool gridShown_ = false;
+    std::unique_ptr<GameTest> test_;
+    std::unique_ptr<HelpWindow> help_;
+
     QStackedWidget* pages_;
     EmptyPage* empty_;
-    std::unique_ptr<authoring::Document> document_;
+    QSplitter* desk_;
+    TreePanel* tree_;
+    RecordPanel* records_;
+    FindBar* find_;
+    CommandActions* actions_;
+    QMenu* tables_ = nullptr;
+    QActionGroup* recent_ = nullptr;
+    QActionGroup* themes_ = nullptr;
+    QLabel* message_;
+    QLabel* tableStatus_;
+    QLabel* adventureStatus_;
 };
 
 }  // namespace fabula::ide

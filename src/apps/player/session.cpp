@@ -32,10 +32,11 @@ class Mark {
 }  // namespace
 
 Session::Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
-                 const engine::Host& host, platform::Timers& timers, Autosave autosave)
+                 const engine::Host& host, platform::Timers& timers, Autosave autosave,
+                 const engine::Options& options)
     : adventure_(store::Adventure::Open(file, store::OpenMode::ReadOnly)),
       folder_(FolderOfGame(dataFolder, SaveNameOf(*adventure_), file)),
-      engine_(*adventure_, host),
+      engine_(*adventure_, host, options),
       oper_(host.oper),
       keeps_(autosave == Autosave::On),
       autosave_(timers, [this] { WriteAutosave(); }) {}

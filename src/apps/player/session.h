@@ -26,7 +26,8 @@ class Session {
   public:
     /// Opens the file. Throws store::OpenError when it is refused, and fabula::Error when it can't be read.
     Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
-            const engine::Host& host, platform::Timers& timers, Autosave autosave = Autosave::On);
+            const engine::Host& host, platform::Timers& timers, Autosave autosave = Autosave::On,
+            const engine::Options& options = {});
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
     ~Session();

@@ -228,8 +228,8 @@ void frmVelEngMain::Load(const std::filesystem::path& file) {
     try {
         opened = std::make_unique<Session>(
             file, services_.dataFolder,
-            engine::Host{*screen_, services_.dialogs, services_.random, services_.sound}, services_.timers,
-            services_.testRun ? Autosave::Off : Autosave::On);
+            engine::Host{*screen_, services_.dialogs, services_.random, services_.sound, services_.trace},
+            services_.timers, services_.testRun ? Autosave::Off : Autosave::On, services_.options);
     } catch (const Error& error) {
         services_.dialogs.Tell(error.what(), "Error");
         settings_.recent.Remove(file);
@@ -319,7 +319,10 @@ void frmVelEngMain::About() {
 
 void frmVelEngMain::Debug_Click() {
     if (!session_) return;
-    const auto help = [this] { Tell("There is no help for the player's window yet."); };
+    const auto help = [this] {
+        if (services_.help) return services_.help("frmdebug.html");
+        Tell("The help comes with the authoring tool.");
+    };
     if (!debugWindow_) debugWindow_ = std::make_unique<DebugWindow>(session_->Engine(), help, this);
     debugWindow_->show();
     debugWindow_->activateWindow();

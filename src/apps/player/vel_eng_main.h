@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -35,6 +36,10 @@ struct WindowServices {
     /// The window is shown by the authoring tool (`strMode` is "IDE"): "Debug" is allowed, the window
     /// closes when the game ends, and nothing of the run is kept.
     bool testRun = false;
+    engine::TraceSink* trace = nullptr;  ///< where the steps of the game go; nullptr: nowhere
+    engine::Options options{};
+    /// Shows a page of the help; empty when there is no help at hand.
+    std::function<void(const char* page)> help{};
 };
 
 /// The engine's window: one adventure, loaded and played.

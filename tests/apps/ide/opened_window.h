@@ -1,12 +1,19 @@
 #pragma once
 
+#include <QAction>
 #include <QSettings>
+#include <QTreeWidget>
 #include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
+#include "ide/help_folder.h"
 #include "ide/main_window.h"
 #include "platform/manual_timers.h"
 #include "platform/random_source.h"
 #include "platform/scripted_dialogs.h"
+#include "qt/qt_settings.h"
 #include "support/game_builder.h"
 #include "support/temp_folder.h"
 
@@ -20,6 +27,30 @@ class OpenedWindow {
     ~OpenedWindow();
 
     ide::MainWindow& Window() const { return *window_; }
+    authoring::frmVelIDEMain& Logic() const { return window_->Logic(); }
+
+    /// Writes a game into the folder and opens it.
+    void Open(const GameBuilder& game);
+    /// Closes the window and opens a new one with the same folder and settings.
+    void Restart();
+
+    /// The part of the window with a name.
+    template <typename Widget>
+    Widget& Part(const char* name) const {
+        auto* part = window_->findChild<Widget*>(name);
+        if (!part) throw std::logic_error(std::string("there is no part ") + name);
+        return *part;
+    }
+    QAction& Action(const char* key) const { return Part<QAction>(key); }
+    /// The node of the tree with this name.
+    QTreeWidgetItem& Node(const char* name) const;
+    void ChooseNode(const char* name) const;
+    /// What the grid shows in a cell.
+    std::string Cell(int row, int column) const;
+
+    /// Types into the widget that has the keyboard.
+    void Type(const QString& text) const;
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
     TempFolder folder;
     platform::ManualTimers timers;
@@ -27,8 +58,16 @@ class OpenedWindow {
     RecordingSound sound;
     platform::SeededRandom random{1};
 
+    HelpFolder help;
+    std::vector<ide::Example> examples;  ///< that windows opened from now on offer
+
   private:
-    QSettings settings_;
+    ide::Places Places() const;
+
+    QSettings store_;
+    qt::QtSettings settings_;
+    platform::FixedClock clock_{{2026, 3, 1, 12, 0, 0}};
+    platform::NoEvents events_;
     std::unique_ptr<ide::MainWindow> window_;
 };
 

@@ -1,0 +1,32 @@
+#include "ide/help_request.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QVariant>
+#include <QWidget>
+
+namespace fabula::ide {
+
+HelpTopic TopicOf(const QWidget* control) {
+    HelpTopic topic;
+    for (const QWidget* each = control; each; each = each->parentWidget()) {
+        if (!each->objectName().isEmpty()) topic.anchors << each->objectName().toLower();
+        topic.page = each->property(kHelpPage).toString();
+        if (!topic.page.isEmpty()) break;
+    }
+    return topic;
+}
+
+HelpRequest::HelpRequest(Show show) : show_(std::move(show)) {
+    qApp->installEventFilter(this);
+}
+
+bool HelpRequest::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !receiver->isWidgetType()) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier) return false;
+    show_(TopicOf(static_cast<QWidget*>(receiver)));
+    return true;
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "authoring/entries.h"
+#include "authoring/session.h"
+
+class QWidget;
+
+namespace fabula::ide {
+
+/// Shows the dialog of a screen until the author leaves it. What was stored is in the adventure then.
+void OpenScreen(const authoring::ScreenRequest& request, authoring::Session& session, QWidget* parent);
+
+}  // namespace fabula::ide
