@@ -113,6 +113,7 @@ std::filesystem::path frmVelIDEMain::Folder() const {
 std::optional<std::filesystem::path> frmVelIDEMain::AskNewFile() {
     platform::FileQuestion question = AdventureQuestion("Create a Fabula Database", Folder());
     question.forWriting = true;
+    question.asksToOverwrite = false;
     return host_.dialogs.ChooseFile(question);
 }
 

@@ -124,7 +124,7 @@ class frmVelIDEMain {
     /// A node of the tree, by its position.
     void ShowNode(int sort);
     /// A table or a view of the process tables.
-    void Show(const TableView& view);
+    void Show(TableView view);
     void SelectRow(int row);
     void ClickColumn(int column);
     void ResizeColumn(int column, int width);
@@ -169,7 +169,7 @@ class frmVelIDEMain {
     void ActivateMenus();
     void InActivateMenus();
     void LastTable();
-    void SetupGrid(const TableView& view);
+    void SetupGrid(TableView view);
     void SetUpEdits();
     void StayOn(std::optional<int> key, int row);
     std::optional<int> CurrentKey() const;

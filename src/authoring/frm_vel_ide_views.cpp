@@ -30,7 +30,7 @@ void frmVelIDEMain::LastTable() {
     StayOn(last.key, 0);
 }
 
-void frmVelIDEMain::SetupGrid(const TableView& view) {
+void frmVelIDEMain::SetupGrid(TableView view) {
     store::Adventure& adventure = desk_->document.Adventure();
     Session& session = desk_->session;
     session.currentTable = view.table;
@@ -55,7 +55,7 @@ void frmVelIDEMain::ShowNode(int sort) {
     if (node) Show(node->view);
 }
 
-void frmVelIDEMain::Show(const TableView& view) {
+void frmVelIDEMain::Show(TableView view) {
     if (!desk_ || running_) return;
     message_.clear();
     Guard([&] {

@@ -69,7 +69,7 @@ bool LessValue(const text::Value& left, const text::Value& right) {
 
 }  // namespace
 
-void TableGrid::SetupGrid(store::Adventure& adventure, const TableView& view, bool maintenance) {
+void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance) {
     Clear();
     view_ = view;
     ReadColumns(adventure, maintenance);

@@ -31,7 +31,7 @@ class TableGrid {
   public:
     /// Shows the records of a view, without filter, in the view's own order. Throws fabula::Error when the
     /// file can't be read.
-    void SetupGrid(store::Adventure& adventure, const TableView& view, bool maintenance);
+    void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance);
     /// Reads the records again; columns, filter and order stay.
     void Refresh(store::Adventure& adventure);
     /// Shows nothing.

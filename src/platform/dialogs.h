@@ -16,6 +16,7 @@ struct FileQuestion {
     std::string extension;  ///< "sav"; added to a name without one
     bool forWriting = false;
     std::filesystem::path start;  ///< the folder that is shown, or the file that is proposed in it
+    bool asksToOverwrite = true;  ///< false when the caller asks in its own words
 };
 
 /// A question for one line of text.
@@ -28,7 +29,8 @@ struct TextQuestion {
 /// What a program with windows tells and asks in boxes of their own.
 class Dialogs : public Operator {
   public:
-    /// The file that was named, or nullopt. Before a file is overwritten the person is asked.
+    /// The file that was named, or nullopt. Before a file is overwritten the person is asked,
+    /// unless the question leaves that to the caller.
     virtual std::optional<std::filesystem::path> ChooseFile(const FileQuestion& question) = 0;
 
     /// Asks `text` with OK and Cancel; true for OK.

@@ -90,6 +90,7 @@ std::optional<std::filesystem::path> QtDialogs::ChooseFile(const platform::FileQ
     dialog.setDefaultSuffix(ToQt(question.extension));
     dialog.setAcceptMode(question.forWriting ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.forWriting ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksToOverwrite);
     std::error_code ignored;
     if (std::filesystem::is_directory(question.start, ignored)) {
         dialog.setDirectory(PathToQt(question.start));

@@ -1,0 +1,455 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "authoring/frm_vel_ide_main.h"
+#include "authoring/ide_window.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::AdventureKind;
+using store::TableNum;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// The keys of the commands that can be used.
+std::vector<std::string> Enabled(const frmVelIDEMain& main) {
+    std::vector<std::string> keys;
+    for (const CommandEntry& entry : AllCommands()) {
+        if (main.StateOf(entry.id).enabled) keys.emplace_back(entry.key);
+    }
+    return keys;
+}
+
+class CommandsTest : public testing::Test, public test::IdeWindow {
+  protected:
+    ActionState StateOf(Command command) const { return main->StateOf(command); }
+    bool IsEnabled(Command command) const { return main->StateOf(command).enabled; }
+    int Records(TableNum table) { return Adventure().OpenTable(table, "def").RecordCount(); }
+};
+
+TEST_F(CommandsTest, WithoutAnAdventureAreOff) {
+    EXPECT_THAT(Enabled(*main), ElementsAre("NewAdv", "Open", "In", "Exit", "Trace", "Help", "HelpContents",
+                                            "AboutAdventure", "About"));
+    EXPECT_EQ(StateOf(Command::Verify).why, "No adventure is open.");
+}
+
+TEST_F(CommandsTest, AreOffAgainWhenTheAdventureIsClosed) {
+    const auto before = Enabled(*main);
+    OpenNew();
+    EXPECT_NE(Enabled(*main), before);
+    main->Run(Command::Close);
+    EXPECT_EQ(Enabled(*main), before);
+}
+
+TEST_F(CommandsTest, FollowTheTableInTheGrid) {
+    OpenNew();
+    main->Show({TableNum::Locations});
+    EXPECT_THAT(Enabled(*main),
+                ElementsAre("NewAdv", "Open", "SaveAs", "Close", "In", "Export", "Exit", "NewTab", "Edit",
+                            "Delete", "Find", "FindNext", "Filter", "Run", "Trace", "Verify", "Settings",
+                            "LstRecs", "ShortDesc", "Help", "HelpContents", "AboutAdventure", "About"));
+    main->Show({TableNum::Vocabulary});
+    EXPECT_TRUE(IsEnabled(Command::Sort));
+    EXPECT_FALSE(IsEnabled(Command::Edit));
+    EXPECT_EQ(StateOf(Command::Edit).why, "Vocabulary does not offer this.");
+    main->Show({TableNum::Flags});
+    EXPECT_FALSE(IsEnabled(Command::Delete));
+    EXPECT_FALSE(IsEnabled(Command::Sort));
+}
+
+TEST_F(CommandsTest, ThatAreNotBuiltSayWhyNot) {
+    OpenNew();
+    main->Show({TableNum::Locations});
+    EXPECT_EQ(StateOf(Command::Print).why, "This version cannot yet print.");
+    EXPECT_EQ(StateOf(Command::Package).why, "This version cannot yet pack a game for others.");
+    for (const CommandEntry& entry : AllCommands()) {
+        if (entry.notBuilt.empty()) continue;
+        EXPECT_EQ(StateOf(entry.id).why, entry.notBuilt) << entry.key;
+    }
+}
+
+TEST_F(CommandsTest, OnCharactersAndPicturesWaitForTheirEditors) {
+    OpenNew(AdventureKind::Marlo);
+    main->Show({TableNum::Characters});
+    EXPECT_FALSE(IsEnabled(Command::Edit));
+    EXPECT_EQ(StateOf(Command::Edit).why, "The character editor is not part of this version.");
+    EXPECT_TRUE(IsEnabled(Command::Add));
+}
+
+TEST_F(CommandsTest, NeedARecordToEditOrDelete) {
+    OpenNew();
+    main->Show({TableNum::Messages});
+    EXPECT_EQ(StateOf(Command::Edit).why, "No record is selected.");
+    EXPECT_EQ(StateOf(Command::Delete).why, "No record is selected.");
+    EXPECT_TRUE(IsEnabled(Command::Add));
+}
+
+TEST_F(CommandsTest, OfTheSettingsHaveNoFind) {
+    OpenNew();
+    main->Show({TableNum::Adventure});
+    EXPECT_FALSE(IsEnabled(Command::Find));
+    EXPECT_FALSE(IsEnabled(Command::FindNext));
+    EXPECT_EQ(StateOf(Command::Find).why, "The settings have no Find.");
+}
+
+TEST_F(CommandsTest, AreOffWhileTheGameRuns) {
+    OpenNew();
+    main->BeginRunTest();
+    EXPECT_THAT(Enabled(*main), IsEmpty());
+    EXPECT_EQ(StateOf(Command::Open).why, "The game is being tested.");
+}
+
+TEST_F(CommandsTest, NameTheRecordsOfTheTable) {
+    OpenNew();
+    main->Show({TableNum::Locations});
+    EXPECT_EQ(StateOf(Command::Add).text, "Add Location (CTRL/N)");
+    EXPECT_EQ(StateOf(Command::Add).menuText, "&Add Location");
+    main->Show({TableNum::ProcessTables, kOtherProcesses});
+    EXPECT_EQ(StateOf(Command::Delete).text, "Delete Process Record 3 or above");
+}
+
+TEST_F(CommandsTest, DoNothingWhenTheyAreOff) {
+    EXPECT_EQ(main->Run(Command::Add), std::nullopt);
+    EXPECT_EQ(main->Run(Command::Undo), std::nullopt);
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(CommandsTest, AddGivesTheScreenOfANewRecord) {
+    OpenNew();
+    main->Show({TableNum::Messages});
+    const auto request = main->Run(Command::Add);
+    ASSERT_TRUE(request.has_value());
+    EXPECT_EQ(request->screen, Screen::Text);
+    EXPECT_TRUE(request->key.isNew);
+    EXPECT_EQ(request->key.key, 0);
+}
+
+TEST_F(CommandsTest, EditGivesTheScreenOfTheCurrentRecord) {
+    OpenNew();
+    main->Show({TableNum::SystemMessages});
+    main->SelectRow(7);
+    const auto request = main->Run(Command::Edit);
+    ASSERT_TRUE(request.has_value());
+    EXPECT_EQ(request->key.key, 7);
+    EXPECT_FALSE(request->key.isNew);
+    EXPECT_EQ(request->table, TableNum::SystemMessages);
+}
+
+TEST_F(CommandsTest, SettingsCanBeEditedFromEveryTable) {
+    OpenNew();
+    main->Show({TableNum::Flags});
+    main->SelectRow(2);
+    const auto request = main->Run(Command::Settings);
+    ASSERT_TRUE(request.has_value());
+    EXPECT_EQ(request->screen, Screen::Settings);
+    main->ScreenClosed(*request);
+    EXPECT_EQ(main->Grid().View(), TableView{TableNum::Flags});
+    EXPECT_EQ(main->CurrentSession().currentTable, TableNum::Flags);
+    EXPECT_EQ(main->CurrentRow(), 2);
+}
+
+TEST_F(CommandsTest, AddingSelectsTheNewRecordAndTellsOfIt) {
+    OpenNew();
+    AddMessage("one");
+    AddMessage("two");
+    EXPECT_EQ(main->Grid().RowCount(), 2);
+    EXPECT_EQ(main->CurrentRow(), 1);
+    EXPECT_EQ(main->Message(), "Done: add message 1");
+    EXPECT_EQ(main->TableStatus(), "Messages - 2 records");
+}
+
+TEST_F(CommandsTest, AScreenThatStoresNothingChangesNothing) {
+    OpenNew();
+    AddMessage("one");
+    const auto request = main->Run(Command::Edit);
+    main->ScreenClosed(*request);
+    EXPECT_EQ(main->Message(), "");
+    EXPECT_EQ(main->CurrentRow(), 0);
+    EXPECT_EQ(StateOf(Command::Undo).text, "Undo add message 0");
+}
+
+TEST_F(CommandsTest, AddingFlagsNeedsNoScreen) {
+    OpenNew();
+    main->Show({TableNum::Flags});
+    const int before = main->Grid().RowCount();
+    dialogs.AnswerNext(true);
+    EXPECT_EQ(main->Run(Command::Add), std::nullopt);
+    EXPECT_THAT(Boxes(), ElementsAre("Confirm add of flags 1025 to 1049"));
+    EXPECT_EQ(main->Grid().RowCount(), before + 25);
+}
+
+TEST_F(CommandsTest, DeletingGoesToTheRecordBehind) {
+    OpenNew();
+    for (int number = 0; number < 4; ++number)
+        StoreMessage(number, "text " + std::to_string(number));
+    main->Show({TableNum::Messages});
+    main->SelectRow(1);
+    dialogs.AnswerNext(true);
+    main->Run(Command::Delete);
+    EXPECT_EQ(main->Grid().RowCount(), 3);
+    EXPECT_EQ(main->CurrentRow(), 1);
+    EXPECT_EQ(main->CurrentSession().currentEntry, 2);
+    EXPECT_EQ(main->Message(), "Done: delete message 1");
+}
+
+TEST_F(CommandsTest, DeletingTheLastRecordGoesToTheOneBefore) {
+    OpenNew();
+    StoreMessage(0, "one");
+    StoreMessage(1, "two");
+    main->Show({TableNum::Messages});
+    main->SelectRow(1);
+    dialogs.AnswerNext(true);
+    main->Run(Command::Delete);
+    EXPECT_EQ(main->CurrentRow(), 0);
+    dialogs.AnswerNext(true);
+    main->Run(Command::Delete);
+    EXPECT_EQ(main->CurrentRow(), -1);
+}
+
+TEST_F(CommandsTest, ADeletionThatIsNotConfirmedChangesNothing) {
+    OpenNew();
+    StoreMessage(0, "one");
+    main->Show({TableNum::Messages});
+    dialogs.AnswerNext(false);
+    main->Run(Command::Delete);
+    EXPECT_EQ(main->Grid().RowCount(), 1);
+    EXPECT_EQ(main->Message(), "");
+}
+
+TEST_F(CommandsTest, UndoAndRedoNameTheirChange) {
+    OpenNew();
+    EXPECT_EQ(StateOf(Command::Undo).why, "There is nothing to undo.");
+    EXPECT_EQ(StateOf(Command::Redo).why, "There is nothing to redo.");
+    AddMessage("one");
+    EXPECT_EQ(StateOf(Command::Undo).text, "Undo add message 0");
+    EXPECT_EQ(StateOf(Command::Undo).menuText, "&Undo add message 0");
+    main->Run(Command::Undo);
+    EXPECT_EQ(main->Grid().RowCount(), 0);
+    EXPECT_EQ(main->Message(), "Undone: add message 0");
+    EXPECT_EQ(StateOf(Command::Redo).text, "Redo add message 0");
+    main->Run(Command::Redo);
+    EXPECT_EQ(main->Grid().RowCount(), 1);
+    EXPECT_EQ(main->Message(), "Done again: add message 0");
+}
+
+TEST_F(CommandsTest, UndoShowsAnAmpersandInAMenuAsItIs) {
+    OpenNew();
+    Change change(main->CurrentSession().document, "delete word A&B");
+    Adventure().DeleteFrom(TableNum::Vocabulary, "vocindex=2");
+    change.Commit();
+    EXPECT_EQ(StateOf(Command::Undo).menuText, "&Undo delete word A&&B");
+}
+
+TEST_F(CommandsTest, UndoStaysOnTheRow) {
+    OpenNew();
+    for (int number = 0; number < 5; ++number)
+        StoreMessage(number, "text");
+    main->Show({TableNum::Messages});
+    main->SelectRow(2);
+    main->Run(Command::Undo);
+    EXPECT_EQ(main->CurrentRow(), 2);
+    EXPECT_EQ(main->Grid().RowCount(), 4);
+}
+
+TEST_F(CommandsTest, UndoOfTheSettingsShowsTheTreeThatFitsThem) {
+    OpenNew();
+    {
+        Change change(main->CurrentSession().document, "edit the settings");
+        store::Cursor& record = Adventure().OpenTable(TableNum::Adventure, "def");
+        record.SetField("charsets", std::int64_t{1});
+        record.Update();
+        change.Commit();
+    }
+    main->Refresh();
+    main->Show({TableNum::Characters});
+    EXPECT_NE(main->CurrentNode(), nullptr);
+    main->Run(Command::Undo);
+    EXPECT_EQ(NodeOf(main->Tree(), {TableNum::Characters}), nullptr);
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::ProcessTables, 0}));
+}
+
+TEST_F(CommandsTest, SortAsksForTheOrderAndStoresIt) {
+    OpenNew();
+    main->Show({TableNum::Vocabulary});
+    dialogs.AnswerText("word desc");
+    main->Run(Command::Sort);
+    EXPECT_EQ(dialogs.TextQuestions().at(0).proposal, "voctypen, vocnum, word");
+    EXPECT_EQ(dialogs.TextQuestions().at(0).title, "Sort Vocabulary");
+    EXPECT_EQ(main->Grid().CellText(0, 1), "WITH");
+    EXPECT_EQ(StateOf(Command::Undo).text, "Undo sort Vocabulary by word desc");
+    Restart();
+    main->Show({TableNum::Vocabulary});
+    EXPECT_EQ(main->Grid().CellText(0, 1), "WITH");
+}
+
+TEST_F(CommandsTest, SortThatChangesNothingStoresNothing) {
+    OpenNew();
+    main->Show({TableNum::Vocabulary});
+    dialogs.AnswerText("voctypen, vocnum, word");
+    main->Run(Command::Sort);
+    dialogs.AnswerText(std::nullopt);
+    main->Run(Command::Sort);
+    EXPECT_FALSE(IsEnabled(Command::Undo));
+}
+
+TEST_F(CommandsTest, SortRefusesAnOrderThatIsNoneAndAsksAgain) {
+    OpenNew();
+    main->Show({TableNum::Objects});
+    dialogs.AnswerText("weight");
+    dialogs.AnswerText("objweight");
+    main->Run(Command::Sort);
+    EXPECT_THAT(Boxes(), ElementsAre("'weight' is no order of the fields of Objects."));
+    EXPECT_EQ(dialogs.TextQuestions().at(1).proposal, "weight");
+    EXPECT_EQ(Adventure().Sorts().objects, "objweight");
+}
+
+TEST_F(CommandsTest, SortProposesTheOrderOfTheColumnThatWasClicked) {
+    OpenNew();
+    main->Show({TableNum::Objects});
+    main->ClickColumn(6);
+    main->ClickColumn(6);
+    dialogs.AnswerText("objweight desc, objnum");
+    main->Run(Command::Sort);
+    EXPECT_EQ(dialogs.TextQuestions().at(0).proposal, "objweight desc, objnum");
+    EXPECT_EQ(main->Grid().SortColumn(), std::nullopt);
+}
+
+TEST_F(CommandsTest, FindGoesToTheRowAndAFailureStays) {
+    OpenNew();
+    StoreMessage(0, "a door");
+    StoreMessage(1, "a lamp");
+    main->Show({TableNum::Messages});
+    main->Finder().text = "lamp";
+    main->Run(Command::Find);
+    EXPECT_EQ(main->CurrentRow(), 1);
+    EXPECT_EQ(main->CurrentSession().currentEntry, 1);
+    main->Finder().text = "ghost";
+    main->Run(Command::FindNext);
+    EXPECT_THAT(Boxes(), ElementsAre("ghost not found"));
+    EXPECT_EQ(main->CurrentRow(), 1);
+}
+
+TEST_F(CommandsTest, FindNamesTheTableByItsCaption) {
+    OpenNew(AdventureKind::Vel);
+    main->Show({TableNum::CondActs});
+    main->Finder().Choose(std::nullopt);
+    main->Finder().text = "GET";
+    main->Run(Command::Find);
+    EXPECT_THAT(Boxes(), ElementsAre("No Field to find 'GET' in Conditions and Actions"));
+}
+
+TEST_F(CommandsTest, TraceIsSwitchedOnAndOff) {
+    EXPECT_FALSE(StateOf(Command::Trace).checked);
+    main->Run(Command::Trace);
+    EXPECT_TRUE(StateOf(Command::Trace).checked);
+    main->Run(Command::Trace);
+    EXPECT_FALSE(StateOf(Command::Trace).checked);
+}
+
+TEST_F(CommandsTest, LastRecordKeysShowsAReport) {
+    OpenNew();
+    main->Run(Command::LastRecordKeys);
+    EXPECT_THAT(dialogs.Reports().at(0).text,
+                testing::StartsWith("Listing of Last Record Key for Database Tables of Adventure: "));
+}
+
+TEST_F(CommandsTest, AFailureIsToldInABox) {
+    OpenNew();
+    StoreMessage(0, "one");
+    main->Show({TableNum::Messages});
+    std::filesystem::resize_file(folder / "game.fbd", 100);
+    main->Show({TableNum::Locations});
+    ASSERT_EQ(dialogs.Boxes().size(), 1U);
+    EXPECT_EQ(dialogs.Boxes()[0].title, "Error");
+}
+
+/// What the views show and keep.
+using ViewsTest = CommandsTest;
+
+TEST_F(ViewsTest, OfANodeIsItsTable) {
+    OpenNew();
+    main->ShowNode(2);
+    EXPECT_EQ(main->Grid().View(), TableView{TableNum::Locations});
+    EXPECT_EQ(main->TableStatus(), "Locations - 1 records");
+    EXPECT_EQ(main->CurrentNode()->name, "Locations");
+    main->ShowNode(9);
+    EXPECT_EQ(main->CurrentNode()->name, "Response (P0)");
+    main->ShowNode(999);
+    EXPECT_EQ(main->CurrentNode()->name, "Response (P0)");
+}
+
+TEST_F(ViewsTest, AreKeptInTheSettings) {
+    OpenNew();
+    main->Show({TableNum::ProcessTables, 2});
+    EXPECT_EQ(Setting("CurrentSet"), "6");
+    EXPECT_EQ(Setting("CurrentESNum"), "2");
+    EXPECT_EQ(main->CurrentSession().currentESNum, 2);
+    main->Show({TableNum::Flags});
+    EXPECT_EQ(Setting("CurrentSet"), "9");
+}
+
+TEST_F(ViewsTest, ThatTheAdventureDoesNotHaveAreTheFirstProcess) {
+    OpenNew(AdventureKind::Marlo);
+    main->Show({TableNum::Characters});
+    main->OpenFile(Make("plain.fbd"));
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::ProcessTables, 0}));
+}
+
+TEST_F(ViewsTest, FollowTheSessionToAnotherProcess) {
+    OpenNew();
+    main->Show({TableNum::ProcessTables, 0});
+    const auto request = main->Run(Command::Add);
+    ASSERT_TRUE(request.has_value());
+    main->ScreenClosed(*request);
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::ProcessTables, 2}));
+}
+
+TEST_F(ViewsTest, TellHowManyRowsAFilterLeaves) {
+    OpenNew();
+    main->Show({TableNum::CondActs});
+    main->SetFilter("message");
+    EXPECT_LT(main->Grid().RowCount(), main->Grid().RecordCount());
+    EXPECT_EQ(main->TableStatus(), "Conditions and Actions - " +
+                                       std::to_string(main->Grid().RecordCount()) + " records, " +
+                                       std::to_string(main->Grid().RowCount()) + " shown");
+}
+
+TEST_F(ViewsTest, StayOnTheRecordWhenTheyAreFilteredAndSorted) {
+    OpenNew();
+    StoreMessage(0, "b lamp");
+    StoreMessage(1, "c");
+    StoreMessage(2, "a lamp");
+    main->Show({TableNum::Messages});
+    main->SelectRow(2);
+    main->SetFilter("lamp");
+    EXPECT_EQ(main->CurrentRow(), 1);
+    main->ClickColumn(1);
+    EXPECT_EQ(main->CurrentRow(), 0);
+    EXPECT_EQ(main->CurrentSession().currentEntry, 2);
+    main->SetFilter("");
+    EXPECT_EQ(main->CurrentRow(), 0);
+}
+
+TEST_F(ViewsTest, KeepTheWidthsOfColumnsWithoutAStepOfUndo) {
+    OpenNew();
+    main->Show({TableNum::Messages});
+    main->ResizeColumn(1, 444);
+    main->Show({TableNum::Flags});
+    main->Show({TableNum::Messages});
+    EXPECT_EQ(main->Grid().Columns()[1].width, 444);
+    EXPECT_FALSE(IsEnabled(Command::Undo));
+}
+
+TEST(MaintenanceView, ShowsTheProgramsTablesAndFields) {
+    test::IdeWindow window(true);
+    window.OpenNew();
+    window.main->Show({TableNum::Tables});
+    EXPECT_EQ(window.main->CurrentNode()->name, "Tables");
+    EXPECT_EQ(window.main->Grid().Columns()[0].field, "tablekey");
+    window.main->Show({TableNum::Vocabulary});
+    EXPECT_EQ(window.main->Grid().Columns()[0].field, "vocindex");
+}
+
+}  // namespace
+}  // namespace fabula::authoring
