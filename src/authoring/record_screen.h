@@ -18,6 +18,9 @@ class RecordScreen {
 
     ScreenKey Key() const { return key_; }
 
+    /// Where the screen, and the window that shows it, tells and asks.
+    platform::Dialogs& Dialogs() const { return session_.dialogs; }
+
     /// The name of the control that was refused last, to which the focus goes back; "" before the first.
     std::string_view Refused() const { return refused_; }
 

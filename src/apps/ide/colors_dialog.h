@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QDialog>
+
+#include "authoring/frm_colors.h"
+
+class QLabel;
+
+namespace fabula::ide {
+
+/// The dialog that picks one of the 16 colours. Accepted by Update; `screen` then has the number.
+class ColorsDialog final : public QDialog {
+  public:
+    explicit ColorsDialog(authoring::frmColors& screen, QWidget* parent = nullptr);
+
+  private:
+    QWidget* NewColors(int first, std::string_view caption);
+    void ShowCurrent();
+
+    authoring::frmColors& screen_;
+    QLabel* current_;
+};
+
+}  // namespace fabula::ide

@@ -1,0 +1,232 @@
+#include "ide/location_dialog.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+#include <algorithm>
+
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+enum Column { kWord, kTo, kName, kColumns };
+
+/// Edits a cell by a list in which something else may be typed too.
+class ListDelegate final : public QStyledItemDelegate {
+  public:
+    using MakeList = std::function<QComboBox*(const std::string& text)>;
+    ListDelegate(MakeList make, QObject* parent) : QStyledItemDelegate(parent), make_(std::move(make)) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                          const QModelIndex& index) const override {
+        QComboBox* list = make_(qt::FromQt(index.data().toString()));
+        list->setParent(parent);
+        return list;
+    }
+    void setEditorData(QWidget*, const QModelIndex&) const override {}  // made with its text
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
+        model->setData(index, qt::ToQt(LocationTyped(*static_cast<QComboBox*>(editor))));
+    }
+
+  private:
+    MakeList make_;
+};
+
+QComboBox* NewWordList(const authoring::ComboBox& box) {
+    auto* list = new QComboBox;
+    list->setEditable(true);
+    list->setInsertPolicy(QComboBox::NoInsert);
+    for (const authoring::ListItem& item : box.items)
+        list->addItem(qt::ToQt(item.text), qt::ToQt(item.text));
+    list->setEditText(qt::ToQt(box.text));
+    return list;
+}
+
+QPushButton* NewButton(const QString& text, const char* name) {
+    auto* button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setAccessibleName(PlainLabel(text));
+    button->setAutoDefault(false);
+    return button;
+}
+
+void Name(QWidget* control, const char* name, const char* accessibleName) {
+    control->setObjectName(name);
+    control->setAccessibleName(accessibleName);
+}
+
+}  // namespace
+
+LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* parent)
+    : RecordDialog(screen, QString("Location %1").arg(screen.Key().key), "frmvellocation.html", parent),
+      screen_(screen),
+      shortDescription_(new QLineEdit(qt::ToQt(screen.txtShortDesc))),
+      description_(NewTextEdit(screen.txtDEscription)),
+      rows_(new QTableWidget(0, kColumns)),
+      word_(NewWordList(screen.cboExit)),
+      location_(NewLocationList(screen.cboLoc)),
+      exits_(new QLineEdit),
+      picture_(new QLineEdit) {
+    shortDescription_->setMaxLength(static_cast<int>(authoring::frmVelLocation::kLongestShortDesc));
+    AddControl("&Short description:", shortDescription_, "txtShortDesc");
+    AddControl("&Description:", description_, "txtDEscription");
+    AddExits();
+    AddPicture();
+    AddNeighbours();
+    CheckOnLeave(shortDescription_, [this] { return screen_.LeaveTxtShortDesc(); });
+    CheckOnLeave(description_, [this] { return screen_.LeaveTxtDEscription(); });
+    CheckOnLeave(exits_, [this] { return screen_.LeaveTxtExits(); });
+    Show();
+    resize(sizeHint().expandedTo({640, 560}));
+}
+
+void LocationDialog::AddExits() {
+    rows_->setHorizontalHeaderLabels({"Exit", "To", "Leads to"});
+    rows_->verticalHeader()->hide();
+    rows_->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
+    rows_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    rows_->setTabKeyNavigation(false);
+    rows_->setMinimumHeight(7 * rows_->fontMetrics().lineSpacing());
+    rows_->setItemDelegateForColumn(kWord, new ListDelegate(
+                                               [this](const std::string& text) {
+                                                   return NewWordList({screen_.cboExit.items, text});
+                                               },
+                                               this));
+    rows_->setItemDelegateForColumn(kTo, new ListDelegate(
+                                             [this](const std::string& text) {
+                                                 return NewLocationList({screen_.cboLoc.items, text});
+                                             },
+                                             this));
+    connect(rows_, &QTableWidget::cellChanged, this, [this] { ReadRows(); });
+    AddControl("&Exits:", rows_, "grdExits");
+
+    Name(word_, "cboExit", "Exit word");
+    Name(location_, "cboLoc", "Location that the exit leads to");
+    auto* add = NewButton("&Add", "cmdAdd");
+    auto* remove = NewButton("&Remove", "cmdRemove");
+    connect(add, &QPushButton::clicked, this, [this] { AddExit(); });
+    connect(remove, &QPushButton::clicked, this, [this] { RemoveRow(); });
+    auto* adding = new QHBoxLayout;
+    adding->addWidget(word_, 1);
+    adding->addWidget(location_, 2);
+    adding->addWidget(add);
+    adding->addWidget(remove);
+    form_->addRow("", adding);
+
+    AddControl("As one &line:", exits_, "txtExits");
+    connect(exits_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        screen_.txtExits = qt::FromQt(text);
+        ShowRows();
+    });
+}
+
+void LocationDialog::AddPicture() {
+    auto* choose = NewButton("&Choose...", "cmdGetPic");
+    auto* clear = NewButton("&No picture", "cmdClearPic");
+    picture_->setReadOnly(true);
+    AddControl("&Picture:", picture_, "txtPicture");
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(choose);
+    buttons->addWidget(clear);
+    buttons->addStretch();
+    form_->addRow("", buttons);
+    connect(choose, &QPushButton::clicked, this, [this] {
+        Guarded([this] {
+            screen_.cmdGetPic();
+            return true;
+        });
+        picture_->setText(qt::ToQt(screen_.txtPicture));
+    });
+    connect(clear, &QPushButton::clicked, this, [this] {
+        screen_.cmdClearPic();
+        picture_->clear();
+    });
+}
+
+void LocationDialog::AddNeighbours() {
+    auto* list = new QListWidget;
+    for (const authoring::Neighbour& from : screen_.LeadsHere()) {
+        list->addItem(
+            QString("%1 - %2, by %3").arg(from.location).arg(qt::ToQt(from.name), qt::ToQt(from.word)));
+    }
+    if (screen_.LeadsHere().empty()) list->addItem("No exit leads here.");
+    list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
+    list->setMaximumHeight(6 * list->fontMetrics().lineSpacing());
+    AddControl("Leads &here:", list, "lstLeadsHere");
+}
+
+void LocationDialog::AddExit() {
+    Read();
+    screen_.cboExit.text = qt::FromQt(word_->currentText());
+    screen_.cboLoc.text = LocationTyped(*location_);
+    if (Guarded([this] { return screen_.cmdAdd(); })) {
+        word_->clearEditText();
+        location_->clearEditText();
+        Show();
+        word_->setFocus();
+        return;
+    }
+    if (auto* refused = findChild<QWidget*>(qt::ToQt(screen_.Refused()))) refused->setFocus();
+}
+
+void LocationDialog::RemoveRow() {
+    std::vector<authoring::ExitRow> rows = screen_.Exits();
+    const int row = rows_->currentRow();
+    if (row < 0 || row >= static_cast<int>(rows.size())) return;
+    rows.erase(rows.begin() + row);
+    screen_.SetExits(rows);
+    Show();
+    rows_->setCurrentCell(std::min(row, rows_->rowCount() - 1), kWord);
+}
+
+/// The line takes what was typed into a row.
+void LocationDialog::ReadRows() {
+    if (showing_) return;
+    std::vector<authoring::ExitRow> rows;
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        rows.push_back({qt::FromQt(rows_->item(row, kWord)->text().simplified()),
+                        qt::FromQt(rows_->item(row, kTo)->text().simplified()), ""});
+    }
+    screen_.SetExits(rows);
+    exits_->setText(qt::ToQt(screen_.txtExits));
+    // The row is being edited until the event is over.
+    QMetaObject::invokeMethod(
+        this, [this] { ShowRows(); }, Qt::QueuedConnection);
+}
+
+void LocationDialog::ShowRows() {
+    showing_ = true;
+    const std::vector<authoring::ExitRow> exits = screen_.Exits();
+    rows_->setRowCount(static_cast<int>(exits.size()));
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        const authoring::ExitRow& exit = exits[static_cast<std::size_t>(row)];
+        rows_->setItem(row, kWord, new QTableWidgetItem(qt::ToQt(exit.word)));
+        rows_->setItem(row, kTo, new QTableWidgetItem(qt::ToQt(exit.location)));
+        auto* name = new QTableWidgetItem(qt::ToQt(exit.name));
+        name->setFlags(name->flags() & ~Qt::ItemIsEditable);
+        rows_->setItem(row, kName, name);
+    }
+    showing_ = false;
+}
+
+void LocationDialog::Read() {
+    screen_.txtShortDesc = qt::FromQt(shortDescription_->text());
+    screen_.txtDEscription = qt::FromQt(description_->toPlainText());
+    screen_.txtExits = qt::FromQt(exits_->text());
+}
+
+void LocationDialog::Show() {
+    exits_->setText(qt::ToQt(screen_.txtExits));
+    picture_->setText(qt::ToQt(screen_.txtPicture));
+    ShowRows();
+}
+
+}  // namespace fabula::ide

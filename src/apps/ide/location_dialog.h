@@ -1,0 +1,41 @@
+#pragma once
+
+#include "authoring/frm_vel_location.h"
+#include "ide/record_dialog.h"
+
+class QLineEdit;
+class QTableWidget;
+
+namespace fabula::ide {
+
+/// The dialog of a location. Its exits stand in one line, and in rows that are kept in step with it.
+class LocationDialog final : public RecordDialog {
+  public:
+    explicit LocationDialog(authoring::frmVelLocation& screen, QWidget* parent = nullptr);
+
+  protected:
+    void Read() override;
+    void Show() override;
+    bool Update() override { return screen_.cmdUpdate(); }
+
+  private:
+    void AddExits();
+    void AddPicture();
+    void AddNeighbours();
+    void ReadRows();
+    void ShowRows();
+    void RemoveRow();
+    void AddExit();
+
+    authoring::frmVelLocation& screen_;
+    QLineEdit* shortDescription_;
+    QPlainTextEdit* description_;
+    QTableWidget* rows_;
+    QComboBox* word_;
+    QComboBox* location_;
+    QLineEdit* exits_;
+    QLineEdit* picture_;
+    bool showing_ = false;  ///< the rows are being filled and not edited
+};
+
+}  // namespace fabula::ide

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <string>
+
+#include "authoring/controls.h"
+#include "authoring/record_screen.h"
+
+class QComboBox;
+class QFormLayout;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace fabula::ide {
+
+/// What the dialogs of one record share: a form that scrolls where the screen is small, Update
+/// (Ctrl+Return) and Exit (Esc), and checks of the fields that are left. A control that is refused gets the
+/// focus back.
+class RecordDialog : public QDialog {
+  protected:
+    /// `screen` outlives the dialog.
+    RecordDialog(authoring::RecordScreen& screen, const QString& title, const char* helpPage,
+                 QWidget* parent);
+
+    /// Adds a control, found by `name`; the label holds its mnemonic and is its accessible name too.
+    void AddControl(const QString& label, QWidget* control, const char* name);
+    /// Checks a control when the focus leaves it for another one but Update and Exit.
+    void CheckOnLeave(QWidget* control, std::function<bool()> check);
+    /// Does something that may fail, and tells of it when it does; false then.
+    bool Guarded(const std::function<bool()>& work);
+
+    /// Writes the controls into the screen.
+    virtual void Read() = 0;
+    /// Shows what the screen changed by itself.
+    virtual void Show() = 0;
+    virtual bool Update() = 0;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+    QFormLayout* form_;
+
+  private:
+    void CheckLeft(QWidget* control);
+    void FocusRefused();
+    void ClickUpdate();
+
+    authoring::RecordScreen& record_;
+    std::vector<std::pair<QWidget*, std::function<bool()>>> checks_;
+    QPushButton* update_;
+    QPushButton* exit_;
+};
+
+/// A text without its mnemonic.
+QString PlainLabel(QString label);
+
+/// An editor of a text of several lines, which Tab leaves.
+QPlainTextEdit* NewTextEdit(const std::string& text);
+
+/// A list of which one line is chosen.
+QComboBox* NewDropList(const authoring::DropList& list);
+
+/// An editable list of locations, shown as "5 - The cellar"; `LocationTyped` gives the number of the line
+/// that is shown, or what was typed.
+QComboBox* NewLocationList(const authoring::ComboBox& box);
+std::string LocationTyped(const QComboBox& list);
+
+}  // namespace fabula::ide
