@@ -1,0 +1,572 @@
+#include "authoring/frm_vel_cond_act.h"
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "authoring/desk.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::AdventureKind;
+using store::TableNum;
+using test::Desk;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+const std::pair<std::string, int> kAny{"_", 255};
+
+ScreenRequest New(const Desk& desk) {
+    return {.screen = Screen::ProcessEntry,
+            .key = {.key = desk.session.nextEntry, .isNew = true},
+            .table = TableNum::ProcessTables};
+}
+
+ScreenRequest Old(int canum) {
+    return {.screen = Screen::ProcessEntry, .key = {.key = canum}, .table = TableNum::ProcessTables};
+}
+
+/// A game of five locations (0 to 4), three messages, two objects (1 a container) and a few words.
+class CondActScreen {
+  public:
+    explicit CondActScreen(AdventureKind kind = AdventureKind::Fabula) : desk(kind) {
+        desk.FillUp(TableNum::Locations, 5);
+        desk.FillUp(TableNum::Messages, 3);
+        desk.FillUp(TableNum::Objects, 2);
+        desk.AddWord(500, "GET", 20, 0);
+        desk.AddWord(501, "TAKE", 20, 0);
+        desk.AddWord(502, "LAMP", 50, 2);
+        desk.AddWord(503, "LIGHT", 30, 0);
+        desk.AddWord(504, "LIGHT", 80, 2);
+        ReadNextKeys(desk.session);
+    }
+
+    std::vector<std::string> Entries() {
+        return desk.Rows(TableNum::ProcessTables,
+                         "canum, estype, w1, w1num, w2, w2num, condacts, numericcondacts, numcas", "",
+                         "canum");
+    }
+    std::string Box() const { return desk.dialogs.Boxes().empty() ? "" : desk.dialogs.Boxes().back().text; }
+    std::string Title() const { return desk.dialogs.Boxes().back().title; }
+
+    /// What the box says when a line is left; "" for none.
+    std::string Left(const std::string& line) {
+        frmVelCondAct screen(desk.session, New(desk));
+        screen.txtAllCAs = line;
+        const std::size_t before = desk.dialogs.Boxes().size();
+        const bool valid = screen.LeaveTxtAllCAs();
+        EXPECT_EQ(valid, desk.dialogs.Boxes().size() == before);
+        if (valid) return "";
+        EXPECT_EQ(screen.Refused(), "txtAllCAs");
+        EXPECT_EQ(Title(), "Error");
+        return Box();
+    }
+
+    Desk desk;
+};
+
+// Opening
+
+TEST(OpenCondAct, ANewEntryShowsTheNextFreeKeyAndNoWords) {
+    CondActScreen game;
+    game.desk.AddEntry(7, 0, kAny, kAny, "DONE");
+    ReadNextKeys(game.desk.session);
+    const frmVelCondAct screen(game.desk.session, New(game.desk));
+    EXPECT_EQ(screen.lblRecKey, "Record Key: 8");
+    EXPECT_EQ(screen.txtType, "0");
+    EXPECT_EQ(screen.cboWord1.Chosen()->text, "_");
+    EXPECT_EQ(screen.cboWord2.Chosen()->text, "_");
+    EXPECT_EQ(screen.cboCA.text, "");
+    EXPECT_EQ(screen.cboParam1.label, "Param1");
+    EXPECT_FALSE(screen.cboParam1.enabled);
+    EXPECT_EQ(screen.cboParam2.label, "Param2");
+    EXPECT_FALSE(screen.cboParam2.enabled);
+    EXPECT_EQ(screen.txtAllCAs, "");
+    EXPECT_EQ(frmVelCondAct::kCaption, "Process Table Editor");
+    EXPECT_EQ(frmVelCondAct::kHelpLine,
+              "Type your Conditions/Actions directly into the above fields and then click the Add to "
+              "Conditions/Actions button. They will be checked for validity.");
+}
+
+TEST(OpenCondAct, ANewEntryIsOfTheProcessInView) {
+    CondActScreen game;
+    game.desk.session.currentESNum = 2;
+    EXPECT_EQ(frmVelCondAct(game.desk.session, New(game.desk)).txtType, "2");
+    game.desk.session.currentESNum = kOtherProcesses;
+    EXPECT_EQ(frmVelCondAct(game.desk.session, New(game.desk)).txtType, "3");
+    game.desk.AddEntry(4, 6, kAny, kAny, "DONE");
+    game.desk.session.currentEntry = 4;
+    EXPECT_EQ(frmVelCondAct(game.desk.session, New(game.desk)).txtType, "6");
+}
+
+TEST(OpenCondAct, ANewEntryBeforeAnotherBeginsWithItsProcessAndWords) {
+    CondActScreen game;
+    game.desk.AddEntry(1, 2, {"GET", 20}, {"LAMP", 50}, "DONE");
+    ReadNextKeys(game.desk.session);
+    ScreenRequest request = New(game.desk);
+    request.before = 1;
+    const frmVelCondAct screen(game.desk.session, request);
+    EXPECT_EQ(screen.txtType, "2");
+    EXPECT_EQ(screen.cboWord1.Chosen()->text, "GET");
+    EXPECT_EQ(screen.cboWord2.Chosen()->text, "LAMP");
+    EXPECT_EQ(screen.txtAllCAs, "");
+}
+
+TEST(OpenCondAct, AnEntryShowsWhatIsStored) {
+    CondActScreen game;
+    game.desk.AddEntry(4, 1, {"LIGHT", 30}, {"LIGHT", 80}, "AT 1 DONE");
+    const frmVelCondAct screen(game.desk.session, Old(4));
+    EXPECT_EQ(screen.lblRecKey, "Record Key: 4");
+    EXPECT_EQ(screen.txtType, "1");
+    EXPECT_EQ(screen.cboWord1.Chosen()->text, "LIGHT (Verb)");
+    EXPECT_EQ(screen.cboWord2.Chosen()->text, "LIGHT (Noun)");
+    EXPECT_EQ(screen.txtAllCAs, "AT 1 DONE");
+}
+
+TEST(OpenCondAct, TheWordsAreVerbsNounsAndReservedOnes) {
+    CondActScreen game;
+    const frmVelCondAct screen(game.desk.session, New(game.desk));
+    std::vector<std::string> words;
+    for (const ListItem& item : screen.cboWord1.items)
+        words.push_back(item.text);
+    EXPECT_THAT(words, ElementsAre("GET", "TAKE", "LIGHT (Verb)", "LAMP", "LIGHT (Noun)", "*", "_"));
+    EXPECT_EQ(screen.cboWord2.items, screen.cboWord1.items);
+}
+
+TEST(OpenCondAct, AStarIsNoWordOfAMarloAdventure) {
+    CondActScreen game(AdventureKind::Marlo);
+    const frmVelCondAct screen(game.desk.session, New(game.desk));
+    for (const ListItem& item : screen.cboWord1.items)
+        EXPECT_NE(item.text, "*");
+    EXPECT_EQ(screen.cboWord1.Chosen()->text, "_");
+}
+
+TEST(OpenCondAct, TheListHoldsTheCondactsOfTheDialect) {
+    CondActScreen fabula;
+    const frmVelCondAct all(fabula.desk.session, New(fabula.desk));
+    EXPECT_THAT(all.cboCA.items, Contains(ListItem{292, "MESF"}));
+    CondActScreen marlo(AdventureKind::Marlo);
+    const frmVelCondAct few(marlo.desk.session, New(marlo.desk));
+    EXPECT_EQ(few.cboCA.items.size(), 54U);
+    EXPECT_THAT(few.cboCA.items, Not(Contains(ListItem{292, "MESF"})));
+}
+
+// Putting a condact together
+
+TEST(ChooseCondAct, WithoutParametersAddsItAtOnce) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "AT 1";
+    screen.cboCA.text = "done";
+    EXPECT_TRUE(screen.LeaveCboCA());
+    EXPECT_EQ(screen.txtAllCAs, "AT 1 DONE");
+    EXPECT_EQ(screen.cboCA.text, "");
+    EXPECT_TRUE(screen.LeaveCboCA());
+    EXPECT_EQ(screen.txtAllCAs, "AT 1 DONE");
+}
+
+TEST(ChooseCondAct, WithOneParameterOpensTheFirstField) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboCA.text = "message";
+    EXPECT_TRUE(screen.LeaveCboCA());
+    EXPECT_EQ(screen.cboCA.text, "MESSAGE");
+    EXPECT_EQ(screen.cboParam1.label, "Message");
+    EXPECT_TRUE(screen.cboParam1.enabled);
+    EXPECT_EQ(screen.cboParam1.items.size(), 3U);
+    EXPECT_FALSE(screen.cboParam2.enabled);
+    EXPECT_EQ(screen.txtAllCAs, "");
+}
+
+TEST(ChooseCondAct, WithTwoParametersOpensBoth) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboCA.text = "PLACE";
+    EXPECT_TRUE(screen.LeaveCboCA());
+    EXPECT_EQ(screen.cboParam1.label, "Object");
+    EXPECT_EQ(screen.cboParam2.label, "Location");
+    EXPECT_TRUE(screen.cboParam2.enabled);
+    ASSERT_EQ(screen.cboParam2.items.size(), 9U);
+    EXPECT_EQ(screen.cboParam2.items[5].insert, "NOTCR");
+    EXPECT_EQ(screen.cboParam2.items[6].insert, "WORN");
+    EXPECT_EQ(screen.cboParam2.items[7].insert, "CARRIED");
+    EXPECT_EQ(screen.cboParam2.items[8].insert, "HERE");
+}
+
+TEST(ChooseCondAct, AnotherOneOpensItsOwnFields) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboCA.text = "PLACE";
+    screen.LeaveCboCA();
+    screen.cboParam1.text = "1";
+    screen.LeaveCboCA();
+    EXPECT_EQ(screen.cboParam1.text, "1");
+    screen.cboCA.text = "MESSAGE";
+    screen.LeaveCboCA();
+    EXPECT_EQ(screen.cboParam1.text, "");
+    EXPECT_EQ(screen.cboParam2.label, "Param2");
+    screen.cboCA.text = "";
+    screen.LeaveCboCA();
+    EXPECT_FALSE(screen.cboParam1.enabled);
+}
+
+TEST(ChooseCondAct, OfAnotherDialectIsRefused) {
+    CondActScreen game(AdventureKind::Vel);
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboCA.text = "MESF";
+    EXPECT_FALSE(screen.LeaveCboCA());
+    EXPECT_EQ(game.Box(), "Invalid Condition/Action");
+    EXPECT_EQ(game.Title(), "Error");
+    EXPECT_EQ(screen.Refused(), "cboCA");
+}
+
+TEST(LeaveParameter, TheOnlyOneIsChecked) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboCA.text = "MESSAGE";
+    screen.LeaveCboCA();
+    screen.cboParam1.text = "3";
+    EXPECT_FALSE(screen.LeaveCboParam1());
+    EXPECT_EQ(game.Box(), "Invalid number for parameter 1");
+    EXPECT_EQ(screen.Refused(), "cboParam1");
+    screen.cboParam1.text = "2";
+    EXPECT_TRUE(screen.LeaveCboParam1());
+    screen.cboParam1.text = "";
+    EXPECT_TRUE(screen.LeaveCboParam1());
+}
+
+TEST(LeaveParameter, TheFirstOfTwoWaitsForTheSecond) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboCA.text = "PLACE";
+    screen.LeaveCboCA();
+    screen.cboParam1.text = "44";
+    EXPECT_TRUE(screen.LeaveCboParam1());
+    screen.cboParam2.text = "1";
+    EXPECT_FALSE(screen.LeaveCboParam2());
+    EXPECT_EQ(game.Box(), "Invalid number for parameter 1");
+    EXPECT_EQ(screen.Refused(), "cboParam2");
+    screen.cboParam1.text = "1";
+    EXPECT_TRUE(screen.LeaveCboParam2());
+}
+
+TEST(AddCondAct, AppendsItWithLocationWordsAsNumbersAndClosesTheFields) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "AT 1 ";
+    screen.cboCA.text = "PLACE";
+    screen.LeaveCboCA();
+    screen.cboParam1.text = "1";
+    screen.cboParam2.text = "carried";
+    EXPECT_TRUE(screen.cmdAdd());
+    EXPECT_EQ(screen.txtAllCAs, "AT 1 PLACE 1 254");
+    EXPECT_EQ(screen.cboCA.text, "");
+    EXPECT_EQ(screen.cboParam1.label, "Param1");
+    EXPECT_EQ(screen.cboParam2.label, "Param2");
+    EXPECT_FALSE(screen.cboParam1.enabled);
+    EXPECT_FALSE(screen.cboParam2.enabled);
+    EXPECT_EQ(screen.cboParam1.text, "");
+    EXPECT_THAT(screen.cboParam1.items, IsEmpty());
+}
+
+TEST(AddCondAct, RefusesWhatIsNotComplete) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboCA.text = "MESSAGE";
+    screen.LeaveCboCA();
+    EXPECT_FALSE(screen.cmdAdd());
+    EXPECT_EQ(game.Box(), "No parameters for a Condition/Action which must have parameter");
+    EXPECT_EQ(screen.txtAllCAs, "");
+}
+
+TEST(AddCondAct, OfNothingIsRefused) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    EXPECT_FALSE(screen.cmdAdd());
+    EXPECT_EQ(game.Box(), "Invalid Condition/Action");
+}
+
+// The line
+
+TEST(LeaveLine, ABareNameFails) {
+    CondActScreen game;
+    EXPECT_EQ(game.Left("MESSAGE"), "No parameters for a Condition/Action which must have parameter");
+}
+
+TEST(LeaveLine, ALocationBeyondTheRecordsFails) {
+    CondActScreen game;
+    EXPECT_EQ(game.Left("AT 5"), "Invalid number for parameter 1");
+    EXPECT_EQ(game.Left("AT 4"), "");
+    EXPECT_EQ(game.Left("AT 254"), "");
+}
+
+TEST(LeaveLine, TheFlagsOfTheEngineHaveTheirRules) {
+    CondActScreen game;
+    EXPECT_EQ(game.Left("SET 1004"), "Flag 1004 cannot be modified or checked using conditions/actions");
+    EXPECT_EQ(game.Left("SET 1005"), "");
+    EXPECT_EQ(game.Left("LET 1005 1"), "Flag 1005 can only be SET or CLEAR");
+    EXPECT_EQ(game.Left("AUTOINC 30 1"), "Flag 30 cannot be set With AUTOINC");
+    EXPECT_EQ(game.Left("SET 1000"), "This flag cannot be used in an Action, only a Condition");
+}
+
+TEST(LeaveLine, AnUnknownNameFails) {
+    CondActScreen game;
+    EXPECT_EQ(game.Left("AT 1 XYZ DONE"), "XYZ is an invalid Condition/Action");
+}
+
+TEST(LeaveLine, OnlyTheFirstFaultIsTold) {
+    CondActScreen game;
+    EXPECT_EQ(game.Left("AT 77 XYZ"), "Invalid number for parameter 1");
+    EXPECT_EQ(game.desk.dialogs.Boxes().size(), 1U);
+}
+
+TEST(LeaveLine, AnEmptyOneMayBeLeft) {
+    CondActScreen game;
+    EXPECT_EQ(game.Left(""), "");
+}
+
+TEST(LeaveLine, PutsItIntoCapitals) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "at 1 done";
+    EXPECT_TRUE(screen.LeaveTxtAllCAs());
+    EXPECT_EQ(screen.txtAllCAs, "AT 1 DONE");
+}
+
+// The number of the process table
+
+/// What the box says when a number is left; "" for none.
+std::string LeftType(CondActScreen& game, const std::string& number) {
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtType = number;
+    const std::size_t before = game.desk.dialogs.Boxes().size();
+    const bool left = screen.LeaveTxtType();
+    if (game.desk.dialogs.Boxes().size() == before) {
+        EXPECT_TRUE(left);
+        return "";
+    }
+    return game.Box();
+}
+
+TEST(LeaveProcess, MustBeANumber) {
+    CondActScreen game;
+    EXPECT_EQ(LeftType(game, "two"), "Process Table # is not numeric");
+    EXPECT_EQ(LeftType(game, ""), "Process Table # is not numeric");
+    EXPECT_EQ(game.Title(), "Error");
+}
+
+TEST(LeaveProcess, OneThatExistsIsAccepted) {
+    CondActScreen game;
+    EXPECT_EQ(LeftType(game, "1"), "");
+    EXPECT_EQ(LeftType(game, " 2 "), "");
+}
+
+TEST(LeaveProcess, ANewOneMustBeTheNext) {
+    CondActScreen game;
+    game.desk.Add(TableNum::ProcDesc, {{"pmsgnum", std::int64_t{3}}});
+    game.desk.AddEntry(1, 3, kAny, kAny, "DONE");
+    EXPECT_EQ(LeftType(game, "5"), "The new Process Table number must be 4");
+    EXPECT_EQ(LeftType(game, "-1"), "The new Process Table number must be 4");
+    EXPECT_EQ(LeftType(game, "99999999999"), "The new Process Table number must be 4");
+}
+
+TEST(LeaveProcess, TheFirstNewOneIsThreeWhereverEntriesStand) {
+    CondActScreen game;
+    EXPECT_EQ(LeftType(game, "4"), "The new Process Table number must be 3");
+    game.desk.AddEntry(1, 1, kAny, kAny, "DONE");
+    game.desk.session.currentESNum = kOtherProcesses;
+    EXPECT_EQ(LeftType(game, "4"), "The new Process Table number must be 3");
+}
+
+TEST(LeaveProcess, ANewOneIsConfirmedOnce) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtType = "3";
+    game.desk.dialogs.AnswerNext(false);
+    EXPECT_FALSE(screen.LeaveTxtType());
+    EXPECT_EQ(game.Box(), "Confirm Creation of Process table 3");
+    EXPECT_EQ(game.Title(), "Confirm");
+    game.desk.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.LeaveTxtType());
+    EXPECT_TRUE(screen.LeaveTxtType());
+    EXPECT_EQ(game.desk.dialogs.Boxes().size(), 2U);
+}
+
+TEST(LeaveProcess, AMarloAdventureHasNoNewOne) {
+    CondActScreen game(AdventureKind::Marlo);
+    EXPECT_EQ(LeftType(game, "3"), "You cannot change the Process Table number when using the Marlo");
+    EXPECT_EQ(LeftType(game, "4"), "The new Process Table number must be 3");
+}
+
+// Update
+
+TEST(UpdateCondAct, StoresANewEntryInAllItsForms) {
+    for (const AdventureKind kind : {AdventureKind::Fabula, AdventureKind::Vel, AdventureKind::Marlo}) {
+        CondActScreen game(kind);
+        frmVelCondAct screen(game.desk.session, New(game.desk));
+        screen.cboWord1.ChooseText("GET");
+        screen.cboWord2.ChooseText("LAMP");
+        screen.txtAllCAs = " place 1  carried message 2 done";
+        EXPECT_TRUE(screen.cmdUpdate());
+        EXPECT_THAT(game.Entries(),
+                    ElementsAre("0|0|GET|20|LAMP|50|PLACE 1 254 MESSAGE 2 DONE|208 1 254 250 2 265|6"));
+        EXPECT_EQ(game.desk.session.nextEntry, 1);
+        EXPECT_EQ(game.desk.document.UndoName(), "add process entry 0");
+        game.desk.document.Undo();
+        EXPECT_THAT(game.Entries(), IsEmpty());
+    }
+}
+
+TEST(UpdateCondAct, StoresASynonymAsTheFirstWordOfItsNumber) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboWord1.ChooseText("TAKE");
+    screen.txtAllCAs = "DONE";
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_THAT(game.Entries(), ElementsAre("0|0|GET|20|_|255|DONE|265|1"));
+}
+
+TEST(UpdateCondAct, ChangesAnEntry) {
+    CondActScreen game;
+    game.desk.AddEntry(4, 0, {"GET", 20}, {"LAMP", 50}, "DONE");
+    ReadNextKeys(game.desk.session);
+    frmVelCondAct screen(game.desk.session, Old(4));
+    screen.txtType = "1";
+    screen.cboWord2.ChooseText("_");
+    screen.txtAllCAs = "AT 1 OK";
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_THAT(game.Entries(), ElementsAre("4|1|GET|20|_|255|AT 1 OK|101 1 267|3"));
+    EXPECT_EQ(game.desk.session.nextEntry, 5);
+    EXPECT_EQ(game.desk.document.UndoName(), "edit process entry 4");
+}
+
+TEST(UpdateCondAct, ShowsTheProcessOfTheEntry) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtType = "3";
+    screen.txtAllCAs = "DONE";
+    game.desk.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_EQ(game.desk.session.currentESNum, kOtherProcesses);
+}
+
+TEST(UpdateCondAct, AddsTheDescriptionThatANewProcessNeeds) {
+    CondActScreen game;
+    const auto before = game.desk.Everything();
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtType = "3";
+    screen.txtAllCAs = "DONE";
+    game.desk.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_THAT(game.desk.Rows(TableNum::ProcDesc, "pmsgnum, pmsgmsg", "pmsgnum=3"), ElementsAre("3| "));
+    game.desk.document.Undo();
+    EXPECT_EQ(game.desk.Everything(), before);
+}
+
+TEST(UpdateCondAct, OfAnEmptyLineIsRefused) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "  ";
+    EXPECT_FALSE(screen.cmdUpdate());
+    EXPECT_EQ(game.Box(), "Cannot have a record with no Condition/Actions");
+    EXPECT_EQ(game.Title(), "Error");
+    EXPECT_EQ(screen.Refused(), "txtAllCAs");
+    EXPECT_THAT(game.Entries(), IsEmpty());
+}
+
+TEST(UpdateCondAct, ChecksAllFieldsInTheirOrderAndStoresNothing) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.cboCA.text = "MESSAGE";
+    screen.LeaveCboCA();
+    screen.cboParam1.text = "9";
+    screen.cboCA.text = "MESSAGE";
+    screen.txtType = "x";
+    screen.txtAllCAs = "XYZ";
+    EXPECT_FALSE(screen.cmdUpdate());
+    EXPECT_EQ(game.Box(), "Process Table # is not numeric");
+    screen.txtType = "0";
+    EXPECT_FALSE(screen.cmdUpdate());
+    EXPECT_EQ(game.Box(), "Invalid number for parameter 1");
+    screen.cboParam1.text = "1";
+    EXPECT_FALSE(screen.cmdUpdate());
+    EXPECT_EQ(game.Box(), "XYZ is an invalid Condition/Action");
+    EXPECT_THAT(game.Entries(), IsEmpty());
+    EXPECT_EQ(game.desk.document.UndoName(), std::nullopt);
+    EXPECT_EQ(game.desk.session.nextEntry, 0);
+}
+
+TEST(UpdateCondAct, LooksUpALongWordByItsFirstFiveLetters) {
+    CondActScreen game;
+    game.desk.AddWord(600, "LANTERN", 60, 2);
+    game.desk.AddWord(601, "LANTE", 60, 2);
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "NOUN2 LANTERN DONE";
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_THAT(game.Entries(), ElementsAre("0|0|_|255|_|255|NOUN2 LANTERN DONE|124 60 265|3"));
+}
+
+TEST(UpdateCondAct, StoresTheNumericFormEvenWhereAWordDoesNotFit) {
+    CondActScreen game;
+    game.desk.AddWord(600, "LANTERN", 60, 2);
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "NOUN2 LANTERN DONE";
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_THAT(game.Entries(), ElementsAre("0|0|_|255|_|255|NOUN2 LANTERN DONE|124 265|3"));
+}
+
+TEST(UpdateCondAct, KeepsAWordThatTheVocabularyLacks) {
+    CondActScreen game;
+    game.desk.AddEntry(4, 0, {"GONE", 99}, kAny, "DONE");
+    frmVelCondAct screen(game.desk.session, Old(4));
+    EXPECT_EQ(screen.cboWord1.Chosen(), nullptr);
+    screen.txtAllCAs = "OK";
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_THAT(game.Entries(), ElementsAre("4|0|GONE|99|_|255|OK|267|1"));
+}
+
+TEST(UpdateCondAct, WithoutAChangeIsNoStepOfUndo) {
+    CondActScreen game;
+    game.desk.AddEntry(4, 0, {"GET", 20}, {"LAMP", 50}, "AT 1 DONE");
+    frmVelCondAct screen(game.desk.session, Old(4));
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_EQ(game.desk.document.UndoName(), std::nullopt);
+}
+
+TEST(OpenCondAct, ThatIsCancelledChangesNothing) {
+    CondActScreen game;
+    const auto before = game.desk.Everything();
+    {
+        frmVelCondAct screen(game.desk.session, New(game.desk));
+        screen.txtAllCAs = "DONE";
+        screen.LeaveTxtAllCAs();
+    }
+    EXPECT_EQ(game.desk.Everything(), before);
+    EXPECT_EQ(game.desk.session.nextEntry, 0);
+}
+
+TEST(AddBeforeWithItsScreen, IsOneStepThatPutsTheNewEntryFirst) {
+    CondActScreen game;
+    game.desk.AddEntry(1, 0, {"GET", 20}, {"LAMP", 50}, "DONE");
+    game.desk.session.currentTable = TableNum::ProcessTables;
+    game.desk.session.currentEntry = 1;
+    const auto before = game.desk.Everything();
+    Entries entries(game.desk.session);
+    const auto request = entries.AddEntryBefore();
+    frmVelCondAct screen(game.desk.session, *request);
+    screen.txtAllCAs = "OK";
+    EXPECT_TRUE(screen.cmdUpdate());
+    entries.AfterScreen(*request);
+    EXPECT_THAT(game.desk.Rows(TableNum::ProcessTables, "canum, condacts", "", "canum"),
+                ElementsAre("2|OK", "3|DONE"));
+    game.desk.document.Undo();
+    EXPECT_EQ(game.desk.Everything(), before);
+}
+
+}  // namespace
+}  // namespace fabula::authoring
