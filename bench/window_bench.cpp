@@ -2,7 +2,12 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
+#include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
@@ -11,6 +16,7 @@
 #include "platform/manual_timers.h"
 #include "platform/random_source.h"
 #include "player/game_screen.h"
+#include "player/session.h"
 #include "player/vel_eng_main.h"
 #include "qt/qt_dialogs.h"
 #include "qt/strings.h"
@@ -20,10 +26,16 @@ namespace {
 
 using namespace fabula;
 
-/// A new adventure in a window on the offscreen screen.
+/// The window on the offscreen screen, with a game.
 class Played {
   public:
-    explicit Played(bool characterSets) : settings_(folder_.filePath("s.ini"), QSettings::IniFormat) {
+    Played() : settings_(folder_.filePath("s.ini"), QSettings::IniFormat) {
+        window_.show();
+        QApplication::setActiveWindow(&window_);
+    }
+
+    /// A new adventure.
+    void LoadNew(bool characterSets) {
         const auto file = qt::PathFromQt(folder_.filePath("game.fbd"));
         store::frmSetup setup;
         setup.ChooseCharSets(characterSets);
@@ -32,17 +44,20 @@ class Played {
         store::CreateAdventure(
             true, file, setup,
             {dialogs_, clock, events, std::filesystem::path(FABULA_SOURCE_DIR) / "data/Fabula.ini"});
-        window_.show();
-        QApplication::setActiveWindow(&window_);
-        window_.Load(file);
+        Load(file);
     }
+    void Load(const std::filesystem::path& file) { window_.Load(file); }
 
-    /// Types a word that the game does not know, and draws the answer.
-    void Turn() {
-        QWidget* pane = QApplication::focusWidget();
-        QTest::keyClicks(pane, "xyzzy");
-        QTest::keyClick(pane, Qt::Key_Return);
+    void Type(const std::string& text) { QTest::keyClicks(QApplication::focusWidget(), qt::ToQt(text)); }
+    /// Enter, and the window with the answer drawn.
+    void Enter() {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         benchmark::DoNotOptimize(window_.grab());
+    }
+    /// Lets the pauses of the game pass.
+    void Wait() {
+        while (window_.Playing()->WaitingFor() == engine::Waiting::Pause)
+            timers_.Advance(std::chrono::seconds(1));
     }
 
   private:
@@ -56,13 +71,50 @@ class Played {
         {timers_, dialogs_, sound_, random_, settings_, qt::PathFromQt(folder_.filePath("data"))}};
 };
 
-/// Six keys, and the whole window drawn once, after as many turns as the argument says.
+/// A word of five letters that the game does not know, and the answer drawn, after as many turns as the
+/// argument says.
 void WindowTurn(benchmark::State& state, bool characterSets) {
-    Played played(characterSets);
-    for (int turn = 0; turn < state.range(0); ++turn)
-        played.Turn();
+    Played played;
+    played.LoadNew(characterSets);
+    const auto turn = [&] {
+        played.Type("xyzzy");
+        played.Enter();
+    };
+    for (int made = 0; made < state.range(0); ++made)
+        turn();
     for (auto _ : state)
-        played.Turn();
+        turn();
+}
+
+std::vector<std::string> Lines(const std::filesystem::path& file) {
+    std::ifstream input(file);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(input, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+/// An example game from its start to its end. `longest` is the time from Enter to the drawn answer of the
+/// slowest turn, `middle` that of the middle one.
+void WindowWalkthrough(benchmark::State& state, const std::string& name) {
+    using Clock = std::chrono::steady_clock;
+    const std::filesystem::path sources = std::filesystem::path(FABULA_SOURCE_DIR) / "examples" / name;
+    const auto lines = Lines(sources / "walkthrough.scr");
+    std::vector<double> times;
+    for (auto _ : state) {
+        Played played;
+        played.Load(std::filesystem::path(FABULA_EXAMPLES) / (name + ".fbd"));
+        for (const std::string& line : lines) {
+            played.Wait();
+            played.Type(line);
+            const auto begun = Clock::now();
+            played.Enter();
+            times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - begun).count());
+        }
+    }
+    std::sort(times.begin(), times.end());
+    state.counters["middle"] = times[times.size() / 2];
+    state.counters["longest"] = times.back();
 }
 
 }  // namespace
@@ -77,6 +129,12 @@ BENCHMARK_CAPTURE(WindowTurn, Characters, true)
     ->Arg(2000)
     ->Iterations(50)
     ->Unit(benchmark::kMillisecond);
+
+BENCHMARK_CAPTURE(WindowWalkthrough, Lighthouse, "lighthouse")
+    ->Iterations(3)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(WindowWalkthrough, SignalBox, "signal_box")->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(WindowWalkthrough, Cellar, "cellar")->Iterations(3)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "cli/verb.h"
+#include "engine/script.h"
 #include "platform/error.h"
 #include "store/file_copy.h"
 #include "terminal/line_reader.h"
@@ -21,14 +22,36 @@ struct Options {
     bool update = false;
 };
 
+/// The typed lines of a script that the game itself wrote, which holds what was shown too.
+class RecordedLines final : public terminal::LineSource {
+  public:
+    explicit RecordedLines(const std::filesystem::path& file) { script_.Load(file); }
+
+    terminal::TypedLine Read(const terminal::Question&) override {
+        const auto line = script_.NextInput();
+        if (!line) return {};
+        return {terminal::TypedLine::Kind::Line, *line};
+    }
+
+  private:
+    engine::Script script_;
+};
+
+std::unique_ptr<terminal::LineSource> LinesOf(const std::filesystem::path& file) {
+    engine::Script script;
+    script.Load(file);
+    if (script.NextInput()) return std::make_unique<RecordedLines>(file);
+    return std::make_unique<terminal::LineReader>(file);
+}
+
 std::string PlayScript(const Options& options) {
     const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
-    terminal::LineReader script{std::filesystem::path(options.script)};
+    const auto script = LinesOf(options.script);
     const terminal::ScratchFiles files(std::filesystem::path(options.script).parent_path());
     std::ostringstream played;
     engine::Transcript transcript(played);
     terminal::Output nowhere(terminal::Output::kNowhere);
-    terminal::Screen screen({}, nowhere, script, &transcript);
+    terminal::Screen screen({}, nowhere, *script, &transcript);
     terminal::TerminalWindow window(screen, files);
     terminal::PlaySession(*adventure, window, screen, {.seed = options.seed});
     return played.str();
@@ -78,7 +101,8 @@ void AddTestVerb(CLI::App& app, Chosen& chosen) {
     CLI::App* verb = app.add_subcommand("test", "Plays a script and compares what is shown");
     verb->footer(
         "Shows nothing and ends with 0 when the transcript is the expected one, else shows the difference\n"
-        "and ends with 1. SCRIPT has one command a line, as 'fabula play' reads them from a pipe. Files "
+        "and ends with 1. SCRIPT has one command a line, as 'fabula play' reads them from a pipe; a\n"
+        "script that a game has recorded will do, of which the lines that begin with >> are played. Files "
         "that\n"
         "the game saves live as long as the test.");
     verb->add_option("file", options->file, "The file, FILE.fbd")->required();

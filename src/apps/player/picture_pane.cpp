@@ -38,7 +38,7 @@ int PicturePane::HeightIn(QSize column) const {
     for (int factor = kLargestFactor; factor >= 1; --factor) {
         const int whole = static_cast<int>(std::ceil(image_.height() * factor / ratio)) + 2 * kMargin;
         const bool wide = image_.width() * factor / ratio + 2 * kMargin <= column.width();
-        if (wide && whole >= least && whole <= column.height() * 11 / 20) return whole;
+        if (wide && whole >= least && whole <= column.height() * 3 / 5) return whole;
     }
     return least;
 }

@@ -18,7 +18,7 @@ class PicturePane final : public QWidget {
     QRect Place() const;
 
     /// The height that suits the picture in a column that it shares with the text: two fifths of it, or up
-    /// to eleven twentieths where that gives every pixel of the picture the same size.
+    /// to three fifths where that gives every pixel of the picture the same size.
     int HeightIn(QSize column) const;
 
     static constexpr int kLargestFactor = 4;

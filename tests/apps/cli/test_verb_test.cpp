@@ -52,6 +52,17 @@ TEST_F(TestVerb, ShowsTheDifferenceAndEndsWithOne) {
     EXPECT_EQ(result.status, 1);
 }
 
+TEST_F(TestVerb, OfARecordedScriptTheTypedLinesArePlayed) {
+    Write(script_, "A room.\n?\n>>inventory\r\nYou are carrying:\nnothing.\n?\n>>Read:>>inventory\n");
+    Write(transcript_,
+          "A room.\n?\n>inventory\nYou are carrying:\nnothing.\n?\n"
+          ">inventory\nYou are carrying:\nnothing.\n?\n");
+    const ProgramResult result = Test();
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.status, 0);
+}
+
 TEST_F(TestVerb, UpdateWritesTheTranscript) {
     Write(script_, "inventory\n");
     Write(transcript_, "old");

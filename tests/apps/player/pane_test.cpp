@@ -274,7 +274,7 @@ TEST(PicturePane, IsMadeHighEnoughForPixelsOfOneSizeWhereThatLeavesRoomForTheTex
     pane.Show(image);
     EXPECT_EQ(pane.HeightIn({880, 700}), 352 + 16);
     EXPECT_EQ(pane.HeightIn({880, 400}), 176 + 16);
-    // Neither one nor two times its size lies between two fifths and eleven twentieths.
+    // Neither one nor two times its size lies between two fifths and three fifths.
     EXPECT_EQ(pane.HeightIn({880, 600}), 240);
     // As high as before, and too narrow for two times.
     EXPECT_EQ(pane.HeightIn({500, 700}), 280);
