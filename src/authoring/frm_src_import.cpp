@@ -19,7 +19,7 @@ using std::filesystem::path;
 constexpr std::int64_t kStepsAYield = 10;
 
 constexpr std::string_view kImportKinds[] = {"UnMarlo", "UnVel", "PCVEL", "Fabula", "ACE"};
-constexpr std::string_view kExportKinds[] = {"UnVel", "PCVEL", "Fabula", "ACE"};
+constexpr std::string_view kExportKinds[] = {"UnVel", "PCVEL", "Fabula"};
 constexpr std::string_view kGraphicKinds[] = {"UnMarlo", "UnVel"};
 
 struct ModeRow {

@@ -74,7 +74,7 @@ TEST_F(FrmSrcImportTest, ExportHasItsTitleLabelsAndKinds) {
     EXPECT_EQ(screen.Title(), "Export of Database");
     EXPECT_EQ(screen.lblStatus(), "Export Status");
     EXPECT_EQ(screen.MainButton(), "&Export");
-    EXPECT_EQ(Names(screen), (std::vector<std::string>{"UnVel", "PCVEL", "Fabula", "ACE"}));
+    EXPECT_EQ(Names(screen), (std::vector<std::string>{"UnVel", "PCVEL", "Fabula"}));
 }
 
 TEST_F(FrmSrcImportTest, LoadOfAPictureIsSwitchedOffWithASentence) {
@@ -138,12 +138,12 @@ TEST_F(FrmSrcImportTest, SourceOfEachKindIsAskedForInItsOwnDialog) {
 
 TEST_F(FrmSrcImportTest, TargetOfEachKindIsAskedForInItsOwnDialog) {
     frmSrcImport screen = Screen(JobMode::Export);
-    for (const char* kind : {"PCVEL", "Fabula", "ACE"}) {
+    for (const char* kind : {"PCVEL", "Fabula"}) {
         dialogs_.AnswerFile(std::nullopt);
         screen.ChooseKind(Option(screen, kind));
         screen.cmdSource();
     }
-    ASSERT_EQ(dialogs_.Questions().size(), 3U);
+    ASSERT_EQ(dialogs_.Questions().size(), 2U);
     EXPECT_EQ(dialogs_.Questions()[0].title, "Save as a PC VEL source");
     EXPECT_EQ(dialogs_.Questions()[0].filter, "PC VEL source (*.sce)|*.sce");
     EXPECT_EQ(dialogs_.Questions()[0].extension, "sce");
@@ -151,9 +151,6 @@ TEST_F(FrmSrcImportTest, TargetOfEachKindIsAskedForInItsOwnDialog) {
     EXPECT_EQ(dialogs_.Questions()[1].title, "Save as an FabuLA Extract");
     EXPECT_EQ(dialogs_.Questions()[1].filter, "FabuLA Extract (*.ext)|*.ext");
     EXPECT_EQ(dialogs_.Questions()[1].extension, "ext");
-    EXPECT_EQ(dialogs_.Questions()[2].title, "Save as an ACE source");
-    EXPECT_EQ(dialogs_.Questions()[2].filter, "ACE source(*.txt)|*.txt");
-    EXPECT_EQ(dialogs_.Questions()[2].extension, "txt");
     for (const auto& question : dialogs_.Questions())
         EXPECT_TRUE(question.forWriting);
 }

@@ -1,0 +1,224 @@
+#include "ide/import_dialog.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "ide/dialog_checks.h"
+#include "platform/scripted_dialogs.h"
+#include "support/scripted_pump.h"
+#include "support/template_adventure.h"
+
+namespace fabula::test {
+namespace {
+
+using authoring::frmSrcImport;
+using authoring::JobMode;
+
+class ImportDialogTest : public testing::Test {
+  protected:
+    void Open(JobMode mode) {
+        dialog_.reset();
+        screen_ = std::make_unique<frmSrcImport>(mode, &*adventure_, host_);
+        dialog_ = std::make_unique<ide::ImportDialog>(*screen_, dialogs_);
+        dialog_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+    }
+    ~ImportDialogTest() override { dialog_.reset(); }
+
+    template <typename Widget>
+    Widget& Find(const char* name) {
+        return *dialog_->findChild<Widget*>(name);
+    }
+    QPushButton& Button(const char* name) { return Find<QPushButton>(name); }
+    QString Status() { return Find<QPlainTextEdit>("txtStatus").toPlainText(); }
+    void Type(const char* field, const std::filesystem::path& path) {
+        QLineEdit& line = Find<QLineEdit>(field);
+        line.clear();
+        QTest::keyClicks(&line, QString::fromStdString(path.string()));
+    }
+    std::filesystem::path In(const char* name) const { return adventure_.Folder() / name; }
+    std::filesystem::path Exported() {
+        frmSrcImport screen(JobMode::Export, &*adventure_, host_);
+        screen.ChooseKind(2);
+        screen.txtSource = In("game.ext").string();
+        EXPECT_TRUE(screen.cmdImport());
+        return In("game.ext");
+    }
+
+    OpenedAdventure adventure_;
+    platform::ScriptedDialogs dialogs_;
+    platform::FixedClock clock_{{2026, 3, 9, 8, 5, 7}};
+    ScriptedPump pump_;
+    platform::MemorySettings settings_;
+    authoring::SrcImportHost host_{dialogs_, clock_, pump_, settings_,
+                                   std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini"};
+    std::unique_ptr<frmSrcImport> screen_;
+    std::unique_ptr<ide::ImportDialog> dialog_;
+};
+
+TEST_F(ImportDialogTest, ShowsTheModeOfItsScreen) {
+    Open(JobMode::Import);
+    EXPECT_EQ(dialog_->windowTitle(), "Import of source file");
+    EXPECT_EQ(Find<QLabel>("lblStatus").text(), "Import Status");
+    EXPECT_EQ(Button("cmdImport").text(), "&Import");
+    EXPECT_EQ(Button("cmdPrint").text(), "&Print Status");
+    EXPECT_FALSE(Button("cmdPrint").isEnabled());
+}
+
+TEST_F(ImportDialogTest, KindsThatAreMissingAreSwitchedOffWithASentence) {
+    Open(JobMode::Import);
+    EXPECT_FALSE(Find<QRadioButton>("optKindUnMarlo").isEnabled());
+    EXPECT_EQ(Find<QRadioButton>("optKindUnMarlo").toolTip(),
+              "This version cannot yet read files of the kind UnMarlo.");
+    EXPECT_TRUE(Find<QRadioButton>("optKindPCVEL").isChecked());
+    Find<QRadioButton>("optKindACE").click();
+    EXPECT_EQ(screen_->optKind(), 4U);
+}
+
+TEST_F(ImportDialogTest, ImportsByKeysAndClicks) {
+    const auto source = Exported();
+    Open(JobMode::Import);
+    Find<QRadioButton>("optKindPCVEL").setFocus();
+    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Down);
+    EXPECT_TRUE(Find<QRadioButton>("optKindFabula").isChecked());
+    Type("txtSource", source);
+    Type("txtDatabase", In("new.fbd"));
+    QTest::keyClick(&Find<QLineEdit>("txtDatabase"), Qt::Key_Return);
+    EXPECT_EQ(screen_->NewFile(), In("new.fbd"));
+    EXPECT_TRUE(Status().startsWith("Creating default database for "));
+    EXPECT_EQ(Status().toStdString(), screen_->txtStatus());
+    EXPECT_EQ(Find<QProgressBar>("barProgress").value(), 100);
+    EXPECT_FALSE(Button("cmdImport").isEnabled());
+    EXPECT_TRUE(Button("cmdPrint").isEnabled());
+    QTest::keyClick(dialog_.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog_->isVisible());
+}
+
+TEST_F(ImportDialogTest, FilesThatWereChosenStandInTheirFields) {
+    Open(JobMode::Import);
+    dialogs_.AnswerFile(In("mill.sce"));
+    Button("cmdSource").click();
+    EXPECT_EQ(Find<QLineEdit>("txtSource").text().toStdString(), In("mill.sce").string());
+    EXPECT_EQ(Find<QLineEdit>("txtDatabase").text().toStdString(), In("mill.fbd").string());
+    dialogs_.AnswerFile(In("other.fbd"));
+    Button("cmdDatabase").click();
+    EXPECT_EQ(Find<QLineEdit>("txtDatabase").text().toStdString(), In("other.fbd").string());
+}
+
+TEST_F(ImportDialogTest, BlankSourceKeepsTheFocus) {
+    Open(JobMode::Import);
+    Button("cmdImport").click();
+    EXPECT_EQ(dialogs_.Boxes().at(0).text, "Source File not specified");
+    EXPECT_EQ(dialog_->focusWidget(), &Find<QLineEdit>("txtSource"));
+}
+
+TEST_F(ImportDialogTest, NothingCanBeChangedWhileAJobRuns) {
+    const auto source = Exported();
+    Open(JobMode::Import);
+    Find<QRadioButton>("optKindFabula").click();
+    Type("txtSource", source);
+    Type("txtDatabase", In("new.fbd"));
+    int turns = 0;
+    pump_.atTurn = [&] {
+        if (!screen_->Running()) return;
+        ++turns;
+        EXPECT_FALSE(Button("cmdImport").isEnabled());
+        EXPECT_FALSE(Find<QLineEdit>("txtSource").isEnabled());
+        EXPECT_FALSE(Find<QRadioButton>("optKindPCVEL").isEnabled());
+        EXPECT_EQ(Button("cmdExit").text(), "&Cancel");
+        Button("cmdImport").click();
+    };
+    Button("cmdImport").click();
+    EXPECT_GT(turns, 3);
+    EXPECT_TRUE(screen_->NewFile());
+    EXPECT_EQ(Button("cmdExit").text(), "E&xit");
+}
+
+TEST_F(ImportDialogTest, CancelEndsTheJobAndLeavesTheWindowOpen) {
+    const auto source = Exported();
+    Open(JobMode::Import);
+    Find<QRadioButton>("optKindFabula").click();
+    Type("txtSource", source);
+    Type("txtDatabase", In("new.fbd"));
+    pump_.atTurn = [&] {
+        if (screen_->Running()) Button("cmdExit").click();
+    };
+    Button("cmdImport").click();
+    EXPECT_TRUE(dialog_->isVisible());
+    EXPECT_FALSE(std::filesystem::exists(In("new.fbd")));
+    EXPECT_TRUE(Status().endsWith("Import cancelled\nDeleting bad database\n"));
+    EXPECT_TRUE(Button("cmdImport").isEnabled());
+}
+
+TEST_F(ImportDialogTest, ExportShowsTheCheckAndGoesOnWhenItHasPassed) {
+    Open(JobMode::Export);
+    EXPECT_EQ(dialog_->findChild<QLineEdit*>("txtDatabase"), nullptr);
+    Find<QRadioButton>("optKindFabula").click();
+    Type("txtSource", In("game.ext"));
+    Button("cmdImport").click();
+    EXPECT_TRUE(std::filesystem::exists(In("game.ext")));
+    EXPECT_TRUE(Status().contains("No Errors Found"));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(ImportDialogTest, ExportWaitsUntilTheFaultsOfTheCheckWereRead) {
+    store::Cursor& entries = adventure_->OpenTable(store::TableNum::ProcessTables, "def");
+    entries.AddNew();
+    entries.SetField("canum", std::int64_t{0});
+    entries.SetField("estype", std::int64_t{0});
+    entries.SetField("w1", std::string("*"));
+    entries.SetField("w2", std::string("*"));
+    entries.SetField("condacts", std::string("BRIGHT 1"));
+    entries.Update();
+    Open(JobMode::Export);
+    Type("txtSource", In("game.sce"));
+    bool read = false;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        QWidget* check = QApplication::activeModalWidget();
+        auto* progress = check ? check->findChild<QLabel*>("lblProgress") : nullptr;
+        if (!progress || progress->text() != "The adventure has not passed.") return;
+        read = true;
+        check->findChild<QPushButton*>("cmdOK")->click();
+    });
+    watch.start(1);
+    Button("cmdImport").click();
+    EXPECT_TRUE(read);
+    EXPECT_FALSE(std::filesystem::exists(In("game.sce")));
+    EXPECT_TRUE(Status().contains("Use of BRIGHT Condition/Action."));
+}
+
+TEST_F(ImportDialogTest, LoadOfAPictureSaysWhyItIsSwitchedOff) {
+    Open(JobMode::LoadGraphic);
+    EXPECT_FALSE(Button("cmdImport").isEnabled());
+    EXPECT_EQ(Find<QPlainTextEdit>("txtStatus").placeholderText(),
+              "This version cannot yet take single pictures out of the listings of older games.");
+}
+
+TEST_F(ImportDialogTest, EveryControlHasANameAndBothThemesShowIt) {
+    const auto source = Exported();
+    for (const JobMode mode : {JobMode::Export, JobMode::LoadGraphic, JobMode::Import}) {
+        Open(mode);
+        EXPECT_EQ(WidgetsWithoutName(*dialog_), std::vector<std::string>{});
+        GrabInBothThemes(*dialog_, mode == JobMode::Export ? "export" : "import-empty");
+    }
+    Find<QRadioButton>("optKindFabula").click();
+    Type("txtSource", source);
+    Type("txtDatabase", In("new.fbd"));
+    Button("cmdImport").click();
+    GrabInBothThemes(*dialog_, "import-done");
+}
+
+}  // namespace
+}  // namespace fabula::test

@@ -1,0 +1,95 @@
+#include "ide/setup_dialog.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "ide/dialog_checks.h"
+
+namespace fabula::test {
+namespace {
+
+using store::AdventureKind;
+
+class SetupDialogTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        dialog_.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+    }
+    QRadioButton& Option(const char* name) { return *dialog_.findChild<QRadioButton*>(name); }
+    QString Explanation() { return dialog_.findChild<QLabel*>("lblExplain")->text(); }
+
+    store::frmSetup setup_;
+    ide::SetupDialog dialog_{setup_};
+};
+
+TEST_F(SetupDialogTest, OpensOnTheChoicesOfTheScreen) {
+    EXPECT_EQ(dialog_.windowTitle(), "Choose Type of Adventure");
+    EXPECT_TRUE(Option("optFabula").isChecked());
+    EXPECT_TRUE(Option("optNonGraphic").isChecked());
+    EXPECT_TRUE(Option("optCharSetNo").isChecked());
+    EXPECT_EQ(Explanation(), "Fabula: Takes all Fabula constructs, including extra Conditions & Actions.");
+}
+
+TEST_F(SetupDialogTest, GroupsAreIndependent) {
+    QTest::mouseClick(&Option("optVel"), Qt::LeftButton);
+    QTest::mouseClick(&Option("optGraphic"), Qt::LeftButton);
+    QTest::mouseClick(&Option("optCharSetYes"), Qt::LeftButton);
+    EXPECT_EQ(setup_.Type(), AdventureKind::Vel);
+    EXPECT_TRUE(setup_.Graphics());
+    EXPECT_TRUE(setup_.CharSets());
+    QTest::mouseClick(&Option("optCharSetNo"), Qt::LeftButton);
+    EXPECT_FALSE(setup_.CharSets());
+}
+
+TEST_F(SetupDialogTest, MarloForcesCharacterSets) {
+    QTest::mouseClick(&Option("optMarlo"), Qt::LeftButton);
+    EXPECT_TRUE(Option("optCharSetYes").isChecked());
+    EXPECT_FALSE(Option("optCharSetNo").isEnabled());
+    EXPECT_TRUE(setup_.CharSets());
+    QTest::mouseClick(&Option("optFabula"), Qt::LeftButton);
+    EXPECT_TRUE(Option("optCharSetNo").isEnabled());
+}
+
+TEST_F(SetupDialogTest, ExplainsTheOptionAtHand) {
+    Option("optNonGraphic").setFocus();
+    EXPECT_EQ(Explanation(), "Non-Graphic: Graphic Editor is NOT included.");
+    Option("optCharSetNo").setFocus();
+    EXPECT_EQ(Explanation(), "No - Windows Fonts used (Saves memory)");
+}
+
+TEST_F(SetupDialogTest, CanBeFilledInByKeysAlone) {
+    QTest::keyClick(&Option("optFabula"), Qt::Key_Right);
+    EXPECT_EQ(setup_.Type(), AdventureKind::Vel);
+    QTest::keyClick(dialog_.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(dialog_.focusWidget(), &Option("optNonGraphic"));
+    QTest::keyClick(dialog_.focusWidget(), Qt::Key_Left);
+    EXPECT_TRUE(setup_.Graphics());
+    QTest::keyClick(&dialog_, Qt::Key_Return);
+    EXPECT_EQ(dialog_.result(), QDialog::Accepted);
+}
+
+TEST_F(SetupDialogTest, EscapeMakesNothing) {
+    QTest::keyClick(&dialog_, Qt::Key_Escape);
+    EXPECT_EQ(dialog_.result(), QDialog::Rejected);
+    EXPECT_FALSE(dialog_.isVisible());
+}
+
+TEST_F(SetupDialogTest, OffersTheUsualWords) {
+    EXPECT_TRUE(dialog_.Starter());
+    dialog_.findChild<QCheckBox*>("chkStarter")->click();
+    EXPECT_FALSE(dialog_.Starter());
+}
+
+TEST_F(SetupDialogTest, EveryControlHasANameAndBothThemesShowIt) {
+    EXPECT_EQ(WidgetsWithoutName(dialog_), std::vector<std::string>{});
+    GrabInBothThemes(dialog_, "setup");
+}
+
+}  // namespace
+}  // namespace fabula::test
