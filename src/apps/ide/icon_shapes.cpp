@@ -77,11 +77,10 @@ constexpr std::array kShapes = {
     IconShape{"filter", "M 3 5 L 21 5 L 14 13 L 14 20 L 10 18 L 10 13 Z", ""},
     IconShape{"key", "O 8 15 4.5 M 11.2 11.8 L 20 3", "M 16.5 6.5 L 20 10 M 13.5 9.5 L 15.5 11.5"},
     // The adventure as a whole.
+    IconShape{"trace", "M 4 5 L 12 5 M 4 19 L 12 19 M 4 12 L 9 12",
+              "M 16 3 L 16 21 M 13 18 L 16 21 L 19 18"},
     IconShape{"run", "", "M 7 4 L 19 12 L 7 20 Z"},
     IconShape{"verify", "O 12 12 9", "M 8 12.5 L 11 15.5 L 16.5 9"},
-    IconShape{"convert", "M 4 8 L 20 8 M 20 16 L 4 16", "M 16 4 L 20 8 L 16 12 M 8 12 L 4 16 L 8 20"},
-    IconShape{"tools", "M 4 20 L 12 12",
-              "M 12 12 C 10 7 14 3 18 4 L 15 7 L 17 9 L 20 6 C 21 10 17 14 12 12"},
     IconShape{"help", "O 12 12 9",
               "M 9.5 9.5 C 9.5 6 15 6 14.5 9.8 C 14.3 11.5 12 11.5 12 14 M 12 16.8 L 12 17.2"},
     IconShape{"info", "O 12 12 9", "M 12 11 L 12 17 M 12 7.3 L 12 7.7"},

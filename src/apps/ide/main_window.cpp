@@ -20,6 +20,7 @@
 #include <QVBoxLayout>
 
 #include "authoring/start_up.h"
+#include "authoring/verify.h"
 #include "ide/command_actions.h"
 #include "ide/empty_page.h"
 #include "ide/find_bar.h"
@@ -49,6 +50,15 @@ constexpr int kEntryGroup = 1;  ///< of the menu Edit: the commands on records
 constexpr const char* kGeometry = "Desk/Geometry";
 constexpr const char* kSplitter = "Desk/Splitter";
 constexpr const char* kTheme = "Startup/Theme";
+
+/// Why a command can't be done though the logic has it: its window is not built yet. "" for all others.
+std::string_view MissingWindow(Command command) {
+    if (command == Command::Import)
+        return "This version imports on the command line only: fabula import KIND SOURCE FILE.";
+    if (command == Command::Export)
+        return "This version exports on the command line only: fabula export KIND FILE TARGET.";
+    return "";
+}
 
 }  // namespace
 
@@ -112,6 +122,7 @@ MainWindow::MainWindow(const Services& services, Places places)
     MakeStatusBar();
     MakeKeys();
     PlaceWindow();
+    empty_->findChild<QWidget*>("cmdImport")->setVisible(MissingWindow(Command::Import).empty());
     empty_->ShowExamples(places_.examples);
     ShowChanges();
 }
@@ -261,8 +272,17 @@ void MainWindow::ShowChanges() {
 }
 
 void MainWindow::ShowActions() {
-    actions_->Refresh([this](Command command) { return ide_.StateOf(command); });
+    actions_->Refresh([this](Command command) { return StateOf(command); });
     ShowStatus();
+}
+
+authoring::ActionState MainWindow::StateOf(Command command) const {
+    authoring::ActionState state = ide_.StateOf(command);
+    const std::string_view missing = MissingWindow(command);
+    if (!state.enabled || missing.empty()) return state;
+    state.enabled = false;
+    state.why = missing;
+    return state;
 }
 
 void MainWindow::ShowStatus() {
@@ -338,7 +358,7 @@ void MainWindow::ChooseTheme(qt::Theme theme) {
 // --- Commands --------------------------------------------------------------------------------------------
 
 void MainWindow::Do(Command command) {
-    if (!ide_.StateOf(command).enabled) return;
+    if (!StateOf(command).enabled) return;
     switch (command) {
         case Command::New:
             return New();
@@ -346,6 +366,8 @@ void MainWindow::Do(Command command) {
             return void(close());
         case Command::Run:
             return StartTest();
+        case Command::Verify:
+            return Verify();
         case Command::Filter:
             return records_->FilterLine().setFocus();
         case Command::Find:
@@ -367,7 +389,8 @@ void MainWindow::Do(Command command) {
 void MainWindow::DoInLogic(Command command) {
     const auto request = ide_.Run(command);
     if (request) {
-        OpenScreen(*request, ide_.CurrentSession(), this);
+        if (!OpenScreen(*request, ide_.CurrentSession(), this))
+            services_.dialogs.Tell("This version has no screen for that record yet.", "Error");
         ide_.ScreenClosed(*request);
     }
     ShowChanges();
@@ -397,6 +420,20 @@ void MainWindow::OpenExample(const Example& example) {
     } catch (const Error& error) {
         services_.dialogs.Tell(error.what(), "Error");
     }
+}
+
+void MainWindow::Verify() {
+    interchange::NoObserver nobody;
+    interchange::JobStatus status(nobody);
+    try {
+        authoring::VerifyAdventure(ide_.CurrentSession().document.Adventure(),
+                                   authoring::VerifyTarget::Play, status);
+        services_.dialogs.Report(status.Text(), "Verify");
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+    ide_.Refresh();
+    ShowChanges();
 }
 
 void MainWindow::StartTest() {

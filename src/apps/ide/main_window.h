@@ -86,6 +86,7 @@ class MainWindow final : public QMainWindow {
     void ShowChanges();
     void ShowRow();
     void ShowActions();
+    authoring::ActionState StateOf(authoring::Command command) const;
     void ShowStatus();
     void ShowTables();
     void ShowRecent();
@@ -96,6 +97,7 @@ class MainWindow final : public QMainWindow {
     void OpenExample(const Example& example);
     void DoInLogic(authoring::Command command);
     void FindOrAsk(authoring::Command command);
+    void Verify();
     void StartTest();
     void EndTest();
     void ShowHelp(const HelpTopic& topic);

@@ -2,6 +2,8 @@
 
 namespace fabula::ide {
 
-void OpenScreen(const authoring::ScreenRequest&, authoring::Session&, QWidget*) {}
+bool OpenScreen(const authoring::ScreenRequest&, authoring::Session&, QWidget*) {
+    return false;
+}
 
 }  // namespace fabula::ide

@@ -7,7 +7,8 @@ class QWidget;
 
 namespace fabula::ide {
 
-/// Shows the dialog of a screen until the author leaves it. What was stored is in the adventure then.
-void OpenScreen(const authoring::ScreenRequest& request, authoring::Session& session, QWidget* parent);
+/// Shows the dialog of a screen until the author leaves it. What was stored is in the adventure then. False
+/// when this version has no dialog for the screen.
+bool OpenScreen(const authoring::ScreenRequest& request, authoring::Session& session, QWidget* parent);
 
 }  // namespace fabula::ide

@@ -1,21 +1,194 @@
 #include "ide/main_window.h"
 
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QStackedWidget>
+#include <QTableView>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
+#include "authoring/commands.h"
+#include "ide/game_test.h"
+#include "ide/help_window.h"
+#include "ide/icons.h"
 #include "ide/opened_window.h"
+#include "qt/strings.h"
 
 namespace fabula::test {
 namespace {
 
-TEST(MainWindow, OffersNewOpenAndImportWhileNothingIsOpen) {
+GameBuilder Game() {
+    GameBuilder game;
+    game.Message(0, "The lamp is lit.").Message(1, "It is dark.").Message(2, "Another lamp.");
+    return game;
+}
+
+TEST(MainWindow, OffersNewAndOpenWhileNothingIsOpen) {
     OpenedWindow opened;
-    for (const char* name : {"cmdNew", "cmdOpen", "cmdImport"}) {
-        auto* button = opened.Window().findChild<QPushButton*>(name);
-        ASSERT_NE(button, nullptr) << name;
-        EXPECT_TRUE(button->isVisible()) << name;
+    for (const char* name : {"cmdNew", "cmdOpen"})
+        EXPECT_TRUE(opened.Part<QPushButton>(name).isVisible()) << name;
+    EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE");
+    EXPECT_FALSE(opened.Action("Run").isEnabled());
+}
+
+TEST(MainWindow, OpenAdventureShowsItsTreeAndGrid) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - game");
+    opened.ChooseNode("Messages");
+    EXPECT_EQ(opened.Part<QTableView>("Grid").model()->rowCount(), 3);
+    EXPECT_TRUE(opened.Action("Run").isEnabled());
+    EXPECT_EQ(opened.Action("NewTab").text(), "&Add Message");
+}
+
+TEST(MainWindow, FilterShowsTheRowsThatContainItsText) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    opened.Press(Qt::Key_F6);
+    opened.Action("Filter").trigger();
+    opened.Type("LAMP");
+    EXPECT_EQ(opened.Part<QTableView>("Grid").model()->rowCount(), 2);
+    EXPECT_EQ(opened.Part<QLabel>("Count").text(), "2 of 3");
+    opened.Press(Qt::Key_Escape);
+    EXPECT_EQ(opened.Part<QTableView>("Grid").model()->rowCount(), 3);
+}
+
+TEST(MainWindow, FindGoesToTheNextRowThatHasTheText) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    opened.Logic().SelectRow(0);
+    opened.Action("Find").trigger();
+    opened.Type("lamp");
+    opened.Press(Qt::Key_Return);
+    EXPECT_EQ(opened.Part<QTableView>("Grid").currentIndex().row(), 2);
+    opened.Press(Qt::Key_Return);
+    EXPECT_EQ(opened.Part<QTableView>("Grid").currentIndex().row(), 0);
+}
+
+TEST(MainWindow, DeletedRecordComesBackByUndoUnderItsName) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    opened.Logic().SelectRow(2);
+    opened.dialogs.AnswerNext(true);
+    opened.Action("Delete").trigger();
+    EXPECT_EQ(opened.Part<QTableView>("Grid").model()->rowCount(), 2);
+    EXPECT_EQ(opened.Action("Undo").text(), "&Undo delete message 2");
+    opened.Action("Undo").trigger();
+    EXPECT_EQ(opened.Part<QTableView>("Grid").model()->rowCount(), 3);
+    EXPECT_EQ(opened.Action("Redo").text(), "&Redo delete message 2");
+}
+
+TEST(MainWindow, F6GoesFromTreeToFilterToRowsAndBack) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.Part<QTreeWidget>("Tree").setFocus();
+    opened.Press(Qt::Key_F6);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "FilterLine");
+    opened.Press(Qt::Key_F6);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "Grid");
+    opened.Press(Qt::Key_F6);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "Tree");
+    opened.Press(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "Grid");
+}
+
+TEST(MainWindow, ThemeIsAppliedAndRemembered) {
+    OpenedWindow opened;
+    opened.Action("ThemeDark").trigger();
+    EXPECT_TRUE(qt::WindowsAreDark());
+    opened.Action("ThemeLight").trigger();
+    EXPECT_FALSE(qt::WindowsAreDark());
+    opened.Restart();
+    EXPECT_TRUE(opened.Action("ThemeLight").isChecked());
+}
+
+TEST(MainWindow, AdventureThatWasOpenIsOpenedAgain) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.Restart();
+    EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - game");
+}
+
+TEST(MainWindow, TestHidesTheWindowAndComesBackToTheSameRow) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    opened.Logic().SelectRow(1);
+    opened.Action("Run").trigger();
+    ASSERT_NE(opened.Window().Test(), nullptr);
+    EXPECT_FALSE(opened.Window().isVisible());
+    EXPECT_TRUE(opened.Window().Test()->Window().isVisible());
+    opened.Window().Test()->Window().close();
+    QApplication::processEvents();
+    EXPECT_EQ(opened.Window().Test(), nullptr);
+    EXPECT_TRUE(opened.Window().isVisible());
+    EXPECT_EQ(opened.Part<QTableView>("Grid").currentIndex().row(), 1);
+}
+
+TEST(MainWindow, NewMakesAnAdventureAndOpensItOnItsSettings) {
+    OpenedWindow opened;
+    opened.dialogs.AnswerFile(opened.folder / "mine.fbd");
+    opened.Part<QPushButton>("cmdNew").click();
+    EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - mine");
+    EXPECT_EQ(opened.Part<QTreeWidget>("Tree").currentItem()->text(0), "Adventure Settings");
+}
+
+TEST(MainWindow, VerifyReportsWhatItFinds) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.Action("Verify").trigger();
+    ASSERT_EQ(opened.dialogs.Reports().size(), 1U);
+    EXPECT_EQ(opened.dialogs.Reports()[0].title, "Verify");
+}
+
+TEST(MainWindow, CommandWithoutAWindowSaysWhyItIsOff) {
+    OpenedWindow opened;
+    EXPECT_FALSE(opened.Action("In").isEnabled());
+    EXPECT_EQ(opened.Action("In").statusTip(),
+              "This version imports on the command line only: fabula import KIND SOURCE FILE.");
+}
+
+TEST(MainWindow, F1TellsAboutTheTableInView) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Vocabulary");
+    opened.Part<QTableView>("Grid").setFocus();
+    opened.help.Write("vocabulary.html", "<title>Vocabulary</title>");
+    opened.Action("Help").trigger();
+    ASSERT_NE(opened.Window().Help(), nullptr);
+    EXPECT_EQ(opened.Window().Help()->Page(), "vocabulary.html");
+}
+
+TEST(MainWindow, ExampleIsCopiedForTheAuthorBeforeItIsOpened) {
+    OpenedWindow opened;
+    const auto file = opened.folder / "shipped.fbd";
+    Game().Write(file);
+    opened.examples = {{file, "Shipped", "An example."}};
+    opened.Restart();
+    opened.Part<QPushButton>("Example1").click();
+    EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - shipped");
+    EXPECT_TRUE(std::filesystem::exists(opened.folder / "own" / "shipped.fbd"));
+}
+
+TEST(MainWindow, EveryCommandHasAnIconAndATip) {
+    OpenedWindow opened;
+    for (const authoring::CommandEntry& entry : authoring::AllCommands()) {
+        EXPECT_TRUE(ide::HasIcon(entry.icon)) << entry.icon;
+        EXPECT_FALSE(opened.Action(std::string(entry.key).c_str()).toolTip().isEmpty()) << entry.key;
     }
+}
+
+TEST(MainWindow, FitsIntoASmallScreen) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.Window().resize(480, 320);
+    EXPECT_EQ(opened.Window().size(), QSize(480, 320));
 }
 
 }  // namespace
