@@ -14,5 +14,9 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "opening: the lighthouse"
     exec build/run/bin/FabulaEngine build/run/examples/lighthouse.fbd
 fi
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    echo "opening: the lighthouse"
+    exec build/run/bin/FabulaIDE build/run/examples/lighthouse.fbd
+fi
 echo "playing: the lighthouse (QUIT leaves it)"
 exec build/run/bin/fabula play build/run/examples/lighthouse.fbd

@@ -146,7 +146,7 @@ int RecordPanel::WidthOf(int column) const {
     const int kept = grid_.Columns()[static_cast<std::size_t>(column)].width;
     if (kept > 0) return kept;
     const QFontMetrics metrics = view_->fontMetrics();
-    int width = view_->horizontalHeader()->sectionSizeHint(column);
+    int width = view_->horizontalHeader()->sectionSizeHint(column) + kCellMargin;
     for (int row = 0; row < std::min(grid_.RowCount(), kRowsForWidth); ++row)
         width =
             std::max(width, metrics.horizontalAdvance(qt::ToQt(grid_.CellText(row, column))) + kCellMargin);
