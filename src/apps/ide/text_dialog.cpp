@@ -1,0 +1,104 @@
+#include "ide/text_dialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "ide/markup_edit.h"
+#include "platform/error.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+
+TextDialog::TextDialog(authoring::frmBothMessages& screen, const authoring::TextEditing& editing,
+                       platform::Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent), screen_(screen), dialogs_(dialogs), number_(new QLabel) {
+    setWindowTitle(qt::ToQt(screen.Caption()));
+    setProperty("helpPage", "frmbothmessages.html");
+    setSizeGripEnabled(true);
+    number_->setObjectName("lblNumber");
+    text_ = new MarkupEdit(editing, {tr("&Text:"), qt::ToQt(screen.PreviewCaption()), screen.TagsAllowed()},
+                           "txtMessage");
+    text_->typed = [this](const std::string& text) { screen_.TypeMessage(text); };
+    auto* top = new QHBoxLayout;
+    AddMoves(*top);
+    auto* bottom = new QHBoxLayout;
+    AddButtons(*bottom);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(top);
+    layout->addWidget(text_, 1);
+    layout->addLayout(bottom);
+    ShowRecord();
+    text_->setFocus();
+    resize(sizeHint().expandedTo({640, 480}));
+}
+
+void TextDialog::AddMoves(QHBoxLayout& row) {
+    row.addWidget(number_);
+    const auto add = [&](const char* name, const QString& caption, Qt::ArrowType arrow, Qt::Key key,
+                         int step) {
+        auto* button = new QToolButton;
+        button->setObjectName(name);
+        button->setArrowType(arrow);
+        button->setAccessibleName(caption);
+        button->setToolTip(caption);
+        button->setFocusPolicy(Qt::StrongFocus);
+        connect(button, &QToolButton::clicked, this, [this, step] { Move(step); });
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+        connect(shortcut, &QShortcut::activated, this, [this, step] { Move(step); });
+        row.addWidget(button);
+    };
+    add("UpDown1Previous", tr("Previous number"), Qt::UpArrow, Qt::Key_PageUp, -1);
+    add("UpDown1Next", tr("Next number"), Qt::DownArrow, Qt::Key_PageDown, 1);
+    row.addStretch(1);
+}
+
+void TextDialog::AddButtons(QHBoxLayout& row) {
+    row.addStretch(1);
+    auto* update = new QPushButton(tr("&Update"));
+    update->setObjectName("cmdUpdate");
+    update->setAccessibleName(tr("Update"));
+    update->setDefault(true);
+    auto* exit = new QPushButton(tr("Exit"));
+    exit->setObjectName("cmdExit");
+    exit->setAccessibleName(tr("Exit"));
+    exit->setAutoDefault(false);
+    row.addWidget(update);
+    row.addWidget(exit);
+    connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
+    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+        connect(shortcut, &QShortcut::activated, this, [this] { ClickUpdate(); });
+    }
+}
+
+void TextDialog::ShowRecord() {
+    number_->setText(QString("%1 %2").arg(qt::ToQt(screen_.Label())).arg(screen_.Number()));
+    text_->SetText(screen_.txtMessage());
+}
+
+void TextDialog::Move(int step) {
+    const int before = screen_.Number();
+    try {
+        screen_.UpDown1(step);
+    } catch (const Error& error) {
+        dialogs_.Tell(error.what(), "Error");
+    }
+    if (screen_.Number() != before) return ShowRecord();
+    text_->ShowFault();
+}
+
+void TextDialog::ClickUpdate() {
+    try {
+        if (screen_.cmdUpdate()) return accept();
+    } catch (const Error& error) {
+        dialogs_.Tell(error.what(), "Error");
+    }
+    text_->ShowFault();
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+
+#include "authoring/frm_both_messages.h"
+#include "authoring/text_editing.h"
+
+class QHBoxLayout;
+class QLabel;
+
+namespace fabula::ide {
+
+class MarkupEdit;
+
+/// The dialog of a message, a system message or the description of a process table. Accepted by Update.
+/// Page Up and Page Down with Ctrl go to the previous and the next number.
+class TextDialog final : public QDialog {
+  public:
+    /// All of them outlive the dialog. `dialogs` tells what could not be stored.
+    TextDialog(authoring::frmBothMessages& screen, const authoring::TextEditing& editing,
+               platform::Dialogs& dialogs, QWidget* parent = nullptr);
+
+  private:
+    void AddMoves(QHBoxLayout& row);
+    void AddButtons(QHBoxLayout& row);
+    void Move(int step);
+    void ClickUpdate();
+    void ShowRecord();
+
+    authoring::frmBothMessages& screen_;
+    platform::Dialogs& dialogs_;
+    QLabel* number_;
+    MarkupEdit* text_;
+};
+
+}  // namespace fabula::ide
