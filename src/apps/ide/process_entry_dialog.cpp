@@ -1,0 +1,250 @@
+#include "ide/process_entry_dialog.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QCompleter>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+
+#include "ide/cond_act_edit.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kLinesOfTheLine = 4;
+
+QLabel* MakeNote(const char* name, const QString& what, QWidget* parent) {
+    auto* note = new QLabel(parent);
+    note->setObjectName(name);
+    note->setAccessibleName(what);
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    note->setMinimumHeight(note->fontMetrics().height());
+    return note;
+}
+
+}  // namespace
+
+ProcessEntryDialog::ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget* parent)
+    : QDialog(parent), screen_(screen) {
+    setObjectName("frmVelCondAct");
+    setProperty("helpPage", "frmvelcondact.html");
+    setWindowTitle(qt::ToQt(authoring::frmVelCondAct::kCaption));
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(12);
+    column->addLayout(BuildEntry());
+    column->addLayout(BuildCondAct());
+    column->addLayout(BuildLine());
+    column->addStretch();
+    column->addLayout(BuildButtons());
+    Show();
+    connect(qApp, &QApplication::focusChanged, this, &ProcessEntryDialog::FocusChanged);
+    line_->setFocus();
+    resize(680, sizeHint().height());
+}
+
+QComboBox* ProcessEntryDialog::MakeWords(const QString& name, const QString& what,
+                                         const authoring::DropList& list) {
+    auto* box = new QComboBox(this);
+    box->setObjectName(name);
+    box->setAccessibleName(what);
+    for (const authoring::ListItem& item : list.items)
+        box->addItem(qt::ToQt(item.text), item.number);
+    box->setCurrentIndex(list.index);
+    return box;
+}
+
+QLayout* ProcessEntryDialog::BuildEntry() {
+    auto* form = new QFormLayout;
+    auto* key = new QLabel(qt::ToQt(screen_.lblRecKey), this);
+    key->setObjectName("lblRecKey");
+    form->addRow(key);
+    type_ = new QLineEdit(this);
+    type_->setObjectName("txtType");
+    type_->setAccessibleName(tr("Process table number"));
+    type_->setMaximumWidth(type_->fontMetrics().averageCharWidth() * 12);
+    form->addRow(tr("Process &Table #:"), type_);
+    word1_ = MakeWords("cboWord1", tr("Verb"), screen_.cboWord1);
+    form->addRow(tr("&Verb:"), word1_);
+    word2_ = MakeWords("cboWord2", tr("Noun"), screen_.cboWord2);
+    form->addRow(tr("&Noun:"), word2_);
+    return form;
+}
+
+ProcessEntryDialog::ParameterWidgets ProcessEntryDialog::MakeParameter(const QString& name) {
+    auto* box = new QComboBox(this);
+    box->setObjectName(name);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setCompleter(nullptr);
+    box->setMinimumContentsLength(10);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* label = new QLabel(this);
+    label->setBuddy(box);
+    connect(box, &QComboBox::activated, this,
+            [box](int item) { box->setEditText(box->itemData(item).toString()); });
+    return {label, box};
+}
+
+QLayout* ProcessEntryDialog::BuildCondAct() {
+    auto* grid = new QGridLayout;
+    condAct_ = new QComboBox(this);
+    condAct_->setObjectName("cboCA");
+    condAct_->setAccessibleName(tr("Condition or action"));
+    condAct_->setEditable(true);
+    condAct_->setInsertPolicy(QComboBox::NoInsert);
+    for (const authoring::ListItem& item : screen_.cboCA.items)
+        condAct_->addItem(qt::ToQt(item.text));
+    condAct_->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    connect(condAct_, &QComboBox::activated, this, [this] { CheckLeft(condAct_); });
+    auto* label = new QLabel(tr("&Cond/Act"), this);
+    label->setBuddy(condAct_);
+    param1_ = MakeParameter("cboParam1");
+    param2_ = MakeParameter("cboParam2");
+    auto* add = new QPushButton(tr("&Add to Conditions/Actions"), this);
+    add->setObjectName("cmdAdd");
+    add->setAutoDefault(false);
+    connect(add, &QPushButton::clicked, this, &ProcessEntryDialog::Add);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(param1_.label, 0, 1);
+    grid->addWidget(param2_.label, 0, 2);
+    grid->addWidget(condAct_, 1, 0);
+    grid->addWidget(param1_.box, 1, 1);
+    grid->addWidget(param2_.box, 1, 2);
+    grid->addWidget(add, 1, 3);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
+    return grid;
+}
+
+QLayout* ProcessEntryDialog::BuildLine() {
+    auto* column = new QVBoxLayout;
+    line_ = new CondActEdit(screen_.Help(), this);
+    line_->setObjectName("txtAllCAs");
+    line_->setAccessibleName(tr("Combined Condition/Actions"));
+    line_->setMinimumHeight(line_->fontMetrics().lineSpacing() * kLinesOfTheLine);
+    auto* label = new QLabel(tr("Com&bined Condition/Actions"), this);
+    label->setBuddy(line_);
+    meaning_ = MakeNote("lblMeaning", tr("Meaning"), this);
+    fault_ = MakeNote("lblFault", tr("Fault"), this);
+    line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
+    line_->onFault = [this](const QString& message) {
+        fault_->setText(message.isEmpty() ? QString() : tr("Fault: ") + message);
+    };
+    auto* help = new QLabel(qt::ToQt(authoring::frmVelCondAct::kHelpLine), this);
+    help->setWordWrap(true);
+    column->addWidget(label);
+    column->addWidget(line_, 1);
+    column->addWidget(meaning_);
+    column->addWidget(fault_);
+    column->addWidget(help);
+    return column;
+}
+
+QLayout* ProcessEntryDialog::BuildButtons() {
+    auto* row = new QHBoxLayout;
+    auto* update = new QPushButton(tr("&Update"), this);
+    update->setObjectName("cmdUpdate");
+    update->setDefault(true);
+    exit_ = new QPushButton(tr("E&xit"), this);
+    exit_->setObjectName("cmdExit");
+    exit_->setAutoDefault(false);
+    connect(update, &QPushButton::clicked, this, &ProcessEntryDialog::Update);
+    connect(exit_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Return, this), &QShortcut::activated, this,
+            &ProcessEntryDialog::Update);
+    row->addStretch();
+    row->addWidget(update);
+    row->addWidget(exit_);
+    return row;
+}
+
+void ProcessEntryDialog::ShowParameter(const ParameterWidgets& widgets,
+                                       const authoring::ParameterField& field) {
+    widgets.label->setText(qt::ToQt(field.label));
+    widgets.box->setAccessibleName(qt::ToQt(field.label));
+    widgets.box->setEnabled(field.enabled);
+    widgets.box->clear();
+    for (const authoring::Completion& item : field.items)
+        widgets.box->addItem(qt::ToQt(item.shown), qt::ToQt(item.insert));
+    widgets.box->setCurrentIndex(-1);
+    widgets.box->setEditText(qt::ToQt(field.text));
+    widgets.box->view()->setMinimumWidth(widgets.box->view()->sizeHintForColumn(0) + 24);
+}
+
+void ProcessEntryDialog::Show() {
+    type_->setText(qt::ToQt(screen_.txtType));
+    condAct_->setEditText(qt::ToQt(screen_.cboCA.text));
+    ShowParameter(param1_, screen_.cboParam1);
+    ShowParameter(param2_, screen_.cboParam2);
+    const QString line = qt::ToQt(screen_.txtAllCAs);
+    if (line == line_->toPlainText()) return;
+    line_->setPlainText(line);
+    line_->moveCursor(QTextCursor::End);
+}
+
+void ProcessEntryDialog::Take() {
+    screen_.txtType = qt::FromQt(type_->text());
+    screen_.cboWord1.index = word1_->currentIndex();
+    screen_.cboWord2.index = word2_->currentIndex();
+    screen_.cboCA.text = qt::FromQt(condAct_->currentText());
+    screen_.cboParam1.text = qt::FromQt(param1_.box->currentText());
+    screen_.cboParam2.text = qt::FromQt(param2_.box->currentText());
+    screen_.txtAllCAs = qt::FromQt(line_->toPlainText());
+}
+
+bool ProcessEntryDialog::Leave(const QWidget* field) {
+    if (field == type_) return screen_.LeaveTxtType();
+    if (field == condAct_) return screen_.LeaveCboCA();
+    if (field == param1_.box) return screen_.LeaveCboParam1();
+    if (field == param2_.box) return screen_.LeaveCboParam2();
+    if (field == line_) return screen_.LeaveTxtAllCAs();
+    return true;
+}
+
+/// Checks once the new field has the focus: a box that is shown while it changes would confuse it.
+void ProcessEntryDialog::FocusChanged(QWidget* left, QWidget* now) {
+    if (checking_ || left == nullptr || now == nullptr || now == exit_) return;
+    if (!isAncestorOf(left) || !isAncestorOf(now)) return;
+    QMetaObject::invokeMethod(
+        this, [this, left] { CheckLeft(left); }, Qt::QueuedConnection);
+}
+
+void ProcessEntryDialog::CheckLeft(QWidget* field) {
+    if (checking_ || !isVisible()) return;
+    checking_ = true;
+    Take();
+    const bool fits = Leave(field);
+    Show();
+    if (!fits) field->setFocus();
+    checking_ = false;
+}
+
+void ProcessEntryDialog::Add() {
+    checking_ = true;
+    Take();
+    const bool added = screen_.cmdAdd();
+    Show();
+    if (added) condAct_->setFocus();
+    checking_ = false;
+}
+
+void ProcessEntryDialog::Update() {
+    if (checking_) return;
+    checking_ = true;
+    Take();
+    const bool stored = screen_.cmdUpdate();
+    checking_ = false;
+    if (stored) return accept();
+    Show();
+    if (auto* refused = findChild<QWidget*>(qt::ToQt(screen_.Refused()))) refused->setFocus();
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,150 @@
+#include "ide/process_entry_dialog.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <memory>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "authoring/desk.h"
+#include "ide/cond_act_edit.h"
+
+namespace fabula::ide {
+namespace {
+
+using store::TableNum;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// The window on a new entry of a small game.
+class ProcessEntryDialogTest : public testing::Test {
+  protected:
+    ProcessEntryDialogTest() {
+        desk_.Add(TableNum::Messages,
+                  {{"msgnum", std::int64_t{0}}, {"msgmsg", std::string("It is too dark.")}});
+        desk_.Add(TableNum::Objects,
+                  {{"objnum", std::int64_t{0}}, {"objdesc", std::string("a brass lamp")}});
+        desk_.AddWord(500, "GET", 20, 0);
+        authoring::ReadNextKeys(desk_.session);
+        const authoring::ScreenRequest request{.screen = authoring::Screen::ProcessEntry,
+                                               .key = {.key = desk_.session.nextEntry, .isNew = true},
+                                               .table = TableNum::ProcessTables};
+        screen_ = std::make_unique<authoring::frmVelCondAct>(desk_.session, request);
+        dialog_ = std::make_unique<ProcessEntryDialog>(*screen_);
+        dialog_->show();
+        dialog_->activateWindow();
+        QApplication::processEvents();
+        line_ = dialog_->findChild<CondActEdit*>("txtAllCAs");
+    }
+
+    template <typename Widget>
+    Widget* Find(const char* name) {
+        return dialog_->findChild<Widget*>(name);
+    }
+    void Type(const char* text) { QTest::keyClicks(line_, text); }
+    std::string Line() { return line_->toPlainText().toStdString(); }
+    std::string Label(const char* name) { return Find<QLabel>(name)->text().toStdString(); }
+    std::vector<std::string> Entries() {
+        return desk_.Rows(TableNum::ProcessTables, "canum, estype, w1, w2, condacts, numericcondacts");
+    }
+
+    test::Desk desk_;
+    std::unique_ptr<authoring::frmVelCondAct> screen_;
+    std::unique_ptr<ProcessEntryDialog> dialog_;
+    CondActEdit* line_ = nullptr;
+};
+
+TEST_F(ProcessEntryDialogTest, StoresALineThatIsTypedWithCtrlReturn) {
+    Find<QComboBox>("cboWord1")->setCurrentText("GET");
+    Type("get 0 done");
+    QTest::keyClick(line_, Qt::Key_Return, Qt::ControlModifier);
+    QApplication::processEvents();
+    if (dialog_->isVisible()) QTest::keyClick(dialog_.get(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(dialog_->result(), QDialog::Accepted);
+    EXPECT_THAT(Entries(), ElementsAre("0|0|GET|_|GET 0 DONE|201 0 265"));
+}
+
+TEST_F(ProcessEntryDialogTest, OffersWhatBeginsAsIsTyped) {
+    Type("MESS");
+    EXPECT_EQ(line_->Offered(), (QStringList{"MESSAGE", "MESSGF"}));
+}
+
+TEST_F(ProcessEntryDialogTest, OffersTheRecordsForAParameter) {
+    Type("MESSAGE ");
+    EXPECT_EQ(line_->Offered(), QStringList{"0  It is too dark."});
+}
+
+TEST_F(ProcessEntryDialogTest, TabTakesWhatIsOffered) {
+    Type("MESSA");
+    QTest::keyClick(line_, Qt::Key_Tab);
+    EXPECT_EQ(Line(), "MESSAGE ");
+    EXPECT_EQ(Label("lblMeaning"), "MESSAGE takes a message here");
+}
+
+TEST_F(ProcessEntryDialogTest, TellsTheMeaningOfTheTokenAtTheCursor) {
+    Type("MESSAGE 0");
+    EXPECT_EQ(Label("lblMeaning"), "MESSAGE 0: It is too dark.");
+}
+
+TEST_F(ProcessEntryDialogTest, MarksTheFirstFaultAtItsToken) {
+    Type("MESSAGE 7 DON");
+    EXPECT_EQ(Label("lblFault"), "Fault: Invalid number for parameter 1");
+    const auto marks = line_->extraSelections();
+    ASSERT_EQ(marks.size(), 1);
+    EXPECT_EQ(marks.front().cursor.selectedText(), "7");
+    EXPECT_EQ(marks.front().format.underlineStyle(), QTextCharFormat::WaveUnderline);
+}
+
+TEST_F(ProcessEntryDialogTest, AFaultKeepsTheFocusInTheLine) {
+    Type("XYZ");
+    Find<QLineEdit>("txtType")->setFocus();
+    QApplication::processEvents();
+    EXPECT_THAT(desk_.Boxes(), ElementsAre("XYZ is an invalid Condition/Action"));
+    EXPECT_EQ(QApplication::focusWidget(), line_);
+}
+
+TEST_F(ProcessEntryDialogTest, PutsACondactTogetherFromTheLists) {
+    auto* condAct = Find<QComboBox>("cboCA");
+    condAct->setFocus();
+    condAct->setEditText("place");
+    auto* first = Find<QComboBox>("cboParam1");
+    Find<QLineEdit>("txtType")->setFocus();
+    QApplication::processEvents();
+    ASSERT_TRUE(first->isEnabled());
+    first->setEditText("0");
+    Find<QComboBox>("cboParam2")->setEditText("CARRIED");
+    QTest::mouseClick(Find<QPushButton>("cmdAdd"), Qt::LeftButton);
+    EXPECT_EQ(Line(), "PLACE 0 254");
+    EXPECT_FALSE(first->isEnabled());
+}
+
+TEST_F(ProcessEntryDialogTest, AnEmptyLineIsNotStored) {
+    QTest::mouseClick(Find<QPushButton>("cmdUpdate"), Qt::LeftButton);
+    EXPECT_THAT(desk_.Boxes(), ElementsAre("Cannot have a record with no Condition/Actions"));
+    EXPECT_TRUE(dialog_->isVisible());
+    EXPECT_THAT(Entries(), IsEmpty());
+}
+
+TEST_F(ProcessEntryDialogTest, ExitStoresNothing) {
+    Type("XYZ ");
+    QTest::mouseClick(Find<QPushButton>("cmdExit"), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_THAT(Entries(), IsEmpty());
+    EXPECT_THAT(desk_.Boxes(), IsEmpty());
+}
+
+TEST_F(ProcessEntryDialogTest, EveryControlHasAnAccessibleName) {
+    for (const char* name : {"txtType", "cboWord1", "cboWord2", "cboCA", "cboParam1", "cboParam2",
+                             "txtAllCAs", "lblMeaning", "lblFault"})
+        EXPECT_FALSE(Find<QWidget>(name)->accessibleName().isEmpty()) << name;
+}
+
+}  // namespace
+}  // namespace fabula::ide
