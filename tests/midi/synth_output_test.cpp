@@ -102,6 +102,25 @@ TEST(SynthOutput, BeepLastsTenMillisecondsForEachUnit) {
     EXPECT_LT(Loudness(samples, 30870, 39690), during / 100);
 }
 
+/// When a sound is last as loud as a tenth of `during`, in milliseconds.
+double EndOf(const std::vector<double>& samples, double during) {
+    constexpr std::size_t kStep = 441;  // 10 ms
+    std::size_t end = 0;
+    for (std::size_t begin = 0; begin + kStep <= samples.size(); begin += kStep) {
+        if (Loudness(samples, begin, begin + kStep) > during / 10) end = begin + kStep;
+    }
+    return static_cast<double>(end) * 1000 / SynthOutput::kSampleRate;
+}
+
+TEST(SynthOutput, BeepOfTwiceTheLengthEndsThatMuchLater) {
+    const auto shorter = RenderBeep("BEEP 30 138");
+    const auto longer = RenderBeep("BEEP 60 138");
+    const double during = Loudness(shorter, 8820, 12348);
+    // The voice rings on for a moment when its note has ended.
+    EXPECT_NEAR(EndOf(shorter, during), 300, 100);
+    EXPECT_NEAR(EndOf(longer, during) - EndOf(shorter, during), 300, 10);
+}
+
 TEST(SynthOutput, SoundFontThatIsNoneIsAnError) {
     const test::TempFolder folder;
     EXPECT_THROW(SynthOutput(folder / "none.sf2", folder / "sound.raw"), Error);
