@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the pictures of the player's window in docs/images/: each example game at a telling moment. The
+# Makes the pictures of the windows in docs/images/: each example game at a telling moment, and the authoring tool. The
 # programs and the games must have been built by the default preset. Needs the packages of "install_deps.sh screenshots".
 # usage: scripts/screenshots.sh [name...]   (all without a name)
 set -euo pipefail
@@ -42,6 +42,29 @@ shot() {
     echo "$images/$name.png: $(stat -c %s "$images/$name.png") bytes"
 }
 
+# desk NAME GAME THEME TABLE: takes the window of the authoring tool on a table of a game, by its number; without a
+# game, on how to get one.
+desk() {
+    local name=$1 game=$2 theme=$3 table=$4 window file=""
+    mkdir -p "$XDG_CONFIG_HOME/Fabula"
+    if [ "$game" != none ]; then
+        file=$work/$game.fbd
+        cp "build/default/examples/$game.fbd" "$file"
+    fi
+    printf '[Startup]\nTheme=%s\nCurrentSet=%s\nCurrentESNum=0\n' "$theme" "$table" >"$XDG_CONFIG_HOME/Fabula/Fabula.ini"
+    build/default/bin/FabulaIDE ${file:+"$file"} 2>/dev/null &
+    player=$!
+    window=$(xdotool search --sync --onlyvisible --pid "$player" --name "Fabula IDE" | head -n 1)
+    # The first start of a version reports it in a box.
+    sleep 1.5
+    xdotool key Return
+    sleep 1
+    import -window "$window" +dither -colors 128 -define png:compression-level=9 "PNG8:$images/$name.png"
+    stop "$player"
+    player=
+    echo "$images/$name.png: $(stat -c %s "$images/$name.png") bytes"
+}
+
 wanted() { [ ${#names[@]} -eq 0 ] || [[ " ${names[*]} " == *" $1 "* ]]; }
 
 names=("$@")
@@ -55,4 +78,15 @@ signal-box-light signal_box light 4
 signal-box-dark signal_box dark 12
 cellar-light cellar light 3
 cellar-dark cellar dark 54
+TABLE
+
+while read -r name game theme table; do
+    if wanted "$name"; then desk "$name" "$game" "$theme" "$table"; fi
+done <<'TABLE'
+desk-start-light none light 5
+desk-start-dark none dark 5
+desk-locations-light lighthouse light 1
+desk-processes-dark lighthouse dark 6
+desk-vocabulary-light lighthouse light 8
+desk-messages-dark signal_box dark 2
 TABLE

@@ -205,11 +205,11 @@ void MainWindow::MakeStatusBar() {
     add(*adventureStatus_, "AdventureStatus", tr("Adventure"));
     // Long sentences are cut rather than widening the window.
     message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    adventureStatus_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    adventureStatus_->setMinimumWidth(1);
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addWidget(message_, 3);
     statusBar()->addPermanentWidget(tableStatus_);
-    statusBar()->addPermanentWidget(adventureStatus_, 2);
+    statusBar()->addPermanentWidget(adventureStatus_);
 }
 
 void MainWindow::MakeKeys() {
