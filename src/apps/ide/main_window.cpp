@@ -20,7 +20,6 @@
 #include <QVBoxLayout>
 
 #include "authoring/start_up.h"
-#include "authoring/verify.h"
 #include "ide/command_actions.h"
 #include "ide/empty_page.h"
 #include "ide/find_bar.h"
@@ -28,9 +27,13 @@
 #include "ide/help_pages.h"
 #include "ide/help_window.h"
 #include "ide/icons.h"
+#include "ide/import_dialog.h"
+#include "ide/job_events.h"
 #include "ide/record_panel.h"
 #include "ide/screens.h"
+#include "ide/setup_dialog.h"
 #include "ide/tree_panel.h"
+#include "ide/verify_dialog.h"
 #include "player/about_adventure.h"
 #include "qt/strings.h"
 
@@ -50,15 +53,6 @@ constexpr int kEntryGroup = 1;  ///< of the menu Edit: the commands on records
 constexpr const char* kGeometry = "Desk/Geometry";
 constexpr const char* kSplitter = "Desk/Splitter";
 constexpr const char* kTheme = "Startup/Theme";
-
-/// Why a command can't be done though the logic has it: its window is not built yet. "" for all others.
-std::string_view MissingWindow(Command command) {
-    if (command == Command::Import)
-        return "This version imports on the command line only: fabula import KIND SOURCE FILE.";
-    if (command == Command::Export)
-        return "This version exports on the command line only: fabula export KIND FILE TARGET.";
-    return "";
-}
 
 }  // namespace
 
@@ -122,7 +116,6 @@ MainWindow::MainWindow(const Services& services, Places places)
     MakeStatusBar();
     MakeKeys();
     PlaceWindow();
-    empty_->findChild<QWidget*>("cmdImport")->setVisible(MissingWindow(Command::Import).empty());
     empty_->ShowExamples(places_.examples);
     ShowChanges();
 }
@@ -272,17 +265,8 @@ void MainWindow::ShowChanges() {
 }
 
 void MainWindow::ShowActions() {
-    actions_->Refresh([this](Command command) { return StateOf(command); });
+    actions_->Refresh([this](Command command) { return ide_.StateOf(command); });
     ShowStatus();
-}
-
-authoring::ActionState MainWindow::StateOf(Command command) const {
-    authoring::ActionState state = ide_.StateOf(command);
-    const std::string_view missing = MissingWindow(command);
-    if (!state.enabled || missing.empty()) return state;
-    state.enabled = false;
-    state.why = missing;
-    return state;
 }
 
 void MainWindow::ShowStatus() {
@@ -358,7 +342,7 @@ void MainWindow::ChooseTheme(qt::Theme theme) {
 // --- Commands --------------------------------------------------------------------------------------------
 
 void MainWindow::Do(Command command) {
-    if (!StateOf(command).enabled) return;
+    if (!ide_.StateOf(command).enabled) return;
     switch (command) {
         case Command::New:
             return New();
@@ -366,6 +350,10 @@ void MainWindow::Do(Command command) {
             return void(close());
         case Command::Run:
             return StartTest();
+        case Command::Import:
+            return ImportOrExport(authoring::JobMode::Import);
+        case Command::Export:
+            return ImportOrExport(authoring::JobMode::Export);
         case Command::Verify:
             return Verify();
         case Command::Filter:
@@ -389,8 +377,12 @@ void MainWindow::Do(Command command) {
 void MainWindow::DoInLogic(Command command) {
     const auto request = ide_.Run(command);
     if (request) {
-        if (!OpenScreen(*request, ide_.CurrentSession(), this))
-            services_.dialogs.Tell("This version has no screen for that record yet.", "Error");
+        try {
+            if (!OpenScreen(*request, ide_.CurrentSession(), this))
+                services_.dialogs.Tell("This version has no screen for the settings yet.", "Error");
+        } catch (const Error& error) {
+            services_.dialogs.Tell(error.what(), "Error");
+        }
         ide_.ScreenClosed(*request);
     }
     ShowChanges();
@@ -405,7 +397,9 @@ void MainWindow::New() {
     const auto file = ide_.AskNewFile();
     if (!file) return;
     store::frmSetup setup;
-    ide_.NewAdventure(*file, setup, true);
+    SetupDialog dialog(setup, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    ide_.NewAdventure(*file, setup, dialog.Starter());
     ShowChanges();
 }
 
@@ -423,16 +417,35 @@ void MainWindow::OpenExample(const Example& example) {
 }
 
 void MainWindow::Verify() {
-    interchange::NoObserver nobody;
-    interchange::JobStatus status(nobody);
-    try {
-        authoring::VerifyAdventure(ide_.CurrentSession().document.Adventure(),
-                                   authoring::VerifyTarget::Play, status);
-        services_.dialogs.Report(status.Text(), "Verify");
-    } catch (const Error& error) {
-        services_.dialogs.Tell(error.what(), "Error");
-    }
+    JobEvents events;
+    authoring::frmVerify verify(ide_.CurrentSession().document.Adventure(), authoring::VerifyTarget::Play,
+                                events);
+    VerifyDialog dialog(verify, services_.dialogs, this);
+    dialog.goTo = [this](const authoring::frmVerify::Entry& entry) { GoTo(entry); };
+    dialog.exec();
     ide_.Refresh();
+    ShowChanges();
+}
+
+void MainWindow::GoTo(const authoring::frmVerify::Entry& entry) {
+    ide_.Show({store::TableNum::ProcessTables, std::min(entry.estype, authoring::kOtherProcesses)});
+    if (const auto row = ide_.Grid().RowOf(entry.canum)) ide_.SelectRow(*row);
+}
+
+void MainWindow::ImportOrExport(authoring::JobMode mode) {
+    const bool open = ide_.GetState() != authoring::frmVelIDEMain::State::NoAdventure;
+    JobEvents events;
+    authoring::frmSrcImport screen(
+        mode, open ? &ide_.CurrentSession().document.Adventure() : nullptr,
+        {services_.dialogs, services_.clock, events, services_.settings, places_.desk.defaultData});
+    screen.showVerify = [this](authoring::frmVerify& verify) {
+        VerifyDialog dialog(verify, services_.dialogs, this);
+        dialog.CloseWhenPassed();
+        dialog.exec();
+    };
+    ImportDialog dialog(screen, services_.dialogs, this);
+    dialog.exec();
+    if (screen.NewFile()) ide_.OpenFile(*screen.NewFile());
     ShowChanges();
 }
 

@@ -5,7 +5,9 @@
 #include <memory>
 #include <vector>
 
+#include "authoring/frm_src_import.h"
 #include "authoring/frm_vel_ide_main.h"
+#include "authoring/frm_verify.h"
 #include "engine/sound_player.h"
 #include "ide/examples.h"
 #include "ide/help_request.h"
@@ -86,7 +88,6 @@ class MainWindow final : public QMainWindow {
     void ShowChanges();
     void ShowRow();
     void ShowActions();
-    authoring::ActionState StateOf(authoring::Command command) const;
     void ShowStatus();
     void ShowTables();
     void ShowRecent();
@@ -98,6 +99,8 @@ class MainWindow final : public QMainWindow {
     void DoInLogic(authoring::Command command);
     void FindOrAsk(authoring::Command command);
     void Verify();
+    void GoTo(const authoring::frmVerify::Entry& entry);
+    void ImportOrExport(authoring::JobMode mode);
     void StartTest();
     void EndTest();
     void ShowHelp(const HelpTopic& topic);

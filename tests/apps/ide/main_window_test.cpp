@@ -1,12 +1,16 @@
 #include "ide/main_window.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
+#include <functional>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -26,9 +30,9 @@ GameBuilder Game() {
     return game;
 }
 
-TEST(MainWindow, OffersNewAndOpenWhileNothingIsOpen) {
+TEST(MainWindow, OffersNewOpenAndImportWhileNothingIsOpen) {
     OpenedWindow opened;
-    for (const char* name : {"cmdNew", "cmdOpen"})
+    for (const char* name : {"cmdNew", "cmdOpen", "cmdImport"})
         EXPECT_TRUE(opened.Part<QPushButton>(name).isVisible()) << name;
     EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE");
     EXPECT_FALSE(opened.Action("Run").isEnabled());
@@ -131,27 +135,49 @@ TEST(MainWindow, TestHidesTheWindowAndComesBackToTheSameRow) {
     EXPECT_EQ(opened.Part<QTableView>("Grid").currentIndex().row(), 1);
 }
 
-TEST(MainWindow, NewMakesAnAdventureAndOpensItOnItsSettings) {
+/// Does something to the dialog that opens next, from its event loop.
+void WithNextDialog(const char* name, const std::function<void(QDialog&)>& act) {
+    QTimer::singleShot(0, [name, act] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr) << name;
+        act(*dialog);
+    });
+}
+
+TEST(MainWindow, NewAsksForTheTypeAndOpensTheAdventureOnItsSettings) {
     OpenedWindow opened;
     opened.dialogs.AnswerFile(opened.folder / "mine.fbd");
+    WithNextDialog("SetupDialog", [](QDialog& dialog) { dialog.accept(); });
     opened.Part<QPushButton>("cmdNew").click();
     EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - mine");
     EXPECT_EQ(opened.Part<QTreeWidget>("Tree").currentItem()->text(0), "Adventure Settings");
 }
 
-TEST(MainWindow, VerifyReportsWhatItFinds) {
+TEST(MainWindow, NewWithoutATypeMakesNothing) {
     OpenedWindow opened;
-    opened.Open(Game());
-    opened.Action("Verify").trigger();
-    ASSERT_EQ(opened.dialogs.Reports().size(), 1U);
-    EXPECT_EQ(opened.dialogs.Reports()[0].title, "Verify");
+    opened.dialogs.AnswerFile(opened.folder / "mine.fbd");
+    WithNextDialog("SetupDialog", [](QDialog& dialog) { dialog.reject(); });
+    opened.Part<QPushButton>("cmdNew").click();
+    EXPECT_FALSE(std::filesystem::exists(opened.folder / "mine.fbd"));
 }
 
-TEST(MainWindow, CommandWithoutAWindowSaysWhyItIsOff) {
+TEST(MainWindow, EnterOnARowOpensItsScreen) {
     OpenedWindow opened;
-    EXPECT_FALSE(opened.Action("In").isEnabled());
-    EXPECT_EQ(opened.Action("In").statusTip(),
-              "This version imports on the command line only: fabula import KIND SOURCE FILE.");
+    opened.Open(Game());
+    const std::pair<const char*, const char*> screens[] = {{"Messages", "txtMessage"},
+                                                           {"Locations", "txtExits"}};
+    for (const auto& [node, control] : screens) {
+        opened.ChooseNode(node);
+        QApplication::setActiveWindow(&opened.Window());
+        opened.Part<QTableView>("Grid").setFocus();
+        bool shown = false;
+        WithNextDialog(node, [&, name = control](QDialog& dialog) {
+            shown = dialog.findChild<QWidget*>(name) != nullptr;
+            dialog.reject();
+        });
+        opened.Press(Qt::Key_Return);
+        EXPECT_TRUE(shown) << node;
+    }
 }
 
 TEST(MainWindow, F1TellsAboutTheTableInView) {
