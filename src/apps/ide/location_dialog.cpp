@@ -85,7 +85,6 @@ LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* paren
     CheckOnLeave(description_, [this] { return screen_.LeaveTxtDEscription(); });
     CheckOnLeave(exits_, [this] { return screen_.LeaveTxtExits(); });
     Show();
-    resize(sizeHint().expandedTo({640, 560}));
 }
 
 void LocationDialog::AddExits() {
@@ -94,7 +93,8 @@ void LocationDialog::AddExits() {
     rows_->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
     rows_->setSelectionBehavior(QAbstractItemView::SelectRows);
     rows_->setTabKeyNavigation(false);
-    rows_->setMinimumHeight(7 * rows_->fontMetrics().lineSpacing());
+    rows_->setMinimumHeight(6 * rows_->fontMetrics().lineSpacing());
+    rows_->setMaximumHeight(9 * rows_->fontMetrics().lineSpacing());
     rows_->setItemDelegateForColumn(kWord, new ListDelegate(
                                                [this](const std::string& text) {
                                                    return NewWordList({screen_.cboExit.items, text});

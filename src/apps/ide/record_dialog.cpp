@@ -6,9 +6,11 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/error.h"
 #include "qt/strings.h"
@@ -52,6 +54,13 @@ RecordDialog::RecordDialog(authoring::RecordScreen& screen, const QString& title
         auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(key)), this);
         connect(shortcut, &QShortcut::activated, this, [this] { ClickUpdate(); });
     }
+}
+
+QSize RecordDialog::sizeHint() const {
+    const QSize form = form_->sizeHint();
+    const int width = std::max(form.width(), 60 * fontMetrics().averageCharWidth());
+    const QSize whole(width + 40, form.height() + update_->sizeHint().height() + 60);
+    return whole.boundedTo(screen()->availableSize() * 9 / 10);
 }
 
 void RecordDialog::AddControl(const QString& label, QWidget* control, const char* name) {

@@ -18,6 +18,10 @@ namespace fabula::ide {
 /// (Ctrl+Return) and Exit (Esc), and checks of the fields that are left. A control that is refused gets the
 /// focus back.
 class RecordDialog : public QDialog {
+  public:
+    /// All of the form, as far as the screen has room.
+    QSize sizeHint() const override;
+
   protected:
     /// `screen` outlives the dialog.
     RecordDialog(authoring::RecordScreen& screen, const QString& title, const char* helpPage,
