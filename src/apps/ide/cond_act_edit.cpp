@@ -12,6 +12,8 @@ namespace fabula::ide {
 namespace {
 
 constexpr int kMostShown = 12;
+constexpr QColor kRedOnLight(0xc0, 0x10, 0x10);
+constexpr QColor kRedOnDark(0xff, 0x80, 0x80);
 
 int PositionOf(const std::string& line, std::size_t byte) {
     return static_cast<int>(qt::ToQt(std::string_view(line).substr(0, byte)).size());
@@ -54,7 +56,8 @@ void CondActEdit::Tell() {
         mark.cursor.setPosition(PositionOf(typed.line, fault->begin));
         mark.cursor.setPosition(PositionOf(typed.line, fault->end), QTextCursor::KeepAnchor);
         mark.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-        mark.format.setUnderlineColor(Qt::red);
+        mark.format.setUnderlineColor(palette().base().color().lightness() < 128 ? kRedOnDark
+                                                                                 : kRedOnLight);
         marks.append(mark);
     }
     setExtraSelections(marks);
