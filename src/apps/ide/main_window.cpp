@@ -489,7 +489,9 @@ void MainWindow::ShowHelp(const HelpTopic& topic) {
 }
 
 void MainWindow::AboutAdventure() {
-    player::ShowAbout(player::frmAboutAdventure::Of(&ide_.CurrentSession().document.Adventure()), this);
+    const bool open = ide_.GetState() != authoring::frmVelIDEMain::State::NoAdventure;
+    store::Adventure* const adventure = open ? &ide_.CurrentSession().document.Adventure() : nullptr;
+    player::ShowAbout(player::frmAboutAdventure::Of(adventure), this);
 }
 
 void MainWindow::About() {
