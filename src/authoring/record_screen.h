@@ -24,13 +24,14 @@ class RecordScreen {
     /// The name of the control that was refused last, to which the focus goes back; "" before the first.
     std::string_view Refused() const { return refused_; }
 
+    store::Adventure& Adventure() const { return session_.document.Adventure(); }
+
   protected:
     /// `noun` is what the table's records are called in the name of a change: "location". The record must
     /// be there unless the key is new: throws Error.
     RecordScreen(Session& session, store::TableNum table, ScreenKey key, std::string_view noun);
     ~RecordScreen() = default;
 
-    store::Adventure& Adventure() const { return session_.document.Adventure(); }
     bool IsMarlo() const { return Adventure().AdventureTypeLower() == "marlo"; }
 
     /// The table's cursor on the record that is edited. Throws Error when it has gone.

@@ -69,7 +69,9 @@ LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* paren
     : RecordDialog(screen, QString("Location %1").arg(screen.Key().key), "frmvellocation.html", parent),
       screen_(screen),
       shortDescription_(new QLineEdit(qt::ToQt(screen.txtShortDesc))),
-      description_(NewTextEdit(screen.txtDEscription)),
+      editing_(screen.Adventure()),
+      description_(new MarkupEdit(editing_, {"&Description:", "Converted Location Description", true},
+                                  "txtDEscription")),
       rows_(new QTableWidget(0, kColumns)),
       word_(NewWordList(screen.cboExit)),
       location_(NewLocationList(screen.cboLoc)),
@@ -77,12 +79,13 @@ LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* paren
       picture_(new QLineEdit) {
     shortDescription_->setMaxLength(static_cast<int>(authoring::frmVelLocation::kLongestShortDesc));
     AddControl("&Short description:", shortDescription_, "txtShortDesc");
-    AddControl("&Description:", description_, "txtDEscription");
+    form_->addRow(description_);
+    description_->SetText(screen_.txtDEscription);
     AddExits();
     AddPicture();
     AddNeighbours();
     CheckOnLeave(shortDescription_, [this] { return screen_.LeaveTxtShortDesc(); });
-    CheckOnLeave(description_, [this] { return screen_.LeaveTxtDEscription(); });
+    CheckOnLeave(&description_->Field(), [this] { return screen_.LeaveTxtDEscription(); });
     CheckOnLeave(exits_, [this] { return screen_.LeaveTxtExits(); });
     Show();
 }
@@ -219,7 +222,7 @@ void LocationDialog::ShowRows() {
 
 void LocationDialog::Read() {
     screen_.txtShortDesc = qt::FromQt(shortDescription_->text());
-    screen_.txtDEscription = qt::FromQt(description_->toPlainText());
+    screen_.txtDEscription = description_->Text();
     screen_.txtExits = qt::FromQt(exits_->text());
 }
 

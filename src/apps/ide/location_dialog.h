@@ -1,6 +1,8 @@
 #pragma once
 
 #include "authoring/frm_vel_location.h"
+#include "authoring/text_editing.h"
+#include "ide/markup_edit.h"
 #include "ide/record_dialog.h"
 
 class QLineEdit;
@@ -29,7 +31,8 @@ class LocationDialog final : public RecordDialog {
 
     authoring::frmVelLocation& screen_;
     QLineEdit* shortDescription_;
-    QPlainTextEdit* description_;
+    authoring::TextEditing editing_;
+    MarkupEdit* description_;
     QTableWidget* rows_;
     QComboBox* word_;
     QComboBox* location_;

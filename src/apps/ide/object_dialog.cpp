@@ -24,7 +24,8 @@ constexpr const char* kPlaces[] = {"&Not created", "&Worn", "&Carried", "In a &r
 ObjectDialog::ObjectDialog(authoring::frmVelObjects& screen, QWidget* parent)
     : RecordDialog(screen, QString("Object %1").arg(screen.Key().key), "frmvelobjects.html", parent),
       screen_(screen),
-      description_(NewTextEdit(screen.txtObjDesc)),
+      editing_(screen.Adventure()),
+      description_(new MarkupEdit(editing_, {"&Description:", "", true}, "txtObjDesc")),
       noun_(NewDropList(screen.cboObjWord)),
       adjective_(NewDropList(screen.cboAdjective)),
       places_(new QButtonGroup(this)),
@@ -32,7 +33,8 @@ ObjectDialog::ObjectDialog(authoring::frmVelObjects& screen, QWidget* parent)
       container_(new QCheckBox("Conta&iner")),
       wearable_(new QCheckBox("Wear and remo&ve")),
       weight_(new QLineEdit) {
-    AddControl("&Description:", description_, "txtObjDesc");
+    form_->addRow(description_);
+    description_->SetText(screen_.txtObjDesc);
     AddControl("N&oun:", noun_, "cboObjWord");
     AddControl("Ad&jective:", adjective_, "cboAdjective");
     AddControl("Initial location:", NewPlaces(), "optInitiaLloc");
@@ -52,7 +54,7 @@ ObjectDialog::ObjectDialog(authoring::frmVelObjects& screen, QWidget* parent)
         Guarded([this] { return screen_.ClickChkContainer(); });
         Show();
     });
-    CheckOnLeave(description_, [this] { return screen_.LeaveTxtObjDesc(); });
+    CheckOnLeave(&description_->Field(), [this] { return screen_.LeaveTxtObjDesc(); });
     CheckOnLeave(room_, [this] { return screen_.LeaveCboInRoom(); });
     CheckOnLeave(weight_, [this] { return screen_.LeaveTxtWeight(); });
     Show();
@@ -78,7 +80,7 @@ QWidget* ObjectDialog::NewPlaces() {
 }
 
 void ObjectDialog::Read() {
-    screen_.txtObjDesc = qt::FromQt(description_->toPlainText());
+    screen_.txtObjDesc = description_->Text();
     screen_.cboObjWord.index = noun_->currentIndex();
     screen_.cboAdjective.index = adjective_->currentIndex();
     if (places_->checkedId() >= 0) screen_.optInitiaLloc = static_cast<InitialPlace>(places_->checkedId());

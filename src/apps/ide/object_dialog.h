@@ -1,6 +1,8 @@
 #pragma once
 
 #include "authoring/frm_vel_objects.h"
+#include "authoring/text_editing.h"
+#include "ide/markup_edit.h"
 #include "ide/record_dialog.h"
 
 class QButtonGroup;
@@ -23,7 +25,8 @@ class ObjectDialog final : public RecordDialog {
     QWidget* NewPlaces();
 
     authoring::frmVelObjects& screen_;
-    QPlainTextEdit* description_;
+    authoring::TextEditing editing_;
+    MarkupEdit* description_;
     QComboBox* noun_;
     QComboBox* adjective_;
     QButtonGroup* places_;
