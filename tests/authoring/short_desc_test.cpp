@@ -125,7 +125,7 @@ TEST_F(ShortDescTest, BytesThatAreNoLettersAreHarmless) {
     Write(
         std::string("\xEF\xBB\xBF"
                     "1: Caf\xC3\xA9\0 \xFF\n",
-                    17));
+                    15));
     EXPECT_TRUE(LoadShortDesc(session_));
     EXPECT_EQ(Of(1), "Caf\xC3\xA9  \xEF\xBF\xBD");
 }

@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <functional>
 
 #include "ide/option_focus.h"
 #include "ide/status_button.h"
@@ -146,7 +147,7 @@ QLineEdit* ImportDialog::AddFile(QFormLayout& form, const char* name, const QStr
     QObject::connect(field, &QLineEdit::textEdited, this, [this] { ReadFields(); });
     QObject::connect(button, &QPushButton::clicked, this, [this, choose] {
         ReadFields();
-        (screen_.*choose)();
+        std::invoke(choose, screen_);
     });
     return field;
 }

@@ -120,7 +120,10 @@ MainWindow::MainWindow(const Services& services, Places places)
     ShowChanges();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    // The panes show what the logic holds, up to their own end.
+    delete takeCentralWidget();
+}
 
 void MainWindow::MakePages() {
     auto* right = new QWidget;
