@@ -23,8 +23,6 @@ echo "tests: default"
 ctest --preset default -j "$(nproc)"
 build sanitize
 echo "tests: sanitize"
-# The sanitizers find dialogs of the authoring tool called while they are being destroyed; until that is mended its
-# window tests run in the optimised build only.
-ctest --preset sanitize -j "$(nproc)" -E '^ide_tests$'
+ctest --preset sanitize -j "$(nproc)"
 build core-only
 echo "all tests passed"

@@ -50,6 +50,12 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget
     resize(680, sizeHint().height());
 }
 
+/// The focus moves once more while the fields go, which must not reach a window that is half gone.
+ProcessEntryDialog::~ProcessEntryDialog() {
+    disconnect(qApp, nullptr, this, nullptr);
+    delete line_;
+}
+
 QComboBox* ProcessEntryDialog::MakeWords(const QString& name, const QString& what,
                                          const authoring::DropList& list) {
     auto* box = new QComboBox(this);

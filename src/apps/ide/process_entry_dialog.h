@@ -18,6 +18,7 @@ class CondActEdit;
 class ProcessEntryDialog final : public QDialog {
   public:
     explicit ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget* parent = nullptr);
+    ~ProcessEntryDialog() override;
 
   private:
     struct ParameterWidgets {
