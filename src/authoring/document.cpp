@@ -18,6 +18,19 @@ std::optional<std::string> Document::RedoName() const {
     return undone_.back().name;
 }
 
+std::optional<Place> Document::UndoPlace() const {
+    return done_.empty() ? std::nullopt : done_.back().place;
+}
+
+std::optional<Place> Document::RedoPlace() const {
+    return undone_.empty() ? std::nullopt : undone_.back().place;
+}
+
+void Document::PlaceLatest(int count, const Place& place) {
+    for (auto step = done_.rbegin(); step != done_.rend() && count > 0; ++step, --count)
+        step->place = place;
+}
+
 std::set<store::TableNum> Document::Undo() {
     if (done_.empty()) return {};
     const std::string changes = log_.Get(done_.back().changes);

@@ -15,6 +15,16 @@
 
 namespace fabula::authoring {
 
+/// Where the author was when something was changed: a table, of the process tables also which, and the key
+/// of the current record.
+struct Place {
+    store::TableNum table = store::TableNum::Adventure;
+    int process = 0;
+    std::optional<int> key = std::nullopt;
+
+    friend bool operator==(const Place&, const Place&) = default;
+};
+
 /// The adventure on the author's desk: the open file, and the changes of this sitting, each of which can be
 /// undone and redone. What was changed is in the file at once; there is nothing to save.
 class Document {
@@ -32,6 +42,12 @@ class Document {
     /// nullopt when there is none.
     std::optional<std::string> UndoName() const;
     std::optional<std::string> RedoName() const;
+    /// Where that change was made; nullopt when nobody said.
+    std::optional<Place> UndoPlace() const;
+    std::optional<Place> RedoPlace() const;
+
+    /// Says of the latest `count` changes where they were made.
+    void PlaceLatest(int count, const Place& place);
 
     /// Take back the latest change, and make again the latest that was taken back. They give the tables
     /// whose records changed; cursors keep what they read, so open them again. Without such a change they
@@ -56,6 +72,7 @@ class Document {
     struct Step {
         std::string name;
         std::int64_t changes;  ///< in the log
+        std::optional<Place> place = std::nullopt;
     };
 
     void Add(Step step);

@@ -149,7 +149,7 @@ std::optional<ScreenRequest> frmVelIDEMain::Do(Command command) {
             break;
         case Command::ShortDescriptions:
             LoadShortDesc(desk_->session);
-            ShowChanges();
+            ShowChanges(TableNum::Locations);
             break;
         default:
             break;
@@ -170,7 +170,7 @@ std::optional<ScreenRequest> frmVelIDEMain::DoEntry(Command command) {
         session.currentTable = grid_.View().table;
     }
     if (command == Command::Delete) entries.DeleteEntry();
-    if (!request) ShowChanges();
+    if (!request) ShowChanges(grid_.View().table);
     return request;
 }
 
@@ -178,29 +178,56 @@ void frmVelIDEMain::ScreenClosed(const ScreenRequest& request) {
     if (!desk_) return;
     Guard([&] {
         if (!Entries(desk_->session).AfterScreen(request)) mustExit_ = true;
-        ShowChanges();
+        ShowChanges(request.table);
         if (!request.key.isNew) return;
         if (const auto added = grid_.RowOf(request.key.key)) SelectRow(*added);
     });
 }
 
-/// Reads again what a command may have changed, and says what it was.
-void frmVelIDEMain::ShowChanges() {
+/// Reads again what a command may have changed, and says what it was. `changed` is the table that the
+/// command was about.
+void frmVelIDEMain::ShowChanges(TableNum changed) {
     ReadAgain();
-    if (desk_->document.Changes() == changesBefore_) return;
+    const int changes = desk_->document.Changes() - changesBefore_;
+    if (changes == 0) return;
+    Place place{changed};
+    if (changed == grid_.View().table) place = {changed, grid_.View().process, CurrentKey()};
+    desk_->document.PlaceLatest(changes, place);
     if (const auto name = desk_->document.UndoName()) message_ = "Done: " + *name;
 }
 
+/// Takes back or makes again a change where it was made, so that the author sees what it does.
 void frmVelIDEMain::UndoOrRedo(Command command) {
+    Document& document = desk_->document;
     const bool undo = command == Command::Undo;
     const std::string name = UndoOrRedoName(command).value_or("");
+    const std::optional<Place> place = undo ? document.UndoPlace() : document.RedoPlace();
+    if (place) GoTo(*place);
+    const TableGrid before = grid_;
     if (undo) {
-        desk_->document.Undo();
+        document.Undo();
     } else {
-        desk_->document.Redo();
+        document.Redo();
     }
     ReadAgain();
+    // Only now the tree may have the table.
+    if (place) GoTo(*place);
+    const bool sameView = before.View() == grid_.View();
+    if (const auto row = sameView ? grid_.FirstChange(before) : std::nullopt) {
+        SelectRow(*row);
+    } else if (place) {
+        StayOn(place->key, row_);
+    }
     message_ = (undo ? "Undone: " : "Done again: ") + name;
+}
+
+/// Shows a table and a record, as far as the adventure has them; what is shown already stays.
+void frmVelIDEMain::GoTo(const Place& place) {
+    const TableView view{place.table, place.process};
+    if (view == grid_.View() || !NodeOf(tree_, view)) return;
+    SetupGrid(view);
+    StayOn(place.key, 0);
+    RememberView();
 }
 
 void frmVelIDEMain::Find() {
@@ -223,9 +250,11 @@ void frmVelIDEMain::mnuEditSort() {
         const std::string order(text::TrimBlanks(*answer));
         const std::string fault = FaultOfSort(document.Adventure(), table, order);
         if (fault.empty()) {
+            const std::optional<int> key = CurrentKey();
             StoreSort(document, table, order);
             SetupGrid(grid_.View());
-            return ShowChanges();
+            StayOn(key, 0);
+            return ShowChanges(table);
         }
         Refuse(host_.dialogs, fault);
         question.proposal = *answer;

@@ -179,8 +179,9 @@ class frmVelIDEMain {
     std::optional<std::string> UndoOrRedoName(Command command) const;
     std::optional<ScreenRequest> Do(Command command);
     std::optional<ScreenRequest> DoEntry(Command command);
-    void ShowChanges();
+    void ShowChanges(store::TableNum changed);
     void UndoOrRedo(Command command);
+    void GoTo(const Place& place);
     void Find();
     void mnuEditSort();
     std::optional<std::string> ClickedOrder() const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <map>
 #include <numeric>
 #include <variant>
 
@@ -148,6 +149,31 @@ std::optional<int> TableGrid::RowOf(int key, int near) const {
         if (!found || std::abs(row - near) < std::abs(*found - near)) found = row;
     }
     return found;
+}
+
+std::optional<int> TableGrid::FirstChange(const TableGrid& before) const {
+    std::multimap<int, std::size_t> known;  // the records before, by key
+    for (std::size_t record = 0; record < before.keys_.size(); ++record)
+        known.emplace(before.keys_[record], record);
+    const auto sameValues = [&](std::size_t record, std::size_t earlier) {
+        for (std::size_t field = 0; field < fields_.size(); ++field) {
+            if (At(record, field) != before.At(earlier, field)) return false;
+        }
+        return true;
+    };
+    for (int row = 0; row < RowCount(); ++row) {
+        const std::size_t record = RecordOf(row);
+        const auto [first, last] = known.equal_range(keys_[record]);
+        const auto same = std::find_if(
+            first, last, [&](const auto& earlier) { return sameValues(record, earlier.second); });
+        if (same == last) return row;
+        known.erase(same);
+    }
+    if (known.empty() || order_.empty()) return std::nullopt;
+    for (int row = 0; row < before.RowCount(); ++row) {
+        if (known.contains(before.KeyOf(row))) return std::min(row, RowCount() - 1);
+    }
+    return std::nullopt;
 }
 
 std::string TableGrid::CellText(int row, int column) const {

@@ -49,6 +49,11 @@ class TableGrid {
     /// is shown has it.
     std::optional<int> RowOf(int key, int near = 0) const;
 
+    /// The first row whose record `before`, the same view at an earlier moment, did not have or had with
+    /// other values. When records are only missing: the row that stands where the first of them stood.
+    /// nullopt when all is as it was, and when there is no row.
+    std::optional<int> FirstChange(const TableGrid& before) const;
+
     /// What a cell shows, on one line: line ends and hard spaces as signs, a long text cut.
     std::string CellText(int row, int column) const;
     /// The whole text of a cell with its line ends, for a tool tip.

@@ -62,6 +62,21 @@ TEST_F(DocumentTest, UndoesAndRedoesInTheirOrder) {
     EXPECT_EQ(document_.RedoName(), std::nullopt);
 }
 
+TEST_F(DocumentTest, RemembersWhereAChangeWasMade) {
+    const Place messages{TableNum::Messages, 0, 2};
+    AddMessage(0);
+    AddMessage(1);
+    AddMessage(2);
+    EXPECT_EQ(document_.UndoPlace(), std::nullopt);
+    document_.PlaceLatest(2, messages);
+    EXPECT_EQ(document_.UndoPlace(), messages);
+    document_.Undo();
+    EXPECT_EQ(document_.RedoPlace(), messages);
+    EXPECT_EQ(document_.UndoPlace(), messages);
+    document_.Undo();
+    EXPECT_EQ(document_.UndoPlace(), std::nullopt);
+}
+
 TEST_F(DocumentTest, ANewChangeEndsWhatCouldBeRedone) {
     AddMessage(0);
     document_.Undo();

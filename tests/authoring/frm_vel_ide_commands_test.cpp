@@ -241,15 +241,93 @@ TEST_F(CommandsTest, UndoShowsAnAmpersandInAMenuAsItIs) {
     EXPECT_EQ(StateOf(Command::Undo).menuText, "&Undo delete word A&&B");
 }
 
-TEST_F(CommandsTest, UndoStaysOnTheRow) {
+TEST_F(CommandsTest, UndoGoesToTheTableAndTheRowThatChanged) {
+    OpenNew();
+    for (int number = 0; number < 4; ++number)
+        StoreMessage(number, "text " + std::to_string(number));
+    main->Show({TableNum::Messages});
+    main->SelectRow(1);
+    dialogs.AnswerNext(true);
+    main->Run(Command::Delete);
+    main->Show({TableNum::Flags});
+    main->Run(Command::Undo);
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::Messages}));
+    EXPECT_EQ(main->CurrentRow(), 1);
+    EXPECT_EQ(main->CurrentSession().currentEntry, 1);
+    EXPECT_EQ(main->Message(), "Undone: delete message 1");
+    EXPECT_EQ(Setting("CurrentSet"), "2");
+}
+
+TEST_F(CommandsTest, RedoGoesToTheTableAndTheRowThatChanged) {
+    OpenNew();
+    for (int number = 0; number < 4; ++number)
+        StoreMessage(number, "text " + std::to_string(number));
+    AddMessage("the last");
+    main->Run(Command::Undo);
+    main->Show({TableNum::Flags});
+    main->Run(Command::Redo);
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::Messages}));
+    EXPECT_EQ(main->CurrentSession().currentEntry, 4);
+    EXPECT_EQ(main->Message(), "Done again: add message 4");
+}
+
+TEST_F(CommandsTest, UndoGoesToTheRowThatChangedInTheSameTable) {
     OpenNew();
     for (int number = 0; number < 5; ++number)
         StoreMessage(number, "text");
     main->Show({TableNum::Messages});
-    main->SelectRow(2);
+    const auto request = [&] {
+        main->SelectRow(1);
+        return main->Run(Command::Edit);
+    }();
+    {
+        Change change(main->CurrentSession().document, "edit message 1");
+        store::Cursor& message = Adventure().OpenTable(TableNum::Messages, "def", "msgnum=1");
+        message.SetField("msgmsg", std::string("other"));
+        message.Update();
+        change.Commit();
+    }
+    main->ScreenClosed(*request);
+    main->SelectRow(4);
     main->Run(Command::Undo);
-    EXPECT_EQ(main->CurrentRow(), 2);
-    EXPECT_EQ(main->Grid().RowCount(), 4);
+    EXPECT_EQ(main->CurrentRow(), 1);
+    EXPECT_EQ(main->Grid().CellText(1, 1), "text");
+}
+
+TEST_F(CommandsTest, UndoGoesToTheProcessTableThatChanged) {
+    OpenNew();
+    for (int entry = 0; entry < 3; ++entry) {
+        store::Cursor& entries = Adventure().OpenTable(TableNum::ProcessTables, "def");
+        entries.AddNew();
+        entries.SetField("canum", std::int64_t{entry});
+        entries.SetField("estype", std::int64_t{1});
+        entries.Update();
+    }
+    main->Show({TableNum::ProcessTables, 1});
+    main->SelectRow(1);
+    dialogs.AnswerNext(true);
+    main->Run(Command::Delete);
+    main->Show({TableNum::ProcessTables, 2});
+    main->Run(Command::Undo);
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::ProcessTables, 1}));
+    EXPECT_EQ(main->Grid().RowCount(), 3);
+    EXPECT_EQ(main->CurrentRow(), 1);
+    EXPECT_EQ(main->CurrentSession().currentESNum, 1);
+}
+
+TEST_F(CommandsTest, UndoOfAChangeThatNoColumnShowsGoesToItsRecord) {
+    OpenNew();
+    for (int number = 0; number < 3; ++number)
+        StoreMessage(number, "text");
+    main->Show({TableNum::Vocabulary});
+    main->SelectRow(3);
+    const int key = main->CurrentSession().currentEntry;
+    dialogs.AnswerText("vocindex");
+    main->Run(Command::Sort);
+    main->Show({TableNum::Messages});
+    main->Run(Command::Undo);
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::Vocabulary}));
+    EXPECT_EQ(main->CurrentSession().currentEntry, key);
 }
 
 TEST_F(CommandsTest, UndoOfTheSettingsShowsTheTreeThatFitsThem) {

@@ -238,6 +238,46 @@ TEST_F(TableGridTest, KeepsFilterAndOrderWhenItIsRead) {
     EXPECT_EQ(grid_.SortColumn(), std::nullopt);
 }
 
+TEST_F(TableGridTest, FindsTheFirstRowThatIsNewOrDiffers) {
+    AddMessage(*adventure_, 4, "four");
+    grid_.Refresh(*adventure_);
+    const TableGrid before = grid_;
+    EXPECT_EQ(grid_.FirstChange(before), std::nullopt);
+    AddMessage(*adventure_, 3, "three");
+    grid_.Refresh(*adventure_);
+    EXPECT_EQ(grid_.FirstChange(before), 3);
+    store::Cursor& door = adventure_->OpenTable(TableNum::Messages, "def", "msgnum=1");
+    door.SetField("msgmsg", std::string("a window"));
+    door.Update();
+    grid_.Refresh(*adventure_);
+    EXPECT_EQ(grid_.FirstChange(before), 1);
+}
+
+TEST_F(TableGridTest, FindsTheRowBehindARecordThatIsGone) {
+    const TableGrid before = grid_;
+    adventure_->DeleteFrom(TableNum::Messages, "msgnum=1");
+    grid_.Refresh(*adventure_);
+    EXPECT_EQ(grid_.FirstChange(before), 1);
+    adventure_->DeleteFrom(TableNum::Messages);
+    grid_.Refresh(*adventure_);
+    EXPECT_EQ(grid_.FirstChange(before), std::nullopt);
+}
+
+TEST_F(TableGridTest, FindsAChangeAmongRecordsWithOneKey) {
+    AddMessage(*adventure_, 1, "a second door");
+    grid_.Refresh(*adventure_);
+    const TableGrid before = grid_;
+    AddMessage(*adventure_, 1, "a third door");
+    grid_.Refresh(*adventure_);
+    EXPECT_EQ(grid_.CellText(*grid_.FirstChange(before), 1), "a third door");
+}
+
+TEST_F(TableGridTest, FindsNoChangeInARowThatOnlyMoved) {
+    const TableGrid before = grid_;
+    grid_.ClickColumn(1);
+    EXPECT_EQ(grid_.FirstChange(before), std::nullopt);
+}
+
 TEST_F(TableGridTest, KeepsTheWidthOfAColumnThatMayBeWidened) {
     store::Cursor& row =
         adventure_->OpenTable(TableNum::Tables, "def", "tablenum=2 and fieldname='msgmsg'");
