@@ -127,7 +127,7 @@ bool frmVelCondAct::ConfirmsProcess(int process) {
     }
     if (confirmedProcess_ == process) return true;
     const std::string question = "Confirm Creation of Process table " + std::to_string(process);
-    if (!session_.dialogs.Confirm(question, "Confirm")) return false;
+    if (!session_.dialogs.Confirm(question, "Confirm")) return KeepFocus("txtType");
     confirmedProcess_ = process;
     return true;
 }

@@ -36,16 +36,19 @@ std::string RecordScreen::ChangeName() const {
 }
 
 bool RecordScreen::RefuseField(std::string_view control, std::string_view message, std::string_view title) {
-    refused_ = control;
     session_.dialogs.Tell(message, title);
+    return KeepFocus(control);
+}
+
+bool RecordScreen::KeepFocus(std::string_view control) {
+    refused_ = control;
     return false;
 }
 
 bool RecordScreen::CheckText(std::string_view control, std::string_view typed, bool tagsAllowed) {
     const text::TagCatalogue tags = store::LoadTagCatalogue(Adventure());
     if (text::ValidateDescription(typed, tagsAllowed, tags, &session_.dialogs).IsValid()) return true;
-    refused_ = control;
-    return false;
+    return KeepFocus(control);
 }
 
 }  // namespace fabula::authoring

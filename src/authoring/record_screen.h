@@ -43,6 +43,8 @@ class RecordScreen {
 
     /// Tells why `control`, a text constant, is refused. False, so that a check can end with it.
     bool RefuseField(std::string_view control, std::string_view message, std::string_view title = "Error");
+    /// The same where the author has answered a question with no: nothing more is told.
+    bool KeepFocus(std::string_view control);
     /// Checks a text that the game shows; the fault is told.
     bool CheckText(std::string_view control, std::string_view typed, bool tagsAllowed);
 

@@ -1,8 +1,8 @@
 #include "authoring/status_text.h"
 
-#include <fstream>
-
 #include "authoring/session.h"
+#include "platform/error.h"
+#include "store/file_copy.h"
 
 namespace fabula::authoring {
 
@@ -11,10 +11,11 @@ bool SaveStatusText(std::string_view text, const std::filesystem::path& proposal
     const auto file = dialogs.ChooseFile(
         {"Save the Status", "Text files (*.txt)|*.txt|All files|*.*", "txt", true, proposal});
     if (!file) return false;
-    std::ofstream stream(*file, std::ios::binary);
-    stream << text;
-    stream.close();
-    if (!stream) return Refuse(dialogs, "Could not write " + file->string() + ".");
+    try {
+        store::WriteFile(*file, text);
+    } catch (const Error& error) {
+        return Refuse(dialogs, error.what());
+    }
     return true;
 }
 

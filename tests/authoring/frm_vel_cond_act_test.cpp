@@ -389,6 +389,7 @@ TEST(LeaveProcess, ANewOneIsConfirmedOnce) {
     screen.txtType = "3";
     game.desk.dialogs.AnswerNext(false);
     EXPECT_FALSE(screen.LeaveTxtType());
+    EXPECT_EQ(screen.Refused(), "txtType");
     EXPECT_EQ(game.Box(), "Confirm Creation of Process table 3");
     EXPECT_EQ(game.Title(), "Confirm");
     game.desk.dialogs.AnswerNext(true);

@@ -118,6 +118,24 @@ TEST(FrmVerify, StatusCanBeSaved) {
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), verify.txtStatus());
 }
 
+TEST(FrmVerify, StatusTakesThePlaceOfAnOlderFileAsAWhole) {
+    const test::OpenedAdventure adventure;
+    const auto file = adventure.Folder() / "status.txt";
+    const auto older = adventure.Folder() / "older.txt";
+    std::ofstream(file) << "an older status";
+    std::filesystem::create_hard_link(file, older);
+    ScriptedPump pump;
+    frmVerify verify(*adventure, VerifyTarget::Play, pump);
+    verify.Run();
+    platform::ScriptedDialogs dialogs;
+    dialogs.AnswerFile(file);
+    EXPECT_TRUE(verify.SaveStatus(dialogs));
+    std::ifstream written(file);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(written), {}), verify.txtStatus());
+    std::ifstream kept(older);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(kept), {}), "an older status");
+}
+
 TEST(FrmVerify, StatusThatCannotBeSavedIsTold) {
     const test::OpenedAdventure adventure;
     ScriptedPump pump;

@@ -233,6 +233,7 @@ TEST(FileKinds, HaveTheTextsOfTheirDialogs) {
     EXPECT_EQ(FindFileKind("fabula")->importDialog.title, "Load an Fabula Exportfile");
     EXPECT_EQ(FindFileKind("fabula")->exportDialog.filter, "FabuLA Extract (*.ext)|*.ext");
     EXPECT_EQ(FindFileKind("ace")->importDialog.filter, "ACE Sources (*.*)|*.*|All files|*.*");
+    EXPECT_EQ(FindFileKind("ace")->exportDialog.title, "Save as an ACE source");
     EXPECT_EQ(FindFileKind("ace")->exportDialog.filter, "ACE source(*.txt)|*.txt");
     EXPECT_EQ(FindFileKind("word"), nullptr);
 }

@@ -13,6 +13,7 @@
 #include <QShortcut>
 
 #include "ide/cond_act_edit.h"
+#include "platform/error.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -45,14 +46,15 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget
     column->addStretch();
     column->addLayout(BuildButtons());
     Show();
-    connect(qApp, &QApplication::focusChanged, this, &ProcessEntryDialog::FocusChanged);
+    focus_ = connect(qApp, &QApplication::focusChanged, this,
+                     [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
     line_->setFocus();
     resize(680, sizeHint().height());
 }
 
 /// The focus moves once more while the fields go, which must not reach a window that is half gone.
 ProcessEntryDialog::~ProcessEntryDialog() {
-    disconnect(qApp, nullptr, this, nullptr);
+    disconnect(focus_);
     delete line_;
 }
 
@@ -206,6 +208,16 @@ void ProcessEntryDialog::Take() {
     screen_.txtAllCAs = qt::FromQt(line_->toPlainText());
 }
 
+/// A failing machine is told, and what was typed stays.
+bool ProcessEntryDialog::Guarded(const std::function<bool()>& work) {
+    try {
+        return work();
+    } catch (const Error& error) {
+        screen_.Dialogs().Tell(error.what(), "Error");
+        return false;
+    }
+}
+
 bool ProcessEntryDialog::Leave(const QWidget* field) {
     if (field == type_) return screen_.LeaveTxtType();
     if (field == condAct_) return screen_.LeaveCboCA();
@@ -227,7 +239,7 @@ void ProcessEntryDialog::CheckLeft(QWidget* field) {
     if (checking_ || !isVisible()) return;
     checking_ = true;
     Take();
-    const bool fits = Leave(field);
+    const bool fits = Guarded([this, field] { return Leave(field); });
     Show();
     if (!fits) field->setFocus();
     checking_ = false;
@@ -236,7 +248,7 @@ void ProcessEntryDialog::CheckLeft(QWidget* field) {
 void ProcessEntryDialog::Add() {
     checking_ = true;
     Take();
-    const bool added = screen_.cmdAdd();
+    const bool added = Guarded([this] { return screen_.cmdAdd(); });
     Show();
     if (added) condAct_->setFocus();
     checking_ = false;
@@ -246,11 +258,21 @@ void ProcessEntryDialog::Update() {
     if (checking_) return;
     checking_ = true;
     Take();
-    const bool stored = screen_.cmdUpdate();
-    checking_ = false;
-    if (stored) return accept();
+    bool failed = true;
+    const bool stored = Guarded([this, &failed] {
+        const bool done = screen_.cmdUpdate();
+        failed = false;
+        return done;
+    });
+    if (stored) {
+        checking_ = false;
+        return accept();
+    }
     Show();
-    if (auto* refused = findChild<QWidget*>(qt::ToQt(screen_.Refused()))) refused->setFocus();
+    // The focus goes back without another check of the field that it leaves.
+    QWidget* refused = failed ? nullptr : findChild<QWidget*>(qt::ToQt(screen_.Refused()));
+    if (refused) refused->setFocus();
+    checking_ = false;
 }
 
 }  // namespace fabula::ide

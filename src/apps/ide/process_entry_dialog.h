@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 
 #include "authoring/frm_vel_cond_act.h"
 
@@ -37,6 +38,7 @@ class ProcessEntryDialog final : public QDialog {
     void Take();
     void ShowParameter(const ParameterWidgets& widgets, const authoring::ParameterField& field);
     void FocusChanged(QWidget* left, QWidget* now);
+    bool Guarded(const std::function<bool()>& work);
     bool Leave(const QWidget* field);
     void CheckLeft(QWidget* field);
     void Add();
@@ -53,6 +55,7 @@ class ProcessEntryDialog final : public QDialog {
     QLabel* meaning_ = nullptr;
     QLabel* fault_ = nullptr;
     QPushButton* exit_ = nullptr;
+    QMetaObject::Connection focus_;
     bool checking_ = false;
 };
 

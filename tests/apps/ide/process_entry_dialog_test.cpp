@@ -35,6 +35,11 @@ class ProcessEntryDialogTest : public testing::Test {
         const authoring::ScreenRequest request{.screen = authoring::Screen::ProcessEntry,
                                                .key = {.key = desk_.session.nextEntry, .isNew = true},
                                                .table = TableNum::ProcessTables};
+        Reopen(request);
+    }
+
+    void Reopen(const authoring::ScreenRequest& request) {
+        dialog_.reset();
         screen_ = std::make_unique<authoring::frmVelCondAct>(desk_.session, request);
         dialog_ = std::make_unique<ProcessEntryDialog>(*screen_);
         dialog_->show();
@@ -46,6 +51,18 @@ class ProcessEntryDialogTest : public testing::Test {
     template <typename Widget>
     Widget* Find(const char* name) {
         return dialog_->findChild<Widget*>(name);
+    }
+    /// The label of a control, without its mnemonic.
+    std::string Caption(const char* name) {
+        for (const QLabel* label : dialog_->findChildren<QLabel*>()) {
+            if (label->buddy() == Find<QWidget>(name)) return label->text().remove('&').toStdString();
+        }
+        return "";
+    }
+    void Choose(const char* name, const char* item) {
+        auto* box = Find<QComboBox>(name);
+        box->setCurrentIndex(box->findText(item));
+        Q_EMIT box->activated(box->currentIndex());
     }
     void Type(const char* text) { QTest::keyClicks(line_, text); }
     std::string Line() { return line_->toPlainText().toStdString(); }
@@ -138,6 +155,57 @@ TEST_F(ProcessEntryDialogTest, ExitStoresNothing) {
     EXPECT_FALSE(dialog_->isVisible());
     EXPECT_THAT(Entries(), IsEmpty());
     EXPECT_THAT(desk_.Boxes(), IsEmpty());
+}
+
+TEST_F(ProcessEntryDialogTest, NamesItsFieldsInTheSystemsWords) {
+    EXPECT_EQ(dialog_->windowTitle(), "Process Table Editor");
+    EXPECT_EQ(Label("lblRecKey"), "Record Key: 0");
+    EXPECT_EQ(Caption("txtType"), "Process Table #:");
+    EXPECT_EQ(Caption("cboWord1"), "Verb:");
+    EXPECT_EQ(Caption("cboWord2"), "Noun:");
+    EXPECT_EQ(Caption("cboCA"), "Cond/Act");
+    EXPECT_EQ(Caption("cboParam1"), "Param1");
+    EXPECT_EQ(Caption("cboParam2"), "Param2");
+    EXPECT_EQ(Caption("txtAllCAs"), "Combined Condition/Actions");
+    EXPECT_EQ(Find<QPushButton>("cmdAdd")->text(), "&Add to Conditions/Actions");
+}
+
+TEST_F(ProcessEntryDialogTest, AParameterIsNamedByItsKindWhileItIsOpen) {
+    Choose("cboCA", "PLACE");
+    EXPECT_EQ(Caption("cboParam1"), "Object");
+    EXPECT_EQ(Caption("cboParam2"), "Location");
+    EXPECT_EQ(Find<QComboBox>("cboParam1")->itemText(0), "0  a brass lamp");
+}
+
+TEST_F(ProcessEntryDialogTest, ACondactWithoutParametersIsAddedWhenItIsChosen) {
+    Choose("cboCA", "DONE");
+    EXPECT_EQ(Line(), "DONE");
+}
+
+TEST_F(ProcessEntryDialogTest, ANewProcessThatIsNotConfirmedKeepsTheFocus) {
+    Type("DONE");
+    auto* type = Find<QLineEdit>("txtType");
+    type->setFocus();
+    QApplication::processEvents();
+    type->setText("3");
+    desk_.dialogs.AnswerNext(false);
+    QTest::keyClick(type, Qt::Key_Return, Qt::ControlModifier);
+    QApplication::processEvents();
+    EXPECT_THAT(desk_.Boxes(), ElementsAre("Confirm Creation of Process table 3"));
+    EXPECT_EQ(QApplication::focusWidget(), type);
+    EXPECT_THAT(Entries(), IsEmpty());
+}
+
+TEST_F(ProcessEntryDialogTest, AnEntryThatIsGoneIsToldAndWhatWasTypedStays) {
+    desk_.AddEntry(4, 0, {"_", 255}, {"_", 255}, "DONE");
+    Reopen(
+        {.screen = authoring::Screen::ProcessEntry, .key = {.key = 4}, .table = TableNum::ProcessTables});
+    desk_.Clear(TableNum::ProcessTables);
+    Type(" DESC");
+    QTest::mouseClick(Find<QPushButton>("cmdUpdate"), Qt::LeftButton);
+    EXPECT_THAT(desk_.Boxes(), ElementsAre("Could not edit process entry 4: it is not there."));
+    EXPECT_TRUE(dialog_->isVisible());
+    EXPECT_EQ(Line(), "DONE DESC");
 }
 
 TEST_F(ProcessEntryDialogTest, EveryControlHasAnAccessibleName) {

@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -207,6 +209,30 @@ TEST_F(RecordDialogs, AColorIsPicked) {
     Find<QPushButton>(dialog, "cmdUpdate")->click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(screen.Current(), 9);
+}
+
+TEST_F(RecordDialogs, TheColorsStandInTwoFramesOfEight) {
+    authoring::frmColors screen(authoring::frmColors::Purpose::Paper, 0);
+    ColorsDialog dialog(screen);
+    Open(dialog);
+    EXPECT_EQ(dialog.windowTitle(), "Set Color for Paper");
+    QStringList frames;
+    for (const QGroupBox* frame : dialog.findChildren<QGroupBox*>()) {
+        frames << frame->title();
+        EXPECT_EQ(frame->findChildren<QPushButton*>().size(), 8);
+    }
+    EXPECT_EQ(frames, (QStringList{"Normal Colors", "Bright Colors"}));
+    const QImage swatch = Find<QPushButton>(dialog, "lblColor2")->icon().pixmap(16).toImage();
+    EXPECT_EQ(swatch.pixelColor(swatch.width() / 2, swatch.height() / 2).name().toStdString(), "#e60000");
+}
+
+TEST_F(RecordDialogs, ExitLeavesTheColorToTheCaller) {
+    authoring::frmColors screen(authoring::frmColors::Purpose::Ink, 3);
+    ColorsDialog dialog(screen);
+    Open(dialog);
+    Find<QPushButton>(dialog, "lblColor9")->click();
+    Find<QPushButton>(dialog, "cmdExit")->click();
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
 }
 
 TEST_F(RecordDialogs, EveryControlHasANameInBothThemes) {

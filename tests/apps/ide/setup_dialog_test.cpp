@@ -36,6 +36,14 @@ TEST_F(SetupDialogTest, OpensOnTheChoicesOfTheScreen) {
     EXPECT_EQ(Explanation(), "Fabula: Takes all Fabula constructs, including extra Conditions & Actions.");
 }
 
+TEST_F(SetupDialogTest, HeadsItsGroupsInTheSystemsWords) {
+    QStringList headings;
+    for (const QLabel* label : dialog_.findChildren<QLabel*>()) {
+        if (label->objectName().isEmpty()) headings << label->text();
+    }
+    EXPECT_EQ(headings, (QStringList{"Adventure Type", "Graphics Type", "Use Character Sets:"}));
+}
+
 TEST_F(SetupDialogTest, GroupsAreIndependent) {
     QTest::mouseClick(&Option("optVel"), Qt::LeftButton);
     QTest::mouseClick(&Option("optGraphic"), Qt::LeftButton);
