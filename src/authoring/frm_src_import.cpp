@@ -151,6 +151,8 @@ bool frmSrcImport::ImportIt() {
     const path source = Trimmed(txtSource);
     if (IsSameFile(source, target))
         return Refuse(host_.dialogs, "The database cannot be the source file itself");
+    if (adventure_ && IsSameFile(target, adventure_->CurrentFile()))
+        return Refuse(host_.dialogs, "The database cannot be the open adventure itself");
     if (!MayReplace(target)) return false;
     const bool imported =
         Run([&] { return interchange::ImportIt(*Kind(), source, target, true, JobHost()).done; });

@@ -71,6 +71,7 @@ class frmSrcImport final : private interchange::JobObserver {
     void cmdCancel() { cancel_ = true; }
 
     bool Running() const { return running_; }
+    bool Done() const { return done_; }
     bool cmdImportEnabled() const { return !running_ && !done_ && WhyNot().empty(); }
     /// Whether there is a status to be printed, copied or saved.
     bool cmdPrintEnabled() const { return printable_ && !running_; }

@@ -107,6 +107,8 @@ class frmVelIDEMain {
     std::string AdventureStatus() const;
     std::string TableStatus() const;
     const std::string& Message() const { return message_; }
+    /// For what happened in a window of its own.
+    void Say(std::string_view message) { message_ = message; }
 
     const std::vector<TreeNode>& Tree() const { return tree_; }
     /// The node of the view in the grid; nullptr when there is none.

@@ -284,6 +284,17 @@ TEST_F(FrmSrcImportTest, DatabaseCanNotBeTheSource) {
     EXPECT_EQ(dialogs_.Boxes().back().text, "The database cannot be the source file itself");
 }
 
+TEST_F(FrmSrcImportTest, DatabaseCanNotBeTheOpenAdventure) {
+    frmSrcImport screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.txtSource = In("out.ext").string();
+    screen.txtDatabase = adventure_->CurrentFile().string();
+    EXPECT_FALSE(screen.cmdImport());
+    ASSERT_EQ(dialogs_.Boxes().size(), 1U);
+    EXPECT_EQ(dialogs_.Boxes().at(0).text, "The database cannot be the open adventure itself");
+    EXPECT_EQ(screen.NewFile(), std::nullopt);
+}
+
 TEST_F(FrmSrcImportTest, ExportCanNotGoOverTheAdventure) {
     frmSrcImport screen = Screen(JobMode::Export);
     screen.txtSource = adventure_.File().string();

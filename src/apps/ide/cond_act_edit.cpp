@@ -62,7 +62,9 @@ void CondActEdit::Tell() {
     }
     setExtraSelections(marks);
     onMeaning(qt::ToQt(help_.Meaning(typed.line, typed.cursor)));
-    onFault(fault ? qt::ToQt(fault->message) : QString());
+    onFault(
+        fault ? qt::ToQt(typed.line.substr(fault->begin, fault->end - fault->begin) + ": " + fault->message)
+              : QString());
 }
 
 /// While typing, names are offered from their first letter and parameters from the blank before them.

@@ -247,7 +247,8 @@ void MainWindow::ShowChanges() {
     pages_->setCurrentWidget(open ? static_cast<QWidget*>(desk_) : empty_);
     const authoring::TreeNode* node = ide_.CurrentNode();
     tree_->Show(ide_.Tree(), node ? node->sort : -1);
-    const bool sameTable = gridShown_ && open && shownView_ == ide_.Grid().View();
+    const auto file = open ? ide_.CurrentSession().document.File() : std::filesystem::path();
+    const bool sameTable = open && file == shownFile_ && shownView_ == ide_.Grid().View();
     if (sameTable) {
         records_->ShowRecords();
     } else {
@@ -258,7 +259,7 @@ void MainWindow::ShowChanges() {
         tree_->setProperty(kHelpPage, page);
         records_->setProperty(kHelpPage, page);
     }
-    gridShown_ = open;
+    shownFile_ = file;
     records_->ChooseRow(ide_.CurrentRow());
     if (changedPage) open ? records_->Grid().setFocus() : empty_->setFocus();
     ShowTables();
@@ -427,6 +428,7 @@ void MainWindow::Verify() {
     dialog.goTo = [this](const authoring::frmVerify::Entry& entry) { GoTo(entry); };
     dialog.exec();
     ide_.Refresh();
+    ide_.Say(verify.Passed() ? "The adventure has passed." : "The adventure has not passed.");
     ShowChanges();
 }
 
@@ -441,14 +443,11 @@ void MainWindow::ImportOrExport(authoring::JobMode mode) {
     authoring::frmSrcImport screen(
         mode, open ? &ide_.CurrentSession().document.Adventure() : nullptr,
         {services_.dialogs, services_.clock, events, services_.settings, places_.desk.defaultData});
-    screen.showVerify = [this](authoring::frmVerify& verify) {
-        VerifyDialog dialog(verify, services_.dialogs, this);
-        dialog.CloseWhenPassed();
-        dialog.exec();
-    };
     ImportDialog dialog(screen, services_.dialogs, this);
     dialog.exec();
     if (screen.NewFile()) ide_.OpenFile(*screen.NewFile());
+    if (mode == authoring::JobMode::Export && screen.Done())
+        ide_.Say("Exported to " + std::filesystem::path(screen.txtSource).filename().string() + ".");
     ShowChanges();
 }
 

@@ -114,7 +114,7 @@ class MainWindow final : public QMainWindow {
     authoring::frmVelIDEMain ide_;
     HelpRequest helpRequest_;
     authoring::TableView shownView_;
-    bool gridShown_ = false;
+    std::filesystem::path shownFile_;  ///< whose table it is; empty for none
     std::unique_ptr<GameTest> test_;
     std::unique_ptr<HelpWindow> help_;
 

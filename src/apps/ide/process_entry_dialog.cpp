@@ -20,6 +20,8 @@ namespace fabula::ide {
 namespace {
 
 constexpr int kLinesOfTheLine = 4;
+constexpr int kLettersOfAName = 10;
+constexpr int kBelowLabel = 4;
 
 QLabel* MakeNote(const char* name, const QString& what, QWidget* parent) {
     auto* note = new QLabel(parent);
@@ -103,11 +105,13 @@ ProcessEntryDialog::ParameterWidgets ProcessEntryDialog::MakeParameter(const QSt
 
 QLayout* ProcessEntryDialog::BuildCondAct() {
     auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(kBelowLabel);
     condAct_ = new QComboBox(this);
     condAct_->setObjectName("cboCA");
     condAct_->setAccessibleName(tr("Condition or action"));
     condAct_->setEditable(true);
     condAct_->setInsertPolicy(QComboBox::NoInsert);
+    condAct_->setMinimumContentsLength(kLettersOfAName);
     for (const authoring::ListItem& item : screen_.cboCA.items)
         condAct_->addItem(qt::ToQt(item.text));
     condAct_->completer()->setCompletionMode(QCompleter::PopupCompletion);
@@ -134,6 +138,7 @@ QLayout* ProcessEntryDialog::BuildCondAct() {
 
 QLayout* ProcessEntryDialog::BuildLine() {
     auto* column = new QVBoxLayout;
+    column->setSpacing(kBelowLabel);
     line_ = new CondActEdit(screen_.Help(), this);
     line_->setObjectName("txtAllCAs");
     line_->setAccessibleName(tr("Combined Condition/Actions"));
@@ -144,7 +149,7 @@ QLayout* ProcessEntryDialog::BuildLine() {
     fault_ = MakeNote("lblFault", tr("Fault"), this);
     line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
     line_->onFault = [this](const QString& message) {
-        fault_->setText(message.isEmpty() ? QString() : tr("Fault: ") + message);
+        fault_->setText(message.isEmpty() ? QString() : tr("Fault at ") + message);
     };
     auto* help = new QLabel(qt::ToQt(authoring::frmVelCondAct::kHelpLine), this);
     help->setWordWrap(true);
@@ -152,6 +157,7 @@ QLayout* ProcessEntryDialog::BuildLine() {
     column->addWidget(line_, 1);
     column->addWidget(meaning_);
     column->addWidget(fault_);
+    column->addSpacing(kBelowLabel);
     column->addWidget(help);
     return column;
 }

@@ -100,15 +100,14 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
 void RecordPanel::ShowTable(const QString& name) {
     resized_.Stop();
     view_->setAccessibleName(name);
-    placing_ = true;
-    filter_->setText(qt::ToQt(grid_.Filter()));
-    placing_ = false;
     ShowRecords();
     FitColumns();
 }
 
 void RecordPanel::ShowRecords() {
     placing_ = true;
+    if (const QString filter = qt::ToQt(grid_.Filter()); filter_->text() != filter)
+        filter_->setText(filter);
     model_->Reset();
     ShowOrder();
     placing_ = false;

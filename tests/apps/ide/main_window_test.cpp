@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
@@ -159,6 +160,46 @@ TEST(MainWindow, NewWithoutATypeMakesNothing) {
     WithNextDialog("SetupDialog", [](QDialog& dialog) { dialog.reject(); });
     opened.Part<QPushButton>("cmdNew").click();
     EXPECT_FALSE(std::filesystem::exists(opened.folder / "mine.fbd"));
+}
+
+TEST(MainWindow, AnotherAdventureIsShownWithoutTheFilterOfTheLast) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Adventure Settings");
+    opened.Part<QLineEdit>("FilterLine").setText("no such title");
+    EXPECT_EQ(opened.Part<QTableView>("Grid").model()->rowCount(), 0);
+    opened.dialogs.AnswerFile(opened.folder / "mine.fbd");
+    WithNextDialog("SetupDialog", [](QDialog& dialog) { dialog.accept(); });
+    opened.Action("NewAdv").trigger();
+    EXPECT_EQ(opened.Part<QLineEdit>("FilterLine").text(), "");
+    EXPECT_EQ(opened.Part<QTableView>("Grid").model()->rowCount(), 1);
+}
+
+TEST(MainWindow, TellsHowAVerifyEnded) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    WithNextDialog("VerifyDialog", [](QDialog& dialog) {
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return dialog.findChild<QPushButton*>("cmdPrint")->isEnabled(); }));
+        dialog.accept();
+    });
+    opened.Action("Verify").trigger();
+    EXPECT_EQ(opened.Part<QLabel>("txtStatus").text(), "The adventure has passed.");
+}
+
+TEST(MainWindow, TellsWhereAnExportWent) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    WithNextDialog("ImportDialog", [&](QDialog& dialog) {
+        dialog.findChild<QRadioButton*>("optKindFabula")->click();
+        QTest::keyClicks(dialog.findChild<QLineEdit*>("txtSource"),
+                         QString::fromStdString((opened.folder / "out").string()));
+        dialog.findChild<QPushButton*>("cmdImport")->click();
+        dialog.reject();
+    });
+    opened.Action("Export").trigger();
+    EXPECT_TRUE(std::filesystem::exists(opened.folder / "out.ext"));
+    EXPECT_EQ(opened.Part<QLabel>("txtStatus").text(), "Exported to out.ext.");
 }
 
 TEST(MainWindow, EnterOnARowOpensItsScreen) {

@@ -111,7 +111,7 @@ TEST_F(ProcessEntryDialogTest, TellsTheMeaningOfTheTokenAtTheCursor) {
 
 TEST_F(ProcessEntryDialogTest, MarksTheFirstFaultAtItsToken) {
     Type("MESSAGE 7 DON");
-    EXPECT_EQ(Label("lblFault"), "Fault: Invalid number for parameter 1");
+    EXPECT_EQ(Label("lblFault"), "Fault at 7: Invalid number for parameter 1");
     const auto marks = line_->extraSelections();
     ASSERT_EQ(marks.size(), 1);
     EXPECT_EQ(marks.front().cursor.selectedText(), "7");
