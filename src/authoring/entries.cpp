@@ -162,12 +162,6 @@ void MoveBehindNewEntry(Session& session, const ScreenRequest& request) {
     change.Commit();
 }
 
-SettingsBefore ReadSettingsBefore(Adventure& adventure) {
-    store::PreparedQuery settings = adventure.Prepare(TableNum::Adventure, "charsets, graphicsindb", "");
-    if (!settings.First({})) return {};
-    return {.charSets = settings.Number(0) != 0, .graphicsInDb = settings.Number(1) != 0};
-}
-
 bool MayEditFlag(Session& session) {
     store::PreparedQuery flag = session.document.Adventure().Prepare(TableNum::Flags, "flgmod", "flgnum=?");
     if (!flag.First({std::int64_t{session.currentEntry}})) return false;
@@ -294,7 +288,7 @@ std::optional<ScreenRequest> Entries::EditEntry() {
     }
     ScreenRequest request{.screen = *entry->editor, .key = {.key = session_.currentEntry}, .table = table};
     if (table == TableNum::Adventure) {
-        request.settings = ReadSettingsBefore(adventure);
+        request.settings = ReadSettingsBefore(session_.document);
         return request;
     }
     if (!Exists(adventure, table, session_.currentEntry)) return std::nullopt;
@@ -304,11 +298,7 @@ std::optional<ScreenRequest> Entries::EditEntry() {
 bool Entries::AfterScreen(const ScreenRequest& request) {
     if (request.screen == Screen::Location && request.key.isNew) AddPictureOf(session_, request.key.key);
     if (request.before) MoveBehindNewEntry(session_, request);
-    if (request.screen != Screen::Settings) return true;
-    const SettingsBefore now = ReadSettingsBefore(session_.document.Adventure());
-    if (now.charSets == request.settings.charSets) return true;
-    session_.dialogs.Tell("Changing Character Sets requires exiting program", "Adventure Settings");
-    return false;
+    return request.screen != Screen::Settings || FollowSettings(session_, request.settings);
 }
 
 bool Entries::DeleteEntry() {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "authoring/session.h"
+#include "authoring/settings_followup.h"
 #include "store/table_catalogue.h"
 
 namespace fabula::authoring {
@@ -17,12 +18,6 @@ enum class Screen {
     Flag,          ///< frmFlags
     ProcessEntry,  ///< frmVelCondAct
     Settings,      ///< frmVelAdvSettings
-};
-
-/// What the settings said when their screen was opened.
-struct SettingsBefore {
-    bool charSets = false;
-    bool graphicsInDb = false;
 };
 
 /// A screen that the window is to open, and what `Entries::AfterScreen` needs when it has closed.

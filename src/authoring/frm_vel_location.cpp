@@ -11,7 +11,6 @@
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {
@@ -92,11 +91,7 @@ bool frmVelLocation::LeaveTxtDEscription() {
 }
 
 bool frmVelLocation::LeaveTxtShortDesc() {
-    const std::size_t length = text::Length(txtShortDesc);
-    if (length > kLongestShortDesc) {
-        return RefuseField("txtShortDesc",
-                           "A maximum of 255 characters is allowed.\nYou have " + std::to_string(length));
-    }
+    if (!CheckLength("txtShortDesc", txtShortDesc, kLongestShortDesc)) return false;
     return CheckText("txtShortDesc", txtShortDesc, true);
 }
 

@@ -609,9 +609,11 @@ TEST(EditSettings, EndsTheProgramWhenCharacterSetsWereSwitched) {
     Desk desk;
     const auto request = Edit(desk, TableNum::Adventure, 0);
     ASSERT_TRUE(request);
+    Change change(desk.document, "edit the settings");
     store::Cursor& settings = desk.Adventure().OpenTable(TableNum::Adventure, "def");
     settings.SetField("charsets", std::int64_t{1});
     settings.Update();
+    change.Commit();
     EXPECT_FALSE(Entries(desk.session).AfterScreen(*request));
     EXPECT_THAT(desk.Boxes(), ElementsAre("Changing Character Sets requires exiting program"));
 }
