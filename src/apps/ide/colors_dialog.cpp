@@ -1,10 +1,13 @@
 #include "ide/colors_dialog.h"
 
+#include <QButtonGroup>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "qt/strings.h"
@@ -13,23 +16,29 @@
 namespace fabula::ide {
 namespace {
 
+constexpr int kMargin = 16;
+
+/// Framed, so that it can be told from any window.
 QIcon Swatch(int number, int size) {
     const text::Rgb color = text::ColorRGB(number);
     QPixmap square(2 * size, size);
-    square.fill(QColor(color.red, color.green, color.blue));
+    square.fill(QColor(0x80, 0x80, 0x80));
+    QPainter(&square).fillRect(square.rect().adjusted(1, 1, -1, -1),
+                               QColor(color.red, color.green, color.blue));
     return square;
 }
 
 }  // namespace
 
 ColorsDialog::ColorsDialog(authoring::frmColors& screen, QWidget* parent)
-    : QDialog(parent), screen_(screen), current_(new QLabel) {
+    : QDialog(parent), screen_(screen), chosen_(new QButtonGroup(this)), current_(new QLabel) {
     setWindowTitle(qt::ToQt(screen.Caption()));
     setProperty("helpPage", "frmcolors.html");
     auto* colors = new QHBoxLayout;
     colors->addWidget(NewColors(0, authoring::frmColors::kNormalColors));
     colors->addWidget(NewColors(authoring::frmColors::kFirstBright, authoring::frmColors::kBrightColors));
     current_->setObjectName("lblCurrent");
+    colors->setSpacing(16);
     auto* update = new QPushButton("&Update");
     update->setObjectName("cmdUpdate");
     update->setDefault(true);
@@ -41,28 +50,37 @@ ColorsDialog::ColorsDialog(authoring::frmColors& screen, QWidget* parent)
     buttons->addWidget(update);
     buttons->addWidget(exit);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(12);
     layout->addLayout(colors);
     layout->addWidget(current_);
     layout->addLayout(buttons);
     connect(update, &QPushButton::clicked, this, &QDialog::accept);
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     ShowCurrent();
+    chosen_->button(screen_.Current())->setFocus();
 }
 
 QWidget* ColorsDialog::NewColors(int first, std::string_view caption) {
     auto* group = new QGroupBox(qt::ToQt(caption));
     auto* layout = new QVBoxLayout(group);
+    layout->setSpacing(4);
     const int size = fontMetrics().height();
     for (int number = first; number < first + authoring::frmColors::kFirstBright; ++number) {
-        auto* color = new QPushButton(qt::ToQt(text::ColorName(number)));
+        auto* color = new QToolButton;
+        color->setText(qt::ToQt(text::ColorName(number)));
         color->setObjectName(QString("lblColor%1").arg(number));
         color->setAccessibleName(color->text());
+        color->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         color->setIcon(Swatch(number, size));
         color->setIconSize({2 * size, size});
-        color->setStyleSheet("text-align: left; padding: 4px;");
-        color->setAutoDefault(false);
+        color->setAutoRaise(true);
+        color->setCheckable(true);
+        color->setFocusPolicy(Qt::StrongFocus);
+        color->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         layout->addWidget(color);
-        connect(color, &QPushButton::clicked, this, [this, number] {
+        chosen_->addButton(color, number);
+        connect(color, &QToolButton::clicked, this, [this, number] {
             screen_.Click(number);
             ShowCurrent();
         });
@@ -71,6 +89,7 @@ QWidget* ColorsDialog::NewColors(int first, std::string_view caption) {
 }
 
 void ColorsDialog::ShowCurrent() {
+    chosen_->button(screen_.Current())->setChecked(true);
     current_->setText(qt::ToQt(screen_.CurrentLine()));
 }
 

@@ -4,6 +4,7 @@
 
 #include "authoring/frm_colors.h"
 
+class QButtonGroup;
 class QLabel;
 
 namespace fabula::ide {
@@ -18,6 +19,7 @@ class ColorsDialog final : public QDialog {
     void ShowCurrent();
 
     authoring::frmColors& screen_;
+    QButtonGroup* chosen_;
     QLabel* current_;
 };
 

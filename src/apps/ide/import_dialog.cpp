@@ -24,7 +24,7 @@ using authoring::JobMode;
 
 constexpr int kMargin = 16;
 constexpr QSize kDefaultSize(620, 540);
-constexpr int kSmallestStatusLines = 4;
+constexpr int kSmallestStatusLines = 3;
 
 struct KindText {
     std::string_view kind;

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -18,6 +19,8 @@ namespace fabula::ide {
 namespace {
 
 enum Column { kWord, kTo, kName, kColumns };
+
+constexpr int kShortestWord = 8;  ///< letters of a list of words
 
 /// Edits a cell by a list in which something else may be typed too.
 class ListDelegate final : public QStyledItemDelegate {
@@ -44,6 +47,8 @@ QComboBox* NewWordList(const authoring::ComboBox& box) {
     auto* list = new QComboBox;
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(kShortestWord);
     for (const authoring::ListItem& item : box.items)
         list->addItem(qt::ToQt(item.text), qt::ToQt(item.text));
     list->setEditText(qt::ToQt(box.text));
@@ -81,6 +86,7 @@ LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* paren
     AddControl("&Short description:", shortDescription_, "txtShortDesc");
     form_->addRow(description_);
     description_->SetText(screen_.txtDEscription);
+    BeginColumn();
     AddExits();
     AddPicture();
     AddNeighbours();
@@ -117,11 +123,12 @@ void LocationDialog::AddExits() {
     auto* remove = NewButton("&Remove", "cmdRemove");
     connect(add, &QPushButton::clicked, this, [this] { AddExit(); });
     connect(remove, &QPushButton::clicked, this, [this] { RemoveRow(); });
-    auto* adding = new QHBoxLayout;
-    adding->addWidget(word_, 1);
-    adding->addWidget(location_, 2);
-    adding->addWidget(add);
-    adding->addWidget(remove);
+    auto* adding = new QGridLayout;
+    adding->addWidget(word_, 0, 0, 1, 2);
+    adding->addWidget(location_, 0, 2, 1, 2);
+    adding->addWidget(add, 1, 0);
+    adding->addWidget(remove, 1, 1);
+    adding->setColumnStretch(3, 1);
     form_->addRow("", adding);
 
     AddControl("As one &line:", exits_, "txtExits");

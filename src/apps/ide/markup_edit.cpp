@@ -23,6 +23,13 @@ constexpr int kMargin = 8;
 /// Below this a text in the game's colours can't be told from the paper, and the windows' own serve.
 constexpr double kVisible = 1.5;
 
+/// Asks for no more than its lines at least, though it takes what there is.
+template <typename Edit>
+class Modest final : public Edit {
+  public:
+    QSize sizeHint() const override { return {Edit::sizeHint().width(), Edit::minimumHeight()}; }
+};
+
 QColor ToColour(text::Rgb rgb) {
     return QColor(rgb.red, rgb.green, rgb.blue);
 }
@@ -61,13 +68,14 @@ QTextCharFormat FormatOf(const authoring::ShownRun& run, const player::TextColou
 
 MarkupEdit::MarkupEdit(const authoring::TextEditing& editing, const MarkupEditKind& kind,
                        const QString& fieldName, QWidget* parent)
-    : QWidget(parent), editing_(editing), kind_(kind), field_(new QPlainTextEdit) {
+    : QWidget(parent), editing_(editing), kind_(kind), field_(new Modest<QPlainTextEdit>) {
     auto* name = new QLabel(kind.name);
     name->setBuddy(field_);
     field_->setObjectName(fieldName);
     field_->setAccessibleName(QString(kind.name).remove('&').remove(':'));
     field_->setTabChangesFocus(true);
     setFocusProxy(field_);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     new MarkupHighlighter(field_->document(), editing.Tags(), kind.tagsAllowed);
 
     counts_ = new QLabel;
@@ -102,7 +110,7 @@ MarkupEdit::MarkupEdit(const authoring::TextEditing& editing, const MarkupEditKi
 }
 
 void MarkupEdit::AddPreview(const QString& caption) {
-    preview_ = new QTextEdit;
+    preview_ = new Modest<QTextEdit>;
     preview_->setObjectName("txtPreview");
     preview_->setAccessibleName(caption);
     preview_->setAccessibleDescription(
@@ -132,7 +140,7 @@ void MarkupEdit::FitLook() {
     }
     field_->setPalette(game);
     field_->setFont(font);
-    field_->setMinimumHeight(metrics.lineSpacing() * 3);
+    field_->setMinimumHeight(metrics.lineSpacing() * 4 + 2 * kMargin);
     field_->document()->setDocumentMargin(kMargin);
     auto* highlighter = field_->document()->findChild<QSyntaxHighlighter*>();
     static_cast<MarkupHighlighter*>(highlighter)
@@ -146,7 +154,7 @@ void MarkupEdit::FitLook() {
     const int frame =
         2 * (kMargin + preview_->frameWidth()) + preview_->verticalScrollBar()->sizeHint().width();
     preview_->setMaximumWidth(metrics.averageCharWidth() * editing_.PreviewColumns() + frame);
-    preview_->setMinimumHeight(metrics.lineSpacing() * 2 + 2 * kMargin);
+    preview_->setMinimumHeight(metrics.lineSpacing() * 3 + 2 * kMargin);
 }
 
 std::string MarkupEdit::Text() const {

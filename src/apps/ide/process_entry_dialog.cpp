@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 
 #include "ide/cond_act_edit.h"
@@ -19,6 +21,8 @@
 namespace fabula::ide {
 namespace {
 
+constexpr int kMargin = 16;
+constexpr int kDefaultWidth = 720;
 constexpr int kLinesOfTheLine = 4;
 constexpr int kLettersOfAName = 10;
 constexpr int kBelowLabel = 4;
@@ -40,18 +44,29 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget
     setObjectName("frmVelCondAct");
     setProperty("helpPage", "frmvelcondact.html");
     setWindowTitle(qt::ToQt(authoring::frmVelCondAct::kCaption));
-    auto* column = new QVBoxLayout(this);
+    auto* form = new QWidget;
+    auto* column = new QVBoxLayout(form);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(12);
     column->addLayout(BuildEntry());
     column->addLayout(BuildCondAct());
     column->addLayout(BuildLine());
-    column->addStretch();
-    column->addLayout(BuildButtons());
+    auto* scroll = new QScrollArea;
+    scroll->setWidget(form);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll, 1);
+    QLayout* buttons = BuildButtons();
+    whole->addLayout(buttons);
     Show();
     focus_ = connect(qApp, &QApplication::focusChanged, this,
                      [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
     line_->setFocus();
-    resize(680, sizeHint().height());
+    const QSize wanted(kDefaultWidth, form->sizeHint().height() + buttons->sizeHint().height());
+    resize(wanted.boundedTo(QWidget::screen()->availableSize() * 9 / 10));
 }
 
 /// The focus moves once more while the fields go, which must not reach a window that is half gone.
@@ -73,6 +88,8 @@ QComboBox* ProcessEntryDialog::MakeWords(const QString& name, const QString& wha
 
 QLayout* ProcessEntryDialog::BuildEntry() {
     auto* form = new QFormLayout;
+    form->setHorizontalSpacing(12);
+    form->setVerticalSpacing(10);
     auto* key = new QLabel(qt::ToQt(screen_.lblRecKey), this);
     key->setObjectName("lblRecKey");
     form->addRow(key);
@@ -130,9 +147,10 @@ QLayout* ProcessEntryDialog::BuildCondAct() {
     grid->addWidget(condAct_, 1, 0);
     grid->addWidget(param1_.box, 1, 1);
     grid->addWidget(param2_.box, 1, 2);
-    grid->addWidget(add, 1, 3);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
+    grid->addWidget(add, 2, 1, 1, 2, Qt::AlignRight);
+    grid->setColumnStretch(0, 2);
+    grid->setColumnStretch(1, 3);
+    grid->setColumnStretch(2, 3);
     return grid;
 }
 
@@ -174,6 +192,8 @@ QLayout* ProcessEntryDialog::BuildButtons() {
     connect(exit_, &QPushButton::clicked, this, &QDialog::reject);
     connect(new QShortcut(Qt::CTRL | Qt::Key_Return, this), &QShortcut::activated, this,
             &ProcessEntryDialog::Update);
+    row->setContentsMargins(kMargin, 0, kMargin, kMargin);
+    row->setSpacing(8);
     row->addStretch();
     row->addWidget(update);
     row->addWidget(exit_);

@@ -7,8 +7,10 @@
 #include "authoring/controls.h"
 #include "authoring/record_screen.h"
 
+class QBoxLayout;
 class QComboBox;
 class QFormLayout;
+class QHBoxLayout;
 class QPlainTextEdit;
 class QPushButton;
 
@@ -16,17 +18,21 @@ namespace fabula::ide {
 
 /// What the dialogs of one record share: a form that scrolls where the screen is small, Update
 /// (Ctrl+Return) and Exit (Esc), and checks of the fields that are left. A control that is refused gets the
-/// focus back.
+/// focus back. The form may have two columns, which stand side by side where there is room.
 class RecordDialog : public QDialog {
   public:
     /// All of the form, as far as the screen has room.
     QSize sizeHint() const override;
+    /// The first time: in its size, with the keyboard in the first field.
+    void setVisible(bool visible) override;
 
   protected:
     /// `screen` outlives the dialog.
     RecordDialog(authoring::RecordScreen& screen, const QString& title, const char* helpPage,
                  QWidget* parent);
 
+    /// What is added from now on stands in a second column.
+    void BeginColumn();
     /// Adds a control, found by `name`; the label holds its mnemonic and is its accessible name too.
     void AddControl(const QString& label, QWidget* control, const char* name);
     /// Checks a control when the focus leaves it for another one but Update and Exit.
@@ -41,18 +47,26 @@ class RecordDialog : public QDialog {
     virtual bool Update() = 0;
 
     bool eventFilter(QObject* object, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
-    QFormLayout* form_;
+    QFormLayout* form_ = nullptr;  ///< the column to which controls are added
 
   private:
+    int WidthOfColumns() const;
+    void Arrange();
+    void AddButtons();
+    void FocusFirst();
     void CheckLeft(QWidget* control);
     void FocusRefused();
     void ClickUpdate();
 
     authoring::RecordScreen& record_;
+    QBoxLayout* columns_;
+    QHBoxLayout* buttons_;
+    bool placed_ = false;  ///< it was shown before
     std::vector<std::pair<QWidget*, std::function<bool()>>> checks_;
-    QPushButton* update_;
-    QPushButton* exit_;
+    QPushButton* update_ = nullptr;
+    QPushButton* exit_ = nullptr;
 };
 
 /// A text without its mnemonic.

@@ -18,7 +18,7 @@ using store::AdventureKind;
 using store::frmSetup;
 
 constexpr int kMargin = 20;
-constexpr int kLettersOfALine = 64;
+constexpr int kLettersOfALine = 54;
 constexpr int kLinesOfAnExplanation = 3;
 
 struct KindOption {

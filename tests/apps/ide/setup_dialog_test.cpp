@@ -8,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include "ide/dialog_checks.h"
-
 namespace fabula::test {
 namespace {
 
@@ -92,11 +90,6 @@ TEST_F(SetupDialogTest, OffersTheUsualWords) {
     EXPECT_TRUE(dialog_.Starter());
     dialog_.findChild<QCheckBox*>("chkStarter")->click();
     EXPECT_FALSE(dialog_.Starter());
-}
-
-TEST_F(SetupDialogTest, EveryControlHasANameAndBothThemesShowIt) {
-    EXPECT_EQ(WidgetsWithoutName(dialog_), std::vector<std::string>{});
-    GrabInBothThemes(dialog_, "setup");
 }
 
 }  // namespace

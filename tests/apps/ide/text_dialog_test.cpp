@@ -98,10 +98,5 @@ TEST_F(TextDialogTest, TheArrowsMoveAndStoreWhatWasChanged) {
     EXPECT_EQ(Field()->toPlainText(), "changed");
 }
 
-TEST_F(TextDialogTest, EveryControlHasAnAccessibleName) {
-    for (const QAbstractButton* button : dialog_->findChildren<QAbstractButton*>())
-        EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
-}
-
 }  // namespace
 }  // namespace fabula::test

@@ -1,0 +1,212 @@
+#include "ide/dialog_stand.h"
+
+#include <ostream>
+
+#include "authoring/frm_both_messages.h"
+#include "authoring/text_editing.h"
+#include "ide/colors_dialog.h"
+#include "ide/flag_dialog.h"
+#include "ide/import_dialog.h"
+#include "ide/location_dialog.h"
+#include "ide/object_dialog.h"
+#include "ide/process_entry_dialog.h"
+#include "ide/setup_dialog.h"
+#include "ide/text_dialog.h"
+#include "ide/verify_dialog.h"
+#include "ide/word_dialog.h"
+#include "platform/clock.h"
+#include "platform/settings.h"
+#include "support/scripted_pump.h"
+
+namespace fabula::test {
+namespace {
+
+using authoring::ScreenKey;
+using authoring::ScreenRequest;
+using store::TableNum;
+using Opened = std::shared_ptr<QDialog>;
+
+/// What a dialog shows, kept as long as the dialog.
+template <typename Dialog, typename Parts>
+Opened Keep(std::shared_ptr<Parts> parts) {
+    return {parts, static_cast<QDialog*>(&parts->dialog)};
+}
+
+template <typename Dialog, typename Screen>
+Opened OpenRecord(Desk& desk, ScreenKey key) {
+    struct Parts {
+        Parts(authoring::Session& session, ScreenKey of) : screen(session, of), dialog(screen) {}
+        Screen screen;
+        Dialog dialog;
+    };
+    return Keep<Dialog>(std::make_shared<Parts>(desk.session, key));
+}
+
+/// A word that is being added, as far as it can be left by Tab.
+Opened OpenNewWord(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : screen(of.session, {.key = of.session.nextWord, .isNew = true}) {
+            screen.txtWord = "SHINE";
+            screen.ClickOptType(condacts::kVerb);
+            dialog = std::make_unique<ide::WordDialog>(screen);
+        }
+        authoring::frmVelVocabulary screen;
+        std::unique_ptr<ide::WordDialog> dialog;
+    };
+    auto parts = std::make_shared<Parts>(desk);
+    return {parts, parts->dialog.get()};
+}
+
+Opened OpenText(Desk& desk, TableNum table, int key) {
+    struct Parts {
+        Parts(Desk& of, int number)
+            : screen(of.session, {.key = number}),
+              editing(of.Adventure()),
+              dialog(screen, editing, of.dialogs) {}
+        authoring::frmBothMessages screen;
+        authoring::TextEditing editing;
+        ide::TextDialog dialog;
+    };
+    desk.session.currentTable = table;
+    return Keep<ide::TextDialog>(std::make_shared<Parts>(desk, key));
+}
+
+Opened OpenProcessEntry(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.session, ScreenRequest{.screen = authoring::Screen::ProcessEntry,
+                                               .key = {.key = 0},
+                                               .table = TableNum::ProcessTables}),
+              dialog(screen) {}
+        authoring::frmVelCondAct screen;
+        ide::ProcessEntryDialog dialog;
+    };
+    return Keep<ide::ProcessEntryDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenColors(Desk&) {
+    struct Parts {
+        authoring::frmColors screen{authoring::frmColors::Purpose::Paper, 3};
+        ide::ColorsDialog dialog{screen};
+    };
+    return Keep<ide::ColorsDialog>(std::make_shared<Parts>());
+}
+
+Opened OpenSetup(Desk&) {
+    struct Parts {
+        store::frmSetup screen;
+        ide::SetupDialog dialog{screen};
+    };
+    return Keep<ide::SetupDialog>(std::make_shared<Parts>());
+}
+
+Opened OpenImport(Desk& desk, authoring::JobMode mode) {
+    struct Parts {
+        Parts(Desk& of, authoring::JobMode as)
+            : screen(as, &of.Adventure(),
+                     {of.dialogs, clock, pump, settings,
+                      std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini"}),
+              dialog(screen, of.dialogs) {}
+        platform::FixedClock clock{{2026, 3, 9, 8, 5, 7}};
+        ScriptedPump pump;
+        platform::MemorySettings settings;
+        authoring::frmSrcImport screen;
+        ide::ImportDialog dialog;
+    };
+    return Keep<ide::ImportDialog>(std::make_shared<Parts>(desk, mode));
+}
+
+Opened OpenVerify(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.Adventure(), authoring::VerifyTarget::Play, pump), dialog(screen, of.dialogs) {
+            dialog.goTo = [](const authoring::frmVerify::Entry&) {};
+        }
+        ScriptedPump pump;
+        authoring::frmVerify screen;
+        ide::VerifyDialog dialog;
+    };
+    return Keep<ide::VerifyDialog>(std::make_shared<Parts>(desk));
+}
+
+}  // namespace
+
+void PrintTo(const DialogStand& stand, std::ostream* out) {
+    *out << stand.name;
+}
+
+const std::vector<DialogStand>& EveryDialog() {
+    static const std::vector<DialogStand> kStands = {
+        {"Setup", "Choose Type of Adventure", "optFabula", OpenSetup},
+        {"Location", "Location 0", "txtShortDesc",
+         [](Desk& desk) {
+             return OpenRecord<ide::LocationDialog, authoring::frmVelLocation>(desk, {.key = 0});
+         }},
+        {"Object", "Object 0", "txtObjDesc",
+         [](Desk& desk) {
+             return OpenRecord<ide::ObjectDialog, authoring::frmVelObjects>(desk, {.key = 0});
+         }},
+        {"NewWord", "Vocabulary Editor", "txtWord", OpenNewWord},
+        {"Word", "Vocabulary Editor", "txtWord",
+         [](Desk& desk) {
+             return OpenRecord<ide::WordDialog, authoring::frmVelVocabulary>(desk, {.key = 203});
+         }},
+        {"Message", "Messages Editor", "txtMessage",
+         [](Desk& desk) { return OpenText(desk, TableNum::Messages, 0); }},
+        {"SystemMessage", "System Messages Editor", "txtMessage",
+         [](Desk& desk) { return OpenText(desk, TableNum::SystemMessages, 7); }},
+        {"ProcessDescription", "Process Table Descriptions Editor", "txtMessage",
+         [](Desk& desk) { return OpenText(desk, TableNum::ProcDesc, 3); }},
+        {"ProcessEntry", "Process Table Editor", "txtAllCAs", OpenProcessEntry},
+        {"Flag", "Flag 60", "cboFlgType",
+         [](Desk& desk) { return OpenRecord<ide::FlagDialog, authoring::frmFlags>(desk, {.key = 60}); }},
+        {"Colors", "Set Color for Paper", "lblColor3", OpenColors},
+        {"Import", "Import of source file", "txtSource",
+         [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Import); }},
+        {"Export", "Export of Database", "txtSource",
+         [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Export); }},
+        {"Verify", "Verify Adventure", "txtStatus", OpenVerify},
+    };
+    return kStands;
+}
+
+void Furnish(Desk& desk) {
+    const auto location = [&](std::int64_t number, std::string text, std::string name, std::string exits,
+                              std::string numbers) {
+        const auto tokens = static_cast<std::int64_t>(exits.empty() ? 0 : 2);
+        desk.Add(TableNum::Locations, {{"locnum", number},
+                                       {"locdesc", std::move(text)},
+                                       {"locshortdesc", std::move(name)},
+                                       {"exits", std::move(exits)},
+                                       {"numericexits", std::move(numbers)},
+                                       {"numexits", tokens}});
+    };
+    desk.AddWord(200, "NORTH", 1, 2);
+    desk.AddWord(201, "SOUTH", 2, 2);
+    desk.AddWord(202, "GET", 20, 0);
+    desk.AddWord(203, "LAMP", 60, 2);
+    desk.AddWord(204, "BRASS", 2, 3);
+    desk.Clear(TableNum::Locations);
+    location(0,
+             "You stand in the hall of the keeper's house. A <ink=2>brass lamp<ink=0> hangs "
+             "from a beam, and a worn flight of stairs winds up into the dark.",
+             "The hall", "NORTH 1", "1 1");
+    location(1, "The stairs wind up and up. It is cold here.", "On the stairs", "SOUTH 0", "2 0");
+    desk.Add(TableNum::Messages,
+             {{"msgnum", std::int64_t{0}}, {"msgmsg", std::string("It is too dark to see anything.")}});
+    desk.Clear(TableNum::Objects);
+    desk.Add(TableNum::Objects, {{"objnum", std::int64_t{0}},
+                                 {"objdesc", std::string("a brass lamp")},
+                                 {"objloc", std::int64_t{0}},
+                                 {"objweight", std::int64_t{3}}});
+    desk.Clear(TableNum::ProcessTables);
+    desk.AddEntry(0, 0, {"GET", 20}, {"LAMP", 60}, "PRESENT 0 GET 0 MESSAGE 0 DONE");
+    store::Cursor& flag = desk.Adventure().OpenTable(TableNum::Flags, "def", "flgnum=60");
+    flag.SetField("flgtype", std::string("User"));
+    flag.SetField("flguse", std::string("Switch"));
+    flag.SetField("flgdesc", std::string("1 when the lamp is lit."));
+    flag.Update();
+    authoring::ReadNextKeys(desk.session);
+}
+
+}  // namespace fabula::test
