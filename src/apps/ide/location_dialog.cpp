@@ -20,6 +20,7 @@ namespace {
 
 enum Column { kWord, kTo, kName, kColumns };
 
+constexpr int kGap = 8;
 constexpr int kShortestWord = 8;  ///< letters of a list of words
 
 /// Edits a cell by a list in which something else may be typed too.
@@ -103,7 +104,6 @@ void LocationDialog::AddExits() {
     rows_->setSelectionBehavior(QAbstractItemView::SelectRows);
     rows_->setTabKeyNavigation(false);
     rows_->setMinimumHeight(6 * rows_->fontMetrics().lineSpacing());
-    rows_->setMaximumHeight(9 * rows_->fontMetrics().lineSpacing());
     rows_->setItemDelegateForColumn(kWord, new ListDelegate(
                                                [this](const std::string& text) {
                                                    return NewWordList({screen_.cboExit.items, text});
@@ -124,6 +124,7 @@ void LocationDialog::AddExits() {
     connect(add, &QPushButton::clicked, this, [this] { AddExit(); });
     connect(remove, &QPushButton::clicked, this, [this] { RemoveRow(); });
     auto* adding = new QGridLayout;
+    adding->setSpacing(kGap);
     adding->addWidget(word_, 0, 0, 1, 2);
     adding->addWidget(location_, 0, 2, 1, 2);
     adding->addWidget(add, 1, 0);
@@ -144,6 +145,7 @@ void LocationDialog::AddPicture() {
     picture_->setReadOnly(true);
     AddControl("&Picture:", picture_, "txtPicture");
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(kGap);
     buttons->addWidget(choose);
     buttons->addWidget(clear);
     buttons->addStretch();
@@ -169,7 +171,7 @@ void LocationDialog::AddNeighbours() {
     }
     if (screen_.LeadsHere().empty()) list->addItem("No exit leads here.");
     list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
-    list->setMaximumHeight(6 * list->fontMetrics().lineSpacing());
+    list->setMaximumHeight(5 * list->fontMetrics().lineSpacing());
     AddControl("Leads &here:", list, "lstLeadsHere");
 }
 

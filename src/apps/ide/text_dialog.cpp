@@ -12,6 +12,11 @@
 #include "qt/strings.h"
 
 namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+
+}  // namespace
 
 TextDialog::TextDialog(authoring::frmBothMessages& screen, const authoring::TextEditing& editing,
                        platform::Dialogs& dialogs, QWidget* parent)
@@ -28,6 +33,8 @@ TextDialog::TextDialog(authoring::frmBothMessages& screen, const authoring::Text
     auto* bottom = new QHBoxLayout;
     AddButtons(*bottom);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(10);
     layout->addLayout(top);
     layout->addWidget(text_, 1);
     layout->addLayout(bottom);

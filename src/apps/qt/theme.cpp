@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QStyle>
 
+#include "qt/look.h"
+
 namespace fabula::qt {
 
 namespace {
@@ -37,7 +39,7 @@ QPalette DarkPalette() {
     palette.setColor(QPalette::ButtonText, QColor(0xe2, 0xe3, 0xe5));
     palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3d, 0x41));
     palette.setColor(QPalette::ToolTipText, QColor(0xe2, 0xe3, 0xe5));
-    palette.setColor(QPalette::Highlight, QColor(0x3d, 0x7d, 0xd8));
+    palette.setColor(QPalette::Highlight, QColor(0x34, 0x75, 0xd1));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, QColor(0x7a, 0xb0, 0xf5));
     palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9d, 0xa2));
@@ -67,6 +69,7 @@ Theme ThemeFrom(std::string_view name) {
 }
 
 void ApplyTheme(Theme theme) {
+    UseLook();
     switch (theme) {
         case Theme::Light:
             QApplication::setPalette(LightPalette());

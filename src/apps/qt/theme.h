@@ -12,7 +12,7 @@ enum class Theme { System, Light, Dark };
 std::string_view NameOf(Theme theme);
 Theme ThemeFrom(std::string_view name);
 
-/// Gives every window of the program the theme's colours.
+/// Gives every window of the program the theme's colours, and the program's look (qt/look.h).
 void ApplyTheme(Theme theme);
 
 /// Whether the windows are dark at the moment.
