@@ -2,7 +2,6 @@
 #include "authoring/ide_settings.h"
 #include "authoring/last_records.h"
 #include "authoring/short_desc.h"
-#include "authoring/sort_order.h"
 #include "text/str_edit.h"
 
 // What the commands do, and when they can be used.
@@ -138,9 +137,6 @@ std::optional<ScreenRequest> frmVelIDEMain::Do(Command command) {
         case Command::FindNext:
             Find();
             break;
-        case Command::Sort:
-            mnuEditSort();
-            break;
         case Command::Trace:
             SetTraceMode(host_.settings, !TraceMode(host_.settings));
             break;
@@ -235,30 +231,19 @@ void frmVelIDEMain::Find() {
     if (found) SelectRow(*found);
 }
 
-/// Asks for the order that the adventure is to keep. What is proposed is the order of the column that was
-/// clicked, or else the present one.
-void frmVelIDEMain::mnuEditSort() {
-    Document& document = desk_->document;
-    const TableNum table = grid_.View().table;
-    const auto stored = StoredSort(document.Adventure(), table);
-    if (!stored) return;
-    platform::TextQuestion question{
-        "Fields to sort by, with a comma between them; behind a field, desc sorts "
-        "downwards:",
-        "Sort " + Caption(), ClickedOrder().value_or(*stored)};
-    while (const auto answer = host_.dialogs.AskText(question)) {
-        const std::string order(text::TrimBlanks(*answer));
-        const std::string fault = FaultOfSort(document.Adventure(), table, order);
-        if (fault.empty()) {
-            const std::optional<int> key = CurrentKey();
-            StoreSort(document, table, order);
-            SetupGrid(grid_.View());
-            StayOn(key, 0);
-            return ShowChanges(table);
-        }
-        Refuse(host_.dialogs, fault);
-        question.proposal = *answer;
-    }
+SortScreen frmVelIDEMain::mnuEditSort() {
+    changesBefore_ = desk_->document.Changes();
+    return SortScreen(desk_->session, grid_.View().table, Caption(), ClickedOrder());
+}
+
+void frmVelIDEMain::SortClosed() {
+    Guard([&] {
+        if (desk_->document.Changes() == changesBefore_) return;
+        const std::optional<int> key = CurrentKey();
+        SetupGrid(grid_.View());
+        StayOn(key, 0);
+        ShowChanges(grid_.View().table);
+    });
 }
 
 std::optional<std::string> frmVelIDEMain::ClickedOrder() const {

@@ -13,6 +13,7 @@
 #include "authoring/entries.h"
 #include "authoring/find.h"
 #include "authoring/session.h"
+#include "authoring/sort_screen.h"
 #include "authoring/table_grid.h"
 #include "authoring/table_rights.h"
 #include "authoring/table_tree.h"
@@ -136,14 +137,20 @@ class frmVelIDEMain {
     FindBox& Finder() { return find_; }
 
     /// Does a command. The screen that it needs is given back: the window opens it and then calls
-    /// ScreenClosed. Commands that need a window of their own (New, Import, Export, Run, Verify, Exit,
-    /// Help, About) are the window's to do, by the other members; here they do nothing. A command that is
-    /// not enabled does nothing.
+    /// ScreenClosed. Commands that need a window of their own (New, Import, Export, Sort, Run, Verify,
+    /// Exit, Help, About) are the window's to do, by the other members; here they do nothing. A command
+    /// that is not enabled does nothing.
     std::optional<ScreenRequest> Run(Command command);
     void ScreenClosed(const ScreenRequest& request);
     /// After work that is not a command of this class changed the adventure, such as Verify: reads grid and
     /// tree again and stays on the row.
     void Refresh();
+
+    /// The screen of the command Sort on the table in view, when that command is enabled. It proposes the
+    /// order of the column that was clicked, or else the present one. When its window has closed,
+    /// SortClosed is called.
+    SortScreen mnuEditSort();
+    void SortClosed();
 
     /// Begins a test of the open adventure; nullopt when there is none. The window then hides, shows the
     /// engine's window on the file, and calls EndRunTest when that has closed.
@@ -185,7 +192,6 @@ class frmVelIDEMain {
     void UndoOrRedo(Command command);
     void GoTo(const Place& place);
     void Find();
-    void mnuEditSort();
     std::optional<std::string> ClickedOrder() const;
 
     IdeHost host_;

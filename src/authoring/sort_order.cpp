@@ -11,13 +11,13 @@ using store::SortOrders;
 using store::TableNum;
 
 /// Where a table's order is kept: in the session, and in the settings record.
-struct SortField {
+struct StoredIn {
     TableNum table;
     std::string SortOrders::*order;
     std::string_view field;
 };
 
-constexpr SortField kSortFields[] = {
+constexpr StoredIn kSortFields[] = {
     {TableNum::Objects, &SortOrders::objects, "sortobjects"},
     {TableNum::Vocabulary, &SortOrders::vocabulary, "sortvocabulary"},
     {TableNum::CondActs, &SortOrders::condacts, "sortcondacts"},
@@ -25,8 +25,8 @@ constexpr SortField kSortFields[] = {
     {TableNum::Commands, &SortOrders::commands, "sortcommands"},
 };
 
-const SortField* FieldFor(TableNum table) {
-    for (const SortField& field : kSortFields) {
+const StoredIn* FieldFor(TableNum table) {
+    for (const StoredIn& field : kSortFields) {
         if (field.table == table) return &field;
     }
     return nullptr;
@@ -35,9 +35,14 @@ const SortField* FieldFor(TableNum table) {
 }  // namespace
 
 std::optional<std::string> StoredSort(const store::Adventure& adventure, TableNum table) {
-    const SortField* const field = FieldFor(table);
+    const StoredIn* const field = FieldFor(table);
     if (!field) return std::nullopt;
     return adventure.Sorts().*field->order;
+}
+
+std::string PlainSort(TableNum table) {
+    const StoredIn* const field = FieldFor(table);
+    return field ? SortOrders().*field->order : std::string();
 }
 
 std::string FaultOfSort(const store::Adventure& adventure, TableNum table, std::string_view order) {
@@ -52,7 +57,7 @@ std::string FaultOfSort(const store::Adventure& adventure, TableNum table, std::
 }
 
 void StoreSort(Document& document, TableNum table, std::string_view order) {
-    const SortField* const field = FieldFor(table);
+    const StoredIn* const field = FieldFor(table);
     store::Adventure& adventure = document.Adventure();
     if (!field || adventure.Sorts().*field->order == order) return;
     Change change(document, "sort " + adventure.Schema(table).name + " by " + std::string(order));
@@ -66,7 +71,7 @@ void StoreSort(Document& document, TableNum table, std::string_view order) {
 
 void ReadInPlainOrder(store::Adventure& adventure) {
     adventure.Sorts() = SortOrders();
-    for (const SortField& field : kSortFields)
+    for (const StoredIn& field : kSortFields)
         adventure.OpenTable(field.table, "def");
 }
 

@@ -13,6 +13,9 @@ namespace fabula::authoring {
 /// a table whose order can't be changed.
 std::optional<std::string> StoredSort(const store::Adventure& adventure, store::TableNum table);
 
+/// The order that such a table has at first.
+std::string PlainSort(store::TableNum table);
+
 /// Why a text is no order for the records of a table, a sentence; "" when it is one.
 std::string FaultOfSort(const store::Adventure& adventure, store::TableNum table, std::string_view order);
 

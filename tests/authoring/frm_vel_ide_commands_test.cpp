@@ -21,8 +21,18 @@ std::vector<std::string> Enabled(const frmVelIDEMain& main) {
     return keys;
 }
 
+// Places of fields of the vocabulary in the screen of Sort.
+constexpr std::size_t kIndexField = 0;
+constexpr std::size_t kWordField = 2;
+
 class CommandsTest : public testing::Test, public test::IdeWindow {
   protected:
+    void SortBy(std::vector<SortLevel> levels) {
+        SortScreen screen = main->mnuEditSort();
+        screen.levels = std::move(levels);
+        ASSERT_TRUE(screen.cmdUpdate());
+        main->SortClosed();
+    }
     ActionState StateOf(Command command) const { return main->StateOf(command); }
     bool IsEnabled(Command command) const { return main->StateOf(command).enabled; }
     int Records(TableNum table) { return Adventure().OpenTable(table, "def").RecordCount(); }
@@ -322,8 +332,7 @@ TEST_F(CommandsTest, UndoOfAChangeThatNoColumnShowsGoesToItsRecord) {
     main->Show({TableNum::Vocabulary});
     main->SelectRow(3);
     const int key = main->CurrentSession().currentEntry;
-    dialogs.AnswerText("vocindex");
-    main->Run(Command::Sort);
+    SortBy({{kIndexField}});
     main->Show({TableNum::Messages});
     main->Run(Command::Undo);
     EXPECT_EQ(main->Grid().View(), (TableView{TableNum::Vocabulary}));
@@ -347,39 +356,29 @@ TEST_F(CommandsTest, UndoOfTheSettingsShowsTheTreeThatFitsThem) {
     EXPECT_EQ(main->Grid().View(), (TableView{TableNum::ProcessTables, 0}));
 }
 
-TEST_F(CommandsTest, SortAsksForTheOrderAndStoresIt) {
+TEST_F(CommandsTest, SortStoresTheOrderAndStaysOnTheRecord) {
     OpenNew();
     main->Show({TableNum::Vocabulary});
-    dialogs.AnswerText("word desc");
-    main->Run(Command::Sort);
-    EXPECT_EQ(dialogs.TextQuestions().at(0).proposal, "voctypen, vocnum, word");
-    EXPECT_EQ(dialogs.TextQuestions().at(0).title, "Sort Vocabulary");
+    main->SelectRow(2);
+    const int key = main->CurrentSession().currentEntry;
+    SortBy({{kWordField, true}});
     EXPECT_EQ(main->Grid().CellText(0, 1), "WITH");
+    EXPECT_EQ(main->CurrentSession().currentEntry, key);
+    EXPECT_EQ(main->Message(), "Done: sort Vocabulary by word desc");
     EXPECT_EQ(StateOf(Command::Undo).text, "Undo sort Vocabulary by word desc");
     Restart();
     main->Show({TableNum::Vocabulary});
     EXPECT_EQ(main->Grid().CellText(0, 1), "WITH");
 }
 
-TEST_F(CommandsTest, SortThatChangesNothingStoresNothing) {
+TEST_F(CommandsTest, SortThatChangesNothingLeavesTheClickedColumn) {
     OpenNew();
     main->Show({TableNum::Vocabulary});
-    dialogs.AnswerText("voctypen, vocnum, word");
-    main->Run(Command::Sort);
-    dialogs.AnswerText(std::nullopt);
-    main->Run(Command::Sort);
+    main->ClickColumn(1);
+    main->mnuEditSort();
+    main->SortClosed();
     EXPECT_FALSE(IsEnabled(Command::Undo));
-}
-
-TEST_F(CommandsTest, SortRefusesAnOrderThatIsNoneAndAsksAgain) {
-    OpenNew();
-    main->Show({TableNum::Objects});
-    dialogs.AnswerText("weight");
-    dialogs.AnswerText("objweight");
-    main->Run(Command::Sort);
-    EXPECT_THAT(Boxes(), ElementsAre("'weight' is no order of the fields of Objects."));
-    EXPECT_EQ(dialogs.TextQuestions().at(1).proposal, "weight");
-    EXPECT_EQ(Adventure().Sorts().objects, "objweight");
+    EXPECT_EQ(main->Grid().SortColumn(), 1);
 }
 
 TEST_F(CommandsTest, SortProposesTheOrderOfTheColumnThatWasClicked) {
@@ -387,9 +386,10 @@ TEST_F(CommandsTest, SortProposesTheOrderOfTheColumnThatWasClicked) {
     main->Show({TableNum::Objects});
     main->ClickColumn(6);
     main->ClickColumn(6);
-    dialogs.AnswerText("objweight desc, objnum");
-    main->Run(Command::Sort);
-    EXPECT_EQ(dialogs.TextQuestions().at(0).proposal, "objweight desc, objnum");
+    SortScreen screen = main->mnuEditSort();
+    EXPECT_TRUE(screen.cmdUpdate());
+    main->SortClosed();
+    EXPECT_EQ(Adventure().Sorts().objects, "objweight desc, objnum");
     EXPECT_EQ(main->Grid().SortColumn(), std::nullopt);
 }
 

@@ -333,9 +333,10 @@ TEST_F(MainWindowTest, ClosesTheAdventure) {
 TEST_F(MainWindowTest, PutsSortOrdersBackForATestAndRestoresThemBehindIt) {
     OpenNew();
     main->Show({TableNum::Objects});
-    dialogs.AnswerText("objweight");
-    main->Run(Command::Sort);
-    EXPECT_EQ(Adventure().Sorts().objects, "objweight");
+    main->ClickColumn(6);
+    ASSERT_TRUE(main->mnuEditSort().cmdUpdate());
+    main->SortClosed();
+    EXPECT_EQ(Adventure().Sorts().objects, "objweight, objnum");
     const auto run = main->BeginRunTest();
     ASSERT_TRUE(run.has_value());
     EXPECT_EQ(run->file, folder / "game.fbd");
@@ -343,7 +344,7 @@ TEST_F(MainWindowTest, PutsSortOrdersBackForATestAndRestoresThemBehindIt) {
     EXPECT_EQ(Adventure().Sorts().objects, "objnum");
     EXPECT_EQ(main->GetState(), State::EngineRunning);
     main->EndRunTest();
-    EXPECT_EQ(Adventure().Sorts().objects, "objweight");
+    EXPECT_EQ(Adventure().Sorts().objects, "objweight, objnum");
     EXPECT_EQ(main->GetState(), State::Open);
 }
 

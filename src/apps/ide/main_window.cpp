@@ -32,6 +32,7 @@
 #include "ide/record_panel.h"
 #include "ide/screens.h"
 #include "ide/setup_dialog.h"
+#include "ide/sort_dialog.h"
 #include "ide/tree_panel.h"
 #include "ide/verify_dialog.h"
 #include "player/about_adventure.h"
@@ -358,6 +359,8 @@ void MainWindow::Do(Command command) {
             return ImportOrExport(authoring::JobMode::Import);
         case Command::Export:
             return ImportOrExport(authoring::JobMode::Export);
+        case Command::Sort:
+            return Sort();
         case Command::Verify:
             return Verify();
         case Command::Filter:
@@ -418,6 +421,15 @@ void MainWindow::OpenExample(const Example& example) {
     } catch (const Error& error) {
         services_.dialogs.Tell(error.what(), "Error");
     }
+}
+
+void MainWindow::Sort() {
+    authoring::SortScreen screen = ide_.mnuEditSort();
+    SortDialog dialog(screen, services_.dialogs, this);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.exec();
+    ide_.SortClosed();
+    ShowChanges();
 }
 
 void MainWindow::Verify() {

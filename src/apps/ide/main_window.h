@@ -98,6 +98,7 @@ class MainWindow final : public QMainWindow {
     void OpenExample(const Example& example);
     void DoInLogic(authoring::Command command);
     void FindOrAsk(authoring::Command command);
+    void Sort();
     void Verify();
     void GoTo(const authoring::frmVerify::Entry& entry);
     void ImportOrExport(authoring::JobMode mode);
