@@ -87,7 +87,7 @@ void TableGrid::Clear() {
 
 void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
     const store::TableSchema& schema = adventure.Schema(view_.table);
-    std::vector<std::string> searched;
+    std::vector<std::string> others;
     store::Cursor& rows =
         adventure.OpenTable(TableNum::TablesWalk, "fieldname,altname,see,search,expand,gridwidth",
                             WhereTable(view_.table), "tablekey");
@@ -101,13 +101,14 @@ void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
             columns_.push_back({field, other.empty() ? field : std::string(other),
                                 static_cast<int>(rows.Number("gridwidth")), rows.Text("expand") == "Y",
                                 IsNumber(schema.fields[*place].type)});
-        } else if (rows.Text("search") == "Y" || text::EqualsNoCase(field, "estype")) {
-            searched.push_back(field);
+        } else if (rows.Text("search") == "Y" || text::EqualsNoCase(field, "estype") ||
+                   text::EqualsNoCase(field, kHelpPageField)) {
+            others.push_back(field);
         }
     }
     for (const GridColumn& column : columns_)
         fields_.push_back(column.field);
-    fields_.insert(fields_.end(), searched.begin(), searched.end());
+    fields_.insert(fields_.end(), others.begin(), others.end());
 }
 
 void TableGrid::ReadRecords(store::Adventure& adventure) {

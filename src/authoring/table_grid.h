@@ -21,6 +21,9 @@ struct GridColumn {
     bool number = false;  ///< it holds numbers: shown at the right, sorted by value
 };
 
+/// The field in which the catalogues of conditions, actions and drawing commands name a page of the help.
+inline constexpr std::string_view kHelpPageField = "htmlpage";
+
 /// The records of a view as the main window shows them. They are read when the grid is set up and when it
 /// is refreshed, and at no other time: scrolling, filtering, sorting and searching work in memory.
 ///
@@ -58,7 +61,8 @@ class TableGrid {
     std::string CellText(int row, int column) const;
     /// The whole text of a cell with its line ends, for a tool tip.
     std::string FullText(int row, int column) const;
-    /// The value of a field that is a column or can be searched; null for any other.
+    /// The value of a field that is a column, can be searched or names a page of the help; null for any
+    /// other.
     const text::Value& ValueOf(int row, std::string_view field) const;
 
     /// Shows only the rows of which a column contains `text`, case ignored; "" shows all.
@@ -88,7 +92,7 @@ class TableGrid {
 
     TableView view_;
     std::vector<GridColumn> columns_;
-    std::vector<std::string> fields_;  ///< that are read: of the columns first, then what else is searched
+    std::vector<std::string> fields_;  ///< that are read: of the columns first, then what else is looked up
     std::vector<int> keys_;            ///< by record, in the view's own order
     std::vector<text::Value> values_;  ///< by record and field
     std::vector<std::size_t> order_;   ///< the record of each row

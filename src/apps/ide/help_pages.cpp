@@ -2,6 +2,9 @@
 
 #include <array>
 
+#include "qt/strings.h"
+#include "text/value.h"
+
 namespace fabula::ide {
 namespace {
 
@@ -23,6 +26,12 @@ constexpr std::array kPages = {
     PageOfTable{TableNum::Flags, "flags.html"},
     PageOfTable{TableNum::ProcDesc, "processes.html"},
     PageOfTable{TableNum::Pictures, "pictures.html"},
+    PageOfTable{TableNum::CondActs, "conditions.html"},
+    PageOfTable{TableNum::Commands, "drawing.html"},
+    PageOfTable{TableNum::Codes, "markup.html"},
+    PageOfTable{TableNum::Characters, "markup.html"},
+    PageOfTable{TableNum::Sounds, "sound.html"},
+    PageOfTable{TableNum::Package, "packaging.html"},
 };
 
 }  // namespace
@@ -32,6 +41,17 @@ QString HelpPageOf(const authoring::TableView& view) {
         if (each.table == view.table) return each.page;
     }
     return kMainWindowPage;
+}
+
+HelpTopic HelpTopicOf(const authoring::TableGrid& grid, int row) {
+    const TableNum table = grid.View().table;
+    HelpTopic topic{HelpPageOf(grid.View()), {}};
+    if (row < 0 || row >= grid.RowCount()) return topic;
+    const QString own = qt::ToQt(text::ToText(grid.ValueOf(row, authoring::kHelpPageField))).trimmed();
+    if (!own.isEmpty()) topic.page = own;
+    if (table == TableNum::Flags) topic.anchors << QString("f%1").arg(grid.KeyOf(row));
+    if (table == TableNum::SystemMessages) topic.anchors << QString("m%1").arg(grid.KeyOf(row));
+    return topic;
 }
 
 }  // namespace fabula::ide

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-#include "authoring/table_view.h"
+#include "authoring/table_grid.h"
+#include "ide/help_request.h"
 
 namespace fabula::ide {
 
@@ -10,5 +11,9 @@ inline constexpr const char* kMainWindowPage = "frmvelidemain.html";
 
 /// The page of the help that tells about the records of a view.
 QString HelpPageOf(const authoring::TableView& view);
+
+/// The topic of a row of the grid: of a condition, an action or a drawing command its own page, of a flag
+/// or a system message its place on the page of its table. Without such a row (-1) that of the view.
+HelpTopic HelpTopicOf(const authoring::TableGrid& grid, int row);
 
 }  // namespace fabula::ide

@@ -10,6 +10,8 @@ namespace fabula::ide {
 HelpTopic TopicOf(const QWidget* control) {
     HelpTopic topic;
     for (const QWidget* each = control; each; each = each->parentWidget()) {
+        const QString anchor = each->property(kHelpAnchor).toString();
+        if (!anchor.isEmpty()) topic.anchors << anchor;
         if (!each->objectName().isEmpty()) topic.anchors << each->objectName().toLower();
         topic.page = each->property(kHelpPage).toString();
         if (!topic.page.isEmpty()) break;

@@ -78,7 +78,7 @@ MainWindow::MainWindow(const Services& services, Places places)
           {.rowChosen =
                [this](int row) {
                    ide_.SelectRow(row);
-                   ShowActions();
+                   ShowRow();
                },
            .opened = [this] { Do(Command::Edit); },
            .columnClicked =
@@ -256,17 +256,24 @@ void MainWindow::ShowChanges() {
         shownView_ = ide_.Grid().View();
         records_->ShowTable(qt::ToQt(ide_.Caption()));
         find_->ShowFields(ide_.Finder());
-        const QString page = HelpPageOf(shownView_);
-        tree_->setProperty(kHelpPage, page);
-        records_->setProperty(kHelpPage, page);
+        tree_->setProperty(kHelpPage, HelpPageOf(shownView_));
     }
     shownFile_ = file;
     records_->ChooseRow(ide_.CurrentRow());
     if (changedPage) open ? records_->Grid().setFocus() : empty_->setFocus();
     ShowTables();
     ShowRecent();
-    ShowActions();
+    ShowRow();
     if (ide_.MustExit()) close();
+}
+
+void MainWindow::ShowRow() {
+    HelpTopic topic = HelpTopicOf(ide_.Grid(), ide_.CurrentRow());
+    // A file may name a page that the help does not have.
+    if (HelpBook(places_.help).FileOf(topic.page).empty()) topic.page = HelpPageOf(ide_.Grid().View());
+    records_->setProperty(kHelpPage, topic.page);
+    records_->setProperty(kHelpAnchor, topic.anchors.value(0));
+    ShowActions();
 }
 
 void MainWindow::ShowActions() {

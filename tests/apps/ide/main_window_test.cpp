@@ -9,6 +9,7 @@
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <functional>
 #include <utility>
@@ -230,6 +231,39 @@ TEST(MainWindow, F1TellsAboutTheTableInView) {
     opened.Action("Help").trigger();
     ASSERT_NE(opened.Window().Help(), nullptr);
     EXPECT_EQ(opened.Window().Help()->Page(), "vocabulary.html");
+}
+
+TEST(MainWindow, F1OnACatalogueRowGoesToItsOwnPage) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.help.Write("notat.htm", "<title>NOTAT</title>");
+    opened.help.Write("conditions.html", "<title>Conditions</title>");
+    opened.ChooseNode("Conditions and Actions");
+    opened.Part<QTableView>("Grid").setFocus();
+    opened.Press(Qt::Key_Down);
+    EXPECT_EQ(opened.Logic().Grid().KeyOf(1), 102);
+    opened.Press(Qt::Key_F1);
+    EXPECT_EQ(opened.Window().Help()->Page(), "notat.htm");
+}
+
+TEST(MainWindow, F1OnACatalogueRowWithoutAPageGoesToThePageOfItsTable) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.help.Write("conditions.html", "<title>Conditions</title>");
+    opened.ChooseNode("Conditions and Actions");
+    opened.Part<QTableView>("Grid").setFocus();
+    opened.Press(Qt::Key_F1);
+    EXPECT_EQ(opened.Window().Help()->Page(), "conditions.html");
+}
+
+TEST(MainWindow, F1OnAFlagGoesToItsPlaceOnThePage) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Flags");
+    opened.Part<QTableView>("Grid").setFocus();
+    opened.Part<QTableView>("Grid").selectRow(10);
+    opened.Press(Qt::Key_F1);
+    EXPECT_EQ(opened.Window().Help()->findChild<QTextBrowser*>()->source().fragment(), "f10");
 }
 
 TEST(MainWindow, ExampleIsCopiedForTheAuthorBeforeItIsOpened) {
