@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "authoring/controls.h"
@@ -9,14 +8,8 @@
 
 namespace fabula::authoring {
 
-/// The longest name, in characters.
-inline constexpr int kLongestLocationName = 60;
-
-/// What an author knows a location by: its short description or, without one, the beginning of its
-/// description; on one line and without markup.
-std::string LocationName(std::string_view shortDescription, std::string_view description);
-
-/// All locations by number, with their names.
+/// All locations by number, with what an author knows them by: the short description or, without one, the
+/// beginning of the description.
 std::vector<ListItem> LocationNames(store::Adventure& adventure);
 
 /// The name in such a list; "" for a number that is not in it.

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "authoring/brief_text.h"
 #include "authoring/location_names.h"
 
 namespace fabula::authoring {
@@ -16,7 +17,7 @@ std::vector<ListItem> Load(Adventure& adventure, TableNum table, const std::stri
     PreparedQuery rows = adventure.Prepare(table, key + ", " + text, "", key);
     std::vector<ListItem> items;
     for (bool more = rows.First({}); more; more = rows.Next())
-        items.push_back({static_cast<int>(rows.Number(0)), LocationName("", rows.Text(1))});
+        items.push_back({static_cast<int>(rows.Number(0)), BriefText(rows.Text(1))});
     return items;
 }
 
@@ -25,7 +26,7 @@ std::vector<ListItem> LoadFlags(Adventure& adventure) {
     std::vector<ListItem> items;
     for (bool more = rows.First({}); more; more = rows.Next()) {
         const std::string_view use = rows.Text(2) == "Unknown" ? "" : rows.Text(2);
-        items.push_back({static_cast<int>(rows.Number(0)), LocationName(rows.Text(1), use)});
+        items.push_back({static_cast<int>(rows.Number(0)), BriefText(rows.Text(1), use)});
     }
     return items;
 }
