@@ -2,11 +2,13 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ide/leave_check.h"
 #include "ide/markup_edit.h"
 #include "platform/error.h"
 #include "qt/strings.h"
@@ -75,6 +77,7 @@ void TextDialog::AddButtons(QHBoxLayout& row) {
     exit->setAutoDefault(false);
     row.addWidget(update);
     row.addWidget(exit);
+    new LeaveCheck(text_->Field(), {update, exit}, [this] { Leave(); });
     connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -97,6 +100,10 @@ void TextDialog::Move(int step) {
     }
     if (screen_.Number() != before) return ShowRecord();
     text_->ShowFault();
+}
+
+void TextDialog::Leave() {
+    if (!screen_.LeaveTxtMessage()) text_->ShowFault();
 }
 
 void TextDialog::ClickUpdate() {

@@ -24,6 +24,7 @@ class TextDialog final : public QDialog {
     void AddMoves(QHBoxLayout& row);
     void AddButtons(QHBoxLayout& row);
     void Move(int step);
+    void Leave();
     void ClickUpdate();
     void ShowRecord();
 

@@ -65,6 +65,23 @@ TEST_F(TextDialogTest, OpensOnTheTextWithTheKeyboardInIt) {
     EXPECT_EQ(QApplication::focusWidget(), Field());
 }
 
+TEST_F(TextDialogTest, ChecksTheTextWhenItIsLeft) {
+    Type("<QUARK>");
+    QTest::keyClick(Field(), Qt::Key_Tab);
+    QApplication::processEvents();
+    ASSERT_EQ(dialogs_.Boxes().size(), 1U);
+    EXPECT_EQ(QApplication::focusWidget(), Field());
+    EXPECT_EQ(Field()->textCursor().selectedText(), "<QUARK>");
+}
+
+TEST_F(TextDialogTest, ChecksNothingOnTheWayToExit) {
+    Type("<QUARK>");
+    Click("cmdExit");
+    QApplication::processEvents();
+    EXPECT_TRUE(dialogs_.Boxes().empty());
+    EXPECT_FALSE(dialog_->isVisible());
+}
+
 TEST_F(TextDialogTest, CtrlReturnStoresAndCloses) {
     Type("No such way.");
     QTest::keyClick(Field(), Qt::Key_Return, Qt::ControlModifier);
