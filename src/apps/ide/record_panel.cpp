@@ -11,6 +11,7 @@
 
 #include "ide/grid_model.h"
 #include "ide/icons.h"
+#include "ide/pane_focus.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -21,7 +22,17 @@ constexpr std::chrono::milliseconds kResizeDelay{300};
 /// How many rows tell the width of a column that has none, and the widest that it becomes, in letters.
 constexpr int kRowsForWidth = 100;
 constexpr int kWidestColumn = 48;
+constexpr int kNarrowestColumn = 10;  ///< of those that need more
 constexpr int kCellMargin = 16;
+
+/// The table of the rows.
+class RowsView final : public QTableView {
+  protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override {
+        QTableView::initViewItemOption(option);
+        ShowWhetherFocused(*this, *option);
+    }
+};
 
 }  // namespace
 
@@ -33,7 +44,7 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
       resized_(timers,
                [this] { events_.columnResized(resizedColumn_, view_->columnWidth(resizedColumn_)); }),
       model_(new GridModel(grid, this)),
-      view_(new QTableView),
+      view_(new RowsView),
       filter_(new QLineEdit),
       count_(new QLabel) {
     filter_->setObjectName("FilterLine");
@@ -58,6 +69,7 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
     view_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     view_->setContextMenuPolicy(Qt::CustomContextMenu);
     view_->installEventFilter(this);
+    view_->viewport()->installEventFilter(this);
     view_->verticalHeader()->hide();
     QHeaderView* header = view_->horizontalHeader();
     header->setSectionsClickable(true);
@@ -92,6 +104,8 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
     QObject::connect(header, &QHeaderView::sectionResized, this, [this](int section) {
         // The last column takes the room that is left.
         if (placing_ || section == model_->columnCount() - 1) return;
+        wishes_[static_cast<std::size_t>(section)].width = view_->columnWidth(section);
+        wishes_[static_cast<std::size_t>(section)].kept = true;
         resizedColumn_ = section;
         resized_.Start(kResizeDelay);
     });
@@ -101,7 +115,8 @@ void RecordPanel::ShowTable(const QString& name) {
     resized_.Stop();
     view_->setAccessibleName(name);
     ShowRecords();
-    FitColumns();
+    MeasureColumns();
+    PlaceColumns();
 }
 
 void RecordPanel::ShowRecords() {
@@ -134,16 +149,34 @@ void RecordPanel::FitRows() {
     view_->verticalHeader()->setDefaultSectionSize(view_->fontMetrics().height() * 3 / 2);
 }
 
-void RecordPanel::FitColumns() {
+void RecordPanel::MeasureColumns() {
+    const int letter = view_->fontMetrics().averageCharWidth();
+    wishes_.clear();
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const authoring::GridColumn& shown = grid_.Columns()[static_cast<std::size_t>(column)];
+        // The last column takes the room that is left, whatever it was given.
+        const bool kept = shown.width > 0 && column < model_->columnCount() - 1;
+        const int width = kept ? shown.width : WidthOf(column);
+        const int title = view_->horizontalHeader()->sectionSizeHint(column) + kCellMargin;
+        wishes_.push_back({width, std::min(width, std::max(title, letter * kNarrowestColumn)), kept});
+    }
+}
+
+void RecordPanel::PlaceColumns() {
+    const std::vector<int> widths = FitColumns(wishes_, view_->viewport()->width());
     placing_ = true;
-    for (int column = 0; column < model_->columnCount(); ++column)
-        view_->setColumnWidth(column, WidthOf(column));
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+        const auto index = static_cast<int>(column);
+        view_->setColumnWidth(index, widths[column]);
+        // What is not kept can't be changed.
+        const bool expand = grid_.Columns()[column].expand;
+        view_->horizontalHeader()->setSectionResizeMode(
+            index, expand ? QHeaderView::Interactive : QHeaderView::Fixed);
+    }
     placing_ = false;
 }
 
 int RecordPanel::WidthOf(int column) const {
-    const int kept = grid_.Columns()[static_cast<std::size_t>(column)].width;
-    if (kept > 0) return kept;
     const QFontMetrics metrics = view_->fontMetrics();
     int width = view_->horizontalHeader()->sectionSizeHint(column) + kCellMargin;
     for (int row = 0; row < std::min(grid_.RowCount(), kRowsForWidth); ++row)
@@ -173,6 +206,7 @@ int RecordPanel::ChosenRow() const {
 }
 
 bool RecordPanel::eventFilter(QObject* receiver, QEvent* event) {
+    if (receiver == view_->viewport() && event->type() == QEvent::Resize) PlaceColumns();
     if (event->type() != QEvent::KeyPress) return false;
     const int key = static_cast<QKeyEvent*>(event)->key();
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -194,7 +228,11 @@ bool RecordPanel::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 void RecordPanel::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::FontChange) FitRows();
+    if (event->type() == QEvent::FontChange) {
+        FitRows();
+        MeasureColumns();
+        PlaceColumns();
+    }
     QWidget::changeEvent(event);
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "authoring/table_grid.h"
+#include "ide/column_widths.h"
 #include "platform/timers.h"
 
 class QLabel;
@@ -51,7 +52,8 @@ class RecordPanel final : public QWidget {
 
   private:
     void FitRows();
-    void FitColumns();
+    void MeasureColumns();
+    void PlaceColumns();
     int WidthOf(int column) const;
     void ShowOrder();
     void ShowCount();
@@ -60,7 +62,8 @@ class RecordPanel final : public QWidget {
     RecordEvents events_;
     platform::Alarm resized_;
     int resizedColumn_ = -1;
-    bool placing_ = false;  ///< the panel moves columns and rows itself
+    std::vector<ColumnWish> wishes_;  ///< of the columns
+    bool placing_ = false;            ///< the panel moves columns and rows itself
     GridModel* model_;
     QTableView* view_;
     QLineEdit* filter_;

@@ -3,6 +3,7 @@
 #include <QTreeWidgetItemIterator>
 
 #include "ide/icons.h"
+#include "ide/pane_focus.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -48,6 +49,11 @@ void TreePanel::Show(const std::vector<authoring::TreeNode>& nodes, int chosen) 
         break;
     }
     filling_ = false;
+}
+
+void TreePanel::initViewItemOption(QStyleOptionViewItem* option) const {
+    QTreeWidget::initViewItemOption(option);
+    ShowWhetherFocused(*this, *option);
 }
 
 void TreePanel::Fill(const std::vector<authoring::TreeNode>& nodes) {

@@ -20,6 +20,9 @@ class TreePanel final : public QTreeWidget {
     /// Shows these nodes, unless they are shown already, with the one at a position chosen.
     void Show(const std::vector<authoring::TreeNode>& nodes, int chosen);
 
+  protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
+
   private:
     void Fill(const std::vector<authoring::TreeNode>& nodes);
 

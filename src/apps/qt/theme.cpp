@@ -22,6 +22,8 @@ QPalette LightPalette() {
     palette.setColor(QPalette::ToolTipText, QColor(0x1d, 0x1f, 0x21));
     palette.setColor(QPalette::Highlight, QColor(0x1f, 0x5f, 0xbf));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xd3, 0xdd, 0xea));
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(0x1d, 0x1f, 0x21));
     palette.setColor(QPalette::Link, QColor(0x1f, 0x5f, 0xbf));
     palette.setColor(QPalette::PlaceholderText, QColor(0x66, 0x69, 0x6c));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -41,6 +43,8 @@ QPalette DarkPalette() {
     palette.setColor(QPalette::ToolTipText, QColor(0xe2, 0xe3, 0xe5));
     palette.setColor(QPalette::Highlight, QColor(0x34, 0x75, 0xd1));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x3a, 0x47, 0x59));
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(0xe2, 0xe3, 0xe5));
     palette.setColor(QPalette::Link, QColor(0x7a, 0xb0, 0xf5));
     palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9d, 0xa2));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
@@ -220,6 +222,43 @@ TEST(MainWindow, EnterOnARowOpensItsScreen) {
         opened.Press(Qt::Key_Return);
         EXPECT_TRUE(shown) << node;
     }
+}
+
+TEST(MainWindow, LongTextsNeedNoScrollingSideways) {
+    OpenedWindow opened;
+    opened.Open(GameBuilder().Message(0, std::string(400, 'x')).Location(0, std::string(400, 'y'), ""));
+    auto& grid = opened.Part<QTableView>("Grid");
+    for (const char* node : {"Messages", "Locations"}) {
+        opened.ChooseNode(node);
+        for (const int width : {1080, 600}) {
+            opened.Window().resize(width, 500);
+            QApplication::processEvents();
+            EXPECT_EQ(grid.horizontalScrollBar()->maximum(), 0) << node << " " << width;
+        }
+    }
+}
+
+TEST(MainWindow, WidthsThatTheAuthorGaveAreKept) {
+    OpenedWindow opened;
+    opened.Open(Game().Word("AARDVARK", 70, 2));
+    opened.ChooseNode("Vocabulary");
+    auto& grid = opened.Part<QTableView>("Grid");
+    grid.horizontalHeader()->resizeSection(1, 222);
+    opened.timers.Advance(std::chrono::seconds(1));
+    opened.ChooseNode("Messages");
+    opened.ChooseNode("Vocabulary");
+    EXPECT_EQ(grid.columnWidth(1), 222);
+    opened.Restart();
+    EXPECT_EQ(opened.Part<QTableView>("Grid").columnWidth(1), 222);
+}
+
+TEST(MainWindow, ColumnsThatAreNotKeptCannotBeWidened) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Vocabulary");
+    const QHeaderView& header = *opened.Part<QTableView>("Grid").horizontalHeader();
+    EXPECT_EQ(header.sectionResizeMode(0), QHeaderView::Fixed);
+    EXPECT_EQ(header.sectionResizeMode(1), QHeaderView::Interactive);
 }
 
 TEST(MainWindow, F1TellsAboutTheTableInView) {
