@@ -6,7 +6,7 @@
 #include <QToolBar>
 #include <array>
 
-#include "ide/icons.h"
+#include "qt/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -30,7 +30,7 @@ QString ButtonText(std::string_view text) {
 
 CommandActions::CommandActions(QWidget* window, Run run) : QObject(window) {
     for (const CommandEntry& entry : authoring::AllCommands()) {
-        auto* action = new QAction(IconOf(entry.icon), qt::ToQt(entry.text), this);
+        auto* action = new QAction(qt::IconOf(entry.icon), qt::ToQt(entry.text), this);
         action->setObjectName(qt::ToQt(entry.key));
         action->setIconText(ButtonText(entry.text));
         action->setCheckable(entry.use == CommandEntry::Use::Switch);

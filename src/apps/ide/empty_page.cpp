@@ -5,7 +5,7 @@
 #include <QResizeEvent>
 #include <QVBoxLayout>
 
-#include "ide/icons.h"
+#include "qt/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -29,7 +29,7 @@ QCommandLinkButton* LinkButton(const QString& name, const char* icon, const QStr
                                const QString& about) {
     auto* button = new QCommandLinkButton(text, about);
     button->setObjectName(name);
-    button->setIcon(IconOf(icon));
+    button->setIcon(qt::IconOf(icon));
     button->setIconSize(kIconSize);
     button->setAccessibleName(QString(text).remove('&'));
     button->setAccessibleDescription(about);

@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QToolButton>
 
-#include "ide/icons.h"
+#include "qt/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -26,7 +26,7 @@ FindBar::FindBar(Events events, QWidget* parent)
     const auto button = [this](const char* name, const char* icon, const QString& text) {
         auto* made = new QToolButton;
         made->setObjectName(name);
-        made->setIcon(IconOf(icon));
+        made->setIcon(qt::IconOf(icon));
         made->setToolTip(text);
         made->setAccessibleName(text);
         made->setAutoRaise(true);

@@ -62,6 +62,7 @@ ImportDialog::ImportDialog(frmSrcImport& screen, platform::Dialogs& dialogs, QWi
     setObjectName("frmSrcImport");
     setWindowTitle(qt::ToQt(screen.Title()));
     setProperty("helpPage", "frmsrcimport.html");
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(10);

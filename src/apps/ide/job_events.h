@@ -7,7 +7,7 @@
 namespace fabula::ide {
 
 /// Lets the windows be drawn and used during long work, so that it can be cancelled. For work in a modal
-/// dialog only, which keeps all other windows out.
+/// dialog only, which keeps the author out of the adventure.
 class JobEvents final : public platform::EventPump {
   public:
     JobEvents() { sinceLast_.start(); }

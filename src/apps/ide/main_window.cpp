@@ -25,8 +25,6 @@
 #include "ide/find_bar.h"
 #include "ide/game_test.h"
 #include "ide/help_pages.h"
-#include "ide/help_window.h"
-#include "ide/icons.h"
 #include "ide/import_dialog.h"
 #include "ide/job_events.h"
 #include "ide/record_panel.h"
@@ -36,6 +34,7 @@
 #include "ide/tree_panel.h"
 #include "ide/verify_dialog.h"
 #include "player/about_adventure.h"
+#include "qt/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -61,7 +60,7 @@ MainWindow::MainWindow(const Services& services, Places places)
     : services_(services),
       places_(std::move(places)),
       ide_({services.dialogs, services.settings, services.clock, services.events}, places_.desk),
-      helpRequest_([this](const HelpTopic& topic) { ShowHelp(topic); }),
+      help_(places_.help, services.dialogs),
       pages_(new QStackedWidget),
       empty_(new EmptyPage({.create = [this] { Do(Command::New); },
                             .open = [this] { Do(Command::Open); },
@@ -111,7 +110,7 @@ MainWindow::MainWindow(const Services& services, Places places)
     setObjectName("frmVelIDEMain");
     setMinimumSize(kSmallestSize);
     setAcceptDrops(true);
-    setProperty(kHelpPage, kMainWindowPage);
+    setProperty(qt::kHelpPage, kMainWindowPage);
     MakePages();
     MakeMenus();
     MakeStatusBar();
@@ -256,7 +255,7 @@ void MainWindow::ShowChanges() {
         shownView_ = ide_.Grid().View();
         records_->ShowTable(qt::ToQt(ide_.Caption()));
         find_->ShowFields(ide_.Finder());
-        tree_->setProperty(kHelpPage, HelpPageOf(shownView_));
+        tree_->setProperty(qt::kHelpPage, HelpPageOf(shownView_));
     }
     shownFile_ = file;
     records_->ChooseRow(ide_.CurrentRow());
@@ -296,7 +295,7 @@ void MainWindow::ShowTables() {
     const authoring::TreeNode* current = ide_.CurrentNode();
     for (const authoring::TreeNode& node : ide_.Tree()) {
         if (node.group) continue;
-        QAction* action = tables_->addAction(IconOf(node.icon), qt::ToQt(node.name).replace('&', "&&"),
+        QAction* action = tables_->addAction(qt::IconOf(node.icon), qt::ToQt(node.name).replace('&', "&&"),
                                              this, [this, sort = node.sort] {
                                                  ide_.ShowNode(sort);
                                                  ShowChanges();
@@ -376,9 +375,9 @@ void MainWindow::Do(Command command) {
         case Command::FindNext:
             return FindOrAsk(command);
         case Command::Help:
-            return ShowHelp(TopicOf(QApplication::focusWidget()));
+            return help_.Show(qt::TopicOf(QApplication::focusWidget()));
         case Command::HelpContents:
-            return ShowHelp({});
+            return help_.Show({});
         case Command::AboutAdventure:
             return AboutAdventure();
         case Command::About:
@@ -474,18 +473,16 @@ void MainWindow::StartTest() {
     const auto run = ide_.BeginRunTest();
     if (!run) return ShowChanges();
     try {
-        test_ = std::make_unique<GameTest>(*run,
-                                           player::WindowServices{.timers = services_.timers,
-                                                                  .dialogs = services_.dialogs,
-                                                                  .sound = services_.sound,
-                                                                  .random = services_.random,
-                                                                  .settings = services_.store,
-                                                                  .dataFolder = places_.playersData,
-                                                                  .help =
-                                                                      [this](const char* page) {
-                                                                          ShowHelp({page, {}});
-                                                                      }},
-                                           services_.clock.Now(), [this] { EndTest(); });
+        test_ = std::make_unique<GameTest>(
+            *run,
+            player::WindowServices{.timers = services_.timers,
+                                   .dialogs = services_.dialogs,
+                                   .sound = services_.sound,
+                                   .random = services_.random,
+                                   .settings = services_.store,
+                                   .dataFolder = places_.playersData,
+                                   .help = [this](const qt::HelpTopic& topic) { help_.Show(topic); }},
+            services_.clock.Now(), [this] { EndTest(); });
         hide();
     } catch (const Error& error) {
         services_.dialogs.Tell(error.what(), "Error");
@@ -500,13 +497,6 @@ void MainWindow::EndTest() {
     activateWindow();
     ShowChanges();
     records_->Grid().setFocus();
-}
-
-void MainWindow::ShowHelp(const HelpTopic& topic) {
-    if (!HelpBook(places_.help).Exists())
-        return services_.dialogs.Tell("The pages of the help were not found.", "Help");
-    if (!help_) help_ = std::make_unique<HelpWindow>(places_.help);
-    help_->Show(topic);
 }
 
 void MainWindow::AboutAdventure() {
@@ -526,7 +516,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     services_.store.setValue(kGeometry, saveGeometry());
     services_.store.setValue(kSplitter, desk_->saveState());
     ide_.Form_Unload();
-    help_.reset();
+    help_.Close();
     event->accept();
     QApplication::quit();
 }

@@ -10,9 +10,9 @@
 #include "authoring/frm_verify.h"
 #include "engine/sound_player.h"
 #include "ide/examples.h"
-#include "ide/help_request.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
+#include "qt/help.h"
 #include "qt/theme.h"
 
 class QActionGroup;
@@ -27,7 +27,6 @@ class CommandActions;
 class EmptyPage;
 class FindBar;
 class GameTest;
-class HelpWindow;
 class RecordPanel;
 class TreePanel;
 
@@ -69,7 +68,7 @@ class MainWindow final : public QMainWindow {
     /// The game being tested; nullptr when there is none.
     const GameTest* Test() const { return test_.get(); }
     /// The window of the help; nullptr before it was asked for.
-    HelpWindow* Help() { return help_.get(); }
+    qt::Help& Help() { return help_; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -104,7 +103,6 @@ class MainWindow final : public QMainWindow {
     void ImportOrExport(authoring::JobMode mode);
     void StartTest();
     void EndTest();
-    void ShowHelp(const HelpTopic& topic);
     void AboutAdventure();
     void About();
     void AskEntryMenu(const QPoint& place);
@@ -113,11 +111,10 @@ class MainWindow final : public QMainWindow {
     Services services_;
     Places places_;
     authoring::frmVelIDEMain ide_;
-    HelpRequest helpRequest_;
+    qt::Help help_;
     authoring::TableView shownView_;
     std::filesystem::path shownFile_;  ///< whose table it is; empty for none
     std::unique_ptr<GameTest> test_;
-    std::unique_ptr<HelpWindow> help_;
 
     QStackedWidget* pages_;
     EmptyPage* empty_;

@@ -10,8 +10,8 @@
 #include <QVBoxLayout>
 
 #include "ide/grid_model.h"
-#include "ide/icons.h"
 #include "ide/pane_focus.h"
+#include "qt/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -51,7 +51,7 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
     filter_->setAccessibleName(tr("Filter rows"));
     filter_->setPlaceholderText(tr("Filter rows"));
     filter_->setClearButtonEnabled(true);
-    filter_->addAction(IconOf("filter"), QLineEdit::LeadingPosition);
+    filter_->addAction(qt::IconOf("filter"), QLineEdit::LeadingPosition);
     filter_->installEventFilter(this);
     count_->setObjectName("Count");
     count_->setAccessibleName(tr("Rows shown"));

@@ -48,6 +48,7 @@ SetupDialog::SetupDialog(frmSetup& setup, QWidget* parent)
     setObjectName("frmSetup");
     setWindowTitle(qt::ToQt(frmSetup::kTitle));
     setProperty("helpPage", "frmsetup.html");
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(6);

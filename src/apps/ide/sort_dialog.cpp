@@ -9,8 +9,8 @@
 #include <algorithm>
 
 #include "ide/help_pages.h"
-#include "ide/help_request.h"
 #include "platform/error.h"
+#include "qt/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -19,7 +19,7 @@ SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs
     : QDialog(parent), screen_(screen), dialogs_(dialogs), lines_(new QGridLayout) {
     setObjectName("mnuEditSort");
     setWindowTitle(qt::ToQt(screen.Caption()));
-    setProperty(kHelpPage, kMainWindowPage);
+    setProperty(qt::kHelpPage, kMainWindowPage);
     lines_->setColumnStretch(1, 1);
     lines_->setHorizontalSpacing(8);
 

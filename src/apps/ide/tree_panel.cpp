@@ -2,8 +2,8 @@
 
 #include <QTreeWidgetItemIterator>
 
-#include "ide/icons.h"
 #include "ide/pane_focus.h"
+#include "qt/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -26,7 +26,7 @@ TreePanel::TreePanel(Choose choose, QWidget* parent) : QTreeWidget(parent), choo
     // A folder shows by its icon whether it is open.
     const auto showOpen = [](QTreeWidgetItem* item) {
         const auto name = item->data(0, item->isExpanded() ? kOpenIcon : kIcon).toString();
-        item->setIcon(0, IconOf(qt::FromQt(name)));
+        item->setIcon(0, qt::IconOf(qt::FromQt(name)));
     };
     QObject::connect(this, &QTreeWidget::itemExpanded, this, showOpen);
     QObject::connect(this, &QTreeWidget::itemCollapsed, this, showOpen);
@@ -61,7 +61,7 @@ void TreePanel::Fill(const std::vector<authoring::TreeNode>& nodes) {
     std::vector<QTreeWidgetItem*> items;
     for (const authoring::TreeNode& node : nodes) {
         auto* item = new QTreeWidgetItem({qt::ToQt(node.name)});
-        item->setIcon(0, IconOf(node.icon));
+        item->setIcon(0, qt::IconOf(node.icon));
         item->setData(0, kSort, node.sort);
         item->setData(0, kIcon, qt::ToQt(node.icon));
         item->setData(0, kOpenIcon, qt::ToQt(node.selectedIcon));

@@ -30,6 +30,7 @@ VerifyDialog::VerifyDialog(authoring::frmVerify& verify, platform::Dialogs& dial
     setObjectName("frmVerify");
     setWindowTitle(qt::ToQt(verify.Title()));
     setProperty("helpPage", "frmverify.html");
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
     lines_->setObjectName("txtStatus");
     lines_->setAccessibleName(tr("Status"));
     lines_->setWordWrap(true);

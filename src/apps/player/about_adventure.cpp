@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "qt/game_image.h"
+#include "qt/help_request.h"
 #include "qt/strings.h"
 #include "store/adventure.h"
 #include "store/game_path.h"
@@ -109,6 +110,8 @@ frmAboutAdventure frmAboutAdventure::Of(store::Adventure* adventure) {
 void ShowAbout(const frmAboutAdventure& about, QWidget* parent) {
     QDialog dialog(parent);
     dialog.setObjectName("frmAboutAdventure");
+    dialog.setProperty(qt::kHelpPage, "frmaboutadventure.html");
+    dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
     dialog.setWindowTitle("About this Adventure");
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);

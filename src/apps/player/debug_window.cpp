@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "qt/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::player {
@@ -20,6 +21,7 @@ DebugWindow::DebugWindow(engine::Engine& engine, std::function<void()> help, QWi
       follow_(new QCheckBox(tr("&Follow the game"))) {
     setWindowTitle(qt::ToQt(engine::frmDebug::kCaption));
     setObjectName("frmDebug");
+    setProperty(qt::kHelpPage, "frmdebug.html");
     input_->setObjectName("txtInput");
     input_->setAccessibleName(tr("Request"));
     input_->setPlaceholderText(tr("F38, O3, S, C, =5 or H"));

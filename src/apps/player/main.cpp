@@ -5,7 +5,9 @@
 
 #include "midi/player.h"
 #include "platform/random_source.h"
+#include "platform/user_folders.h"
 #include "player/vel_eng_main.h"
+#include "qt/help.h"
 #include "qt/qt_dialogs.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
@@ -34,7 +36,16 @@ int main(int argc, char** argv) {
     midi::Player sound(timers, midi::OpenOutput,
                        [&shown](const std::string& sentence) { shown->Tell(sentence); });
 
-    player::frmVelEngMain window({timers, dialogs, sound, random, settings, dataFolder});
+    const auto folders =
+        platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());
+    qt::Help help(platform::FindFile(folders, "help/contents.html").value_or(""), dialogs);
+    player::frmVelEngMain window({.timers = timers,
+                                  .dialogs = dialogs,
+                                  .sound = sound,
+                                  .random = random,
+                                  .settings = settings,
+                                  .dataFolder = dataFolder,
+                                  .help = [&help](const qt::HelpTopic& topic) { help.Show(topic); }});
     shown = &window;
     dialogs.SetParent(&window);
     const QStringList files = arguments.positionalArguments();

@@ -59,6 +59,7 @@ frmVelEngMain::frmVelEngMain(const WindowServices& services)
                               .notice = [this](const std::string& sentence) { Tell(sentence); }})),
       status_(new StatusPane) {
     setObjectName("frmVelEngMain");
+    setProperty(qt::kHelpPage, "frmvelengmain.html");
     setWindowTitle("Fabula");
     setMinimumSize(kSmallestSize);
     setAcceptDrops(true);
@@ -115,6 +116,11 @@ void frmVelEngMain::MakeActions() {
     transcript_ = AddAction("Transcript", tr("&Transcript…"), tr("Transcript"),
                             [this] { ToggleTranscript(transcript_->isChecked()); });
     transcript_->setCheckable(true);
+    help_ = AddAction("Help", tr("&Help"), tr("Help"),
+                      [this] { services_.help(qt::TopicOf(QApplication::focusWidget())); });
+    help_->setShortcut(Qt::Key_F1);
+    helpContents_ =
+        AddAction("HelpContents", tr("&Contents"), tr("Contents"), [this] { services_.help({}); });
     about_ = AddAction("About", tr("About this &Adventure"), tr("About"), [this] { About(); });
     debug_ = AddAction("Debug", tr("&Debug"), tr("Debug"), [this] { Debug_Click(); });
     debug_->setEnabled(services_.testRun);
@@ -151,6 +157,8 @@ void frmVelEngMain::MakeMenus() {
     MakeThemeMenu(*view);
     view->addActions({flashing_, plainText_});
     QMenu* help = menuBar()->addMenu(tr("&Help"));
+    help->addActions({help_, helpContents_});
+    help->addSeparator();
     help->addAction(about_);
 }
 
@@ -319,10 +327,7 @@ void frmVelEngMain::About() {
 
 void frmVelEngMain::Debug_Click() {
     if (!session_) return;
-    const auto help = [this] {
-        if (services_.help) return services_.help("frmdebug.html");
-        Tell("The help comes with the authoring tool.");
-    };
+    const auto help = [this] { services_.help(qt::TopicOf(debugWindow_.get())); };
     if (!debugWindow_) debugWindow_ = std::make_unique<DebugWindow>(session_->Engine(), help, this);
     debugWindow_->show();
     debugWindow_->activateWindow();

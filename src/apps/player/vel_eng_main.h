@@ -11,6 +11,7 @@
 #include "platform/random_source.h"
 #include "platform/timers.h"
 #include "player/player_settings.h"
+#include "qt/help_request.h"
 
 class QAction;
 class QLabel;
@@ -38,8 +39,8 @@ struct WindowServices {
     bool testRun = false;
     engine::TraceSink* trace = nullptr;  ///< where the steps of the game go; nullptr: nowhere
     engine::Options options{};
-    /// Shows a page of the help; empty when there is no help at hand.
-    std::function<void(const char* page)> help{};
+    /// Shows the help on a topic.
+    std::function<void(const qt::HelpTopic& topic)> help = [](const qt::HelpTopic&) {};
 };
 
 /// The engine's window: one adventure, loaded and played.
@@ -111,6 +112,8 @@ class frmVelEngMain final : public QMainWindow {
     QAction* sound_;
     QAction* startAgain_;
     QAction* transcript_;
+    QAction* help_;
+    QAction* helpContents_;
     QAction* about_;
     QAction* debug_;
     QAction* exit_;

@@ -20,9 +20,9 @@
 
 #include "authoring/commands.h"
 #include "ide/game_test.h"
-#include "ide/help_window.h"
-#include "ide/icons.h"
 #include "ide/opened_window.h"
+#include "qt/help_window.h"
+#include "qt/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::test {
@@ -268,8 +268,8 @@ TEST(MainWindow, F1TellsAboutTheTableInView) {
     opened.Part<QTableView>("Grid").setFocus();
     opened.help.Write("vocabulary.html", "<title>Vocabulary</title>");
     opened.Action("Help").trigger();
-    ASSERT_NE(opened.Window().Help(), nullptr);
-    EXPECT_EQ(opened.Window().Help()->Page(), "vocabulary.html");
+    ASSERT_NE(opened.Window().Help().Window(), nullptr);
+    EXPECT_EQ(opened.Window().Help().Window()->Page(), "vocabulary.html");
 }
 
 TEST(MainWindow, F1OnACatalogueRowGoesToItsOwnPage) {
@@ -319,7 +319,7 @@ TEST(MainWindow, ExampleIsCopiedForTheAuthorBeforeItIsOpened) {
 TEST(MainWindow, EveryCommandHasAnIconAndATip) {
     OpenedWindow opened;
     for (const authoring::CommandEntry& entry : authoring::AllCommands()) {
-        EXPECT_TRUE(ide::HasIcon(entry.icon)) << entry.icon;
+        EXPECT_TRUE(qt::HasIcon(entry.icon)) << entry.icon;
         EXPECT_FALSE(opened.Action(std::string(entry.key).c_str()).toolTip().isEmpty()) << entry.key;
     }
 }

@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "ide/help_folder.h"
 #include "ide/main_window.h"
 #include "platform/manual_timers.h"
 #include "platform/random_source.h"
 #include "platform/scripted_dialogs.h"
+#include "qt/help_folder.h"
 #include "qt/qt_settings.h"
 #include "support/game_builder.h"
 #include "support/temp_folder.h"

@@ -20,7 +20,14 @@ PlayedWindow::~PlayedWindow() = default;
 
 void PlayedWindow::Open() {
     window_ = std::make_unique<player::frmVelEngMain>(
-        player::WindowServices{timers, dialogs, sound, random, settings_, folder / "data", testRun_});
+        player::WindowServices{.timers = timers,
+                               .dialogs = dialogs,
+                               .sound = sound,
+                               .random = random,
+                               .settings = settings_,
+                               .dataFolder = folder / "data",
+                               .testRun = testRun_,
+                               .help = [this](const qt::HelpTopic& topic) { asked = topic; }});
     window_->show();
     QApplication::setActiveWindow(window_.get());
     told_ = 0;

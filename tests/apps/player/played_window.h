@@ -3,6 +3,7 @@
 #include <QSettings>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/manual_timers.h"
@@ -43,6 +44,8 @@ class PlayedWindow {
     QAction& Action(const char* name) const;
 
     player::frmVelEngMain& Window() const { return *window_; }
+
+    std::optional<qt::HelpTopic> asked;  ///< the topic of the help that was asked for last
 
     TempFolder folder;
     platform::ManualTimers timers;

@@ -323,6 +323,35 @@ TEST(WindowTestRun, DebugShowsAndChangesTheState) {
     EXPECT_EQ(result->text(), "Invalid option");
 }
 
+TEST(WindowHelp, F1TellsAboutTheGameWindowAndIsNoKeyOfTheGame) {
+    PlayedWindow played;
+    played.Load(Game());
+    played.Said();
+    played.Press(Qt::Key_F1);
+    ASSERT_TRUE(played.asked);
+    EXPECT_EQ(played.asked->page, "frmvelengmain.html");
+    EXPECT_TRUE(played.asked->anchors.contains("frmvelengmain"));
+    EXPECT_EQ(played.Said(), "");
+}
+
+TEST(WindowHelp, ContentsAreThereWithoutAGame) {
+    PlayedWindow played;
+    played.Action("HelpContents").trigger();
+    ASSERT_TRUE(played.asked);
+    EXPECT_EQ(played.asked->page, "");
+}
+
+TEST(WindowHelp, HInDiagnosticsTellsAboutThem) {
+    PlayedWindow played(true);
+    played.Load(Game());
+    played.Action("Debug").trigger();
+    auto* input = played.Window().findChild<QWidget*>("frmDebug")->findChild<QLineEdit*>("txtInput");
+    QTest::keyClicks(input, "h");
+    QTest::keyClick(input, Qt::Key_Return);
+    ASSERT_TRUE(played.asked);
+    EXPECT_EQ(played.asked->page, "frmdebug.html");
+}
+
 TEST(WindowTestRun, DebugFollowsTheGame) {
     PlayedWindow played(true);
     played.Load(Game().Entry(0, "DO", "_", "LET 0 7 DONE"));

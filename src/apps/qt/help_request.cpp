@@ -1,11 +1,11 @@
-#include "ide/help_request.h"
+#include "qt/help_request.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QVariant>
 #include <QWidget>
 
-namespace fabula::ide {
+namespace fabula::qt {
 
 HelpTopic TopicOf(const QWidget* control) {
     HelpTopic topic;
@@ -31,4 +31,4 @@ bool HelpRequest::eventFilter(QObject* receiver, QEvent* event) {
     return true;
 }
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt

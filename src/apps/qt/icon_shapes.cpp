@@ -1,11 +1,11 @@
-#include "ide/icon_shapes.h"
+#include "qt/icon_shapes.h"
 
 #include <array>
 #include <vector>
 
 #include "qt/strings.h"
 
-namespace fabula::ide {
+namespace fabula::qt {
 namespace {
 
 constexpr std::string_view kPage = "M 6 3 L 14 3 L 19 8 L 19 21 L 6 21 Z M 14 3 L 14 8 L 19 8";
@@ -156,7 +156,7 @@ const IconShape* FindIconShape(std::string_view name) {
 
 QPainterPath PathOf(std::string_view shape) {
     QPainterPath path;
-    const QStringList words = qt::ToQt(shape).split(' ', Qt::SkipEmptyParts);
+    const QStringList words = ToQt(shape).split(' ', Qt::SkipEmptyParts);
     for (qsizetype word = 0; word < words.size();) {
         const QChar letter = words[word++].front();
         std::vector<double> numbers;
@@ -167,4 +167,4 @@ QPainterPath PathOf(std::string_view shape) {
     return path;
 }
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt

@@ -1,13 +1,13 @@
-#include "ide/icons.h"
+#include "qt/icons.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 
-#include "ide/icon_shapes.h"
+#include "qt/icon_shapes.h"
 
-namespace fabula::ide {
+namespace fabula::qt {
 namespace {
 
 constexpr double kGrid = 24.0;
@@ -72,4 +72,4 @@ bool HasIcon(std::string_view name) {
     return FindIconShape(name) != nullptr;
 }
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt

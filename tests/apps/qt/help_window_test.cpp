@@ -1,4 +1,4 @@
-#include "ide/help_window.h"
+#include "qt/help_window.h"
 
 #include <QAction>
 #include <QApplication>
@@ -12,14 +12,16 @@
 
 #include <gtest/gtest.h>
 
-#include "ide/help_folder.h"
+#include "platform/scripted_dialogs.h"
+#include "qt/help.h"
+#include "qt/help_folder.h"
 
 namespace fabula::test {
 namespace {
 
 TEST(HelpWindow, ShowsTheContentsWithoutATopic) {
     const HelpFolder folder;
-    ide::HelpWindow window(folder.Contents());
+    qt::HelpWindow window(folder.Contents());
     window.Show({});
     EXPECT_EQ(window.Page(), "contents.html");
     EXPECT_EQ(window.findChild<QTreeWidget*>("Contents")->topLevelItemCount(), 3);
@@ -27,7 +29,7 @@ TEST(HelpWindow, ShowsTheContentsWithoutATopic) {
 
 TEST(HelpWindow, ShowsThePageOfATopicAtItsAnchor) {
     const HelpFolder folder;
-    ide::HelpWindow window(folder.Contents());
+    qt::HelpWindow window(folder.Contents());
     window.Show({"frmvellocation.html", {"txtexits"}});
     EXPECT_EQ(window.Page(), "frmvellocation.html");
     EXPECT_EQ(window.findChild<QTextBrowser*>("Page")->source().fragment(), "txtexits");
@@ -36,14 +38,14 @@ TEST(HelpWindow, ShowsThePageOfATopicAtItsAnchor) {
 
 TEST(HelpWindow, ShowsTheContentsForAPageThatIsMissing) {
     const HelpFolder folder;
-    ide::HelpWindow window(folder.Contents());
+    qt::HelpWindow window(folder.Contents());
     window.Show({"missing.html", {}});
     EXPECT_EQ(window.Page(), "contents.html");
 }
 
 TEST(HelpWindow, LineOfTheContentsOpensItsPage) {
     const HelpFolder folder;
-    ide::HelpWindow window(folder.Contents());
+    qt::HelpWindow window(folder.Contents());
     window.Show({});
     auto* contents = window.findChild<QTreeWidget*>("Contents");
     contents->setCurrentItem(contents->topLevelItem(1)->child(1));
@@ -54,7 +56,7 @@ TEST(HelpWindow, LineOfTheContentsOpensItsPage) {
 
 TEST(HelpWindow, SearchListsPagesAndEnterOpensTheFirst) {
     const HelpFolder folder;
-    ide::HelpWindow window(folder.Contents());
+    qt::HelpWindow window(folder.Contents());
     window.Show({});
     auto* search = window.findChild<QLineEdit*>("Search");
     QTest::keyClicks(search, "lamp");
@@ -65,17 +67,17 @@ TEST(HelpWindow, SearchListsPagesAndEnterOpensTheFirst) {
 
 TEST(HelpWindow, SearchWithoutAHitSaysSo) {
     const HelpFolder folder;
-    ide::HelpWindow window(folder.Contents());
+    qt::HelpWindow window(folder.Contents());
     QTest::keyClicks(window.findChild<QLineEdit*>("Search"), "zebra");
     EXPECT_EQ(window.findChild<QListWidget*>("Hits")->item(0)->text(), "No page has these words.");
 }
 
 TEST(HelpRequest, F1AsksForThePageOfTheDialogAtTheControlWithTheKeyboard) {
-    ide::HelpTopic asked;
-    const ide::HelpRequest request([&](const ide::HelpTopic& topic) { asked = topic; });
+    qt::HelpTopic asked;
+    const qt::HelpRequest request([&](const qt::HelpTopic& topic) { asked = topic; });
     QDialog dialog;
     dialog.setObjectName("LocationDialog");
-    dialog.setProperty(ide::kHelpPage, "frmvellocation.html");
+    dialog.setProperty(qt::kHelpPage, "frmvellocation.html");
     QLineEdit exits(&dialog);
     exits.setObjectName("txtExits");
     QTest::keyClick(&exits, Qt::Key_F1);
@@ -84,24 +86,49 @@ TEST(HelpRequest, F1AsksForThePageOfTheDialogAtTheControlWithTheKeyboard) {
 }
 
 TEST(HelpRequest, PageOfAControlCountsBeforeThatOfItsDialog) {
-    ide::HelpTopic asked;
-    const ide::HelpRequest request([&](const ide::HelpTopic& topic) { asked = topic; });
+    qt::HelpTopic asked;
+    const qt::HelpRequest request([&](const qt::HelpTopic& topic) { asked = topic; });
     QDialog dialog;
-    dialog.setProperty(ide::kHelpPage, "frmvelcondact.html");
+    dialog.setProperty(qt::kHelpPage, "frmvelcondact.html");
     QLineEdit entry(&dialog);
-    entry.setProperty(ide::kHelpPage, "at.htm");
+    entry.setProperty(qt::kHelpPage, "at.htm");
     QTest::keyClick(&entry, Qt::Key_F1);
     EXPECT_EQ(asked.page, "at.htm");
 }
 
 TEST(HelpRequest, OtherKeysGoToTheirControl) {
     bool asked = false;
-    const ide::HelpRequest request([&](const ide::HelpTopic&) { asked = true; });
+    const qt::HelpRequest request([&](const qt::HelpTopic&) { asked = true; });
     QLineEdit line;
     QTest::keyClicks(&line, "a");
     QTest::keyClick(&line, Qt::Key_F1, Qt::ShiftModifier);
     EXPECT_FALSE(asked);
     EXPECT_EQ(line.text(), "a");
+}
+
+TEST(Help, OpensItsWindowWhenItIsFirstAskedFor) {
+    const HelpFolder folder;
+    platform::ScriptedDialogs dialogs;
+    qt::Help help(folder.Contents(), dialogs);
+    EXPECT_EQ(help.Window(), nullptr);
+    QLineEdit word;
+    word.setProperty(qt::kHelpPage, "frmvelvocabulary.html");
+    QTest::keyClick(&word, Qt::Key_F1);
+    ASSERT_NE(help.Window(), nullptr);
+    EXPECT_EQ(help.Window()->Page(), "frmvelvocabulary.html");
+    EXPECT_FALSE(help.Window()->testAttribute(Qt::WA_QuitOnClose));
+    help.Close();
+    EXPECT_EQ(help.Window(), nullptr);
+}
+
+TEST(Help, WithoutItsPagesSaysSo) {
+    platform::ScriptedDialogs dialogs;
+    qt::Help help({}, dialogs);
+    help.Show({});
+    ASSERT_EQ(dialogs.Boxes().size(), 1U);
+    EXPECT_EQ(dialogs.Boxes()[0].text, "The pages of the help were not found.");
+    EXPECT_EQ(dialogs.Boxes()[0].title, "Help");
+    EXPECT_EQ(help.Window(), nullptr);
 }
 
 }  // namespace

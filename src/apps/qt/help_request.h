@@ -7,7 +7,7 @@
 
 class QWidget;
 
-namespace fabula::ide {
+namespace fabula::qt {
 
 /// The property by which a dialog, or a control in it, names its page of the help: "frmvellocation.html".
 /// The nearest one above the control that has the keyboard counts.
@@ -39,4 +39,4 @@ class HelpRequest final : public QObject {
     Show show_;
 };
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt

@@ -3,7 +3,7 @@
 #include <QPainterPath>
 #include <string_view>
 
-namespace fabula::ide {
+namespace fabula::qt {
 
 /// What an icon is drawn of, on a square of 24 by 24. Both parts are lines of one width; the accent is
 /// drawn in the colour of links. In the language of shapes blanks part letters and numbers:
@@ -28,4 +28,4 @@ const IconShape* FindIconShape(std::string_view name);
 /// The path that the words of a shape draw.
 QPainterPath PathOf(std::string_view shape);
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt

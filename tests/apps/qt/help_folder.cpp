@@ -1,4 +1,4 @@
-#include "ide/help_folder.h"
+#include "qt/help_folder.h"
 
 #include <fstream>
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <vector>
 
-namespace fabula::ide {
+namespace fabula::qt {
 
 /// The pages of the help: HTML files in one folder, and a page of contents that lists them.
 class HelpBook {
@@ -58,4 +58,4 @@ class HelpBook {
     std::vector<Page> pages_;
 };
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt

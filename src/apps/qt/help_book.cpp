@@ -1,4 +1,4 @@
-#include "ide/help_book.h"
+#include "qt/help_book.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,7 +10,7 @@
 
 #include "qt/strings.h"
 
-namespace fabula::ide {
+namespace fabula::qt {
 namespace {
 
 /// No page of the help is longer; more of a file is not read.
@@ -20,7 +20,7 @@ constexpr qsizetype kExcerptLength = 140;
 
 QString ReadFile(const std::filesystem::path& path) {
     if (path.empty()) return {};
-    QFile file(qt::PathToQt(path));
+    QFile file(PathToQt(path));
     if (!file.open(QIODevice::ReadOnly)) return {};
     return QString::fromUtf8(file.read(kLongestPage));
 }
@@ -45,7 +45,7 @@ QString ExcerptOf(const QString& text, const QString& word) {
 }  // namespace
 
 HelpBook::HelpBook(const std::filesystem::path& contents)
-    : folder_(contents.parent_path()), contents_(qt::PathToQt(contents.filename())) {}
+    : folder_(contents.parent_path()), contents_(PathToQt(contents.filename())) {}
 
 bool HelpBook::Exists() const {
     return !FileOf(contents_).empty();
@@ -54,7 +54,7 @@ bool HelpBook::Exists() const {
 std::filesystem::path HelpBook::FileOf(const QString& page) const {
     const QString name = page.section('#', 0, 0);
     if (name.isEmpty() || name.contains('/') || name.contains('\\') || name == "..") return {};
-    const auto file = folder_ / qt::PathFromQt(name);
+    const auto file = folder_ / PathFromQt(name);
     std::error_code missing;  // what can't be looked at counts as missing
     return std::filesystem::is_regular_file(file, missing) ? file : std::filesystem::path();
 }
@@ -84,11 +84,11 @@ std::vector<HelpBook::Entry> HelpBook::Contents() const {
 void HelpBook::ReadPages() {
     if (read_) return;
     read_ = true;
-    const QDir folder(qt::PathToQt(folder_));
+    const QDir folder(PathToQt(folder_));
     for (const QString& name : folder.entryList({"*.html", "*.htm"}, QDir::Files, QDir::Name)) {
         if (name == contents_) continue;
         QTextDocument document;
-        document.setHtml(ReadFile(folder_ / qt::PathFromQt(name)));
+        document.setHtml(ReadFile(folder_ / PathFromQt(name)));
         const QString title = document.metaInformation(QTextDocument::DocumentTitle);
         pages_.push_back({name, title.isEmpty() ? name : title, document.toPlainText()});
     }
@@ -136,4 +136,4 @@ QString HelpBook::AnchorIn(const QString& page, const QStringList& anchors) cons
     return {};
 }
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt

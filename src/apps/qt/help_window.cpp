@@ -1,4 +1,4 @@
-#include "ide/help_window.h"
+#include "qt/help_window.h"
 
 #include <QAction>
 #include <QEvent>
@@ -14,10 +14,10 @@
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
-#include "ide/icons.h"
+#include "qt/icons.h"
 #include "qt/strings.h"
 
-namespace fabula::ide {
+namespace fabula::qt {
 namespace {
 
 constexpr QSize kDefaultSize(900, 640);
@@ -34,6 +34,8 @@ HelpWindow::HelpWindow(const std::filesystem::path& contents)
       page_(new QTextBrowser) {
     setObjectName("HelpWindow");
     setWindowTitle(tr("Fabula Help"));
+    // A program does not go on for its help alone.
+    setAttribute(Qt::WA_QuitOnClose, false);
     setWindowIcon(IconOf("help"));
     search_->setObjectName("Search");
     search_->setAccessibleName(tr("Search the help"));
@@ -47,7 +49,7 @@ HelpWindow::HelpWindow(const std::filesystem::path& contents)
     hits_->setWordWrap(true);
     page_->setObjectName("Page");
     page_->setAccessibleName(tr("Page"));
-    page_->setSearchPaths({qt::PathToQt(book_.Folder())});
+    page_->setSearchPaths({PathToQt(book_.Folder())});
     page_->document()->setDocumentMargin(20);
 
     lists_->addWidget(contents_);
@@ -152,7 +154,7 @@ void HelpWindow::Search(const QString& words) {
 
 void HelpWindow::Open(const QString& page) {
     if (book_.FileOf(page).empty()) return;
-    const QUrl url = QUrl::fromLocalFile(qt::PathToQt(book_.FileOf(page)));
+    const QUrl url = QUrl::fromLocalFile(PathToQt(book_.FileOf(page)));
     QUrl place = url;
     place.setFragment(page.section('#', 1));
     if (page_->source() != place) page_->setSource(place);
@@ -196,4 +198,4 @@ void HelpWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
 }
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt

@@ -2,8 +2,8 @@
 
 #include <QMainWindow>
 
-#include "ide/help_book.h"
-#include "ide/help_request.h"
+#include "qt/help_book.h"
+#include "qt/help_request.h"
 
 class QLineEdit;
 class QListWidget;
@@ -11,7 +11,7 @@ class QStackedWidget;
 class QTextBrowser;
 class QTreeWidget;
 
-namespace fabula::ide {
+namespace fabula::qt {
 
 /// The help in a window of its own: contents and search at the left, the page at the right. Its controls
 /// are found by their names: "Contents", "Search", "Hits", "Page".
@@ -44,4 +44,4 @@ class HelpWindow final : public QMainWindow {
     QTextBrowser* page_;
 };
 
-}  // namespace fabula::ide
+}  // namespace fabula::qt
