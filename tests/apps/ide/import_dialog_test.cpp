@@ -169,7 +169,7 @@ TEST_F(ImportDialogTest, ExportShowsTheCheckAndGoesOnWhenItHasPassed) {
     Button("cmdImport").click();
     EXPECT_TRUE(std::filesystem::exists(In("game.ext")));
     EXPECT_TRUE(Status().contains("No Errors Found"));
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(QApplication::activeModalWidget(), dialog_.get());
 }
 
 TEST_F(ImportDialogTest, ExportWaitsUntilTheFaultsOfTheCheckWereRead) {
