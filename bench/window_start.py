@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Measures how long FabulaEngine takes from its start to the first prompt on the screen, and its memory.
+"""Measures how long a program takes from its start to its first whole picture on the screen, and its memory.
 
-usage: bench/window_start.py GAME.fbd [RUNS] [FOLDER], the folder of a build; build/default without one
+usage: bench/window_start.py GAME.fbd [RUNS] [FOLDER] [PROGRAM], the folder of a build (build/default without one), and
+FabulaEngine, whose first picture is the one at the prompt, or FabulaIDE, which opens a copy of the game
 
 A virtual screen (Xvfb) keeps its picture in a file. The first run tells what the screen looks like at the prompt,
 with the caret and without it; the time of a run is from starting the process until the screen looks like that. The
@@ -9,6 +10,7 @@ first run is not counted: the files are then in memory. Needs Xvfb.
 """
 import mmap
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -35,9 +37,9 @@ class Screen:
         self.server.wait()
 
 
-def start(built, game, screen, home):
+def start(program, game, screen, home):
     settings = {name: home for name in ("HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR")}
-    return subprocess.Popen([os.path.join(built, "bin/FabulaEngine"), game], stderr=subprocess.DEVNULL,
+    return subprocess.Popen([program, game], stderr=subprocess.DEVNULL,
                             env={**os.environ, **settings, "DISPLAY": screen.display, "QT_QPA_PLATFORM": "xcb"})
 
 
@@ -46,8 +48,8 @@ def stop(player):
     player.wait()
 
 
-def prompts(player, screen):
-    """The screen at the prompt, at times half a blink of the caret apart."""
+def whole_pictures(player, screen):
+    """The screen when all is drawn, at times half a blink of the caret apart."""
     time.sleep(3)
     looks = set()
     for _ in range(30):
@@ -68,20 +70,28 @@ def main():
     game = os.path.abspath(sys.argv[1])
     runs = int(sys.argv[2]) if len(sys.argv) > 2 else 11
     built = sys.argv[3] if len(sys.argv) > 3 else "build/default"
+    name = sys.argv[4] if len(sys.argv) > 4 else "FabulaEngine"
+    program = os.path.join(built, "bin", name)
     with tempfile.TemporaryDirectory() as folder:
         screen = Screen(folder)
         try:
             empty = screen.look()
-            at_prompt = prompts(start(built, game, screen, folder), screen)
+            if name == "FabulaIDE":
+                game = shutil.copy(game, folder)
+                # The first start of a version tells of it in a box.
+                first = start(program, game, screen, folder)
+                time.sleep(3)
+                stop(first)
+            whole = whole_pictures(start(program, game, screen, folder), screen)
             times, memory = [], []
             for _ in range(runs):
                 while screen.look() != empty:
                     time.sleep(0.01)
                 begun = time.monotonic()
-                player = start(built, game, screen, folder)
-                while screen.look() not in at_prompt:
+                player = start(program, game, screen, folder)
+                while screen.look() not in whole:
                     if time.monotonic() - begun > 30:
-                        sys.exit("The prompt does not come.")
+                        sys.exit("The picture does not come.")
                     time.sleep(0.001)
                 times.append((time.monotonic() - begun) * 1000)
                 memory.append(peak_memory(player))
@@ -89,7 +99,7 @@ def main():
         finally:
             screen.close()
     times.sort()
-    print(f"start to first prompt: middle {times[len(times) // 2]:.0f} ms, least {times[0]:.0f} ms, "
+    print(f"start to the whole picture: middle {times[len(times) // 2]:.0f} ms, least {times[0]:.0f} ms, "
           f"most {times[-1]:.0f} ms, of {runs} runs")
     print(f"most memory: {max(memory):.1f} MiB")
     print(f"load of the machine: {os.getloadavg()[0]:.1f}")

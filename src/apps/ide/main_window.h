@@ -67,7 +67,6 @@ class MainWindow final : public QMainWindow {
     authoring::frmVelIDEMain& Logic() { return ide_; }
     /// The game being tested; nullptr when there is none.
     const GameTest* Test() const { return test_.get(); }
-    /// The window of the help; nullptr before it was asked for.
     qt::Help& Help() { return help_; }
 
   protected:

@@ -24,6 +24,7 @@
 #include "qt/help_window.h"
 #include "qt/icons.h"
 #include "qt/strings.h"
+#include "support/raw_database.h"
 
 namespace fabula::test {
 namespace {
@@ -63,6 +64,27 @@ TEST(MainWindow, FilterShowsTheRowsThatContainItsText) {
     EXPECT_EQ(opened.Part<QLabel>("Count").text(), "2 of 3");
     opened.Press(Qt::Key_Escape);
     EXPECT_EQ(opened.Part<QTableView>("Grid").model()->rowCount(), 3);
+}
+
+TEST(MainWindow, ScrollingReadsNothingFromTheFileAgain) {
+    OpenedWindow opened;
+    GameBuilder game;
+    for (int number = 0; number < 900; ++number)
+        game.Message(number, "as it was");
+    opened.Open(game);
+    opened.ChooseNode("Messages");
+    QApplication::setActiveWindow(&opened.Window());
+    auto& grid = opened.Part<QTableView>("Grid");
+    grid.setFocus();
+    RawDatabase(opened.folder / "game.fbd").Run("UPDATE Messages SET msgmsg = 'changed since'");
+
+    while (grid.currentIndex().row() < 899)
+        opened.Press(Qt::Key_PageDown);
+    const int text = grid.model()->columnCount() - 1;
+    EXPECT_EQ(opened.Cell(899, text), "as it was");
+    opened.ChooseNode("Locations");
+    opened.ChooseNode("Messages");
+    EXPECT_EQ(opened.Cell(899, text), "changed since");
 }
 
 TEST(MainWindow, FindGoesToTheNextRowThatHasTheText) {
