@@ -43,9 +43,9 @@ QString HelpPageOf(const authoring::TableView& view) {
     return kMainWindowPage;
 }
 
-HelpTopic HelpTopicOf(const authoring::TableGrid& grid, int row) {
+qt::HelpTopic HelpTopicOf(const authoring::TableGrid& grid, int row) {
     const TableNum table = grid.View().table;
-    HelpTopic topic{HelpPageOf(grid.View()), {}};
+    qt::HelpTopic topic{HelpPageOf(grid.View()), {}};
     if (row < 0 || row >= grid.RowCount()) return topic;
     const QString own = qt::ToQt(text::ToText(grid.ValueOf(row, authoring::kHelpPageField))).trimmed();
     if (!own.isEmpty()) topic.page = own;

@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "authoring/table_grid.h"
-#include "ide/help_request.h"
+#include "qt/help_request.h"
 
 namespace fabula::ide {
 
@@ -14,6 +14,6 @@ QString HelpPageOf(const authoring::TableView& view);
 
 /// The topic of a row of the grid: of a condition, an action or a drawing command its own page, of a flag
 /// or a system message its place on the page of its table. Without such a row (-1) that of the view.
-HelpTopic HelpTopicOf(const authoring::TableGrid& grid, int row);
+qt::HelpTopic HelpTopicOf(const authoring::TableGrid& grid, int row);
 
 }  // namespace fabula::ide

@@ -34,6 +34,7 @@
 #include "ide/tree_panel.h"
 #include "ide/verify_dialog.h"
 #include "player/about_adventure.h"
+#include "qt/help_book.h"
 #include "qt/icons.h"
 #include "qt/strings.h"
 
@@ -267,11 +268,11 @@ void MainWindow::ShowChanges() {
 }
 
 void MainWindow::ShowRow() {
-    HelpTopic topic = HelpTopicOf(ide_.Grid(), ide_.CurrentRow());
+    qt::HelpTopic topic = HelpTopicOf(ide_.Grid(), ide_.CurrentRow());
     // A file may name a page that the help does not have.
-    if (HelpBook(places_.help).FileOf(topic.page).empty()) topic.page = HelpPageOf(ide_.Grid().View());
-    records_->setProperty(kHelpPage, topic.page);
-    records_->setProperty(kHelpAnchor, topic.anchors.value(0));
+    if (qt::HelpBook(places_.help).FileOf(topic.page).empty()) topic.page = HelpPageOf(ide_.Grid().View());
+    records_->setProperty(qt::kHelpPage, topic.page);
+    records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
     ShowActions();
 }
 

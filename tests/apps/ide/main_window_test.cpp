@@ -304,7 +304,7 @@ TEST(MainWindow, F1OnACatalogueRowGoesToItsOwnPage) {
     opened.Press(Qt::Key_Down);
     EXPECT_EQ(opened.Logic().Grid().KeyOf(1), 102);
     opened.Press(Qt::Key_F1);
-    EXPECT_EQ(opened.Window().Help()->Page(), "notat.htm");
+    EXPECT_EQ(opened.Window().Help().Window()->Page(), "notat.htm");
 }
 
 TEST(MainWindow, F1OnACatalogueRowWithoutAPageGoesToThePageOfItsTable) {
@@ -314,7 +314,7 @@ TEST(MainWindow, F1OnACatalogueRowWithoutAPageGoesToThePageOfItsTable) {
     opened.ChooseNode("Conditions and Actions");
     opened.Part<QTableView>("Grid").setFocus();
     opened.Press(Qt::Key_F1);
-    EXPECT_EQ(opened.Window().Help()->Page(), "conditions.html");
+    EXPECT_EQ(opened.Window().Help().Window()->Page(), "conditions.html");
 }
 
 TEST(MainWindow, F1OnAFlagGoesToItsPlaceOnThePage) {
@@ -324,7 +324,7 @@ TEST(MainWindow, F1OnAFlagGoesToItsPlaceOnThePage) {
     opened.Part<QTableView>("Grid").setFocus();
     opened.Part<QTableView>("Grid").selectRow(10);
     opened.Press(Qt::Key_F1);
-    EXPECT_EQ(opened.Window().Help()->findChild<QTextBrowser*>()->source().fragment(), "f10");
+    EXPECT_EQ(opened.Window().Help().Window()->findChild<QTextBrowser*>()->source().fragment(), "f10");
 }
 
 TEST(MainWindow, ExampleIsCopiedForTheAuthorBeforeItIsOpened) {
