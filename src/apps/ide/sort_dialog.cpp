@@ -20,6 +20,7 @@ SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs
     setObjectName("mnuEditSort");
     setWindowTitle(qt::ToQt(screen.Caption()));
     setProperty(qt::kHelpPage, kMainWindowPage);
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
     lines_->setColumnStretch(1, 1);
     lines_->setHorizontalSpacing(8);
 

@@ -111,6 +111,11 @@ void VerifyDialog::ShowEnd() {
     progress_->setText(verify_.Passed() ? tr("The adventure has passed.")
                                         : tr("The adventure has not passed."));
     print_->setEnabled(true);
+    // The first entry at fault is at hand; without one the end is.
+    for (int row = 0; row < lines_->count(); ++row) {
+        if (authoring::frmVerify::EntryOf(qt::FromQt(lines_->item(row)->text())))
+            return lines_->setCurrentRow(row);
+    }
     lines_->scrollToBottom();
 }
 

@@ -96,6 +96,19 @@ TEST_F(VerifyDialogTest, ButtonGoesToTheEntryOfTheLine) {
     EXPECT_EQ(gone, 7);
 }
 
+TEST_F(VerifyDialogTest, EndsOnTheFirstEntryAtFaultToWhichEnterGoes) {
+    AddEntry(7, "FROB 3");
+    AddEntry(8, "FROB 4");
+    int gone = -1;
+    dialog_.goTo = [&](const frmVerify::Entry& entry) { gone = entry.canum; };
+    ShowAndRun();
+    EXPECT_EQ(Lines().currentRow(), 1);
+    EXPECT_TRUE(Button("cmdGoTo").isEnabled());
+    QTest::keyClick(&Lines(), Qt::Key_Return);
+    EXPECT_EQ(gone, 7);
+    EXPECT_FALSE(dialog_.isVisible());
+}
+
 TEST_F(VerifyDialogTest, WithoutAWayToEntriesThereIsNoButton) {
     ShowAndRun();
     EXPECT_FALSE(Button("cmdGoTo").isVisible());
