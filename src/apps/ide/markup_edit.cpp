@@ -211,6 +211,8 @@ void MarkupEdit::ShowPreview(const std::string& text) {
         end.insertText(QString(QChar(0x2026)), {});
     }
     end.endEditBlock();
+    // Its own cursor went with the text, and would be brought in sight.
+    preview_->moveCursor(QTextCursor::Start);
     preview_->verticalScrollBar()->setValue(scrolled);
 }
 

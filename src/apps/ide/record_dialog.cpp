@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kMargin = 16;
 constexpr int kGap = 28;  ///< between columns
-constexpr int kLettersOfAColumn = 64;
+constexpr int kLettersOfAColumn = 74;
 constexpr int kShortestList = 12;  ///< letters
 constexpr int kLinesToGrow = 6;    ///< more than a text field needs at least
 

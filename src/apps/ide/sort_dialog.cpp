@@ -14,6 +14,11 @@
 #include "qt/strings.h"
 
 namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+
+}  // namespace
 
 SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs, QWidget* parent)
     : QDialog(parent), screen_(screen), dialogs_(dialogs), lines_(new QGridLayout) {
@@ -41,18 +46,16 @@ SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs
     update->setDefault(true);
     auto* exit = add(tr("Exit"), "cmdExit");
 
+    // Before the buttons join the dialog, so that the keyboard comes to the lines first.
+    ShowLevels();
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(12);
     layout->addWidget(told);
     layout->addLayout(lines_);
     layout->addStretch();
     layout->addLayout(buttons);
-    ShowLevels();
     shown_.front().field->setFocus();
-    // The lines come before the buttons, whenever they were made.
-    setTabOrder(shown_.back().direction, plain);
-    setTabOrder(plain, update);
-    setTabOrder(update, exit);
 
     connect(plain, &QPushButton::clicked, this, [this] {
         screen_.cmdPlain();

@@ -11,6 +11,7 @@
 #include "ide/object_dialog.h"
 #include "ide/process_entry_dialog.h"
 #include "ide/setup_dialog.h"
+#include "ide/sort_dialog.h"
 #include "ide/text_dialog.h"
 #include "ide/verify_dialog.h"
 #include "ide/word_dialog.h"
@@ -116,6 +117,16 @@ Opened OpenImport(Desk& desk, authoring::JobMode mode) {
     return Keep<ide::ImportDialog>(std::make_shared<Parts>(desk, mode));
 }
 
+Opened OpenSort(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.session, TableNum::Vocabulary, "Vocabulary"), dialog(screen, of.dialogs) {}
+        authoring::SortScreen screen;
+        ide::SortDialog dialog;
+    };
+    return Keep<ide::SortDialog>(std::make_shared<Parts>(desk));
+}
+
 Opened OpenVerify(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
@@ -161,6 +172,7 @@ const std::vector<DialogStand>& EveryDialog() {
         {"Flag", "Flag 60", "cboFlgType",
          [](Desk& desk) { return OpenRecord<ide::FlagDialog, authoring::frmFlags>(desk, {.key = 60}); }},
         {"Colors", "Set Color for Paper", "lblColor3", OpenColors},
+        {"Sort", "Sort Vocabulary", "cboField1", OpenSort},
         {"Import", "Import of source file", "txtSource",
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Import); }},
         {"Export", "Export of Database", "txtSource",
