@@ -13,6 +13,7 @@
 #include <QTableWidget>
 #include <algorithm>
 
+#include "ide/picture_view.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -34,6 +35,13 @@ class ListDelegate final : public QStyledItemDelegate {
         QComboBox* list = make_(qt::FromQt(index.data().toString()));
         list->setParent(parent);
         return list;
+    }
+    /// The cell may be narrower than what is edited in it.
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex&) const override {
+        QRect place = option.rect;
+        place.setWidth(std::max(place.width(), editor->sizeHint().width()));
+        editor->setGeometry(place);
     }
     void setEditorData(QWidget*, const QModelIndex&) const override {}  // made with its text
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
@@ -82,7 +90,8 @@ LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* paren
       word_(NewWordList(screen.cboExit)),
       location_(NewLocationList(screen.cboLoc)),
       exits_(new QLineEdit),
-      picture_(new QLineEdit) {
+      picture_(new QLineEdit),
+      pictureView_(new PictureView) {
     shortDescription_->setMaxLength(static_cast<int>(authoring::frmVelLocation::kLongestShortDesc));
     AddControl("&Short description:", shortDescription_, "txtShortDesc");
     form_->addRow(description_);
@@ -100,7 +109,12 @@ LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* paren
 void LocationDialog::AddExits() {
     rows_->setHorizontalHeaderLabels({"Exit", "To", "Leads to"});
     rows_->verticalHeader()->hide();
+    const int letter = rows_->fontMetrics().averageCharWidth();
+    rows_->setColumnWidth(kWord, kShortestWord * letter * 3 / 2);
+    rows_->setColumnWidth(kTo, kShortestWord * letter);
     rows_->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
+    rows_->setWordWrap(false);
+    rows_->verticalHeader()->setDefaultSectionSize(rows_->fontMetrics().height() * 3 / 2);
     rows_->setSelectionBehavior(QAbstractItemView::SelectRows);
     rows_->setTabKeyNavigation(false);
     rows_->setMinimumHeight(6 * rows_->fontMetrics().lineSpacing());
@@ -144,23 +158,35 @@ void LocationDialog::AddPicture() {
     auto* clear = NewButton("&No picture", "cmdClearPic");
     picture_->setReadOnly(true);
     AddControl("&Picture:", picture_, "txtPicture");
-    auto* buttons = new QHBoxLayout;
+    auto* buttons = new QVBoxLayout;
     buttons->setSpacing(kGap);
     buttons->addWidget(choose);
     buttons->addWidget(clear);
     buttons->addStretch();
-    form_->addRow("", buttons);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * kGap);
+    row->addLayout(buttons);
+    row->addWidget(pictureView_, 1, Qt::AlignTop);
+    row->addStretch();
+    form_->addRow("", row);
     connect(choose, &QPushButton::clicked, this, [this] {
         Guarded([this] {
             screen_.cmdGetPic();
             return true;
         });
-        picture_->setText(qt::ToQt(screen_.txtPicture));
+        ShowPicture();
     });
     connect(clear, &QPushButton::clicked, this, [this] {
         screen_.cmdClearPic();
-        picture_->clear();
+        ShowPicture();
     });
+}
+
+void LocationDialog::ShowPicture() {
+    // Each check shows the fields again; a picture is read when it is another one.
+    if (picture_->text() == qt::ToQt(screen_.txtPicture)) return;
+    picture_->setText(qt::ToQt(screen_.txtPicture));
+    pictureView_->Show(screen_.Adventure().GameDir(), screen_.txtPicture);
 }
 
 void LocationDialog::AddNeighbours() {
@@ -170,6 +196,7 @@ void LocationDialog::AddNeighbours() {
             QString("%1 - %2, by %3").arg(from.location).arg(qt::ToQt(from.name), qt::ToQt(from.word)));
     }
     if (screen_.LeadsHere().empty()) list->addItem("No exit leads here.");
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
     list->setMaximumHeight(5 * list->fontMetrics().lineSpacing());
     AddControl("Leads &here:", list, "lstLeadsHere");
@@ -237,7 +264,7 @@ void LocationDialog::Read() {
 
 void LocationDialog::Show() {
     exits_->setText(qt::ToQt(screen_.txtExits));
-    picture_->setText(qt::ToQt(screen_.txtPicture));
+    ShowPicture();
     ShowRows();
 }
 

@@ -10,6 +10,8 @@ class QTableWidget;
 
 namespace fabula::ide {
 
+class PictureView;
+
 /// The dialog of a location. Its exits stand in one line, and in rows that are kept in step with it.
 class LocationDialog final : public RecordDialog {
   public:
@@ -25,6 +27,7 @@ class LocationDialog final : public RecordDialog {
     void AddPicture();
     void AddNeighbours();
     void ReadRows();
+    void ShowPicture();
     void ShowRows();
     void RemoveRow();
     void AddExit();
@@ -38,6 +41,7 @@ class LocationDialog final : public RecordDialog {
     QComboBox* location_;
     QLineEdit* exits_;
     QLineEdit* picture_;
+    PictureView* pictureView_;
     bool showing_ = false;  ///< the rows are being filled and not edited
 };
 

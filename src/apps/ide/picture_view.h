@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QLabel>
+#include <filesystem>
+#include <string_view>
+
+namespace fabula::ide {
+
+/// Shows the picture of a record in small, or says in words why it can't. Without a picture it takes no
+/// room. The file is read within the limits of qt/game_image.h, and only in the game's folder.
+class PictureView final : public QLabel {
+  public:
+    explicit PictureView(QWidget* parent = nullptr);
+
+    /// `stored` is the path as the record holds it; "" for none.
+    void Show(const std::filesystem::path& gameFolder, std::string_view stored);
+};
+
+}  // namespace fabula::ide
