@@ -10,6 +10,7 @@ namespace {
 
 constexpr double kRound = 4;
 constexpr double kFocusWidth = 2;
+constexpr double kRingWidth = 1.4;  ///< a thinner one fades between the points of the screen
 
 // How much of the text's colour is in an outline. Half of it has a contrast of three to one in both themes.
 constexpr double kOutline = 0.5;
@@ -111,7 +112,7 @@ void DrawDot(QPainter& painter, const QStyleOption& option) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(colours.fill);
-    painter.setPen(colours.line);
+    painter.setPen(QPen(colours.line, kRingWidth));
     painter.drawEllipse(ring);
     if (set) {
         painter.setBrush(colours.sign);
