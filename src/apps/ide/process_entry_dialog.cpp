@@ -7,6 +7,7 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -132,6 +133,7 @@ QLayout* ProcessEntryDialog::BuildCondAct() {
     for (const authoring::ListItem& item : screen_.cboCA.items)
         condAct_->addItem(qt::ToQt(item.text));
     condAct_->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    condAct_->installEventFilter(this);
     connect(condAct_, &QComboBox::activated, this, [this] { CheckLeft(condAct_); });
     auto* label = new QLabel(tr("&Cond/Act"), this);
     label->setBuddy(condAct_);
@@ -250,6 +252,21 @@ bool ProcessEntryDialog::Leave(const QWidget* field) {
     if (field == param1_.box) return screen_.LeaveCboParam1();
     if (field == param2_.box) return screen_.LeaveCboParam2();
     if (field == line_) return screen_.LeaveTxtAllCAs();
+    return true;
+}
+
+/// Keys and the wheel would step through the closed list of names, and each step would choose one.
+bool ProcessEntryDialog::eventFilter(QObject* receiver, QEvent* event) {
+    if (receiver != condAct_ || condAct_->view()->isVisible()) return false;
+    if (event->type() == QEvent::Wheel) {
+        event->ignore();
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_PageUp && key != Qt::Key_PageDown)
+        return false;
+    condAct_->showPopup();
     return true;
 }
 

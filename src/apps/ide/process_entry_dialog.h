@@ -21,6 +21,9 @@ class ProcessEntryDialog final : public QDialog {
     explicit ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget* parent = nullptr);
     ~ProcessEntryDialog() override;
 
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
   private:
     struct ParameterWidgets {
         QLabel* label;

@@ -1,11 +1,13 @@
 #include "ide/process_entry_dialog.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QWheelEvent>
 #include <memory>
 #include <string>
 
@@ -180,6 +182,28 @@ TEST_F(ProcessEntryDialogTest, AParameterIsNamedByItsKindWhileItIsOpen) {
 TEST_F(ProcessEntryDialogTest, ACondactWithoutParametersIsAddedWhenItIsChosen) {
     Choose("cboCA", "DONE");
     EXPECT_EQ(Line(), "DONE");
+}
+
+TEST_F(ProcessEntryDialogTest, KeysInTheListOfNamesChooseNothingBeforeEnter) {
+    auto* condAct = Find<QComboBox>("cboCA");
+    condAct->setFocus();
+    condAct->setCurrentIndex(condAct->findText("DESC"));
+    QTest::keyClick(condAct, Qt::Key_Down);
+    EXPECT_TRUE(condAct->view()->isVisible());
+    EXPECT_EQ(condAct->currentText(), "DESC");
+    EXPECT_EQ(Line(), "");
+    QTest::keyClick(condAct->view(), Qt::Key_Return);
+    EXPECT_EQ(Line(), "DESC");
+}
+
+TEST_F(ProcessEntryDialogTest, TheWheelOverTheListOfNamesChoosesNothing) {
+    auto* condAct = Find<QComboBox>("cboCA");
+    condAct->setCurrentIndex(condAct->findText("DESC"));
+    QWheelEvent turn({5, 5}, condAct->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {},
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(condAct, &turn);
+    EXPECT_EQ(condAct->currentText(), "DESC");
+    EXPECT_EQ(Line(), "");
 }
 
 TEST_F(ProcessEntryDialogTest, ANewProcessThatIsNotConfirmedKeepsTheFocus) {
