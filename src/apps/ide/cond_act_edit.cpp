@@ -7,6 +7,7 @@
 #include <QStringListModel>
 
 #include "qt/strings.h"
+#include "text/utf8.h"
 
 namespace fabula::ide {
 namespace {
@@ -17,6 +18,13 @@ constexpr QColor kRedOnDark(0xff, 0x80, 0x80);
 
 int PositionOf(const std::string& line, std::size_t byte) {
     return static_cast<int>(qt::ToQt(std::string_view(line).substr(0, byte)).size());
+}
+
+/// "Fault at 7: Invalid number for parameter 1"; a message that names the token itself needs no place.
+QString SentenceOf(const authoring::MarkedFault& fault, const std::string& line) {
+    const std::string token = line.substr(fault.begin, fault.end - fault.begin);
+    const bool named = text::EqualsNoCase(std::string_view(fault.message).substr(0, token.size()), token);
+    return qt::ToQt((named ? "Fault: " : "Fault at " + token + ": ") + fault.message);
 }
 
 }  // namespace
@@ -62,9 +70,7 @@ void CondActEdit::Tell() {
     }
     setExtraSelections(marks);
     onMeaning(qt::ToQt(help_.Meaning(typed.line, typed.cursor)));
-    onFault(
-        fault ? qt::ToQt(typed.line.substr(fault->begin, fault->end - fault->begin) + ": " + fault->message)
-              : QString());
+    onFault(fault ? SentenceOf(*fault, typed.line) : QString());
 }
 
 /// While typing, names are offered from their first letter and parameters from the blank before them.

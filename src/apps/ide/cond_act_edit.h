@@ -23,10 +23,9 @@ class CondActEdit final : public QPlainTextEdit {
     /// The text of what is offered at the moment; none while the list is closed.
     QStringList Offered() const;
 
-    /// Called when the meaning changes, and when the fault does: its token and what is wrong with it, ""
-    /// when there is none.
+    /// Called when the meaning changes, and when the sentence about the fault does: "" when there is none.
     std::function<void(const QString& meaning)> onMeaning = [](const QString&) {};
-    std::function<void(const QString& message)> onFault = [](const QString&) {};
+    std::function<void(const QString& fault)> onFault = [](const QString&) {};
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -139,17 +139,17 @@ QLayout* ProcessEntryDialog::BuildCondAct() {
     label->setBuddy(condAct_);
     param1_ = MakeParameter("cboParam1");
     param2_ = MakeParameter("cboParam2");
-    auto* add = new QPushButton(tr("&Add to Conditions/Actions"), this);
-    add->setObjectName("cmdAdd");
-    add->setAutoDefault(false);
-    connect(add, &QPushButton::clicked, this, &ProcessEntryDialog::Add);
+    add_ = new QPushButton(tr("&Add to Conditions/Actions"), this);
+    add_->setObjectName("cmdAdd");
+    add_->setAutoDefault(false);
+    connect(add_, &QPushButton::clicked, this, &ProcessEntryDialog::Add);
     grid->addWidget(label, 0, 0);
     grid->addWidget(param1_.label, 0, 1);
     grid->addWidget(param2_.label, 0, 2);
     grid->addWidget(condAct_, 1, 0);
     grid->addWidget(param1_.box, 1, 1);
     grid->addWidget(param2_.box, 1, 2);
-    grid->addWidget(add, 2, 1, 1, 2, Qt::AlignRight);
+    grid->addWidget(add_, 2, 1, 1, 2, Qt::AlignRight);
     grid->setColumnStretch(0, 2);
     grid->setColumnStretch(1, 3);
     grid->setColumnStretch(2, 3);
@@ -168,9 +168,7 @@ QLayout* ProcessEntryDialog::BuildLine() {
     meaning_ = MakeNote("lblMeaning", tr("Meaning"), this);
     fault_ = MakeNote("lblFault", tr("Fault"), this);
     line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
-    line_->onFault = [this](const QString& message) {
-        fault_->setText(message.isEmpty() ? QString() : tr("Fault at ") + message);
-    };
+    line_->onFault = [this](const QString& fault) { fault_->setText(fault); };
     auto* help = new QLabel(qt::ToQt(authoring::frmVelCondAct::kHelpLine), this);
     help->setWordWrap(true);
     column->addWidget(label);
@@ -285,6 +283,8 @@ void ProcessEntryDialog::CheckLeft(QWidget* field) {
     const bool fits = Guarded([this, field] { return Leave(field); });
     Show();
     if (!fits) field->setFocus();
+    // The fields of parameters open only now: Tab has passed over them.
+    if (fits && field == condAct_ && add_->hasFocus() && param1_.box->isEnabled()) param1_.box->setFocus();
     checking_ = false;
 }
 

@@ -57,6 +57,7 @@ class ProcessEntryDialog final : public QDialog {
     CondActEdit* line_ = nullptr;
     QLabel* meaning_ = nullptr;
     QLabel* fault_ = nullptr;
+    QPushButton* add_ = nullptr;
     QPushButton* exit_ = nullptr;
     QMetaObject::Connection focus_;
     bool checking_ = false;

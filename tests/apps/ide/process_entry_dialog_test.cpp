@@ -120,6 +120,11 @@ TEST_F(ProcessEntryDialogTest, MarksTheFirstFaultAtItsToken) {
     EXPECT_EQ(marks.front().format.underlineStyle(), QTextCharFormat::WaveUnderline);
 }
 
+TEST_F(ProcessEntryDialogTest, AFaultThatNamesItsTokenIsToldWithoutItsPlace) {
+    Type("frob 1 ");
+    EXPECT_EQ(Label("lblFault"), "Fault: FROB is an invalid Condition/Action");
+}
+
 TEST_F(ProcessEntryDialogTest, AFaultKeepsTheFocusInTheLine) {
     Type("XYZ");
     Find<QLineEdit>("txtType")->setFocus();
@@ -177,6 +182,15 @@ TEST_F(ProcessEntryDialogTest, AParameterIsNamedByItsKindWhileItIsOpen) {
     EXPECT_EQ(Caption("cboParam1"), "Object");
     EXPECT_EQ(Caption("cboParam2"), "Location");
     EXPECT_EQ(Find<QComboBox>("cboParam1")->itemText(0), "0  a brass lamp");
+}
+
+TEST_F(ProcessEntryDialogTest, TabGoesFromANameToTheParameterThatItOpens) {
+    auto* condAct = Find<QComboBox>("cboCA");
+    condAct->setFocus();
+    condAct->setEditText("message");
+    QTest::keyClick(condAct, Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_EQ(QApplication::focusWidget(), Find<QComboBox>("cboParam1"));
 }
 
 TEST_F(ProcessEntryDialogTest, ACondactWithoutParametersIsAddedWhenItIsChosen) {
