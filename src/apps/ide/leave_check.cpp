@@ -2,12 +2,11 @@
 
 #include <QFocusEvent>
 #include <QWidget>
-#include <algorithm>
 
 namespace fabula::ide {
 
-LeaveCheck::LeaveCheck(QWidget& control, std::vector<const QWidget*> unchecked, std::function<void()> left)
-    : QObject(&control), control_(control), unchecked_(std::move(unchecked)), left_(std::move(left)) {
+LeaveCheck::LeaveCheck(QWidget& control, std::function<void()> left)
+    : QObject(&control), control_(control), left_(std::move(left)) {
     control.installEventFilter(this);
 }
 
@@ -23,8 +22,8 @@ bool LeaveCheck::eventFilter(QObject*, QEvent* event) {
 
 void LeaveCheck::LookWhereItWent() {
     const QWidget* now = control_.window()->focusWidget();
-    if (!control_.isVisible() || now == &control_ || std::ranges::find(unchecked_, now) != unchecked_.end())
-        return;
+    if (!control_.isVisible() || !now || now == &control_) return;
+    if (now->objectName() == "cmdUpdate" || now->objectName() == "cmdExit") return;
     left_();
 }
 

@@ -82,8 +82,9 @@ void Name(QWidget* control, const char* name, const char* accessibleName) {
 LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* parent)
     : RecordDialog(screen, QString("Location %1").arg(screen.Key().key), "frmvellocation.html", parent),
       screen_(screen),
-      shortDescription_(new QLineEdit(qt::ToQt(screen.txtShortDesc))),
       editing_(screen.Adventure()),
+      shortDescription_(new MarkupEdit(
+          editing_, {"&Short description:", "Converted Short Description", true, true}, "txtShortDesc")),
       description_(new MarkupEdit(editing_, {"&Description:", "Converted Location Description", true},
                                   "txtDEscription")),
       rows_(new QTableWidget(0, kColumns)),
@@ -92,15 +93,15 @@ LocationDialog::LocationDialog(authoring::frmVelLocation& screen, QWidget* paren
       exits_(new QLineEdit),
       picture_(new QLineEdit),
       pictureView_(new PictureView) {
-    shortDescription_->setMaxLength(static_cast<int>(authoring::frmVelLocation::kLongestShortDesc));
-    AddControl("&Short description:", shortDescription_, "txtShortDesc");
+    form_->addRow(shortDescription_);
     form_->addRow(description_);
+    shortDescription_->SetText(screen_.txtShortDesc);
     description_->SetText(screen_.txtDEscription);
     BeginColumn();
     AddExits();
     AddPicture();
     AddNeighbours();
-    CheckOnLeave(shortDescription_, [this] { return screen_.LeaveTxtShortDesc(); });
+    CheckOnLeave(&shortDescription_->Field(), [this] { return screen_.LeaveTxtShortDesc(); });
     CheckOnLeave(&description_->Field(), [this] { return screen_.LeaveTxtDEscription(); });
     CheckOnLeave(exits_, [this] { return screen_.LeaveTxtExits(); });
     Show();
@@ -257,7 +258,7 @@ void LocationDialog::ShowRows() {
 }
 
 void LocationDialog::Read() {
-    screen_.txtShortDesc = qt::FromQt(shortDescription_->text());
+    screen_.txtShortDesc = shortDescription_->Text();
     screen_.txtDEscription = description_->Text();
     screen_.txtExits = qt::FromQt(exits_->text());
 }

@@ -33,8 +33,8 @@ class LocationDialog final : public RecordDialog {
     void AddExit();
 
     authoring::frmVelLocation& screen_;
-    QLineEdit* shortDescription_;
     authoring::TextEditing editing_;
+    MarkupEdit* shortDescription_;
     MarkupEdit* description_;
     QTableWidget* rows_;
     QComboBox* word_;

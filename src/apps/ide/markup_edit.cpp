@@ -20,6 +20,7 @@ namespace fabula::ide {
 namespace {
 
 constexpr int kMargin = 8;
+constexpr int kShortLines = 2;
 /// Below this a text in the game's colours can't be told from the paper, and the windows' own serve.
 constexpr double kVisible = 1.5;
 
@@ -75,15 +76,15 @@ MarkupEdit::MarkupEdit(const authoring::TextEditing& editing, const MarkupEditKi
     field_->setAccessibleName(QString(kind.name).remove('&').remove(':'));
     field_->setTabChangesFocus(true);
     setFocusProxy(field_);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setSizePolicy(QSizePolicy::Expanding, kind.isShort ? QSizePolicy::Fixed : QSizePolicy::Expanding);
     new MarkupHighlighter(field_->document(), editing.Tags(), kind.tagsAllowed);
 
     counts_ = new QLabel;
-    counts_->setObjectName("lblCounts");
+    counts_->setObjectName(kind.isShort ? "lblShortCounts" : "lblCounts");
     counts_->setAccessibleName(tr("Length of the text"));
     counts_->setForegroundRole(QPalette::PlaceholderText);
     fault_ = new QLabel;
-    fault_->setObjectName("lblFault");
+    fault_->setObjectName(kind.isShort ? "lblShortFault" : "lblFault");
     fault_->setAccessibleName(tr("First fault of the text"));
     fault_->setWordWrap(true);
     fault_->setTextFormat(Qt::PlainText);
@@ -111,7 +112,7 @@ MarkupEdit::MarkupEdit(const authoring::TextEditing& editing, const MarkupEditKi
 
 void MarkupEdit::AddPreview(const QString& caption) {
     preview_ = new Modest<QTextEdit>;
-    preview_->setObjectName("txtPreview");
+    preview_->setObjectName(kind_.isShort ? "txtShortPreview" : "txtPreview");
     preview_->setAccessibleName(caption);
     preview_->setAccessibleDescription(
         tr("The text as the game shows it. What flashes is underlined with "
@@ -128,6 +129,13 @@ void MarkupEdit::AddPreview(const QString& caption) {
     column->addWidget(preview_, 2);
 }
 
+/// Room for so many lines at least, in a short editor for two.
+void MarkupEdit::SetLines(QAbstractScrollArea& area, const QFontMetrics& metrics, int lines) const {
+    const int around = 2 * (kMargin + area.frameWidth());
+    if (kind_.isShort) return area.setFixedHeight(metrics.lineSpacing() * kShortLines + around);
+    area.setMinimumHeight(metrics.lineSpacing() * lines + around);
+}
+
 void MarkupEdit::FitLook() {
     const QFont font = GameFont(editing_.FontName(), editing_.FontPoints() * Zoom(editing_));
     const QFontMetrics metrics(font);
@@ -140,7 +148,7 @@ void MarkupEdit::FitLook() {
     }
     field_->setPalette(game);
     field_->setFont(font);
-    field_->setMinimumHeight(metrics.lineSpacing() * 4 + 2 * kMargin);
+    SetLines(*field_, metrics, 4);
     field_->document()->setDocumentMargin(kMargin);
     auto* highlighter = field_->document()->findChild<QSyntaxHighlighter*>();
     static_cast<MarkupHighlighter*>(highlighter)
@@ -154,7 +162,7 @@ void MarkupEdit::FitLook() {
     const int frame =
         2 * (kMargin + preview_->frameWidth()) + preview_->verticalScrollBar()->sizeHint().width();
     preview_->setMaximumWidth(metrics.averageCharWidth() * editing_.PreviewColumns() + frame);
-    preview_->setMinimumHeight(metrics.lineSpacing() * 3 + 2 * kMargin);
+    SetLines(*preview_, metrics, 3);
 }
 
 std::string MarkupEdit::Text() const {

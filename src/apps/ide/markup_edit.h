@@ -7,6 +7,8 @@
 
 #include "authoring/text_editing.h"
 
+class QAbstractScrollArea;
+class QFontMetrics;
 class QLabel;
 class QPlainTextEdit;
 class QTextEdit;
@@ -18,6 +20,8 @@ struct MarkupEditKind {
     QString name;            ///< of the field: its label, with a mnemonic, and its accessible name
     QString previewCaption;  ///< "" for an editor without a preview
     bool tagsAllowed = true;
+    bool isShort =
+        false;  ///< field and preview are two lines high, and their parts are called "...Short..."
 };
 
 /// An editor for a text of the game: a field in the game's font and colours with its markup marked, the
@@ -49,6 +53,7 @@ class MarkupEdit final : public QWidget {
 
   private:
     void AddPreview(const QString& caption);
+    void SetLines(QAbstractScrollArea& area, const QFontMetrics& metrics, int lines) const;
     void FitLook();
     void ShowText();
     void ShowPreview(const std::string& text);

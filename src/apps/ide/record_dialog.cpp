@@ -1,7 +1,6 @@
 #include "ide/record_dialog.h"
 
 #include <QComboBox>
-#include <QFocusEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -12,6 +11,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ide/leave_check.h"
 #include "platform/error.h"
 #include "qt/strings.h"
 
@@ -137,8 +137,12 @@ void RecordDialog::AddControl(const QString& label, QWidget* control, const char
 }
 
 void RecordDialog::CheckOnLeave(QWidget* control, std::function<bool()> check) {
-    checks_.emplace_back(control, std::move(check));
-    control->installEventFilter(this);
+    new LeaveCheck(*control, [this, check = std::move(check)] {
+        Read();
+        const bool passed = Guarded(check);
+        Show();
+        if (!passed) FocusRefused();
+    });
 }
 
 bool RecordDialog::Guarded(const std::function<bool()>& work) {
@@ -147,32 +151,6 @@ bool RecordDialog::Guarded(const std::function<bool()>& work) {
     } catch (const Error& error) {
         record_.Dialogs().Tell(error.what(), "Error");
         return false;
-    }
-}
-
-/// Where the focus goes is known only after the event.
-bool RecordDialog::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
-            auto* control = static_cast<QWidget*>(object);
-            QMetaObject::invokeMethod(
-                this, [this, control] { CheckLeft(control); }, Qt::QueuedConnection);
-        }
-    }
-    return QDialog::eventFilter(object, event);
-}
-
-void RecordDialog::CheckLeft(QWidget* control) {
-    const QWidget* now = focusWidget();
-    if (!isVisible() || now == control || now == update_ || now == exit_) return;
-    for (const auto& [checked, check] : checks_) {
-        if (checked != control) continue;
-        Read();
-        const bool passed = Guarded(check);
-        Show();
-        if (!passed) FocusRefused();
-        return;
     }
 }
 

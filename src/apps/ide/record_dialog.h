@@ -46,7 +46,6 @@ class RecordDialog : public QDialog {
     virtual void Show() = 0;
     virtual bool Update() = 0;
 
-    bool eventFilter(QObject* object, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
     QFormLayout* form_ = nullptr;  ///< the column to which controls are added
@@ -56,7 +55,6 @@ class RecordDialog : public QDialog {
     void Arrange();
     void AddButtons();
     void FocusFirst();
-    void CheckLeft(QWidget* control);
     void FocusRefused();
     void ClickUpdate();
 
@@ -64,7 +62,6 @@ class RecordDialog : public QDialog {
     QBoxLayout* columns_;
     QHBoxLayout* buttons_;
     bool placed_ = false;  ///< it was shown before
-    std::vector<std::pair<QWidget*, std::function<bool()>>> checks_;
     QPushButton* update_ = nullptr;
     QPushButton* exit_ = nullptr;
 };

@@ -77,7 +77,7 @@ void TextDialog::AddButtons(QHBoxLayout& row) {
     exit->setAutoDefault(false);
     row.addWidget(update);
     row.addWidget(exit);
-    new LeaveCheck(text_->Field(), {update, exit}, [this] { Leave(); });
+    new LeaveCheck(text_->Field(), [this] { Leave(); });
     connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {

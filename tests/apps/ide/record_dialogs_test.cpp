@@ -3,12 +3,14 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
 #include <QTest>
+#include <QTextEdit>
 #include <QToolButton>
 #include <string>
 
@@ -74,7 +76,7 @@ TEST_F(RecordDialogs, ALocationIsEditedByKeysAlone) {
     authoring::frmVelLocation screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    Find<QLineEdit>(dialog, "txtShortDesc")->setFocus();
+    Find<QPlainTextEdit>(dialog, "txtShortDesc")->setFocus();
     QTest::keyClicks(dialog.focusWidget(), "The hall");
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
@@ -85,7 +87,7 @@ TEST_F(RecordDialogs, ExitLeavesTheLocationAsItWas) {
     authoring::frmVelLocation screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    Find<QLineEdit>(dialog, "txtShortDesc")->setText("The hall");
+    Find<QPlainTextEdit>(dialog, "txtShortDesc")->setPlainText("The hall");
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_FALSE(dialog.isVisible());
@@ -96,7 +98,7 @@ TEST_F(RecordDialogs, ARefusedFieldKeepsTheFocus) {
     authoring::frmVelLocation screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    auto* shortDescription = Find<QLineEdit>(dialog, "txtShortDesc");
+    auto* shortDescription = Find<QPlainTextEdit>(dialog, "txtShortDesc");
     shortDescription->setFocus();
     QTest::keyClicks(shortDescription, "Fish & chips");
     QTest::keyClick(shortDescription, Qt::Key_Tab);
@@ -104,6 +106,15 @@ TEST_F(RecordDialogs, ARefusedFieldKeepsTheFocus) {
     ASSERT_EQ(boxes_.Boxes().size(), 1u);
     EXPECT_EQ(boxes_.Boxes().at(0).title, "Error");
     EXPECT_EQ(dialog.focusWidget(), shortDescription);
+}
+
+TEST_F(RecordDialogs, TheShortDescriptionIsPreviewedWithItsMarkup) {
+    authoring::frmVelLocation screen(session_, {0, false});
+    LocationDialog dialog(screen);
+    Open(dialog);
+    QTest::keyClicks(Find<QPlainTextEdit>(dialog, "txtShortDesc"), "<BRIGHT>The hall</BRIGHT>");
+    EXPECT_EQ(Find<QTextEdit>(dialog, "txtShortPreview")->toPlainText(), "The hall");
+    EXPECT_EQ(Find<QLabel>(dialog, "lblShortCounts")->text(), "2 words, 7 letters");
 }
 
 TEST_F(RecordDialogs, UpdateOfARefusedFieldKeepsTheDialogOpen) {
