@@ -47,7 +47,7 @@ namespace {
 
 constexpr QSize kDefaultSize(1080, 700);
 constexpr QSize kSmallestSize(320, 240);
-constexpr int kTreeWidth = 230;
+constexpr int kTreeWidth = 250;
 constexpr int kEntryGroup = 1;  ///< of the menu Edit: the commands on records
 
 // Where the window's look is kept. The theme is the one of the player's window too.

@@ -23,7 +23,8 @@ constexpr std::chrono::milliseconds kResizeDelay{300};
 constexpr int kRowsForWidth = 100;
 constexpr int kWidestColumn = 48;
 constexpr int kNarrowestColumn = 10;  ///< of those that need more
-constexpr int kCellMargin = 16;
+constexpr int kCellMargin = 20;
+constexpr int kTitleMargin = 4;  ///< besides the one that it brings
 
 /// The table of the rows.
 class RowsView final : public QTableView {
@@ -74,6 +75,7 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
     QHeaderView* header = view_->horizontalHeader();
     header->setSectionsClickable(true);
     header->setHighlightSections(false);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setStretchLastSection(true);
     header->setAccessibleName(tr("Columns"));
     FitRows();
@@ -157,7 +159,7 @@ void RecordPanel::MeasureColumns() {
         // The last column takes the room that is left, whatever it was given.
         const bool kept = shown.width > 0 && column < model_->columnCount() - 1;
         const int width = kept ? shown.width : WidthOf(column);
-        const int title = view_->horizontalHeader()->sectionSizeHint(column) + kCellMargin;
+        const int title = view_->horizontalHeader()->sectionSizeHint(column) + kTitleMargin;
         wishes_.push_back({width, std::min(width, std::max(title, letter * kNarrowestColumn)), kept});
     }
 }
@@ -178,7 +180,7 @@ void RecordPanel::PlaceColumns() {
 
 int RecordPanel::WidthOf(int column) const {
     const QFontMetrics metrics = view_->fontMetrics();
-    int width = view_->horizontalHeader()->sectionSizeHint(column) + kCellMargin;
+    int width = view_->horizontalHeader()->sectionSizeHint(column) + kTitleMargin;
     for (int row = 0; row < std::min(grid_.RowCount(), kRowsForWidth); ++row)
         width =
             std::max(width, metrics.horizontalAdvance(qt::ToQt(grid_.CellText(row, column))) + kCellMargin);

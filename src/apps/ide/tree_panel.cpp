@@ -1,5 +1,6 @@
 #include "ide/tree_panel.h"
 
+#include <QStyledItemDelegate>
 #include <QTreeWidgetItemIterator>
 
 #include "ide/pane_focus.h"
@@ -13,6 +14,21 @@ constexpr int kSort = Qt::UserRole;
 constexpr int kIcon = Qt::UserRole + 1;
 constexpr int kOpenIcon = Qt::UserRole + 2;
 
+/// Draws the chosen node of a tree without the keyboard like any other on another ground: its icon has
+/// no colours for that.
+class NodeDelegate final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!(option->state & QStyle::State_Selected) || (option->state & QStyle::State_Active)) return;
+        option->state &= ~QStyle::State_Selected;
+        option->backgroundBrush = option->palette.brush(QPalette::Inactive, QPalette::Highlight);
+    }
+};
+
 }  // namespace
 
 TreePanel::TreePanel(Choose choose, QWidget* parent) : QTreeWidget(parent), choose_(std::move(choose)) {
@@ -22,7 +38,9 @@ TreePanel::TreePanel(Choose choose, QWidget* parent) : QTreeWidget(parent), choo
     setFrameShape(QFrame::NoFrame);
     setUniformRowHeights(true);
     setIconSize(QSize(20, 20));
+    setIndentation(18);
     setTabKeyNavigation(false);
+    setItemDelegate(new NodeDelegate(this));
     // A folder shows by its icon whether it is open.
     const auto showOpen = [](QTreeWidgetItem* item) {
         const auto name = item->data(0, item->isExpanded() ? kOpenIcon : kIcon).toString();

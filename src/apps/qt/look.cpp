@@ -11,7 +11,9 @@ namespace fabula::qt {
 namespace {
 
 constexpr QSize kRoomInButtons(12, 6);
-constexpr QSize kRoomInFields(0, 6);
+constexpr QSize kRoomInFields(8, 6);
+constexpr int kSideOfFields = 4;
+constexpr int kRoomInCells = 6;  ///< on the left and on the right
 constexpr int kShortestSlider = 24;
 
 bool IsDefault(const QStyleOptionButton& button) {
@@ -113,6 +115,12 @@ class Look final : public QProxyStyle {
         }
     }
 
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override {
+        const QRect usual = QProxyStyle::subElementRect(element, option, widget);
+        return element == SE_LineEditContents ? usual.adjusted(kSideOfFields, 0, -kSideOfFields, 0) : usual;
+    }
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         const int usual = QProxyStyle::pixelMetric(metric, option, widget);
         switch (metric) {
@@ -121,6 +129,10 @@ class Look final : public QProxyStyle {
             case PM_ExclusiveIndicatorWidth:
             case PM_ExclusiveIndicatorHeight:
                 return std::max(usual, widget ? widget->fontMetrics().height() : 0);
+            case PM_HeaderMargin:
+                return kRoomInCells + 1;
+            case PM_FocusFrameHMargin:  // of cells and of the lines of lists and trees
+                return kRoomInCells;
             default:
                 return usual;
         }

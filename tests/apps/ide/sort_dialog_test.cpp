@@ -7,12 +7,10 @@
 #include <QTest>
 #include <QTimer>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "authoring/desk.h"
 #include "authoring/sort_order.h"
-#include "ide/dialog_checks.h"
 #include "ide/opened_window.h"
 #include "qt/strings.h"
 
@@ -20,7 +18,6 @@ namespace fabula::test {
 namespace {
 
 using store::TableNum;
-using testing::IsEmpty;
 
 class SortDialogTest : public testing::Test {
   protected:
@@ -76,11 +73,6 @@ TEST_F(SortDialogTest, ExitStoresNothing) {
     QTest::keyClick(&dialog_, Qt::Key_Escape);
     EXPECT_FALSE(dialog_.isVisible());
     EXPECT_EQ(Stored(), "voctypen, vocnum, word");
-}
-
-TEST_F(SortDialogTest, EveryControlHasAName) {
-    EXPECT_THAT(WidgetsWithoutName(dialog_), IsEmpty());
-    GrabInBothThemes(dialog_, "sort");
 }
 
 TEST(SortFromTheWindow, SortsTheGridAndIsUndone) {
