@@ -9,8 +9,10 @@
 
 namespace fabula::test {
 
-OpenedWindow::OpenedWindow()
-    : store_(qt::PathToQt(folder / "settings.ini"), QSettings::IniFormat), settings_(store_) {
+OpenedWindow::OpenedWindow(platform::Dialogs* boxes)
+    : boxes_(boxes ? *boxes : dialogs),
+      store_(qt::PathToQt(folder / "settings.ini"), QSettings::IniFormat),
+      settings_(store_) {
     Restart();
 }
 
@@ -34,7 +36,7 @@ void OpenedWindow::Restart() {
     if (window_) window_->close();
     window_.reset();
     window_ = std::make_unique<ide::MainWindow>(
-        ide::Services{timers, dialogs, settings_, store_, clock_, events_, sound, random}, Places());
+        ide::Services{timers, boxes_, settings_, store_, clock_, events_, sound, random}, Places());
     window_->show();
     QApplication::setActiveWindow(window_.get());
     window_->Start({});

@@ -23,7 +23,9 @@ namespace fabula::test {
 /// its own. It is shown and given keys as a person would.
 class OpenedWindow {
   public:
-    OpenedWindow();
+    OpenedWindow() : OpenedWindow(nullptr) {}
+    /// With boxes that are none of a test's: those of the program. nullptr for `dialogs`.
+    explicit OpenedWindow(platform::Dialogs* boxes);
     ~OpenedWindow();
 
     ide::MainWindow& Window() const { return *window_; }
@@ -64,6 +66,7 @@ class OpenedWindow {
   private:
     ide::Places Places() const;
 
+    platform::Dialogs& boxes_;
     QSettings store_;
     qt::QtSettings settings_;
     platform::FixedClock clock_{{2026, 3, 1, 12, 0, 0}};

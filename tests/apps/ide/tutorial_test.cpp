@@ -1,0 +1,320 @@
+#include <QApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QTableView>
+#include <QTest>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ide/author.h"
+#include "ide/game_test.h"
+#include "player/game_screen.h"
+#include "player/text_pane.h"
+#include "qt/strings.h"
+#include "store/adventure.h"
+
+/// A first game, from New to its end, by keys and clicks only.
+namespace fabula::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr QKeyCombination kAdd = Qt::CTRL | Qt::Key_N;
+constexpr QKeyCombination kUpdate = Qt::CTRL | Qt::Key_Return;
+
+class Tutorial : public testing::Test {
+  protected:
+    void MakeTheAdventure() {
+        author_.Expects("Create a Fabula Database", [&] {
+            author_.Types(qt::PathToQt(author_.Desk().folder / "cake.fbd"));
+            author_.Presses(Qt::Key_Return);
+        });
+        author_.Expects("Choose Type of Adventure", [&] { author_.Clicks("cmdExecute"); });
+        author_.Expects("Fabula IDE", [&] { author_.Presses(Qt::Key_Return); });
+        author_.Chooses("File > New");
+    }
+
+    void DescribeThePlaces() {
+        author_.ClicksNode("Locations");
+        author_.Expects("Location 0", [&] {
+            FillPlace("The kitchen",
+                      "You are in the kitchen. It is ten at night, and at tea there was cake. The hall is "
+                      "north. In the east wall is the door of the pantry.");
+        });
+        author_.DoubleClicksRow(0);
+        AddPlace("Location 1", "The hall",
+                 "You are in the hall. The clock ticks as if nobody had been sent to bed. The kitchen is "
+                 "south.");
+        AddPlace(
+            "Location 2", "The pantry",
+            "You are in the pantry, among jars with your aunt's writing on them. The kitchen is west.");
+    }
+    void AddPlace(const char* title, const char* name, const char* text) {
+        author_.Expects(title, [=, this] { FillPlace(name, text); });
+        author_.Chooses("Edit > Add Location");
+    }
+    void FillPlace(const char* name, const char* text) {
+        author_.Clicks("txtShortDesc");
+        author_.Types(name);
+        Replace("txtDEscription", text);
+        author_.Presses(kUpdate);
+    }
+    void Replace(const char* field, const char* text) {
+        author_.Clicks(field);
+        author_.Presses(Qt::CTRL | Qt::Key_A);
+        author_.Types(text);
+    }
+
+    void ConnectThePlaces() {
+        AddExits(0, "Location 0", "N 1 E 2");
+        AddExits(1, "Location 1", "S 0");
+        AddExits(2, "Location 2", "W 0");
+    }
+    void AddExits(int row, const char* title, const char* exits) {
+        author_.Expects(title, [=, this] {
+            author_.Clicks("txtExits");
+            author_.Types(exits);
+            author_.Presses(kUpdate);
+        });
+        author_.DoubleClicksRow(row);
+    }
+
+    void TeachTheWords() {
+        author_.ClicksNode("Vocabulary");
+        AddWord("KEY", "optType2");
+        AddWord("DOOR", "optType2");
+        AddWord("CAKE", "optType2");
+        AddWord("OPEN", "optType0");
+        AddWord("UNLOCK", "optType0", "33");
+        AddWord("EAT", "optType0");
+    }
+    /// `number` of a word that means the same as another one.
+    void AddWord(const char* word, const char* type, const char* number = nullptr) {
+        author_.Expects("Vocabulary Editor", [=, this] {
+            author_.Clicks("txtWord");
+            author_.Types(word);
+            author_.Clicks(type);
+            if (number) Replace("txtWordNum", number);
+            author_.Presses(kUpdate);
+        });
+        author_.Presses(kAdd);
+    }
+
+    void PlaceTheThings() {
+        author_.ClicksNode("Objects");
+        AddThing("Object 0", "a small brass key", "KEY", "1");
+        AddThing("Object 1", "the last slice of cake", "CAKE", "2");
+    }
+    void AddThing(const char* title, const char* text, const char* noun, const char* room) {
+        author_.Expects(title, [=, this] {
+            author_.Clicks("txtObjDesc");
+            author_.Types(text);
+            author_.Clicks("cboObjWord");
+            author_.Types(noun);
+            author_.Presses(Qt::Key_Return);
+            author_.Clicks("optInitiaLloc3");
+            Replace("cboInRoom", room);
+            author_.Presses(kUpdate);
+        });
+        author_.Presses(kAdd);
+    }
+
+    void TakeAMistakeBack() {
+        author_.Expects("Confirm", [&] { author_.ClicksButton("Yes"); });
+        author_.Expects("Delete Word", [&] { author_.ClicksButton("OK"); });
+        author_.Expects("Delete Word", [&] { author_.ClicksButton("OK"); });
+        author_.ClicksTool("Delete");
+        EXPECT_THAT(Stored("word from vocabulary where word='EAT'"), IsEmpty());
+        author_.Chooses("Edit > Undo delete word EAT");
+        EXPECT_THAT(Stored("word from vocabulary where word='EAT'"), ElementsAre("EAT"));
+    }
+
+    void WriteTheMessages() {
+        author_.ClicksNode("Messages");
+        AddMessage("The pantry is locked. It has been locked since the business with the jam.");
+        AddMessage("The key turns without a sound. You have done this before.");
+        AddMessage("You have nothing to open it with.");
+        AddMessage("It is open.");
+        AddMessage("You eat the cake in the dark, standing up. It is the best cake in the world.");
+    }
+    void AddMessage(const char* text) {
+        author_.Expects("Messages Editor", [=, this] {
+            author_.Types(text);
+            author_.Presses(kUpdate);
+        });
+        author_.Presses(kAdd);
+    }
+
+    void NoteWhatAFlagIsFor() {
+        author_.ClicksNode("Flags");
+        author_.Presses(Qt::CTRL | Qt::Key_K);
+        author_.Types("60");
+        author_.Presses(Qt::Key_Return);
+        author_.Expects("Flag 60", [&] {
+            Pick("cboFlgUse", "Switch");
+            author_.Clicks("txtFlgDesc");
+            author_.Types("The pantry is open.");
+            author_.Presses(kUpdate);
+        });
+        author_.Presses(Qt::Key_Return);
+    }
+
+    void GiveTheRules() {
+        author_.ClicksNode("Response (P0)");
+        author_.Expects("Process Table Editor", [&] {
+            Pick("cboWord1", "EAST");
+            author_.Clicks("txtAllCAs");
+            author_.Types("at 0 zero 60");
+            EXPECT_EQ(Told("lblMeaning"), "ZERO 60: The pantry is open.");
+            author_.Types(" mess");
+            author_.Presses(Qt::Key_Tab);
+            author_.Types("lock");
+            author_.Presses(Qt::Key_Tab);
+            author_.Types("done");
+            author_.Presses(kUpdate);
+        });
+        author_.Presses(kAdd);
+        AddRule("OPEN", "DOOR", "at 0 notzero 60 message 5 done");
+        AddRule("OPEN", "DOOR", "at 0 notcarr 0 message 4 done");
+        AddRule("OPEN", "DOOR", "at 0 set 60 message 3 done");
+        AddRule("EAT", "CAKE", "present 1 plus 30 100 message 6 score turns end");
+    }
+    void AddRule(const char* verb, const char* noun, const char* line) {
+        author_.Expects("Process Table Editor", [=, this] {
+            Pick("cboWord1", verb);
+            Pick("cboWord2", noun);
+            author_.Clicks("txtAllCAs");
+            author_.Types(line);
+            author_.Presses(kUpdate);
+        });
+        author_.Presses(kAdd);
+    }
+    void Pick(const char* list, const char* item) {
+        author_.Clicks(list);
+        author_.Types(item);
+        author_.Presses(Qt::Key_Return);
+    }
+    /// The row that the grid stands on.
+    QString RowInView() {
+        const QModelIndex current = author_.Desk().Part<QTableView>("Grid").currentIndex();
+        return author_.Desk().Part<QTreeWidget>("Tree").currentItem()->text(0) +
+               QString(" %1").arg(current.row());
+    }
+    std::string Told(const char* label) {
+        return qt::FromQt(author_.Front().findChild<QLabel*>(label)->text());
+    }
+
+    void CheckIt() {
+        author_.Expects("Verify Adventure", [&] {
+            EXPECT_TRUE(
+                QTest::qWaitFor([&] { return Told("lblProgress") == "The adventure has passed."; }));
+            const auto& lines = *author_.Front().findChild<QListWidget*>("txtStatus");
+            EXPECT_EQ(lines.item(1)->text(), "No Errors Found");
+            author_.Clicks("cmdOK");
+        });
+        author_.Chooses("Game > Verify");
+    }
+
+    void PlayIt() {
+        author_.Chooses("Game > Run & Test");
+        EXPECT_FALSE(author_.Desk().Window().isVisible());
+        author_.Desk().timers.Advance(std::chrono::seconds(10));
+        EXPECT_THAT(Say("e"), HasSubstr("It has been locked since the business with the jam."));
+        EXPECT_THAT(Say("open door"), HasSubstr("You have nothing to open it with."));
+        EXPECT_THAT(Say("n"), HasSubstr("a small brass key"));
+        Say("take key");
+        EXPECT_THAT(Say("s"), HasSubstr("The kitchen"));
+        EXPECT_THAT(Say("unlock the door with the key"), HasSubstr("The key turns without a sound."));
+        EXPECT_THAT(Say("open door"), HasSubstr("It is open."));
+        EXPECT_THAT(Say("e"), HasSubstr("the last slice of cake"));
+        EXPECT_THAT(Say("eat cake"), HasSubstr("It is the best cake in the world."));
+        Say("n");
+        author_.Desk().timers.Advance(std::chrono::milliseconds(0));
+        QApplication::processEvents();
+    }
+    /// What the game answers to a sentence.
+    std::string Say(const char* sentence) {
+        const auto& pane = author_.Desk().Window().Test()->Window().Screen().Text();
+        const auto before = pane.toPlainText().size();
+        author_.Types(sentence);
+        author_.Presses(Qt::Key_Return);
+        if (!author_.Desk().Window().Test()) return "";
+        return qt::FromQt(pane.toPlainText().mid(before));
+    }
+
+    /// The file's records that `select` tells, "word, vocnum from vocabulary where vocnum>30": the fields
+    /// of each between bars.
+    std::vector<std::string> Stored(std::string_view select) {
+        const auto adventure = store::Adventure::Open(File(), store::OpenMode::ReadOnly);
+        std::vector<std::string> rows;
+        for (store::Cursor& record = adventure->OpenTable(store::TableNum::Free25, select); !record.Eof();
+             record.MoveNext()) {
+            std::string row;
+            for (std::size_t field = 0; field < record.Fields().size(); ++field)
+                row += (field == 0 ? "" : "|") + text::ToText(record.Field(field));
+            rows.push_back(row);
+        }
+        return rows;
+    }
+    std::filesystem::path File() { return author_.Desk().folder / "cake.fbd"; }
+
+    Author author_;
+};
+
+TEST_F(Tutorial, ItsStepsMakeAGameThatCanBeWon) {
+    MakeTheAdventure();
+    DescribeThePlaces();
+    ConnectThePlaces();
+    TeachTheWords();
+    TakeAMistakeBack();
+    PlaceTheThings();
+    WriteTheMessages();
+    NoteWhatAFlagIsFor();
+    GiveTheRules();
+    CheckIt();
+    const QString row = RowInView();
+    PlayIt();
+    EXPECT_TRUE(author_.Desk().Window().isVisible());
+    EXPECT_EQ(RowInView(), row);
+    EXPECT_EQ(author_.StillExpected(), 0U);
+
+    EXPECT_THAT(
+        Stored("locnum, exits, locshortdesc, locdesc from locations"),
+        ElementsAre(
+            "0|N 1 E 2|The kitchen|You are in the kitchen. It is ten at night, and at tea there was "
+            "cake. The hall is north. In the east wall is the door of the pantry.",
+            "1|S 0|The hall|You are in the hall. The clock ticks as if nobody had been sent to bed. "
+            "The kitchen is south.",
+            "2|W 0|The pantry|You are in the pantry, among jars with your aunt's writing on them. "
+            "The kitchen is west."));
+    EXPECT_THAT(
+        Stored("word, vocnum, voctype from vocabulary where word='KEY' or word='DOOR' or word='CAKE' "
+               "or word='OPEN' or word='UNLOCK' or word='EAT'"),
+        ElementsAre("KEY|50|Noun", "DOOR|51|Noun", "CAKE|52|Noun", "OPEN|33|Verb", "UNLOCK|33|Verb",
+                    "EAT|34|Verb"));
+    EXPECT_THAT(
+        Stored("objnum, objdesc, objnoun, objlocdesc from objects"),
+        ElementsAre("0|a small brass key|KEY|In Room 1.", "1|the last slice of cake|CAKE|In Room 2."));
+    EXPECT_THAT(
+        Stored("msgnum, msgmsg from messages where msgnum>1"),
+        ElementsAre("2|The pantry is locked. It has been locked since the business with the jam.",
+                    "3|The key turns without a sound. You have done this before.",
+                    "4|You have nothing to open it with.", "5|It is open.",
+                    "6|You eat the cake in the dark, standing up. It is the best cake in the world."));
+    EXPECT_THAT(Stored("flgnum, flgtype, flguse, flgdesc from flags where flgnum=60"),
+                ElementsAre("60|User|Switch|The pantry is open."));
+    EXPECT_THAT(
+        Stored("estype, w1, w2, condacts from processtables where canum>23"),
+        ElementsAre("0|E|_|AT 0 ZERO 60 MESSAGE 2 DONE", "0|OPEN|DOOR|AT 0 NOTZERO 60 MESSAGE 5 DONE",
+                    "0|OPEN|DOOR|AT 0 NOTCARR 0 MESSAGE 4 DONE", "0|OPEN|DOOR|AT 0 SET 60 MESSAGE 3 DONE",
+                    "0|EAT|CAKE|PRESENT 1 PLUS 30 100 MESSAGE 6 SCORE TURNS END"));
+}
+
+}  // namespace
+}  // namespace fabula::test
