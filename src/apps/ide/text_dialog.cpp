@@ -55,6 +55,8 @@ void TextDialog::AddMoves(QHBoxLayout& row) {
         button->setAccessibleName(caption);
         button->setToolTip(caption);
         button->setFocusPolicy(Qt::StrongFocus);
+        const int side = button->fontMetrics().height() * 3 / 2;
+        button->setMinimumSize(side, side);
         connect(button, &QToolButton::clicked, this, [this, step] { Move(step); });
         auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
         connect(shortcut, &QShortcut::activated, this, [this, step] { Move(step); });

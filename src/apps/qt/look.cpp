@@ -64,6 +64,11 @@ class Look final : public QProxyStyle {
             }
         }
         if (element == CE_HeaderSection) return DrawHeader(*painter, *option);
+        if (element == CE_ToolBar) return DrawBar(*painter, *option);
+        if (element == CE_MenuBarItem || element == CE_MenuBarEmptyArea) {
+            QProxyStyle::drawControl(element, option, painter, widget);
+            return DrawLineBelow(*painter, *option);
+        }
         QProxyStyle::drawControl(element, option, painter, widget);
     }
 

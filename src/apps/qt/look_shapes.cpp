@@ -148,7 +148,7 @@ void DrawField(QPainter& painter, const QStyleOptionFrame& option) {
 
 void DrawList(QPainter& painter, const QStyleOptionComboBox& option, const QRect& arrow) {
     DrawInput(painter, option, option.palette.color(option.editable ? QPalette::Base : QPalette::Button));
-    const double half = SquareIn(arrow).width() / 5.0;
+    const double half = std::min(option.fontMetrics.height() / 4.0, arrow.width() / 2.0 - 3);
     const QPointF middle = QRectF(arrow).center();
     const QPointF sign[] = {middle + QPointF(-half, -half / 2), middle + QPointF(0, half / 2),
                             middle + QPointF(half, -half / 2)};
@@ -178,6 +178,17 @@ void DrawHeader(QPainter& painter, const QStyleOption& option) {
     painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
     painter.restore();
+}
+
+void DrawLineBelow(QPainter& painter, const QStyleOption& option) {
+    const QRect line(option.rect.left(), option.rect.bottom(), option.rect.width(), 1);
+    painter.fillRect(line, Mixed(option.palette.color(QPalette::Window),
+                                 option.palette.color(QPalette::WindowText), kFaintOutline / 2));
+}
+
+void DrawBar(QPainter& painter, const QStyleOption& option) {
+    painter.fillRect(option.rect, option.palette.color(QPalette::Window));
+    DrawLineBelow(painter, option);
 }
 
 void DrawScrollBar(QPainter& painter, const QStyleOptionComplex& option, const QRect& slider) {

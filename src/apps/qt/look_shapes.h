@@ -24,6 +24,9 @@ void DrawList(QPainter& painter, const QStyleOptionComboBox& option, const QRect
 /// What stands around texts and tables.
 void DrawFrame(QPainter& painter, const QStyleOption& option);
 void DrawHeader(QPainter& painter, const QStyleOption& option);
+/// A bar of tools, with a line below it.
+void DrawBar(QPainter& painter, const QStyleOption& option);
+void DrawLineBelow(QPainter& painter, const QStyleOption& option);
 void DrawScrollBar(QPainter& painter, const QStyleOptionComplex& option, const QRect& slider);
 
 }  // namespace fabula::qt
