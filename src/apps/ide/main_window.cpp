@@ -18,6 +18,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "authoring/start_up.h"
 #include "ide/command_actions.h"
@@ -47,6 +48,7 @@ namespace {
 
 constexpr QSize kDefaultSize(1080, 700);
 constexpr QSize kSmallestSize(320, 240);
+constexpr int kSmallestIcon = 22;
 constexpr int kTreeWidth = 250;
 constexpr int kEntryGroup = 1;  ///< of the menu Edit: the commands on records
 
@@ -162,7 +164,8 @@ void MainWindow::MakeMenus() {
     QToolBar* bar = addToolBar(tr("Tool bar"));
     bar->setObjectName("Toolbar");
     bar->setMovable(false);
-    bar->setIconSize(QSize(22, 22));
+    const int icon = std::max(kSmallestIcon, fontMetrics().height() * 5 / 4);
+    bar->setIconSize(QSize(icon, icon));
     actions_->FillToolBar(*bar);
     // What an author does most often is said in words.
     for (const Command command : {Command::Add, Command::Run, Command::Verify}) {

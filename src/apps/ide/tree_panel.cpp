@@ -2,6 +2,7 @@
 
 #include <QStyledItemDelegate>
 #include <QTreeWidgetItemIterator>
+#include <algorithm>
 
 #include "ide/pane_focus.h"
 #include "qt/icons.h"
@@ -10,6 +11,7 @@
 namespace fabula::ide {
 namespace {
 
+constexpr int kSmallestIcon = 20;
 constexpr int kSort = Qt::UserRole;
 constexpr int kIcon = Qt::UserRole + 1;
 constexpr int kOpenIcon = Qt::UserRole + 2;
@@ -37,7 +39,8 @@ TreePanel::TreePanel(Choose choose, QWidget* parent) : QTreeWidget(parent), choo
     setHeaderHidden(true);
     setFrameShape(QFrame::NoFrame);
     setUniformRowHeights(true);
-    setIconSize(QSize(20, 20));
+    const int icon = std::max(kSmallestIcon, fontMetrics().height() * 6 / 5);
+    setIconSize(QSize(icon, icon));
     setIndentation(18);
     setTabKeyNavigation(false);
     setItemDelegate(new NodeDelegate(this));
