@@ -22,7 +22,7 @@ namespace {
 enum Column { kWord, kTo, kName, kColumns };
 
 constexpr int kGap = 8;
-constexpr int kShortestWord = 8;  ///< letters of a list of words
+constexpr int kShortestWord = 6;  ///< letters of a list of words
 
 /// Edits a cell by a list in which something else may be typed too.
 class ListDelegate final : public QStyledItemDelegate {
@@ -111,8 +111,8 @@ void LocationDialog::AddExits() {
     rows_->setHorizontalHeaderLabels({"Exit", "To", "Leads to"});
     rows_->verticalHeader()->hide();
     const int letter = rows_->fontMetrics().averageCharWidth();
-    rows_->setColumnWidth(kWord, kShortestWord * letter * 3 / 2);
-    rows_->setColumnWidth(kTo, kShortestWord * letter);
+    rows_->setColumnWidth(kWord, 2 * kShortestWord * letter);
+    rows_->setColumnWidth(kTo, 3 * kShortestWord * letter / 2);
     rows_->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
     rows_->setWordWrap(false);
     rows_->verticalHeader()->setDefaultSectionSize(rows_->fontMetrics().height() * 3 / 2);
@@ -134,6 +134,8 @@ void LocationDialog::AddExits() {
 
     Name(word_, "cboExit", "Exit word");
     Name(location_, "cboLoc", "Location that the exit leads to");
+    word_->lineEdit()->setPlaceholderText(tr("Word"));
+    location_->lineEdit()->setPlaceholderText(tr("Location"));
     auto* add = NewButton("&Add", "cmdAdd");
     auto* remove = NewButton("&Remove", "cmdRemove");
     connect(add, &QPushButton::clicked, this, [this] { AddExit(); });
@@ -163,10 +165,10 @@ void LocationDialog::AddPicture() {
     buttons->setSpacing(kGap);
     buttons->addWidget(choose);
     buttons->addWidget(clear);
-    buttons->addStretch();
     auto* row = new QHBoxLayout;
     row->setSpacing(2 * kGap);
     row->addLayout(buttons);
+    row->setAlignment(buttons, Qt::AlignTop);
     row->addWidget(pictureView_, 1, Qt::AlignTop);
     row->addStretch();
     form_->addRow("", row);

@@ -21,8 +21,8 @@ namespace {
 constexpr int kMargin = 16;
 constexpr int kGap = 28;  ///< between columns
 constexpr int kLettersOfAColumn = 74;
-constexpr int kShortestList = 12;  ///< letters
-constexpr int kLinesToGrow = 6;    ///< more than a text field needs at least
+constexpr int kShortestList = 8;  ///< letters
+constexpr int kLinesToGrow = 6;   ///< more than a text field needs at least
 
 }  // namespace
 

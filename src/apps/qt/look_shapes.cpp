@@ -192,8 +192,7 @@ void DrawBar(QPainter& painter, const QStyleOption& option) {
 }
 
 void DrawScrollBar(QPainter& painter, const QStyleOptionComplex& option, const QRect& slider) {
-    painter.fillRect(option.rect, Mixed(option.palette.color(QPalette::Base),
-                                        option.palette.color(QPalette::Window), 0.5));
+    painter.fillRect(option.rect, option.palette.color(QPalette::Window));
     const bool held = option.activeSubControls & QStyle::SC_ScrollBarSlider;
     const QRect inner = slider.adjusted(3, 3, -3, -3);
     painter.save();
