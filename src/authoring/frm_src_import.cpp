@@ -136,19 +136,28 @@ void frmSrcImport::cmdDatabase() {
     Show();
 }
 
+/// A name without a folder lies beside the open adventure, and not where the program was started.
+std::string frmSrcImport::Placed(const std::string& typed) const {
+    const path file = Trimmed(typed);
+    if (file.empty() || !adventure_) return file.string();
+    return (adventure_->GameDir() / file).string();
+}
+
 bool frmSrcImport::cmdImport() {
     if (!cmdImportEnabled()) return false;
     if (Trimmed(txtSource).empty()) return Refuse(host_.dialogs, "Source File not specified");
+    txtSource = Placed(txtSource);
+    txtDatabase = Placed(txtDatabase);
     return mode_ == JobMode::Export ? ExportIt() : ImportIt();
 }
 
 bool frmSrcImport::ImportIt() {
-    if (Trimmed(txtDatabase).empty()) cmdDatabase();
-    if (Trimmed(txtDatabase).empty()) return false;
-    path target = Trimmed(txtDatabase);
+    if (txtDatabase.empty()) cmdDatabase();
+    if (txtDatabase.empty()) return false;
+    path target = txtDatabase;
     if (!target.has_extension()) target += ".fbd";
     txtDatabase = target.string();
-    const path source = Trimmed(txtSource);
+    const path source = txtSource;
     if (IsSameFile(source, target))
         return Refuse(host_.dialogs, "The database cannot be the source file itself");
     if (adventure_ && IsSameFile(target, adventure_->CurrentFile()))
@@ -163,7 +172,7 @@ bool frmSrcImport::ImportIt() {
 }
 
 bool frmSrcImport::ExportIt() {
-    path target = Trimmed(txtSource);
+    path target = txtSource;
     if (!target.has_extension()) target += std::string(Kind()->extension);
     txtSource = target.string();
     if (IsSameFile(target, adventure_->CurrentFile()))

@@ -58,8 +58,10 @@ class frmSrcImport final : private interchange::JobObserver {
     /// False, and nothing chosen, for a kind that this version does not have, and while a job runs.
     bool ChooseKind(std::size_t option);
 
-    std::string txtSource;    ///< the file that is read, or written by an export
-    std::string txtDatabase;  ///< the adventure that an import makes
+    /// The file that is read, or written by an export, and the adventure that an import makes. Names
+    /// without a folder lie beside the open adventure.
+    std::string txtSource;
+    std::string txtDatabase;
 
     /// Ask for the files. A source proposes the database, in its folder.
     void cmdSource();
@@ -100,6 +102,7 @@ class frmSrcImport final : private interchange::JobObserver {
     bool CancelWanted() override { return cancel_; }
 
     const interchange::FileKind* Kind() const { return kinds_[chosen_].kind; }
+    std::string Placed(const std::string& typed) const;
     bool ImportIt();
     bool ExportIt();
     bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,

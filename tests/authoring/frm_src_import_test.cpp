@@ -284,6 +284,22 @@ TEST_F(FrmSrcImportTest, DatabaseCanNotBeTheSource) {
     EXPECT_EQ(dialogs_.Boxes().back().text, "The database cannot be the source file itself");
 }
 
+TEST_F(FrmSrcImportTest, NamesWithoutAFolderLieBesideTheOpenAdventure) {
+    frmSrcImport out = Screen(JobMode::Export);
+    out.ChooseKind(Option(out, "Fabula"));
+    out.txtSource = " here ";
+    EXPECT_TRUE(out.cmdImport());
+    EXPECT_EQ(out.txtSource, In("here.ext").string());
+    EXPECT_TRUE(std::filesystem::exists(In("here.ext")));
+
+    frmSrcImport in = Screen(JobMode::Import);
+    in.ChooseKind(Option(in, "Fabula"));
+    in.txtSource = "here.ext";
+    in.txtDatabase = "again";
+    EXPECT_TRUE(in.cmdImport());
+    EXPECT_EQ(in.NewFile(), In("again.fbd"));
+}
+
 TEST_F(FrmSrcImportTest, DatabaseCanNotBeTheOpenAdventure) {
     frmSrcImport screen = Screen(JobMode::Import);
     screen.ChooseKind(Option(screen, "Fabula"));
