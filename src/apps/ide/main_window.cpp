@@ -5,9 +5,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
@@ -26,17 +25,8 @@
 #include "ide/find_bar.h"
 #include "ide/game_test.h"
 #include "ide/help_pages.h"
-#include "ide/import_dialog.h"
-#include "ide/job_events.h"
 #include "ide/record_panel.h"
-#include "ide/screens.h"
-#include "ide/setup_dialog.h"
-#include "ide/sort_dialog.h"
 #include "ide/tree_panel.h"
-#include "ide/verify_dialog.h"
-#include "player/about_adventure.h"
-#include "qt/help_book.h"
-#include "qt/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -50,12 +40,10 @@ constexpr QSize kDefaultSize(1080, 700);
 constexpr QSize kSmallestSize(320, 240);
 constexpr int kSmallestIcon = 22;
 constexpr int kTreeWidth = 250;
-constexpr int kEntryGroup = 1;  ///< of the menu Edit: the commands on records
 
-// Where the window's look is kept. The theme is the one of the player's window too.
+// Where the window's look is kept.
 constexpr const char* kGeometry = "Desk/Geometry";
 constexpr const char* kSplitter = "Desk/Splitter";
-constexpr const char* kTheme = "Startup/Theme";
 
 }  // namespace
 
@@ -241,280 +229,6 @@ void MainWindow::Start(const std::filesystem::path& file) {
     ide_.Form_Load();
     ShowChanges();
 }
-
-// --- What the window shows -------------------------------------------------------------------------------
-
-void MainWindow::ShowChanges() {
-    const bool open = ide_.GetState() != authoring::frmVelIDEMain::State::NoAdventure;
-    const bool changedPage = (pages_->currentWidget() == desk_) != open;
-    setWindowTitle(qt::ToQt(ide_.Title()));
-    pages_->setCurrentWidget(open ? static_cast<QWidget*>(desk_) : empty_);
-    const authoring::TreeNode* node = ide_.CurrentNode();
-    tree_->Show(ide_.Tree(), node ? node->sort : -1);
-    const auto file = open ? ide_.CurrentSession().document.File() : std::filesystem::path();
-    const bool sameTable = open && file == shownFile_ && shownView_ == ide_.Grid().View();
-    if (sameTable) {
-        records_->ShowRecords();
-    } else {
-        shownView_ = ide_.Grid().View();
-        records_->ShowTable(qt::ToQt(ide_.Caption()));
-        find_->ShowFields(ide_.Finder());
-        tree_->setProperty(qt::kHelpPage, HelpPageOf(shownView_));
-    }
-    shownFile_ = file;
-    records_->ChooseRow(ide_.CurrentRow());
-    if (changedPage) open ? records_->Grid().setFocus() : empty_->setFocus();
-    ShowTables();
-    ShowRecent();
-    ShowRow();
-    if (ide_.MustExit()) close();
-}
-
-void MainWindow::ShowRow() {
-    qt::HelpTopic topic = HelpTopicOf(ide_.Grid(), ide_.CurrentRow());
-    // A file may name a page that the help does not have.
-    if (qt::HelpBook(places_.help).FileOf(topic.page).empty()) topic.page = HelpPageOf(ide_.Grid().View());
-    records_->setProperty(qt::kHelpPage, topic.page);
-    records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
-    ShowActions();
-}
-
-void MainWindow::ShowActions() {
-    actions_->Refresh([this](Command command) { return ide_.StateOf(command); });
-    ShowStatus();
-}
-
-void MainWindow::ShowStatus() {
-    message_->setText(qt::ToQt(ide_.Message()));
-    message_->setToolTip(qt::ToQt(ide_.Message()).toHtmlEscaped());
-    tableStatus_->setText(qt::ToQt(ide_.TableStatus()));
-    tableStatus_->setVisible(!tableStatus_->text().isEmpty());
-    adventureStatus_->setText(qt::ToQt(ide_.AdventureStatus()));
-    adventureStatus_->setVisible(!adventureStatus_->text().isEmpty());
-}
-
-void MainWindow::ShowTables() {
-    tables_->clear();
-    tables_->setEnabled(!ide_.Tree().empty());
-    const authoring::TreeNode* current = ide_.CurrentNode();
-    for (const authoring::TreeNode& node : ide_.Tree()) {
-        if (node.group) continue;
-        QAction* action = tables_->addAction(qt::IconOf(node.icon), qt::ToQt(node.name).replace('&', "&&"),
-                                             this, [this, sort = node.sort] {
-                                                 ide_.ShowNode(sort);
-                                                 ShowChanges();
-                                             });
-        action->setCheckable(true);
-        action->setChecked(current && current->sort == node.sort);
-    }
-}
-
-void MainWindow::ShowRecent() {
-    QMenu* file = menuBar()->findChild<QMenu*>("File");
-    for (QAction* action : recent_->actions())
-        delete action;
-    int number = 0;
-    for (const std::filesystem::path& each : ide_.RecentFiles()) {
-        const QString name = qt::PathToQt(each.stem()).replace('&', "&&");
-        QAction* action =
-            file->addAction(QString("&%1  %2").arg(++number).arg(name), this, [this, each] { Open(each); });
-        action->setToolTip(qt::PathToQt(each).toHtmlEscaped());
-        action->setStatusTip(qt::PathToQt(each));
-        recent_->addAction(action);
-    }
-    empty_->ShowRecent(ide_.RecentFiles());
-}
-
-void MainWindow::NextPane(int direction) {
-    const std::vector<QWidget*> panes = {tree_, &records_->FilterLine(), &records_->Grid(), find_};
-    const int count = static_cast<int>(panes.size());
-    int at = 0;
-    while (at < count && !panes[static_cast<std::size_t>(at)]->isAncestorOf(QApplication::focusWidget()) &&
-           panes[static_cast<std::size_t>(at)] != QApplication::focusWidget())
-        ++at;
-    for (int step = 1; step <= count; ++step) {
-        QWidget* pane = panes[static_cast<std::size_t>((at + step * direction + 2 * count) % count)];
-        if (!pane->isVisible()) continue;
-        if (pane == find_) return find_->Ask();
-        return pane->setFocus(Qt::TabFocusReason);
-    }
-}
-
-void MainWindow::AskEntryMenu(const QPoint& place) {
-    QMenu menu(this);
-    menu.setToolTipsVisible(true);
-    actions_->FillGroup(menu, Menu::Edit, kEntryGroup);
-    menu.addSeparator();
-    menu.addAction(actions_->Of(Command::Sort));
-    menu.exec(place);
-}
-
-void MainWindow::ChooseTheme(qt::Theme theme) {
-    services_.store.setValue(kTheme, QString::fromUtf8(qt::NameOf(theme)));
-    qt::ApplyTheme(theme);
-}
-
-// --- Commands --------------------------------------------------------------------------------------------
-
-void MainWindow::Do(Command command) {
-    if (!ide_.StateOf(command).enabled) return;
-    switch (command) {
-        case Command::New:
-            return New();
-        case Command::Exit:
-            return void(close());
-        case Command::Run:
-            return StartTest();
-        case Command::Import:
-            return ImportOrExport(authoring::JobMode::Import);
-        case Command::Export:
-            return ImportOrExport(authoring::JobMode::Export);
-        case Command::Sort:
-            return Sort();
-        case Command::Verify:
-            return Verify();
-        case Command::Filter:
-            return records_->FilterLine().setFocus();
-        case Command::Find:
-        case Command::FindNext:
-            return FindOrAsk(command);
-        case Command::Help:
-            return help_.Show(qt::TopicOf(QApplication::focusWidget()));
-        case Command::HelpContents:
-            return help_.Show({});
-        case Command::AboutAdventure:
-            return AboutAdventure();
-        case Command::About:
-            return About();
-        default:
-            return DoInLogic(command);
-    }
-}
-
-void MainWindow::DoInLogic(Command command) {
-    const auto request = ide_.Run(command);
-    if (request) {
-        try {
-            if (!OpenScreen(*request, ide_.CurrentSession(), this))
-                services_.dialogs.Tell("This version has no screen for the settings yet.", "Error");
-        } catch (const Error& error) {
-            services_.dialogs.Tell(error.what(), "Error");
-        }
-        ide_.ScreenClosed(*request);
-    }
-    ShowChanges();
-}
-
-void MainWindow::FindOrAsk(Command command) {
-    if (command == Command::Find || !find_->isVisible() || ide_.Finder().text.empty()) return find_->Ask();
-    DoInLogic(Command::Find);
-}
-
-void MainWindow::New() {
-    const auto file = ide_.AskNewFile();
-    if (!file) return;
-    store::frmSetup setup;
-    SetupDialog dialog(setup, this);
-    if (dialog.exec() != QDialog::Accepted) return;
-    ide_.NewAdventure(*file, setup, dialog.Starter());
-    ShowChanges();
-}
-
-void MainWindow::Open(const std::filesystem::path& file) {
-    ide_.OpenFile(file);
-    ShowChanges();
-}
-
-void MainWindow::OpenExample(const Example& example) {
-    try {
-        Open(TakeExample(example, places_.ownGames));
-    } catch (const Error& error) {
-        services_.dialogs.Tell(error.what(), "Error");
-    }
-}
-
-void MainWindow::Sort() {
-    authoring::SortScreen screen = ide_.mnuEditSort();
-    SortDialog dialog(screen, services_.dialogs, this);
-    dialog.setWindowModality(Qt::WindowModal);
-    dialog.exec();
-    ide_.SortClosed();
-    ShowChanges();
-}
-
-void MainWindow::Verify() {
-    JobEvents events;
-    authoring::frmVerify verify(ide_.CurrentSession().document.Adventure(), authoring::VerifyTarget::Play,
-                                events);
-    VerifyDialog dialog(verify, services_.dialogs, this);
-    dialog.goTo = [this](const authoring::frmVerify::Entry& entry) { GoTo(entry); };
-    dialog.exec();
-    ide_.Refresh();
-    ide_.Say(verify.Passed() ? "The adventure has passed." : "The adventure has not passed.");
-    ShowChanges();
-}
-
-void MainWindow::GoTo(const authoring::frmVerify::Entry& entry) {
-    ide_.Show({store::TableNum::ProcessTables, std::min(entry.estype, authoring::kOtherProcesses)});
-    if (const auto row = ide_.Grid().RowOf(entry.canum)) ide_.SelectRow(*row);
-}
-
-void MainWindow::ImportOrExport(authoring::JobMode mode) {
-    const bool open = ide_.GetState() != authoring::frmVelIDEMain::State::NoAdventure;
-    JobEvents events;
-    authoring::frmSrcImport screen(
-        mode, open ? &ide_.CurrentSession().document.Adventure() : nullptr,
-        {services_.dialogs, services_.clock, events, services_.settings, places_.desk.defaultData});
-    ImportDialog dialog(screen, services_.dialogs, this);
-    dialog.exec();
-    if (screen.NewFile()) ide_.OpenFile(*screen.NewFile());
-    if (mode == authoring::JobMode::Export && screen.Done())
-        ide_.Say("Exported to " + std::filesystem::path(screen.txtSource).filename().string() + ".");
-    ShowChanges();
-}
-
-void MainWindow::StartTest() {
-    const auto run = ide_.BeginRunTest();
-    if (!run) return ShowChanges();
-    try {
-        test_ = std::make_unique<GameTest>(
-            *run,
-            player::WindowServices{.timers = services_.timers,
-                                   .dialogs = services_.dialogs,
-                                   .sound = services_.sound,
-                                   .random = services_.random,
-                                   .settings = services_.store,
-                                   .dataFolder = places_.playersData,
-                                   .help = [this](const qt::HelpTopic& topic) { help_.Show(topic); }},
-            services_.clock.Now(), [this] { EndTest(); });
-        hide();
-    } catch (const Error& error) {
-        services_.dialogs.Tell(error.what(), "Error");
-        EndTest();
-    }
-}
-
-void MainWindow::EndTest() {
-    test_.reset();
-    ide_.EndRunTest();
-    show();
-    activateWindow();
-    ShowChanges();
-    records_->Grid().setFocus();
-}
-
-void MainWindow::AboutAdventure() {
-    const bool open = ide_.GetState() != authoring::frmVelIDEMain::State::NoAdventure;
-    store::Adventure* const adventure = open ? &ide_.CurrentSession().document.Adventure() : nullptr;
-    player::ShowAbout(player::frmAboutAdventure::Of(adventure), this);
-}
-
-void MainWindow::About() {
-    services_.dialogs.Tell("Fabula IDE " + qt::FromQt(QApplication::applicationVersion()),
-                           "About Fabula IDE");
-}
-
-// --- Events ----------------------------------------------------------------------------------------------
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     services_.store.setValue(kGeometry, saveGeometry());
