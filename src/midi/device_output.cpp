@@ -52,11 +52,30 @@ unsigned Choose(RtMidiOut& devices, const std::vector<unsigned>& ports, const st
 /// What goes wrong behind an open device is nothing that a player could mend.
 void Ignore(RtMidiError::Type, const std::string&, void*) {}
 
+bool HasSequencer() {
+    std::error_code error;
+    return std::filesystem::exists(kSequencer, error);
+}
+
 }  // namespace
 
+std::vector<std::string> DeviceNames() {
+    if (!HasSequencer()) return {};
+    try {
+        RtMidiOut devices(RtMidi::LINUX_ALSA, "Fabula");
+        devices.setErrorCallback(Ignore, nullptr);
+        std::vector<std::string> names;
+        for (const unsigned port : Ports(devices))
+            names.push_back(devices.getPortName(port));
+        return names;
+    } catch (const RtMidiError&) {
+        // The system has no MIDI at all.
+        return {};
+    }
+}
+
 std::unique_ptr<Output> OpenDevice(const std::string& name, int device) {
-    std::error_code error;
-    if (!std::filesystem::exists(kSequencer, error)) return nullptr;
+    if (!HasSequencer()) return nullptr;
     try {
         auto devices = std::make_unique<RtMidiOut>(RtMidi::LINUX_ALSA, "Fabula");
         devices->setErrorCallback(Ignore, nullptr);

@@ -18,17 +18,17 @@ namespace {
 
 constexpr int kMargin = 16;
 
-/// Framed, so that it can be told from any window.
-QIcon Swatch(int number, int size) {
-    const text::Rgb color = text::ColorRGB(number);
-    QPixmap square(2 * size, size);
-    square.fill(QColor(0x80, 0x80, 0x80));
-    QPainter(&square).fillRect(square.rect().adjusted(1, 1, -1, -1),
-                               QColor(color.red, color.green, color.blue));
-    return square;
-}
-
 }  // namespace
+
+/// Framed, so that it can be told from any window.
+QIcon ColorSwatch(int number, int height) {
+    const text::Rgb color = text::ColorRGB(number);
+    QPixmap patch(2 * height, height);
+    patch.fill(Qt::gray);
+    QPainter(&patch).fillRect(patch.rect().adjusted(1, 1, -1, -1),
+                              QColor(color.red, color.green, color.blue));
+    return patch;
+}
 
 ColorsDialog::ColorsDialog(authoring::frmColors& screen, QWidget* parent)
     : QDialog(parent), screen_(screen), chosen_(new QButtonGroup(this)), current_(new QLabel) {
@@ -72,7 +72,7 @@ QWidget* ColorsDialog::NewColors(int first, std::string_view caption) {
         color->setObjectName(QString("lblColor%1").arg(number));
         color->setAccessibleName(color->text());
         color->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        color->setIcon(Swatch(number, size));
+        color->setIcon(ColorSwatch(number, size));
         color->setIconSize({2 * size, size});
         color->setAutoRaise(true);
         color->setCheckable(true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QIcon>
 
 #include "authoring/frm_colors.h"
 
@@ -8,6 +9,9 @@ class QButtonGroup;
 class QLabel;
 
 namespace fabula::ide {
+
+/// A patch of a colour by its number, `height` pixels high and twice as wide.
+QIcon ColorSwatch(int number, int height);
 
 /// The dialog that picks one of the 16 colours. Accepted by Update; `screen` then has the number.
 class ColorsDialog final : public QDialog {

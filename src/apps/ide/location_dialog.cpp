@@ -64,14 +64,6 @@ QComboBox* NewWordList(const authoring::ComboBox& box) {
     return list;
 }
 
-QPushButton* NewButton(const QString& text, const char* name) {
-    auto* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setAccessibleName(PlainLabel(text));
-    button->setAutoDefault(false);
-    return button;
-}
-
 void Name(QWidget* control, const char* name, const char* accessibleName) {
     control->setObjectName(name);
     control->setAccessibleName(accessibleName);

@@ -5,6 +5,7 @@
 
 #include "authoring/start_up.h"
 #include "ide/main_window.h"
+#include "midi/device_output.h"
 #include "midi/player.h"
 #include "platform/random_source.h"
 #include "platform/user_folders.h"
@@ -63,8 +64,9 @@ int main(int argc, char** argv) {
     qt::QtTimers timers;
     qt::QtEvents events;
     midi::Player sound(timers, midi::OpenOutput, [](const std::string&) {});
-    ide::MainWindow window({timers, dialogs, settings, store, clock, events, sound, random},
-                           FindPlaces(*files, environment, folders));
+    ide::MainWindow window(
+        {timers, dialogs, settings, store, clock, events, sound, random, midi::DeviceNames},
+        FindPlaces(*files, environment, folders));
     window.show();
     window.Start(arguments.positionalArguments().isEmpty()
                      ? std::filesystem::path()

@@ -2,7 +2,9 @@
 
 #include <QMainWindow>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "authoring/frm_src_import.h"
@@ -40,6 +42,8 @@ struct Services {
     platform::EventPump& events;
     engine::SoundPlayer& sound;
     platform::RandomSource& random;
+    /// The names of the system's MIDI devices, for the settings.
+    std::function<std::vector<std::string>()> soundDevices = [] { return std::vector<std::string>(); };
 };
 
 /// Where the window finds and keeps its files.

@@ -61,8 +61,7 @@ void MainWindow::DoInLogic(Command command) {
     const auto request = ide_.Run(command);
     if (request) {
         try {
-            if (!OpenScreen(*request, ide_.CurrentSession(), this))
-                services_.dialogs.Tell("This version has no screen for the settings yet.", "Error");
+            OpenScreen(*request, ide_.CurrentSession(), {services_.sound, services_.soundDevices}, this);
         } catch (const Error& error) {
             services_.dialogs.Tell(error.what(), "Error");
         }

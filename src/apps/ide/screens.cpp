@@ -2,6 +2,7 @@
 
 #include "authoring/frm_both_messages.h"
 #include "authoring/frm_flags.h"
+#include "authoring/frm_vel_adv_settings.h"
 #include "authoring/frm_vel_cond_act.h"
 #include "authoring/frm_vel_location.h"
 #include "authoring/frm_vel_objects.h"
@@ -10,6 +11,7 @@
 #include "ide/location_dialog.h"
 #include "ide/object_dialog.h"
 #include "ide/process_entry_dialog.h"
+#include "ide/settings_dialog.h"
 #include "ide/text_dialog.h"
 #include "ide/word_dialog.h"
 
@@ -45,32 +47,32 @@ void ShowProcessEntry(authoring::Session& session, const authoring::ScreenReques
     Show(dialog);
 }
 
+void ShowSettings(authoring::Session& session, const SoundTest& sound, QWidget* parent) {
+    authoring::frmVelAdvSettings screen(session, sound.devices());
+    SettingsDialog dialog(screen, sound.player, parent);
+    Show(dialog);
+}
+
 }  // namespace
 
-bool OpenScreen(const authoring::ScreenRequest& request, authoring::Session& session, QWidget* parent) {
+void OpenScreen(const authoring::ScreenRequest& request, authoring::Session& session,
+                const SoundTest& sound, QWidget* parent) {
     switch (request.screen) {
         case Screen::Location:
-            ShowRecord<LocationDialog, authoring::frmVelLocation>(session, request.key, parent);
-            return true;
+            return ShowRecord<LocationDialog, authoring::frmVelLocation>(session, request.key, parent);
         case Screen::Object:
-            ShowRecord<ObjectDialog, authoring::frmVelObjects>(session, request.key, parent);
-            return true;
+            return ShowRecord<ObjectDialog, authoring::frmVelObjects>(session, request.key, parent);
         case Screen::Word:
-            ShowRecord<WordDialog, authoring::frmVelVocabulary>(session, request.key, parent);
-            return true;
+            return ShowRecord<WordDialog, authoring::frmVelVocabulary>(session, request.key, parent);
         case Screen::Flag:
-            ShowRecord<FlagDialog, authoring::frmFlags>(session, request.key, parent);
-            return true;
+            return ShowRecord<FlagDialog, authoring::frmFlags>(session, request.key, parent);
         case Screen::Text:
-            ShowText(session, request.key, parent);
-            return true;
+            return ShowText(session, request.key, parent);
         case Screen::ProcessEntry:
-            ShowProcessEntry(session, request, parent);
-            return true;
+            return ShowProcessEntry(session, request, parent);
         case Screen::Settings:
-            break;
+            return ShowSettings(session, sound, parent);
     }
-    return false;
 }
 
 }  // namespace fabula::ide

@@ -1,14 +1,26 @@
 #pragma once
 
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "authoring/entries.h"
 #include "authoring/session.h"
+#include "engine/sound_player.h"
 
 class QWidget;
 
 namespace fabula::ide {
 
-/// Shows the dialog of a screen until the author leaves it. What was stored is in the adventure then. False
-/// when this version has no dialog for the screen. Throws fabula::Error when the record can't be read.
-bool OpenScreen(const authoring::ScreenRequest& request, authoring::Session& session, QWidget* parent);
+/// What the settings try the sound with.
+struct SoundTest {
+    engine::SoundPlayer& player;
+    std::function<std::vector<std::string>()> devices;  ///< the names of the system's MIDI devices
+};
+
+/// Shows the dialog of a screen until the author leaves it. What was stored is in the adventure then.
+/// Throws fabula::Error when the record can't be read.
+void OpenScreen(const authoring::ScreenRequest& request, authoring::Session& session,
+                const SoundTest& sound, QWidget* parent);
 
 }  // namespace fabula::ide

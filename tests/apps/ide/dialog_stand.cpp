@@ -10,6 +10,7 @@
 #include "ide/location_dialog.h"
 #include "ide/object_dialog.h"
 #include "ide/process_entry_dialog.h"
+#include "ide/settings_dialog.h"
 #include "ide/setup_dialog.h"
 #include "ide/sort_dialog.h"
 #include "ide/text_dialog.h"
@@ -140,6 +141,16 @@ Opened OpenVerify(Desk& desk) {
     return Keep<ide::VerifyDialog>(std::make_shared<Parts>(desk));
 }
 
+Opened OpenSettings(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : screen(of.session), dialog(screen, sound) {}
+        engine::SilentPlayer sound;
+        authoring::frmVelAdvSettings screen;
+        ide::SettingsDialog dialog;
+    };
+    return Keep<ide::SettingsDialog>(std::make_shared<Parts>(desk));
+}
+
 }  // namespace
 
 void PrintTo(const DialogStand& stand, std::ostream* out) {
@@ -149,6 +160,7 @@ void PrintTo(const DialogStand& stand, std::ostream* out) {
 const std::vector<DialogStand>& EveryDialog() {
     static const std::vector<DialogStand> kStands = {
         {"Setup", "Choose Type of Adventure", "optFabula", OpenSetup},
+        {"Settings", "Adventure Settings Editor", "txtAdventureName", OpenSettings},
         {"Location", "Location 0", "txtShortDesc",
          [](Desk& desk) {
              return OpenRecord<ide::LocationDialog, authoring::frmVelLocation>(desk, {.key = 0});
