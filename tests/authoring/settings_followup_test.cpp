@@ -10,6 +10,7 @@
 
 #include "authoring/desk.h"
 #include "authoring/frm_vel_adv_settings.h"
+#include "support/raw_database.h"
 
 namespace fabula::authoring {
 namespace {
@@ -214,6 +215,21 @@ TEST_F(SettingsFollowUp, EndsTheProgramWhenCharacterSetsWereSwitched) {
     ASSERT_EQ(desk_.dialogs.Boxes().size(), 1u);
     EXPECT_EQ(desk_.dialogs.Boxes()[0].text, "Changing Character Sets requires exiting program");
     EXPECT_EQ(desk_.dialogs.Boxes()[0].title, "Adventure Settings");
+}
+
+TEST_F(SettingsFollowUp, TellsWhenTheFileFailsAndKeepsTheSettings) {
+    const SettingsBefore before = ReadSettingsBefore(desk_.document);
+    frmVelAdvSettings screen(desk_.session);
+    screen.chkGraphicsInDb = true;
+    screen.ClickChkCharSets(true);
+    ASSERT_TRUE(screen.cmdUpdate());
+    test::RawDatabase(desk_.document.File()).Run("alter table locations rename to gone");
+    EXPECT_FALSE(FollowSettings(desk_.session, before));
+    ASSERT_EQ(desk_.dialogs.Boxes().size(), 2u);
+    EXPECT_EQ(desk_.dialogs.Boxes()[0].title, "Error");
+    EXPECT_EQ(desk_.dialogs.Boxes()[1].text, "Changing Character Sets requires exiting program");
+    EXPECT_THAT(desk_.Rows(TableNum::Adventure, "graphicsindb, charsets, oldadvpicloc"),
+                ElementsAre("1|1| "));
 }
 
 TEST_F(SettingsFollowUp, GoesOnAfterAnyOtherChange) {
