@@ -64,6 +64,8 @@ void DoAll(QDialog& dialog, const std::vector<Step>& steps) {
 void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind) {
     GameBuilder(kind)
         .Graphics()
+        .SettingText("advname", "The Lighthouse")
+        .SettingText("savename", "light")
         .Location(0, "You are in the hall of the lighthouse.", "The hall")
         .Message(0, "The lamp is lit.")
         .Message(1, "It is dark.")

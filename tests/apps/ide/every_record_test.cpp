@@ -46,6 +46,19 @@ struct Edit {
 
 const std::vector<Edit>& Edits() {
     static const std::vector<Edit> kEdits = {
+        {"AdventureSettings",
+         "Adventure Settings",
+         "The Lighthouse",
+         "Author",
+         "",
+         "Ann",
+         {{"txtAuthor", "Ann"}},
+         "edit the settings",
+         TableNum::Adventure,
+         "author",
+         "",
+         "",
+         "Ann"},
         {"LocationsShortDescription",
          "Locations",
          "0",
