@@ -77,9 +77,9 @@ TEST(SetupGrid, ShowsMoreFieldsInTheMaintenanceView) {
 
 TEST(SetupGrid, TitlesColumnsByTheOtherNameOfAFieldOrElseByItsName) {
     const test::OpenedAdventure adventure;
-    const TableGrid flags = GridOf(*adventure, {TableNum::Flags});
-    EXPECT_EQ(flags.Columns()[0].title, "Flag");
-    EXPECT_EQ(flags.Columns()[1].title, "flgtype");
+    const TableGrid catalogue = GridOf(*adventure, {TableNum::CondActs});
+    EXPECT_EQ(catalogue.Columns().front().title, "Number");
+    EXPECT_EQ(catalogue.Columns().back().title, "PCVel");
 }
 
 TEST(SetupGrid, TellsWhichColumnsMayBeWidenedAndWhichHoldNumbers) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/raw_database.h"
+#include "support/temp_folder.h"
 #include "support/template_adventure.h"
 
 namespace fabula::authoring {
@@ -42,6 +44,39 @@ TEST(ReadTableRights, WithoutARecordAllowNothing) {
     EXPECT_FALSE(rights.Allows(Command::Add));
     EXPECT_FALSE(rights.Allows(Command::Sort));
     EXPECT_TRUE(rights.Allows(Command::Find));
+}
+
+TEST(ReadTableRights, TakeTheBatchExportFromItsFieldAndFromNoOther) {
+    const test::OpenedAdventure adventure;
+    ASSERT_TRUE(ReadTableRights(*adventure, TableNum::Locations).batchExport);
+    store::Cursor& row = adventure->OpenTable(TableNum::Tables, "def", "tablenum=1 and export=1");
+    row.SetField("allowexp", std::string("N"));
+    row.Update();
+    EXPECT_FALSE(ReadTableRights(*adventure, TableNum::Locations).Allows(Command::BatchExport));
+    EXPECT_TRUE(ReadTableRights(*adventure, TableNum::Locations).Allows(Command::Add));
+}
+
+TEST(ReadTableRights, OfAnOlderFileWithoutTheFieldForItOfferNoBatchExport) {
+    const test::TempFolder folder;
+    test::MakeAdventure(folder / "old.fbd");
+    test::RawDatabase(folder / "old.fbd")
+        .Run(
+            "ALTER TABLE Tables DROP COLUMN allowexp; "
+            "DELETE FROM Tables WHERE TableNum=12 AND fieldname='allowexp'");
+    const auto old = store::Adventure::Open(folder / "old.fbd");
+    const TableRights rights = ReadTableRights(*old, TableNum::Locations);
+    EXPECT_FALSE(rights.Allows(Command::BatchExport));
+    EXPECT_TRUE(rights.Allows(Command::Add));
+}
+
+TEST(FilterOf, ChoosesTheRecordsOfTheView) {
+    EXPECT_EQ(FilterOf({TableNum::ProcessTables, 0}), "estype=0");
+    EXPECT_EQ(FilterOf({TableNum::ProcessTables, 1}), "estype=1");
+    EXPECT_EQ(FilterOf({TableNum::ProcessTables, 2}), "estype=2");
+    EXPECT_EQ(FilterOf({TableNum::ProcessTables, kOtherProcesses}), "estype>2");
+    EXPECT_EQ(FilterOf({TableNum::Tables}), "tablekey>=0");
+    EXPECT_EQ(FilterOf({TableNum::DataBases}), "dbnum>=0");
+    EXPECT_EQ(FilterOf({TableNum::Messages}), "");
 }
 
 TEST(TextsFor, NameTheRecordAndTheKey) {

@@ -114,6 +114,20 @@ TEST(MainWindow, DeletedRecordComesBackByUndoUnderItsName) {
     EXPECT_EQ(opened.Action("Redo").text(), "&Redo delete message 2");
 }
 
+TEST(MainWindow, UndoGoesToTheTableAndTheRowThatChanged) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    opened.Part<QTableView>("Grid").selectRow(1);
+    opened.dialogs.AnswerNext(true);
+    opened.Action("Delete").trigger();
+    opened.ChooseNode("Flags");
+    opened.Action("Undo").trigger();
+    EXPECT_EQ(opened.Part<QTreeWidget>("Tree").currentItem()->text(0), "Messages");
+    EXPECT_EQ(opened.Part<QTableView>("Grid").currentIndex().row(), 1);
+    EXPECT_EQ(opened.Part<QLabel>("txtStatus").text(), "Undone: delete message 1");
+}
+
 TEST(MainWindow, F6GoesFromTreeToFilterToRowsAndBack) {
     OpenedWindow opened;
     opened.Open(Game());
