@@ -146,6 +146,11 @@ void MainWindow::MakeMenus() {
     QMenu* view = menuBar()->findChild<QMenu*>("View");
     tables_ = view->addMenu(tr("&Tables"));
     tables_->setObjectName("Tables");
+    columns_ = view->addMenu(tr("Sort &Rows By"));
+    columns_->setObjectName("Columns");
+    // Filled when they are opened: none of their lines may go while it is being chosen.
+    QObject::connect(tables_, &QMenu::aboutToShow, this, [this] { ShowTables(); });
+    QObject::connect(columns_, &QMenu::aboutToShow, this, [this] { ShowColumns(); });
     view->addSeparator();
     MakeThemeMenu(*view);
 

@@ -92,6 +92,7 @@ class MainWindow final : public QMainWindow {
     void ShowActions();
     void ShowStatus();
     void ShowTables();
+    void ShowColumns();
     void ShowRecent();
     void NextPane(int direction);
 
@@ -127,6 +128,7 @@ class MainWindow final : public QMainWindow {
     FindBar* find_;
     CommandActions* actions_;
     QMenu* tables_ = nullptr;
+    QMenu* columns_ = nullptr;
     QActionGroup* recent_ = nullptr;
     QActionGroup* themes_ = nullptr;
     QLabel* message_;

@@ -57,7 +57,8 @@ void MainWindow::ShowChanges() {
     shownFile_ = file;
     records_->ChooseRow(ide_.CurrentRow());
     if (changedPage) open ? records_->Grid().setFocus() : empty_->setFocus();
-    ShowTables();
+    tables_->setEnabled(open);
+    columns_->setEnabled(open);
     ShowRecent();
     ShowRow();
     if (ide_.MustExit()) close();
@@ -88,7 +89,6 @@ void MainWindow::ShowStatus() {
 
 void MainWindow::ShowTables() {
     tables_->clear();
-    tables_->setEnabled(!ide_.Tree().empty());
     const authoring::TreeNode* current = ide_.CurrentNode();
     for (const authoring::TreeNode& node : ide_.Tree()) {
         if (node.group) continue;
@@ -102,10 +102,30 @@ void MainWindow::ShowTables() {
     }
 }
 
+/// What a click on a heading does, for the keyboard.
+void MainWindow::ShowColumns() {
+    columns_->clear();
+    const authoring::TableGrid& grid = ide_.Grid();
+    for (int column = 0; column < static_cast<int>(grid.Columns().size()); ++column) {
+        const bool sorted = grid.SortColumn() == column;
+        QString name = qt::ToQt(grid.Columns()[static_cast<std::size_t>(column)].title).replace('&', "&&");
+        if (sorted) name += grid.SortsDown() ? tr(" (descending)") : tr(" (ascending)");
+        QAction* action = columns_->addAction(name, this, [this, column] {
+            ide_.ClickColumn(column);
+            ShowChanges();
+        });
+        action->setCheckable(true);
+        action->setChecked(sorted);
+    }
+}
+
 void MainWindow::ShowRecent() {
     QMenu* file = menuBar()->findChild<QMenu*>("File");
-    for (QAction* action : recent_->actions())
-        delete action;
+    for (QAction* action : recent_->actions()) {
+        recent_->removeAction(action);
+        file->removeAction(action);
+        action->deleteLater();  // it may be the one that was chosen
+    }
     int number = 0;
     for (const std::filesystem::path& each : ide_.RecentFiles()) {
         const QString name = qt::PathToQt(each.stem()).replace('&', "&&");

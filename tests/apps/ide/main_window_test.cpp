@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -258,6 +259,39 @@ TEST(MainWindow, EnterOnARowOpensItsScreen) {
         opened.Press(Qt::Key_Return);
         EXPECT_TRUE(shown) << node;
     }
+}
+
+TEST(MainWindow, RowsAreSortedByAColumnFromTheMenuToo) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    auto& menu = opened.Part<QMenu>("Columns");
+    const auto texts = [&] {
+        Q_EMIT menu.aboutToShow();
+        return menu.actions().at(1);
+    };
+    texts()->trigger();
+    EXPECT_EQ(opened.Cell(0, 1), "Another lamp.");
+    EXPECT_EQ(texts()->text(), "Text (ascending)");
+    texts()->trigger();
+    EXPECT_EQ(opened.Cell(0, 1), "The lamp is lit.");
+    EXPECT_EQ(texts()->text(), "Text (descending)");
+    EXPECT_TRUE(texts()->isChecked());
+    texts()->trigger();
+    EXPECT_EQ(opened.Cell(0, 0), "0");
+    EXPECT_EQ(texts()->text(), "Text");
+}
+
+TEST(MainWindow, ARecentAdventureIsOpenedFromTheMenu) {
+    OpenedWindow opened;
+    Game().Write(opened.folder / "other.fbd");
+    opened.Window().Start(opened.folder / "other.fbd");
+    opened.Open(Game());
+    const QList<QAction*> actions = opened.Part<QMenu>("File").actions();
+    ASSERT_TRUE(actions.last()->text().endsWith("other"));
+    actions.last()->trigger();
+    EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - other");
+    EXPECT_TRUE(opened.Part<QMenu>("File").actions().last()->text().endsWith("game"));
 }
 
 TEST(MainWindow, LongTextsNeedNoScrollingSideways) {
