@@ -25,8 +25,8 @@ std::vector<int> FitColumns(const std::vector<ColumnWish>& wishes, int room) {
         widest = std::max(widest, wish.width);
     // The highest level at which they fit lies from `low` on and below `high`.
     const bool fits = SumAt(wishes, 0) <= room;
-    int low = fits ? 0 : widest;
-    int high = widest + 1;
+    int low = fits ? 0 : room / 2;
+    int high = fits ? widest + 1 : low + 1;
     while (high - low > 1) {
         const int middle = low + (high - low) / 2;
         (SumAt(wishes, middle) <= room ? low : high) = middle;

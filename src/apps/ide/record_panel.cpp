@@ -21,7 +21,7 @@ namespace {
 constexpr std::chrono::milliseconds kResizeDelay{300};
 /// How many rows tell the width of a column that has none, and the widest that it becomes, in letters.
 constexpr int kRowsForWidth = 100;
-constexpr int kWidestColumn = 48;
+constexpr int kWidestColumn = 160;
 constexpr int kNarrowestColumn = 10;  ///< of those that need more
 constexpr int kCellMargin = 20;
 constexpr int kTitleMargin = 4;  ///< besides the one that it brings

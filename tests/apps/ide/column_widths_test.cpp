@@ -24,8 +24,9 @@ TEST(FitColumns, NarrowsNoneBelowItsLeast) {
     EXPECT_THAT(FitColumns({{40, 20}, {500, 80}, {100, 50}}, 155), ElementsAre(25, 80, 50));
 }
 
-TEST(FitColumns, GivesAllWhatTheyNeedWhereTheyCouldNotFitAnyway) {
-    EXPECT_THAT(FitColumns({{40, 20}, {500, 80}, {100, 50}}, 149), ElementsAre(40, 500, 100));
+TEST(FitColumns, GivesAtMostHalfTheRoomWhereTheyCouldNotFitAnyway) {
+    EXPECT_THAT(FitColumns({{40, 20}, {500, 80}, {60, 50}}, 148), ElementsAre(40, 80, 60));
+    EXPECT_THAT(FitColumns({{400, 300}, {1000, 300}, {350, 300}}, 840), ElementsAre(400, 420, 350));
 }
 
 TEST(FitColumns, LeavesWhatTheAuthorGave) {
