@@ -9,6 +9,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "ide/cell_delegate.h"
 #include "ide/grid_model.h"
 #include "ide/pane_focus.h"
 #include "qt/icons.h"
@@ -59,6 +60,7 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
 
     view_->setObjectName("Grid");
     view_->setModel(model_);
+    view_->setItemDelegate(new CellDelegate(view_));
     view_->setSelectionBehavior(QAbstractItemView::SelectRows);
     view_->setSelectionMode(QAbstractItemView::SingleSelection);
     view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
