@@ -90,3 +90,9 @@ desk-processes-dark lighthouse dark 6
 desk-vocabulary-light lighthouse light 8
 desk-messages-dark signal_box dark 2
 TABLE
+
+if wanted tutorial; then
+    # shellcheck source=scripts/tutorial_pictures.sh
+    . scripts/tutorial_pictures.sh
+    tutorial
+fi

@@ -3,7 +3,11 @@
 #include <QListWidget>
 #include <QTableView>
 #include <QTest>
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,16 +21,41 @@
 #include "qt/strings.h"
 #include "store/adventure.h"
 
-/// A first game, from New to its end, by keys and clicks only.
+/// The game of docs/tutorial.md, made as the tutorial tells: one step here for each of its headings.
 namespace fabula::test {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 constexpr QKeyCombination kAdd = Qt::CTRL | Qt::Key_N;
 constexpr QKeyCombination kUpdate = Qt::CTRL | Qt::Key_Return;
+
+std::string ReadFile(const char* file) {
+    std::ifstream in(file);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// The text with a blank for each end of a line.
+std::string Unwrapped(std::string text) {
+    std::ranges::replace(text, '\n', ' ');
+    return text;
+}
+
+std::vector<std::string> Between(const std::string& text, const std::string& begin,
+                                 const std::string& end) {
+    std::vector<std::string> found;
+    for (std::size_t at = text.find(begin); at != std::string::npos; at = text.find(begin, at)) {
+        at += begin.size();
+        const std::size_t stop = text.find(end, at);
+        if (stop == std::string::npos) break;
+        found.push_back(text.substr(at, stop - at));
+        at = stop + end.size();
+    }
+    return found;
+}
 
 class Tutorial : public testing::Test {
   protected:
@@ -264,6 +293,22 @@ class Tutorial : public testing::Test {
     }
     std::filesystem::path File() { return author_.Desk().folder / "cake.fbd"; }
 
+    /// The tutorial says what was done: what was typed, what was chosen, and no other commands.
+    void CompareWithTheText() {
+        const std::string text = Unwrapped(ReadFile(FABULA_SOURCE_DIR "/docs/tutorial.md"));
+        for (const std::string& typed : author_.Typed())
+            EXPECT_THAT(text, HasSubstr(typed == File().string() ? "cake.fbd" : typed));
+        std::set<std::string> chosen;
+        for (const std::string& each : author_.Chosen()) {
+            EXPECT_THAT(text, HasSubstr("**" + each + "**"));
+            chosen.insert(each);
+        }
+        for (const std::string& command : Between(text, "**", "**"))
+            EXPECT_THAT(chosen, Contains(command)) << "is told in the tutorial only";
+        for (const std::string& picture : Between(text, "](images/", ")"))
+            EXPECT_TRUE(std::filesystem::exists(FABULA_SOURCE_DIR "/docs/images/" + picture)) << picture;
+    }
+
     Author author_;
 };
 
@@ -314,6 +359,7 @@ TEST_F(Tutorial, ItsStepsMakeAGameThatCanBeWon) {
         ElementsAre("0|E|_|AT 0 ZERO 60 MESSAGE 2 DONE", "0|OPEN|DOOR|AT 0 NOTZERO 60 MESSAGE 5 DONE",
                     "0|OPEN|DOOR|AT 0 NOTCARR 0 MESSAGE 4 DONE", "0|OPEN|DOOR|AT 0 SET 60 MESSAGE 3 DONE",
                     "0|EAT|CAKE|PRESENT 1 PLUS 30 100 MESSAGE 6 SCORE TURNS END"));
+    CompareWithTheText();
 }
 
 }  // namespace
