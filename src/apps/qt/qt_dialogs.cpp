@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 #include "qt/strings.h"
@@ -21,6 +23,12 @@ QMessageBox::StandardButton Ask(QMessageBox::Icon icon, QMessageBox::StandardBut
     QMessageBox box(icon, ToQt(title), ToQt(text), buttons, parent);
     box.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+/// A person's own games, where nobody has said anything else.
+QString OwnFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
 }  // namespace
@@ -92,7 +100,9 @@ std::optional<std::filesystem::path> QtDialogs::ChooseFile(const platform::FileQ
     dialog.setFileMode(question.forWriting ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksToOverwrite);
     std::error_code ignored;
-    if (std::filesystem::is_directory(question.start, ignored)) {
+    if (question.start.empty()) {
+        dialog.setDirectory(OwnFolder());
+    } else if (std::filesystem::is_directory(question.start, ignored)) {
         dialog.setDirectory(PathToQt(question.start));
     } else {
         dialog.setDirectory(PathToQt(question.start.parent_path()));
