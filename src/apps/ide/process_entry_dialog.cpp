@@ -24,7 +24,8 @@ namespace {
 
 constexpr int kMargin = 16;
 constexpr int kDefaultWidth = 720;
-constexpr int kLinesOfTheLine = 4;
+constexpr int kFewestLines = 4;  ///< of the field of the whole entry
+constexpr int kMoreLines = 10;   ///< that it has room for at first
 constexpr int kLettersOfAName = 10;
 constexpr int kBelowLabel = 4;
 
@@ -51,7 +52,7 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget
     column->setSpacing(12);
     column->addLayout(BuildEntry());
     column->addLayout(BuildCondAct());
-    column->addLayout(BuildLine());
+    column->addLayout(BuildLine(), 1);
     auto* scroll = new QScrollArea;
     scroll->setWidget(form);
     scroll->setWidgetResizable(true);
@@ -66,7 +67,9 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget
     focus_ = connect(qApp, &QApplication::focusChanged, this,
                      [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
     line_->setFocus();
-    const QSize wanted(kDefaultWidth, form->sizeHint().height() + buttons->sizeHint().height());
+    const int moreLines = kMoreLines * line_->fontMetrics().lineSpacing();
+    const QSize wanted(kDefaultWidth,
+                       form->heightForWidth(kDefaultWidth) + buttons->sizeHint().height() + moreLines);
     resize(wanted.boundedTo(QWidget::screen()->availableSize() * 9 / 10));
 }
 
@@ -162,7 +165,9 @@ QLayout* ProcessEntryDialog::BuildLine() {
     line_ = new CondActEdit(screen_.Help(), this);
     line_->setObjectName("txtAllCAs");
     line_->setAccessibleName(tr("Combined Condition/Actions"));
-    line_->setMinimumHeight(line_->fontMetrics().lineSpacing() * kLinesOfTheLine);
+    line_->setMinimumHeight(line_->fontMetrics().lineSpacing() * kFewestLines);
+    // It gives way to the notes below it before anything has to be scrolled.
+    line_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     auto* label = new QLabel(tr("Com&bined Condition/Actions"), this);
     label->setBuddy(line_);
     meaning_ = MakeNote("lblMeaning", tr("Meaning"), this);

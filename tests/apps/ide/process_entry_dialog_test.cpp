@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
 #include <memory>
@@ -244,6 +246,13 @@ TEST_F(ProcessEntryDialogTest, AnEntryThatIsGoneIsToldAndWhatWasTypedStays) {
     EXPECT_THAT(desk_.Boxes(), ElementsAre("Could not edit process entry 4: it is not there."));
     EXPECT_TRUE(dialog_->isVisible());
     EXPECT_EQ(Line(), "DONE DESC");
+}
+
+TEST_F(ProcessEntryDialogTest, TheLineGivesWayBeforeAnythingHasToBeScrolled) {
+    const auto* bar = dialog_->findChild<QScrollArea*>()->verticalScrollBar();
+    dialog_->resize(dialog_->width(), dialog_->height() - line_->height() + line_->minimumHeight() + 1);
+    QApplication::processEvents();
+    EXPECT_FALSE(bar->isVisible());
 }
 
 }  // namespace
