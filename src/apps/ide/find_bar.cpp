@@ -23,7 +23,7 @@ FindBar::FindBar(Events events, QWidget* parent)
     fields_->setAccessibleName(tr("Field to find in"));
     fields_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     auto* in = new QLabel(tr("in"));
-    const auto button = [this](const char* name, const char* icon, const QString& text) {
+    const auto button = [](const char* name, const char* icon, const QString& text) {
         auto* made = new QToolButton;
         made->setObjectName(name);
         made->setIcon(qt::IconOf(icon));
