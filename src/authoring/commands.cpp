@@ -65,7 +65,7 @@ constexpr CommandEntry kCommands[] = {
     {Command::Save, "SaveSet", Menu::Edit, 2, "&Save Entry...", "", "save", "Save records to a file",
      Use::Menu, kNoSetFiles},
     {Command::Find, "Find", Menu::Edit, 3, "&Find...", "Ctrl+F", "find",
-     "Look for a text or a number in a field"},
+     "Look for a text or a number in a field", Use::ToolBar},
     {Command::FindNext, "FindNext", Menu::Edit, 3, "Find Ne&xt", "F3", "find-next",
      "Look for the same further on"},
     {Command::Filter, "Filter", Menu::Edit, 3, "Fil&ter Rows", "Ctrl+K", "filter",
