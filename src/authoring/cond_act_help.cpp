@@ -144,7 +144,11 @@ struct CondActHelp::Place {
 CondActHelp::CondActHelp(store::Adventure& adventure)
     : catalogue_(condacts::LoadCatalogue(adventure)),
       facts_(condacts::LoadFacts(adventure)),
-      texts_(LoadRecordTexts(adventure)) {}
+      texts_(LoadRecordTexts(adventure)) {
+    store::PreparedQuery rows = adventure.Prepare(store::TableNum::CondActs, "canum, htmlpage", "");
+    for (bool more = rows.First({}); more; more = rows.Next())
+        pages_.try_emplace(static_cast<int>(rows.Number(0)), rows.Text(1));
+}
 
 CondActHelp::Place CondActHelp::Find(std::string_view line, std::size_t cursor) const {
     Place place;
@@ -273,6 +277,15 @@ std::string CondActHelp::Meaning(std::string_view line, std::size_t cursor) cons
     const std::string meaning = MeaningOfParameter(*place.condAct, place.parameter, token);
     if (meaning.empty()) return "";
     return place.condAct->name + " " + text::UpperCase(token) + ": " + meaning;
+}
+
+std::string CondActHelp::Page(std::string_view line, std::size_t cursor) const {
+    const Place place = Find(line, cursor);
+    if (!place.known) return "";
+    const std::string_view token = line.substr(place.begin, place.end - place.begin);
+    const CondAct* condAct = place.condAct ? place.condAct : catalogue_.Find(token, facts_.dialect);
+    const auto page = condAct ? pages_.find(condAct->number) : pages_.end();
+    return page == pages_.end() ? "" : page->second;
 }
 
 std::optional<MarkedFault> CondActHelp::FirstFault(std::string_view line) const {

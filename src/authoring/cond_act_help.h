@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -66,6 +67,10 @@ class CondActHelp {
     /// there. "" in an empty line.
     std::string Meaning(std::string_view line, std::size_t cursor) const;
 
+    /// The page of the help about the condition or action at the cursor, which may stand in its name or in
+    /// a parameter of it: "at.htm". "" where there is none.
+    std::string Page(std::string_view line, std::size_t cursor) const;
+
     /// The first fault, or nullopt.
     std::optional<MarkedFault> FirstFault(std::string_view line) const;
     /// The same while the line is being typed: what is not finished at the cursor is no fault yet.
@@ -83,6 +88,7 @@ class CondActHelp {
     condacts::Catalogue catalogue_;
     condacts::Facts facts_;
     RecordTexts texts_;
+    std::map<int, std::string> pages_;  ///< by the number of the condition or action
 };
 
 }  // namespace fabula::authoring

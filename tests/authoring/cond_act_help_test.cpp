@@ -314,5 +314,20 @@ TEST(ParameterNames, AreThoseOfTheirKinds) {
     EXPECT_EQ(name("CHANCE", 0), "Value");
 }
 
+TEST(Page, IsThatOfTheNameAtTheCursorOrOfTheNameBeforeAParameter) {
+    const HelpOf help;
+    EXPECT_EQ(help->Page("AT 0 MESSAGE 1", 1), "at.htm");
+    EXPECT_EQ(help->Page("AT 0 MESSAGE 1", 4), "at.htm");
+    EXPECT_EQ(help->Page("AT 0 MESSAGE 1", 5), "message.htm");
+    EXPECT_EQ(help->Page("AT 0 MESSAGE 1", 14), "message.htm");
+}
+
+TEST(Page, IsNoneWhereThereIsNoName) {
+    const HelpOf help;
+    EXPECT_EQ(help->Page("", 0), "");
+    EXPECT_EQ(help->Page("XYZ 1", 1), "");
+    EXPECT_EQ(help->Page("DONE ", 5), "");
+}
+
 }  // namespace
 }  // namespace fabula::authoring

@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QStringListModel>
 
+#include "qt/help_request.h"
 #include "qt/strings.h"
 #include "text/utf8.h"
 
@@ -69,6 +70,7 @@ void CondActEdit::Tell() {
         marks.append(mark);
     }
     setExtraSelections(marks);
+    setProperty(qt::kHelpPage, qt::ToQt(help_.Page(typed.line, typed.cursor)));
     onMeaning(qt::ToQt(help_.Meaning(typed.line, typed.cursor)));
     onFault(fault ? SentenceOf(*fault, typed.line) : QString());
 }

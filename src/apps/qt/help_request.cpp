@@ -27,7 +27,9 @@ bool HelpRequest::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() != QEvent::KeyPress || !receiver->isWidgetType()) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier) return false;
-    show_(TopicOf(static_cast<QWidget*>(receiver)));
+    const auto* control = static_cast<QWidget*>(receiver);
+    // A list that is open under a field has the keys, but it is the field that is asked about.
+    show_(TopicOf(control->focusProxy() ? control->focusProxy() : control));
     return true;
 }
 

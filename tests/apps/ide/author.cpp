@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
+#include <QWindow>
 #include <algorithm>
 
 #include <gtest/gtest.h>
@@ -80,7 +81,6 @@ void Author::Meet(QWidget* dialog) {
         expected_.pop_front();
         // What was said to windows before is heard first.
         QApplication::processEvents();
-        QApplication::setActiveWindow(dialog);
         steps();
     } else {
         const auto* box = qobject_cast<const QMessageBox*>(dialog);
@@ -98,7 +98,10 @@ QWidget& Author::Front() const {
     QWidget* front = QApplication::activeModalWidget();
     if (!front && desk_->Window().Test()) front = &desk_->Window().Test()->Window();
     if (!front) front = &desk_->Window();
-    if (!front->isActiveWindow()) QApplication::setActiveWindow(front);
+    if (!QApplication::activePopupWidget() && QGuiApplication::focusWindow() != front->windowHandle()) {
+        front->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(front));
+    }
     return *front;
 }
 

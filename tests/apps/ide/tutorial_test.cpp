@@ -18,6 +18,7 @@
 #include "ide/game_test.h"
 #include "player/game_screen.h"
 #include "player/text_pane.h"
+#include "qt/help_window.h"
 #include "qt/strings.h"
 #include "store/adventure.h"
 
@@ -201,6 +202,7 @@ class Tutorial : public testing::Test {
             author_.Clicks("txtAllCAs");
             author_.Types("at 0 zero 60");
             EXPECT_EQ(Told("lblMeaning"), "ZERO 60: The pantry is open.");
+            LookUp("zero.htm");
             author_.Types(" mess");
             author_.Presses(Qt::Key_Tab);
             author_.Types("lock");
@@ -213,6 +215,12 @@ class Tutorial : public testing::Test {
         AddRule("OPEN", "DOOR", "at 0 notcarr 0 message 4 done");
         AddRule("OPEN", "DOOR", "at 0 set 60 message 3 done");
         AddRule("EAT", "CAKE", "present 1 plus 30 100 message 6 score turns end");
+    }
+    void LookUp(const char* page) {
+        author_.Desk().help.Write(page, "<title>A page</title>");
+        author_.Presses(Qt::Key_F1);
+        ASSERT_NE(author_.Desk().Window().Help().Window(), nullptr);
+        EXPECT_EQ(qt::FromQt(author_.Desk().Window().Help().Window()->Page()), page);
     }
     void AddRule(const char* verb, const char* noun, const char* line) {
         author_.Expects("Process Table Editor", [=, this] {
