@@ -118,6 +118,7 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
 void RecordPanel::ShowTable(const QString& name) {
     resized_.Stop();
     view_->setAccessibleName(name);
+    wishes_.clear();
     ShowRecords();
     MeasureColumns();
     PlaceColumns();
@@ -131,6 +132,7 @@ void RecordPanel::ShowRecords() {
     ShowOrder();
     placing_ = false;
     ShowCount();
+    WidenColumns();
 }
 
 void RecordPanel::ShowOrder() {
@@ -164,6 +166,19 @@ void RecordPanel::MeasureColumns() {
         const int title = view_->horizontalHeader()->sectionSizeHint(column) + kTitleMargin;
         wishes_.push_back({width, std::min(width, std::max(title, letter * kNarrowestColumn)), kept});
     }
+}
+
+/// Makes room for what has come in. Columns don't become narrower while their table is in view.
+void RecordPanel::WidenColumns() {
+    bool wider = false;
+    for (std::size_t column = 0; column < wishes_.size(); ++column) {
+        ColumnWish& wish = wishes_[column];
+        const int width = wish.kept ? wish.width : WidthOf(static_cast<int>(column));
+        if (width <= wish.width) continue;
+        wish.width = width;
+        wider = true;
+    }
+    if (wider) PlaceColumns();
 }
 
 void RecordPanel::PlaceColumns() {

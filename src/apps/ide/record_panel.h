@@ -53,6 +53,7 @@ class RecordPanel final : public QWidget {
   private:
     void FitRows();
     void MeasureColumns();
+    void WidenColumns();
     void PlaceColumns();
     int WidthOf(int column) const;
     void ShowOrder();
