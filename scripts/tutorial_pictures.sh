@@ -29,7 +29,7 @@ table() { keys F6; types "$1"; keys F6 F6; }
 opens() { keys "$1"; at "$2"; }
 update() { keys ctrl+Return; back; }
 
-place() { types "$1"; keys Tab ctrl+a; types "$2"; }
+place() { types "$1"; keys alt+d ctrl+a; types "$2"; }
 word() { opens ctrl+n "Vocabulary Editor"; types "$1"; keys "alt+$2"; }
 thing() { opens ctrl+n "Object $1"; types "$2"; keys Tab; types "$3"; keys alt+r alt+m ctrl+a; types "$4"; }
 message() { opens ctrl+n "Messages Editor"; types "$1"; update; }
@@ -156,6 +156,12 @@ tutorial() {
     rule EAT CAKE "present 1 plus 30 100 message 6 score turns end"
     take rules
 
+    opens F4 "Adventure Settings"
+    keys alt+n ctrl+a
+    types "The Last Slice"
+    take settings
+    update
+
     opens F7 "Verify"
     sleep 1
     take verify
@@ -163,7 +169,7 @@ tutorial() {
     back
 
     keys F5
-    at "New Adventure"
+    at "The Last Slice"
     sleep 1
     local sentence
     for sentence in e "open door" n "take key" s "unlock the door with the key" e "eat cake"; do

@@ -30,7 +30,11 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
+// Columns of the table of locations.
+constexpr int kExits = 1;
+constexpr int kShortDescription = 3;
 constexpr QKeyCombination kAdd = Qt::CTRL | Qt::Key_N;
 constexpr QKeyCombination kUpdate = Qt::CTRL | Qt::Key_Return;
 
@@ -105,6 +109,18 @@ class Tutorial : public testing::Test {
         AddExits(0, "Location 0", "N 1 E 2");
         AddExits(1, "Location 1", "S 0");
         AddExits(2, "Location 2", "W 0");
+        // The columns have grown with what they hold.
+        const auto& grid = author_.Desk().Part<QTableView>("Grid");
+        for (const int column : {kExits, kShortDescription})
+            EXPECT_GE(grid.columnWidth(column), TextWidth(grid, column)) << column;
+    }
+    static int TextWidth(const QTableView& grid, int column) {
+        int width = 0;
+        for (int row = 0; row < grid.model()->rowCount(); ++row) {
+            const QString text = grid.model()->index(row, column).data().toString();
+            width = std::max(width, grid.fontMetrics().horizontalAdvance(text));
+        }
+        return width;
     }
     void AddExits(int row, const char* title, const char* exits) {
         author_.Expects(title, [=, this] {
@@ -247,6 +263,14 @@ class Tutorial : public testing::Test {
         return qt::FromQt(author_.Front().findChild<QLabel*>(label)->text());
     }
 
+    void GiveItAName() {
+        author_.Expects("Adventure Settings Editor", [&] {
+            Replace("txtAdventureName", "The Last Slice");
+            author_.Presses(kUpdate);
+        });
+        author_.Chooses("Game > Adventure Settings");
+    }
+
     void CheckIt() {
         author_.Expects("Verify Adventure", [&] {
             EXPECT_TRUE(
@@ -262,6 +286,7 @@ class Tutorial : public testing::Test {
         author_.Chooses("Game > Run & Test");
         EXPECT_FALSE(author_.Desk().Window().isVisible());
         author_.Desk().timers.Advance(std::chrono::seconds(10));
+        EXPECT_THAT(qt::FromQt(author_.Front().windowTitle()), StartsWith("The Last Slice"));
         EXPECT_THAT(Say("e"), HasSubstr("It has been locked since the business with the jam."));
         EXPECT_THAT(Say("open door"), HasSubstr("You have nothing to open it with."));
         EXPECT_THAT(Say("n"), HasSubstr("a small brass key"));
@@ -330,6 +355,7 @@ TEST_F(Tutorial, ItsStepsMakeAGameThatCanBeWon) {
     WriteTheMessages();
     NoteWhatAFlagIsFor();
     GiveTheRules();
+    GiveItAName();
     CheckIt();
     const QString row = RowInView();
     PlayIt();
@@ -360,6 +386,7 @@ TEST_F(Tutorial, ItsStepsMakeAGameThatCanBeWon) {
                     "3|The key turns without a sound. You have done this before.",
                     "4|You have nothing to open it with.", "5|It is open.",
                     "6|You eat the cake in the dark, standing up. It is the best cake in the world."));
+    EXPECT_THAT(Stored("advname from adventure"), ElementsAre("The Last Slice"));
     EXPECT_THAT(Stored("flgnum, flgtype, flguse, flgdesc from flags where flgnum=60"),
                 ElementsAre("60|User|Switch|The pantry is open."));
     EXPECT_THAT(
