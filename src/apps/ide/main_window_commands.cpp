@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
 
@@ -23,7 +24,9 @@ namespace fabula::ide {
 using authoring::Command;
 
 void MainWindow::Do(Command command) {
-    if (!ide_.StateOf(command).enabled) return;
+    // Enter and a double click on a row come here whatever the table allows.
+    const authoring::ActionState state = ide_.StateOf(command);
+    if (!state.enabled) return message_->setText(qt::ToQt(state.why));
     switch (command) {
         case Command::New:
             return New();

@@ -331,6 +331,15 @@ TEST(MainWindow, ColumnsThatAreNotKeptCannotBeWidened) {
     EXPECT_EQ(header.sectionResizeMode(1), QHeaderView::Interactive);
 }
 
+TEST(MainWindow, EnterOnARowThatCannotBeEditedSaysWhy) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Vocabulary");
+    opened.Part<QTableView>("Grid").setFocus();
+    opened.Press(Qt::Key_Return);
+    EXPECT_EQ(opened.Part<QLabel>("txtStatus").text(), "Vocabulary does not offer this.");
+}
+
 TEST(MainWindow, F1TellsAboutTheTableInView) {
     OpenedWindow opened;
     opened.Open(Game());
