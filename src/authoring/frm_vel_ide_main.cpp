@@ -167,15 +167,23 @@ bool frmVelIDEMain::OpenFile(const std::filesystem::path& file) {
     });
 }
 
-/// Puts an adventure in the place of the one that is open, which is closed.
+/// Puts an adventure in the place of the one that is open, which is closed; one that can't be shown leaves
+/// that one open.
 void frmVelIDEMain::Adopt(std::unique_ptr<Desk> desk) {
-    desk_ = std::move(desk);
+    std::swap(desk_, desk);
+    std::vector<TreeNode> treeBefore = tree_;
+    try {
+        ActivateMenus();
+        LastTable();
+    } catch (const Error&) {
+        std::swap(desk_, desk);
+        tree_ = std::move(treeBefore);
+        throw;
+    }
     RememberFile();
     recent_.AddMRUItem(desk_->document.File());
     WriteRecentFiles(host_.settings, recent_);
     message_ = "Opened " + desk_->document.File().filename().string() + ".";
-    ActivateMenus();
-    LastTable();
 }
 
 bool frmVelIDEMain::SaveAs() {

@@ -179,7 +179,7 @@ class frmVelIDEMain {
     void InActivateMenus();
     void LastTable();
     void SetupGrid(TableView view);
-    void SetUpEdits();
+    TableRights SetUpEdits(store::TableNum table) const;
     void StayOn(std::optional<int> key, int row);
     std::optional<int> CurrentKey() const;
     void ReadAgain();

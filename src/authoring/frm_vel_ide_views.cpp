@@ -33,16 +33,20 @@ void frmVelIDEMain::LastTable() {
 void frmVelIDEMain::SetupGrid(TableView view) {
     store::Adventure& adventure = desk_->document.Adventure();
     Session& session = desk_->session;
+    // What can't be read leaves the view before.
+    const TableRights rights = SetUpEdits(view.table);
+    FindBox find = find_;
+    find.SetUpFindComboBox(adventure, view.table);
+    grid_.SetupGrid(adventure, view, maintenance_);
+    rights_ = rights;
+    find_ = std::move(find);
     session.currentTable = view.table;
     if (view.table == store::TableNum::ProcessTables) session.currentESNum = view.process;
-    grid_.SetupGrid(adventure, view, maintenance_);
-    SetUpEdits();
-    find_.SetUpFindComboBox(adventure, view.table);
     StayOn(std::nullopt, 0);
 }
 
-void frmVelIDEMain::SetUpEdits() {
-    rights_ = ReadTableRights(desk_->document.Adventure(), grid_.View().table);
+TableRights frmVelIDEMain::SetUpEdits(store::TableNum table) const {
+    return ReadTableRights(desk_->document.Adventure(), table);
 }
 
 void frmVelIDEMain::StayOn(std::optional<int> key, int row) {

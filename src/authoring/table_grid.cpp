@@ -71,10 +71,11 @@ bool LessValue(const text::Value& left, const text::Value& right) {
 }  // namespace
 
 void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance) {
-    Clear();
-    view_ = view;
-    ReadColumns(adventure, maintenance);
-    ReadRecords(adventure);
+    TableGrid grid;
+    grid.view_ = view;
+    grid.ReadColumns(adventure, maintenance);
+    grid.ReadRecords(adventure);
+    *this = std::move(grid);
 }
 
 void TableGrid::Refresh(store::Adventure& adventure) {

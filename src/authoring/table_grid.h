@@ -33,7 +33,7 @@ inline constexpr std::string_view kHelpPageField = "htmlpage";
 class TableGrid {
   public:
     /// Shows the records of a view, without filter, in the view's own order. Throws fabula::Error when the
-    /// file can't be read.
+    /// file can't be read; what was shown before is then still shown.
     void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance);
     /// Reads the records again; columns, filter and order stay.
     void Refresh(store::Adventure& adventure);

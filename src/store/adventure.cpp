@@ -207,7 +207,10 @@ int Adventure::DeleteFrom(TableNum table, std::optional<std::string_view> where)
 
 void Adventure::SaveCopy(const std::filesystem::path& target) {
     if (connection_->IsChanging()) throw std::logic_error("a copy is written inside a transaction");
-    WriteCopy(file_, target);
+    std::error_code error;  // a file that is not there is another one
+    if (std::filesystem::equivalent(file_, target, error) && !connection_->HasMoved())
+        throw Error("Could not write " + target.string() + ": it is the open adventure itself.");
+    WriteCopy(*connection_, target);
 }
 
 Transaction::Transaction(Adventure& adventure) : connection_(*adventure.connection_) {

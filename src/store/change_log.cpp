@@ -10,12 +10,18 @@ namespace {
 
 constexpr const char* kDoing = "keep the changes for Undo";
 
+/// In bytes; the database has no higher limit.
+constexpr int kLargestChange = 1'000'000'000;
+
 }  // namespace
 
 ChangeLog::ChangeLog(const std::filesystem::path& adventure) {
     const auto file = TemporaryBeside(adventure);
     const TemporaryFile remover(file);
-    connection_ = std::make_unique<Connection>(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    connection_ = std::make_unique<Connection>(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
+                                               "make a file beside " + adventure.string());
+    // One change may hold many pictures, each as large as a field may be.
+    sqlite3_limit(connection_->Handle(), SQLITE_LIMIT_LENGTH, kLargestChange);
     // It need not outlive the program, so nothing waits for the disk.
     connection_->Run(
         "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA locking_mode=EXCLUSIVE;"
@@ -27,7 +33,9 @@ ChangeLog::~ChangeLog() = default;
 
 std::int64_t ChangeLog::Add(const std::string& changes) {
     const Statement statement = connection_->Compile("INSERT INTO changes(bytes) VALUES(?)", kDoing);
-    sqlite3_bind_blob64(statement.get(), 1, changes.data(), changes.size(), SQLITE_STATIC);
+    // A change set that is too large would otherwise be stored as null.
+    if (sqlite3_bind_blob64(statement.get(), 1, changes.data(), changes.size(), SQLITE_STATIC) != SQLITE_OK)
+        connection_->Fail(kDoing);
     connection_->Step(statement.get(), kDoing);
     return connection_->LastInsertKey();
 }

@@ -61,11 +61,11 @@ StatementUse::~StatementUse() {
     sqlite3_clear_bindings(statement_);
 }
 
-Connection::Connection(const std::filesystem::path& file, int openFlags) {
+Connection::Connection(const std::filesystem::path& file, int openFlags, const std::string& doing) {
     if (sqlite3_open_v2(file.c_str(), &handle_, openFlags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
         const std::string why = handle_ ? sqlite3_errmsg(handle_) : "out of memory";
         sqlite3_close(handle_);
-        throw Error("Could not open " + file.string() + ": " + why + ".");
+        throw Error("Could not " + (doing.empty() ? "open " + file.string() : doing) + ": " + why + ".");
     }
     sqlite3_extended_result_codes(handle_, 1);
     sqlite3_busy_timeout(handle_, kPatience);
@@ -88,7 +88,15 @@ Connection::~Connection() {
     sqlite3_close_v2(handle_);
 }
 
+bool Connection::HasMoved() const {
+    int moved = 0;
+    sqlite3_file_control(handle_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
+}
+
 void Connection::Fail(const char* doing) const {
+    if (sqlite3_extended_errcode(handle_) == SQLITE_READONLY_DBMOVED)
+        throw Error(std::string("Could not ") + doing + ": its file is no longer where it was opened.");
     throw Error(std::string("Could not ") + doing + ": " + sqlite3_errmsg(handle_) + ".");
 }
 

@@ -34,8 +34,9 @@ using Statement = std::unique_ptr<sqlite3_stmt, StatementCloser>;
 class Connection {
   public:
     /// Opens the file as SQLite sees it, with everything switched off that an adventure does not need.
-    /// Checks nothing yet.
-    Connection(const std::filesystem::path& file, int openFlags);
+    /// Checks nothing yet. `doing` completes "Could not ..." when it can't be opened; without it the file
+    /// is named.
+    Connection(const std::filesystem::path& file, int openFlags, const std::string& doing = "");
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
     ~Connection();
@@ -55,6 +56,9 @@ class Connection {
 
     std::int64_t LastInsertKey() const;
     int ChangedRows() const;
+
+    /// Whether the file is no longer where it was opened: deleted, moved away or replaced.
+    bool HasMoved() const;
 
     /// Throws the Error for the handle's latest failure.
     [[noreturn]] void Fail(const char* doing) const;

@@ -57,6 +57,18 @@ void UseUpJournal(const std::filesystem::path& file) {
     if (error) Fail(file, error.value());
 }
 
+/// Copies what is open, without what was deleted in it, to the new file `copy`.
+void CopyPages(const Connection& source, const std::filesystem::path& copy,
+               const std::filesystem::path& target) {
+    const std::string doing = "write " + target.string();
+    Connection connection(copy, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, doing);
+    sqlite3_backup* backup = sqlite3_backup_init(connection.Handle(), "main", source.Handle(), "main");
+    if (!backup) connection.Fail(doing.c_str());
+    sqlite3_backup_step(backup, -1);  // its failure is told by the end
+    if (sqlite3_backup_finish(backup) != SQLITE_OK) connection.Fail(doing.c_str());
+    connection.Run("VACUUM", doing.c_str());
+}
+
 }  // namespace
 
 std::filesystem::path TemporaryBeside(const std::filesystem::path& target) {
@@ -90,21 +102,10 @@ TemporaryFile::~TemporaryFile() {
     std::filesystem::remove(JournalOf(path_), ignored);
 }
 
-void WriteCopy(const std::filesystem::path& source, const std::filesystem::path& target) {
-    std::error_code error;
-    if (std::filesystem::equivalent(source, target, error)) {
-        throw Error("Could not write " + target.string() + ": it is the open adventure itself.");
-    }
+void WriteCopy(const Connection& source, const std::filesystem::path& target) {
     const auto path = std::filesystem::absolute(target);
     const TemporaryFile temporary(TemporaryBeside(path));
-    {
-        // A connection of its own, because the open one may be reading, or may be for reading only.
-        Connection connection(source, SQLITE_OPEN_READWRITE);
-        const std::string doing = "write " + target.string();
-        const Statement copy = connection.Compile("VACUUM INTO ?", doing.c_str());
-        Connection::Bind(copy.get(), 1, temporary.Path().string());
-        connection.Step(copy.get(), doing.c_str());
-    }
+    CopyPages(source, temporary.Path(), target);
     OpenChecked(temporary.Path(), OpenMode::ReadOnly);
     MoveIntoPlace(temporary.Path(), path);
 }

@@ -5,10 +5,12 @@
 
 namespace fabula::store {
 
-/// Writes a copy of the adventure file `source`, which may be open, to `target` through the database: into
-/// a file beside it, checked and on the disk before it takes the target's place. Throws fabula::Error and
-/// leaves `target` as it was.
-void WriteCopy(const std::filesystem::path& source, const std::filesystem::path& target);
+class Connection;
+
+/// Writes a copy of the open adventure `source` to `target`: into a file beside it, checked and on the disk
+/// before it takes the target's place. What is open is copied, whatever lies now where it was opened.
+/// Throws fabula::Error and leaves `target` as it was.
+void WriteCopy(const Connection& source, const std::filesystem::path& target);
 
 /// A name beside `target` for a file in the making; it does not exist yet.
 std::filesystem::path TemporaryBeside(const std::filesystem::path& target);

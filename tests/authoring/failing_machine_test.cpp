@@ -1,0 +1,195 @@
+// The main window while the machine fails under it: a locked file, a full disk, a file that goes away. Each
+// failure is told in one sentence, and the adventure and the window stay as they were.
+
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "authoring/desk.h"
+#include "authoring/ide_window.h"
+#include "platform/error.h"
+#include "support/child_process.h"
+#include "support/raw_database.h"
+#include "support/template_adventure.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::TableNum;
+using test::RawDatabase;
+
+constexpr const char* kLocked = "Could not write to the adventure: database is locked.";
+
+class FailingMachine : public testing::Test {
+  protected:
+    FailingMachine() {
+        window_.OpenNew();
+        window_.AddMessage("first");
+        window_.AddMessage("second");
+        file_ = window_.main->CurrentSession().document.File();
+    }
+
+    frmVelIDEMain& Main() { return *window_.main; }
+    std::string LastBox() { return window_.Boxes().empty() ? "" : window_.Boxes().back(); }
+    /// Gives the first message another text.
+    void StoreText(const std::string& text) {
+        Change change(Main().CurrentSession().document, "edit message 0");
+        store::Cursor& messages = window_.Adventure().OpenTable(TableNum::Messages, "def", "msgnum=0");
+        messages.SetField("msgmsg", text);
+        messages.Update();
+        change.Commit();
+    }
+    std::vector<std::string> Messages() {
+        std::vector<std::string> texts;
+        store::Cursor& messages = window_.Adventure().OpenTable(TableNum::Messages, "def");
+        for (; !messages.Eof(); messages.MoveNext())
+            texts.emplace_back(messages.Text("msgmsg"));
+        return texts;
+    }
+
+    test::IdeWindow window_;
+    std::filesystem::path file_;
+};
+
+TEST_F(FailingMachine, ALockedFileRefusesUndoAndUndoesLater) {
+    {
+        const RawDatabase other(file_);
+        other.Run("BEGIN IMMEDIATE");
+        Main().Run(Command::Undo);
+        EXPECT_EQ(LastBox(), kLocked);
+        EXPECT_EQ(Messages(), (std::vector<std::string>{"first", "second"}));
+        EXPECT_EQ(Main().CurrentSession().document.UndoName(), "add message 1");
+    }
+    Main().Run(Command::Undo);
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"first"}));
+}
+
+TEST_F(FailingMachine, ALockedFileRefusesADeletionAndKeepsTheRow) {
+    Main().SelectRow(1);
+    window_.dialogs.AnswerNext(true);
+    const RawDatabase other(file_);
+    other.Run("BEGIN IMMEDIATE");
+    Main().Run(Command::Delete);
+    EXPECT_EQ(LastBox(), kLocked);
+    EXPECT_EQ(Main().Grid().RowCount(), 2);
+    EXPECT_EQ(Main().CurrentRow(), 1);
+}
+
+TEST_F(FailingMachine, AFileLockedForReadingTooLeavesTheViewAsItIs) {
+    Main().SelectRow(1);
+    {
+        const RawDatabase other(file_);
+        other.Run("BEGIN EXCLUSIVE");
+        Main().Show({TableNum::Flags});
+        EXPECT_EQ(LastBox(), "Could not read the adventure: database is locked.");
+    }
+    EXPECT_EQ(Main().Grid().View(), (TableView{TableNum::Messages}));
+    EXPECT_EQ(Main().Grid().RowCount(), 2);
+    EXPECT_EQ(Main().CurrentRow(), 1);
+    EXPECT_EQ(Main().CurrentSession().currentTable, TableNum::Messages);
+    EXPECT_EQ(Main().CurrentSession().currentEntry, 1);
+}
+
+TEST_F(FailingMachine, ADiskThatFillsUpKeepsWhatCanBeUndone) {
+    // Changes of one text do not make the adventure grow, but what is kept for Undo does.
+    const int result = test::RunInChild([&] {
+        Document& document = Main().CurrentSession().document;
+        test::LimitFileSize(static_cast<long>(std::filesystem::file_size(file_)) + 400'000);
+        int stored = 0;
+        try {
+            for (; stored < 1000; ++stored)
+                StoreText(std::string(50'000, static_cast<char>('a' + stored % 26)));
+        } catch (const Error& error) {
+            EXPECT_EQ(error.what(), std::string("Could not keep the changes for Undo: disk I/O error."));
+        }
+        EXPECT_GT(stored, 3);
+        EXPECT_LT(stored, 1000);
+        for (int undone = 0; undone < stored; ++undone)
+            document.Undo();
+        EXPECT_EQ(Messages(), (std::vector<std::string>{"first", "second"}));
+        for (int redone = 0; redone < stored; ++redone)
+            document.Redo();
+        EXPECT_EQ(Messages().at(0).size(), 50'000U);
+        return testing::Test::HasFailure() ? 1 : 0;
+    });
+    EXPECT_EQ(result, 0);
+}
+
+TEST_F(FailingMachine, AFullDiskRefusesAChangeAndGoesOn) {
+    const int result = test::RunInChild([&] {
+        test::LimitFileSize(static_cast<long>(std::filesystem::file_size(file_)));
+        try {
+            StoreText(std::string(200'000, 'x'));
+            return 2;
+        } catch (const Error& error) {
+            EXPECT_EQ(error.what(), std::string("Could not write to the adventure: disk I/O error."));
+        }
+        EXPECT_EQ(Messages(), (std::vector<std::string>{"first", "second"}));
+        StoreText("short");
+        EXPECT_EQ(Messages(), (std::vector<std::string>{"short", "second"}));
+        Main().Run(Command::Undo);
+        EXPECT_EQ(Messages(), (std::vector<std::string>{"first", "second"}));
+        return testing::Test::HasFailure() ? 1 : 0;
+    });
+    EXPECT_EQ(result, 0);
+}
+
+TEST_F(FailingMachine, AFileThatWasDeletedIsToldAndCanBeSavedElsewhere) {
+    std::filesystem::remove(file_);
+    try {
+        StoreText("lost");
+        ADD_FAILURE() << "it was stored";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.what(),
+                  std::string("Could not store the record: its file is no longer where it was opened."));
+    }
+    const auto copy = window_.folder / "saved.fbd";
+    window_.dialogs.AnswerFile(copy);
+    EXPECT_TRUE(Main().SaveAs()) << LastBox();
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"first", "second"}));
+    Main().Run(Command::Undo);
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"first"}));
+}
+
+TEST_F(FailingMachine, AFileThatWasReplacedIsNotWrittenAndNotTakenForTheOpenOne) {
+    const auto other = window_.Make("other.fbd");
+    std::filesystem::rename(other, file_);
+    const std::string before = test::ReadBytes(file_);
+    EXPECT_THROW(StoreText("lost"), Error);
+    EXPECT_TRUE(test::ReadBytes(file_) == before);
+    window_.dialogs.AnswerFile(window_.folder / "saved.fbd");
+    EXPECT_TRUE(Main().SaveAs()) << LastBox();
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"first", "second"}));
+    EXPECT_TRUE(test::ReadBytes(file_) == before);
+}
+
+TEST_F(FailingMachine, AChangeOfMoreThanOnePictureIsKeptForUndo) {
+    // Each within the limit of a field, together beyond it.
+    const auto locations = [&] {
+        return window_.Adventure().OpenTable(TableNum::Locations, "locnum").RecordCount();
+    };
+    const int before = locations();
+    Document& document = Main().CurrentSession().document;
+    Change change(document, "copy the pictures");
+    store::Cursor& pictures = window_.Adventure().OpenTable(TableNum::Locations, "def");
+    for (int number = 1; number <= 2; ++number) {
+        pictures.AddNew();
+        pictures.SetField("locnum", std::int64_t{number});
+        pictures.SetField("picgraphic", text::Blob(40'000'000));
+        pictures.Update();
+    }
+    change.Commit();
+    document.Undo();
+    EXPECT_EQ(locations(), before);
+}
+
+TEST_F(FailingMachine, AFileWhoseNameLeavesNoRoomForWhatIsKeptBesideItIsRefusedInOneSentence) {
+    const auto file = window_.Make((std::string(246, 'n') + ".fbd").c_str());
+    EXPECT_FALSE(Main().OpenFile(file));
+    EXPECT_EQ(LastBox(),
+              "Could not make a file beside " + file.string() + ": unable to open database file.");
+    EXPECT_EQ(Main().Title(), "Fabula IDE - game");
+}
+
+}  // namespace
+}  // namespace fabula::authoring
