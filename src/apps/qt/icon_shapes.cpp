@@ -84,6 +84,7 @@ constexpr std::array kShapes = {
     IconShape{"help", "O 12 12 9",
               "M 9.5 9.5 C 9.5 6 15 6 14.5 9.8 C 14.3 11.5 12 11.5 12 14 M 12 16.8 L 12 17.2"},
     IconShape{"info", "O 12 12 9", "M 12 11 L 12 17 M 12 7.3 L 12 7.7"},
+    IconShape{"warning", "M 12 4 L 21.5 20 L 2.5 20 Z", "M 12 10 L 12 14.5 M 12 17 L 12 17.3"},
     IconShape{"back", "M 20 12 L 5 12", "M 11 5 L 4 12 L 11 19"},
     IconShape{"forward", "M 4 12 L 19 12", "M 13 5 L 20 12 L 13 19"},
     IconShape{"home", "M 5 11 L 5 20 L 19 20 L 19 11 M 3 12 L 12 4 L 21 12",

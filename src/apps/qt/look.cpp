@@ -1,10 +1,13 @@
 #include "qt/look.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QEvent>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <algorithm>
 
+#include "qt/icons.h"
 #include "qt/look_shapes.h"
 
 namespace fabula::qt {
@@ -15,15 +18,35 @@ constexpr QSize kRoomInFields(8, 6);
 constexpr int kSideOfFields = 4;
 constexpr int kRoomInCells = 6;  ///< on the left and on the right
 constexpr int kShortestSlider = 24;
+constexpr int kFrame = 2;  ///< of what scrolls: room for the line of what has the keyboard
 
 bool IsDefault(const QStyleOptionButton& button) {
     return (button.features & QStyleOptionButton::DefaultButton) && (button.state & QStyle::State_Enabled);
+}
+
+/// What an area that scrolls has behind its inside.
+QColor FillOf(const QStyleOption& frame, const QWidget* widget) {
+    const auto* area = qobject_cast<const QAbstractScrollArea*>(widget);
+    return area ? frame.palette.color(area->viewport()->backgroundRole()) : QColor(Qt::transparent);
 }
 
 /// Draws over the style that every platform has.
 class Look final : public QProxyStyle {
   public:
     Look() : QProxyStyle("fusion") {}
+
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override {
+        if (qobject_cast<QAbstractScrollArea*>(widget)) widget->installEventFilter(this);
+        QProxyStyle::polish(widget);
+    }
+
+    /// Areas that scroll paint only their inside anew when the keyboard comes and goes, and not the frame.
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+            static_cast<QWidget*>(receiver)->update();
+        return false;
+    }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
@@ -45,7 +68,7 @@ class Look final : public QProxyStyle {
             case PE_FrameLineEdit:
                 return;  // drawn with its field
             case PE_Frame:
-                return DrawFrame(*painter, *option);
+                return DrawFrame(*painter, *option, FillOf(*option, widget));
             default:
                 break;
         }
@@ -134,12 +157,36 @@ class Look final : public QProxyStyle {
             case PM_ExclusiveIndicatorWidth:
             case PM_ExclusiveIndicatorHeight:
                 return std::max(usual, widget ? widget->fontMetrics().height() : 0);
+            case PM_DefaultFrameWidth:
+                return qobject_cast<const QAbstractScrollArea*>(widget) ? kFrame : usual;
             case PM_HeaderMargin:
                 return kRoomInCells + 1;
             case PM_FocusFrameHMargin:  // of cells and of the lines of lists and trees
                 return kRoomInCells;
             default:
                 return usual;
+        }
+    }
+
+    /// Buttons of boxes say what they do in words.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, more);
+    }
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        switch (icon) {
+            case SP_MessageBoxInformation:
+                return IconOf("info");
+            case SP_MessageBoxQuestion:
+                return IconOf("help");
+            case SP_MessageBoxWarning:
+            case SP_MessageBoxCritical:
+                return IconOf("warning");
+            default:
+                return QProxyStyle::standardIcon(icon, option, widget);
         }
     }
 

@@ -9,6 +9,7 @@ namespace fabula::qt {
 namespace {
 
 constexpr double kRound = 4;
+constexpr double kRoundOfTick = 0.16;  ///< of its side: a rounder one would pass for a dot
 constexpr double kFocusWidth = 2;
 constexpr double kRingWidth = 1.4;  ///< a thinner one fades between the points of the screen
 
@@ -35,14 +36,14 @@ bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
 }
 
 /// A rectangle with round corners, its line within `rect`.
-void DrawBox(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& line,
-             double width = 1) {
+void DrawBox(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& line, double width = 1,
+             double round = kRound) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(fill);
     painter.setPen(QPen(line, width));
     const double inset = width / 2;
-    painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), kRound, kRound);
+    painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), round, round);
     painter.restore();
 }
 
@@ -87,7 +88,7 @@ void DrawTick(QPainter& painter, const QStyleOption& option) {
     const bool set = partly || Has(option, QStyle::State_On);
     const MarkColours colours = ColoursOfMark(option, set);
     const QRect box = SquareIn(option.rect).adjusted(1, 1, -1, -1);
-    DrawBox(painter, box, colours.fill, colours.line);
+    DrawBox(painter, box, colours.fill, colours.line, 1, kRoundOfTick * box.width());
     if (!set) return;
     const auto at = [&](double x, double y) {
         return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
@@ -160,12 +161,10 @@ void DrawList(QPainter& painter, const QStyleOptionComboBox& option, const QRect
     painter.restore();
 }
 
-void DrawFrame(QPainter& painter, const QStyleOption& option) {
-    painter.save();
-    painter.setPen(Outline(option, kSoftOutline));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
-    painter.restore();
+void DrawFrame(QPainter& painter, const QStyleOption& option, const QColor& fill) {
+    if (Has(option, QStyle::State_HasFocus) && Has(option, QStyle::State_Enabled))
+        return DrawInput(painter, option, fill);
+    DrawBox(painter, option.rect, fill, Outline(option, kSoftOutline));
 }
 
 void DrawHeader(QPainter& painter, const QStyleOption& option) {

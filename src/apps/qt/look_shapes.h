@@ -2,6 +2,7 @@
 
 #include <QRect>
 
+class QColor;
 class QPainter;
 class QStyleOption;
 class QStyleOptionButton;
@@ -21,8 +22,8 @@ void DrawButton(QPainter& painter, const QStyleOptionButton& option, bool isDefa
 void DrawField(QPainter& painter, const QStyleOptionFrame& option);
 /// A list that opens, with its arrow in `arrow`.
 void DrawList(QPainter& painter, const QStyleOptionComboBox& option, const QRect& arrow);
-/// What stands around texts and tables.
-void DrawFrame(QPainter& painter, const QStyleOption& option);
+/// What stands around texts and tables, and between it and them.
+void DrawFrame(QPainter& painter, const QStyleOption& option, const QColor& fill);
 void DrawHeader(QPainter& painter, const QStyleOption& option);
 /// A bar of tools, with a line below it.
 void DrawBar(QPainter& painter, const QStyleOption& option);

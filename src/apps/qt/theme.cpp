@@ -52,6 +52,12 @@ QPalette DarkPalette() {
     return palette;
 }
 
+/// Whether the desktop tells its own colours. Without them Qt takes those of its style, which are no one's
+/// choice.
+bool DesktopHasColours() {
+    return QApplication::palette() != QApplication::style()->standardPalette();
+}
+
 }  // namespace
 
 std::string_view NameOf(Theme theme) {
@@ -84,6 +90,7 @@ void ApplyTheme(Theme theme) {
         // A palette that sets nothing gives way to the one of the desktop.
         case Theme::System:
             QApplication::setPalette(QPalette());
+            if (!DesktopHasColours()) QApplication::setPalette(LightPalette());
             break;
     }
 }

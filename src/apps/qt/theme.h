@@ -5,7 +5,8 @@
 
 namespace fabula::qt {
 
-/// How the windows are coloured: as the desktop says, or the person's own choice.
+/// How the windows are coloured: as the desktop says (light, when it says nothing), or the person's own
+/// choice.
 enum class Theme { System, Light, Dark };
 
 /// "system", "light" or "dark", as settings hold it; any other word counts as System.

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -82,6 +83,20 @@ TEST_P(LookTest, ADefaultButtonIsFilledAndItsTextCanBeRead) {
     const QPalette palette = QApplication::palette();
     EXPECT_EQ(fill, palette.color(QPalette::Highlight));
     EXPECT_GE(player::Contrast(Of(fill), Of(palette.color(QPalette::HighlightedText))), 4.5);
+}
+
+TEST_P(LookTest, ATextOfSeveralLinesShowsThatItHasTheKeyboard) {
+    QWidget window;
+    auto* text = new QPlainTextEdit(&window);
+    auto* other = new QLineEdit(&window);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const auto frame = [&] { return window.grab(text->geometry()).toImage().pixelColor(0, 40); };
+    other->setFocus();
+    const QColor without = frame();
+    text->setFocus();
+    EXPECT_EQ(frame(), QApplication::palette().color(QPalette::Highlight));
+    EXPECT_NE(without, frame());
 }
 
 TEST_P(LookTest, MarksGrowWithTheText) {
