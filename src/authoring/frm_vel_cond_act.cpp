@@ -243,8 +243,16 @@ void frmVelCondAct::Store() {
     record.Update();
 }
 
+/// A name without parameters was only looked at.
+bool frmVelCondAct::AddPending() {
+    const bool nothing =
+        text::TrimBlanks(cboParam1.text).empty() && text::TrimBlanks(cboParam2.text).empty();
+    return nothing || cmdAdd();
+}
+
 bool frmVelCondAct::cmdUpdate() {
-    if (!LeaveTxtType() || !LeaveCboCA() || !LeaveCboParam1() || !LeaveCboParam2() || !LeaveTxtAllCAs())
+    if (!LeaveTxtType() || !LeaveCboCA() || !LeaveCboParam1() || !LeaveCboParam2() || !LeaveTxtAllCAs() ||
+        !AddPending())
         return false;
     txtAllCAs = condacts::LocationWordsToNumbers(txtAllCAs, help_.Catalogue());
     if (txtAllCAs.empty())

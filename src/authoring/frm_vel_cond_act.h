@@ -47,7 +47,7 @@ class frmVelCondAct : public RecordScreen {
     /// Adds what was put together to the line.
     bool cmdAdd();
 
-    /// True when the screen can close: the entry is stored.
+    /// True when the screen can close: the entry is stored, with what was put together and not added yet.
     bool cmdUpdate();
 
     const CondActHelp& Help() const { return help_; }
@@ -73,6 +73,7 @@ class frmVelCondAct : public RecordScreen {
     void OpenParameters(const condacts::CondAct* condAct);
     std::string PutTogether() const;
     bool Check(std::string_view control, std::string_view condAct);
+    bool AddPending();
     void Append(std::string_view condAct);
     void AddDescription(int process);
     void StoreWord(store::Cursor& record, const DropList& list, std::string_view wordField,

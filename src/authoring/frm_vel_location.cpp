@@ -151,7 +151,13 @@ bool frmVelLocation::cmdAdd() {
     if (!CheckExit("cboExit", word, location)) return false;
     txtExits = Edited(txtExits);
     AppendTo(txtExits, word, location);
+    cboExit.text.clear();
+    cboLoc.text.clear();
     return true;
+}
+
+bool frmVelLocation::HasPendingExit() const {
+    return !text::TrimBlanks(cboExit.text).empty() || !text::TrimBlanks(cboLoc.text).empty();
 }
 
 void frmVelLocation::cmdGetPic() {
@@ -227,8 +233,9 @@ std::vector<std::string> frmVelLocation::Typed() const {
 }
 
 bool frmVelLocation::cmdUpdate() {
-    if (Typed() == opened_) return true;
+    if (Typed() == opened_ && !HasPendingExit()) return true;
     if (!LeaveTxtDEscription() || !LeaveTxtShortDesc() || !LeaveTxtExits()) return false;
+    if (HasPendingExit() && !cmdAdd()) return false;
     Change change(session_.document, ChangeName());
     store::Cursor& record = RecordToStore();
     record.SetField("locdesc", ToStored(txtDEscription));

@@ -45,7 +45,7 @@ class frmVelLocation : public RecordScreen {
     bool LeaveTxtExits();
     bool LeaveCboLoc();
 
-    /// Adds the exit of `cboExit` and `cboLoc` to the line.
+    /// Adds the exit of `cboExit` and `cboLoc` to the line, and empties both.
     bool cmdAdd();
     void cmdGetPic();
     void cmdClearPic() { txtPicture.clear(); }
@@ -58,7 +58,7 @@ class frmVelLocation : public RecordScreen {
     /// The locations from which an exit leads here, by number.
     const std::vector<Neighbour>& LeadsHere() const { return leadsHere_; }
 
-    /// True when the screen can close: what was changed is stored.
+    /// True when the screen can close: what was changed is stored, an exit that was not added yet too.
     bool cmdUpdate();
 
     static constexpr std::string_view kPictureTitle = "Load Room Picture";
@@ -72,6 +72,7 @@ class frmVelLocation : public RecordScreen {
 
     void ReadRecord();
     void ReadNeighbours();
+    bool HasPendingExit() const;
     bool Exists(int location) const;
     bool CheckLocation(std::string_view control, std::string_view number, std::string_view word);
     bool CheckExit(std::string_view control, std::string_view word, std::string_view location);

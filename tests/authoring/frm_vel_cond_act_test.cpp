@@ -502,6 +502,40 @@ TEST(UpdateCondAct, ChecksAllFieldsInTheirOrderAndStoresNothing) {
     EXPECT_EQ(game.desk.session.nextEntry, 0);
 }
 
+TEST(UpdateCondAct, StoresWhatWasPutTogetherAndNotAddedYet) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "AT 1";
+    screen.cboCA.text = "MESSAGE";
+    screen.LeaveCboCA();
+    screen.cboParam1.text = "1";
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_THAT(game.Entries(), ElementsAre("0|0|_|255|_|255|AT 1 MESSAGE 1|101 1 250 1|4"));
+}
+
+TEST(UpdateCondAct, LeavesOutANameThatWasOnlyChosen) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "AT 1";
+    screen.cboCA.text = "MESSAGE";
+    screen.LeaveCboCA();
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_THAT(game.Entries(), ElementsAre("0|0|_|255|_|255|AT 1|101 1|2"));
+}
+
+TEST(UpdateCondAct, RefusesWhatLacksItsSecondParameter) {
+    CondActScreen game;
+    frmVelCondAct screen(game.desk.session, New(game.desk));
+    screen.txtAllCAs = "AT 1";
+    screen.cboCA.text = "PLACE";
+    screen.LeaveCboCA();
+    screen.cboParam1.text = "0";
+    EXPECT_FALSE(screen.cmdUpdate());
+    EXPECT_EQ(game.Box(), "No parameter where there should be one");
+    EXPECT_EQ(screen.txtAllCAs, "AT 1");
+    EXPECT_THAT(game.Entries(), IsEmpty());
+}
+
 TEST(UpdateCondAct, LooksUpALongWordByItsFirstFiveLetters) {
     CondActScreen game;
     game.desk.AddWord(600, "LANTERN", 60, 2);

@@ -207,6 +207,23 @@ TEST_F(LocationScreen, AddJoinsWordAndLocationToTheLine) {
     screen.cboLoc.text = "7";
     EXPECT_TRUE(screen.cmdAdd());
     EXPECT_EQ(screen.txtExits, "NORTH 5 CLIMB 7");
+    EXPECT_EQ(screen.cboExit.text + screen.cboLoc.text, "");
+}
+
+TEST_F(LocationScreen, UpdateStoresAnExitThatWasNotAddedYet) {
+    frmVelLocation screen = Open(3);
+    screen.cboExit.text = "CLIMB";
+    screen.cboLoc.text = "7";
+    EXPECT_TRUE(screen.cmdUpdate());
+    EXPECT_EQ(Stored(3, "exits"), "CLIMB 7");
+}
+
+TEST_F(LocationScreen, UpdateRefusesAnExitThatWasOnlyBegun) {
+    frmVelLocation screen = Open(3);
+    screen.cboExit.text = "CLIMB";
+    EXPECT_FALSE(screen.cmdUpdate());
+    EXPECT_EQ(desk_.Boxes().back(), "TO location must be numeric");
+    EXPECT_EQ(screen.Refused(), "cboLoc");
 }
 
 TEST_F(LocationScreen, AddRefusesWhatTheLineWouldRefuse) {

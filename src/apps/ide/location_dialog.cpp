@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -131,6 +132,8 @@ void LocationDialog::AddExits() {
     auto* add = NewButton("&Add", "cmdAdd");
     auto* remove = NewButton("&Remove", "cmdRemove");
     connect(add, &QPushButton::clicked, this, [this] { AddExit(); });
+    word_->installEventFilter(this);
+    location_->installEventFilter(this);
     connect(remove, &QPushButton::clicked, this, [this] { RemoveRow(); });
     auto* adding = new QGridLayout;
     adding->setSpacing(kGap);
@@ -199,16 +202,24 @@ void LocationDialog::AddNeighbours() {
 
 void LocationDialog::AddExit() {
     Read();
-    screen_.cboExit.text = qt::FromQt(word_->currentText());
-    screen_.cboLoc.text = LocationTyped(*location_);
     if (Guarded([this] { return screen_.cmdAdd(); })) {
-        word_->clearEditText();
-        location_->clearEditText();
         Show();
         word_->setFocus();
         return;
     }
     if (auto* refused = findChild<QWidget*>(qt::ToQt(screen_.Refused()))) refused->setFocus();
+}
+
+/// Enter in the line of an exit that is begun adds the exit: the default button would close the dialog.
+bool LocationDialog::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return RecordDialog::eventFilter(receiver, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    const bool isPlain = (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool begun = !word_->currentText().isEmpty() || !location_->currentText().isEmpty();
+    if (!isEnter || !isPlain || !begun) return RecordDialog::eventFilter(receiver, event);
+    AddExit();
+    return true;
 }
 
 void LocationDialog::RemoveRow() {
@@ -255,10 +266,14 @@ void LocationDialog::Read() {
     screen_.txtShortDesc = shortDescription_->Text();
     screen_.txtDEscription = description_->Text();
     screen_.txtExits = qt::FromQt(exits_->text());
+    screen_.cboExit.text = qt::FromQt(word_->currentText());
+    screen_.cboLoc.text = LocationTyped(*location_);
 }
 
 void LocationDialog::Show() {
     exits_->setText(qt::ToQt(screen_.txtExits));
+    if (screen_.cboExit.text.empty()) word_->clearEditText();
+    if (screen_.cboLoc.text.empty()) location_->clearEditText();
     ShowPicture();
     ShowRows();
 }

@@ -18,6 +18,7 @@ class LocationDialog final : public RecordDialog {
     explicit LocationDialog(authoring::frmVelLocation& screen, QWidget* parent = nullptr);
 
   protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
     void Read() override;
     void Show() override;
     bool Update() override { return screen_.cmdUpdate(); }
