@@ -1,6 +1,7 @@
 #include "ide/colors_dialog.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -78,6 +79,7 @@ QWidget* ColorsDialog::NewColors(int first, std::string_view caption) {
         color->setCheckable(true);
         color->setFocusPolicy(Qt::StrongFocus);
         color->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        color->installEventFilter(this);
         layout->addWidget(color);
         chosen_->addButton(color, number);
         connect(color, &QToolButton::clicked, this, [this, number] {
@@ -86,6 +88,13 @@ QWidget* ColorsDialog::NewColors(int first, std::string_view caption) {
         });
     }
     return group;
+}
+
+/// The first click of two has chosen the colour.
+bool ColorsDialog::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() != QEvent::MouseButtonDblClick) return QDialog::eventFilter(receiver, event);
+    accept();
+    return true;
 }
 
 void ColorsDialog::ShowCurrent() {

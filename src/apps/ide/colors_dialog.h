@@ -13,10 +13,14 @@ namespace fabula::ide {
 /// A patch of a colour by its number, `height` pixels high and twice as wide.
 QIcon ColorSwatch(int number, int height);
 
-/// The dialog that picks one of the 16 colours. Accepted by Update; `screen` then has the number.
+/// The dialog that picks one of the 16 colours. Accepted by Update or a double click on a colour; `screen`
+/// then has the number.
 class ColorsDialog final : public QDialog {
   public:
     explicit ColorsDialog(authoring::frmColors& screen, QWidget* parent = nullptr);
+
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
   private:
     QWidget* NewColors(int first, std::string_view caption);

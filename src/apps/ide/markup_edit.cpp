@@ -119,7 +119,11 @@ void MarkupEdit::AddPreview(const QString& caption) {
            "dots."));
     preview_->setToolTip(preview_->accessibleDescription());
     preview_->setReadOnly(true);
-    preview_->setTabChangesFocus(true);
+    // Tab goes from field to field, and the preview scrolls with its field.
+    preview_->setFocusPolicy(Qt::ClickFocus);
+    connect(field_, &QPlainTextEdit::updateRequest, this, [this](const QRect&, int scrolled) {
+        if (scrolled != 0) ScrollPreview();
+    });
     preview_->setLineWrapMode(QTextEdit::NoWrap);
     auto* label = new QLabel(caption);
     label->setBuddy(preview_);
@@ -127,6 +131,14 @@ void MarkupEdit::AddPreview(const QString& caption) {
     column->addSpacing(8);
     column->addWidget(label);
     column->addWidget(preview_, 2);
+}
+
+/// As far through the text as the field is.
+void MarkupEdit::ScrollPreview() {
+    const QScrollBar& field = *field_->verticalScrollBar();
+    QScrollBar& preview = *preview_->verticalScrollBar();
+    if (field.maximum() == 0) return;
+    preview.setValue(static_cast<int>(qint64{preview.maximum()} * field.value() / field.maximum()));
 }
 
 /// Room for so many lines at least, in a short editor for two.

@@ -28,7 +28,8 @@ struct MarkupEditKind {
 /// count of words and letters, the first fault in words, and below it the text as the game will show it.
 ///
 /// Marks have a shape besides their colour: tags are bold, their values italic too, entities italic, and
-/// faults have a wavy line. The field is the widget's focus proxy; Tab leaves it.
+/// faults have a wavy line. The field is the widget's focus proxy; Tab leaves it, for what comes behind the
+/// preview.
 class MarkupEdit final : public QWidget {
   public:
     /// `editing` outlives the widget. The field is called `fieldName`.
@@ -56,6 +57,7 @@ class MarkupEdit final : public QWidget {
     void SetLines(QAbstractScrollArea& area, const QFontMetrics& metrics, int lines) const;
     void FitLook();
     void ShowText();
+    void ScrollPreview();
     void ShowPreview(const std::string& text);
 
     const authoring::TextEditing& editing_;

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -93,13 +94,23 @@ TEST_F(MarkupEditTest, ReturnIsALineEnd) {
     EXPECT_EQ(edit_->Text(), "a\nb");
 }
 
-TEST_F(MarkupEditTest, TabLeavesTheFieldAndThenThePreview) {
+TEST_F(MarkupEditTest, TabLeavesTheFieldForWhatComesBehindThePreview) {
     Open("a");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), Preview());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "next");
     EXPECT_EQ(edit_->Text(), "a");
+}
+
+TEST_F(MarkupEditTest, ThePreviewScrollsWithTheField) {
+    std::string lines;
+    for (int line = 0; line < 60; ++line)
+        lines += "A line of this room.\n";
+    Open(lines);
+    edit_->Field().moveCursor(QTextCursor::End);
+    ASSERT_GT(Preview()->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(Preview()->verticalScrollBar()->value(), Preview()->verticalScrollBar()->maximum());
+    edit_->Field().moveCursor(QTextCursor::Start);
+    EXPECT_EQ(Preview()->verticalScrollBar()->value(), 0);
 }
 
 TEST_F(MarkupEditTest, TheMnemonicOfTheLabelGoesToTheField) {

@@ -128,6 +128,21 @@ TEST_F(RecordDialogs, UpdateOfARefusedFieldKeepsTheDialogOpen) {
     EXPECT_EQ(dialog.focusWidget(), Find<QLineEdit>(dialog, "txtExits"));
 }
 
+TEST_F(RecordDialogs, EnterAddsAnExitAndClosesNothing) {
+    authoring::frmVelLocation screen(session_, {0, false});
+    LocationDialog dialog(screen);
+    Open(dialog);
+    Find<QComboBox>(dialog, "cboExit")->setFocus();
+    QTest::keyClicks(dialog.focusWidget(), "CLIMB");
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(dialog.focusWidget(), "0");
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(Find<QLineEdit>(dialog, "txtExits")->text(), "CLIMB 0");
+    EXPECT_EQ(Find<QComboBox>(dialog, "cboLoc")->currentText(), "");
+    EXPECT_EQ(dialog.focusWidget(), Find<QComboBox>(dialog, "cboExit"));
+}
+
 TEST_F(RecordDialogs, RowsOfExitsAndTheirLineAreKeptInStep) {
     authoring::frmVelLocation screen(session_, {0, false});
     LocationDialog dialog(screen);
@@ -205,6 +220,17 @@ TEST_F(RecordDialogs, AColorIsPicked) {
     EXPECT_EQ(dialog.windowTitle(), "Set Color for Ink");
     Find<QToolButton>(dialog, "lblColor9")->click();
     Find<QPushButton>(dialog, "cmdUpdate")->click();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(screen.Current(), 9);
+}
+
+TEST_F(RecordDialogs, ADoubleClickTakesAColor) {
+    authoring::frmColors screen(authoring::frmColors::Purpose::Ink, 0);
+    ColorsDialog dialog(screen);
+    Open(dialog);
+    auto* colour = Find<QToolButton>(dialog, "lblColor9");
+    QTest::mouseClick(colour, Qt::LeftButton);
+    QTest::mouseDClick(colour, Qt::LeftButton);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(screen.Current(), 9);
 }

@@ -67,7 +67,7 @@ TEST_F(TextDialogTest, OpensOnTheTextWithTheKeyboardInIt) {
 
 TEST_F(TextDialogTest, ChecksTheTextWhenItIsLeft) {
     Type("<QUARK>");
-    QTest::keyClick(Field(), Qt::Key_Tab);
+    QTest::keyClick(Field(), Qt::Key_Backtab);
     QApplication::processEvents();
     ASSERT_EQ(dialogs_.Boxes().size(), 1U);
     EXPECT_EQ(QApplication::focusWidget(), Field());
