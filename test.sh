@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds and runs every test: an optimised build, the same tests under the sanitizers, a
-# clang build of everything that is free of Qt, and the checks of formatting and includes.
+# Installs what is missing, builds and runs every test: an optimised build by g++, the same tests built by clang under
+# the sanitizers, the programs that need no Qt without it, and the checks of formatting and includes.
 set -euo pipefail
 cd "$(dirname "$0")"
 
