@@ -1,5 +1,6 @@
 #include "authoring/frm_vel_location.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <optional>
@@ -16,6 +17,8 @@ namespace fabula::authoring {
 namespace {
 
 using store::TableNum;
+
+constexpr int kBehindDirections = 14;
 
 std::string Edited(std::string_view exits) {
     return std::string(text::TrimBlanks(text::CollapseBlanks(exits)));
@@ -43,6 +46,11 @@ bool IsVerbOrNoun(const condacts::Word& word) {
     return word.type == condacts::kVerb || word.type == condacts::kNoun;
 }
 
+/// Directions come first, by their number: what is typed is completed by the first word that fits.
+int ProbableRank(const ListItem& word) {
+    return std::min(word.number, kBehindDirections);
+}
+
 void AppendTo(std::string& line, std::string_view word, std::string_view location) {
     if (!line.empty()) line += ' ';
     line.append(word).append(" ").append(location);
@@ -56,6 +64,9 @@ frmVelLocation::frmVelLocation(Session& session, ScreenKey key)
     for (const condacts::Word& word : words_.All()) {
         if (condacts::IsMovementWord(word)) cboExit.items.push_back({word.number, word.word});
     }
+    std::stable_sort(cboExit.items.begin(), cboExit.items.end(), [](const ListItem& a, const ListItem& b) {
+        return ProbableRank(a) < ProbableRank(b);
+    });
     cboLoc.items = LocationNames(Adventure());
     ReadNeighbours();
     if (!key.isNew) ReadRecord();

@@ -105,12 +105,12 @@ TEST_F(LocationScreen, OfARecordThatIsNotThereFails) {
     EXPECT_THROW(Open(6), Error);
 }
 
-TEST_F(LocationScreen, OffersVerbsAndConversionNounsAsMovementWords) {
+TEST_F(LocationScreen, OffersVerbsAndConversionNounsAsMovementWordsWithDirectionsFirst) {
     const frmVelLocation screen = Open(0);
     std::vector<std::string> words;
     for (const ListItem& item : screen.cboExit.items)
         words.push_back(item.text);
-    EXPECT_THAT(words, ElementsAre("CLIMB", "NORD", "NORTH", "S\u00DCD", "LAST"));
+    EXPECT_THAT(words, ElementsAre("NORD", "NORTH", "S\u00DCD", "CLIMB", "LAST"));
 }
 
 TEST_F(LocationScreen, OffersTheLocationsByName) {
