@@ -9,7 +9,7 @@
 namespace fabula::authoring {
 
 /// All locations by number, with what an author knows them by: the short description or, without one, the
-/// beginning of the description.
+/// first line of the description.
 std::vector<ListItem> LocationNames(store::Adventure& adventure);
 
 /// The name in such a list; "" for a number that is not in it.

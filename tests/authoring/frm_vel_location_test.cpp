@@ -119,6 +119,20 @@ TEST_F(LocationScreen, OffersTheLocationsByName) {
     EXPECT_EQ(screen.cboLoc.items[6], (ListItem{7, "Room 7"}));
 }
 
+TEST_F(LocationScreen, ALocationWithoutAShortDescriptionIsKnownByTheFirstLineOfTheOther) {
+    const auto nameOf = [this](const char* description) {
+        frmVelLocation screen = Open(7);
+        screen.txtShortDesc = "";
+        screen.txtDEscription = description;
+        EXPECT_TRUE(screen.cmdUpdate());
+        return Open(0).cboLoc.items[6].text;
+    };
+    EXPECT_EQ(nameOf("<BRIGHT>The Yard</BRIGHT>\nThe yard is walled."), "The Yard");
+    EXPECT_EQ(nameOf("<br>The Hard<br>The road climbs."), "The Hard");
+    EXPECT_EQ(nameOf("A cave.\n\nIt is dark."), "A cave.");
+    EXPECT_EQ(nameOf(""), "");
+}
+
 TEST_F(LocationScreen, GoodExitsPass) {
     EXPECT_EQ(Fault("NORTH 5 CLIMB 0"), "");
     EXPECT_EQ(Fault("  north   5  "), "");
