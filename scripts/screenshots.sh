@@ -42,12 +42,14 @@ shot() {
     echo "$images/$name.png: $(stat -c %s "$images/$name.png") bytes"
 }
 
-# desk NAME GAME THEME TABLE: takes the window of the authoring tool on a table of a game, by its number; without a
-# game, on how to get one.
+# desk NAME GAME THEME TABLE [TITLE KEY...]: takes the window of the authoring tool on a table of a game, by its
+# number; without a game, on how to get one. With a title, takes the window of that title, which the keys open.
 desk() {
-    local name=$1 game=$2 theme=$3 table=$4 window file=""
+    local name=$1 game=$2 theme=$3 table=$4 title=${5:-} window file=""
     mkdir -p "$XDG_CONFIG_HOME/Fabula"
     if [ "$game" != none ]; then
+        # Beside its pictures, which it names by their paths.
+        cp -R build/default/examples/pictures "$work/"
         file=$work/$game.fbd
         cp "build/default/examples/$game.fbd" "$file"
     fi
@@ -59,6 +61,12 @@ desk() {
     sleep 1.5
     xdotool key Return
     sleep 1
+    if [ -n "$title" ]; then
+        xdotool windowfocus "$window"
+        xdotool key --delay 40 "${@:6}"
+        window=$(xdotool search --sync --all --onlyvisible --pid "$player" --name "$title" | head -n 1)
+        sleep 1
+    fi
     import -window "$window" +dither -colors 128 -define png:compression-level=9 "PNG8:$images/$name.png"
     stop "$player"
     player=
@@ -80,8 +88,9 @@ cellar-light cellar light 3
 cellar-dark cellar dark 54
 TABLE
 
-while read -r name game theme table; do
-    if wanted "$name"; then desk "$name" "$game" "$theme" "$table"; fi
+while read -r name game theme table rest; do
+    # shellcheck disable=SC2086
+    if wanted "$name"; then desk "$name" "$game" "$theme" "$table" $rest; fi
 done <<'TABLE'
 desk-start-light none light 5
 desk-start-dark none dark 5
@@ -89,6 +98,9 @@ desk-locations-light lighthouse light 1
 desk-processes-dark lighthouse dark 6
 desk-vocabulary-light lighthouse light 8
 desk-messages-dark signal_box dark 2
+desk-location-editor-light lighthouse light 1 Location Home Down Down Down Down Down Down Down Return
+desk-process-editor-dark lighthouse dark 6 Process ctrl+k s w a p Return Down Return ctrl+Home ctrl+Right ctrl+Right ctrl+Right ctrl+Right
+desk-settings-light lighthouse light 5 Settings F4
 TABLE
 
 if wanted tutorial; then
