@@ -71,6 +71,8 @@ void MainWindow::DoInLogic(Command command) {
         ide_.ScreenClosed(*request);
     }
     ShowChanges();
+    // The new record is the one to go on with.
+    if (request && request->key.isNew) records_->Grid().setFocus();
 }
 
 void MainWindow::FindOrAsk(Command command) {

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -192,6 +193,21 @@ TEST(MainWindow, NewAsksForTheTypeAndOpensTheAdventureOnItsSettings) {
     opened.Part<QPushButton>("cmdNew").click();
     EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - mine");
     EXPECT_EQ(opened.Part<QTreeWidget>("Tree").currentItem()->text(0), "Adventure Settings");
+}
+
+TEST(MainWindow, ARecordThatWasAddedFromTheTreeHasTheKeyboard) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    opened.Part<QTreeWidget>("Tree").setFocus();
+    WithNextDialog("TextDialog", [](QDialog& dialog) {
+        dialog.findChild<QPlainTextEdit*>("txtMessage")->setPlainText("A third lamp.");
+        dialog.findChild<QPushButton*>("cmdUpdate")->click();
+    });
+    opened.Action("NewTab").trigger();
+    EXPECT_EQ(opened.Cell(3, 1), "A third lamp.");
+    EXPECT_EQ(QApplication::focusWidget(), &opened.Part<QTableView>("Grid"));
+    EXPECT_EQ(opened.Part<QTableView>("Grid").currentIndex().row(), 3);
 }
 
 TEST(MainWindow, NewWithoutATypeMakesNothing) {
