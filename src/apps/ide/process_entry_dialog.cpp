@@ -39,6 +39,13 @@ QLabel* MakeNote(const char* name, const QString& what, QWidget* parent) {
     return note;
 }
 
+bool IsPlainEnter(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    return isEnter && (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
 }  // namespace
 
 ProcessEntryDialog::ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget* parent)
@@ -66,7 +73,9 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::frmVelCondAct& screen, QWidget
     Show();
     focus_ = connect(qApp, &QApplication::focusChanged, this,
                      [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
-    line_->setFocus();
+    // A new entry begins with its words.
+    QWidget* const first = screen_.Key().isNew ? static_cast<QWidget*>(word1_) : line_;
+    first->setFocus();
     const int moreLines = kMoreLines * line_->fontMetrics().lineSpacing();
     const QSize wanted(kDefaultWidth,
                        form->heightForWidth(kDefaultWidth) + buttons->sizeHint().height() + moreLines);
@@ -137,11 +146,16 @@ QLayout* ProcessEntryDialog::BuildCondAct() {
         condAct_->addItem(qt::ToQt(item.text));
     condAct_->completer()->setCompletionMode(QCompleter::PopupCompletion);
     condAct_->installEventFilter(this);
-    connect(condAct_, &QComboBox::activated, this, [this] { CheckLeft(condAct_); });
+    connect(condAct_, &QComboBox::activated, this, [this] { ChooseCondAct(); });
+    connect(condAct_->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+        if (CompleteCondAct()) ChooseCondAct();
+    });
     auto* label = new QLabel(tr("&Cond/Act"), this);
     label->setBuddy(condAct_);
     param1_ = MakeParameter("cboParam1");
     param2_ = MakeParameter("cboParam2");
+    for (const ParameterWidgets& parameter : {param1_, param2_})
+        parameter.box->installEventFilter(this);
     add_ = new QPushButton(tr("&Add to Conditions/Actions"), this);
     add_->setObjectName("cmdAdd");
     add_->setAutoDefault(false);
@@ -258,8 +272,38 @@ bool ProcessEntryDialog::Leave(const QWidget* field) {
     return true;
 }
 
+/// A name that opens parameters hands on to the first.
+void ProcessEntryDialog::ChooseCondAct() {
+    CheckLeft(condAct_);
+    if (param1_.box->isEnabled()) param1_.box->setFocus();
+}
+
+/// Makes the beginning of a name the first name that begins so; false where there is nothing to be made.
+bool ProcessEntryDialog::CompleteCondAct() {
+    const QString typed = condAct_->currentText();
+    const QString first = condAct_->completer()->currentCompletion();
+    if (typed.isEmpty() || first.isEmpty() || condAct_->findText(typed, Qt::MatchFixedString) >= 0)
+        return false;
+    condAct_->setEditText(first);
+    return true;
+}
+
+/// Enter goes on from field to field, and adds behind the last: the default button would store the entry.
+bool ProcessEntryDialog::Enter(const QObject* field) {
+    if (static_cast<const QComboBox*>(field)->currentText().isEmpty()) return false;
+    if (field == condAct_) {
+        CompleteCondAct();
+        ChooseCondAct();
+        return true;
+    }
+    const bool second = param2_.box->isEnabled() && param2_.box->currentText().isEmpty();
+    second ? param2_.box->setFocus() : Add();
+    return true;
+}
+
 /// Keys and the wheel would step through the closed list of names, and each step would choose one.
 bool ProcessEntryDialog::eventFilter(QObject* receiver, QEvent* event) {
+    if (IsPlainEnter(*event) && receiver->inherits("QComboBox")) return Enter(receiver);
     if (receiver != condAct_ || condAct_->view()->isVisible()) return false;
     if (event->type() == QEvent::Wheel) {
         event->ignore();

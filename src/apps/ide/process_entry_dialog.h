@@ -44,6 +44,9 @@ class ProcessEntryDialog final : public QDialog {
     bool Guarded(const std::function<bool()>& work);
     bool Leave(const QWidget* field);
     void CheckLeft(QWidget* field);
+    void ChooseCondAct();
+    bool CompleteCondAct();
+    bool Enter(const QObject* field);
     void Add();
     void Update();
 

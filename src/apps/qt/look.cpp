@@ -158,7 +158,8 @@ class Look final : public QProxyStyle {
             case PM_ExclusiveIndicatorHeight:
                 return std::max(usual, widget ? widget->fontMetrics().height() : 0);
             case PM_DefaultFrameWidth:
-                return qobject_cast<const QAbstractScrollArea*>(widget) ? kFrame : usual;
+                return qobject_cast<const QAbstractScrollArea*>(widget) && !widget->isWindow() ? kFrame
+                                                                                               : usual;
             case PM_HeaderMargin:
                 return kRoomInCells + 1;
             case PM_FocusFrameHMargin:  // of cells and of the lines of lists and trees

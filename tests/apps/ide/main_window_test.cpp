@@ -206,7 +206,7 @@ TEST(MainWindow, ARecordThatWasAddedFromTheTreeHasTheKeyboard) {
     });
     opened.Action("NewTab").trigger();
     EXPECT_EQ(opened.Cell(3, 1), "A third lamp.");
-    EXPECT_EQ(QApplication::focusWidget(), &opened.Part<QTableView>("Grid"));
+    EXPECT_EQ(opened.Window().focusWidget(), &opened.Part<QTableView>("Grid"));
     EXPECT_EQ(opened.Part<QTableView>("Grid").currentIndex().row(), 3);
 }
 

@@ -128,6 +128,7 @@ TEST_F(ProcessEntryDialogTest, AFaultThatNamesItsTokenIsToldWithoutItsPlace) {
 }
 
 TEST_F(ProcessEntryDialogTest, AFaultKeepsTheFocusInTheLine) {
+    line_->setFocus();
     Type("XYZ");
     Find<QLineEdit>("txtType")->setFocus();
     QApplication::processEvents();
@@ -193,6 +194,31 @@ TEST_F(ProcessEntryDialogTest, TabGoesFromANameToTheParameterThatItOpens) {
     QTest::keyClick(condAct, Qt::Key_Tab);
     QApplication::processEvents();
     EXPECT_EQ(QApplication::focusWidget(), Find<QComboBox>("cboParam1"));
+}
+
+TEST_F(ProcessEntryDialogTest, ANewEntryBeginsWithItsVerbAndAnOldOneWithItsLine) {
+    EXPECT_EQ(dialog_->focusWidget()->objectName().toStdString(), "cboWord1");
+    desk_.AddEntry(4, 0, {"_", 255}, {"_", 255}, "DONE");
+    Reopen(
+        {.screen = authoring::Screen::ProcessEntry, .key = {.key = 4}, .table = TableNum::ProcessTables});
+    EXPECT_EQ(dialog_->focusWidget(), line_);
+}
+
+TEST_F(ProcessEntryDialogTest, EnterGoesFromTheBeginningOfANameToTheLine) {
+    auto* condAct = Find<QComboBox>("cboCA");
+    condAct->setFocus();
+    QTest::keyClicks(condAct, "plac");
+    QTest::keyClick(condAct, Qt::Key_Return);
+    EXPECT_EQ(condAct->currentText(), "PLACE");
+    EXPECT_EQ(dialog_->focusWidget(), Find<QComboBox>("cboParam1"));
+    QTest::keyClicks(dialog_->focusWidget(), "0");
+    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(dialog_->focusWidget(), Find<QComboBox>("cboParam2"));
+    QTest::keyClicks(dialog_->focusWidget(), "carried");
+    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Line(), "PLACE 0 254");
+    EXPECT_EQ(dialog_->focusWidget(), condAct);
+    EXPECT_TRUE(dialog_->isVisible());
 }
 
 TEST_F(ProcessEntryDialogTest, ACondactWithoutParametersIsAddedWhenItIsChosen) {
