@@ -77,9 +77,10 @@ bool frmVelIDEMain::Guard(const std::function<void()>& step) {
     }
 }
 
-void frmVelIDEMain::Form_Load() {
+void frmVelIDEMain::Form_Load(const std::function<void()>& show) {
     const std::filesystem::path file = LastFile(host_.settings);
     if (!file.empty()) OpenFile(file);
+    show();
     Guard([&] { NoteVersions(); });
 }
 

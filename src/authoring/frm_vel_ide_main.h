@@ -72,8 +72,8 @@ class frmVelIDEMain {
 
     /// Opens the adventure that was open the last time, notes the version of the program in it and in the
     /// list of versions, and reports what is new. When the file is gone the program starts without an
-    /// adventure.
-    void Form_Load();
+    /// adventure. `show` is called before the report, which would stand in front of an empty window.
+    void Form_Load(const std::function<void()>& show = [] {});
     /// Remembers the open adventure and where the author was, and deletes old work files.
     void Form_Unload();
     /// The author has been told that the program has to end.

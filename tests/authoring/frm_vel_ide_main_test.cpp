@@ -81,6 +81,20 @@ TEST_F(MainWindowTest, StartsInTheProcessTableThatWasLastInView) {
     EXPECT_EQ(main->CurrentSession().currentESNum, kOtherProcesses);
 }
 
+TEST_F(MainWindowTest, ShowsTheAdventureBeforeItReportsVersions) {
+    settings.Set("Startup", "File", Make("game.fbd").string());
+    const std::size_t before = dialogs.Boxes().size();
+    std::string title;
+    std::size_t told = before + 1;
+    main->Form_Load([&] {
+        title = main->Title();
+        told = dialogs.Boxes().size();
+    });
+    EXPECT_EQ(title, "Fabula IDE - game");
+    EXPECT_EQ(told, before);
+    EXPECT_EQ(dialogs.Boxes().size(), before + 1);
+}
+
 TEST_F(MainWindowTest, ReportsAnotherVersionOfTheProgramAtTheStart) {
     OpenNew();
     Restart();

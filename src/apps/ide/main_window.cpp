@@ -231,7 +231,7 @@ void MainWindow::Start(const std::filesystem::path& file) {
         const auto remembered = std::filesystem::absolute(file).string();
         services_.settings.Set(authoring::startup::kSection, authoring::startup::kFile, remembered);
     }
-    ide_.Form_Load();
+    ide_.Form_Load([this] { ShowChanges(); });
     ShowChanges();
 }
 
