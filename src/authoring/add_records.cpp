@@ -1,5 +1,6 @@
 #include "authoring/add_records.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
@@ -25,10 +26,10 @@ constexpr int kHighestSet = 998;
 constexpr std::size_t kLongestSetName = 20;
 constexpr const char* kFontOfSetZero = "charsetnum=0 and charnum>=32 and charnum<=127";
 
-/// The highest value of a number field; -1 in an empty table.
+/// The highest value of a number field; -1 in a table without a record from 0 on.
 int Highest(store::Adventure& adventure, TableNum table, const std::string& field) {
     store::PreparedQuery query = adventure.Prepare(table, field, "", field + " desc");
-    return query.First({}) ? static_cast<int>(query.Number(0)) : -1;
+    return query.First({}) ? std::max(static_cast<int>(query.Number(0)), -1) : -1;
 }
 
 void AddFlag(Cursor& flags, int number) {

@@ -76,7 +76,7 @@ int HighestKey(Adventure& adventure, TableNum table) {
 }
 
 int NextLocation(Adventure& adventure) {
-    const int next = HighestKey(adventure, TableNum::Locations) + 1;
+    const int next = NumberAfter(HighestKey(adventure, TableNum::Locations));
     return next >= kFirstSpecialPlace && next < kAboveSpecialPlaces ? kAboveSpecialPlaces : next;
 }
 
@@ -86,7 +86,7 @@ int FirstGap(Adventure& adventure, TableNum table) {
     store::PreparedQuery row = adventure.Prepare(table, key, "", key);
     int number = 0;
     for (bool more = row.First({}); more && row.Number(0) <= number; more = row.Next())
-        number = static_cast<int>(row.Number(0)) + 1;
+        number = NumberAfter(row.Number(0));
     return number;
 }
 

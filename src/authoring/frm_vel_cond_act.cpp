@@ -106,7 +106,7 @@ void frmVelCondAct::Propose(const ScreenRequest& request) {
 int frmVelCondAct::NextProcess() const {
     store::PreparedQuery highest =
         Adventure().Prepare(TableNum::ProcessTables, "estype", "", "estype desc");
-    const int next = highest.First({}) ? static_cast<int>(highest.Number(0)) + 1 : 0;
+    const int next = highest.First({}) ? NumberAfter(highest.Number(0)) : 0;
     return std::max(next, kFirstNewProcess);
 }
 
@@ -260,7 +260,7 @@ bool frmVelCondAct::cmdUpdate() {
     Change change(session_.document, ChangeName());
     Store();
     change.Commit();
-    if (Key().isNew) session_.nextEntry = Key().key + 1;
+    if (Key().isNew) session_.nextEntry = NumberAfter(Key().key);
     const auto process = text::WholeNumber(text::TrimBlanks(txtType)).value_or(0);
     session_.currentESNum = static_cast<int>(std::min<std::int64_t>(process, kOtherProcesses));
     return true;

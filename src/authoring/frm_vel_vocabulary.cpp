@@ -54,7 +54,7 @@ int frmVelVocabulary::NextNumber(condacts::WordType type) const {
     store::PreparedQuery highest =
         Adventure().Prepare(TableNum::VocabularyWalk, "vocnum", "voctypen=?", "vocnum desc");
     if (!highest.First({std::int64_t{type}})) return kLowestNumber;
-    return std::max(static_cast<int>(highest.Number(0)) + 1, kLowestNumber);
+    return std::max(NumberAfter(highest.Number(0)), kLowestNumber);
 }
 
 void frmVelVocabulary::ClickOptType(condacts::WordType type) {

@@ -1,15 +1,22 @@
 #include "authoring/session.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace fabula::authoring {
 namespace {
 
 int NextFree(store::Adventure& adventure, store::TableNum table, const char* key) {
     store::PreparedQuery highest = adventure.Prepare(table, key, "", std::string(key) + " desc");
     if (!highest.First({})) return 0;
-    return static_cast<int>(highest.Number(0)) + 1;
+    return NumberAfter(highest.Number(0));
 }
 
 }  // namespace
+
+int NumberAfter(std::int64_t number) {
+    return static_cast<int>(std::min<std::int64_t>(number + 1, std::numeric_limits<int>::max()));
+}
 
 void ReadNextKeys(Session& session) {
     store::Adventure& adventure = session.document.Adventure();

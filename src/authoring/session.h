@@ -23,6 +23,9 @@ struct Session {
     int nextWord = 0;      ///< the next free `vocindex`
 };
 
+/// The number behind that of a record; the highest there is stays.
+int NumberAfter(std::int64_t number);
+
 /// Reads the next free keys, one above the highest, from the tables.
 void ReadNextKeys(Session& session);
 

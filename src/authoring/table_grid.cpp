@@ -19,6 +19,8 @@ constexpr std::string_view kLineEndSign = "\u21B5";
 constexpr std::string_view kHardSpaceSign = "\u2423";
 constexpr std::string_view kCutSign = "\u2026";
 constexpr int kWidestColumn = 32767;
+/// The title of a column is no longer, in characters.
+constexpr std::size_t kLongestTitle = 60;
 
 /// What a Marlo adventure has no use for.
 constexpr std::string_view kNotInMarlo[] = {"objweight", "objadject", "objattr"};
@@ -99,7 +101,8 @@ void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
         const auto see = rows.Number("see");
         if (see == 0 || (maintenance && see == 2)) {
             const std::string_view other = rows.Text("altname");
-            columns_.push_back({field, other.empty() ? field : std::string(other),
+            columns_.push_back({field,
+                                other.empty() ? field : std::string(text::Left(other, kLongestTitle)),
                                 static_cast<int>(rows.Number("gridwidth")), rows.Text("expand") == "Y",
                                 IsNumber(schema.fields[*place].type)});
         } else if (rows.Text("search") == "Y" || text::EqualsNoCase(field, "estype") ||
@@ -189,7 +192,11 @@ std::string TableGrid::CellText(int row, int column) const {
 }
 
 std::string TableGrid::FullText(int row, int column) const {
-    return Replace(text::ToText(At(RecordOf(row), static_cast<std::size_t>(column))), "\n", " ");
+    const std::string text = text::ToText(At(RecordOf(row), static_cast<std::size_t>(column)));
+    const std::string_view begin = text::Left(text, kLongestTip);
+    std::string shown = Replace(begin, "\n", " ");
+    if (begin.size() < text.size()) shown += kCutSign;
+    return shown;
 }
 
 const text::Value& TableGrid::ValueOf(int row, std::string_view field) const {

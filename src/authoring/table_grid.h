@@ -59,7 +59,7 @@ class TableGrid {
 
     /// What a cell shows, on one line: line ends and hard spaces as signs, a long text cut.
     std::string CellText(int row, int column) const;
-    /// The whole text of a cell with its line ends, for a tool tip.
+    /// The text of a cell with its line ends, for a tool tip: whole, unless it is longer than kLongestTip.
     std::string FullText(int row, int column) const;
     /// The value of a field that is a column, can be searched or names a page of the help; null for any
     /// other.
@@ -79,6 +79,8 @@ class TableGrid {
 
     /// The longest text of a cell, in characters.
     static constexpr std::size_t kLongestCell = 250;
+    /// The longest text of a tool tip, in characters.
+    static constexpr std::size_t kLongestTip = 4000;
 
   private:
     void ReadColumns(store::Adventure& adventure, bool maintenance);

@@ -20,6 +20,10 @@ struct TreeRow {
 };
 
 constexpr std::string_view kRootKey = "0_";
+/// The name of a node, like the type of the adventure, is no longer, in characters.
+constexpr std::size_t kLongestName = 60;
+/// A tree of the program has some thirty nodes. More records than these are left out.
+constexpr std::size_t kMostNodes = 500;
 
 std::vector<TreeRow> ReadRows(store::Adventure& adventure) {
     const bool oldFile =
@@ -28,11 +32,11 @@ std::vector<TreeRow> ReadRows(store::Adventure& adventure) {
         TableNum::DataBases, "def",
         oldFile ? std::optional<std::string_view>("dbtreesort<16") : std::nullopt, "dbtreesort");
     std::vector<TreeRow> read;
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.Eof() && read.size() < kMostNodes; rows.MoveNext()) {
         TreeRow row;
         row.node.sort = static_cast<int>(rows.Number("dbtreesort"));
         row.node.key = rows.Text("dbtreekey");
-        row.node.name = rows.Text("dbtreename");
+        row.node.name = text::Left(rows.Text("dbtreename"), kLongestName);
         row.node.icon = rows.Text("dbtreeiconkey");
         row.node.selectedIcon = rows.Text("dbtreeiconname");
         row.node.view.table = static_cast<TableNum>(rows.Number("dbnum"));
@@ -117,7 +121,7 @@ const TreeNode* NodeOf(const std::vector<TreeNode>& nodes, const TableView& view
 
 std::string AdventureStatus(const store::Adventure& adventure) {
     const auto onOrOff = [](bool on) { return on ? "ON" : "OFF"; };
-    return "Adventure Type: " + adventure.AdventureType() +
+    return "Adventure Type: " + std::string(text::Left(adventure.AdventureType(), kLongestName)) +
            "     Graphics: " + onOrOff(adventure.GraphicsOn()) +
            "    CharSets: " + onOrOff(adventure.CharSetsOn());
 }

@@ -53,7 +53,17 @@ bool Lists(const std::string& content, std::string_view name, std::string_view v
     return false;
 }
 
+/// Whether a line can be added where it will be found again, and without waiting for a pipe's other end.
+bool CanGrow(const path& file) {
+    std::error_code error;  // what can't be looked at can't be written either
+    const auto status = std::filesystem::status(file, error);
+    if (!std::filesystem::exists(status)) return true;
+    return std::filesystem::is_regular_file(status) &&
+           std::filesystem::file_size(file, error) < kLargestVersionFile;
+}
+
 bool AddLine(const path& file, const std::string& line) {
+    if (!CanGrow(file)) return false;
     const std::string before = ReadStart(file);
     const bool startsLine = before.empty() || before.ends_with('\n');
     std::ofstream stream(file, std::ios::binary | std::ios::app);

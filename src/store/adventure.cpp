@@ -74,7 +74,9 @@ std::string Clause(std::string_view head, std::string_view clause) {
 }  // namespace
 
 std::unique_ptr<Adventure> Adventure::Open(const std::filesystem::path& file, OpenMode mode) {
-    const auto path = std::filesystem::absolute(file);
+    std::error_code error;
+    const auto path = std::filesystem::absolute(file, error);
+    if (error) throw Error("Could not open " + file.string() + ": " + error.message() + ".");
     return std::unique_ptr<Adventure>(new Adventure(path, OpenChecked(path, mode)));
 }
 

@@ -291,8 +291,8 @@ void WriteNewFile(const std::filesystem::path& file, const DefaultData& data, co
 
 bool CreateAdventure(bool replace, const std::filesystem::path& path, const frmSetup& setup,
                      const CreationHost& host) {
-    const auto target = std::filesystem::absolute(path);
     std::error_code error;  // what can't be looked at fails when the file is made
+    const auto target = std::filesystem::absolute(path, error);
     if (!replace && std::filesystem::exists(target, error) &&
         !host.person.Confirm("All information in " + path.string() + " will be deleted.", "Warning")) {
         return false;

@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 
 #include "store/connection.h"
+#include "store/needed_fields.h"
 #include "text/utf8.h"
 
 namespace fabula::store {
@@ -40,11 +41,6 @@ constexpr IndexEntry kIndexes[] = {
     {TableNum::Codes, "FabulaTag"},      {TableNum::Characters, "charkey"},
     {TableNum::Pictures, "locnum"},
 };
-
-/// What the store itself reads of the settings when it opens a file.
-constexpr std::string_view kSettingsNeeded[] = {"adventype",    "graphics",       "charsets",
-                                                "sortobjects",  "sortvocabulary", "sorttables",
-                                                "sortcondacts", "sortcommands"};
 
 /// The end of a journal that belongs to a change of several files at once.
 constexpr std::string_view kSuperJournalMark{"\xd9\xd5\x05\xf9\x20\xa1\x63\xd7", 8};
@@ -112,10 +108,16 @@ void CheckHeader(const std::filesystem::path& file) {
     }
 }
 
-/// Whether a journal beside the file names a further journal. None of this program's does, and the database
-/// would delete the file that is named there.
+/// Whether what lies in the place of the file's journal is no file, on which the database might wait
+/// without end, or names a further journal. None of this program's does, and the database would delete the
+/// file that is named there.
 bool HasForeignJournal(const std::filesystem::path& file) {
-    std::ifstream stream(std::filesystem::path(file) += "-journal", std::ios::binary);
+    const auto journal = std::filesystem::path(file) += "-journal";
+    std::error_code error;  // what can't be looked at is none
+    const auto status = std::filesystem::symlink_status(journal, error);
+    if (error) return false;
+    if (!std::filesystem::is_regular_file(status)) return true;
+    std::ifstream stream(journal, std::ios::binary);
     std::array<char, kSuperJournalMark.size()> end{};
     stream.seekg(-static_cast<std::streamoff>(end.size()), std::ios::end);
     stream.read(end.data(), end.size());
@@ -189,7 +191,8 @@ std::int64_t PragmaNumber(Connection& connection, const std::string& pragma) {
 bool IsCutShort(Connection& connection, const std::filesystem::path& file) {
     const std::int64_t bytes =
         PragmaNumber(connection, "page_count") * PragmaNumber(connection, "page_size");
-    return std::filesystem::file_size(file) < static_cast<std::uintmax_t>(bytes);
+    std::error_code error;  // the size of what can't be looked at counts as the highest
+    return std::filesystem::file_size(file, error) < static_cast<std::uintmax_t>(bytes);
 }
 
 bool HasSoundPages(Connection& connection) {
@@ -221,10 +224,10 @@ bool HasOneRecord(Connection& connection, const char* table) {
     return connection.Step(count.get(), "check the file") && sqlite3_column_int(count.get(), 0) == 1;
 }
 
-bool HasSettings(Connection& connection) {
-    const TableSchema& settings = connection.SchemaOf(TableNum::Adventure);
-    return std::all_of(std::begin(kSettingsNeeded), std::end(kSettingsNeeded),
-                       [&](std::string_view field) { return settings.Find(field).has_value(); });
+bool HasAllNeededFields(const Connection& connection) {
+    return std::ranges::all_of(AllTables(), [&](const TableEntry& table) {
+        return HasNeededFields(table.number, connection.SchemaOf(table.number));
+    });
 }
 
 bool IsSound(Connection& connection, const std::filesystem::path& file) {
@@ -232,7 +235,7 @@ bool IsSound(Connection& connection, const std::filesystem::path& file) {
     if (!IsPlainSchema(connection, columns)) return false;
     if (IsCutShort(connection, file) || !HasSoundPages(connection)) return false;
     connection.LoadSchema();
-    return FieldsFitColumns(connection, columns) && HasSettings(connection) &&
+    return FieldsFitColumns(connection, columns) && HasAllNeededFields(connection) &&
            HasOneRecord(connection, "Adventure") && HasOneRecord(connection, "System");
 }
 

@@ -103,7 +103,9 @@ TemporaryFile::~TemporaryFile() {
 }
 
 void WriteCopy(const Connection& source, const std::filesystem::path& target) {
-    const auto path = std::filesystem::absolute(target);
+    std::error_code error;
+    const auto path = std::filesystem::absolute(target, error);
+    if (error) Fail(target, error.value());
     const TemporaryFile temporary(TemporaryBeside(path));
     CopyPages(source, temporary.Path(), target);
     OpenChecked(temporary.Path(), OpenMode::ReadOnly);

@@ -77,7 +77,7 @@ std::string_view PreparedQuery::Text(int column) const {
 }
 
 std::int64_t PreparedQuery::Number(int column) const {
-    return sqlite3_column_int64(statement_, column + 1);
+    return WithinRange(sqlite3_column_int64(statement_, column + 1));
 }
 
 }  // namespace fabula::store

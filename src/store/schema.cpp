@@ -1,6 +1,7 @@
 #include "store/schema.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "text/utf8.h"
 
@@ -60,6 +61,11 @@ std::string_view TagOf(FieldType type) {
 bool IsFieldName(std::string_view text) {
     return !text.empty() && IsLetter(text.front()) &&
            std::all_of(text.begin(), text.end(), IsLetterOrDigit) && !text::EqualsNoCase(text, kStoreKey);
+}
+
+std::int64_t WithinRange(std::int64_t number) {
+    return std::clamp<std::int64_t>(number, std::numeric_limits<std::int32_t>::min(),
+                                    std::numeric_limits<std::int32_t>::max());
 }
 
 FieldClass ClassOf(FieldType type) {

@@ -43,6 +43,10 @@ std::optional<FieldType> FieldTypeFromTag(std::string_view tag);
 std::string_view TagOf(FieldType type);
 FieldClass ClassOf(FieldType type);
 
+/// What a number of a file stands for: itself, or of those beyond 32 bits, which no field can hold and
+/// other programs may have put there, the nearest that it can.
+std::int64_t WithinRange(std::int64_t number);
+
 /// Whether a text may name a field: letters, digits and "_", no digit in front. Nothing else gets into a
 /// statement of the store's query language.
 bool IsFieldName(std::string_view text);

@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include "store/schema.h"
+
 namespace fabula::store {
 
 void Snapshot::Clear(std::size_t columns) {
@@ -83,7 +85,7 @@ std::string_view Snapshot::TextAt(std::size_t row, std::size_t column) const {
 
 std::int64_t Snapshot::NumberAt(std::size_t row, std::size_t column) const {
     const Cell& cell = At(row, column);
-    return cell.kind == Kind::Integer ? cell.as.integer : 0;
+    return cell.kind == Kind::Integer ? WithinRange(cell.as.integer) : 0;
 }
 
 void Snapshot::SetValue(std::size_t row, std::size_t column, const text::Value& value) {

@@ -187,6 +187,12 @@ TEST_F(DocumentTest, NextKeysAreOneAboveTheHighest) {
     EXPECT_EQ(session.nextWord, words + 11);
 }
 
+TEST(NumberAfter, TheHighestStays) {
+    EXPECT_EQ(NumberAfter(-1), 0);
+    EXPECT_EQ(NumberAfter(2147483646), 2147483647);
+    EXPECT_EQ(NumberAfter(2147483647), 2147483647);
+}
+
 TEST(Document, OfAFileThatIsNoAdventureIsRefused) {
     test::TempFolder folder;
     EXPECT_THROW(Document(folder / "none.fbd"), store::OpenError);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/raw_database.h"
 #include "support/template_adventure.h"
 
 namespace fabula::authoring {
@@ -177,6 +178,21 @@ TEST_F(TableGridTest, CutsALongTextInItsCellOnly) {
     EXPECT_EQ(grid_.CellText(3, 1), std::string(TableGrid::kLongestCell, 'x') + "\u2026");
     EXPECT_EQ(grid_.FullText(3, 1), text);
     EXPECT_EQ(grid_.CellText(4, 1), std::string(TableGrid::kLongestCell, 'x'));
+}
+
+TEST_F(TableGridTest, CutsAVeryLongTextInItsTipToo) {
+    AddMessage(*adventure_, 3, std::string(1'000'000, 'x'));
+    grid_.Refresh(*adventure_);
+    EXPECT_EQ(grid_.FullText(3, 1), std::string(TableGrid::kLongestTip, 'x') + "\u2026");
+}
+
+TEST_F(TableGridTest, ANumberBeyondItsFieldIsNotTakenForAnotherKey) {
+    const int rows = grid_.RowCount();
+    adventure_.Close();
+    test::RawDatabase(adventure_.File()).Run("INSERT INTO Messages (msgnum) VALUES (4294967296)");
+    adventure_.Reopen();
+    grid_.Refresh(*adventure_);
+    EXPECT_EQ(grid_.KeyOf(rows), 2147483647);
 }
 
 TEST_F(TableGridTest, FiltersByATextInAnyColumnCaseIgnored) {

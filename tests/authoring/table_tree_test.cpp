@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/raw_database.h"
 #include "support/template_adventure.h"
 
 namespace fabula::authoring {
@@ -176,6 +177,47 @@ TEST(AdventureStatus, TellsTypeGraphicsAndCharacterSets) {
     EXPECT_EQ(AdventureStatus(*fabula), "Adventure Type: Fabula     Graphics: OFF    CharSets: OFF");
     const test::OpenedAdventure marlo(AdventureKind::Marlo);
     EXPECT_EQ(AdventureStatus(*marlo), "Adventure Type: Marlo     Graphics: OFF    CharSets: ON");
+}
+
+TEST(TableTree, LeavesOutWhatIsFarTooMuchForATree) {
+    test::OpenedAdventure adventure;
+    adventure.Close();
+    test::RawDatabase(adventure.File())
+        .Run(
+            "WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i+1 FROM n WHERE i<50000)"
+            "INSERT INTO DataBases (dbnum, dbtreesort, dbtreekey, dbtreeparent, tabletype, dbtreename) "
+            "SELECT 5, i, i || '_', (i-1) || '_', 'FVM', 'node' FROM n");
+    adventure.Reopen();
+    EXPECT_LE(LoadTreeView(*adventure, true).size(), 500U);
+}
+
+TEST(TableTree, CutsNamesThatAreFarTooLong) {
+    test::OpenedAdventure adventure;
+    adventure.Close();
+    test::RawDatabase(adventure.File()).Run("UPDATE DataBases SET dbtreename=hex(zeroblob(500000))");
+    adventure.Reopen();
+    EXPECT_EQ(LoadTreeView(*adventure, false).at(0).name, std::string(60, '0'));
+}
+
+TEST(TableTree, CutsATypeThatIsFarTooLongInTheStatus) {
+    test::OpenedAdventure adventure;
+    adventure.Close();
+    test::RawDatabase(adventure.File()).Run("UPDATE Adventure SET adventype=hex(zeroblob(500000))");
+    adventure.Reopen();
+    EXPECT_EQ(AdventureStatus(*adventure),
+              "Adventure Type: " + std::string(60, '0') + "     Graphics: OFF    CharSets: OFF");
+}
+
+TEST(TableTree, NodesThatAreTheirOwnParentsOrNobodysAreLeftOut) {
+    test::OpenedAdventure adventure;
+    adventure.Close();
+    test::RawDatabase(adventure.File())
+        .Run(
+            "UPDATE DataBases SET dbtreeparent=dbtreekey WHERE dbtreekey='1_';"
+            "UPDATE DataBases SET dbtreeparent='nowhere' WHERE dbtreekey='2_'");
+    adventure.Reopen();
+    EXPECT_THAT(Names(LoadTreeView(*adventure, false)), Not(Contains("Locations")));
+    EXPECT_THAT(Names(LoadTreeView(*adventure, false)), Contains("Objects"));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "platform/scripted_dialogs.h"
 #include "support/template_adventure.h"
@@ -102,6 +103,20 @@ TEST_F(ListVersionTest, LeavesOtherLinesAlone) {
     EXPECT_EQ(List("0.1.0"), "Version 0.1.0 added to VersionNumbers.dat.");
     EXPECT_EQ(Read(Installed()),
               "nonsense\n\xFF\xFE\nFabulaIDE\nFabulaIDE 0.0.9 2025-01-01\nFabulaIDE 0.1.0 2026-03-09\n");
+}
+
+TEST_F(ListVersionTest, DoesNotWaitForAPipe) {
+    std::filesystem::create_directories(Installed().parent_path());
+    ASSERT_EQ(mkfifo(Installed().c_str(), 0600), 0);
+    EXPECT_EQ(List("0.1.0"), "Version 0.1.0 added to VersionNumbers.dat.");
+    EXPECT_EQ(Read(Users()), "FabulaIDE 0.1.0 2026-03-09\n");
+}
+
+TEST_F(ListVersionTest, LetsAHugeFileGrowNoFurther) {
+    Write(Installed(), std::string(kLargestVersionFile, 'x'));
+    EXPECT_EQ(List("0.1.0"), "Version 0.1.0 added to VersionNumbers.dat.");
+    EXPECT_EQ(List("0.1.0"), "");
+    EXPECT_EQ(std::filesystem::file_size(Installed()), kLargestVersionFile);
 }
 
 TEST(ReportVersions, ShowsTheLinesInOneBox) {

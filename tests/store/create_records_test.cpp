@@ -9,18 +9,18 @@ namespace {
 using test::WriteBytes;
 
 TEST_F(Create, ABadTypeTagIsToldAndTheFieldSkipped) {
-    Replace("VELSOUNDSDB", {"sndnum|adinteger|0|Y|0|1|N", "sndfreq|adwhatever|0|Y|0|0|N",
-                            "sndname|ADVARWCHAR|20|Y|0|0|N"});
+    Replace("VELSOUNDSDB", {"sndnum|adinteger|0|Y|0|1|N", "sndfreq|adinteger|0|Y|0|0|N",
+                            "sndpitch|adwhatever|0|Y|0|0|N", "sndname|ADVARWCHAR|20|Y|0|0|N"});
     EXPECT_TRUE(Make());
     ASSERT_EQ(person_.Boxes().size(), 1u);
-    EXPECT_EQ(person_.Boxes()[0].text, "Invalid option: sndfreq|adwhatever|0|Y|0|0|N");
+    EXPECT_EQ(person_.Boxes()[0].text, "Invalid option: sndpitch|adwhatever|0|Y|0|0|N");
     EXPECT_EQ(person_.Boxes()[0].title, "Error");
     const auto adventure = Open();
     const TableSchema& sounds = adventure->Schema(TableNum::Sounds);
-    ASSERT_EQ(sounds.fields.size(), 2u);
-    EXPECT_EQ(sounds.fields[1].name, "sndname");
-    EXPECT_EQ(sounds.fields[1].type, FieldType::VarWChar);
-    EXPECT_EQ(sounds.fields[1].size, 20);
+    ASSERT_EQ(sounds.fields.size(), 3u);
+    EXPECT_EQ(sounds.fields[2].name, "sndname");
+    EXPECT_EQ(sounds.fields[2].type, FieldType::VarWChar);
+    EXPECT_EQ(sounds.fields[2].size, 20);
 }
 
 TEST_F(Create, ALongTextOfSizeNoneGetsNoSize) {
@@ -33,10 +33,10 @@ TEST_F(Create, ALongTextOfSizeNoneGetsNoSize) {
 }
 
 TEST_F(Create, ASchemaRowMayLeaveOutItsLaterColumns) {
-    Replace("VELSOUNDSDB", {"sndnum|adinteger|0|Y|0|1|N"});
+    Replace("VELSOUNDSDB", {"sndnum|adinteger|0|Y|0|1|N", "sndfreq|adinteger|0|Y|0|0|N"});
     Make();
     const auto adventure = Open();
-    const Cursor& field = adventure->OpenTable(TableNum::Tables, "*", "tablenum=3");
+    const Cursor& field = adventure->OpenTable(TableNum::Tables, "*", "tablenum=3 and fieldname='sndnum'");
     EXPECT_EQ(field.RecordCount(), 1);
     EXPECT_EQ(field.Text("search"), "Y");
     EXPECT_EQ(field.Number("export"), 1);

@@ -112,18 +112,17 @@ TEST_F(CursorTest, AFloatingFieldTakesWholeNumbersToo) {
     adventure_.Close();
     test::RawDatabase(adventure_.File())
         .Run(
-            "DROP TABLE Sounds; CREATE TABLE Sounds (storekey INTEGER PRIMARY KEY, sndfreq REAL) STRICT;"
-            "DELETE FROM Tables WHERE tablenum=3;"
-            "INSERT INTO Tables (tablenum, fieldname, fieldtype) VALUES (3, 'sndfreq', 'addouble')");
+            "ALTER TABLE Sounds ADD COLUMN sndtone REAL;"
+            "INSERT INTO Tables (tablenum, fieldname, fieldtype) VALUES (3, 'sndtone', 'addouble')");
     adventure_.Reopen();
-    Cursor& sounds = adventure_->OpenTable(TableNum::Sounds, "*", "", "sndfreq");
+    Cursor& sounds = adventure_->OpenTable(TableNum::Sounds, "*", "", "sndtone");
     sounds.AddNew();
-    sounds.SetField("sndfreq", 440);
+    sounds.SetField("sndtone", 440);
     sounds.Update();
-    EXPECT_EQ(sounds.Field("sndfreq"), text::Value(440.0));
-    EXPECT_THROW(sounds.Number("sndfreq"), std::logic_error);
+    EXPECT_EQ(sounds.Field("sndtone"), text::Value(440.0));
+    EXPECT_THROW(sounds.Number("sndtone"), std::logic_error);
     sounds.Requery();
-    EXPECT_EQ(sounds.Field("sndfreq"), text::Value(440.0));
+    EXPECT_EQ(sounds.Field("sndtone"), text::Value(440.0));
 }
 
 TEST_F(CursorTest, AFileGoesIntoOneFieldAndItsPathIntoAnother) {

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "store/adventure.h"
@@ -313,6 +314,24 @@ INSTANTIATE_TEST_SUITE_P(
         "ALTER TABLE Adventure DROP COLUMN sortobjects;"
         "DELETE FROM Tables WHERE fieldname='sortobjects'"));
 
+TEST_F(FileCheck, AFileThatLacksAFieldTheProgramsReadIsRefused) {
+    Run("ALTER TABLE Locations DROP COLUMN locshortdesc; DELETE FROM Tables WHERE "
+        "fieldname='locshortdesc'");
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
+TEST_F(FileCheck, AFileWithAFieldOfAnotherClassIsRefused) {
+    Run("ALTER TABLE Messages DROP COLUMN msgmsg; ALTER TABLE Messages ADD COLUMN msgmsg INTEGER;"
+        "UPDATE Tables SET fieldtype='adinteger' WHERE fieldname='msgmsg'");
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
+TEST_F(FileCheck, AFileOfAProgramThatNotedNoVersionsIsOpened) {
+    Run("ALTER TABLE System DROP COLUMN ideversion; ALTER TABLE System DROP COLUMN engversion;"
+        "DELETE FROM Tables WHERE fieldname='ideversion' OR fieldname='engversion'");
+    EXPECT_EQ(Refusal(), "it was opened");
+}
+
 TEST_F(FileCheck, OddSettingsAreOpenedAndHarmless) {
     Run("UPDATE Adventure SET adventype='x; drop', sortobjects=char(0) || 'a', sorttables='tablekey desc, "
         "'");
@@ -408,6 +427,19 @@ TEST_F(FileCheck, AFileThatCannotBeMendedWhereItLiesIsNotCalledDamaged) {
 TEST_F(FileCheck, AJournalThatIsNoneIsHarmless) {
     WriteBytes(file_.string() + "-journal", std::string(5000, 'x'));
     EXPECT_EQ(Refusal(), "it was opened");
+}
+
+TEST_F(FileCheck, APipeInPlaceOfAJournalIsRefusedWithoutAWait) {
+    ASSERT_EQ(mkfifo((file_.string() + "-journal").c_str(), 0600), 0);
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
+TEST_F(FileCheck, ALinkInPlaceOfAJournalIsRefusedAndNotFollowed) {
+    const auto victim = folder_ / "victim";
+    WriteBytes(victim, "precious");
+    std::filesystem::create_symlink(victim, file_.string() + "-journal");
+    EXPECT_EQ(Refusal(), kDamaged);
+    EXPECT_EQ(ReadBytes(victim), "precious");
 }
 
 // At the end of a journal stands the name of a further journal, a file that the database would delete.

@@ -40,6 +40,7 @@ const std::vector<text::Value> kTruths = {text::Value(), 0, 1};
 
 const std::vector<TestField> kFields = {
     {"sndnum", "adinteger", "INTEGER", {}},
+    {"sndfreq", "adinteger", "INTEGER", {text::Value()}},
     {"low", "adsmallint", "INTEGER", {text::Value(), -5, -1, 0, 1, 2, 3, 100}},
     {"high", "adinteger", "INTEGER", kNumbers},
     {"weight", "addouble", "REAL", kReals},

@@ -3,14 +3,6 @@
 #include "qt/strings.h"
 
 namespace fabula::ide {
-namespace {
-
-/// A text with the line ends that it has, wrapped at the tip's width.
-QString WrappedTip(const QString& text) {
-    return "<p style='white-space: pre-wrap'>" + text.toHtmlEscaped() + "</p>";
-}
-
-}  // namespace
 
 GridModel::GridModel(const authoring::TableGrid& grid, QObject* parent)
     : QAbstractTableModel(parent), grid_(grid) {}
@@ -33,7 +25,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return qt::ToQt(grid_.CellText(index.row(), index.column()));
         case Qt::ToolTipRole:
-            return WrappedTip(qt::ToQt(grid_.FullText(index.row(), index.column())));
+            return qt::TipOf(qt::ToQt(grid_.FullText(index.row(), index.column())));
         case Qt::TextAlignmentRole: {
             const bool number = grid_.Columns()[static_cast<std::size_t>(index.column())].number;
             return QVariant(Qt::AlignVCenter | (number ? Qt::AlignRight : Qt::AlignLeft));

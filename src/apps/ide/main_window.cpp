@@ -227,11 +227,12 @@ void MainWindow::PlaceWindow() {
 }
 
 void MainWindow::Start(const std::filesystem::path& file) {
-    if (std::filesystem::is_regular_file(file)) {
-        const auto remembered = std::filesystem::absolute(file).string();
-        services_.settings.Set(authoring::startup::kSection, authoring::startup::kFile, remembered);
-    }
+    std::error_code error;  // what can't be looked at is told below
+    const bool isFile = std::filesystem::is_regular_file(file, error);
+    const auto remembered = std::filesystem::absolute(file, error).string();
+    if (isFile) services_.settings.Set(authoring::startup::kSection, authoring::startup::kFile, remembered);
     ide_.Form_Load([this] { ShowChanges(); });
+    if (!isFile && !file.empty()) ide_.OpenFile(file);
     ShowChanges();
 }
 

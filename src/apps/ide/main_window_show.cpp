@@ -80,7 +80,7 @@ void MainWindow::ShowActions() {
 
 void MainWindow::ShowStatus() {
     message_->setText(qt::ToQt(ide_.Message()));
-    message_->setToolTip(qt::ToQt(ide_.Message()).toHtmlEscaped());
+    message_->setToolTip(ide_.Message().empty() ? QString() : qt::TipOf(qt::ToQt(ide_.Message())));
     tableStatus_->setText(qt::ToQt(ide_.TableStatus()));
     tableStatus_->setVisible(!tableStatus_->text().isEmpty());
     adventureStatus_->setText(qt::ToQt(ide_.AdventureStatus()));
@@ -131,7 +131,7 @@ void MainWindow::ShowRecent() {
         const QString name = qt::PathToQt(each.stem()).replace('&', "&&");
         QAction* action =
             file->addAction(QString("&%1  %2").arg(++number).arg(name), this, [this, each] { Open(each); });
-        action->setToolTip(qt::PathToQt(each).toHtmlEscaped());
+        action->setToolTip(qt::TipOf(qt::PathToQt(each)));
         action->setStatusTip(qt::PathToQt(each));
         recent_->addAction(action);
     }

@@ -54,7 +54,7 @@ StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
 
 void StatusPane::Tell(const std::string& sentence) {
     status_->setText(qt::ToQt(sentence));
-    status_->setToolTip(qt::ToQt(sentence).toHtmlEscaped());
+    status_->setToolTip(sentence.empty() ? QString() : qt::TipOf(qt::ToQt(sentence)));
 }
 
 void StatusPane::Show(engine::StatusField field, const std::string& text) {
@@ -74,7 +74,7 @@ void StatusPane::Show(engine::StatusField field, const std::string& text) {
             break;
     }
     label->setText(qt::ToQt(text));
-    label->setToolTip(qt::ToQt(text).toHtmlEscaped());
+    label->setToolTip(text.empty() ? QString() : qt::TipOf(qt::ToQt(text)));
     label->setVisible(!text.empty());
 }
 

@@ -356,7 +356,7 @@ void frmVelEngMain::ShowRecent() {
     recentMenu_->setEnabled(!files.empty());
     for (const std::filesystem::path& file : files) {
         QAction* action = recentMenu_->addAction(qt::PathToQt(file.stem()).replace('&', "&&"));
-        action->setToolTip(qt::PathToQt(file));
+        action->setToolTip(qt::TipOf(qt::PathToQt(file)));
         QObject::connect(action, &QAction::triggered, this, [this, file] { Load(file); });
     }
     welcome_->ShowRecent(files);

@@ -48,7 +48,7 @@ void WelcomePage::ShowRecent(const std::vector<std::filesystem::path>& files) {
     for (const std::filesystem::path& file : files) {
         auto* button = new QPushButton(qt::PathToQt(file.stem()).replace('&', "&&"), recent_);
         button->setFlat(true);
-        button->setToolTip(qt::PathToQt(file).toHtmlEscaped());
+        button->setToolTip(qt::TipOf(qt::PathToQt(file)));
         button->setAccessibleName(tr("Load %1").arg(qt::PathToQt(file.stem())));
         QFont underlined = button->font();
         underlined.setUnderline(true);

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QStandardPaths>
@@ -69,11 +70,14 @@ bool QtDialogs::Proceed(std::string_view text, std::string_view title) {
 }
 
 std::optional<std::string> QtDialogs::AskText(const platform::TextQuestion& question) {
-    bool agreed = false;
-    const QString text = QInputDialog::getText(Parent(), ToQt(question.title), ToQt(question.prompt),
-                                               QLineEdit::Normal, ToQt(question.proposal), &agreed);
-    if (!agreed) return std::nullopt;
-    return FromQt(text);
+    QInputDialog box(Parent());
+    box.setWindowTitle(ToQt(question.title));
+    box.setLabelText(ToQt(question.prompt));
+    box.setTextValue(ToQt(question.proposal));
+    for (auto* label : box.findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
+    if (box.exec() != QDialog::Accepted) return std::nullopt;
+    return FromQt(box.textValue());
 }
 
 void QtDialogs::Report(std::string_view text, std::string_view title) {

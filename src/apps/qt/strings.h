@@ -23,4 +23,9 @@ inline std::filesystem::path PathFromQt(const QString& text) {
     return std::filesystem::path(text.toStdString());
 }
 
+/// A text as a tool tip that shows it as it is, with its line ends. Tips guess whether they hold markup.
+inline QString TipOf(const QString& text) {
+    return "<p style='white-space: pre-wrap'>" + text.toHtmlEscaped() + "</p>";
+}
+
 }  // namespace fabula::qt

@@ -1,0 +1,87 @@
+#include "store/needed_fields.h"
+
+#include "text/fields.h"
+
+namespace fabula::store {
+namespace {
+
+struct NeededRow {
+    TableNum table;
+    FieldClass fieldClass;
+    std::string_view names;  ///< between blanks
+};
+
+constexpr NeededRow kNeeded[] = {
+    {TableNum::Locations, FieldClass::Number, "locnum numexits"},
+    {TableNum::Locations, FieldClass::Text,
+     "exits numericexits picloc pickey locshortdesc locdesc oldpicloc"},
+    {TableNum::Locations, FieldClass::Binary, "picgraphic"},
+    {TableNum::Messages, FieldClass::Number, "msgnum"},
+    {TableNum::Messages, FieldClass::Text, "msgmsg"},
+    {TableNum::Sounds, FieldClass::Number, "sndnum sndfreq"},
+    {TableNum::Objects, FieldClass::Number, "objnum objnumnoun objnumadject objloc objweight objattrn"},
+    {TableNum::Objects, FieldClass::Text, "objdesc objnoun objadject objlocdesc objattr"},
+    {TableNum::Adventure, FieldClass::Text,
+     "advnum advname savename author Version defpickey defpicloc defsnddevname advdesc advpicloc "
+     "advcontactinfo adventype oldadvpicloc olddefpicloc sortobjects sortvocabulary sorttables "
+     "sortcondacts sortcommands source DateCreated"},
+    {TableNum::Adventure, FieldClass::Number,
+     "startloc maxobj maxweight Font FontSize BackColor textcolor defsndchan defsnddev defsndvoice "
+     "defsndvol defsndbal defsndbass defprintwidth unmarloed"},
+    {TableNum::Adventure, FieldClass::Truth, "graphics sound charsets graphicsindb graphicsadded"},
+    {TableNum::Adventure, FieldClass::Binary, "advpicgraphic defpicgraphic"},
+    {TableNum::ProcessTables, FieldClass::Number, "canum estype w1num w2num numcas"},
+    {TableNum::ProcessTables, FieldClass::Text, "w1 w2 CondActs numericcondacts"},
+    {TableNum::SystemMessages, FieldClass::Number, "smsgnum"},
+    {TableNum::SystemMessages, FieldClass::Text, "smsgmsg"},
+    {TableNum::Vocabulary, FieldClass::Number, "vocindex vocnum voctypen"},
+    {TableNum::Vocabulary, FieldClass::Text, "Word voctype"},
+    {TableNum::Flags, FieldClass::Number, "flgnum flgmod"},
+    {TableNum::Flags, FieldClass::Text, "flgtype flguse flgdesc"},
+    {TableNum::Flags, FieldClass::Truth, "flgchg"},
+    {TableNum::CondActs, FieldClass::Number,
+     "canum canumparam caparam1 caparam2 camaxval1 camaxval2 PageNum"},
+    {TableNum::CondActs, FieldClass::Text, "catype caname casubname htmlpage"},
+    {TableNum::CondActs, FieldClass::Truth, "Fabula Vel Marlo PCVel"},
+    {TableNum::DataBases, FieldClass::Number, "dbnum dbtreesort"},
+    {TableNum::DataBases, FieldClass::Text,
+     "DBName dbtreename dbtreeparent dbtreekey dbtreeiconkey dbtreeiconname tabletype"},
+    {TableNum::Tables, FieldClass::Number, "tablekey TableNum FieldSize see export gridwidth fbbexp"},
+    {TableNum::Tables, FieldClass::Text,
+     "TableName fieldname fieldtype search Expand allowadd allowaddbef AllowDelete allowedit allowload "
+     "allowsave allowprint allowprpre allowkeychg allowimpexp allowexp altname allowchgsort"},
+    {TableNum::Package, FieldClass::Text, "PkgInclude PkgType PkgName PkgPackage"},
+    {TableNum::ProcDesc, FieldClass::Number, "pmsgnum"},
+    {TableNum::ProcDesc, FieldClass::Text, "pmsgmsg"},
+    {TableNum::Header, FieldClass::Text, "hdrkey hdrmess"},
+    {TableNum::System, FieldClass::Number, "systemnum"},
+    {TableNum::System, FieldClass::Text, "sysinidate sysexportversion"},
+    {TableNum::System, FieldClass::Truth, "flagchange"},
+    {TableNum::Codes, FieldClass::Number, "codenum FontSize FabulaTagParam"},
+    {TableNum::Codes, FieldClass::Text, "voicename FontName FabulaTag ACETag FabulaTagVal"},
+    {TableNum::Commands, FieldClass::Number, "conum cocmdparam codrwparam PageNum"},
+    {TableNum::Commands, FieldClass::Text,
+     "coname ccsubname cdsubname cval1 cval2 cval3 dval1 dval2 dval3 dval4 dval5 htmlpage"},
+    {TableNum::Commands, FieldClass::Truth, "Fabula Vel Marlo"},
+    {TableNum::Characters, FieldClass::Number, "charkey charsetnum charnum"},
+    {TableNum::Characters, FieldClass::Text, "CharSet charsetname charvals"},
+    {TableNum::Pictures, FieldClass::Number, "locnum locpaper locink roompicnum"},
+    {TableNum::Pictures, FieldClass::Text, "loctype drawstring picname"},
+    {TableNum::Templates, FieldClass::Text, "Tempname commands"},
+};
+
+}  // namespace
+
+bool HasNeededFields(TableNum table, const TableSchema& schema) {
+    for (const NeededRow& row : kNeeded) {
+        if (row.table != table) continue;
+        for (const std::string_view name : text::Split(row.names, " ")) {
+            const auto field = schema.Find(name);
+            if (!field || ClassOf(schema.fields[*field].type) != row.fieldClass) return false;
+            if (schema.fields[*field].type == FieldType::Double) return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace fabula::store

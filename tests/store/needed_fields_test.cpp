@@ -1,0 +1,70 @@
+#include "store/needed_fields.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+#include "support/template_adventure.h"
+
+namespace fabula::store {
+namespace {
+
+/// The fields of a new adventure without which a table is refused, and those it can do without.
+struct Fields {
+    int needed = 0;
+    std::vector<std::string> others;
+};
+
+Fields TryWithoutEach(const test::OpenedAdventure& adventure) {
+    Fields fields;
+    for (const TableEntry& table : AllTables()) {
+        const TableSchema& whole = adventure->Schema(table.number);
+        for (std::size_t i = 0; i < whole.fields.size(); ++i) {
+            TableSchema schema = whole;
+            schema.fields.erase(schema.fields.begin() + static_cast<std::ptrdiff_t>(i));
+            if (HasNeededFields(table.number, schema)) {
+                fields.others.push_back(whole.fields[i].name);
+            } else {
+                ++fields.needed;
+            }
+        }
+    }
+    return fields;
+}
+
+TEST(NeededFields, AreThereInANewAdventure) {
+    const test::OpenedAdventure adventure;
+    for (const TableEntry& table : AllTables())
+        EXPECT_TRUE(HasNeededFields(table.number, adventure->Schema(table.number))) << table.name;
+}
+
+TEST(NeededFields, AreAllFieldsOfTheDefaultDataButTheVersions) {
+    const test::OpenedAdventure adventure;
+    const Fields fields = TryWithoutEach(adventure);
+    EXPECT_EQ(fields.others, (std::vector<std::string>{"ideversion", "engversion"}));
+    EXPECT_GT(fields.needed, 100);
+}
+
+TEST(NeededFields, HaveTheirClass) {
+    const test::OpenedAdventure adventure;
+    TableSchema schema = adventure->Schema(TableNum::Messages);
+    schema.fields[schema.Find("msgnum").value()].type = FieldType::VarWChar;
+    EXPECT_FALSE(HasNeededFields(TableNum::Messages, schema));
+}
+
+TEST(NeededFields, OfNumbersAreWhole) {
+    const test::OpenedAdventure adventure;
+    TableSchema schema = adventure->Schema(TableNum::Messages);
+    schema.fields[schema.Find("msgnum").value()].type = FieldType::Double;
+    EXPECT_FALSE(HasNeededFields(TableNum::Messages, schema));
+}
+
+TEST(NeededFields, MayBeJoinedByOthers) {
+    const test::OpenedAdventure adventure;
+    TableSchema schema = adventure->Schema(TableNum::Messages);
+    schema.fields.push_back({"later", FieldType::VarWChar, 255});
+    EXPECT_TRUE(HasNeededFields(TableNum::Messages, schema));
+}
+
+}  // namespace
+}  // namespace fabula::store
