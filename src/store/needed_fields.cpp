@@ -49,7 +49,7 @@ constexpr NeededRow kNeeded[] = {
     {TableNum::Tables, FieldClass::Number, "tablekey TableNum FieldSize see export gridwidth fbbexp"},
     {TableNum::Tables, FieldClass::Text,
      "TableName fieldname fieldtype search Expand allowadd allowaddbef AllowDelete allowedit allowload "
-     "allowsave allowprint allowprpre allowkeychg allowimpexp allowexp altname allowchgsort"},
+     "allowsave allowprint allowprpre allowkeychg allowimpexp altname allowchgsort"},
     {TableNum::Package, FieldClass::Text, "PkgInclude PkgType PkgName PkgPackage"},
     {TableNum::ProcDesc, FieldClass::Number, "pmsgnum"},
     {TableNum::ProcDesc, FieldClass::Text, "pmsgmsg"},

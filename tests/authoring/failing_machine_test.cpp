@@ -4,6 +4,9 @@
 #include <fstream>
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "authoring/desk.h"
 #include "authoring/ide_window.h"
@@ -189,6 +192,60 @@ TEST_F(FailingMachine, AFileWhoseNameLeavesNoRoomForWhatIsKeptBesideItIsRefusedI
     EXPECT_EQ(LastBox(),
               "Could not make a file beside " + file.string() + ": unable to open database file.");
     EXPECT_EQ(Main().Title(), "Fabula IDE - game");
+}
+
+/// Opens the adventure and stores one message after the other without end, as an author who never rests.
+/// Tells of being ready, and then of every change that was stored, by one byte.
+int StoreForever(const std::filesystem::path& file, int number, int report) {
+    Document document(file);
+    while (write(report, "+", 1) == 1) {
+        Change change(document, "add message " + std::to_string(number));
+        store::Cursor& messages = document.Adventure().OpenTable(TableNum::Messages, "def");
+        messages.AddNew();
+        messages.SetField("msgnum", std::int64_t{number++});
+        messages.SetField("msgmsg", std::string(5000, 'x'));
+        messages.Update();
+        change.Commit();
+    }
+    return 1;
+}
+
+/// Kills such an author after `changes` changes and a while; how many changes were told of.
+int ChangesUntilKilled(const std::filesystem::path& file, int number, int changes, unsigned microseconds) {
+    int ends[2];
+    if (pipe(ends) != 0) throw std::runtime_error("no pipe");
+    const pid_t author = test::StartChild([&] { return StoreForever(file, number, ends[1]); });
+    close(ends[1]);
+    char byte = 0;
+    int told = -1;  // the first byte tells of no change
+    while (told < changes && read(ends[0], &byte, 1) == 1)
+        ++told;
+    usleep(microseconds);
+    kill(author, SIGKILL);
+    waitpid(author, nullptr, 0);
+    while (read(ends[0], &byte, 1) == 1)
+        ++told;
+    close(ends[0]);
+    return told;
+}
+
+TEST(KilledAuthor, LosesNothingThatWasStoredAndLeavesNoFileOfUndo) {
+    const test::TempFolder folder;
+    const auto file = folder / "game.fbd";
+    test::MakeAdventure(file);
+    int stored = 0;
+    for (unsigned round = 0; round < 20; ++round) {
+        const int told =
+            stored + ChangesUntilKilled(file, stored, static_cast<int>(round % 4), round * 150);
+        Document document(file);
+        EXPECT_EQ(document.UndoName(), std::nullopt);
+        stored = document.Adventure().OpenTable(TableNum::Messages, "msgnum").RecordCount();
+        // The last change may have been stored before it could be told of.
+        ASSERT_TRUE(stored == told || stored == told + 1) << stored << " after " << told;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+            EXPECT_NE(entry.path().extension(), ".tmp");
+    }
+    EXPECT_GT(stored, 20);
 }
 
 }  // namespace
