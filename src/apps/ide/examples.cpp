@@ -4,6 +4,7 @@
 
 #include "platform/error.h"
 #include "platform/user_folders.h"
+#include "store/file_copy.h"
 
 namespace fabula::ide {
 namespace {
@@ -35,17 +36,20 @@ std::vector<Example> FindExamples(const std::vector<std::filesystem::path>& fold
 std::filesystem::path TakeExample(const Example& example, const std::filesystem::path& folder) {
     namespace fs = std::filesystem;
     const fs::path own = folder / example.file.filename();
-    if (fs::exists(own)) return own;
     const fs::path pictures = fs::path("pictures") / example.file.stem();
     try {
+        if (fs::exists(own)) return own;
         fs::create_directories(folder);
         if (fs::exists(example.file.parent_path() / pictures)) {
             fs::create_directories((folder / pictures).parent_path());
             fs::copy(example.file.parent_path() / pictures, folder / pictures,
                      fs::copy_options::recursive | fs::copy_options::skip_existing);
         }
-        fs::copy_file(example.file, own);
-        fs::permissions(own, fs::perms::owner_write, fs::perm_options::add);
+        // A copy that is broken off must not be taken for the example the next time.
+        const store::TemporaryFile copy(store::TemporaryBeside(own));
+        fs::copy_file(example.file, copy.Path());
+        fs::permissions(copy.Path(), fs::perms::owner_write, fs::perm_options::add);
+        store::MoveIntoPlace(copy.Path(), own);
     } catch (const fs::filesystem_error& error) {
         throw Error("Could not copy the example to " + own.string() + ": " + error.code().message() + ".");
     }

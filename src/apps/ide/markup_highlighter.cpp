@@ -14,6 +14,9 @@ namespace {
 using authoring::MarkupKind;
 using authoring::MarkupSpan;
 
+/// Longer lines are no author's, and would make him wait.
+constexpr qsizetype kLongestLine = 20'000;
+
 text::Rgb RgbOf(const QColor& colour) {
     return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
             static_cast<std::uint8_t>(colour.blue())};
@@ -61,6 +64,7 @@ void MarkupHighlighter::SetColours(const QColor& paper, const QColor& ink) {
 }
 
 void MarkupHighlighter::highlightBlock(const QString& line) {
+    if (line.size() > kLongestLine) return;
     const std::string text = qt::FromQt(line);
     Utf16Places places(text);
     for (const MarkupSpan& span : authoring::MarkupSpans(text, tagsAllowed_, tags_)) {

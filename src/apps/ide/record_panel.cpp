@@ -120,8 +120,6 @@ void RecordPanel::ShowTable(const QString& name) {
     view_->setAccessibleName(name);
     wishes_.clear();
     ShowRecords();
-    MeasureColumns();
-    PlaceColumns();
 }
 
 void RecordPanel::ShowRecords() {
@@ -132,7 +130,11 @@ void RecordPanel::ShowRecords() {
     ShowOrder();
     placing_ = false;
     ShowCount();
-    WidenColumns();
+    // A change of the adventure may have given the same table other columns.
+    if (wishes_.size() == grid_.Columns().size()) return WidenColumns();
+    resized_.Stop();
+    MeasureColumns();
+    PlaceColumns();
 }
 
 void RecordPanel::ShowOrder() {

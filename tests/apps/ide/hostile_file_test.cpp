@@ -60,7 +60,6 @@ class HostileFile : public testing::TestWithParam<const char*> {
     void WorkInDialog() {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!dialog) return;
-        ++dialogs_;
         dialog->grab();
         if (auto* update = dialog->findChild<QPushButton*>("cmdUpdate")) update->click();
         if (dialog->isVisible()) dialog->reject();
@@ -106,7 +105,6 @@ class HostileFile : public testing::TestWithParam<const char*> {
     YesSayer person_;
     OpenedWindow window_;
     QTimer every_;
-    int dialogs_ = 0;
 };
 
 TEST_P(HostileFile, IsUsedWithoutACrash) {

@@ -15,17 +15,21 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <fstream>
 #include <functional>
 #include <utility>
 
 #include <gtest/gtest.h>
 
 #include "authoring/commands.h"
+#include "ide/examples.h"
 #include "ide/game_test.h"
 #include "ide/opened_window.h"
+#include "platform/error.h"
 #include "qt/help_window.h"
 #include "qt/icons.h"
 #include "qt/strings.h"
+#include "support/child_process.h"
 #include "support/raw_database.h"
 
 namespace fabula::test {
@@ -338,6 +342,36 @@ TEST(MainWindow, WidthsThatTheAuthorGaveAreKept) {
     EXPECT_EQ(opened.Part<QTableView>("Grid").columnWidth(1), 222);
 }
 
+TEST(MainWindow, ColumnsOfTheSameTableAreMeasuredAnewWhenTheyAreOthers) {
+    OpenedWindow window;
+    window.Open(Game());
+    const auto changeType = [&](const char* type) {
+        authoring::Document& document = window.Logic().CurrentSession().document;
+        authoring::Change change(document, "edit the settings");
+        store::Cursor& settings = document.Adventure().OpenTable(store::TableNum::Adventure, "def");
+        settings.SetField("adventype", std::string(type));
+        settings.Update();
+        change.Commit();
+        window.Logic().Refresh();
+        window.Action("Trace").trigger();
+    };
+    const auto widths = [&] {
+        const auto& grid = window.Part<QTableView>("Grid");
+        std::vector<int> found;
+        for (int column = 0; column < grid.model()->columnCount(); ++column)
+            found.push_back(grid.columnWidth(column));
+        return found;
+    };
+    window.ChooseNode("Objects");
+    const std::vector<int> before = widths();
+    changeType("Marlo");
+    window.ChooseNode("Messages");
+    window.ChooseNode("Objects");
+    EXPECT_LT(widths().size(), before.size());
+    changeType("Fabula");
+    EXPECT_EQ(widths(), before);
+}
+
 TEST(MainWindow, ColumnsThatAreNotKeptCannotBeWidened) {
     OpenedWindow opened;
     opened.Open(Game());
@@ -409,6 +443,40 @@ TEST(MainWindow, ExampleIsCopiedForTheAuthorBeforeItIsOpened) {
     opened.Part<QPushButton>("Example1").click();
     EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - shipped");
     EXPECT_TRUE(std::filesystem::exists(opened.folder / "own" / "shipped.fbd"));
+}
+
+TEST(MainWindow, ExampleThatCannotBeCopiedIsToldAndLeavesNothing) {
+    const TempFolder folder;
+    Game().Write(folder / "cellar.fbd");
+    std::ofstream(folder / "own") << "in the way of a folder";
+    const ide::Example example{folder / "cellar.fbd", "The Cellar", ""};
+    EXPECT_THROW(ide::TakeExample(example, folder / "own"), Error);
+    EXPECT_THROW(ide::TakeExample(example, folder / std::string(300, 'x').c_str()), Error);
+    EXPECT_EQ(RunInChild([&] {
+                  LimitFileSize(10'000);
+                  try {
+                      ide::TakeExample(example, folder / "full");
+                  } catch (const Error&) {
+                      return std::filesystem::is_empty(folder / "full") ? 0 : 2;
+                  }
+                  return 1;
+              }),
+              0);
+}
+
+TEST(MainWindow, WrongFileOfTheCommandLineIsTold) {
+    OpenedWindow window;
+    const auto file = window.folder / "none.fbd";
+    window.Window().Start(file);
+    EXPECT_EQ(window.dialogs.Boxes().back().text,
+              "Could not open " + file.string() + ": there is no such file.");
+    window.Window().Start(window.folder.Path());
+    EXPECT_EQ(window.dialogs.Boxes().back().text,
+              "Could not open " + window.folder.Path().string() + ": it is not an adventure file.");
+    const auto tooLong = window.folder / std::string(300, 'x').c_str();
+    window.Window().Start(tooLong);
+    EXPECT_EQ(window.dialogs.Boxes().back().text,
+              "Could not open " + tooLong.string() + ": there is no such file.");
 }
 
 TEST(MainWindow, EveryCommandHasAnIconAndATip) {
