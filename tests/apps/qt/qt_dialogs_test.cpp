@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
 #include <QScopeGuard>
 #include <QTimer>
 
@@ -43,6 +45,42 @@ TEST(ChooseFile, BeginsInThePersonsOwnFolderWithoutAny) {
     EXPECT_EQ(FolderShown(Question({})), qt::PathToQt(home.Path()));
     std::filesystem::create_directory(home.Path() / "Documents");
     EXPECT_EQ(FolderShown(Question({})), qt::PathToQt(home.Path() / "Documents"));
+}
+
+/// Answers the box in which a line is asked for, and gives what its prompt and its proposal looked like.
+std::optional<std::string> Answer(const platform::TextQuestion& question, bool agree,
+                                  Qt::TextFormat& format, QString& prompt) {
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        if (!box) return;
+        const auto* label = box->findChild<QLabel*>();
+        format = label->textFormat();
+        prompt = label->text();
+        agree ? box->accept() : box->reject();
+    });
+    return qt::QtDialogs().AskText(question);
+}
+
+TEST(AskText, ShowsItsPromptAsItIs) {
+    auto format = Qt::AutoText;
+    QString prompt;
+    const auto answer =
+        Answer({.prompt = "Name of <b>7</b>", .title = "Name", .proposal = "lamp"}, true, format, prompt);
+    EXPECT_EQ(format, Qt::PlainText);
+    EXPECT_EQ(prompt, "Name of <b>7</b>");
+    EXPECT_EQ(answer, "lamp");
+}
+
+TEST(AskText, GivesNothingWhenItIsCancelled) {
+    auto format = Qt::AutoText;
+    QString prompt;
+    EXPECT_EQ(Answer({.prompt = "Name", .title = "Name", .proposal = "lamp"}, false, format, prompt),
+              std::nullopt);
+}
+
+TEST(TipOf, ShowsATextAsItIs) {
+    EXPECT_EQ(qt::TipOf("a <b> & \"c\""),
+              "<p style='white-space: pre-wrap'>a &lt;b&gt; &amp; &quot;c&quot;</p>");
 }
 
 }  // namespace
