@@ -89,6 +89,10 @@ bool LoadShortDesc(Session& session) {
     if (!IsPlainFile(file))
         return Refuse(session.dialogs,
                       "Cannot find " + std::string(kShortDescFile) + " in " + folder.string());
+    std::error_code error;  // what can't be measured can't be read either
+    if (std::filesystem::file_size(file, error) > kLargestShortDescFile)
+        return Refuse(session.dialogs,
+                      std::string(kShortDescFile) + " is too large. No short descriptions loaded.");
     interchange::NoObserver nobody;
     interchange::JobStatus status(nobody);
     try {

@@ -114,6 +114,14 @@ TEST_F(ShortDescTest, FileThatIsNoListChangesNothing) {
     EXPECT_TRUE(dialogs_.Reports().at(0).text.ends_with("Too many errors. No short descriptions loaded."));
 }
 
+TEST_F(ShortDescTest, FileThatIsTooLargeIsToldAndNothingChanges) {
+    Write("1: New.\n");
+    std::filesystem::resize_file(folder_ / "ShortDesc.lis", kLargestShortDescFile + 1);
+    EXPECT_FALSE(LoadShortDesc(session_));
+    EXPECT_EQ(dialogs_.Boxes().at(0).text, "ShortDesc.lis is too large. No short descriptions loaded.");
+    EXPECT_EQ(Of(1), "Old.");
+}
+
 TEST_F(ShortDescTest, NumberThatIsNoLocationNumberIsNoFilter) {
     Write("1 or 1=1: New.\n99999999999999999999: New.\n-1: New.\n");
     EXPECT_TRUE(LoadShortDesc(session_));
