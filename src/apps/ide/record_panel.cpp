@@ -57,7 +57,21 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
     filter_->installEventFilter(this);
     count_->setObjectName("Count");
     count_->setAccessibleName(tr("Rows shown"));
+    SetUpView();
 
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(8, 6, 8, 6);
+    line->addWidget(filter_, 1);
+    line->addWidget(count_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(line);
+    column->addWidget(view_, 1);
+    Connect();
+}
+
+void RecordPanel::SetUpView() {
     view_->setObjectName("Grid");
     view_->setModel(model_);
     view_->setItemDelegate(new CellDelegate(view_));
@@ -81,17 +95,10 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
     header->setStretchLastSection(true);
     header->setAccessibleName(tr("Columns"));
     FitRows();
+}
 
-    auto* line = new QHBoxLayout;
-    line->setContentsMargins(8, 6, 8, 6);
-    line->addWidget(filter_, 1);
-    line->addWidget(count_);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addLayout(line);
-    column->addWidget(view_, 1);
-
+void RecordPanel::Connect() {
+    const QHeaderView* header = view_->horizontalHeader();
     QObject::connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (!placing_) events_.filtered(qt::FromQt(text));
     });

@@ -51,6 +51,8 @@ class RecordPanel final : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
+    void SetUpView();
+    void Connect();
     void FitRows();
     void MeasureColumns();
     void WidenColumns();
