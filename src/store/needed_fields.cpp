@@ -22,14 +22,14 @@ constexpr NeededRow kNeeded[] = {
     {TableNum::Objects, FieldClass::Number, "objnum objnumnoun objnumadject objloc objweight objattrn"},
     {TableNum::Objects, FieldClass::Text, "objdesc objnoun objadject objlocdesc objattr"},
     {TableNum::Adventure, FieldClass::Text,
-     "advnum advname savename author Version defpickey defpicloc defsnddevname advdesc advpicloc "
-     "advcontactinfo adventype oldadvpicloc olddefpicloc sortobjects sortvocabulary sorttables "
+     "advnum advname savename author Version defpickey defpicloc defsnddevname adventype "
+     "olddefpicloc sortobjects sortvocabulary sorttables "
      "sortcondacts sortcommands source DateCreated"},
     {TableNum::Adventure, FieldClass::Number,
      "startloc maxobj maxweight Font FontSize BackColor textcolor defsndchan defsnddev defsndvoice "
      "defsndvol defsndbal defsndbass defprintwidth unmarloed"},
     {TableNum::Adventure, FieldClass::Truth, "graphics sound charsets graphicsindb graphicsadded"},
-    {TableNum::Adventure, FieldClass::Binary, "advpicgraphic defpicgraphic"},
+    {TableNum::Adventure, FieldClass::Binary, "defpicgraphic"},
     {TableNum::ProcessTables, FieldClass::Number, "canum estype w1num w2num numcas"},
     {TableNum::ProcessTables, FieldClass::Text, "w1 w2 CondActs numericcondacts"},
     {TableNum::SystemMessages, FieldClass::Number, "smsgnum"},
