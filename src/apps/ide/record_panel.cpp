@@ -191,6 +191,8 @@ void RecordPanel::WidenColumns() {
 }
 
 void RecordPanel::PlaceColumns() {
+    // A window may be resized before what has become of the table is shown.
+    if (wishes_.size() != grid_.Columns().size()) return;
     const std::vector<int> widths = FitColumns(wishes_, view_->viewport()->width());
     placing_ = true;
     for (std::size_t column = 0; column < widths.size(); ++column) {
