@@ -106,10 +106,11 @@ TEST_F(MarkupEditTest, ThePreviewScrollsWithTheField) {
     for (int line = 0; line < 60; ++line)
         lines += "A line of this room.\n";
     Open(lines);
-    edit_->Field().moveCursor(QTextCursor::End);
+    QScrollBar& field = *edit_->Field().verticalScrollBar();
+    field.setValue(field.maximum());
     ASSERT_GT(Preview()->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(Preview()->verticalScrollBar()->value(), Preview()->verticalScrollBar()->maximum());
-    edit_->Field().moveCursor(QTextCursor::Start);
+    field.setValue(0);
     EXPECT_EQ(Preview()->verticalScrollBar()->value(), 0);
 }
 
