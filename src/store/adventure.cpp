@@ -73,11 +73,19 @@ std::string Clause(std::string_view head, std::string_view clause) {
 
 }  // namespace
 
-std::unique_ptr<Adventure> Adventure::Open(const std::filesystem::path& file, OpenMode mode) {
+std::unique_ptr<Adventure> Adventure::Open(const std::filesystem::path& file, OpenMode mode, Ages ages) {
     std::error_code error;
     const auto path = std::filesystem::absolute(file, error);
     if (error) throw Error("Could not open " + file.string() + ": " + error.message() + ".");
-    return std::unique_ptr<Adventure>(new Adventure(path, OpenChecked(path, mode)));
+    return std::unique_ptr<Adventure>(new Adventure(path, OpenChecked(path, mode, ages)));
+}
+
+std::unique_ptr<Adventure> Adventure::CopyInMemory() const {
+    return std::unique_ptr<Adventure>(new Adventure(file_, CopyOf(*connection_)));
+}
+
+void Adventure::ForbidChanges() {
+    connection_->Run("PRAGMA query_only=ON", "open the adventure");
 }
 
 Adventure::Adventure(std::filesystem::path file, std::unique_ptr<Connection> connection)
@@ -94,17 +102,24 @@ Adventure::Adventure(std::filesystem::path file, std::unique_ptr<Connection> con
 Adventure::~Adventure() = default;
 
 void Adventure::ReadSettings() {
-    PreparedQuery settings = Prepare(TableNum::Adventure, "adventype, graphics, charsets", "");
-    settings.First({});
-    type_ = settings.Text(0);
+    const auto read = [&](std::string_view field, auto use) {
+        if (!Schema(TableNum::Adventure).Find(field)) return;
+        PreparedQuery settings = Prepare(TableNum::Adventure, field, "");
+        if (settings.First({})) use(settings);
+    };
+    const SortOrders own;
+    type_.clear();
+    graphics_ = charSets_ = false;
+    read("adventype", [&](const PreparedQuery& settings) { type_ = settings.Text(0); });
     typeLower_ = text::LowerCase(type_);
-    graphics_ = settings.Number(1) != 0;
-    charSets_ = settings.Number(2) != 0;
+    read("graphics", [&](const PreparedQuery& settings) { graphics_ = settings.Number(0) != 0; });
+    read("charsets", [&](const PreparedQuery& settings) { charSets_ = settings.Number(0) != 0; });
     for (const SortRow& sort : kSorts) {
-        PreparedQuery stored = Prepare(TableNum::Adventure, sort.field, "");
-        stored.First({});
-        const std::string order(stored.Text(0));
-        sorts_.*sort.order = IsOrderOf(Schema(sort.table), order) ? order : SortOrders{}.*sort.order;
+        sorts_.*sort.order = own.*sort.order;
+        read(sort.field, [&](const PreparedQuery& settings) {
+            const std::string order(settings.Text(0));
+            if (IsOrderOf(Schema(sort.table), order)) sorts_.*sort.order = order;
+        });
     }
 }
 

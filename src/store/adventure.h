@@ -19,7 +19,7 @@ namespace fabula::store {
 class Connection;
 
 /// Why a file was refused.
-enum class Refusal { Missing, NotAnAdventure, Damaged, NewerVersion, InUse, TooLarge };
+enum class Refusal { Missing, NotAnAdventure, Damaged, NewerVersion, OlderVersion, InUse, TooLarge };
 
 /// A file that was not opened. It is byte for byte as it was.
 class OpenError : public Error {
@@ -32,6 +32,10 @@ class OpenError : public Error {
 };
 
 enum class OpenMode { ReadWrite, ReadOnly };
+
+/// Whether a file may be one of an older program, which lacks tables and fields. What works with such a
+/// file has to ask for what it reads; upgrades/ alone does.
+enum class Ages { Current, Any };
 
 /// What the latest `OpenTable` on a table number was.
 struct TableInfo {
@@ -59,7 +63,13 @@ class Adventure {
   public:
     /// Opens a file after checking it (see file_check.h). Throws OpenError when it is refused.
     static std::unique_ptr<Adventure> Open(const std::filesystem::path& file,
-                                           OpenMode mode = OpenMode::ReadWrite);
+                                           OpenMode mode = OpenMode::ReadWrite, Ages ages = Ages::Current);
+
+    /// A copy of the adventure in memory, which may be changed and is gone when it is closed. Its file is
+    /// still the one that it was read from, for the paths that start there.
+    std::unique_ptr<Adventure> CopyInMemory() const;
+    /// From here on every change is refused with an Error.
+    void ForbidChanges();
 
     Adventure(const Adventure&) = delete;
     Adventure& operator=(const Adventure&) = delete;
@@ -69,7 +79,8 @@ class Adventure {
     /// The folder of `CurrentFile`; relative paths of pictures and games start here.
     std::filesystem::path GameDir() const { return file_.parent_path(); }
 
-    /// Of the settings record, as of opening or the latest `ReadSettings`.
+    /// Of the settings record, as of opening or the latest `ReadSettings`. What a file of an older program
+    /// lacks is empty or off.
     const std::string& AdventureType() const { return type_; }            ///< "Fabula", "VEL" or "Marlo"
     const std::string& AdventureTypeLower() const { return typeLower_; }  ///< the same in lower case
     bool GraphicsOn() const { return graphics_; }
@@ -120,6 +131,7 @@ class Adventure {
     friend class Transaction;
     friend class ReadTransaction;
     friend class ChangeRecorder;
+    friend class SchemaChange;
     friend void DoAgain(Adventure& adventure, std::string_view changes);
 
     explicit Adventure(std::filesystem::path file, std::unique_ptr<Connection> connection);

@@ -174,11 +174,15 @@ int Connection::ChangedRows() const {
 }
 
 void Connection::LoadSchema() {
-    schemas_.clear();
     for (const TableEntry& table : AllTables())
         schemas_[table.number] = {std::string(table.name), {}};
+    const auto hasKey =
+        Compile("SELECT 1 FROM pragma_table_xinfo('Tables') WHERE name='tablekey' COLLATE NOCASE",
+                "read the list of fields");
+    const std::string order =
+        Step(hasKey.get(), "read the list of fields") ? "tablekey" : std::string(kStoreKey);
     const auto statement =
-        Compile("SELECT tablenum, fieldname, fieldtype, fieldsize FROM Tables ORDER BY tablenum, tablekey",
+        Compile("SELECT tablenum, fieldname, fieldtype, fieldsize FROM Tables ORDER BY tablenum, " + order,
                 "read the list of fields");
     while (Step(statement.get(), "read the list of fields")) {
         const auto number = static_cast<TableNum>(sqlite3_column_int(statement.get(), 0));
@@ -191,6 +195,8 @@ void Connection::LoadSchema() {
         if (schema->second.fields.size() > kMostColumns || schema->second.Find(name)) continue;
         schema->second.fields.push_back({name, *type, sqlite3_column_int(statement.get(), 3)});
     }
+    TableSchema& tables = schemas_[TableNum::Tables];
+    if (tables.fields.empty()) tables = OldestTablesSchema();
 }
 
 const TableSchema& Connection::SchemaOf(TableNum table) const {

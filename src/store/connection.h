@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "store/adventure.h"
+#include "store/file_forms.h"
 #include "store/schema.h"
 #include "text/value.h"
 
@@ -21,7 +22,7 @@ namespace fabula::store {
 
 /// Marks an adventure file ("FABU") and numbers its form; both stand in the file's header.
 inline constexpr std::uint32_t kApplicationId = 0x46414255;
-inline constexpr std::uint32_t kFileVersion = 1;
+inline constexpr std::uint32_t kFileVersion = kLatestStep;
 
 struct StatementCloser {
     void operator()(sqlite3_stmt* statement) const;
@@ -63,7 +64,8 @@ class Connection {
     /// Throws the Error for the handle's latest failure.
     [[noreturn]] void Fail(const char* doing) const;
 
-    /// Reads field lists and types from the `Tables` table. Tables that the file lacks have no fields.
+    /// Reads field lists and types from the `Tables` table. Tables that the file lacks have no fields; a
+    /// `Tables` that does not tell of itself has its oldest ones.
     void LoadSchema();
     const TableSchema& SchemaOf(TableNum table) const;
     TableSchema& SchemaToChange(TableNum table);

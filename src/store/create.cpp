@@ -1,8 +1,6 @@
 #include "store/create.h"
 
-#include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <set>
 
 #include <sqlite3.h>
@@ -13,39 +11,17 @@
 #include "store/file_check.h"
 #include "store/file_copy.h"
 #include "store/record_check.h"
+#include "store/schema_section.h"
 #include "store/section_reader.h"
-#include "text/fields.h"
-#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {
-
-/// The largest keypad template that is taken over, in bytes.
-constexpr std::uintmax_t kLargestTemplate = 1024 * 1024;
-/// The template that only the maintenance of the system loads.
-constexpr std::string_view kMaintenanceTemplate = "else";
 
 std::string Stamp(const platform::DateTime& date) {
     char text[40];
     std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", date.year, date.month, date.day,
                   date.hour, date.minute, date.second);
     return text;
-}
-
-/// The lines of a keypad template, comments left out, joined by blanks.
-std::string ReadTemplate(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream || std::filesystem::file_size(file) > kLargestTemplate) {
-        throw Error("Could not read the template " + file.string() + ".");
-    }
-    std::string commands;
-    for (std::string line; std::getline(stream, line);) {
-        if (line.ends_with('\r')) line.pop_back();
-        if (line.starts_with('!')) continue;
-        if (!commands.empty()) commands += ' ';
-        commands += line;
-    }
-    return commands;
 }
 
 /// Adds records to the tables of a file in the making.
@@ -105,78 +81,33 @@ class Creator {
     }
 
   private:
-    std::string SchemaSection(const TableEntry& table) const {
-        return "VEL" + std::string(table.sectionStem) + "DB";
-    }
-
-    std::string DataSection(const TableEntry& table) const {
-        const std::string prefix = table.typedData ? text::UpperCase(NameOf(setup_.Type())) : "VEL";
-        return prefix + std::string(table.sectionStem);
-    }
-
     void CreateTable(const TableEntry& table) {
-        TableSchema schema{std::string(table.name), {}};
-        const std::string section = SchemaSection(table);
-        for (const DefaultData::Line& line : data_.Lines(section)) {
-            const auto columns = data_.Columns(section, line, kSchemaColumnsNeeded);
-            const auto type = FieldTypeFromTag(columns[1]);
-            if (!type) {
-                host_.person.Tell("Invalid option: " + line.text, "Error");
-                continue;
-            }
-            if (!IsFieldName(columns[0]))
-                data_.Malformed(section, line, "'" + columns[0] + "' is no name of a field");
-            if (schema.Find(columns[0])) data_.Malformed(section, line, "the field stands there twice");
-            const int size = static_cast<int>(ReadNumber(data_, section, line, columns[2]));
-            schema.fields.push_back({columns[0], *type, *type == FieldType::VarWChar ? size : 0});
-        }
-        if (schema.fields.empty()) throw Error("The default data gives " + schema.name + " no fields.");
+        TableSchema schema = ReadSchemaSection(data_, table, &host_.person);
         connection_.Run(CreateTableSql(schema), "create the adventure");
         connection_.SchemaToChange(table.number) = std::move(schema);
     }
 
     /// One record of `Tables` for each field of `table`.
     void AddFieldRecords(const TableEntry& table) {
-        const std::string section = SchemaSection(table);
-        for (const DefaultData::Line& line : data_.Lines(section)) {
-            auto columns = data_.Columns(section, line, kSchemaColumnsNeeded);
-            if (!FieldTypeFromTag(columns[1])) continue;
-            Record record = DefaultFieldRecord();
-            const auto names = text::Split(kSchemaColumns, " ");
-            const TableSchema& schema = connection_.SchemaOf(TableNum::Tables);
-            for (std::size_t i = 0; i < std::min(columns.size(), names.size()); ++i) {
-                SetText(record, data_, {section, line, schema}, names[i], columns[i]);
-            }
+        for (Record& record : ReadFieldRecords(data_, table, connection_.SchemaOf(TableNum::Tables))) {
             record["tablekey"] = ++fieldRecords_;
-            record["TableName"] = std::string(table.name);
-            record["TableNum"] = static_cast<std::int64_t>(table.number);
             writer_.Add(TableNum::Tables, record);
         }
     }
 
-    /// What a schema row that leaves out its later columns means.
-    static Record DefaultFieldRecord() {
-        Record record;
-        for (const char* name :
-             {"allowadd", "allowaddbef", "AllowDelete", "allowedit", "allowload", "allowsave", "allowprint",
-              "allowprpre", "allowkeychg", "allowimpexp", "allowexp", "allowchgsort"}) {
-            record[name] = std::string("N");
-        }
-        record["gridwidth"] = std::int64_t{0};
-        record["fbbexp"] = std::int64_t{0};
-        record["altname"] = std::string();
-        return record;
+    std::string SectionOf(const TableEntry& table) const {
+        return DataSection(table, NameOf(setup_.Type()));
     }
 
     void AddSection(const SectionForm& form) {
         const TableEntry& table = *FindTable(form.table);
         const TableSchema& schema = connection_.SchemaOf(form.table);
-        std::vector<Record> records = ReadSection(data_, DataSection(table), form, schema, host_.events);
+        std::vector<Record> records = ReadSection(data_, SectionOf(table), form, schema, host_.events);
         if (form.table == TableNum::Header && records.empty()) {
             records.push_back({{"hdrkey", std::string("Dummy record")}, {"hdrmess", std::string()}});
         }
         if (form.table == TableNum::Adventure && records.size() != 1) {
-            throw Error("The default data has no single row in section ::" + DataSection(table) + ".");
+            throw Error("The default data has no single row in section ::" + SectionOf(table) + ".");
         }
         for (Record& record : records) {
             Complete(form.table, record);
@@ -236,7 +167,7 @@ class Creator {
     void AddCharacters() {
         const TableEntry& table = *FindTable(TableNum::Characters);
         const TableSchema& schema = connection_.SchemaOf(TableNum::Characters);
-        for (const Record& record : ReadCharacters(data_, DataSection(table), schema)) {
+        for (const Record& record : ReadCharacters(data_, SectionOf(table), schema)) {
             writer_.Add(TableNum::Characters, record);
             host_.events.Pump();
         }
@@ -252,19 +183,8 @@ class Creator {
     }
 
     void AddTemplates() {
-        const auto folder = host_.defaultData.parent_path() / "templates";
-        std::error_code missing;  // a folder that is not there holds no templates
-        std::vector<std::filesystem::path> files;
-        for (const auto& entry : std::filesystem::directory_iterator(folder, missing)) {
-            if (entry.path().extension() == ".tpl" && entry.path().stem() != kMaintenanceTemplate) {
-                files.push_back(entry.path());
-            }
-        }
-        std::sort(files.begin(), files.end());
-        for (const auto& file : files) {
-            writer_.Add(TableNum::Templates,
-                        {{"tempname", file.stem().string()}, {"commands", ReadTemplate(file)}});
-        }
+        for (const Record& record : ReadTemplates(host_.defaultData))
+            writer_.Add(TableNum::Templates, record);
     }
 
     Connection& connection_;

@@ -9,7 +9,6 @@
 #include <sqlite3.h>
 
 #include "store/connection.h"
-#include "store/needed_fields.h"
 #include "text/utf8.h"
 
 namespace fabula::store {
@@ -48,20 +47,6 @@ constexpr std::string_view kSuperJournalMark{"\xd9\xd5\x05\xf9\x20\xa1\x63\xd7",
 /// The fields of an index that are text, and so are ordered without regard to case.
 constexpr std::string_view kTextIndexes[] = {"word", "caname", "FabulaTag"};
 
-std::string_view SqlTypeOf(FieldType type) {
-    switch (ClassOf(type)) {
-        case FieldClass::Number:
-            return type == FieldType::Double ? "REAL" : "INTEGER";
-        case FieldClass::Truth:
-            return "INTEGER";
-        case FieldClass::Text:
-            return "TEXT";
-        case FieldClass::Binary:
-            return "BLOB";
-    }
-    return "BLOB";
-}
-
 [[noreturn]] void Refuse(Refusal reason, const std::filesystem::path& file) {
     struct Row {
         Refusal reason;
@@ -72,6 +57,7 @@ std::string_view SqlTypeOf(FieldType type) {
         {Refusal::NotAnAdventure, "it is not an adventure file"},
         {Refusal::Damaged, "it is damaged"},
         {Refusal::NewerVersion, "it was written by a newer version of Fabula"},
+        {Refusal::OlderVersion, "it was made by an older version of Fabula and must be upgraded first"},
         {Refusal::InUse, "it is in use by another program"},
         {Refusal::TooLarge, "it is too large"},
     };
@@ -180,7 +166,7 @@ bool IsPlainSchema(Connection& connection, ColumnsByTable& columns) {
             return false;
         }
     }
-    return columns.size() == AllTables().size();
+    return true;
 }
 
 std::int64_t PragmaNumber(Connection& connection, const std::string& pragma) {
@@ -200,22 +186,48 @@ bool HasSoundPages(Connection& connection) {
     return connection.Step(check.get(), "check the file") && TextColumn(check.get(), 0) == "ok";
 }
 
-/// Whether the list of fields tells of every column, with a type that fits the column's. From here on the
-/// names of fields are safe to stand in a statement.
-bool FieldsFitColumns(const Connection& connection, const ColumnsByTable& columns) {
+/// Whether a column that no field tells of is one of those that a step adds: a chain of steps that was
+/// broken off between the column and its field.
+bool IsLeftBehind(TableNum table, const Column& column) {
+    return FindLaterField(table, column.name) != nullptr;
+}
+
+/// Whether the list of fields tells of every column of a table, with a type that fits the column's. From
+/// here on the names of fields are safe to stand in a statement.
+FileForm FormOfColumns(const TableEntry& table, const TableSchema& schema,
+                       const std::vector<Column>& columns) {
+    std::size_t told = 0;
+    for (const Column& column : columns) {
+        const auto field = schema.Find(column.name);
+        if (!field) {
+            if (!IsLeftBehind(table.number, column)) return FileForm::Foreign;
+            continue;
+        }
+        if (!IsFieldName(schema.fields[*field].name) ||
+            SqlTypeOf(schema.fields[*field].type) != column.type) {
+            return FileForm::Foreign;
+        }
+        ++told;
+    }
+    if (told != schema.fields.size()) return FileForm::Foreign;
+    return told == columns.size() ? FileForm::Current : FileForm::Older;
+}
+
+/// The form of all tables together.
+FileForm FormOfFile(const Connection& connection, const ColumnsByTable& columns) {
+    FileForm form = FileForm::Current;
     for (const TableEntry& table : AllTables()) {
         const TableSchema& schema = connection.SchemaOf(table.number);
-        const std::vector<Column>& found = columns.at(std::string(table.name));
-        if (found.size() != schema.fields.size()) return false;
-        for (const Column& column : found) {
-            const auto field = schema.Find(column.name);
-            if (!field || !IsFieldName(schema.fields[*field].name) ||
-                SqlTypeOf(schema.fields[*field].type) != column.type) {
-                return false;
-            }
+        const auto found = columns.find(std::string(table.name));
+        const bool isThere = found != columns.end();
+        if (isThere == schema.fields.empty()) return FileForm::Foreign;
+        for (const FileForm part : {isThere ? FormOfColumns(table, schema, found->second) : FileForm::Older,
+                                    FormOf(table.number, schema)}) {
+            if (part == FileForm::Foreign) return FileForm::Foreign;
+            if (part == FileForm::Older) form = FileForm::Older;
         }
     }
-    return true;
+    return form;
 }
 
 bool HasOneRecord(Connection& connection, const char* table) {
@@ -224,19 +236,17 @@ bool HasOneRecord(Connection& connection, const char* table) {
     return connection.Step(count.get(), "check the file") && sqlite3_column_int(count.get(), 0) == 1;
 }
 
-bool HasAllNeededFields(const Connection& connection) {
-    return std::ranges::all_of(AllTables(), [&](const TableEntry& table) {
-        return HasNeededFields(table.number, connection.SchemaOf(table.number));
-    });
-}
-
-bool IsSound(Connection& connection, const std::filesystem::path& file) {
+/// A foreign form stands for everything that makes a file damaged.
+FileForm CheckForm(Connection& connection, const std::filesystem::path& file) {
     ColumnsByTable columns;
-    if (!IsPlainSchema(connection, columns)) return false;
-    if (IsCutShort(connection, file) || !HasSoundPages(connection)) return false;
+    if (!IsPlainSchema(connection, columns)) return FileForm::Foreign;
+    if (IsCutShort(connection, file) || !HasSoundPages(connection)) return FileForm::Foreign;
+    if (!columns.contains("Tables")) return FileForm::Foreign;
     connection.LoadSchema();
-    return FieldsFitColumns(connection, columns) && HasAllNeededFields(connection) &&
-           HasOneRecord(connection, "Adventure") && HasOneRecord(connection, "System");
+    const FileForm form = FormOfFile(connection, columns);
+    if (form == FileForm::Foreign || !HasOneRecord(connection, "Adventure")) return FileForm::Foreign;
+    if (columns.contains("System") && !HasOneRecord(connection, "System")) return FileForm::Foreign;
+    return form;
 }
 
 /// What the database's answer to a check that could not even run says of the file; nullopt when it is the
@@ -261,6 +271,20 @@ std::optional<Refusal> RefusalFor(int result) {
 
 }  // namespace
 
+std::string_view SqlTypeOf(FieldType type) {
+    switch (ClassOf(type)) {
+        case FieldClass::Number:
+            return type == FieldType::Double ? "REAL" : "INTEGER";
+        case FieldClass::Truth:
+            return "INTEGER";
+        case FieldClass::Text:
+            return "TEXT";
+        case FieldClass::Binary:
+            return "BLOB";
+    }
+    return "BLOB";
+}
+
 std::string CreateTableSql(const TableSchema& schema) {
     std::string sql =
         "CREATE TABLE " + schema.name + " (" + std::string(kStoreKey) + " INTEGER PRIMARY KEY";
@@ -282,7 +306,7 @@ std::vector<std::string> CreateIndexSql() {
     return statements;
 }
 
-std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenMode mode) {
+std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenMode mode, Ages ages) {
     CheckHeader(file);
     if (HasForeignJournal(file)) Refuse(Refusal::Damaged, file);
     // A file that was not closed properly is mended by its journal even for a reader, so reading asks for
@@ -292,7 +316,9 @@ std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenM
     try {
         connection->Run("PRAGMA cell_size_check=ON; PRAGMA synchronous=EXTRA", "open the adventure");
         connection->BeginReading();  // one lock for all checks
-        if (!IsSound(*connection, file)) Refuse(Refusal::Damaged, file);
+        const FileForm form = CheckForm(*connection, file);
+        if (form == FileForm::Foreign) Refuse(Refusal::Damaged, file);
+        if (form == FileForm::Older && ages == Ages::Current) Refuse(Refusal::OlderVersion, file);
         connection->EndReading();
     } catch (const OpenError&) {
         throw;

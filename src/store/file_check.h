@@ -6,6 +6,7 @@
 #include <string>
 
 #include "store/adventure.h"
+#include "store/file_forms.h"
 
 namespace fabula::store {
 
@@ -17,8 +18,13 @@ inline constexpr std::uintmax_t kLargestFile = 1024ULL * 1024 * 1024;
 /// Opens a file that may come from a stranger. Before anything is read through the database its header must
 /// say that it is an adventure of a form this program knows; then its schema must be exactly what this
 /// program makes (its tables and indexes and nothing else), its pages sound, its settings and all needed
-/// fields there. Throws OpenError otherwise. A refused file has not been written to.
-std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenMode mode);
+/// fields there. With Ages::Any a file may lack what the steps of the upgrade chain add (file_forms.h).
+/// Throws OpenError otherwise. A refused file has not been written to.
+std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenMode mode,
+                                        Ages ages = Ages::Current);
+
+/// The type of a column that holds fields of a type.
+std::string_view SqlTypeOf(FieldType type);
 
 /// The statement that makes a table of these fields, the one form that OpenChecked accepts.
 std::string CreateTableSql(const TableSchema& schema);

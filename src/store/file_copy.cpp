@@ -57,15 +57,19 @@ void UseUpJournal(const std::filesystem::path& file) {
     if (error) Fail(file, error.value());
 }
 
+void CopyPages(const Connection& source, const Connection& target, const char* doing) {
+    sqlite3_backup* backup = sqlite3_backup_init(target.Handle(), "main", source.Handle(), "main");
+    if (!backup) target.Fail(doing);
+    sqlite3_backup_step(backup, -1);  // its failure is told by the end
+    if (sqlite3_backup_finish(backup) != SQLITE_OK) target.Fail(doing);
+}
+
 /// Copies what is open, without what was deleted in it, to the new file `copy`.
-void CopyPages(const Connection& source, const std::filesystem::path& copy,
-               const std::filesystem::path& target) {
+void WritePages(const Connection& source, const std::filesystem::path& copy,
+                const std::filesystem::path& target) {
     const std::string doing = "write " + target.string();
     Connection connection(copy, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, doing);
-    sqlite3_backup* backup = sqlite3_backup_init(connection.Handle(), "main", source.Handle(), "main");
-    if (!backup) connection.Fail(doing.c_str());
-    sqlite3_backup_step(backup, -1);  // its failure is told by the end
-    if (sqlite3_backup_finish(backup) != SQLITE_OK) connection.Fail(doing.c_str());
+    CopyPages(source, connection, doing.c_str());
     connection.Run("VACUUM", doing.c_str());
 }
 
@@ -107,9 +111,18 @@ void WriteCopy(const Connection& source, const std::filesystem::path& target) {
     const auto path = std::filesystem::absolute(target, error);
     if (error) Fail(target, error.value());
     const TemporaryFile temporary(TemporaryBeside(path));
-    CopyPages(source, temporary.Path(), target);
-    OpenChecked(temporary.Path(), OpenMode::ReadOnly);
+    WritePages(source, temporary.Path(), target);
+    OpenChecked(temporary.Path(), OpenMode::ReadOnly, Ages::Any);
     MoveIntoPlace(temporary.Path(), path);
+}
+
+std::unique_ptr<Connection> CopyOf(const Connection& source) {
+    constexpr const char* kDoing = "copy the adventure into memory";
+    auto copy =
+        std::make_unique<Connection>(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, kDoing);
+    CopyPages(source, *copy, kDoing);
+    copy->LoadSchema();
+    return copy;
 }
 
 }  // namespace fabula::store

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string_view>
 
 namespace fabula::store {
@@ -11,6 +12,9 @@ class Connection;
 /// before it takes the target's place. What is open is copied, whatever lies now where it was opened.
 /// Throws fabula::Error and leaves `target` as it was.
 void WriteCopy(const Connection& source, const std::filesystem::path& target);
+
+/// A copy of the open adventure in memory. Throws fabula::Error when there is not enough of it.
+std::unique_ptr<Connection> CopyOf(const Connection& source);
 
 /// A name beside `target` for a file in the making; it does not exist yet.
 std::filesystem::path TemporaryBeside(const std::filesystem::path& target);

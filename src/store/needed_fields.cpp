@@ -1,6 +1,7 @@
 #include "store/needed_fields.h"
 
 #include "text/fields.h"
+#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {
@@ -72,16 +73,28 @@ constexpr NeededRow kNeeded[] = {
 
 }  // namespace
 
-bool HasNeededFields(TableNum table, const TableSchema& schema) {
+std::vector<FieldFault> FaultsOfFields(TableNum table, const TableSchema& schema) {
+    std::vector<FieldFault> faults;
     for (const NeededRow& row : kNeeded) {
         if (row.table != table) continue;
         for (const std::string_view name : text::Split(row.names, " ")) {
             const auto field = schema.Find(name);
-            if (!field || ClassOf(schema.fields[*field].type) != row.fieldClass) return false;
-            if (schema.fields[*field].type == FieldType::Double) return false;
+            if (!field) {
+                faults.push_back({name, false});
+                continue;
+            }
+            const FieldType type = schema.fields[*field].type;
+            if (ClassOf(type) != row.fieldClass || type == FieldType::Double)
+                faults.push_back({name, true});
         }
     }
-    return true;
+    return faults;
+}
+
+bool IsFontAsText(TableNum table, std::string_view field, const TableSchema& schema) {
+    if (table != TableNum::Adventure || !text::EqualsNoCase(field, "font")) return false;
+    const auto font = schema.Find("font");
+    return font && schema.fields[*font].type == FieldType::VarWChar;
 }
 
 }  // namespace fabula::store

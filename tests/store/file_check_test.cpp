@@ -55,6 +55,7 @@ class FileCheck : public testing::Test {
 constexpr const char* kNotAnAdventure = "it is not an adventure file.";
 constexpr const char* kDamaged = "it is damaged.";
 constexpr const char* kNewer = "it was written by a newer version of Fabula.";
+constexpr const char* kOlder = "it was made by an older version of Fabula and must be upgraded first.";
 constexpr const char* kInUse = "it is in use by another program.";
 
 TEST_F(FileCheck, ASoundFileIsOpened) {
@@ -107,7 +108,7 @@ TEST_F(FileCheck, ADatabaseOfAnotherProgramIsNoAdventure) {
 }
 
 TEST_F(FileCheck, AFileOfALaterFormIsNewer) {
-    Run("PRAGMA user_version=2");
+    Run("PRAGMA user_version=51");
     EXPECT_EQ(Refusal(), kNewer);
     Run("PRAGMA user_version=-1");
     EXPECT_EQ(Refusal(), kNewer);
@@ -308,15 +309,62 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         "DELETE FROM Adventure", "INSERT INTO Adventure (advname) VALUES ('second')", "DELETE FROM System",
         "INSERT INTO System (systemnum) VALUES (2)",
+        "ALTER TABLE Adventure DROP COLUMN startloc; DELETE FROM Tables WHERE fieldname='startloc'",
+        "ALTER TABLE Adventure DROP COLUMN maxobj;"
+        "DELETE FROM Tables WHERE tablenum=5 AND fieldname='maxobj'"));
+
+TEST_F(FileCheck, AFileThatLacksAFieldTheProgramsReadIsRefused) {
+    Run("ALTER TABLE Locations DROP COLUMN exits; DELETE FROM Tables WHERE fieldname='exits'");
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
+/// What makes a sound file one of an older program.
+class OlderForms : public FileCheck, public testing::WithParamInterface<const char*> {};
+
+TEST_P(OlderForms, AreToldAndOpenedForUpgradesAlone) {
+    Run(GetParam());
+    EXPECT_EQ(Refusal(), kOlder);
+    const auto adventure = Adventure::Open(file_, OpenMode::ReadOnly, Ages::Any);
+    EXPECT_EQ(adventure->OpenTable(TableNum::Locations, "*").RecordCount(), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Statements, OlderForms,
+    testing::Values(
+        "ALTER TABLE Locations DROP COLUMN locshortdesc; DELETE FROM Tables WHERE fieldname='locshortdesc'",
         "ALTER TABLE Adventure DROP COLUMN adventype; DELETE FROM Tables WHERE fieldname='adventype'",
         "ALTER TABLE Adventure DROP COLUMN charsets;"
         "DELETE FROM Tables WHERE tablenum=5 AND fieldname='charsets'",
-        "ALTER TABLE Adventure DROP COLUMN sortobjects;"
-        "DELETE FROM Tables WHERE fieldname='sortobjects'"));
+        "ALTER TABLE Adventure DROP COLUMN sortobjects; DELETE FROM Tables WHERE fieldname='sortobjects'",
+        "ALTER TABLE Tables DROP COLUMN tablekey; DELETE FROM Tables WHERE fieldname='tablekey'",
+        "DROP TABLE System; DELETE FROM Tables WHERE tablenum=30",
+        "DROP TABLE Pictures; DELETE FROM Tables WHERE tablenum=34",
+        "DELETE FROM Tables WHERE tablenum=10 AND fieldname='PCVel'",
+        "ALTER TABLE Adventure DROP COLUMN Font; ALTER TABLE Adventure ADD COLUMN Font TEXT;"
+        "UPDATE Tables SET fieldtype='advarwchar' WHERE fieldname='Font' AND tablenum=5"));
 
-TEST_F(FileCheck, AFileThatLacksAFieldTheProgramsReadIsRefused) {
-    Run("ALTER TABLE Locations DROP COLUMN locshortdesc; DELETE FROM Tables WHERE "
-        "fieldname='locshortdesc'");
+TEST_F(FileCheck, AFileWhoseTablesDoNotTellOfThemselvesIsOlder) {
+    Run("DELETE FROM Tables WHERE tablenum=12; ALTER TABLE Tables DROP COLUMN search");
+    EXPECT_EQ(Refusal(), kOlder);
+}
+
+TEST_F(FileCheck, AnOlderFormWithAForeignFieldIsStillDamaged) {
+    Run("DROP TABLE Pictures; DELETE FROM Tables WHERE tablenum=34; ALTER TABLE Flags ADD COLUMN x TEXT");
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
+TEST_F(FileCheck, ATableThatLacksAFieldItWasMadeWithIsDamaged) {
+    Run("ALTER TABLE ProcDesc DROP COLUMN pmsgmsg; DELETE FROM Tables WHERE fieldname='pmsgmsg'");
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
+TEST_F(FileCheck, ATableNoFieldTellsOfIsDamaged) {
+    Run("DELETE FROM Tables WHERE tablenum=34");
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
+TEST_F(FileCheck, FieldsOfATableThatIsNotThereAreDamage) {
+    Run("DROP TABLE Pictures");
     EXPECT_EQ(Refusal(), kDamaged);
 }
 

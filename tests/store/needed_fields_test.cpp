@@ -22,7 +22,7 @@ Fields TryWithoutEach(const test::OpenedAdventure& adventure) {
         for (std::size_t i = 0; i < whole.fields.size(); ++i) {
             TableSchema schema = whole;
             schema.fields.erase(schema.fields.begin() + static_cast<std::ptrdiff_t>(i));
-            if (HasNeededFields(table.number, schema)) {
+            if (FaultsOfFields(table.number, schema).empty()) {
                 fields.others.push_back(whole.fields[i].name);
             } else {
                 ++fields.needed;
@@ -35,7 +35,7 @@ Fields TryWithoutEach(const test::OpenedAdventure& adventure) {
 TEST(NeededFields, AreThereInANewAdventure) {
     const test::OpenedAdventure adventure;
     for (const TableEntry& table : AllTables())
-        EXPECT_TRUE(HasNeededFields(table.number, adventure->Schema(table.number))) << table.name;
+        EXPECT_TRUE(FaultsOfFields(table.number, adventure->Schema(table.number)).empty()) << table.name;
 }
 
 TEST(NeededFields, AreAllFieldsOfTheDefaultDataButThoseOfLaterPrograms) {
@@ -51,21 +51,21 @@ TEST(NeededFields, HaveTheirClass) {
     const test::OpenedAdventure adventure;
     TableSchema schema = adventure->Schema(TableNum::Messages);
     schema.fields[schema.Find("msgnum").value()].type = FieldType::VarWChar;
-    EXPECT_FALSE(HasNeededFields(TableNum::Messages, schema));
+    EXPECT_FALSE(FaultsOfFields(TableNum::Messages, schema).empty());
 }
 
 TEST(NeededFields, OfNumbersAreWhole) {
     const test::OpenedAdventure adventure;
     TableSchema schema = adventure->Schema(TableNum::Messages);
     schema.fields[schema.Find("msgnum").value()].type = FieldType::Double;
-    EXPECT_FALSE(HasNeededFields(TableNum::Messages, schema));
+    EXPECT_FALSE(FaultsOfFields(TableNum::Messages, schema).empty());
 }
 
 TEST(NeededFields, MayBeJoinedByOthers) {
     const test::OpenedAdventure adventure;
     TableSchema schema = adventure->Schema(TableNum::Messages);
     schema.fields.push_back({"later", FieldType::VarWChar, 255});
-    EXPECT_TRUE(HasNeededFields(TableNum::Messages, schema));
+    EXPECT_TRUE(FaultsOfFields(TableNum::Messages, schema).empty());
 }
 
 }  // namespace
