@@ -5,6 +5,7 @@
 
 #include "condacts/convert.h"
 #include "condacts/load.h"
+#include "condacts/places.h"
 #include "condacts/validate.h"
 #include "text/utf8.h"
 
@@ -57,10 +58,10 @@ struct LocationWord {
 };
 
 constexpr LocationWord kLocationWords[] = {
-    {"NOTCR", condacts::kNotCreated, "not created"},
-    {"WORN", condacts::kWorn, "worn by the player"},
-    {"CARRIED", condacts::kCarried, "carried by the player"},
-    {"HERE", condacts::kHere, "where the player is"},
+    {"NOTCR", condacts::place::kNotCreated.value, "not created"},
+    {"WORN", condacts::place::kWorn.value, "worn by the player"},
+    {"CARRIED", condacts::place::kCarried.value, "carried by the player"},
+    {"HERE", condacts::place::kHere.value, "where the player is"},
 };
 
 bool AdmitsLocationWords(const Parameter& parameter) {

@@ -4,8 +4,8 @@
 
 #include "authoring/location_names.h"
 #include "authoring/text_field.h"
-#include "condacts/convert.h"
 #include "condacts/load.h"
+#include "condacts/places.h"
 #include "condacts/words.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -13,9 +13,7 @@
 namespace fabula::authoring {
 namespace {
 
-using condacts::kCarried;
-using condacts::kNotCreated;
-using condacts::kWorn;
+namespace place = condacts::place;
 using store::TableNum;
 
 // Bits of `objattrn`.
@@ -36,13 +34,6 @@ std::vector<ListItem> WordItems(const condacts::WordIndex& words, condacts::Word
 void ChooseWord(DropList& list, std::string_view word, int number) {
     list.ChooseText(std::string(word));
     if (list.Chosen() == nullptr || list.Chosen()->number != number) list.ChooseNumber(number);
-}
-
-std::string DescriptionOf(int place) {
-    if (place == kNotCreated) return "Not created.";
-    if (place == kWorn) return "Worn.";
-    if (place == kCarried) return "Carried.";
-    return "In Room " + std::to_string(place) + ".";
 }
 
 }  // namespace
@@ -73,13 +64,13 @@ void frmVelObjects::ReadRecord() {
 
 void frmVelObjects::ReadPlace(int place) {
     switch (place) {
-        case kNotCreated:
+        case place::kNotCreated.value:
             optInitiaLloc = InitialPlace::NotCreated;
             return;
-        case kWorn:
+        case place::kWorn.value:
             optInitiaLloc = InitialPlace::Worn;
             return;
-        case kCarried:
+        case place::kCarried.value:
             optInitiaLloc = InitialPlace::Carried;
             return;
         default:
@@ -134,11 +125,11 @@ bool frmVelObjects::LeaveTxtWeight() {
 int frmVelObjects::Place() const {
     switch (*optInitiaLloc) {
         case InitialPlace::NotCreated:
-            return kNotCreated;
+            return place::kNotCreated.value;
         case InitialPlace::Worn:
-            return kWorn;
+            return place::kWorn.value;
         case InitialPlace::Carried:
-            return kCarried;
+            return place::kCarried.value;
         case InitialPlace::InRoom:
             break;
     }
@@ -171,7 +162,7 @@ void frmVelObjects::StoreWord(store::Cursor& record, const DropList& list, int w
 void frmVelObjects::StorePlace(store::Cursor& record) const {
     const int place = Place();
     record.SetField("objloc", std::int64_t{place});
-    record.SetField("objlocdesc", DescriptionOf(place));
+    record.SetField("objlocdesc", condacts::DescriptionOfPlace(condacts::PlaceNumber(place)));
 }
 
 void frmVelObjects::StoreAttributes(store::Cursor& record) const {

@@ -16,10 +16,20 @@ constexpr WordCondition kWordConditions[] = {
 
 }  // namespace
 
-Dialect DialectOf(std::string_view adventureType) {
-    if (text::EqualsNoCase(adventureType, "vel")) return Dialect::Vel;
-    if (text::EqualsNoCase(adventureType, "marlo")) return Dialect::Marlo;
+Dialect DialectOf(store::AdventureKind kind) {
+    switch (kind) {
+        case store::AdventureKind::Vel:
+            return Dialect::Vel;
+        case store::AdventureKind::Marlo:
+            return Dialect::Marlo;
+        case store::AdventureKind::Fabula:
+            break;
+    }
     return Dialect::Fabula;
+}
+
+Dialect DialectOf(std::string_view adventureType) {
+    return DialectOf(store::AdventureKindOf(adventureType));
 }
 
 bool CondAct::ExistsIn(Dialect dialect) const {

@@ -8,6 +8,10 @@
 #include <unordered_map>
 #include <vector>
 
+#include "condacts/places.h"
+#include "condacts/system_messages.h"
+#include "store/adventure_kind.h"
+
 namespace fabula::condacts {
 
 /// What a parameter names; the numbers stand in the catalogue's `caparam1` and `caparam2`.
@@ -32,14 +36,14 @@ struct Parameter {
 };
 
 inline constexpr int kNoSpecialLocations = -1;
-inline constexpr int kLocationWordsAllowed = 255;
-inline constexpr int kSystemMessagesTwoToFive = 5;
+inline constexpr int kLocationWordsAllowed = place::kHere.value;
+inline constexpr int kSystemMessagesTwoToFive = message::kLastPrompt.value;
 
 /// The kinds of adventure and source that a condition or action may exist in.
 enum class Dialect { Fabula, Vel, Marlo, PCVel };
 
-/// The dialect of an adventure by its `adventype`, case ignored. A type that is none of the three counts as
-/// Fabula.
+/// The dialect of an adventure by its type, or by its `adventype`.
+Dialect DialectOf(store::AdventureKind kind);
 Dialect DialectOf(std::string_view adventureType);
 
 /// One condition or action.

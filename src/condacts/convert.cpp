@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "condacts/parser.h"
+#include "condacts/places.h"
 #include "text/utf8.h"
 
 namespace fabula::condacts {
@@ -11,25 +12,13 @@ namespace {
 
 constexpr std::size_t kLettersLookedUp = 5;
 
-struct LocationWord {
-    std::string_view word;
-    int number;
-};
-
-constexpr LocationWord kLocationWords[] = {
-    {"NOTCR", kNotCreated},
-    {"WORN", kWorn},
-    {"CARRIED", kCarried},
-    {"HERE", kHere},
-};
-
 bool AdmitsLocationWords(const Parameter& param) {
     return param.kind == ParamKind::Location && param.maxValue == kLocationWordsAllowed;
 }
 
 std::optional<int> LocationNumber(std::string_view token) {
     for (const LocationWord& entry : kLocationWords) {
-        if (text::EqualsNoCase(entry.word, token)) return entry.number;
+        if (text::EqualsNoCase(entry.word, token)) return entry.number.value;
     }
     return std::nullopt;
 }
@@ -84,7 +73,7 @@ std::string TextParameter(const CondAct& condAct, std::size_t param, std::string
     if (TakesWord(condAct, param)) return std::string(WordOfNumber(condAct, token, words));
     if (AdmitsLocationWords(condAct.params[param])) {
         for (const LocationWord& entry : kLocationWords) {
-            if (WholeNumber(token) == entry.number) return std::string(entry.word);
+            if (WholeNumber(token) == entry.number.value) return std::string(entry.word);
         }
     }
     return std::string(token);

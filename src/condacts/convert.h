@@ -8,12 +8,6 @@
 
 namespace fabula::condacts {
 
-/// The places that are no room, as parameters and object locations hold them.
-inline constexpr int kNotCreated = 252;
-inline constexpr int kWorn = 253;
-inline constexpr int kCarried = 254;
-inline constexpr int kHere = 255;
-
 /// A line turned from one form into the other. When something did not fit, `ok` is false, `errors` says
 /// what, and `line` holds what could be turned.
 struct Converted {

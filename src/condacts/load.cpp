@@ -92,7 +92,7 @@ WordIndex LoadWords(Adventure& adventure) {
 Facts LoadFacts(Adventure& adventure) {
     const store::ReadTransaction reading(adventure);
     Facts facts;
-    facts.dialect = DialectOf(adventure.AdventureType());
+    facts.dialect = DialectOf(adventure.Kind());
     facts.messages = CountRows(adventure, TableNum::Messages, "msgnum");
     facts.systemMessages = CountRows(adventure, TableNum::SystemMessages, "smsgnum");
     LoadLocations(adventure, facts);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "condacts/catalogue.h"
+#include "condacts/numbers.h"
 
 namespace fabula::condacts {
 
@@ -52,7 +53,7 @@ ParsedLine ParseNumericLine(std::string_view line, const Catalogue& catalogue);
 /// The value of a token of digits; nullopt for any other. Every value beyond 16 bits counts as
 /// kBeyondNumbers.
 std::optional<int> WholeNumber(std::string_view token);
-inline constexpr int kBeyondNumbers = 32768;
+inline constexpr int kBeyondNumbers = kHighestNumber + 1;
 
 /// "XYZ is an invalid Condition/Action"
 std::string InvalidCondActMessage(std::string_view name);

@@ -3,7 +3,11 @@
 #include <algorithm>
 
 #include "condacts/convert.h"
+#include "condacts/flags.h"
+#include "condacts/limits.h"
 #include "condacts/parser.h"
+#include "condacts/places.h"
+#include "condacts/system_messages.h"
 #include "text/utf8.h"
 
 namespace fabula::condacts {
@@ -12,11 +16,7 @@ namespace {
 using Message = std::optional<std::string>;
 
 /// The numbers from here up stand for places that are no record: not created, worn, carried, here.
-constexpr int kFirstSpecialNumber = 252;
-constexpr int kHighestNumber = kBeyondNumbers - 1;
-constexpr int kHighestMarloFlag = 32;
-constexpr int kUntouchableFlag = 1004;
-constexpr int kSwitchFlag = 1005;
+constexpr int kFirstSpecialNumber = place::kFirstSpecial.value;
 
 /// One parameter on its way through the checks.
 struct Given {
@@ -68,18 +68,20 @@ Message CheckPlaceOrObject(const Given& given, const Facts& facts, int records) 
 }
 
 Message CheckSystemMessage(const Given& given, const Facts& facts) {
-    const bool fits = given.param.maxValue == kSystemMessagesTwoToFive
-                          ? given.number >= 2 && given.number <= 5
-                          : IsRecordOrSpecial(given.number, facts.systemMessages);
+    const bool fits =
+        given.param.maxValue == kSystemMessagesTwoToFive
+            ? given.number >= message::kFirstPrompt.value && given.number <= message::kLastPrompt.value
+            : IsRecordOrSpecial(given.number, facts.systemMessages);
     return fits ? Message() : InvalidNumber(given);
 }
 
 Message CheckFlag(const Given& given, const Facts& facts) {
     const int n = given.number;
-    if (n >= facts.flags || (facts.dialect == Dialect::Marlo && n > kHighestMarloFlag))
+    if (n >= facts.flags || (facts.dialect == Dialect::Marlo && n > limit::kHighestMarloFlag))
         return InvalidNumber(given);
-    if (n == kUntouchableFlag) return "Flag 1004 cannot be modified or checked using conditions/actions";
-    if (n == kSwitchFlag && !given.CondActIs("SET") && !given.CondActIs("CLEAR")) {
+    if (n == flag::kTraceFile.value)
+        return "Flag 1004 cannot be modified or checked using conditions/actions";
+    if (n == flag::kTrace.value && !given.CondActIs("SET") && !given.CondActIs("CLEAR")) {
         return "Flag 1005 can only be SET or CLEAR";
     }
     const auto record = facts.flagRecords.find(n);

@@ -5,6 +5,7 @@
 
 #include "condacts/convert.h"
 #include "condacts/parser.h"
+#include "condacts/places.h"
 #include "interchange/source_file.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
@@ -76,10 +77,10 @@ std::optional<std::string> AttributesText(std::int64_t attributes) {
 }
 
 std::optional<std::string> LocationText(std::int64_t location) {
-    if (location == condacts::kHere) return std::nullopt;
-    if (location == condacts::kNotCreated) return "Not Created";
-    if (location == condacts::kWorn) return "Worn";
-    if (location == condacts::kCarried) return "Carried";
+    if (location == condacts::place::kHere.value) return std::nullopt;
+    if (location == condacts::place::kNotCreated.value) return "Not Created";
+    if (location == condacts::place::kWorn.value) return "Worn";
+    if (location == condacts::place::kCarried.value) return "Carried";
     return "At " + std::to_string(location);
 }
 

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "condacts/convert.h"
 #include "condacts/parser.h"
+#include "condacts/places.h"
 #include "text/utf8.h"
 
 namespace fabula::interchange {
@@ -22,12 +22,12 @@ struct NamedPlace {
 };
 
 constexpr NamedPlace kPlaces[] = {
-    {"252", condacts::kNotCreated, "Not created."},
-    {"NOTCR", condacts::kNotCreated, "Not created."},
-    {"253", condacts::kWorn, "Worn."},
-    {"WORN", condacts::kWorn, "Worn."},
-    {"254", condacts::kCarried, "Carried."},
-    {"CARRIED", condacts::kCarried, "Carried."},
+    {"252", condacts::place::kNotCreated.value, "Not created."},
+    {"NOTCR", condacts::place::kNotCreated.value, "Not created."},
+    {"253", condacts::place::kWorn.value, "Worn."},
+    {"WORN", condacts::place::kWorn.value, "Worn."},
+    {"254", condacts::place::kCarried.value, "Carried."},
+    {"CARRIED", condacts::place::kCarried.value, "Carried."},
 };
 
 bool IsYes(std::string_view token) {
@@ -82,7 +82,7 @@ bool PcObjects::SetLocation(Cursor& object, std::string_view location) {
         return true;
     }
     const std::optional<int> number = condacts::WholeNumber(location);
-    if (!number || *number == condacts::kHere || *number > kHighestRecord) return false;
+    if (!number || *number == condacts::place::kHere.value || *number > kHighestRecord) return false;
     object.SetField("objloc", std::int64_t{*number});
     object.SetField("objlocdesc", "At " + std::to_string(*number) + ".");
     return true;

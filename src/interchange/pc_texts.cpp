@@ -1,6 +1,6 @@
 #include "interchange/pc_texts.h"
 
-#include "condacts/convert.h"
+#include "condacts/places.h"
 #include "text/line_ends.h"
 
 namespace fabula::interchange {
@@ -26,7 +26,7 @@ void SetObjectDefaults(Cursor& object) {
     for (const char* field : {"objnumnoun", "objnumadject"}) {
         object.SetField(field, std::int64_t{condacts::kNoWordNumber});
     }
-    object.SetField("objloc", std::int64_t{condacts::kNotCreated});
+    object.SetField("objloc", std::int64_t{condacts::place::kNotCreated.value});
     object.SetField("objlocdesc", std::string("Not Created"));
     object.SetField("objweight", std::int64_t{1});
     object.SetField("objattr", std::string());

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/error.h"
+#include "store/adventure_kind.h"
 #include "store/cursor.h"
 #include "store/filter.h"
 #include "store/prepared_query.h"
@@ -83,6 +84,7 @@ class Adventure {
     /// lacks is empty or off.
     const std::string& AdventureType() const { return type_; }            ///< "Fabula", "VEL" or "Marlo"
     const std::string& AdventureTypeLower() const { return typeLower_; }  ///< the same in lower case
+    AdventureKind Kind() const { return AdventureKindOf(type_); }
     bool GraphicsOn() const { return graphics_; }
     bool CharSetsOn() const { return charSets_; }
     /// Reads type, switches and sort orders from the settings record again.

@@ -10,6 +10,7 @@
 #include "store/default_data.h"
 #include "store/file_check.h"
 #include "store/file_copy.h"
+#include "store/new_flag.h"
 #include "store/record_check.h"
 #include "store/schema_section.h"
 #include "store/section_reader.h"
@@ -155,12 +156,8 @@ class Creator {
         if (present.empty()) return;
         for (std::int64_t number = 0; number < *present.rbegin(); ++number) {
             if (present.contains(number)) continue;
-            writer_.Add(TableNum::Flags, {{"flgnum", number},
-                                          {"flgtype", std::string("User")},
-                                          {"flguse", std::string("Unknown")},
-                                          {"flgmod", std::int64_t{2}},
-                                          {"flgdesc", std::string()},
-                                          {"flgchg", std::int64_t{1}}});
+            const auto fields = FieldsOfNewFlag(number, "");
+            writer_.Add(TableNum::Flags, Record(fields.begin(), fields.end()));
         }
     }
 

@@ -1,40 +1,20 @@
 #include "store/setup.h"
 
 #include "store/adventure.h"
-#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {
 
-struct KindRow {
-    AdventureKind kind;
-    std::string_view name;
-    std::string_view explanation;
-};
-
-constexpr KindRow kKinds[] = {
-    {AdventureKind::Fabula, "Fabula",
-     "Fabula: Takes all Fabula constructs, including extra Conditions && Actions."},
-    {AdventureKind::Vel, "VEL",
-     "VEL: Only original VEL constructs (Conditions, Actions, && Graphics Commands) are available."},
-    {AdventureKind::Marlo, "Marlo",
-     "Marlo: Only original Marlo/Mender/Limner constructs are available. Graphics Editor is included if "
-     "Graphic "
-     "selected below."},
+/// By AdventureKind.
+constexpr std::string_view kExplanations[] = {
+    "Fabula: Takes all Fabula constructs, including extra Conditions && Actions.",
+    "VEL: Only original VEL constructs (Conditions, Actions, && Graphics Commands) are available.",
+    "Marlo: Only original Marlo/Mender/Limner constructs are available. Graphics Editor is included if "
+    "Graphic "
+    "selected below.",
 };
 
 }  // namespace
-
-std::string_view NameOf(AdventureKind kind) {
-    return kKinds[static_cast<std::size_t>(kind)].name;
-}
-
-std::optional<AdventureKind> AdventureKindFrom(std::string_view name) {
-    for (const KindRow& row : kKinds) {
-        if (text::EqualsNoCase(row.name, name)) return row.kind;
-    }
-    return std::nullopt;
-}
 
 frmSetup::frmSetup(Adventure& adventure) {
     const Cursor& settings =
@@ -58,7 +38,7 @@ bool frmSetup::ChooseCharSets(bool on) {
 }
 
 std::string_view frmSetup::ExplainType(AdventureKind kind) {
-    return kKinds[static_cast<std::size_t>(kind)].explanation;
+    return kExplanations[static_cast<std::size_t>(kind)];
 }
 
 std::string_view frmSetup::ExplainGraphics(bool on) {

@@ -1,20 +1,12 @@
 #pragma once
 
-#include <optional>
 #include <string_view>
+
+#include "store/adventure_kind.h"
 
 namespace fabula::store {
 
 class Adventure;
-
-/// The three types of an adventure: all constructs of this system, or those of one of the two older
-/// engines.
-enum class AdventureKind { Fabula, Vel, Marlo };
-
-/// The kind's word in `adventype`: "Fabula", "VEL", "Marlo".
-std::string_view NameOf(AdventureKind kind);
-/// The kind that a word names, case ignored; nullopt for any other, "Unknwn" included.
-std::optional<AdventureKind> AdventureKindFrom(std::string_view name);
 
 /// The screen "Choose Type of Adventure" without its window: three choices and the rules between them.
 class frmSetup {

@@ -1,4 +1,4 @@
-#include "condacts/convert.h"
+#include "condacts/places.h"
 #include "games.h"
 
 namespace fabula::test {
@@ -48,7 +48,7 @@ void AddPlaces(StarterGame& game) {
 }
 
 void AddThings(StarterGame& game) {
-    game.Object(0, "a lit lamp", condacts::kNotCreated, "LAMP", {.weight = 4});
+    game.Object(0, "a lit lamp", condacts::place::kNotCreated.value, "LAMP", {.weight = 4});
     game.Object(1, "a lamp", kKitchen, "LAMP", {.weight = 4});
     game.Object(2, "an anvil", kKitchen, "ANVIL", {.weight = 60});
     game.Object(3, "a coat", kParlour, "COAT", {.weight = 6, .wearable = true});

@@ -1,4 +1,4 @@
-#include "condacts/convert.h"
+#include "condacts/places.h"
 #include "games.h"
 
 namespace fabula::test {
@@ -38,7 +38,7 @@ void AddPlaces(StarterGame& game) {
 }
 
 void AddThings(StarterGame& game) {
-    game.Object(0, "a burning lamp", condacts::kNotCreated, "LAMP");
+    game.Object(0, "a burning lamp", condacts::place::kNotCreated.value, "LAMP");
     game.Object(1, "a lamp", kSignalBox, "LAMP");
     game.Object(2, "a red flag", kPlatform, "FLAG");
     game.Object(3, "a cap", kPlatform, "CAP");

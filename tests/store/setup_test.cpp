@@ -97,5 +97,11 @@ TEST(AdventureKind, IsNamedAsInTheSettings) {
     EXPECT_EQ(AdventureKindFrom(""), std::nullopt);
 }
 
+TEST(AdventureKind, OfAWordThatNamesNoneIsFabula) {
+    EXPECT_EQ(AdventureKindOf("VEL"), AdventureKind::Vel);
+    EXPECT_EQ(AdventureKindOf("marlo"), AdventureKind::Marlo);
+    EXPECT_EQ(AdventureKindOf("Unknwn"), AdventureKind::Fabula);
+}
+
 }  // namespace
 }  // namespace fabula::store

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+
+#include "store/adventure_kind.h"
+
+namespace fabula::condacts {
+
+/// What an adventure may hold, by its records' numbers. The older engines count in bytes.
+namespace limit {
+
+/// Locations, objects, messages and system messages of "Fabula", and of sources of whatever type.
+inline constexpr int kHighestRecord = 999;
+/// The same of the other types, but for objects, of which 255 stands for none.
+inline constexpr int kHighestRecordOfOthers = 255;
+inline constexpr int kHighestObjectOfOthers = 254;
+
+inline constexpr int kHighestProcess = 256;
+/// Tables 0 to 2 are there in every game. Those of "Marlo" have 0 and 1 only.
+inline constexpr int kLastFixedProcess = 2;
+
+/// The numbers of an author's words.
+inline constexpr int kLowestWord = 2;
+inline constexpr int kHighestWord = 254;
+
+/// Games of type "Marlo" know the flags up to here.
+inline constexpr int kHighestMarloFlag = 32;
+/// The flags to which the engine gives a meaning beyond those of the older types.
+inline constexpr int kFirstExtendedFlag = 1000;
+inline constexpr int kHighestSystemFlag = 1024;
+
+/// The highest weight that an object of the older types can have, and the most that the engine adds up.
+inline constexpr int kHeaviestObject = 63;
+inline constexpr int kHeaviestLoad = 255;
+
+/// Ink, paper and border: 0 to 7 and the same bright.
+inline constexpr int kHighestColour = 15;
+inline constexpr int kFirstBrightColour = 8;
+
+/// The unit of TIME.
+inline constexpr std::chrono::milliseconds kTimeOutUnit{1280};
+
+}  // namespace limit
+
+/// How many letters of a word count.
+constexpr int SignificantLetters(store::AdventureKind kind) {
+    switch (kind) {
+        case store::AdventureKind::Marlo:
+            return 4;
+        case store::AdventureKind::Vel:
+            return 5;
+        case store::AdventureKind::Fabula:
+            break;
+    }
+    return 30;
+}
+
+/// The highest number of a location, message or system message.
+constexpr int HighestRecord(store::AdventureKind kind) {
+    return kind == store::AdventureKind::Fabula ? limit::kHighestRecord : limit::kHighestRecordOfOthers;
+}
+
+constexpr int HighestObject(store::AdventureKind kind) {
+    return kind == store::AdventureKind::Fabula ? limit::kHighestRecord : limit::kHighestObjectOfOthers;
+}
+
+}  // namespace fabula::condacts

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "condacts/numbers.h"
+
+namespace fabula::condacts {
+
+/// The places that are no room, as parameters and `objloc` hold them.
+namespace place {
+
+inline constexpr PlaceNumber kNotCreated{252};
+inline constexpr PlaceNumber kWorn{253};
+inline constexpr PlaceNumber kCarried{254};
+inline constexpr PlaceNumber kHere{255};  ///< where the player is; in parameters only, never in `objloc`
+
+/// No location bears one of these numbers; the next above is a location's again.
+inline constexpr PlaceNumber kFirstSpecial = kNotCreated;
+inline constexpr PlaceNumber kLastSpecial = kHere;
+
+}  // namespace place
+
+constexpr bool IsSpecialPlace(PlaceNumber number) {
+    return number >= place::kFirstSpecial && number <= place::kLastSpecial;
+}
+
+struct LocationWord {
+    std::string_view word;
+    PlaceNumber number;
+};
+
+/// The words for them in conditions and actions.
+inline constexpr LocationWord kLocationWords[] = {
+    {"NOTCR", place::kNotCreated},
+    {"WORN", place::kWorn},
+    {"CARRIED", place::kCarried},
+    {"HERE", place::kHere},
+};
+
+/// What the tables of objects say of a place: "Not created.", "Worn.", "Carried.", else "In Room 5.".
+std::string DescriptionOfPlace(PlaceNumber number);
+
+}  // namespace fabula::condacts
