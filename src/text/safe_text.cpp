@@ -13,6 +13,11 @@ constexpr char32_t kUnshowable = U'\uFFFD';
 constexpr char32_t kLineSeparator = U'\u2028';
 constexpr char32_t kParagraphSeparator = U'\u2029';
 
+constexpr char32_t kFirstEmbedding = U'\u202A';
+constexpr char32_t kLastOverride = U'\u202E';
+constexpr char32_t kFirstIsolate = U'\u2066';
+constexpr char32_t kLastIsolate = U'\u2069';
+
 constexpr char32_t kFirstBlock = 128;
 constexpr char32_t kLastBlock = 143;
 constexpr char32_t kFirstUserDefined = 144;
@@ -26,11 +31,14 @@ bool IsPlain(char c) {
     return c >= ' ' && c < '\x7F';
 }
 
+bool TurnsDirection(char32_t point) {
+    return (point >= kFirstEmbedding && point <= kLastOverride) ||
+           (point >= kFirstIsolate && point <= kLastIsolate);
+}
+
 char32_t Safe(char32_t point) {
     if (point == '\t') return ' ';
-    const bool control = point < 0x20 || (point >= 0x7F && point < 0xA0);
-    const bool separator = point == kLineSeparator || point == kParagraphSeparator;
-    return control || separator || point >= kBadByte ? kUnshowable : point;
+    return IsObeyed(point) ? kUnshowable : point;
 }
 
 char32_t OfCharacterSet(char32_t code) {
@@ -58,6 +66,23 @@ void AppendSafe(std::string_view text, std::string& shown) {
     } else {
         AppendEach(text, shown, Safe);
     }
+}
+
+std::string SafeLines(std::string_view text) {
+    std::string shown;
+    for (;;) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        AppendSafe(text.substr(0, end), shown);
+        if (end == text.size()) return shown;
+        shown += '\n';
+        text.remove_prefix(end + 1);
+    }
+}
+
+bool IsObeyed(char32_t point) {
+    const bool control = point < 0x20 || (point >= 0x7F && point < 0xA0);
+    const bool separator = point == kLineSeparator || point == kParagraphSeparator;
+    return control || separator || TurnsDirection(point) || point >= kBadByte;
 }
 
 void AppendCharacters(std::string_view codes, std::string& shown) {

@@ -42,6 +42,16 @@ TEST(SafeText, ATabBecomesABlankAndALineSeparatorIsReplaced) {
     EXPECT_EQ(Safe("a\tb\u2028c\u2029"), "a b\uFFFDc\uFFFD");
 }
 
+TEST(SafeText, TurnsOfDirectionAreReplacedAndMarksOfDirectionStay) {
+    EXPECT_EQ(Safe("a\u202Ab\u202E\u2066c\u2069"), "a\uFFFDb\uFFFD\uFFFDc\uFFFD");
+    EXPECT_EQ(Safe("\u200E\u200F\u061C"), "\u200E\u200F\u061C");
+}
+
+TEST(SafeText, AReportKeepsItsLineEnds) {
+    EXPECT_EQ(SafeLines("one\ntwo\x1B[2J\r\n\n"), "one\ntwo\uFFFD[2J\uFFFD\n\n");
+    EXPECT_EQ(SafeLines(""), "");
+}
+
 TEST(SafeText, CharacterSetsShowTheirFontAsText) {
     EXPECT_EQ(Characters("Take 5 ~"), "Take 5 ~");
 }

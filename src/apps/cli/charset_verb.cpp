@@ -3,10 +3,11 @@
 #include <vector>
 
 #include "cli/terminal_operator.h"
-#include "cli/verb.h"
+#include "cli/verbs.h"
 #include "pictures/character_store.h"
 #include "store/adventure.h"
 #include "text/format.h"
+#include "text/safe_text.h"
 #include "text/utf8.h"
 
 namespace fabula::cli {
@@ -24,18 +25,17 @@ int List(const Options& options) {
     TerminalOperator terminal;
     const bool isSetFile =
         text::EqualsNoCase(std::filesystem::path(options.file).extension().string(), ".chr");
-    const std::vector<std::string> lines =
-        isSetFile ? pictures::ListSetsInFile(options.file, terminal)
-                  : pictures::ListSets(*store::Adventure::Open(options.file, store::OpenMode::ReadOnly));
+    const std::vector<std::string> lines = isSetFile ? pictures::ListSetsInFile(options.file, terminal)
+                                                     : pictures::ListSets(*OpenToRead(options.file));
     for (const std::string& line : lines) {
-        std::cout << line << "\n";
+        std::cout << text::SafeLines(line) << "\n";
     }
     return lines.empty() ? kFailed : kDone;
 }
 
 int Save(const Options& options) {
     TerminalOperator terminal;
-    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    const auto adventure = OpenToRead(options.file);
     std::vector<std::string> selected;
     for (const int set : options.sets) {
         selected.push_back(std::to_string(set));
@@ -45,7 +45,7 @@ int Save(const Options& options) {
 
 int Load(const Options& options) {
     TerminalOperator terminal;
-    const auto adventure = store::Adventure::Open(options.file);
+    const auto adventure = OpenToChange(options.file);
     const std::string selected = text::FormatText("SET!%z4", {std::int64_t{options.set}});
     return pictures::LoadSet(*adventure, options.setFile, {selected}, options.target, terminal) ? kDone
                                                                                                 : kFailed;
@@ -62,16 +62,16 @@ void AddCharsetVerb(CLI::App& app, Chosen& chosen) {
     CLI::App* list =
         verb->add_subcommand("list", "Shows the sets of an adventure or of a character set file");
     list->add_option("file", options->file, "FILE.fbd or FILE.chr")->required();
-    list->callback([options, &chosen] { chosen.body = [options] { return List(*options); }; });
+    Runs(*list, chosen, options, List);
 
     CLI::App* save = verb->add_subcommand("save", "Writes sets of an adventure to a character set file");
-    save->add_option("file", options->file, "The adventure, FILE.fbd")->required();
+    AddAdventureOption(*save, options->file)->required();
     save->add_option("output", options->setFile, "The file to write, FILE.chr")->required();
     save->add_option("sets", options->sets, "The numbers of the sets")->required()->check(setNumbers);
-    save->callback([options, &chosen] { chosen.body = [options] { return Save(*options); }; });
+    Runs(*save, chosen, options, Save);
 
     CLI::App* load = verb->add_subcommand("load", "Puts a set of a file over a set of an adventure");
-    load->add_option("file", options->file, "The adventure, FILE.fbd")->required();
+    AddAdventureOption(*load, options->file)->required();
     load->add_option("input", options->setFile, "The file to read, FILE.chr")->required();
     load->add_option("set", options->set, "The number of the set in the file")
         ->required()
@@ -79,7 +79,7 @@ void AddCharsetVerb(CLI::App& app, Chosen& chosen) {
     load->add_option("target", options->target, "The number of the set in the adventure")
         ->required()
         ->check(setNumbers);
-    load->callback([options, &chosen] { chosen.body = [options] { return Load(*options); }; });
+    Runs(*load, chosen, options, Load);
 }
 
 }  // namespace fabula::cli

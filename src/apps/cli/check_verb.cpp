@@ -2,14 +2,10 @@
 #include <filesystem>
 
 #include "authoring/verify.h"
+#include "cli/console.h"
 #include "cli/file_kind_option.h"
-#include "cli/installation.h"
-#include "cli/job_terminal.h"
-#include "cli/terminal_operator.h"
-#include "cli/verb.h"
-#include "interchange/jobs.h"
+#include "cli/verbs.h"
 #include "platform/error.h"
-#include "store/adventure.h"
 #include "text/utf8.h"
 
 namespace fabula::cli {
@@ -56,15 +52,12 @@ int Check(const Options& options) {
     const interchange::FileKind& kind = KindOf(options);
     const ScratchFolder folder;
     const std::filesystem::path file = folder.Path() / "check.fbd";
-    TerminalOperator person;
-    const platform::SystemClock clock;
-    platform::NoEvents events;
-    JobTerminal observer(std::cout, ErrorsGoToTerminal());
-    const interchange::JobResult imported = interchange::ImportIt(
-        kind, options.source, file, true, {person, clock, events, observer, DefaultDataFile()});
+    Console console(std::cout);
+    const interchange::JobResult imported =
+        interchange::ImportIt(kind, options.source, file, true, console.JobHost());
     if (!imported.done) return kFailed;
-    const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadOnly);
-    interchange::JobStatus status(observer);
+    const auto adventure = OpenToRead(file.string());
+    interchange::JobStatus status(console.Observer());
     const bool verified = authoring::VerifyAdventure(*adventure, authoring::VerifyTarget::Play, status);
     return verified && imported.faults == 0 ? kDone : kFailed;
 }
@@ -78,7 +71,7 @@ void AddCheckVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("source", options->source, "The file that is read")->required();
     verb->add_option("--kind", options->kind,
                      "What it is, where its name doesn't tell: " + ReadableKinds());
-    verb->callback([options, &chosen] { chosen.body = [options] { return Check(*options); }; });
+    Runs(*verb, chosen, options, Check);
 }
 
 }  // namespace fabula::cli

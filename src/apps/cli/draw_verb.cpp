@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "cli/verb.h"
+#include "cli/verbs.h"
 #include "pictures/book_loader.h"
 #include "pictures/contact_sheet.h"
 #include "pictures/drawing.h"
@@ -13,6 +13,7 @@
 #include "pictures/picture_folder.h"
 #include "platform/error.h"
 #include "store/adventure.h"
+#include "text/safe_text.h"
 
 namespace fabula::cli {
 namespace {
@@ -34,7 +35,7 @@ struct Options {
 constexpr int kSheetColumns = 5;
 
 pictures::PictureBook Load(const std::string& file) {
-    const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadOnly);
+    const auto adventure = OpenToRead(file);
     return pictures::LoadPictureBook(*adventure);
 }
 
@@ -55,7 +56,7 @@ int Check(const Options& options) {
     const pictures::PictureBook book = Load(options.checkedIn);
     const auto check = pictures::ValidateDrawString(book, *options.drawstring, kind);
     if (!check.Passed()) throw Error(check.fault);
-    std::cout << pictures::JoinWords(check.words) << "\n";
+    std::cout << text::SafeLines(pictures::JoinWords(check.words)) << "\n";
     return kDone;
 }
 
@@ -88,7 +89,7 @@ int DrawAll(const Options& options) {
             drawn.push_back(
                 {number, pictures::ImageOf(options.plane == "pixel" ? canvas.pixel : canvas.colour)});
         } catch (const Error& failure) {
-            std::cerr << "fabula: " << failure.what() << "\n";
+            std::cerr << "fabula: " << text::SafeLines(failure.what()) << "\n";
             status = kFailed;
         }
     }
@@ -100,7 +101,7 @@ int DrawAll(const Options& options) {
 int AddFolder(const Options& options) {
     if (options.file.empty()) throw UsageError("draw --add needs the adventure, FILE.fbd");
     if (options.picture) throw UsageError("--add takes all drawings of its folder");
-    const auto adventure = store::Adventure::Open(options.file);
+    const auto adventure = OpenToChange(options.file);
     pictures::AddPictureFolder(*adventure, options.drawings);
     return kDone;
 }
@@ -117,7 +118,7 @@ void AddDrawVerb(CLI::App& app, Chosen& chosen) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb =
         app.add_subcommand("draw", "Draws the pictures of an adventure, or checks a drawstring");
-    verb->add_option("file", options->file, "The adventure, FILE.fbd");
+    AddAdventureOption(*verb, options->file);
     verb->add_option("picture", options->picture, "The number of a picture");
     verb->add_option("output", options->output, "The image to write, *.bmp or *.png");
     verb->add_option("--scale", options->scale, "The size of a pixel")
@@ -135,7 +136,7 @@ void AddDrawVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("--check", options->drawstring, "Check a drawstring and show its words");
     verb->add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use");
     verb->add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine");
-    verb->callback([options, &chosen] { chosen.body = [options] { return Draw(*options); }; });
+    Runs(*verb, chosen, options, Draw);
 }
 
 }  // namespace fabula::cli

@@ -1,9 +1,13 @@
 #include <charconv>
+#include <cstdio>
+#include <iostream>
 
 #include <nlohmann/json.hpp>
 
-#include "cli/verb.h"
+#include "cli/verbs.h"
 #include "store/adventure.h"
+#include "text/safe_text.h"
+#include "text/utf8.h"
 
 namespace fabula::cli {
 namespace {
@@ -39,9 +43,25 @@ Json JsonOf(const text::Value& value, store::FieldClass fieldClass) {
     return nullptr;
 }
 
+/// What a terminal would obey stands in JSON by its number, too; only the characters below 32 do so by
+/// rule.
+void AppendEscaped(const std::string& json, std::string& line) {
+    for (std::size_t at = 0; at < json.size();) {
+        const text::CodePoint point = text::DecodeAt(json, at);
+        if (text::IsObeyed(point.value)) {
+            char escape[8];
+            std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(point.value));
+            line += escape;
+        } else {
+            line.append(json, at, point.size);
+        }
+        at += point.size;
+    }
+}
+
 int Dump(const Options& options) {
     const store::TableEntry& table = TableNamed(options.table);
-    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    const auto adventure = OpenToRead(options.file);
     std::optional<std::string_view> order;
     if (!options.order.empty()) order = options.order;
     store::Cursor& cursor = adventure->OpenTable(table.number, options.fields, options.where, order);
@@ -51,7 +71,9 @@ int Dump(const Options& options) {
             const store::Field& field = cursor.Fields()[i];
             record[field.name] = JsonOf(cursor.Field(i), store::ClassOf(field.type));
         }
-        std::cout << record.dump(-1, ' ', false, Json::error_handler_t::replace) << "\n";
+        std::string line;
+        AppendEscaped(record.dump(-1, ' ', false, Json::error_handler_t::replace), line);
+        std::cout << line << "\n";
     }
     return kDone;
 }
@@ -65,12 +87,12 @@ void AddDumpVerb(CLI::App& app, Chosen& chosen) {
         "A binary field shows as {\"bytes\": N}. FILTER compares fields with values or each other by = <> "
         "< > <= >=\n"
         "and like, joined by and, or and parentheses: --where \"vocnum=5 or word like 'L%'\".");
-    verb->add_option("file", options->file, "The file, FILE.fbd")->required();
+    AddAdventureOption(*verb, options->file)->required();
     verb->add_option("table", options->table, "The table, by its name or number")->required();
     verb->add_option("--fields", options->fields, "Only these fields, a,b,...");
     verb->add_option("--where", options->where, "Only the records that match this filter");
     verb->add_option("--order", options->order, "In this order: fields, each optionally with desc");
-    verb->callback([options, &chosen] { chosen.body = [options] { return Dump(*options); }; });
+    Runs(*verb, chosen, options, Dump);
 }
 
 }  // namespace fabula::cli

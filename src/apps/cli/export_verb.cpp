@@ -1,10 +1,7 @@
 #include "authoring/verify.h"
+#include "cli/console.h"
 #include "cli/file_kind_option.h"
-#include "cli/installation.h"
-#include "cli/job_terminal.h"
-#include "cli/terminal_operator.h"
-#include "cli/verb.h"
-#include "interchange/jobs.h"
+#include "cli/verbs.h"
 
 namespace fabula::cli {
 namespace {
@@ -23,13 +20,10 @@ bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,
 
 int Export(const Options& options) {
     const interchange::FileKind& kind = WritableKind(options.kind);
-    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
-    TerminalOperator person;
-    const platform::SystemClock clock;
-    platform::NoEvents events;
-    JobTerminal observer(std::cerr, ErrorsGoToTerminal());
-    const interchange::JobResult result = interchange::ExportIt(
-        kind, *adventure, options.target, Verify, {person, clock, events, observer, DefaultDataFile()});
+    const auto adventure = OpenToRead(options.file);
+    Console console(std::cerr);
+    const interchange::JobResult result =
+        interchange::ExportIt(kind, *adventure, options.target, Verify, console.JobHost());
     return result.done ? kDone : kFailed;
 }
 
@@ -39,10 +33,10 @@ void AddExportVerb(CLI::App& app, Chosen& chosen) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = app.add_subcommand("export", "Writes an adventure as a source or an export file");
     verb->add_option("kind", options->kind, "What is written: " + WritableKinds())->required();
-    verb->add_option("file", options->file, "The adventure file, FILE.fbd")->required();
+    AddAdventureOption(*verb, options->file)->required();
     verb->add_option("target", options->target, "The file that is written; an existing one is replaced")
         ->required();
-    verb->callback([options, &chosen] { chosen.body = [options] { return Export(*options); }; });
+    Runs(*verb, chosen, options, Export);
 }
 
 }  // namespace fabula::cli

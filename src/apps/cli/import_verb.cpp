@@ -1,9 +1,6 @@
+#include "cli/console.h"
 #include "cli/file_kind_option.h"
-#include "cli/installation.h"
-#include "cli/job_terminal.h"
-#include "cli/terminal_operator.h"
-#include "cli/verb.h"
-#include "interchange/jobs.h"
+#include "cli/verbs.h"
 #include "platform/error.h"
 
 namespace fabula::cli {
@@ -21,13 +18,9 @@ int Import(const Options& options) {
     if (!options.force && std::filesystem::exists(options.file)) {
         throw Error("Could not create " + options.file + ": it exists already; --force replaces it.");
     }
-    TerminalOperator person;
-    const platform::SystemClock clock;
-    platform::NoEvents events;
-    JobTerminal observer(std::cerr, ErrorsGoToTerminal());
+    Console console(std::cerr);
     const interchange::JobResult result =
-        interchange::ImportIt(kind, options.source, options.file, options.force,
-                              {person, clock, events, observer, DefaultDataFile()});
+        interchange::ImportIt(kind, options.source, options.file, options.force, console.JobHost());
     return result.done ? kDone : kFailed;
 }
 
@@ -39,9 +32,9 @@ void AddImportVerb(CLI::App& app, Chosen& chosen) {
         app.add_subcommand("import", "Makes an adventure file from a source or an export file");
     verb->add_option("kind", options->kind, "What is read: " + ReadableKinds())->required();
     verb->add_option("source", options->source, "The file that is read")->required();
-    verb->add_option("file", options->file, "The adventure file, FILE.fbd")->required();
-    verb->add_flag("--force", options->force, "Replace a file that exists");
-    verb->callback([options, &chosen] { chosen.body = [options] { return Import(*options); }; });
+    AddAdventureOption(*verb, options->file)->required();
+    AddForceFlag(*verb, options->force);
+    Runs(*verb, chosen, options, Import);
 }
 
 }  // namespace fabula::cli

@@ -4,6 +4,8 @@
 
 #include <unistd.h>
 
+#include "text/safe_text.h"
+
 namespace fabula::cli {
 namespace {
 
@@ -30,12 +32,12 @@ bool JobTerminal::CancelWanted() {
 
 void JobTerminal::StatusAdded(std::string_view text) {
     ClearProgress();
-    stream_ << text;
+    stream_ << text::SafeLines(text);
 }
 
 void JobTerminal::ProgressLine(std::string_view text) {
     if (!showsProgress_) return;
-    std::cerr << "\r" << text << "\x1B[K" << std::flush;
+    std::cerr << "\r" << text::SafeLines(text) << "\x1B[K" << std::flush;
     progressShown_ = true;
 }
 

@@ -3,13 +3,19 @@
 
 #include <CLI/CLI.hpp>
 
-#include "cli/verb.h"
+#include "cli/verbs.h"
 #include "platform/error.h"
 #include "store/filter.h"
+#include "text/safe_text.h"
 
 namespace {
 
 using namespace fabula;
+
+int Fail(const std::exception& error, int status) {
+    std::cerr << "fabula: " << text::SafeLines(error.what()) << "\n";
+    return status;
+}
 
 int RunChosen(const cli::Chosen& chosen) {
     try {
@@ -18,14 +24,13 @@ int RunChosen(const cli::Chosen& chosen) {
         if (!std::cout) throw Error("Could not write the output.");
         return status;
     } catch (const cli::UsageError& error) {
-        std::cerr << "fabula: " << error.what() << "\n";
-        return cli::kWrongUsage;
+        return Fail(error, cli::kWrongUsage);
     } catch (const store::FilterError& error) {
-        std::cerr << "fabula: " << error.what() << "\n";
-        return cli::kWrongUsage;
+        return Fail(error, cli::kWrongUsage);
+    } catch (const std::bad_alloc&) {
+        return Fail(Error("There is not enough memory for this."), cli::kFailed);
     } catch (const std::exception& error) {
-        std::cerr << "fabula: " << error.what() << "\n";
-        return cli::kFailed;
+        return Fail(error, cli::kFailed);
     }
 }
 
@@ -36,17 +41,8 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "fabula " FABULA_VERSION);
     app.require_subcommand(1);
     cli::Chosen chosen;
-    cli::AddCheckVerb(app, chosen);
-    cli::AddExportVerb(app, chosen);
-    cli::AddImportVerb(app, chosen);
-    cli::AddVerifyVerb(app, chosen);
-    cli::AddNewVerb(app, chosen);
-    cli::AddTablesVerb(app, chosen);
-    cli::AddDumpVerb(app, chosen);
-    cli::AddDrawVerb(app, chosen);
-    cli::AddCharsetVerb(app, chosen);
-    cli::AddPlayVerb(app, chosen);
-    cli::AddTestVerb(app, chosen);
+    for (const auto add : cli::kVerbs)
+        add(app, chosen);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -1,10 +1,8 @@
+#include "cli/console.h"
 #include "cli/installation.h"
-#include "cli/terminal_operator.h"
-#include "cli/verb.h"
+#include "cli/verbs.h"
 #include "interchange/starter.h"
-#include "platform/clock.h"
 #include "platform/error.h"
-#include "platform/event_pump.h"
 #include "store/adventure.h"
 #include "store/create.h"
 
@@ -21,7 +19,7 @@ struct Options {
 };
 
 void AddStarterTo(const std::string& file) {
-    const auto adventure = store::Adventure::Open(file);
+    const auto adventure = OpenToChange(file);
     const std::string name = adventure->AdventureTypeLower() + ".ini";
     interchange::AddStarter(*adventure, DefaultDataFile().parent_path() / "starters" / name);
 }
@@ -33,11 +31,9 @@ int Create(const Options& options) {
     setup.ChooseGraphics(options.graphics);
     setup.ChooseCharSets(options.charSets);
     setup.ChooseType(*kind);
-    TerminalOperator terminal;
-    const platform::SystemClock clock;
-    platform::NoEvents events;
+    Console console(std::cerr);
     if (!store::CreateAdventure(options.force, options.file, setup,
-                                {terminal, clock, events, DefaultDataFile()})) {
+                                {console.Person(), console.Clock(), console.Events(), DefaultDataFile()})) {
         throw Error("Could not create " + options.file + ": it exists already; --force replaces it.");
     }
     if (options.starter) AddStarterTo(options.file);
@@ -49,15 +45,15 @@ int Create(const Options& options) {
 void AddNewVerb(CLI::App& app, Chosen& chosen) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = app.add_subcommand("new", "Creates an adventure file");
-    verb->add_option("file", options->file, "The file, FILE.fbd")->required();
+    AddAdventureOption(*verb, options->file)->required();
     verb->add_option("--type", options->type, "fabula, vel or marlo")->capture_default_str();
     verb->add_flag("--graphics", options->graphics, "The game has drawn pictures");
     verb->add_flag("--charsets", options->charSets,
                    "The game writes with character sets (marlo always does)");
     verb->add_flag("--starter", options->starter,
                    "With directions, the usual verbs and their process entries");
-    verb->add_flag("--force", options->force, "Replace a file that exists");
-    verb->callback([options, &chosen] { chosen.body = [options] { return Create(*options); }; });
+    AddForceFlag(*verb, options->force);
+    Runs(*verb, chosen, options, Create);
 }
 
 }  // namespace fabula::cli

@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-#include "cli/verb.h"
+#include "cli/verbs.h"
 #include "engine/trace_file.h"
 #include "platform/clock.h"
 #include "platform/error.h"
@@ -50,7 +50,7 @@ std::string TraceHeader(const Options& options) {
 }
 
 int Play(const Options& options) {
-    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    const auto adventure = OpenToRead(options.file);
     const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
     std::ofstream transcriptStream;
     std::optional<engine::Transcript> transcript;
@@ -88,7 +88,7 @@ void AddPlayVerb(CLI::App& app, Chosen& chosen) {
         "From a pipe or a file nothing is echoed, pauses pass at once, and an empty line stands for a\n"
         "time-out when the game waits with one. Before each line is read a \">\" stands at the head of a\n"
         "line as the last character of the output. The end of the input ends the game.");
-    verb->add_option("file", options->file, "The file, FILE.fbd")->required();
+    AddAdventureOption(*verb, options->file)->required();
     verb->add_option("--script", options->script, "Take commands from this file first");
     verb->add_option("--transcript", options->transcript, "Write all that is shown and typed to this file");
     verb->add_option("--trace", options->trace, "Write what the engine does to this file");
@@ -100,7 +100,7 @@ void AddPlayVerb(CLI::App& app, Chosen& chosen) {
                    "Let pauses and time-outs take their time in a pipe, too");
     verb->add_flag("--debug", options->debug,
                    "Lines that begin with \":\" look into the game: \":F38\", \":=5\"");
-    verb->callback([options, &chosen] { chosen.body = [options] { return Play(*options); }; });
+    Runs(*verb, chosen, options, Play);
 }
 
 }  // namespace fabula::cli

@@ -1,12 +1,16 @@
-#include "cli/verb.h"
+#include "cli/verbs.h"
 #include "store/adventure.h"
 #include "text/format.h"
 
 namespace fabula::cli {
 namespace {
 
-int ShowTables(const std::string& file) {
-    const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadOnly);
+struct Options {
+    std::string file;
+};
+
+int ShowTables(const Options& options) {
+    const auto adventure = OpenToRead(options.file);
     for (int number = 1; number <= store::kHighestTable; ++number) {
         const auto tableNum = static_cast<store::TableNum>(number);
         const store::TableEntry* table = store::FindTable(tableNum);
@@ -22,11 +26,11 @@ int ShowTables(const std::string& file) {
 }  // namespace
 
 void AddTablesVerb(CLI::App& app, Chosen& chosen) {
-    const auto file = std::make_shared<std::string>();
+    const auto options = std::make_shared<Options>();
     CLI::App* verb =
         app.add_subcommand("tables", "Shows the tables of an adventure, with their numbers and sizes");
-    verb->add_option("file", *file, "The file, FILE.fbd")->required();
-    verb->callback([file, &chosen] { chosen.body = [file] { return ShowTables(*file); }; });
+    AddAdventureOption(*verb, options->file)->required();
+    Runs(*verb, chosen, options, ShowTables);
 }
 
 }  // namespace fabula::cli

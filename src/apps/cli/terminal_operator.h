@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "platform/operator.h"
+#include "text/safe_text.h"
 
 namespace fabula::cli {
 
@@ -10,7 +11,9 @@ namespace fabula::cli {
 /// by no, and verbs have options for those who mean yes.
 class TerminalOperator final : public platform::Operator {
   public:
-    void Tell(std::string_view text, std::string_view) override { std::cerr << text << "\n"; }
+    void Tell(std::string_view text, std::string_view) override {
+        std::cerr << text::SafeLines(text) << "\n";
+    }
     bool Confirm(std::string_view, std::string_view) override { return false; }
 };
 

@@ -2,13 +2,14 @@
 #include <iostream>
 #include <sstream>
 
-#include "cli/verb.h"
+#include "cli/verbs.h"
 #include "engine/script.h"
 #include "platform/error.h"
 #include "store/file_copy.h"
 #include "terminal/line_reader.h"
 #include "terminal/player_files.h"
 #include "terminal/session.h"
+#include "text/safe_text.h"
 #include "text/unified_diff.h"
 
 namespace fabula::cli {
@@ -45,7 +46,7 @@ std::unique_ptr<terminal::LineSource> LinesOf(const std::filesystem::path& file)
 }
 
 std::string PlayScript(const Options& options) {
-    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    const auto adventure = OpenToRead(options.file);
     const auto script = LinesOf(options.script);
     const terminal::ScratchFiles files(std::filesystem::path(options.script).parent_path());
     std::ostringstream played;
@@ -90,7 +91,7 @@ int Test(const Options& options) {
     }
     const std::string difference =
         text::UnifiedDiff(ReadExpected(expectedFile), played, expectedFile.string(), "played");
-    std::cout << difference;
+    std::cout << text::SafeLines(difference);
     return difference.empty() ? kDone : kFailed;
 }
 
@@ -105,14 +106,14 @@ void AddTestVerb(CLI::App& app, Chosen& chosen) {
         "script that a game has recorded will do, of which the lines that begin with >> are played. Files "
         "that\n"
         "the game saves live as long as the test.");
-    verb->add_option("file", options->file, "The file, FILE.fbd")->required();
+    AddAdventureOption(*verb, options->file)->required();
     verb->add_option("script", options->script, "The commands")->required();
     verb->add_option("--transcript", options->transcript,
                      "The expected transcript; else SCRIPT with the extension .transcript");
     verb->add_option("--seed", options->seed, "Draw the random numbers of this seed")
         ->capture_default_str();
     verb->add_flag("--update", options->update, "Write the transcript instead of comparing it");
-    verb->callback([options, &chosen] { chosen.body = [options] { return Test(*options); }; });
+    Runs(*verb, chosen, options, Test);
 }
 
 }  // namespace fabula::cli

@@ -7,6 +7,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include "store/adventure.h"
+
 namespace fabula::cli {
 
 /// What a verb was asked for, or told, that makes no sense. Ends the program with kWrongUsage.
@@ -20,27 +22,28 @@ inline constexpr int kDone = 0;
 inline constexpr int kFailed = 1;
 inline constexpr int kWrongUsage = 2;
 
-/// Adds one verb to the command line. `main` runs the verb that was chosen after the line has been parsed;
-/// it returns the status to end with. A failure is thrown: UsageError, or fabula::Error with one sentence.
+/// Where the verb that was chosen leaves what is to be run. The program runs it after the line has been
+/// parsed; it returns the status to end with. A failure is thrown: UsageError, or fabula::Error with one
+/// sentence.
 ///
 /// Data goes to standard output, everything else to standard error.
-using VerbBody = std::function<int()>;
-
-/// Where a verb leaves what is to be run.
 struct Chosen {
-    VerbBody body;
+    std::function<int()> body;
 };
 
-void AddCheckVerb(CLI::App& app, Chosen& chosen);
-void AddExportVerb(CLI::App& app, Chosen& chosen);
-void AddImportVerb(CLI::App& app, Chosen& chosen);
-void AddVerifyVerb(CLI::App& app, Chosen& chosen);
-void AddNewVerb(CLI::App& app, Chosen& chosen);
-void AddTablesVerb(CLI::App& app, Chosen& chosen);
-void AddDumpVerb(CLI::App& app, Chosen& chosen);
-void AddDrawVerb(CLI::App& app, Chosen& chosen);
-void AddCharsetVerb(CLI::App& app, Chosen& chosen);
-void AddPlayVerb(CLI::App& app, Chosen& chosen);
-void AddTestVerb(CLI::App& app, Chosen& chosen);
+/// What stands behind the name of a verb or of a part of it: `run` with `options`.
+template <typename Options>
+void Runs(CLI::App& verb, Chosen& chosen, const std::shared_ptr<Options>& options,
+          int (*run)(const Options&)) {
+    verb.callback([options, run, &chosen] { chosen.body = [options, run] { return run(*options); }; });
+}
+
+/// The options that verbs have in common.
+CLI::Option* AddAdventureOption(CLI::App& verb, std::string& file);
+CLI::Option* AddForceFlag(CLI::App& verb, bool& force);
+
+/// The adventure that a verb looks into, or changes. They throw fabula::Error when it can't be opened so.
+std::unique_ptr<store::Adventure> OpenToRead(const std::string& file);
+std::unique_ptr<store::Adventure> OpenToChange(const std::string& file);
 
 }  // namespace fabula::cli

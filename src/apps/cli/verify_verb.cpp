@@ -1,6 +1,6 @@
 #include "authoring/verify.h"
 #include "cli/job_terminal.h"
-#include "cli/verb.h"
+#include "cli/verbs.h"
 
 namespace fabula::cli {
 namespace {
@@ -18,7 +18,7 @@ int Verify(const Options& options) {
             throw UsageError("--for must be unvel, pcvel, fabula or ace, not '" + options.target + "'");
         target = *named;
     }
-    const auto adventure = store::Adventure::Open(options.file, store::OpenMode::ReadOnly);
+    const auto adventure = OpenToRead(options.file);
     JobTerminal observer(std::cout, ErrorsGoToTerminal());
     interchange::JobStatus status(observer);
     return authoring::VerifyAdventure(*adventure, target, status) ? kDone : kFailed;
@@ -29,9 +29,9 @@ int Verify(const Options& options) {
 void AddVerifyVerb(CLI::App& app, Chosen& chosen) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = app.add_subcommand("verify", "Checks an adventure against the rules of its type");
-    verb->add_option("file", options->file, "The adventure file, FILE.fbd")->required();
+    AddAdventureOption(*verb, options->file)->required();
     verb->add_option("--for", options->target, "For an export: unvel, pcvel, fabula or ace");
-    verb->callback([options, &chosen] { chosen.body = [options] { return Verify(*options); }; });
+    Runs(*verb, chosen, options, Verify);
 }
 
 }  // namespace fabula::cli

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "cli/verb.h"
+
+namespace fabula::cli {
+
+// One file for each: it says what the verb takes, and runs it.
+void AddCharsetVerb(CLI::App& app, Chosen& chosen);
+void AddCheckVerb(CLI::App& app, Chosen& chosen);
+void AddDrawVerb(CLI::App& app, Chosen& chosen);
+void AddDumpVerb(CLI::App& app, Chosen& chosen);
+void AddExportVerb(CLI::App& app, Chosen& chosen);
+void AddImportVerb(CLI::App& app, Chosen& chosen);
+void AddNewVerb(CLI::App& app, Chosen& chosen);
+void AddPlayVerb(CLI::App& app, Chosen& chosen);
+void AddTablesVerb(CLI::App& app, Chosen& chosen);
+void AddTestVerb(CLI::App& app, Chosen& chosen);
+void AddVerifyVerb(CLI::App& app, Chosen& chosen);
+
+/// In the order in which --help shows them.
+inline constexpr void (*kVerbs[])(CLI::App& app, Chosen& chosen) = {
+    AddCheckVerb, AddExportVerb, AddImportVerb,  AddVerifyVerb, AddNewVerb,  AddTablesVerb,
+    AddDumpVerb,  AddDrawVerb,   AddCharsetVerb, AddPlayVerb,   AddTestVerb,
+};
+
+}  // namespace fabula::cli
