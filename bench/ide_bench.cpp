@@ -5,7 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "authoring/frm_vel_ide_main.h"
+#include "authoring/desk/main_screen.h"
 #include "bench_games.h"
 #include "platform/scripted_dialogs.h"
 #include "support/temp_folder.h"
@@ -24,7 +24,7 @@ class Tool {
         paths_.versionFolders = {folder_ / "versions"};
         bench::BuildLargeGame(File());
         main.OpenFile(File());
-        if (main.GetState() != frmVelIDEMain::State::Open)
+        if (main.GetState() != MainScreen::State::Open)
             throw std::runtime_error("the large adventure was not opened");
     }
 
@@ -39,7 +39,7 @@ class Tool {
     IdePaths paths_;
 
   public:
-    frmVelIDEMain main{{dialogs_, settings_, clock_, events_}, paths_};
+    MainScreen main{{dialogs_, settings_, clock_, events_}, paths_};
 };
 
 Tool& TheTool() {
@@ -72,7 +72,7 @@ BENCHMARK(OpenInTheTool)->Unit(benchmark::kMillisecond)->MinTime(1)->UseRealTime
 
 /// Showing another table, its first screen included.
 void SwitchTables(benchmark::State& state, const TableView& view) {
-    frmVelIDEMain& main = TheTool().main;
+    MainScreen& main = TheTool().main;
     for (auto _ : state) {
         main.Show(view);
         ReadScreen(main.Grid(), 0);
@@ -88,7 +88,7 @@ BENCHMARK_CAPTURE(SwitchTables, process, TableView{TableNum::ProcessTables, 0})
 
 /// Find of a text that no entry of the process table has.
 void FindInTheProcessTable(benchmark::State& state) {
-    frmVelIDEMain& main = TheTool().main;
+    MainScreen& main = TheTool().main;
     main.Show({TableNum::ProcessTables, 0});
     FindBox& finder = main.Finder();
     for (auto _ : state) {
@@ -100,7 +100,7 @@ BENCHMARK(FindInTheProcessTable)->Unit(benchmark::kMillisecond);
 
 /// One more letter of a filter.
 void FilterTheProcessTable(benchmark::State& state) {
-    frmVelIDEMain& main = TheTool().main;
+    MainScreen& main = TheTool().main;
     main.Show({TableNum::ProcessTables, 0});
     for (auto _ : state) {
         main.SetFilter("message");
@@ -112,7 +112,7 @@ BENCHMARK(FilterTheProcessTable)->Unit(benchmark::kMillisecond);
 
 /// A click on the widest column.
 void SortTheProcessTable(benchmark::State& state) {
-    frmVelIDEMain& main = TheTool().main;
+    MainScreen& main = TheTool().main;
     main.Show({TableNum::ProcessTables, 0});
     for (auto _ : state)
         main.ClickColumn(3);
@@ -121,7 +121,7 @@ BENCHMARK(SortTheProcessTable)->Unit(benchmark::kMillisecond);
 
 /// Scrolling by a screen.
 void ScrollTheProcessTable(benchmark::State& state) {
-    frmVelIDEMain& main = TheTool().main;
+    MainScreen& main = TheTool().main;
     main.Show({TableNum::ProcessTables, 0});
     int row = 0;
     for (auto _ : state) {
@@ -133,7 +133,7 @@ BENCHMARK(ScrollTheProcessTable)->Unit(benchmark::kMicrosecond);
 
 /// What happens when a screen has closed: everything that is shown is read again.
 void ShowWhatAScreenStored(benchmark::State& state) {
-    frmVelIDEMain& main = TheTool().main;
+    MainScreen& main = TheTool().main;
     main.Show({TableNum::ProcessTables, 0});
     main.SelectRow(2000);
     const auto request = main.Run(Command::Edit);

@@ -11,12 +11,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include "authoring/frm_vel_cond_act.h"
-#include "authoring/frm_vel_location.h"
+#include "authoring/screens/location_screen.h"
+#include "authoring/screens/process_entry_screen.h"
 #include "bench_games.h"
-#include "ide/location_dialog.h"
-#include "ide/main_window.h"
-#include "ide/process_entry_dialog.h"
+#include "ide/dialogs/location_dialog.h"
+#include "ide/dialogs/process_entry_dialog.h"
+#include "ide/window/main_window.h"
 #include "platform/manual_timers.h"
 #include "platform/random_source.h"
 #include "platform/scripted_dialogs.h"
@@ -38,7 +38,7 @@ class Tool {
 
     std::filesystem::path File() const { return folder_ / "large.fbd"; }
     ide::MainWindow& Window() { return *window_; }
-    authoring::frmVelIDEMain& Logic() { return window_->Logic(); }
+    authoring::MainScreen& Logic() { return window_->Logic(); }
     QAction& Action(const char* name) { return *window_->findChild<QAction*>(name); }
 
     /// A new window, the adventure opened in it, and its first picture.
@@ -49,7 +49,7 @@ class Tool {
         window_->show();
         window_->Start(File());
         Draw();
-        if (Logic().GetState() != authoring::frmVelIDEMain::State::Open)
+        if (Logic().GetState() != authoring::MainScreen::State::Open)
             throw std::runtime_error("the large adventure was not opened");
     }
     void Close() { window_.reset(); }
@@ -169,7 +169,7 @@ void ProcessEditor(benchmark::State& state) {
     Tool tool;
     const auto request = MiddleOf(tool, "Response (P0)");
     for (auto _ : state) {
-        authoring::frmVelCondAct screen(tool.Logic().CurrentSession(), request);
+        authoring::ProcessEntryScreen screen(tool.Logic().CurrentContext(), request);
         ide::ProcessEntryDialog dialog(screen, &tool.Window());
         DrawDialog(dialog);
     }
@@ -180,7 +180,7 @@ void LocationEditor(benchmark::State& state) {
     Tool tool;
     const auto request = MiddleOf(tool, "Locations");
     for (auto _ : state) {
-        authoring::frmVelLocation screen(tool.Logic().CurrentSession(), request.key);
+        authoring::LocationScreen screen(tool.Logic().CurrentContext(), request.key);
         ide::LocationDialog dialog(screen, &tool.Window());
         DrawDialog(dialog);
     }
@@ -189,10 +189,10 @@ void LocationEditor(benchmark::State& state) {
 /// A letter typed into the line of a process entry, which offers the messages that fit.
 void TypeAMessage(benchmark::State& state) {
     Tool tool;
-    authoring::frmVelCondAct screen(tool.Logic().CurrentSession(), MiddleOf(tool, "Response (P0)"));
+    authoring::ProcessEntryScreen screen(tool.Logic().CurrentContext(), MiddleOf(tool, "Response (P0)"));
     ide::ProcessEntryDialog dialog(screen, &tool.Window());
     DrawDialog(dialog);
-    auto* line = dialog.findChild<QPlainTextEdit*>("txtAllCAs");
+    auto* line = dialog.findChild<QPlainTextEdit*>("line");
     for (auto _ : state) {
         state.PauseTiming();
         line->setPlainText("MESSAGE");

@@ -15,9 +15,9 @@
 #include "platform/event_pump.h"
 #include "platform/manual_timers.h"
 #include "platform/random_source.h"
-#include "player/game_screen.h"
-#include "player/session.h"
-#include "player/vel_eng_main.h"
+#include "player/panes/game_screen.h"
+#include "player/play/session.h"
+#include "player/window/player_window.h"
 #include "qt/qt_dialogs.h"
 #include "qt/strings.h"
 #include "store/create.h"
@@ -37,7 +37,7 @@ class Played {
     /// A new adventure.
     void LoadNew(bool characterSets) {
         const auto file = qt::PathFromQt(folder_.filePath("game.fbd"));
-        store::frmSetup setup;
+        store::AdventureSetup setup;
         setup.ChooseCharSets(characterSets);
         const platform::FixedClock clock({2026, 1, 1, 0, 0, 0});
         platform::NoEvents events;
@@ -67,7 +67,7 @@ class Played {
     platform::SeededRandom random_{1};
     engine::SilentPlayer sound_;
     qt::QtDialogs dialogs_;
-    player::frmVelEngMain window_{
+    player::PlayerWindow window_{
         {timers_, dialogs_, sound_, random_, settings_, qt::PathFromQt(folder_.filePath("data"))}};
 };
 

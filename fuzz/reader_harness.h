@@ -27,7 +27,7 @@ class ReaderHarness {
           folder_(std::filesystem::temp_directory_path() / ("fuzz-" + std::to_string(getpid()))),
           source_(folder_ / "source.txt") {
         std::filesystem::create_directories(folder_);
-        store::frmSetup setup;
+        store::AdventureSetup setup;
         setup.ChooseType(type);
         platform::ScriptedOperator person;
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});

@@ -26,7 +26,7 @@ class GameHarness {
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
         const auto data = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
-        store::CreateAdventure(true, folder_ / "game.fbd", store::frmSetup(),
+        store::CreateAdventure(true, folder_ / "game.fbd", store::AdventureSetup(),
                                {person_, clock, events, data});
         adventure_ = store::Adventure::Open(folder_ / "game.fbd", store::OpenMode::ReadOnly);
         engine_ = std::make_unique<engine::Engine>(

@@ -59,8 +59,8 @@ struct Picture {
 enum class StatusField {
     Script,    ///< `Status1`: "Script Off" and the like
     Sound,     ///< `Status2`: "Sound ON", "Sound OFF"
-    Command,   ///< `lblCommand`: the words of the sentence, while tracing
-    Location,  ///< `lblLocation`: "Location: 5", while tracing
+    Command,   ///< `command`: the words of the sentence, while tracing
+    Location,  ///< `location`: "Location: 5", while tracing
 };
 
 /// A question for the name of a file: SAVE, LOAD and SCRIPT.

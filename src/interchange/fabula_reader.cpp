@@ -301,8 +301,8 @@ class Reader {
 
 }  // namespace
 
-store::frmSetup SetupOfExport(const std::filesystem::path& source) {
-    store::frmSetup setup;
+store::AdventureSetup SetupOfExport(const std::filesystem::path& source) {
+    store::AdventureSetup setup;
     SourceFile file(source);
     std::string line;
     file.Next(line);

@@ -10,7 +10,7 @@ namespace fabula::interchange {
 /// What kind of adventure an export file holds: type, graphics and character sets as its settings say,
 /// which stand at its head. Where they don't, those of a new adventure. Throws fabula::Error when the file
 /// can't be read.
-store::frmSetup SetupOfExport(const std::filesystem::path& source);
+store::AdventureSetup SetupOfExport(const std::filesystem::path& source);
 
 /// Reads an export file into the new adventure. Records are found by their keys: those of the default data
 /// that the file names are written over, the others stay. Gives false, with the reason in the status, when

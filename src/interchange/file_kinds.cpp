@@ -11,13 +11,13 @@ namespace {
 
 using store::AdventureKind;
 
-store::frmSetup SetupOfPcSource(const std::filesystem::path&) {
-    store::frmSetup setup;
+store::AdventureSetup SetupOfPcSource(const std::filesystem::path&) {
+    store::AdventureSetup setup;
     setup.ChooseType(AdventureKind::Vel);
     return setup;
 }
 
-store::frmSetup SetupOfAceSource(const std::filesystem::path&) {
+store::AdventureSetup SetupOfAceSource(const std::filesystem::path&) {
     return {};
 }
 

@@ -35,9 +35,10 @@ struct FileKind {
     std::string_view extension;  ///< of files that it writes: ".sce"
     DialogText importDialog;
     DialogText exportDialog;
-    store::frmSetup (*setup)(const std::filesystem::path& source);  ///< of the new adventure for a source
-    bool (*read)(ImportContext& context);                           ///< nullptr when it can't be read
-    bool (*write)(ExportContext& context);                          ///< nullptr when it can't be written
+    store::AdventureSetup (*setup)(
+        const std::filesystem::path& source);  ///< of the new adventure for a source
+    bool (*read)(ImportContext& context);      ///< nullptr when it can't be read
+    bool (*write)(ExportContext& context);     ///< nullptr when it can't be written
     ImportedSettings settings;
 
     bool CanRead() const { return read != nullptr; }

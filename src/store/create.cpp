@@ -57,7 +57,7 @@ class RecordWriter {
 /// Fills one new file, table by table.
 class Creator {
   public:
-    Creator(Connection& connection, const DefaultData& data, const frmSetup& setup,
+    Creator(Connection& connection, const DefaultData& data, const AdventureSetup& setup,
             const CreationHost& host, std::filesystem::path target)
         : connection_(connection),
           data_(data),
@@ -186,14 +186,14 @@ class Creator {
 
     Connection& connection_;
     const DefaultData& data_;
-    const frmSetup& setup_;
+    const AdventureSetup& setup_;
     const CreationHost& host_;
     std::filesystem::path target_;
     RecordWriter writer_;
     std::int64_t fieldRecords_ = 0;
 };
 
-void WriteNewFile(const std::filesystem::path& file, const DefaultData& data, const frmSetup& setup,
+void WriteNewFile(const std::filesystem::path& file, const DefaultData& data, const AdventureSetup& setup,
                   const CreationHost& host, const std::filesystem::path& target) {
     Connection connection(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     // The file is flushed as a whole before it takes its place, so its own transaction need not be.
@@ -206,7 +206,7 @@ void WriteNewFile(const std::filesystem::path& file, const DefaultData& data, co
 
 }  // namespace
 
-bool CreateAdventure(bool replace, const std::filesystem::path& path, const frmSetup& setup,
+bool CreateAdventure(bool replace, const std::filesystem::path& path, const AdventureSetup& setup,
                      const CreationHost& host) {
     std::error_code error;  // what can't be looked at fails when the file is made
     const auto target = std::filesystem::absolute(path, error);

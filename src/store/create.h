@@ -24,7 +24,7 @@ struct CreationHost {
 ///
 /// Throws fabula::Error when the default data is incomplete (with section and line) or a file can't be
 /// written; no half-made file is left.
-bool CreateAdventure(bool replace, const std::filesystem::path& path, const frmSetup& setup,
+bool CreateAdventure(bool replace, const std::filesystem::path& path, const AdventureSetup& setup,
                      const CreationHost& host);
 
 }  // namespace fabula::store

@@ -16,7 +16,7 @@ constexpr std::string_view kExplanations[] = {
 
 }  // namespace
 
-frmSetup::frmSetup(Adventure& adventure) {
+AdventureSetup::AdventureSetup(Adventure& adventure) {
     const Cursor& settings =
         adventure.OpenTable(TableNum::Adventure, "adventype, graphics, charsets, unmarloed");
     graphics_ = settings.Truth("graphics");
@@ -26,27 +26,27 @@ frmSetup::frmSetup(Adventure& adventure) {
     ChooseType(decompiled ? AdventureKind::Marlo : stored.value_or(AdventureKind::Fabula));
 }
 
-void frmSetup::ChooseType(AdventureKind kind) {
+void AdventureSetup::ChooseType(AdventureKind kind) {
     type_ = kind;
     if (kind == AdventureKind::Marlo) charSets_ = true;
 }
 
-bool frmSetup::ChooseCharSets(bool on) {
+bool AdventureSetup::ChooseCharSets(bool on) {
     if (type_ == AdventureKind::Marlo && !on) return false;
     charSets_ = on;
     return true;
 }
 
-std::string_view frmSetup::ExplainType(AdventureKind kind) {
+std::string_view AdventureSetup::ExplainType(AdventureKind kind) {
     return kExplanations[static_cast<std::size_t>(kind)];
 }
 
-std::string_view frmSetup::ExplainGraphics(bool on) {
+std::string_view AdventureSetup::ExplainGraphics(bool on) {
     return on ? "Graphic: Graphics Editor is included && used in game."
               : "Non-Graphic: Graphic Editor is NOT included.";
 }
 
-std::string_view frmSetup::ExplainCharSets(bool on) {
+std::string_view AdventureSetup::ExplainCharSets(bool on) {
     return on ? "Yes - Marlo && VEL character sets used" : "No - Windows Fonts used (Saves memory)";
 }
 

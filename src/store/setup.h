@@ -9,15 +9,15 @@ namespace fabula::store {
 class Adventure;
 
 /// The screen "Choose Type of Adventure" without its window: three choices and the rules between them.
-class frmSetup {
+class AdventureSetup {
   public:
     static constexpr std::string_view kTitle = "Choose Type of Adventure";
 
     /// For a new adventure: type Fabula, no graphics, the system's fonts.
-    frmSetup() = default;
+    AdventureSetup() = default;
     /// For an existing one: what its settings say. A type that is not known yet is Marlo when the game came
     /// through a decompiler, else Fabula.
-    explicit frmSetup(Adventure& adventure);
+    explicit AdventureSetup(Adventure& adventure);
 
     /// Marlo always uses character sets.
     void ChooseType(AdventureKind kind);

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "authoring/desk.h"
-#include "authoring/frm_vel_cond_act.h"
+#include "authoring/screens/process_entry_screen.h"
 
 namespace fabula::authoring {
 
@@ -15,7 +15,7 @@ inline const std::pair<std::string, int> kAny{"_", 255};
 
 inline ScreenRequest New(const test::Desk& desk) {
     return {.screen = Screen::ProcessEntry,
-            .key = {.key = desk.session.nextEntry, .isNew = true},
+            .key = {.key = desk.context.nextEntry, .isNew = true},
             .table = store::TableNum::ProcessTables};
 }
 
@@ -35,7 +35,7 @@ class CondActScreen {
         desk.AddWord(502, "LAMP", 50, 2);
         desk.AddWord(503, "LIGHT", 30, 0);
         desk.AddWord(504, "LIGHT", 80, 2);
-        ReadNextKeys(desk.session);
+        ReadNextKeys(desk.context);
     }
 
     std::vector<std::string> Entries() {
@@ -48,13 +48,13 @@ class CondActScreen {
 
     /// What the box says when a line is left; "" for none.
     std::string Left(const std::string& line) {
-        frmVelCondAct screen(desk.session, New(desk));
-        screen.txtAllCAs = line;
+        ProcessEntryScreen screen(desk.context, New(desk));
+        screen.line = line;
         const std::size_t before = desk.dialogs.Boxes().size();
-        const bool valid = screen.LeaveTxtAllCAs();
+        const bool valid = screen.LeaveLine();
         EXPECT_EQ(valid, desk.dialogs.Boxes().size() == before);
         if (valid) return "";
-        EXPECT_EQ(screen.Refused(), "txtAllCAs");
+        EXPECT_EQ(screen.Refused(), "line");
         EXPECT_EQ(Title(), "Error");
         return Box();
     }

@@ -14,7 +14,7 @@ namespace {
 using store::TableNum;
 
 std::filesystem::path Made(const std::filesystem::path& file, store::AdventureKind kind, bool graphics) {
-    store::frmSetup setup;
+    store::AdventureSetup setup;
     setup.ChooseType(kind);
     setup.ChooseGraphics(graphics);
     MakeAdventure(file, setup);
@@ -34,7 +34,7 @@ std::string RowText(const store::Cursor& cursor) {
 
 Desk::Desk(store::AdventureKind kind, bool graphics)
     : document(Made(folder_ / "game.fbd", kind, graphics)) {
-    authoring::ReadNextKeys(session);
+    authoring::ReadNextKeys(context);
 }
 
 void Desk::Add(TableNum table, std::initializer_list<std::pair<std::string_view, text::Value>> fields) {

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "authoring/document.h"
-#include "authoring/session.h"
+#include "authoring/document/document.h"
+#include "authoring/document/screen_context.h"
 #include "platform/scripted_dialogs.h"
 #include "store/setup.h"
 #include "support/temp_folder.h"
@@ -58,7 +58,7 @@ class Desk {
   public:
     platform::ScriptedDialogs dialogs;
     authoring::Document document;
-    authoring::Session session{document, dialogs};
+    authoring::ScreenContext context{document, dialogs};
 };
 
 }  // namespace fabula::test

@@ -9,13 +9,13 @@ using authoring::ScreenRequest;
 using store::TableNum;
 
 void StandOn(Desk& desk, TableNum table, int key) {
-    desk.session.currentTable = table;
-    desk.session.currentEntry = key;
+    desk.context.currentTable = table;
+    desk.context.currentEntry = key;
 }
 
 std::optional<int> KeyOfNew(Desk& desk, TableNum table) {
-    desk.session.currentTable = table;
-    const std::optional<ScreenRequest> request = Entries(desk.session).AddEntry();
+    desk.context.currentTable = table;
+    const std::optional<ScreenRequest> request = Entries(desk.context).AddEntry();
     if (!request) return std::nullopt;
     EXPECT_TRUE(request->key.isNew);
     EXPECT_EQ(request->table, table);
@@ -24,12 +24,12 @@ std::optional<int> KeyOfNew(Desk& desk, TableNum table) {
 
 std::optional<ScreenRequest> Edit(Desk& desk, TableNum table, int key) {
     StandOn(desk, table, key);
-    return Entries(desk.session).EditEntry();
+    return Entries(desk.context).EditEntry();
 }
 
 bool Delete(Desk& desk, TableNum table, int key) {
     StandOn(desk, table, key);
-    return Entries(desk.session).DeleteEntry();
+    return Entries(desk.context).DeleteEntry();
 }
 
 void Store(Desk& desk, const ScreenRequest& request, const std::string& name) {

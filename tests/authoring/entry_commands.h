@@ -4,7 +4,7 @@
 #include <string>
 
 #include "authoring/desk.h"
-#include "authoring/entries.h"
+#include "authoring/entries/entries.h"
 
 namespace fabula::test {
 

@@ -1,4 +1,4 @@
-#include "authoring/commands.h"
+#include "authoring/desk/commands.h"
 
 #include <string>
 #include <string_view>

@@ -62,24 +62,25 @@ class Create : public testing::Test {
         lines_.erase(begin, std::find(begin, lines_.end(), "::END") + 1);
     }
 
-    static frmSetup SetupFor(AdventureKind kind) {
-        frmSetup setup;
+    static AdventureSetup SetupFor(AdventureKind kind) {
+        AdventureSetup setup;
         setup.ChooseType(kind);
         return setup;
     }
 
-    bool MakeWith(const std::filesystem::path& data, const frmSetup& setup = {}, bool replace = false) {
+    bool MakeWith(const std::filesystem::path& data, const AdventureSetup& setup = {},
+                  bool replace = false) {
         const platform::FixedClock clock({2026, 3, 4, 5, 6, 7});
         platform::NoEvents events;
         return CreateAdventure(replace, file_, setup, {person_, clock, events, data});
     }
-    bool Make(const frmSetup& setup = {}, bool replace = false) {
+    bool Make(const AdventureSetup& setup = {}, bool replace = false) {
         WriteData();
         return MakeWith(DataFile(), setup, replace);
     }
 
     /// What creation says of the data, without the part that names the file.
-    std::string ErrorOf(const frmSetup& setup = {}) {
+    std::string ErrorOf(const AdventureSetup& setup = {}) {
         const std::string start = "The default data " + DataFile().string() + " ";
         try {
             Make(setup);

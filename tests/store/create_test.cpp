@@ -19,7 +19,7 @@ TEST_F(Create, MakesAFileThatOpens) {
 }
 
 TEST_F(Create, SetsTheSettingsThatHaveNoColumn) {
-    frmSetup setup;
+    AdventureSetup setup;
     setup.ChooseGraphics(true);
     MakeWith(ProjectData(), setup);
     const auto adventure = Open();

@@ -20,14 +20,14 @@ void SetSettings(Adventure& adventure, const char* type, int graphics, int charS
 }
 
 TEST(Setup, StartsWithFabulaWithoutGraphicsAndWithTheSystemsFonts) {
-    const frmSetup setup;
+    const AdventureSetup setup;
     EXPECT_EQ(setup.Type(), AdventureKind::Fabula);
     EXPECT_FALSE(setup.Graphics());
     EXPECT_FALSE(setup.CharSets());
 }
 
 TEST(Setup, ChoosingMarloTurnsCharacterSetsOnForGood) {
-    frmSetup setup;
+    AdventureSetup setup;
     setup.ChooseType(AdventureKind::Marlo);
     EXPECT_TRUE(setup.CharSets());
     EXPECT_FALSE(setup.ChooseCharSets(false));
@@ -35,7 +35,7 @@ TEST(Setup, ChoosingMarloTurnsCharacterSetsOnForGood) {
 }
 
 TEST(Setup, TheOtherTypesChooseFreely) {
-    frmSetup setup;
+    AdventureSetup setup;
     setup.ChooseType(AdventureKind::Vel);
     EXPECT_TRUE(setup.ChooseCharSets(true));
     EXPECT_TRUE(setup.CharSets());
@@ -48,7 +48,7 @@ TEST(Setup, TheOtherTypesChooseFreely) {
 TEST(Setup, OpensOnWhatAnExistingFileHolds) {
     OpenedAdventure adventure;
     SetSettings(*adventure, "VEL", 1, 1, 0);
-    const frmSetup setup(*adventure);
+    const AdventureSetup setup(*adventure);
     EXPECT_EQ(setup.Type(), AdventureKind::Vel);
     EXPECT_TRUE(setup.Graphics());
     EXPECT_TRUE(setup.CharSets());
@@ -57,7 +57,7 @@ TEST(Setup, OpensOnWhatAnExistingFileHolds) {
 TEST(Setup, AGameFromADecompilerIsMarlo) {
     OpenedAdventure adventure;
     SetSettings(*adventure, "VEL", 0, 0, 1);
-    const frmSetup setup(*adventure);
+    const AdventureSetup setup(*adventure);
     EXPECT_EQ(setup.Type(), AdventureKind::Marlo);
     EXPECT_TRUE(setup.CharSets());
 }
@@ -65,26 +65,27 @@ TEST(Setup, AGameFromADecompilerIsMarlo) {
 TEST(Setup, AFileNotYetClassifiedIsMarloFromADecompilerAndElseFabula) {
     OpenedAdventure adventure;
     SetSettings(*adventure, "Unknwn", 0, 0, 0);
-    EXPECT_EQ(frmSetup(*adventure).Type(), AdventureKind::Fabula);
+    EXPECT_EQ(AdventureSetup(*adventure).Type(), AdventureKind::Fabula);
     SetSettings(*adventure, "Unknwn", 0, 0, 5);
-    EXPECT_EQ(frmSetup(*adventure).Type(), AdventureKind::Marlo);
+    EXPECT_EQ(AdventureSetup(*adventure).Type(), AdventureKind::Marlo);
 }
 
 TEST(Setup, ExplainsEveryChoiceInTheSystemsWords) {
-    EXPECT_EQ(frmSetup::kTitle, "Choose Type of Adventure");
-    EXPECT_EQ(frmSetup::ExplainType(AdventureKind::Fabula),
+    EXPECT_EQ(AdventureSetup::kTitle, "Choose Type of Adventure");
+    EXPECT_EQ(AdventureSetup::ExplainType(AdventureKind::Fabula),
               "Fabula: Takes all Fabula constructs, including extra Conditions && Actions.");
     EXPECT_EQ(
-        frmSetup::ExplainType(AdventureKind::Vel),
+        AdventureSetup::ExplainType(AdventureKind::Vel),
         "VEL: Only original VEL constructs (Conditions, Actions, && Graphics Commands) are available.");
     EXPECT_EQ(
-        frmSetup::ExplainType(AdventureKind::Marlo),
+        AdventureSetup::ExplainType(AdventureKind::Marlo),
         "Marlo: Only original Marlo/Mender/Limner constructs are available. Graphics Editor is included "
         "if Graphic selected below.");
-    EXPECT_EQ(frmSetup::ExplainGraphics(true), "Graphic: Graphics Editor is included && used in game.");
-    EXPECT_EQ(frmSetup::ExplainGraphics(false), "Non-Graphic: Graphic Editor is NOT included.");
-    EXPECT_EQ(frmSetup::ExplainCharSets(true), "Yes - Marlo && VEL character sets used");
-    EXPECT_EQ(frmSetup::ExplainCharSets(false), "No - Windows Fonts used (Saves memory)");
+    EXPECT_EQ(AdventureSetup::ExplainGraphics(true),
+              "Graphic: Graphics Editor is included && used in game.");
+    EXPECT_EQ(AdventureSetup::ExplainGraphics(false), "Non-Graphic: Graphic Editor is NOT included.");
+    EXPECT_EQ(AdventureSetup::ExplainCharSets(true), "Yes - Marlo && VEL character sets used");
+    EXPECT_EQ(AdventureSetup::ExplainCharSets(false), "No - Windows Fonts used (Saves memory)");
 }
 
 TEST(AdventureKind, IsNamedAsInTheSettings) {

@@ -220,7 +220,7 @@ const std::filesystem::path& GameBuilder::Template() const {
     static std::map<std::tuple<store::AdventureKind, bool, bool>, std::filesystem::path> files;
     std::filesystem::path& file = files[{kind_, graphics_, characterSets_}];
     if (!file.empty()) return file;
-    store::frmSetup setup;
+    store::AdventureSetup setup;
     setup.ChooseType(kind_);
     setup.ChooseGraphics(graphics_);
     setup.ChooseCharSets(characterSets_);

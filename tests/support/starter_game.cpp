@@ -27,8 +27,8 @@ KindFacts FactsOf(AdventureKind kind) {
     return {30, "fabula.ini"};
 }
 
-store::frmSetup SetupFor(AdventureKind kind, bool characterSets) {
-    store::frmSetup setup;
+store::AdventureSetup SetupFor(AdventureKind kind, bool characterSets) {
+    store::AdventureSetup setup;
     setup.ChooseCharSets(characterSets);
     setup.ChooseType(kind);
     return setup;

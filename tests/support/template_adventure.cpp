@@ -11,7 +11,7 @@
 namespace fabula::test {
 namespace {
 
-void Create(const std::filesystem::path& file, const store::frmSetup& setup) {
+void Create(const std::filesystem::path& file, const store::AdventureSetup& setup) {
     platform::ScriptedOperator person;
     const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
     platform::NoEvents events;
@@ -20,7 +20,7 @@ void Create(const std::filesystem::path& file, const store::frmSetup& setup) {
 }
 
 /// The files that were created so far, one for each setup; they live as long as the test program.
-const std::filesystem::path& TemplateFor(const store::frmSetup& setup) {
+const std::filesystem::path& TemplateFor(const store::AdventureSetup& setup) {
     static const TempFolder folder;
     static std::map<std::tuple<store::AdventureKind, bool, bool>, std::filesystem::path> files;
     auto& file = files[{setup.Type(), setup.Graphics(), setup.CharSets()}];
@@ -31,15 +31,15 @@ const std::filesystem::path& TemplateFor(const store::frmSetup& setup) {
     return file;
 }
 
-store::frmSetup SetupFor(store::AdventureKind kind) {
-    store::frmSetup setup;
+store::AdventureSetup SetupFor(store::AdventureKind kind) {
+    store::AdventureSetup setup;
     setup.ChooseType(kind);
     return setup;
 }
 
 }  // namespace
 
-void MakeAdventure(const std::filesystem::path& file, const store::frmSetup& setup) {
+void MakeAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup) {
     std::filesystem::copy_file(TemplateFor(setup), file, std::filesystem::copy_options::overwrite_existing);
 }
 

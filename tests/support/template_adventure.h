@@ -11,7 +11,7 @@ namespace fabula::test {
 
 /// Creates an adventure from the project's own default data. The first of each kind and setting costs a
 /// creation; later ones copy its file.
-void MakeAdventure(const std::filesystem::path& file, const store::frmSetup& setup = {});
+void MakeAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup = {});
 
 /// A fresh adventure of a kind in a folder of its own, open for writing.
 class OpenedAdventure {

@@ -1,7 +1,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "authoring/verify.h"
+#include "authoring/jobs/verify.h"
 #include "cli/console.h"
 #include "cli/file_kind_option.h"
 #include "cli/verbs.h"

@@ -1,4 +1,4 @@
-#include "authoring/verify.h"
+#include "authoring/jobs/verify.h"
 #include "cli/console.h"
 #include "cli/file_kind_option.h"
 #include "cli/verbs.h"

@@ -27,7 +27,7 @@ void AddStarterTo(const std::string& file) {
 int Create(const Options& options) {
     const auto kind = store::AdventureKindFrom(options.type);
     if (!kind) throw UsageError("--type must be fabula, vel or marlo, not '" + options.type + "'");
-    store::frmSetup setup;
+    store::AdventureSetup setup;
     setup.ChooseGraphics(options.graphics);
     setup.ChooseCharSets(options.charSets);
     setup.ChooseType(*kind);

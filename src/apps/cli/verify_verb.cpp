@@ -1,4 +1,4 @@
-#include "authoring/verify.h"
+#include "authoring/jobs/verify.h"
 #include "cli/job_terminal.h"
 #include "cli/verbs.h"
 

@@ -3,8 +3,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-#include "authoring/start_up.h"
-#include "ide/main_window.h"
+#include "authoring/files/start_up.h"
+#include "ide/window/main_window.h"
 #include "midi/device_output.h"
 #include "midi/player.h"
 #include "platform/random_source.h"

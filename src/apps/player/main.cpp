@@ -6,7 +6,7 @@
 #include "midi/player.h"
 #include "platform/random_source.h"
 #include "platform/user_folders.h"
-#include "player/vel_eng_main.h"
+#include "player/window/player_window.h"
 #include "qt/help.h"
 #include "qt/qt_dialogs.h"
 #include "qt/qt_timers.h"
@@ -32,20 +32,20 @@ int main(int argc, char** argv) {
     platform::SeededRandom random(platform::UnpredictableSeed());
     qt::QtTimers timers;
     qt::QtDialogs dialogs;
-    player::frmVelEngMain* shown = nullptr;
+    player::PlayerWindow* shown = nullptr;
     midi::Player sound(timers, midi::OpenOutput,
                        [&shown](const std::string& sentence) { shown->Tell(sentence); });
 
     const auto folders =
         platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());
     qt::Help help(platform::FindFile(folders, "help/contents.html").value_or(""), dialogs);
-    player::frmVelEngMain window({.timers = timers,
-                                  .dialogs = dialogs,
-                                  .sound = sound,
-                                  .random = random,
-                                  .settings = settings,
-                                  .dataFolder = dataFolder,
-                                  .help = [&help](const qt::HelpTopic& topic) { help.Show(topic); }});
+    player::PlayerWindow window({.timers = timers,
+                                 .dialogs = dialogs,
+                                 .sound = sound,
+                                 .random = random,
+                                 .settings = settings,
+                                 .dataFolder = dataFolder,
+                                 .help = [&help](const qt::HelpTopic& topic) { help.Show(topic); }});
     shown = &window;
     dialogs.SetParent(&window);
     const QStringList files = arguments.positionalArguments();

@@ -5,17 +5,24 @@
 #include <QVariant>
 #include <QWidget>
 
+#include "qt/help_anchors.h"
+
 namespace fabula::qt {
 
 HelpTopic TopicOf(const QWidget* control) {
     HelpTopic topic;
+    QStringList controls;
+    const auto name = [&controls](const QString& each) {
+        if (!each.isEmpty()) controls << each;
+    };
     for (const QWidget* each = control; each; each = each->parentWidget()) {
-        const QString anchor = each->property(kHelpAnchor).toString();
-        if (!anchor.isEmpty()) topic.anchors << anchor;
-        if (!each->objectName().isEmpty()) topic.anchors << each->objectName().toLower();
+        name(each->property(kHelpAnchor).toString());
+        name(each->objectName());
         topic.page = each->property(kHelpPage).toString();
         if (!topic.page.isEmpty()) break;
     }
+    for (const QString& each : controls)
+        topic.anchors << AnchorOf(topic.page, each);
     return topic;
 }
 

@@ -2,8 +2,8 @@
 
 #include <thread>
 
+#include "engine/diagnostics.h"
 #include "engine/engine.h"
-#include "engine/frm_debug.h"
 #include "platform/random_source.h"
 
 namespace fabula::terminal {
@@ -80,7 +80,7 @@ class Session {
     }
 
     void Debug(std::string_view request) {
-        const engine::frmDebug::Answer answer = debug_.DoIt(request);
+        const engine::Diagnostics::Answer answer = debug_.DoIt(request);
         screen_.Say(!answer.refusal.empty() ? answer.refusal
                     : answer.help           ? kDebugHelp
                                             : debug_.DisplayVariable());
@@ -104,7 +104,7 @@ class Session {
     platform::SeededRandom random_;
     engine::SilentPlayer sound_;
     engine::Engine engine_;
-    engine::frmDebug debug_;
+    engine::Diagnostics debug_;
     bool promptAgain_ = false;
 };
 

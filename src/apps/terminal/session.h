@@ -12,7 +12,7 @@ namespace fabula::terminal {
 struct SessionOptions {
     std::optional<std::uint32_t> seed;  ///< for random numbers that can be drawn again
     bool realTime = false;              ///< time-outs run out and pauses last
-    bool debug = false;                 ///< a line that begins with ":" is a request to frmDebug
+    bool debug = false;                 ///< a line that begins with ":" is a request to Diagnostics
     engine::TraceSink* trace = nullptr;
 };
 

@@ -19,7 +19,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ide/game_test.h"
+#include "ide/window/game_test.h"
 #include "qt/strings.h"
 
 namespace fabula::test {

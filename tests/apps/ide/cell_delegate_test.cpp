@@ -1,4 +1,4 @@
-#include "ide/cell_delegate.h"
+#include "ide/window/cell_delegate.h"
 
 #include <QApplication>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "ide/column_widths.h"
+#include "ide/window/column_widths.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

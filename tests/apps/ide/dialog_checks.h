@@ -16,7 +16,7 @@ std::vector<std::string> MnemonicsTwice(const QWidget& window);
 std::vector<std::string> TabOrder(QWidget& window);
 /// Those that Tab should come to but does not. Of the options of a group Tab comes to one.
 std::vector<std::string> WidgetsThatTabMisses(QWidget& window);
-/// The steps of the tab order that go back against the order of reading: "txtExits before txtShortDesc".
+/// The steps of the tab order that go back against the order of reading: "exits before shortDescription".
 std::vector<std::string> StepsBack(QWidget& window);
 
 /// How many points of a form lie beside its window, to be scrolled to.

@@ -2,20 +2,20 @@
 
 #include <ostream>
 
-#include "authoring/frm_both_messages.h"
-#include "authoring/text_editing.h"
-#include "ide/colors_dialog.h"
-#include "ide/flag_dialog.h"
-#include "ide/import_dialog.h"
-#include "ide/location_dialog.h"
-#include "ide/object_dialog.h"
-#include "ide/process_entry_dialog.h"
-#include "ide/settings_dialog.h"
-#include "ide/setup_dialog.h"
-#include "ide/sort_dialog.h"
-#include "ide/text_dialog.h"
-#include "ide/verify_dialog.h"
-#include "ide/word_dialog.h"
+#include "authoring/fields/text_editing.h"
+#include "authoring/screens/message_screen.h"
+#include "ide/dialogs/colour_dialog.h"
+#include "ide/dialogs/flag_dialog.h"
+#include "ide/dialogs/interchange_dialog.h"
+#include "ide/dialogs/location_dialog.h"
+#include "ide/dialogs/message_dialog.h"
+#include "ide/dialogs/object_dialog.h"
+#include "ide/dialogs/process_entry_dialog.h"
+#include "ide/dialogs/settings_dialog.h"
+#include "ide/dialogs/setup_dialog.h"
+#include "ide/dialogs/sort_dialog.h"
+#include "ide/dialogs/verify_dialog.h"
+#include "ide/dialogs/word_dialog.h"
 #include "platform/clock.h"
 #include "platform/settings.h"
 #include "support/scripted_pump.h"
@@ -37,7 +37,7 @@ Opened Keep(std::shared_ptr<Parts> parts) {
 template <typename Dialog, typename Screen>
 Opened OpenRecord(Desk& desk, ScreenKey key) {
     struct Parts {
-        Parts(authoring::Session& session, ScreenKey of) : screen(session, of), dialog(screen) {}
+        Parts(authoring::ScreenContext& session, ScreenKey of) : screen(session, of), dialog(screen) {}
         Screen screen;
         Dialog dialog;
     };
@@ -48,11 +48,11 @@ Opened OpenRecord(Desk& desk, ScreenKey key) {
 Opened OpenNewWord(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of) : screen(of.session, {.key = of.session.nextWord, .isNew = true}) {
-            screen.txtWord = "SHINE";
-            screen.ClickOptType(condacts::kVerb);
+            screen.word = "SHINE";
+            screen.ClickType(condacts::kVerb);
             dialog = std::make_unique<ide::WordDialog>(screen);
         }
-        authoring::frmVelVocabulary screen;
+        authoring::WordScreen screen;
         std::unique_ptr<ide::WordDialog> dialog;
     };
     auto parts = std::make_shared<Parts>(desk);
@@ -65,12 +65,12 @@ Opened OpenText(Desk& desk, TableNum table, int key) {
             : screen(of.session, {.key = number}),
               editing(of.Adventure()),
               dialog(screen, editing, of.dialogs) {}
-        authoring::frmBothMessages screen;
+        authoring::MessageScreen screen;
         authoring::TextEditing editing;
-        ide::TextDialog dialog;
+        ide::MessageDialog dialog;
     };
     desk.session.currentTable = table;
-    return Keep<ide::TextDialog>(std::make_shared<Parts>(desk, key));
+    return Keep<ide::MessageDialog>(std::make_shared<Parts>(desk, key));
 }
 
 Opened OpenProcessEntry(Desk& desk) {
@@ -80,7 +80,7 @@ Opened OpenProcessEntry(Desk& desk) {
                                                .key = {.key = 0},
                                                .table = TableNum::ProcessTables}),
               dialog(screen) {}
-        authoring::frmVelCondAct screen;
+        authoring::ProcessEntryScreen screen;
         ide::ProcessEntryDialog dialog;
     };
     return Keep<ide::ProcessEntryDialog>(std::make_shared<Parts>(desk));
@@ -88,15 +88,15 @@ Opened OpenProcessEntry(Desk& desk) {
 
 Opened OpenColors(Desk&) {
     struct Parts {
-        authoring::frmColors screen{authoring::frmColors::Purpose::Paper, 3};
-        ide::ColorsDialog dialog{screen};
+        authoring::ColourScreen screen{authoring::ColourScreen::Purpose::Paper, 3};
+        ide::ColourDialog dialog{screen};
     };
-    return Keep<ide::ColorsDialog>(std::make_shared<Parts>());
+    return Keep<ide::ColourDialog>(std::make_shared<Parts>());
 }
 
 Opened OpenSetup(Desk&) {
     struct Parts {
-        store::frmSetup screen;
+        store::AdventureSetup screen;
         ide::SetupDialog dialog{screen};
     };
     return Keep<ide::SetupDialog>(std::make_shared<Parts>());
@@ -112,10 +112,10 @@ Opened OpenImport(Desk& desk, authoring::JobMode mode) {
         platform::FixedClock clock{{2026, 3, 9, 8, 5, 7}};
         ScriptedPump pump;
         platform::MemorySettings settings;
-        authoring::frmSrcImport screen;
-        ide::ImportDialog dialog;
+        authoring::InterchangeScreen screen;
+        ide::InterchangeDialog dialog;
     };
-    return Keep<ide::ImportDialog>(std::make_shared<Parts>(desk, mode));
+    return Keep<ide::InterchangeDialog>(std::make_shared<Parts>(desk, mode));
 }
 
 Opened OpenSort(Desk& desk) {
@@ -132,10 +132,10 @@ Opened OpenVerify(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
             : screen(of.Adventure(), authoring::VerifyTarget::Play, pump), dialog(screen, of.dialogs) {
-            dialog.goTo = [](const authoring::frmVerify::Entry&) {};
+            dialog.goTo = [](const authoring::VerifyScreen::Entry&) {};
         }
         ScriptedPump pump;
-        authoring::frmVerify screen;
+        authoring::VerifyScreen screen;
         ide::VerifyDialog dialog;
     };
     return Keep<ide::VerifyDialog>(std::make_shared<Parts>(desk));
@@ -145,7 +145,7 @@ Opened OpenSettings(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of) : screen(of.session), dialog(screen, sound) {}
         engine::SilentPlayer sound;
-        authoring::frmVelAdvSettings screen;
+        authoring::SettingsScreen screen;
         ide::SettingsDialog dialog;
     };
     return Keep<ide::SettingsDialog>(std::make_shared<Parts>(desk));
@@ -159,37 +159,35 @@ void PrintTo(const DialogStand& stand, std::ostream* out) {
 
 const std::vector<DialogStand>& EveryDialog() {
     static const std::vector<DialogStand> kStands = {
-        {"Setup", "Choose Type of Adventure", "optFabula", OpenSetup},
-        {"Settings", "Adventure Settings Editor", "txtAdventureName", OpenSettings},
-        {"Location", "Location 0", "txtShortDesc",
+        {"Setup", "Choose Type of Adventure", "fabula", OpenSetup},
+        {"Settings", "Adventure Settings Editor", "name", OpenSettings},
+        {"Location", "Location 0", "shortDescription",
          [](Desk& desk) {
-             return OpenRecord<ide::LocationDialog, authoring::frmVelLocation>(desk, {.key = 0});
+             return OpenRecord<ide::LocationDialog, authoring::LocationScreen>(desk, {.key = 0});
          }},
-        {"Object", "Object 0", "txtObjDesc",
+        {"Object", "Object 0", "description",
          [](Desk& desk) {
-             return OpenRecord<ide::ObjectDialog, authoring::frmVelObjects>(desk, {.key = 0});
+             return OpenRecord<ide::ObjectDialog, authoring::ObjectScreen>(desk, {.key = 0});
          }},
-        {"NewWord", "Vocabulary Editor", "txtWord", OpenNewWord},
-        {"Word", "Vocabulary Editor", "txtWord",
-         [](Desk& desk) {
-             return OpenRecord<ide::WordDialog, authoring::frmVelVocabulary>(desk, {.key = 203});
-         }},
-        {"Message", "Messages Editor", "txtMessage",
+        {"NewWord", "Vocabulary Editor", "word", OpenNewWord},
+        {"Word", "Vocabulary Editor", "word",
+         [](Desk& desk) { return OpenRecord<ide::WordDialog, authoring::WordScreen>(desk, {.key = 203}); }},
+        {"Message", "Messages Editor", "text",
          [](Desk& desk) { return OpenText(desk, TableNum::Messages, 0); }},
-        {"SystemMessage", "System Messages Editor", "txtMessage",
+        {"SystemMessage", "System Messages Editor", "text",
          [](Desk& desk) { return OpenText(desk, TableNum::SystemMessages, 7); }},
-        {"ProcessDescription", "Process Table Descriptions Editor", "txtMessage",
+        {"ProcessDescription", "Process Table Descriptions Editor", "text",
          [](Desk& desk) { return OpenText(desk, TableNum::ProcDesc, 3); }},
-        {"ProcessEntry", "Process Table Editor", "txtAllCAs", OpenProcessEntry},
-        {"Flag", "Flag 60", "cboFlgType",
-         [](Desk& desk) { return OpenRecord<ide::FlagDialog, authoring::frmFlags>(desk, {.key = 60}); }},
-        {"Colors", "Set Color for Paper", "lblColor3", OpenColors},
-        {"Sort", "Sort Vocabulary", "cboField1", OpenSort},
-        {"Import", "Import of source file", "txtSource",
+        {"ProcessEntry", "Process Table Editor", "line", OpenProcessEntry},
+        {"Flag", "Flag 60", "type",
+         [](Desk& desk) { return OpenRecord<ide::FlagDialog, authoring::FlagScreen>(desk, {.key = 60}); }},
+        {"Colors", "Set Color for Paper", "colour3", OpenColors},
+        {"Sort", "Sort Vocabulary", "field1", OpenSort},
+        {"Import", "Import of source file", "source",
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Import); }},
-        {"Export", "Export of Database", "txtSource",
+        {"Export", "Export of Database", "source",
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Export); }},
-        {"Verify", "Verify Adventure", "txtStatus", OpenVerify},
+        {"Verify", "Verify Adventure", "status", OpenVerify},
     };
     return kStands;
 }

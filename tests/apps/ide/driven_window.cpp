@@ -52,7 +52,7 @@ void DoAll(QDialog& dialog, const std::vector<Step>& steps) {
     if (!QTest::qWaitForWindowActive(&dialog)) ADD_FAILURE() << "the dialog did not become active";
     for (const Step& step : steps)
         Do(dialog, step);
-    Click(dialog, "cmdUpdate");
+    Click(dialog, "update");
     QApplication::processEvents();
     if (!dialog.isVisible()) return;
     ADD_FAILURE() << "the dialog did not close";
@@ -159,7 +159,7 @@ int DrivenWindow::RowCount() const {
 }
 
 std::string DrivenWindow::Stored(TableNum table, const char* field, const std::string& where) const {
-    store::PreparedQuery query = Logic().CurrentSession().document.Adventure().Prepare(table, field, where);
+    store::PreparedQuery query = Logic().CurrentContext().document.Adventure().Prepare(table, field, where);
     return query.First({}) ? std::string(query.Text(0)) : "no record";
 }
 

@@ -61,7 +61,7 @@ class HostileFile : public testing::TestWithParam<const char*> {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!dialog) return;
         dialog->grab();
-        if (auto* update = dialog->findChild<QPushButton*>("cmdUpdate")) update->click();
+        if (auto* update = dialog->findChild<QPushButton*>("update")) update->click();
         if (dialog->isVisible()) dialog->reject();
     }
 

@@ -1,4 +1,4 @@
-#include "ide/main_window.h"
+#include "ide/window/main_window.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -21,10 +21,10 @@
 
 #include <gtest/gtest.h>
 
-#include "authoring/commands.h"
-#include "ide/examples.h"
-#include "ide/game_test.h"
+#include "authoring/desk/commands.h"
 #include "ide/opened_window.h"
+#include "ide/window/examples.h"
+#include "ide/window/game_test.h"
 #include "platform/error.h"
 #include "qt/help_window.h"
 #include "qt/icons.h"
@@ -43,7 +43,7 @@ GameBuilder Game() {
 
 TEST(MainWindow, OffersNewOpenAndImportWhileNothingIsOpen) {
     OpenedWindow opened;
-    for (const char* name : {"cmdNew", "cmdOpen", "cmdImport"})
+    for (const char* name : {"new", "open", "start"})
         EXPECT_TRUE(opened.Part<QPushButton>(name).isVisible()) << name;
     EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE");
     EXPECT_FALSE(opened.Action("Run").isEnabled());
@@ -131,7 +131,7 @@ TEST(MainWindow, UndoGoesToTheTableAndTheRowThatChanged) {
     opened.Action("Undo").trigger();
     EXPECT_EQ(opened.Part<QTreeWidget>("Tree").currentItem()->text(0), "Messages");
     EXPECT_EQ(opened.Part<QTableView>("Grid").currentIndex().row(), 1);
-    EXPECT_EQ(opened.Part<QLabel>("txtStatus").text(), "Undone: delete message 1");
+    EXPECT_EQ(opened.Part<QLabel>("status").text(), "Undone: delete message 1");
 }
 
 TEST(MainWindow, F6GoesFromTreeToFilterToRowsAndBack) {
@@ -194,7 +194,7 @@ TEST(MainWindow, NewAsksForTheTypeAndOpensTheAdventureOnItsSettings) {
     OpenedWindow opened;
     opened.dialogs.AnswerFile(opened.folder / "mine.fbd");
     WithNextDialog("SetupDialog", [](QDialog& dialog) { dialog.accept(); });
-    opened.Part<QPushButton>("cmdNew").click();
+    opened.Part<QPushButton>("new").click();
     EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE - mine");
     EXPECT_EQ(opened.Part<QTreeWidget>("Tree").currentItem()->text(0), "Adventure Settings");
 }
@@ -204,9 +204,9 @@ TEST(MainWindow, ARecordThatWasAddedFromTheTreeHasTheKeyboard) {
     opened.Open(Game());
     opened.ChooseNode("Messages");
     opened.Part<QTreeWidget>("Tree").setFocus();
-    WithNextDialog("TextDialog", [](QDialog& dialog) {
-        dialog.findChild<QPlainTextEdit*>("txtMessage")->setPlainText("A third lamp.");
-        dialog.findChild<QPushButton*>("cmdUpdate")->click();
+    WithNextDialog("MessageDialog", [](QDialog& dialog) {
+        dialog.findChild<QPlainTextEdit*>("text")->setPlainText("A third lamp.");
+        dialog.findChild<QPushButton*>("update")->click();
     });
     opened.Action("NewTab").trigger();
     EXPECT_EQ(opened.Cell(3, 1), "A third lamp.");
@@ -218,7 +218,7 @@ TEST(MainWindow, NewWithoutATypeMakesNothing) {
     OpenedWindow opened;
     opened.dialogs.AnswerFile(opened.folder / "mine.fbd");
     WithNextDialog("SetupDialog", [](QDialog& dialog) { dialog.reject(); });
-    opened.Part<QPushButton>("cmdNew").click();
+    opened.Part<QPushButton>("new").click();
     EXPECT_FALSE(std::filesystem::exists(opened.folder / "mine.fbd"));
 }
 
@@ -239,34 +239,32 @@ TEST(MainWindow, TellsHowAVerifyEnded) {
     OpenedWindow opened;
     opened.Open(Game());
     WithNextDialog("VerifyDialog", [](QDialog& dialog) {
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return dialog.findChild<QPushButton*>("cmdPrint")->isEnabled(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.findChild<QPushButton*>("print")->isEnabled(); }));
         dialog.accept();
     });
     opened.Action("Verify").trigger();
-    EXPECT_EQ(opened.Part<QLabel>("txtStatus").text(), "The adventure has passed.");
+    EXPECT_EQ(opened.Part<QLabel>("status").text(), "The adventure has passed.");
 }
 
 TEST(MainWindow, TellsWhereAnExportWent) {
     OpenedWindow opened;
     opened.Open(Game());
-    WithNextDialog("ImportDialog", [&](QDialog& dialog) {
-        dialog.findChild<QRadioButton*>("optKindFabula")->click();
-        QTest::keyClicks(dialog.findChild<QLineEdit*>("txtSource"),
+    WithNextDialog("InterchangeDialog", [&](QDialog& dialog) {
+        dialog.findChild<QRadioButton*>("kindFabula")->click();
+        QTest::keyClicks(dialog.findChild<QLineEdit*>("source"),
                          QString::fromStdString((opened.folder / "out").string()));
-        dialog.findChild<QPushButton*>("cmdImport")->click();
+        dialog.findChild<QPushButton*>("start")->click();
         dialog.reject();
     });
     opened.Action("Export").trigger();
     EXPECT_TRUE(std::filesystem::exists(opened.folder / "out.ext"));
-    EXPECT_EQ(opened.Part<QLabel>("txtStatus").text(), "Exported to out.ext.");
+    EXPECT_EQ(opened.Part<QLabel>("status").text(), "Exported to out.ext.");
 }
 
 TEST(MainWindow, EnterOnARowOpensItsScreen) {
     OpenedWindow opened;
     opened.Open(Game());
-    const std::pair<const char*, const char*> screens[] = {{"Messages", "txtMessage"},
-                                                           {"Locations", "txtExits"}};
+    const std::pair<const char*, const char*> screens[] = {{"Messages", "text"}, {"Locations", "exits"}};
     for (const auto& [node, control] : screens) {
         opened.ChooseNode(node);
         QApplication::setActiveWindow(&opened.Window());
@@ -346,7 +344,7 @@ TEST(MainWindow, ColumnsOfTheSameTableAreMeasuredAnewWhenTheyAreOthers) {
     OpenedWindow window;
     window.Open(Game());
     const auto changeType = [&](const char* type) {
-        authoring::Document& document = window.Logic().CurrentSession().document;
+        authoring::Document& document = window.Logic().CurrentContext().document;
         authoring::Change change(document, "edit the settings");
         store::Cursor& settings = document.Adventure().OpenTable(store::TableNum::Adventure, "def");
         settings.SetField("adventype", std::string(type));
@@ -387,7 +385,7 @@ TEST(MainWindow, EnterOnARowThatCannotBeEditedSaysWhy) {
     opened.ChooseNode("Vocabulary");
     opened.Part<QTableView>("Grid").setFocus();
     opened.Press(Qt::Key_Return);
-    EXPECT_EQ(opened.Part<QLabel>("txtStatus").text(), "Vocabulary does not offer this.");
+    EXPECT_EQ(opened.Part<QLabel>("status").text(), "Vocabulary does not offer this.");
 }
 
 TEST(MainWindow, F1TellsAboutTheTableInView) {

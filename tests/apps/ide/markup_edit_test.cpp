@@ -1,4 +1,4 @@
-#include "ide/markup_edit.h"
+#include "ide/editors/markup_edit.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -13,7 +13,7 @@
 
 #include <gtest/gtest.h>
 
-#include "player/text_colours.h"
+#include "player/panes/text_colours.h"
 #include "qt/theme.h"
 #include "support/template_adventure.h"
 
@@ -34,7 +34,7 @@ class MarkupEditTest : public testing::Test {
         editing_.emplace(*adventure_);
         window_ = std::make_unique<QWidget>();
         window_->resize(700, 500);
-        edit_ = new ide::MarkupEdit(*editing_, {"&Text:", preview, tagsAllowed}, "txtMessage");
+        edit_ = new ide::MarkupEdit(*editing_, {"&Text:", preview, tagsAllowed}, "text");
         edit_->SetText(text);
         edit_->typed = [this](const std::string& typed) { typed_.push_back(typed); };
         auto* layout = new QVBoxLayout(window_.get());
@@ -51,7 +51,7 @@ class MarkupEditTest : public testing::Test {
     }
 
     QString LabelText(const char* name) const { return edit_->findChild<QLabel*>(name)->text(); }
-    QTextEdit* Preview() const { return edit_->findChild<QTextEdit*>("txtPreview"); }
+    QTextEdit* Preview() const { return edit_->findChild<QTextEdit*>("preview"); }
     /// How the highlighter shows the character at a place of the field's first line.
     QTextCharFormat Mark(int place) const {
         for (const auto& range : edit_->Field().document()->firstBlock().layout()->formats()) {
@@ -185,18 +185,18 @@ TEST_F(MarkupEditTest, ATextInTheColourOfItsPaperIsEditedInTheColoursOfTheWindow
 
 TEST_F(MarkupEditTest, CountsWhileTyping) {
     Open("one two");
-    EXPECT_EQ(LabelText("lblCounts"), "2 words, 6 letters");
+    EXPECT_EQ(LabelText("counts"), "2 words, 6 letters");
     edit_->Field().moveCursor(QTextCursor::End);
     QTest::keyClicks(&edit_->Field(), " <ink=2>x");
-    EXPECT_EQ(LabelText("lblCounts"), "3 words, 7 letters");
+    EXPECT_EQ(LabelText("counts"), "3 words, 7 letters");
 }
 
 TEST_F(MarkupEditTest, TellsTheFirstFaultInWordsWhileTyping) {
     Open("Fish ");
-    EXPECT_EQ(LabelText("lblFault"), "");
+    EXPECT_EQ(LabelText("fault"), "");
     edit_->Field().moveCursor(QTextCursor::End);
     QTest::keyClicks(&edit_->Field(), "&");
-    EXPECT_EQ(LabelText("lblFault"),
+    EXPECT_EQ(LabelText("fault"),
               "Word: 2 Cannot use & by itself. Use the &amp; or 'and' (no quotes) format instead. ");
 }
 
@@ -246,8 +246,8 @@ TEST_F(MarkupEditTest, EveryPartHasAnAccessibleName) {
     Open("a");
     EXPECT_EQ(edit_->Field().accessibleName(), "Text");
     EXPECT_EQ(Preview()->accessibleName(), "Converted Message");
-    EXPECT_EQ(edit_->findChild<QLabel*>("lblCounts")->accessibleName(), "Length of the text");
-    EXPECT_EQ(edit_->findChild<QLabel*>("lblFault")->accessibleName(), "First fault of the text");
+    EXPECT_EQ(edit_->findChild<QLabel*>("counts")->accessibleName(), "Length of the text");
+    EXPECT_EQ(edit_->findChild<QLabel*>("fault")->accessibleName(), "First fault of the text");
 }
 
 TEST_F(MarkupEditTest, AChangeOfTheThemeLeavesTheGamesColours) {

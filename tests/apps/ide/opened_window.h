@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ide/main_window.h"
+#include "ide/window/main_window.h"
 #include "platform/manual_timers.h"
 #include "platform/random_source.h"
 #include "platform/scripted_dialogs.h"
@@ -29,7 +29,7 @@ class OpenedWindow {
     ~OpenedWindow();
 
     ide::MainWindow& Window() const { return *window_; }
-    authoring::frmVelIDEMain& Logic() const { return window_->Logic(); }
+    authoring::MainScreen& Logic() const { return window_->Logic(); }
 
     /// Writes a game into the folder and opens it.
     void Open(const GameBuilder& game);

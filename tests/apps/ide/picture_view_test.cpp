@@ -1,4 +1,4 @@
-#include "ide/picture_view.h"
+#include "ide/editors/picture_view.h"
 
 #include <QImage>
 #include <fstream>

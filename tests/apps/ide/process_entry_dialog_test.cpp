@@ -1,4 +1,4 @@
-#include "ide/process_entry_dialog.h"
+#include "ide/dialogs/process_entry_dialog.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -17,7 +17,7 @@
 #include <gtest/gtest.h>
 
 #include "authoring/desk.h"
-#include "ide/cond_act_edit.h"
+#include "ide/editors/cond_act_edit.h"
 
 namespace fabula::ide {
 namespace {
@@ -44,12 +44,12 @@ class ProcessEntryDialogTest : public testing::Test {
 
     void Reopen(const authoring::ScreenRequest& request) {
         dialog_.reset();
-        screen_ = std::make_unique<authoring::frmVelCondAct>(desk_.session, request);
+        screen_ = std::make_unique<authoring::ProcessEntryScreen>(desk_.session, request);
         dialog_ = std::make_unique<ProcessEntryDialog>(*screen_);
         dialog_->show();
         dialog_->activateWindow();
         QApplication::processEvents();
-        line_ = dialog_->findChild<CondActEdit*>("txtAllCAs");
+        line_ = dialog_->findChild<CondActEdit*>("line");
     }
 
     template <typename Widget>
@@ -76,13 +76,13 @@ class ProcessEntryDialogTest : public testing::Test {
     }
 
     test::Desk desk_;
-    std::unique_ptr<authoring::frmVelCondAct> screen_;
+    std::unique_ptr<authoring::ProcessEntryScreen> screen_;
     std::unique_ptr<ProcessEntryDialog> dialog_;
     CondActEdit* line_ = nullptr;
 };
 
 TEST_F(ProcessEntryDialogTest, StoresALineThatIsTypedWithCtrlReturn) {
-    Find<QComboBox>("cboWord1")->setCurrentText("GET");
+    Find<QComboBox>("verb")->setCurrentText("GET");
     Type("get 0 done");
     QTest::keyClick(line_, Qt::Key_Return, Qt::ControlModifier);
     QApplication::processEvents();
@@ -105,17 +105,17 @@ TEST_F(ProcessEntryDialogTest, TabTakesWhatIsOffered) {
     Type("MESSA");
     QTest::keyClick(line_, Qt::Key_Tab);
     EXPECT_EQ(Line(), "MESSAGE ");
-    EXPECT_EQ(Label("lblMeaning"), "MESSAGE takes a message here");
+    EXPECT_EQ(Label("meaning"), "MESSAGE takes a message here");
 }
 
 TEST_F(ProcessEntryDialogTest, TellsTheMeaningOfTheTokenAtTheCursor) {
     Type("MESSAGE 0");
-    EXPECT_EQ(Label("lblMeaning"), "MESSAGE 0: It is too dark.");
+    EXPECT_EQ(Label("meaning"), "MESSAGE 0: It is too dark.");
 }
 
 TEST_F(ProcessEntryDialogTest, MarksTheFirstFaultAtItsToken) {
     Type("MESSAGE 7 DON");
-    EXPECT_EQ(Label("lblFault"), "Fault at 7: Invalid number for parameter 1");
+    EXPECT_EQ(Label("fault"), "Fault at 7: Invalid number for parameter 1");
     const auto marks = line_->extraSelections();
     ASSERT_EQ(marks.size(), 1);
     EXPECT_EQ(marks.front().cursor.selectedText(), "7");
@@ -124,35 +124,35 @@ TEST_F(ProcessEntryDialogTest, MarksTheFirstFaultAtItsToken) {
 
 TEST_F(ProcessEntryDialogTest, AFaultThatNamesItsTokenIsToldWithoutItsPlace) {
     Type("frob 1 ");
-    EXPECT_EQ(Label("lblFault"), "Fault: FROB is an invalid Condition/Action");
+    EXPECT_EQ(Label("fault"), "Fault: FROB is an invalid Condition/Action");
 }
 
 TEST_F(ProcessEntryDialogTest, AFaultKeepsTheFocusInTheLine) {
     line_->setFocus();
     Type("XYZ");
-    Find<QLineEdit>("txtType")->setFocus();
+    Find<QLineEdit>("process")->setFocus();
     QApplication::processEvents();
     EXPECT_THAT(desk_.Boxes(), ElementsAre("XYZ is an invalid Condition/Action"));
     EXPECT_EQ(QApplication::focusWidget(), line_);
 }
 
 TEST_F(ProcessEntryDialogTest, PutsACondactTogetherFromTheLists) {
-    auto* condAct = Find<QComboBox>("cboCA");
+    auto* condAct = Find<QComboBox>("condAct");
     condAct->setFocus();
     condAct->setEditText("place");
-    auto* first = Find<QComboBox>("cboParam1");
-    Find<QLineEdit>("txtType")->setFocus();
+    auto* first = Find<QComboBox>("parameter1");
+    Find<QLineEdit>("process")->setFocus();
     QApplication::processEvents();
     ASSERT_TRUE(first->isEnabled());
     first->setEditText("0");
-    Find<QComboBox>("cboParam2")->setEditText("CARRIED");
-    QTest::mouseClick(Find<QPushButton>("cmdAdd"), Qt::LeftButton);
+    Find<QComboBox>("parameter2")->setEditText("CARRIED");
+    QTest::mouseClick(Find<QPushButton>("add"), Qt::LeftButton);
     EXPECT_EQ(Line(), "PLACE 0 254");
     EXPECT_FALSE(first->isEnabled());
 }
 
 TEST_F(ProcessEntryDialogTest, AnEmptyLineIsNotStored) {
-    QTest::mouseClick(Find<QPushButton>("cmdUpdate"), Qt::LeftButton);
+    QTest::mouseClick(Find<QPushButton>("update"), Qt::LeftButton);
     EXPECT_THAT(desk_.Boxes(), ElementsAre("Cannot have a record with no Condition/Actions"));
     EXPECT_TRUE(dialog_->isVisible());
     EXPECT_THAT(Entries(), IsEmpty());
@@ -160,7 +160,7 @@ TEST_F(ProcessEntryDialogTest, AnEmptyLineIsNotStored) {
 
 TEST_F(ProcessEntryDialogTest, ExitStoresNothing) {
     Type("XYZ ");
-    QTest::mouseClick(Find<QPushButton>("cmdExit"), Qt::LeftButton);
+    QTest::mouseClick(Find<QPushButton>("exit"), Qt::LeftButton);
     QApplication::processEvents();
     EXPECT_FALSE(dialog_->isVisible());
     EXPECT_THAT(Entries(), IsEmpty());
@@ -169,35 +169,35 @@ TEST_F(ProcessEntryDialogTest, ExitStoresNothing) {
 
 TEST_F(ProcessEntryDialogTest, NamesItsFieldsInTheSystemsWords) {
     EXPECT_EQ(dialog_->windowTitle(), "Process Table Editor");
-    EXPECT_EQ(Label("lblRecKey"), "Record Key: 0");
-    EXPECT_EQ(Caption("txtType"), "Process Table #:");
-    EXPECT_EQ(Caption("cboWord1"), "Verb:");
-    EXPECT_EQ(Caption("cboWord2"), "Noun:");
-    EXPECT_EQ(Caption("cboCA"), "Cond/Act");
-    EXPECT_EQ(Caption("cboParam1"), "Param1");
-    EXPECT_EQ(Caption("cboParam2"), "Param2");
-    EXPECT_EQ(Caption("txtAllCAs"), "Combined Condition/Actions");
-    EXPECT_EQ(Find<QPushButton>("cmdAdd")->text(), "&Add to Conditions/Actions");
+    EXPECT_EQ(Label("recordKey"), "Record Key: 0");
+    EXPECT_EQ(Caption("process"), "Process Table #:");
+    EXPECT_EQ(Caption("verb"), "Verb:");
+    EXPECT_EQ(Caption("noun"), "Noun:");
+    EXPECT_EQ(Caption("condAct"), "Cond/Act");
+    EXPECT_EQ(Caption("parameter1"), "Param1");
+    EXPECT_EQ(Caption("parameter2"), "Param2");
+    EXPECT_EQ(Caption("line"), "Combined Condition/Actions");
+    EXPECT_EQ(Find<QPushButton>("add")->text(), "&Add to Conditions/Actions");
 }
 
 TEST_F(ProcessEntryDialogTest, AParameterIsNamedByItsKindWhileItIsOpen) {
-    Choose("cboCA", "PLACE");
-    EXPECT_EQ(Caption("cboParam1"), "Object");
-    EXPECT_EQ(Caption("cboParam2"), "Location");
-    EXPECT_EQ(Find<QComboBox>("cboParam1")->itemText(0), "0  a brass lamp");
+    Choose("condAct", "PLACE");
+    EXPECT_EQ(Caption("parameter1"), "Object");
+    EXPECT_EQ(Caption("parameter2"), "Location");
+    EXPECT_EQ(Find<QComboBox>("parameter1")->itemText(0), "0  a brass lamp");
 }
 
 TEST_F(ProcessEntryDialogTest, TabGoesFromANameToTheParameterThatItOpens) {
-    auto* condAct = Find<QComboBox>("cboCA");
+    auto* condAct = Find<QComboBox>("condAct");
     condAct->setFocus();
     condAct->setEditText("message");
     QTest::keyClick(condAct, Qt::Key_Tab);
     QApplication::processEvents();
-    EXPECT_EQ(QApplication::focusWidget(), Find<QComboBox>("cboParam1"));
+    EXPECT_EQ(QApplication::focusWidget(), Find<QComboBox>("parameter1"));
 }
 
 TEST_F(ProcessEntryDialogTest, ANewEntryBeginsWithItsVerbAndAnOldOneWithItsLine) {
-    EXPECT_EQ(dialog_->focusWidget()->objectName().toStdString(), "cboWord1");
+    EXPECT_EQ(dialog_->focusWidget()->objectName().toStdString(), "verb");
     desk_.AddEntry(4, 0, {"_", 255}, {"_", 255}, "DONE");
     Reopen(
         {.screen = authoring::Screen::ProcessEntry, .key = {.key = 4}, .table = TableNum::ProcessTables});
@@ -205,15 +205,15 @@ TEST_F(ProcessEntryDialogTest, ANewEntryBeginsWithItsVerbAndAnOldOneWithItsLine)
 }
 
 TEST_F(ProcessEntryDialogTest, EnterGoesFromTheBeginningOfANameToTheLine) {
-    auto* condAct = Find<QComboBox>("cboCA");
+    auto* condAct = Find<QComboBox>("condAct");
     condAct->setFocus();
     QTest::keyClicks(condAct, "plac");
     QTest::keyClick(condAct, Qt::Key_Return);
     EXPECT_EQ(condAct->currentText(), "PLACE");
-    EXPECT_EQ(dialog_->focusWidget(), Find<QComboBox>("cboParam1"));
+    EXPECT_EQ(dialog_->focusWidget(), Find<QComboBox>("parameter1"));
     QTest::keyClicks(dialog_->focusWidget(), "0");
     QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(dialog_->focusWidget(), Find<QComboBox>("cboParam2"));
+    EXPECT_EQ(dialog_->focusWidget(), Find<QComboBox>("parameter2"));
     QTest::keyClicks(dialog_->focusWidget(), "carried");
     QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Line(), "PLACE 0 254");
@@ -222,12 +222,12 @@ TEST_F(ProcessEntryDialogTest, EnterGoesFromTheBeginningOfANameToTheLine) {
 }
 
 TEST_F(ProcessEntryDialogTest, ACondactWithoutParametersIsAddedWhenItIsChosen) {
-    Choose("cboCA", "DONE");
+    Choose("condAct", "DONE");
     EXPECT_EQ(Line(), "DONE");
 }
 
 TEST_F(ProcessEntryDialogTest, KeysInTheListOfNamesChooseNothingBeforeEnter) {
-    auto* condAct = Find<QComboBox>("cboCA");
+    auto* condAct = Find<QComboBox>("condAct");
     condAct->setFocus();
     condAct->setCurrentIndex(condAct->findText("DESC"));
     QTest::keyClick(condAct, Qt::Key_Down);
@@ -239,7 +239,7 @@ TEST_F(ProcessEntryDialogTest, KeysInTheListOfNamesChooseNothingBeforeEnter) {
 }
 
 TEST_F(ProcessEntryDialogTest, TheWheelOverTheListOfNamesChoosesNothing) {
-    auto* condAct = Find<QComboBox>("cboCA");
+    auto* condAct = Find<QComboBox>("condAct");
     condAct->setCurrentIndex(condAct->findText("DESC"));
     QWheelEvent turn({5, 5}, condAct->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {},
                      Qt::NoScrollPhase, false);
@@ -250,7 +250,7 @@ TEST_F(ProcessEntryDialogTest, TheWheelOverTheListOfNamesChoosesNothing) {
 
 TEST_F(ProcessEntryDialogTest, ANewProcessThatIsNotConfirmedKeepsTheFocus) {
     Type("DONE");
-    auto* type = Find<QLineEdit>("txtType");
+    auto* type = Find<QLineEdit>("process");
     type->setFocus();
     QApplication::processEvents();
     type->setText("3");
@@ -268,7 +268,7 @@ TEST_F(ProcessEntryDialogTest, AnEntryThatIsGoneIsToldAndWhatWasTypedStays) {
         {.screen = authoring::Screen::ProcessEntry, .key = {.key = 4}, .table = TableNum::ProcessTables});
     desk_.Clear(TableNum::ProcessTables);
     Type(" DESC");
-    QTest::mouseClick(Find<QPushButton>("cmdUpdate"), Qt::LeftButton);
+    QTest::mouseClick(Find<QPushButton>("update"), Qt::LeftButton);
     EXPECT_THAT(desk_.Boxes(), ElementsAre("Could not edit process entry 4: it is not there."));
     EXPECT_TRUE(dialog_->isVisible());
     EXPECT_EQ(Line(), "DONE DESC");

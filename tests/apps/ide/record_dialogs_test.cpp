@@ -16,12 +16,12 @@
 
 #include <gtest/gtest.h>
 
-#include "authoring/document.h"
-#include "ide/colors_dialog.h"
-#include "ide/flag_dialog.h"
-#include "ide/location_dialog.h"
-#include "ide/object_dialog.h"
-#include "ide/word_dialog.h"
+#include "authoring/document/document.h"
+#include "ide/dialogs/colour_dialog.h"
+#include "ide/dialogs/flag_dialog.h"
+#include "ide/dialogs/location_dialog.h"
+#include "ide/dialogs/object_dialog.h"
+#include "ide/dialogs/word_dialog.h"
 #include "platform/scripted_dialogs.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
@@ -69,14 +69,14 @@ class RecordDialogs : public testing::Test {
     test::TempFolder folder_;
     platform::ScriptedDialogs boxes_;
     authoring::Document document_;
-    authoring::Session session_{document_, boxes_};
+    authoring::ScreenContext session_{document_, boxes_};
 };
 
 TEST_F(RecordDialogs, ALocationIsEditedByKeysAlone) {
-    authoring::frmVelLocation screen(session_, {0, false});
+    authoring::LocationScreen screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    Find<QPlainTextEdit>(dialog, "txtShortDesc")->setFocus();
+    Find<QPlainTextEdit>(dialog, "shortDescription")->setFocus();
     QTest::keyClicks(dialog.focusWidget(), "The hall");
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
@@ -84,10 +84,10 @@ TEST_F(RecordDialogs, ALocationIsEditedByKeysAlone) {
 }
 
 TEST_F(RecordDialogs, ExitLeavesTheLocationAsItWas) {
-    authoring::frmVelLocation screen(session_, {0, false});
+    authoring::LocationScreen screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    Find<QPlainTextEdit>(dialog, "txtShortDesc")->setPlainText("The hall");
+    Find<QPlainTextEdit>(dialog, "shortDescription")->setPlainText("The hall");
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_FALSE(dialog.isVisible());
@@ -95,10 +95,10 @@ TEST_F(RecordDialogs, ExitLeavesTheLocationAsItWas) {
 }
 
 TEST_F(RecordDialogs, ARefusedFieldKeepsTheFocus) {
-    authoring::frmVelLocation screen(session_, {0, false});
+    authoring::LocationScreen screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    auto* shortDescription = Find<QPlainTextEdit>(dialog, "txtShortDesc");
+    auto* shortDescription = Find<QPlainTextEdit>(dialog, "shortDescription");
     shortDescription->setFocus();
     QTest::keyClicks(shortDescription, "Fish & chips");
     QTest::keyClick(shortDescription, Qt::Key_Tab);
@@ -109,49 +109,49 @@ TEST_F(RecordDialogs, ARefusedFieldKeepsTheFocus) {
 }
 
 TEST_F(RecordDialogs, TheShortDescriptionIsPreviewedWithItsMarkup) {
-    authoring::frmVelLocation screen(session_, {0, false});
+    authoring::LocationScreen screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    QTest::keyClicks(Find<QPlainTextEdit>(dialog, "txtShortDesc"), "<BRIGHT>The hall</BRIGHT>");
-    EXPECT_EQ(Find<QTextEdit>(dialog, "txtShortPreview")->toPlainText(), "The hall");
-    EXPECT_EQ(Find<QLabel>(dialog, "lblShortCounts")->text(), "2 words, 7 letters");
+    QTest::keyClicks(Find<QPlainTextEdit>(dialog, "shortDescription"), "<BRIGHT>The hall</BRIGHT>");
+    EXPECT_EQ(Find<QTextEdit>(dialog, "shortPreview")->toPlainText(), "The hall");
+    EXPECT_EQ(Find<QLabel>(dialog, "shortCounts")->text(), "2 words, 7 letters");
 }
 
 TEST_F(RecordDialogs, UpdateOfARefusedFieldKeepsTheDialogOpen) {
-    authoring::frmVelLocation screen(session_, {0, false});
+    authoring::LocationScreen screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    Find<QLineEdit>(dialog, "txtExits")->setText("XYZZY 0");
-    Find<QPushButton>(dialog, "cmdUpdate")->click();
+    Find<QLineEdit>(dialog, "exits")->setText("XYZZY 0");
+    Find<QPushButton>(dialog, "update")->click();
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(boxes_.Boxes().at(0).text, "XYZZY is not a valid word");
-    EXPECT_EQ(dialog.focusWidget(), Find<QLineEdit>(dialog, "txtExits"));
+    EXPECT_EQ(dialog.focusWidget(), Find<QLineEdit>(dialog, "exits"));
 }
 
 TEST_F(RecordDialogs, EnterAddsAnExitAndClosesNothing) {
-    authoring::frmVelLocation screen(session_, {0, false});
+    authoring::LocationScreen screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    Find<QComboBox>(dialog, "cboExit")->setFocus();
+    Find<QComboBox>(dialog, "exitWord")->setFocus();
     QTest::keyClicks(dialog.focusWidget(), "CLIMB");
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
     QTest::keyClicks(dialog.focusWidget(), "0");
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(Find<QLineEdit>(dialog, "txtExits")->text(), "CLIMB 0");
-    EXPECT_EQ(Find<QComboBox>(dialog, "cboLoc")->currentText(), "");
-    EXPECT_EQ(dialog.focusWidget(), Find<QComboBox>(dialog, "cboExit"));
+    EXPECT_EQ(Find<QLineEdit>(dialog, "exits")->text(), "CLIMB 0");
+    EXPECT_EQ(Find<QComboBox>(dialog, "exitPlace")->currentText(), "");
+    EXPECT_EQ(dialog.focusWidget(), Find<QComboBox>(dialog, "exitWord"));
 }
 
 TEST_F(RecordDialogs, RowsOfExitsAndTheirLineAreKeptInStep) {
-    authoring::frmVelLocation screen(session_, {0, false});
+    authoring::LocationScreen screen(session_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
-    Find<QComboBox>(dialog, "cboExit")->setEditText("CLIMB");
-    Find<QComboBox>(dialog, "cboLoc")->setEditText("0");
-    Find<QPushButton>(dialog, "cmdAdd")->click();
-    auto* line = Find<QLineEdit>(dialog, "txtExits");
-    auto* rows = Find<QTableWidget>(dialog, "grdExits");
+    Find<QComboBox>(dialog, "exitWord")->setEditText("CLIMB");
+    Find<QComboBox>(dialog, "exitPlace")->setEditText("0");
+    Find<QPushButton>(dialog, "add")->click();
+    auto* line = Find<QLineEdit>(dialog, "exits");
+    auto* rows = Find<QTableWidget>(dialog, "exitRows");
     EXPECT_EQ(line->text(), "CLIMB 0");
     ASSERT_EQ(rows->rowCount(), 1);
     EXPECT_EQ(rows->item(0, 2)->text(), "You are in a bare, empty room.");
@@ -164,71 +164,71 @@ TEST_F(RecordDialogs, RowsOfExitsAndTheirLineAreKeptInStep) {
     QTest::keyClicks(line, "CLIMB 0 CLIMB 1");
     EXPECT_EQ(rows->rowCount(), 2);
     rows->setCurrentCell(0, 0);
-    Find<QPushButton>(dialog, "cmdRemove")->click();
+    Find<QPushButton>(dialog, "remove")->click();
     EXPECT_EQ(line->text(), "CLIMB 1");
 }
 
 TEST_F(RecordDialogs, AnObjectIsAdded) {
-    authoring::frmVelObjects screen(session_, {1, true});
+    authoring::ObjectScreen screen(session_, {1, true});
     ObjectDialog dialog(screen);
     Open(dialog);
-    Find<QPlainTextEdit>(dialog, "txtObjDesc")->setPlainText("a lamp");
-    EXPECT_FALSE(Find<QComboBox>(dialog, "cboInRoom")->isEnabled());
-    Find<QRadioButton>(dialog, "optInitiaLloc3")->click();
-    EXPECT_TRUE(Find<QComboBox>(dialog, "cboInRoom")->isEnabled());
-    Find<QComboBox>(dialog, "cboInRoom")->setCurrentIndex(0);
-    Find<QPushButton>(dialog, "cmdUpdate")->click();
+    Find<QPlainTextEdit>(dialog, "description")->setPlainText("a lamp");
+    EXPECT_FALSE(Find<QComboBox>(dialog, "room")->isEnabled());
+    Find<QRadioButton>(dialog, "initialPlace3")->click();
+    EXPECT_TRUE(Find<QComboBox>(dialog, "room")->isEnabled());
+    Find<QComboBox>(dialog, "room")->setCurrentIndex(0);
+    Find<QPushButton>(dialog, "update")->click();
     EXPECT_TRUE(boxes_.Boxes().empty());
     EXPECT_EQ(Stored(TableNum::Objects, "objlocdesc", "objnum=1"), "In Room 0.");
 }
 
 TEST_F(RecordDialogs, AContainerThatIsRefusedIsNotTicked) {
-    authoring::frmVelObjects screen(session_, {5, true});
+    authoring::ObjectScreen screen(session_, {5, true});
     ObjectDialog dialog(screen);
     Open(dialog);
-    auto* container = Find<QCheckBox>(dialog, "chkContainer");
+    auto* container = Find<QCheckBox>(dialog, "container");
     container->click();
     EXPECT_EQ(boxes_.Boxes().at(0).text, "There is no location with this object number");
     EXPECT_FALSE(container->isChecked());
 }
 
 TEST_F(RecordDialogs, AWordIsAddedWithTheNumberThatItsTypeProposes) {
-    authoring::frmVelVocabulary screen(session_, {session_.nextWord, true});
+    authoring::WordScreen screen(session_, {session_.nextWord, true});
     WordDialog dialog(screen);
     Open(dialog);
-    QTest::keyClicks(Find<QLineEdit>(dialog, "txtWord"), "jump");
-    Find<QRadioButton>(dialog, "optType0")->click();
-    EXPECT_EQ(Find<QLineEdit>(dialog, "txtWordNum")->text(), "31");
-    Find<QPushButton>(dialog, "cmdUpdate")->click();
+    QTest::keyClicks(Find<QLineEdit>(dialog, "word"), "jump");
+    Find<QRadioButton>(dialog, "type0")->click();
+    EXPECT_EQ(Find<QLineEdit>(dialog, "number")->text(), "31");
+    Find<QPushButton>(dialog, "update")->click();
     EXPECT_EQ(Stored(TableNum::Vocabulary, "vocnum", "word='JUMP'"), "31");
 }
 
 TEST_F(RecordDialogs, AFlagIsDescribed) {
-    authoring::frmFlags screen(session_, {60, false});
+    authoring::FlagScreen screen(session_, {60, false});
     FlagDialog dialog(screen);
     Open(dialog);
-    Find<QComboBox>(dialog, "cboFlgUse")->setCurrentText("Switch");
-    Find<QPlainTextEdit>(dialog, "txtFlgDesc")->setPlainText("The door is open.");
-    Find<QPushButton>(dialog, "cmdUpdate")->click();
+    Find<QComboBox>(dialog, "use")->setCurrentText("Switch");
+    Find<QPlainTextEdit>(dialog, "description")->setPlainText("The door is open.");
+    Find<QPushButton>(dialog, "update")->click();
     EXPECT_EQ(Stored(TableNum::Flags, "flguse", "flgnum=60"), "Switch");
 }
 
 TEST_F(RecordDialogs, AColorIsPicked) {
-    authoring::frmColors screen(authoring::frmColors::Purpose::Ink, 0);
-    ColorsDialog dialog(screen);
+    authoring::ColourScreen screen(authoring::ColourScreen::Purpose::Ink, 0);
+    ColourDialog dialog(screen);
     Open(dialog);
     EXPECT_EQ(dialog.windowTitle(), "Set Color for Ink");
-    Find<QToolButton>(dialog, "lblColor9")->click();
-    Find<QPushButton>(dialog, "cmdUpdate")->click();
+    Find<QToolButton>(dialog, "colour9")->click();
+    Find<QPushButton>(dialog, "update")->click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(screen.Current(), 9);
 }
 
 TEST_F(RecordDialogs, ADoubleClickTakesAColor) {
-    authoring::frmColors screen(authoring::frmColors::Purpose::Ink, 0);
-    ColorsDialog dialog(screen);
+    authoring::ColourScreen screen(authoring::ColourScreen::Purpose::Ink, 0);
+    ColourDialog dialog(screen);
     Open(dialog);
-    auto* colour = Find<QToolButton>(dialog, "lblColor9");
+    auto* colour = Find<QToolButton>(dialog, "colour9");
     QTest::mouseClick(colour, Qt::LeftButton);
     QTest::mouseDClick(colour, Qt::LeftButton);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
@@ -236,8 +236,8 @@ TEST_F(RecordDialogs, ADoubleClickTakesAColor) {
 }
 
 TEST_F(RecordDialogs, TheColorsStandInTwoFramesOfEight) {
-    authoring::frmColors screen(authoring::frmColors::Purpose::Paper, 0);
-    ColorsDialog dialog(screen);
+    authoring::ColourScreen screen(authoring::ColourScreen::Purpose::Paper, 0);
+    ColourDialog dialog(screen);
     Open(dialog);
     EXPECT_EQ(dialog.windowTitle(), "Set Color for Paper");
     QStringList frames;
@@ -246,16 +246,16 @@ TEST_F(RecordDialogs, TheColorsStandInTwoFramesOfEight) {
         EXPECT_EQ(frame->findChildren<QToolButton*>().size(), 8);
     }
     EXPECT_EQ(frames, (QStringList{"Normal Colors", "Bright Colors"}));
-    const QImage swatch = Find<QToolButton>(dialog, "lblColor2")->icon().pixmap(16).toImage();
+    const QImage swatch = Find<QToolButton>(dialog, "colour2")->icon().pixmap(16).toImage();
     EXPECT_EQ(swatch.pixelColor(swatch.width() / 2, swatch.height() / 2).name().toStdString(), "#e60000");
 }
 
 TEST_F(RecordDialogs, ExitLeavesTheColorToTheCaller) {
-    authoring::frmColors screen(authoring::frmColors::Purpose::Ink, 3);
-    ColorsDialog dialog(screen);
+    authoring::ColourScreen screen(authoring::ColourScreen::Purpose::Ink, 3);
+    ColourDialog dialog(screen);
     Open(dialog);
-    Find<QToolButton>(dialog, "lblColor9")->click();
-    Find<QPushButton>(dialog, "cmdExit")->click();
+    Find<QToolButton>(dialog, "colour9")->click();
+    Find<QPushButton>(dialog, "exit")->click();
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
 }
 

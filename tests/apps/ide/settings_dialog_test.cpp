@@ -1,4 +1,4 @@
-#include "ide/settings_dialog.h"
+#include "ide/dialogs/settings_dialog.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -36,8 +36,8 @@ class SettingsDialogTest : public testing::Test {
         desk_.Adventure().ReadSettings();
     }
     void Open() {
-        screen_ = std::make_unique<authoring::frmVelAdvSettings>(desk_.session,
-                                                                 std::vector<std::string>{"USB keys"});
+        screen_ = std::make_unique<authoring::SettingsScreen>(desk_.session,
+                                                              std::vector<std::string>{"USB keys"});
         dialog_ = std::make_unique<SettingsDialog>(*screen_, sound_);
         dialog_->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
@@ -48,23 +48,23 @@ class SettingsDialogTest : public testing::Test {
         if (control == nullptr) throw std::logic_error(std::string("there is no part ") + name);
         return *control;
     }
-    void TurnTo(int page) { Part<QTabWidget>("tabSettings").setCurrentIndex(page); }
+    void TurnTo(int page) { Part<QTabWidget>("pages").setCurrentIndex(page); }
     std::string Stored(std::string_view fields) { return desk_.Rows(TableNum::Adventure, fields).at(0); }
 
     test::Desk desk_;
     test::RecordingSound sound_;
-    std::unique_ptr<authoring::frmVelAdvSettings> screen_;
+    std::unique_ptr<authoring::SettingsScreen> screen_;
     std::unique_ptr<SettingsDialog> dialog_;
 };
 
 TEST_F(SettingsDialogTest, IsEditedByKeysAlone) {
     Open();
     EXPECT_EQ(dialog_->windowTitle(), "Adventure Settings Editor");
-    ASSERT_EQ(dialog_->focusWidget(), &Part<QLineEdit>("txtAdventureName"));
-    Part<QLineEdit>("txtAdventureName").selectAll();
+    ASSERT_EQ(dialog_->focusWidget(), &Part<QLineEdit>("name"));
+    Part<QLineEdit>("name").selectAll();
     QTest::keyClicks(dialog_->focusWidget(), "The Cave");
     QTest::keyClick(dialog_->focusWidget(), Qt::Key_Tab);
-    ASSERT_EQ(dialog_->focusWidget(), &Part<QLineEdit>("txtAuthor"));
+    ASSERT_EQ(dialog_->focusWidget(), &Part<QLineEdit>("author"));
     QTest::keyClicks(dialog_->focusWidget(), "Ann");
     QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(dialog_->result(), QDialog::Accepted);
@@ -73,27 +73,27 @@ TEST_F(SettingsDialogTest, IsEditedByKeysAlone) {
 
 TEST_F(SettingsDialogTest, StoresAllItsControls) {
     Open();
-    Part<QLineEdit>("txtSaveName").setText("cave");
-    Part<QLineEdit>("txtVersion").setText("2");
-    Part<QComboBox>("cboAdvenType").setCurrentText("VEL");
-    Part<QLineEdit>("txtMaxObjects").setText("9");
-    Part<QLineEdit>("txtMaxWeight").setText("50");
-    Part<QComboBox>("cboFont").setCurrentText("4-Georgia");
-    Part<QComboBox>("cboFontSize").setCurrentText("18");
-    Part<QComboBox>("cboPrintWidth").setCurrentText("40");
-    Part<QCheckBox>("chkGraphics").click();
-    Part<QCheckBox>("chkGraphicsInDb").click();
-    Part<QPlainTextEdit>("txtAdvDesc").setPlainText("One.\nTwo.");
-    Part<QPlainTextEdit>("txtContactInfo").setPlainText("Write.");
-    Part<QCheckBox>("chkSound").setChecked(true);
-    Part<QComboBox>("cboDevice").setCurrentText("USB keys");
-    Part<QComboBox>("cboChannel").setCurrentText(" 9");
-    Part<QComboBox>("cboVoice").setCurrentText("73-Flute");
-    Part<QSlider>("sldVolume").setValue(90);
-    Part<QSlider>("sldBalance").setValue(10);
-    Part<QSlider>("sldBass").setValue(20);
-    Part<QComboBox>("cboSource").setCurrentText("ACE");
-    Part<QPushButton>("cmdUpdate").click();
+    Part<QLineEdit>("saveName").setText("cave");
+    Part<QLineEdit>("version").setText("2");
+    Part<QComboBox>("type").setCurrentText("VEL");
+    Part<QLineEdit>("maxObjects").setText("9");
+    Part<QLineEdit>("maxWeight").setText("50");
+    Part<QComboBox>("font").setCurrentText("4-Georgia");
+    Part<QComboBox>("fontSize").setCurrentText("18");
+    Part<QComboBox>("printWidth").setCurrentText("40");
+    Part<QCheckBox>("graphics").click();
+    Part<QCheckBox>("graphicsInDb").click();
+    Part<QPlainTextEdit>("description").setPlainText("One.\nTwo.");
+    Part<QPlainTextEdit>("contactInfo").setPlainText("Write.");
+    Part<QCheckBox>("sound").setChecked(true);
+    Part<QComboBox>("device").setCurrentText("USB keys");
+    Part<QComboBox>("channel").setCurrentText(" 9");
+    Part<QComboBox>("voice").setCurrentText("73-Flute");
+    Part<QSlider>("volume").setValue(90);
+    Part<QSlider>("balance").setValue(10);
+    Part<QSlider>("bass").setValue(20);
+    Part<QComboBox>("source").setCurrentText("ACE");
+    Part<QPushButton>("update").click();
     ASSERT_EQ(dialog_->result(), QDialog::Accepted);
     EXPECT_EQ(Stored("savename, Version, adventype, maxobj, maxweight, Font, FontSize, defprintwidth"),
               "cave|2|VEL|9|50|4|18|40");
@@ -105,7 +105,7 @@ TEST_F(SettingsDialogTest, StoresAllItsControls) {
 
 TEST_F(SettingsDialogTest, ExitStoresNothing) {
     Open();
-    Part<QLineEdit>("txtAuthor").setText("Ann");
+    Part<QLineEdit>("author").setText("Ann");
     QTest::keyClick(dialog_.get(), Qt::Key_Escape);
     EXPECT_FALSE(dialog_->isVisible());
     EXPECT_EQ(desk_.document.UndoName(), std::nullopt);
@@ -115,14 +115,14 @@ TEST_F(SettingsDialogTest, UpdateWithoutATouchStoresNothing) {
     Set("defsndvol", std::int64_t{500});
     Set("defsndchan", std::int64_t{16});
     Open();
-    Part<QPushButton>("cmdUpdate").click();
+    Part<QPushButton>("update").click();
     EXPECT_EQ(dialog_->result(), QDialog::Accepted);
     EXPECT_EQ(desk_.document.UndoName(), std::nullopt);
 }
 
 TEST_F(SettingsDialogTest, RefusedFieldGetsTheFocusBack) {
     Open();
-    auto& objects = Part<QLineEdit>("txtMaxObjects");
+    auto& objects = Part<QLineEdit>("maxObjects");
     objects.setFocus();
     objects.selectAll();
     QTest::keyClicks(&objects, "26");
@@ -134,41 +134,41 @@ TEST_F(SettingsDialogTest, RefusedFieldGetsTheFocusBack) {
 
 TEST_F(SettingsDialogTest, UpdateTurnsToThePageOfTheFault) {
     Open();
-    Part<QLineEdit>("txtSaveName").setText("");
+    Part<QLineEdit>("saveName").setText("");
     TurnTo(2);
-    Part<QPushButton>("cmdUpdate").click();
+    Part<QPushButton>("update").click();
     EXPECT_TRUE(dialog_->isVisible());
     EXPECT_EQ(desk_.Boxes(), std::vector<std::string>{"Must have a Save Name"});
-    EXPECT_EQ(Part<QTabWidget>("tabSettings").currentIndex(), 0);
-    EXPECT_EQ(dialog_->focusWidget(), &Part<QLineEdit>("txtSaveName"));
+    EXPECT_EQ(Part<QTabWidget>("pages").currentIndex(), 0);
+    EXPECT_EQ(dialog_->focusWidget(), &Part<QLineEdit>("saveName"));
 }
 
 TEST_F(SettingsDialogTest, SoundPageIsUpdatedAfterATestOnly) {
     Open();
     TurnTo(1);
-    Part<QPushButton>("cmdUpdate").click();
+    Part<QPushButton>("update").click();
     EXPECT_EQ(desk_.Boxes(), std::vector<std::string>{"You must Test Voice before I can update!"});
-    EXPECT_EQ(dialog_->focusWidget(), &Part<QPushButton>("cmdTestVoice"));
-    Part<QComboBox>("cboVoice").setCurrentText("73-Flute");
-    Part<QPushButton>("cmdTestVoice").click();
+    EXPECT_EQ(dialog_->focusWidget(), &Part<QPushButton>("testVoice"));
+    Part<QComboBox>("voice").setCurrentText("73-Flute");
+    Part<QPushButton>("testVoice").click();
     EXPECT_EQ(sound_.settings.voice, 73);
     EXPECT_EQ(sound_.notes.size(), 1u);
-    EXPECT_EQ(Part<QLabel>("lblHeard").text(), "The note is played.");
-    Part<QPushButton>("cmdUpdate").click();
+    EXPECT_EQ(Part<QLabel>("heard").text(), "The note is played.");
+    Part<QPushButton>("update").click();
     EXPECT_EQ(dialog_->result(), QDialog::Accepted);
 }
 
 TEST_F(SettingsDialogTest, TestVoiceSaysWhenNothingCanPlay) {
     sound_.sounds = false;
     Open();
-    Part<QPushButton>("cmdTestVoice").click();
-    EXPECT_EQ(Part<QLabel>("lblHeard").text(),
+    Part<QPushButton>("testVoice").click();
+    EXPECT_EQ(Part<QLabel>("heard").text(),
               "This computer has nothing that plays notes. The settings count as tested.");
 }
 
 TEST_F(SettingsDialogTest, SwitchOfTheSoundSaysWhichWayItStands) {
     Open();
-    auto& on = Part<QCheckBox>("chkSound");
+    auto& on = Part<QCheckBox>("sound");
     on.setChecked(true);
     EXPECT_EQ(on.text(), "&Sound ON");
     on.setChecked(false);
@@ -178,18 +178,18 @@ TEST_F(SettingsDialogTest, SwitchOfTheSoundSaysWhichWayItStands) {
 TEST_F(SettingsDialogTest, FontTestFollowsFontSizeAndColours) {
     Open();
     auto& sample = Part<QLabel>("FontTest");
-    Part<QComboBox>("cboFont").setCurrentText("18-Liberation Mono");
-    Part<QComboBox>("cboFontSize").setCurrentText("20");
+    Part<QComboBox>("font").setCurrentText("18-Liberation Mono");
+    Part<QComboBox>("fontSize").setCurrentText("20");
     EXPECT_EQ(sample.font().family(), "Liberation Mono");
     EXPECT_EQ(sample.font().pointSize(), 20);
     QTimer::singleShot(0, [] {
         QWidget* colours = QApplication::activeModalWidget();
         ASSERT_NE(colours, nullptr);
         EXPECT_EQ(colours->windowTitle(), "Set Color for Paper");
-        colours->findChild<QAbstractButton*>("lblColor1")->click();
-        colours->findChild<QPushButton*>("cmdUpdate")->click();
+        colours->findChild<QAbstractButton*>("colour1")->click();
+        colours->findChild<QPushButton*>("update")->click();
     });
-    auto& paper = Part<QPushButton>("lblBackColor");
+    auto& paper = Part<QPushButton>("paper");
     paper.click();
     EXPECT_EQ(paper.text().trimmed(), "Blue");
     EXPECT_EQ(paper.accessibleName(), "Paper: Blue");
@@ -198,21 +198,21 @@ TEST_F(SettingsDialogTest, FontTestFollowsFontSizeAndColours) {
 
 TEST_F(SettingsDialogTest, CharacterSetsTakeThePlaceOfFontsAndOfTheSample) {
     Open();
-    auto& font = Part<QComboBox>("cboFont");
+    auto& font = Part<QComboBox>("font");
     auto& sample = Part<QLabel>("FontTest");
-    Part<QCheckBox>("chkCharSets").click();
+    Part<QCheckBox>("charSets").click();
     EXPECT_EQ(font.count(), 1);
     EXPECT_EQ(font.currentText(), "SET 0000 - Default");
     EXPECT_FALSE(sample.pixmap(Qt::ReturnByValue).isNull());
-    Part<QCheckBox>("chkCharSets").click();
+    Part<QCheckBox>("charSets").click();
     EXPECT_EQ(font.currentText(), "0-Arial");
     EXPECT_TRUE(sample.pixmap(Qt::ReturnByValue).isNull());
 }
 
 TEST_F(SettingsDialogTest, DescriptionIsCounted) {
     Open();
-    Part<QPlainTextEdit>("txtAdvDesc").setPlainText("Caf\u00E9");
-    EXPECT_EQ(Part<QLabel>("lblCount").text(), "4 of 255 characters");
+    Part<QPlainTextEdit>("description").setPlainText("Caf\u00E9");
+    EXPECT_EQ(Part<QLabel>("count").text(), "4 of 255 characters");
 }
 
 TEST_F(SettingsDialogTest, PictureIsChosenAndCleared) {
@@ -220,31 +220,31 @@ TEST_F(SettingsDialogTest, PictureIsChosenAndCleared) {
     const auto file = desk_.Adventure().GameDir() / "a.gif";
     std::ofstream(file) << "a";
     desk_.dialogs.AnswerFile(file);
-    Part<QPushButton>("cmdGetPic").click();
-    EXPECT_EQ(Part<QLineEdit>("txtDefaultPicture").text(), "a.gif");
-    Part<QPushButton>("cmdClearPic").click();
-    EXPECT_EQ(Part<QLineEdit>("txtDefaultPicture").text(), "");
+    Part<QPushButton>("choosePicture").click();
+    EXPECT_EQ(Part<QLineEdit>("defaultPicture").text(), "a.gif");
+    Part<QPushButton>("clearPicture").click();
+    EXPECT_EQ(Part<QLineEdit>("defaultPicture").text(), "");
 }
 
 TEST_F(SettingsDialogTest, PictureThatCannotBeReadIsTold) {
     Open();
     desk_.dialogs.AnswerFile(desk_.Adventure().GameDir() / "gone.gif");
-    Part<QPushButton>("cmdGetAbout").click();
+    Part<QPushButton>("chooseAboutPicture").click();
     ASSERT_EQ(desk_.Boxes().size(), 1u);
-    EXPECT_EQ(Part<QLineEdit>("txtAboutPicture").text(), "");
+    EXPECT_EQ(Part<QLineEdit>("aboutPicture").text(), "");
 }
 
 TEST_F(SettingsDialogTest, MarloGamesHaveNeitherWeightNorPrintWidth) {
     Set("adventype", std::string("Marlo"));
     Open();
-    EXPECT_FALSE(Part<QLineEdit>("txtMaxWeight").isEnabled());
-    EXPECT_FALSE(Part<QComboBox>("cboPrintWidth").isEnabled());
-    EXPECT_EQ(Part<QLabel>("lblAdvenType").text(), "Marlo games may not be changed to VEL");
+    EXPECT_FALSE(Part<QLineEdit>("maxWeight").isEnabled());
+    EXPECT_FALSE(Part<QComboBox>("printWidth").isEnabled());
+    EXPECT_EQ(Part<QLabel>("typeNote").text(), "Marlo games may not be changed to VEL");
 }
 
 TEST_F(SettingsDialogTest, NoteOfTheTypesShowsOneAmpersand) {
     Open();
-    EXPECT_EQ(Part<QLabel>("lblAdvenType").text(), "VEL & Fabula games may not be changed to Marlo");
+    EXPECT_EQ(Part<QLabel>("typeNote").text(), "VEL & Fabula games may not be changed to Marlo");
 }
 
 TEST_F(SettingsDialogTest, MnemonicsOfEachPageAreDifferent) {
@@ -264,14 +264,33 @@ TEST_F(SettingsDialogTest, TabGoesThroughThePageAndThenToTheButtons) {
         QTest::keyClick(dialog_->focusWidget(), Qt::Key_Tab);
         QApplication::processEvents();
     } while (dialog_->focusWidget() != first && names.size() < 50);
-    EXPECT_EQ(names, (std::vector<std::string>{
-                         "txtAdventureName", "txtAuthor",       "txtSaveName",        "txtVersion",
-                         "cboAdvenType",     "cboStartLoc",     "txtMaxObjects",      "txtMaxWeight",
-                         "txtAdvDesc",       "txtContactInfo",  "lblBackColor",       "lblTextColor",
-                         "chkCharSets",      "cboFont",         "cboFontSize",        "cboPrintWidth",
-                         "chkGraphics",      "chkGraphicsInDb", "txtDefaultPicture",  "cmdGetPic",
-                         "cmdClearPic",      "txtAboutPicture", "cmdGetAbout",        "cmdClearAbout",
-                         "cmdUpdate",        "cmdExit",         "qt_tabwidget_tabbar"}));
+    EXPECT_EQ(names, (std::vector<std::string>{"name",
+                                               "author",
+                                               "saveName",
+                                               "version",
+                                               "type",
+                                               "startPlace",
+                                               "maxObjects",
+                                               "maxWeight",
+                                               "description",
+                                               "contactInfo",
+                                               "paper",
+                                               "ink",
+                                               "charSets",
+                                               "font",
+                                               "fontSize",
+                                               "printWidth",
+                                               "graphics",
+                                               "graphicsInDb",
+                                               "defaultPicture",
+                                               "choosePicture",
+                                               "clearPicture",
+                                               "aboutPicture",
+                                               "chooseAboutPicture",
+                                               "clearAboutPicture",
+                                               "update",
+                                               "exit",
+                                               "qt_tabwidget_tabbar"}));
 }
 
 TEST_F(SettingsDialogTest, OpensInASizeThatHoldsItsColumns) {
@@ -313,7 +332,7 @@ TEST_F(SettingsDialogTest, EveryControlHasANameAndBothThemesShowIt) {
         test::GrabInBothThemes(*dialog_, QString("settings-%1").arg(page));
     }
     TurnTo(0);
-    Part<QCheckBox>("chkCharSets").click();
+    Part<QCheckBox>("charSets").click();
     test::GrabInBothThemes(*dialog_, "settings-charsets");
 }
 

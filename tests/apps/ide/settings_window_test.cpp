@@ -38,9 +38,9 @@ class SettingsInTheWindow : public testing::Test {
         opened_.Action("Settings").trigger();
         EXPECT_TRUE(shown);
     }
-    static void Update(QDialog& dialog) { dialog.findChild<QPushButton*>("cmdUpdate")->click(); }
+    static void Update(QDialog& dialog) { dialog.findChild<QPushButton*>("update")->click(); }
     std::string Stored(std::string_view fields) {
-        const store::Cursor& record = opened_.Logic().CurrentSession().document.Adventure().OpenTable(
+        const store::Cursor& record = opened_.Logic().CurrentContext().document.Adventure().OpenTable(
             store::TableNum::Adventure, fields);
         return text::ToText(record.Field(fields));
     }
@@ -50,7 +50,7 @@ class SettingsInTheWindow : public testing::Test {
 
 TEST_F(SettingsInTheWindow, AreEditedUndoneAndDoneAgain) {
     EditSettings([](QDialog& dialog) {
-        auto* author = dialog.findChild<QLineEdit*>("txtAuthor");
+        auto* author = dialog.findChild<QLineEdit*>("author");
         author->setFocus();
         author->selectAll();
         QTest::keyClicks(author, "Ann");
@@ -66,14 +66,14 @@ TEST_F(SettingsInTheWindow, AreEditedUndoneAndDoneAgain) {
 }
 
 TEST_F(SettingsInTheWindow, StayAsTheyAreAtExit) {
-    EditSettings([](QDialog& dialog) { dialog.findChild<QLineEdit*>("txtAuthor")->setText("Ann"); });
+    EditSettings([](QDialog& dialog) { dialog.findChild<QLineEdit*>("author")->setText("Ann"); });
     EXPECT_EQ(Stored("author"), "");
     EXPECT_FALSE(opened_.Action("Undo").isEnabled());
 }
 
 TEST_F(SettingsInTheWindow, ShowTheirEffectAtOnce) {
     EditSettings([](QDialog& dialog) {
-        dialog.findChild<QCheckBox*>("chkGraphics")->click();
+        dialog.findChild<QCheckBox*>("graphics")->click();
         Update(dialog);
     });
     EXPECT_NE(opened_.Logic().AdventureStatus().find("Graphics: ON"), std::string::npos);
@@ -85,8 +85,8 @@ TEST_F(SettingsInTheWindow, CopyPicturesIntoTheAdventureAsPartOfTheSameStep) {
     std::ofstream(opened_.folder / "a.gif") << "a";
     opened_.dialogs.AnswerFile(opened_.folder / "a.gif");
     EditSettings([](QDialog& dialog) {
-        dialog.findChild<QCheckBox*>("chkGraphicsInDb")->click();
-        dialog.findChild<QPushButton*>("cmdGetPic")->click();
+        dialog.findChild<QCheckBox*>("graphicsInDb")->click();
+        dialog.findChild<QPushButton*>("choosePicture")->click();
         Update(dialog);
     });
     EXPECT_EQ(Stored("olddefpicloc"), "a.gif");
@@ -97,15 +97,15 @@ TEST_F(SettingsInTheWindow, CopyPicturesIntoTheAdventureAsPartOfTheSameStep) {
 
 TEST_F(SettingsInTheWindow, TryTheSoundOnThePlayerOfTheProgram) {
     EditSettings([](QDialog& dialog) {
-        dialog.findChild<QTabWidget*>("tabSettings")->setCurrentIndex(1);
-        dialog.findChild<QPushButton*>("cmdTestVoice")->click();
+        dialog.findChild<QTabWidget*>("pages")->setCurrentIndex(1);
+        dialog.findChild<QPushButton*>("testVoice")->click();
     });
     EXPECT_EQ(opened_.sound.notes.size(), 1u);
 }
 
 TEST_F(SettingsInTheWindow, EndTheProgramWhenCharacterSetsAreSwitched) {
     EditSettings([](QDialog& dialog) {
-        dialog.findChild<QCheckBox*>("chkCharSets")->click();
+        dialog.findChild<QCheckBox*>("charSets")->click();
         Update(dialog);
     });
     EXPECT_EQ(opened_.dialogs.Boxes().back().text, "Changing Character Sets requires exiting program");
@@ -116,7 +116,7 @@ TEST_F(SettingsInTheWindow, HaveHelpForEachField) {
     opened_.help.Write("frmveladvsettings.html",
                        "<title>Adventure settings</title><a name=\"txtmaxobjects\"></a>");
     EditSettings([](QDialog& dialog) {
-        auto* objects = dialog.findChild<QLineEdit*>("txtMaxObjects");
+        auto* objects = dialog.findChild<QLineEdit*>("maxObjects");
         objects->setFocus();
         QTest::keyClick(objects, Qt::Key_F1);
     });

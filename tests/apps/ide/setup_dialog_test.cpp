@@ -1,4 +1,4 @@
-#include "ide/setup_dialog.h"
+#include "ide/dialogs/setup_dialog.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -20,17 +20,17 @@ class SetupDialogTest : public testing::Test {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
     }
     QRadioButton& Option(const char* name) { return *dialog_.findChild<QRadioButton*>(name); }
-    QString Explanation() { return dialog_.findChild<QLabel*>("lblExplain")->text(); }
+    QString Explanation() { return dialog_.findChild<QLabel*>("explanation")->text(); }
 
-    store::frmSetup setup_;
+    store::AdventureSetup setup_;
     ide::SetupDialog dialog_{setup_};
 };
 
 TEST_F(SetupDialogTest, OpensOnTheChoicesOfTheScreen) {
     EXPECT_EQ(dialog_.windowTitle(), "Choose Type of Adventure");
-    EXPECT_TRUE(Option("optFabula").isChecked());
-    EXPECT_TRUE(Option("optNonGraphic").isChecked());
-    EXPECT_TRUE(Option("optCharSetNo").isChecked());
+    EXPECT_TRUE(Option("fabula").isChecked());
+    EXPECT_TRUE(Option("nonGraphic").isChecked());
+    EXPECT_TRUE(Option("charSetsNo").isChecked());
     EXPECT_EQ(Explanation(), "Fabula: Takes all Fabula constructs, including extra Conditions & Actions.");
 }
 
@@ -43,37 +43,37 @@ TEST_F(SetupDialogTest, HeadsItsGroupsInTheSystemsWords) {
 }
 
 TEST_F(SetupDialogTest, GroupsAreIndependent) {
-    QTest::mouseClick(&Option("optVel"), Qt::LeftButton);
-    QTest::mouseClick(&Option("optGraphic"), Qt::LeftButton);
-    QTest::mouseClick(&Option("optCharSetYes"), Qt::LeftButton);
+    QTest::mouseClick(&Option("vel"), Qt::LeftButton);
+    QTest::mouseClick(&Option("graphic"), Qt::LeftButton);
+    QTest::mouseClick(&Option("charSetsYes"), Qt::LeftButton);
     EXPECT_EQ(setup_.Type(), AdventureKind::Vel);
     EXPECT_TRUE(setup_.Graphics());
     EXPECT_TRUE(setup_.CharSets());
-    QTest::mouseClick(&Option("optCharSetNo"), Qt::LeftButton);
+    QTest::mouseClick(&Option("charSetsNo"), Qt::LeftButton);
     EXPECT_FALSE(setup_.CharSets());
 }
 
 TEST_F(SetupDialogTest, MarloForcesCharacterSets) {
-    QTest::mouseClick(&Option("optMarlo"), Qt::LeftButton);
-    EXPECT_TRUE(Option("optCharSetYes").isChecked());
-    EXPECT_FALSE(Option("optCharSetNo").isEnabled());
+    QTest::mouseClick(&Option("marlo"), Qt::LeftButton);
+    EXPECT_TRUE(Option("charSetsYes").isChecked());
+    EXPECT_FALSE(Option("charSetsNo").isEnabled());
     EXPECT_TRUE(setup_.CharSets());
-    QTest::mouseClick(&Option("optFabula"), Qt::LeftButton);
-    EXPECT_TRUE(Option("optCharSetNo").isEnabled());
+    QTest::mouseClick(&Option("fabula"), Qt::LeftButton);
+    EXPECT_TRUE(Option("charSetsNo").isEnabled());
 }
 
 TEST_F(SetupDialogTest, ExplainsTheOptionAtHand) {
-    Option("optNonGraphic").setFocus();
+    Option("nonGraphic").setFocus();
     EXPECT_EQ(Explanation(), "Non-Graphic: Graphic Editor is NOT included.");
-    Option("optCharSetNo").setFocus();
+    Option("charSetsNo").setFocus();
     EXPECT_EQ(Explanation(), "No - Windows Fonts used (Saves memory)");
 }
 
 TEST_F(SetupDialogTest, CanBeFilledInByKeysAlone) {
-    QTest::keyClick(&Option("optFabula"), Qt::Key_Right);
+    QTest::keyClick(&Option("fabula"), Qt::Key_Right);
     EXPECT_EQ(setup_.Type(), AdventureKind::Vel);
     QTest::keyClick(dialog_.focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(dialog_.focusWidget(), &Option("optNonGraphic"));
+    EXPECT_EQ(dialog_.focusWidget(), &Option("nonGraphic"));
     QTest::keyClick(dialog_.focusWidget(), Qt::Key_Left);
     EXPECT_TRUE(setup_.Graphics());
     QTest::keyClick(&dialog_, Qt::Key_Return);
@@ -88,7 +88,7 @@ TEST_F(SetupDialogTest, EscapeMakesNothing) {
 
 TEST_F(SetupDialogTest, OffersTheUsualWords) {
     EXPECT_TRUE(dialog_.Starter());
-    dialog_.findChild<QCheckBox*>("chkStarter")->click();
+    dialog_.findChild<QCheckBox*>("starter")->click();
     EXPECT_FALSE(dialog_.Starter());
 }
 

@@ -1,4 +1,4 @@
-#include "ide/sort_dialog.h"
+#include "ide/dialogs/sort_dialog.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "authoring/desk.h"
-#include "authoring/sort_order.h"
+#include "authoring/desk/sort_order.h"
 #include "ide/opened_window.h"
 #include "qt/strings.h"
 
@@ -37,39 +37,39 @@ class SortDialogTest : public testing::Test {
 
 TEST_F(SortDialogTest, ShowsTheOrderOfTheTable) {
     EXPECT_EQ(dialog_.windowTitle(), "Sort Vocabulary");
-    EXPECT_EQ(Combo("cboField1").currentText(), "voctypen");
-    EXPECT_EQ(Combo("cboField2").currentText(), "Number (vocnum)");
-    EXPECT_EQ(Combo("cboField3").currentText(), "Word");
-    EXPECT_EQ(Combo("cboDirection3").currentText(), "Ascending");
+    EXPECT_EQ(Combo("field1").currentText(), "voctypen");
+    EXPECT_EQ(Combo("field2").currentText(), "Number (vocnum)");
+    EXPECT_EQ(Combo("field3").currentText(), "Word");
+    EXPECT_EQ(Combo("direction3").currentText(), "Ascending");
 }
 
 TEST_F(SortDialogTest, StoresFieldsAndDirections) {
-    Combo("cboField1").setCurrentText("Word");
-    Combo("cboDirection1").setCurrentText("Descending");
-    Combo("cboField2").setCurrentText("(none)");
-    Combo("cboField3").setCurrentText("(none)");
-    EXPECT_FALSE(Combo("cboDirection2").isEnabled());
+    Combo("field1").setCurrentText("Word");
+    Combo("direction1").setCurrentText("Descending");
+    Combo("field2").setCurrentText("(none)");
+    Combo("field3").setCurrentText("(none)");
+    EXPECT_FALSE(Combo("direction2").isEnabled());
     QTest::keyClick(dialog_.focusWidget(), Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(Stored(), "word desc");
     EXPECT_EQ(dialog_.result(), QDialog::Accepted);
 }
 
 TEST_F(SortDialogTest, StaysOpenWhenTheOrderIsRefused) {
-    Combo("cboField2").setCurrentText("Word");
-    Click("cmdUpdate");
+    Combo("field2").setCurrentText("Word");
+    Click("update");
     EXPECT_TRUE(dialog_.isVisible());
     EXPECT_EQ(desk_.Boxes(), std::vector<std::string>{"The field Word stands twice in the order."});
 }
 
 TEST_F(SortDialogTest, OwnOrderPutsThePlainOneBack) {
-    Combo("cboField1").setCurrentText("(none)");
-    Click("cmdPlain");
-    EXPECT_EQ(Combo("cboField1").currentText(), "voctypen");
-    EXPECT_TRUE(Combo("cboDirection1").isEnabled());
+    Combo("field1").setCurrentText("(none)");
+    Click("plain");
+    EXPECT_EQ(Combo("field1").currentText(), "voctypen");
+    EXPECT_TRUE(Combo("direction1").isEnabled());
 }
 
 TEST_F(SortDialogTest, ExitStoresNothing) {
-    Combo("cboField1").setCurrentText("Word");
+    Combo("field1").setCurrentText("Word");
     QTest::keyClick(&dialog_, Qt::Key_Escape);
     EXPECT_FALSE(dialog_.isVisible());
     EXPECT_EQ(Stored(), "voctypen, vocnum, word");
@@ -83,10 +83,10 @@ TEST(SortFromTheWindow, SortsTheGridAndIsUndone) {
     ASSERT_NE(first, "ZEBRA");
     QTimer::singleShot(0, [] {
         QWidget* dialog = QApplication::activeModalWidget();
-        dialog->findChild<QComboBox*>("cboField1")->setCurrentText("Word");
-        dialog->findChild<QComboBox*>("cboDirection1")->setCurrentText("Descending");
-        dialog->findChild<QComboBox*>("cboField3")->setCurrentText("(none)");
-        dialog->findChild<QPushButton*>("cmdUpdate")->click();
+        dialog->findChild<QComboBox*>("field1")->setCurrentText("Word");
+        dialog->findChild<QComboBox*>("direction1")->setCurrentText("Descending");
+        dialog->findChild<QComboBox*>("field3")->setCurrentText("(none)");
+        dialog->findChild<QPushButton*>("update")->click();
     });
     opened.Action("TabSort").trigger();
     EXPECT_EQ(opened.Cell(0, 1), "ZEBRA");

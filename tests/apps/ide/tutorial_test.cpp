@@ -15,9 +15,9 @@
 #include <gtest/gtest.h>
 
 #include "ide/author.h"
-#include "ide/game_test.h"
-#include "player/game_screen.h"
-#include "player/text_pane.h"
+#include "ide/window/game_test.h"
+#include "player/panes/game_screen.h"
+#include "player/panes/text_pane.h"
 #include "qt/help_window.h"
 #include "qt/strings.h"
 #include "store/adventure.h"
@@ -69,7 +69,7 @@ class Tutorial : public testing::Test {
             author_.Types(qt::PathToQt(author_.Desk().folder / "cake.fbd"));
             author_.Presses(Qt::Key_Return);
         });
-        author_.Expects("Choose Type of Adventure", [&] { author_.Clicks("cmdExecute"); });
+        author_.Expects("Choose Type of Adventure", [&] { author_.Clicks("execute"); });
         author_.Expects("Fabula IDE", [&] { author_.Presses(Qt::Key_Return); });
         author_.Chooses("File > New");
     }
@@ -94,9 +94,9 @@ class Tutorial : public testing::Test {
         author_.Chooses("Edit > Add Location");
     }
     void FillPlace(const char* name, const char* text) {
-        author_.Clicks("txtShortDesc");
+        author_.Clicks("shortDescription");
         author_.Types(name);
-        Replace("txtDEscription", text);
+        Replace("description", text);
         author_.Presses(kUpdate);
     }
     void Replace(const char* field, const char* text) {
@@ -124,7 +124,7 @@ class Tutorial : public testing::Test {
     }
     void AddExits(int row, const char* title, const char* exits) {
         author_.Expects(title, [=, this] {
-            author_.Clicks("txtExits");
+            author_.Clicks("exits");
             author_.Types(exits);
             author_.Presses(kUpdate);
         });
@@ -133,20 +133,20 @@ class Tutorial : public testing::Test {
 
     void TeachTheWords() {
         author_.ClicksNode("Vocabulary");
-        AddWord("KEY", "optType2");
-        AddWord("DOOR", "optType2");
-        AddWord("CAKE", "optType2");
-        AddWord("OPEN", "optType0");
-        AddWord("UNLOCK", "optType0", "33");
-        AddWord("EAT", "optType0");
+        AddWord("KEY", "type2");
+        AddWord("DOOR", "type2");
+        AddWord("CAKE", "type2");
+        AddWord("OPEN", "type0");
+        AddWord("UNLOCK", "type0", "33");
+        AddWord("EAT", "type0");
     }
     /// `number` of a word that means the same as another one.
     void AddWord(const char* word, const char* type, const char* number = nullptr) {
         author_.Expects("Vocabulary Editor", [=, this] {
-            author_.Clicks("txtWord");
+            author_.Clicks("word");
             author_.Types(word);
             author_.Clicks(type);
-            if (number) Replace("txtWordNum", number);
+            if (number) Replace("number", number);
             author_.Presses(kUpdate);
         });
         author_.Presses(kAdd);
@@ -159,13 +159,13 @@ class Tutorial : public testing::Test {
     }
     void AddThing(const char* title, const char* text, const char* noun, const char* room) {
         author_.Expects(title, [=, this] {
-            author_.Clicks("txtObjDesc");
+            author_.Clicks("description");
             author_.Types(text);
-            author_.Clicks("cboObjWord");
+            author_.Clicks("noun");
             author_.Types(noun);
             author_.Presses(Qt::Key_Return);
-            author_.Clicks("optInitiaLloc3");
-            Replace("cboInRoom", room);
+            author_.Clicks("initialPlace3");
+            Replace("room", room);
             author_.Presses(kUpdate);
         });
         author_.Presses(kAdd);
@@ -203,8 +203,8 @@ class Tutorial : public testing::Test {
         author_.Types("60");
         author_.Presses(Qt::Key_Return);
         author_.Expects("Flag 60", [&] {
-            Pick("cboFlgUse", "Switch");
-            author_.Clicks("txtFlgDesc");
+            Pick("use", "Switch");
+            author_.Clicks("description");
             author_.Types("The pantry is open.");
             author_.Presses(kUpdate);
         });
@@ -214,10 +214,10 @@ class Tutorial : public testing::Test {
     void GiveTheRules() {
         author_.ClicksNode("Response (P0)");
         author_.Expects("Process Table Editor", [&] {
-            Pick("cboWord1", "EAST");
-            author_.Clicks("txtAllCAs");
+            Pick("verb", "EAST");
+            author_.Clicks("line");
             author_.Types("at 0 zero 60");
-            EXPECT_EQ(Told("lblMeaning"), "ZERO 60: The pantry is open.");
+            EXPECT_EQ(Told("meaning"), "ZERO 60: The pantry is open.");
             LookUp("zero.htm");
             author_.Types(" mess");
             author_.Presses(Qt::Key_Tab);
@@ -240,9 +240,9 @@ class Tutorial : public testing::Test {
     }
     void AddRule(const char* verb, const char* noun, const char* line) {
         author_.Expects("Process Table Editor", [=, this] {
-            Pick("cboWord1", verb);
-            Pick("cboWord2", noun);
-            author_.Clicks("txtAllCAs");
+            Pick("verb", verb);
+            Pick("noun", noun);
+            author_.Clicks("line");
             author_.Types(line);
             author_.Presses(kUpdate);
         });
@@ -265,7 +265,7 @@ class Tutorial : public testing::Test {
 
     void GiveItAName() {
         author_.Expects("Adventure Settings Editor", [&] {
-            Replace("txtAdventureName", "The Last Slice");
+            Replace("name", "The Last Slice");
             author_.Presses(kUpdate);
         });
         author_.Chooses("Game > Adventure Settings");
@@ -273,11 +273,10 @@ class Tutorial : public testing::Test {
 
     void CheckIt() {
         author_.Expects("Verify Adventure", [&] {
-            EXPECT_TRUE(
-                QTest::qWaitFor([&] { return Told("lblProgress") == "The adventure has passed."; }));
-            const auto& lines = *author_.Front().findChild<QListWidget*>("txtStatus");
+            EXPECT_TRUE(QTest::qWaitFor([&] { return Told("progress") == "The adventure has passed."; }));
+            const auto& lines = *author_.Front().findChild<QListWidget*>("status");
             EXPECT_EQ(lines.item(1)->text(), "No Errors Found");
-            author_.Clicks("cmdOK");
+            author_.Clicks("ok");
         });
         author_.Chooses("Game > Verify");
     }

@@ -1,4 +1,4 @@
-#include "ide/verify_dialog.h"
+#include "ide/dialogs/verify_dialog.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,7 +18,7 @@
 namespace fabula::test {
 namespace {
 
-using authoring::frmVerify;
+using authoring::VerifyScreen;
 using authoring::VerifyTarget;
 
 class VerifyDialogTest : public testing::Test {
@@ -37,9 +37,9 @@ class VerifyDialogTest : public testing::Test {
         dialog_.show();
         QApplication::processEvents();
     }
-    QListWidget& Lines() { return *dialog_.findChild<QListWidget*>("txtStatus"); }
+    QListWidget& Lines() { return *dialog_.findChild<QListWidget*>("status"); }
     QPushButton& Button(const char* name) { return *dialog_.findChild<QPushButton*>(name); }
-    QString Progress() { return dialog_.findChild<QLabel*>("lblProgress")->text(); }
+    QString Progress() { return dialog_.findChild<QLabel*>("progress")->text(); }
     QStringList Texts() {
         QStringList texts;
         for (int row = 0; row < Lines().count(); ++row)
@@ -50,7 +50,7 @@ class VerifyDialogTest : public testing::Test {
     OpenedAdventure adventure_;
     platform::ScriptedDialogs dialogs_;
     ScriptedPump pump_;
-    frmVerify verify_{*adventure_, VerifyTarget::Play, pump_};
+    VerifyScreen verify_{*adventure_, VerifyTarget::Play, pump_};
     ide::VerifyDialog dialog_{verify_, dialogs_};
 };
 
@@ -69,7 +69,7 @@ TEST_F(VerifyDialogTest, BeginsTheCheckOnceItIsShown) {
 TEST_F(VerifyDialogTest, DoubleClickOnAnEntryGoesThere) {
     AddEntry(7, "FROB 3");
     std::vector<std::pair<int, int>> gone;
-    dialog_.goTo = [&](const frmVerify::Entry& entry) { gone.emplace_back(entry.estype, entry.canum); };
+    dialog_.goTo = [&](const VerifyScreen::Entry& entry) { gone.emplace_back(entry.estype, entry.canum); };
     ShowAndRun();
     EXPECT_EQ(Progress(), "The adventure has not passed.");
     ASSERT_EQ(Lines().item(1)->text(), "Process Table 2 Entry # 7 (* _ FROB 3)");
@@ -86,13 +86,13 @@ TEST_F(VerifyDialogTest, DoubleClickOnAnEntryGoesThere) {
 TEST_F(VerifyDialogTest, ButtonGoesToTheEntryOfTheLine) {
     AddEntry(7, "FROB 3");
     int gone = -1;
-    dialog_.goTo = [&](const frmVerify::Entry& entry) { gone = entry.canum; };
+    dialog_.goTo = [&](const VerifyScreen::Entry& entry) { gone = entry.canum; };
     ShowAndRun();
     Lines().setCurrentRow(0);
-    EXPECT_FALSE(Button("cmdGoTo").isEnabled());
+    EXPECT_FALSE(Button("goTo").isEnabled());
     Lines().setCurrentRow(1);
-    EXPECT_TRUE(Button("cmdGoTo").isEnabled());
-    Button("cmdGoTo").click();
+    EXPECT_TRUE(Button("goTo").isEnabled());
+    Button("goTo").click();
     EXPECT_EQ(gone, 7);
 }
 
@@ -100,10 +100,10 @@ TEST_F(VerifyDialogTest, EndsOnTheFirstEntryAtFaultToWhichEnterGoes) {
     AddEntry(7, "FROB 3");
     AddEntry(8, "FROB 4");
     int gone = -1;
-    dialog_.goTo = [&](const frmVerify::Entry& entry) { gone = entry.canum; };
+    dialog_.goTo = [&](const VerifyScreen::Entry& entry) { gone = entry.canum; };
     ShowAndRun();
     EXPECT_EQ(Lines().currentRow(), 1);
-    EXPECT_TRUE(Button("cmdGoTo").isEnabled());
+    EXPECT_TRUE(Button("goTo").isEnabled());
     QTest::keyClick(&Lines(), Qt::Key_Return);
     EXPECT_EQ(gone, 7);
     EXPECT_FALSE(dialog_.isVisible());
@@ -111,22 +111,22 @@ TEST_F(VerifyDialogTest, EndsOnTheFirstEntryAtFaultToWhichEnterGoes) {
 
 TEST_F(VerifyDialogTest, WithoutAWayToEntriesThereIsNoButton) {
     ShowAndRun();
-    EXPECT_FALSE(Button("cmdGoTo").isVisible());
+    EXPECT_FALSE(Button("goTo").isVisible());
 }
 
 TEST_F(VerifyDialogTest, StatusIsCopiedAndSaved) {
     ShowAndRun();
-    dialog_.findChild<QAction*>("cmdCopyStatus")->trigger();
+    dialog_.findChild<QAction*>("copyStatus")->trigger();
     EXPECT_EQ(QApplication::clipboard()->text(),
               "Verifying Process/Response Tables \nNo Errors Found\nVerify Completed\n");
     dialogs_.AnswerFile(adventure_.Folder() / "status.txt");
-    dialog_.findChild<QAction*>("cmdSaveStatus")->trigger();
+    dialog_.findChild<QAction*>("saveStatus")->trigger();
     EXPECT_TRUE(std::filesystem::exists(adventure_.Folder() / "status.txt"));
 }
 
 TEST_F(VerifyDialogTest, OkClosesIt) {
     ShowAndRun();
-    Button("cmdOK").click();
+    Button("ok").click();
     EXPECT_FALSE(dialog_.isVisible());
 }
 
@@ -134,7 +134,7 @@ TEST_F(VerifyDialogTest, OkDuringTheCheckEndsItAndCloses) {
     for (int number = 0; number < 100; ++number)
         AddEntry(number, "DONE");
     pump_.atTurn = [&] {
-        if (pump_.turns == 3) Button("cmdOK").click();
+        if (pump_.turns == 3) Button("ok").click();
     };
     ShowAndRun();
     EXPECT_TRUE(verify_.Finished());
@@ -158,7 +158,7 @@ TEST_F(VerifyDialogTest, BeforeAnExportItStaysWhenThereAreErrors) {
 TEST_F(VerifyDialogTest, EveryControlHasANameAndBothThemesShowIt) {
     AddEntry(7, "FROB 3");
     AddEntry(8, "AT 999 MESSAGE 5 DONE");
-    dialog_.goTo = [](const frmVerify::Entry&) {};
+    dialog_.goTo = [](const VerifyScreen::Entry&) {};
     ShowAndRun();
     Lines().setCurrentRow(1);
     EXPECT_EQ(WidgetsWithoutName(dialog_), std::vector<std::string>{});

@@ -1,4 +1,4 @@
-#include "player/about_adventure.h"
+#include "player/window/about_adventure.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +15,10 @@ class AboutTest : public testing::Test {
   protected:
     AboutTest() { std::filesystem::create_directory(folder_); }
 
-    frmAboutAdventure About(const GameBuilder& game) {
+    AboutAdventure About(const GameBuilder& game) {
         game.Write(file_);
         const auto adventure = store::Adventure::Open(file_, store::OpenMode::ReadOnly);
-        return frmAboutAdventure::Of(adventure.get());
+        return AboutAdventure::Of(adventure.get());
     }
     static void SaveImage(const std::filesystem::path& file) {
         QImage image(8, 4, QImage::Format_RGB32);
@@ -32,7 +32,7 @@ class AboutTest : public testing::Test {
 };
 
 TEST_F(AboutTest, WithoutAnAdventureSaysSo) {
-    EXPECT_EQ(frmAboutAdventure::Of(nullptr).name, "No Adventure Loaded");
+    EXPECT_EQ(AboutAdventure::Of(nullptr).name, "No Adventure Loaded");
 }
 
 TEST_F(AboutTest, TellsNameVersionAuthorAndTexts) {
@@ -64,7 +64,7 @@ TEST_F(AboutTest, ShowsThePictureOfTheAdventureFileWhenPicturesAreKeptThere) {
     }
     std::filesystem::remove(folder_ / "about.png");
     const auto adventure = store::Adventure::Open(file_, store::OpenMode::ReadOnly);
-    EXPECT_EQ(frmAboutAdventure::Of(adventure.get()).picture.size(), QSize(8, 4));
+    EXPECT_EQ(AboutAdventure::Of(adventure.get()).picture.size(), QSize(8, 4));
 }
 
 TEST_F(AboutTest, PictureOutsideTheGamesFolderIsNotShown) {

@@ -1,4 +1,4 @@
-#include "player/character_screen.h"
+#include "player/panes/character_screen.h"
 
 #include <gtest/gtest.h>
 

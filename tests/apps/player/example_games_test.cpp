@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "player/play/session.h"
 #include "player/played_window.h"
-#include "player/session.h"
 
 namespace fabula::test {
 namespace {

@@ -6,9 +6,9 @@
 
 #include "platform/error.h"
 #include "platform/recent_files.h"
-#include "player/game_folder.h"
-#include "player/player_settings.h"
-#include "player/transcript_file.h"
+#include "player/play/game_folder.h"
+#include "player/play/transcript_file.h"
+#include "player/window/player_settings.h"
 #include "qt/strings.h"
 #include "support/temp_folder.h"
 

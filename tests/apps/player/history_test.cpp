@@ -1,4 +1,4 @@
-#include "player/history.h"
+#include "player/panes/history.h"
 
 #include <gtest/gtest.h>
 

@@ -7,10 +7,10 @@
 #include <gtest/gtest.h>
 
 #include "platform/manual_timers.h"
-#include "player/character_pane.h"
-#include "player/pane_keys.h"
-#include "player/picture_pane.h"
-#include "player/text_pane.h"
+#include "player/panes/character_pane.h"
+#include "player/panes/pane_keys.h"
+#include "player/panes/picture_pane.h"
+#include "player/panes/text_pane.h"
 
 namespace fabula::player {
 namespace {

@@ -5,8 +5,8 @@
 #include <QLabel>
 #include <QTest>
 
-#include "player/game_screen.h"
-#include "player/text_pane.h"
+#include "player/panes/game_screen.h"
+#include "player/panes/text_pane.h"
 #include "qt/strings.h"
 
 namespace fabula::test {
@@ -19,7 +19,7 @@ PlayedWindow::PlayedWindow(bool testRun)
 PlayedWindow::~PlayedWindow() = default;
 
 void PlayedWindow::Open() {
-    window_ = std::make_unique<player::frmVelEngMain>(
+    window_ = std::make_unique<player::PlayerWindow>(
         player::WindowServices{.timers = timers,
                                .dialogs = dialogs,
                                .sound = sound,

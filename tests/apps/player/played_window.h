@@ -8,7 +8,7 @@
 
 #include "platform/manual_timers.h"
 #include "platform/scripted_dialogs.h"
-#include "player/vel_eng_main.h"
+#include "player/window/player_window.h"
 #include "support/game_builder.h"
 #include "support/temp_folder.h"
 
@@ -43,7 +43,7 @@ class PlayedWindow {
     std::string Status(const char* label) const;
     QAction& Action(const char* name) const;
 
-    player::frmVelEngMain& Window() const { return *window_; }
+    player::PlayerWindow& Window() const { return *window_; }
 
     std::optional<qt::HelpTopic> asked;  ///< the topic of the help that was asked for last
 
@@ -58,7 +58,7 @@ class PlayedWindow {
 
     bool testRun_;
     QSettings settings_;
-    std::unique_ptr<player::frmVelEngMain> window_;
+    std::unique_ptr<player::PlayerWindow> window_;
     std::size_t told_ = 0;
 };
 

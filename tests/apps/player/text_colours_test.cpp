@@ -1,4 +1,4 @@
-#include "player/text_colours.h"
+#include "player/panes/text_colours.h"
 
 #include <gtest/gtest.h>
 

@@ -11,11 +11,11 @@
 
 #include <gtest/gtest.h>
 
-#include "player/character_pane.h"
-#include "player/game_screen.h"
+#include "player/panes/character_pane.h"
+#include "player/panes/game_screen.h"
+#include "player/panes/text_pane.h"
+#include "player/play/session.h"
 #include "player/played_window.h"
-#include "player/session.h"
-#include "player/text_pane.h"
 #include "qt/strings.h"
 
 namespace fabula::test {
@@ -88,7 +88,7 @@ TEST(WindowAccess, EveryControlOfDiagnosticsHasAName) {
     PlayedWindow played(true);
     played.Load(Game());
     played.Action("Debug").trigger();
-    EXPECT_EQ(Nameless(*played.Window().findChild<QWidget*>("frmDebug")), kNone);
+    EXPECT_EQ(Nameless(*played.Window().findChild<QWidget*>("diagnostics")), kNone);
 }
 
 TEST(WindowAccess, EveryControlOfAboutHasANameAndEscapeLeavesIt) {

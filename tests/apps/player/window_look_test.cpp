@@ -14,12 +14,12 @@
 
 #include <gtest/gtest.h>
 
-#include "player/character_pane.h"
-#include "player/game_screen.h"
-#include "player/picture_pane.h"
+#include "player/panes/character_pane.h"
+#include "player/panes/game_screen.h"
+#include "player/panes/picture_pane.h"
+#include "player/panes/text_pane.h"
+#include "player/play/session.h"
 #include "player/played_window.h"
-#include "player/session.h"
-#include "player/text_pane.h"
 #include "qt/strings.h"
 
 namespace fabula::test {
@@ -45,17 +45,17 @@ TEST(WindowPictures, PictureOfThePlaceIsShownAboveTheText) {
     played.Load(Game().Graphics().PictureOf(0, "room.png"));
     EXPECT_TRUE(played.Window().Screen().Picture().isVisible());
     EXPECT_EQ(played.Window().Screen().Picture().Shown().size(), QSize(8, 4));
-    EXPECT_EQ(played.Status("txtStatus"), "");
+    EXPECT_EQ(played.Status("status"), "");
 }
 
 TEST(WindowPictures, MissingPictureShowsNothingAndIsToldOnce) {
     PlayedWindow played;
     played.Load(Game().Graphics().PictureOf(0, "room.png").Entry(0, "DO", "_", "PICTURE 0 DONE"));
     EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
-    EXPECT_EQ(played.Status("txtStatus"), "The picture room.png is missing.");
+    EXPECT_EQ(played.Status("status"), "The picture room.png is missing.");
     played.Window().Tell("");
     played.Type("do\n");
-    EXPECT_EQ(played.Status("txtStatus"), "");
+    EXPECT_EQ(played.Status("status"), "");
 }
 
 TEST(WindowPictures, BrokenPictureShowsNothingAndIsTold) {
@@ -66,7 +66,7 @@ TEST(WindowPictures, BrokenPictureShowsNothingAndIsTold) {
     file.close();
     played.Load(Game().Graphics().PictureOf(0, "room.png"));
     EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
-    EXPECT_EQ(played.Status("txtStatus"), "The picture room.png can't be shown.");
+    EXPECT_EQ(played.Status("status"), "The picture room.png can't be shown.");
 }
 
 TEST(WindowPictures, PathThatLeavesTheGamesFolderIsRefused) {
@@ -75,7 +75,7 @@ TEST(WindowPictures, PathThatLeavesTheGamesFolderIsRefused) {
     played.Load(Game().Graphics().PictureOf(0, "../outside-of-the-game.png"));
     std::filesystem::remove(played.folder.Path().parent_path() / "outside-of-the-game.png");
     EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
-    EXPECT_EQ(played.Status("txtStatus"),
+    EXPECT_EQ(played.Status("status"),
               "The picture ../outside-of-the-game.png is refused: it lies outside the game's folder.");
 }
 
@@ -307,11 +307,11 @@ TEST(WindowTestRun, DebugShowsAndChangesTheState) {
     played.Load(Game());
     ASSERT_TRUE(played.Action("Debug").isEnabled());
     played.Action("Debug").trigger();
-    auto* debug = played.Window().findChild<QWidget*>("frmDebug");
+    auto* debug = played.Window().findChild<QWidget*>("diagnostics");
     ASSERT_NE(debug, nullptr);
     EXPECT_EQ(debug->windowTitle(), "Diagnostics");
-    auto* input = debug->findChild<QLineEdit*>("txtInput");
-    auto* result = debug->findChild<QLabel*>("lblResult");
+    auto* input = debug->findChild<QLineEdit*>("request");
+    auto* result = debug->findChild<QLabel*>("result");
     QTest::keyClicks(input, "f38");
     QTest::keyClick(input, Qt::Key_Return);
     EXPECT_EQ(result->text(), "F38 = 0");
@@ -345,7 +345,7 @@ TEST(WindowHelp, HInDiagnosticsTellsAboutThem) {
     PlayedWindow played(true);
     played.Load(Game());
     played.Action("Debug").trigger();
-    auto* input = played.Window().findChild<QWidget*>("frmDebug")->findChild<QLineEdit*>("txtInput");
+    auto* input = played.Window().findChild<QWidget*>("diagnostics")->findChild<QLineEdit*>("request");
     QTest::keyClicks(input, "h");
     QTest::keyClick(input, Qt::Key_Return);
     ASSERT_TRUE(played.asked);
@@ -356,11 +356,11 @@ TEST(WindowTestRun, DebugFollowsTheGame) {
     PlayedWindow played(true);
     played.Load(Game().Entry(0, "DO", "_", "LET 0 7 DONE"));
     played.Action("Debug").trigger();
-    auto* debug = played.Window().findChild<QWidget*>("frmDebug");
+    auto* debug = played.Window().findChild<QWidget*>("diagnostics");
     QApplication::setActiveWindow(&played.Window());
     played.Window().Screen().FocusInput();
     played.Type("do\n");
-    EXPECT_EQ(debug->findChild<QLabel*>("lblResult")->text(), "F0 = 7");
+    EXPECT_EQ(debug->findChild<QLabel*>("result")->text(), "F0 = 7");
 }
 
 TEST(WindowTestRun, WindowClosesWhenTheGameEnds) {

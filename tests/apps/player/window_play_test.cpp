@@ -6,10 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include "player/game_screen.h"
+#include "player/panes/game_screen.h"
+#include "player/panes/text_pane.h"
+#include "player/play/session.h"
 #include "player/played_window.h"
-#include "player/session.h"
-#include "player/text_pane.h"
 
 namespace fabula::test {
 namespace {

@@ -79,7 +79,7 @@ TEST(HelpRequest, F1AsksForThePageOfTheDialogAtTheControlWithTheKeyboard) {
     dialog.setObjectName("LocationDialog");
     dialog.setProperty(qt::kHelpPage, "frmvellocation.html");
     QLineEdit exits(&dialog);
-    exits.setObjectName("txtExits");
+    exits.setObjectName("exits");
     QTest::keyClick(&exits, Qt::Key_F1);
     EXPECT_EQ(asked.page, "frmvellocation.html");
     EXPECT_EQ(asked.anchors, QStringList({"txtexits", "locationdialog"}));

@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-#include "player/text_colours.h"
+#include "player/panes/text_colours.h"
 #include "qt/theme.h"
 
 namespace fabula::qt {

@@ -1,0 +1,30 @@
+#include "ide/dialogs/flag_dialog.h"
+
+#include <QComboBox>
+#include <QPlainTextEdit>
+
+#include "qt/strings.h"
+
+namespace fabula::ide {
+
+FlagDialog::FlagDialog(authoring::FlagScreen& screen, QWidget* parent)
+    : RecordDialog(screen, QString("Flag %1").arg(screen.Key().key), "frmflags.html", parent),
+      screen_(screen),
+      type_(NewDropList(screen.type)),
+      use_(NewDropList(screen.use)),
+      description_(NewTextEdit(screen.description)) {
+    AddControl("&Type:", type_, "type");
+    AddControl("U&se:", use_, "use");
+    AddControl("&Description:", description_, "description");
+    CheckOnLeave(type_, [this] { return screen_.LeaveType(); });
+    CheckOnLeave(use_, [this] { return screen_.LeaveUse(); });
+    CheckOnLeave(description_, [this] { return screen_.LeaveDescription(); });
+}
+
+void FlagDialog::Read() {
+    screen_.type.index = type_->currentIndex();
+    screen_.use.index = use_->currentIndex();
+    screen_.description = qt::FromQt(description_->toPlainText());
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "authoring/screens/flag_screen.h"
+#include "ide/dialogs/record_dialog.h"
+
+namespace fabula::ide {
+
+/// The dialog of what a flag is used for.
+class FlagDialog final : public RecordDialog {
+  public:
+    explicit FlagDialog(authoring::FlagScreen& screen, QWidget* parent = nullptr);
+
+  protected:
+    void Read() override;
+    void Show() override {}
+    bool Update() override { return screen_.Update(); }
+
+  private:
+    authoring::FlagScreen& screen_;
+    QComboBox* type_;
+    QComboBox* use_;
+    QPlainTextEdit* description_;
+};
+
+}  // namespace fabula::ide

@@ -1,0 +1,250 @@
+#include "ide/dialogs/interchange_dialog.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <functional>
+
+#include "ide/dialogs/option_focus.h"
+#include "ide/dialogs/status_button.h"
+#include "ide/dialogs/verify_dialog.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+using authoring::InterchangeScreen;
+using authoring::JobMode;
+
+constexpr int kMargin = 16;
+constexpr QSize kDefaultSize(620, 540);
+constexpr int kSmallestStatusLines = 3;
+
+struct KindText {
+    std::string_view kind;
+    const char* about;
+};
+
+constexpr KindText kKindTexts[] = {
+    {"UnMarlo", "the listing of a Marlo game"},
+    {"UnVel", "the listing of a VEL game"},
+    {"PCVEL", "a source of the PC engine"},
+    {"Fabula", "an export file of this program"},
+    {"ACE", "an ACE source"},
+};
+
+QString TextOf(const InterchangeScreen::KindOption& option) {
+    const QString name = qt::ToQt(option.name);
+    for (const KindText& text : kKindTexts) {
+        if (text.kind == option.name) return name + ": " + QObject::tr(text.about);
+    }
+    return name;
+}
+
+}  // namespace
+
+InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent),
+      screen_(screen),
+      dialogs_(dialogs),
+      status_(new QPlainTextEdit),
+      bar_(new QProgressBar),
+      import_(new QPushButton(qt::ToQt(screen.MainButton()))),
+      print_(NewStatusButton(qt::ToQt(InterchangeScreen::kPrintButton),
+                             {[this] { return screen_.Status(); }, [this] { screen_.SaveStatus(); }})),
+      exit_(new QPushButton) {
+    setObjectName("InterchangeScreen");
+    setWindowTitle(qt::ToQt(screen.Title()));
+    setProperty("helpPage", "frmsrcimport.html");
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(10);
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(16);
+    form->setVerticalSpacing(8);
+    AddKinds(*form);
+    source_ = AddFile(*form, "source",
+                      screen.Mode() == JobMode::Export ? tr("&Target file:") : tr("&Source file:"),
+                      "chooseSource", &InterchangeScreen::ChooseSource);
+    if (screen.Mode() == JobMode::Import)
+        database_ = AddFile(*form, "database", tr("&Database:"), "chooseDatabase",
+                            &InterchangeScreen::ChooseDatabase);
+    column->addLayout(form);
+    MakeStatus();
+    auto* label = new QLabel(qt::ToQt(screen.StatusCaption()));
+    label->setObjectName("statusCaption");
+    label->setBuddy(status_);
+    column->addSpacing(6);
+    column->addWidget(label);
+    column->addWidget(status_, 1);
+    column->addWidget(bar_);
+    column->addWidget(MakeButtons());
+    resize(kDefaultSize);
+
+    screen_.changed = [this] { Show(); };
+    screen_.showVerify = [this](authoring::VerifyScreen& verify) {
+        VerifyDialog window(verify, dialogs_, this);
+        window.CloseWhenPassed();
+        window.exec();
+    };
+    Show();
+    source_->setFocus();
+}
+
+InterchangeDialog::~InterchangeDialog() {
+    screen_.changed = [] {};
+    screen_.showVerify = [](authoring::VerifyScreen& verify) { verify.Run(); };
+}
+
+void InterchangeDialog::AddKinds(QFormLayout& form) {
+    // Buttons that share a parent are one group.
+    auto* group = new QWidget;
+    group->setObjectName("kind");
+    group->setAccessibleName(tr("Kind"));
+    auto* list = new QVBoxLayout(group);
+    list->setContentsMargins(0, 0, 0, 0);
+    list->setSpacing(2);
+    for (std::size_t i = 0; i < screen_.Kinds().size(); ++i) {
+        const auto& option = screen_.Kinds()[i];
+        auto* button = new QRadioButton(TextOf(option));
+        button->setObjectName("kind" + qt::ToQt(option.name));
+        button->setAccessibleName(button->text());
+        button->setToolTip(qt::ToQt(option.why));
+        button->setAccessibleDescription(qt::ToQt(option.why));
+        button->setChecked(option.kind && screen_.ChosenKind() == i);
+        TabToChosen(*button);
+        QObject::connect(button, &QRadioButton::clicked, this, [this, i] { screen_.ChooseKind(i); });
+        list->addWidget(button);
+        kinds_.push_back(button);
+    }
+    form.addRow(tr("Kind:"), group);
+}
+
+QLineEdit* InterchangeDialog::AddFile(QFormLayout& form, const char* name, const QString& label,
+                                      const char* buttonName, void (InterchangeScreen::*choose)()) {
+    auto* field = new QLineEdit;
+    field->setObjectName(name);
+    field->setAccessibleName(QString(label).remove('&').remove(':'));
+    auto* button = new QPushButton(tr("Choose…"));
+    button->setObjectName(buttonName);
+    button->setAccessibleName(tr("Choose the %1").arg(field->accessibleName().toLower()));
+    button->setAutoDefault(false);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(field, 1);
+    row->addWidget(button);
+    auto* caption = new QLabel(label);
+    caption->setBuddy(field);
+    form.addRow(caption, row);
+    inputs_.push_back(field);
+    inputs_.push_back(button);
+    QObject::connect(field, &QLineEdit::textEdited, this, [this] { ReadFields(); });
+    QObject::connect(button, &QPushButton::clicked, this, [this, choose] {
+        ReadFields();
+        std::invoke(choose, screen_);
+    });
+    return field;
+}
+
+void InterchangeDialog::MakeStatus() {
+    status_->setObjectName("status");
+    status_->setAccessibleName(qt::ToQt(screen_.StatusCaption()));
+    status_->setReadOnly(true);
+    status_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    status_->setTabChangesFocus(true);
+    status_->setPlaceholderText(qt::ToQt(screen_.WhyNot()));
+    status_->setMinimumHeight(fontMetrics().lineSpacing() * kSmallestStatusLines);
+    bar_->setObjectName("barProgress");
+    bar_->setAccessibleName(tr("Progress"));
+}
+
+QWidget* InterchangeDialog::MakeButtons() {
+    import_->setObjectName("start");
+    import_->setAccessibleName(import_->text().remove('&'));
+    import_->setToolTip(qt::ToQt(screen_.WhyNot()));
+    import_->setDefault(true);
+    exit_->setObjectName("exit");
+    exit_->setAutoDefault(false);
+    QObject::connect(import_, &QPushButton::clicked, this, [this] { Import(); });
+    QObject::connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
+    auto* buttons = new QWidget;
+    auto* row = new QHBoxLayout(buttons);
+    row->setContentsMargins(0, 6, 0, 0);
+    row->setSpacing(8);
+    row->addWidget(print_);
+    row->addStretch(1);
+    row->addWidget(import_);
+    row->addWidget(exit_);
+    return buttons;
+}
+
+void InterchangeDialog::ReadFields() {
+    screen_.source = qt::FromQt(source_->text());
+    if (database_) screen_.database = qt::FromQt(database_->text());
+}
+
+void InterchangeDialog::Import() {
+    ReadFields();
+    const bool done = screen_.RunJob();
+    Show();
+    if (done) {
+        exit_->setFocus();
+    } else if (import_->isEnabled()) {
+        source_->setFocus();
+    }
+}
+
+void InterchangeDialog::reject() {
+    if (screen_.Running()) return screen_.Cancel();
+    QDialog::reject();
+}
+
+void InterchangeDialog::Show() {
+    const bool running = screen_.Running();
+    for (std::size_t i = 0; i < kinds_.size(); ++i)
+        kinds_[i]->setEnabled(!running && screen_.Kinds()[i].kind);
+    for (QWidget* input : inputs_)
+        input->setEnabled(!running);
+    const auto showText = [](QLineEdit* field, const std::string& text) {
+        if (field && field->text() != qt::ToQt(text)) field->setText(qt::ToQt(text));
+    };
+    showText(source_, screen_.source);
+    showText(database_, screen_.database);
+    import_->setEnabled(screen_.CanRun());
+    print_->setEnabled(screen_.CanPrint());
+    exit_->setText(running ? tr("&Cancel") : tr("E&xit"));
+    exit_->setAccessibleName(exit_->text().remove('&'));
+    ShowStatus();
+    // Without an end the bar only tells that there is work.
+    const bool knowsEnd = !running || screen_.BarMaximum() > 0;
+    bar_->setRange(0, knowsEnd ? 100 : 0);
+    if (knowsEnd) {
+        const bool finished = !running && !screen_.CanRun() && screen_.CanPrint();
+        const auto percent = screen_.BarMaximum() > 0
+                                 ? std::min<std::int64_t>(100, screen_.Bar() * 100 / screen_.BarMaximum())
+                                 : 0;
+        bar_->setValue(finished ? 100 : static_cast<int>(percent));
+    }
+}
+
+void InterchangeDialog::ShowStatus() {
+    const std::string& text = screen_.Status();
+    if (text.size() < shown_) {
+        status_->clear();
+        shown_ = 0;
+    }
+    if (text.size() == shown_) return;
+    status_->moveCursor(QTextCursor::End);
+    status_->insertPlainText(qt::ToQt(std::string_view(text).substr(shown_)));
+    status_->moveCursor(QTextCursor::End);
+    shown_ = text.size();
+}
+
+}  // namespace fabula::ide

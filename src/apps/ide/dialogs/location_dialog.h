@@ -1,0 +1,49 @@
+#pragma once
+
+#include "authoring/fields/text_editing.h"
+#include "authoring/screens/location_screen.h"
+#include "ide/dialogs/record_dialog.h"
+#include "ide/editors/markup_edit.h"
+
+class QLineEdit;
+class QTableWidget;
+
+namespace fabula::ide {
+
+class PictureView;
+
+/// The dialog of a location. Its exits stand in one line, and in rows that are kept in step with it.
+class LocationDialog final : public RecordDialog {
+  public:
+    explicit LocationDialog(authoring::LocationScreen& screen, QWidget* parent = nullptr);
+
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+    void Read() override;
+    void Show() override;
+    bool Update() override { return screen_.Update(); }
+
+  private:
+    void AddExits();
+    void AddPicture();
+    void AddNeighbours();
+    void ReadRows();
+    void ShowPicture();
+    void ShowRows();
+    void RemoveRow();
+    void AddExit();
+
+    authoring::LocationScreen& screen_;
+    authoring::TextEditing editing_;
+    MarkupEdit* shortDescription_;
+    MarkupEdit* description_;
+    QTableWidget* rows_;
+    QComboBox* word_;
+    QComboBox* location_;
+    QLineEdit* exits_;
+    QLineEdit* picture_;
+    PictureView* pictureView_;
+    bool showing_ = false;  ///< the rows are being filled and not edited
+};
+
+}  // namespace fabula::ide

@@ -1,0 +1,120 @@
+#include "ide/dialogs/message_dialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "ide/editors/leave_check.h"
+#include "ide/editors/markup_edit.h"
+#include "platform/error.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+
+}  // namespace
+
+MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::TextEditing& editing,
+                             platform::Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent), screen_(screen), dialogs_(dialogs), number_(new QLabel) {
+    setWindowTitle(qt::ToQt(screen.Caption()));
+    setProperty("helpPage", "frmbothmessages.html");
+    setSizeGripEnabled(true);
+    number_->setObjectName("number");
+    text_ = new MarkupEdit(editing, {tr("&Text:"), qt::ToQt(screen.PreviewCaption()), screen.TagsAllowed()},
+                           "text");
+    text_->typed = [this](const std::string& text) { screen_.TypeMessage(text); };
+    auto* top = new QHBoxLayout;
+    AddMoves(*top);
+    auto* bottom = new QHBoxLayout;
+    AddButtons(*bottom);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(10);
+    layout->addLayout(top);
+    layout->addWidget(text_, 1);
+    layout->addLayout(bottom);
+    ShowRecord();
+    text_->setFocus();
+    resize(sizeHint().expandedTo({640, 480}));
+}
+
+void MessageDialog::AddMoves(QHBoxLayout& row) {
+    row.addWidget(number_);
+    const auto add = [&](const char* name, const QString& caption, Qt::ArrowType arrow, Qt::Key key,
+                         int step) {
+        auto* button = new QToolButton;
+        button->setObjectName(name);
+        button->setArrowType(arrow);
+        button->setAccessibleName(caption);
+        button->setToolTip(caption);
+        button->setFocusPolicy(Qt::StrongFocus);
+        const int side = button->fontMetrics().height() * 3 / 2;
+        button->setMinimumSize(side, side);
+        connect(button, &QToolButton::clicked, this, [this, step] { Move(step); });
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+        connect(shortcut, &QShortcut::activated, this, [this, step] { Move(step); });
+        row.addWidget(button);
+    };
+    add("previous", tr("Previous number"), Qt::UpArrow, Qt::Key_PageUp, -1);
+    add("next", tr("Next number"), Qt::DownArrow, Qt::Key_PageDown, 1);
+    row.addStretch(1);
+}
+
+void MessageDialog::AddButtons(QHBoxLayout& row) {
+    row.addStretch(1);
+    auto* update = new QPushButton(tr("&Update"));
+    update->setObjectName("update");
+    update->setAccessibleName(tr("Update"));
+    update->setDefault(true);
+    auto* exit = new QPushButton(tr("Exit"));
+    exit->setObjectName("exit");
+    exit->setAccessibleName(tr("Exit"));
+    exit->setAutoDefault(false);
+    row.addWidget(update);
+    row.addWidget(exit);
+    new LeaveCheck(text_->Field(), [this] { Leave(); });
+    connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
+    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+        connect(shortcut, &QShortcut::activated, this, [this] { ClickUpdate(); });
+    }
+}
+
+void MessageDialog::ShowRecord() {
+    number_->setText(QString("%1 %2").arg(qt::ToQt(screen_.Label())).arg(screen_.Number()));
+    text_->SetText(screen_.Text());
+}
+
+void MessageDialog::Move(int step) {
+    const int before = screen_.Number();
+    try {
+        screen_.Step(step);
+    } catch (const Error& error) {
+        dialogs_.Tell(error.what(), "Error");
+    }
+    if (screen_.Number() != before) return ShowRecord();
+    text_->ShowFault();
+}
+
+void MessageDialog::Leave() {
+    if (!screen_.LeaveText()) text_->ShowFault();
+}
+
+void MessageDialog::ClickUpdate() {
+    try {
+        if (screen_.Update()) return accept();
+    } catch (const Error& error) {
+        dialogs_.Tell(error.what(), "Error");
+    }
+    text_->ShowFault();
+}
+
+}  // namespace fabula::ide

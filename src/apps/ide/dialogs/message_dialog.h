@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDialog>
+
+#include "authoring/fields/text_editing.h"
+#include "authoring/screens/message_screen.h"
+
+class QHBoxLayout;
+class QLabel;
+
+namespace fabula::ide {
+
+class MarkupEdit;
+
+/// The dialog of a message, a system message or the description of a process table. Accepted by Update.
+/// Page Up and Page Down with Ctrl go to the previous and the next number.
+class MessageDialog final : public QDialog {
+  public:
+    /// All of them outlive the dialog. `dialogs` tells what could not be stored.
+    MessageDialog(authoring::MessageScreen& screen, const authoring::TextEditing& editing,
+                  platform::Dialogs& dialogs, QWidget* parent = nullptr);
+
+  private:
+    void AddMoves(QHBoxLayout& row);
+    void AddButtons(QHBoxLayout& row);
+    void Move(int step);
+    void Leave();
+    void ClickUpdate();
+    void ShowRecord();
+
+    authoring::MessageScreen& screen_;
+    platform::Dialogs& dialogs_;
+    QLabel* number_;
+    MarkupEdit* text_;
+};
+
+}  // namespace fabula::ide

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "authoring/fields/text_editing.h"
+#include "authoring/screens/object_screen.h"
+#include "ide/dialogs/record_dialog.h"
+#include "ide/editors/markup_edit.h"
+
+class QButtonGroup;
+class QCheckBox;
+class QLineEdit;
+
+namespace fabula::ide {
+
+/// The dialog of an object.
+class ObjectDialog final : public RecordDialog {
+  public:
+    explicit ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent = nullptr);
+
+  protected:
+    void Read() override;
+    void Show() override;
+    bool Update() override { return screen_.Update(); }
+
+  private:
+    QWidget* NewPlaces();
+
+    authoring::ObjectScreen& screen_;
+    authoring::TextEditing editing_;
+    MarkupEdit* description_;
+    QComboBox* noun_;
+    QComboBox* adjective_;
+    QButtonGroup* places_;
+    QComboBox* room_;
+    QCheckBox* container_;
+    QCheckBox* wearable_;
+    QLineEdit* weight_;
+};
+
+}  // namespace fabula::ide

@@ -1,0 +1,370 @@
+#include "ide/dialogs/process_entry_dialog.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QCompleter>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+
+#include "ide/editors/cond_act_edit.h"
+#include "platform/error.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kDefaultWidth = 720;
+constexpr int kFewestLines = 4;  ///< of the field of the whole entry
+constexpr int kMoreLines = 10;   ///< that it has room for at first
+constexpr int kLettersOfAName = 10;
+constexpr int kBelowLabel = 4;
+
+QLabel* MakeNote(const char* name, const QString& what, QWidget* parent) {
+    auto* note = new QLabel(parent);
+    note->setObjectName(name);
+    note->setAccessibleName(what);
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    note->setMinimumHeight(note->fontMetrics().height());
+    return note;
+}
+
+bool IsPlainEnter(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    return isEnter && (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+}  // namespace
+
+ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QWidget* parent)
+    : QDialog(parent), screen_(screen) {
+    setObjectName("ProcessEntryScreen");
+    setProperty("helpPage", "frmvelcondact.html");
+    setWindowTitle(qt::ToQt(authoring::ProcessEntryScreen::kCaption));
+    auto* form = new QWidget;
+    auto* column = new QVBoxLayout(form);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(12);
+    column->addLayout(BuildEntry());
+    column->addLayout(BuildCondAct());
+    column->addLayout(BuildLine(), 1);
+    auto* scroll = new QScrollArea;
+    scroll->setWidget(form);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll, 1);
+    QLayout* buttons = BuildButtons();
+    whole->addLayout(buttons);
+    Show();
+    focus_ = connect(qApp, &QApplication::focusChanged, this,
+                     [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
+    // A new entry begins with its words.
+    QWidget* const first = screen_.Key().isNew ? static_cast<QWidget*>(word1_) : line_;
+    first->setFocus();
+    const int moreLines = kMoreLines * line_->fontMetrics().lineSpacing();
+    const QSize wanted(kDefaultWidth,
+                       form->heightForWidth(kDefaultWidth) + buttons->sizeHint().height() + moreLines);
+    resize(wanted.boundedTo(QWidget::screen()->availableSize() * 9 / 10));
+}
+
+/// The focus moves once more while the fields go, which must not reach a window that is half gone.
+ProcessEntryDialog::~ProcessEntryDialog() {
+    disconnect(focus_);
+    delete line_;
+}
+
+QComboBox* ProcessEntryDialog::MakeWords(const QString& name, const QString& what,
+                                         const authoring::DropList& list) {
+    auto* box = new QComboBox(this);
+    box->setObjectName(name);
+    box->setAccessibleName(what);
+    for (const authoring::ListItem& item : list.items)
+        box->addItem(qt::ToQt(item.text), item.number);
+    box->setCurrentIndex(list.index);
+    return box;
+}
+
+QLayout* ProcessEntryDialog::BuildEntry() {
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(12);
+    form->setVerticalSpacing(10);
+    auto* key = new QLabel(qt::ToQt(screen_.recordKey), this);
+    key->setObjectName("recordKey");
+    form->addRow(key);
+    type_ = new QLineEdit(this);
+    type_->setObjectName("process");
+    type_->setAccessibleName(tr("Process table number"));
+    type_->setMaximumWidth(type_->fontMetrics().averageCharWidth() * 12);
+    form->addRow(tr("Process &Table #:"), type_);
+    word1_ = MakeWords("verb", tr("Verb"), screen_.verb);
+    form->addRow(tr("&Verb:"), word1_);
+    word2_ = MakeWords("noun", tr("Noun"), screen_.noun);
+    form->addRow(tr("&Noun:"), word2_);
+    return form;
+}
+
+ProcessEntryDialog::ParameterWidgets ProcessEntryDialog::MakeParameter(const QString& name) {
+    auto* box = new QComboBox(this);
+    box->setObjectName(name);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setCompleter(nullptr);
+    box->setMinimumContentsLength(10);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* label = new QLabel(this);
+    label->setBuddy(box);
+    connect(box, &QComboBox::activated, this,
+            [box](int item) { box->setEditText(box->itemData(item).toString()); });
+    return {label, box};
+}
+
+QLayout* ProcessEntryDialog::BuildCondAct() {
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(kBelowLabel);
+    condAct_ = new QComboBox(this);
+    condAct_->setObjectName("condAct");
+    condAct_->setAccessibleName(tr("Condition or action"));
+    condAct_->setEditable(true);
+    condAct_->setInsertPolicy(QComboBox::NoInsert);
+    condAct_->setMinimumContentsLength(kLettersOfAName);
+    for (const authoring::ListItem& item : screen_.condAct.items)
+        condAct_->addItem(qt::ToQt(item.text));
+    condAct_->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    condAct_->installEventFilter(this);
+    connect(condAct_, &QComboBox::activated, this, [this] { ChooseCondAct(); });
+    connect(condAct_->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+        if (CompleteCondAct()) ChooseCondAct();
+    });
+    auto* label = new QLabel(tr("&Cond/Act"), this);
+    label->setBuddy(condAct_);
+    param1_ = MakeParameter("parameter1");
+    param2_ = MakeParameter("parameter2");
+    for (const ParameterWidgets& parameter : {param1_, param2_})
+        parameter.box->installEventFilter(this);
+    add_ = new QPushButton(tr("&Add to Conditions/Actions"), this);
+    add_->setObjectName("add");
+    add_->setAutoDefault(false);
+    connect(add_, &QPushButton::clicked, this, &ProcessEntryDialog::Add);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(param1_.label, 0, 1);
+    grid->addWidget(param2_.label, 0, 2);
+    grid->addWidget(condAct_, 1, 0);
+    grid->addWidget(param1_.box, 1, 1);
+    grid->addWidget(param2_.box, 1, 2);
+    grid->addWidget(add_, 2, 1, 1, 2, Qt::AlignRight);
+    grid->setColumnStretch(0, 2);
+    grid->setColumnStretch(1, 3);
+    grid->setColumnStretch(2, 3);
+    return grid;
+}
+
+QLayout* ProcessEntryDialog::BuildLine() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(kBelowLabel);
+    line_ = new CondActEdit(screen_.Help(), this);
+    line_->setObjectName("line");
+    line_->setAccessibleName(tr("Combined Condition/Actions"));
+    line_->setMinimumHeight(line_->fontMetrics().lineSpacing() * kFewestLines);
+    // It gives way to the notes below it before anything has to be scrolled.
+    line_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    auto* label = new QLabel(tr("Com&bined Condition/Actions"), this);
+    label->setBuddy(line_);
+    meaning_ = MakeNote("meaning", tr("Meaning"), this);
+    fault_ = MakeNote("fault", tr("Fault"), this);
+    line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
+    line_->onFault = [this](const QString& fault) { fault_->setText(fault); };
+    auto* help = new QLabel(qt::ToQt(authoring::ProcessEntryScreen::kHelpLine), this);
+    help->setWordWrap(true);
+    column->addWidget(label);
+    column->addWidget(line_, 1);
+    column->addWidget(meaning_);
+    column->addWidget(fault_);
+    column->addSpacing(kBelowLabel);
+    column->addWidget(help);
+    return column;
+}
+
+QLayout* ProcessEntryDialog::BuildButtons() {
+    auto* row = new QHBoxLayout;
+    auto* update = new QPushButton(tr("&Update"), this);
+    update->setObjectName("update");
+    update->setDefault(true);
+    exit_ = new QPushButton(tr("E&xit"), this);
+    exit_->setObjectName("exit");
+    exit_->setAutoDefault(false);
+    connect(update, &QPushButton::clicked, this, &ProcessEntryDialog::Update);
+    connect(exit_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Return, this), &QShortcut::activated, this,
+            &ProcessEntryDialog::Update);
+    row->setContentsMargins(kMargin, 0, kMargin, kMargin);
+    row->setSpacing(8);
+    row->addStretch();
+    row->addWidget(update);
+    row->addWidget(exit_);
+    return row;
+}
+
+void ProcessEntryDialog::ShowParameter(const ParameterWidgets& widgets,
+                                       const authoring::ParameterField& field) {
+    widgets.label->setText(qt::ToQt(field.label));
+    widgets.box->setAccessibleName(qt::ToQt(field.label));
+    widgets.box->setEnabled(field.enabled);
+    widgets.box->clear();
+    for (const authoring::Completion& item : field.items)
+        widgets.box->addItem(qt::ToQt(item.shown), qt::ToQt(item.insert));
+    widgets.box->setCurrentIndex(-1);
+    widgets.box->setEditText(qt::ToQt(field.text));
+    widgets.box->view()->setMinimumWidth(widgets.box->view()->sizeHintForColumn(0) + 24);
+}
+
+void ProcessEntryDialog::Show() {
+    type_->setText(qt::ToQt(screen_.process));
+    condAct_->setEditText(qt::ToQt(screen_.condAct.text));
+    ShowParameter(param1_, screen_.parameter1);
+    ShowParameter(param2_, screen_.parameter2);
+    const QString line = qt::ToQt(screen_.line);
+    if (line == line_->toPlainText()) return;
+    line_->setPlainText(line);
+    line_->moveCursor(QTextCursor::End);
+}
+
+void ProcessEntryDialog::Take() {
+    screen_.process = qt::FromQt(type_->text());
+    screen_.verb.index = word1_->currentIndex();
+    screen_.noun.index = word2_->currentIndex();
+    screen_.condAct.text = qt::FromQt(condAct_->currentText());
+    screen_.parameter1.text = qt::FromQt(param1_.box->currentText());
+    screen_.parameter2.text = qt::FromQt(param2_.box->currentText());
+    screen_.line = qt::FromQt(line_->toPlainText());
+}
+
+/// A failing machine is told, and what was typed stays.
+bool ProcessEntryDialog::Guarded(const std::function<bool()>& work) {
+    try {
+        return work();
+    } catch (const Error& error) {
+        screen_.Dialogs().Tell(error.what(), "Error");
+        return false;
+    }
+}
+
+bool ProcessEntryDialog::Leave(const QWidget* field) {
+    if (field == type_) return screen_.LeaveProcess();
+    if (field == condAct_) return screen_.LeaveCondAct();
+    if (field == param1_.box) return screen_.LeaveParameter1();
+    if (field == param2_.box) return screen_.LeaveParameter2();
+    if (field == line_) return screen_.LeaveLine();
+    return true;
+}
+
+/// A name that opens parameters hands on to the first.
+void ProcessEntryDialog::ChooseCondAct() {
+    CheckLeft(condAct_);
+    if (param1_.box->isEnabled()) param1_.box->setFocus();
+}
+
+/// Makes the beginning of a name the first name that begins so; false where there is nothing to be made.
+bool ProcessEntryDialog::CompleteCondAct() {
+    const QString typed = condAct_->currentText();
+    const QString first = condAct_->completer()->currentCompletion();
+    if (typed.isEmpty() || first.isEmpty() || condAct_->findText(typed, Qt::MatchFixedString) >= 0)
+        return false;
+    condAct_->setEditText(first);
+    return true;
+}
+
+/// Enter goes on from field to field, and adds behind the last: the default button would store the entry.
+bool ProcessEntryDialog::Enter(const QObject* field) {
+    if (static_cast<const QComboBox*>(field)->currentText().isEmpty()) return false;
+    if (field == condAct_) {
+        CompleteCondAct();
+        ChooseCondAct();
+        return true;
+    }
+    const bool second = param2_.box->isEnabled() && param2_.box->currentText().isEmpty();
+    second ? param2_.box->setFocus() : Add();
+    return true;
+}
+
+/// Keys and the wheel would step through the closed list of names, and each step would choose one.
+bool ProcessEntryDialog::eventFilter(QObject* receiver, QEvent* event) {
+    if (IsPlainEnter(*event) && receiver->inherits("QComboBox")) return Enter(receiver);
+    if (receiver != condAct_ || condAct_->view()->isVisible()) return false;
+    if (event->type() == QEvent::Wheel) {
+        event->ignore();
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_PageUp && key != Qt::Key_PageDown)
+        return false;
+    condAct_->showPopup();
+    return true;
+}
+
+/// Checks once the new field has the focus: a box that is shown while it changes would confuse it.
+void ProcessEntryDialog::FocusChanged(QWidget* left, QWidget* now) {
+    if (checking_ || left == nullptr || now == nullptr || now == exit_) return;
+    if (!isAncestorOf(left) || !isAncestorOf(now)) return;
+    QMetaObject::invokeMethod(
+        this, [this, left] { CheckLeft(left); }, Qt::QueuedConnection);
+}
+
+void ProcessEntryDialog::CheckLeft(QWidget* field) {
+    if (checking_ || !isVisible()) return;
+    checking_ = true;
+    Take();
+    const bool fits = Guarded([this, field] { return Leave(field); });
+    Show();
+    if (!fits) field->setFocus();
+    // The fields of parameters open only now: Tab has passed over them.
+    if (fits && field == condAct_ && add_->hasFocus() && param1_.box->isEnabled()) param1_.box->setFocus();
+    checking_ = false;
+}
+
+void ProcessEntryDialog::Add() {
+    checking_ = true;
+    Take();
+    const bool added = Guarded([this] { return screen_.Add(); });
+    Show();
+    if (added) condAct_->setFocus();
+    checking_ = false;
+}
+
+void ProcessEntryDialog::Update() {
+    if (checking_) return;
+    checking_ = true;
+    Take();
+    bool failed = true;
+    const bool stored = Guarded([this, &failed] {
+        const bool done = screen_.Update();
+        failed = false;
+        return done;
+    });
+    if (stored) {
+        checking_ = false;
+        return accept();
+    }
+    Show();
+    // The focus goes back without another check of the field that it leaves.
+    QWidget* refused = failed ? nullptr : findChild<QWidget*>(qt::ToQt(screen_.Refused()));
+    if (refused) refused->setFocus();
+    checking_ = false;
+}
+
+}  // namespace fabula::ide

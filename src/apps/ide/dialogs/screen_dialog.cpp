@@ -1,0 +1,132 @@
+#include "ide/dialogs/screen_dialog.h"
+
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "ide/editors/leave_check.h"
+#include "platform/error.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+
+/// Turns to the page that a control stands on, and scrolls to it.
+void BringIntoView(QWidget* control) {
+    for (QWidget* above = control->parentWidget(); above != nullptr; above = above->parentWidget()) {
+        if (auto* tabs = qobject_cast<QTabWidget*>(above)) {
+            for (int page = 0; page < tabs->count(); ++page) {
+                if (tabs->widget(page)->isAncestorOf(control)) tabs->setCurrentIndex(page);
+            }
+        }
+    }
+    for (QWidget* above = control->parentWidget(); above != nullptr; above = above->parentWidget()) {
+        if (auto* scroll = qobject_cast<QScrollArea*>(above)) scroll->ensureWidgetVisible(control);
+    }
+}
+
+}  // namespace
+
+ScreenDialog::ScreenDialog(authoring::EditScreen& screen, const QString& title, const char* helpPage,
+                           QWidget* parent)
+    : QDialog(parent), edited_(screen), buttons_(new QHBoxLayout) {
+    setWindowTitle(title);
+    setProperty("helpPage", helpPage);
+    setSizeGripEnabled(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(buttons_);
+    buttons_->setContentsMargins(kMargin, 0, kMargin, kMargin);
+    buttons_->setSpacing(8);
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(key)), this);
+        connect(shortcut, &QShortcut::activated, this, [this] { ClickUpdate(); });
+    }
+}
+
+void ScreenDialog::SetContents(QWidget* contents) {
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, contents, 1);
+}
+
+void ScreenDialog::setVisible(bool visible) {
+    if (visible && !placed_) {
+        placed_ = true;
+        // Made last, they come last for the keyboard too.
+        AddButtons();
+        resize(sizeHint());
+        FocusFirst();
+    }
+    QDialog::setVisible(visible);
+}
+
+void ScreenDialog::AddButtons() {
+    update_ = new QPushButton("&Update");
+    update_->setObjectName("update");
+    update_->setDefault(true);
+    exit_ = new QPushButton("Exit");
+    exit_->setObjectName("exit");
+    exit_->setAutoDefault(false);
+    buttons_->addStretch();
+    buttons_->addWidget(update_);
+    buttons_->addWidget(exit_);
+    connect(update_, &QPushButton::clicked, this, [this] { ClickUpdate(); });
+    connect(exit_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void ScreenDialog::FocusFirst() {
+    if (focusWidget()) return;
+    for (QWidget* each = nextInFocusChain(); each != this; each = each->nextInFocusChain()) {
+        if (each->isEnabled() && (each->focusPolicy() & Qt::TabFocus)) return each->setFocus();
+    }
+}
+
+QSize ScreenDialog::SizeFor(const QSize& contents) const {
+    const QSize whole(contents.width(), contents.height() + buttons_->sizeHint().height() + kMargin);
+    return whole.boundedTo(screen()->availableSize() * 9 / 10);
+}
+
+void ScreenDialog::CheckOnLeave(QWidget* control, std::function<bool()> check) {
+    new LeaveCheck(*control, [this, check = std::move(check)] {
+        Read();
+        const bool passed = Guarded(check);
+        Show();
+        if (!passed) FocusRefused();
+    });
+}
+
+bool ScreenDialog::Guarded(const std::function<bool()>& work) {
+    try {
+        return work();
+    } catch (const Error& error) {
+        edited_.Dialogs().Tell(error.what(), "Error");
+        return false;
+    }
+}
+
+void ScreenDialog::FocusRefused() {
+    auto* control = findChild<QWidget*>(qt::ToQt(edited_.Refused()));
+    if (control == nullptr) return;
+    BringIntoView(control);
+    control->setFocus();
+}
+
+void ScreenDialog::ClickUpdate() {
+    Read();
+    bool failed = false;
+    const bool stored = Guarded([this, &failed] {
+        failed = true;
+        const bool done = Update();
+        failed = false;
+        return done;
+    });
+    if (stored) return accept();
+    Show();
+    if (!failed) FocusRefused();
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "authoring/fields/edit_screen.h"
+
+class QHBoxLayout;
+class QPushButton;
+
+namespace fabula::ide {
+
+/// What the dialogs that edit something share: Update (Ctrl+Return) and Exit (Esc), and checks of the
+/// fields that are left. A control that is refused gets the focus back.
+class ScreenDialog : public QDialog {
+  public:
+    /// The first time: in its size, with the keyboard in the first field.
+    void setVisible(bool visible) override;
+
+  protected:
+    /// `screen` outlives the dialog.
+    ScreenDialog(authoring::EditScreen& screen, const QString& title, const char* helpPage,
+                 QWidget* parent);
+
+    /// Puts what is edited above the buttons.
+    void SetContents(QWidget* contents);
+    /// A size for contents that scroll, and the buttons: all of them, as far as the screen has room.
+    QSize SizeFor(const QSize& contents) const;
+
+    /// Checks a control when the focus leaves it for another one but Update and Exit.
+    void CheckOnLeave(QWidget* control, std::function<bool()> check);
+    /// Does something that may fail, and tells of it when it does; false then.
+    bool Guarded(const std::function<bool()>& work);
+
+    /// Writes the controls into the screen.
+    virtual void Read() = 0;
+    /// Shows what the screen changed by itself.
+    virtual void Show() = 0;
+    virtual bool Update() = 0;
+
+  private:
+    void AddButtons();
+    void FocusFirst();
+    void FocusRefused();
+    void ClickUpdate();
+
+    authoring::EditScreen& edited_;
+    QHBoxLayout* buttons_;
+    bool placed_ = false;  ///< it was shown before
+    QPushButton* update_ = nullptr;
+    QPushButton* exit_ = nullptr;
+};
+
+}  // namespace fabula::ide

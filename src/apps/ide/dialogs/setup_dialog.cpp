@@ -1,0 +1,181 @@
+#include "ide/dialogs/setup_dialog.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "ide/dialogs/option_focus.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+using store::AdventureKind;
+using store::AdventureSetup;
+
+constexpr int kMargin = 20;
+constexpr int kLettersOfALine = 54;
+constexpr int kLinesOfAnExplanation = 3;
+
+struct KindOption {
+    AdventureKind kind;
+    const char* name;
+    const char* text;
+};
+
+constexpr KindOption kKinds[] = {
+    {AdventureKind::Fabula, "fabula", "&Fabula"},
+    {AdventureKind::Vel, "vel", "&VEL"},
+    {AdventureKind::Marlo, "marlo", "&Marlo"},
+};
+
+/// The explanations are written for captions, in which an ampersand is doubled.
+QString Plain(std::string_view explanation) {
+    return qt::ToQt(explanation).replace("&&", "&");
+}
+
+}  // namespace
+
+SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
+    : QDialog(parent),
+      setup_(setup),
+      explanation_(new QLabel),
+      starter_(new QCheckBox(tr("&Begin with the words and entries that most games have"))) {
+    setObjectName("adventureSetup");
+    setWindowTitle(qt::ToQt(AdventureSetup::kTitle));
+    setProperty("helpPage", "frmsetup.html");
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(6);
+    AddTypes(*column);
+    AddGraphics(*column);
+    AddCharSets(*column);
+
+    explanation_->setObjectName("explanation");
+    explanation_->setAccessibleName(tr("Explanation"));
+    explanation_->setTextFormat(Qt::PlainText);
+    explanation_->setWordWrap(true);
+    explanation_->setMargin(10);
+    explanation_->setFrameShape(QFrame::StyledPanel);
+    explanation_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    explanation_->setMinimumWidth(fontMetrics().averageCharWidth() * kLettersOfALine);
+    explanation_->setMinimumHeight(fontMetrics().lineSpacing() * kLinesOfAnExplanation + 2 * 10);
+    column->addWidget(explanation_, 1);
+    starter_->setObjectName("starter");
+    starter_->setAccessibleName(starter_->text().remove('&'));
+    starter_->setChecked(true);
+    column->addSpacing(6);
+    column->addWidget(starter_);
+
+    auto* buttons = new QDialogButtonBox;
+    auto* execute = buttons->addButton(tr("&Execute"), QDialogButtonBox::AcceptRole);
+    execute->setObjectName("execute");
+    execute->setDefault(true);
+    buttons->addButton(QDialogButtonBox::Cancel)->setObjectName("exit");
+    QObject::connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    column->addSpacing(12);
+    column->addWidget(buttons);
+    Show();
+    for (const Option& option : options_) {
+        if (!option.button->isChecked()) continue;
+        option.button->setFocus();
+        Explain(option.button);
+        break;
+    }
+}
+
+bool SetupDialog::Starter() const {
+    return starter_->isChecked();
+}
+
+QBoxLayout* SetupDialog::AddGroup(QBoxLayout& column, const QString& title) {
+    auto* heading = new QLabel(title);
+    QFont font = heading->font();
+    font.setWeight(QFont::DemiBold);
+    heading->setFont(font);
+    column.addWidget(heading);
+    // Buttons that share a parent are one group.
+    auto* group = new QWidget;
+    group->setAccessibleName(title);
+    auto* row = new QHBoxLayout(group);
+    row->setContentsMargins(0, 0, 0, 10);
+    row->setSpacing(24);
+    column.addWidget(group);
+    return row;
+}
+
+QRadioButton* SetupDialog::AddOption(QBoxLayout& row, const char* name, const QString& text,
+                                     const QString& group, std::string_view explanation) {
+    auto* button = new QRadioButton(text);
+    button->setObjectName(name);
+    button->setAccessibleName(group + ": " + QString(text).remove('&'));
+    button->setAccessibleDescription(Plain(explanation));
+    button->setToolTip(Plain(explanation));
+    button->installEventFilter(this);
+    row.addWidget(button);
+    options_.push_back({button, explanation});
+    return button;
+}
+
+void SetupDialog::AddTypes(QBoxLayout& column) {
+    QBoxLayout* row = AddGroup(column, tr("Adventure Type"));
+    for (const KindOption& option : kKinds) {
+        auto* button = AddOption(*row, option.name, tr(option.text), tr("Adventure Type"),
+                                 AdventureSetup::ExplainType(option.kind));
+        button->setChecked(setup_.Type() == option.kind);
+        QObject::connect(button, &QRadioButton::clicked, this, [this, kind = option.kind] {
+            setup_.ChooseType(kind);
+            Show();
+        });
+    }
+    row->addStretch(1);
+}
+
+void SetupDialog::AddGraphics(QBoxLayout& column) {
+    QBoxLayout* row = AddGroup(column, tr("Graphics Type"));
+    auto* on = AddOption(*row, "graphic", tr("&Graphic"), tr("Graphics Type"),
+                         AdventureSetup::ExplainGraphics(true));
+    auto* off = AddOption(*row, "nonGraphic", tr("N&on-Graphic"), tr("Graphics Type"),
+                          AdventureSetup::ExplainGraphics(false));
+    (setup_.Graphics() ? on : off)->setChecked(true);
+    QObject::connect(on, &QRadioButton::clicked, this, [this] { setup_.ChooseGraphics(true); });
+    QObject::connect(off, &QRadioButton::clicked, this, [this] { setup_.ChooseGraphics(false); });
+    row->addStretch(1);
+}
+
+void SetupDialog::AddCharSets(QBoxLayout& column) {
+    QBoxLayout* row = AddGroup(column, tr("Use Character Sets:"));
+    charSetsYes_ = AddOption(*row, "charSetsYes", tr("&Yes"), tr("Use Character Sets"),
+                             AdventureSetup::ExplainCharSets(true));
+    charSetsNo_ = AddOption(*row, "charSetsNo", tr("&No"), tr("Use Character Sets"),
+                            AdventureSetup::ExplainCharSets(false));
+    QObject::connect(charSetsYes_, &QRadioButton::clicked, this, [this] { setup_.ChooseCharSets(true); });
+    QObject::connect(charSetsNo_, &QRadioButton::clicked, this, [this] { setup_.ChooseCharSets(false); });
+    row->addStretch(1);
+}
+
+void SetupDialog::Show() {
+    (setup_.CharSets() ? charSetsYes_ : charSetsNo_)->setChecked(true);
+    charSetsNo_->setEnabled(setup_.Type() != AdventureKind::Marlo);
+    for (const Option& option : options_)
+        TabToChosen(*option.button);
+}
+
+bool SetupDialog::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::Enter) Explain(receiver);
+    return QDialog::eventFilter(receiver, event);
+}
+
+void SetupDialog::Explain(const QObject* option) {
+    for (const Option& known : options_) {
+        if (known.button == option) explanation_->setText(Plain(known.explanation));
+    }
+}
+
+}  // namespace fabula::ide

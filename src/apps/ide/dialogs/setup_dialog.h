@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QDialog>
+
+#include "store/setup.h"
+
+class QBoxLayout;
+class QCheckBox;
+class QLabel;
+class QRadioButton;
+
+namespace fabula::ide {
+
+/// The dialog of `AdventureSetup`: type, graphics and character sets of a new adventure, each with its
+/// explanation.
+class SetupDialog final : public QDialog {
+  public:
+    explicit SetupDialog(store::AdventureSetup& setup, QWidget* parent = nullptr);
+
+    /// Whether the adventure is to begin with the words and entries that most games have.
+    bool Starter() const;
+
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+  private:
+    struct Option {
+        QRadioButton* button;
+        std::string_view explanation;
+    };
+
+    QRadioButton* AddOption(QBoxLayout& row, const char* name, const QString& text, const QString& group,
+                            std::string_view explanation);
+    QBoxLayout* AddGroup(QBoxLayout& column, const QString& title);
+    void AddTypes(QBoxLayout& column);
+    void AddGraphics(QBoxLayout& column);
+    void AddCharSets(QBoxLayout& column);
+    void Explain(const QObject* option);
+    void Show();
+
+    store::AdventureSetup& setup_;
+    std::vector<Option> options_;
+    QRadioButton* charSetsYes_ = nullptr;
+    QRadioButton* charSetsNo_ = nullptr;
+    QLabel* explanation_;
+    QCheckBox* starter_;
+};
+
+}  // namespace fabula::ide

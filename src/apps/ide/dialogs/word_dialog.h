@@ -1,0 +1,30 @@
+#pragma once
+
+#include "authoring/screens/word_screen.h"
+#include "ide/dialogs/record_dialog.h"
+
+class QButtonGroup;
+class QLineEdit;
+
+namespace fabula::ide {
+
+/// The dialog of a word.
+class WordDialog final : public RecordDialog {
+  public:
+    explicit WordDialog(authoring::WordScreen& screen, QWidget* parent = nullptr);
+
+  protected:
+    void Read() override;
+    void Show() override;
+    bool Update() override { return screen_.Update(); }
+
+  private:
+    void AddTypes();
+
+    authoring::WordScreen& screen_;
+    QLineEdit* word_;
+    QButtonGroup* types_;
+    QLineEdit* number_;
+};
+
+}  // namespace fabula::ide

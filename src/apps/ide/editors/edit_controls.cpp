@@ -1,0 +1,84 @@
+#include "ide/editors/edit_controls.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kShortestList = 8;  ///< letters
+
+}  // namespace
+
+QString PlainLabel(QString label) {
+    return label.remove('&').remove(':');
+}
+
+void AddToForm(QFormLayout& form, const QString& label, QWidget* control, const char* name) {
+    control->setObjectName(name);
+    if (control->accessibleName().isEmpty()) control->setAccessibleName(PlainLabel(label));
+    // The line of a list that can be typed into is a control of its own.
+    const auto* list = qobject_cast<QComboBox*>(control);
+    if (list != nullptr && list->isEditable()) list->lineEdit()->setAccessibleName(list->accessibleName());
+    auto* caption = new QLabel(label);
+    caption->setBuddy(control);
+    // Beside a control of one line the label stands at its middle.
+    if (control->sizePolicy().verticalPolicy() == QSizePolicy::Fixed)
+        caption->setMinimumHeight(control->sizeHint().height());
+    form.addRow(caption, control);
+}
+
+QPushButton* NewButton(const QString& text, const char* name) {
+    auto* button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setAccessibleName(PlainLabel(text));
+    button->setAutoDefault(false);
+    return button;
+}
+
+QPlainTextEdit* NewTextEdit(const std::string& text) {
+    auto* edit = new QPlainTextEdit(qt::ToQt(text));
+    edit->setTabChangesFocus(true);
+    edit->setMinimumHeight(6 * edit->fontMetrics().lineSpacing());
+    return edit;
+}
+
+QComboBox* NewDropList(const authoring::DropList& list) {
+    auto* box = new QComboBox;
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(kShortestList);
+    for (const authoring::ListItem& item : list.items)
+        box->addItem(qt::ToQt(item.text), item.number);
+    box->setCurrentIndex(list.index);
+    return box;
+}
+
+QComboBox* NewLocationList(const authoring::ComboBox& box) {
+    auto* list = new QComboBox;
+    list->setEditable(true);
+    list->setInsertPolicy(QComboBox::NoInsert);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(kShortestList);
+    for (const authoring::ListItem& item : box.items)
+        list->addItem(QString("%1 - %2").arg(item.number).arg(qt::ToQt(item.text)), item.number);
+    bool numeric = false;
+    const int number = qt::ToQt(box.text).toInt(&numeric);
+    const int index = numeric ? list->findData(number) : -1;
+    list->setCurrentIndex(index);
+    if (index < 0) list->setEditText(qt::ToQt(box.text));
+    list->lineEdit()->setCursorPosition(0);
+    return list;
+}
+
+std::string LocationTyped(const QComboBox& list) {
+    const int index = list.findText(list.currentText(), Qt::MatchFixedString);
+    return qt::FromQt(index < 0 ? list.currentText() : list.itemData(index).toString());
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+#include "authoring/fields/controls.h"
+
+class QComboBox;
+class QFormLayout;
+class QPlainTextEdit;
+class QPushButton;
+class QWidget;
+
+namespace fabula::ide {
+
+/// A text without its mnemonic and colon.
+QString PlainLabel(QString label);
+
+/// Adds a control, found by `name`, to a form. The label holds its mnemonic and is its accessible name too.
+void AddToForm(QFormLayout& form, const QString& label, QWidget* control, const char* name);
+
+/// A button that Return elsewhere does not press.
+QPushButton* NewButton(const QString& text, const char* name);
+
+/// An editor of a text of several lines, which Tab leaves.
+QPlainTextEdit* NewTextEdit(const std::string& text);
+
+/// A list of which one line is chosen.
+QComboBox* NewDropList(const authoring::DropList& list);
+
+/// An editable list of locations, shown as "5 - The cellar"; `LocationTyped` gives the number of the line
+/// that is shown, or what was typed.
+QComboBox* NewLocationList(const authoring::ComboBox& box);
+std::string LocationTyped(const QComboBox& list);
+
+}  // namespace fabula::ide

@@ -1,0 +1,87 @@
+#include "ide/editors/font_test.h"
+
+#include <QImage>
+#include <map>
+
+#include "pictures/glyph.h"
+#include "qt/strings.h"
+#include "text/colours.h"
+
+namespace fabula::ide {
+namespace {
+
+/// In two lines, since characters of a set are wide.
+constexpr const char* kSampleLines[] = {"You are in a", "dark cave. 123"};
+constexpr int kColumns = 14;
+constexpr int kCell = 8;
+constexpr int kEnlarged = 2;  ///< characters of 8 pixels are small on the screens of today
+constexpr int kMargin = 12;
+
+QColor ToColour(int number) {
+    const text::Rgb rgb = text::ColorRGB(number);
+    return QColor(rgb.red, rgb.green, rgb.blue);
+}
+
+std::map<int, pictures::Glyph> GlyphsOf(store::Adventure& adventure, int charSet) {
+    store::PreparedQuery row =
+        adventure.Prepare(store::TableNum::Characters, "charnum, charvals", "charsetnum=?");
+    std::map<int, pictures::Glyph> glyphs;
+    for (bool more = row.First({std::int64_t{charSet}}); more; more = row.Next())
+        glyphs.emplace(static_cast<int>(row.Number(0)), pictures::ParseCharVals(row.Text(1)));
+    return glyphs;
+}
+
+void DrawGlyph(QImage& image, const QPoint& place, const pictures::Glyph& glyph, QRgb ink) {
+    for (int y = 0; y < kCell; ++y) {
+        for (int x = 0; x < kCell; ++x) {
+            if (pictures::HasBit(glyph, x, y)) image.setPixel(place.x() + x, place.y() + y, ink);
+        }
+    }
+}
+
+}  // namespace
+
+FontTest::FontTest(store::Adventure& adventure, QWidget* parent) : QLabel(parent), adventure_(adventure) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setMargin(kMargin);
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setMinimumHeight(2 * kMargin + kEnlarged * kCell * static_cast<int>(std::size(kSampleLines)));
+    // A large size asks for more lines, not for a wider window.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+}
+
+void FontTest::ShowSample(const authoring::FontSample& sample) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, ToColour(sample.paper));
+    colours.setColor(QPalette::WindowText, ToColour(sample.ink));
+    setPalette(colours);
+    if (sample.charSet) {
+        setPixmap(Drawn(*sample.charSet, ToColour(sample.ink)));
+        return;
+    }
+    QFont font(qt::ToQt(sample.fontName));
+    font.setPointSize(sample.points);
+    setFont(font);
+    setText(QString("%1 %2").arg(kSampleLines[0], kSampleLines[1]));
+}
+
+QPixmap FontTest::Drawn(int charSet, const QColor& ink) const {
+    const std::map<int, pictures::Glyph> glyphs = GlyphsOf(adventure_, charSet);
+    QImage lines(kCell * kColumns, kCell * static_cast<int>(std::size(kSampleLines)),
+                 QImage::Format_ARGB32);
+    lines.fill(Qt::transparent);
+    int top = 0;
+    for (const QByteArray line : kSampleLines) {
+        for (int at = 0; at < line.size(); ++at) {
+            const auto glyph = glyphs.find(line[at]);
+            if (glyph != glyphs.end()) DrawGlyph(lines, {kCell * at, top}, glyph->second, ink.rgb());
+        }
+        top += kCell;
+    }
+    return QPixmap::fromImage(lines.scaled(lines.size() * kEnlarged));
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,82 @@
+#include "ide/window/find_bar.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+
+#include "qt/icons.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+
+FindBar::FindBar(Events events, QWidget* parent)
+    : QWidget(parent), events_(std::move(events)), text_(new QLineEdit), fields_(new QComboBox) {
+    setObjectName("FindBar");
+    text_->setObjectName("FindBox");
+    text_->setAccessibleName(tr("Text to find"));
+    text_->setPlaceholderText(tr("Find"));
+    text_->setClearButtonEnabled(true);
+    fields_->setObjectName("ComboBox");
+    fields_->setAccessibleName(tr("Field to find in"));
+    fields_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    auto* in = new QLabel(tr("in"));
+    const auto button = [](const char* name, const char* icon, const QString& text) {
+        auto* made = new QToolButton;
+        made->setObjectName(name);
+        made->setIcon(qt::IconOf(icon));
+        made->setToolTip(text);
+        made->setAccessibleName(text);
+        made->setAutoRaise(true);
+        made->setFocusPolicy(Qt::TabFocus);
+        return made;
+    };
+    auto* next = button("FindNextButton", "find-next", tr("Find next"));
+    auto* leave = button("FindClose", "close", tr("Close the find bar"));
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(8, 6, 8, 6);
+    row->addWidget(text_, 1);
+    row->addWidget(in);
+    row->addWidget(fields_);
+    row->addWidget(next);
+    row->addWidget(leave);
+
+    QObject::connect(text_, &QLineEdit::textChanged, this, [this] { Tell(); });
+    QObject::connect(text_, &QLineEdit::returnPressed, this, [this] { events_.find(); });
+    QObject::connect(fields_, &QComboBox::currentIndexChanged, this, [this] { Tell(); });
+    QObject::connect(next, &QToolButton::clicked, this, [this] { events_.find(); });
+    QObject::connect(leave, &QToolButton::clicked, this, [this] { events_.closed(); });
+}
+
+void FindBar::Tell() {
+    if (filling_) return;
+    const int field = fields_->currentIndex();
+    events_.changed(qt::FromQt(text_->text()),
+                    field < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(field)));
+}
+
+void FindBar::ShowFields(const authoring::FindBox& box) {
+    filling_ = true;
+    fields_->clear();
+    for (const authoring::FindField& field : box.Fields())
+        fields_->addItem(qt::ToQt(field.title));
+    fields_->setCurrentIndex(box.Chosen() ? static_cast<int>(*box.Chosen()) : -1);
+    text_->setText(qt::ToQt(box.text));
+    filling_ = false;
+}
+
+void FindBar::Ask() {
+    show();
+    text_->setFocus();
+    text_->selectAll();
+}
+
+void FindBar::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) return events_.closed();
+    QWidget::keyPressEvent(event);
+}
+
+}  // namespace fabula::ide

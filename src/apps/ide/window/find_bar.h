@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "authoring/desk/find.h"
+
+class QComboBox;
+class QLineEdit;
+
+namespace fabula::ide {
+
+/// The line below the grid in which the author types what to look for and chooses where. Its parts are
+/// found by the names "FindBox", "ComboBox" and "FindNextButton".
+class FindBar final : public QWidget {
+  public:
+    struct Events {
+        std::function<void(const std::string& text, std::optional<std::size_t> field)> changed;
+        std::function<void()> find;
+        std::function<void()> closed;
+    };
+
+    explicit FindBar(Events events, QWidget* parent = nullptr);
+
+    /// Offers the fields of the table in view.
+    void ShowFields(const authoring::FindBox& box);
+    /// Shows the bar with the keyboard in its box.
+    void Ask();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void Tell();
+
+    Events events_;
+    bool filling_ = false;
+    QLineEdit* text_;
+    QComboBox* fields_;
+};
+
+}  // namespace fabula::ide

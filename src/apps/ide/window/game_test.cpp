@@ -1,0 +1,50 @@
+#include "ide/window/game_test.h"
+
+#include <QEvent>
+#include <cstdlib>
+
+#include "text/format.h"
+
+namespace fabula::ide {
+namespace {
+
+/// "game.fbd 2026-01-31 23:59:59 COMPUTER"
+std::string TraceHeader(const std::filesystem::path& file, const platform::DateTime& begun) {
+    std::string header = file.string() + text::FormatText(" %z4!-!%z2!-!%z2! !%z2!:!%z2!:!%z2",
+                                                          {begun.year, begun.month, begun.day, begun.hour,
+                                                           begun.minute, begun.second});
+    if (const char* computer = std::getenv("COMPUTER")) header += " " + std::string(computer);
+    return header;
+}
+
+}  // namespace
+
+GameTest::GameTest(const authoring::TestRun& run, const player::WindowServices& services,
+                   const platform::DateTime& begun, std::function<void()> ended)
+    : ended_(std::move(ended)) {
+    player::WindowServices testing = services;
+    testing.testRun = true;
+    if (run.trace) {
+        traceFile_ = run.file.parent_path() / engine::TraceFileName(begun);
+        trace_.emplace(traceFile_, TraceHeader(run.file, begun));
+        testing.trace = &*trace_;
+        testing.options.traceFile = run.debugAtOnce;
+    }
+    window_ = std::make_unique<player::PlayerWindow>(testing);
+    window_->installEventFilter(this);
+    window_->OpenAtStart(run.file);
+    window_->show();
+    window_->activateWindow();
+}
+
+GameTest::~GameTest() = default;
+
+bool GameTest::eventFilter(QObject*, QEvent* event) {
+    // The window is at work on the event that hides it: the owner may end it afterwards.
+    if (event->type() == QEvent::Hide && !event->spontaneous())
+        QMetaObject::invokeMethod(
+            this, [this] { ended_(); }, Qt::QueuedConnection);
+    return false;
+}
+
+}  // namespace fabula::ide

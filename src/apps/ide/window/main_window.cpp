@@ -1,0 +1,263 @@
+#include "ide/window/main_window.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTableView>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "authoring/files/start_up.h"
+#include "ide/editors/help_pages.h"
+#include "ide/window/command_actions.h"
+#include "ide/window/empty_page.h"
+#include "ide/window/find_bar.h"
+#include "ide/window/game_test.h"
+#include "ide/window/record_panel.h"
+#include "ide/window/tree_panel.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+
+using authoring::Command;
+using authoring::Menu;
+
+namespace {
+
+constexpr QSize kDefaultSize(1080, 700);
+constexpr QSize kSmallestSize(320, 240);
+constexpr int kSmallestIcon = 22;
+constexpr int kTreeWidth = 250;
+
+// Where the window's look is kept.
+constexpr const char* kGeometry = "Desk/Geometry";
+constexpr const char* kSplitter = "Desk/Splitter";
+
+}  // namespace
+
+MainWindow::MainWindow(const Services& services, Places places)
+    : services_(services),
+      places_(std::move(places)),
+      ide_({services.dialogs, services.settings, services.clock, services.events}, places_.desk),
+      help_(places_.help, services.dialogs),
+      pages_(new QStackedWidget),
+      empty_(new EmptyPage({.create = [this] { Do(Command::New); },
+                            .open = [this] { Do(Command::Open); },
+                            .import = [this] { Do(Command::Import); },
+                            .openExample = [this](const Example& example) { OpenExample(example); },
+                            .openRecent = [this](const auto& file) { Open(file); }})),
+      desk_(new QSplitter),
+      tree_(new TreePanel([this](int sort) {
+          ide_.ShowNode(sort);
+          ShowChanges();
+      })),
+      records_(new RecordPanel(
+          ide_.Grid(), services.timers,
+          {.rowChosen =
+               [this](int row) {
+                   ide_.SelectRow(row);
+                   ShowRow();
+               },
+           .opened = [this] { Do(Command::Edit); },
+           .columnClicked =
+               [this](int column) {
+                   ide_.ClickColumn(column);
+                   ShowChanges();
+               },
+           .columnResized = [this](int column, int width) { ide_.ResizeColumn(column, width); },
+           .filtered =
+               [this](const std::string& text) {
+                   ide_.SetFilter(text);
+                   ShowChanges();
+               },
+           .menuAsked = [this](const QPoint& place) { AskEntryMenu(place); }})),
+      find_(new FindBar({.changed =
+                             [this](const std::string& text, std::optional<std::size_t> field) {
+                                 ide_.Finder().text = text;
+                                 ide_.Finder().Choose(field);
+                             },
+                         .find = [this] { DoInLogic(Command::Find); },
+                         .closed =
+                             [this] {
+                                 find_->hide();
+                                 records_->Grid().setFocus();
+                             }})),
+      actions_(new CommandActions(this, [this](Command command) { Do(command); })),
+      message_(new QLabel),
+      tableStatus_(new QLabel),
+      adventureStatus_(new QLabel) {
+    setObjectName("MainScreen");
+    setMinimumSize(kSmallestSize);
+    setAcceptDrops(true);
+    setProperty(qt::kHelpPage, kMainWindowPage);
+    MakePages();
+    MakeMenus();
+    MakeStatusBar();
+    MakeKeys();
+    PlaceWindow();
+    empty_->ShowExamples(places_.examples);
+    ShowChanges();
+}
+
+MainWindow::~MainWindow() {
+    // The panes show what the logic holds, up to their own end.
+    delete takeCentralWidget();
+}
+
+void MainWindow::MakePages() {
+    auto* right = new QWidget;
+    auto* column = new QVBoxLayout(right);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(records_, 1);
+    column->addWidget(find_);
+    find_->hide();
+    desk_->setChildrenCollapsible(false);
+    desk_->setHandleWidth(1);
+    desk_->addWidget(tree_);
+    desk_->addWidget(right);
+    desk_->setStretchFactor(1, 1);
+    desk_->setSizes({kTreeWidth, kDefaultSize.width() - kTreeWidth});
+    tree_->setMinimumWidth(80);
+    right->setMinimumWidth(160);
+    pages_->addWidget(empty_);
+    pages_->addWidget(desk_);
+    setCentralWidget(pages_);
+}
+
+void MainWindow::MakeMenus() {
+    actions_->FillMenuBar(*menuBar());
+    QMenu* file = menuBar()->findChild<QMenu*>("File");
+    recent_ = new QActionGroup(this);
+    recent_->setExclusive(false);
+    file->addSeparator();
+    QMenu* view = menuBar()->findChild<QMenu*>("View");
+    tables_ = view->addMenu(tr("&Tables"));
+    tables_->setObjectName("Tables");
+    columns_ = view->addMenu(tr("Sort &Rows By"));
+    columns_->setObjectName("Columns");
+    // Filled when they are opened: none of their lines may go while it is being chosen.
+    QObject::connect(tables_, &QMenu::aboutToShow, this, [this] { ShowTables(); });
+    QObject::connect(columns_, &QMenu::aboutToShow, this, [this] { ShowColumns(); });
+    view->addSeparator();
+    MakeThemeMenu(*view);
+
+    QToolBar* bar = addToolBar(tr("Tool bar"));
+    bar->setObjectName("Toolbar");
+    bar->setMovable(false);
+    const int icon = std::max(kSmallestIcon, fontMetrics().height() * 5 / 4);
+    bar->setIconSize(QSize(icon, icon));
+    actions_->FillToolBar(*bar);
+    // What an author does most often is said in words.
+    for (const Command command : {Command::Add, Command::Run, Command::Verify}) {
+        auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(actions_->Of(command)));
+        if (button) button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    }
+    view->addSeparator();
+    view->addAction(bar->toggleViewAction());
+}
+
+void MainWindow::MakeThemeMenu(QMenu& view) {
+    QMenu* menu = view.addMenu(tr("T&heme"));
+    themes_ = new QActionGroup(this);
+    const qt::Theme now = qt::ThemeFrom(services_.settings.Get("Startup", "Theme"));
+    const auto add = [&](qt::Theme theme, const char* name, const QString& text) {
+        QAction* action = menu->addAction(text, this, [this, theme] { ChooseTheme(theme); });
+        action->setObjectName(name);
+        action->setCheckable(true);
+        action->setChecked(theme == now);
+        themes_->addAction(action);
+    };
+    add(qt::Theme::System, "ThemeSystem", tr("&System"));
+    add(qt::Theme::Light, "ThemeLight", tr("&Light"));
+    add(qt::Theme::Dark, "ThemeDark", tr("&Dark"));
+    qt::ApplyTheme(now);
+}
+
+void MainWindow::MakeStatusBar() {
+    const auto add = [](QLabel& label, const char* name, const QString& spoken) {
+        label.setObjectName(name);
+        label.setAccessibleName(spoken);
+        label.setTextFormat(Qt::PlainText);
+        label.setContentsMargins(6, 0, 6, 0);
+    };
+    add(*message_, "status", tr("What just happened"));
+    add(*tableStatus_, "TableStatus", tr("Table in view"));
+    add(*adventureStatus_, "AdventureStatus", tr("Adventure"));
+    // Long sentences are cut rather than widening the window.
+    message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    adventureStatus_->setMinimumWidth(1);
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addWidget(message_, 3);
+    statusBar()->addPermanentWidget(tableStatus_);
+    statusBar()->addPermanentWidget(adventureStatus_);
+}
+
+void MainWindow::MakeKeys() {
+    // Del belongs to the rows; elsewhere it edits text.
+    QAction* remove = actions_->Of(Command::Delete);
+    remove->setShortcutContext(Qt::WidgetShortcut);
+    records_->Grid().addAction(remove);
+    const auto add = [this](QKeySequence key, int direction) {
+        auto* action = new QAction(this);
+        action->setShortcut(key);
+        QObject::connect(action, &QAction::triggered, this, [this, direction] { NextPane(direction); });
+        addAction(action);
+    };
+    add(Qt::Key_F6, 1);
+    add(QKeySequence(Qt::SHIFT | Qt::Key_F6), -1);
+}
+
+void MainWindow::PlaceWindow() {
+    desk_->restoreState(services_.store.value(kSplitter).toByteArray());
+    if (restoreGeometry(services_.store.value(kGeometry).toByteArray())) return;
+    resize(kDefaultSize.boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+void MainWindow::Start(const std::filesystem::path& file) {
+    std::error_code error;  // what can't be looked at is told below
+    const bool isFile = std::filesystem::is_regular_file(file, error);
+    const auto remembered = std::filesystem::absolute(file, error).string();
+    if (isFile) services_.settings.Set(authoring::startup::kSection, authoring::startup::kFile, remembered);
+    ide_.Start([this] { ShowChanges(); });
+    if (!isFile && !file.empty()) ide_.OpenFile(file);
+    ShowChanges();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    services_.store.setValue(kGeometry, saveGeometry());
+    services_.store.setValue(kSplitter, desk_->saveState());
+    ide_.End();
+    help_.Close();
+    event->accept();
+    QApplication::quit();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    // Icons are drawn in the theme's colours, but buttons keep what they have drawn.
+    if (event->type() == QEvent::PaletteChange) update();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls() && event->mimeData()->urls().first().isLocalFile())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    Open(qt::PathFromQt(event->mimeData()->urls().first().toLocalFile()));
+}
+
+}  // namespace fabula::ide

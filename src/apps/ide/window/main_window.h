@@ -1,0 +1,139 @@
+#pragma once
+
+#include <QMainWindow>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "authoring/desk/main_screen.h"
+#include "authoring/jobs/interchange_screen.h"
+#include "authoring/jobs/verify_screen.h"
+#include "engine/sound_player.h"
+#include "ide/window/examples.h"
+#include "platform/random_source.h"
+#include "platform/timers.h"
+#include "qt/help.h"
+#include "qt/theme.h"
+
+class QActionGroup;
+class QLabel;
+class QSettings;
+class QSplitter;
+class QStackedWidget;
+
+namespace fabula::ide {
+
+class CommandActions;
+class EmptyPage;
+class FindBar;
+class GameTest;
+class RecordPanel;
+class TreePanel;
+
+/// What the window asks of its program. All of it outlives the window.
+struct Services {
+    platform::Timers& timers;
+    platform::Dialogs& dialogs;
+    platform::Settings& settings;
+    QSettings& store;  ///< what `settings` are kept in, for what Qt's windows remember
+    const platform::Clock& clock;
+    platform::EventPump& events;
+    engine::SoundPlayer& sound;
+    platform::RandomSource& random;
+    /// The names of the system's MIDI devices, for the settings.
+    std::function<std::vector<std::string>()> soundDevices = [] { return std::vector<std::string>(); };
+};
+
+/// Where the window finds and keeps its files.
+struct Places {
+    authoring::IdePaths desk;
+    std::filesystem::path help;         ///< the page of contents
+    std::vector<Example> examples;      ///< that it offers
+    std::filesystem::path ownGames;     ///< where an example is copied to before it is opened
+    std::filesystem::path playersData;  ///< where games that are tested keep what their players save
+};
+
+/// The window of the authoring tool: menus, tool bar, tree and grid around `MainScreen`, which decides
+/// everything. The window only shows what that tells and hands on what the author does.
+class MainWindow final : public QMainWindow {
+  public:
+    MainWindow(const Services& services, Places places);
+    ~MainWindow() override;
+
+    /// Opens a file, or without one the adventure that was open the last time.
+    void Start(const std::filesystem::path& file);
+
+    /// Does a command as its menu would.
+    void Do(authoring::Command command);
+
+    authoring::MainScreen& Logic() { return ide_; }
+    /// The game being tested; nullptr when there is none.
+    const GameTest* Test() const { return test_.get(); }
+    qt::Help& Help() { return help_; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void MakePages();
+    void MakeMenus();
+    void MakeThemeMenu(QMenu& view);
+    void MakeStatusBar();
+    void MakeKeys();
+    void PlaceWindow();
+
+    void ShowChanges();
+    void ShowRow();
+    void ShowActions();
+    void ShowStatus();
+    void ShowTables();
+    void ShowColumns();
+    void ShowRecent();
+    void NextPane(int direction);
+
+    void New();
+    void Open(const std::filesystem::path& file);
+    void OpenExample(const Example& example);
+    void DoInLogic(authoring::Command command);
+    void FindOrAsk(authoring::Command command);
+    void Sort();
+    void Verify();
+    void GoTo(const authoring::VerifyScreen::Entry& entry);
+    void ImportOrExport(authoring::JobMode mode);
+    void StartTest();
+    void EndTest();
+    void AboutAdventure();
+    void About();
+    void AskEntryMenu(const QPoint& place);
+    void ChooseTheme(qt::Theme theme);
+
+    Services services_;
+    Places places_;
+    authoring::MainScreen ide_;
+    qt::Help help_;
+    authoring::TableView shownView_;
+    std::filesystem::path shownFile_;  ///< whose table it is; empty for none
+    std::unique_ptr<GameTest> test_;
+
+    QStackedWidget* pages_;
+    EmptyPage* empty_;
+    QSplitter* desk_;
+    TreePanel* tree_;
+    RecordPanel* records_;
+    FindBar* find_;
+    CommandActions* actions_;
+    QMenu* tables_ = nullptr;
+    QMenu* columns_ = nullptr;
+    QActionGroup* recent_ = nullptr;
+    QActionGroup* themes_ = nullptr;
+    QLabel* message_;
+    QLabel* tableStatus_;
+    QLabel* adventureStatus_;
+};
+
+}  // namespace fabula::ide

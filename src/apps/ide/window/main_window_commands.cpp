@@ -1,0 +1,187 @@
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+
+#include "ide/dialogs/interchange_dialog.h"
+#include "ide/dialogs/screens.h"
+#include "ide/dialogs/setup_dialog.h"
+#include "ide/dialogs/sort_dialog.h"
+#include "ide/dialogs/verify_dialog.h"
+#include "ide/window/find_bar.h"
+#include "ide/window/game_test.h"
+#include "ide/window/job_events.h"
+#include "ide/window/main_window.h"
+#include "ide/window/record_panel.h"
+#include "platform/error.h"
+#include "player/window/about_adventure.h"
+#include "qt/strings.h"
+
+// What the commands do that need a window of their own.
+
+namespace fabula::ide {
+
+using authoring::Command;
+
+void MainWindow::Do(Command command) {
+    // Enter and a double click on a row come here whatever the table allows.
+    const authoring::ActionState state = ide_.StateOf(command);
+    if (!state.enabled) return message_->setText(qt::ToQt(state.why));
+    switch (command) {
+        case Command::New:
+            return New();
+        case Command::Exit:
+            return void(close());
+        case Command::Run:
+            return StartTest();
+        case Command::Import:
+            return ImportOrExport(authoring::JobMode::Import);
+        case Command::Export:
+            return ImportOrExport(authoring::JobMode::Export);
+        case Command::Sort:
+            return Sort();
+        case Command::Verify:
+            return Verify();
+        case Command::Filter:
+            return records_->FilterLine().setFocus();
+        case Command::Find:
+        case Command::FindNext:
+            return FindOrAsk(command);
+        case Command::Help:
+            return help_.Show(qt::TopicOf(QApplication::focusWidget()));
+        case Command::HelpContents:
+            return help_.Show({});
+        case Command::AboutAdventure:
+            return AboutAdventure();
+        case Command::About:
+            return About();
+        default:
+            return DoInLogic(command);
+    }
+}
+
+void MainWindow::DoInLogic(Command command) {
+    const auto request = ide_.Run(command);
+    if (request) {
+        try {
+            OpenScreen(*request, ide_.CurrentContext(), {services_.sound, services_.soundDevices}, this);
+        } catch (const Error& error) {
+            services_.dialogs.Tell(error.what(), "Error");
+        }
+        ide_.ScreenClosed(*request);
+    }
+    ShowChanges();
+    // The new record is the one to go on with.
+    if (request && request->key.isNew) records_->Grid().setFocus();
+}
+
+void MainWindow::FindOrAsk(Command command) {
+    if (command == Command::Find || !find_->isVisible() || ide_.Finder().text.empty()) return find_->Ask();
+    DoInLogic(Command::Find);
+}
+
+void MainWindow::New() {
+    const auto file = ide_.AskNewFile();
+    if (!file) return;
+    store::AdventureSetup setup;
+    SetupDialog dialog(setup, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    ide_.NewAdventure(*file, setup, dialog.Starter());
+    ShowChanges();
+}
+
+void MainWindow::Open(const std::filesystem::path& file) {
+    ide_.OpenFile(file);
+    ShowChanges();
+}
+
+void MainWindow::OpenExample(const Example& example) {
+    try {
+        Open(TakeExample(example, places_.ownGames));
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+}
+
+void MainWindow::Sort() {
+    authoring::SortScreen screen = ide_.OpenSort();
+    SortDialog dialog(screen, services_.dialogs, this);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.exec();
+    ide_.SortClosed();
+    ShowChanges();
+}
+
+void MainWindow::Verify() {
+    JobEvents events;
+    authoring::VerifyScreen verify(ide_.CurrentContext().document.Adventure(),
+                                   authoring::VerifyTarget::Play, events);
+    VerifyDialog dialog(verify, services_.dialogs, this);
+    dialog.goTo = [this](const authoring::VerifyScreen::Entry& entry) { GoTo(entry); };
+    dialog.exec();
+    ide_.Refresh();
+    ide_.Say(verify.Passed() ? "The adventure has passed." : "The adventure has not passed.");
+    ShowChanges();
+}
+
+void MainWindow::GoTo(const authoring::VerifyScreen::Entry& entry) {
+    ide_.Show({store::TableNum::ProcessTables, std::min(entry.estype, authoring::kOtherProcesses)});
+    if (const auto row = ide_.Grid().RowOf(entry.canum)) ide_.SelectRow(*row);
+}
+
+void MainWindow::ImportOrExport(authoring::JobMode mode) {
+    const bool open = ide_.GetState() != authoring::MainScreen::State::NoAdventure;
+    JobEvents events;
+    authoring::InterchangeScreen screen(
+        mode, open ? &ide_.CurrentContext().document.Adventure() : nullptr,
+        {services_.dialogs, services_.clock, events, services_.settings, places_.desk.defaultData});
+    InterchangeDialog dialog(screen, services_.dialogs, this);
+    dialog.exec();
+    if (screen.NewFile()) ide_.OpenFile(*screen.NewFile());
+    if (mode == authoring::JobMode::Export && screen.Done())
+        ide_.Say("Exported to " + std::filesystem::path(screen.source).filename().string() + ".");
+    ShowChanges();
+}
+
+void MainWindow::StartTest() {
+    const auto run = ide_.BeginRunTest();
+    if (!run) return ShowChanges();
+    try {
+        test_ = std::make_unique<GameTest>(
+            *run,
+            player::WindowServices{.timers = services_.timers,
+                                   .dialogs = services_.dialogs,
+                                   .sound = services_.sound,
+                                   .random = services_.random,
+                                   .settings = services_.store,
+                                   .dataFolder = places_.playersData,
+                                   .help = [this](const qt::HelpTopic& topic) { help_.Show(topic); }},
+            services_.clock.Now(), [this] { EndTest(); });
+        hide();
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+        EndTest();
+    }
+}
+
+void MainWindow::EndTest() {
+    test_.reset();
+    ide_.EndRunTest();
+    show();
+    activateWindow();
+    ShowChanges();
+    records_->Grid().setFocus();
+}
+
+void MainWindow::AboutAdventure() {
+    const bool open = ide_.GetState() != authoring::MainScreen::State::NoAdventure;
+    store::Adventure* const adventure = open ? &ide_.CurrentContext().document.Adventure() : nullptr;
+    player::ShowAbout(player::AboutAdventure::Of(adventure), this);
+}
+
+void MainWindow::About() {
+    services_.dialogs.Tell("Fabula IDE " + qt::FromQt(QApplication::applicationVersion()),
+                           "About Fabula IDE");
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,170 @@
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTableView>
+
+#include "ide/editors/help_pages.h"
+#include "ide/window/command_actions.h"
+#include "ide/window/empty_page.h"
+#include "ide/window/find_bar.h"
+#include "ide/window/main_window.h"
+#include "ide/window/record_panel.h"
+#include "ide/window/tree_panel.h"
+#include "qt/help_book.h"
+#include "qt/icons.h"
+#include "qt/strings.h"
+
+// What the window shows, and the menus and panes that go with it.
+
+namespace fabula::ide {
+
+using authoring::Command;
+using authoring::Menu;
+
+namespace {
+
+constexpr int kEntryGroup = 1;  ///< of the menu Edit: the commands on records
+
+/// The theme is the one of the player's window too.
+constexpr const char* kTheme = "Startup/Theme";
+
+}  // namespace
+
+void MainWindow::ShowChanges() {
+    const bool open = ide_.GetState() != authoring::MainScreen::State::NoAdventure;
+    const bool changedPage = (pages_->currentWidget() == desk_) != open;
+    setWindowTitle(qt::ToQt(ide_.Title()));
+    pages_->setCurrentWidget(open ? static_cast<QWidget*>(desk_) : empty_);
+    const authoring::TreeNode* node = ide_.CurrentNode();
+    tree_->Show(ide_.Tree(), node ? node->sort : -1);
+    const auto file = open ? ide_.CurrentContext().document.File() : std::filesystem::path();
+    const bool sameTable = open && file == shownFile_ && shownView_ == ide_.Grid().View();
+    if (sameTable) {
+        records_->ShowRecords();
+    } else {
+        shownView_ = ide_.Grid().View();
+        records_->ShowTable(qt::ToQt(ide_.Caption()));
+        find_->ShowFields(ide_.Finder());
+        tree_->setProperty(qt::kHelpPage, HelpPageOf(shownView_));
+    }
+    shownFile_ = file;
+    records_->ChooseRow(ide_.CurrentRow());
+    if (changedPage) open ? records_->Grid().setFocus() : empty_->setFocus();
+    tables_->setEnabled(open);
+    columns_->setEnabled(open);
+    ShowRecent();
+    ShowRow();
+    if (ide_.MustExit()) close();
+}
+
+void MainWindow::ShowRow() {
+    qt::HelpTopic topic = HelpTopicOf(ide_.Grid(), ide_.CurrentRow());
+    // A file may name a page that the help does not have.
+    if (qt::HelpBook(places_.help).FileOf(topic.page).empty()) topic.page = HelpPageOf(ide_.Grid().View());
+    records_->setProperty(qt::kHelpPage, topic.page);
+    records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
+    ShowActions();
+}
+
+void MainWindow::ShowActions() {
+    actions_->Refresh([this](Command command) { return ide_.StateOf(command); });
+    ShowStatus();
+}
+
+void MainWindow::ShowStatus() {
+    message_->setText(qt::ToQt(ide_.Message()));
+    message_->setToolTip(ide_.Message().empty() ? QString() : qt::TipOf(qt::ToQt(ide_.Message())));
+    tableStatus_->setText(qt::ToQt(ide_.TableStatus()));
+    tableStatus_->setVisible(!tableStatus_->text().isEmpty());
+    adventureStatus_->setText(qt::ToQt(ide_.AdventureStatus()));
+    adventureStatus_->setVisible(!adventureStatus_->text().isEmpty());
+}
+
+void MainWindow::ShowTables() {
+    tables_->clear();
+    const authoring::TreeNode* current = ide_.CurrentNode();
+    for (const authoring::TreeNode& node : ide_.Tree()) {
+        if (node.group) continue;
+        QAction* action = tables_->addAction(qt::IconOf(node.icon), qt::ToQt(node.name).replace('&', "&&"),
+                                             this, [this, sort = node.sort] {
+                                                 ide_.ShowNode(sort);
+                                                 ShowChanges();
+                                             });
+        action->setCheckable(true);
+        action->setChecked(current && current->sort == node.sort);
+    }
+}
+
+/// What a click on a heading does, for the keyboard.
+void MainWindow::ShowColumns() {
+    columns_->clear();
+    const authoring::TableGrid& grid = ide_.Grid();
+    for (int column = 0; column < static_cast<int>(grid.Columns().size()); ++column) {
+        const bool sorted = grid.SortColumn() == column;
+        QString name = qt::ToQt(grid.Columns()[static_cast<std::size_t>(column)].title).replace('&', "&&");
+        if (sorted) name += grid.SortsDown() ? tr(" (descending)") : tr(" (ascending)");
+        QAction* action = columns_->addAction(name, this, [this, column] {
+            ide_.ClickColumn(column);
+            ShowChanges();
+        });
+        action->setCheckable(true);
+        action->setChecked(sorted);
+    }
+}
+
+void MainWindow::ShowRecent() {
+    QMenu* file = menuBar()->findChild<QMenu*>("File");
+    for (QAction* action : recent_->actions()) {
+        recent_->removeAction(action);
+        file->removeAction(action);
+        action->deleteLater();  // it may be the one that was chosen
+    }
+    int number = 0;
+    for (const std::filesystem::path& each : ide_.RecentFiles()) {
+        const QString name = qt::PathToQt(each.stem()).replace('&', "&&");
+        QAction* action =
+            file->addAction(QString("&%1  %2").arg(++number).arg(name), this, [this, each] { Open(each); });
+        action->setToolTip(qt::TipOf(qt::PathToQt(each)));
+        action->setStatusTip(qt::PathToQt(each));
+        recent_->addAction(action);
+    }
+    empty_->ShowRecent(ide_.RecentFiles());
+}
+
+void MainWindow::NextPane(int direction) {
+    const std::vector<QWidget*> panes = {tree_, &records_->FilterLine(), &records_->Grid(), find_};
+    const int count = static_cast<int>(panes.size());
+    int at = 0;
+    while (at < count && !panes[static_cast<std::size_t>(at)]->isAncestorOf(QApplication::focusWidget()) &&
+           panes[static_cast<std::size_t>(at)] != QApplication::focusWidget())
+        ++at;
+    for (int step = 1; step <= count; ++step) {
+        QWidget* pane = panes[static_cast<std::size_t>((at + step * direction + 2 * count) % count)];
+        if (!pane->isVisible()) continue;
+        if (pane == find_) return find_->Ask();
+        return pane->setFocus(Qt::TabFocusReason);
+    }
+}
+
+void MainWindow::AskEntryMenu(const QPoint& place) {
+    QMenu menu(this);
+    menu.setToolTipsVisible(true);
+    actions_->FillGroup(menu, Menu::Edit, kEntryGroup);
+    menu.addSeparator();
+    menu.addAction(actions_->Of(Command::Sort));
+    menu.exec(place);
+}
+
+void MainWindow::ChooseTheme(qt::Theme theme) {
+    services_.store.setValue(kTheme, QString::fromUtf8(qt::NameOf(theme)));
+    qt::ApplyTheme(theme);
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,269 @@
+#include "ide/window/record_panel.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "ide/window/cell_delegate.h"
+#include "ide/window/grid_model.h"
+#include "ide/window/pane_focus.h"
+#include "qt/icons.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+/// How long the width of a column must rest before it counts.
+constexpr std::chrono::milliseconds kResizeDelay{300};
+/// How many rows tell the width of a column that has none, and the widest that it becomes, in letters.
+constexpr int kRowsForWidth = 100;
+constexpr int kWidestColumn = 160;
+constexpr int kNarrowestColumn = 10;  ///< of those that need more
+constexpr int kCellMargin = 20;
+constexpr int kTitleMargin = 4;  ///< besides the one that it brings
+
+/// The table of the rows.
+class RowsView final : public QTableView {
+  protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override {
+        QTableView::initViewItemOption(option);
+        ShowWhetherFocused(*this, *option);
+    }
+};
+
+}  // namespace
+
+RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& timers, RecordEvents events,
+                         QWidget* parent)
+    : QWidget(parent),
+      grid_(grid),
+      events_(std::move(events)),
+      resized_(timers,
+               [this] { events_.columnResized(resizedColumn_, view_->columnWidth(resizedColumn_)); }),
+      model_(new GridModel(grid, this)),
+      view_(new RowsView),
+      filter_(new QLineEdit),
+      count_(new QLabel) {
+    filter_->setObjectName("FilterLine");
+    filter_->setAccessibleName(tr("Filter rows"));
+    filter_->setPlaceholderText(tr("Filter rows"));
+    filter_->setClearButtonEnabled(true);
+    filter_->addAction(qt::IconOf("filter"), QLineEdit::LeadingPosition);
+    filter_->installEventFilter(this);
+    count_->setObjectName("Count");
+    count_->setAccessibleName(tr("Rows shown"));
+    SetUpView();
+
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(8, 6, 8, 6);
+    line->addWidget(filter_, 1);
+    line->addWidget(count_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(line);
+    column->addWidget(view_, 1);
+    Connect();
+}
+
+void RecordPanel::SetUpView() {
+    view_->setObjectName("Grid");
+    view_->setModel(model_);
+    view_->setItemDelegate(new CellDelegate(view_));
+    view_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view_->setSelectionMode(QAbstractItemView::SingleSelection);
+    view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view_->setAlternatingRowColors(true);
+    view_->setShowGrid(false);
+    view_->setWordWrap(false);
+    view_->setTabKeyNavigation(false);
+    view_->setFrameShape(QFrame::NoFrame);
+    view_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view_->setContextMenuPolicy(Qt::CustomContextMenu);
+    view_->installEventFilter(this);
+    view_->viewport()->installEventFilter(this);
+    view_->verticalHeader()->hide();
+    QHeaderView* header = view_->horizontalHeader();
+    header->setSectionsClickable(true);
+    header->setHighlightSections(false);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setStretchLastSection(true);
+    header->setAccessibleName(tr("Columns"));
+    FitRows();
+}
+
+void RecordPanel::Connect() {
+    const QHeaderView* header = view_->horizontalHeader();
+    QObject::connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (!placing_) events_.filtered(qt::FromQt(text));
+    });
+    QObject::connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                     [this](const QModelIndex& row) {
+                         if (!placing_) events_.rowChosen(row.isValid() ? row.row() : -1);
+                     });
+    QObject::connect(view_, &QTableView::doubleClicked, this, [this] { events_.opened(); });
+    QObject::connect(view_, &QTableView::customContextMenuRequested, this, [this](const QPoint& place) {
+        events_.menuAsked(view_->viewport()->mapToGlobal(place));
+    });
+    QObject::connect(header, &QHeaderView::sectionClicked, this,
+                     [this](int section) { events_.columnClicked(section); });
+    QObject::connect(header, &QHeaderView::sectionResized, this, [this](int section) {
+        // The last column takes the room that is left.
+        if (placing_ || section == model_->columnCount() - 1) return;
+        wishes_[static_cast<std::size_t>(section)].width = view_->columnWidth(section);
+        wishes_[static_cast<std::size_t>(section)].kept = true;
+        resizedColumn_ = section;
+        resized_.Start(kResizeDelay);
+    });
+}
+
+void RecordPanel::ShowTable(const QString& name) {
+    resized_.Stop();
+    view_->setAccessibleName(name);
+    wishes_.clear();
+    ShowRecords();
+}
+
+void RecordPanel::ShowRecords() {
+    placing_ = true;
+    if (const QString filter = qt::ToQt(grid_.Filter()); filter_->text() != filter)
+        filter_->setText(filter);
+    model_->Reset();
+    ShowOrder();
+    placing_ = false;
+    ShowCount();
+    // A change of the adventure may have given the same table other columns.
+    if (wishes_.size() == grid_.Columns().size()) return WidenColumns();
+    resized_.Stop();
+    MeasureColumns();
+    PlaceColumns();
+}
+
+void RecordPanel::ShowOrder() {
+    QHeaderView* header = view_->horizontalHeader();
+    const auto column = grid_.SortColumn();
+    header->setSortIndicatorShown(column.has_value());
+    if (column)
+        header->setSortIndicator(*column, grid_.SortsDown() ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void RecordPanel::ShowCount() {
+    const int shown = grid_.RowCount();
+    const int all = grid_.RecordCount();
+    count_->setText(grid_.Filter().empty() ? QString() : tr("%1 of %2").arg(shown).arg(all));
+    count_->setVisible(!grid_.Filter().empty());
+}
+
+void RecordPanel::FitRows() {
+    view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view_->verticalHeader()->setDefaultSectionSize(view_->fontMetrics().height() * 3 / 2);
+}
+
+void RecordPanel::MeasureColumns() {
+    const int letter = view_->fontMetrics().averageCharWidth();
+    wishes_.clear();
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const authoring::GridColumn& shown = grid_.Columns()[static_cast<std::size_t>(column)];
+        // The last column takes the room that is left, whatever it was given.
+        const bool kept = shown.width > 0 && column < model_->columnCount() - 1;
+        const int width = kept ? shown.width : WidthOf(column);
+        const int title = view_->horizontalHeader()->sectionSizeHint(column) + kTitleMargin;
+        wishes_.push_back({width, std::min(width, std::max(title, letter * kNarrowestColumn)), kept});
+    }
+}
+
+/// Makes room for what has come in. Columns don't become narrower while their table is in view.
+void RecordPanel::WidenColumns() {
+    bool wider = false;
+    for (std::size_t column = 0; column < wishes_.size(); ++column) {
+        ColumnWish& wish = wishes_[column];
+        const int width = wish.kept ? wish.width : WidthOf(static_cast<int>(column));
+        if (width <= wish.width) continue;
+        wish.width = width;
+        wider = true;
+    }
+    if (wider) PlaceColumns();
+}
+
+void RecordPanel::PlaceColumns() {
+    // A window may be resized before what has become of the table is shown.
+    if (wishes_.size() != grid_.Columns().size()) return;
+    const std::vector<int> widths = FitColumns(wishes_, view_->viewport()->width());
+    placing_ = true;
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+        const auto index = static_cast<int>(column);
+        view_->setColumnWidth(index, widths[column]);
+        // What is not kept can't be changed.
+        const bool expand = grid_.Columns()[column].expand;
+        view_->horizontalHeader()->setSectionResizeMode(
+            index, expand ? QHeaderView::Interactive : QHeaderView::Fixed);
+    }
+    placing_ = false;
+}
+
+int RecordPanel::WidthOf(int column) const {
+    const QFontMetrics metrics = view_->fontMetrics();
+    int width = view_->horizontalHeader()->sectionSizeHint(column) + kTitleMargin;
+    for (int row = 0; row < std::min(grid_.RowCount(), kRowsForWidth); ++row)
+        width =
+            std::max(width, metrics.horizontalAdvance(qt::ToQt(grid_.CellText(row, column))) + kCellMargin);
+    return std::min(width, metrics.averageCharWidth() * kWidestColumn);
+}
+
+void RecordPanel::ChooseRow(int row) {
+    placing_ = true;
+    const QModelIndex index = model_->index(row, 0);
+    if (index.isValid()) {
+        const int across = view_->horizontalScrollBar()->value();
+        view_->setCurrentIndex(index);
+        view_->scrollTo(index);
+        view_->horizontalScrollBar()->setValue(across);
+    } else {
+        view_->clearSelection();
+        view_->setCurrentIndex({});
+    }
+    placing_ = false;
+}
+
+int RecordPanel::ChosenRow() const {
+    const QModelIndex current = view_->currentIndex();
+    return current.isValid() ? current.row() : -1;
+}
+
+bool RecordPanel::eventFilter(QObject* receiver, QEvent* event) {
+    if (receiver == view_->viewport() && event->type() == QEvent::Resize) PlaceColumns();
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (receiver == view_ && enter) {
+        events_.opened();
+        return true;
+    }
+    if (receiver != filter_) return false;
+    if (enter || key == Qt::Key_Down) {
+        view_->setFocus();
+        return true;
+    }
+    if (key == Qt::Key_Escape) {
+        filter_->clear();
+        view_->setFocus();
+        return true;
+    }
+    return false;
+}
+
+void RecordPanel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        FitRows();
+        MeasureColumns();
+        PlaceColumns();
+    }
+    QWidget::changeEvent(event);
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "authoring/desk/table_grid.h"
+#include "ide/window/column_widths.h"
+#include "platform/timers.h"
+
+class QLabel;
+class QLineEdit;
+class QTableView;
+
+namespace fabula::ide {
+
+class GridModel;
+
+/// What happens in the panel of records.
+struct RecordEvents {
+    std::function<void(int row)> rowChosen;  ///< -1 for none
+    std::function<void()> opened;            ///< Enter or a double click on a row
+    std::function<void(int column)> columnClicked;
+    std::function<void(int column, int width)> columnResized;  ///< a moment after the author has done it
+    std::function<void(const std::string& text)> filtered;
+    std::function<void(const QPoint& place)> menuAsked;  ///< `place` on the screen
+};
+
+/// The records of the table in view, with the line that filters them above. The window tells what is to be
+/// shown; the panel only shows it and tells what the author does. Its parts are found by the names "Grid",
+/// "FilterLine" and "Count".
+class RecordPanel final : public QWidget {
+  public:
+    RecordPanel(const authoring::TableGrid& grid, platform::Timers& timers, RecordEvents events,
+                QWidget* parent = nullptr);
+
+    /// Another table is in view: new columns, new records, and the filter that the grid has.
+    void ShowTable(const QString& name);
+    /// The records, their order or the filter are other ones.
+    void ShowRecords();
+
+    /// Chooses a row and brings it in sight; -1 chooses none.
+    void ChooseRow(int row);
+    int ChosenRow() const;
+
+    QTableView& Grid() { return *view_; }
+    QLineEdit& FilterLine() { return *filter_; }
+
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void SetUpView();
+    void Connect();
+    void FitRows();
+    void MeasureColumns();
+    void WidenColumns();
+    void PlaceColumns();
+    int WidthOf(int column) const;
+    void ShowOrder();
+    void ShowCount();
+
+    const authoring::TableGrid& grid_;
+    RecordEvents events_;
+    platform::Alarm resized_;
+    int resizedColumn_ = -1;
+    std::vector<ColumnWish> wishes_;  ///< of the columns
+    bool placing_ = false;            ///< the panel moves columns and rows itself
+    GridModel* model_;
+    QTableView* view_;
+    QLineEdit* filter_;
+    QLabel* count_;
+};
+
+}  // namespace fabula::ide

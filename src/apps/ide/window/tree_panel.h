@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTreeWidget>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "authoring/desk/table_tree.h"
+
+namespace fabula::ide {
+
+/// The tree of an adventure's tables.
+class TreePanel final : public QTreeWidget {
+  public:
+    using Choose = std::function<void(int sort)>;
+
+    /// `choose` is called with the position of a node that the author goes to.
+    explicit TreePanel(Choose choose, QWidget* parent = nullptr);
+
+    /// Shows these nodes, unless they are shown already, with the one at a position chosen.
+    void Show(const std::vector<authoring::TreeNode>& nodes, int chosen);
+
+  protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
+
+  private:
+    void Fill(const std::vector<authoring::TreeNode>& nodes);
+
+    Choose choose_;
+    std::vector<std::string> shown_;  ///< keys and names of the nodes
+    bool filling_ = false;
+};
+
+}  // namespace fabula::ide

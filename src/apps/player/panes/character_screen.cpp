@@ -1,0 +1,107 @@
+#include "player/panes/character_screen.h"
+
+#include <utility>
+
+#include "text/safe_text.h"
+#include "text/utf8.h"
+
+namespace fabula::player {
+
+namespace {
+
+constexpr int kDefaultSet = 0;
+
+}  // namespace
+
+CharacterScreen::Row CharacterScreen::BlankRow() const {
+    Row row;
+    row.fill({.paper = static_cast<std::uint8_t>(paper_)});
+    return row;
+}
+
+void CharacterScreen::Clear(int paper, int ink) {
+    inputShown_ = false;
+    paper_ = paper;
+    style_ = {.paper = paper, .ink = ink};
+    const Row blank = BlankRow();
+    if (rows_.size() > top_ + 1 || cursor_.column > 0) rows_.push_back(blank);
+    rows_.back() = blank;
+    top_ = rows_.size() - 1;
+    cursor_ = {top_, 0};
+}
+
+void CharacterScreen::Write(std::string_view run, const engine::TextStyle& style) {
+    inputShown_ = false;
+    style_ = style;
+    for (const char32_t code : text::Decode(run))
+        Draw(code);
+}
+
+void CharacterScreen::Draw(char32_t code) {
+    if (cursor_.column == kColumns) EndLine();
+    const int number = static_cast<int>(code);
+    const pictures::Character* character = sets_.Find(style_.font, number);
+    if (character == nullptr) character = sets_.Find(kDefaultSet, number);
+    const pictures::Glyph drawn = character == nullptr ? pictures::Glyph{} : character->glyph;
+    int ink = style_.ink;
+    int paper = style_.paper;
+    if (style_.inverse) std::swap(ink, paper);
+    Cell& cell = rows_[cursor_.row][cursor_.column++];
+    if (!style_.over) cell.glyph = {};
+    for (std::size_t row = 0; row < drawn.size(); ++row)
+        cell.glyph[row] ^= drawn[row];
+    cell.code = code;
+    cell.ink = static_cast<std::uint8_t>(ink);
+    cell.paper = static_cast<std::uint8_t>(paper);
+    cell.flash = style_.flash;
+}
+
+void CharacterScreen::EndLine() {
+    cursor_ = {cursor_.row + 1, 0};
+    if (cursor_.row == rows_.size()) rows_.push_back(BlankRow());
+}
+
+void CharacterScreen::EraseInput() {
+    for (std::size_t row = input_.row; row < rows_.size(); ++row) {
+        const int first = row == input_.row ? input_.column : 0;
+        for (int column = first; column < kColumns; ++column)
+            rows_[row][column] = {.paper = static_cast<std::uint8_t>(paper_)};
+    }
+    rows_.resize(input_.row + 1);
+    cursor_ = input_;
+}
+
+void CharacterScreen::ShowInput(std::string_view typed, std::string_view cursor) {
+    if (inputShown_) {
+        EraseInput();
+    } else {
+        input_ = cursor_;
+    }
+    for (const char32_t code : text::Decode(typed))
+        Draw(code);
+    caret_ = cursor_;
+    for (const char32_t code : text::Decode(cursor))
+        Draw(code);
+    inputShown_ = true;
+}
+
+void CharacterScreen::EndInput(std::string_view typed) {
+    ShowInput(typed, "");
+    inputShown_ = false;
+    EndLine();
+}
+
+std::string CharacterScreen::Text(std::size_t first) const {
+    std::string text;
+    for (std::size_t row = first; row < rows_.size(); ++row) {
+        std::u32string codes;
+        for (const Cell& cell : rows_[row])
+            codes += cell.code;
+        codes.erase(codes.find_last_not_of(U' ') + 1);
+        text::AppendCharacters(text::Encode(codes), text);
+        text += '\n';
+    }
+    return text;
+}
+
+}  // namespace fabula::player

@@ -1,0 +1,340 @@
+#include "player/panes/game_screen.h"
+
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "engine/engine.h"
+#include "pictures/book_loader.h"
+#include "player/panes/character_pane.h"
+#include "player/panes/picture_pane.h"
+#include "player/panes/text_pane.h"
+#include "player/play/game_pictures.h"
+#include "player/play/session.h"
+#include "qt/strings.h"
+#include "text/colours.h"
+#include "text/safe_text.h"
+#include "text/utf8.h"
+
+namespace fabula::player {
+
+namespace {
+
+using engine::Engine;
+using engine::Waiting;
+
+/// How soon a tick comes again that found the engine at work.
+constexpr std::chrono::milliseconds kBusyDelay{50};
+/// The last character of a character set that a key can type.
+constexpr char32_t kLastTyped = 126;
+/// What a picture leaves to the text; where it can't, it gives way.
+constexpr int kLeastLines = 5;
+constexpr int kLeastRows = 10;
+
+}  // namespace
+
+GameScreen::GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, ScreenEvents events)
+    : dialogs_(dialogs),
+      events_(std::move(events)),
+      timeOut_(timers, [this] { TimeOutTick(); }),
+      wait_(timers, [this] { WaitTick(); }),
+      splitter_(new QSplitter(Qt::Vertical)),
+      picture_(new PicturePane),
+      panes_(new QStackedWidget) {
+    const PaneHandlers handlers{[this](const std::string& text) { Type(text); },
+                                [this](PaneKey key) { Press(key); }};
+    text_ = new TextPane(timers, handlers);
+    characters_ = new CharacterPane(timers, handlers);
+    panes_->addWidget(text_);
+    panes_->addWidget(characters_);
+    splitter_->addWidget(picture_);
+    splitter_->addWidget(panes_);
+    splitter_->setChildrenCollapsible(false);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(splitter_);
+    QObject::connect(splitter_, &QSplitter::splitterMoved, this, [this] {
+        const int room = splitter_->height() - splitter_->handleWidth();
+        pictureShare_ = static_cast<double>(splitter_->sizes().front()) / room;
+    });
+    picture_->hide();
+}
+
+GameScreen::~GameScreen() = default;
+
+void GameScreen::Attach(Session* session) {
+    timeOut_.Stop();
+    wait_.Stop();
+    history_ = {};
+    typed_.clear();
+    session_ = session;
+    pictures_.reset();
+    if (session_ == nullptr) return;
+    pictures_ = std::make_unique<GamePictures>(session_->Adventure(), events_.notice);
+}
+
+void GameScreen::SetLook(const ScreenLook& look) {
+    look_ = look;
+    text_->SetPage(look.page);
+    text_->SetZoom(look.zoom);
+    text_->SetFlashing(look.flashing);
+    characters_->SetZoomSteps(look.characterZoom);
+    characters_->SetFlashing(look.flashing);
+    ChoosePane();
+}
+
+bool GameScreen::ShowsCharacters() const {
+    return game_.characterSets && !look_.plainText;
+}
+
+void GameScreen::ChoosePane() {
+    const bool focused = panes_->currentWidget()->hasFocus();
+    if (ShowsCharacters()) {
+        panes_->setCurrentWidget(characters_);
+    } else {
+        panes_->setCurrentWidget(text_);
+    }
+    ColourPicture();
+    FitPicture();
+    if (focused) FocusInput();
+}
+
+void GameScreen::ColourPicture() {
+    QPalette surroundings = text_->palette();
+    if (ShowsCharacters()) {
+        const text::Rgb paper = text::ColorRGB(game_.style.paper);
+        surroundings.setColor(QPalette::Base, QColor(paper.red, paper.green, paper.blue));
+    }
+    picture_->setPalette(surroundings);
+}
+
+void GameScreen::FocusInput() {
+    panes_->currentWidget()->setFocus();
+}
+
+void GameScreen::StartGame(const engine::GameLook& look) {
+    timeOut_.Stop();
+    wait_.Stop();
+    game_ = look;
+    HidePicture();
+    TextLook textLook{.style = look.style, .columns = look.printWidth, .page = look_.page};
+    if (!look.characterSets) textLook.family = qt::ToQt(session_->FontName(look.style.font));
+    text_->StartGame(textLook);
+    pictures::CharacterSets sets;
+    if (look.characterSets) sets = pictures::LoadCharacterSets(session_->Adventure());
+    characters_->StartGame(CharacterScreen(std::move(sets)));
+    characters_->Screen().Clear(look.style.paper, look.style.ink);
+    ChoosePane();
+    events_.started(look);
+}
+
+void GameScreen::EndGame() {
+    timeOut_.Stop();
+    wait_.Stop();
+    turnMade_ = true;
+    events_.ended();
+}
+
+int GameScreen::PrintWidth() const {
+    // The text pane wraps for itself.
+    return game_.characterSets ? CharacterScreen::kWidth : engine::kNoWidthLimit;
+}
+
+int GameScreen::CharacterAdvance() const {
+    return CharacterScreen::kCharacterSize;
+}
+
+std::string GameScreen::Shown(std::string_view run) const {
+    std::string shown;
+    if (game_.characterSets) {
+        text::AppendCharacters(run, shown);
+    } else {
+        text::AppendSafe(run, shown);
+    }
+    return shown;
+}
+
+void GameScreen::Write(std::string_view run, const engine::TextStyle& style, engine::TextRole role) {
+    WriteUnwrapped(Shown(run), style, role);
+    if (game_.characterSets) characters_->Screen().Write(run, style);
+    afterBlank_ = run.ends_with(' ');
+    style_ = style;
+}
+
+void GameScreen::WriteUnwrapped(const std::string& shown, const engine::TextStyle& style,
+                                engine::TextRole role) {
+    if (transcript_.IsOpen() && role == engine::TextRole::Game) transcript_.Lines()->Write(shown);
+    const QString family = game_.characterSets ? QString() : qt::ToQt(session_->FontName(style.font));
+    text_->Write(qt::ToQt(shown), style, family);
+}
+
+void GameScreen::EndLine(engine::LineEnd kind) {
+    // A blank that finds its row full is the break itself, and is not written.
+    const bool blankBreak = game_.characterSets && characters_->Screen().RowIsFull() && !afterBlank_;
+    if (game_.characterSets) characters_->Screen().EndLine();
+    if (kind == engine::LineEnd::Wrapped) {
+        if (blankBreak) WriteUnwrapped(" ", style_, engine::TextRole::Game);
+        return;
+    }
+    if (transcript_.IsOpen()) transcript_.Lines()->EndLine();
+    text_->EndLine();
+}
+
+void GameScreen::Clear(int paper, int ink) {
+    if (transcript_.IsOpen()) transcript_.Lines()->NewPage();
+    text_->ClearPage(paper, ink);
+    if (game_.characterSets) characters_->Screen().Clear(paper, ink);
+}
+
+void GameScreen::ShowInput(std::string_view typed, std::string_view cursor) {
+    typed_ = typed;
+    text_->ShowInput(qt::ToQt(Shown(typed)), qt::ToQt(Shown(cursor)));
+    if (game_.characterSets) characters_->Screen().ShowInput(typed, cursor);
+}
+
+void GameScreen::EndInput(std::string_view typed) {
+    typed_.clear();
+    history_.Add(typed);
+    if (transcript_.IsOpen()) transcript_.Lines()->Typed(Shown(typed));
+    text_->EndInput(qt::ToQt(Shown(typed)));
+    if (game_.characterSets) characters_->Screen().EndInput(typed);
+    turnMade_ = true;
+}
+
+void GameScreen::ShowPicture(const engine::Picture& picture) {
+    const QImage image = pictures_->Load(picture);
+    picture_->Show(image);
+    FitPicture();
+}
+
+void GameScreen::HidePicture() {
+    picture_->Show({});
+    FitPicture();
+}
+
+int GameScreen::LeastTextHeight() const {
+    return ShowsCharacters() ? kLeastRows * CharacterScreen::kCharacterSize
+                             : kLeastLines * QFontMetrics(text_->font()).lineSpacing();
+}
+
+void GameScreen::FitPicture() {
+    const int room = splitter_->height() - splitter_->handleWidth();
+    const int most = room - LeastTextHeight();
+    const int least = picture_->minimumHeight();
+    const bool shown = !picture_->Shown().isNull() && most >= least;
+    picture_->setVisible(shown);
+    if (!shown) return;
+    const int wanted = pictureShare_ ? static_cast<int>(std::lround(room * *pictureShare_))
+                                     : picture_->HeightIn({splitter_->width(), room});
+    const int tall = std::clamp(wanted, least, most);
+    splitter_->setSizes({tall, room - tall});
+}
+
+void GameScreen::resizeEvent(QResizeEvent*) {
+    FitPicture();
+}
+
+void GameScreen::ShowStatus(engine::StatusField field, std::string_view text) {
+    events_.status(field, std::string(text));
+}
+
+void GameScreen::EnableNext(bool enabled) {
+    events_.nextEnabled(enabled);
+}
+
+void GameScreen::StartTimeOut(std::chrono::milliseconds length) {
+    timeOut_.Start(length);
+}
+
+void GameScreen::StopTimeOut() {
+    timeOut_.Stop();
+}
+
+void GameScreen::StartWait(std::chrono::milliseconds length) {
+    wait_.Start(length);
+}
+
+void GameScreen::TimeOutTick() {
+    if (session_ == nullptr) return;
+    if (!session_->TimeOutTick()) return timeOut_.Start(kBusyDelay);
+    turnMade_ = true;
+    ShowStep();
+}
+
+void GameScreen::WaitTick() {
+    if (session_ == nullptr) return;
+    if (!session_->WaitTick()) return wait_.Start(kBusyDelay);
+    ShowStep();
+}
+
+std::optional<std::filesystem::path> GameScreen::AskForFile(const engine::FileRequest& request) {
+    std::error_code ignored;
+    std::filesystem::create_directories(session_->SaveFolder(), ignored);
+    return dialogs_.ChooseFile({.title = std::string(request.title),
+                                .filter = std::string(request.filter),
+                                .extension = std::string(request.extension),
+                                .forWriting = request.forWriting,
+                                .start = session_->SaveFolder()});
+}
+
+void GameScreen::Send(char32_t key) {
+    session_->Key(key);
+}
+
+void GameScreen::Type(const std::string& typed) {
+    if (session_ == nullptr) return;
+    for (const char32_t point : text::Decode(typed)) {
+        if (point >= text::kBadByte || (game_.characterSets && point > kLastTyped)) continue;
+        Send(point);
+    }
+    ShowStep();
+}
+
+void GameScreen::Press(PaneKey key) {
+    if (session_ == nullptr) return;
+    if (!session_->TakesLine()) {
+        Send(Engine::kEnter);
+        return ShowStep();
+    }
+    switch (key) {
+        case PaneKey::Enter:
+            Send(Engine::kEnter);
+            break;
+        case PaneKey::Backspace:
+            Send(Engine::kBackspace);
+            break;
+        case PaneKey::EraseLine:
+            ReplaceLine("");
+            break;
+        case PaneKey::Older:
+            if (const auto line = history_.Older(typed_)) ReplaceLine(*line);
+            break;
+        case PaneKey::Newer:
+            if (const auto line = history_.Newer()) ReplaceLine(*line);
+            break;
+        default:
+            break;
+    }
+    ShowStep();
+}
+
+void GameScreen::ReplaceLine(const std::string& line) {
+    for (std::size_t left = text::Length(typed_); left > 0; --left)
+        Send(Engine::kBackspace);
+    for (const char32_t point : text::Decode(line))
+        Send(point);
+}
+
+void GameScreen::ShowStep() {
+    if (game_.characterSets) characters_->ShowChanges();
+    if (std::exchange(turnMade_, false)) text_->ShowTurn();
+    events_.stepped();
+    if (const auto failure = transcript_.Flush()) events_.notice(*failure);
+    if (session_ == nullptr) return;
+    if (const std::string failure = session_->TakeFailure(); !failure.empty()) events_.notice(failure);
+}
+
+}  // namespace fabula::player

@@ -1,0 +1,139 @@
+#include "player/play/session.h"
+
+#include <utility>
+
+#include "platform/error.h"
+
+namespace fabula::player {
+
+namespace {
+
+using engine::Waiting;
+
+constexpr std::chrono::milliseconds kAutosaveDelay{150};
+
+std::string SaveNameOf(store::Adventure& adventure) {
+    const auto& settings = adventure.OpenTable(store::TableNum::Adventure, "savename");
+    return settings.Eof() ? "" : std::string(settings.Text("savename"));
+}
+
+/// Set while it lives.
+class Mark {
+  public:
+    explicit Mark(bool& mark) : mark_(mark) { mark_ = true; }
+    Mark(const Mark&) = delete;
+    Mark& operator=(const Mark&) = delete;
+    ~Mark() { mark_ = false; }
+
+  private:
+    bool& mark_;
+};
+
+}  // namespace
+
+Session::Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
+                 const engine::Host& host, platform::Timers& timers, Autosave autosave,
+                 const engine::Options& options)
+    : adventure_(store::Adventure::Open(file, store::OpenMode::ReadOnly)),
+      folder_(FolderOfGame(dataFolder, SaveNameOf(*adventure_), file)),
+      engine_(*adventure_, host, options),
+      oper_(host.oper),
+      keeps_(autosave == Autosave::On),
+      autosave_(timers, [this] { WriteAutosave(); }) {}
+
+Session::~Session() {
+    if (autosave_.IsRunning()) WriteAutosave();
+}
+
+template <typename Step>
+bool Session::Run(Step step) {
+    if (busy_) return false;
+    const Mark busy(busy_);
+    step();
+    return true;
+}
+
+bool Session::Start() {
+    return Run([this] { engine_.Initialize(); });
+}
+
+bool Session::CanResume() const {
+    std::error_code error;
+    return keeps_ && std::filesystem::is_regular_file(folder_.autosave, error);
+}
+
+bool Session::Resume() {
+    return Run([this] {
+        try {
+            if (engine_.LoadFrom(folder_.autosave)) return;
+            oper_.Tell("The last session can't be resumed: the adventure has changed since.", "Error");
+        } catch (const Error& error) {
+            oper_.Tell(error.what(), "Error");
+        }
+    });
+}
+
+bool Session::Key(char32_t key) {
+    const bool typing = TakesLine() && key != engine::Engine::kEnter;
+    if (!Run([&] { engine_.Key(key); })) return false;
+    if (!typing) AfterTurn();
+    return true;
+}
+
+bool Session::EnterLine(std::string_view line) {
+    if (!Run([&] { engine_.EnterLine(line); })) return false;
+    AfterTurn();
+    return true;
+}
+
+bool Session::TimeOutTick() {
+    if (!Run([this] { engine_.TimeOutTick(); })) return false;
+    AfterTurn();
+    return true;
+}
+
+bool Session::WaitTick() {
+    if (!Run([this] { engine_.WaitTick(); })) return false;
+    AfterTurn();
+    return true;
+}
+
+bool Session::Next() {
+    if (!Run([this] { engine_.DoNextScript(); })) return false;
+    AfterTurn();
+    return true;
+}
+
+bool Session::ToggleSound() {
+    return Run([this] { engine_.ToggleSound(); });
+}
+
+bool Session::TakesLine() const {
+    return WaitingFor() == Waiting::Sentence || WaitingFor() == Waiting::Answer;
+}
+
+void Session::AfterTurn() {
+    if (!keeps_) return;
+    if (WaitingFor() == Waiting::Sentence) autosave_.Start(kAutosaveDelay);
+    if (WaitingFor() != Waiting::Nothing) return;
+    autosave_.Stop();
+    std::error_code ignored;
+    std::filesystem::remove(folder_.autosave, ignored);
+}
+
+void Session::WriteAutosave() {
+    autosave_.Stop();
+    if (WaitingFor() != Waiting::Sentence) return;
+    try {
+        std::filesystem::create_directories(folder_.folder);
+        engine_.SaveTo(folder_.autosave);
+    } catch (const std::exception& error) {
+        if (!std::exchange(failureTold_, true)) failure_ = error.what();
+    }
+}
+
+std::string Session::TakeFailure() {
+    return std::exchange(failure_, {});
+}
+
+}  // namespace fabula::player

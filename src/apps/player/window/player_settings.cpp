@@ -1,0 +1,78 @@
+#include "player/window/player_settings.h"
+
+#include <QSettings>
+#include <algorithm>
+#include <array>
+
+#include "qt/strings.h"
+
+namespace fabula::player {
+
+namespace {
+
+constexpr std::array kZooms = {kSmallestZoom, 60,  75,  90,  100, 110,         125,
+                               150,           175, 200, 250, 300, kLargestZoom};
+
+int Number(const QSettings& store, const char* key, int smallest, int largest, int otherwise) {
+    bool read = false;
+    const int value = store.value(key, otherwise).toInt(&read);
+    return read && value >= smallest && value <= largest ? value : otherwise;
+}
+
+QString RecentKey(std::size_t place) {
+    return QStringLiteral("MRUFiles/%1").arg(place + 1);
+}
+
+}  // namespace
+
+ScreenLook PlayerSettings::Look() const {
+    Page page = Page::OfTheGame;
+    if (theme == qt::Theme::Light) page = Page::Light;
+    if (theme == qt::Theme::Dark) page = Page::Dark;
+    return {.zoom = zoom,
+            .characterZoom = characterZoom,
+            .page = page,
+            .flashing = flashing,
+            .plainText = plainText};
+}
+
+PlayerSettings PlayerSettings::Load(const QSettings& store) {
+    PlayerSettings settings;
+    settings.geometry = store.value("Startup/Geometry").toByteArray();
+    settings.theme = qt::ThemeFrom(qt::FromQt(store.value("Startup/Theme").toString()));
+    settings.zoom = Number(store, "Startup/Zoom", kSmallestZoom, kLargestZoom, settings.zoom);
+    settings.characterZoom =
+        Number(store, "Startup/CharacterZoom", -kMostCharacterZoom, kMostCharacterZoom, 0);
+    settings.flashing = store.value("Startup/Flashing", settings.flashing).toBool();
+    settings.plainText = store.value("Startup/PlainText", settings.plainText).toBool();
+    std::vector<std::filesystem::path> recent;
+    for (std::size_t place = 0; place < platform::RecentFiles::kMostFiles; ++place) {
+        const QString file = store.value(RecentKey(place)).toString();
+        if (!file.isEmpty()) recent.push_back(qt::PathFromQt(file));
+    }
+    settings.recent = platform::RecentFiles(recent);
+    return settings;
+}
+
+void PlayerSettings::Save(QSettings& store) const {
+    store.setValue("Startup/Geometry", geometry);
+    store.setValue("Startup/Theme", QString::fromUtf8(NameOf(theme)));
+    store.setValue("Startup/Zoom", zoom);
+    store.setValue("Startup/CharacterZoom", characterZoom);
+    store.setValue("Startup/Flashing", flashing);
+    store.setValue("Startup/PlainText", plainText);
+    store.remove("MRUFiles");
+    for (std::size_t place = 0; place < recent.Files().size(); ++place)
+        store.setValue(RecentKey(place), qt::PathToQt(recent.Files()[place]));
+}
+
+int NextZoom(int percent, int direction) {
+    if (direction > 0) {
+        const auto larger = std::upper_bound(kZooms.begin(), kZooms.end(), percent);
+        return larger == kZooms.end() ? percent : *larger;
+    }
+    const auto smaller = std::lower_bound(kZooms.begin(), kZooms.end(), percent);
+    return smaller == kZooms.begin() ? percent : *(smaller - 1);
+}
+
+}  // namespace fabula::player

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+#include <filesystem>
+
+#include "platform/recent_files.h"
+#include "player/panes/game_screen.h"
+#include "qt/theme.h"
+
+class QSettings;
+
+namespace fabula::player {
+
+/// What the player's window remembers from one start to the next: section "Startup", and "MRUFiles" for the
+/// recent games.
+struct PlayerSettings {
+    QByteArray geometry;  ///< of the window; empty for the default
+    qt::Theme theme = qt::Theme::System;
+    int zoom = 100;
+    int characterZoom = 0;
+    bool flashing = true;
+    bool plainText = false;
+    platform::RecentFiles recent;
+
+    ScreenLook Look() const;
+
+    /// Values out of their range count as not set.
+    static PlayerSettings Load(const QSettings& store);
+    void Save(QSettings& store) const;
+};
+
+/// The next larger (`direction` 1) or smaller (-1) size of text; at the ends the same.
+int NextZoom(int percent, int direction);
+inline constexpr int kSmallestZoom = 50;
+inline constexpr int kLargestZoom = 400;
+inline constexpr int kMostCharacterZoom = 8;
+
+}  // namespace fabula::player

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <QMainWindow>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "engine/engine.h"
+#include "platform/dialogs.h"
+#include "platform/random_source.h"
+#include "platform/timers.h"
+#include "player/window/player_settings.h"
+#include "qt/help_request.h"
+
+class QAction;
+class QLabel;
+class QSettings;
+class QStackedWidget;
+
+namespace fabula::player {
+
+class DiagnosticsWindow;
+class GameScreen;
+class Session;
+class StatusPane;
+class WelcomePage;
+
+/// What the window asks of its program. All of it outlives the window.
+struct WindowServices {
+    platform::Timers& timers;
+    platform::Dialogs& dialogs;
+    engine::SoundPlayer& sound;
+    platform::RandomSource& random;
+    QSettings& settings;
+    std::filesystem::path dataFolder;  ///< where folders of saved games are made
+    /// The window is shown by the authoring tool (`strMode` is "IDE"): "Debug" is allowed, the window
+    /// closes when the game ends, and nothing of the run is kept.
+    bool testRun = false;
+    engine::TraceSink* trace = nullptr;  ///< where the steps of the game go; nullptr: nowhere
+    engine::Options options{};
+    /// Shows the help on a topic.
+    std::function<void(const qt::HelpTopic& topic)> help = [](const qt::HelpTopic&) {};
+};
+
+/// The engine's window: one adventure, loaded and played.
+class PlayerWindow final : public QMainWindow {
+  public:
+    explicit PlayerWindow(const WindowServices& services);
+    ~PlayerWindow() override;
+
+    /// Shows the window at once and loads the file when it is on the screen.
+    void OpenAtStart(const std::filesystem::path& file);
+
+    /// Asks for a file and loads it.
+    void AskForGame();
+    /// Loads a file; a file that is refused is told, and the game that was there goes on.
+    void Load(const std::filesystem::path& file);
+
+    /// Shows a sentence in the status line.
+    void Tell(const std::string& sentence);
+
+    /// The game being played, or nullptr.
+    Session* Playing() { return session_.get(); }
+    GameScreen& Screen() { return *screen_; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    QAction* AddAction(const char* name, const QString& text, const QString& iconText,
+                       std::function<void()> act);
+    void MakeActions();
+    void MakeMenus();
+    void MakeThemeMenu(QMenu& view);
+    void MakeToolBar();
+    void MakeEndBar();
+    void PlaceWindow();
+
+    void GameStarted(const engine::GameLook& look);
+    void GameEnded();
+    void CloseAfterGame();
+    void StartAgain();
+    void EndSession();
+    void ToggleSound();
+    void ToggleTranscript(bool on);
+    void About();
+    void ShowDiagnostics();
+    void Zoom(int direction);
+    void ApplySettings();
+    void ShowRecent();
+
+    WindowServices services_;
+    PlayerSettings settings_;
+    platform::Alarm opening_;
+    platform::Alarm closing_;
+    std::filesystem::path openAtStart_;
+    std::unique_ptr<Session> session_;
+    std::unique_ptr<DiagnosticsWindow> debugWindow_;
+
+    QStackedWidget* pages_;
+    WelcomePage* welcome_;
+    GameScreen* screen_;
+    QWidget* endBar_;
+    StatusPane* status_;
+    QMenu* recentMenu_;
+    QAction* load_;
+    QAction* next_;
+    QAction* sound_;
+    QAction* startAgain_;
+    QAction* transcript_;
+    QAction* help_;
+    QAction* helpContents_;
+    QAction* about_;
+    QAction* debug_;
+    QAction* exit_;
+    QAction* zoomIn_;
+    QAction* zoomOut_;
+    QAction* zoomNormal_;
+    QAction* flashing_;
+    QAction* plainText_;
+};
+
+}  // namespace fabula::player

@@ -1,0 +1,128 @@
+#include "authoring/desk/commands.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+namespace fabula::authoring {
+namespace {
+
+constexpr std::string_view kNoImportGraphic =
+    "This version cannot yet take single pictures out of the listings of older games.";
+constexpr std::string_view kNoDecompiler = "This version cannot yet take older games apart.";
+constexpr std::string_view kNoBatchImport = "Batch files are written only.";
+constexpr std::string_view kNoBatchExport = "This version cannot yet write batch files.";
+constexpr std::string_view kNoPackage = "This version cannot yet pack a game for others.";
+constexpr std::string_view kNoPrint = "This version cannot yet print.";
+constexpr std::string_view kNoSetFiles =
+    "This version cannot yet load and save character sets and keypad templates.";
+constexpr std::string_view kNoKeyChange = "This version cannot yet repair keys that occur twice.";
+constexpr std::string_view kNoTravelTable = "This version cannot yet read a classic travel table.";
+
+using Use = CommandEntry::Use;
+
+constexpr CommandEntry kCommands[] = {
+    {Command::New, "NewAdv", Menu::File, 0, "&New...", "Ctrl+Shift+N", "new", "Make a new adventure",
+     Use::ToolBar},
+    {Command::Open, "Open", Menu::File, 0, "&Open...", "Ctrl+O", "open", "Open an adventure", Use::ToolBar},
+    {Command::SaveAs, "SaveAs", Menu::File, 0, "Save &As...", "Ctrl+Shift+S", "save-as",
+     "Copy the adventure to another file and go on with the copy"},
+    {Command::Close, "Close", Menu::File, 0, "&Close", "Ctrl+W", "close", "Close the adventure"},
+    {Command::Import, "In", Menu::File, 1, "&Import...", "Ctrl+I", "import",
+     "Make an adventure from a source file", Use::ToolBar},
+    {Command::Export, "Export", Menu::File, 1, "&Export...", "", "export",
+     "Write the adventure as a source file", Use::ToolBar},
+    {Command::Decompile, "Decomp", Menu::File, 1, "&Decompile...", "", "decompile",
+     "Take an older game apart", Use::Menu, kNoDecompiler},
+    {Command::ImportGraphic, "Import", Menu::File, 1, "Import &Graphic Record...", "", "import-picture",
+     "Take a picture out of a listing", Use::Menu, kNoImportGraphic},
+    {Command::BatchImport, "BatImp", Menu::File, 1, "&Batch Import...", "", "batch-import",
+     "Read a batch file", Use::Menu, kNoBatchImport},
+    {Command::BatchExport, "BatExp", Menu::File, 1, "Ba&tch Export...", "", "batch-export",
+     "Write tables as a batch file", Use::Menu, kNoBatchExport},
+    {Command::Print, "Print", Menu::File, 2, "&Print...", "Ctrl+P", "print", "Print a listing of the table",
+     Use::Menu, kNoPrint},
+    {Command::Preview, "Preview", Menu::File, 2, "Print Pre&view...", "", "preview",
+     "Show a listing of the table", Use::Menu, kNoPrint},
+    {Command::Package, "Package", Menu::File, 2, "Pac&kage...", "", "package", "Pack the game for others",
+     Use::Menu, kNoPackage},
+    {Command::Exit, "Exit", Menu::File, 3, "E&xit", "Ctrl+Q", "exit", "End the program"},
+
+    {Command::Undo, "Undo", Menu::Edit, 0, "&Undo", "Ctrl+Z", "undo", "Take back the latest change",
+     Use::ToolBar},
+    {Command::Redo, "Redo", Menu::Edit, 0, "&Redo", "Ctrl+Shift+Z", "redo",
+     "Make again the change that was taken back", Use::ToolBar},
+    {Command::Add, "NewTab", Menu::Edit, 1, "&Add Entry", "Ctrl+N", "add", "Add a record to the table",
+     Use::ToolBar},
+    {Command::AddBefore, "AddNewBefore", Menu::Edit, 1, "Add Entry &Before", "Ctrl+Alt+N", "add-before",
+     "Add a record before the current one", Use::ToolBar},
+    {Command::Edit, "Edit", Menu::Edit, 1, "&Edit Entry", "Ctrl+E", "edit", "Edit the current record",
+     Use::ToolBar},
+    {Command::Delete, "Delete", Menu::Edit, 1, "&Delete Entry", "Del", "delete",
+     "Delete the current record", Use::ToolBar},
+    {Command::Load, "LoadSet", Menu::Edit, 2, "&Load Entry...", "Ctrl+L", "load",
+     "Load records from a file", Use::Menu, kNoSetFiles},
+    {Command::Save, "SaveSet", Menu::Edit, 2, "&Save Entry...", "", "save", "Save records to a file",
+     Use::Menu, kNoSetFiles},
+    {Command::Find, "Find", Menu::Edit, 3, "&Find...", "Ctrl+F", "find",
+     "Look for a text or a number in a field", Use::ToolBar},
+    {Command::FindNext, "FindNext", Menu::Edit, 3, "Find Ne&xt", "F3", "find-next",
+     "Look for the same further on"},
+    {Command::Filter, "Filter", Menu::Edit, 3, "Fil&ter Rows", "Ctrl+K", "filter",
+     "Show only the rows that contain a text"},
+    {Command::Sort, "TabSort", Menu::Edit, 3, "S&ort Order...", "", "sort",
+     "Give the table another order, kept in the adventure"},
+
+    {Command::Run, "Run", Menu::Game, 0, "&Run && Test", "F5", "run", "Play the adventure", Use::ToolBar},
+    {Command::Trace, "Trace", Menu::Game, 0, "&Trace Mode", "Shift+F5", "trace",
+     "Write down every step of a test run", Use::Switch},
+    {Command::Verify, "Verify", Menu::Game, 1, "&Verify...", "F7", "verify",
+     "Check that the adventure holds together", Use::ToolBar},
+    {Command::Settings, "Settings", Menu::Game, 2, "Adventure &Settings...", "F4", "settings",
+     "Title, type, colours, font and sound of the adventure"},
+
+    {Command::LastRecordKeys, "LstRecs", Menu::Tools, 0, "&Last Record Keys", "", "list",
+     "List the highest key of each table"},
+    {Command::ShortDescriptions, "ShortDesc", Menu::Tools, 0, "Load &Short Descriptions", "", "text",
+     "Take short descriptions of locations from the file ShortDesc.lis"},
+    {Command::KeyChange, "KeyChange", Menu::Tools, 1, "Correct Table &Key...", "", "key",
+     "Give a free key to a record whose key occurs twice", Use::Menu, kNoKeyChange},
+    {Command::TravelTable, "TravelTable", Menu::Tools, 1, "Convert &Travel Table...", "", "map",
+     "Write a report of a classic travel table", Use::Menu, kNoTravelTable},
+
+    {Command::Help, "Help", Menu::Help, 0, "&Help", "F1", "help", "Tell about what is at hand"},
+    {Command::HelpContents, "HelpContents", Menu::Help, 0, "&Contents", "", "book",
+     "The contents of the help"},
+    {Command::AboutAdventure, "AboutAdventure", Menu::Help, 1, "About this &Adventure", "", "info",
+     "Title, version and author of the adventure"},
+    {Command::About, "About", Menu::Help, 1, "About &Fabula IDE", "", "info",
+     "The version of this program"},
+};
+
+constexpr std::array<std::string_view, 6> kMenus = {"&File", "&Edit", "&View", "&Game", "&Tools", "&Help"};
+
+}  // namespace
+
+std::string_view NameOf(Menu menu) {
+    return kMenus.at(static_cast<std::size_t>(menu));
+}
+
+std::span<const CommandEntry> AllCommands() {
+    return kCommands;
+}
+
+const CommandEntry& EntryOf(Command command) {
+    const auto* const entry =
+        std::ranges::find_if(kCommands, [&](const CommandEntry& each) { return each.id == command; });
+    if (entry == std::end(kCommands)) throw std::logic_error("a command stands in no table");
+    return *entry;
+}
+
+std::optional<Command> FindCommand(std::string_view key) {
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.key == key) return entry.id;
+    }
+    return std::nullopt;
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,246 @@
+#include "authoring/desk/main_screen.h"
+
+#include <system_error>
+#include <utility>
+
+#include "authoring/desk/ide_settings.h"
+#include "authoring/desk/sort_order.h"
+#include "authoring/files/backups.h"
+#include "authoring/files/start_up.h"
+#include "authoring/files/version_numbers.h"
+#include "authoring/files/work_files.h"
+#include "interchange/starter.h"
+#include "platform/error.h"
+#include "store/create.h"
+#include "text/utf8.h"
+
+// The life of the window and of the adventure in it. What it shows is in frm_vel_ide_views.cpp, what it
+// does on command in frm_vel_ide_commands.cpp.
+
+namespace fabula::authoring {
+namespace {
+
+using store::TableNum;
+
+constexpr std::string_view kProgramName = "Fabula IDE";
+
+platform::FileQuestion AdventureQuestion(std::string title, const std::filesystem::path& folder) {
+    platform::FileQuestion question;
+    question.title = std::move(title);
+    question.filter = "Fabula Database|*.fbd";
+    question.extension = "fbd";
+    question.start = folder;
+    return question;
+}
+
+bool IsSameFile(const std::filesystem::path& left, const std::filesystem::path& right) {
+    std::error_code noSuchFile;
+    return std::filesystem::equivalent(left, right, noSuchFile);
+}
+
+/// What a new adventure says of itself, besides what the default data gives it.
+void MarkAsNew(store::Adventure& adventure) {
+    store::Transaction transaction(adventure);
+    store::Cursor& settings = adventure.OpenTable(TableNum::Adventure, "source");
+    settings.SetField("source", std::string("New"));
+    settings.Update();
+    store::Cursor& system = adventure.OpenTable(TableNum::System, "flagchange");
+    system.SetField("flagchange", std::int64_t{1});
+    system.Update();
+    transaction.Commit();
+}
+
+std::filesystem::path StarterFor(const std::filesystem::path& defaultData, store::AdventureKind kind) {
+    return defaultData.parent_path() / "starters" / (text::LowerCase(store::NameOf(kind)) + ".ini");
+}
+
+}  // namespace
+
+MainScreen::Desk::Desk(const std::filesystem::path& file, platform::Dialogs& dialogs)
+    : document(file), context{document, dialogs} {}
+
+MainScreen::MainScreen(const IdeHost& host, IdePaths paths, bool maintenance)
+    : host_(host),
+      paths_(std::move(paths)),
+      maintenance_(maintenance),
+      recent_(ReadRecentFiles(host.settings)) {}
+
+MainScreen::~MainScreen() = default;
+
+bool MainScreen::Guard(const std::function<void()>& step) {
+    try {
+        step();
+        return true;
+    } catch (const Error& failure) {
+        Refuse(host_.dialogs, failure.what());
+        return false;
+    }
+}
+
+void MainScreen::Start(const std::function<void()>& show) {
+    const std::filesystem::path file = LastFile(host_.settings);
+    if (!file.empty()) OpenFile(file);
+    show();
+    Guard([&] { NoteVersions(); });
+}
+
+void MainScreen::NoteVersions() {
+    std::vector<std::string> report;
+    if (desk_) report.push_back(NoteVersion(desk_->document.Adventure(), Program::Ide, paths_.version));
+    report.push_back(ListVersion(paths_.versionFolders, Program::Ide, paths_.version, host_.clock.Now()));
+    ReportVersions(report, host_.dialogs);
+}
+
+void MainScreen::End() {
+    if (!paths_.state.empty()) DeleteOldWorkFiles(paths_.state, host_.clock);
+    RememberView();
+    RememberFile();
+}
+
+void MainScreen::RememberFile() {
+    const std::string file = desk_ ? desk_->document.File().string() : std::string();
+    host_.settings.Set(startup::kSection, startup::kFile, file);
+}
+
+void MainScreen::RememberView() {
+    if (!desk_) return;
+    WriteLastView(host_.settings, {grid_.View(), desk_->context.currentEntry});
+}
+
+std::filesystem::path MainScreen::Folder() const {
+    return desk_ ? desk_->document.File().parent_path() : std::filesystem::path();
+}
+
+std::optional<std::filesystem::path> MainScreen::AskNewFile() {
+    platform::FileQuestion question = AdventureQuestion("Create a Fabula Database", Folder());
+    question.forWriting = true;
+    question.asksToOverwrite = false;
+    return host_.dialogs.ChooseFile(question);
+}
+
+bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup,
+                              bool starter) {
+    const bool replacesOpenOne = desk_ && IsSameFile(file, desk_->document.File());
+    if (replacesOpenOne) Close();
+    const store::CreationHost host{host_.dialogs, host_.clock, host_.events, paths_.defaultData};
+    bool created = false;
+    Guard([&] {
+        created = store::CreateAdventure(false, file, setup, host);
+        if (!created) return;
+        host_.dialogs.Tell(file.filename().string() + " DataBase Created", kProgramName);
+        auto desk = std::make_unique<Desk>(file, host_.dialogs);
+        store::Adventure& adventure = desk->document.Adventure();
+        MarkAsNew(adventure);
+        if (starter) interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
+        WriteLastView(host_.settings, {{TableNum::Adventure, 0}, 0});
+        charSetsLoaded_ = charSetsLoaded_.value_or(false) || adventure.CharSetsOn();
+        Adopt(std::move(desk));
+    });
+    if (!created && replacesOpenOne) OpenFile(file);
+    return created;
+}
+
+bool MainScreen::Open() {
+    const auto file =
+        host_.dialogs.ChooseFile(AdventureQuestion("Open Existing Fabula Database", Folder()));
+    return file && OpenFile(*file);
+}
+
+bool MainScreen::OpenFile(const std::filesystem::path& file) {
+    if (desk_ && IsSameFile(file, desk_->document.File())) return true;
+    RememberView();
+    return Guard([&] {
+        auto desk = std::make_unique<Desk>(file, host_.dialogs);
+        if (!paths_.state.empty()) {
+            Backups backups(paths_.state / "backups", host_.clock);
+            BackUpAtOpening(backups, desk->document.Adventure(), host_.dialogs);
+        }
+        Adopt(std::move(desk));
+        const bool usesCharSets = desk_->document.Adventure().CharSetsOn();
+        const bool loaded = charSetsLoaded_.value_or(usesCharSets);
+        charSetsLoaded_ = loaded;
+        if (loaded || !usesCharSets) return;
+        host_.dialogs.Tell(
+            "Importing a program using Character Sets from a previous program not using Character Sets "
+            "requires exiting program",
+            kProgramName);
+        mustExit_ = true;
+    });
+}
+
+/// Puts an adventure in the place of the one that is open, which is closed; one that can't be shown leaves
+/// that one open.
+void MainScreen::Adopt(std::unique_ptr<Desk> desk) {
+    std::swap(desk_, desk);
+    std::vector<TreeNode> treeBefore = tree_;
+    try {
+        ActivateMenus();
+        LastTable();
+    } catch (const Error&) {
+        std::swap(desk_, desk);
+        tree_ = std::move(treeBefore);
+        throw;
+    }
+    RememberFile();
+    recent_.AddMRUItem(desk_->document.File());
+    WriteRecentFiles(host_.settings, recent_);
+    message_ = "Opened " + desk_->document.File().filename().string() + ".";
+}
+
+bool MainScreen::SaveAs() {
+    if (!desk_) return false;
+    platform::FileQuestion question = AdventureQuestion("Save as a Fabula Database", Folder());
+    question.forWriting = true;
+    const auto file = host_.dialogs.ChooseFile(question);
+    if (!file) return false;
+    return Guard([&] {
+        desk_->document.SaveAs(*file);
+        RememberFile();
+        recent_.AddMRUItem(desk_->document.File());
+        WriteRecentFiles(host_.settings, recent_);
+        message_ = "Saved as " + file->filename().string() + ".";
+        ReadAgain();
+    });
+}
+
+void MainScreen::Close() {
+    if (!desk_) return;
+    RememberView();
+    desk_.reset();
+    RememberFile();
+    InActivateMenus();
+    message_.clear();
+}
+
+std::optional<TestRun> MainScreen::BeginRunTest() {
+    if (!desk_ || running_) return std::nullopt;
+    TestRun run{.file = desk_->document.File(), .trace = TraceMode(host_.settings)};
+    if (run.trace) run.debugAtOnce = host_.dialogs.Confirm("Debug immediately", "Run & Test");
+    RememberView();
+    const bool ready = Guard([&] { ReadInPlainOrder(desk_->document.Adventure()); });
+    if (!ready) return std::nullopt;
+    running_ = true;
+    return run;
+}
+
+void MainScreen::EndRunTest() {
+    if (!running_) return;
+    running_ = false;
+    Guard([&] { ReadAgain(); });
+}
+
+MainScreen::State MainScreen::GetState() const {
+    if (!desk_) return State::NoAdventure;
+    return running_ ? State::EngineRunning : State::Open;
+}
+
+std::string MainScreen::Title() const {
+    if (!desk_) return std::string(kProgramName);
+    return std::string(kProgramName) + " - " + desk_->document.File().stem().string();
+}
+
+ScreenContext& MainScreen::CurrentContext() {
+    return desk_->context;
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,214 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "authoring/desk/commands.h"
+#include "authoring/desk/find.h"
+#include "authoring/desk/sort_screen.h"
+#include "authoring/desk/table_grid.h"
+#include "authoring/desk/table_rights.h"
+#include "authoring/desk/table_tree.h"
+#include "authoring/desk/table_view.h"
+#include "authoring/document/document.h"
+#include "authoring/document/screen_context.h"
+#include "authoring/entries/entries.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/event_pump.h"
+#include "platform/recent_files.h"
+#include "platform/settings.h"
+#include "store/setup.h"
+
+namespace fabula::authoring {
+
+/// What the main window asks of its program. All of it outlives the window.
+struct IdeHost {
+    platform::Dialogs& dialogs;
+    platform::Settings& settings;
+    const platform::Clock& clock;
+    platform::EventPump& events;
+};
+
+/// Where the authoring tool finds and keeps its files.
+struct IdePaths {
+    std::filesystem::path defaultData;  ///< Fabula.ini
+    /// The user's folder for backup copies and work files; empty when there is none: nothing is copied
+    /// then.
+    std::filesystem::path state;
+    /// Where VersionNumbers.dat may lie, in the order in which it is looked for.
+    std::vector<std::filesystem::path> versionFolders;
+    std::string version;  ///< of the running program: "major.minor.revision"
+};
+
+/// How a game is to be tested.
+struct TestRun {
+    std::filesystem::path file;
+    bool trace = false;  ///< trace mode is on
+    bool debugAtOnce =
+        false;  ///< the trace begins with the game, not when the game or the author asks for it
+};
+
+/// The main window without its widgets: the one open adventure, the tree and the grid, and the commands.
+///
+/// The window shows what the members below tell, and asks them again after each call. Whatever goes wrong
+/// is told in a box and leaves everything as it was; nothing is thrown.
+class MainScreen {
+  public:
+    enum class State { NoAdventure, Open, EngineRunning };
+
+    /// `maintenance` shows the program's own tables and fields.
+    MainScreen(const IdeHost& host, IdePaths paths, bool maintenance = false);
+    MainScreen(const MainScreen&) = delete;
+    MainScreen& operator=(const MainScreen&) = delete;
+    ~MainScreen();
+
+    // --- Start and end of the program ---
+
+    /// Opens the adventure that was open the last time, notes the version of the program in it and in the
+    /// list of versions, and reports what is new. When the file is gone the program starts without an
+    /// adventure. `show` is called before the report, which would stand in front of an empty window.
+    void Start(const std::function<void()>& show = [] {});
+    /// Remembers the open adventure and where the author was, and deletes old work files.
+    void End();
+    /// The author has been told that the program has to end.
+    bool MustExit() const { return mustExit_; }
+
+    // --- Adventures ---
+
+    /// Asks for the file of a new adventure; nullopt when the author would rather not. The window then
+    /// shows the screen of its type, and calls NewAdventure.
+    std::optional<std::filesystem::path> AskNewFile();
+    /// Creates the adventure and opens it. `starter` gives it the words and entries that most games begin
+    /// with.
+    bool NewAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup, bool starter);
+    /// Asks for an adventure and opens it.
+    bool Open();
+    /// Opens an adventure: a recent one, or one that was just made. The one that is open stays when the
+    /// file is refused.
+    bool OpenFile(const std::filesystem::path& file);
+    bool SaveAs();
+    void Close();
+
+    /// The adventures that were opened last, the latest first.
+    const std::vector<std::filesystem::path>& RecentFiles() const { return recent_.Files(); }
+
+    // --- What the window shows ---
+
+    State GetState() const;
+    /// "Fabula IDE - " and the adventure's name.
+    std::string Title() const;
+    /// The status line: the adventure's type and switches, the table and its number of records, and what
+    /// just happened.
+    std::string AdventureStatus() const;
+    std::string TableStatus() const;
+    const std::string& Message() const { return message_; }
+    /// For what happened in a window of its own.
+    void Say(std::string_view message) { message_ = message; }
+
+    const std::vector<TreeNode>& Tree() const { return tree_; }
+    /// The node of the view in the grid; nullptr when there is none.
+    const TreeNode* CurrentNode() const;
+    const TableGrid& Grid() const { return grid_; }
+    /// The row that is selected, -1 for none.
+    int CurrentRow() const { return row_; }
+    /// The node's caption: "Locations".
+    std::string Caption() const;
+
+    ActionState StateOf(Command command) const;
+
+    // --- What the author does with it ---
+
+    /// A node of the tree, by its position.
+    void ShowNode(int sort);
+    /// A table or a view of the process tables.
+    void Show(TableView view);
+    void SelectRow(int row);
+    void ClickColumn(int column);
+    void ResizeColumn(int column, int width);
+    void SetFilter(std::string_view text);
+
+    /// The text and the field to look for.
+    FindBox& Finder() { return find_; }
+
+    /// Does a command. The screen that it needs is given back: the window opens it and then calls
+    /// ScreenClosed. Commands that need a window of their own (New, Import, Export, Sort, Run, Verify,
+    /// Exit, Help, About) are the window's to do, by the other members; here they do nothing. A command
+    /// that is not enabled does nothing.
+    std::optional<ScreenRequest> Run(Command command);
+    void ScreenClosed(const ScreenRequest& request);
+    /// After work that is not a command of this class changed the adventure, such as Verify: reads grid and
+    /// tree again and stays on the row.
+    void Refresh();
+
+    /// The screen of the command Sort on the table in view, when that command is enabled. It proposes the
+    /// order of the column that was clicked, or else the present one. When its window has closed,
+    /// SortClosed is called.
+    SortScreen OpenSort();
+    void SortClosed();
+
+    /// Begins a test of the open adventure; nullopt when there is none. The window then hides, shows the
+    /// engine's window on the file, and calls EndRunTest when that has closed.
+    std::optional<TestRun> BeginRunTest();
+    void EndRunTest();
+
+    /// For the screens. Only while an adventure is open.
+    ScreenContext& CurrentContext();
+
+  private:
+    /// The open adventure and what its screens share.
+    struct Desk {
+        Desk(const std::filesystem::path& file, platform::Dialogs& dialogs);
+        Document document;
+        ScreenContext context;
+    };
+
+    bool Guard(const std::function<void()>& step);
+    std::filesystem::path Folder() const;
+    void NoteVersions();
+    void Adopt(std::unique_ptr<Desk> desk);
+    void RememberView();
+    void RememberFile();
+
+    void ActivateMenus();
+    void InActivateMenus();
+    void LastTable();
+    void SetupGrid(TableView view);
+    TableRights SetUpEdits(store::TableNum table) const;
+    void StayOn(std::optional<int> key, int row);
+    std::optional<int> CurrentKey() const;
+    void ReadAgain();
+
+    std::string WhyNot(Command command) const;
+    std::optional<std::string> UndoOrRedoName(Command command) const;
+    std::optional<ScreenRequest> Do(Command command);
+    std::optional<ScreenRequest> DoEntry(Command command);
+    void ShowChanges(store::TableNum changed);
+    void UndoOrRedo(Command command);
+    void GoTo(const Place& place);
+    void Find();
+    std::optional<std::string> ClickedOrder() const;
+
+    IdeHost host_;
+    IdePaths paths_;
+    bool maintenance_;
+    platform::RecentFiles recent_;
+    std::unique_ptr<Desk> desk_;
+    std::vector<TreeNode> tree_;
+    TableGrid grid_;
+    TableRights rights_;
+    FindBox find_;
+    int row_ = -1;
+    std::string message_;
+    int changesBefore_ = 0;  ///< how many changes there were before the latest command
+    bool running_ = false;
+    std::optional<bool> charSetsLoaded_;  ///< by an adventure of this sitting; nullopt: there was none yet
+    bool mustExit_ = false;
+};
+
+}  // namespace fabula::authoring

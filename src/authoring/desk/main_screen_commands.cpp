@@ -1,0 +1,259 @@
+#include "authoring/desk/ide_settings.h"
+#include "authoring/desk/main_screen.h"
+#include "authoring/entries/last_records.h"
+#include "authoring/fields/short_desc.h"
+#include "text/str_edit.h"
+
+// What the commands do, and when they can be used.
+
+namespace fabula::authoring {
+namespace {
+
+using store::TableNum;
+
+/// Commands that need no adventure.
+bool AlwaysWorks(Command command) {
+    switch (command) {
+        case Command::New:
+        case Command::Open:
+        case Command::Import:
+        case Command::Exit:
+        case Command::Trace:
+        case Command::Help:
+        case Command::HelpContents:
+        case Command::AboutAdventure:
+        case Command::About:
+            return true;
+        default:
+            return false;
+    }
+}
+
+std::optional<EntryCommand> EntryCommandOf(Command command) {
+    switch (command) {
+        case Command::Add:
+            return EntryCommand::Add;
+        case Command::AddBefore:
+            return EntryCommand::AddBefore;
+        case Command::Edit:
+            return EntryCommand::Edit;
+        case Command::Delete:
+            return EntryCommand::Delete;
+        default:
+            return std::nullopt;
+    }
+}
+
+bool NeedsRecord(Command command) {
+    return command == Command::Edit || command == Command::Delete || command == Command::AddBefore;
+}
+
+bool IsFind(Command command) {
+    return command == Command::Find || command == Command::FindNext;
+}
+
+/// A name in a menu, where "&" marks the next letter.
+std::string ForMenu(const std::string& name) {
+    return text::ReplaceAll(name, "&", "&&");
+}
+
+}  // namespace
+
+ActionState MainScreen::StateOf(Command command) const {
+    ActionState state;
+    state.why = WhyNot(command);
+    state.enabled = state.why.empty();
+    const CommandTexts texts =
+        desk_ ? TextsFor(command, grid_.View())
+              : CommandTexts{std::string(EntryOf(command).tip), std::string(EntryOf(command).text)};
+    state.text = texts.text;
+    state.menuText = texts.menuText;
+    if (command == Command::Trace) state.checked = TraceMode(host_.settings);
+    const auto name = UndoOrRedoName(command);
+    if (name) {
+        const std::string verb = command == Command::Undo ? "Undo " : "Redo ";
+        state.text = verb + *name;
+        state.menuText = "&" + verb + ForMenu(*name);
+    }
+    return state;
+}
+
+std::optional<std::string> MainScreen::UndoOrRedoName(Command command) const {
+    if (!desk_) return std::nullopt;
+    if (command == Command::Undo) return desk_->document.UndoName();
+    if (command == Command::Redo) return desk_->document.RedoName();
+    return std::nullopt;
+}
+
+std::string MainScreen::WhyNot(Command command) const {
+    if (running_) return "The game is being tested.";
+    const CommandEntry& entry = EntryOf(command);
+    if (!entry.notBuilt.empty()) return std::string(entry.notBuilt);
+    if (AlwaysWorks(command)) return "";
+    if (!desk_) return "No adventure is open.";
+    if (command == Command::Undo && !desk_->document.UndoName()) return "There is nothing to undo.";
+    if (command == Command::Redo && !desk_->document.RedoName()) return "There is nothing to redo.";
+    if (!rights_.Allows(command)) return Caption() + " does not offer this.";
+    if (IsFind(command) && grid_.View().table == TableNum::Adventure) return "The settings have no Find.";
+    const auto entryCommand = EntryCommandOf(command);
+    if (!entryCommand) return "";
+    const std::string_view missing = MissingEditor(grid_.View().table, *entryCommand);
+    if (!missing.empty()) return std::string(missing);
+    if (NeedsRecord(command) && row_ < 0) return "No record is selected.";
+    return "";
+}
+
+std::optional<ScreenRequest> MainScreen::Run(Command command) {
+    if (!StateOf(command).enabled) return std::nullopt;
+    message_.clear();
+    changesBefore_ = desk_ ? desk_->document.Changes() : 0;
+    std::optional<ScreenRequest> request;
+    Guard([&] { request = Do(command); });
+    return request;
+}
+
+std::optional<ScreenRequest> MainScreen::Do(Command command) {
+    switch (command) {
+        case Command::Open:
+            Open();
+            break;
+        case Command::SaveAs:
+            SaveAs();
+            break;
+        case Command::Close:
+            Close();
+            break;
+        case Command::Undo:
+        case Command::Redo:
+            UndoOrRedo(command);
+            break;
+        case Command::Add:
+        case Command::AddBefore:
+        case Command::Edit:
+        case Command::Delete:
+        case Command::Settings:
+            return DoEntry(command);
+        case Command::Find:
+        case Command::FindNext:
+            Find();
+            break;
+        case Command::Trace:
+            SetTraceMode(host_.settings, !TraceMode(host_.settings));
+            break;
+        case Command::LastRecordKeys:
+            host_.dialogs.Report(ListLastRecords(desk_->document.Adventure()), "Last Record Keys");
+            break;
+        case Command::ShortDescriptions:
+            LoadShortDesc(desk_->context);
+            ShowChanges(TableNum::Locations);
+            break;
+        default:
+            break;
+    }
+    return std::nullopt;
+}
+
+std::optional<ScreenRequest> MainScreen::DoEntry(Command command) {
+    ScreenContext& context = desk_->context;
+    Entries entries(context);
+    std::optional<ScreenRequest> request;
+    if (command == Command::Add) request = entries.AddEntry();
+    if (command == Command::AddBefore) request = entries.AddEntryBefore();
+    if (command == Command::Edit) request = entries.EditEntry();
+    if (command == Command::Settings) {
+        context.currentTable = TableNum::Adventure;
+        request = entries.EditEntry();
+        context.currentTable = grid_.View().table;
+    }
+    if (command == Command::Delete) entries.DeleteEntry();
+    if (!request) ShowChanges(grid_.View().table);
+    return request;
+}
+
+void MainScreen::ScreenClosed(const ScreenRequest& request) {
+    if (!desk_) return;
+    Guard([&] {
+        if (!Entries(desk_->context).AfterScreen(request)) mustExit_ = true;
+        ShowChanges(request.table);
+        if (!request.key.isNew) return;
+        if (const auto added = grid_.RowOf(request.key.key)) SelectRow(*added);
+    });
+}
+
+/// Reads again what a command may have changed, and says what it was. `changed` is the table that the
+/// command was about.
+void MainScreen::ShowChanges(TableNum changed) {
+    ReadAgain();
+    const int changes = desk_->document.Changes() - changesBefore_;
+    if (changes == 0) return;
+    Place place{changed};
+    if (changed == grid_.View().table) place = {changed, grid_.View().process, CurrentKey()};
+    desk_->document.PlaceLatest(changes, place);
+    if (const auto name = desk_->document.UndoName()) message_ = "Done: " + *name;
+}
+
+/// Takes back or makes again a change where it was made, so that the author sees what it does.
+void MainScreen::UndoOrRedo(Command command) {
+    Document& document = desk_->document;
+    const bool undo = command == Command::Undo;
+    const std::string name = UndoOrRedoName(command).value_or("");
+    const std::optional<Place> place = undo ? document.UndoPlace() : document.RedoPlace();
+    if (place) GoTo(*place);
+    const TableGrid before = grid_;
+    if (undo) {
+        document.Undo();
+    } else {
+        document.Redo();
+    }
+    ReadAgain();
+    // Only now the tree may have the table.
+    if (place) GoTo(*place);
+    const bool sameView = before.View() == grid_.View();
+    if (const auto row = sameView ? grid_.FirstChange(before) : std::nullopt) {
+        SelectRow(*row);
+    } else if (place) {
+        StayOn(place->key, row_);
+    }
+    message_ = (undo ? "Undone: " : "Done again: ") + name;
+}
+
+/// Shows a table and a record, as far as the adventure has them; what is shown already stays.
+void MainScreen::GoTo(const Place& place) {
+    const TableView view{place.table, place.process};
+    if (view == grid_.View() || !NodeOf(tree_, view)) return;
+    SetupGrid(view);
+    StayOn(place.key, 0);
+    RememberView();
+}
+
+void MainScreen::Find() {
+    const std::optional<int> found = find_.Find(grid_, row_, Caption(), host_.dialogs);
+    if (found) SelectRow(*found);
+}
+
+SortScreen MainScreen::OpenSort() {
+    changesBefore_ = desk_->document.Changes();
+    return SortScreen(desk_->context, grid_.View().table, Caption(), ClickedOrder());
+}
+
+void MainScreen::SortClosed() {
+    Guard([&] {
+        if (desk_->document.Changes() == changesBefore_) return;
+        const std::optional<int> key = CurrentKey();
+        SetupGrid(grid_.View());
+        StayOn(key, 0);
+        ShowChanges(grid_.View().table);
+    });
+}
+
+std::optional<std::string> MainScreen::ClickedOrder() const {
+    const auto column = grid_.SortColumn();
+    if (!column) return std::nullopt;
+    const std::string& field = grid_.Columns()[static_cast<std::size_t>(*column)].field;
+    const std::string key = KeyField(grid_.View().table);
+    std::string order = field + (grid_.SortsDown() ? " desc" : "");
+    if (field != key) order += ", " + key;
+    return order;
+}
+
+}  // namespace fabula::authoring

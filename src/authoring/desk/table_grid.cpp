@@ -1,0 +1,266 @@
+#include "authoring/desk/table_grid.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <map>
+#include <numeric>
+#include <variant>
+
+#include "store/filter.h"
+#include "text/line_ends.h"
+#include "text/utf8.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::TableNum;
+
+constexpr std::string_view kLineEndSign = "\u21B5";
+constexpr std::string_view kHardSpaceSign = "\u2423";
+constexpr std::string_view kCutSign = "\u2026";
+constexpr int kWidestColumn = 32767;
+/// The title of a column is no longer, in characters.
+constexpr std::size_t kLongestTitle = 60;
+
+/// What a Marlo adventure has no use for.
+constexpr std::string_view kNotInMarlo[] = {"objweight", "objadject", "objattr"};
+
+bool IsHidden(const std::string& field, const store::Adventure& adventure) {
+    if (adventure.AdventureTypeLower() != "marlo") return false;
+    return std::ranges::any_of(kNotInMarlo,
+                               [&](std::string_view each) { return text::EqualsNoCase(each, field); });
+}
+
+std::string WhereTable(TableNum table) {
+    return "tablenum=" + std::to_string(static_cast<int>(table));
+}
+
+bool IsNumber(store::FieldType type) {
+    return store::ClassOf(type) == store::FieldClass::Number && type != store::FieldType::Date;
+}
+
+text::Value Shown(const store::Cursor& records, std::size_t column) {
+    const bool isTruth = store::ClassOf(records.Fields()[column].type) == store::FieldClass::Truth;
+    if (!isTruth) return records.Field(column);
+    return std::string(records.Number(column) != 0 ? "Yes" : "No");
+}
+
+/// The text with each line end and each hard space replaced.
+std::string Replace(std::string_view text, std::string_view lineEnd, std::string_view hardSpace) {
+    std::string shown;
+    for (std::size_t at = 0; at < text.size();) {
+        const text::CodePoint point = text::DecodeAt(text, at);
+        const std::string_view bytes = text.substr(at, point.size);
+        at += point.size;
+        if (bytes == text::kLineEndMarker || bytes == "\n") {
+            shown += lineEnd;
+        } else if (bytes == text::kHardSpace) {
+            shown += hardSpace;
+        } else if (point.value >= U' ') {
+            shown += bytes;
+        }
+    }
+    return shown;
+}
+
+bool LessValue(const text::Value& left, const text::Value& right) {
+    const auto* const leftText = std::get_if<std::string>(&left);
+    const auto* const rightText = std::get_if<std::string>(&right);
+    if (leftText && rightText) return text::CompareNoCase(*leftText, *rightText) < 0;
+    return left < right;
+}
+
+}  // namespace
+
+void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance) {
+    TableGrid grid;
+    grid.view_ = view;
+    grid.ReadColumns(adventure, maintenance);
+    grid.ReadRecords(adventure);
+    *this = std::move(grid);
+}
+
+void TableGrid::Refresh(store::Adventure& adventure) {
+    ReadRecords(adventure);
+}
+
+void TableGrid::Clear() {
+    *this = TableGrid();
+}
+
+void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
+    const store::TableSchema& schema = adventure.Schema(view_.table);
+    std::vector<std::string> others;
+    store::Cursor& rows =
+        adventure.OpenTable(TableNum::TablesWalk, "fieldname,altname,see,search,expand,gridwidth",
+                            WhereTable(view_.table), "tablekey");
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const std::string field(rows.Text("fieldname"));
+        const auto place = schema.Find(field);
+        if (!place || IsHidden(field, adventure)) continue;
+        const auto see = rows.Number("see");
+        if (see == 0 || (maintenance && see == 2)) {
+            const std::string_view other = rows.Text("altname");
+            columns_.push_back({field,
+                                other.empty() ? field : std::string(text::Left(other, kLongestTitle)),
+                                static_cast<int>(rows.Number("gridwidth")), rows.Text("expand") == "Y",
+                                IsNumber(schema.fields[*place].type)});
+        } else if (rows.Text("search") == "Y" || text::EqualsNoCase(field, "estype") ||
+                   text::EqualsNoCase(field, kHelpPageField)) {
+            others.push_back(field);
+        }
+    }
+    for (const GridColumn& column : columns_)
+        fields_.push_back(column.field);
+    fields_.insert(fields_.end(), others.begin(), others.end());
+}
+
+void TableGrid::ReadRecords(store::Adventure& adventure) {
+    const std::string key = KeyField(view_.table);
+    const store::TableSchema& schema = adventure.Schema(view_.table);
+    const bool countsRecords =
+        store::ClassOf(schema.fields[schema.Find(key).value()].type) == store::FieldClass::Text;
+    std::string list = key;
+    for (const std::string& field : fields_) {
+        if (!text::EqualsNoCase(field, key)) list += "," + field;
+    }
+    const std::string filter = FilterOf(view_);
+    store::Cursor& records = adventure.OpenTable(
+        view_.table, list, filter.empty() ? std::nullopt : std::optional<std::string_view>(filter));
+    std::vector<std::size_t> columns;
+    for (const std::string& field : fields_)
+        columns.push_back(records.Column(field));
+
+    keys_.clear();
+    values_.clear();
+    values_.reserve(static_cast<std::size_t>(records.RecordCount()) * fields_.size());
+    for (; !records.Eof(); records.MoveNext()) {
+        keys_.push_back(countsRecords ? static_cast<int>(keys_.size()) + 1
+                                      : static_cast<int>(records.Number(std::size_t{0})));
+        for (const std::size_t column : columns)
+            values_.push_back(Shown(records, column));
+    }
+    Arrange();
+}
+
+int TableGrid::KeyOf(int row) const {
+    return keys_.at(RecordOf(row));
+}
+
+std::optional<int> TableGrid::RowOf(int key, int near) const {
+    std::optional<int> found;
+    for (int row = 0; row < RowCount(); ++row) {
+        if (KeyOf(row) != key) continue;
+        if (!found || std::abs(row - near) < std::abs(*found - near)) found = row;
+    }
+    return found;
+}
+
+std::optional<int> TableGrid::FirstChange(const TableGrid& before) const {
+    std::multimap<int, std::size_t> known;  // the records before, by key
+    for (std::size_t record = 0; record < before.keys_.size(); ++record)
+        known.emplace(before.keys_[record], record);
+    const auto sameValues = [&](std::size_t record, std::size_t earlier) {
+        for (std::size_t field = 0; field < fields_.size(); ++field) {
+            if (At(record, field) != before.At(earlier, field)) return false;
+        }
+        return true;
+    };
+    for (int row = 0; row < RowCount(); ++row) {
+        const std::size_t record = RecordOf(row);
+        const auto [first, last] = known.equal_range(keys_[record]);
+        const auto same = std::find_if(
+            first, last, [&](const auto& earlier) { return sameValues(record, earlier.second); });
+        if (same == last) return row;
+        known.erase(same);
+    }
+    if (known.empty() || order_.empty()) return std::nullopt;
+    for (int row = 0; row < before.RowCount(); ++row) {
+        if (known.contains(before.KeyOf(row))) return std::min(row, RowCount() - 1);
+    }
+    return std::nullopt;
+}
+
+std::string TableGrid::CellText(int row, int column) const {
+    const text::Value& value = At(RecordOf(row), static_cast<std::size_t>(column));
+    const auto* const text = std::get_if<std::string>(&value);
+    if (!text) return text::ToText(value);
+    const std::string_view begin = text::Left(*text, kLongestCell);
+    std::string shown = Replace(begin, kLineEndSign, kHardSpaceSign);
+    if (begin.size() < text->size()) shown += kCutSign;
+    return shown;
+}
+
+std::string TableGrid::FullText(int row, int column) const {
+    const std::string text = text::ToText(At(RecordOf(row), static_cast<std::size_t>(column)));
+    const std::string_view begin = text::Left(text, kLongestTip);
+    std::string shown = Replace(begin, "\n", " ");
+    if (begin.size() < text.size()) shown += kCutSign;
+    return shown;
+}
+
+const text::Value& TableGrid::ValueOf(int row, std::string_view field) const {
+    static const text::Value kNull;
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        if (text::EqualsNoCase(fields_[i], field)) return At(RecordOf(row), i);
+    }
+    return kNull;
+}
+
+void TableGrid::SetFilter(std::string_view text) {
+    if (text == filter_) return;
+    filter_ = text;
+    Arrange();
+}
+
+void TableGrid::ClickColumn(int column) {
+    if (sortColumn_ != column) {
+        sortColumn_ = column;
+        sortsDown_ = false;
+    } else if (!sortsDown_) {
+        sortsDown_ = true;
+    } else {
+        sortColumn_.reset();
+        sortsDown_ = false;
+    }
+    Arrange();
+}
+
+/// `wanted` is in lower case.
+bool TableGrid::Contains(std::size_t record, std::string_view wanted) const {
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        if (text::LowerCase(text::ToText(At(record, column))).find(wanted) != std::string::npos)
+            return true;
+    }
+    return false;
+}
+
+/// Which records are shown, and in what order.
+void TableGrid::Arrange() {
+    const std::string wanted = text::LowerCase(filter_);
+    order_.clear();
+    for (std::size_t record = 0; record < keys_.size(); ++record) {
+        if (wanted.empty() || Contains(record, wanted)) order_.push_back(record);
+    }
+    if (!sortColumn_) return;
+    const auto column = static_cast<std::size_t>(*sortColumn_);
+    std::ranges::stable_sort(order_, [&](std::size_t left, std::size_t right) {
+        return sortsDown_ ? LessValue(At(right, column), At(left, column))
+                          : LessValue(At(left, column), At(right, column));
+    });
+}
+
+void TableGrid::ResizeColumn(store::Adventure& adventure, int column, int width) {
+    GridColumn& resized = columns_.at(static_cast<std::size_t>(column));
+    if (!resized.expand) return;
+    const int kept = std::clamp(width, 0, kWidestColumn);
+    store::Cursor& row =
+        adventure.OpenTable(TableNum::TablesWalk, "tablekey,expand,gridwidth",
+                            WhereTable(view_.table) + " and fieldname=" + store::QuoteText(resized.field));
+    if (row.Eof() || row.Text("expand") != "Y") return;
+    row.SetField("gridwidth", std::int64_t{kept});
+    row.Update();
+    resized.width = kept;
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "authoring/desk/table_view.h"
+#include "store/adventure.h"
+#include "text/value.h"
+
+namespace fabula::authoring {
+
+/// A column of the grid.
+struct GridColumn {
+    std::string field;
+    std::string title;    ///< the other name of the field when it has one, else its name
+    int width = 0;        ///< in points of the screen at its normal size; 0: the window finds one
+    bool expand = false;  ///< the author may change the width, which is then kept
+    bool number = false;  ///< it holds numbers: shown at the right, sorted by value
+};
+
+/// The field in which the catalogues of conditions, actions and drawing commands name a page of the help.
+inline constexpr std::string_view kHelpPageField = "htmlpage";
+
+/// The records of a view as the main window shows them. They are read when the grid is set up and when it
+/// is refreshed, and at no other time: scrolling, filtering, sorting and searching work in memory.
+///
+/// Rows count from 0 in the order in which they are shown: the view's own order, or that of a column. A
+/// column's order lasts as long as the view is shown and is kept nowhere; the table's own order is changed
+/// by the command Sort. With a filter only the rows that contain its text are shown.
+class TableGrid {
+  public:
+    /// Shows the records of a view, without filter, in the view's own order. Throws fabula::Error when the
+    /// file can't be read; what was shown before is then still shown.
+    void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance);
+    /// Reads the records again; columns, filter and order stay.
+    void Refresh(store::Adventure& adventure);
+    /// Shows nothing.
+    void Clear();
+
+    const TableView& View() const { return view_; }
+    const std::vector<GridColumn>& Columns() const { return columns_; }
+
+    int RowCount() const { return static_cast<int>(order_.size()); }
+    int RecordCount() const { return static_cast<int>(keys_.size()); }
+
+    /// The key of the row's record. The records of a table whose key is a text count from 1.
+    int KeyOf(int row) const;
+    /// The row of the record with this key; of several the one nearest to `near`. nullopt when no row that
+    /// is shown has it.
+    std::optional<int> RowOf(int key, int near = 0) const;
+
+    /// The first row whose record `before`, the same view at an earlier moment, did not have or had with
+    /// other values. When records are only missing: the row that stands where the first of them stood.
+    /// nullopt when all is as it was, and when there is no row.
+    std::optional<int> FirstChange(const TableGrid& before) const;
+
+    /// What a cell shows, on one line: line ends and hard spaces as signs, a long text cut.
+    std::string CellText(int row, int column) const;
+    /// The text of a cell with its line ends, for a tool tip: whole, unless it is longer than kLongestTip.
+    std::string FullText(int row, int column) const;
+    /// The value of a field that is a column, can be searched or names a page of the help; null for any
+    /// other.
+    const text::Value& ValueOf(int row, std::string_view field) const;
+
+    /// Shows only the rows of which a column contains `text`, case ignored; "" shows all.
+    void SetFilter(std::string_view text);
+    const std::string& Filter() const { return filter_; }
+
+    /// Sorts by a column, a second time downwards, and a third time in the view's own order again.
+    void ClickColumn(int column);
+    std::optional<int> SortColumn() const { return sortColumn_; }
+    bool SortsDown() const { return sortsDown_; }
+
+    /// Keeps the width of a column that may be changed; other columns stay as they are. No step of Undo.
+    void ResizeColumn(store::Adventure& adventure, int column, int width);
+
+    /// The longest text of a cell, in characters.
+    static constexpr std::size_t kLongestCell = 250;
+    /// The longest text of a tool tip, in characters.
+    static constexpr std::size_t kLongestTip = 4000;
+
+  private:
+    void ReadColumns(store::Adventure& adventure, bool maintenance);
+    void ReadRecords(store::Adventure& adventure);
+    void Arrange();
+    bool Contains(std::size_t record, std::string_view wanted) const;
+    const text::Value& At(std::size_t record, std::size_t field) const {
+        return values_[record * fields_.size() + field];
+    }
+    std::size_t RecordOf(int row) const { return order_[static_cast<std::size_t>(row)]; }
+
+    TableView view_;
+    std::vector<GridColumn> columns_;
+    std::vector<std::string> fields_;  ///< that are read: of the columns first, then what else is looked up
+    std::vector<int> keys_;            ///< by record, in the view's own order
+    std::vector<text::Value> values_;  ///< by record and field
+    std::vector<std::size_t> order_;   ///< the record of each row
+    std::string filter_;
+    std::optional<int> sortColumn_;
+    bool sortsDown_ = false;
+};
+
+}  // namespace fabula::authoring

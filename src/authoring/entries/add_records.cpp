@@ -1,0 +1,150 @@
+#include "authoring/entries/add_records.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "condacts/catalogue.h"
+#include "text/format.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::Cursor;
+using store::TableNum;
+
+constexpr int kFlagsAtATime = 25;
+/// The highest of the flags that every adventure has.
+constexpr int kHighestSystemFlag = 1024;
+constexpr int kMostAddedFlags = 999;
+
+constexpr int kHighestSet = 998;
+constexpr std::size_t kLongestSetName = 20;
+constexpr const char* kFontOfSetZero = "charsetnum=0 and charnum>=32 and charnum<=127";
+
+/// The highest value of a number field; -1 in a table without a record from 0 on.
+int Highest(store::Adventure& adventure, TableNum table, const std::string& field) {
+    store::PreparedQuery query = adventure.Prepare(table, field, "", field + " desc");
+    return query.First({}) ? std::max(static_cast<int>(query.Number(0)), -1) : -1;
+}
+
+void AddFlag(Cursor& flags, int number) {
+    flags.AddNew();
+    flags.SetField("flgnum", std::int64_t{number});
+    flags.SetField("flgtype", std::string("User"));
+    flags.SetField("flguse", std::string("Unknown"));
+    flags.SetField("flgmod", std::int64_t{2});
+    flags.SetField("flgdesc", std::string(" "));
+    flags.SetField("flgchg", std::int64_t{1});
+    flags.Update();
+}
+
+/// Asks until the name will do; nullopt when the author gives up.
+std::optional<std::string> AskSetName(platform::Dialogs& dialogs, int set) {
+    while (true) {
+        const std::optional<std::string> name =
+            dialogs.AskText({.prompt = "Enter a name for your Set:",
+                             .title = "Set Name",
+                             .proposal = "My Set " + std::to_string(set)});
+        if (!name) return std::nullopt;
+        std::string trimmed(text::TrimBlanks(*name));
+        if (!trimmed.empty() && text::Length(trimmed) <= kLongestSetName) return trimmed;
+        Refuse(dialogs, "Set name cannot be blank or more than 20 characters");
+    }
+}
+
+struct ModelCharacter {
+    std::int64_t number;
+    std::string values;
+};
+
+std::vector<ModelCharacter> ReadFontOfSetZero(store::Adventure& adventure) {
+    store::PreparedQuery row =
+        adventure.Prepare(TableNum::Characters, "charnum, charvals", kFontOfSetZero, "charnum");
+    std::vector<ModelCharacter> characters;
+    for (bool more = row.First({}); more; more = row.Next())
+        characters.push_back({row.Number(0), std::string(row.Text(1))});
+    return characters;
+}
+
+}  // namespace
+
+void AddFlags(ScreenContext& context) {
+    store::Adventure& adventure = context.document.Adventure();
+    const std::string& type = adventure.AdventureType();
+    if (condacts::DialectOf(type) != condacts::Dialect::Fabula) {
+        Refuse(context.dialogs, "Extended flags cannot be used in a " + type + " type Adventure");
+        return;
+    }
+    const int highest = Highest(adventure, TableNum::Flags, "flgnum");
+    if (highest - kHighestSystemFlag > kMostAddedFlags) {
+        Refuse(context.dialogs, "There are over 999 flags.\nNo more flags can be added.");
+        return;
+    }
+    const std::string range =
+        "flags " + std::to_string(highest + 1) + " to " + std::to_string(highest + kFlagsAtATime);
+    if (!context.dialogs.Confirm("Confirm add of " + range, "Confirm")) return;
+    Change change(context.document, "add " + range);
+    Cursor& flags = adventure.OpenTable(TableNum::Free22, "* from flags", "flgnum<0");
+    for (int n = 1; n <= kFlagsAtATime; ++n)
+        AddFlag(flags, highest + n);
+    change.Commit();
+}
+
+void AddCharacterSet(ScreenContext& context) {
+    store::Adventure& adventure = context.document.Adventure();
+    const int highest = Highest(adventure, TableNum::Characters, "charsetnum");
+    if (highest >= kHighestSet) {
+        Refuse(context.dialogs, "There is a limit of 998 character sets");
+        return;
+    }
+    const int set = highest + 1;
+    const std::optional<std::string> name = AskSetName(context.dialogs, set);
+    if (!name) return;
+    const std::vector<ModelCharacter> font = ReadFontOfSetZero(adventure);
+    Change change(context.document, "add character set " + std::to_string(set));
+    Cursor& characters = adventure.OpenTable(TableNum::Free22, "* from characters", "charkey<0");
+    for (const ModelCharacter& model : font) {
+        characters.AddNew();
+        characters.SetField("charkey", std::int64_t{set} * 1000 + model.number);
+        characters.SetField("CharSet", text::FormatText("SET !%z4", {std::int64_t{set}}));
+        characters.SetField("charsetnum", std::int64_t{set});
+        characters.SetField("charsetname", *name);
+        characters.SetField("charnum", model.number);
+        characters.SetField("charvals", model.values);
+        characters.Update();
+    }
+    change.Commit();
+    context.dialogs.Tell("Character Set " + std::to_string(set) + " added.", "Character Sets");
+}
+
+void AddPictureOf(ScreenContext& context, int location) {
+    store::Adventure& adventure = context.document.Adventure();
+    if (!adventure.GraphicsOn()) return;
+    const std::string key = "locnum=" + std::to_string(location);
+    if (adventure.OpenTable(TableNum::Free22, "locnum from locations", key).Eof()) return;
+    store::PreparedQuery colours = adventure.Prepare(TableNum::Adventure, "BackColor, textcolor", "");
+    if (!colours.First({})) return;
+    const std::int64_t paper = colours.Number(0);
+    const std::int64_t ink = colours.Number(1);
+    colours.Reset();
+    Cursor& pictures = adventure.OpenTable(TableNum::Free22, "* from pictures", key);
+    if (!pictures.Eof()) return;
+    Change change(context.document, Change::WithLatest{});
+    pictures.AddNew();
+    pictures.SetField("locnum", std::int64_t{location});
+    pictures.SetField("locpaper", paper);
+    pictures.SetField("locink", ink);
+    pictures.SetField("loctype", std::string("Subroutine"));
+    pictures.SetField("drawstring", std::string("END"));
+    pictures.SetField("picname", std::string());
+    pictures.SetField("roompicnum", std::int64_t{-1});
+    pictures.Update();
+    change.Commit();
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,228 @@
+#include "authoring/entries/delete_word.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "condacts/load.h"
+#include "condacts/parser.h"
+#include "text/fields.h"
+#include "text/utf8.h"
+
+namespace fabula::authoring {
+namespace {
+
+using condacts::Word;
+using store::Adventure;
+using store::Cursor;
+using store::TableNum;
+
+struct Deleted {
+    int objects = 0;
+    int entries = 0;
+    int movements = 0;
+};
+
+std::optional<Word> ReadWord(Adventure& adventure, int vocindex) {
+    store::PreparedQuery row =
+        adventure.Prepare(TableNum::Vocabulary, "word, vocnum, voctypen", "vocindex=?");
+    if (!row.First({std::int64_t{vocindex}})) return std::nullopt;
+    return Word{std::string(row.Text(0)), static_cast<int>(row.Number(1)), static_cast<int>(row.Number(2))};
+}
+
+bool HasSynonym(Adventure& adventure, const Word& word, int vocindex) {
+    store::PreparedQuery row =
+        adventure.Prepare(TableNum::Vocabulary, "vocindex", "vocnum=? and voctypen=? and vocindex<>?");
+    return row.First({std::int64_t{word.number}, std::int64_t{word.type}, std::int64_t{vocindex}});
+}
+
+/// Whether a verb or a movement noun of this spelling and number is among the words.
+bool IsStillNamed(const condacts::WordIndex& words, std::string_view spelling, int number) {
+    return std::any_of(words.All().begin(), words.All().end(), [&](const Word& word) {
+        return word.number == number && condacts::IsMovementWord(word) &&
+               text::EqualsNoCase(word.word, spelling);
+    });
+}
+
+int DetachObjects(Adventure& adventure, const Word& word) {
+    const bool noun = word.type == condacts::kNoun;
+    if (!noun && word.type != condacts::kAdjective) return 0;
+    const std::string numberField = noun ? "objnumnoun" : "objnumadject";
+    const std::string wordField = noun ? "objnoun" : "objadject";
+    Cursor& objects = adventure.OpenTable(TableNum::Free22, "* from objects",
+                                          numberField + "=" + std::to_string(word.number));
+    for (; !objects.Eof(); objects.MoveNext()) {
+        objects.SetField(wordField, std::string(condacts::kNoWord));
+        objects.SetField(numberField, std::int64_t{condacts::kNoWordNumber});
+        objects.Update();
+    }
+    return objects.RecordCount();
+}
+
+/// Whether a line asks, in a condition on words of this type, for the word as `parameter` writes it.
+bool Asks(const condacts::ParsedLine& line, int wordType, std::string_view parameter) {
+    return std::any_of(
+        line.statements.begin(), line.statements.end(), [&](const condacts::Statement& statement) {
+            const condacts::WordCondition* condition = condacts::FindWordCondition(statement.condAct->name);
+            return condition != nullptr && condition->wordType == wordType && statement.paramsGiven > 0 &&
+                   text::EqualsNoCase(line.Param(statement, 0), parameter);
+        });
+}
+
+/// Tells which process entries used a word that has been deleted.
+class EntryTest {
+  public:
+    EntryTest(Adventure& adventure, const Word& word)
+        : word_(word),
+          catalogue_(condacts::LoadCatalogue(adventure)),
+          words_(condacts::LoadWords(adventure)) {}
+
+    bool Used(const Cursor& entry) const {
+        const bool verb = word_.type == condacts::kVerb;
+        const bool noun = word_.type == condacts::kNoun;
+        if ((verb || noun) && HasLost(entry, "w1", "w1num")) return true;
+        if (noun && HasLost(entry, "w2", "w2num")) return true;
+        // A verb can't stand in for the noun of an entry, even one of the same spelling and number.
+        if (noun && entry.Number("w2num") == word_.number &&
+            text::EqualsNoCase(entry.Text("w2"), word_.word))
+            return true;
+        return Asks(condacts::ParseLine(entry.Text("condacts"), catalogue_), word_.type, word_.word) ||
+               Asks(condacts::ParseNumericLine(entry.Text("numericcondacts"), catalogue_), word_.type,
+                    std::to_string(word_.number));
+    }
+
+  private:
+    bool HasLost(const Cursor& entry, std::string_view wordField, std::string_view numberField) const {
+        return entry.Number(numberField) == word_.number &&
+               !IsStillNamed(words_, entry.Text(wordField), word_.number);
+    }
+
+    Word word_;
+    condacts::Catalogue catalogue_;
+    condacts::WordIndex words_;
+};
+
+int DeleteEntries(Adventure& adventure, const Word& word) {
+    const EntryTest test(adventure, word);
+    int deleted = 0;
+    Cursor& entries = adventure.OpenTable(TableNum::Free22, "* from processtables");
+    for (; !entries.Eof(); entries.MoveNext()) {
+        if (!test.Used(entries)) continue;
+        entries.Delete();
+        ++deleted;
+    }
+    return deleted;
+}
+
+/// The pieces between blanks.
+std::vector<std::string_view> Pieces(std::string_view list) {
+    std::vector<std::string_view> pieces = text::Split(list, " ");
+    std::erase(pieces, "");
+    return pieces;
+}
+
+struct Exits {
+    std::string words;
+    std::string numbers;
+    int tokens = 0;
+    int deleted = 0;
+};
+
+void Append(std::string& list, std::string_view first, std::string_view second) {
+    if (!list.empty()) list += ' ';
+    list.append(first).append(" ").append(second);
+}
+
+/// The exits of a location without those that used the word.
+Exits Without(const Word& word, const condacts::WordIndex& words, std::string_view exits,
+              std::string_view numericExits) {
+    const auto texts = Pieces(exits);
+    const auto numbers = Pieces(numericExits);
+    Exits kept;
+    for (std::size_t i = 0; i + 1 < numbers.size(); i += 2) {
+        const bool named = i + 1 < texts.size();
+        const bool uses = condacts::WholeNumber(numbers[i]) == word.number &&
+                          !(named && IsStillNamed(words, texts[i], word.number));
+        if (uses) {
+            ++kept.deleted;
+            continue;
+        }
+        Append(kept.numbers, numbers[i], numbers[i + 1]);
+        if (named) Append(kept.words, texts[i], texts[i + 1]);
+        kept.tokens += 2;
+    }
+    return kept;
+}
+
+int DeleteMovements(Adventure& adventure, const Word& word) {
+    if (word.type != condacts::kVerb && word.type != condacts::kNoun) return 0;
+    const condacts::WordIndex words = condacts::LoadWords(adventure);
+    int deleted = 0;
+    Cursor& locations = adventure.OpenTable(
+        TableNum::Free22, "locnum, numexits, exits, numericexits from locations", "numexits>0");
+    for (; !locations.Eof(); locations.MoveNext()) {
+        const Exits kept = Without(word, words, locations.Text("exits"), locations.Text("numericexits"));
+        if (kept.deleted == 0) continue;
+        locations.SetField("exits", kept.words);
+        locations.SetField("numericexits", kept.numbers);
+        locations.SetField("numexits", std::int64_t{kept.tokens});
+        locations.Update();
+        deleted += kept.deleted;
+    }
+    return deleted;
+}
+
+bool AgreesToCascade(ScreenContext& context, const Word& word) {
+    return context.dialogs.Proceed(
+        "There are no more records with this word number. \n"
+        "Deleting all entries in the Event & Status Tables with that word in it.\n"
+        "Setting to _ any Object Words of " +
+            word.word +
+            ".\n"
+            " Deleting any movements using this word.",
+        "Delete Word");
+}
+
+std::string ReportOf(const Deleted& deleted) {
+    std::string report;
+    const auto add = [&](int count, std::string_view what) {
+        if (count == 0) return;
+        if (!report.empty()) report += '\n';
+        report.append(std::to_string(count)).append(what);
+    };
+    add(deleted.objects, " Object record(s) had an object word set to _");
+    add(deleted.entries, " Event/Status Table records were deleted.");
+    add(deleted.movements, " Movements were deleted in the Locations Table.");
+    return report.empty() ? "No records were deleted." : report;
+}
+
+}  // namespace
+
+bool DeleteWord(ScreenContext& context, int vocindex) {
+    Adventure& adventure = context.document.Adventure();
+    const std::optional<Word> word = ReadWord(adventure, vocindex);
+    if (!word) return false;
+    if (word->type == condacts::kReserved)
+        return Refuse(context.dialogs, "Sorry, but you cannot delete word " + word->word);
+    if (!context.dialogs.Confirm("Are you sure you want to delete word " + word->word + "?", "Confirm"))
+        return false;
+    // Everything is asked before the change begins, so that the file is not locked while a box is shown.
+    const bool cascades = !HasSynonym(adventure, *word, vocindex) && AgreesToCascade(context, *word);
+
+    Change change(context.document, "delete word " + word->word);
+    adventure.DeleteFrom(TableNum::Vocabulary, "vocindex=" + std::to_string(vocindex));
+    Deleted deleted;
+    if (cascades) {
+        deleted.objects = DetachObjects(adventure, *word);
+        deleted.entries = DeleteEntries(adventure, *word);
+        deleted.movements = DeleteMovements(adventure, *word);
+    }
+    change.Commit();
+    ReadNextKeys(context);
+    if (cascades) context.dialogs.Tell(ReportOf(deleted), "Delete Word");
+    return true;
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,321 @@
+#include "authoring/entries/entries.h"
+
+#include <algorithm>
+#include <string>
+
+#include "authoring/entries/add_records.h"
+#include "authoring/entries/delete_word.h"
+#include "condacts/catalogue.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::Adventure;
+using store::TableNum;
+
+/// What the commands do on a table. Tables that are not among these can't be changed by hand.
+struct EntryTable {
+    TableNum table;
+    std::string_view one;  ///< in the name of a change: "delete message 7"
+    std::optional<Screen> editor;
+    std::string_view plural;  ///< of tables that number their records without gaps: in the limit's message
+    bool deletable;
+};
+
+constexpr EntryTable kEntryTables[] = {
+    {TableNum::Locations, "location", Screen::Location, "locations", true},
+    {TableNum::Messages, "message", Screen::Text, "messages", true},
+    {TableNum::Objects, "object", Screen::Object, "objects", true},
+    {TableNum::Adventure, "", Screen::Settings, "", false},
+    {TableNum::ProcessTables, "process entry", Screen::ProcessEntry, "", true},
+    {TableNum::SystemMessages, "system message", Screen::Text, "system messages", true},
+    {TableNum::Flags, "", Screen::Flag, "", false},
+    {TableNum::ProcDesc, "process description", Screen::Text, "", true},
+    {TableNum::Pictures, "picture", std::nullopt, "", true},
+};
+
+constexpr int kHighestOfFabula = 999;
+constexpr int kHighestOfOthers = 255;
+/// The numbers that stand for places that are no location.
+constexpr int kFirstSpecialPlace = 252;
+constexpr int kAboveSpecialPlaces = 256;
+constexpr int kLastFixedProcess = 2;
+constexpr int kCharactersOfASet = 1000;
+constexpr int kLastShade = 15;
+constexpr int kFirstUserGraphic = 144;
+constexpr int kUntouchableFlag = 0;  ///< `flgmod` of a flag that the author may not edit
+
+const EntryTable* FindEntryTable(TableNum table) {
+    const auto* found = std::find_if(std::begin(kEntryTables), std::end(kEntryTables),
+                                     [&](const EntryTable& entry) { return entry.table == table; });
+    return found == std::end(kEntryTables) ? nullptr : found;
+}
+
+bool IsFabula(const Adventure& adventure) {
+    return condacts::DialectOf(adventure.AdventureType()) == condacts::Dialect::Fabula;
+}
+
+std::string KeyIs(TableNum table, int key) {
+    return std::string(store::FindTable(table)->key) + "=" + std::to_string(key);
+}
+
+bool Exists(Adventure& adventure, TableNum table, int key) {
+    return adventure.Prepare(table, store::FindTable(table)->key, KeyIs(table, key)).First({});
+}
+
+int CountRecords(Adventure& adventure, TableNum table) {
+    const std::string select =
+        std::string(store::FindTable(table)->key) + " from " + std::string(store::FindTable(table)->name);
+    return adventure.OpenTable(TableNum::Free22, select).RecordCount();
+}
+
+int HighestKey(Adventure& adventure, TableNum table) {
+    const std::string key(store::FindTable(table)->key);
+    store::PreparedQuery highest = adventure.Prepare(table, key, "", key + " desc");
+    return highest.First({}) ? static_cast<int>(highest.Number(0)) : -1;
+}
+
+int NextLocation(Adventure& adventure) {
+    const int next = NumberAfter(HighestKey(adventure, TableNum::Locations));
+    return next >= kFirstSpecialPlace && next < kAboveSpecialPlaces ? kAboveSpecialPlaces : next;
+}
+
+/// The lowest number without a record.
+int FirstGap(Adventure& adventure, TableNum table) {
+    const std::string key(store::FindTable(table)->key);
+    store::PreparedQuery row = adventure.Prepare(table, key, "", key);
+    int number = 0;
+    for (bool more = row.First({}); more && row.Number(0) <= number; more = row.Next())
+        number = NumberAfter(row.Number(0));
+    return number;
+}
+
+/// The number of the records. Where one was deleted from their midst that number may be taken, and the
+/// gap is filled: texts and objects must be numbered without one.
+int NextOfCount(Adventure& adventure, TableNum table) {
+    const int count = CountRecords(adventure, table);
+    return Exists(adventure, table, count) ? FirstGap(adventure, table) : count;
+}
+
+/// Beyond 255 the older types can't count, and 255 itself is no object there.
+bool IsFull(Adventure& adventure, TableNum table, int key) {
+    const int wanted = table == TableNum::Locations ? key : CountRecords(adventure, table);
+    if (IsFabula(adventure)) return wanted > kHighestOfFabula;
+    return wanted > (table == TableNum::Objects ? kHighestOfOthers - 1 : kHighestOfOthers);
+}
+
+/// The message for objects names 999 in every type.
+std::string LimitMessage(const Adventure& adventure, const EntryTable& numbered) {
+    const bool of999 = IsFabula(adventure) || numbered.table == TableNum::Objects;
+    return "You have reached the maximum of " +
+           std::to_string(of999 ? kHighestOfFabula : kHighestOfOthers) + " " + std::string(numbered.plural);
+}
+
+std::optional<ScreenRequest> AddNumbered(ScreenContext& context, const EntryTable& numbered) {
+    Adventure& adventure = context.document.Adventure();
+    const int key = numbered.table == TableNum::Locations ? NextLocation(adventure)
+                                                          : NextOfCount(adventure, numbered.table);
+    if (IsFull(adventure, numbered.table, key)) {
+        Refuse(context.dialogs, LimitMessage(adventure, numbered));
+        return std::nullopt;
+    }
+    return ScreenRequest{
+        .screen = *numbered.editor, .key = {.key = key, .isNew = true}, .table = numbered.table};
+}
+
+ScreenRequest AddProcessEntry(ScreenContext& context) {
+    Adventure& adventure = context.document.Adventure();
+    ReadNextKeys(context);
+    if (HighestKey(adventure, TableNum::ProcessTables) < 0) {
+        context.currentEntry = 0;
+        // Games of type Marlo have the first two tables only.
+        if (condacts::DialectOf(adventure.AdventureType()) != condacts::Dialect::Marlo)
+            context.currentESNum = kLastFixedProcess;
+    }
+    return {.screen = Screen::ProcessEntry,
+            .key = {.key = context.nextEntry, .isNew = true},
+            .table = TableNum::ProcessTables};
+}
+
+/// Gives the entries of the same process and words, from the one that `request.before` names on, new keys
+/// above that of the new entry, so that it stands before them.
+void MoveBehindNewEntry(ScreenContext& context, const ScreenRequest& request) {
+    Adventure& adventure = context.document.Adventure();
+    if (!Exists(adventure, TableNum::ProcessTables, request.key.key)) return;
+    store::PreparedQuery current =
+        adventure.Prepare(TableNum::ProcessTables, "estype, w1num, w2num", "canum=?");
+    if (!current.First({std::int64_t{*request.before}})) return;
+    const std::string where =
+        "estype=" + std::to_string(current.Number(0)) + " and w1num=" + std::to_string(current.Number(1)) +
+        " and w2num=" + std::to_string(current.Number(2)) +
+        " and canum>=" + std::to_string(*request.before) + " and canum<>" + std::to_string(request.key.key);
+    current.Reset();
+    ReadNextKeys(context);
+    Change change(context.document, Change::WithLatest{});
+    store::Cursor& moved =
+        adventure.OpenTable(TableNum::Free22, "* from processtables where " + where + " order by canum");
+    for (; !moved.Eof(); moved.MoveNext()) {
+        moved.SetField("canum", std::int64_t{context.nextEntry});
+        moved.Update();
+        ++context.nextEntry;
+    }
+    change.Commit();
+}
+
+bool MayEditFlag(ScreenContext& context) {
+    store::PreparedQuery flag = context.document.Adventure().Prepare(TableNum::Flags, "flgmod", "flgnum=?");
+    if (!flag.First({std::int64_t{context.currentEntry}})) return false;
+    if (flag.Number(0) != kUntouchableFlag) return true;
+    context.dialogs.Tell("That Flag cannot be edited", "Flag Information");
+    return false;
+}
+
+/// The first three tables are there in every game, and `deed` ("edited") can't be done to them.
+bool MayChangeProcess(ScreenContext& context, std::string_view deed) {
+    if (context.currentEntry > kLastFixedProcess) return true;
+    context.dialogs.Tell("That Process table Description cannot be " + std::string(deed),
+                         "Process Description Information");
+    return false;
+}
+
+/// Shades and user-defined graphics can be changed in set 0, everything in the others.
+bool IsEditableCharacter(int charkey) {
+    const int set = charkey / kCharactersOfASet;
+    const int number = charkey % kCharactersOfASet;
+    return set > 0 || number <= kLastShade || number >= kFirstUserGraphic;
+}
+
+bool MayEdit(ScreenContext& context) {
+    const int key = context.currentEntry;
+    switch (context.currentTable) {
+        case TableNum::Vocabulary:
+            return Refuse(context.dialogs, "Vocabulary cannot be edited");
+        case TableNum::Flags:
+            return MayEditFlag(context);
+        case TableNum::ProcDesc:
+            return MayChangeProcess(context, "edited");
+        case TableNum::Characters:
+            if (IsEditableCharacter(key)) return true;
+            return Refuse(context.dialogs,
+                          "Character " + std::to_string(key % kCharactersOfASet) + " cannot be edited");
+        default:
+            return true;
+    }
+}
+
+/// The caption of the table's own node, which stands in the tree behind that of a group it opens.
+std::string CaptionOf(Adventure& adventure, TableNum table) {
+    store::PreparedQuery node =
+        adventure.Prepare(TableNum::DataBases, "dbtreename", "dbnum=?", "dbtreesort desc");
+    return node.First({std::int64_t{static_cast<int>(table)}}) ? std::string(node.Text(0)) : std::string();
+}
+
+std::string QuestionForEntry(Adventure& adventure, int canum) {
+    store::PreparedQuery entry = adventure.Prepare(TableNum::ProcessTables, "w1, w2, condacts", "canum=?");
+    entry.First({std::int64_t{canum}});
+    return "Are you sure you want to delete Process Record " + std::to_string(canum) + " ?\n" +
+           std::string(entry.Text(0)) + " " + std::string(entry.Text(1)) + "\n" +
+           std::string(entry.Text(2));
+}
+
+bool DeleteRecord(ScreenContext& context, std::string_view one, const std::string& question) {
+    if (!context.dialogs.Confirm(question, "Confirm")) return false;
+    const TableNum table = context.currentTable;
+    const int key = context.currentEntry;
+    Change change(context.document, "delete " + std::string(one) + " " + std::to_string(key));
+    context.document.Adventure().DeleteFrom(table, KeyIs(table, key));
+    change.Commit();
+    ReadNextKeys(context);
+    return true;
+}
+
+}  // namespace
+
+std::string_view MissingEditor(TableNum table, EntryCommand command) {
+    if (table == TableNum::Pictures && (command == EntryCommand::Add || command == EntryCommand::Edit))
+        return "The picture editor is not part of this version.";
+    if (table == TableNum::Characters && command == EntryCommand::Edit)
+        return "The character editor is not part of this version.";
+    return "";
+}
+
+std::optional<ScreenRequest> Entries::AddEntry() {
+    const TableNum table = context_.currentTable;
+    const EntryTable* entry = FindEntryTable(table);
+    if (entry != nullptr && !entry->plural.empty()) return AddNumbered(context_, *entry);
+    switch (table) {
+        case TableNum::ProcessTables:
+            return AddProcessEntry(context_);
+        case TableNum::Vocabulary:
+            ReadNextKeys(context_);
+            return ScreenRequest{
+                .screen = Screen::Word, .key = {.key = context_.nextWord, .isNew = true}, .table = table};
+        case TableNum::Flags:
+            AddFlags(context_);
+            return std::nullopt;
+        case TableNum::Characters:
+            AddCharacterSet(context_);
+            return std::nullopt;
+        case TableNum::Pictures:
+            Refuse(context_.dialogs, MissingEditor(table, EntryCommand::Add));
+            return std::nullopt;
+        default:
+            return std::nullopt;
+    }
+}
+
+std::optional<ScreenRequest> Entries::AddEntryBefore() {
+    if (context_.currentTable != TableNum::ProcessTables) return std::nullopt;
+    const int current = context_.currentEntry;
+    const bool exists = Exists(context_.document.Adventure(), TableNum::ProcessTables, current);
+    ScreenRequest request = AddProcessEntry(context_);
+    if (exists) request.before = current;
+    return request;
+}
+
+std::optional<ScreenRequest> Entries::EditEntry() {
+    const TableNum table = context_.currentTable;
+    Adventure& adventure = context_.document.Adventure();
+    if (!MayEdit(context_)) return std::nullopt;
+    if (const std::string_view why = MissingEditor(table, EntryCommand::Edit); !why.empty()) {
+        Refuse(context_.dialogs, why);
+        return std::nullopt;
+    }
+    const EntryTable* entry = FindEntryTable(table);
+    if (entry == nullptr) {
+        Refuse(context_.dialogs, std::string(store::FindTable(table)->name) + " cannot be edited");
+        return std::nullopt;
+    }
+    ScreenRequest request{.screen = *entry->editor, .key = {.key = context_.currentEntry}, .table = table};
+    if (table == TableNum::Adventure) {
+        request.settings = ReadSettingsBefore(context_.document);
+        return request;
+    }
+    if (!Exists(adventure, table, context_.currentEntry)) return std::nullopt;
+    return request;
+}
+
+bool Entries::AfterScreen(const ScreenRequest& request) {
+    if (request.screen == Screen::Location && request.key.isNew) AddPictureOf(context_, request.key.key);
+    if (request.before) MoveBehindNewEntry(context_, request);
+    return request.screen != Screen::Settings || FollowSettings(context_, request.settings);
+}
+
+bool Entries::DeleteEntry() {
+    const TableNum table = context_.currentTable;
+    const int key = context_.currentEntry;
+    Adventure& adventure = context_.document.Adventure();
+    if (table == TableNum::Vocabulary) return DeleteWord(context_, key);
+    const EntryTable* entry = FindEntryTable(table);
+    if (entry == nullptr || !entry->deletable)
+        return Refuse(context_.dialogs, std::string(store::FindTable(table)->name) + " cannot be deleted");
+    if (!Exists(adventure, table, key)) return false;
+    if (table == TableNum::ProcDesc && !MayChangeProcess(context_, "deleted")) return false;
+    const std::string question = table == TableNum::ProcessTables
+                                     ? QuestionForEntry(adventure, key)
+                                     : "Are you sure you want to delete " + CaptionOf(adventure, table) +
+                                           " " + std::to_string(key) + " ?";
+    return DeleteRecord(context_, entry->one, question);
+}
+
+}  // namespace fabula::authoring

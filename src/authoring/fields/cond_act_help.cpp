@@ -1,0 +1,313 @@
+#include "authoring/fields/cond_act_help.h"
+
+#include <algorithm>
+#include <array>
+
+#include "condacts/convert.h"
+#include "condacts/load.h"
+#include "condacts/places.h"
+#include "condacts/validate.h"
+#include "text/utf8.h"
+
+namespace fabula::authoring {
+namespace {
+
+using condacts::CondAct;
+using condacts::Parameter;
+using condacts::ParamKind;
+using condacts::Token;
+
+constexpr int kHighestMarloFlag = 32;
+
+struct KindName {
+    ParamKind kind;
+    std::string_view field;   ///< over the field of the parameter
+    std::string_view phrase;  ///< "takes a message"
+    std::string_view noun;    ///< "there is no message 7"
+};
+
+constexpr KindName kKindNames[] = {
+    {ParamKind::Location, "Location", "a location", "location"},
+    {ParamKind::Message, "Message", "a message", "message"},
+    {ParamKind::Object, "Object", "an object", "object"},
+    {ParamKind::Process, "Process", "a process table", "process table"},
+    {ParamKind::SystemMessage, "SysMsg", "a system message", "system message"},
+    {ParamKind::Flag, "Flag", "a flag", "flag"},
+    {ParamKind::Value, "Value", "a value", ""},
+};
+
+const KindName* NameOf(ParamKind kind) {
+    const auto* found = std::find_if(std::begin(kKindNames), std::end(kKindNames),
+                                     [kind](const KindName& name) { return name.kind == kind; });
+    return found == std::end(kKindNames) ? nullptr : found;
+}
+
+struct WordField {
+    std::string_view condAct;
+    std::string_view field;
+};
+
+constexpr WordField kWordFields[] = {
+    {"ADJECT1", "Adject"}, {"ADJECT2", "Adject"}, {"ADVERB", "Adverb"}, {"PREP", "Prep"}, {"NOUN2", "Noun"},
+};
+
+struct LocationWord {
+    std::string_view word;
+    int number;
+    std::string_view meaning;
+};
+
+constexpr LocationWord kLocationWords[] = {
+    {"NOTCR", condacts::place::kNotCreated.value, "not created"},
+    {"WORN", condacts::place::kWorn.value, "worn by the player"},
+    {"CARRIED", condacts::place::kCarried.value, "carried by the player"},
+    {"HERE", condacts::place::kHere.value, "where the player is"},
+};
+
+bool AdmitsLocationWords(const Parameter& parameter) {
+    return parameter.kind == ParamKind::Location && parameter.maxValue == condacts::kLocationWordsAllowed;
+}
+
+const LocationWord* FindLocationWord(const Parameter& parameter, std::string_view token) {
+    if (parameter.kind != ParamKind::Location) return nullptr;
+    const std::optional<int> number = condacts::WholeNumber(token);
+    const bool words = AdmitsLocationWords(parameter);
+    const auto* found =
+        std::find_if(std::begin(kLocationWords), std::end(kLocationWords), [&](const LocationWord& entry) {
+            return number == entry.number || (words && text::EqualsNoCase(entry.word, token));
+        });
+    return found == std::end(kLocationWords) ? nullptr : found;
+}
+
+Completion Numbered(const ListItem& item) {
+    const std::string number = std::to_string(item.number);
+    return {number, item.text.empty() ? number : number + "  " + item.text};
+}
+
+/// "a message", "an adverb", "a value from 0 to 100".
+std::string PhraseOf(const CondAct& condAct, std::size_t place) {
+    const Parameter& parameter = condAct.params[place];
+    if (const auto* condition = condacts::FindWordCondition(condAct.name);
+        condition != nullptr && parameter.kind == ParamKind::Word)
+        return std::string(condition->phrase);
+    const KindName* name = NameOf(parameter.kind);
+    if (name == nullptr) return "a word";
+    std::string phrase(name->phrase);
+    if (parameter.kind == ParamKind::Value) phrase += " from 0 to " + std::to_string(parameter.maxValue);
+    return phrase;
+}
+
+std::string MeaningOfName(const CondAct& condAct) {
+    std::string meaning = condAct.name + (condAct.isAction ? ": action" : ": condition");
+    for (std::size_t place = 0; place < static_cast<std::size_t>(condAct.paramCount); ++place)
+        meaning += (place == 0 ? ", takes " : " and ") + PhraseOf(condAct, place);
+    return meaning;
+}
+
+bool IsLetter(char c) {
+    return static_cast<unsigned char>(c) > ' ' &&
+           std::string_view(".,;:!?\"'()-").find(c) == std::string_view::npos;
+}
+
+/// Whether a word of `text` begins with `typed`, case ignored.
+bool HasWordWith(std::string_view text, std::string_view typed) {
+    const std::string lowered = text::LowerCase(text);
+    const std::string sought = text::LowerCase(typed);
+    for (std::size_t at = lowered.find(sought); at != std::string::npos;
+         at = lowered.find(sought, at + 1)) {
+        if (at == 0 || !IsLetter(lowered[at - 1])) return true;
+    }
+    return false;
+}
+
+bool BeginsWith(std::string_view text, std::string_view typed) {
+    return text::EqualsNoCase(text.substr(0, typed.size()), typed);
+}
+
+/// What a number stands for is sought by its words, but not by digits: those are of the number.
+bool Matches(const Completion& completion, std::string_view typed) {
+    if (BeginsWith(completion.insert, typed)) return true;
+    return !condacts::WholeNumber(typed) && HasWordWith(completion.shown, typed);
+}
+
+}  // namespace
+
+/// Where a cursor stands.
+struct CondActHelp::Place {
+    std::size_t begin = 0;  ///< of the token at the cursor; both are the cursor where there is none
+    std::size_t end = 0;
+    bool known = true;                 ///< false behind a name that is none: nothing can be told there
+    const CondAct* condAct = nullptr;  ///< whose parameter stands here; nullptr where a name does
+    std::size_t parameter = 0;
+    std::string before;  ///< the condact and its parameters up to here
+};
+
+CondActHelp::CondActHelp(store::Adventure& adventure)
+    : catalogue_(condacts::LoadCatalogue(adventure)),
+      facts_(condacts::LoadFacts(adventure)),
+      texts_(LoadRecordTexts(adventure)) {
+    store::PreparedQuery rows = adventure.Prepare(store::TableNum::CondActs, "canum, htmlpage", "");
+    for (bool more = rows.First({}); more; more = rows.Next())
+        pages_.try_emplace(static_cast<int>(rows.Number(0)), rows.Text(1));
+}
+
+CondActHelp::Place CondActHelp::Find(std::string_view line, std::size_t cursor) const {
+    Place place;
+    place.begin = place.end = std::min(cursor, line.size());
+    for (const Token& token : condacts::SplitLine(line)) {
+        if (place.end < token.position || place.end > token.position + token.text.size()) continue;
+        place.begin = token.position;
+        place.end = token.position + token.text.size();
+        break;
+    }
+    const std::string_view before = line.substr(0, place.begin);
+    const condacts::ParsedLine parsed = condacts::ParseLine(before, catalogue_, facts_.dialect);
+    place.known = !parsed.unknownName;
+    if (parsed.statements.empty() || parsed.unknownName) return place;
+    const condacts::Statement& last = parsed.statements.back();
+    if (last.paramsGiven == static_cast<std::size_t>(last.condAct->paramCount)) return place;
+    place.condAct = last.condAct;
+    place.parameter = last.paramsGiven;
+    place.before = before.substr(parsed.tokens[last.name].position);
+    return place;
+}
+
+std::vector<Completion> CondActHelp::Names() const {
+    std::vector<Completion> names;
+    for (const CondAct& condAct : catalogue_.All()) {
+        if (condAct.ExistsIn(facts_.dialect)) names.push_back({condAct.name, condAct.name});
+    }
+    std::sort(names.begin(), names.end(),
+              [](const Completion& a, const Completion& b) { return a.insert < b.insert; });
+    return names;
+}
+
+std::vector<Completion> CondActHelp::Words(const CondAct& condAct) const {
+    const condacts::WordCondition* condition = condacts::FindWordCondition(condAct.name);
+    std::vector<Completion> words;
+    if (condition == nullptr) return words;
+    for (const condacts::Word& word : facts_.words.All()) {
+        if (word.type == condition->wordType)
+            words.push_back({word.word, word.word + "  " + std::to_string(word.number)});
+    }
+    return words;
+}
+
+std::vector<Completion> CondActHelp::Parameters(const CondAct& condAct, std::size_t place) const {
+    const Parameter& parameter = condAct.params[place];
+    if (parameter.kind == ParamKind::Word) return Words(condAct);
+    const bool marloFlag = parameter.kind == ParamKind::Flag && facts_.dialect == condacts::Dialect::Marlo;
+    std::vector<Completion> items;
+    for (const ListItem& item : texts_.Of(parameter.kind)) {
+        if (!marloFlag || item.number <= kHighestMarloFlag) items.push_back(Numbered(item));
+    }
+    if (!AdmitsLocationWords(parameter)) return items;
+    for (const LocationWord& entry : kLocationWords)
+        items.push_back(
+            {std::string(entry.word), std::string(entry.word).append("  ").append(entry.meaning)});
+    return items;
+}
+
+std::string_view CondActHelp::ParameterName(const CondAct& condAct, std::size_t place) {
+    if (const KindName* name = NameOf(condAct.params[place].kind)) return name->field;
+    const auto* found = std::find_if(std::begin(kWordFields), std::end(kWordFields),
+                                     [&](const WordField& entry) { return entry.condAct == condAct.name; });
+    return found == std::end(kWordFields) ? "Word" : found->field;
+}
+
+/// Whether a parameter passes the checks at its place. Those behind it may still be missing.
+bool CondActHelp::Fits(const Place& place, std::string_view parameter) const {
+    const std::string text = place.before + " " + std::string(parameter);
+    const auto fault = condacts::ValidateCondAct(text, catalogue_, facts_);
+    if (fault && fault->token == place.parameter + 1) return false;
+    if (place.condAct->params[place.parameter].kind != ParamKind::Word) return true;
+    return condacts::CondActsToNumeric(text, catalogue_, facts_.words).ok;
+}
+
+Completions CondActHelp::Complete(std::string_view line, std::size_t cursor) const {
+    const Place place = Find(line, cursor);
+    Completions found{.begin = place.begin, .end = place.end, .items = {}};
+    if (!place.known) return found;
+    const std::string_view typed = line.substr(place.begin, std::min(cursor, line.size()) - place.begin);
+    if (place.condAct == nullptr) {
+        for (Completion& name : Names()) {
+            if (BeginsWith(name.insert, typed)) found.items.push_back(std::move(name));
+        }
+        return found;
+    }
+    for (Completion& item : Parameters(*place.condAct, place.parameter)) {
+        if (Matches(item, typed) && Fits(place, item.insert)) found.items.push_back(std::move(item));
+    }
+    return found;
+}
+
+std::string CondActHelp::MeaningOfNumber(const Parameter& parameter, std::string_view token) const {
+    if (const LocationWord* place = FindLocationWord(parameter, token)) return std::string(place->meaning);
+    const std::optional<int> number = condacts::WholeNumber(token);
+    const KindName* name = NameOf(parameter.kind);
+    if (!number || name == nullptr) return "";
+    const std::vector<ListItem>& records = texts_.Of(parameter.kind);
+    const auto record = std::find_if(records.begin(), records.end(),
+                                     [&](const ListItem& item) { return item.number == *number; });
+    if (record == records.end()) return "there is no " + std::string(name->noun) + " " + std::string(token);
+    return record->text.empty() ? "no description" : record->text;
+}
+
+std::string CondActHelp::MeaningOfParameter(const CondAct& condAct, std::size_t place,
+                                            std::string_view token) const {
+    const Parameter& parameter = condAct.params[place];
+    if (parameter.kind == ParamKind::Value) return PhraseOf(condAct, place);
+    if (parameter.kind != ParamKind::Word) return MeaningOfNumber(parameter, token);
+    const condacts::WordCondition* condition = condacts::FindWordCondition(condAct.name);
+    const condacts::Word* word =
+        condition == nullptr ? nullptr : facts_.words.FindTyped(token, condition->wordType);
+    if (word == nullptr) return "";
+    return text::LowerCase(condacts::WordTypeName(word->type)) + " " + std::to_string(word->number);
+}
+
+std::string CondActHelp::Meaning(std::string_view line, std::size_t cursor) const {
+    const Place place = Find(line, cursor);
+    if (!place.known) return "";
+    const std::string_view token = line.substr(place.begin, place.end - place.begin);
+    if (place.condAct == nullptr) {
+        const CondAct* condAct = catalogue_.Find(token, facts_.dialect);
+        return condAct == nullptr ? "" : MeaningOfName(*condAct);
+    }
+    if (token.empty())
+        return place.condAct->name + " takes " + PhraseOf(*place.condAct, place.parameter) + " here";
+    const std::string meaning = MeaningOfParameter(*place.condAct, place.parameter, token);
+    if (meaning.empty()) return "";
+    return place.condAct->name + " " + text::UpperCase(token) + ": " + meaning;
+}
+
+std::string CondActHelp::Page(std::string_view line, std::size_t cursor) const {
+    const Place place = Find(line, cursor);
+    if (!place.known) return "";
+    const std::string_view token = line.substr(place.begin, place.end - place.begin);
+    const CondAct* condAct = place.condAct ? place.condAct : catalogue_.Find(token, facts_.dialect);
+    const auto page = condAct ? pages_.find(condAct->number) : pages_.end();
+    return page == pages_.end() ? "" : page->second;
+}
+
+std::optional<MarkedFault> CondActHelp::FirstFault(std::string_view line) const {
+    const auto fault = condacts::ValidateCondActs(line, catalogue_, facts_);
+    if (!fault) return std::nullopt;
+    const Token token = condacts::SplitLine(line).at(fault->token);
+    return MarkedFault{fault->message, token.position, token.position + token.text.size()};
+}
+
+std::optional<MarkedFault> CondActHelp::FirstFaultWhileTyping(std::string_view line,
+                                                              std::size_t cursor) const {
+    std::optional<MarkedFault> fault = FirstFault(line);
+    if (!fault || fault->end == cursor) return std::nullopt;
+    const condacts::ParsedLine parsed = condacts::ParseLine(line, catalogue_, facts_.dialect);
+    if (parsed.statements.empty()) return fault;
+    const condacts::Statement& last = parsed.statements.back();
+    const Token& end = parsed.tokens.back();
+    const bool unfinished = parsed.tokens[last.name].position == fault->begin &&
+                            last.paramsGiven < static_cast<std::size_t>(last.condAct->paramCount);
+    if (unfinished && cursor >= end.position + end.text.size()) return std::nullopt;
+    return fault;
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "authoring/fields/record_texts.h"
+#include "condacts/catalogue.h"
+#include "condacts/facts.h"
+#include "condacts/parser.h"
+
+namespace fabula::authoring {
+
+/// Something that can be written in a line of conditions and actions.
+struct Completion {
+    std::string insert;  ///< what is written: "7", "CARRIED", "MESSAGE"
+    std::string shown;   ///< what a list shows for it: "7  It is too dark"
+
+    friend bool operator==(const Completion&, const Completion&) = default;
+};
+
+/// What may be written at a place of a line, and the bytes that it replaces.
+struct Completions {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    std::vector<Completion> items;
+};
+
+/// A fault of a line, and the bytes of the token that is at fault.
+struct MarkedFault {
+    std::string message;
+    std::size_t begin = 0;
+    std::size_t end = 0;
+
+    friend bool operator==(const MarkedFault&, const MarkedFault&) = default;
+};
+
+/// What an author who writes conditions and actions wants to be told, from the adventure as it was when
+/// this was made: making it reads the tables, the answers read nothing. Places in a line count bytes, and a
+/// cursor stands before the byte of its number.
+class CondActHelp {
+  public:
+    explicit CondActHelp(store::Adventure& adventure);
+
+    const condacts::Catalogue& Catalogue() const { return catalogue_; }
+    const condacts::Facts& Facts() const { return facts_; }
+
+    /// The conditions and actions of the adventure's dialect, by name.
+    std::vector<Completion> Names() const;
+
+    /// What a parameter of a condition or action takes, `place` 0 or 1: numbers with what they stand for,
+    /// words, location words. None for a plain value.
+    std::vector<Completion> Parameters(const condacts::CondAct& condAct, std::size_t place) const;
+
+    /// What the parameter's field is called: "Location", "Message", "Adverb", "Value".
+    static std::string_view ParameterName(const condacts::CondAct& condAct, std::size_t place);
+
+    /// What may stand at the cursor: names, or what the parameter takes and passes the checks. The letters
+    /// before the cursor must be the beginning of it or, of what a number stands for, the beginning of a
+    /// word.
+    Completions Complete(std::string_view line, std::size_t cursor) const;
+
+    /// What the token at the cursor means: "MESSAGE 7: It is too dark"; where no token is, what could stand
+    /// there. "" in an empty line.
+    std::string Meaning(std::string_view line, std::size_t cursor) const;
+
+    /// The page of the help about the condition or action at the cursor, which may stand in its name or in
+    /// a parameter of it: "at.htm". "" where there is none.
+    std::string Page(std::string_view line, std::size_t cursor) const;
+
+    /// The first fault, or nullopt.
+    std::optional<MarkedFault> FirstFault(std::string_view line) const;
+    /// The same while the line is being typed: what is not finished at the cursor is no fault yet.
+    std::optional<MarkedFault> FirstFaultWhileTyping(std::string_view line, std::size_t cursor) const;
+
+  private:
+    struct Place;
+    Place Find(std::string_view line, std::size_t cursor) const;
+    bool Fits(const Place& place, std::string_view parameter) const;
+    std::vector<Completion> Words(const condacts::CondAct& condAct) const;
+    std::string MeaningOfParameter(const condacts::CondAct& condAct, std::size_t place,
+                                   std::string_view token) const;
+    std::string MeaningOfNumber(const condacts::Parameter& parameter, std::string_view token) const;
+
+    condacts::Catalogue catalogue_;
+    condacts::Facts facts_;
+    RecordTexts texts_;
+    std::map<int, std::string> pages_;  ///< by the number of the condition or action
+};
+
+}  // namespace fabula::authoring

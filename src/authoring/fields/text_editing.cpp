@@ -1,0 +1,120 @@
+#include "authoring/fields/text_editing.h"
+
+#include <algorithm>
+
+#include "engine/printer.h"
+#include "engine/script.h"
+#include "store/tags.h"
+#include "text/utf8.h"
+
+namespace fabula::authoring {
+namespace {
+
+/// A game's window that keeps the lines it is given and is nothing else of a window.
+class PreviewWindow final : public engine::GameWindow {
+  public:
+    explicit PreviewWindow(int width) : width_(width) {}
+
+    std::vector<ShownLine> TakeLines() { return std::move(lines_); }
+
+    int PrintWidth() const override { return width_; }
+    int CharacterAdvance() const override { return 1; }
+    void Write(std::string_view text, const engine::TextStyle& style, engine::TextRole) override {
+        lines_.back().push_back({std::string(text), style, {}});
+    }
+    void EndLine(engine::LineEnd) override { lines_.emplace_back(); }
+
+    void StartGame(const engine::GameLook&) override {}
+    void EndGame() override {}
+    void Clear(int, int) override {}
+    void ShowInput(std::string_view, std::string_view) override {}
+    void EndInput(std::string_view) override {}
+    void ShowPicture(const engine::Picture&) override {}
+    void HidePicture() override {}
+    void ShowStatus(engine::StatusField, std::string_view) override {}
+    void EnableNext(bool) override {}
+    void StartTimeOut(std::chrono::milliseconds) override {}
+    void StopTimeOut() override {}
+    void StartWait(std::chrono::milliseconds) override {}
+    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest&) override {
+        return std::nullopt;
+    }
+
+  private:
+    int width_;
+    std::vector<ShownLine> lines_{1};
+};
+
+void CountLine(const ShownLine& line, TextCounts& counts) {
+    bool inWord = false;
+    for (const ShownRun& run : line) {
+        for (const char32_t point : text::Decode(run.text)) {
+            const bool blank = point <= U' ' || point == U'\u00A0';
+            if (!blank && !inWord) ++counts.words;
+            if (!blank) ++counts.letters;
+            inWord = !blank;
+        }
+    }
+}
+
+std::string Plural(int count, std::string_view thing) {
+    return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");
+}
+
+}  // namespace
+
+std::string CountsLine(const TextCounts& counts) {
+    return Plural(counts.words, "word") + ", " + Plural(counts.letters, "letter");
+}
+
+TextEditing::TextEditing(store::Adventure& adventure)
+    : tags_(store::LoadTagCatalogue(adventure)), settings_(engine::ReadTextSettings(adventure)) {
+    // Texts are centred by this width.
+    if (PreviewColumns() > 0) settings_.printWidth = PreviewColumns();
+}
+
+std::string TextEditing::NameOfFont(int font) const {
+    if (settings_.characterSets) return {};
+    const auto found = settings_.fontNames.find(font);
+    return found == settings_.fontNames.end() ? std::string() : found->second;
+}
+
+int TextEditing::FontPoints() const {
+    const auto found = settings_.fontSizes.find(settings_.fontSize);
+    if (found == settings_.fontSizes.end() || found->second <= 0) return kDefaultPoints;
+    return found->second;
+}
+
+int TextEditing::PreviewColumns() const {
+    if (settings_.characterSets) return 0;
+    if (settings_.printWidth <= 0) return kWidestPreview;
+    return std::min(settings_.printWidth, kWidestPreview);
+}
+
+ShownText TextEditing::Print(std::string_view text, int width) const {
+    const std::string_view shown = text::Left(text, kLongestPreview);
+    PreviewWindow window(width);
+    engine::Script noScript;
+    engine::Printer printer(window, settings_, noScript);
+    printer.PrintText(shown, true, true);
+    ShownText result{window.TakeLines(), shown.size() == text.size()};
+    for (ShownLine& line : result.lines) {
+        for (ShownRun& run : line)
+            run.fontName = NameOfFont(run.style.font);
+    }
+    return result;
+}
+
+ShownText TextEditing::Show(std::string_view text) const {
+    const int columns = PreviewColumns();
+    return Print(text, columns == 0 ? engine::kNoWidthLimit : columns);
+}
+
+TextCounts TextEditing::Count(std::string_view text) const {
+    TextCounts counts;
+    for (const ShownLine& line : Print(text, engine::kNoWidthLimit).lines)
+        CountLine(line, counts);
+    return counts;
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,258 @@
+#include "authoring/jobs/interchange_screen.h"
+
+#include <array>
+#include <span>
+#include <system_error>
+
+#include "authoring/document/screen_context.h"
+#include "authoring/files/start_up.h"
+#include "authoring/jobs/status_text.h"
+#include "text/str_edit.h"
+
+namespace fabula::authoring {
+namespace {
+
+using interchange::FileKind;
+using interchange::JobResult;
+using std::filesystem::path;
+
+constexpr std::int64_t kStepsAYield = 10;
+
+constexpr std::string_view kImportKinds[] = {"UnMarlo", "UnVel", "PCVEL", "Fabula", "ACE"};
+constexpr std::string_view kExportKinds[] = {"UnVel", "PCVEL", "Fabula"};
+constexpr std::string_view kGraphicKinds[] = {"UnMarlo", "UnVel"};
+
+struct ModeRow {
+    std::string_view title;
+    std::string_view label;
+    std::string_view button;
+    std::span<const std::string_view> kinds;
+    std::string_view verb;  ///< what the kinds that are missing can't do
+    std::string_view whyNot;
+};
+
+const std::array<ModeRow, 3> kModes{{
+    {"Import of source file", "Import Status", "&Import", kImportKinds, "read", ""},
+    {"Export of Database", "Export Status", "&Export", kExportKinds, "write", ""},
+    {"Import of Graphic Record into record ", "Import Status", "&Load", kGraphicKinds, "read",
+     "This version cannot yet take single pictures out of the listings of older games."},
+}};
+
+const ModeRow& RowOf(JobMode mode) {
+    return kModes[static_cast<std::size_t>(mode)];
+}
+
+std::vector<InterchangeScreen::KindOption> KindsOf(JobMode mode) {
+    std::vector<InterchangeScreen::KindOption> kinds;
+    for (const std::string_view name : RowOf(mode).kinds) {
+        const FileKind* kind = interchange::FindFileKind(name);
+        const bool usable = kind && (mode == JobMode::Export ? kind->CanWrite() : kind->CanRead());
+        InterchangeScreen::KindOption option{name, usable ? kind : nullptr};
+        if (!usable)
+            option.why = "This version cannot yet " + std::string(RowOf(mode).verb) +
+                         " files of the kind " + std::string(name) + ".";
+        kinds.push_back(option);
+    }
+    return kinds;
+}
+
+std::string Trimmed(const std::string& text) {
+    return text::StrEdit(text, "trim");
+}
+
+bool IsSameFile(const path& left, const path& right) {
+    std::error_code missing;  // what is not there is no file
+    return std::filesystem::equivalent(left, right, missing);
+}
+
+/// "sce" of "*.sce".
+std::string ExtensionOf(std::string_view defaultName, std::string_view otherwise) {
+    const std::string_view name = defaultName.empty() ? otherwise : defaultName;
+    return std::string(name.substr(name.find('.') + 1));
+}
+
+}  // namespace
+
+InterchangeScreen::InterchangeScreen(JobMode mode, store::Adventure* adventure, const InterchangeHost& host,
+                                     int record)
+    : mode_(mode), adventure_(adventure), host_(host), record_(record), kinds_(KindsOf(mode)) {
+    while (chosen_ + 1 < kinds_.size() && !kinds_[chosen_].kind)
+        ++chosen_;
+}
+
+std::string InterchangeScreen::Title() const {
+    const std::string title(RowOf(mode_).title);
+    return mode_ == JobMode::LoadGraphic ? title + std::to_string(record_) : title;
+}
+
+std::string_view InterchangeScreen::StatusCaption() const {
+    return RowOf(mode_).label;
+}
+
+std::string_view InterchangeScreen::MainButton() const {
+    return RowOf(mode_).button;
+}
+
+std::string_view InterchangeScreen::WhyNot() const {
+    if (mode_ == JobMode::Export && !adventure_) return "No adventure is open.";
+    return RowOf(mode_).whyNot;
+}
+
+bool InterchangeScreen::ChooseKind(std::size_t option) {
+    if (running_ || option >= kinds_.size() || !kinds_[option].kind) return false;
+    chosen_ = option;
+    return true;
+}
+
+void InterchangeScreen::ChooseSource() {
+    const bool writes = mode_ == JobMode::Export;
+    interchange::DialogText shown{"", "Select Source File", "All Files|*.*"};
+    if (const FileKind* kind = Kind()) shown = writes ? kind->exportDialog : kind->importDialog;
+    path start = Trimmed(source);
+    if (start.empty() && adventure_) {
+        start = adventure_->GameDir();
+        if (writes && Kind())
+            start /= adventure_->CurrentFile().stem().string() + std::string(Kind()->extension);
+    }
+    const std::string extension =
+        writes && Kind() ? ExtensionOf(shown.defaultName, Kind()->extension) : std::string();
+    const auto file = host_.dialogs.ChooseFile(
+        {std::string(shown.title), std::string(shown.filter), extension, writes, start});
+    if (!file) return;
+    source = file->string();
+    if (writes) agreed_ = *file;
+    if (!writes && Trimmed(database).empty()) database = path(*file).replace_extension(".fbd").string();
+    Show();
+}
+
+void InterchangeScreen::ChooseDatabase() {
+    path start = Trimmed(database);
+    if (start.empty()) start = path(Trimmed(source)).parent_path();
+    const auto file =
+        host_.dialogs.ChooseFile({"Create a Fabula Database", "Fabula Database|*.fbd", "fbd", true, start});
+    if (!file) return;
+    database = file->string();
+    agreed_ = *file;
+    Show();
+}
+
+/// A name without a folder lies beside the open adventure, and not where the program was started.
+std::string InterchangeScreen::Placed(const std::string& typed) const {
+    const path file = Trimmed(typed);
+    if (file.empty() || !adventure_) return file.string();
+    return (adventure_->GameDir() / file).string();
+}
+
+bool InterchangeScreen::RunJob() {
+    if (!CanRun()) return false;
+    if (Trimmed(source).empty()) return Refuse(host_.dialogs, "Source File not specified");
+    source = Placed(source);
+    database = Placed(database);
+    return mode_ == JobMode::Export ? ExportIt() : ImportIt();
+}
+
+bool InterchangeScreen::ImportIt() {
+    if (database.empty()) ChooseDatabase();
+    if (database.empty()) return false;
+    path target = database;
+    if (!target.has_extension()) target += ".fbd";
+    database = target.string();
+    if (IsSameFile(source, target))
+        return Refuse(host_.dialogs, "The database cannot be the source file itself");
+    if (adventure_ && IsSameFile(target, adventure_->CurrentFile()))
+        return Refuse(host_.dialogs, "The database cannot be the open adventure itself");
+    if (!MayReplace(target)) return false;
+    const bool imported =
+        Run([&] { return interchange::ImportIt(*Kind(), source, target, true, JobHost()).done; });
+    if (!imported) return false;
+    newFile_ = std::filesystem::absolute(target);
+    host_.settings.Set(startup::kSection, startup::kFile, newFile_->string());
+    return true;
+}
+
+bool InterchangeScreen::ExportIt() {
+    path target = source;
+    if (!target.has_extension()) target += std::string(Kind()->extension);
+    source = target.string();
+    if (IsSameFile(target, adventure_->CurrentFile()))
+        return Refuse(host_.dialogs, "The export cannot be written over the adventure itself");
+    if (!MayReplace(target)) return false;
+    const auto verifier = [this](store::Adventure& adventure, const FileKind& kind,
+                                 interchange::JobStatus& status) {
+        return Verify(adventure, kind, status);
+    };
+    return Run(
+        [&] { return interchange::ExportIt(*Kind(), *adventure_, target, verifier, JobHost()).done; });
+}
+
+bool InterchangeScreen::Verify(store::Adventure& adventure, const FileKind& kind,
+                               interchange::JobStatus& status) {
+    VerifyScreen verify(adventure, VerifyTargetFrom(kind.word).value_or(VerifyTarget::Play), host_.events);
+    showVerify(verify);
+    status.AddToStatus(verify.Status());
+    return verify.Passed();
+}
+
+/// Asks before a file is replaced, unless its dialog has done so.
+bool InterchangeScreen::MayReplace(const path& file) {
+    std::error_code missing;  // what can't be looked at fails when it is written
+    if (file == agreed_ || !std::filesystem::exists(file, missing)) return true;
+    return host_.dialogs.Confirm("All information in " + file.string() + " will be deleted.", "Warning");
+}
+
+bool InterchangeScreen::Run(const std::function<bool()>& job) {
+    running_ = true;
+    cancel_ = false;
+    bool done = false;
+    Show();
+    try {
+        done = job();
+    } catch (const Error& error) {
+        status_ += std::string(error.what()) + "\n";
+        host_.dialogs.Tell(error.what(), "Error");
+    } catch (...) {
+        running_ = false;
+        throw;
+    }
+    running_ = false;
+    done_ = done;
+    printable_ = true;
+    bar_ = 0;
+    Show();
+    return done;
+}
+
+interchange::JobHost InterchangeScreen::JobHost() {
+    return {host_.dialogs, host_.clock, host_.events, *this, host_.defaultData};
+}
+
+bool InterchangeScreen::SaveStatus() {
+    const path file = Trimmed(source);
+    return SaveStatusText(status_, file.parent_path() / (file.stem().string() + "-status.txt"),
+                          host_.dialogs);
+}
+
+void InterchangeScreen::StatusAdded(std::string_view text) {
+    status_ += text;
+    Show();
+}
+
+void InterchangeScreen::StatusCleared() {
+    status_.clear();
+    Show();
+}
+
+void InterchangeScreen::Progress(std::int64_t value, std::int64_t maximum) {
+    bar_ = value;
+    barMaximum_ = maximum;
+    if (value / kStepsAYield == yielded_) return;
+    yielded_ = value / kStepsAYield;
+    Show();
+}
+
+void InterchangeScreen::Show() {
+    changed();
+    if (running_) host_.events.Pump();
+}
+
+}  // namespace fabula::authoring

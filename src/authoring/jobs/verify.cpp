@@ -1,0 +1,287 @@
+#include "authoring/jobs/verify.h"
+
+#include <set>
+#include <string>
+
+#include "condacts/load.h"
+#include "condacts/parser.h"
+#include "condacts/validate.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::authoring {
+namespace {
+
+using condacts::CondAct;
+using condacts::Dialect;
+using condacts::ParsedLine;
+using condacts::Statement;
+using interchange::JobStatus;
+using store::Adventure;
+using store::PreparedQuery;
+using store::TableNum;
+
+struct TargetRow {
+    VerifyTarget target;
+    std::string_view kind;
+    std::string_view word;  ///< in the messages
+    Dialect dialect;        ///< whose conditions and actions may be used
+    std::string_view
+        commands;  ///< the field of `Commands` that says whose graphics commands; "" for no check
+};
+
+constexpr TargetRow kTargets[] = {
+    {VerifyTarget::UnVel, "unvel", "Vel", Dialect::Vel, "vel"},
+    {VerifyTarget::PCVel, "pcvel", "PCVel", Dialect::PCVel, ""},
+    {VerifyTarget::Fabula, "fabula", "Fabula", Dialect::Fabula, "fabula"},
+    {VerifyTarget::Ace, "ace", "ACE", Dialect::Fabula, "fabula"},
+};
+
+struct LimitRow {
+    std::string_view step;
+    std::string_view record;  ///< in the message
+    TableNum table;
+    const char* key;
+    std::int64_t highest;
+};
+
+constexpr LimitRow kLimits[] = {
+    {"Verifying Locations", "location", TableNum::Locations, "locnum", 255},
+    {"Verifying Messages", "message", TableNum::Messages, "msgnum", 255},
+    {"Verifying Objects", "object", TableNum::Objects, "objnum", 255},
+    {"Verifying System Messages", "System Message", TableNum::SystemMessages, "smsgnum", 255},
+    {"Verifying Flags", "Flags", TableNum::Flags, "flgnum", 1024},
+};
+
+constexpr int kHeaviest = 63;
+constexpr int kRowsAProgressLine = 5;
+constexpr std::int64_t kMostGraphicCharacters = 19;
+
+int CountRecords(Adventure& adventure, TableNum table, const char* key, std::string_view where) {
+    PreparedQuery rows = adventure.Prepare(table, key, where);
+    int count = 0;
+    for (bool more = rows.First({}); more; more = rows.Next())
+        ++count;
+    return count;
+}
+
+/// One run of the check.
+class Verification {
+  public:
+    Verification(Adventure& adventure, const TargetRow* target, JobStatus& status)
+        : adventure_(adventure),
+          target_(target),
+          status_(status),
+          catalogue_(condacts::LoadCatalogue(adventure)) {}
+
+    bool Run() {
+        CheckDefaultPicture();
+        if (IsOwnMarlo()) CheckMarlo();
+        if (target_ == nullptr) CheckEntries();
+        if (adventure_.AdventureTypeLower() != "fabula") CheckLimits();
+        if (target_ != nullptr) {
+            CheckCondActsForExport();
+            if (!target_->commands.empty()) CheckPicturesForExport();
+            if (target_->target == VerifyTarget::UnVel) CheckCountsForUnVel();
+        }
+        if (ok_) Step("No Errors Found");
+        Step("Verify Completed");
+        return ok_;
+    }
+
+  private:
+    void Step(const std::string& text) { status_.AddToStatusCR(text); }
+    void Fail(const std::string& text) {
+        status_.AddToStatusCR(text);
+        ok_ = false;
+    }
+
+    void CheckDefaultPicture() {
+        PreparedQuery settings = adventure_.Prepare(TableNum::Adventure, "graphics, defpickey", "");
+        settings.First({});
+        if (settings.Number(0) == 0 || !text::TrimBlanks(settings.Text(1)).empty()) return;
+        Fail("No Default Picture defined. You MUST have a default picture.");
+        Fail("Use the black.gif or white.bmp distributed with the IDE.");
+        Fail("If you don't want graphics, turn it off in the Adventure Settings.");
+    }
+
+    bool IsOwnMarlo() {
+        PreparedQuery settings = adventure_.Prepare(TableNum::Adventure, "unmarloed, adventype", "");
+        settings.First({});
+        return settings.Number(0) == 0 && settings.Text(1) == "Marlo";
+    }
+
+    void CheckMarlo() {
+        Step("Verifying Object table for weights > 63");
+        PreparedQuery heavy =
+            adventure_.Prepare(TableNum::Objects, "objnum", "objweight>" + std::to_string(kHeaviest));
+        for (bool more = heavy.First({}); more; more = heavy.Next()) {
+            Fail("Object # " + std::to_string(heavy.Number(0)) + " has a weight > 63.");
+        }
+        Step("Verifying Vocabulary for Vocabulary Type > 7");
+        bool wordsFit = true;
+        PreparedQuery words = adventure_.Prepare(TableNum::Vocabulary, "word", "voctypen>7");
+        for (bool more = words.First({}); more; more = words.Next()) {
+            Fail("Word " + std::string(words.Text(0)) + " has an invalid Word Type.");
+            wordsFit = false;
+        }
+        if (wordsFit) {
+            CheckEntryWords();
+        } else {
+            Fail("Because of the Vocabulary errors, Process Tables were not checked.");
+            Fail("There may be more errors in the Process Tables.");
+        }
+    }
+
+    void CheckEntryWords() {
+        Step("Verifying Status/Response Tables");
+        const condacts::WordIndex words = condacts::LoadWords(adventure_);
+        const auto fits = [&](std::string_view word) {
+            return word == "_" || word == "*" || words.Find(word, [](const condacts::Word& found) {
+                return found.type == condacts::kVerb || found.type == condacts::kNoun;
+            }) != nullptr;
+        };
+        PreparedQuery rows = Entries();
+        for (bool more = rows.First({}); more; more = rows.Next()) {
+            if (fits(rows.Text(2)) && fits(rows.Text(3))) continue;
+            Fail(
+                "The following Process Entry has an invalid word in Verb or Noun. The word shown is a NOT "
+                "a Verb or "
+                "Noun, which is not allowed.");
+            Fail(NameOf(rows));
+        }
+    }
+
+    void CheckEntries() {
+        Step("Verifying Process/Response Tables ");
+        const condacts::Facts facts = condacts::LoadFacts(adventure_);
+        PreparedQuery rows = Entries();
+        int count = 0;
+        for (bool more = rows.First({}); more; more = rows.Next()) {
+            if (++count % kRowsAProgressLine == 0)
+                status_.AddProgressLine("    Process " + std::to_string(count));
+            status_.IncBar(1);
+            const std::string line(rows.Text(4));
+            const auto fault = condacts::ValidateCondActs(line, catalogue_, facts);
+            if (!fault) continue;
+            Fail(NameOf(rows));
+            Fail(FaultyPart(line, fault->token) + " is an invalid Condition/Action");
+            if (!fault->message.ends_with(" is an invalid Condition/Action")) Fail("    " + fault->message);
+        }
+    }
+
+    /// The condition or action that token number `token` belongs to.
+    std::string FaultyPart(const std::string& line, std::size_t token) const {
+        const ParsedLine parsed = condacts::ParseLine(line, catalogue_);
+        for (const Statement& statement : parsed.statements) {
+            if (token < statement.name || token > statement.name + statement.paramsGiven) continue;
+            std::string part(parsed.tokens[statement.name].text);
+            for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
+                part += " " + std::string(parsed.Param(statement, p));
+            }
+            return part;
+        }
+        return std::string(parsed.tokens.at(token).text);
+    }
+
+    void CheckLimits() {
+        for (const LimitRow& limit : kLimits) {
+            Step(std::string(limit.step));
+            const std::string key = limit.key;
+            PreparedQuery highest = adventure_.Prepare(limit.table, key, key + ">=0", key + " desc");
+            if (!highest.First({}) || highest.Number(0) <= limit.highest) continue;
+            Fail("Extended " + std::string(limit.record) + " " + std::to_string(highest.Number(0)) +
+                 " not allowed in " + adventure_.AdventureType() + " type Adventure");
+        }
+    }
+
+    void CheckCondActsForExport() {
+        Step("Verifying Process/Response Tables for " + std::string(target_->word) + " export");
+        std::set<int> refused;
+        PreparedQuery rows = Entries();
+        for (bool more = rows.First({}); more; more = rows.Next()) {
+            status_.IncBar(1);
+            for (const Statement& statement : condacts::ParseLine(rows.Text(4), catalogue_).statements) {
+                const CondAct& condAct = *statement.condAct;
+                if (condAct.fabula && !condAct.ExistsIn(target_->dialect)) refused.insert(condAct.number);
+            }
+        }
+        for (const int number : refused) {
+            Fail("Use of " + catalogue_.Find(number)->name + " Condition/Action. This is not a valid " +
+                 std::string(target_->word) + " Condition/Action.");
+        }
+    }
+
+    void CheckPicturesForExport() {
+        Step("Verifying Graphics Tables for " + std::string(target_->word) + " export");
+        const std::string own = "fabula=true and " + std::string(target_->commands) + "=false";
+        PreparedQuery commands = adventure_.Prepare(TableNum::Commands, "coname", own);
+        const std::set<std::string> used = CommandsInUse();
+        for (bool more = commands.First({}); more; more = commands.Next()) {
+            if (!used.contains(text::UpperCase(commands.Text(0)))) continue;
+            Fail("Use of " + std::string(commands.Text(0)) + " Graphics command. This is not a valid " +
+                 std::string(target_->word) + " Graphics command.");
+        }
+    }
+
+    std::set<std::string> CommandsInUse() {
+        std::set<std::string> used;
+        PreparedQuery pictures = adventure_.Prepare(TableNum::Pictures, "drawstring", "");
+        for (bool more = pictures.First({}); more; more = pictures.Next()) {
+            for (const condacts::Token& token : condacts::SplitLine(pictures.Text(0))) {
+                used.insert(text::UpperCase(token.text));
+            }
+        }
+        return used;
+    }
+
+    void CheckCountsForUnVel() {
+        if (CountRecords(adventure_, TableNum::Pictures, "locnum", "") !=
+            CountRecords(adventure_, TableNum::Locations, "locnum", "")) {
+            Fail(
+                "There are not the same number of Graphics records as Location records. This is not "
+                "allowed in " +
+                std::string(target_->word));
+        }
+        if (CountRecords(adventure_, TableNum::Characters, "charnum", "charnum>143") >
+            kMostGraphicCharacters) {
+            Step("There are more than 19 UDGs. Only the first 19 will be exported.");
+        }
+    }
+
+    PreparedQuery Entries() {
+        return adventure_.Prepare(TableNum::ProcessTables, "estype, canum, w1, w2, condacts", "");
+    }
+
+    static std::string NameOf(const PreparedQuery& entry) {
+        return "Process Table " + std::to_string(entry.Number(0)) + " Entry # " +
+               std::to_string(entry.Number(1)) + " (" + std::string(entry.Text(2)) + " " +
+               std::string(entry.Text(3)) + " " + std::string(entry.Text(4)) + ")";
+    }
+
+    Adventure& adventure_;
+    const TargetRow* target_;  ///< nullptr for play
+    JobStatus& status_;
+    condacts::Catalogue catalogue_;
+    bool ok_ = true;
+};
+
+}  // namespace
+
+std::optional<VerifyTarget> VerifyTargetFrom(std::string_view kind) {
+    for (const TargetRow& row : kTargets) {
+        if (text::EqualsNoCase(row.kind, kind)) return row.target;
+    }
+    return std::nullopt;
+}
+
+bool VerifyAdventure(Adventure& adventure, VerifyTarget target, JobStatus& status) {
+    const TargetRow* row = nullptr;
+    for (const TargetRow& candidate : kTargets) {
+        if (candidate.target == target) row = &candidate;
+    }
+    const store::ReadTransaction reading(adventure);
+    return Verification(adventure, row, status).Run();
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "authoring/fields/controls.h"
+#include "authoring/screens/record_screen.h"
+
+namespace fabula::authoring {
+
+/// The screen of what a flag is used for. Flags are not added here: the key is that of a record.
+class FlagScreen : public RecordScreen {
+  public:
+    FlagScreen(ScreenContext& context, ScreenKey key);
+
+    DropList type;
+    DropList use;
+    std::string description;  ///< with "\n" for line ends
+
+    bool LeaveType();
+    bool LeaveUse();
+    bool LeaveDescription();
+
+    /// True when the screen can close: what was changed is stored.
+    bool Update();
+
+  private:
+    std::vector<std::string> Typed() const;
+
+    std::vector<std::string> opened_;  ///< what `Typed` gave at first
+};
+
+}  // namespace fabula::authoring

@@ -1,0 +1,261 @@
+#include "authoring/screens/location_screen.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <optional>
+
+#include "authoring/fields/location_names.h"
+#include "authoring/fields/picture_choice.h"
+#include "authoring/fields/text_field.h"
+#include "condacts/load.h"
+#include "text/fields.h"
+#include "text/numbers.h"
+#include "text/str_edit.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::TableNum;
+
+constexpr int kBehindDirections = 14;
+
+std::string Edited(std::string_view exits) {
+    return std::string(text::TrimBlanks(text::CollapseBlanks(exits)));
+}
+
+/// The words and locations of a line of exits, one behind the other.
+std::vector<std::string_view> Tokens(std::string_view edited) {
+    if (edited.empty()) return {};
+    return text::Split(edited, " ");
+}
+
+std::string_view TokenAt(const std::vector<std::string_view>& tokens, std::size_t index) {
+    return index < tokens.size() ? tokens[index] : std::string_view();
+}
+
+/// The number that was typed for a location, -1 for one that can't be any; nullopt when it is no number.
+std::optional<int> LocationNumber(std::string_view typed) {
+    const std::optional<std::int64_t> number = text::WholeNumber(typed);
+    if (!number) return std::nullopt;
+    const bool possible = *number >= 0 && *number <= std::numeric_limits<int>::max();
+    return possible ? static_cast<int>(*number) : -1;
+}
+
+bool IsVerbOrNoun(const condacts::Word& word) {
+    return word.type == condacts::kVerb || word.type == condacts::kNoun;
+}
+
+/// Directions come first, by their number: what is typed is completed by the first word that fits.
+int ProbableRank(const ListItem& word) {
+    return std::min(word.number, kBehindDirections);
+}
+
+void AppendTo(std::string& line, std::string_view word, std::string_view location) {
+    if (!line.empty()) line += ' ';
+    line.append(word).append(" ").append(location);
+}
+
+}  // namespace
+
+LocationScreen::LocationScreen(ScreenContext& context, ScreenKey key)
+    : RecordScreen(context, TableNum::Locations, key, "location"),
+      words_(condacts::LoadWords(context.document.Adventure())) {
+    for (const condacts::Word& word : words_.All()) {
+        if (condacts::IsMovementWord(word)) exitWord.items.push_back({word.number, word.word});
+    }
+    std::stable_sort(
+        exitWord.items.begin(), exitWord.items.end(),
+        [](const ListItem& a, const ListItem& b) { return ProbableRank(a) < ProbableRank(b); });
+    exitPlace.items = LocationNames(Adventure());
+    ReadNeighbours();
+    if (!key.isNew) ReadRecord();
+    opened_ = Typed();
+}
+
+void LocationScreen::ReadRecord() {
+    const store::Cursor& record = OpenRecord();
+    description = ToEdited(record.Text("locdesc"));
+    shortDescription = ToEdited(record.Text("locshortdesc"));
+    exits = record.Text("exits");
+    picture = text::TrimBlanks(record.Text("picloc"));
+}
+
+void LocationScreen::ReadNeighbours() {
+    store::PreparedQuery rows =
+        Adventure().Prepare(TableNum::Locations, "locnum, exits, numericexits", "numexits>0");
+    const std::string here = std::to_string(Key().key);
+    for (bool more = rows.First({}); more; more = rows.Next()) {
+        const auto words = text::Split(rows.Text(1), " ");
+        const auto numbers = text::Split(rows.Text(2), " ");
+        const int location = static_cast<int>(rows.Number(0));
+        for (std::size_t i = 1; i < numbers.size(); i += 2) {
+            if (numbers[i] != here) continue;
+            leadsHere_.push_back(
+                {location, NameIn(exitPlace.items, location), std::string(TokenAt(words, i - 1))});
+        }
+    }
+}
+
+bool LocationScreen::LeaveDescription() {
+    return CheckText("description", description, true);
+}
+
+bool LocationScreen::LeaveShortDescription() {
+    if (!CheckLength("shortDescription", shortDescription, kLongestShortDesc)) return false;
+    return CheckText("shortDescription", shortDescription, true);
+}
+
+/// A location that is being added may lead to itself.
+bool LocationScreen::Exists(int location) const {
+    if (location == Key().key) return true;
+    for (const ListItem& item : exitPlace.items) {
+        if (item.number == location) return true;
+    }
+    return false;
+}
+
+/// `word` is that of the exit; "" for the location alone.
+bool LocationScreen::CheckLocation(std::string_view control, std::string_view number,
+                                   std::string_view word) {
+    const std::string typed(number);
+    const std::string of(word);
+    const std::optional<int> location = LocationNumber(number);
+    if (!location) {
+        const std::string message = "TO location " + (of.empty() ? "" : "for " + of);
+        return RefuseField(control, message + "must be numeric");
+    }
+    if (Exists(*location)) return true;
+    const std::string message = "There is not a location with a number of " + typed;
+    return RefuseField(control, of.empty() ? message : message + " for " + of);
+}
+
+bool LocationScreen::CheckExit(std::string_view control, std::string_view word, std::string_view location) {
+    const std::string typed(word);
+    if (words_.Find(word) == nullptr) return RefuseField(control, typed + " is not a valid word");
+    if (words_.Find(word, IsVerbOrNoun) == nullptr) {
+        return RefuseField(control, typed + " is not a Verb or conversion Noun");
+    }
+    if (words_.Find(word, condacts::IsMovementWord) == nullptr) {
+        return RefuseField(control, typed + " is not identified as a movement word (value<20)");
+    }
+    return CheckLocation(control, location, word);
+}
+
+bool LocationScreen::LeaveExits() {
+    const std::string edited = Edited(exits);
+    const auto tokens = Tokens(edited);
+    for (std::size_t i = 0; i < tokens.size(); i += 2) {
+        if (!CheckExit("exits", tokens[i], TokenAt(tokens, i + 1))) return false;
+    }
+    return true;
+}
+
+bool LocationScreen::LeaveExitPlace() {
+    return CheckLocation("exitPlace", text::TrimBlanks(exitPlace.text), "");
+}
+
+bool LocationScreen::Add() {
+    if (!LeaveExitPlace()) return false;
+    const std::string word = Edited(exitWord.text);
+    const std::string location(text::TrimBlanks(exitPlace.text));
+    if (!CheckExit("exitWord", word, location)) return false;
+    exits = Edited(exits);
+    AppendTo(exits, word, location);
+    exitWord.text.clear();
+    exitPlace.text.clear();
+    return true;
+}
+
+bool LocationScreen::HasPendingExit() const {
+    return !text::TrimBlanks(exitWord.text).empty() || !text::TrimBlanks(exitPlace.text).empty();
+}
+
+void LocationScreen::ChoosePicture() {
+    const auto chosen = authoring::ChoosePicture(context_, kPictureTitle, picture);
+    if (chosen) picture = *chosen;
+}
+
+std::vector<ExitRow> LocationScreen::Exits() const {
+    const std::string edited = Edited(exits);
+    const auto tokens = Tokens(edited);
+    std::vector<ExitRow> rows;
+    for (std::size_t i = 0; i < tokens.size(); i += 2) {
+        const std::string_view location = TokenAt(tokens, i + 1);
+        rows.push_back({std::string(tokens[i]), std::string(location),
+                        NameIn(exitPlace.items, LocationNumber(location).value_or(-1))});
+    }
+    return rows;
+}
+
+void LocationScreen::SetExits(const std::vector<ExitRow>& rows) {
+    exits.clear();
+    for (const ExitRow& row : rows) {
+        if (!row.word.empty() && !row.location.empty()) AppendTo(exits, row.word, row.location);
+    }
+}
+
+/// The exits of a line that passed its check.
+std::vector<LocationScreen::Exit> LocationScreen::ParsedExits() const {
+    const std::string edited = Edited(exits);
+    const auto tokens = Tokens(edited);
+    std::vector<Exit> parsed;
+    for (std::size_t i = 0; i + 1 < tokens.size(); i += 2) {
+        const condacts::Word* typed = words_.Find(tokens[i], condacts::IsMovementWord);
+        parsed.push_back({words_.FindNumber(typed->number, condacts::IsMovementWord),
+                          LocationNumber(tokens[i + 1]).value_or(-1)});
+    }
+    return parsed;
+}
+
+void LocationScreen::StoreExits(store::Cursor& record) const {
+    const std::vector<Exit> parsed = ParsedExits();
+    std::string stored;
+    std::string numericExits;
+    for (const Exit& exit : parsed) {
+        const std::string location = std::to_string(exit.location);
+        AppendTo(stored, exit.word->word, location);
+        AppendTo(numericExits, std::to_string(exit.word->number), location);
+    }
+    record.SetField("exits", stored);
+    record.SetField("numericexits", numericExits);
+    record.SetField("numexits", static_cast<std::int64_t>(2 * parsed.size()));
+}
+
+void LocationScreen::StorePicture(store::Cursor& record) const {
+    if (picture.empty()) {
+        record.SetField("pickey", std::string());
+        record.SetField("picloc", std::string());
+        record.SetField("picgraphic", {});
+        record.SetField("oldpicloc", std::string(" "));
+        return;
+    }
+    record.SetField("pickey", "Room" + std::to_string(Key().key));
+    record.SetField("picloc", picture);
+    if (Key().isNew) record.SetField("oldpicloc", std::string(" "));
+    const bool kept = Adventure().OpenTable(TableNum::Adventure, "graphicsindb").Truth("graphicsindb");
+    if (!kept || picture == text::TrimBlanks(record.Text("oldpicloc"))) return;
+    record.StoreFileInField(PictureFile(context_, picture), "picgraphic", "oldpicloc");
+    record.SetField("oldpicloc", picture);
+}
+
+std::vector<std::string> LocationScreen::Typed() const {
+    return {description, shortDescription, exits, picture};
+}
+
+bool LocationScreen::Update() {
+    if (Typed() == opened_ && !HasPendingExit()) return true;
+    if (!LeaveDescription() || !LeaveShortDescription() || !LeaveExits()) return false;
+    if (HasPendingExit() && !Add()) return false;
+    Change change(context_.document, ChangeName());
+    store::Cursor& record = RecordToStore();
+    record.SetField("locdesc", ToStored(description));
+    record.SetField("locshortdesc", ToStored(shortDescription));
+    StoreExits(record);
+    StorePicture(record);
+    record.Update();
+    change.Commit();
+    return true;
+}
+
+}  // namespace fabula::authoring

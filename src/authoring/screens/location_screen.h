@@ -1,0 +1,89 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "authoring/fields/controls.h"
+#include "authoring/screens/record_screen.h"
+#include "condacts/words.h"
+
+namespace fabula::authoring {
+
+/// One exit of the line `exits` as a row.
+struct ExitRow {
+    std::string word;
+    std::string location;  ///< a number, or what stands in its place; "" where the line ends with a word
+    std::string name;      ///< of the location; "" when there is none. Not read back.
+
+    friend bool operator==(const ExitRow&, const ExitRow&) = default;
+};
+
+/// A location with an exit that leads here.
+struct Neighbour {
+    int location = 0;
+    std::string name;
+    std::string word;
+
+    friend bool operator==(const Neighbour&, const Neighbour&) = default;
+};
+
+/// The screen of a location.
+class LocationScreen : public RecordScreen {
+  public:
+    LocationScreen(ScreenContext& context, ScreenKey key);
+
+    std::string description;  ///< with "\n" for line ends
+    std::string shortDescription;
+    std::string exits;    ///< "NORTH 5 SOUTH 7"
+    ComboBox exitWord;    ///< the movement words
+    ComboBox exitPlace;   ///< the locations; `text` is a number
+    std::string picture;  ///< the picture's path, as stored; "" for none
+
+    bool LeaveDescription();
+    bool LeaveShortDescription();
+    bool LeaveExits();
+    bool LeaveExitPlace();
+
+    /// Adds the exit of `exitWord` and `exitPlace` to the line, and empties both.
+    bool Add();
+    void ChoosePicture();
+    void ClearPicture() { picture.clear(); }
+
+    /// The exits as rows, faulty ones too. Rows are put back into the line as they stand; one without a
+    /// word or a location is left out.
+    std::vector<ExitRow> Exits() const;
+    void SetExits(const std::vector<ExitRow>& rows);
+
+    /// The locations from which an exit leads here, by number.
+    const std::vector<Neighbour>& LeadsHere() const { return leadsHere_; }
+
+    /// True when the screen can close: what was changed is stored, an exit that was not added yet too.
+    bool Update();
+
+    static constexpr std::string_view kPictureTitle = "Load Room Picture";
+    static constexpr std::size_t kLongestShortDesc = 255;
+
+  private:
+    struct Exit {
+        const condacts::Word* word;  ///< the first of its number
+        int location;
+    };
+
+    void ReadRecord();
+    void ReadNeighbours();
+    bool HasPendingExit() const;
+    bool Exists(int location) const;
+    bool CheckLocation(std::string_view control, std::string_view number, std::string_view word);
+    bool CheckExit(std::string_view control, std::string_view word, std::string_view location);
+    std::vector<Exit> ParsedExits() const;
+    std::vector<std::string> Typed() const;
+    void StoreExits(store::Cursor& record) const;
+    void StorePicture(store::Cursor& record) const;
+
+    condacts::WordIndex words_;
+    std::vector<Neighbour> leadsHere_;
+    std::vector<std::string> opened_;  ///< what `Typed` gave at first
+};
+
+}  // namespace fabula::authoring

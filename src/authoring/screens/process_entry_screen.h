@@ -1,0 +1,90 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "authoring/entries/entries.h"
+#include "authoring/fields/cond_act_help.h"
+#include "authoring/fields/controls.h"
+#include "authoring/screens/record_screen.h"
+
+namespace fabula::authoring {
+
+/// The field of one parameter of the condition or action that is being put together.
+struct ParameterField {
+    std::string label;  ///< "Param1", or what the parameter is: "Location"
+    bool enabled = false;
+    std::vector<Completion> items;
+    std::string text;
+};
+
+/// The screen of an entry of a process table. A new entry that goes before another begins with its process
+/// and words; any other new one with the process in view and two words "_".
+class ProcessEntryScreen : public RecordScreen {
+  public:
+    ProcessEntryScreen(ScreenContext& context, const ScreenRequest& request);
+
+    std::string recordKey;  ///< "Record Key: 12"
+    std::string process;    ///< the number of the process table
+    DropList verb;          ///< the verb, by `vocindex`
+    DropList noun;          ///< the noun
+    ComboBox condAct;       ///< the condition or action that is being put together
+    ParameterField parameter1;
+    ParameterField parameter2;
+    std::string line;  ///< the line of the entry
+
+    bool LeaveProcess();
+    /// Opens the parameters of what `condAct` names, or adds it at once when it has none. An empty
+    /// `condAct` closes them.
+    bool LeaveCondAct();
+    bool LeaveParameter1();
+    bool LeaveParameter2();
+    /// Puts the line into capitals and checks it.
+    bool LeaveLine();
+
+    /// Adds what was put together to the line.
+    bool Add();
+
+    /// True when the screen can close: the entry is stored, with what was put together and not added yet.
+    bool Update();
+
+    const CondActHelp& Help() const { return help_; }
+
+    static constexpr std::string_view kCaption = "Process Table Editor";
+    static constexpr std::string_view kHelpLine =
+        "Type your Conditions/Actions directly into the above fields and then click the Add to "
+        "Conditions/Actions button. They will be checked for validity.";
+
+  private:
+    struct VocabularyWord {
+        int index;
+        condacts::Word word;
+    };
+
+    void ReadWords();
+    void ReadEntry(int canum);
+    void Propose(const ScreenRequest& request);
+    void Choose(DropList& list, std::string_view spelling, int number, condacts::WordType preferred) const;
+    int NextProcess() const;
+    bool ConfirmsProcess(int process);
+    const condacts::CondAct* ChosenCondAct() const;
+    void OpenParameters(const condacts::CondAct* condAct);
+    std::string PutTogether() const;
+    bool Check(std::string_view control, std::string_view condAct);
+    bool AddPending();
+    void Append(std::string_view condAct);
+    void AddDescription(int process);
+    void StoreWord(store::Cursor& record, const DropList& list, std::string_view wordField,
+                   std::string_view numberField) const;
+    void Store();
+
+    CondActHelp help_;
+    std::vector<VocabularyWord> words_;  ///< those that an entry may stand with
+    std::string openedType_;
+    std::string openedFor_;                ///< the name whose parameters are open; "" for none
+    std::optional<int> confirmedProcess_;  ///< that the author agreed to create
+};
+
+}  // namespace fabula::authoring

@@ -1,0 +1,37 @@
+#include "authoring/screens/record_screen.h"
+
+#include "platform/error.h"
+
+namespace fabula::authoring {
+
+RecordScreen::RecordScreen(ScreenContext& context, store::TableNum table, ScreenKey key,
+                           std::string_view noun)
+    : EditScreen(context), table_(table), key_(key), noun_(noun) {
+    if (!key_.isNew) OpenRecord();
+}
+
+std::string RecordScreen::Criterion() const {
+    return std::string(store::FindTable(table_)->key) + "=" + std::to_string(key_.key);
+}
+
+store::Cursor& RecordScreen::OpenRecord() const {
+    store::Cursor& record = Adventure().OpenTable(table_, "def", Criterion());
+    if (record.Eof()) {
+        throw Error("Could not edit " + noun_ + " " + std::to_string(key_.key) + ": it is not there.");
+    }
+    return record;
+}
+
+store::Cursor& RecordScreen::RecordToStore() const {
+    if (!key_.isNew) return OpenRecord();
+    store::Cursor& record = Adventure().OpenTable(table_, "def", Criterion());
+    record.AddNew();
+    record.SetField(store::FindTable(table_)->key, std::int64_t{key_.key});
+    return record;
+}
+
+std::string RecordScreen::ChangeName() const {
+    return (key_.isNew ? "add " : "edit ") + noun_ + " " + std::to_string(key_.key);
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "authoring/fields/edit_screen.h"
+#include "store/cursor.h"
+
+namespace fabula::authoring {
+
+/// What the screens of one record have in common. A screen opens on a record or on a key for a new one;
+/// each field is checked when it is left, and Update checks them all again and stores. Without a change
+/// Update stores nothing, a new record neither.
+class RecordScreen : public EditScreen {
+  public:
+    ScreenKey Key() const { return key_; }
+
+  protected:
+    /// `noun` is what the table's records are called in the name of a change: "location". The record must
+    /// be there unless the key is new: throws Error.
+    RecordScreen(ScreenContext& context, store::TableNum table, ScreenKey key, std::string_view noun);
+    ~RecordScreen() = default;
+
+    /// The table's cursor on the record that is edited. Throws Error when it has gone.
+    store::Cursor& OpenRecord() const;
+    /// The table's cursor on the record that Update writes: the same, or a new one with its key.
+    store::Cursor& RecordToStore() const;
+    /// "add location 3", "edit location 3".
+    std::string ChangeName() const;
+
+  private:
+    std::string Criterion() const;
+
+    store::TableNum table_;
+    ScreenKey key_;
+    std::string noun_;
+};
+
+}  // namespace fabula::authoring

@@ -1,0 +1,143 @@
+#include "authoring/screens/word_screen.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "text/numbers.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::TableNum;
+
+constexpr std::string_view kMarloHelp =
+    "Words < 13 are direction words.\n"
+    "Words relating to objects which can be worn should have word values > 199";
+constexpr std::string_view kHelp =
+    "Nouns and verbs < 14 are direction words.\n"
+    "Nouns < 20 are conversion words (can be interpreted as a verb).\n"
+    "Nouns > 50 can be referred to as 'IT'.";
+
+}  // namespace
+
+WordScreen::WordScreen(ScreenContext& context, ScreenKey key)
+    : RecordScreen(context, TableNum::Vocabulary, key, "word") {
+    if (IsMarlo()) type = condacts::kNoun;
+    if (!key.isNew) ReadRecord();
+    opened_ = Typed();
+}
+
+void WordScreen::ReadRecord() {
+    const store::Cursor& record = OpenRecord();
+    word = record.Text("word");
+    number = std::to_string(record.Number("vocnum"));
+    const std::int64_t stored = record.Number("voctypen");
+    if (stored >= condacts::kVerb && stored <= condacts::kPronoun) {
+        type = static_cast<condacts::WordType>(stored);
+    }
+}
+
+std::string_view WordScreen::Help() const {
+    return IsMarlo() ? kMarloHelp : kHelp;
+}
+
+std::size_t WordScreen::LongestWord() const {
+    if (IsMarlo()) return 4;
+    return Adventure().AdventureTypeLower() == "vel" ? 5 : 30;
+}
+
+/// One above the highest number of the type. Below the lowest that a word may have there is nothing to
+/// propose.
+int WordScreen::NextNumber(condacts::WordType wordType) const {
+    store::PreparedQuery highest =
+        Adventure().Prepare(TableNum::VocabularyWalk, "vocnum", "voctypen=?", "vocnum desc");
+    if (!highest.First({std::int64_t{wordType}})) return kLowestNumber;
+    return std::max(NumberAfter(highest.Number(0)), kLowestNumber);
+}
+
+void WordScreen::ClickType(condacts::WordType chosen) {
+    type = chosen;
+    if (EditsWord()) number = std::to_string(NextNumber(chosen));
+}
+
+bool WordScreen::LeaveWord() {
+    const std::string typed = text::UpperCase(text::TrimBlanks(text::CollapseBlanks(word)));
+    if (typed.empty()) return RefuseField("word", "The word cannot be spaces");
+    if (typed.find(' ') != std::string::npos) {
+        return RefuseField("word", "The word cannot hold spaces");
+    }
+    word = text::Left(typed, LongestWord());
+    if (IsMarlo() && text::TrimBlanks(number).empty()) {
+        number = std::to_string(NextNumber(condacts::kNoun));
+    }
+    return true;
+}
+
+bool WordScreen::LeaveNumber() {
+    const auto typed = text::WholeNumber(text::TrimBlanks(number));
+    if (!typed) return RefuseField("number", "The Word # is not numeric");
+    if (*typed < kLowestNumber || *typed > kHighestNumber) {
+        return RefuseField("number", "Word # must be from 2 to 254 inclusive");
+    }
+    return CheckClash(static_cast<int>(*typed));
+}
+
+std::vector<condacts::Word> WordScreen::SameSpelling() const {
+    store::PreparedQuery rows =
+        Adventure().Prepare(TableNum::Vocabulary, "word, vocnum, voctypen", "word=? and vocindex<>?");
+    std::vector<condacts::Word> words;
+    const int key = Key().isNew ? -1 : Key().key;
+    for (bool more = rows.First({std::string_view(word), std::int64_t{key}}); more; more = rows.Next()) {
+        words.push_back({std::string(rows.Text(0)), static_cast<int>(rows.Number(1)),
+                         static_cast<int>(rows.Number(2))});
+    }
+    return words;
+}
+
+/// Without a type there is nothing to clash with yet. A reserved word stands in for every type, so that it
+/// clashes with all.
+bool WordScreen::CheckClash(int typed) {
+    if (!type) return true;
+    const std::vector<condacts::Word> same = SameSpelling();
+    const bool reserved = std::any_of(same.begin(), same.end(), [](const condacts::Word& each) {
+        return each.type == condacts::kReserved;
+    });
+    if (!reserved && !condacts::Clashes({word, typed, *type}, same)) return true;
+    const std::string typeName(condacts::WordTypeName(reserved ? condacts::kReserved : *type));
+    if (reserved || *type == condacts::kVerb || *type == condacts::kNoun) {
+        return RefuseField("number", "You already have " + word + " in the vocabulary as a " + typeName);
+    }
+    return RefuseField("number", "Duplicate words are not allowed as word type " + typeName);
+}
+
+std::vector<std::string> WordScreen::Typed() const {
+    return {word, number, type ? std::to_string(*type) : ""};
+}
+
+void WordScreen::Store() {
+    store::Cursor& record = RecordToStore();
+    if (Key().isNew) {
+        record.SetField("vocindex", std::int64_t{context_.nextWord});
+        record.SetField("vocnum", *text::WholeNumber(text::TrimBlanks(number)));
+        record.SetField("word", word);
+    }
+    record.SetField("voctypen", std::int64_t{*type});
+    record.SetField("voctype", std::string(condacts::WordTypeName(*type)));
+    record.Update();
+}
+
+bool WordScreen::Update() {
+    if (Typed() == opened_) return true;
+    if (!LeaveWord()) return false;
+    if (!type) return RefuseField("type", "No value set for word type");
+    if (!LeaveNumber()) return false;
+    Change change(context_.document, (Key().isNew ? "add word " : "edit word ") + word);
+    Store();
+    change.Commit();
+    if (Key().isNew) ++context_.nextWord;
+    return true;
+}
+
+}  // namespace fabula::authoring

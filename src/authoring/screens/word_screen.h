@@ -1,0 +1,55 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "authoring/screens/record_screen.h"
+#include "condacts/words.h"
+
+namespace fabula::authoring {
+
+/// The screen of a word.
+class WordScreen : public RecordScreen {
+  public:
+    /// A new word takes the context's `nextWord` for its key.
+    WordScreen(ScreenContext& context, ScreenKey key);
+
+    std::string word;
+    std::string number;
+    std::optional<condacts::WordType> type;  ///< any but kReserved
+
+    /// What stands beside the word: how the numbers are used in the adventure's type.
+    std::string_view Help() const;
+    /// False in adventures of type Marlo: every word is a noun, and the options are not shown.
+    bool ChoosesType() const { return !IsMarlo(); }
+    /// Word and number of a word that is there already are shown only.
+    bool EditsWord() const { return Key().isNew; }
+    /// The longest word of the adventure's type, in characters.
+    std::size_t LongestWord() const;
+
+    /// Chooses a type and, for a new word, proposes its next number.
+    void ClickType(condacts::WordType type);
+    /// Puts the word in upper case and cuts it to its longest.
+    bool LeaveWord();
+    bool LeaveNumber();
+
+    /// True when the screen can close: what was changed is stored.
+    bool Update();
+
+    static constexpr int kLowestNumber = 2;
+    static constexpr int kHighestNumber = 254;
+
+  private:
+    void ReadRecord();
+    int NextNumber(condacts::WordType type) const;
+    std::vector<condacts::Word> SameSpelling() const;
+    bool CheckClash(int number);
+    std::vector<std::string> Typed() const;
+    void Store();
+
+    std::vector<std::string> opened_;  ///< what `Typed` gave at first
+};
+
+}  // namespace fabula::authoring

@@ -1,0 +1,32 @@
+#include "authoring/settings/colour_screen.h"
+
+#include <stdexcept>
+
+#include "text/colours.h"
+
+namespace fabula::authoring {
+namespace {
+
+bool IsColor(int number) {
+    return number >= 0 && number < ColourScreen::kColors;
+}
+
+}  // namespace
+
+ColourScreen::ColourScreen(Purpose purpose, int current)
+    : purpose_(purpose), current_(IsColor(current) ? current : 0) {}
+
+std::string_view ColourScreen::Caption() const {
+    return purpose_ == Purpose::Ink ? "Set Color for Ink" : "Set Color for Paper";
+}
+
+std::string ColourScreen::CurrentLine() const {
+    return "Current Color is " + std::string(text::ColorName(current_)) + "\nClick the Color to Change";
+}
+
+void ColourScreen::Click(int color) {
+    if (!IsColor(color)) throw std::invalid_argument("there is no such colour");
+    current_ = color;
+}
+
+}  // namespace fabula::authoring

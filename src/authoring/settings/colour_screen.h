@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace fabula::authoring {
+
+/// The picker of one of the 16 colours, for ink or for paper.
+class ColourScreen {
+  public:
+    enum class Purpose { Ink, Paper };
+
+    /// `current` is the number of the colour so far, 0 to 15; any other counts as 0.
+    ColourScreen(Purpose purpose, int current);
+
+    std::string_view Caption() const;
+    /// The colour that is chosen so far, in words.
+    std::string CurrentLine() const;
+    int Current() const { return current_; }
+
+    /// Chooses the colour of a label, 0 to 15.
+    void Click(int color);
+    /// Gives the number of the chosen colour to the calling screen. (Exit gives none.)
+    int Update() const { return current_; }
+
+    static constexpr int kColors = 16;
+    static constexpr int kFirstBright = 8;
+    static constexpr std::string_view kNormalColors = "Normal Colors";
+    static constexpr std::string_view kBrightColors = "Bright Colors";
+
+  private:
+    Purpose purpose_;
+    int current_;
+};
+
+}  // namespace fabula::authoring

@@ -1,0 +1,339 @@
+#include "authoring/settings/settings_screen.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include "authoring/fields/location_names.h"
+#include "authoring/fields/picture_choice.h"
+#include "authoring/fields/text_editing.h"
+#include "authoring/fields/text_field.h"
+#include "authoring/settings/settings_lists.h"
+#include "platform/error.h"
+#include "text/line_ends.h"
+#include "text/numbers.h"
+#include "text/str_edit.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::Cursor;
+using store::TableNum;
+
+constexpr int kTestNote = 0;  ///< middle C
+constexpr std::chrono::milliseconds kTestLength(1000);
+
+std::string Trimmed(std::string_view text) {
+    return std::string(text::TrimBlanks(text));
+}
+
+int NumberOf(const Cursor& record, std::string_view field) {
+    return static_cast<int>(record.Number(field));
+}
+
+/// Writes the number of what is chosen in a list.
+void StoreChoice(Cursor& record, std::string_view field, const DropList& list) {
+    if (const ListItem* chosen = list.Chosen()) record.SetField(field, std::int64_t{chosen->number});
+}
+
+void StoreNumber(Cursor& record, std::string_view field, std::string_view typed) {
+    record.SetField(field, text::WholeNumber(text::TrimBlanks(typed)).value_or(0));
+}
+
+void StoreSwitch(Cursor& record, std::string_view field, bool on) {
+    record.SetField(field, std::int64_t{on ? 1 : 0});
+}
+
+/// A picture's path. Without one nothing is left of it; the bytes of a new one are copied afterwards.
+void StorePicture(Cursor& record, const std::string& path, std::string_view pathField,
+                  std::string_view bytesField, std::string_view oldPathField) {
+    record.SetField(pathField, path);
+    if (!path.empty()) return;
+    record.SetField(bytesField, {});
+    record.SetField(oldPathField, std::string(" "));
+}
+
+}  // namespace
+
+SettingsScreen::SettingsScreen(ScreenContext& context, const std::vector<std::string>& soundDevices)
+    : EditScreen(context) {
+    startPlace.items = LocationNames(Adventure());
+    fontSize.items = FontSizeItems(Adventure());
+    channel.items = ChannelItems();
+    voice.items = VoiceItems(Adventure());
+    source.items = SourceItems();
+    const Cursor& record = OpenSettings();
+    ReadGame(record);
+    ReadLook(record);
+    ReadAbout(record);
+    ReadSound(record, soundDevices);
+    opened_ = Typed();
+}
+
+Cursor& SettingsScreen::OpenSettings() const {
+    Cursor& record = Adventure().OpenTable(TableNum::Adventure, "def");
+    if (record.Eof()) throw Error("Could not edit the settings: they are not there.");
+    return record;
+}
+
+bool SettingsScreen::HasField(std::string_view field) const {
+    return Adventure().Schema(TableNum::Adventure).Find(field).has_value();
+}
+
+void SettingsScreen::ReadGame(const Cursor& record) {
+    name = Trimmed(record.Text("advname"));
+    author = Trimmed(record.Text("author"));
+    saveName = Trimmed(record.Text("savename"));
+    version = Trimmed(record.Text("Version"));
+    const std::string stored = Trimmed(record.Text("adventype"));
+    type.items = TypeItems(stored);
+    type.ChooseText(stored);
+    startPlace.text = storedStart_ = std::to_string(record.Number("startloc"));
+    maxObjects = std::to_string(record.Number("maxobj"));
+    maxWeight = std::to_string(record.Number("maxweight"));
+    const std::string origin = Trimmed(record.Text("source"));
+    source.ChooseText(origin == "Unknown" ? "Unknown!" : origin);
+}
+
+void SettingsScreen::ReadLook(const Cursor& record) {
+    const int width = NumberOf(record, "defprintwidth");
+    printWidth.items = PrintWidthItems(width);
+    printWidth.ChooseNumber(width);
+    paper = NumberOf(record, "BackColor");
+    ink = NumberOf(record, "TextColor");
+    charSets = record.Truth("charsets");
+    graphics = record.Truth("graphics");
+    graphicsInDb = record.Truth("graphicsindb");
+    font.items = charSets ? CharSetItems(Adventure()) : FontItems(Adventure());
+    otherFonts_.items = charSets ? FontItems(Adventure()) : CharSetItems(Adventure());
+    if (!record.IsNull("Font")) font.ChooseNumber(NumberOf(record, "Font"));
+    fontSize.ChooseNumber(NumberOf(record, "FontSize"));
+    defaultPicture = Trimmed(record.Text("defpicloc"));
+}
+
+void SettingsScreen::ReadAbout(const Cursor& record) {
+    // The blank at the end of the stored description is not the author's.
+    if (HasAdvDesc()) {
+        description = ToEdited(record.Text("advdesc"));
+        if (!description.empty() && description.back() == ' ') description.pop_back();
+    }
+    if (HasContactInfo()) contactInfo = ToEdited(record.Text("advcontactinfo"));
+    if (HasAboutPicture()) aboutPicture = Trimmed(record.Text("advpicloc"));
+}
+
+void SettingsScreen::ReadSound(const Cursor& record, const std::vector<std::string>& devices) {
+    sound = record.Truth("sound");
+    channel.ChooseNumber(NumberOf(record, "defsndchan"));
+    voice.ChooseNumber(NumberOf(record, "defsndvoice"));
+    volume = NumberOf(record, "defsndvol");
+    balance = NumberOf(record, "defsndbal");
+    bass = NumberOf(record, "defsndbass");
+    device.items = DeviceItems(devices);
+    std::string wanted = Trimmed(record.Text("defsnddevname"));
+    if (wanted.empty()) wanted = kMidiMapper;
+    device.ChooseText(wanted);
+    if (device.index >= 0) return;
+    // The game was made on a system with another device.
+    device.items.push_back({NumberOf(record, "defsnddev"), wanted});
+    device.ChooseText(wanted);
+}
+
+std::string_view SettingsScreen::TypeNote() const {
+    return authoring::TypeNote(Adventure().AdventureType());
+}
+
+FontSample SettingsScreen::FontTest() const {
+    FontSample sample{.fontName = std::string(kMissingFont),
+                      .charSet = std::nullopt,
+                      .points = TextEditing::kDefaultPoints,
+                      .paper = paper,
+                      .ink = ink};
+    if (const ListItem* size = fontSize.Chosen()) sample.points = size->number;
+    const ListItem* chosen = font.Chosen();
+    if (chosen == nullptr) return sample;
+    if (charSets) {
+        sample.charSet = chosen->number;
+    } else {
+        sample.fontName = chosen->text.substr(chosen->text.find('-') + 1);
+    }
+    return sample;
+}
+
+bool SettingsScreen::LeaveName() {
+    return CheckLength("name", name, kLongestText);
+}
+
+bool SettingsScreen::LeaveAuthor() {
+    return CheckLength("author", author, kLongestText);
+}
+
+bool SettingsScreen::LeaveSaveName() {
+    if (Trimmed(saveName).empty()) return RefuseField("saveName", "Must have a Save Name");
+    return CheckLength("saveName", saveName, kLongestText);
+}
+
+bool SettingsScreen::LeaveVersion() {
+    return CheckLength("version", version, kLongestText);
+}
+
+bool SettingsScreen::LeaveStartPlace() {
+    const std::string typed = Trimmed(startPlace.text);
+    if (typed == storedStart_) return true;
+    if (typed.empty()) return RefuseField("startPlace", "No start location is set");
+    const auto number = text::WholeNumber(typed);
+    const bool exists = number && std::any_of(startPlace.items.begin(), startPlace.items.end(),
+                                              [&](const ListItem& item) { return item.number == *number; });
+    if (exists) return true;
+    return RefuseField("startPlace", "There is not a location with a number of " + typed);
+}
+
+bool SettingsScreen::CheckNumber(std::string_view control, std::string_view what, std::string_view typed,
+                                 int most) {
+    const auto number = text::WholeNumber(text::TrimBlanks(typed));
+    if (!number) return RefuseField(control, std::string(what) + " is not numeric");
+    if (*number > most) return RefuseField(control, "Maximum value allowed is " + std::to_string(most));
+    if (*number < 0) return RefuseField(control, "Minimum value allowed is 0");
+    return true;
+}
+
+bool SettingsScreen::LeaveMaxObjects() {
+    if (Trimmed(maxObjects).empty())
+        return RefuseField("maxObjects", "Must have Maximum Objects that can be carried");
+    return CheckNumber("maxObjects", "Maximum Objects", maxObjects, kMostObjects);
+}
+
+bool SettingsScreen::LeaveMaxWeight() {
+    return !HasWeights() || CheckNumber("maxWeight", "Maximum Weight", maxWeight, kMostWeight);
+}
+
+bool SettingsScreen::LeaveFont() {
+    return font.Chosen() != nullptr || RefuseField("font", "No font is set");
+}
+
+bool SettingsScreen::LeaveFontSize() {
+    return fontSize.Chosen() != nullptr || RefuseField("fontSize", "No font size is set");
+}
+
+bool SettingsScreen::LeaveDescription() {
+    return CheckLength("description", description, kLongestText) &&
+           CheckText("description", description, false);
+}
+
+bool SettingsScreen::LeaveContactInfo() {
+    return CheckText("contactInfo", contactInfo, false);
+}
+
+void SettingsScreen::ClickCharSets(bool on) {
+    if (on == charSets) return;
+    charSets = on;
+    std::swap(font, otherFonts_);
+    if (font.index < 0 && !font.items.empty()) font.index = 0;
+}
+
+void SettingsScreen::ChoosePicture() {
+    const auto chosen = authoring::ChoosePicture(context_, kDefaultPictureTitle, defaultPicture);
+    if (chosen) defaultPicture = *chosen;
+}
+
+void SettingsScreen::ChooseAboutPicture() {
+    const auto chosen = authoring::ChoosePicture(context_, kAboutPictureTitle, aboutPicture);
+    if (chosen) aboutPicture = *chosen;
+}
+
+bool SettingsScreen::TestVoice(engine::SoundPlayer& player) {
+    const auto number = [](const DropList& list) { return list.Chosen() ? list.Chosen()->number : 0; };
+    player.Configure({.channel = number(channel),
+                      .device = number(device),
+                      .deviceName = device.Chosen() ? device.Chosen()->text : "",
+                      .voice = number(voice),
+                      .volume = volume,
+                      .balance = balance,
+                      .bass = bass});
+    voiceTested_ = true;
+    return player.PlayTone(kTestNote, kTestLength);
+}
+
+bool SettingsScreen::CheckAll() {
+    if (!LeaveName() || !LeaveAuthor() || !LeaveSaveName() || !LeaveVersion() || !LeaveStartPlace() ||
+        !LeaveMaxObjects() || !LeaveMaxWeight() || !LeaveFont() || !LeaveFontSize() ||
+        !LeaveDescription() || !LeaveContactInfo())
+        return false;
+    if (page != SettingsPage::Sound || voiceTested_) return true;
+    return RefuseField("testVoice", "You must Test Voice before I can update!");
+}
+
+std::vector<std::string> SettingsScreen::Typed() const {
+    std::vector<std::string> typed{name,       author,    saveName,       version,      startPlace.text,
+                                   maxObjects, maxWeight, defaultPicture, aboutPicture, description,
+                                   contactInfo};
+    for (const DropList* list : {&type, &printWidth, &font, &fontSize, &device, &channel, &voice, &source})
+        typed.push_back(std::to_string(list->index));
+    for (const int number : {paper, ink, volume, balance, bass})
+        typed.push_back(std::to_string(number));
+    for (const bool on : {charSets, graphics, graphicsInDb, sound})
+        typed.push_back(on ? "on" : "off");
+    return typed;
+}
+
+void SettingsScreen::StoreGame(Cursor& record) const {
+    record.SetField("advname", name);
+    record.SetField("author", author);
+    record.SetField("savename", Trimmed(saveName));
+    record.SetField("Version", version);
+    if (const ListItem* chosen = type.Chosen()) record.SetField("adventype", chosen->text);
+    StoreNumber(record, "startloc", startPlace.text);
+    StoreNumber(record, "maxobj", maxObjects);
+    if (HasWeights()) StoreNumber(record, "maxweight", maxWeight);
+    if (const ListItem* chosen = source.Chosen()) record.SetField("source", chosen->text);
+}
+
+void SettingsScreen::StoreLook(Cursor& record) const {
+    if (HasPrintWidth()) StoreChoice(record, "defprintwidth", printWidth);
+    record.SetField("BackColor", std::int64_t{paper});
+    record.SetField("TextColor", std::int64_t{ink});
+    StoreChoice(record, "Font", font);
+    StoreChoice(record, "FontSize", fontSize);
+    StoreSwitch(record, "charsets", charSets);
+    StoreSwitch(record, "graphics", graphics);
+    StoreSwitch(record, "graphicsindb", graphicsInDb);
+}
+
+void SettingsScreen::StorePictures(Cursor& record) const {
+    record.SetField("defpickey", std::string(defaultPicture.empty() ? "" : "Default"));
+    StorePicture(record, defaultPicture, "defpicloc", "defpicgraphic", "olddefpicloc");
+    if (HasAboutPicture()) StorePicture(record, aboutPicture, "advpicloc", "advpicgraphic", "oldadvpicloc");
+}
+
+void SettingsScreen::StoreAbout(Cursor& record) const {
+    if (HasAdvDesc())
+        record.SetField("advdesc", text::NormalizeLineEnds(description, text::kLineEndMarker) + " ");
+    if (HasContactInfo()) record.SetField("advcontactinfo", ToStored(contactInfo));
+}
+
+void SettingsScreen::StoreSound(Cursor& record) const {
+    StoreSwitch(record, "sound", sound);
+    StoreChoice(record, "defsnddev", device);
+    if (const ListItem* chosen = device.Chosen()) record.SetField("defsnddevname", chosen->text);
+    StoreChoice(record, "defsndchan", channel);
+    StoreChoice(record, "defsndvoice", voice);
+    record.SetField("defsndvol", std::int64_t{volume});
+    record.SetField("defsndbal", std::int64_t{balance});
+    record.SetField("defsndbass", std::int64_t{bass});
+}
+
+bool SettingsScreen::Update() {
+    if (!CheckAll()) return false;
+    if (Typed() == opened_) return true;
+    Change change(context_.document, "edit the settings");
+    Cursor& record = OpenSettings();
+    StoreGame(record);
+    StoreLook(record);
+    StorePictures(record);
+    StoreAbout(record);
+    StoreSound(record);
+    record.Update();
+    change.Commit();
+    Adventure().ReadSettings();
+    return true;
+}
+
+}  // namespace fabula::authoring

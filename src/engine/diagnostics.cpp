@@ -1,0 +1,120 @@
+#include "engine/diagnostics.h"
+
+#include <charconv>
+
+#include "engine/engine.h"
+#include "engine/game.h"
+#include "engine/objects.h"
+#include "text/str_edit.h"
+
+namespace fabula::engine {
+
+namespace {
+
+constexpr const char* kProtectedRefusal = "Cannot change that flag in Marlo";
+
+/// A whole number of 16 bits, with blanks around it.
+std::optional<int> NumberIn(std::string_view text) {
+    const std::string_view digits = text::TrimBlanks(text);
+    std::int16_t value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (error != std::errc{} || end != digits.data() + digits.size()) return std::nullopt;
+    return value;
+}
+
+}  // namespace
+
+Game& Diagnostics::Running() const {
+    return *engine_.Running();
+}
+
+Diagnostics::Answer Diagnostics::DoIt(std::string_view request) {
+    const std::string_view text = text::TrimBlanks(request);
+    if (!engine_.Running()) return {"No game is running"};
+    if (text.empty()) return {"Invalid option"};
+    const std::string_view rest = text.substr(1);
+    switch (text.front()) {
+        case 'F':
+        case 'f':
+            return {View(false, rest, "Invalid value for a Flag #: " + std::string(rest))};
+        case 'O':
+        case 'o':
+            return {View(true, rest, "Invalid value for an Object #:")};
+        case 'S':
+        case 's':
+            return {SetTo("S(et)", kSet)};
+        case 'C':
+        case 'c':
+            return {SetTo("C(lear)", 0)};
+        case '=':
+            return {Assign(rest)};
+        case 'H':
+        case 'h':
+            return {"", true};
+        default:
+            break;
+    }
+    if (text.front() < '0' || text.front() > '9') return {"Invalid option"};
+    return {View(objectInView_, text, "Invalid value for a Flag #: " + std::string(text))};
+}
+
+std::string Diagnostics::DisplayVariable() const {
+    if (!engine_.Running() || !Exists(objectInView_, number_)) return {};
+    const std::string number = std::to_string(number_);
+    if (objectInView_)
+        return "O" + number + " Location = " + std::to_string(Running().state.ObjectPlace(number_));
+    return "F" + number + " = " + std::to_string(Running().Flag(number_));
+}
+
+bool Diagnostics::Exists(bool object, int number) const {
+    const RunState& state = Running().state;
+    return number >= 0 && number < (object ? state.ObjectCount() : state.FlagCount());
+}
+
+std::string Diagnostics::View(bool object, std::string_view number, const std::string& refusal) {
+    const std::optional<int> value = NumberIn(number);
+    if (!value || !Exists(object, *value)) return refusal;
+    objectInView_ = object;
+    number_ = *value;
+    return {};
+}
+
+/// Games of the oldest engine know flags 0 to 32. Of the others only the player's place, the long texts and
+/// the trace are for the author's hand.
+bool Diagnostics::IsProtected() const {
+    constexpr int kLastMarloFlag = 32;
+    if (!Running().IsMarlo() || number_ <= kLastMarloFlag) return false;
+    return number_ != flag::kLocation && number_ != flag::kLongText && number_ != flag::kTraceFile &&
+           number_ != flag::kTrace;
+}
+
+std::string Diagnostics::SetTo(std::string_view name, int value) {
+    if (objectInView_) return std::string(name) + " cannot be used on Objects";
+    if (IsProtected()) return kProtectedRefusal;
+    Running().SetFlag(number_, value);
+    return {};
+}
+
+std::string Diagnostics::Assign(std::string_view number) {
+    if (text::TrimBlanks(number).empty()) return "no number after the =";
+    const std::optional<int> value = NumberIn(number);
+    if (!value) return "Value after the = is not numeric";
+    if (!objectInView_) return AssignFlag(*value);
+    if (*value == place::kHere) return "An object cannot be put at location 255";
+    PlaceObject(Running(), number_, *value);
+    return {};
+}
+
+std::string Diagnostics::AssignFlag(int value) {
+    if (number_ == flag::kLocation && !Running().data.LocationExists(value)) {
+        return "Invalid location for Flag 38: " + std::to_string(value);
+    }
+    if (number_ == flag::kTraceFile || number_ == flag::kTrace) {
+        return "Flags 1004 & 1005 can only be SET or CLEAR";
+    }
+    if (IsProtected()) return kProtectedRefusal;
+    Running().SetFlag(number_, value);
+    return {};
+}
+
+}  // namespace fabula::engine

@@ -1,0 +1,100 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "authoring/desk/main_screen.h"
+#include "authoring/main_screen_stand.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::AdventureKind;
+using store::TableNum;
+
+class ViewsTest : public testing::Test, public test::MainScreenStand {};
+
+TEST_F(ViewsTest, OfANodeIsItsTable) {
+    OpenNew();
+    main->ShowNode(2);
+    EXPECT_EQ(main->Grid().View(), TableView{TableNum::Locations});
+    EXPECT_EQ(main->TableStatus(), "Locations - 1 records");
+    EXPECT_EQ(main->CurrentNode()->name, "Locations");
+    main->ShowNode(9);
+    EXPECT_EQ(main->CurrentNode()->name, "Response (P0)");
+    main->ShowNode(999);
+    EXPECT_EQ(main->CurrentNode()->name, "Response (P0)");
+}
+
+TEST_F(ViewsTest, AreKeptInTheSettings) {
+    OpenNew();
+    main->Show({TableNum::ProcessTables, 2});
+    EXPECT_EQ(Setting("CurrentSet"), "6");
+    EXPECT_EQ(Setting("CurrentESNum"), "2");
+    EXPECT_EQ(main->CurrentContext().currentESNum, 2);
+    main->Show({TableNum::Flags});
+    EXPECT_EQ(Setting("CurrentSet"), "9");
+}
+
+TEST_F(ViewsTest, ThatTheAdventureDoesNotHaveAreTheFirstProcess) {
+    OpenNew(AdventureKind::Marlo);
+    main->Show({TableNum::Characters});
+    main->OpenFile(Make("plain.fbd"));
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::ProcessTables, 0}));
+}
+
+TEST_F(ViewsTest, FollowTheSessionToAnotherProcess) {
+    OpenNew();
+    main->Show({TableNum::ProcessTables, 0});
+    const auto request = main->Run(Command::Add);
+    ASSERT_TRUE(request.has_value());
+    main->ScreenClosed(*request);
+    EXPECT_EQ(main->Grid().View(), (TableView{TableNum::ProcessTables, 2}));
+}
+
+TEST_F(ViewsTest, TellHowManyRowsAFilterLeaves) {
+    OpenNew();
+    main->Show({TableNum::CondActs});
+    main->SetFilter("message");
+    EXPECT_LT(main->Grid().RowCount(), main->Grid().RecordCount());
+    EXPECT_EQ(main->TableStatus(), "Conditions and Actions - " +
+                                       std::to_string(main->Grid().RecordCount()) + " records, " +
+                                       std::to_string(main->Grid().RowCount()) + " shown");
+}
+
+TEST_F(ViewsTest, StayOnTheRecordWhenTheyAreFilteredAndSorted) {
+    OpenNew();
+    StoreMessage(0, "b lamp");
+    StoreMessage(1, "c");
+    StoreMessage(2, "a lamp");
+    main->Show({TableNum::Messages});
+    main->SelectRow(2);
+    main->SetFilter("lamp");
+    EXPECT_EQ(main->CurrentRow(), 1);
+    main->ClickColumn(1);
+    EXPECT_EQ(main->CurrentRow(), 0);
+    EXPECT_EQ(main->CurrentContext().currentEntry, 2);
+    main->SetFilter("");
+    EXPECT_EQ(main->CurrentRow(), 0);
+}
+
+TEST_F(ViewsTest, KeepTheWidthsOfColumnsWithoutAStepOfUndo) {
+    OpenNew();
+    main->Show({TableNum::Messages});
+    main->ResizeColumn(1, 444);
+    main->Show({TableNum::Flags});
+    main->Show({TableNum::Messages});
+    EXPECT_EQ(main->Grid().Columns()[1].width, 444);
+    EXPECT_FALSE(main->StateOf(Command::Undo).enabled);
+}
+
+TEST(MaintenanceView, ShowsTheProgramsTablesAndFields) {
+    test::MainScreenStand window(true);
+    window.OpenNew();
+    window.main->Show({TableNum::Tables});
+    EXPECT_EQ(window.main->CurrentNode()->name, "Tables");
+    EXPECT_EQ(window.main->Grid().Columns()[0].field, "tablekey");
+    window.main->Show({TableNum::Vocabulary});
+    EXPECT_EQ(window.main->Grid().Columns()[0].field, "vocindex");
+}
+
+}  // namespace
+}  // namespace fabula::authoring

@@ -1,0 +1,333 @@
+#include "authoring/fields/cond_act_help.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "authoring/desk.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::AdventureKind;
+using store::TableNum;
+using test::Desk;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+void AddLocation(Desk& desk, int number, const char* text, int exits = 0) {
+    desk.Add(TableNum::Locations, {{"locnum", std::int64_t{number}},
+                                   {"locshortdesc", std::string(text)},
+                                   {"numexits", std::int64_t{exits}}});
+}
+
+void AddMessage(Desk& desk, int number, const char* text) {
+    desk.Add(TableNum::Messages, {{"msgnum", std::int64_t{number}}, {"msgmsg", std::string(text)}});
+}
+
+void AddObject(Desk& desk, int number, const char* text, int attributes = 0) {
+    desk.Add(TableNum::Objects, {{"objnum", std::int64_t{number}},
+                                 {"objdesc", std::string(text)},
+                                 {"objattrn", std::int64_t{attributes}}});
+}
+
+/// A game of four locations, three messages and two objects, object 1 a container.
+class HelpOf {
+  public:
+    explicit HelpOf(AdventureKind kind = AdventureKind::Fabula) : desk_(kind) {
+        AddLocation(desk_, 1, "The <INK=2>cellar</INK>");
+        AddLocation(desk_, 2, "The stairs", 2);
+        AddLocation(desk_, 3, " ");
+        AddMessage(desk_, 0, "Welcome!");
+        AddMessage(desk_, 1, "It is too\u008cdark.");
+        AddMessage(desk_, 2, " ");
+        AddObject(desk_, 0, "a brass lamp");
+        AddObject(desk_, 1, "a box", 1);
+        help_ = std::make_unique<CondActHelp>(desk_.Adventure());
+    }
+
+    CondActHelp* operator->() const { return help_.get(); }
+    Desk& GameDesk() { return desk_; }
+    void Reload() { help_ = std::make_unique<CondActHelp>(desk_.Adventure()); }
+
+    /// What is offered at the bar in the line.
+    std::vector<std::string> Offered(std::string line) const {
+        const std::size_t cursor = line.find('|');
+        line.erase(cursor, 1);
+        std::vector<std::string> texts;
+        for (const Completion& item : help_->Complete(line, cursor).items)
+            texts.push_back(item.shown);
+        return texts;
+    }
+    std::string Meaning(std::string line) const {
+        const std::size_t cursor = line.find('|');
+        line.erase(cursor, 1);
+        return help_->Meaning(line, cursor);
+    }
+
+  private:
+    Desk desk_;
+    std::unique_ptr<CondActHelp> help_;
+};
+
+TEST(Completing, OffersTheNamesThatBeginSo) {
+    EXPECT_THAT(HelpOf().Offered("MES|"), ElementsAre("MES", "MESF", "MESSAGE", "MESSGF"));
+}
+
+TEST(Completing, OffersNamesInAnyCase) {
+    EXPECT_THAT(HelpOf().Offered("mess|"), ElementsAre("MESSAGE", "MESSGF"));
+}
+
+TEST(Completing, OffersTheNamesOfTheDialectOnly) {
+    EXPECT_THAT(HelpOf(AdventureKind::Vel).Offered("MES|"), ElementsAre("MES", "MESSAGE"));
+    EXPECT_THAT(HelpOf(AdventureKind::Marlo).Offered("MES|"), ElementsAre("MESSAGE"));
+}
+
+TEST(Completing, OffersAllNamesInAnEmptyLine) {
+    const HelpOf help;
+    EXPECT_EQ(help.Offered("|").size(), help->Names().size());
+    EXPECT_EQ(help.Offered("|").front(), "ABILITY");
+}
+
+TEST(Completing, OffersNamesBehindWhatIsComplete) {
+    EXPECT_THAT(HelpOf().Offered("MESSAGE 1 DON|"), ElementsAre("DONE"));
+    EXPECT_THAT(HelpOf().Offered("INVEN DON|"), ElementsAre("DONE"));
+}
+
+TEST(Completing, NamesTheBytesThatAreReplaced) {
+    const HelpOf help;
+    const Completions completions = help->Complete("AT 1 MESSG DONE", 7);
+    EXPECT_EQ(completions.begin, 5U);
+    EXPECT_EQ(completions.end, 10U);
+    const Completions atBlank = help->Complete("AT 1 ", 5);
+    EXPECT_EQ(atBlank.begin, 5U);
+    EXPECT_EQ(atBlank.end, 5U);
+}
+
+TEST(Completing, CountsOnlyTheLettersBeforeTheCursor) {
+    EXPECT_THAT(HelpOf().Offered("MESS|XYZ"), ElementsAre("MESSAGE", "MESSGF"));
+}
+
+TEST(Completing, OffersNumbersWithWhatTheyStandFor) {
+    EXPECT_THAT(HelpOf().Offered("MESSAGE |"), ElementsAre("0  Welcome!", "1  It is too dark.", "2"));
+    EXPECT_THAT(HelpOf().Offered("AT |"),
+                ElementsAre("0  You are in a bare, empty room.", "1  The cellar", "2  The stairs", "3"));
+    EXPECT_THAT(HelpOf().Offered("GET |"), ElementsAre("0  a brass lamp", "1  a box"));
+    EXPECT_THAT(HelpOf().Offered("PROCESS |"), ElementsAre("0  THE PROCESS TABLE", "1  Done after a DESC",
+                                                           "2  The computer does its thing."));
+    EXPECT_THAT(HelpOf().Offered("SYSMESS 5|"),
+                ElementsAre("5  And now?", "50  You are not wearing _.", "51  .",
+                            "52  You can't see any such thing inside", "53  nothing."));
+}
+
+TEST(Completing, FindsNumbersByTheWordsOfTheirTexts) {
+    EXPECT_THAT(HelpOf().Offered("MESSAGE dar|"), ElementsAre("1  It is too dark."));
+    EXPECT_THAT(HelpOf().Offered("MESSAGE ark|"), IsEmpty());
+    EXPECT_THAT(HelpOf().Offered("GET LAMP|"), ElementsAre("0  a brass lamp"));
+}
+
+TEST(Completing, TakesDigitsForTheNumber) {
+    HelpOf help;
+    AddMessage(help.GameDesk(), 3, "Room 1 is closed.");
+    help.Reload();
+    EXPECT_THAT(help.Offered("MESSAGE 1|"), ElementsAre("1  It is too dark."));
+}
+
+TEST(Completing, OffersLocationWordsWhereTheyAreUnderstood) {
+    EXPECT_THAT(HelpOf().Offered("PLACE 0 |"),
+                ElementsAre("0  You are in a bare, empty room.", "1  The cellar", "2  The stairs", "3",
+                            "NOTCR  not created", "WORN  worn by the player",
+                            "CARRIED  carried by the player", "HERE  where the player is"));
+    EXPECT_THAT(HelpOf().Offered("PLACE 0 car|"), ElementsAre("CARRIED  carried by the player"));
+    EXPECT_THAT(HelpOf().Offered("AT NOT|"), IsEmpty());
+}
+
+TEST(Completing, OffersContainersOnlyForPutin) {
+    EXPECT_THAT(HelpOf().Offered("PUTIN 0 |"), ElementsAre("1  The cellar"));
+}
+
+TEST(Completing, OffersWordsOfTheTypeThatIsAsked) {
+    EXPECT_THAT(HelpOf().Offered("PREP |"), ElementsAre("AT  201", "FROM  202", "OFF  203", "ON  204",
+                                                        "TO  205", "UNDER  206", "WITH  207"));
+    EXPECT_THAT(HelpOf(AdventureKind::Vel).Offered("ADVERB QUIC|"), ElementsAre("QUICK  202"));
+}
+
+TEST(Completing, OffersLongWordsOnlyWhereTheirFirstFiveLettersAreAWordToo) {
+    HelpOf help;
+    help.GameDesk().AddWord(500, "LANTERN", 50, 2);
+    help.Reload();
+    EXPECT_THAT(help.Offered("NOUN2 LAN|"), IsEmpty());
+    EXPECT_THAT(help.Offered("ADVERB QUICK|"), ElementsAre("QUICK  202", "QUICKLY  202"));
+}
+
+TEST(Completing, OffersNoFlagThatTheChecksRefuse) {
+    const HelpOf help;
+    const auto flags = help.Offered("SET 100|");
+    EXPECT_THAT(flags, Contains("1005  " + help->Meaning("SET 1005", 5).substr(10)));
+    for (const std::string& flag : flags)
+        EXPECT_NE(flag.substr(0, 4), "1004") << flag;
+    EXPECT_THAT(help.Offered("LET 1005|"), IsEmpty());
+}
+
+TEST(Completing, OffersTheFlagsToThirtyTwoInMarloAdventures) {
+    EXPECT_EQ(HelpOf(AdventureKind::Marlo).Offered("SET |").size(), 33U);
+}
+
+TEST(Completing, OffersNothingForPlainValues) {
+    EXPECT_THAT(HelpOf().Offered("CHANCE |"), IsEmpty());
+}
+
+TEST(Completing, OffersNothingBehindANameThatIsNone) {
+    EXPECT_THAT(HelpOf().Offered("XYZ 5 MESS|"), IsEmpty());
+}
+
+TEST(Completing, ACursorBehindTheLineStandsAtItsEnd) {
+    const HelpOf help;
+    EXPECT_EQ(help->Complete("MESSA", 99).items.size(), 1U);
+}
+
+TEST(MeaningOfAToken, OfANumberIsItsText) {
+    const HelpOf help;
+    EXPECT_EQ(help.Meaning("MESSAGE 1|"), "MESSAGE 1: It is too dark.");
+    EXPECT_EQ(help.Meaning("AT |1 MESSAGE 0"), "AT 1: The cellar");
+    EXPECT_EQ(help.Meaning("PRESENT 0|"), "PRESENT 0: a brass lamp");
+    EXPECT_EQ(help.Meaning("PROCESS 1|"), "PROCESS 1: Done after a DESC");
+    EXPECT_EQ(help.Meaning("SYSMESS 9|"), "SYSMESS 9: You are carrying:");
+    EXPECT_EQ(help.Meaning("message 1|"), "MESSAGE 1: It is too dark.");
+}
+
+TEST(MeaningOfAToken, OfAFlagIsItsDescriptionOrItsUse) {
+    HelpOf help;
+    store::Cursor& flag = help.GameDesk().Adventure().OpenTable(TableNum::Flags, "def", "flgnum=12");
+    flag.SetField("flguse", std::string("Counter"));
+    flag.Update();
+    help.Reload();
+    EXPECT_EQ(help.Meaning("ZERO 5|"), "ZERO 5: Goes down by 1 each turn, until it is 0.");
+    EXPECT_EQ(help.Meaning("ZERO 12|"), "ZERO 12: Counter");
+    EXPECT_EQ(help.Meaning("ZERO 11|"), "ZERO 11: no description");
+}
+
+TEST(MeaningOfAToken, OfTheSecondParameter) {
+    const HelpOf help;
+    EXPECT_EQ(help.Meaning("PLACE 0 2|"), "PLACE 2: The stairs");
+    EXPECT_EQ(help.Meaning("PLACE 0 254|"), "PLACE 254: carried by the player");
+    EXPECT_EQ(help.Meaning("PLACE 0 here|"), "PLACE HERE: where the player is");
+}
+
+TEST(MeaningOfAToken, OfARecordThatIsNotThere) {
+    EXPECT_EQ(HelpOf().Meaning("MESSAGE 7|"), "MESSAGE 7: there is no message 7");
+    EXPECT_EQ(HelpOf().Meaning("AT 44|"), "AT 44: there is no location 44");
+    EXPECT_EQ(HelpOf().Meaning("MESSAGE 2|"), "MESSAGE 2: no description");
+}
+
+TEST(MeaningOfAToken, OfAWordIsItsTypeAndNumber) {
+    EXPECT_EQ(HelpOf().Meaning("PREP WITH|"), "PREP WITH: preposition 207");
+    EXPECT_EQ(HelpOf().Meaning("PREP WITHOUT|"), "");
+}
+
+TEST(MeaningOfAToken, OfAValueIsItsRange) {
+    EXPECT_EQ(HelpOf().Meaning("CHANCE 5|0"), "CHANCE 50: a value from 0 to 100");
+}
+
+TEST(MeaningOfAToken, OfANameIsItsKindAndItsParameters) {
+    const HelpOf help;
+    EXPECT_EQ(help.Meaning("MESS|AGE 1"), "MESSAGE: action, takes a message");
+    EXPECT_EQ(help.Meaning("at|"), "AT: condition, takes a location");
+    EXPECT_EQ(help.Meaning("PLACE|"), "PLACE: action, takes an object and a location");
+    EXPECT_EQ(help.Meaning("DONE|"), "DONE: action");
+    EXPECT_EQ(help.Meaning("PREP|"), "PREP: condition, takes a preposition");
+    EXPECT_EQ(help.Meaning("LET|"), "LET: action, takes a flag and a value from 0 to 999");
+}
+
+TEST(MeaningOfAToken, WhereNoneIsTellsWhatCouldStandThere) {
+    const HelpOf help;
+    EXPECT_EQ(help.Meaning("PLACE |"), "PLACE takes an object here");
+    EXPECT_EQ(help.Meaning("PLACE 0 |"), "PLACE takes a location here");
+    EXPECT_EQ(help.Meaning("PLACE 0 1 |"), "");
+    EXPECT_EQ(help.Meaning("|"), "");
+}
+
+TEST(MeaningOfAToken, IsNotToldBehindANameThatIsNone) {
+    EXPECT_EQ(HelpOf().Meaning("XYZ| MESSAGE 1"), "");
+    EXPECT_EQ(HelpOf().Meaning("XYZ MESSAGE 1|"), "");
+}
+
+TEST(FaultOfALine, StandsAtItsToken) {
+    const HelpOf help;
+    EXPECT_EQ(help->FirstFault("AT 1  MESSAGE 77 DONE"),
+              (MarkedFault{"Invalid number for parameter 1", 14, 16}));
+    EXPECT_EQ(help->FirstFault("AT 1 XYZ"), (MarkedFault{"XYZ is an invalid Condition/Action", 5, 8}));
+    EXPECT_EQ(help->FirstFault("AT 1 PLACE 0"),
+              (MarkedFault{"No parameter where there should be one", 5, 10}));
+}
+
+TEST(FaultOfALine, IsNoneInAValidLine) {
+    EXPECT_EQ(HelpOf()->FirstFault("AT 1 PLACE 0 CARRIED message 1 DONE"), std::nullopt);
+    EXPECT_EQ(HelpOf()->FirstFault(""), std::nullopt);
+}
+
+TEST(FaultOfALine, StandsAtItsTokenBehindLettersThatAreNotAscii) {
+    EXPECT_EQ(HelpOf()->FirstFault("ä AT 77"), (MarkedFault{"Invalid number for parameter 1", 6, 8}));
+}
+
+TEST(FaultWhileTyping, OfTheTokenAtTheCursorIsNotToldYet) {
+    const HelpOf help;
+    EXPECT_EQ(help->FirstFaultWhileTyping("AT 1 MESSA", 10), std::nullopt);
+    EXPECT_TRUE(help->FirstFaultWhileTyping("AT 1 MESSA ", 11));
+    EXPECT_TRUE(help->FirstFaultWhileTyping("AT 1 MESSA", 2));
+}
+
+TEST(FaultWhileTyping, OfAParameterThatIsStillToComeIsNotToldYet) {
+    const HelpOf help;
+    EXPECT_EQ(help->FirstFaultWhileTyping("AT 1 PLACE 0 ", 13), std::nullopt);
+    EXPECT_EQ(help->FirstFaultWhileTyping("AT 1 PLACE ", 11), std::nullopt);
+    EXPECT_TRUE(help->FirstFaultWhileTyping("AT 1 PLACE 0 ", 2));
+}
+
+TEST(FaultWhileTyping, InTheMidstOfTheLineIsTold) {
+    EXPECT_EQ(HelpOf()->FirstFaultWhileTyping("AT 77 DO", 8),
+              (MarkedFault{"Invalid number for parameter 1", 3, 5}));
+}
+
+TEST(ParameterNames, AreThoseOfTheirKinds) {
+    const HelpOf help;
+    const auto name = [&](std::string_view condAct, std::size_t place) {
+        return std::string(CondActHelp::ParameterName(*help->Catalogue().Find(condAct), place));
+    };
+    EXPECT_EQ(name("AT", 0), "Location");
+    EXPECT_EQ(name("MESSAGE", 0), "Message");
+    EXPECT_EQ(name("PLACE", 0), "Object");
+    EXPECT_EQ(name("PLACE", 1), "Location");
+    EXPECT_EQ(name("PROCESS", 0), "Process");
+    EXPECT_EQ(name("SYSMESS", 0), "SysMsg");
+    EXPECT_EQ(name("ADJECT1", 0), "Adject");
+    EXPECT_EQ(name("ADJECT2", 0), "Adject");
+    EXPECT_EQ(name("ADVERB", 0), "Adverb");
+    EXPECT_EQ(name("PREP", 0), "Prep");
+    EXPECT_EQ(name("NOUN2", 0), "Noun");
+    EXPECT_EQ(name("SET", 0), "Flag");
+    EXPECT_EQ(name("CHANCE", 0), "Value");
+}
+
+TEST(Page, IsThatOfTheNameAtTheCursorOrOfTheNameBeforeAParameter) {
+    const HelpOf help;
+    EXPECT_EQ(help->Page("AT 0 MESSAGE 1", 1), "at.htm");
+    EXPECT_EQ(help->Page("AT 0 MESSAGE 1", 4), "at.htm");
+    EXPECT_EQ(help->Page("AT 0 MESSAGE 1", 5), "message.htm");
+    EXPECT_EQ(help->Page("AT 0 MESSAGE 1", 14), "message.htm");
+}
+
+TEST(Page, IsNoneWhereThereIsNoName) {
+    const HelpOf help;
+    EXPECT_EQ(help->Page("", 0), "");
+    EXPECT_EQ(help->Page("XYZ 1", 1), "");
+    EXPECT_EQ(help->Page("DONE ", 5), "");
+}
+
+}  // namespace
+}  // namespace fabula::authoring

@@ -1,0 +1,423 @@
+#include "authoring/jobs/interchange_screen.h"
+
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "authoring/document/document.h"
+#include "platform/scripted_dialogs.h"
+#include "support/scripted_pump.h"
+#include "support/template_adventure.h"
+
+namespace fabula::authoring {
+namespace {
+
+using std::filesystem::path;
+using store::TableNum;
+using test::ScriptedPump;
+
+class InterchangeScreenTest : public testing::Test {
+  protected:
+    InterchangeScreen Screen(JobMode mode) { return InterchangeScreen(mode, &*adventure_, host_); }
+    path In(const char* name) const { return adventure_.Folder() / name; }
+
+    std::vector<std::string> Names(const InterchangeScreen& screen) {
+        std::vector<std::string> names;
+        for (const auto& option : screen.Kinds())
+            names.emplace_back(option.name);
+        return names;
+    }
+    static std::size_t Option(const InterchangeScreen& screen, std::string_view name) {
+        for (std::size_t i = 0; i < screen.Kinds().size(); ++i) {
+            if (screen.Kinds()[i].name == name) return i;
+        }
+        return screen.Kinds().size();
+    }
+    void SetTitle(const char* title) {
+        store::Cursor& settings = adventure_->OpenTable(TableNum::Adventure, "def");
+        settings.SetField("advname", std::string(title));
+        settings.Update();
+    }
+    /// An export file of the adventure, made by the screen itself.
+    path Exported() {
+        InterchangeScreen screen = Screen(JobMode::Export);
+        screen.ChooseKind(Option(screen, "Fabula"));
+        screen.source = In("game.ext").string();
+        EXPECT_TRUE(screen.RunJob());
+        return In("game.ext");
+    }
+    static std::string TitleIn(const path& file) {
+        const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadOnly);
+        return std::string(adventure->OpenTable(TableNum::Adventure, "def").Text("advname"));
+    }
+
+    test::OpenedAdventure adventure_;
+    platform::ScriptedDialogs dialogs_;
+    platform::FixedClock clock_{{2026, 3, 9, 8, 5, 7}};
+    ScriptedPump pump_;
+    platform::MemorySettings settings_;
+    InterchangeHost host_{dialogs_, clock_, pump_, settings_,
+                          path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini"};
+};
+
+TEST_F(InterchangeScreenTest, ImportHasItsTitleLabelsAndKinds) {
+    const InterchangeScreen screen = Screen(JobMode::Import);
+    EXPECT_EQ(screen.Title(), "Import of source file");
+    EXPECT_EQ(screen.StatusCaption(), "Import Status");
+    EXPECT_EQ(screen.MainButton(), "&Import");
+    EXPECT_EQ(InterchangeScreen::kPrintButton, "&Print Status");
+    EXPECT_EQ(Names(screen), (std::vector<std::string>{"UnMarlo", "UnVel", "PCVEL", "Fabula", "ACE"}));
+}
+
+TEST_F(InterchangeScreenTest, ExportHasItsTitleLabelsAndKinds) {
+    const InterchangeScreen screen = Screen(JobMode::Export);
+    EXPECT_EQ(screen.Title(), "Export of Database");
+    EXPECT_EQ(screen.StatusCaption(), "Export Status");
+    EXPECT_EQ(screen.MainButton(), "&Export");
+    EXPECT_EQ(Names(screen), (std::vector<std::string>{"UnVel", "PCVEL", "Fabula"}));
+}
+
+TEST_F(InterchangeScreenTest, LoadOfAPictureIsSwitchedOffWithASentence) {
+    InterchangeScreen screen(JobMode::LoadGraphic, &*adventure_, host_, 12);
+    EXPECT_EQ(screen.Title(), "Import of Graphic Record into record 12");
+    EXPECT_EQ(screen.StatusCaption(), "Import Status");
+    EXPECT_EQ(screen.MainButton(), "&Load");
+    EXPECT_EQ(Names(screen), (std::vector<std::string>{"UnMarlo", "UnVel"}));
+    EXPECT_FALSE(screen.CanRun());
+    EXPECT_EQ(screen.WhyNot(),
+              "This version cannot yet take single pictures out of the listings of older games.");
+    EXPECT_FALSE(screen.RunJob());
+}
+
+TEST_F(InterchangeScreenTest, KindsThatAreMissingSayWhyAndCanNotBeChosen) {
+    InterchangeScreen screen = Screen(JobMode::Import);
+    EXPECT_EQ(screen.ChosenKind(), 2U);
+    EXPECT_EQ(screen.Kinds()[0].why, "This version cannot yet read files of the kind UnMarlo.");
+    EXPECT_FALSE(screen.ChooseKind(0));
+    EXPECT_EQ(screen.ChosenKind(), 2U);
+    EXPECT_TRUE(screen.ChooseKind(4));
+    EXPECT_EQ(screen.ChosenKind(), 4U);
+    EXPECT_FALSE(screen.ChooseKind(5));
+}
+
+TEST_F(InterchangeScreenTest, BlankSourceIsRefused) {
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.source = "   ";
+    screen.database = In("new.fbd").string();
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_EQ(dialogs_.Boxes().at(0).text, "Source File not specified");
+    EXPECT_EQ(dialogs_.Boxes().at(0).title, "Error");
+    EXPECT_TRUE(screen.CanRun());
+    EXPECT_FALSE(screen.CanPrint());
+}
+
+TEST_F(InterchangeScreenTest, BlankTargetOfAnExportIsRefused) {
+    InterchangeScreen screen = Screen(JobMode::Export);
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_EQ(dialogs_.Boxes().at(0).text, "Source File not specified");
+}
+
+TEST_F(InterchangeScreenTest, SourceOfEachKindIsAskedForInItsOwnDialog) {
+    InterchangeScreen screen = Screen(JobMode::Import);
+    for (const char* kind : {"PCVEL", "Fabula", "ACE"}) {
+        dialogs_.AnswerFile(std::nullopt);
+        screen.ChooseKind(Option(screen, kind));
+        screen.ChooseSource();
+    }
+    ASSERT_EQ(dialogs_.Questions().size(), 3U);
+    EXPECT_EQ(dialogs_.Questions()[0].title, "Load an PC VEL source file");
+    EXPECT_EQ(dialogs_.Questions()[0].filter, "PC VEL Sources (*.sce)|*.sce|All files|*.*");
+    EXPECT_EQ(dialogs_.Questions()[1].title, "Load an Fabula Exportfile");
+    EXPECT_EQ(dialogs_.Questions()[1].filter, "Fabula Export (*.ext)|*.ext|All files|*.*");
+    EXPECT_EQ(dialogs_.Questions()[2].title, "Load an ACE source file");
+    EXPECT_EQ(dialogs_.Questions()[2].filter, "ACE Sources (*.*)|*.*|All files|*.*");
+    for (const auto& question : dialogs_.Questions())
+        EXPECT_FALSE(question.forWriting);
+    EXPECT_EQ(screen.source, "");
+}
+
+TEST_F(InterchangeScreenTest, TargetOfEachKindIsAskedForInItsOwnDialog) {
+    InterchangeScreen screen = Screen(JobMode::Export);
+    for (const char* kind : {"PCVEL", "Fabula"}) {
+        dialogs_.AnswerFile(std::nullopt);
+        screen.ChooseKind(Option(screen, kind));
+        screen.ChooseSource();
+    }
+    ASSERT_EQ(dialogs_.Questions().size(), 2U);
+    EXPECT_EQ(dialogs_.Questions()[0].title, "Save as a PC VEL source");
+    EXPECT_EQ(dialogs_.Questions()[0].filter, "PC VEL source (*.sce)|*.sce");
+    EXPECT_EQ(dialogs_.Questions()[0].extension, "sce");
+    EXPECT_EQ(dialogs_.Questions()[0].start, In("game.sce"));
+    EXPECT_EQ(dialogs_.Questions()[1].title, "Save as an FabuLA Extract");
+    EXPECT_EQ(dialogs_.Questions()[1].filter, "FabuLA Extract (*.ext)|*.ext");
+    EXPECT_EQ(dialogs_.Questions()[1].extension, "ext");
+    for (const auto& question : dialogs_.Questions())
+        EXPECT_TRUE(question.forWriting);
+}
+
+TEST_F(InterchangeScreenTest, DatabaseIsAskedForInItsOwnDialog) {
+    InterchangeScreen screen = Screen(JobMode::Import);
+    dialogs_.AnswerFile(In("new.fbd"));
+    screen.ChooseDatabase();
+    EXPECT_EQ(dialogs_.Questions().at(0).title, "Create a Fabula Database");
+    EXPECT_EQ(dialogs_.Questions().at(0).filter, "Fabula Database|*.fbd");
+    EXPECT_EQ(dialogs_.Questions().at(0).extension, "fbd");
+    EXPECT_EQ(screen.database, In("new.fbd").string());
+}
+
+TEST_F(InterchangeScreenTest, SourceProposesTheDatabaseInItsFolder) {
+    InterchangeScreen screen = Screen(JobMode::Import);
+    dialogs_.AnswerFile(path("/games/mill.sce"));
+    screen.ChooseSource();
+    EXPECT_EQ(screen.database, "/games/mill.fbd");
+}
+
+TEST_F(InterchangeScreenTest, ProposalLeavesADatabaseThatWasChosenAlone) {
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.database = "/games/mine.fbd";
+    dialogs_.AnswerFile(path("/games/mill.sce"));
+    screen.ChooseSource();
+    EXPECT_EQ(screen.database, "/games/mine.fbd");
+}
+
+TEST_F(InterchangeScreenTest, ImportWithoutADatabaseAsksForIt) {
+    const path source = Exported();
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = source.string();
+    dialogs_.AnswerFile(std::nullopt);
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_TRUE(screen.CanRun());
+    dialogs_.AnswerFile(In("new.fbd"));
+    EXPECT_TRUE(screen.RunJob());
+}
+
+TEST_F(InterchangeScreenTest, ImportMakesAFileToBeOpenedAndRemembersIt) {
+    SetTitle("The Old Mill");
+    const path source = Exported();
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = source.string();
+    screen.database = In("new.fbd").string();
+    EXPECT_TRUE(screen.RunJob());
+    EXPECT_EQ(screen.NewFile(), In("new.fbd"));
+    EXPECT_EQ(settings_.Get("Startup", "File"), In("new.fbd").string());
+    EXPECT_EQ(TitleIn(In("new.fbd")), "The Old Mill");
+    EXPECT_FALSE(screen.CanRun());
+    EXPECT_TRUE(screen.CanPrint());
+    EXPECT_TRUE(screen.Status().starts_with("Creating default database for " + In("new.fbd").string()));
+    EXPECT_FALSE(screen.RunJob());
+}
+
+TEST_F(InterchangeScreenTest, DatabaseWithoutAnExtensionGetsOne) {
+    const path source = Exported();
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = source.string();
+    screen.database = In("new").string();
+    EXPECT_TRUE(screen.RunJob());
+    EXPECT_EQ(screen.NewFile(), In("new.fbd"));
+}
+
+TEST_F(InterchangeScreenTest, ImportThatFailsLeavesNothingAndTheOldFileRemembered) {
+    std::ofstream(In("bad.ext")) << "this is no export file\n";
+    settings_.Set("Startup", "File", adventure_.File().string());
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = In("bad.ext").string();
+    screen.database = In("new.fbd").string();
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_FALSE(std::filesystem::exists(In("new.fbd")));
+    EXPECT_EQ(screen.NewFile(), std::nullopt);
+    EXPECT_EQ(settings_.Get("Startup", "File"), adventure_.File().string());
+    EXPECT_TRUE(screen.Status().ends_with("Deleting bad database\n")) << screen.Status();
+    EXPECT_TRUE(screen.CanPrint());
+    EXPECT_TRUE(screen.CanRun());
+    SetTitle("The open adventure is as it was");
+}
+
+TEST_F(InterchangeScreenTest, SourceThatIsMissingIsToldAndLeavesNothing) {
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.source = In("none.sce").string();
+    screen.database = In("new.fbd").string();
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_FALSE(std::filesystem::exists(In("new.fbd")));
+    ASSERT_EQ(dialogs_.Boxes().size(), 1U);
+    EXPECT_EQ(dialogs_.Boxes()[0].title, "Error");
+}
+
+TEST_F(InterchangeScreenTest, ExistingDatabaseIsReplacedOnlyAfterAQuestion) {
+    const path source = Exported();
+    std::ofstream(In("new.fbd")) << "old";
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = source.string();
+    screen.database = In("new.fbd").string();
+    dialogs_.AnswerNext(false);
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_EQ(dialogs_.Boxes().back().text,
+              "All information in " + In("new.fbd").string() + " will be deleted.");
+    EXPECT_EQ(dialogs_.Boxes().back().title, "Warning");
+    EXPECT_EQ(std::filesystem::file_size(In("new.fbd")), 3U);
+    dialogs_.AnswerNext(true);
+    EXPECT_TRUE(screen.RunJob());
+}
+
+TEST_F(InterchangeScreenTest, DatabaseThatItsDialogHasAskedAboutIsReplacedAtOnce) {
+    const path source = Exported();
+    std::ofstream(In("new.fbd")) << "old";
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = source.string();
+    dialogs_.AnswerFile(In("new.fbd"));
+    screen.ChooseDatabase();
+    EXPECT_TRUE(screen.RunJob());
+}
+
+TEST_F(InterchangeScreenTest, DatabaseCanNotBeTheSource) {
+    const path source = Exported();
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = source.string();
+    screen.database = source.string();
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_EQ(dialogs_.Boxes().back().text, "The database cannot be the source file itself");
+}
+
+TEST_F(InterchangeScreenTest, NamesWithoutAFolderLieBesideTheOpenAdventure) {
+    InterchangeScreen out = Screen(JobMode::Export);
+    out.ChooseKind(Option(out, "Fabula"));
+    out.source = " here ";
+    EXPECT_TRUE(out.RunJob());
+    EXPECT_EQ(out.source, In("here.ext").string());
+    EXPECT_TRUE(std::filesystem::exists(In("here.ext")));
+
+    InterchangeScreen in = Screen(JobMode::Import);
+    in.ChooseKind(Option(in, "Fabula"));
+    in.source = "here.ext";
+    in.database = "again";
+    EXPECT_TRUE(in.RunJob());
+    EXPECT_EQ(in.NewFile(), In("again.fbd"));
+}
+
+TEST_F(InterchangeScreenTest, DatabaseCanNotBeTheOpenAdventure) {
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = In("out.ext").string();
+    screen.database = adventure_->CurrentFile().string();
+    EXPECT_FALSE(screen.RunJob());
+    ASSERT_EQ(dialogs_.Boxes().size(), 1U);
+    EXPECT_EQ(dialogs_.Boxes().at(0).text, "The database cannot be the open adventure itself");
+    EXPECT_EQ(screen.NewFile(), std::nullopt);
+}
+
+TEST_F(InterchangeScreenTest, ExportCanNotGoOverTheAdventure) {
+    InterchangeScreen screen = Screen(JobMode::Export);
+    screen.source = adventure_.File().string();
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_EQ(dialogs_.Boxes().back().text, "The export cannot be written over the adventure itself");
+}
+
+TEST_F(InterchangeScreenTest, ExportShowsTheCheckFirstAndKeepsWhatItSaid) {
+    InterchangeScreen screen = Screen(JobMode::Export);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = In("game").string();
+    std::string title;
+    screen.showVerify = [&](VerifyScreen& verify) {
+        title = verify.Title();
+        EXPECT_FALSE(std::filesystem::exists(In("game.ext")));
+        verify.Run();
+    };
+    EXPECT_TRUE(screen.RunJob());
+    EXPECT_EQ(title, "Verify for export");
+    EXPECT_TRUE(std::filesystem::exists(In("game.ext")));
+    EXPECT_TRUE(screen.Status().starts_with("Verifying Process/Response Tables for Fabula export\n"));
+    EXPECT_FALSE(screen.CanRun());
+    EXPECT_TRUE(screen.CanPrint());
+    EXPECT_EQ(screen.NewFile(), std::nullopt);
+}
+
+TEST_F(InterchangeScreenTest, ExportOfAnAdventureThatDoesNotPassWritesNothing) {
+    store::Cursor& entries = adventure_->OpenTable(TableNum::ProcessTables, "def");
+    entries.AddNew();
+    entries.SetField("canum", std::int64_t{0});
+    entries.SetField("estype", std::int64_t{0});
+    entries.SetField("w1", std::string("*"));
+    entries.SetField("w2", std::string("*"));
+    entries.SetField("condacts", std::string("BRIGHT 1"));
+    entries.Update();
+    InterchangeScreen screen = Screen(JobMode::Export);
+    screen.ChooseKind(Option(screen, "PCVEL"));
+    screen.source = In("game.sce").string();
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_FALSE(std::filesystem::exists(In("game.sce")));
+    EXPECT_NE(screen.Status().find("Use of BRIGHT Condition/Action. This is not a valid PCVel "
+                                   "Condition/Action.\n"),
+              std::string::npos)
+        << screen.Status();
+    EXPECT_TRUE(screen.CanPrint());
+}
+
+TEST_F(InterchangeScreenTest, ExistingTargetOfAnExportIsReplacedOnlyAfterAQuestion) {
+    Exported();
+    InterchangeScreen screen = Screen(JobMode::Export);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = In("game.ext").string();
+    dialogs_.AnswerNext(false);
+    EXPECT_FALSE(screen.RunJob());
+    dialogs_.AnswerNext(true);
+    EXPECT_TRUE(screen.RunJob());
+}
+
+TEST_F(InterchangeScreenTest, ExportWithoutAnOpenAdventureIsSwitchedOff) {
+    const InterchangeScreen screen(JobMode::Export, nullptr, host_);
+    EXPECT_FALSE(screen.CanRun());
+    EXPECT_EQ(screen.WhyNot(), "No adventure is open.");
+}
+
+TEST_F(InterchangeScreenTest, JobYieldsAndCanNotBeStartedTwice) {
+    const path source = Exported();
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = source.string();
+    screen.database = In("new.fbd").string();
+    pump_.turns = 0;
+    pump_.atTurn = [&] {
+        if (!screen.Running()) return;
+        EXPECT_FALSE(screen.CanRun());
+        EXPECT_FALSE(screen.CanPrint());
+        EXPECT_FALSE(screen.RunJob());
+        EXPECT_FALSE(screen.ChooseKind(2));
+    };
+    EXPECT_TRUE(screen.RunJob());
+    EXPECT_GT(pump_.turns, 3);
+}
+
+TEST_F(InterchangeScreenTest, CancelledImportLeavesNothing) {
+    const path source = Exported();
+    InterchangeScreen screen = Screen(JobMode::Import);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = source.string();
+    screen.database = In("new.fbd").string();
+    pump_.atTurn = [&] { screen.Cancel(); };
+    EXPECT_FALSE(screen.RunJob());
+    EXPECT_FALSE(std::filesystem::exists(In("new.fbd")));
+    EXPECT_TRUE(screen.Status().ends_with("Import cancelled\nDeleting bad database\n")) << screen.Status();
+    pump_.atTurn = [] {};
+    EXPECT_TRUE(screen.RunJob());
+}
+
+TEST_F(InterchangeScreenTest, StatusCanBeSaved) {
+    Exported();
+    InterchangeScreen screen = Screen(JobMode::Export);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    screen.source = In("other.ext").string();
+    screen.RunJob();
+    dialogs_.AnswerFile(In("status.txt"));
+    EXPECT_TRUE(screen.SaveStatus());
+    std::ifstream stream(In("status.txt"));
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), screen.Status());
+}
+
+}  // namespace
+}  // namespace fabula::authoring
