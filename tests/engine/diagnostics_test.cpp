@@ -11,9 +11,9 @@ namespace {
 using engine::Diagnostics;
 using store::AdventureKind;
 
-class Diagnostics : public testing::Test {
+class DiagnosticsTest : public testing::Test {
   protected:
-    explicit Diagnostics(AdventureKind kind = AdventureKind::Fabula)
+    explicit DiagnosticsTest(AdventureKind kind = AdventureKind::Fabula)
         : run_(GameBuilder(kind).Object(0, {.place = 252}).Object(1, {.place = 2}).Start()),
           debug_(run_->engine) {}
 
@@ -24,18 +24,18 @@ class Diagnostics : public testing::Test {
     Diagnostics debug_;
 };
 
-TEST_F(Diagnostics, HasFlag0InViewAtFirst) {
+TEST_F(DiagnosticsTest, HasFlag0InViewAtFirst) {
     EXPECT_EQ(debug_.DisplayVariable(), "F0 = 0");
 }
 
-TEST_F(Diagnostics, ViewsAFlag) {
+TEST_F(DiagnosticsTest, ViewsAFlag) {
     EXPECT_EQ(Ask("F37"), "");
     EXPECT_EQ(debug_.DisplayVariable(), "F37 = 10");
     EXPECT_EQ(Ask(" f 38 "), "");
     EXPECT_EQ(debug_.DisplayVariable(), "F38 = 0");
 }
 
-TEST_F(Diagnostics, RefusesAFlagThatDoesNotExist) {
+TEST_F(DiagnosticsTest, RefusesAFlagThatDoesNotExist) {
     Ask("F37");
     EXPECT_EQ(Ask("F5000"), "Invalid value for a Flag #: 5000");
     EXPECT_EQ(Ask("F"), "Invalid value for a Flag #: ");
@@ -44,16 +44,16 @@ TEST_F(Diagnostics, RefusesAFlagThatDoesNotExist) {
     EXPECT_EQ(debug_.DisplayVariable(), "F37 = 10");
 }
 
-TEST_F(Diagnostics, ViewsAnObject) {
+TEST_F(DiagnosticsTest, ViewsAnObject) {
     EXPECT_EQ(Ask("O1"), "");
     EXPECT_EQ(debug_.DisplayVariable(), "O1 Location = 2");
 }
 
-TEST_F(Diagnostics, RefusesAnObjectThatDoesNotExist) {
+TEST_F(DiagnosticsTest, RefusesAnObjectThatDoesNotExist) {
     EXPECT_EQ(Ask("O2"), "Invalid value for an Object #:");
 }
 
-TEST_F(Diagnostics, ANumberAloneIsOfTheKindInView) {
+TEST_F(DiagnosticsTest, ANumberAloneIsOfTheKindInView) {
     Ask("O1");
     EXPECT_EQ(Ask("0"), "");
     EXPECT_EQ(debug_.DisplayVariable(), "O0 Location = 252");
@@ -63,7 +63,7 @@ TEST_F(Diagnostics, ANumberAloneIsOfTheKindInView) {
     EXPECT_EQ(Ask("5000"), "Invalid value for a Flag #: 5000");
 }
 
-TEST_F(Diagnostics, SetsAndClearsTheFlagInView) {
+TEST_F(DiagnosticsTest, SetsAndClearsTheFlagInView) {
     Ask("F100");
     EXPECT_EQ(Ask("S"), "");
     EXPECT_EQ(run_->Flag(100), 255);
@@ -71,20 +71,20 @@ TEST_F(Diagnostics, SetsAndClearsTheFlagInView) {
     EXPECT_EQ(run_->Flag(100), 0);
 }
 
-TEST_F(Diagnostics, RefusesToSetAndClearObjects) {
+TEST_F(DiagnosticsTest, RefusesToSetAndClearObjects) {
     Ask("O1");
     EXPECT_EQ(Ask("S"), "S(et) cannot be used on Objects");
     EXPECT_EQ(Ask("C"), "C(lear) cannot be used on Objects");
 }
 
-TEST_F(Diagnostics, GivesTheFlagANumber) {
+TEST_F(DiagnosticsTest, GivesTheFlagANumber) {
     Ask("F100");
     EXPECT_EQ(Ask("=77"), "");
     EXPECT_EQ(run_->Flag(100), 77);
     EXPECT_EQ(debug_.DisplayVariable(), "F100 = 77");
 }
 
-TEST_F(Diagnostics, RefusesAnythingElseBehindTheEqualsSign) {
+TEST_F(DiagnosticsTest, RefusesAnythingElseBehindTheEqualsSign) {
     Ask("F100");
     EXPECT_EQ(Ask("="), "no number after the =");
     EXPECT_EQ(Ask("=x"), "Value after the = is not numeric");
@@ -92,7 +92,7 @@ TEST_F(Diagnostics, RefusesAnythingElseBehindTheEqualsSign) {
     EXPECT_EQ(run_->Flag(100), 0);
 }
 
-TEST_F(Diagnostics, MovesThePlayerToLocationsThatExist) {
+TEST_F(DiagnosticsTest, MovesThePlayerToLocationsThatExist) {
     Ask("F38");
     EXPECT_EQ(Ask("=2"), "");
     EXPECT_EQ(run_->Flag(38), 2);
@@ -100,7 +100,7 @@ TEST_F(Diagnostics, MovesThePlayerToLocationsThatExist) {
     EXPECT_EQ(run_->Flag(38), 2);
 }
 
-TEST_F(Diagnostics, LetsTheTraceFlagsBeSetOrClearedOnly) {
+TEST_F(DiagnosticsTest, LetsTheTraceFlagsBeSetOrClearedOnly) {
     for (const char* flag : {"F1004", "F1005"}) {
         Ask(flag);
         EXPECT_EQ(Ask("=1"), "Flags 1004 & 1005 can only be SET or CLEAR");
@@ -109,30 +109,30 @@ TEST_F(Diagnostics, LetsTheTraceFlagsBeSetOrClearedOnly) {
     }
 }
 
-TEST_F(Diagnostics, MovesTheObjectInViewAndKeepsTheCount) {
+TEST_F(DiagnosticsTest, MovesTheObjectInViewAndKeepsTheCount) {
     Ask("O1");
     EXPECT_EQ(Ask("=254"), "");
     EXPECT_EQ(run_->PlaceOf(1), 254);
     EXPECT_EQ(run_->Flag(1), 1);
 }
 
-TEST_F(Diagnostics, PutsNoObjectAtLocation255) {
+TEST_F(DiagnosticsTest, PutsNoObjectAtLocation255) {
     Ask("O1");
     EXPECT_EQ(Ask("=255"), "An object cannot be put at location 255");
     EXPECT_EQ(run_->PlaceOf(1), 2);
 }
 
-TEST_F(Diagnostics, AsksTheWindowForItsHelpFile) {
+TEST_F(DiagnosticsTest, AsksTheWindowForItsHelpFile) {
     EXPECT_TRUE(debug_.DoIt("h").help);
     EXPECT_FALSE(debug_.DoIt("F1").help);
 }
 
-TEST_F(Diagnostics, RefusesEverythingElse) {
+TEST_F(DiagnosticsTest, RefusesEverythingElse) {
     EXPECT_EQ(Ask("X"), "Invalid option");
     EXPECT_EQ(Ask(""), "Invalid option");
 }
 
-TEST_F(Diagnostics, WithoutAGameShowsNothing) {
+TEST_F(DiagnosticsTest, WithoutAGameShowsNothing) {
     run_->SetFlag(200, 0);
     run_->engine.Initialize();
     const auto ended = GameBuilder().Do("SET 5000");
@@ -141,12 +141,12 @@ TEST_F(Diagnostics, WithoutAGameShowsNothing) {
     EXPECT_EQ(debug.DisplayVariable(), "");
 }
 
-class DiagnosticsOfMarlo : public Diagnostics {
+class DiagnosticsOfMarloTest : public DiagnosticsTest {
   protected:
-    DiagnosticsOfMarlo() : Diagnostics(AdventureKind::Marlo) {}
+    DiagnosticsOfMarloTest() : DiagnosticsTest(AdventureKind::Marlo) {}
 };
 
-TEST_F(DiagnosticsOfMarlo, RefusesToChangeFlagsThatSuchGamesDoNotKnow) {
+TEST_F(DiagnosticsOfMarloTest, RefusesToChangeFlagsThatSuchGamesDoNotKnow) {
     Ask("F33");
     EXPECT_EQ(Ask("S"), "Cannot change that flag in Marlo");
     EXPECT_EQ(Ask("C"), "Cannot change that flag in Marlo");
@@ -154,7 +154,7 @@ TEST_F(DiagnosticsOfMarlo, RefusesToChangeFlagsThatSuchGamesDoNotKnow) {
     EXPECT_EQ(run_->Flag(33), 255);
 }
 
-TEST_F(DiagnosticsOfMarlo, ChangesFlags0To32AndThePlayersPlace) {
+TEST_F(DiagnosticsOfMarloTest, ChangesFlags0To32AndThePlayersPlace) {
     Ask("F32");
     EXPECT_EQ(Ask("=5"), "");
     Ask("F38");

@@ -89,6 +89,7 @@ constexpr Anchor kAnchors[] = {
     {"frmvelcondact.html", "line", "txtallcas"},
     {"frmvelcondact.html", "update", "cmdupdate"},
     {"frmvelcondact.html", "exit", "cmdexit"},
+    {"frmvelengmain.html", "playerWindow", "frmvelengmain"},
     {"frmvelengmain.html", "status", "txtstatus"},
     {"frmvelengmain.html", "command", "lblcommand"},
     {"frmvelengmain.html", "location", "lbllocation"},

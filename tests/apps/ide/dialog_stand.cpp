@@ -41,13 +41,13 @@ Opened OpenRecord(Desk& desk, ScreenKey key) {
         Screen screen;
         Dialog dialog;
     };
-    return Keep<Dialog>(std::make_shared<Parts>(desk.session, key));
+    return Keep<Dialog>(std::make_shared<Parts>(desk.context, key));
 }
 
 /// A word that is being added, as far as it can be left by Tab.
 Opened OpenNewWord(Desk& desk) {
     struct Parts {
-        explicit Parts(Desk& of) : screen(of.session, {.key = of.session.nextWord, .isNew = true}) {
+        explicit Parts(Desk& of) : screen(of.context, {.key = of.context.nextWord, .isNew = true}) {
             screen.word = "SHINE";
             screen.ClickType(condacts::kVerb);
             dialog = std::make_unique<ide::WordDialog>(screen);
@@ -62,21 +62,21 @@ Opened OpenNewWord(Desk& desk) {
 Opened OpenText(Desk& desk, TableNum table, int key) {
     struct Parts {
         Parts(Desk& of, int number)
-            : screen(of.session, {.key = number}),
+            : screen(of.context, {.key = number}),
               editing(of.Adventure()),
               dialog(screen, editing, of.dialogs) {}
         authoring::MessageScreen screen;
         authoring::TextEditing editing;
         ide::MessageDialog dialog;
     };
-    desk.session.currentTable = table;
+    desk.context.currentTable = table;
     return Keep<ide::MessageDialog>(std::make_shared<Parts>(desk, key));
 }
 
 Opened OpenProcessEntry(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
-            : screen(of.session, ScreenRequest{.screen = authoring::Screen::ProcessEntry,
+            : screen(of.context, ScreenRequest{.screen = authoring::Screen::ProcessEntry,
                                                .key = {.key = 0},
                                                .table = TableNum::ProcessTables}),
               dialog(screen) {}
@@ -121,7 +121,7 @@ Opened OpenImport(Desk& desk, authoring::JobMode mode) {
 Opened OpenSort(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
-            : screen(of.session, TableNum::Vocabulary, "Vocabulary"), dialog(screen, of.dialogs) {}
+            : screen(of.context, TableNum::Vocabulary, "Vocabulary"), dialog(screen, of.dialogs) {}
         authoring::SortScreen screen;
         ide::SortDialog dialog;
     };
@@ -143,7 +143,7 @@ Opened OpenVerify(Desk& desk) {
 
 Opened OpenSettings(Desk& desk) {
     struct Parts {
-        explicit Parts(Desk& of) : screen(of.session), dialog(screen, sound) {}
+        explicit Parts(Desk& of) : screen(of.context), dialog(screen, sound) {}
         engine::SilentPlayer sound;
         authoring::SettingsScreen screen;
         ide::SettingsDialog dialog;
@@ -228,7 +228,7 @@ void Furnish(Desk& desk) {
     flag.SetField("flguse", std::string("Switch"));
     flag.SetField("flgdesc", std::string("1 when the lamp is lit."));
     flag.Update();
-    authoring::ReadNextKeys(desk.session);
+    authoring::ReadNextKeys(desk.context);
 }
 
 }  // namespace fabula::test

@@ -35,16 +35,16 @@ class ProcessEntryDialogTest : public testing::Test {
         desk_.Add(TableNum::Objects,
                   {{"objnum", std::int64_t{0}}, {"objdesc", std::string("a brass lamp")}});
         desk_.AddWord(500, "GET", 20, 0);
-        authoring::ReadNextKeys(desk_.session);
+        authoring::ReadNextKeys(desk_.context);
         const authoring::ScreenRequest request{.screen = authoring::Screen::ProcessEntry,
-                                               .key = {.key = desk_.session.nextEntry, .isNew = true},
+                                               .key = {.key = desk_.context.nextEntry, .isNew = true},
                                                .table = TableNum::ProcessTables};
         Reopen(request);
     }
 
     void Reopen(const authoring::ScreenRequest& request) {
         dialog_.reset();
-        screen_ = std::make_unique<authoring::ProcessEntryScreen>(desk_.session, request);
+        screen_ = std::make_unique<authoring::ProcessEntryScreen>(desk_.context, request);
         dialog_ = std::make_unique<ProcessEntryDialog>(*screen_);
         dialog_->show();
         dialog_->activateWindow();

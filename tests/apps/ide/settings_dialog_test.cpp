@@ -36,7 +36,7 @@ class SettingsDialogTest : public testing::Test {
         desk_.Adventure().ReadSettings();
     }
     void Open() {
-        screen_ = std::make_unique<authoring::SettingsScreen>(desk_.session,
+        screen_ = std::make_unique<authoring::SettingsScreen>(desk_.context,
                                                               std::vector<std::string>{"USB keys"});
         dialog_ = std::make_unique<SettingsDialog>(*screen_, sound_);
         dialog_->show();

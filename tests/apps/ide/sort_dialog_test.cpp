@@ -31,7 +31,7 @@ class SortDialogTest : public testing::Test {
     std::string Stored() { return authoring::StoredSort(desk_.Adventure(), TableNum::Vocabulary).value(); }
 
     Desk desk_;
-    authoring::SortScreen screen_{desk_.session, TableNum::Vocabulary, "Vocabulary"};
+    authoring::SortScreen screen_{desk_.context, TableNum::Vocabulary, "Vocabulary"};
     ide::SortDialog dialog_{screen_, desk_.dialogs};
 };
 
