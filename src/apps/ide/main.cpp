@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QSettings>
 #include <QStandardPaths>
@@ -9,6 +8,7 @@
 #include "midi/player.h"
 #include "platform/random_source.h"
 #include "platform/user_folders.h"
+#include "qt/last_border.h"
 #include "qt/qt_dialogs.h"
 #include "qt/qt_events.h"
 #include "qt/qt_settings.h"
@@ -34,10 +34,8 @@ ide::Places FindPlaces(const authoring::ProgramFiles& files, const platform::Env
             .playersData = folderOf(QStandardPaths::AppDataLocation)};
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
+int Run(int argc, char** argv) {
+    qt::Program app(argc, argv);
     QApplication::setApplicationName("Fabula");
     QApplication::setApplicationVersion(FABULA_VERSION);
     QApplication::setDesktopFileName("fabula-ide");
@@ -67,9 +65,17 @@ int main(int argc, char** argv) {
     ide::MainWindow window(
         {timers, dialogs, settings, store, clock, events, sound, random, midi::DeviceNames},
         FindPlaces(*files, environment, folders));
+    qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
+    border.SetKeep([&window] { return window.Logic().KeepACopy(); });
     window.show();
     window.Start(arguments.positionalArguments().isEmpty()
                      ? std::filesystem::path()
                      : qt::PathFromQt(arguments.positionalArguments().first()));
-    return QApplication::exec();
+    return app.Run(border);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return qt::RunProgram("FabulaIDE", [argc, argv] { return Run(argc, argv); });
 }

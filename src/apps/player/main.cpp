@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QSettings>
 #include <QStandardPaths>
@@ -8,13 +7,17 @@
 #include "platform/user_folders.h"
 #include "player/window/player_window.h"
 #include "qt/help.h"
+#include "qt/last_border.h"
 #include "qt/qt_dialogs.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
 
-int main(int argc, char** argv) {
-    using namespace fabula;
-    QApplication app(argc, argv);
+namespace {
+
+using namespace fabula;
+
+int Run(int argc, char** argv) {
+    qt::Program app(argc, argv);
     QApplication::setApplicationName("Fabula");
     QApplication::setApplicationVersion(FABULA_VERSION);
     QApplication::setDesktopFileName("fabula-engine");
@@ -48,8 +51,16 @@ int main(int argc, char** argv) {
                                  .help = [&help](const qt::HelpTopic& topic) { help.Show(topic); }});
     shown = &window;
     dialogs.SetParent(&window);
+    // What a game has come to lies in the autosave after each turn.
+    qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
     const QStringList files = arguments.positionalArguments();
     if (!files.isEmpty()) window.OpenAtStart(qt::PathFromQt(files.first()));
     window.show();
-    return QApplication::exec();
+    return app.Run(border);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return qt::RunProgram("FabulaEngine", [argc, argv] { return Run(argc, argv); });
 }

@@ -203,6 +203,13 @@ bool MainScreen::SaveAs() {
     });
 }
 
+std::string MainScreen::KeepACopy() {
+    if (!desk_ || paths_.state.empty()) return "";
+    Backups backups(paths_.state / "backups", host_.clock);
+    const auto copy = backups.Add(desk_->document.Adventure());
+    return copy ? "A copy of the adventure is at " + copy->string() + "." : "";
+}
+
 void MainScreen::Close() {
     if (!desk_) return;
     RememberView();

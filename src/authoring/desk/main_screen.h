@@ -94,6 +94,10 @@ class MainScreen {
     bool OpenFile(const std::filesystem::path& file);
     bool SaveAs();
     void Close();
+    /// After a fault that nobody expected: adds a copy of the open adventure to its backups, and gives a
+    /// sentence that tells where it is; "" when no adventure is open or the latest backup holds all of it.
+    /// Throws fabula::Error.
+    std::string KeepACopy();
 
     /// The adventures that were opened last, the latest first.
     const std::vector<std::filesystem::path>& RecentFiles() const { return recent_.Files(); }

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "authoring/files/backups.h"
 #include "authoring/main_screen_stand.h"
 #include "platform/error.h"
 #include "support/template_adventure.h"
@@ -270,6 +271,21 @@ TEST_F(MainWindowTest, ListsTheAdventuresOpenedLastTheLatestFirst) {
 TEST_F(MainWindowTest, BacksUpTheAdventureThatItOpens) {
     OpenNew();
     EXPECT_FALSE(std::filesystem::is_empty(paths.state / "backups"));
+}
+
+TEST_F(MainWindowTest, KeepsACopyOfWhatWasChangedSinceTheLatestBackup) {
+    EXPECT_EQ(main->KeepACopy(), "");
+    OpenNew();
+    EXPECT_EQ(main->KeepACopy(), "");
+    clock.Set({2026, 3, 9, 11, 0, 0});
+    StoreMessage(0, "A draught comes in.");
+    const std::string told = main->KeepACopy();
+    const auto copies = Backups(paths.state / "backups", clock).Of(folder / "game.fbd");
+    ASSERT_EQ(copies.size(), 2u);
+    EXPECT_EQ(told, "A copy of the adventure is at " + copies[0].string() + ".");
+    EXPECT_EQ(
+        Document(copies[0]).Adventure().OpenTable(TableNum::Messages, "def", "msgnum=0").Text("msgmsg"),
+        "A draught comes in.");
 }
 
 TEST_F(MainWindowTest, EndsWhenAProgramUsesCharacterSetsAndTheOneBeforeDidNot) {
