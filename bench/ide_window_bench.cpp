@@ -22,6 +22,7 @@
 #include "platform/scripted_dialogs.h"
 #include "qt/qt_settings.h"
 #include "qt/strings.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -68,7 +69,7 @@ class Tool {
 
   private:
     ide::Places Places() const {
-        return {.desk = {.defaultData = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini",
+        return {.desk = {.defaultData = test::DefaultData(),
                          .state = folder_ / "state",
                          .versionFolders = {folder_ / "versions"},
                          .version = "1.0.0"},

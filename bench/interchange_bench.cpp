@@ -14,6 +14,8 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 
+#include "support/places.h"
+
 extern char** environ;
 
 namespace fabula::interchange {
@@ -92,7 +94,7 @@ class Games {
 
     /// Runs `fabula` without output and gives the most memory that it held, in MiB.
     double Run(std::vector<std::string> arguments) const {
-        arguments.insert(arguments.begin(), FABULA_PROGRAM);
+        arguments.insert(arguments.begin(), test::Program());
         std::vector<char*> pointers;
         for (std::string& argument : arguments)
             pointers.push_back(argument.data());
@@ -101,7 +103,7 @@ class Games {
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", 1, 0);
         pid_t child = 0;
-        if (posix_spawn(&child, FABULA_PROGRAM, &actions, nullptr, pointers.data(), environ) != 0)
+        if (posix_spawn(&child, test::Program().c_str(), &actions, nullptr, pointers.data(), environ) != 0)
             std::abort();
         posix_spawn_file_actions_destroy(&actions);
         int status = 0;

@@ -10,6 +10,7 @@
 #include "platform/scripted_operator.h"
 #include "store/adventure.h"
 #include "store/create.h"
+#include "support/places.h"
 
 namespace fabula::store {
 namespace {
@@ -38,8 +39,7 @@ void Create(const std::filesystem::path& file) {
     platform::ScriptedOperator person;
     const platform::SystemClock clock;
     platform::NoEvents events;
-    const auto data = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
-    CreateAdventure(true, file, {}, {person, clock, events, data});
+    CreateAdventure(true, file, {}, {person, clock, events, test::DefaultData()});
 }
 
 void AddTexts(Adventure& adventure) {

@@ -21,6 +21,7 @@
 #include "qt/qt_dialogs.h"
 #include "qt/strings.h"
 #include "store/create.h"
+#include "support/places.h"
 
 namespace {
 
@@ -41,9 +42,7 @@ class Played {
         setup.ChooseCharSets(characterSets);
         const platform::FixedClock clock({2026, 1, 1, 0, 0, 0});
         platform::NoEvents events;
-        store::CreateAdventure(
-            true, file, setup,
-            {dialogs_, clock, events, std::filesystem::path(FABULA_SOURCE_DIR) / "data/Fabula.ini"});
+        store::CreateAdventure(true, file, setup, {dialogs_, clock, events, test::DefaultData()});
         Load(file);
     }
     void Load(const std::filesystem::path& file) { window_.Load(file); }
@@ -98,12 +97,12 @@ std::vector<std::string> Lines(const std::filesystem::path& file) {
 /// slowest turn, `middle` that of the middle one.
 void WindowWalkthrough(benchmark::State& state, const std::string& name) {
     using Clock = std::chrono::steady_clock;
-    const std::filesystem::path sources = std::filesystem::path(FABULA_SOURCE_DIR) / "examples" / name;
+    const std::filesystem::path sources = test::SourceFolder() / "examples" / name;
     const auto lines = Lines(sources / "walkthrough.scr");
     std::vector<double> times;
     for (auto _ : state) {
         Played played;
-        played.Load(std::filesystem::path(FABULA_EXAMPLES) / (name + ".fbd"));
+        played.Load(test::ExampleGames() / (name + ".fbd"));
         for (const std::string& line : lines) {
             played.Wait();
             played.Type(line);

@@ -11,6 +11,27 @@ endif()
 if(FABULA_FUZZ)
     target_compile_options(fabula_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+# What ccache needs to keep what was compiled with precompiled headers.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    target_compile_options(fabula_flags INTERFACE "SHELL:-Xclang -fno-pch-timestamp")
+else()
+    target_compile_options(fabula_flags INTERFACE -fpch-preprocess)
+endif()
+
+# fabula_precompiled(NAME [USES target...] [HEADERS <header>...])
+#
+# Headers that most sources of a kind include, the standard library's before HEADERS, parsed once for all targets that
+# reuse them from NAME. Sources still include what they use: the preset core-only builds them without.
+function(fabula_precompiled name)
+    cmake_parse_arguments(arg "" "" "USES;HEADERS;OPTIONS" ${ARGN})
+    add_library(${name} OBJECT "${PROJECT_SOURCE_DIR}/cmake/empty.cpp")
+    target_link_libraries(${name} PRIVATE ${arg_USES} fabula_flags)
+    target_compile_options(${name} PRIVATE ${arg_OPTIONS})
+    target_precompile_headers(${name} PRIVATE
+        <algorithm> <array> <charconv> <chrono> <cstddef> <cstdint> <filesystem> <fstream> <functional> <iterator>
+        <map> <memory> <optional> <set> <sstream> <span> <stdexcept> <string> <string_view> <utility> <variant> <vector>
+        ${arg_HEADERS})
+endfunction()
 
 # fabula_library(NAME SOURCES file... [USES target...] [PRIVATE target...])
 #
@@ -25,19 +46,27 @@ function(fabula_library name)
     add_library(${name} STATIC ${arg_SOURCES})
     target_include_directories(${name} PUBLIC "${include_root}")
     target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE ${arg_PRIVATE} fabula_flags)
+    target_precompile_headers(${name} REUSE_FROM library_headers)
 endfunction()
 
-# fabula_test(NAME LIBRARY SOURCES file... [USES target...])
+# fabula_test(NAME LIBRARY [WINDOWS] SOURCES file... [USES target...])
 #
 # One test program for one library. It links that library (and so what the library stands on) and the extra
-# targets of USES, which hold test helpers only. The test's own code is not optimised, whatever the preset.
+# targets of USES, which hold test helpers only. WINDOWS is for tests of what Qt shows. The test's own code is not
+# optimised, whatever the preset.
 function(fabula_test name library)
-    cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
+    cmake_parse_arguments(arg "WINDOWS" "" "SOURCES;USES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE ${library} ${arg_USES} fabula_flags GTest::gtest_main GTest::gmock)
-    target_compile_definitions(${name} PRIVATE FABULA_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    target_link_libraries(${name} PRIVATE ${library} ${arg_USES} places_support fabula_flags
+                                          GTest::gtest_main GTest::gmock)
     # Tests are compiled more often than they run; optimising them takes a third of their compiling.
     target_compile_options(${name} PRIVATE -O0)
+    if(arg_WINDOWS)
+        target_link_libraries(${name} PRIVATE window_test)
+        target_precompile_headers(${name} REUSE_FROM window_test_headers)
+    else()
+        target_precompile_headers(${name} REUSE_FROM test_headers)
+    endif()
     add_test(NAME ${name} COMMAND ${name})
 endfunction()
 

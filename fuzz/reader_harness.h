@@ -16,6 +16,7 @@
 #include "platform/scripted_operator.h"
 #include "store/adventure.h"
 #include "store/create.h"
+#include "support/places.h"
 
 namespace fabula::fuzz {
 
@@ -32,8 +33,8 @@ class ReaderHarness {
         platform::ScriptedOperator person;
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
-        const auto data = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
-        store::CreateAdventure(true, folder_ / "game.fbd", setup, {person, clock, events, data});
+        store::CreateAdventure(true, folder_ / "game.fbd", setup,
+                               {person, clock, events, test::DefaultData()});
         adventure_ = store::Adventure::Open(folder_ / "game.fbd");
     }
     ReaderHarness(const ReaderHarness&) = delete;

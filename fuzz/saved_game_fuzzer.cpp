@@ -13,6 +13,7 @@
 #include "platform/event_pump.h"
 #include "platform/scripted_operator.h"
 #include "store/create.h"
+#include "support/places.h"
 
 using namespace fabula;
 
@@ -25,9 +26,8 @@ class GameHarness {
         std::filesystem::create_directories(folder_);
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
-        const auto data = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
         store::CreateAdventure(true, folder_ / "game.fbd", store::AdventureSetup(),
-                               {person_, clock, events, data});
+                               {person_, clock, events, test::DefaultData()});
         adventure_ = store::Adventure::Open(folder_ / "game.fbd", store::OpenMode::ReadOnly);
         engine_ = std::make_unique<engine::Engine>(
             *adventure_, engine::Host{window_, person_, random_, sound_, nullptr});

@@ -1,5 +1,6 @@
 #include "authoring/main_screen_stand.h"
 
+#include "support/places.h"
 #include "support/template_adventure.h"
 
 namespace fabula::test {
@@ -7,7 +8,7 @@ namespace fabula::test {
 using authoring::MainScreen;
 
 MainScreenStand::MainScreenStand(bool maintenance) : maintenance_(maintenance) {
-    paths.defaultData = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
+    paths.defaultData = test::DefaultData();
     paths.state = folder / "state";
     paths.versionFolders = {folder / "versions"};
     paths.version = "1.2.3";

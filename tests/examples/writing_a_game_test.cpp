@@ -8,12 +8,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/places.h"
+
 namespace {
 
 using testing::ElementsAre;
 using testing::UnorderedElementsAreArray;
 
-const std::filesystem::path kSource = FABULA_SOURCE_DIR;
+const std::filesystem::path kSource = test::SourceFolder();
 
 std::string Content(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "games.h"
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 
@@ -31,7 +32,7 @@ const std::map<std::string, std::function<void(const Path&)>>& Games() {
 }
 
 Path CaseFolder() {
-    return Path(FABULA_SOURCE_DIR) / "tests" / "golden";
+    return test::SourceFolder() / "tests" / "golden";
 }
 
 std::vector<std::string> FindCases() {
@@ -55,7 +56,7 @@ TEST_P(GoldenTranscript, IsWhatTheGameShows) {
     std::vector<std::string> line = {"test", folder / "game.fbd", place / "script.txt", "--transcript",
                                      place / "transcript.txt"};
     if (std::getenv("FABULA_RECORD")) line.push_back("--update");
-    const ProgramResult result = RunProgram(FABULA_PROGRAM, line);
+    const ProgramResult result = RunProgram(Program(), line);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.status, 0);

@@ -5,10 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include "support/places.h"
+
 namespace fabula::help_test {
 
 std::vector<std::string> SectionLines(std::string_view section) {
-    std::ifstream file(std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini", std::ios::binary);
+    std::ifstream file(test::DefaultData(), std::ios::binary);
     std::vector<std::string> lines;
     bool inside = false;
     for (std::string line; std::getline(file, line);) {

@@ -7,13 +7,15 @@
 
 #include <gtest/gtest.h>
 
+#include "support/places.h"
+
 namespace fabula::help_test {
 
 namespace {
 
 using tinyxml2::XMLElement;
 
-const std::filesystem::path kHelp = std::filesystem::path(FABULA_SOURCE_DIR) / "help";
+const std::filesystem::path kHelp = test::SourceFolder() / "help";
 
 std::vector<HelpPage> LoadPages() {
     std::vector<HelpPage> pages;

@@ -8,6 +8,7 @@
 #include "platform/error.h"
 #include "platform/scripted_operator.h"
 #include "reading.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace fabula::interchange {
@@ -41,8 +42,7 @@ class Jobs : public testing::Test {
     }
 
     JobHost Host(JobObserver& observer) {
-        return {person_, clock_, events_, observer,
-                std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini"};
+        return {person_, clock_, events_, observer, test::DefaultData()};
     }
 
     std::filesystem::path Target() const { return folder_ / "new.fbd"; }

@@ -7,6 +7,7 @@
 #include "condacts/load.h"
 #include "condacts/validate.h"
 #include "platform/error.h"
+#include "support/places.h"
 #include "support/template_adventure.h"
 
 namespace fabula::interchange {
@@ -16,7 +17,7 @@ using store::AdventureKind;
 using store::TableNum;
 
 std::filesystem::path Starter(const char* name) {
-    return std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "starters" / name;
+    return test::SourceFolder() / "data" / "starters" / name;
 }
 
 /// Adds a starter file of these lines.

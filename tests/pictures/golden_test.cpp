@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "pictures/drawing.h"
+#include "support/places.h"
 #include "test_book.h"
 
 // Draws every case of tests/golden/pictures/ and compares both planes whole. The form of a case is told in
@@ -18,7 +19,7 @@ namespace fabula::pictures {
 namespace {
 
 std::filesystem::path GoldenFolder() {
-    return std::filesystem::path(FABULA_SOURCE_DIR) / "tests/golden/pictures";
+    return test::SourceFolder() / "tests/golden/pictures";
 }
 
 struct ExpectedWindow {

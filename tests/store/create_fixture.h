@@ -13,15 +13,12 @@
 #include "platform/scripted_operator.h"
 #include "store/adventure.h"
 #include "store/create.h"
+#include "support/places.h"
 #include "support/raw_database.h"
 #include "support/temp_folder.h"
 #include "text/fields.h"
 
 namespace fabula::store {
-
-inline std::filesystem::path ProjectData() {
-    return std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
-}
 
 /// Default data of the project as a test changes them, and the adventure that is made of them.
 class Create : public testing::Test {
@@ -29,7 +26,7 @@ class Create : public testing::Test {
     Create() {
         std::filesystem::create_directory(folder_ / "data");
         std::filesystem::create_directory(folder_ / "games");
-        const std::string data = test::ReadBytes(ProjectData());
+        const std::string data = test::ReadBytes(test::DefaultData());
         for (const std::string_view line : text::Split(data, "\n"))
             lines_.emplace_back(line);
     }

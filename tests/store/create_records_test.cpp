@@ -24,7 +24,7 @@ TEST_F(Create, ABadTypeTagIsToldAndTheFieldSkipped) {
 }
 
 TEST_F(Create, ALongTextOfSizeNoneGetsNoSize) {
-    MakeWith(ProjectData());
+    MakeWith(test::DefaultData());
     const auto adventure = Open();
     const TableSchema& messages = adventure->Schema(TableNum::Messages);
     const Field& text = messages.fields[*messages.Find("msgmsg")];
@@ -51,7 +51,7 @@ TEST_F(Create, ASchemaRowMayLeaveOutItsLaterColumns) {
 }
 
 TEST_F(Create, TheFieldsOfTablesAreRecordsOfTablesToo) {
-    MakeWith(ProjectData());
+    MakeWith(test::DefaultData());
     const auto adventure = Open();
     EXPECT_EQ(adventure->OpenTable(TableNum::Tables, "*", "tablenum=12").RecordCount(), 25);
     Cursor& keys = adventure->OpenTable(TableNum::Tables, "*", "", "tablekey");
@@ -77,7 +77,7 @@ TEST_F(Create, ADescriptionJoinsItsLinesAndAnEmptyLineIsALineEnd) {
 }
 
 TEST_F(Create, ARoomWithoutExitsHasNone) {
-    MakeWith(ProjectData());
+    MakeWith(test::DefaultData());
     const auto adventure = Open();
     const Cursor& room = adventure->OpenTable(TableNum::Locations, "*");
     EXPECT_EQ(room.Number("numexits"), 0);

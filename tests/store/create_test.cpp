@@ -12,7 +12,7 @@ using test::WriteBytes;
 using Lines = std::vector<std::string>;
 
 TEST_F(Create, MakesAFileThatOpens) {
-    EXPECT_TRUE(MakeWith(ProjectData()));
+    EXPECT_TRUE(MakeWith(test::DefaultData()));
     EXPECT_GT(Open()->OpenTable(TableNum::CondActs, "*").RecordCount(), 0);
     EXPECT_TRUE(person_.Boxes().empty());
     EXPECT_EQ(FilesInGames(), std::vector<std::string>{"island.fbd"});
@@ -21,7 +21,7 @@ TEST_F(Create, MakesAFileThatOpens) {
 TEST_F(Create, SetsTheSettingsThatHaveNoColumn) {
     AdventureSetup setup;
     setup.ChooseGraphics(true);
-    MakeWith(ProjectData(), setup);
+    MakeWith(test::DefaultData(), setup);
     const auto adventure = Open();
     const Cursor& settings = adventure->OpenTable(TableNum::Adventure, "*");
     EXPECT_EQ(settings.Text("savename"), "island");
@@ -91,14 +91,14 @@ INSTANTIATE_TEST_SUITE_P(Types, EachType,
                          [](const auto& type) { return std::string(type.param.prefix); });
 
 TEST_F(Create, MarloUsesCharacterSets) {
-    MakeWith(ProjectData(), SetupFor(AdventureKind::Marlo));
+    MakeWith(test::DefaultData(), SetupFor(AdventureKind::Marlo));
     EXPECT_TRUE(Open()->CharSetsOn());
 }
 
 TEST_F(Create, AnExistingFileIsReplacedAfterYes) {
     WriteBytes(file_, "old");
     person_.AnswerNext(true);
-    EXPECT_TRUE(MakeWith(ProjectData()));
+    EXPECT_TRUE(MakeWith(test::DefaultData()));
     ASSERT_EQ(person_.Boxes().size(), 1u);
     EXPECT_EQ(person_.Boxes()[0].text, "All information in " + file_.string() + " will be deleted.");
     EXPECT_EQ(person_.Boxes()[0].title, "Warning");
@@ -108,14 +108,14 @@ TEST_F(Create, AnExistingFileIsReplacedAfterYes) {
 TEST_F(Create, AnExistingFileStaysAfterNo) {
     WriteBytes(file_, "old");
     person_.AnswerNext(false);
-    EXPECT_FALSE(MakeWith(ProjectData()));
+    EXPECT_FALSE(MakeWith(test::DefaultData()));
     EXPECT_EQ(ReadBytes(file_), "old");
     EXPECT_EQ(FilesInGames(), std::vector<std::string>{"island.fbd"});
 }
 
 TEST_F(Create, AnExistingFileIsReplacedAtOnceOnRequest) {
     WriteBytes(file_, "old");
-    EXPECT_TRUE(MakeWith(ProjectData(), {}, true));
+    EXPECT_TRUE(MakeWith(test::DefaultData(), {}, true));
     EXPECT_TRUE(person_.Boxes().empty());
     EXPECT_GT(Open()->OpenTable(TableNum::Flags, "*").RecordCount(), 0);
 }
@@ -134,7 +134,7 @@ TEST_F(Create, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
     EXPECT_EQ(test::RunInChild([&] {
                   test::LimitFileSize(64 * 1024);
                   try {
-                      MakeWith(ProjectData(), {}, true);
+                      MakeWith(test::DefaultData(), {}, true);
                   } catch (const Error&) {
                       return 0;
                   }
@@ -149,9 +149,10 @@ TEST_F(Create, AFolderThatIsNotThereIsAnError) {
     const platform::FixedClock clock({2026, 3, 4, 5, 6, 7});
     platform::NoEvents events;
     const auto lost = folder_ / "nowhere/game.fbd";
-    EXPECT_THROW(CreateAdventure(false, lost, {}, {person_, clock, events, ProjectData()}), Error);
+    EXPECT_THROW(CreateAdventure(false, lost, {}, {person_, clock, events, test::DefaultData()}), Error);
     const auto longName = folder_.Path() / (std::string(300, 'x') + ".fbd");
-    EXPECT_THROW(CreateAdventure(false, longName, {}, {person_, clock, events, ProjectData()}), Error);
+    EXPECT_THROW(CreateAdventure(false, longName, {}, {person_, clock, events, test::DefaultData()}),
+                 Error);
 }
 
 TEST_F(Create, GivesTheWindowATurnForEveryLineOfData) {
@@ -160,7 +161,7 @@ TEST_F(Create, GivesTheWindowATurnForEveryLineOfData) {
         int turns = 0;
     } events;
     const platform::FixedClock clock({2026, 3, 4, 5, 6, 7});
-    CreateAdventure(false, file_, {}, {person_, clock, events, ProjectData()});
+    CreateAdventure(false, file_, {}, {person_, clock, events, test::DefaultData()});
     EXPECT_GT(events.turns, 1000);
 }
 

@@ -6,6 +6,7 @@
 #include "condacts/convert.h"
 #include "condacts/load.h"
 #include "interchange/starter.h"
+#include "support/places.h"
 #include "support/template_adventure.h"
 #include "text/fields.h"
 
@@ -49,8 +50,7 @@ StarterGame::StarterGame(const std::filesystem::path& file, AdventureKind kind, 
     : letters_(FactsOf(kind).letters) {
     MakeAdventure(file, SetupFor(kind, characterSets));
     adventure_ = store::Adventure::Open(file);
-    interchange::AddStarter(*adventure_, std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "starters" /
-                                             FactsOf(kind).starter);
+    interchange::AddStarter(*adventure_, SourceFolder() / "data" / "starters" / FactsOf(kind).starter);
     catalogue_ = condacts::LoadCatalogue(*adventure_);
     nextWord_ = FirstFree(*adventure_, TableNum::Vocabulary, "vocindex");
     nextEntry_ = FirstFree(*adventure_, TableNum::ProcessTables, "canum");

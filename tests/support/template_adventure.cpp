@@ -7,6 +7,7 @@
 #include "platform/event_pump.h"
 #include "platform/scripted_operator.h"
 #include "store/create.h"
+#include "support/places.h"
 
 namespace fabula::test {
 namespace {
@@ -15,8 +16,7 @@ void Create(const std::filesystem::path& file, const store::AdventureSetup& setu
     platform::ScriptedOperator person;
     const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
     platform::NoEvents events;
-    const auto data = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
-    store::CreateAdventure(true, file, setup, {person, clock, events, data});
+    store::CreateAdventure(true, file, setup, {person, clock, events, DefaultData()});
 }
 
 /// The files that were created so far, one for each setup; they live as long as the test program.

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "store/adventure.h"
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/template_adventure.h"
 
@@ -33,7 +34,7 @@ class DrawVerb : public testing::Test {
 
     ProgramResult Run(std::vector<std::string> arguments) {
         arguments.insert(arguments.begin(), "draw");
-        return RunProgram(FABULA_PROGRAM, arguments);
+        return RunProgram(Program(), arguments);
     }
     std::string Path(const char* name) const { return (folder_ / name).string(); }
     std::string File() const { return Path("game.fbd"); }
@@ -121,7 +122,7 @@ using CharsetVerb = DrawVerb;
 
 TEST_F(CharsetVerb, SavesListsAndLoadsASet) {
     const auto run = [](const std::vector<std::string>& arguments) {
-        return RunProgram(FABULA_PROGRAM, arguments);
+        return RunProgram(Program(), arguments);
     };
     EXPECT_EQ(run({"charset", "list", File()}).output, "0 - Default\n");
     EXPECT_EQ(run({"charset", "save", File(), Path("sets.chr"), "0"}).status, 0);
@@ -133,10 +134,10 @@ TEST_F(CharsetVerb, SavesListsAndLoadsASet) {
 
 TEST_F(CharsetVerb, FailsWithTheSystemsWords) {
     std::ofstream(Path("sets.chr")) << "no sets\n";
-    const ProgramResult result = RunProgram(FABULA_PROGRAM, {"charset", "list", Path("sets.chr")});
+    const ProgramResult result = RunProgram(Program(), {"charset", "list", Path("sets.chr")});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors, Path("sets.chr") + " is not a Character Set File\n");
-    EXPECT_EQ(RunProgram(FABULA_PROGRAM, {"charset", "save", File(), Path("x.chr"), "7"}).errors,
+    EXPECT_EQ(RunProgram(Program(), {"charset", "save", File(), Path("x.chr"), "7"}).errors,
               "fabula: There is no character set 7.\n");
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 #include "text/safe_text.h"
@@ -40,7 +41,7 @@ class HostileText : public testing::Test {
 
     /// Runs the program; what it wrote must be plain, and must tell something.
     ProgramResult RunPlain(const std::vector<std::string>& arguments) {
-        ProgramResult result = RunProgram(FABULA_PROGRAM, arguments);
+        ProgramResult result = RunProgram(Program(), arguments);
         EXPECT_TRUE(IsPlainText(result.output)) << arguments[0] << " wrote:\n" << result.output;
         EXPECT_TRUE(IsPlainText(result.errors)) << arguments[0] << " told:\n" << result.errors;
         EXPECT_NE(result.output + result.errors, "") << arguments[0];
@@ -67,7 +68,7 @@ TEST_F(HostileText, InANameOfAFileReachesNoTerminal) {
 }
 
 TEST_F(HostileText, IsDumpedAsNumbers) {
-    RunProgram(FABULA_PROGRAM, {"import", "ace", File("game.txt"), File("game.fbd")});
+    RunProgram(Program(), {"import", "ace", File("game.txt"), File("game.fbd")});
     const ProgramResult result = RunPlain({"dump", File("game.fbd"), "messages", "--fields", "msgmsg"});
     EXPECT_NE(result.output.find(R"(\u001b]0;owned\u0007\u009b31m)"), std::string::npos) << result.output;
     EXPECT_NE(result.output.find(R"(\u202e)"), std::string::npos) << result.output;
@@ -78,7 +79,7 @@ TEST_F(HostileText, OfAGameTurnsNoDirectionWhilePlayed) {
     game.replace(game.find("Hall."), 5, "Hall " + kObeyed + ".");
     game.resize(game.find("GET _ FROB"));
     std::ofstream(File("game.txt"), std::ios::binary) << game;
-    RunProgram(FABULA_PROGRAM, {"import", "ace", File("game.txt"), File("game.fbd")});
+    RunProgram(Program(), {"import", "ace", File("game.txt"), File("game.fbd")});
     const ProgramResult result = RunPlain({"play", File("game.fbd")});
     EXPECT_NE(result.output.find("Hall "), std::string::npos) << result.output;
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 
@@ -22,7 +23,7 @@ class Interchange : public testing::Test {
     void Write(const char* name, const std::string& text) { std::ofstream(folder_ / name) << text; }
     std::string File(const char* name) const { return (folder_ / name).string(); }
     ProgramResult Run(const std::vector<std::string>& arguments) {
-        return RunProgram(FABULA_PROGRAM, arguments);
+        return RunProgram(Program(), arguments);
     }
     bool Exists(const char* name) const { return std::filesystem::exists(folder_ / name); }
 

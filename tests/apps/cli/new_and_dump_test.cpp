@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 
@@ -13,7 +14,7 @@ namespace {
 class Program : public testing::Test {
   protected:
     ProgramResult Run(const std::vector<std::string>& arguments) {
-        return RunProgram(FABULA_PROGRAM, arguments);
+        return RunProgram(Program(), arguments);
     }
     std::string File() const { return (folder_ / "game.fbd").string(); }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/conversation.h"
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 #include "waiting_game.h"
@@ -23,7 +24,7 @@ class PlayVerb : public testing::Test {
 
     ProgramResult Play(const std::string& input, std::vector<std::string> options = {}) {
         options.insert(options.begin(), {"play", game_});
-        return RunProgram(FABULA_PROGRAM, options, input);
+        return RunProgram(Program(), options, input);
     }
     std::string File(const char* name) const { return folder_ / name; }
 
@@ -34,7 +35,7 @@ class PlayVerb : public testing::Test {
 /// As a program for regression tests plays: it writes a command and reads up to the next prompt.
 class PlayVerbByTurns : public PlayVerb {
   protected:
-    PlayVerbByTurns() : talk_(Line::Pipe, FABULA_PROGRAM, {"play", game_}) { Answer(); }
+    PlayVerbByTurns() : talk_(Line::Pipe, Program(), {"play", game_}) { Answer(); }
 
     /// What the game says without the prompt, which must be the last that it says.
     std::string Answer() {
@@ -174,7 +175,7 @@ TEST_F(PlayVerb, ATimeOutPassesAtAnEmptyLine) {
 }
 
 TEST_F(PlayVerb, InRealTimeATimeOutPassesByItself) {
-    Conversation talk(Line::Pipe, FABULA_PROGRAM, {"play", game_, "--real-time"});
+    Conversation talk(Line::Pipe, Program(), {"play", game_, "--real-time"});
     talk.ReadUntil("\n>");
     talk.Send("clock\n");
     EXPECT_EQ(talk.ReadUntil("\n>"), "You said yes.\n?\n>");
@@ -237,7 +238,7 @@ TEST_F(PlayVerb, TheTranscriptHasAllThatIsShownAndTypedUnbroken) {
 }
 
 TEST_F(PlayVerb, TheTranscriptIsWrittenAsTheGameGoesOn) {
-    Conversation talk(Line::Pipe, FABULA_PROGRAM, {"play", game_, "--transcript", File("transcript")});
+    Conversation talk(Line::Pipe, Program(), {"play", game_, "--transcript", File("transcript")});
     talk.ReadUntil("\n>");
     talk.Send("inventory\n");
     talk.ReadUntil("\n>");

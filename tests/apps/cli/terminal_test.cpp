@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/conversation.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 #include "waiting_game.h"
 
@@ -19,7 +20,7 @@ class PlayInTerminal : public testing::Test {
 
     void Start(std::vector<std::string> options = {}) {
         options.insert(options.begin(), {"play", game_});
-        talk_ = std::make_unique<Conversation>(Line::Terminal, FABULA_PROGRAM, options);
+        talk_ = std::make_unique<Conversation>(Line::Terminal, Program(), options);
         talk_->ReadUntil("?\r\n>");
     }
     /// What is on the screen from the typed command up to the next prompt.

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 #include "waiting_game.h"
@@ -16,7 +17,7 @@ class TestVerb : public testing::Test {
 
     ProgramResult Test(std::vector<std::string> options = {}) {
         options.insert(options.begin(), {"test", game_, script_});
-        return RunProgram(FABULA_PROGRAM, options);
+        return RunProgram(Program(), options);
     }
     void Write(const std::string& file, const std::string& content) {
         std::ofstream(file, std::ios::binary) << content;
@@ -116,7 +117,7 @@ TEST_F(TestVerb, SavedGamesLiveAsLongAsTheTest) {
 }
 
 TEST_F(TestVerb, SavedGamesBesideTheScriptCanBeLoaded) {
-    RunProgram(FABULA_PROGRAM, {"play", game_}, "save\n" + (folder_ / "kept.sav").string() + "\n");
+    RunProgram(Program(), {"play", game_}, "save\n" + (folder_ / "kept.sav").string() + "\n");
     Write(script_, "load\nkept\n");
     Test({"--update"});
     EXPECT_EQ(Read(transcript_), "A room.\n?\n>load\nOpen Existing Fabula Save File\n>kept\nA room.\n?\n");

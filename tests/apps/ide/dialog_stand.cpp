@@ -18,6 +18,7 @@
 #include "ide/dialogs/word_dialog.h"
 #include "platform/clock.h"
 #include "platform/settings.h"
+#include "support/places.h"
 #include "support/scripted_pump.h"
 
 namespace fabula::test {
@@ -105,9 +106,7 @@ Opened OpenSetup(Desk&) {
 Opened OpenImport(Desk& desk, authoring::JobMode mode) {
     struct Parts {
         Parts(Desk& of, authoring::JobMode as)
-            : screen(as, &of.Adventure(),
-                     {of.dialogs, clock, pump, settings,
-                      std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini"}),
+            : screen(as, &of.Adventure(), {of.dialogs, clock, pump, settings, test::DefaultData()}),
               dialog(screen, of.dialogs) {}
         platform::FixedClock clock{{2026, 3, 9, 8, 5, 7}};
         ScriptedPump pump;

@@ -16,6 +16,7 @@
 
 #include "ide/dialog_checks.h"
 #include "platform/scripted_dialogs.h"
+#include "support/places.h"
 #include "support/scripted_pump.h"
 #include "support/template_adventure.h"
 
@@ -61,8 +62,7 @@ class InterchangeDialogTest : public testing::Test {
     platform::FixedClock clock_{{2026, 3, 9, 8, 5, 7}};
     ScriptedPump pump_;
     platform::MemorySettings settings_;
-    authoring::InterchangeHost host_{dialogs_, clock_, pump_, settings_,
-                                     std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini"};
+    authoring::InterchangeHost host_{dialogs_, clock_, pump_, settings_, test::DefaultData()};
     std::unique_ptr<InterchangeScreen> screen_;
     std::unique_ptr<ide::InterchangeDialog> dialog_;
 };

@@ -6,6 +6,7 @@
 
 #include "qt/strings.h"
 #include "qt/theme.h"
+#include "support/places.h"
 
 namespace fabula::test {
 
@@ -22,14 +23,12 @@ OpenedWindow::~OpenedWindow() {
 }
 
 ide::Places OpenedWindow::Places() const {
-    return {.desk = {.defaultData = std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini",
-                     .state = {},
-                     .versionFolders = {},
-                     .version = "1.0.0"},
-            .help = help.Contents(),
-            .examples = examples,
-            .ownGames = folder / "own",
-            .playersData = folder / "players"};
+    return {
+        .desk = {.defaultData = test::DefaultData(), .state = {}, .versionFolders = {}, .version = "1.0.0"},
+        .help = help.Contents(),
+        .examples = examples,
+        .ownGames = folder / "own",
+        .playersData = folder / "players"};
 }
 
 void OpenedWindow::Restart() {

@@ -21,6 +21,7 @@
 #include "qt/help_window.h"
 #include "qt/strings.h"
 #include "store/adventure.h"
+#include "support/places.h"
 
 /// The game of docs/tutorial.md, made as the tutorial tells: one step here for each of its headings.
 namespace fabula::test {
@@ -38,7 +39,7 @@ constexpr int kShortDescription = 3;
 constexpr QKeyCombination kAdd = Qt::CTRL | Qt::Key_N;
 constexpr QKeyCombination kUpdate = Qt::CTRL | Qt::Key_Return;
 
-std::string ReadFile(const char* file) {
+std::string ReadFile(const std::filesystem::path& file) {
     std::ifstream in(file);
     return {std::istreambuf_iterator<char>(in), {}};
 }
@@ -327,7 +328,7 @@ class Tutorial : public testing::Test {
 
     /// The tutorial says what was done: what was typed, what was chosen, and no other commands.
     void CompareWithTheText() {
-        const std::string text = Unwrapped(ReadFile(FABULA_SOURCE_DIR "/docs/tutorial.md"));
+        const std::string text = Unwrapped(ReadFile(test::SourceFolder() / "docs/tutorial.md"));
         for (const std::string& typed : author_.Typed())
             EXPECT_THAT(text, HasSubstr(typed == File().string() ? "cake.fbd" : typed));
         std::set<std::string> chosen;
@@ -338,7 +339,7 @@ class Tutorial : public testing::Test {
         for (const std::string& command : Between(text, "**", "**"))
             EXPECT_THAT(chosen, Contains(command)) << "is told in the tutorial only";
         for (const std::string& picture : Between(text, "](images/", ")"))
-            EXPECT_TRUE(std::filesystem::exists(FABULA_SOURCE_DIR "/docs/images/" + picture)) << picture;
+            EXPECT_TRUE(std::filesystem::exists(test::SourceFolder() / "docs/images" / picture)) << picture;
     }
 
     Author author_;

@@ -7,6 +7,7 @@
 
 #include "player/play/session.h"
 #include "player/played_window.h"
+#include "support/places.h"
 
 namespace fabula::test {
 namespace {
@@ -46,10 +47,10 @@ void PlayLine(PlayedWindow& played, const std::string& line) {
 }
 
 TEST_P(ExampleGames, WindowTellsWhatTheTerminalTells) {
-    const fs::path sources = fs::path(FABULA_SOURCE_DIR) / "examples" / GetParam();
+    const fs::path sources = test::SourceFolder() / "examples" / GetParam();
     for (const std::string script : {"walkthrough", "wrong_things"}) {
         PlayedWindow played;
-        played.Window().Load(fs::path(FABULA_EXAMPLES) / (std::string(GetParam()) + ".fbd"));
+        played.Window().Load(test::ExampleGames() / (std::string(GetParam()) + ".fbd"));
         played.random = platform::SeededRandom(1);
         played.dialogs.AnswerFile(played.folder / "transcript.txt");
         played.Action("Transcript").trigger();

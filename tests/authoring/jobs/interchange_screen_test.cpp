@@ -6,6 +6,7 @@
 
 #include "authoring/document/document.h"
 #include "platform/scripted_dialogs.h"
+#include "support/places.h"
 #include "support/scripted_pump.h"
 #include "support/template_adventure.h"
 
@@ -56,8 +57,7 @@ class InterchangeScreenTest : public testing::Test {
     platform::FixedClock clock_{{2026, 3, 9, 8, 5, 7}};
     ScriptedPump pump_;
     platform::MemorySettings settings_;
-    InterchangeHost host_{dialogs_, clock_, pump_, settings_,
-                          path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini"};
+    InterchangeHost host_{dialogs_, clock_, pump_, settings_, test::DefaultData()};
 };
 
 TEST_F(InterchangeScreenTest, ImportHasItsTitleLabelsAndKinds) {

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+
+namespace fabula::test {
+
+/// The root of the sources that were built.
+std::filesystem::path SourceFolder();
+
+/// The default data that new adventures are made of.
+std::filesystem::path DefaultData();
+
+/// The built command line, `fabula`.
+std::filesystem::path Program();
+
+/// The folder of the adventures that the build made of examples/.
+std::filesystem::path ExampleGames();
+
+}  // namespace fabula::test
