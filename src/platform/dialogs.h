@@ -26,6 +26,9 @@ struct TextQuestion {
     std::string proposal;
 };
 
+/// What is to become of changes on a screen that is about to close.
+enum class Leaving { KeepEditing, Discard, Store };
+
 /// What a program with windows tells and asks in boxes of their own.
 class Dialogs : public Operator {
   public:
@@ -35,6 +38,9 @@ class Dialogs : public Operator {
 
     /// Asks `text` with OK and Cancel; true for OK.
     virtual bool Proceed(std::string_view text, std::string_view title) = 0;
+
+    /// Asks what is to become of changes that are not stored yet. KeepEditing when the box is closed.
+    virtual Leaving AskLeaving(std::string_view text, std::string_view title) = 0;
 
     /// The line that was typed, which may be empty; nullopt for Cancel.
     virtual std::optional<std::string> AskText(const TextQuestion& question) = 0;

@@ -17,6 +17,14 @@ bool ScriptedDialogs::Proceed(std::string_view text, std::string_view title) {
     return person_.Confirm(text, title);
 }
 
+Leaving ScriptedDialogs::AskLeaving(std::string_view text, std::string_view title) {
+    person_.Tell(text, title);
+    if (leavings_.empty()) throw std::logic_error("an unexpected question was asked: " + std::string(text));
+    const Leaving answer = leavings_.front();
+    leavings_.pop_front();
+    return answer;
+}
+
 std::optional<std::filesystem::path> ScriptedDialogs::ChooseFile(const FileQuestion& question) {
     questions_.push_back(question);
     if (files_.empty()) throw std::logic_error("an unexpected file was asked for: " + question.title);

@@ -20,6 +20,8 @@ class ScriptedDialogs final : public Dialogs {
     void AnswerFile(std::optional<std::filesystem::path> file) { files_.push_back(std::move(file)); }
     void AnswerText(std::optional<std::string> text) { texts_.push_back(std::move(text)); }
 
+    void AnswerLeaving(Leaving answer) { leavings_.push_back(answer); }
+
     /// Called while a box is shown, as events come while a real one is.
     std::function<void()> whileTelling = [] {};
 
@@ -32,6 +34,7 @@ class ScriptedDialogs final : public Dialogs {
     void Tell(std::string_view text, std::string_view title) override;
     bool Confirm(std::string_view text, std::string_view title) override;
     bool Proceed(std::string_view text, std::string_view title) override;
+    Leaving AskLeaving(std::string_view text, std::string_view title) override;
     std::optional<std::filesystem::path> ChooseFile(const FileQuestion& question) override;
     std::optional<std::string> AskText(const TextQuestion& question) override;
     void Report(std::string_view text, std::string_view title) override;
@@ -40,6 +43,7 @@ class ScriptedDialogs final : public Dialogs {
     ScriptedOperator person_;
     std::deque<std::optional<std::filesystem::path>> files_;
     std::deque<std::optional<std::string>> texts_;
+    std::deque<Leaving> leavings_;
     std::vector<FileQuestion> questions_;
     std::vector<TextQuestion> textQuestions_;
     std::vector<Shown> reports_;

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
@@ -94,6 +95,20 @@ void QtDialogs::Report(std::string_view text, std::string_view title) {
     layout->addWidget(buttons);
     window.resize(640, 440);
     window.exec();
+}
+
+platform::Leaving QtDialogs::AskLeaving(std::string_view text, std::string_view title) {
+    QMessageBox box(QMessageBox::Question, ToQt(title), ToQt(text), QMessageBox::NoButton, Parent());
+    box.setTextFormat(Qt::PlainText);
+    const auto* store = box.addButton(QObject::tr("&Store"), QMessageBox::AcceptRole);
+    const auto* discard = box.addButton(QObject::tr("&Discard"), QMessageBox::DestructiveRole);
+    QPushButton* keep = box.addButton(QObject::tr("&Keep Editing"), QMessageBox::RejectRole);
+    box.setDefaultButton(keep);
+    box.setEscapeButton(keep);
+    box.exec();
+    if (box.clickedButton() == store) return platform::Leaving::Store;
+    if (box.clickedButton() == discard) return platform::Leaving::Discard;
+    return platform::Leaving::KeepEditing;
 }
 
 std::optional<std::filesystem::path> QtDialogs::ChooseFile(const platform::FileQuestion& question) {

@@ -17,6 +17,7 @@ class QtDialogs final : public platform::Dialogs {
     void Tell(std::string_view text, std::string_view title) override;
     bool Confirm(std::string_view text, std::string_view title) override;
     bool Proceed(std::string_view text, std::string_view title) override;
+    platform::Leaving AskLeaving(std::string_view text, std::string_view title) override;
     std::optional<std::filesystem::path> ChooseFile(const platform::FileQuestion& question) override;
     std::optional<std::string> AskText(const platform::TextQuestion& question) override;
     void Report(std::string_view text, std::string_view title) override;

@@ -38,11 +38,15 @@ bool HasSynonym(Adventure& adventure, const Word& word, int vocindex) {
     return row.First({std::int64_t{word.number}, std::int64_t{word.type}, std::int64_t{vocindex}});
 }
 
-/// Whether a verb or a movement noun of this spelling and number is among the words.
-bool IsStillNamed(const condacts::WordIndex& words, std::string_view spelling, int number) {
-    return std::any_of(words.All().begin(), words.All().end(), [&](const Word& word) {
-        return word.number == number && condacts::IsMovementWord(word) &&
-               text::EqualsNoCase(word.word, spelling);
+/// Whether the verb of an entry or the word of an exit, with the number of `deleted`, has gone with it. A
+/// verb or a movement noun of the same spelling and number that is left keeps it. So does, for a spelling
+/// that went before its synonyms, any such word of the number: GET stays while TAKE is left, whatever
+/// becomes of the noun SWORD that shares their number.
+bool HasGone(const condacts::WordIndex& words, const Word& deleted, std::string_view spelling) {
+    const bool own = text::EqualsNoCase(spelling, deleted.word);
+    return std::none_of(words.All().begin(), words.All().end(), [&](const Word& word) {
+        return word.number == deleted.number && condacts::IsMovementWord(word) &&
+               (!own || text::EqualsNoCase(word.word, spelling));
     });
 }
 
@@ -95,8 +99,7 @@ class EntryTest {
 
   private:
     bool HasLost(const Cursor& entry, std::string_view wordField, std::string_view numberField) const {
-        return entry.Number(numberField) == word_.number &&
-               !IsStillNamed(words_, entry.Text(wordField), word_.number);
+        return entry.Number(numberField) == word_.number && HasGone(words_, word_, entry.Text(wordField));
     }
 
     Word word_;
@@ -143,8 +146,8 @@ Exits Without(const Word& word, const condacts::WordIndex& words, std::string_vi
     Exits kept;
     for (std::size_t i = 0; i + 1 < numbers.size(); i += 2) {
         const bool named = i + 1 < texts.size();
-        const bool uses = condacts::WholeNumber(numbers[i]) == word.number &&
-                          !(named && IsStillNamed(words, texts[i], word.number));
+        const bool uses =
+            condacts::WholeNumber(numbers[i]) == word.number && !(named && !HasGone(words, word, texts[i]));
         if (uses) {
             ++kept.deleted;
             continue;
@@ -195,7 +198,7 @@ std::string ReportOf(const Deleted& deleted) {
     add(deleted.objects, " Object record(s) had an object word set to _");
     add(deleted.entries, " Event/Status Table records were deleted.");
     add(deleted.movements, " Movements were deleted in the Locations Table.");
-    return report.empty() ? "No records were deleted." : report;
+    return report.empty() ? "The word was deleted. No other record used it." : report;
 }
 
 }  // namespace

@@ -19,6 +19,9 @@ class EditScreen {
     /// The name of the control that was refused last, to which the focus goes back; "" before the first.
     std::string_view Refused() const { return refused_; }
 
+    /// Whether something differs from what the screen opened with.
+    virtual bool Changed() const = 0;
+
     store::Adventure& Adventure() const { return context_.document.Adventure(); }
 
   protected:

@@ -49,7 +49,7 @@ std::vector<std::string> FlagScreen::Typed() const {
 }
 
 bool FlagScreen::Update() {
-    if (Typed() == opened_) return true;
+    if (!Changed()) return true;
     if (!LeaveType() || !LeaveUse() || !LeaveDescription()) return false;
     Change change(context_.document, ChangeName());
     store::Cursor& record = RecordToStore();

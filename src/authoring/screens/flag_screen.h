@@ -9,7 +9,7 @@
 namespace fabula::authoring {
 
 /// The screen of what a flag is used for. Flags are not added here: the key is that of a record.
-class FlagScreen : public RecordScreen {
+class FlagScreen final : public RecordScreen {
   public:
     FlagScreen(ScreenContext& context, ScreenKey key);
 
@@ -20,6 +20,8 @@ class FlagScreen : public RecordScreen {
     bool LeaveType();
     bool LeaveUse();
     bool LeaveDescription();
+
+    bool Changed() const override { return Typed() != opened_; }
 
     /// True when the screen can close: what was changed is stored.
     bool Update();

@@ -244,7 +244,7 @@ std::vector<std::string> LocationScreen::Typed() const {
 }
 
 bool LocationScreen::Update() {
-    if (Typed() == opened_ && !HasPendingExit()) return true;
+    if (!Changed()) return true;
     if (!LeaveDescription() || !LeaveShortDescription() || !LeaveExits()) return false;
     if (HasPendingExit() && !Add()) return false;
     Change change(context_.document, ChangeName());

@@ -29,7 +29,7 @@ struct Neighbour {
 };
 
 /// The screen of a location.
-class LocationScreen : public RecordScreen {
+class LocationScreen final : public RecordScreen {
   public:
     LocationScreen(ScreenContext& context, ScreenKey key);
 
@@ -57,6 +57,8 @@ class LocationScreen : public RecordScreen {
 
     /// The locations from which an exit leads here, by number.
     const std::vector<Neighbour>& LeadsHere() const { return leadsHere_; }
+
+    bool Changed() const override { return Typed() != opened_ || HasPendingExit(); }
 
     /// True when the screen can close: what was changed is stored, an exit that was not added yet too.
     bool Update();

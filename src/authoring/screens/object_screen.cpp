@@ -173,7 +173,7 @@ void ObjectScreen::StoreAttributes(store::Cursor& record) const {
 }
 
 bool ObjectScreen::Update() {
-    if (Typed() == opened_) return true;
+    if (!Changed()) return true;
     if (!LeaveDescription() || !LeaveInitialPlace() || !LeaveRoom()) return false;
     if (HasAttributes() && (!CheckContainer() || !LeaveWeight())) return false;
     Change change(context_.document, ChangeName());

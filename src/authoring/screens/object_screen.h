@@ -14,7 +14,7 @@ namespace fabula::authoring {
 enum class InitialPlace { NotCreated, Worn, Carried, InRoom };
 
 /// The screen of an object.
-class ObjectScreen : public RecordScreen {
+class ObjectScreen final : public RecordScreen {
   public:
     ObjectScreen(ScreenContext& context, ScreenKey key);
 
@@ -37,6 +37,8 @@ class ObjectScreen : public RecordScreen {
     /// Checks that the object can be a container, which `container` loses when it can't.
     bool ClickContainer();
     bool LeaveWeight();
+
+    bool Changed() const override { return Typed() != opened_; }
 
     /// True when the screen can close: what was changed is stored.
     bool Update();

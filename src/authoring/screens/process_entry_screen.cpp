@@ -38,6 +38,7 @@ ProcessEntryScreen::ProcessEntryScreen(ScreenContext& context, const ScreenReque
     else
         ReadEntry(Key().key);
     openedType_ = process;
+    opened_ = Typed();
 }
 
 void ProcessEntryScreen::ReadWords() {
@@ -248,6 +249,18 @@ bool ProcessEntryScreen::AddPending() {
     const bool nothing =
         text::TrimBlanks(parameter1.text).empty() && text::TrimBlanks(parameter2.text).empty();
     return nothing || Add();
+}
+
+std::vector<std::string> ProcessEntryScreen::Typed() const {
+    const auto chosen = [](const DropList& list) {
+        return list.Chosen() != nullptr ? std::to_string(list.Chosen()->number) : std::string();
+    };
+    return {process,
+            chosen(verb),
+            chosen(noun),
+            line,
+            std::string(text::TrimBlanks(parameter1.text)),
+            std::string(text::TrimBlanks(parameter2.text))};
 }
 
 bool ProcessEntryScreen::Update() {

@@ -22,7 +22,7 @@ struct ParameterField {
 
 /// The screen of an entry of a process table. A new entry that goes before another begins with its process
 /// and words; any other new one with the process in view and two words "_".
-class ProcessEntryScreen : public RecordScreen {
+class ProcessEntryScreen final : public RecordScreen {
   public:
     ProcessEntryScreen(ScreenContext& context, const ScreenRequest& request);
 
@@ -47,6 +47,9 @@ class ProcessEntryScreen : public RecordScreen {
     /// Adds what was put together to the line.
     bool Add();
 
+    /// A condition or action whose parameters are still empty was only looked at.
+    bool Changed() const override { return Typed() != opened_; }
+
     /// True when the screen can close: the entry is stored, with what was put together and not added yet.
     bool Update();
 
@@ -63,6 +66,7 @@ class ProcessEntryScreen : public RecordScreen {
         condacts::Word word;
     };
 
+    std::vector<std::string> Typed() const;
     void ReadWords();
     void ReadEntry(int canum);
     void Propose(const ScreenRequest& request);
@@ -82,6 +86,7 @@ class ProcessEntryScreen : public RecordScreen {
 
     CondActHelp help_;
     std::vector<VocabularyWord> words_;  ///< those that an entry may stand with
+    std::vector<std::string> opened_;    ///< what `Typed` gave at first
     std::string openedType_;
     std::string openedFor_;                ///< the name whose parameters are open; "" for none
     std::optional<int> confirmedProcess_;  ///< that the author agreed to create

@@ -129,7 +129,7 @@ void WordScreen::Store() {
 }
 
 bool WordScreen::Update() {
-    if (Typed() == opened_) return true;
+    if (!Changed()) return true;
     if (!LeaveWord()) return false;
     if (!type) return RefuseField("type", "No value set for word type");
     if (!LeaveNumber()) return false;

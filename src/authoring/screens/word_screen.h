@@ -11,7 +11,7 @@
 namespace fabula::authoring {
 
 /// The screen of a word.
-class WordScreen : public RecordScreen {
+class WordScreen final : public RecordScreen {
   public:
     /// A new word takes the context's `nextWord` for its key.
     WordScreen(ScreenContext& context, ScreenKey key);
@@ -34,6 +34,8 @@ class WordScreen : public RecordScreen {
     /// Puts the word in upper case and cuts it to its longest.
     bool LeaveWord();
     bool LeaveNumber();
+
+    bool Changed() const override { return Typed() != opened_; }
 
     /// True when the screen can close: what was changed is stored.
     bool Update();

@@ -322,7 +322,7 @@ void SettingsScreen::StoreSound(Cursor& record) const {
 
 bool SettingsScreen::Update() {
     if (!CheckAll()) return false;
-    if (Typed() == opened_) return true;
+    if (!Changed()) return true;
     Change change(context_.document, "edit the settings");
     Cursor& record = OpenSettings();
     StoreGame(record);

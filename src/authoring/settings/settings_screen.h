@@ -30,7 +30,7 @@ struct FontSample {
 ///
 /// A list in which nothing is chosen leaves its field as it is, where no check asks for a choice. What an
 /// Update asks for beyond the record itself, such as copies of pictures, is done by `FollowSettings`.
-class SettingsScreen : public EditScreen {
+class SettingsScreen final : public EditScreen {
   public:
     /// `soundDevices` are the system's MIDI devices, by number. Throws Error when the settings can't be
     /// read.
@@ -109,6 +109,8 @@ class SettingsScreen : public EditScreen {
     /// Plays a note with the sound settings as they are chosen. False when nothing sounds, since there is
     /// no device: the settings count as tested all the same.
     bool TestVoice(engine::SoundPlayer& player);
+
+    bool Changed() const override { return Typed() != opened_; }
 
     /// True when the screen can close: what was changed is stored.
     bool Update();

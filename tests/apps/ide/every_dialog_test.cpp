@@ -75,6 +75,7 @@ TEST_P(EveryDialogTest, TabComesToEveryControlInTheOrderOfReading) {
 
 TEST_P(EveryDialogTest, EscapeLeavesIt) {
     const auto dialog = Open();
+    desk_.dialogs.AnswerLeaving(platform::Leaving::Discard);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     QApplication::processEvents();
     EXPECT_FALSE(dialog->isVisible());

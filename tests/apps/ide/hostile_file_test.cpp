@@ -25,6 +25,9 @@ class YesSayer final : public platform::Dialogs {
     void Tell(std::string_view text, std::string_view) override { told.emplace_back(text); }
     bool Confirm(std::string_view, std::string_view) override { return true; }
     bool Proceed(std::string_view, std::string_view) override { return true; }
+    platform::Leaving AskLeaving(std::string_view, std::string_view) override {
+        return platform::Leaving::Discard;
+    }
     std::optional<std::filesystem::path> ChooseFile(const platform::FileQuestion&) override {
         return std::nullopt;
     }

@@ -76,9 +76,10 @@ TEST_F(MessageDialogTest, ChecksTheTextWhenItIsLeft) {
 
 TEST_F(MessageDialogTest, ChecksNothingOnTheWayToExit) {
     Type("<QUARK>");
+    dialogs_.AnswerLeaving(platform::Leaving::Discard);
     Click("exit");
     QApplication::processEvents();
-    EXPECT_TRUE(dialogs_.Boxes().empty());
+    EXPECT_EQ(dialogs_.Boxes().size(), 1U);
     EXPECT_FALSE(dialog_->isVisible());
 }
 
@@ -98,9 +99,24 @@ TEST_F(MessageDialogTest, ARefusedTextKeepsTheKeyboardWithItsFaultChosen) {
     EXPECT_EQ(Field()->textCursor().selectedText(), "&");
 }
 
-TEST_F(MessageDialogTest, EscapeStoresNothing) {
+TEST_F(MessageDialogTest, EscapeWithoutAChangeAsksNothing) {
+    QTest::keyClick(Field(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_TRUE(dialogs_.Boxes().empty());
+}
+
+TEST_F(MessageDialogTest, EscapeStoresTheTextWhenTheAuthorWantsThat) {
+    Type("No such way.");
+    dialogs_.AnswerLeaving(platform::Leaving::Store);
+    QTest::keyClick(Field(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_EQ(Stored(7), "No such way.");
+}
+
+TEST_F(MessageDialogTest, EscapeStoresNothingThatTheAuthorDiscards) {
     const std::string before = Stored(7);
     Type("changed");
+    dialogs_.AnswerLeaving(platform::Leaving::Discard);
     QTest::keyClick(Field(), Qt::Key_Escape);
     EXPECT_FALSE(dialog_->isVisible());
     EXPECT_EQ(Stored(7), before);

@@ -158,12 +158,53 @@ TEST_F(ProcessEntryDialogTest, AnEmptyLineIsNotStored) {
     EXPECT_THAT(Entries(), IsEmpty());
 }
 
-TEST_F(ProcessEntryDialogTest, ExitStoresNothing) {
+TEST_F(ProcessEntryDialogTest, ExitStoresNothingThatTheAuthorDiscards) {
     Type("XYZ ");
+    desk_.dialogs.AnswerLeaving(platform::Leaving::Discard);
     QTest::mouseClick(Find<QPushButton>("exit"), Qt::LeftButton);
     QApplication::processEvents();
     EXPECT_FALSE(dialog_->isVisible());
     EXPECT_THAT(Entries(), IsEmpty());
+    EXPECT_THAT(desk_.Boxes(), ElementsAre("What was changed here is not stored yet."));
+}
+
+TEST_F(ProcessEntryDialogTest, ExitWithoutAChangeAsksNothing) {
+    QTest::mouseClick(Find<QPushButton>("exit"), Qt::LeftButton);
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_THAT(desk_.Boxes(), IsEmpty());
+}
+
+TEST_F(ProcessEntryDialogTest, EscapeKeepsTheLineWhenTheAuthorWouldRatherGoOn) {
+    Type("XYZ ");
+    desk_.dialogs.AnswerLeaving(platform::Leaving::KeepEditing);
+    QTest::keyClick(dialog_.get(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog_->isVisible());
+    EXPECT_EQ(Line(), "XYZ ");
+}
+
+TEST_F(ProcessEntryDialogTest, EscapeStoresTheLineWhenTheAuthorWantsThat) {
+    Type("DONE ");
+    desk_.dialogs.AnswerLeaving(platform::Leaving::Store);
+    QTest::keyClick(dialog_.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_EQ(Entries().size(), 1U);
+}
+
+TEST_F(ProcessEntryDialogTest, EscapeStaysWithALineThatCannotBeStored) {
+    Type("XYZ ");
+    desk_.dialogs.AnswerLeaving(platform::Leaving::Store);
+    QTest::keyClick(dialog_.get(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog_->isVisible());
+    EXPECT_EQ(desk_.Boxes().size(), 2U);
+    EXPECT_THAT(Entries(), IsEmpty());
+}
+
+TEST_F(ProcessEntryDialogTest, EscapeClosesTheListOfOffersFirst) {
+    Type("MES");
+    ASSERT_FALSE(Find<CondActEdit>("line")->Offered().isEmpty());
+    dialog_->reject();
+    EXPECT_TRUE(Find<CondActEdit>("line")->Offered().isEmpty());
+    EXPECT_TRUE(dialog_->isVisible());
     EXPECT_THAT(desk_.Boxes(), IsEmpty());
 }
 

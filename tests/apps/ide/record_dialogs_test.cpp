@@ -43,7 +43,7 @@ class RecordDialogs : public testing::Test {
         words.SetField("voctypen", std::int64_t{0});
         words.SetField("voctype", std::string("Verb"));
         words.Update();
-        authoring::ReadNextKeys(session_);
+        authoring::ReadNextKeys(context_);
     }
 
     static std::filesystem::path Made(const std::filesystem::path& file) {
@@ -69,11 +69,11 @@ class RecordDialogs : public testing::Test {
     test::TempFolder folder_;
     platform::ScriptedDialogs boxes_;
     authoring::Document document_;
-    authoring::ScreenContext session_{document_, boxes_};
+    authoring::ScreenContext context_{document_, boxes_};
 };
 
 TEST_F(RecordDialogs, ALocationIsEditedByKeysAlone) {
-    authoring::LocationScreen screen(session_, {0, false});
+    authoring::LocationScreen screen(context_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
     Find<QPlainTextEdit>(dialog, "shortDescription")->setFocus();
@@ -84,18 +84,52 @@ TEST_F(RecordDialogs, ALocationIsEditedByKeysAlone) {
 }
 
 TEST_F(RecordDialogs, ExitLeavesTheLocationAsItWas) {
-    authoring::LocationScreen screen(session_, {0, false});
+    authoring::LocationScreen screen(context_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
     Find<QPlainTextEdit>(dialog, "shortDescription")->setPlainText("The hall");
+    boxes_.AnswerLeaving(platform::Leaving::Discard);
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(Stored(TableNum::Locations, "locshortdesc", "locnum=0"), " ");
 }
 
+TEST_F(RecordDialogs, TheWindowsOwnSignKeepsWhatWasTypedUntilTheAuthorHasDecided) {
+    authoring::LocationScreen screen(context_, {0, false});
+    LocationDialog dialog(screen);
+    Open(dialog);
+    Find<QPlainTextEdit>(dialog, "shortDescription")->setPlainText("The hall");
+    boxes_.AnswerLeaving(platform::Leaving::KeepEditing);
+    dialog.close();
+    EXPECT_TRUE(dialog.isVisible());
+    boxes_.AnswerLeaving(platform::Leaving::Store);
+    dialog.close();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(Stored(TableNum::Locations, "locshortdesc", "locnum=0"), "The hall");
+}
+
+TEST_F(RecordDialogs, AnExitThatWasNotAddedYetIsAChange) {
+    authoring::LocationScreen screen(context_, {0, false});
+    LocationDialog dialog(screen);
+    Open(dialog);
+    Find<QComboBox>(dialog, "exitWord")->setEditText("CLIMB");
+    boxes_.AnswerLeaving(platform::Leaving::KeepEditing);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST_F(RecordDialogs, EscapeWithoutAChangeClosesAtOnce) {
+    authoring::LocationScreen screen(context_, {0, false});
+    LocationDialog dialog(screen);
+    Open(dialog);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(boxes_.Boxes().empty());
+}
+
 TEST_F(RecordDialogs, ARefusedFieldKeepsTheFocus) {
-    authoring::LocationScreen screen(session_, {0, false});
+    authoring::LocationScreen screen(context_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
     auto* shortDescription = Find<QPlainTextEdit>(dialog, "shortDescription");
@@ -109,7 +143,7 @@ TEST_F(RecordDialogs, ARefusedFieldKeepsTheFocus) {
 }
 
 TEST_F(RecordDialogs, TheShortDescriptionIsPreviewedWithItsMarkup) {
-    authoring::LocationScreen screen(session_, {0, false});
+    authoring::LocationScreen screen(context_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
     QTest::keyClicks(Find<QPlainTextEdit>(dialog, "shortDescription"), "<BRIGHT>The hall</BRIGHT>");
@@ -118,7 +152,7 @@ TEST_F(RecordDialogs, TheShortDescriptionIsPreviewedWithItsMarkup) {
 }
 
 TEST_F(RecordDialogs, UpdateOfARefusedFieldKeepsTheDialogOpen) {
-    authoring::LocationScreen screen(session_, {0, false});
+    authoring::LocationScreen screen(context_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
     Find<QLineEdit>(dialog, "exits")->setText("XYZZY 0");
@@ -129,7 +163,7 @@ TEST_F(RecordDialogs, UpdateOfARefusedFieldKeepsTheDialogOpen) {
 }
 
 TEST_F(RecordDialogs, EnterAddsAnExitAndClosesNothing) {
-    authoring::LocationScreen screen(session_, {0, false});
+    authoring::LocationScreen screen(context_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
     Find<QComboBox>(dialog, "exitWord")->setFocus();
@@ -144,7 +178,7 @@ TEST_F(RecordDialogs, EnterAddsAnExitAndClosesNothing) {
 }
 
 TEST_F(RecordDialogs, RowsOfExitsAndTheirLineAreKeptInStep) {
-    authoring::LocationScreen screen(session_, {0, false});
+    authoring::LocationScreen screen(context_, {0, false});
     LocationDialog dialog(screen);
     Open(dialog);
     Find<QComboBox>(dialog, "exitWord")->setEditText("CLIMB");
@@ -169,7 +203,7 @@ TEST_F(RecordDialogs, RowsOfExitsAndTheirLineAreKeptInStep) {
 }
 
 TEST_F(RecordDialogs, AnObjectIsAdded) {
-    authoring::ObjectScreen screen(session_, {1, true});
+    authoring::ObjectScreen screen(context_, {1, true});
     ObjectDialog dialog(screen);
     Open(dialog);
     Find<QPlainTextEdit>(dialog, "description")->setPlainText("a lamp");
@@ -183,7 +217,7 @@ TEST_F(RecordDialogs, AnObjectIsAdded) {
 }
 
 TEST_F(RecordDialogs, AContainerThatIsRefusedIsNotTicked) {
-    authoring::ObjectScreen screen(session_, {5, true});
+    authoring::ObjectScreen screen(context_, {5, true});
     ObjectDialog dialog(screen);
     Open(dialog);
     auto* container = Find<QCheckBox>(dialog, "container");
@@ -193,7 +227,7 @@ TEST_F(RecordDialogs, AContainerThatIsRefusedIsNotTicked) {
 }
 
 TEST_F(RecordDialogs, AWordIsAddedWithTheNumberThatItsTypeProposes) {
-    authoring::WordScreen screen(session_, {session_.nextWord, true});
+    authoring::WordScreen screen(context_, {context_.nextWord, true});
     WordDialog dialog(screen);
     Open(dialog);
     QTest::keyClicks(Find<QLineEdit>(dialog, "word"), "jump");
@@ -204,7 +238,7 @@ TEST_F(RecordDialogs, AWordIsAddedWithTheNumberThatItsTypeProposes) {
 }
 
 TEST_F(RecordDialogs, AFlagIsDescribed) {
-    authoring::FlagScreen screen(session_, {60, false});
+    authoring::FlagScreen screen(context_, {60, false});
     FlagDialog dialog(screen);
     Open(dialog);
     Find<QComboBox>(dialog, "use")->setCurrentText("Switch");

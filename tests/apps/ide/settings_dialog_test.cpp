@@ -106,6 +106,7 @@ TEST_F(SettingsDialogTest, StoresAllItsControls) {
 TEST_F(SettingsDialogTest, ExitStoresNothing) {
     Open();
     Part<QLineEdit>("author").setText("Ann");
+    desk_.dialogs.AnswerLeaving(platform::Leaving::Discard);
     QTest::keyClick(dialog_.get(), Qt::Key_Escape);
     EXPECT_FALSE(dialog_->isVisible());
     EXPECT_EQ(desk_.document.UndoName(), std::nullopt);

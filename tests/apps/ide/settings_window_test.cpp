@@ -66,6 +66,7 @@ TEST_F(SettingsInTheWindow, AreEditedUndoneAndDoneAgain) {
 }
 
 TEST_F(SettingsInTheWindow, StayAsTheyAreAtExit) {
+    opened_.dialogs.AnswerLeaving(platform::Leaving::Discard);
     EditSettings([](QDialog& dialog) { dialog.findChild<QLineEdit*>("author")->setText("Ann"); });
     EXPECT_EQ(Stored("author"), "");
     EXPECT_FALSE(opened_.Action("Undo").isEnabled());

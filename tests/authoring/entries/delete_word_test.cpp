@@ -125,11 +125,11 @@ TEST(DeleteWord, WithCancelTakesTheWordAndLeavesTheRest) {
     EXPECT_EQ(desk.document.UndoName(), "delete word LAMP");
 }
 
-TEST(DeleteWord, ReportsThatNothingWent) {
+TEST(DeleteWord, ReportsThatTheWordWentAndNothingElse) {
     Desk desk;
     desk.AddWord(kKey, "LAMP", 50, kNoun);
     Delete(desk, {true, true});
-    EXPECT_EQ(desk.Boxes().back(), "No records were deleted.");
+    EXPECT_EQ(desk.Boxes().back(), "The word was deleted. No other record used it.");
 }
 
 /// The whole cascade, on each type.
@@ -206,7 +206,7 @@ TEST_P(WordCascade, OfAConjunctionOrPronounTakesNothing) {
         desk.AddEntry(1, 0, {"LAMP", 50}, {"LAMP", 50}, "DONE");
         AddExits(desk, 1, "LAMP 0", "50 0", 2);
         Delete(desk, {true, true});
-        EXPECT_EQ(desk.Boxes().back(), "No records were deleted.");
+        EXPECT_EQ(desk.Boxes().back(), "The word was deleted. No other record used it.");
         EXPECT_THAT(EntryKeys(desk), ElementsAre("1"));
         EXPECT_THAT(ExitsOf(desk, 1), ElementsAre("LAMP 0|50 0|2"));
     }
@@ -330,6 +330,23 @@ TEST(DeleteWord, TakesWhatStillBearsASynonymThatWentBefore) {
     desk.dialogs.AnswerNext(true);
     Entries(desk.context).DeleteEntry();
     EXPECT_THAT(EntryKeys(desk), IsEmpty());
+}
+
+TEST(DeleteWord, OfANounLeavesTheEntriesOfAVerbThatShareItsNumberAfterASynonymWent) {
+    Desk desk;
+    desk.AddWord(kKey, "GET", 60, kVerb);
+    desk.AddWord(kKey + 1, "TAKE", 60, kVerb);
+    desk.AddWord(kKey + 2, "SWORD", 60, kNoun);
+    desk.AddEntry(100, 0, {"GET", 60}, kAny, "DONE");
+    desk.AddEntry(101, 0, {"GET", 60}, {"SWORD", 60}, "DONE");
+    desk.AddEntry(102, 0, {"TAKE", 60}, kAny, "DONE");
+    Delete(desk, {true});
+    desk.context.currentEntry = kKey + 2;
+    desk.dialogs.AnswerNext(true);
+    desk.dialogs.AnswerNext(true);
+    EXPECT_TRUE(Entries(desk.context).DeleteEntry());
+    EXPECT_THAT(EntryKeys(desk), ElementsAre("100", "102"));
+    EXPECT_EQ(desk.Boxes().back(), "1 Event/Status Table records were deleted.");
 }
 
 TEST(DeleteWord, RenumbersNothing) {

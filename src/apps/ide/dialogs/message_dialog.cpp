@@ -8,6 +8,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ide/dialogs/leaving.h"
 #include "ide/editors/leave_check.h"
 #include "ide/editors/markup_edit.h"
 #include "platform/error.h"
@@ -81,7 +82,7 @@ void MessageDialog::AddButtons(QHBoxLayout& row) {
     row.addWidget(exit);
     new LeaveCheck(text_->Field(), [this] { Leave(); });
     connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
-    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    connect(exit, &QPushButton::clicked, this, [this] { reject(); });
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
         connect(shortcut, &QShortcut::activated, this, [this] { ClickUpdate(); });
@@ -102,6 +103,10 @@ void MessageDialog::Move(int step) {
     }
     if (screen_.Number() != before) return ShowRecord();
     text_->ShowFault();
+}
+
+void MessageDialog::reject() {
+    if (MayClose(screen_.Changed(), dialogs_, [this] { ClickUpdate(); })) QDialog::reject();
 }
 
 void MessageDialog::Leave() {

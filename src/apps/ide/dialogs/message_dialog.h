@@ -20,6 +20,9 @@ class MessageDialog final : public QDialog {
     MessageDialog(authoring::MessageScreen& screen, const authoring::TextEditing& editing,
                   platform::Dialogs& dialogs, QWidget* parent = nullptr);
 
+    /// Closes without storing; asks first where the text was changed.
+    void reject() override;
+
   private:
     void AddMoves(QHBoxLayout& row);
     void AddButtons(QHBoxLayout& row);

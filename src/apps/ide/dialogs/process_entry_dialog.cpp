@@ -15,6 +15,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 
+#include "ide/dialogs/leaving.h"
 #include "ide/editors/cond_act_edit.h"
 #include "platform/error.h"
 #include "qt/strings.h"
@@ -86,6 +87,12 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QW
 ProcessEntryDialog::~ProcessEntryDialog() {
     disconnect(focus_);
     delete line_;
+}
+
+void ProcessEntryDialog::reject() {
+    if (line_->HideOffers()) return;
+    Take();
+    if (MayClose(screen_.Changed(), screen_.Dialogs(), [this] { Update(); })) QDialog::reject();
 }
 
 QComboBox* ProcessEntryDialog::MakeWords(const QString& name, const QString& what,
@@ -208,7 +215,7 @@ QLayout* ProcessEntryDialog::BuildButtons() {
     exit_->setObjectName("exit");
     exit_->setAutoDefault(false);
     connect(update, &QPushButton::clicked, this, &ProcessEntryDialog::Update);
-    connect(exit_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
     connect(new QShortcut(Qt::CTRL | Qt::Key_Return, this), &QShortcut::activated, this,
             &ProcessEntryDialog::Update);
     row->setContentsMargins(kMargin, 0, kMargin, kMargin);

@@ -21,6 +21,10 @@ class ProcessEntryDialog final : public QDialog {
     explicit ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QWidget* parent = nullptr);
     ~ProcessEntryDialog() override;
 
+    /// Closes the list of offers, when it is open; else the dialog, after a question where something was
+    /// changed.
+    void reject() override;
+
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 

@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "ide/dialogs/leaving.h"
 #include "ide/editors/leave_check.h"
 #include "platform/error.h"
 #include "qt/strings.h"
@@ -64,6 +65,11 @@ void ScreenDialog::setVisible(bool visible) {
     QDialog::setVisible(visible);
 }
 
+void ScreenDialog::reject() {
+    Read();
+    if (MayClose(edited_.Changed(), edited_.Dialogs(), [this] { ClickUpdate(); })) QDialog::reject();
+}
+
 void ScreenDialog::AddButtons() {
     update_ = new QPushButton("&Update");
     update_->setObjectName("update");
@@ -75,7 +81,7 @@ void ScreenDialog::AddButtons() {
     buttons_->addWidget(update_);
     buttons_->addWidget(exit_);
     connect(update_, &QPushButton::clicked, this, [this] { ClickUpdate(); });
-    connect(exit_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
 }
 
 void ScreenDialog::FocusFirst() {

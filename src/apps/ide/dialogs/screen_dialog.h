@@ -16,6 +16,8 @@ class ScreenDialog : public QDialog {
   public:
     /// The first time: in its size, with the keyboard in the first field.
     void setVisible(bool visible) override;
+    /// Closes without storing; asks first where something was changed.
+    void reject() override;
 
   protected:
     /// `screen` outlives the dialog.

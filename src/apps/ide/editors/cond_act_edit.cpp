@@ -54,6 +54,12 @@ QStringList CondActEdit::Offered() const {
     return completer_->popup()->isVisible() ? items_->stringList() : QStringList();
 }
 
+bool CondActEdit::HideOffers() {
+    const bool open = completer_->popup()->isVisible();
+    completer_->popup()->hide();
+    return open;
+}
+
 void CondActEdit::Tell() {
     const Typed typed = Read();
     const auto fault =

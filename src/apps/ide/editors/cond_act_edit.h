@@ -22,6 +22,8 @@ class CondActEdit final : public QPlainTextEdit {
 
     /// The text of what is offered at the moment; none while the list is closed.
     QStringList Offered() const;
+    /// Closes the list of offers; false when it was not open.
+    bool HideOffers();
 
     /// Called when the meaning changes, and when the sentence about the fault does: "" when there is none.
     std::function<void(const QString& meaning)> onMeaning = [](const QString&) {};
