@@ -42,11 +42,13 @@ CondAct ReadCondAct(const PreparedQuery& row) {
     condAct.paramCount = std::clamp(Int(row, 3), 0, static_cast<int>(condAct.params.size()));
     condAct.params[0] = {static_cast<ParamKind>(Int(row, 4)), Int(row, 5)};
     condAct.params[1] = {static_cast<ParamKind>(Int(row, 6)), Int(row, 7)};
+    return condAct;
+}
+
+void ReadDialects(const PreparedQuery& row, CondAct& condAct) {
     condAct.fabula = Int(row, 8) != 0;
     condAct.vel = Int(row, 9) != 0;
     condAct.marlo = Int(row, 10) != 0;
-    condAct.pcVel = Int(row, 11) != 0;
-    return condAct;
 }
 
 void LoadObjects(Adventure& adventure, Facts& facts) {
@@ -73,11 +75,20 @@ void LoadFlags(Adventure& adventure, Facts& facts) {
 }  // namespace
 
 Catalogue LoadCatalogue(Adventure& adventure) {
+    // A catalogue of an older program may not tell of dialects; its conditions are then in all of them.
+    const store::TableSchema& schema = adventure.Schema(TableNum::CondActs);
+    const bool hasDialects = schema.Find("fabula") && schema.Find("vel") && schema.Find("marlo");
+    const bool hasPCVel = hasDialects && schema.Find("pcvel");
+    std::string fields = "canum, catype, caname, canumparam, caparam1, camaxval1, caparam2, camaxval2";
+    if (hasDialects) fields += ", fabula, vel, marlo";
+    if (hasPCVel) fields += ", pcvel";
     std::vector<CondAct> condActs;
-    ForEachRow(adventure, TableNum::CondActs,
-               "canum, catype, caname, canumparam, caparam1, camaxval1, caparam2, camaxval2, fabula, vel, "
-               "marlo, pcvel",
-               [&](const PreparedQuery& row) { condActs.push_back(ReadCondAct(row)); });
+    ForEachRow(adventure, TableNum::CondActs, fields, [&](const PreparedQuery& row) {
+        CondAct condAct = ReadCondAct(row);
+        if (hasDialects) ReadDialects(row, condAct);
+        if (hasPCVel) condAct.pcVel = Int(row, 11) != 0;
+        condActs.push_back(std::move(condAct));
+    });
     return Catalogue(std::move(condActs));
 }
 

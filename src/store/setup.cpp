@@ -16,13 +16,10 @@ constexpr std::string_view kExplanations[] = {
 
 }  // namespace
 
-AdventureSetup::AdventureSetup(Adventure& adventure) {
-    const Cursor& settings =
-        adventure.OpenTable(TableNum::Adventure, "adventype, graphics, charsets, unmarloed");
-    graphics_ = settings.Truth("graphics");
-    charSets_ = settings.Truth("charsets");
-    const bool decompiled = settings.Number("unmarloed") != 0;
-    const auto stored = AdventureKindFrom(settings.Text("adventype"));
+AdventureSetup::AdventureSetup(Adventure& adventure)
+    : graphics_(adventure.GraphicsOn()), charSets_(adventure.CharSetsOn()) {
+    const bool decompiled = adventure.OpenTable(TableNum::Adventure, "unmarloed").Number("unmarloed") != 0;
+    const auto stored = AdventureKindFrom(adventure.AdventureType());
     ChooseType(decompiled ? AdventureKind::Marlo : stored.value_or(AdventureKind::Fabula));
 }
 

@@ -108,7 +108,7 @@ TEST_F(FileCheck, ADatabaseOfAnotherProgramIsNoAdventure) {
 }
 
 TEST_F(FileCheck, AFileOfALaterFormIsNewer) {
-    Run("PRAGMA user_version=51");
+    Run("PRAGMA user_version=" + std::to_string(kLatestStep + 1));
     EXPECT_EQ(Refusal(), kNewer);
     Run("PRAGMA user_version=-1");
     EXPECT_EQ(Refusal(), kNewer);

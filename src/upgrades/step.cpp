@@ -1,0 +1,58 @@
+#include "upgrades/step.h"
+
+#include <algorithm>
+#include <array>
+
+#include "text/utf8.h"
+
+namespace fabula::upgrades {
+namespace {
+
+constexpr int kShortWord = 5;
+
+/// The number of the last step of each group of upgrades. Steps of our own belong to the last.
+constexpr std::array kLastOfGroup = {10, 20, 31, 44};
+
+bool Decides(const FieldTest& test, const Work::FieldRow& row) {
+    if (row.table != static_cast<int>(test.table)) return false;
+    if (!test.field.empty() && !text::EqualsNoCase(row.field, test.field)) return false;
+    switch (test.when) {
+        case FieldTest::NeededWhen::Missing:
+            return true;
+        case FieldTest::NeededWhen::Text:
+            return text::EqualsNoCase(row.type, "advarwchar");
+        case FieldTest::NeededWhen::Short:
+            return row.size == kShortWord;
+    }
+    return false;
+}
+
+std::array<Group, kLastOfGroup.size() + 2> MakeGroups() {
+    std::array<Group, kLastOfGroup.size() + 2> groups;
+    Group rest = SchemaSteps();
+    for (std::size_t i = 0; i < kLastOfGroup.size(); ++i) {
+        const auto last = std::ranges::find(rest, kLastOfGroup[i], &Step::number);
+        const auto count = static_cast<std::size_t>(last - rest.begin()) + 1;
+        groups[i] = rest.first(count);
+        rest = rest.subspan(count);
+    }
+    groups[kLastOfGroup.size()] = rest;
+    groups.back() = Corrections();
+    return groups;
+}
+
+}  // namespace
+
+std::span<const Group> Groups() {
+    static const auto groups = MakeGroups();
+    return groups;
+}
+
+bool IsNeeded(Work& work, const Step& step) {
+    if (step.needed) return step.needed(work);
+    const bool found =
+        std::ranges::any_of(work.FieldRows(), [&](const auto& row) { return Decides(step.test, row); });
+    return (step.test.when == FieldTest::NeededWhen::Missing) != found;
+}
+
+}  // namespace fabula::upgrades
