@@ -130,6 +130,14 @@ TEST_F(FileCheck, AFileWithAWriteAheadLogIsRefused) {
     EXPECT_FALSE(std::filesystem::exists(folder_ / "game.fbd-shm"));
 }
 
+TEST_F(FileCheck, AHeaderThatOnlyReadersWouldTakeForAWriteAheadLogIsRefused) {
+    std::string bytes = ReadBytes(file_);
+    ASSERT_EQ(bytes.substr(18, 2), "\x01\x01");
+    bytes[19] = 2;
+    WriteBytes(file_, bytes);
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
 TEST_F(FileCheck, ATruncatedFileIsRefusedWhereverItEnds) {
     const std::string whole = ReadBytes(file_);
     for (std::size_t length = 0; length < whole.size(); length += 4096 + 511) {
