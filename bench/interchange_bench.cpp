@@ -141,7 +141,7 @@ void RunJob(benchmark::State& state) {
     const Games& games = LargeGame();
     const Job& job = kJobs[static_cast<std::size_t>(state.range(0))];
     std::vector<std::string> arguments{job.verb, job.kind, games.File(job.source), games.File(job.target)};
-    if (std::string(job.verb) == "import") arguments.emplace_back("--force");
+    arguments.emplace_back("--force");
     double memory = 0;
     for (auto _ : state)
         memory = games.Run(arguments);

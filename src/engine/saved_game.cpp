@@ -2,20 +2,20 @@
 
 #include <algorithm>
 #include <charconv>
-#include <fstream>
 #include <optional>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/error.h"
+#include "platform/whole_file.h"
 #include "store/file_copy.h"
 
 namespace fabula::engine {
 
 namespace {
 
+constexpr std::string_view kSavedGameExtension = ".sav";
 constexpr int kHeaderLines = 2;
 constexpr int kLines = kHeaderLines + 3 * RunState::kSlots;
 
@@ -40,16 +40,6 @@ std::vector<std::span<std::int16_t>> Stores(RunState& state) {
     for (int slot = 0; slot < RunState::kSlots; ++slot)
         stores.push_back(state.Flags(slot));
     return stores;
-}
-
-std::string ReadFile(const std::filesystem::path& file, std::size_t limit) {
-    std::ifstream stream(file, std::ios::binary);
-    std::string content(limit + 1, '\0');
-    if (stream) stream.read(content.data(), static_cast<std::streamsize>(content.size()));
-    if (!stream.is_open() || stream.bad())
-        throw Error("Could not read the saved game " + file.string() + ".");
-    content.resize(static_cast<std::size_t>(stream.gcount()));
-    return content;
 }
 
 std::vector<std::string_view> SplitLines(std::string_view content) {
@@ -100,12 +90,14 @@ void WriteSavedGame(const std::filesystem::path& file, const GameData& data, Run
         }
         content += '\n';
     }
+    store::CheckTarget(file, store::Content::Text, kSavedGameExtension);
     store::WriteFile(file, content);
 }
 
 bool ReadSavedGame(const std::filesystem::path& file, const GameData& data, RunState& state) {
     const std::size_t limit = LargestFile(state);
-    const std::string content = ReadFile(file, limit);
+    const std::string content =
+        platform::ReadStartOfFile(file, limit + 1, "read the saved game " + file.string());
     if (content.size() > limit) return false;
     const std::vector<std::string_view> lines = SplitLines(content);
     if (lines.size() != kLines || lines[0] != HeaderLine(data, state) || lines[1] != "10") return false;

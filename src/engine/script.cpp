@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "platform/error.h"
+#include "platform/whole_file.h"
+#include "store/file_copy.h"
 
 namespace fabula::engine {
 
@@ -27,6 +29,7 @@ std::string_view Script::StatusText() const {
 }
 
 void Script::StartWriting(const std::filesystem::path& file) {
+    store::CheckTarget(file, store::Content::Text, ".scr");
     output_.clear();
     output_.open(file, std::ios::binary | std::ios::trunc);
     if (!output_) throw Error("Could not write the script " + file.string() + ".");
@@ -36,6 +39,7 @@ void Script::StartWriting(const std::filesystem::path& file) {
 }
 
 void Script::Load(const std::filesystem::path& file) {
+    platform::CheckIsFile(file, "read the script " + file.string());
     input_.clear();
     input_.open(file, std::ios::binary);
     if (!input_) throw Error("Could not read the script " + file.string() + ".");
@@ -48,6 +52,8 @@ void Script::CloseInput() {
 void Script::CloseAll() {
     input_.close();
     if (output_.is_open() && !atLineStart_) WriteLineEnd();
+    output_.flush();
+    CheckOutput();
     output_.close();
 }
 

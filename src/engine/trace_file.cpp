@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "platform/error.h"
+#include "store/file_copy.h"
 
 namespace fabula::engine {
 
@@ -13,10 +14,16 @@ std::string TraceFileName(const platform::DateTime& begun) {
     return name;
 }
 
-TraceFile::TraceFile(const std::filesystem::path& file, std::string_view header)
-    : stream_(file, std::ios::binary | std::ios::trunc) {
+TraceFile::TraceFile(const std::filesystem::path& file, std::string_view header) {
+    store::CheckTarget(file, store::Content::Text, ".trc");
+    stream_.open(file, std::ios::binary | std::ios::trunc);
     WriteLine(header);
     if (!stream_.flush()) throw Error("Could not write the trace " + file.string() + ".");
+}
+
+bool TraceFile::Finish() {
+    stream_.close();
+    return stream_.good();
 }
 
 void TraceFile::WriteLine(std::string_view line) {

@@ -20,8 +20,8 @@ class TraceFile final : public TraceSink {
     TraceFile(const std::filesystem::path& file, std::string_view header);
 
     void WriteLine(std::string_view line) override;
-    /// False once a line could not be written.
-    bool IsGood() const { return stream_.good(); }
+    /// Ends the file. False when not all of it could be written.
+    bool Finish();
 
   private:
     std::ofstream stream_;

@@ -68,10 +68,13 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
         !host.person.Confirm("All information in " + target.string() + " will be deleted.", "Warning")) {
         return ResultOf(false, status);
     }
+    if (store::IsSameFile(source, target))
+        throw Error("Could not write " + target.string() + ": it is the source itself.");
+    store::CheckTarget(target, store::Content::Adventure);
     status.AddToStatus("CLS");
     status.AddToStatusCR("Creating default database for " + target.string());
     status.AddToStatusCR("This will take a few minutes.");
-    const store::TemporaryFile making(store::TemporaryBeside(target));
+    const store::TemporaryFile making(target);
     bool done = false;
     try {
         done = Build(kind, source, making.Path(), target, host, status);

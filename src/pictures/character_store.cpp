@@ -10,6 +10,7 @@
 #include "pictures/character_sets.h"
 #include "pictures/drawstring.h"
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "store/adventure.h"
 #include "store/file_copy.h"
 #include "text/str_edit.h"
@@ -21,15 +22,8 @@ namespace {
 constexpr std::string_view kErrorTitle = "Error";
 
 std::string ReadText(const std::filesystem::path& file) {
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(file, error);
-    if (error) throw Error("Could not read " + file.string() + ": " + error.message() + ".");
-    if (size > kLargestCharacterFile)
-        throw Error(file.string() + " is too large for a character set file.");
-    std::ifstream stream(file, std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(stream), {});
-    if (!stream) throw Error("Could not read " + file.string() + ".");
-    return text::FromWindows1252(bytes);
+    return text::FromWindows1252(platform::ReadWholeFile(file, kLargestCharacterFile,
+                                                         "read the character sets of " + file.string()));
 }
 
 void WriteText(const std::filesystem::path& file, const std::string& text) {

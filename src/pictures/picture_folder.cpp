@@ -1,8 +1,8 @@
 #include "pictures/picture_folder.h"
 
 #include <algorithm>
-#include <fstream>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -12,6 +12,7 @@
 #include "pictures/drawstring_check.h"
 #include "pictures/image.h"
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "store/adventure.h"
 #include "text/format.h"
 
@@ -26,16 +27,12 @@ constexpr int kHighestColour = 15;
 
 /// The words of a drawing without its remarks.
 std::vector<std::string> ReadWords(const std::filesystem::path& file) {
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(file, error);
-    if (error) throw Error("Could not read " + file.string() + ": " + error.message() + ".");
-    if (size > kLargestDrawing) throw Error(file.string() + " is too large for a drawing.");
-    std::ifstream stream(file);
+    std::istringstream stream(
+        platform::ReadWholeFile(file, kLargestDrawing, "read the drawing " + file.string()));
     std::string text;
     for (std::string line; std::getline(stream, line);) {
         if (line.empty() || line.front() != '#') text += line + " ";
     }
-    if (stream.bad()) throw Error("Could not read " + file.string() + ".");
     return DrawstringWords(text);
 }
 

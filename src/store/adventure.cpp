@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include "store/change_lock.h"
 #include "store/connection.h"
 #include "store/file_check.h"
 #include "store/file_copy.h"
@@ -86,6 +87,15 @@ std::unique_ptr<Adventure> Adventure::CopyInMemory() const {
 
 void Adventure::ForbidChanges() {
     connection_->Run("PRAGMA query_only=ON", "open the adventure");
+}
+
+std::unique_ptr<Adventure> Adventure::OpenForChange(const std::filesystem::path& file) {
+    CheckCanBeWritten(file);
+    auto lock = ChangeLock::Take(file);
+    if (!lock) Refuse(Refusal::OpenForChange, file);
+    auto adventure = Open(file);
+    adventure->lock_ = std::move(lock);
+    return adventure;
 }
 
 Adventure::Adventure(std::filesystem::path file, std::unique_ptr<Connection> connection)

@@ -17,10 +17,23 @@
 
 namespace fabula::store {
 
+class ChangeLock;
 class Connection;
 
 /// Why a file was refused.
-enum class Refusal { Missing, NotAnAdventure, Damaged, NewerVersion, OlderVersion, InUse, TooLarge };
+enum class Refusal {
+    Missing,
+    NotAnAdventure,
+    Damaged,
+    NewerVersion,
+    OlderVersion,
+    InUse,
+    TooLarge,
+    TooSlow,          ///< reading it takes more steps or memory than any adventure needs
+    WriteAheadLog,    ///< another program has given it a log that this one does not keep
+    OpenForChange,    ///< for change, while another program has it so
+    CannotBeWritten,  ///< for change, where file or folder can only be read
+};
 
 /// A file that was not opened. It is byte for byte as it was.
 class OpenError : public Error {
@@ -71,6 +84,11 @@ class Adventure {
     std::unique_ptr<Adventure> CopyInMemory() const;
     /// From here on every change is refused with an Error.
     void ForbidChanges();
+
+    /// Opens a file to be worked on: it is marked as open for change as long as this lives, so that a
+    /// second opening for change is refused (OpenForChange), and so is a file or folder that can only be
+    /// read (CannotBeWritten).
+    static std::unique_ptr<Adventure> OpenForChange(const std::filesystem::path& file);
 
     Adventure(const Adventure&) = delete;
     Adventure& operator=(const Adventure&) = delete;
@@ -141,6 +159,7 @@ class Adventure {
     std::string DefaultOrder(TableNum table) const;
 
     std::filesystem::path file_;
+    std::unique_ptr<ChangeLock> lock_;  ///< of OpenForChange
     std::unique_ptr<Connection> connection_;
     std::string type_;
     std::string typeLower_;

@@ -16,9 +16,8 @@ constexpr int kLargestChange = 1'000'000'000;
 }  // namespace
 
 ChangeLog::ChangeLog(const std::filesystem::path& adventure) {
-    const auto file = TemporaryBeside(adventure);
-    const TemporaryFile remover(file);
-    connection_ = std::make_unique<Connection>(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
+    const TemporaryFile file(adventure);
+    connection_ = std::make_unique<Connection>(file.Path(), SQLITE_OPEN_READWRITE,
                                                "make a file beside " + adventure.string());
     // One change may hold many pictures, each as large as a field may be.
     sqlite3_limit(connection_->Handle(), SQLITE_LIMIT_LENGTH, kLargestChange);

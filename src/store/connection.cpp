@@ -44,7 +44,10 @@ constexpr Limit kLimits[] = {
 };
 
 /// How long to wait for another program that has the file locked, in milliseconds.
-constexpr int kPatience = 500;
+constexpr int kPatience = 2000;
+
+/// After how many steps they are counted.
+constexpr int kStepsAtOnce = 1000;
 
 std::string WorkName(int depth) {
     return "work" + std::to_string(depth);
@@ -69,6 +72,9 @@ Connection::Connection(const std::filesystem::path& file, int openFlags, const s
     }
     sqlite3_extended_result_codes(handle_, 1);
     sqlite3_busy_timeout(handle_, kPatience);
+    sqlite3_progress_handler(handle_, kStepsAtOnce, CountSteps, this);
+    sqlite3_trace_v2(handle_, SQLITE_TRACE_STMT, BeginSteps, this);
+    if (sqlite3_hard_heap_limit64(-1) == 0) sqlite3_hard_heap_limit64(kMostMemory);
     for (const Limit& limit : kLimits)
         sqlite3_limit(handle_, limit.what, limit.most);
     sqlite3_db_config(handle_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -88,16 +94,41 @@ Connection::~Connection() {
     sqlite3_close_v2(handle_);
 }
 
+int Connection::CountSteps(void* connection) {
+    return ++static_cast<Connection*>(connection)->steps_ > kMostSteps / kStepsAtOnce;
+}
+
+int Connection::BeginSteps(unsigned, void* connection, void*, void*) {
+    static_cast<Connection*>(connection)->steps_ = 0;
+    return 0;
+}
+
 bool Connection::HasMoved() const {
     int moved = 0;
     sqlite3_file_control(handle_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     return moved != 0;
 }
 
+std::string Connection::ReasonOf(int result) const {
+    if (result == SQLITE_READONLY_DBMOVED) return "its file is no longer where it was opened";
+    switch (result & 0xff) {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return "it is in use by another program";
+        case SQLITE_READONLY:
+            return "it can only be read";
+        case SQLITE_INTERRUPT:
+            return "it takes more steps than any adventure needs";
+        case SQLITE_NOMEM:
+            return "there is not enough memory";
+        default:
+            return sqlite3_errmsg(handle_);
+    }
+}
+
 void Connection::Fail(const char* doing) const {
-    if (sqlite3_extended_errcode(handle_) == SQLITE_READONLY_DBMOVED)
-        throw Error(std::string("Could not ") + doing + ": its file is no longer where it was opened.");
-    throw Error(std::string("Could not ") + doing + ": " + sqlite3_errmsg(handle_) + ".");
+    throw Error(std::string("Could not ") + doing + ": " + ReasonOf(sqlite3_extended_errcode(handle_)) +
+                ".");
 }
 
 void Connection::Run(const std::string& sql, const char* doing) {
@@ -182,7 +213,8 @@ void Connection::LoadSchema() {
     const std::string order =
         Step(hasKey.get(), "read the list of fields") ? "tablekey" : std::string(kStoreKey);
     const auto statement =
-        Compile("SELECT tablenum, fieldname, fieldtype, fieldsize FROM Tables ORDER BY tablenum, " + order,
+        Compile("SELECT tablenum, fieldname, fieldtype, fieldsize FROM Tables ORDER BY tablenum, " + order +
+                    " LIMIT " + std::to_string(kMostColumns * AllTables().size()),
                 "read the list of fields");
     while (Step(statement.get(), "read the list of fields")) {
         const auto number = static_cast<TableNum>(sqlite3_column_int(statement.get(), 0));

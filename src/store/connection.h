@@ -20,6 +20,10 @@ struct sqlite3_stmt;
 
 namespace fabula::store {
 
+/// More than any adventure needs.
+inline constexpr std::int64_t kMostSteps = 100'000'000;
+inline constexpr std::int64_t kMostMemory = std::int64_t{2} * 1024 * 1024 * 1024;
+
 /// Marks an adventure file ("FABU") and numbers its form; both stand in the file's header.
 inline constexpr std::uint32_t kApplicationId = 0x46414255;
 inline constexpr std::uint32_t kFileVersion = kLatestStep;
@@ -32,6 +36,10 @@ using Statement = std::unique_ptr<sqlite3_stmt, StatementCloser>;
 /// The store's side of an open file: the database handle, the schema as read from the file, and the
 /// statements kept prepared. Only src/store/ sees it. Every failure is a fabula::Error that says what was
 /// being done.
+///
+/// No statement runs for more than kMostSteps steps of the database's machine, and the database takes no
+/// more memory than kMostMemory in the whole program: a file that was made to hang the program is refused
+/// or ends in an Error. What another program has locked is waited for, at most two seconds.
 class Connection {
   public:
     /// Opens the file as SQLite sees it, with everything switched off that an adventure does not need.
@@ -85,6 +93,8 @@ class Connection {
   private:
     static constexpr std::size_t kStatementsKept = 64;
 
+    std::string ReasonOf(int result) const;
+
     sqlite3* handle_ = nullptr;
     int workDepth_ = 0;
     int readDepth_ = 0;
@@ -95,6 +105,12 @@ class Connection {
         std::string sql;
         Statement statement;
     };
+    /// Called by the database every so many steps of its machine; other than 0 ends what runs.
+    static int CountSteps(void* connection);
+    /// Called by the database when a statement begins to run.
+    static int BeginSteps(unsigned, void* connection, void*, void*);
+
+    std::int64_t steps_ = 0;  ///< in thousands, of the statement that began last
     std::list<Kept> kept_;
     std::unordered_map<std::string_view, std::list<Kept>::iterator> keptBySql_;
 };

@@ -2,9 +2,11 @@
 
 #include <cstdio>
 #include <set>
+#include <sstream>
 
 #include <sqlite3.h>
 
+#include "platform/whole_file.h"
 #include "store/adventure.h"
 #include "store/connection.h"
 #include "store/default_data.h"
@@ -207,7 +209,7 @@ void WriteNewFile(const std::filesystem::path& file, const DefaultData& data, co
 }  // namespace
 
 bool CreateAdventure(bool replace, const std::filesystem::path& path, const AdventureSetup& setup,
-                     const CreationHost& host) {
+                     const CreationHost& host, const std::function<void(Adventure&)>& finish) {
     std::error_code error;  // what can't be looked at fails when the file is made
     const auto target = std::filesystem::absolute(path, error);
     if (!replace && std::filesystem::exists(target, error) &&
@@ -219,8 +221,9 @@ bool CreateAdventure(bool replace, const std::filesystem::path& path, const Adve
                     target.parent_path().string() + ".");
     }
     const DefaultData data = DefaultData::Read(host.defaultData);
-    const TemporaryFile temporary(TemporaryBeside(target));
+    const TemporaryFile temporary(target);
     WriteNewFile(temporary.Path(), data, setup, host, target);
+    if (finish) finish(*Adventure::Open(temporary.Path()));
     OpenChecked(temporary.Path(), OpenMode::ReadOnly);
     MoveIntoPlace(temporary.Path(), target);
     return true;

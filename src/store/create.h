@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 #include "platform/clock.h"
 #include "platform/event_pump.h"
@@ -8,6 +9,8 @@
 #include "store/setup.h"
 
 namespace fabula::store {
+
+class Adventure;
 
 /// What the creation of an adventure needs of its surroundings.
 struct CreationHost {
@@ -24,7 +27,10 @@ struct CreationHost {
 ///
 /// Throws fabula::Error when the default data is incomplete (with section and line) or a file can't be
 /// written; no half-made file is left.
+///
+/// `finish` adds to the new adventure before it takes its place; what it throws leaves everything as it
+/// was.
 bool CreateAdventure(bool replace, const std::filesystem::path& path, const AdventureSetup& setup,
-                     const CreationHost& host);
+                     const CreationHost& host, const std::function<void(Adventure&)>& finish = {});
 
 }  // namespace fabula::store

@@ -1,12 +1,13 @@
 #include "store/cursor.h"
 
 #include <algorithm>
-#include <fstream>
+#include <new>
 #include <stdexcept>
 
 #include <sqlite3.h>
 
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "store/connection.h"
 #include "store/record_check.h"
 #include "text/utf8.h"
@@ -263,25 +264,21 @@ void Cursor::ReadInto(Snapshot& snapshot) const {
     for (std::size_t i = 0; i < parameters_.size(); ++i) {
         Connection::Bind(statement, static_cast<int>(i) + 1, parameters_[i]);
     }
-    while (connection_->Step(statement, "read the adventure"))
-        snapshot.AppendRow(statement);
+    try {
+        while (connection_->Step(statement, "read the adventure"))
+            snapshot.AppendRow(statement);
+    } catch (const std::bad_alloc&) {
+        snapshot.Clear(fields_.size());
+        throw Error("Could not read the adventure: there is not enough memory.");
+    }
 }
 
 void Cursor::StoreFileInField(const std::filesystem::path& file, std::string_view field,
                               std::string_view pathField) {
-    const std::string doing = "Could not read the file " + file.string();
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw Error(doing + ".");
-    text::Blob bytes;
-    char buffer[65536];
-    while (stream.read(buffer, sizeof buffer) || stream.gcount() > 0) {
-        const auto* first = reinterpret_cast<const std::byte*>(buffer);
-        bytes.insert(bytes.end(), first, first + stream.gcount());
-        if (static_cast<std::int64_t>(bytes.size()) > kLargestBinary)
-            throw Error(doing + ": it is too large.");
-    }
-    if (stream.bad()) throw Error(doing + ".");
-    SetField(field, std::move(bytes));
+    const std::string bytes =
+        platform::ReadWholeFile(file, kLargestBinary, "read the file " + file.string());
+    const auto* first = reinterpret_cast<const std::byte*>(bytes.data());
+    SetField(field, text::Blob(first, first + bytes.size()));
     SetField(pathField, file.generic_string());
 }
 

@@ -1,9 +1,7 @@
 #include "store/default_data.h"
 
-#include <fstream>
-#include <iterator>
-
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "text/fields.h"
 #include "text/str_edit.h"
 
@@ -32,15 +30,7 @@ std::string_view EditFor(std::string_view marker) {
 }
 
 std::string ReadBytes(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw Error("Could not read the default data: there is no file " + file.string() + ".");
-    std::error_code error;
-    if (std::filesystem::file_size(file, error) > kLargestDefaultData || error) {
-        throw Error("Could not read the default data: " + file.string() + " is too large.");
-    }
-    std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    if (stream.bad()) throw Error("Could not read the default data from " + file.string() + ".");
-    return bytes;
+    return platform::ReadWholeFile(file, kLargestDefaultData, "read the default data " + file.string());
 }
 
 std::vector<DefaultData::Line> ReadLines(const std::filesystem::path& file) {

@@ -6,8 +6,12 @@
 #include <map>
 #include <optional>
 
+#include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include "platform/whole_file.h"
 #include "store/connection.h"
 #include "text/utf8.h"
 
@@ -23,6 +27,7 @@ constexpr std::size_t kUserVersionAt = 60;
 constexpr std::size_t kApplicationIdAt = 68;
 /// Read and write version of a file with a rollback journal.
 constexpr char kRollbackJournal = 1;
+constexpr char kWriteAheadLog = 2;
 
 struct IndexEntry {
     TableNum table;
@@ -47,32 +52,19 @@ constexpr std::string_view kSuperJournalMark{"\xd9\xd5\x05\xf9\x20\xa1\x63\xd7",
 /// The fields of an index that are text, and so are ordered without regard to case.
 constexpr std::string_view kTextIndexes[] = {"word", "caname", "FabulaTag"};
 
-[[noreturn]] void Refuse(Refusal reason, const std::filesystem::path& file) {
-    struct Row {
-        Refusal reason;
-        std::string_view text;
-    };
-    static constexpr Row kRows[] = {
-        {Refusal::Missing, "there is no such file"},
-        {Refusal::NotAnAdventure, "it is not an adventure file"},
-        {Refusal::Damaged, "it is damaged"},
-        {Refusal::NewerVersion, "it was written by a newer version of Fabula"},
-        {Refusal::OlderVersion, "it was made by an older version of Fabula and must be upgraded first"},
-        {Refusal::InUse, "it is in use by another program"},
-        {Refusal::TooLarge, "it is too large"},
-    };
-    std::string message = "Could not open " + file.string() + ": ";
-    for (const Row& row : kRows) {
-        if (row.reason == reason) message += row.text;
-    }
-    throw OpenError(reason, message + ".");
-}
-
-std::uint32_t BigEndian(const std::array<char, kHeaderSize>& header, std::size_t at) {
+std::uint32_t BigEndian(std::string_view header, std::size_t at) {
     std::uint32_t number = 0;
     for (std::size_t i = 0; i < 4; ++i)
         number = number << 8 | static_cast<unsigned char>(header[at + i]);
     return number;
+}
+
+/// The header of an adventure file; empty for what is none.
+std::string ReadHeader(const std::filesystem::path& file) {
+    std::string header = platform::ReadStartOfFile(file, kHeaderSize, "open " + file.string());
+    const bool ours = header.size() == kHeaderSize && header.starts_with(kMagic) &&
+                      BigEndian(header, kApplicationIdAt) == kApplicationId;
+    return ours ? header : std::string();
 }
 
 void CheckHeader(const std::filesystem::path& file) {
@@ -80,15 +72,13 @@ void CheckHeader(const std::filesystem::path& file) {
     if (!std::filesystem::exists(file, error)) Refuse(Refusal::Missing, file);
     if (!std::filesystem::is_regular_file(file, error)) Refuse(Refusal::NotAnAdventure, file);
     if (std::filesystem::file_size(file, error) > kLargestFile) Refuse(Refusal::TooLarge, file);
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw Error("Could not open " + file.string() + ": it can't be read.");
-    std::array<char, kHeaderSize> header{};
-    stream.read(header.data(), header.size());
-    if (stream.gcount() < static_cast<std::streamsize>(header.size()))
-        Refuse(Refusal::NotAnAdventure, file);
-    if (std::string_view(header.data(), kMagic.size()) != kMagic) Refuse(Refusal::NotAnAdventure, file);
-    if (BigEndian(header, kApplicationIdAt) != kApplicationId) Refuse(Refusal::NotAnAdventure, file);
+    const std::string header = ReadHeader(file);
+    if (header.empty()) Refuse(Refusal::NotAnAdventure, file);
     if (BigEndian(header, kUserVersionAt) > kFileVersion) Refuse(Refusal::NewerVersion, file);
+    const auto log = std::filesystem::path(file) += "-wal";
+    const bool hasLog = std::filesystem::exists(std::filesystem::symlink_status(log, error));
+    if (hasLog || header[kWriteVersionAt] == kWriteAheadLog || header[kReadVersionAt] == kWriteAheadLog)
+        Refuse(Refusal::WriteAheadLog, file);
     if (header[kWriteVersionAt] != kRollbackJournal || header[kReadVersionAt] != kRollbackJournal) {
         Refuse(Refusal::Damaged, file);
     }
@@ -258,6 +248,8 @@ std::optional<Refusal> RefusalFor(int result) {
             return Refusal::InUse;
         case SQLITE_NOTADB:
             return Refusal::NotAnAdventure;
+        case SQLITE_INTERRUPT:
+            return Refusal::TooSlow;
         case SQLITE_IOERR:
         case SQLITE_NOMEM:
         case SQLITE_FULL:
@@ -283,6 +275,53 @@ std::string_view SqlTypeOf(FieldType type) {
             return "BLOB";
     }
     return "BLOB";
+}
+
+void Refuse(Refusal reason, const std::filesystem::path& file) {
+    struct Row {
+        Refusal reason;
+        std::string_view text;
+    };
+    static constexpr Row kRows[] = {
+        {Refusal::Missing, "there is no such file"},
+        {Refusal::NotAnAdventure, "it is not an adventure file"},
+        {Refusal::Damaged, "it is damaged"},
+        {Refusal::NewerVersion, "it was written by a newer version of Fabula"},
+        {Refusal::OlderVersion, "it was made by an older version of Fabula and must be upgraded first"},
+        {Refusal::InUse, "it is in use by another program"},
+        {Refusal::TooLarge, "it is too large"},
+        {Refusal::TooSlow, "reading it takes more than any adventure needs"},
+        {Refusal::WriteAheadLog,
+         "another program keeps a write-ahead log for it; \"PRAGMA journal_mode=DELETE\" there ends that"},
+        {Refusal::OpenForChange, "it is open for change in another window or program"},
+        {Refusal::CannotBeWritten, "it can only be read"},
+    };
+    std::string message = "Could not open " + file.string() + ": ";
+    for (const Row& row : kRows) {
+        if (row.reason == reason) message += row.text;
+    }
+    throw OpenError(reason, message + ".");
+}
+
+bool IsAdventureFile(const std::filesystem::path& file) {
+    std::error_code error;  // what can't be looked at is none
+    if (!std::filesystem::is_regular_file(file, error)) return false;
+    try {
+        return !ReadHeader(file).empty();
+    } catch (const Error&) {
+        return false;  // what can't be read is treated as any other file
+    }
+}
+
+void CheckCanBeWritten(const std::filesystem::path& file) {
+    CheckHeader(file);
+    const auto folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
+    struct stat facts {};
+    const bool marked = stat(file.c_str(), &facts) == 0 && (facts.st_mode & 0222) == 0;
+    const auto mayWrite = [](const std::filesystem::path& path) {
+        return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+    };
+    if (marked || !mayWrite(file) || !mayWrite(folder)) Refuse(Refusal::CannotBeWritten, file);
 }
 
 std::string CreateTableSql(const TableSchema& schema) {

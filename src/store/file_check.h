@@ -26,6 +26,16 @@ std::unique_ptr<Connection> OpenChecked(const std::filesystem::path& file, OpenM
 /// The type of a column that holds fields of a type.
 std::string_view SqlTypeOf(FieldType type);
 
+/// Whether a file is an adventure by its header, of whatever version and however damaged behind it.
+bool IsAdventureFile(const std::filesystem::path& file);
+
+/// Refuses a file that is there but can't be written, itself or for want of a place beside it
+/// (CannotBeWritten), and what OpenChecked refuses by the header alone.
+void CheckCanBeWritten(const std::filesystem::path& file);
+
+/// Throws the OpenError for a reason: "Could not open game.fbd: it is damaged."
+[[noreturn]] void Refuse(Refusal reason, const std::filesystem::path& file);
+
 /// The statement that makes a table of these fields, the one form that OpenChecked accepts.
 std::string CreateTableSql(const TableSchema& schema);
 

@@ -1,23 +1,33 @@
 #include "store/file_copy.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <fstream>
 #include <string>
 #include <system_error>
 
 #include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/error.h"
+#include "store/change_lock.h"
 #include "store/connection.h"
 #include "store/file_check.h"
+#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {
 
+/// The extensions of the files that this program makes. One kind is never written over another.
+constexpr std::string_view kOwnExtensions[] = {".fbd", ".sav", ".scr", ".trc", ".chr", ".ext", ".sce"};
+
+[[noreturn]] void Refuse(const std::filesystem::path& target, const std::string& reason) {
+    throw Error("Could not write " + target.string() + ": " + reason + ".");
+}
+
 [[noreturn]] void Fail(const std::filesystem::path& target, int error) {
-    throw Error("Could not write " + target.string() + ": " + std::generic_category().message(error) + ".");
+    Refuse(target, std::generic_category().message(error));
 }
 
 /// Waits until the disk has a file's or folder's bytes.
@@ -39,22 +49,60 @@ std::filesystem::path JournalOf(const std::filesystem::path& file) {
     return std::filesystem::path(file) += "-journal";
 }
 
-/// Lets the database mend a file that was not closed properly, which takes its journal away; a journal that
-/// is of no use is deleted.
-void UseUpJournal(const std::filesystem::path& file) {
-    std::error_code error;
-    if (!std::filesystem::exists(JournalOf(file), error)) return;
-    if (std::filesystem::exists(file, error)) {
-        const Connection old(file, SQLITE_OPEN_READWRITE);
+[[noreturn]] void RefuseJournal(const std::filesystem::path& target) {
+    Refuse(target, "what lies at " + JournalOf(target).string() + " would be taken for its journal");
+}
+
+/// Makes sure that nothing lies in the place of the journal of an adventure that is about to come to
+/// `place`. What is left of an adventure that lies there now is played by the database, which takes it
+/// away.
+void UseUpJournal(const std::filesystem::path& place, const std::filesystem::path& target) {
+    std::error_code error;  // what can't be looked at is found by the database
+    if (!std::filesystem::exists(std::filesystem::symlink_status(JournalOf(place), error))) return;
+    if (!IsAdventureFile(place)) RefuseJournal(target);
+    try {
+        const auto old = OpenChecked(place, OpenMode::ReadWrite, Ages::Any);
         const int result =
-            sqlite3_exec(old.Handle(), "BEGIN EXCLUSIVE; ROLLBACK", nullptr, nullptr, nullptr);
-        // Any other failure tells of a file that can't be mended; it is replaced as it is.
-        if ((result & 0xff) == SQLITE_BUSY) {
-            throw Error("Could not write " + file.string() + ": it is in use by another program.");
-        }
+            sqlite3_exec(old->Handle(), "BEGIN EXCLUSIVE; ROLLBACK", nullptr, nullptr, nullptr);
+        if ((result & 0xff) == SQLITE_BUSY) Refuse(target, "it is in use by another program");
+        if (result != SQLITE_OK) RefuseJournal(target);
+    } catch (const OpenError& refused) {
+        if (refused.Reason() == Refusal::InUse) Refuse(target, "it is in use by another program");
+        RefuseJournal(target);
     }
-    std::filesystem::remove(JournalOf(file), error);
-    if (error) Fail(file, error.value());
+    std::filesystem::remove(JournalOf(place), error);
+    if (error) Fail(target, error.value());
+}
+
+/// Gives the new file the mode of the old one, and its owner where the machine lets us.
+void KeepMode(const std::filesystem::path& finished, const std::filesystem::path& place,
+              const std::filesystem::path& target) {
+    struct stat old {};
+    if (stat(place.c_str(), &old) != 0) return;
+    if (chown(finished.c_str(), old.st_uid, old.st_gid) != 0 && errno != EPERM) Fail(target, errno);
+    if (chmod(finished.c_str(), old.st_mode & 0777) != 0) Fail(target, errno);
+}
+
+void WriteAll(int handle, std::string_view bytes, const std::filesystem::path& target) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(handle, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) Fail(target, errno);
+        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
+    }
+}
+
+/// Writes into what is there already: a file of ours in the making, a device or a pipe.
+void WriteInto(const std::filesystem::path& file, std::string_view bytes,
+               const std::filesystem::path& target) {
+    const int handle = open(file.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+    if (handle < 0) Fail(target, errno);
+    try {
+        WriteAll(handle, bytes, target);
+    } catch (const Error&) {
+        close(handle);
+        throw;
+    }
+    if (close(handle) != 0) Fail(target, errno);
 }
 
 void CopyPages(const Connection& source, const Connection& target, const char* doing) {
@@ -75,42 +123,58 @@ void WritePages(const Connection& source, const std::filesystem::path& copy,
 
 }  // namespace
 
-std::filesystem::path TemporaryBeside(const std::filesystem::path& target) {
-    for (int number = 0;; ++number) {
-        std::filesystem::path name = target;
-        name += "." + std::to_string(getpid()) + "-" + std::to_string(number) + ".tmp";
-        std::error_code error;  // a folder that can't be looked at fails when the file is made
-        if (!std::filesystem::exists(name, error)) return name;
+bool IsSameFile(const std::filesystem::path& left, const std::filesystem::path& right) {
+    std::error_code error;  // what is not there is another file
+    return std::filesystem::equivalent(left, right, error);
+}
+
+void CheckTarget(const std::filesystem::path& target, Content content, std::string_view extension) {
+    const auto place = PlaceOf(target);
+    if (content == Content::Adventure && (IsStream(place) || target == kStandardOutput))
+        Refuse(target, "an adventure needs a file");
+    struct stat facts {};
+    if (target == kStandardOutput || IsStream(place) || stat(place.c_str(), &facts) != 0) return;
+    if (S_ISDIR(facts.st_mode)) Fail(target, EISDIR);
+    if ((facts.st_mode & 0222) == 0 || faccessat(AT_FDCWD, place.c_str(), W_OK, AT_EACCESS) != 0)
+        Refuse(target, "it is read-only");
+    const std::string present = text::LowerCase(place.extension().string());
+    const bool own = std::ranges::find(kOwnExtensions, present) != std::end(kOwnExtensions);
+    const std::string_view wanted = content == Content::Adventure ? std::string_view(".fbd") : extension;
+    if (IsAdventureFile(place)) {
+        if (content == Content::Text) Refuse(target, "it is an adventure");
+        if (ChangeLock::IsHeld(place)) Refuse(target, "it is open for change in another program");
+    } else if (own && present != wanted) {
+        Refuse(target, "by its name it is a file of another kind, *" + present);
     }
 }
 
 void MoveIntoPlace(const std::filesystem::path& finished, const std::filesystem::path& target) {
+    const bool isAdventure = IsAdventureFile(finished);
+    const auto place = PlaceOf(target);
+    CheckTarget(target, isAdventure ? Content::Adventure : Content::Text,
+                text::LowerCase(place.extension().string()));
+    KeepMode(finished, place, target);
     Flush(finished, target);
-    UseUpJournal(target);
-    if (rename(finished.c_str(), target.c_str()) != 0) Fail(target, errno);
-    Flush(FolderOf(target), target);
+    if (isAdventure) UseUpJournal(place, target);
+    if (rename(finished.c_str(), place.c_str()) != 0) Fail(target, errno);
+    Flush(FolderOf(place), target);
 }
 
 void WriteFile(const std::filesystem::path& file, std::string_view bytes) {
-    const TemporaryFile temporary(TemporaryBeside(file));
-    std::ofstream stream(temporary.Path(), std::ios::binary);
-    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    stream.close();
-    if (!stream) throw Error("Could not write " + file.string() + ".");
+    if (file == kStandardOutput) return WriteAll(STDOUT_FILENO, bytes, "the output");
+    const auto place = PlaceOf(file);
+    if (IsStream(place)) return WriteInto(place, bytes, file);
+    const TemporaryFile temporary(file);
+    WriteInto(temporary.Path(), bytes, file);
     MoveIntoPlace(temporary.Path(), file);
-}
-
-TemporaryFile::~TemporaryFile() {
-    std::error_code ignored;  // what can't be removed is a file named "*.tmp", which is cleaned up later
-    std::filesystem::remove(path_, ignored);
-    std::filesystem::remove(JournalOf(path_), ignored);
 }
 
 void WriteCopy(const Connection& source, const std::filesystem::path& target) {
     std::error_code error;
     const auto path = std::filesystem::absolute(target, error);
     if (error) Fail(target, error.value());
-    const TemporaryFile temporary(TemporaryBeside(path));
+    CheckTarget(path, Content::Adventure);
+    const TemporaryFile temporary(path);
     WritePages(source, temporary.Path(), target);
     OpenChecked(temporary.Path(), OpenMode::ReadOnly, Ages::Any);
     MoveIntoPlace(temporary.Path(), path);

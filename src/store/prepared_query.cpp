@@ -71,6 +71,8 @@ void PreparedQuery::Reset() {
 
 std::string_view PreparedQuery::Text(int column) const {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column + 1));
+    if (!text && sqlite3_errcode(connection_->Handle()) == SQLITE_NOMEM)
+        connection_->Fail("read the adventure");
     return text ? std::string_view(text,
                                    static_cast<std::size_t>(sqlite3_column_bytes(statement_, column + 1)))
                 : "";

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
+#include <sstream>
 
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "text/fields.h"
 #include "text/utf8.h"
 
@@ -18,10 +19,8 @@ constexpr std::string_view kMaintenanceTemplate = "else";
 
 /// The lines of a keypad template, comments left out, joined by blanks.
 std::string ReadTemplate(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream || std::filesystem::file_size(file) > kLargestTemplate) {
-        throw Error("Could not read the template " + file.string() + ".");
-    }
+    std::istringstream stream(
+        platform::ReadWholeFile(file, kLargestTemplate, "read the template " + file.string()));
     std::string commands;
     for (std::string line; std::getline(stream, line);) {
         if (line.ends_with('\r')) line.pop_back();

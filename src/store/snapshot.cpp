@@ -1,5 +1,8 @@
 #include "store/snapshot.h"
 
+#include <new>
+#include <string_view>
+
 #include <sqlite3.h>
 
 #include "store/schema.h"
@@ -12,6 +15,19 @@ void Snapshot::Clear(std::size_t columns) {
     cells_.clear();
     bytes_.clear();
 }
+
+namespace {
+
+/// The bytes of a text or binary column. The database gives none when it had no memory to make them.
+std::string_view BytesOf(sqlite3_stmt* statement, int column) {
+    const void* bytes = sqlite3_column_blob(statement, column);
+    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
+    if (bytes) return {static_cast<const char*>(bytes), size};
+    if (sqlite3_errcode(sqlite3_db_handle(statement)) == SQLITE_NOMEM) throw std::bad_alloc();
+    return {};
+}
+
+}  // namespace
 
 void Snapshot::AppendRow(sqlite3_stmt* statement) {
     keys_.push_back(sqlite3_column_int64(statement, 0));
@@ -27,18 +43,12 @@ void Snapshot::AppendRow(sqlite3_stmt* statement) {
                 cell.kind = Kind::Real;
                 cell.as.real = sqlite3_column_double(statement, at);
                 break;
-            case SQLITE_TEXT: {
-                const void* text = sqlite3_column_text(statement, at);
-                cell = StoreBytes(Kind::Text, text,
-                                  static_cast<std::size_t>(sqlite3_column_bytes(statement, at)));
+            case SQLITE_TEXT:
+                cell = StoreBytes(Kind::Text, BytesOf(statement, at));
                 break;
-            }
-            case SQLITE_BLOB: {
-                const void* blob = sqlite3_column_blob(statement, at);
-                cell = StoreBytes(Kind::Blob, blob,
-                                  static_cast<std::size_t>(sqlite3_column_bytes(statement, at)));
+            case SQLITE_BLOB:
+                cell = StoreBytes(Kind::Blob, BytesOf(statement, at));
                 break;
-            }
             default:
                 break;
         }
@@ -108,22 +118,21 @@ Snapshot::Cell Snapshot::CellOf(const text::Value& value) {
             cell.as.real = number;
             return cell;
         }
-        Cell operator()(const std::string& text) const {
-            return snapshot.StoreBytes(Kind::Text, text.data(), text.size());
-        }
+        Cell operator()(const std::string& text) const { return snapshot.StoreBytes(Kind::Text, text); }
         Cell operator()(const text::Blob& blob) const {
-            return snapshot.StoreBytes(Kind::Blob, blob.data(), blob.size());
+            return snapshot.StoreBytes(Kind::Blob,
+                                       {reinterpret_cast<const char*>(blob.data()), blob.size()});
         }
     };
     return std::visit(Maker{*this}, value);
 }
 
-Snapshot::Cell Snapshot::StoreBytes(Kind kind, const void* bytes, std::size_t length) {
+Snapshot::Cell Snapshot::StoreBytes(Kind kind, std::string_view bytes) {
     Cell cell;
     cell.kind = kind;
-    cell.length = static_cast<std::uint32_t>(length);
+    cell.length = static_cast<std::uint32_t>(bytes.size());
     cell.as.offset = bytes_.size();
-    if (length > 0) bytes_.append(static_cast<const char*>(bytes), length);
+    bytes_.append(bytes);
     return cell;
 }
 

@@ -50,7 +50,7 @@ class Snapshot {
 
     const Cell& At(std::size_t row, std::size_t column) const { return cells_[row * columns_ + column]; }
     Cell CellOf(const text::Value& value);
-    Cell StoreBytes(Kind kind, const void* bytes, std::size_t length);
+    Cell StoreBytes(Kind kind, std::string_view bytes);
 
     std::size_t columns_ = 0;
     std::vector<std::int64_t> keys_;

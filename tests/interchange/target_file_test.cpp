@@ -50,7 +50,8 @@ TEST(TargetFile, NothingIsLeftOfAFileThatWasNotFinished) {
 }
 
 TEST(TargetFile, AMissingFolderIsAnError) {
-    EXPECT_THROW(TargetFile("/no/such/folder/out.ext"), Error);
+    TargetFile file("/no/such/folder/out.ext");
+    EXPECT_THROW(file.Finish(), Error);
 }
 
 }  // namespace

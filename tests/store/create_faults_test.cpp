@@ -34,8 +34,8 @@ TEST_F(Create, AMissingFileOfDataIsAnError) {
         MakeWith(folder_ / "nothing.ini");
         FAIL() << "it was created";
     } catch (const Error& error) {
-        EXPECT_EQ(error.what(), "Could not read the default data: there is no file " +
-                                    (folder_ / "nothing.ini").string() + ".");
+        EXPECT_EQ(error.what(), "Could not read the default data " + (folder_ / "nothing.ini").string() +
+                                    ": there is no such file.");
     }
     EXPECT_TRUE(FilesInGames().empty());
 }

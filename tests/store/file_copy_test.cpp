@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "store/adventure.h"
@@ -218,21 +219,39 @@ TEST_F(SaveCopy, AJournalLeftBesideTheOldFileDoesNotSpoilTheCopy) {
 
 TEST_F(SaveCopy, AFileThatAnotherProgramIsWritingIsNotReplaced) {
     test::MakeAdventure(target_);
-    const test::RawDatabase raw(target_);
-    raw.Run("BEGIN; DELETE FROM Flags");
+    int ready[2];
+    int done[2];
+    ASSERT_EQ(pipe(ready), 0);
+    ASSERT_EQ(pipe(done), 0);
+    const pid_t writer = test::StartChild([&] {
+        const test::RawDatabase raw(target_);
+        raw.Run("BEGIN; DELETE FROM Flags");
+        char byte = '+';
+        if (write(ready[1], &byte, 1) != 1 || read(done[0], &byte, 1) != 1) return 1;
+        raw.Run("COMMIT");
+        return raw.Ask("PRAGMA integrity_check") == "ok" && raw.Ask("SELECT count(*) FROM Flags") == "0"
+                   ? 0
+                   : 2;
+    });
+    char byte = 0;
+    ASSERT_EQ(read(ready[0], &byte, 1), 1);
     EXPECT_EQ(ErrorOf(target_),
               "Could not write " + target_.string() + ": it is in use by another program.");
-    raw.Run("COMMIT");
-    EXPECT_EQ(raw.Ask("PRAGMA integrity_check"), "ok");
-    EXPECT_EQ(raw.Ask("SELECT count(*) FROM Flags"), "0");
+    ASSERT_EQ(write(done[1], "+", 1), 1);
+    int status = -1;
+    waitpid(writer, &status, 0);
+    EXPECT_EQ(status, 0);
+    for (const int end : {ready[0], ready[1], done[0], done[1]})
+        close(end);
 }
 
-TEST_F(SaveCopy, AJournalBesideAFileOfAnotherKindIsDeleted) {
+TEST_F(SaveCopy, AJournalBesideAFileOfAnotherKindStaysAndNoAdventureIsPutBesideIt) {
     WriteBytes(target_, "something else");
-    WriteBytes(target_.string() + "-journal", "something else");
-    adventure_->SaveCopy(target_);
-    EXPECT_EQ(FilesIn(folder_.Path()), std::vector<std::string>{"copy.fbd"});
-    EXPECT_EQ(MessagesOf(target_), "");
+    WriteBytes(target_.string() + "-journal", "something more");
+    EXPECT_EQ(ErrorOf(target_), "Could not write " + target_.string() + ": what lies at " +
+                                    target_.string() + "-journal would be taken for its journal.");
+    EXPECT_EQ(ReadBytes(target_), "something else");
+    EXPECT_EQ(ReadBytes(target_.string() + "-journal"), "something more");
 }
 
 TEST(MoveIntoPlace, AMissingFileLeavesTheTargetAsItWas) {
@@ -245,10 +264,10 @@ TEST(MoveIntoPlace, AMissingFileLeavesTheTargetAsItWas) {
 TEST(TemporaryFile, IsDeletedWithItsJournalUnlessItWasMoved) {
     const test::TempFolder folder;
     {
-        const TemporaryFile file(TemporaryBeside(folder / "game.fbd"));
+        const TemporaryFile file(folder / "game.fbd");
         WriteBytes(file.Path(), "half");
         WriteBytes(file.Path().string() + "-journal", "half");
-        EXPECT_NE(TemporaryBeside(folder / "game.fbd"), file.Path());
+        EXPECT_NE(TemporaryFile(folder / "game.fbd").Path(), file.Path());
     }
     EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
 }

@@ -148,7 +148,7 @@ TEST_F(TransactionTest, TwoProgramsDoNotWriteAtOnce) {
         const Transaction second(*other);
         ADD_FAILURE() << "both write";
     } catch (const Error& error) {
-        EXPECT_STREQ(error.what(), "Could not write to the adventure: database is locked.");
+        EXPECT_STREQ(error.what(), "Could not write to the adventure: it is in use by another program.");
     }
 }
 

@@ -2,6 +2,7 @@
 #include <iostream>
 #include <vector>
 
+#include "cli/target.h"
 #include "cli/terminal_operator.h"
 #include "cli/verbs.h"
 #include "pictures/character_store.h"
@@ -19,6 +20,7 @@ struct Options {
     std::vector<int> sets;
     int set = 0;
     int target = 0;
+    bool force = false;
 };
 
 int List(const Options& options) {
@@ -35,6 +37,7 @@ int List(const Options& options) {
 
 int Save(const Options& options) {
     TerminalOperator terminal;
+    CheckTarget({options.setFile, store::Content::Text, ".chr", options.file, options.force}, terminal);
     const auto adventure = OpenToRead(options.file);
     std::vector<std::string> selected;
     for (const int set : options.sets) {
@@ -68,6 +71,7 @@ void AddCharsetVerb(CLI::App& app, Chosen& chosen) {
     AddAdventureOption(*save, options->file)->required();
     save->add_option("output", options->setFile, "The file to write, FILE.chr")->required();
     save->add_option("sets", options->sets, "The numbers of the sets")->required()->check(setNumbers);
+    AddForceFlag(*save, options->force);
     Runs(*save, chosen, options, Save);
 
     CLI::App* load = verb->add_subcommand("load", "Puts a set of a file over a set of an adventure");

@@ -3,6 +3,8 @@
 #include <optional>
 #include <vector>
 
+#include "cli/target.h"
+#include "cli/terminal_operator.h"
 #include "cli/verbs.h"
 #include "pictures/book_loader.h"
 #include "pictures/contact_sheet.h"
@@ -30,9 +32,11 @@ struct Options {
     std::optional<std::string> drawstring;
     std::string checkedIn;
     bool subroutine = false;
+    bool force = false;
 };
 
 constexpr int kSheetColumns = 5;
+constexpr const char* kIndex = "index.png";
 
 pictures::PictureBook Load(const std::string& file) {
     const auto adventure = OpenToRead(file);
@@ -64,6 +68,8 @@ int DrawOne(const Options& options) {
     if (options.file.empty() || !options.picture || options.output.empty()) {
         throw UsageError("draw needs FILE.fbd PICTURE OUT.bmp or OUT.png");
     }
+    TerminalOperator person;
+    CheckTarget({options.output, store::Content::Text, {}, options.file, options.force}, person);
     const pictures::PictureBook book = Load(options.file);
     const pictures::Canvas canvas =
         pictures::DrawPicture(book, *options.picture, options.upTo.value_or(pictures::kWholeDrawstring));
@@ -80,6 +86,8 @@ int DrawAll(const Options& options) {
     std::error_code error;
     std::filesystem::create_directories(folder, error);
     if (error) throw Error("Could not make the folder " + folder.string() + ": " + error.message() + ".");
+    TerminalOperator person;
+    CheckTarget({folder / kIndex, store::Content::Text, {}, {}, options.force}, person);
     std::vector<pictures::NumberedPicture> drawn;
     int status = kDone;
     for (const auto& [number, picture] : book.pictures) {
@@ -93,8 +101,7 @@ int DrawAll(const Options& options) {
             status = kFailed;
         }
     }
-    pictures::WriteImage(folder / "index.png",
-                         pictures::ContactSheet(drawn, book.characters, kSheetColumns));
+    pictures::WriteImage(folder / kIndex, pictures::ContactSheet(drawn, book.characters, kSheetColumns));
     return status;
 }
 
@@ -136,6 +143,7 @@ void AddDrawVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("--check", options->drawstring, "Check a drawstring and show its words");
     verb->add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use");
     verb->add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine");
+    AddForceFlag(*verb, options->force);
     Runs(*verb, chosen, options, Draw);
 }
 

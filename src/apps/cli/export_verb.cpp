@@ -1,6 +1,7 @@
 #include "authoring/jobs/verify.h"
 #include "cli/console.h"
 #include "cli/file_kind_option.h"
+#include "cli/target.h"
 #include "cli/verbs.h"
 
 namespace fabula::cli {
@@ -10,6 +11,7 @@ struct Options {
     std::string kind;
     std::string file;
     std::string target;
+    bool force = false;
 };
 
 bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,
@@ -20,8 +22,10 @@ bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,
 
 int Export(const Options& options) {
     const interchange::FileKind& kind = WritableKind(options.kind);
-    const auto adventure = OpenToRead(options.file);
     Console console(std::cerr);
+    CheckTarget({options.target, store::Content::Text, kind.extension, options.file, options.force},
+                console.Person());
+    const auto adventure = OpenToRead(options.file);
     const interchange::JobResult result =
         interchange::ExportIt(kind, *adventure, options.target, Verify, console.JobHost());
     return result.done ? kDone : kFailed;
@@ -34,8 +38,9 @@ void AddExportVerb(CLI::App& app, Chosen& chosen) {
     CLI::App* verb = app.add_subcommand("export", "Writes an adventure as a source or an export file");
     verb->add_option("kind", options->kind, "What is written: " + WritableKinds())->required();
     AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("target", options->target, "The file that is written; an existing one is replaced")
+    verb->add_option("target", options->target, "The file that is written; - is standard output")
         ->required();
+    AddForceFlag(*verb, options->force);
     Runs(*verb, chosen, options, Export);
 }
 

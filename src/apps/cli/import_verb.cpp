@@ -1,7 +1,7 @@
 #include "cli/console.h"
 #include "cli/file_kind_option.h"
+#include "cli/target.h"
 #include "cli/verbs.h"
-#include "platform/error.h"
 
 namespace fabula::cli {
 namespace {
@@ -15,12 +15,11 @@ struct Options {
 
 int Import(const Options& options) {
     const interchange::FileKind& kind = ReadableKind(options.kind);
-    if (!options.force && std::filesystem::exists(options.file)) {
-        throw Error("Could not create " + options.file + ": it exists already; --force replaces it.");
-    }
     Console console(std::cerr);
+    CheckTarget({options.file, store::Content::Adventure, {}, options.source, options.force},
+                console.Person());
     const interchange::JobResult result =
-        interchange::ImportIt(kind, options.source, options.file, options.force, console.JobHost());
+        interchange::ImportIt(kind, options.source, options.file, true, console.JobHost());
     return result.done ? kDone : kFailed;
 }
 

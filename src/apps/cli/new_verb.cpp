@@ -1,8 +1,8 @@
 #include "cli/console.h"
 #include "cli/installation.h"
+#include "cli/target.h"
 #include "cli/verbs.h"
 #include "interchange/starter.h"
-#include "platform/error.h"
 #include "store/adventure.h"
 #include "store/create.h"
 
@@ -18,10 +18,9 @@ struct Options {
     bool force = false;
 };
 
-void AddStarterTo(const std::string& file) {
-    const auto adventure = OpenToChange(file);
-    const std::string name = adventure->AdventureTypeLower() + ".ini";
-    interchange::AddStarter(*adventure, DefaultDataFile().parent_path() / "starters" / name);
+void AddStarterTo(store::Adventure& adventure) {
+    const std::string name = adventure.AdventureTypeLower() + ".ini";
+    interchange::AddStarter(adventure, DefaultDataFile().parent_path() / "starters" / name);
 }
 
 int Create(const Options& options) {
@@ -32,11 +31,12 @@ int Create(const Options& options) {
     setup.ChooseCharSets(options.charSets);
     setup.ChooseType(*kind);
     Console console(std::cerr);
-    if (!store::CreateAdventure(options.force, options.file, setup,
-                                {console.Person(), console.Clock(), console.Events(), DefaultDataFile()})) {
-        throw Error("Could not create " + options.file + ": it exists already; --force replaces it.");
-    }
-    if (options.starter) AddStarterTo(options.file);
+    CheckTarget({options.file, store::Content::Adventure, {}, {}, options.force}, console.Person());
+    std::function<void(store::Adventure&)> finish;
+    if (options.starter) finish = AddStarterTo;
+    store::CreateAdventure(true, options.file, setup,
+                           {console.Person(), console.Clock(), console.Events(), DefaultDataFile()},
+                           finish);
     return kDone;
 }
 

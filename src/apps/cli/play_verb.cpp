@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include "cli/target.h"
+#include "cli/terminal_operator.h"
 #include "cli/verbs.h"
 #include "engine/trace_file.h"
 #include "platform/clock.h"
@@ -25,6 +27,7 @@ struct Options {
     bool plain = false;
     bool realTime = false;
     bool debug = false;
+    bool force = false;
 };
 
 std::unique_ptr<terminal::LineSource> OpenInput(const Options& options) {
@@ -52,15 +55,20 @@ std::string TraceHeader(const Options& options) {
 int Play(const Options& options) {
     const auto adventure = OpenToRead(options.file);
     const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
+    TerminalOperator person;
     std::ofstream transcriptStream;
     std::optional<engine::Transcript> transcript;
     if (!options.transcript.empty()) {
+        CheckTarget({options.transcript, store::Content::Text, {}, options.file, options.force}, person);
         transcriptStream.open(options.transcript, std::ios::binary);
         if (!transcriptStream) throw Error("Could not write " + options.transcript + ".");
         transcript.emplace(transcriptStream);
     }
     std::optional<engine::TraceFile> trace;
-    if (!options.trace.empty()) trace.emplace(options.trace, TraceHeader(options));
+    if (!options.trace.empty()) {
+        CheckTarget({options.trace, store::Content::Text, ".trc", options.file, options.force}, person);
+        trace.emplace(options.trace, TraceHeader(options));
+    }
 
     const bool interactive = terminal::IsInteractive();
     terminal::ScreenStyle style;
@@ -74,7 +82,9 @@ int Play(const Options& options) {
     const bool ended = terminal::PlaySession(
         *adventure, window, screen,
         {options.seed, interactive || options.realTime, options.debug, trace ? &*trace : nullptr});
-    if (trace && !trace->IsGood()) throw Error("Could not write all of the trace " + options.trace + ".");
+    transcriptStream.close();
+    if (!transcriptStream) throw Error("Could not write all of the transcript " + options.transcript + ".");
+    if (trace && !trace->Finish()) throw Error("Could not write all of the trace " + options.trace + ".");
     return ended ? kDone : kFailed;
 }
 
@@ -100,6 +110,7 @@ void AddPlayVerb(CLI::App& app, Chosen& chosen) {
                    "Let pauses and time-outs take their time in a pipe, too");
     verb->add_flag("--debug", options->debug,
                    "Lines that begin with \":\" look into the game: \":F38\", \":=5\"");
+    AddForceFlag(*verb, options->force);
     Runs(*verb, chosen, options, Play);
 }
 

@@ -1,10 +1,10 @@
-#include <fstream>
 #include <iostream>
 #include <sstream>
 
 #include "cli/verbs.h"
 #include "engine/script.h"
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "store/file_copy.h"
 #include "terminal/line_reader.h"
 #include "terminal/player_files.h"
@@ -14,6 +14,9 @@
 
 namespace fabula::cli {
 namespace {
+
+/// The largest transcript that is compared, in bytes.
+constexpr std::uintmax_t kLargestTranscript = 256 * 1024 * 1024;
 
 struct Options {
     std::string file;
@@ -61,25 +64,21 @@ std::string PlayScript(const Options& options) {
 std::filesystem::path ExpectedFile(const Options& options) {
     std::filesystem::path file = options.transcript;
     if (file.empty()) file = std::filesystem::path(options.script).replace_extension("transcript");
-    if (file == options.script) throw UsageError("the script can't be its own transcript");
+    if (file == options.script || store::IsSameFile(file, options.script))
+        throw UsageError("the script can't be its own transcript");
     return file;
 }
 
 std::string ReadExpected(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw Error("Could not read " + file.string() + "; --update writes it.");
-    std::ostringstream content;
-    content << stream.rdbuf();
-    return content.str();
+    std::error_code error;  // what can't be looked at can't be read either
+    if (!std::filesystem::exists(file, error))
+        throw Error("Could not read " + file.string() + "; --update writes it.");
+    return platform::ReadWholeFile(file, kLargestTranscript, "read the transcript " + file.string());
 }
 
 void WriteExpected(const std::filesystem::path& file, const std::string& transcript) {
-    const store::TemporaryFile temporary(store::TemporaryBeside(file));
-    std::ofstream stream(temporary.Path(), std::ios::binary);
-    stream << transcript;
-    stream.close();
-    if (!stream) throw Error("Could not write " + file.string() + ".");
-    store::MoveIntoPlace(temporary.Path(), file);
+    store::CheckTarget(file, store::Content::Text);
+    store::WriteFile(file, transcript);
 }
 
 int Test(const Options& options) {

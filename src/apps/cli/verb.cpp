@@ -15,7 +15,7 @@ std::unique_ptr<store::Adventure> OpenToRead(const std::string& file) {
 }
 
 std::unique_ptr<store::Adventure> OpenToChange(const std::string& file) {
-    return store::Adventure::Open(file);
+    return store::Adventure::OpenForChange(file);
 }
 
 }  // namespace fabula::cli

@@ -72,7 +72,8 @@ void CopyWhileLocked(store::Adventure& adventure, const path& target) {
     const store::ReadTransaction reading(adventure);
     store::PreparedQuery anything = adventure.Prepare(store::TableNum::System, "systemnum", "");
     anything.First({});
-    std::filesystem::copy_file(adventure.CurrentFile(), target);
+    std::filesystem::copy_file(adventure.CurrentFile(), target,
+                               std::filesystem::copy_options::overwrite_existing);
 }
 
 path FreeName(const path& folder, const std::string& stem) {
@@ -112,7 +113,7 @@ std::optional<path> Backups::Add(store::Adventure& adventure) {
         const path folder = FolderOf(source);
         std::filesystem::create_directories(folder);
         const path target = FreeName(folder, NameOf(source) + "_" + Stamp(clock_.Now()));
-        const store::TemporaryFile making(store::TemporaryBeside(target));
+        const store::TemporaryFile making(target);
         CopyWhileLocked(adventure, making.Path());
         const std::vector<path> before = Of(source);
         if (!before.empty() && SameBytes(making.Path(), before.front())) return std::nullopt;

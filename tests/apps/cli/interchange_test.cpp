@@ -76,7 +76,7 @@ TEST_F(ExportVerb, AnAdventureThatDoesNotPassLeavesTheTargetAsItWas) {
     Write("own.txt", "/CTL\n_\n/VOC\n/PRO 0\n_ _ OOPS 1\n");
     Run({"import", "ace", File("own.txt"), File("own.fbd")});
     Write("own.sce", "precious");
-    const ProgramResult result = Run({"export", "pcvel", File("own.fbd"), File("own.sce")});
+    const ProgramResult result = Run({"export", "pcvel", File("own.fbd"), File("own.sce"), "--force"});
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(
         result.errors.find("Use of OOPS Condition/Action. This is not a valid PCVel Condition/Action.\n"),

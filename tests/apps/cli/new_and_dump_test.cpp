@@ -47,7 +47,7 @@ TEST_F(NewVerb, LeavesAnExistingFileAloneWithoutForce) {
     const ProgramResult result = Run({"new", File()});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
-              "fabula: Could not create " + File() + ": it exists already; --force replaces it.\n");
+              "fabula: Could not write " + File() + ": it exists already; --force replaces it.\n");
     std::string content;
     std::getline(std::ifstream(File()), content);
     EXPECT_EQ(content, "precious");

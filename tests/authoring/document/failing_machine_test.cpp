@@ -84,7 +84,7 @@ TEST_F(FailingMachine, AFileLockedForReadingTooLeavesTheViewAsItIs) {
         const RawDatabase other(file_);
         other.Run("BEGIN EXCLUSIVE");
         Main().Show({TableNum::Flags});
-        EXPECT_EQ(LastBox(), "Could not read the adventure: database is locked.");
+        EXPECT_EQ(LastBox(), "Could not read the adventure: it is in use by another program.");
     }
     EXPECT_EQ(Main().Grid().View(), (TableView{TableNum::Messages}));
     EXPECT_EQ(Main().Grid().RowCount(), 2);

@@ -46,8 +46,8 @@ std::filesystem::path TakeExample(const Example& example, const std::filesystem:
                      fs::copy_options::recursive | fs::copy_options::skip_existing);
         }
         // A copy that is broken off must not be taken for the example the next time.
-        const store::TemporaryFile copy(store::TemporaryBeside(own));
-        fs::copy_file(example.file, copy.Path());
+        const store::TemporaryFile copy(own);
+        fs::copy_file(example.file, copy.Path(), fs::copy_options::overwrite_existing);
         fs::permissions(copy.Path(), fs::perms::owner_write, fs::perm_options::add);
         store::MoveIntoPlace(copy.Path(), own);
     } catch (const fs::filesystem_error& error) {

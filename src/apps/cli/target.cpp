@@ -1,0 +1,22 @@
+#include "cli/target.h"
+
+#include <string>
+
+#include "platform/error.h"
+
+namespace fabula::cli {
+
+void CheckTarget(const Target& target, platform::Operator& person) {
+    const std::string name = target.file.string();
+    if (store::IsSameFile(target.file, target.source))
+        throw Error("Could not write " + name + ": it is the source itself.");
+    store::CheckTarget(target.file, target.content, target.extension);
+    std::error_code error;  // what can't be looked at fails when it is written
+    const bool replaces = target.file != store::kStandardOutput && !store::IsStream(target.file) &&
+                          std::filesystem::exists(target.file, error);
+    if (!replaces || target.force) return;
+    if (!person.Confirm(name + " exists already. Replace it?", "Fabula"))
+        throw Error("Could not write " + name + ": it exists already; --force replaces it.");
+}
+
+}  // namespace fabula::cli
