@@ -5,12 +5,11 @@
 
 #include "condacts/parser.h"
 #include "condacts/places.h"
+#include "text/str_edit.h"
 #include "text/utf8.h"
 
 namespace fabula::condacts {
 namespace {
-
-constexpr std::size_t kLettersLookedUp = 5;
 
 bool AdmitsLocationWords(const Parameter& param) {
     return param.kind == ParamKind::Location && param.maxValue == kLocationWordsAllowed;
@@ -28,15 +27,20 @@ void Append(std::string& line, std::string_view token) {
     line += token;
 }
 
-void AddError(Converted& converted, const std::string& message) {
+void AddError(Converted& converted, const std::string& message, std::size_t token) {
+    if (converted.ok) converted.faultyToken = token;
     if (!converted.errors.empty()) converted.errors += " and ";
     converted.errors += message;
     converted.ok = false;
 }
 
+std::string WrongType(std::string_view token, const CondAct& condAct) {
+    return "word " + std::string(token) + " Type doesn't agree with " + condAct.name;
+}
+
 void AddMissingParameters(Converted& converted, const Statement& statement) {
     if (statement.paramsGiven < static_cast<std::size_t>(statement.condAct->paramCount)) {
-        AddError(converted, "No parameter where there should be one");
+        AddError(converted, "No parameter where there should be one", statement.name);
     }
 }
 
@@ -44,16 +48,9 @@ bool TakesWord(const CondAct& condAct, std::size_t param) {
     return param == 0 && condAct.params[0].kind == ParamKind::Word;
 }
 
-void AppendWordNumber(Converted& converted, const CondAct& condAct, std::string_view token,
-                      const WordIndex& words) {
-    const std::string_view cut = token.substr(0, kLettersLookedUp);
+const Word* WordAsked(const CondAct& condAct, std::string_view token, const WordIndex& words) {
     const WordCondition* condition = FindWordCondition(condAct.name);
-    const Word* word = condition == nullptr ? nullptr : words.FindTyped(cut, condition->wordType);
-    if (word != nullptr) {
-        Append(converted.line, std::to_string(word->number));
-        return;
-    }
-    AddError(converted, "word " + std::string(cut) + " Type doesn't agree with " + condAct.name);
+    return condition == nullptr ? nullptr : words.FindAsked(token, condition->wordType);
 }
 
 bool IsNumber(std::string_view token) {
@@ -107,18 +104,23 @@ Converted CondActsToNumeric(std::string_view line, const Catalogue& catalogue, c
         Append(converted.line, std::to_string(condAct.number));
         for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
             const std::string_view token = parsed.Param(statement, p);
-            if (TakesWord(condAct, p)) {
-                AppendWordNumber(converted, condAct, token, words);
-                continue;
+            const std::size_t place = statement.name + 1 + p;
+            if (!TakesWord(condAct, p)) {
+                Append(converted.line, token);
+                if (!IsNumber(token))
+                    AddError(converted, "Invalid number for parameter " + std::to_string(p + 1), place);
+            } else if (const Word* word = WordAsked(condAct, token, words)) {
+                Append(converted.line, std::to_string(word->number));
+            } else {
+                AddError(converted, WrongType(token, condAct), place);
             }
-            Append(converted.line, token);
-            if (!IsNumber(token))
-                AddError(converted, "Invalid number for parameter " + std::to_string(p + 1));
         }
         AddMissingParameters(converted, statement);
     }
-    if (parsed.unknownName)
-        AddError(converted, InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text));
+    if (parsed.unknownName) {
+        AddError(converted, InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text),
+                 *parsed.unknownName);
+    }
     return converted;
 }
 
@@ -133,15 +135,15 @@ Converted NumericToCondActs(std::string_view numericLine, const Catalogue& catal
             const std::string_view token = parsed.Param(statement, p);
             const std::string text = TextParameter(condAct, p, token, words);
             Append(converted.line, text);
-            if (text.empty()) {
-                AddError(converted,
-                         "word " + std::string(token) + " Type doesn't agree with " + condAct.name);
-            }
+            if (text.empty()) AddError(converted, WrongType(token, condAct), statement.name + 1 + p);
         }
         AddMissingParameters(converted, statement);
     }
-    if (parsed.unknownName)
-        AddError(converted, InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text));
+    if (parsed.unknownName) {
+        AddError(converted, InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text),
+                 *parsed.unknownName);
+    }
+    converted.line = std::string(text::TrimBlanks(converted.line));
     return converted;
 }
 

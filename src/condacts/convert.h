@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -9,19 +10,22 @@
 namespace fabula::condacts {
 
 /// A line turned from one form into the other. When something did not fit, `ok` is false, `errors` says
-/// what, and `line` holds what could be turned.
+/// what, `faultyToken` is the first token of the given line that did not fit, counted from 0, and `line`
+/// holds what could be turned: it is not the other form of the given line then, and nobody may store it as
+/// such.
 struct Converted {
     std::string line;
     bool ok = true;
     std::string errors;
+    std::size_t faultyToken = 0;
 };
 
 /// Replaces NOTCR, WORN, CARRIED and HERE by their numbers where a parameter admits them. The tokens come
 /// back separated by single blanks; a line that holds an unknown name is changed only up to it.
 std::string LocationWordsToNumbers(std::string_view line, const Catalogue& catalogue);
 
-/// The numeric form of a line: each name by its number, each word by its own. Words are looked up by their
-/// first five letters, whatever the type of the adventure. Location words must have been replaced before.
+/// The numeric form of a line: each name by its number, each word by that of the word it names
+/// (`WordIndex::FindAsked`). Location words must have been replaced before.
 Converted CondActsToNumeric(std::string_view line, const Catalogue& catalogue, const WordIndex& words);
 
 /// The text form of a numeric line, with location words where a parameter admits them, so that the text

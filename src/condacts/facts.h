@@ -19,17 +19,14 @@ struct Facts {
 
     Dialect dialect = Dialect::Fabula;
 
-    /// How many records each table holds. Records are numbered from 0, so that the highest number is one
-    /// below.
-    int locations = 0;
-    int messages = 0;
-    int objects = 0;
-    int systemMessages = 0;
-    int flags = 0;
+    // The numbers of the records that exist; there may be gaps.
+    std::set<int> locations;
+    std::set<int> messages;
+    std::set<int> systemMessages;
+    std::set<int> processes;
+    std::map<int, Flag> flags;
+    std::map<int, int> objects;  ///< `objattrn` by object
 
-    std::set<int> processes;              ///< numbers of the process tables that exist
-    std::map<int, Flag> flagRecords;      ///< by number
-    std::map<int, int> objectAttributes;  ///< `objattrn` by object
     std::set<int> locationsWithExits;
     WordIndex words;
 };

@@ -20,18 +20,16 @@ int Int(const PreparedQuery& row, int column) {
 
 /// Calls `use` with each row of a table, in its default order.
 template <typename Use>
-int ForEachRow(Adventure& adventure, TableNum table, std::string_view fields, Use use) {
+void ForEachRow(Adventure& adventure, TableNum table, std::string_view fields, Use use) {
     PreparedQuery rows = adventure.Prepare(table, fields, "");
-    int count = 0;
-    for (bool more = rows.First({}); more; more = rows.Next()) {
+    for (bool more = rows.First({}); more; more = rows.Next())
         use(rows);
-        ++count;
-    }
-    return count;
 }
 
-int CountRows(Adventure& adventure, TableNum table, std::string_view key) {
-    return ForEachRow(adventure, table, key, [](const PreparedQuery&) {});
+std::set<int> Numbers(Adventure& adventure, TableNum table, std::string_view key) {
+    std::set<int> numbers;
+    ForEachRow(adventure, table, key, [&](const PreparedQuery& row) { numbers.insert(Int(row, 0)); });
+    return numbers;
 }
 
 CondAct ReadCondAct(const PreparedQuery& row) {
@@ -52,24 +50,22 @@ void ReadDialects(const PreparedQuery& row, CondAct& condAct) {
 }
 
 void LoadObjects(Adventure& adventure, Facts& facts) {
-    facts.objects = ForEachRow(
-        adventure, TableNum::Objects, "objnum, objattrn",
-        [&](const PreparedQuery& row) { facts.objectAttributes.try_emplace(Int(row, 0), Int(row, 1)); });
+    ForEachRow(adventure, TableNum::Objects, "objnum, objattrn",
+               [&](const PreparedQuery& row) { facts.objects.try_emplace(Int(row, 0), Int(row, 1)); });
 }
 
 void LoadLocations(Adventure& adventure, Facts& facts) {
-    facts.locations =
-        ForEachRow(adventure, TableNum::Locations, "locnum, numexits", [&](const PreparedQuery& row) {
-            if (Int(row, 1) > 0) facts.locationsWithExits.insert(Int(row, 0));
-        });
+    ForEachRow(adventure, TableNum::Locations, "locnum, numexits", [&](const PreparedQuery& row) {
+        facts.locations.insert(Int(row, 0));
+        if (Int(row, 1) > 0) facts.locationsWithExits.insert(Int(row, 0));
+    });
 }
 
 void LoadFlags(Adventure& adventure, Facts& facts) {
-    facts.flags =
-        ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgchg", [&](const PreparedQuery& row) {
-            const bool system = text::EqualsNoCase(row.Text(1), "system");
-            facts.flagRecords.try_emplace(Int(row, 0), Facts::Flag{system, Int(row, 2) != 0});
-        });
+    ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgchg", [&](const PreparedQuery& row) {
+        const bool system = text::EqualsNoCase(row.Text(1), "system");
+        facts.flags.try_emplace(Int(row, 0), Facts::Flag{system, Int(row, 2) != 0});
+    });
 }
 
 }  // namespace
@@ -104,13 +100,12 @@ Facts LoadFacts(Adventure& adventure) {
     const store::ReadTransaction reading(adventure);
     Facts facts;
     facts.dialect = DialectOf(adventure.Kind());
-    facts.messages = CountRows(adventure, TableNum::Messages, "msgnum");
-    facts.systemMessages = CountRows(adventure, TableNum::SystemMessages, "smsgnum");
+    facts.messages = Numbers(adventure, TableNum::Messages, "msgnum");
+    facts.systemMessages = Numbers(adventure, TableNum::SystemMessages, "smsgnum");
+    facts.processes = Numbers(adventure, TableNum::ProcDesc, "pmsgnum");
     LoadLocations(adventure, facts);
     LoadObjects(adventure, facts);
     LoadFlags(adventure, facts);
-    ForEachRow(adventure, TableNum::ProcDesc, "pmsgnum",
-               [&](const PreparedQuery& row) { facts.processes.insert(Int(row, 0)); });
     facts.words = LoadWords(adventure);
     return facts;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,10 @@ inline constexpr PlaceNumber kLastSpecial = kHere;
 
 constexpr bool IsSpecialPlace(PlaceNumber number) {
     return number >= place::kFirstSpecial && number <= place::kLastSpecial;
+}
+
+constexpr bool IsSpecialPlace(std::int64_t number) {
+    return number >= place::kFirstSpecial.value && number <= place::kLastSpecial.value;
 }
 
 struct LocationWord {

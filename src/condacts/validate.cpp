@@ -1,6 +1,7 @@
 #include "condacts/validate.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "condacts/convert.h"
 #include "condacts/flags.h"
@@ -14,9 +15,6 @@ namespace fabula::condacts {
 namespace {
 
 using Message = std::optional<std::string>;
-
-/// The numbers from here up stand for places that are no record: not created, worn, carried, here.
-constexpr int kFirstSpecialNumber = place::kFirstSpecial.value;
 
 /// One parameter on its way through the checks.
 struct Given {
@@ -41,14 +39,10 @@ bool IsNegativeNumber(std::string_view token) {
            digits.find_first_of("123456789") != std::string_view::npos;
 }
 
-bool IsRecordOrSpecial(int number, int records) {
-    return number < records || (number >= kFirstSpecialNumber && number <= kHighestNumber);
-}
-
 Message CheckContainer(const Given& given, const Facts& facts) {
     const std::string location = "Location " + std::to_string(given.number);
-    const auto object = facts.objectAttributes.find(given.number);
-    const bool container = given.number < kFirstSpecialNumber && object != facts.objectAttributes.end() &&
+    const auto object = facts.objects.find(given.number);
+    const bool container = !IsSpecialPlace(given.number) && object != facts.objects.end() &&
                            object->second != 0 && object->second != 2;
     if (!container) return location + " is not a container";
     if (facts.locationsWithExits.contains(given.number))
@@ -56,11 +50,9 @@ Message CheckContainer(const Given& given, const Facts& facts) {
     return std::nullopt;
 }
 
-Message CheckPlaceOrObject(const Given& given, const Facts& facts, int records) {
-    const bool fits = given.param.maxValue == kNoSpecialLocations
-                          ? given.number < records
-                          : IsRecordOrSpecial(given.number, records);
-    if (!fits) return InvalidNumber(given);
+Message CheckPlaceOrObject(const Given& given, const Facts& facts, bool exists) {
+    const bool mayBeSpecial = given.param.maxValue != kNoSpecialLocations;
+    if (!exists && !(mayBeSpecial && IsSpecialPlace(given.number))) return InvalidNumber(given);
     if (given.place == 2 && (given.CondActIs("PUTIN") || given.CondActIs("TAKEOUT"))) {
         return CheckContainer(given, facts);
     }
@@ -71,21 +63,20 @@ Message CheckSystemMessage(const Given& given, const Facts& facts) {
     const bool fits =
         given.param.maxValue == kSystemMessagesTwoToFive
             ? given.number >= message::kFirstPrompt.value && given.number <= message::kLastPrompt.value
-            : IsRecordOrSpecial(given.number, facts.systemMessages);
+            : facts.systemMessages.contains(given.number) || IsSpecialPlace(given.number);
     return fits ? Message() : InvalidNumber(given);
 }
 
 Message CheckFlag(const Given& given, const Facts& facts) {
     const int n = given.number;
-    if (n >= facts.flags || (facts.dialect == Dialect::Marlo && n > limit::kHighestMarloFlag))
+    const auto record = facts.flags.find(n);
+    if (record == facts.flags.end() || (facts.dialect == Dialect::Marlo && n > limit::kHighestMarloFlag))
         return InvalidNumber(given);
     if (n == flag::kTraceFile.value)
         return "Flag 1004 cannot be modified or checked using conditions/actions";
     if (n == flag::kTrace.value && !given.CondActIs("SET") && !given.CondActIs("CLEAR")) {
         return "Flag 1005 can only be SET or CLEAR";
     }
-    const auto record = facts.flagRecords.find(n);
-    if (record == facts.flagRecords.end()) return std::nullopt;
     if (record->second.system && (given.CondActIs("AUTOINC") || given.CondActIs("AUTODEC"))) {
         return "Flag " + std::to_string(n) + " cannot be set With " + given.condAct.name;
     }
@@ -96,11 +87,13 @@ Message CheckFlag(const Given& given, const Facts& facts) {
 }
 
 /// Only the first word of the spelling is looked at, so that a word of two types may be refused by the
-/// second.
+/// second. What no word is called is looked up as it compiles, cut.
 Message CheckWord(const Given& given, const Facts& facts) {
-    const Word* word = facts.words.Find(given.token);
-    if (word == nullptr) return std::string(given.token) + " is an invalid word";
     const WordCondition* condition = FindWordCondition(given.condAct.name);
+    const Word* word = facts.words.Find(given.token);
+    if (word == nullptr && condition != nullptr)
+        word = facts.words.FindAsked(given.token, condition->wordType);
+    if (word == nullptr) return std::string(given.token) + " is an invalid word";
     if (condition == nullptr || word->type == condition->wordType || word->type == kReserved)
         return std::nullopt;
     return std::string(given.token) + " is not " + std::string(condition->phrase);
@@ -109,11 +102,11 @@ Message CheckWord(const Given& given, const Facts& facts) {
 Message CheckNumber(const Given& given, const Facts& facts) {
     switch (given.param.kind) {
         case ParamKind::Location:
-            return CheckPlaceOrObject(given, facts, facts.locations);
+            return CheckPlaceOrObject(given, facts, facts.locations.contains(given.number));
         case ParamKind::Object:
-            return CheckPlaceOrObject(given, facts, facts.objects);
+            return CheckPlaceOrObject(given, facts, facts.objects.contains(given.number));
         case ParamKind::Message:
-            return given.number < facts.messages ? Message() : InvalidNumber(given);
+            return facts.messages.contains(given.number) ? Message() : InvalidNumber(given);
         case ParamKind::Process:
             return facts.processes.contains(given.number) ? Message()
                                                           : "There is not a Process table with that number";
@@ -140,19 +133,24 @@ Message CheckParameter(Given given, const Facts& facts) {
     return CheckNumber(given, facts);
 }
 
-std::optional<Fault> ValidateStatement(const ParsedLine& line, const Statement& statement,
-                                       const Facts& facts) {
+std::vector<Fault> FaultsOf(const ParsedLine& line, const Statement& statement, const Facts& facts) {
     const CondAct& condAct = *statement.condAct;
-    if (condAct.paramCount > 0 && statement.paramsGiven == 0) {
-        return Fault{"No parameters for a Condition/Action which must have parameter", statement.name};
-    }
-    for (std::size_t p = 0; p < static_cast<std::size_t>(condAct.paramCount); ++p) {
-        if (p >= statement.paramsGiven)
-            return Fault{"No parameter where there should be one", statement.name};
+    if (condAct.paramCount > 0 && statement.paramsGiven == 0)
+        return {{"No parameters for a Condition/Action which must have parameter", statement.name}};
+    std::vector<Fault> faults;
+    for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
         const Given given{condAct, condAct.params[p], static_cast<int>(p) + 1, line.Param(statement, p)};
-        if (Message message = CheckParameter(given, facts)) return Fault{*message, statement.name + 1 + p};
+        if (Message message = CheckParameter(given, facts))
+            faults.push_back({*message, statement.name + 1 + p});
     }
-    return std::nullopt;
+    if (statement.paramsGiven < static_cast<std::size_t>(condAct.paramCount))
+        faults.push_back({"No parameter where there should be one", statement.name});
+    return faults;
+}
+
+std::optional<Fault> FirstOf(std::vector<Fault> faults) {
+    if (faults.empty()) return std::nullopt;
+    return std::move(faults.front());
 }
 
 /// A line as the checks want it: location words as their numbers, in capitals. Capitals come last, since a
@@ -163,15 +161,24 @@ std::string Prepared(std::string_view line, const Catalogue& catalogue) {
 
 }  // namespace
 
-std::optional<Fault> ValidateCondActs(std::string_view line, const Catalogue& catalogue,
-                                      const Facts& facts) {
+std::vector<Fault> AllFaults(std::string_view line, const Catalogue& catalogue, const Facts& facts) {
     const std::string prepared = Prepared(line, catalogue);
     const ParsedLine parsed = ParseLine(prepared, catalogue, facts.dialect);
+    std::vector<Fault> faults;
     for (const Statement& statement : parsed.statements) {
-        if (std::optional<Fault> fault = ValidateStatement(parsed, statement, facts)) return fault;
+        for (Fault& fault : FaultsOf(parsed, statement, facts))
+            faults.push_back(std::move(fault));
     }
-    if (!parsed.unknownName) return std::nullopt;
-    return Fault{InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text), *parsed.unknownName};
+    if (parsed.unknownName) {
+        faults.push_back(
+            {InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text), *parsed.unknownName});
+    }
+    return faults;
+}
+
+std::optional<Fault> ValidateCondActs(std::string_view line, const Catalogue& catalogue,
+                                      const Facts& facts) {
+    return FirstOf(AllFaults(line, catalogue, facts));
 }
 
 std::optional<Fault> ValidateCondAct(std::string_view text, const Catalogue& catalogue,
@@ -179,7 +186,7 @@ std::optional<Fault> ValidateCondAct(std::string_view text, const Catalogue& cat
     const std::string prepared = Prepared(text, catalogue);
     const ParsedLine parsed = ParseLine(prepared, catalogue, facts.dialect);
     if (parsed.statements.empty()) return Fault{"Invalid Condition/Action", 0};
-    return ValidateStatement(parsed, parsed.statements.front(), facts);
+    return FirstOf(FaultsOf(parsed, parsed.statements.front(), facts));
 }
 
 }  // namespace fabula::condacts

@@ -76,6 +76,19 @@ const Word* WordIndex::FindTyped(std::string_view spelling, int wordType) const 
     });
 }
 
+const Word* WordIndex::FindAsked(std::string_view spelling, int wordType) const {
+    if (Has(spelling)) return FindTyped(spelling, wordType);
+    const std::string_view cut = spelling.substr(0, kOlderLetters);
+    const Word* found = FindTyped(cut, wordType);
+    if (found == nullptr) return nullptr;
+    const auto otherwise = [&](std::size_t i) {
+        const Word& word = words_[i];
+        return (word.type == wordType || word.type == kReserved) && word.number != found->number;
+    };
+    const std::vector<std::size_t>& same = bySpelling_.at(text::LowerCase(cut));
+    return std::any_of(same.begin(), same.end(), otherwise) ? nullptr : found;
+}
+
 const Word* WordIndex::FindNumber(int number, WordTest test) const {
     return FirstFitting(words_, byNumber_, number, test);
 }

@@ -29,6 +29,9 @@ std::string_view WordTypeName(int wordType);
 inline constexpr std::string_view kNoWord = "_";
 inline constexpr int kNoWordNumber = 255;
 
+/// How many letters of a word count in the older games.
+inline constexpr std::size_t kOlderLetters = 5;
+
 /// Nouns below this number may stand in for a verb and name a direction.
 inline constexpr int kFirstPlainNoun = 20;
 
@@ -63,6 +66,12 @@ class WordIndex {
     const Word* Find(std::string_view spelling, WordTest test = AnyWord) const;
     /// The first word of this spelling that is of type `wordType` or reserved.
     const Word* FindTyped(std::string_view spelling, int wordType) const;
+    /// The word that a condition on words of `wordType` names, of that type or reserved. The whole spelling
+    /// counts first. Only one that no word has, of whatever type, is cut to its first five letters, as
+    /// older games write their words; nullptr then, too, where words of different numbers fit.
+    const Word* FindAsked(std::string_view spelling, int wordType) const;
+    /// Whether any word has this spelling.
+    bool Has(std::string_view spelling) const { return Find(spelling) != nullptr; }
     /// The first word of this number that passes `test`.
     const Word* FindNumber(int number, WordTest test) const;
     /// The first word of this number that is of type `wordType` or reserved.

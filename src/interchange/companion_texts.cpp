@@ -8,6 +8,7 @@
 #include "condacts/places.h"
 #include "interchange/source_file.h"
 #include "text/numbers.h"
+#include "text/str_edit.h"
 #include "text/utf8.h"
 
 namespace fabula::interchange {
@@ -138,7 +139,7 @@ std::string CompanionTexts::ExitsText(std::string_view numericExits) const {
         text += ' ';
         text += tokens[i + 1];
     }
-    return text;
+    return std::string(text::TrimBlanks(text));
 }
 
 }  // namespace fabula::interchange

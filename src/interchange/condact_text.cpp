@@ -34,6 +34,7 @@ void ReportUnknownName(Converted& converted, const ParsedLine& parsed) {
     if (!parsed.unknownName) return;
     converted.ok = false;
     converted.errors = condacts::InvalidCondActMessage(parsed.tokens[*parsed.unknownName].text);
+    converted.faultyToken = *parsed.unknownName;
 }
 
 }  // namespace
@@ -70,6 +71,7 @@ Converted ConvertUnVelCAs(std::string_view text, const Catalogue& catalogue,
             const std::optional<std::string> word = ConvExtLogs(condition->wordType, *number, words);
             if (!word) {
                 converted.ok = false;
+                converted.faultyToken = statement.name + 1 + p;
                 converted.errors =
                     "word " + std::string(token) + " Type doesn't agree with " + statement.condAct->name;
                 return converted;
@@ -83,9 +85,10 @@ Converted ConvertUnVelCAs(std::string_view text, const Catalogue& catalogue,
 
 std::optional<std::string> ConvExtLogs(int wordType, int number, const condacts::WordIndex& words) {
     if (number == condacts::kNoWordNumber) return std::string(condacts::kNoWord);
-    const condacts::Word* word = words.FindNumberTyped(number, wordType);
-    if (word == nullptr || word->type != wordType) return std::nullopt;
-    return word->word;
+    for (const condacts::Word& word : words.All()) {
+        if (word.number == number && word.type == wordType) return word.word;
+    }
+    return std::nullopt;
 }
 
 }  // namespace fabula::interchange

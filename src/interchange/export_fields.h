@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,13 @@ struct ExportField {
 
 /// The fields of a table that travel, the key first, the others in the order of `tables`.
 std::vector<ExportField> ExportFields(store::Adventure& adventure, int tableNumber);
+
+/// The value of a field's text; nothing when it is not of the type. An empty text is null where it can't be
+/// a text.
+std::optional<text::Value> ParseExportValue(store::FieldType type, ExportUse use, std::string_view text);
+
+/// The text of a field's value, texts as they are stored.
+std::string RenderExportValue(store::FieldType type, const text::Value& value);
 
 /// The tables that travel, in the order of the file.
 struct ExportTable {

@@ -1,15 +1,16 @@
 #include "interchange/fabula_reader.h"
 
 #include <array>
-#include <charconv>
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "condacts/load.h"
+#include "condacts/parser.h"
 #include "interchange/companion_texts.h"
 #include "interchange/export_fields.h"
 #include "interchange/keyed_table.h"
@@ -60,47 +61,6 @@ const ExportTable* FindExportTable(std::int64_t number) {
     return nullptr;
 }
 
-std::optional<text::Value> ParseTruth(std::string_view text) {
-    if (text::EqualsNoCase(text, "true") || text == "1" || text == "-1") return std::int64_t{1};
-    if (text::EqualsNoCase(text, "false") || text == "0") return std::int64_t{0};
-    return std::nullopt;
-}
-
-std::optional<text::Value> ParseDouble(std::string_view text) {
-    double number = 0;
-    const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-    return number;
-}
-
-/// "yyyy-mm-dd hh:mm:ss"
-std::optional<text::Value> ParseDate(std::string_view text) {
-    constexpr std::string_view kForm = "0000-00-00 00:00:00";
-    if (text.size() != kForm.size()) return std::nullopt;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool digit = text[i] >= '0' && text[i] <= '9';
-        if (kForm[i] == '0' ? !digit : text[i] != kForm[i]) return std::nullopt;
-    }
-    return std::string(text);
-}
-
-/// The value of a field's text; nothing when it is not of the type. An empty text is null where it can't be
-/// a text.
-std::optional<text::Value> ParseValue(FieldType type, ExportUse use, std::string_view text) {
-    if (type == FieldType::VarWChar || type == FieldType::LongVarWChar) {
-        if (use != ExportUse::LongText) return std::string(text);
-        return text::ReplaceAll(text, kLineEndTag, text::kLineEndMarker);
-    }
-    if (text.empty()) return text::Value();
-    if (type == FieldType::Boolean) return ParseTruth(text);
-    if (type == FieldType::Double) return ParseDouble(text);
-    if (type == FieldType::Date) return ParseDate(text);
-    if (type == FieldType::LongVarBinary) return std::nullopt;
-    const auto number = text::WholeNumber(text);
-    return number ? std::optional<text::Value>(*number) : std::nullopt;
-}
-
 /// A table that lines of the file speak of: its fields that travel, and its records.
 class TableImport {
   public:
@@ -139,8 +99,12 @@ class TableImport {
 
     /// The settings are one record, whatever the file calls it.
     void Open(std::int64_t key) {
+        keys_.insert(key);
         if (keyed_) keyed_->GoToOrAdd(key);
     }
+
+    /// Of the records that the file names.
+    const std::set<std::int64_t>& Keys() const { return keys_; }
 
     void Set(const Column& column, text::Value value) {
         record_->SetField(column.field.name, std::move(value));
@@ -174,6 +138,7 @@ class TableImport {
     std::map<std::string, Column> fields_;  ///< by name in lower case
     std::unique_ptr<KeyedTable> keyed_;
     Cursor* record_ = nullptr;
+    std::set<std::int64_t> keys_;
     std::vector<const Column*> numericSet_;                               ///< of the pending record
     std::vector<std::pair<int, std::vector<const Column*>>> toComplete_;  ///< places in the cursor
 };
@@ -181,7 +146,8 @@ class TableImport {
 /// The reading of one file.
 class Reader {
   public:
-    explicit Reader(ImportContext& context) : context_(context), source_(context.source) {}
+    explicit Reader(ImportContext& context)
+        : context_(context), source_(context.source, context.encoding) {}
 
     bool Read() {
         const bool isOurs =
@@ -190,12 +156,14 @@ class Reader {
             context_.status.AddToStatusCR("File is not a Fabula Export file or Version  is incompatible.");
             return false;
         }
+        if (!source_.EncodingNote().empty()) context_.status.AddToStatusCR(source_.EncodingNote());
         context_.status.StartBar(source_.Size());
         do {
             context_.status.SetBar(source_.BytesRead());
             if (!line_.empty() && !TakeLine()) return false;
         } while (source_.Next(line_));
         Store();
+        DropDefaultWords();
         CompleteTexts();
         context_.status.AddToStatusCR(FindExportTable(static_cast<int>(TableNum::Pictures))->loaded);
         return true;
@@ -221,12 +189,14 @@ class Reader {
             return Refuse("The field needs a text that this program can't make.");
         }
         const auto value =
-            ParseValue(table.Schema().fields[column->index].type, column->field.use, line.value);
-        if (!value) return Refuse("The value is not of the type of its field.");
+            ParseExportValue(table.Schema().fields[column->index].type, column->field.use, line.value);
+        if (!value) return Refuse("The value is not of the type of its field.", line.value);
+        if (text::EqualsNoCase(column->field.name, "numericcondacts") && !TakesNumbers(line.value))
+            return false;
         try {
             store::CheckValue(table.Schema(), table.Schema().fields[column->index], *value);
         } catch (const Error& error) {
-            return Refuse(error.what());
+            return Refuse(error.what(), line.value);
         }
         return TakeField(table, *column, *value);
     }
@@ -277,21 +247,63 @@ class Reader {
     }
 
     void CompleteTexts() {
-        const condacts::Catalogue catalogue = condacts::LoadCatalogue(context_.adventure);
         const condacts::WordIndex words = condacts::LoadWords(context_.adventure);
-        const CompanionTexts texts(catalogue, words);
+        const CompanionTexts texts(catalogue_, words);
         for (const auto& table : tables_) {
             if (table && !table->IsIgnored()) table->Complete(texts, context_.status);
         }
     }
 
-    bool Refuse(const std::string& why) {
-        context_.status.AddFault(why, {source_.File(), source_.LineNumber(), line_});
+    /// Whether a list of conditions and actions can be decoded. A word that the vocabulary does not have is
+    /// no matter here: the vocabulary may come later.
+    bool TakesNumbers(std::string_view numbers) {
+        const condacts::ParsedLine parsed = condacts::ParseNumericLine(numbers, catalogue_);
+        if (parsed.unknownName) {
+            const std::string_view token = parsed.tokens[*parsed.unknownName].text;
+            return Refuse(condacts::InvalidCondActMessage(token), token);
+        }
+        for (const condacts::Statement& statement : parsed.statements) {
+            if (statement.paramsGiven < static_cast<std::size_t>(statement.condAct->paramCount))
+                return Refuse("No parameter where there should be one", parsed.tokens.back().text);
+            for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
+                const std::string_view token = parsed.Param(statement, p);
+                if (!condacts::WholeNumber(token))
+                    return Refuse("Invalid number for parameter " + std::to_string(p + 1), token);
+            }
+        }
+        return true;
+    }
+
+    /// An export holds the whole vocabulary: a default word that it lacks was deleted by the author.
+    void DropDefaultWords() {
+        const auto& words = tables_[static_cast<std::size_t>(TableNum::Vocabulary)];
+        if (!words || words->Keys().empty()) return;
+        std::vector<std::int64_t> deleted;
+        store::PreparedQuery all =
+            context_.adventure.Prepare(TableNum::Vocabulary, "vocindex", "voctypen<>7");
+        for (bool more = all.First({}); more; more = all.Next()) {
+            if (!words->Keys().contains(all.Number(0))) deleted.push_back(all.Number(0));
+        }
+        all.Reset();
+        for (const std::int64_t key : deleted)
+            context_.adventure.DeleteFrom(TableNum::Vocabulary, "vocindex=" + std::to_string(key));
+    }
+
+    /// `at` is the piece of the line that is at fault.
+    bool Refuse(const std::string& why, std::string_view at = {}) {
+        SourcePlace place{source_.File(), source_.LineNumber(), line_};
+        if (!at.empty()) {
+            const auto before =
+                std::string_view(line_).substr(0, static_cast<std::size_t>(at.data() - line_.data()));
+            place.column = static_cast<std::int64_t>(text::Length(before)) + 1;
+        }
+        context_.status.AddFault(why, place);
         return false;
     }
 
     ImportContext& context_;
     SourceFile source_;
+    condacts::Catalogue catalogue_ = condacts::LoadCatalogue(context_.adventure);
     std::string line_;
     int lastTable_ = -1;
     std::array<std::unique_ptr<TableImport>, store::kHighestTable + 1> tables_;

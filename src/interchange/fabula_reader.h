@@ -13,7 +13,8 @@ namespace fabula::interchange {
 store::AdventureSetup SetupOfExport(const std::filesystem::path& source);
 
 /// Reads an export file into the new adventure. Records are found by their keys: those of the default data
-/// that the file names are written over, the others stay. Gives false, with the reason in the status, when
+/// that the file names are written over, the others stay. Of words only those of the file stay, and the
+/// reserved ones, where it has any. Gives false, with the reason in the status, when
 /// the file is of another version or a line is not as it must be.
 bool LoadFabula(ImportContext& context);
 

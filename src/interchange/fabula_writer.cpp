@@ -67,12 +67,8 @@ class TableExport {
     }
 
     std::string Rendered(const Column& column, const text::Value& value, const Cursor& records) {
-        if (column.type == FieldType::Boolean && !text::IsNull(value)) {
-            return text::ToText(value) == "0" ? "False" : "True";
-        }
-        if (store::ClassOf(column.type) != store::FieldClass::Text || column.type == FieldType::Date) {
-            return text::ToText(value);
-        }
+        if (store::ClassOf(column.type) != store::FieldClass::Text || column.type == FieldType::Date)
+            return RenderExportValue(column.type, value);
         const std::string stored = text::ToText(value);
         NameLosses(stored, Name(records, column), column.field.use);
         std::string line = text::ReplaceAll(stored, text::kLineEndMarker, kLineEndTag);

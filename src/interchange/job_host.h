@@ -3,6 +3,8 @@
 #include <filesystem>
 
 #include "interchange/job_status.h"
+#include "interchange/source_file.h"
+#include "interchange/source_map.h"
 #include "platform/operator.h"
 #include "store/adventure.h"
 
@@ -15,6 +17,8 @@ struct ImportContext {
     store::Adventure& adventure;
     platform::Operator& person;
     JobStatus& status;
+    Encoding encoding = Encoding::Detect;
+    SourceMap* places = nullptr;  ///< where the records come from is noted here, if given
 };
 
 /// What a writer works with.

@@ -1,14 +1,18 @@
 #include "interchange/job_status.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "text/utf8.h"
 
 namespace fabula::interchange {
-namespace {
 
-/// How much of a faulty line is shown, in characters.
-constexpr std::size_t kShownOfALine = 200;
-
-}  // namespace
+std::string Fault::Line() const {
+    const std::string what = entry.empty() ? message : entry + ": " + message;
+    if (!place) return what;
+    return place->file.string() + ":" + std::to_string(place->line) + ":" + std::to_string(place->column) +
+           ": fault: " + what;
+}
 
 void JobStatus::AddToStatus(std::string_view text) {
     if (text::EqualsNoCase(text, "cls")) {
@@ -24,11 +28,21 @@ void JobStatus::AddToStatusCR(std::string_view text) {
     AddToStatus(std::string(text) + "\n");
 }
 
-void JobStatus::AddFault(std::string_view message, const SourcePlace& place) {
-    AddToStatusCR(message);
-    AddToStatusCR("    " + place.file.filename().string() + ":" + std::to_string(place.line) + ": " +
-                  std::string(text::Left(place.text, kShownOfALine)));
-    if (++faults_ >= kMostFaults) throw TooManyFaults();
+void JobStatus::AddFault(std::string_view message, const SourcePlace& place, std::string_view entry) {
+    std::string line(message);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    Report({std::move(line), place, std::string(entry)});
+    if (Faults() >= kMostFaults) throw TooManyFaults();
+}
+
+void JobStatus::Report(Fault fault, std::string_view text) {
+    AddToStatusCR(text);
+    faults_.push_back(std::move(fault));
+}
+
+void JobStatus::Report(Fault fault) {
+    const std::string line = fault.Line();
+    Report(std::move(fault), line);
 }
 
 void JobStatus::AddLoss(std::string_view message) {

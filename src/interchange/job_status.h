@@ -2,9 +2,11 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace fabula::interchange {
 
@@ -41,12 +43,24 @@ class JobCancelled : public std::runtime_error {
 
 /// A place in a source file, for reports.
 struct SourcePlace {
-    std::filesystem::path file;
-    std::int64_t line = 0;  ///< from 1
-    std::string text;
+    std::filesystem::path file;  ///< as it was named to the job
+    std::int64_t line = 0;       ///< from 1
+    std::string text = {};       ///< of the line
+    std::int64_t column = 1;     ///< from 1, in characters
 };
 
-/// The status box and progress bar of a job, and the count of what was wrong in its source.
+/// Something wrong in a source or an adventure.
+struct Fault {
+    std::string message;               ///< in one line
+    std::optional<SourcePlace> place;  ///< nothing where no source is at hand
+    std::string entry;                 ///< the record at fault, in words; "" where the place tells enough
+
+    /// "games/cellar.sce:36:14: fault: GET LAMP: Word2 (LAMP) is not a Noun"; without a place only what
+    /// stands behind "fault: ".
+    std::string Line() const;
+};
+
+/// The status box and progress bar of a job, and what was wrong in its source.
 class JobStatus {
   public:
     explicit JobStatus(JobObserver& observer) : observer_(observer) {}
@@ -56,11 +70,17 @@ class JobStatus {
     /// The same with a line end behind it.
     void AddToStatusCR(std::string_view text);
 
-    /// A fault in the source: its message, and a line that tells where: "    file:7: the line". Throws
-    /// TooManyFaults at the 1,000th.
-    void AddFault(std::string_view message, const SourcePlace& place);
+    /// A fault in the source, told on one line with its place. Line ends in the message become blanks.
+    /// Throws TooManyFaults at the 1,000th.
+    void AddFault(std::string_view message, const SourcePlace& place, std::string_view entry = "");
+    /// Any fault, told as `text`, which may have several lines.
+    void Report(Fault fault, std::string_view text);
+    void Report(Fault fault);
     /// A record that is not carried whole.
     void AddLoss(std::string_view message);
+
+    /// Takes over the faults of a job before this one; they are not told again.
+    void Continue(const std::vector<Fault>& faults) { faults_ = faults; }
 
     void AddProgressLine(std::string_view text) { observer_.ProgressLine(text); }
 
@@ -71,13 +91,14 @@ class JobStatus {
     void SetBar(std::int64_t value);
 
     const std::string& Text() const { return text_; }
-    int Faults() const { return faults_; }
+    int Faults() const { return static_cast<int>(faults_.size()); }
+    const std::vector<Fault>& AllFaults() const { return faults_; }
     int Losses() const { return losses_; }
 
   private:
     JobObserver& observer_;
     std::string text_;
-    int faults_ = 0;
+    std::vector<Fault> faults_;
     int losses_ = 0;
     std::int64_t value_ = 0;
     std::int64_t maximum_ = 0;

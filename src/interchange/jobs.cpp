@@ -13,7 +13,7 @@ using store::Cursor;
 using store::TableNum;
 
 JobResult ResultOf(bool done, const JobStatus& status) {
-    return {done, status.Faults(), status.Losses(), status.Text()};
+    return {done, status.Faults(), status.Losses(), status.Text(), status.AllFaults(), {}};
 }
 
 void SetSaveName(Adventure& adventure, const std::filesystem::path& target) {
@@ -22,14 +22,19 @@ void SetSaveName(Adventure& adventure, const std::filesystem::path& target) {
     settings.Update();
 }
 
-void ApplySettings(Adventure& adventure, const ImportedSettings& imported) {
+/// Before the source is read, which may know better.
+void ApplyLook(Adventure& adventure, const ImportedSettings& imported) {
+    if (!imported.setsLook) return;
+    Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
+    settings.SetField("backcolor", std::int64_t{imported.backColor});
+    settings.SetField("textcolor", std::int64_t{imported.textColor});
+    settings.SetField("defprintwidth", std::int64_t{imported.printWidth});
+    settings.Update();
+}
+
+void ApplySource(Adventure& adventure, const ImportedSettings& imported) {
     Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
     settings.SetField("source", std::string(imported.source));
-    if (imported.setsLook) {
-        settings.SetField("backcolor", std::int64_t{imported.backColor});
-        settings.SetField("textcolor", std::int64_t{imported.textColor});
-        settings.SetField("defprintwidth", std::int64_t{imported.printWidth});
-    }
     settings.Update();
     Cursor& system = adventure.OpenTable(TableNum::System, "def");
     system.SetField("flagchange", std::int64_t{imported.flagChange});
@@ -38,15 +43,16 @@ void ApplySettings(Adventure& adventure, const ImportedSettings& imported) {
 
 /// Builds the new adventure in `file`; false when the reader refused its source.
 bool Build(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& file,
-           const std::filesystem::path& target, const JobHost& host, JobStatus& status) {
+           const std::filesystem::path& target, const JobHost& host, JobStatus& status, SourceMap& places) {
     store::CreateAdventure(true, file, kind.setup(source),
                            {host.person, host.clock, host.events, host.defaultData});
     const auto adventure = Adventure::Open(file);
     store::Transaction transaction(*adventure);
     SetSaveName(*adventure, target);
-    ImportContext context{source, *adventure, host.person, status};
+    ImportContext context{source, *adventure, host.person, status, host.encoding, &places};
+    ApplyLook(*adventure, kind.settings);
     if (!kind.read(context)) return false;
-    ApplySettings(*adventure, kind.settings);
+    ApplySource(*adventure, kind.settings);
     transaction.Commit();
     return true;
 }
@@ -76,8 +82,9 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
     status.AddToStatusCR("This will take a few minutes.");
     const store::TemporaryFile making(target);
     bool done = false;
+    SourceMap places;
     try {
-        done = Build(kind, source, making.Path(), target, host, status);
+        done = Build(kind, source, making.Path(), target, host, status, places);
         if (done) store::MoveIntoPlace(making.Path(), target);
     } catch (const JobCancelled&) {
         status.AddToStatusCR("Import cancelled");
@@ -92,7 +99,9 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
     } else {
         status.AddToStatusCR("Deleting bad database");
     }
-    return ResultOf(done, status);
+    JobResult result = ResultOf(done, status);
+    result.places = std::move(places);
+    return result;
 }
 
 JobResult ExportIt(const FileKind& kind, Adventure& adventure, const std::filesystem::path& target,

@@ -3,9 +3,11 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "interchange/file_kinds.h"
 #include "interchange/job_status.h"
+#include "interchange/source_map.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
 #include "platform/operator.h"
@@ -19,7 +21,8 @@ struct JobHost {
     const platform::Clock& clock;
     platform::EventPump& events;
     JobObserver& observer;
-    std::filesystem::path defaultData;  ///< the file Fabula.ini
+    std::filesystem::path defaultData;     ///< the file Fabula.ini
+    Encoding encoding = Encoding::Detect;  ///< of sources
 };
 
 struct JobResult {
@@ -27,6 +30,8 @@ struct JobResult {
     int faults = 0;  ///< lines of the source that were left out
     int losses = 0;  ///< records that the target does not carry whole
     std::string status;
+    std::vector<Fault> allFaults;  ///< those that `faults` counts
+    SourceMap places;              ///< of an import: where the records stand in the source
 };
 
 /// Reads `source` into a new adventure file. It is made beside `target` and takes its place when all is

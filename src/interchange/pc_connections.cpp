@@ -1,6 +1,7 @@
 #include "interchange/pc_connections.h"
 
 #include "condacts/parser.h"
+#include "condacts/places.h"
 
 namespace fabula::interchange {
 namespace {
@@ -20,10 +21,16 @@ void PcConnections::Begin(const std::vector<std::string_view>&) {
 
 void PcConnections::Slash(std::string_view line) {
     Flush();
-    location_ = RecordNumber(SplitSlashLine(line));
-    if (location_ && locations_->Has(*location_)) return;
-    location_.reset();
-    job_.Fault(kBadLine);
+    const auto words = SplitSlashLine(line);
+    location_ = RecordNumber(words);
+    if (!location_ || !locations_->Has(*location_)) {
+        location_.reset();
+        job_.Fault(kBadLine);
+        return;
+    }
+    job_.FaultBehind(words, 1);
+    if (!seen_.insert(*location_).second)
+        job_.Fault("ERROR: Location " + std::string(words[0]) + " stands here twice. These exits count.");
 }
 
 void PcConnections::Line(std::string_view line) {
@@ -40,23 +47,37 @@ void PcConnections::AddExit(std::string_view word, std::string_view destination)
     const std::string name = job_.Word(word);
     const condacts::Word* found = job_.words.Find(name, condacts::IsMovementWord);
     if (found == nullptr) {
-        job_.Fault(name + " is not a valid word");
+        job_.Fault(name + " is not a valid word", word);
         return;
     }
     const std::optional<int> number = condacts::WholeNumber(destination);
     if (!number) {
-        job_.Fault("TO location for " + name + "must be numeric");
+        job_.Fault("TO location for " + name + "must be numeric", destination);
         return;
     }
-    if (!locations_->Has(*number)) {
-        job_.Fault("There is not a location with a number of " + std::string(destination) + " for " + name);
+    if (!locations_->Has(*number) || condacts::IsSpecialPlace(*number)) {
+        job_.Fault("There is not a location with a number of " + std::string(destination) + " for " + name,
+                   destination);
         return;
     }
+    if (LeadsElsewhere(found->number, *number)) {
+        job_.Fault("ERROR: " + name + " leads elsewhere already.", word);
+    }
+    job_.Note(store::TableNum::Locations, *location_, "exits", static_cast<std::size_t>(tokens_),
+              job_.PlaceOf(word));
+    job_.Note(store::TableNum::Locations, *location_, "exits", static_cast<std::size_t>(tokens_) + 1,
+              job_.PlaceOf(destination));
     Append(exits_, found->word);
     Append(exits_, std::to_string(*number));
     Append(numericExits_, std::to_string(found->number));
     Append(numericExits_, std::to_string(*number));
+    destinations_.emplace(found->number, *number);
     tokens_ += 2;
+}
+
+bool PcConnections::LeadsElsewhere(int word, int destination) const {
+    const auto found = destinations_.find(word);
+    return found != destinations_.end() && found->second != destination;
 }
 
 void PcConnections::Flush() {
@@ -70,6 +91,7 @@ void PcConnections::Flush() {
     location_.reset();
     exits_.clear();
     numericExits_.clear();
+    destinations_.clear();
     tokens_ = 0;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "interchange/keyed_table.h"
@@ -21,13 +23,16 @@ class PcConnections final : public PcSection {
 
   private:
     void AddExit(std::string_view word, std::string_view destination);
+    bool LeadsElsewhere(int word, int destination) const;
     void Flush();
 
     PcSourceJob& job_;
     std::unique_ptr<KeyedTable> locations_;
     std::optional<std::int64_t> location_;
+    std::set<std::int64_t> seen_;
     std::string exits_;
     std::string numericExits_;
+    std::map<int, int> destinations_;  ///< of the location at hand, by word number
     std::int64_t tokens_ = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "interchange/pc_extras.h"
 #include "platform/error.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -31,18 +32,20 @@ bool CutComment(std::string& line, char comment) {
     return !line.empty();
 }
 
-PcLines::PcLines(const std::filesystem::path& source, char comment, std::string kind, JobStatus& status)
-    : comment_(comment), kind_(std::move(kind)), status_(status), source_(source) {
+PcLines::PcLines(const std::filesystem::path& source, char comment, std::string kind, JobStatus& status,
+                 Encoding encoding)
+    : comment_(comment), kind_(std::move(kind)), status_(status), encoding_(encoding), source_(source) {
     std::error_code error;
     folder_ = std::filesystem::weakly_canonical(std::filesystem::absolute(source).parent_path(), error);
     Open(source);
 }
 
 void PcLines::Open(const std::filesystem::path& file) {
-    file_ = std::make_unique<SourceFile>(file);
+    file_ = std::make_unique<SourceFile>(file, encoding_);
     std::error_code error;
     read_.insert(std::filesystem::weakly_canonical(std::filesystem::absolute(file), error));
     status_.AddToStatusCR("Loading " + kind_ + " Source " + file.string());
+    if (!file_->EncodingNote().empty()) status_.AddToStatusCR(file_->EncodingNote());
     status_.StartBar(file_->Size());
 }
 
@@ -50,6 +53,7 @@ bool PcLines::RdSrcFile(std::string& line, bool skipBlank) {
     while (!failed_ && file_->Next(whole_)) {
         status_.SetBar(file_->BytesRead());
         line = whole_;
+        if (IsExtra(line, comment_)) extras_.push_back({line.substr(1), Place()});
         if (line.starts_with(comment_)) TakeName(std::string_view(line).substr(1));
         if (!CutComment(line, comment_)) continue;
         if (IsLink(line)) {
@@ -60,6 +64,15 @@ bool PcLines::RdSrcFile(std::string& line, bool skipBlank) {
         return true;
     }
     return false;
+}
+
+void PcLines::TellLinesBehindLink() {
+    while (file_->Next(whole_)) {
+        std::string line = whole_;
+        if (!CutComment(line, comment_) || TrimRight(line).empty()) continue;
+        status_.AddFault("ERROR: The lines behind the link are not read.", Place());
+        return;
+    }
 }
 
 void PcLines::TakeName(std::string_view comment) {
@@ -90,8 +103,9 @@ void PcLines::Follow(const std::string& line) {
         status_.AddFault("ERROR: The link goes back to a file that was read.", place);
         return;
     }
+    TellLinesBehindLink();
     try {
-        Open(file);
+        Open(source_.parent_path() / name);
         failed_ = false;
     } catch (const Error& problem) {
         status_.AddFault("ERROR: " + std::string(problem.what()), place);

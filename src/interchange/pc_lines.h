@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "interchange/job_status.h"
 #include "interchange/source_file.h"
@@ -12,21 +13,31 @@
 namespace fabula::interchange {
 
 /// The lines of a PC or ACE source: comments cut off, and the files that "/LNK" names read behind one
-/// another. A link replaces the rest of its file. It must name a file in the source's folder or below that
+/// another. A link replaces the rest of its file, which is a fault where it holds more than comments. It
+/// must name a file in the source's folder or below that
 /// was not read before; any other is a fault that ends the reading.
 class PcLines {
   public:
     /// `kind` stands in the status line of each file.
-    PcLines(const std::filesystem::path& source, char comment, std::string kind, JobStatus& status);
+    PcLines(const std::filesystem::path& source, char comment, std::string kind, JobStatus& status,
+            Encoding encoding = Encoding::Detect);
 
     /// The next line; false behind the last. With `skipBlank` blank lines are left out.
     bool RdSrcFile(std::string& line, bool skipBlank);
 
     /// Where the latest line stands, as the file has it.
-    SourcePlace Place() const { return {file_->File(), file_->LineNumber(), whole_}; }
+    SourcePlace Place() const { return {file_->File(), file_->LineNumber()}; }
 
     /// A link could not be followed.
     bool Failed() const { return failed_; }
+
+    /// The comments behind which the source hides what its sections have no place for (pc_extras.h), so
+    /// far, without the comment character.
+    struct Extra {
+        std::string text;
+        SourcePlace place;
+    };
+    const std::vector<Extra>& Extras() const { return extras_; }
 
     /// The game's name, when a comment at the head tells it as the writer of these files does.
     const std::string& AdventureName() const { return adventureName_; }
@@ -35,15 +46,18 @@ class PcLines {
     void Open(const std::filesystem::path& file);
     void TakeName(std::string_view comment);
     void Follow(const std::string& line);
+    void TellLinesBehindLink();
 
     char comment_;
     std::string kind_;
     JobStatus& status_;
+    Encoding encoding_;
     std::filesystem::path source_;
     std::filesystem::path folder_;
     std::unique_ptr<SourceFile> file_;
     std::set<std::filesystem::path> read_;
     std::string whole_;
+    std::vector<Extra> extras_;
     std::string adventureName_;
     bool failed_ = false;
 };

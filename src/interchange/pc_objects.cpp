@@ -1,6 +1,7 @@
 #include "interchange/pc_objects.h"
 
 #include <optional>
+#include <utility>
 
 #include "condacts/parser.h"
 #include "condacts/places.h"
@@ -43,6 +44,10 @@ void SetWord(Cursor& object, const char* textField, const char* numberField, con
 
 void PcObjects::Begin(const std::vector<std::string_view>&) {
     if (objects_) return;
+    store::PreparedQuery locations =
+        job_.context.adventure.Prepare(store::TableNum::Locations, "locnum", "");
+    for (bool more = locations.First({}); more; more = locations.Next())
+        locations_.insert(locations.Number(0));
     objects_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Objects, "objnum");
 }
 
@@ -55,19 +60,34 @@ void PcObjects::Slash(std::string_view line) {
     }
     const std::optional<int> weight = condacts::WholeNumber(tokens[2]);
     if (!weight || *weight > kHeaviest) {
-        job_.Fault("Weight must be from 0 to 63");
+        job_.Fault("Weight must be from 0 to 63", tokens[2]);
         return;
     }
     Cursor& object = objects_->GoTo(*number);
     if (!SetLocation(object, tokens[1])) {
         object.CancelUpdate();
-        job_.Fault("Invalid location");
+        job_.Fault("Invalid location", tokens[1]);
         return;
+    }
+    job_.FaultBehind(tokens, kTokensNeeded + 1);
+    if (!seen_.insert(*number).second) {
+        job_.Fault("ERROR: Object " + std::to_string(*number) +
+                   " stands here twice. This definition counts.");
     }
     object.SetField("objweight", std::int64_t{*weight});
     SetAttributes(object, IsYes(tokens[3]), IsYes(tokens[4]));
     SetWords(object, *number, tokens[5], tokens.size() > kTokensNeeded ? tokens[6] : condacts::kNoWord);
     objects_->Update();
+    NotePlaces(*number, tokens);
+}
+
+void PcObjects::NotePlaces(std::int64_t number, const std::vector<std::string_view>& tokens) const {
+    constexpr std::pair<const char*, std::size_t> kPieces[] = {
+        {"", 0}, {"objloc", 1}, {"objattr", 3}, {"objnoun", 5}, {"objadject", 6}};
+    for (const auto& [field, piece] : kPieces) {
+        if (piece < tokens.size())
+            job_.Note(store::TableNum::Objects, number, field, 0, job_.PlaceOf(tokens[piece]));
+    }
 }
 
 void PcObjects::Line(std::string_view) {
@@ -82,7 +102,7 @@ bool PcObjects::SetLocation(Cursor& object, std::string_view location) {
         return true;
     }
     const std::optional<int> number = condacts::WholeNumber(location);
-    if (!number || *number == condacts::place::kHere.value || *number > kHighestRecord) return false;
+    if (!number || condacts::IsSpecialPlace(*number) || !locations_.contains(*number)) return false;
     object.SetField("objloc", std::int64_t{*number});
     object.SetField("objlocdesc", "At " + std::to_string(*number) + ".");
     return true;
@@ -99,10 +119,10 @@ void PcObjects::SetWords(Cursor& object, std::int64_t number, std::string_view n
     const Word* adjectiveFound = FindWord(adjective, condacts::IsAdjectiveOrReserved);
     const std::string shown = " shown for object " + std::to_string(number);
     if (nounFound == nullptr) {
-        job_.Fault("ERROR: Noun" + shown + " is not a Noun.\nNoun and Adjective set to _");
+        job_.Fault("ERROR: Noun" + shown + " is not a Noun.\nNoun and Adjective set to _", noun);
         adjectiveFound = nullptr;
     } else if (adjectiveFound == nullptr) {
-        job_.Fault("ERROR: Adjective" + shown + " is not an Adjective.\nAdjective set to _");
+        job_.Fault("ERROR: Adjective" + shown + " is not an Adjective.\nAdjective set to _", adjective);
     }
     SetWord(object, "objnoun", "objnumnoun", nounFound);
     SetWord(object, "objadject", "objnumadject", adjectiveFound);

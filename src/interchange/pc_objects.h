@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <set>
 
 #include "interchange/keyed_table.h"
 #include "interchange/pc_source_job.h"
@@ -23,10 +24,13 @@ class PcObjects final : public PcSection {
     void SetAttributes(store::Cursor& object, bool container, bool wearable);
     void SetWords(store::Cursor& object, std::int64_t number, std::string_view noun,
                   std::string_view adjective);
+    void NotePlaces(std::int64_t number, const std::vector<std::string_view>& tokens) const;
     const condacts::Word* FindWord(std::string_view word, condacts::WordTest test) const;
 
     PcSourceJob& job_;
     std::unique_ptr<KeyedTable> objects_;
+    std::set<std::int64_t> locations_;  ///< those that exist
+    std::set<std::int64_t> seen_;
 };
 
 }  // namespace fabula::interchange

@@ -19,6 +19,7 @@ using store::TableNum;
 
 constexpr std::string_view kBell = "BELL";
 constexpr std::string_view kInPlaceOfBell = "BEEP 120 100";
+constexpr std::size_t kTokensInPlaceOfBell = 3;
 constexpr int kLastDescribedByDefault = 2;
 
 condacts::Catalogue WithBell(const condacts::Catalogue& catalogue) {
@@ -74,9 +75,11 @@ void PcProcesses::Begin(const std::vector<std::string_view>& words) {
     ++process_;
     const auto number = words.size() > 1 ? condacts::WholeNumber(words[1]) : std::nullopt;
     if (number != process_) {
-        job_.Status("Changed Process # from " + std::string(words.size() > 1 ? words[1] : "") + " to " +
-                    std::to_string(process_));
+        const std::string_view given = words.size() > 1 ? words[1] : std::string_view();
+        job_.Fault("Changed Process # from " + std::string(given) + " to " + std::to_string(process_),
+                   given);
     }
+    job_.FaultBehind(words, 2);
     if (process_ > kLastDescribedByDefault && !descriptions_->Has(process_)) {
         descriptions_->Add(process_).SetField("pmsgmsg", std::string(" "));
         descriptions_->Update();
@@ -103,84 +106,126 @@ void PcProcesses::Line(std::string_view line) {
 void PcProcesses::BeginEntry(std::string_view line) {
     entry_ = std::make_unique<Entry>();
     const auto tokens = SplitWords(line);
+    entry_->place = job_.PlaceOf(tokens[0]);
     if (tokens.size() < 2) {
+        entry_->w1 = tokens[0];
         entry_->good = false;
         job_.Fault(kBadLine);
         return;
     }
-    entry_->w1 = job_.IsNullWord(tokens[0]) ? std::string(condacts::kNoWord) : job_.Word(tokens[0]);
-    entry_->w2 = job_.IsNullWord(tokens[1]) ? std::string(condacts::kNoWord) : job_.Word(tokens[1]);
-    entry_->w1Number = condacts::kNoWordNumber;
-    entry_->w2Number = condacts::kNoWordNumber;
-    if (entry_->w1 != condacts::kNoWord) {
-        const Word* verb = job_.words.Find(entry_->w1, condacts::IsMovementWordOrReserved);
-        if (verb == nullptr) return Refuse("Word1 (" + entry_->w1 + ") not a verb");
-        entry_->w1Number = verb->number;
-    }
-    if (entry_->w2 != condacts::kNoWord) {
-        const Word* noun = job_.words.Find(entry_->w2, condacts::IsNounOrReserved);
-        if (noun == nullptr) return Refuse("Word2 (" + entry_->w2 + ") is not a Noun");
-        entry_->w2Number = noun->number;
-    }
+    SetWords(tokens[0], tokens[1]);
     if (tokens.size() > 2)
         AddCondActs(line.substr(static_cast<std::size_t>(tokens[2].data() - line.data())));
 }
 
+void PcProcesses::SetWords(std::string_view first, std::string_view second) {
+    entry_->w1 = job_.IsNullWord(first) ? std::string(condacts::kNoWord) : job_.Word(first);
+    entry_->w2 = job_.IsNullWord(second) ? std::string(condacts::kNoWord) : job_.Word(second);
+    entry_->words = {job_.PlaceOf(first), job_.PlaceOf(second)};
+    entry_->w1Number = condacts::kNoWordNumber;
+    entry_->w2Number = condacts::kNoWordNumber;
+    if (entry_->w1 != condacts::kNoWord) {
+        const Word* verb = job_.words.Find(entry_->w1, condacts::IsMovementWordOrReserved);
+        if (verb == nullptr) Refuse("Word1 (" + entry_->w1 + ") not a verb", first);
+        if (verb != nullptr) entry_->w1Number = verb->number;
+    }
+    if (entry_->w2 != condacts::kNoWord) {
+        const Word* noun = job_.words.Find(entry_->w2, condacts::IsNounOrReserved);
+        if (noun == nullptr) Refuse("Word2 (" + entry_->w2 + ") is not a Noun", second);
+        if (noun != nullptr) entry_->w2Number = noun->number;
+    }
+}
+
+/// The lines of an entry that is refused already are read too, so that all its faults are told at once.
 void PcProcesses::AddCondActs(std::string_view line) {
-    if (!entry_->good) return;
-    const Converted source = ConvertCAs(WithoutBells(line), job_.catalogue);
-    if (!source.ok) return Refuse(source.errors);
+    const CondActLine given = WithoutBells(line);
+    const auto refuse = [&](const Converted& converted) {
+        const bool known = converted.faultyToken < given.tokens.size();
+        Refuse(converted.errors, known ? given.tokens[converted.faultyToken] : line);
+    };
+    const Converted source = ConvertCAs(given.text, job_.catalogue);
+    if (!source.ok) return refuse(source);
     const std::string upper =
         text::UpperCase(condacts::LocationWordsToNumbers(source.line, job_.catalogue));
     const std::string condActs = WithWordsCut(upper, job_);
     const Converted numeric = condacts::CondActsToNumeric(condActs, job_.catalogue, job_.words);
-    if (!numeric.ok) return Refuse(numeric.errors);
+    if (!numeric.ok) return refuse(numeric);
     const ParsedLine parsed = condacts::ParseLine(condActs, job_.catalogue);
     for (const Statement& statement : parsed.statements) {
         job_.analysis.CheckForFlags(TextOf(parsed, statement, condActs));
     }
+    NotePlaces(given.tokens);
     Append(entry_->condActs, condActs);
     Append(entry_->numeric, numeric.line);
 }
 
-/// The line with each BELL replaced.
-std::string PcProcesses::WithoutBells(std::string_view line) {
-    const ParsedLine parsed = condacts::ParseLine(line, withBell_);
-    std::string result;
-    std::size_t written = 0;
-    for (const Statement& statement : parsed.statements) {
-        if (statement.condAct->name != kBell) continue;
-        hadBell_ = true;
-        const condacts::Token& bell = parsed.tokens[statement.name];
-        result += line.substr(written, bell.position - written);
-        result += kInPlaceOfBell;
-        written = bell.position + bell.text.size();
+/// The columns are counted on from token to token: a line may hold very many.
+void PcProcesses::NotePlaces(const std::vector<std::string_view>& tokens) {
+    if (tokens.empty()) return;
+    SourcePlace place = job_.PlaceOf(tokens.front());
+    const char* counted = tokens.front().data();
+    for (const std::string_view token : tokens) {
+        place.column += static_cast<std::int64_t>(
+            text::Length({counted, static_cast<std::size_t>(token.data() - counted)}));
+        counted = token.data();
+        entry_->tokens.push_back(place);
     }
-    return result.append(line.substr(written));
 }
 
-/// The entry at hand does not come in; its other lines are passed over.
-void PcProcesses::Refuse(const std::string& why) {
-    job_.Fault(why);
-    job_.Status("Record " + entry_->w1 + " " + entry_->w2);
-    job_.Status("Record Deleted");
+PcProcesses::CondActLine PcProcesses::WithoutBells(std::string_view line) {
+    const ParsedLine parsed = condacts::ParseLine(line, withBell_);
+    std::set<std::size_t> bells;
+    for (const Statement& statement : parsed.statements) {
+        if (statement.condAct->name == kBell) bells.insert(statement.name);
+    }
+    hadBell_ = hadBell_ || !bells.empty();
+    CondActLine result;
+    for (std::size_t i = 0; i < parsed.tokens.size(); ++i) {
+        const bool isBell = bells.contains(i);
+        Append(result.text, isBell ? kInPlaceOfBell : parsed.tokens[i].text);
+        result.tokens.insert(result.tokens.end(), isBell ? kTokensInPlaceOfBell : 1, parsed.tokens[i].text);
+    }
+    return result;
+}
+
+/// The entry at hand does not come in.
+void PcProcesses::Refuse(const std::string& why, std::string_view at) {
+    job_.Fault(why, at, entry_->Name());
     entry_->good = false;
 }
 
 void PcProcesses::Flush() {
-    if (entry_ && entry_->good) {
-        Cursor& record = entries_->Add(entries_->HighestKey() + 1);
-        record.SetField("estype", std::int64_t{process_});
-        record.SetField("w1", entry_->w1);
-        record.SetField("w2", entry_->w2);
-        record.SetField("w1num", std::int64_t{entry_->w1Number});
-        record.SetField("w2num", std::int64_t{entry_->w2Number});
-        record.SetField("numcas", std::int64_t{condacts::CountTokens(entry_->condActs)});
-        record.SetField("condacts", entry_->condActs);
-        record.SetField("numericcondacts", entry_->numeric);
-        entries_->Update();
+    if (!entry_) return;
+    if (entry_->good && entry_->condActs.empty()) {
+        job_.context.status.AddFault("Cannot have a record with no Condition/Actions", entry_->place,
+                                     entry_->Name());
+    }
+    if (entry_->good) {
+        Store();
+    } else {
+        job_.Status("Record " + entry_->Name());
+        job_.Status("Record Deleted");
     }
     entry_.reset();
+}
+
+void PcProcesses::Store() {
+    const std::int64_t key = entries_->HighestKey() + 1;
+    Cursor& record = entries_->Add(key);
+    record.SetField("estype", std::int64_t{process_});
+    record.SetField("w1", entry_->w1);
+    record.SetField("w2", entry_->w2);
+    record.SetField("w1num", std::int64_t{entry_->w1Number});
+    record.SetField("w2num", std::int64_t{entry_->w2Number});
+    record.SetField("numcas", std::int64_t{condacts::CountTokens(entry_->condActs)});
+    record.SetField("condacts", entry_->condActs);
+    record.SetField("numericcondacts", entry_->numeric);
+    entries_->Update();
+    job_.Note(TableNum::ProcessTables, key, "", 0, entry_->place);
+    job_.Note(TableNum::ProcessTables, key, "w1", 0, entry_->words[0]);
+    job_.Note(TableNum::ProcessTables, key, "w2", 0, entry_->words[1]);
+    for (std::size_t i = 0; i < entry_->tokens.size(); ++i)
+        job_.Note(TableNum::ProcessTables, key, "condacts", i, entry_->tokens[i]);
 }
 
 void PcProcesses::Finish() {

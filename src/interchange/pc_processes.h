@@ -3,6 +3,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "interchange/keyed_table.h"
 #include "interchange/pc_source_job.h"
@@ -26,16 +27,30 @@ class PcProcesses final : public PcSection {
         std::string w2;
         int w1Number = 0;
         int w2Number = 0;
+        SourcePlace place;
+        std::vector<SourcePlace> words;  ///< places of w1 and w2
         std::string condActs;
+        std::vector<SourcePlace> tokens;  ///< places of the tokens of condActs
         std::string numeric;
         bool good = true;
+
+        std::string Name() const { return w1 + " " + w2; }
+    };
+
+    /// A line of the source with each BELL replaced, and the pieces of the source that its tokens are.
+    struct CondActLine {
+        std::string text;
+        std::vector<std::string_view> tokens;
     };
 
     void BeginEntry(std::string_view line);
+    void SetWords(std::string_view first, std::string_view second);
     void AddCondActs(std::string_view line);
-    std::string WithoutBells(std::string_view line);
-    void Refuse(const std::string& why);
+    CondActLine WithoutBells(std::string_view line);
+    void NotePlaces(const std::vector<std::string_view>& tokens);
+    void Refuse(const std::string& why, std::string_view at);
     void Flush();
+    void Store();
 
     PcSourceJob& job_;
     condacts::Catalogue withBell_;  ///< the catalogue and BELL, which this system does not have

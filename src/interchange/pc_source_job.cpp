@@ -1,5 +1,7 @@
 #include "interchange/pc_source_job.h"
 
+#include <functional>
+
 #include "condacts/parser.h"
 #include "text/utf8.h"
 
@@ -7,6 +9,18 @@ namespace fabula::interchange {
 
 std::string PcSourceJob::Word(std::string_view word) const {
     return text::UpperCase(text::Left(word, dialect.letters));
+}
+
+SourcePlace PcSourceJob::PlaceOf(std::string_view at) const {
+    SourcePlace place = lines.Place();
+    const char* begin = line.data();
+    const bool isPiece = !at.empty() && std::less_equal<>()(begin, at.data()) &&
+                         std::less<>()(at.data(), begin + line.size());
+    if (isPiece) {
+        const auto before = line.substr(0, static_cast<std::size_t>(at.data() - begin));
+        place.column = static_cast<std::int64_t>(text::Length(before)) + 1;
+    }
+    return place;
 }
 
 bool PcSourceJob::IsNullWord(std::string_view word) const {

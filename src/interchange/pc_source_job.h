@@ -21,6 +21,10 @@ namespace fabula::interchange {
 inline constexpr std::int64_t kHighestRecord = 999;
 inline constexpr int kHighestProcess = 256;
 
+/// Told of a line that is not as it must be, and of what stands behind its last word.
+inline constexpr const char* kBadLine = "ERROR: This line can't be understood.";
+inline constexpr const char* kRestNotRead = "ERROR: The rest of this line is not read.";
+
 /// What the sections of a source share while it is read.
 struct PcSourceJob {
     ImportContext& context;
@@ -32,8 +36,22 @@ struct PcSourceJob {
     condacts::WordIndex words;  ///< the vocabulary, once its section is read
     std::string nullWord = std::string(condacts::kNoWord);
 
-    /// Reports the line at hand.
-    void Fault(const std::string& message) const { context.status.AddFault(message, lines.Place()); }
+    std::string_view line = {};  ///< the line at hand, of which the sections are given pieces
+
+    /// Reports the line at hand, or the piece of it that is at fault, and the entry where it has a name.
+    void Fault(const std::string& message, std::string_view at = "", std::string_view entry = "") const {
+        context.status.AddFault(message, PlaceOf(at), entry);
+    }
+    /// Reports what stands behind the last word that the line may have.
+    void FaultBehind(const std::vector<std::string_view>& pieces, std::size_t most) const {
+        if (pieces.size() > most) Fault(kRestNotRead, pieces[most]);
+    }
+    SourcePlace PlaceOf(std::string_view at) const;
+    /// Notes where a word of a record's field stands.
+    void Note(store::TableNum table, std::int64_t key, std::string_view field, std::size_t word,
+              const SourcePlace& place) const {
+        if (context.places != nullptr) context.places->Set(table, key, field, word, place);
+    }
     void Status(const std::string& text) const { context.status.AddToStatusCR(text); }
 
     /// A word as it counts: in capitals, cut.
@@ -46,9 +64,6 @@ std::optional<std::int64_t> RecordNumber(const std::vector<std::string_view>& wo
 
 /// The words of a "/" line, the first without its "/".
 std::vector<std::string_view> SplitSlashLine(std::string_view line);
-
-/// Told of a line that is not as it must be.
-inline constexpr const char* kBadLine = "ERROR: This line can't be understood.";
 
 /// One section of a source.
 class PcSection {

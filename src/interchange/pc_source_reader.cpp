@@ -6,12 +6,14 @@
 
 #include "condacts/load.h"
 #include "interchange/pc_connections.h"
+#include "interchange/pc_extras.h"
 #include "interchange/pc_objects.h"
 #include "interchange/pc_processes.h"
 #include "interchange/pc_script_commands.h"
 #include "interchange/pc_source_job.h"
 #include "interchange/pc_texts.h"
 #include "interchange/pc_vocabulary.h"
+#include "store/tags.h"
 #include "text/utf8.h"
 
 namespace fabula::interchange {
@@ -60,6 +62,7 @@ class Reader {
         if (!FindVocabulary()) return false;
         std::string line;
         while (job_.lines.RdSrcFile(line, section_ == nullptr || !section_->TakesBlankLines())) {
+            job_.line = line;
             if (line.starts_with('/')) {
                 TakeSlash(line);
             } else if (section_ != nullptr) {
@@ -79,6 +82,7 @@ class Reader {
         bool first = true;
         std::string line;
         while (job_.lines.RdSrcFile(line, true)) {
+            job_.line = line;
             if (IsKeyword(line, "VOC") && inControl) {
                 TakeSlash(line);
                 return true;
@@ -123,7 +127,7 @@ class Reader {
         }
         EndSection();
         if (*index < current_) {
-            job_.Fault("ERROR: The section stands behind one that must follow it.");
+            job_.Fault("ERROR: The section stands behind one that must follow it.", keyword);
             return;
         }
         current_ = *index;
@@ -151,17 +155,19 @@ void SetName(store::Adventure& adventure, const std::string& name) {
 }
 
 bool Load(ImportContext& context, const PcDialect& dialect) {
-    PcLines lines(context.source, dialect.comment, std::string(dialect.kind), context.status);
+    PcLines lines(context.source, dialect.comment, std::string(dialect.kind), context.status,
+                  context.encoding);
     context.status.AddToStatusCR("Look for a User Flag Analysis at end of Status");
     const condacts::Catalogue catalogue = condacts::LoadCatalogue(context.adventure);
     const AceTags tags(context.adventure);
-    PcSourceJob job{context,
-                    lines,
-                    dialect,
-                    catalogue,
-                    FlagAnalysis(context.adventure, catalogue),
-                    PcTextForm(dialect, dialect.hasTags ? &tags : nullptr),
-                    {}};
+    PcSourceJob job{
+        context,
+        lines,
+        dialect,
+        catalogue,
+        FlagAnalysis(context.adventure, catalogue),
+        PcTextForm(dialect, store::LoadTagCatalogue(context.adventure), dialect.hasTags ? &tags : nullptr),
+        {}};
     if (!Reader(job).Read()) return false;
     if (context.adventure.OpenTable(TableNum::ProcessTables, "canum").RecordCount() == 0) {
         context.status.AddToStatusCR("No status records generated from file");
@@ -169,6 +175,10 @@ bool Load(ImportContext& context, const PcDialect& dialect) {
     if (dialect.getsScriptCommands) AddScriptCommands(job);
     SetName(context.adventure, lines.AdventureName());
     job.analysis.PrintFlagAnal(context.adventure, context.status);
+    for (const PcLines::Extra& extra : lines.Extras()) {
+        const std::string fault = ApplyExtra(context.adventure, extra.text);
+        if (!fault.empty()) context.status.AddFault(fault, extra.place);
+    }
     return true;
 }
 

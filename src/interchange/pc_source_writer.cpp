@@ -10,15 +10,18 @@
 #include "condacts/parser.h"
 #include "interchange/ace_tags.h"
 #include "interchange/export_fields.h"
+#include "interchange/pc_extras.h"
 #include "interchange/pc_lines.h"
 #include "interchange/pc_source_job.h"
 #include "interchange/pc_texts.h"
 #include "interchange/target_file.h"
+#include "store/tags.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
+#include "text/windows1252.h"
 
 namespace fabula::interchange {
 namespace {
@@ -46,7 +49,7 @@ class Writer {
           file_(context.target),
           catalogue_(condacts::LoadCatalogue(context.adventure)),
           tags_(context.adventure),
-          texts_(dialect, dialect.hasTags ? &tags_ : nullptr) {}
+          texts_(dialect, store::LoadTagCatalogue(context.adventure), dialect.hasTags ? &tags_ : nullptr) {}
 
     void WriteAll() {
         WriteHead();
@@ -57,6 +60,11 @@ class Writer {
         WriteObjects();
         WriteProcesses();
         WriteDocumentation();
+        WriteExtras(context_.adventure, context_.status,
+                    [this](const std::string& record, const std::string& line) {
+                        record_ = record;
+                        TextLine(dialect_.comment + line);
+                    });
         file_.Finish();
     }
 
@@ -93,7 +101,10 @@ class Writer {
         const std::string name = dialect_.hasTags ? "ACE" : "PC VEL";
         Comment("Exported in " + name + " format by Fabula Export Version " +
                 ExportVersion(context_.adventure));
-        Comment("This is an export of Fabula DataBase " + context_.adventure.CurrentFile().string());
+        // The folder is nobody's business, and may have a name that can't be written.
+        const std::string file = context_.adventure.CurrentFile().filename().string();
+        const bool canBeWritten = !text::ToWindows1252(file).unwritable;
+        Comment("This is an export of Fabula DataBase " + (canBeWritten ? file : ""));
         store::PreparedQuery settings = context_.adventure.Prepare(TableNum::Adventure, "advname", "");
         settings.First({});
         std::string title(settings.Text(0));

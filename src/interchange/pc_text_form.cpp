@@ -1,12 +1,19 @@
 #include "interchange/pc_text_form.h"
 
+#include <algorithm>
+
 #include "interchange/pc_lines.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
+#include "text/markup.h"
 #include "text/str_edit.h"
+#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {
+
+constexpr std::string_view kSourceTab = "<ht>";
+constexpr const char* kTab = "<tab>";
 
 bool BeginsTag(std::string_view inside) {
     if (inside.empty() || inside.find(text::kLineEndMarker) != std::string_view::npos) return false;
@@ -14,35 +21,76 @@ bool BeginsTag(std::string_view inside) {
     return first == '/' || first == '#' || (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z');
 }
 
-/// The text with every "<" and ">" that belongs to no tag as an entity.
-std::string EscapeStrayBrackets(std::string_view text) {
-    std::string result;
-    while (!text.empty()) {
-        const std::size_t bracket = text.find_first_of("<>");
-        result += text.substr(0, bracket);
-        if (bracket == std::string_view::npos) break;
-        text.remove_prefix(bracket);
-        const std::size_t close = text.find_first_of("<>", 1);
-        const bool isTag = text[0] == '<' && close != std::string_view::npos && text[close] == '>' &&
-                           BeginsTag(text.substr(1, close - 1));
-        if (isTag) {
-            result += text.substr(0, close + 1);
-            text.remove_prefix(close + 1);
+/// The length of what looks like a tag at the head of the text; 0 where it does not begin with one.
+std::size_t TagLength(std::string_view text) {
+    if (!text.starts_with('<')) return 0;
+    const std::size_t close = text.find_first_of("<>", 1);
+    const bool isTag =
+        close != std::string_view::npos && text[close] == '>' && BeginsTag(text.substr(1, close - 1));
+    return isTag ? close + 1 : 0;
+}
+
+void AppendEscaped(std::string& result, std::string_view text) {
+    for (const char c : text) {
+        if (c == '<') {
+            result += "&lt;";
+        } else if (c == '>') {
+            result += "&gt;";
         } else {
-            result += text[0] == '<' ? "&lt;" : "&gt;";
-            text.remove_prefix(1);
+            result += c;
         }
     }
-    return result;
 }
 
 }  // namespace
 
+/// A tag of the source as this system writes it.
+std::string PcTextForm::Convert(std::string_view tag) const {
+    if (tag == kSourceTab) return kTab;
+    return tags_ == nullptr ? std::string(tag) : tags_->ConvertACETags(tag);
+}
+
+/// Why a tag of the source is none of this system's; "" for one that is.
+std::string PcTextForm::FaultOf(std::string_view tag) const {
+    const std::string own = Convert(tag);
+    const std::string inside = text::UpperCase(std::string_view(own).substr(1, own.size() - 2));
+    const text::Verdict verdict = text::ValidateTag(inside, known_);
+    const std::string given = text::UpperCase(tag.substr(1, tag.size() - 2));
+    const std::size_t sign = given.find('=');
+    if (inside.ends_with("=-1") && sign != std::string::npos)
+        return "Invalid color " + given.substr(sign + 1) + " for tag " + given;
+    return verdict.message;
+}
+
+std::vector<PcTextForm::BadTag> PcTextForm::FindBadTags(std::string_view line) const {
+    std::vector<BadTag> bad;
+    for (std::size_t i = line.find('<'); i != std::string_view::npos; i = line.find('<', i + 1)) {
+        const std::size_t length = TagLength(line.substr(i));
+        if (length == 0) continue;
+        if (std::string fault = FaultOf(line.substr(i, length)); !fault.empty())
+            bad.push_back({i, std::move(fault)});
+    }
+    return bad;
+}
+
 std::string PcTextForm::FromSource(std::string_view source) const {
-    std::string text = text::ReplaceAll(source, "&", "&amp;");
-    text = text::ReplaceAll(text, "<ht>", "<tab>");
-    if (tags_ != nullptr) text = tags_->ConvertACETags(text);
-    return EscapeStrayBrackets(text);
+    const std::string escaped = text::ReplaceAll(source, "&", "&amp;");
+    std::string_view text = escaped;
+    std::string result;
+    while (!text.empty()) {
+        const std::size_t bracket = std::min(text.find_first_of("<>"), text.size());
+        result += text.substr(0, bracket);
+        text.remove_prefix(bracket);
+        const std::size_t length = TagLength(text);
+        const std::string_view tag = text.substr(0, std::max<std::size_t>(length, 1));
+        if (length > 0 && FaultOf(tag).empty()) {
+            result += Convert(tag);
+        } else {
+            AppendEscaped(result, tag);
+        }
+        text.remove_prefix(std::min(tag.size(), text.size()));
+    }
+    return result;
 }
 
 PcTextForm::Written PcTextForm::ToSource(std::string_view text) const {

@@ -50,8 +50,18 @@ void PcTexts::Begin(const std::vector<std::string_view>&) {
 
 void PcTexts::Slash(std::string_view line) {
     Flush();
-    number_ = RecordNumber(SplitSlashLine(line));
-    if (!number_) job_.Fault(kBadLine);
+    const auto words = SplitSlashLine(line);
+    number_ = RecordNumber(words);
+    if (!number_) {
+        job_.Fault(kBadLine);
+        return;
+    }
+    job_.FaultBehind(words, 1);
+    if (!seen_.insert(*number_).second) {
+        job_.Fault("ERROR: " + std::string(kind_.name) + " " + std::to_string(*number_) +
+                   " stands here twice. This text counts.");
+    }
+    job_.Note(kind_.table, *number_, "", 0, job_.PlaceOf(line));
 }
 
 void PcTexts::Line(std::string_view line) {
@@ -59,6 +69,8 @@ void PcTexts::Line(std::string_view line) {
         if (!TrimRight(line).empty()) job_.Fault(kBadLine);
         return;
     }
+    for (const PcTextForm::BadTag& tag : job_.texts.FindBadTags(line))
+        job_.Fault(tag.message, line.substr(tag.position));
     if (hasLine_) text_ += text::kLineEndMarker;
     text_ += line;
     hasLine_ = true;

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "interchange/keyed_table.h"
@@ -37,6 +38,7 @@ class PcTexts final : public PcSection {
     const PcTextTable& kind_;
     std::unique_ptr<KeyedTable> table_;
     std::optional<std::int64_t> number_;  ///< of the text being read
+    std::set<std::int64_t> seen_;
     std::string text_;
     bool hasLine_ = false;
 };

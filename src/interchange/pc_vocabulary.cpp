@@ -23,13 +23,17 @@ bool IsWordNumber(int number, int type) {
 
 }  // namespace
 
-int WordTypeFromSource(std::string_view type) {
+std::optional<int> FindWordType(std::string_view type) {
     // The word that this system has for conjunctions is not the one that people write.
     if (text::EqualsNoCase(type, "conjunction")) return condacts::kConjunction;
-    for (int number = condacts::kVerb; number < condacts::kReserved; ++number) {
+    for (int number = condacts::kVerb; number <= condacts::kReserved; ++number) {
         if (text::EqualsNoCase(condacts::WordTypeName(number), type)) return number;
     }
-    return condacts::kReserved;
+    return std::nullopt;
+}
+
+int WordTypeFromSource(std::string_view type) {
+    return FindWordType(type).value_or(condacts::kReserved);
 }
 
 void PcVocabulary::Begin(const std::vector<std::string_view>&) {
@@ -51,17 +55,20 @@ void PcVocabulary::Line(std::string_view line) {
     const auto tokens = SplitWords(line);
     const std::optional<int> number = tokens.size() < 3 ? std::nullopt : condacts::WholeNumber(tokens[1]);
     if (!number) {
-        job_.Fault(kBadLine);
+        job_.Fault(kBadLine, tokens.size() < 2 ? tokens.front() : tokens[1]);
         return;
     }
+    if (!FindWordType(tokens[2]))
+        job_.Fault("ERROR: " + std::string(tokens[2]) + " is no word type. RESERVED is taken.", tokens[2]);
+    job_.FaultBehind(tokens, 3);
     const Word word{job_.Word(tokens[0]), *number, WordTypeFromSource(tokens[2])};
     if (!IsWordNumber(word.number, word.type)) {
-        job_.Fault("Word # must be from 2 to 254 inclusive");
+        job_.Fault("Word # must be from 2 to 254 inclusive", tokens[1]);
         return;
     }
     auto& sameSpelling = bySpelling_[text::LowerCase(word.word)];
     if (condacts::Clashes(word, sameSpelling)) {
-        job_.Fault("ERROR: Duplicate Word.\nWord " + word.word + " deleted.");
+        job_.Fault("ERROR: Duplicate Word.\nWord " + word.word + " deleted.", tokens[0]);
         return;
     }
     sameSpelling.push_back(word);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -26,6 +27,9 @@ class PcVocabulary final : public PcSection {
     std::unique_ptr<KeyedTable> table_;
     std::unordered_map<std::string, std::vector<condacts::Word>> bySpelling_;
 };
+
+/// The number of a type by its word in a source, case ignored; nullopt for any other text.
+std::optional<int> FindWordType(std::string_view type);
 
 /// The number of a type by its word in a source, case ignored; any other text is a reserved word.
 int WordTypeFromSource(std::string_view type);

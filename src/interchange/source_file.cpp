@@ -18,6 +18,40 @@ bool IsBlank(char c) {
     return code <= ' ';
 }
 
+/// Looks at the bytes of a file, block by block.
+class Utf8Detector {
+  public:
+    void Take(std::string_view block) {
+        const auto isHigh = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
+        if (!isUtf8_ || (begun_.empty() && std::none_of(block.begin(), block.end(), isHigh))) return;
+        isAscii_ = false;
+        const std::string bytes = begun_ + std::string(block);
+        const std::size_t whole = bytes.size() - LengthOfBegun(bytes);
+        isUtf8_ = text::IsValidUtf8(std::string_view(bytes).substr(0, whole));
+        begun_ = bytes.substr(whole);
+    }
+
+    bool IsAscii() const { return isAscii_; }
+    bool IsUtf8() const { return !isAscii_ && isUtf8_ && begun_.empty(); }
+
+  private:
+    /// How many bytes at the end begin a character that goes on behind them.
+    static std::size_t LengthOfBegun(std::string_view bytes) {
+        for (std::size_t length = 1; length <= 3 && length <= bytes.size(); ++length) {
+            const auto byte = static_cast<unsigned char>(bytes[bytes.size() - length]);
+            if (byte < 0x80) return 0;
+            if (byte < 0xC0) continue;
+            const std::size_t wanted = byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+            return wanted > length ? length : 0;
+        }
+        return 0;
+    }
+
+    bool isAscii_ = true;
+    bool isUtf8_ = true;
+    std::string begun_;
+};
+
 std::string WithoutBadBytes(const std::string& bytes) {
     if (text::IsValidUtf8(bytes)) return bytes;
     std::string result;
@@ -31,7 +65,8 @@ std::string WithoutBadBytes(const std::string& bytes) {
 
 }  // namespace
 
-SourceFile::SourceFile(const std::filesystem::path& file) : file_(file), buffer_(kBufferSize) {
+SourceFile::SourceFile(const std::filesystem::path& file, Encoding encoding)
+    : file_(file), buffer_(kBufferSize) {
     const std::string doing = "Could not read the source " + file.string();
     // A pipe or device would wait for ever: only files are opened.
     std::error_code error;
@@ -42,10 +77,31 @@ SourceFile::SourceFile(const std::filesystem::path& file) : file_(file), buffer_
     size_ = static_cast<std::int64_t>(size);
     stream_.open(file, std::ios::binary);
     if (!stream_) throw Error(doing + ".");
-    if (Fill() && std::string_view(buffer_.data(), end_).starts_with(kByteOrderMark)) {
-        isUtf8_ = true;
+    Choose(encoding);
+}
+
+void SourceFile::Choose(Encoding encoding) {
+    const bool isMarked = Fill() && std::string_view(buffer_.data(), end_).starts_with(kByteOrderMark);
+    if (isMarked) {
+        isUtf8_ = encoding != Encoding::Windows1252;
         position_ = kByteOrderMark.size();
+        return;
     }
+    Utf8Detector detector;
+    do {
+        detector.Take({buffer_.data(), end_});
+    } while (Fill());
+    isUtf8_ = encoding == Encoding::Utf8 || (encoding == Encoding::Detect && detector.IsUtf8());
+    if (!detector.IsAscii())
+        encodingNote_ = isUtf8_ ? "The text is read as UTF-8." : "The text is read as Windows-1252.";
+    GoToStart();
+}
+
+void SourceFile::GoToStart() {
+    stream_.clear();
+    stream_.seekg(0);
+    bytesRead_ = 0;
+    position_ = end_ = 0;
 }
 
 bool SourceFile::Fill() {

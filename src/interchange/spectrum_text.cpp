@@ -142,7 +142,8 @@ std::string ConvertUnMarloDesc(std::string_view text, std::string_view version) 
 std::string ConvertTabs(std::string_view text) {
     std::string result;
     int column = 0;
-    const auto lines = text::Split(text, text::kLineEndMarker);
+    const std::string normalized = text::NormalizeLineEnds(text, text::kLineEndMarker);
+    const auto lines = text::Split(normalized, text::kLineEndMarker);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const auto words = text::Split(lines[i], " ");
         for (std::size_t w = 0; w < words.size(); ++w) {

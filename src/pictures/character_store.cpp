@@ -70,6 +70,16 @@ void StoreSet(store::Adventure& adventure, const CharacterFileSet& set, int targ
     transaction.Commit();
 }
 
+/// The font and the block graphics of set 0 are the same in every adventure.
+bool MayBecomeSetZero(const CharacterFileSet& set) {
+    constexpr int kFirstFixed = 16;
+    constexpr int kLastFixed = 143;
+    const auto isFixed = [](const Character& character) {
+        return character.number >= kFirstFixed && character.number <= kLastFixed;
+    };
+    return set.name == "Default" && std::none_of(set.characters.begin(), set.characters.end(), isFixed);
+}
+
 }  // namespace
 
 std::vector<std::string> ListSets(store::Adventure& adventure) {
@@ -118,7 +128,7 @@ bool LoadSet(store::Adventure& adventure, const std::filesystem::path& file,
     const auto set = std::find_if(content.sets.begin(), content.sets.end(),
                                   [setLine](const CharacterFileSet& s) { return s.line == setLine; });
     if (set == content.sets.end()) throw Error(file.string() + " holds no " + std::string(setLine) + ".");
-    if (target == 0 && set->name != "Default") {
+    if (target == 0 && !MayBecomeSetZero(*set)) {
         person.Tell("This is not a valid saveset for Set 0", kErrorTitle);
         return false;
     }

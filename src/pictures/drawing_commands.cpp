@@ -112,7 +112,9 @@ void Drawing::DrawWords(const std::vector<std::string>& words, int scale, std::s
 
 std::size_t Drawing::RunCommand(const std::vector<std::string>& words, std::size_t index, int scale) {
     if (commandsLeft_-- == 0) {
-        Fail("with its subroutines it runs more than " + std::to_string(kMostCommands) + " commands.");
+        throw Error("Picture " + std::to_string(picture_) +
+                    " can't be drawn: with its subroutines it runs more than " +
+                    std::to_string(kMostCommands) + " commands.");
     }
     const Command* command = book_.commands.Find(words[index]);
     ++index;

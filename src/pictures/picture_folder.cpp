@@ -23,6 +23,9 @@ using store::Cursor;
 using store::TableNum;
 
 constexpr int kHighestPictureNumber = 999;
+/// No location will ever have it.
+constexpr int kDefaultPictureNumber = kHighestPictureNumber + 1;
+constexpr int kNoRoom = -1;  ///< `roompicnum` of a picture that is no room's
 constexpr int kHighestColour = 15;
 
 /// The words of a drawing without its remarks.
@@ -66,11 +69,10 @@ struct DrawingFile {
     bool isDefault = false;
 };
 
-/// The drawings, the default picture last and with the number behind all others.
-std::vector<DrawingFile> FindDrawings(const std::filesystem::path& folder, const PictureBook& book) {
+/// The drawings, the default picture last.
+std::vector<DrawingFile> FindDrawings(const std::filesystem::path& folder) {
     std::vector<DrawingFile> found;
     std::optional<std::filesystem::path> defaultFile;
-    int highest = book.locations.empty() ? 0 : *book.locations.rbegin();
     std::error_code error;
     std::filesystem::directory_iterator entries(folder, error);
     if (error) throw Error("Could not read the folder " + folder.string() + ": " + error.message() + ".");
@@ -86,9 +88,8 @@ std::vector<DrawingFile> FindDrawings(const std::filesystem::path& folder, const
             throw Error(file.string() + " is named after no picture.");
         }
         found.push_back({file, *number, false});
-        highest = std::max(highest, *number);
     }
-    if (defaultFile) found.push_back({*defaultFile, highest + 1, true});
+    if (defaultFile) found.push_back({*defaultFile, kDefaultPictureNumber, true});
     return found;
 }
 
@@ -143,7 +144,7 @@ void SaveBitmap(const std::filesystem::path& file, const Canvas& canvas) {
 
 void AddPictureFolder(store::Adventure& adventure, const std::filesystem::path& folder) {
     PictureBook book = LoadPictureBook(adventure);
-    const std::vector<DrawingFile> drawings = FindDrawings(folder, book);
+    const std::vector<DrawingFile> drawings = FindDrawings(folder);
     const auto isShown = [&book](const DrawingFile& drawing) {
         return drawing.isDefault || book.locations.count(drawing.number) > 0;
     };
@@ -158,7 +159,7 @@ void AddPictureFolder(store::Adventure& adventure, const std::filesystem::path& 
         if (!check.Passed()) throw Error(drawing.file.string() + ": " + check.fault);
         const std::string bitmap = isShown(drawing) ? BitmapName(adventure, drawing) : "";
         StorePicture(adventure, picture, bitmap,
-                     isShown(drawing) && !drawing.isDefault ? drawing.number : 0);
+                     isShown(drawing) && !drawing.isDefault ? drawing.number : kNoRoom);
         if (bitmap.empty()) continue;
         NameBitmap(adventure, drawing, bitmap);
         SaveBitmap(adventure.GameDir() / bitmap, DrawPicture(book, drawing.number));

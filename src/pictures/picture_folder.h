@@ -16,9 +16,8 @@ inline constexpr std::uintmax_t kLargestDrawing = 1024 * 1024;
 /// place for drawstrings. A drawing is a text file:
 ///
 ///     7.draw         the picture of room 7; a subroutine when there is no room 7
-///     default.draw   what is shown in the dark and in rooms without a picture. It gets the number behind
-///     all
-///                    others
+///     default.draw   what is shown in the dark and in rooms without a picture. It gets the number 1000,
+///                    which no room can have
 ///
 /// A drawing may begin with DEFPAPER n and DEFINK n, in this order, each 0 to 15. The rest is a drawstring,
 /// over as many lines as it takes. A line that begins with # is a remark.

@@ -78,13 +78,37 @@ TEST(CondActsToNumeric, AReservedWordFitsEveryCondition) {
 
 TEST(CondActsToNumeric, AWordIsLookedUpByItsFirstFiveLettersOnPurpose) {
     EXPECT_EQ(ToNumeric("ADVERB SLOWLY").line, "122 5");
+    EXPECT_EQ(ToNumeric("PREP UNDERNEATH").line, "123 6");
 }
 
-TEST(CondActsToNumeric, AWordOfSixLettersIsNotFoundUnderItsWholeSpellingOnPurpose) {
-    const Converted converted = ToNumeric("PREP THROUGH DONE");
-    EXPECT_EQ(converted.line, "123 265");
+TEST(CondActsToNumeric, TheWholeWordCountsBeforeItsFirstFiveLetters) {
+    EXPECT_EQ(ToNumeric("NOUN2 SATCHEL PRESENT 6").line, "124 52 105 6");
+    EXPECT_EQ(CondActsToNumeric("PREP UNDERNEATH", SampleCatalogue(),
+                                WordIndex({{"UNDER", 6, kPreposition}, {"UNDERNEATH", 7, kPreposition}}))
+                  .line,
+              "123 7");
+}
+
+TEST(CondActsToNumeric, AWordOfAnotherTypeIsNotCut) {
+    const WordIndex words({{"UNDER", 6, kPreposition}, {"UNDERNEATH", 7, kAdverb}});
+    const Converted converted = CondActsToNumeric("PREP UNDERNEATH", SampleCatalogue(), words);
     EXPECT_FALSE(converted.ok);
-    EXPECT_EQ(converted.errors, "word THROU Type doesn't agree with PREP");
+    EXPECT_EQ(converted.errors, "word UNDERNEATH Type doesn't agree with PREP");
+}
+
+TEST(CondActsToNumeric, ACutWordThatFitsTwoIsAFault) {
+    const Converted converted = ToNumeric("NOUN2 LAMPSHADE");
+    EXPECT_FALSE(converted.ok);
+    EXPECT_EQ(converted.errors, "word LAMPSHADE Type doesn't agree with NOUN2");
+}
+
+TEST(CondActsToNumeric, TellsTheFirstTokenThatDoesNotCompile) {
+    const Converted converted = ToNumeric("DONE PREP THROUGHOUT ADVERB RED");
+    EXPECT_FALSE(converted.ok);
+    EXPECT_EQ(converted.faultyToken, 2u);
+    EXPECT_EQ(ToNumeric("DONE PLACE 4").faultyToken, 1u);
+    EXPECT_EQ(ToNumeric("DONE XYZ").faultyToken, 1u);
+    EXPECT_EQ(ToNumeric("PLACE 4 CARRIED").faultyToken, 2u);
 }
 
 TEST(CondActsToNumeric, JoinsItsErrorsByAnd) {
@@ -136,7 +160,7 @@ TEST(NumericToCondActs, OnlyLocationsAreWrittenAsWords) {
 
 TEST(NumericToCondActs, AnUnknownWordNumberGivesTheEmptyWordAndIsReported) {
     const Converted converted = ToText("123 99");
-    EXPECT_EQ(converted.line, "PREP ");
+    EXPECT_EQ(converted.line, "PREP");
     EXPECT_FALSE(converted.ok);
     EXPECT_EQ(converted.errors, "word 99 Type doesn't agree with PREP");
 }

@@ -17,6 +17,13 @@ CondAct Row(int number, bool isAction, const char* name, int paramCount, Paramet
     return condAct;
 }
 
+std::set<int> NumbersBelow(int end) {
+    std::set<int> numbers;
+    for (int number = 0; number < end; ++number)
+        numbers.insert(number);
+    return numbers;
+}
+
 CondAct OnlyFabula(CondAct condAct) {
     condAct.vel = condAct.marlo = condAct.pcVel = false;
     return condAct;
@@ -57,14 +64,15 @@ Catalogue SampleCatalogue() {
 
 Facts SampleFacts() {
     Facts facts;
-    facts.locations = 5;
-    facts.messages = 6;
-    facts.objects = 5;
-    facts.systemMessages = 54;
-    facts.flags = 1025;
+    facts.locations = NumbersBelow(5);
+    facts.messages = NumbersBelow(6);
+    facts.systemMessages = NumbersBelow(54);
     facts.processes = {0, 1, 2, 3};
-    facts.flagRecords = {{28, {true, true}}, {38, {true, false}}, {60, {false, true}}};
-    facts.objectAttributes = {{0, 1}, {1, 2}, {2, 0}, {3, 0}, {4, 1}};
+    for (const int flag : NumbersBelow(1025))
+        facts.flags[flag] = {false, true};
+    facts.flags[28] = {true, true};
+    facts.flags[38] = {true, false};
+    facts.objects = {{0, 1}, {1, 2}, {2, 0}, {3, 0}, {4, 1}};
     facts.locationsWithExits = {0, 1, 2, 3};
     facts.words = WordIndex({
         {"LIGHT", 30, kVerb},
@@ -74,6 +82,9 @@ Facts SampleFacts() {
         {"RED", 2, kAdjective},
         {"THROUGH", 4, kPreposition},
         {"UNDER", 6, kPreposition},
+        {"SATCHEL", 52, kNoun},
+        {"LAMPS", 53, kNoun},
+        {"LAMPS", 54, kNoun},
         {"*", 1, kReserved},
         {"_", 255, kReserved},
     });

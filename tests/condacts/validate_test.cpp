@@ -114,9 +114,40 @@ TEST(ValidateCondAct, ALocationOf254FailsWhenTheBoundIsMinusOne) {
     EXPECT_EQ(CheckOne("GOTO 254"), FaultAt(1, "Invalid number for parameter 1"));
 }
 
-TEST(ValidateCondAct, ANumberBeyondSixteenBitsIsNoSpecialLocation) {
-    EXPECT_EQ(CheckOne("AT 32767"), kValid);
+TEST(ValidateCondAct, OnlyTheFourNumbersOfPlacesThatAreNoRoomAreSpecial) {
+    EXPECT_EQ(CheckOne("AT 255"), kValid);
+    EXPECT_EQ(CheckOne("AT 256"), FaultAt(1, "Invalid number for parameter 1"));
     EXPECT_EQ(CheckOne("AT 99999"), FaultAt(1, "Invalid number for parameter 1"));
+    EXPECT_EQ(CheckOne("CARRIED 256"), FaultAt(1, "Invalid number for parameter 1"));
+    EXPECT_EQ(CheckOne("SYSMESS 256"), FaultAt(1, "Invalid number for parameter 1"));
+}
+
+TEST(ValidateCondAct, ANumberThatHasARecordPassesBehindAGap) {
+    Facts facts = SampleFacts();
+    facts.locations = {0, 7, 300};
+    facts.objects = {{3, 0}, {300, 0}};
+    facts.messages = {12};
+    facts.systemMessages = {80};
+    facts.flags = {{2000, {false, true}}};
+    for (const char* line : {"AT 7", "AT 300", "GOTO 300", "PRESENT 3", "CARRIED 300", "MESSAGE 12",
+                             "SYSMESS 80", "ZERO 2000"}) {
+        EXPECT_EQ(ValidateCondAct(line, SampleCatalogue(), facts), kValid) << line;
+    }
+}
+
+TEST(ValidateCondAct, ANumberInAGapFailsThoughThereAreAsManyRecords) {
+    Facts facts = SampleFacts();
+    facts.locations = {0, 7, 300};
+    facts.objects = {{3, 0}, {300, 0}};
+    facts.messages = {12};
+    facts.systemMessages = {80};
+    facts.flags = {{2000, {false, true}}};
+    for (const char* line :
+         {"AT 1", "GOTO 2", "PRESENT 0", "CARRIED 1", "MESSAGE 0", "SYSMESS 0", "ZERO 0"}) {
+        EXPECT_EQ(ValidateCondAct(line, SampleCatalogue(), facts),
+                  FaultAt(1, "Invalid number for parameter 1"))
+            << line;
+    }
 }
 
 TEST(ValidateCondAct, AnObjectFollowsTheRulesOfALocation) {
@@ -178,7 +209,7 @@ TEST(ValidateCondAct, ASpecialLocationIsNoContainer) {
 
 TEST(ValidateCondAct, ALocationWithoutAnObjectOfItsNumberIsNoContainer) {
     Facts facts = SampleFacts();
-    facts.objectAttributes.erase(4);
+    facts.objects.erase(4);
     EXPECT_EQ(ValidateCondAct("PUTIN 1 4", SampleCatalogue(), facts),
               FaultAt(2, "Location 4 is not a container"));
 }
@@ -220,6 +251,18 @@ TEST(ValidateCondAct, AWordOfSixLettersPasses) {
     EXPECT_EQ(CheckOne("PREP THROUGH"), kValid);
 }
 
+TEST(ValidateCondAct, AWordThatCompilesCutToFiveLettersPasses) {
+    EXPECT_EQ(CheckOne("PREP UNDERNEATH"), kValid);
+}
+
+TEST(ValidateCondAct, AWordThatFitsNoneEvenWhenCutFails) {
+    EXPECT_EQ(CheckOne("PREP THROUGHOUT"), FaultAt(1, "THROUGHOUT is an invalid word"));
+}
+
+TEST(ValidateCondAct, AWordThatFitsTwoWhenCutFails) {
+    EXPECT_EQ(CheckOne("NOUN2 LAMPSHADE"), FaultAt(1, "LAMPSHADE is an invalid word"));
+}
+
 TEST(ValidateCondAct, AFlagBeyondTheFlagsFails) {
     EXPECT_EQ(CheckOne("ZERO 1024"), kValid);
     EXPECT_EQ(CheckOne("ZERO 1025"), FaultAt(1, "Invalid number for parameter 1"));
@@ -233,7 +276,7 @@ TEST(ValidateCondAct, AFlagOfAMarloAdventureIsAtMost32) {
 TEST(ValidateCondAct, AFlagOfAMarloAdventureMustAlsoHaveARecord) {
     Facts facts = SampleFacts();
     facts.dialect = Dialect::Marlo;
-    facts.flags = 30;
+    facts.flags.erase(30);
     EXPECT_EQ(ValidateCondAct("ZERO 30", SampleCatalogue(), facts),
               FaultAt(1, "Invalid number for parameter 1"));
 }

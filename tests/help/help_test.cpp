@@ -1,11 +1,15 @@
 #include <algorithm>
+#include <cctype>
+#include <fstream>
 #include <map>
+#include <regex>
 #include <set>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "help_pages.h"
+#include "support/places.h"
 
 namespace fabula::help_test {
 namespace {
@@ -205,6 +209,43 @@ const std::map<std::string, std::vector<std::string>> kScreens = {
 TEST(Screens, HaveAPageWithAnAnchorForEachControl) {
     for (const auto& [name, controls] : kScreens)
         EXPECT_THAT(AnchorNames(FindPage(name)), IsSupersetOf(controls)) << name;
+}
+
+/// The words of a text, without what marks them up.
+std::string WordsOf(std::string_view text) {
+    std::string words;
+    for (const char c : text) {
+        const bool isWord =
+            std::isalnum(static_cast<unsigned char>(c)) != 0 || (static_cast<unsigned char>(c) & 0x80) != 0;
+        if (isWord) {
+            words += c;
+        } else if (!words.empty() && words.back() != ' ') {
+            words += ' ';
+        }
+    }
+    return words;
+}
+
+/// A page of docs/ as WordsOf sees its words: without images, the targets of links, numbers of lists and
+/// the names of blocks.
+std::string TextOfGuide(const std::filesystem::path& file) {
+    std::ifstream stream(file);
+    std::string text;
+    for (std::string line; std::getline(stream, line);) {
+        if (line.starts_with("![")) continue;
+        if (line.starts_with("```")) line.clear();
+        text += std::regex_replace(line, std::regex(R"((^[0-9]+\. )|(\]\([^)]*\)))"), " ") + "\n";
+    }
+    return text;
+}
+
+TEST(FirstGamePage, IsTheTutorialWordByWord) {
+    const std::set<std::string> kBlocks = {"h1", "h2", "p", "li", "th", "td", "pre"};
+    std::string page;
+    for (const XMLElement* element : Elements(FindPage("firstgame.html"))) {
+        if (kBlocks.contains(element->Name())) page += ShownText(*element) + " ";
+    }
+    EXPECT_EQ(WordsOf(page), WordsOf(TextOfGuide(test::SourceFolder() / "docs" / "tutorial.md")));
 }
 
 }  // namespace

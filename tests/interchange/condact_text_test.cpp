@@ -88,5 +88,10 @@ TEST(ConvExtLogs, TakesOnlyTheTypeAsked) {
     EXPECT_EQ(ConvExtLogs(condacts::kNoun, 6, kWords), std::nullopt);
 }
 
+TEST(ConvExtLogs, TakesAWordOfTheTypeThoughAReservedOneHasItsNumber) {
+    const condacts::WordIndex words({{"*", 6, condacts::kReserved}, {"UNDER", 6, condacts::kPreposition}});
+    EXPECT_EQ(ConvExtLogs(condacts::kPreposition, 6, words), "UNDER");
+}
+
 }  // namespace
 }  // namespace fabula::interchange

@@ -198,7 +198,7 @@ TEST(CompanionTexts, AnUnknownWordIsEmptyAndDoesNotStopTheLoad) {
     const Reading game = File("6|canum|0\n6|w1num|99\n6|w2num|99\n1|locnum|0\n1|numericexits|99 0\n");
     EXPECT_TRUE(game.ok);
     EXPECT_EQ(game.Text(TableNum::ProcessTables, "canum=0", "w1"), "");
-    EXPECT_EQ(game.Text(TableNum::Locations, "locnum=0", "exits"), " 0");
+    EXPECT_EQ(game.Text(TableNum::Locations, "locnum=0", "exits"), "0");
 }
 
 void ExpectRefused(const std::string& lines, const std::string& why) {
@@ -210,7 +210,7 @@ void ExpectRefused(const std::string& lines, const std::string& why) {
 
 TEST(LoadFabula, RefusesALineThatIsNoFieldAndTellsWhere) {
     ExpectRefused("2|msgnum|3\nnonsense\n",
-                  "The line does not begin with the number of a table.\n    game.ext:3: nonsense\n");
+                  "game.ext:3:1: fault: The line does not begin with the number of a table.\n");
     ExpectRefused("99|x|y\n", "The line does not begin with the number of a table.");
     ExpectRefused("-1|x|y\n", "The line does not begin with the number of a table.");
 }
@@ -226,8 +226,8 @@ TEST(LoadFabula, RefusesAValueThatIsNotOfItsType) {
     ExpectRefused("2|msgnum|three\n", "The value is not of the type of its field.");
     ExpectRefused("5|advnum|1\n5|sound|maybe\n", "The value is not of the type of its field.");
     ExpectRefused("5|advnum|1\n5|DateCreated|yesterday\n", "The value is not of the type of its field.");
-    ExpectRefused("2|msgnum|99999\n", "    game.ext:2: 2|msgnum|99999");
-    ExpectRefused("5|advnum|1\n5|author|" + std::string(300, 'x') + "\n", "    game.ext:3: 5|author|");
+    ExpectRefused("2|msgnum|99999\n", "game.ext:2:10: fault: ");
+    ExpectRefused("5|advnum|1\n5|author|" + std::string(300, 'x') + "\n", "game.ext:3:10: fault: ");
 }
 
 TEST(LoadFabula, RefusesARecordWithoutItsKey) {
@@ -238,9 +238,20 @@ TEST(LoadFabula, RefusesARecordWithoutItsKey) {
 TEST(LoadFabula, RecordsOfATableThatDoesNotTravelAreToldAndPassedOver) {
     const Reading game = File("3|sndnum|1\n2|msgnum|3\n2|msgmsg|x\n3|sndnum|2\n");
     EXPECT_TRUE(game.ok) << game.status;
-    EXPECT_TRUE(game.Told("The record belongs to a table that is not loaded.\n    game.ext:2: 3|sndnum|1"));
+    EXPECT_TRUE(game.ToldAt(2, "The record belongs to a table that is not loaded."));
     EXPECT_EQ(game.faults, 2);
     EXPECT_EQ(game.Text(TableNum::Messages, "msgnum=3", "msgmsg"), "x");
+}
+
+TEST(LoadFabula, DefaultWordsThatTheAuthorDeletedDoNotComeBack) {
+    const Reading game = File("8|vocindex|500\n8|word|LAMP\n8|vocnum|50\n8|voctypen|2\n");
+    EXPECT_EQ(game.Count(TableNum::Vocabulary, "voctypen<>7"), 1);
+    EXPECT_EQ(game.Text(TableNum::Vocabulary, "voctypen=2", "word"), "LAMP");
+    EXPECT_GT(game.Count(TableNum::Vocabulary, "voctypen=7"), 0) << "the reserved words are the system's";
+}
+
+TEST(LoadFabula, AFileWithoutAVocabularyKeepsTheDefaultWords) {
+    EXPECT_GT(File("2|msgnum|3\n").Count(TableNum::Vocabulary, "voctypen<>7"), 1);
 }
 
 TEST(SetupOfExport, IsTheTypeThatTheSettingsName) {

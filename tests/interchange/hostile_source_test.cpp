@@ -25,7 +25,7 @@ TEST(HostileSource, ALineOfAMegabyteIsAText) {
 }
 
 TEST(HostileSource, AHundredThousandSectionsAreRead) {
-    const Reading game("pcvel", PcSource(kWords, Repeated("/MTX\n/7\nabc\n", 100'000)));
+    const Reading game("pcvel", PcSource(kWords, Repeated("/MTX\n", 100'000) + "/7\nabc\n"));
     EXPECT_TRUE(game.ok);
     EXPECT_EQ(game.Count(TableNum::Messages, "msgnum>=0"), 1);
 }
@@ -55,7 +55,7 @@ TEST(HostileSource, TextThatLooksLikeAQueryIsText) {
     const Reading game("ace", PcSource("x';-- 50 noun\n", "/PRO 0\n_ x';-- NOUN2 x';--\nGO' LAMP DONE\n"));
     EXPECT_EQ(game.Number(TableNum::Vocabulary, "vocnum=50", "voctypen"), 2);
     EXPECT_EQ(game.Text(TableNum::ProcessTables, "w2num=50", "condacts"), "NOUN2 X';--");
-    EXPECT_TRUE(game.Told("Word1 (GO') not a verb\n    game.txt:7: GO' LAMP DONE"));
+    EXPECT_TRUE(game.ToldAt(7, "Word1 (GO') not a verb"));
 }
 
 TEST(HostileSource, ALineOfBarsIsRefused) {

@@ -43,16 +43,31 @@ TEST(JobStatus, TheTextClsClears) {
 TEST(JobStatus, AFaultTellsItsPlace) {
     Recorder recorder;
     JobStatus status(recorder);
-    status.AddFault("ERROR: Duplicate Word.", {"/games/old/game.sce", 12, "LAMP 5 noun"});
-    EXPECT_EQ(status.Text(), "ERROR: Duplicate Word.\n    game.sce:12: LAMP 5 noun\n");
+    status.AddFault("ERROR: Duplicate Word.", {"old games/game.sce", 12, "LAMP 5 noun", 6});
+    EXPECT_EQ(status.Text(), "old games/game.sce:12:6: fault: ERROR: Duplicate Word.\n");
     EXPECT_EQ(status.Faults(), 1);
 }
 
-TEST(JobStatus, OnlyTheHeadOfALongLineIsShown) {
+TEST(JobStatus, AFaultTellsItsEntry) {
     Recorder recorder;
     JobStatus status(recorder);
-    status.AddFault("Bad", {"a.sce", 1, std::string(1000, 'x')});
-    EXPECT_EQ(status.Text(), "Bad\n    a.sce:1: " + std::string(200, 'x') + "\n");
+    status.AddFault("Invalid number for parameter 1", {"a.sce", 36, "", 14}, "GET LAMP");
+    EXPECT_EQ(status.Text(), "a.sce:36:14: fault: GET LAMP: Invalid number for parameter 1\n");
+}
+
+TEST(JobStatus, AFaultIsOneLine) {
+    Recorder recorder;
+    JobStatus status(recorder);
+    status.AddFault("ERROR: Duplicate Word.\nWord LAMP deleted.", {"a.sce", 1, ""});
+    EXPECT_EQ(status.Text(), "a.sce:1:1: fault: ERROR: Duplicate Word. Word LAMP deleted.\n");
+}
+
+TEST(JobStatus, AFaultWithoutASourceIsToldInItsOwnWords) {
+    Recorder recorder;
+    JobStatus status(recorder);
+    status.Report({"Invalid location", {}, "Object 3"});
+    EXPECT_EQ(status.Text(), "Object 3: Invalid location\n");
+    EXPECT_EQ(status.AllFaults().at(0).entry, "Object 3");
 }
 
 TEST(JobStatus, TheThousandthFaultEndsTheJob) {

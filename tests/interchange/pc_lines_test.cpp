@@ -50,8 +50,11 @@ TEST_F(PcLinesTest, ALinkGoesOnWithTheFileItNames) {
     Write("part2.sce", "b\n");
     EXPECT_EQ(Read(), Lines({"a", "b"}));
     EXPECT_FALSE(failed_);
-    EXPECT_EQ(status_.Text(), "Loading PCVEL Source " + (folder_ / "game.sce").string() +
-                                  "\nLoading PCVEL Source " + (folder_ / "part2.sce").string() + "\n");
+    EXPECT_EQ(status_.Text(), "Loading PCVEL Source " + (folder_ / "game.sce").string() + "\n" +
+                                  (folder_ / "game.sce").string() +
+                                  ":3:1: fault: ERROR: The lines behind the link are not read."
+                                  "\nLoading PCVEL Source " +
+                                  (folder_ / "part2.sce").string() + "\n");
 }
 
 TEST_F(PcLinesTest, ALinkWithoutAnExtensionTakesThatOfTheSource) {
@@ -70,9 +73,9 @@ TEST_F(PcLinesTest, ALinkToItselfEndsTheReading) {
     Write("game.sce", "a\n/LNK game\n");
     EXPECT_EQ(Read(), Lines({"a"}));
     EXPECT_TRUE(failed_);
-    EXPECT_NE(status_.Text().find(
-                  "ERROR: The link goes back to a file that was read.\n    game.sce:2: /LNK game\n"),
-              std::string::npos);
+    EXPECT_NE(
+        status_.Text().find("game.sce:2:1: fault: ERROR: The link goes back to a file that was read.\n"),
+        std::string::npos);
 }
 
 TEST_F(PcLinesTest, ARingOfLinksEndsTheReading) {

@@ -63,8 +63,7 @@ TEST(PcSource, KeywordsMayBeInLowerCase) {
 
 TEST(PcSource, ASectionOutOfOrderIsPassedOver) {
     const Reading game = PcGame("/LTX\n/0\nHall.\n/MTX\n/0\nLate.\n/PRO 0\n_ _ DONE\n");
-    EXPECT_TRUE(
-        game.Told("ERROR: The section stands behind one that must follow it.\n    game.sce:15: /MTX"));
+    EXPECT_TRUE(game.ToldAt(15, "ERROR: The section stands behind one that must follow it."));
     EXPECT_EQ(game.Count(TableNum::Messages, "msgnum>=0"), 0);
     EXPECT_EQ(game.Count(TableNum::ProcessTables, "condacts='DONE'"), 1);
 }
@@ -116,7 +115,7 @@ TEST(PcSourceVocabulary, AnyOtherTypeIsReserved) {
 TEST(PcSourceVocabulary, ADuplicateWordIsDroppedAndTold) {
     const Reading game("pcvel", PcSource("LAMP 50 noun\nLAMP 50 noun\n", ""));
     EXPECT_TRUE(game.ok);
-    EXPECT_TRUE(game.Told("ERROR: Duplicate Word.\nWord LAMP deleted.\n    game.sce:5: LAMP 50 noun"));
+    EXPECT_TRUE(game.ToldAt(5, "ERROR: Duplicate Word. Word LAMP deleted."));
     EXPECT_EQ(game.Count(TableNum::Vocabulary, "word='LAMP'"), 1);
 }
 
@@ -129,16 +128,16 @@ TEST(PcSourceVocabulary, AVerbAndANounOfOneSpellingMayBothCome) {
 TEST(PcSourceVocabulary, AWordOfAnotherTypeMayNotRepeatASpelling) {
     const Reading game("pcvel", PcSource("LIGHT 30 verb\nLIGHT 5 adjective\n", ""));
     EXPECT_EQ(game.Count(TableNum::Vocabulary, "word='LIGHT'"), 1);
-    EXPECT_TRUE(game.Told("ERROR: Duplicate Word."));
+    EXPECT_EQ(game.faults, 1) << game.status;
 }
 
 TEST(PcSourceVocabulary, ABadNumberIsToldWithItsLine) {
     const Reading game("pcvel",
                        PcSource("LAMP 1 noun\nROPE 255 noun\nBOX many noun\nTIN 5\nKEY 50 noun\n", ""));
-    EXPECT_TRUE(game.Told("Word # must be from 2 to 254 inclusive\n    game.sce:4: LAMP 1 noun"));
-    EXPECT_TRUE(game.Told("Word # must be from 2 to 254 inclusive\n    game.sce:5: ROPE 255 noun"));
-    EXPECT_TRUE(game.Told("ERROR: This line can't be understood.\n    game.sce:6: BOX many noun"));
-    EXPECT_TRUE(game.Told("ERROR: This line can't be understood.\n    game.sce:7: TIN 5"));
+    EXPECT_TRUE(game.ToldAt(4, "Word # must be from 2 to 254 inclusive"));
+    EXPECT_TRUE(game.ToldAt(5, "Word # must be from 2 to 254 inclusive"));
+    EXPECT_TRUE(game.ToldAt(6, "ERROR: This line can't be understood."));
+    EXPECT_TRUE(game.ToldAt(7, "ERROR: This line can't be understood."));
     EXPECT_EQ(game.Count(TableNum::Vocabulary, "word='KEY'"), 1);
 }
 
@@ -198,7 +197,8 @@ TEST(PcSourceTexts, TagsOfAnAceSourceAreTurned) {
 
 TEST(PcSourceTexts, TagsOfAPcSourceAreNot) {
     const Reading game = PcGame("/MTX\n/0\n<COLOR=bright red>Hot\n");
-    EXPECT_EQ(game.Text(TableNum::Messages, "msgnum=0", "msgmsg"), "<COLOR=bright red>Hot");
+    EXPECT_EQ(game.Text(TableNum::Messages, "msgnum=0", "msgmsg"), "&lt;COLOR=bright red&gt;Hot");
+    EXPECT_EQ(game.faults, 1) << "they are told";
 }
 
 TEST(PcSourceTexts, SystemMessagesTakeTheScriptMessagesBehindTheLast) {
@@ -233,7 +233,7 @@ TEST(PcSourceTexts, ANewLocationHasNoExits) {
 
 TEST(PcSourceTexts, ABadNumberIsToldAndItsTextPassedOver) {
     const Reading game = PcGame("/MTX\n/1000\nToo far.\n/x\nWhat.\n/0\nGood.\n");
-    EXPECT_TRUE(game.Told("ERROR: This line can't be understood.\n    game.sce:13: /1000"));
+    EXPECT_TRUE(game.ToldAt(13, "ERROR: This line can't be understood."));
     EXPECT_EQ(game.Count(TableNum::Messages, "msgnum>=0"), 1);
 }
 
@@ -254,17 +254,17 @@ TEST(PcSourceConnections, BecomeTheExitsOfTheirLocation) {
 TEST(PcSourceConnections, BadOnesAreToldAndDropped) {
     const Reading game = PcGame(std::string(kRooms) +
                                 "/CON\n/0\nXYZ 1\nLAMP 1\nNORTH x\nNORTH 9\nNORTH\nSOUTH 1\n/7\nNORTH 0\n");
-    EXPECT_TRUE(game.Told("XYZ is not a valid word\n    game.sce:19: XYZ 1"));
+    EXPECT_TRUE(game.ToldAt(19, "XYZ is not a valid word"));
     EXPECT_TRUE(game.Told("LAMP is not a valid word")) << "a noun from 20 up is no movement word";
     EXPECT_TRUE(game.Told("TO location for NORTHmust be numeric"));
     EXPECT_TRUE(game.Told("There is not a location with a number of 9 for NORTH"));
-    EXPECT_TRUE(game.Told("ERROR: This line can't be understood.\n    game.sce:23: NORTH"));
-    EXPECT_TRUE(game.Told("ERROR: This line can't be understood.\n    game.sce:25: /7"));
+    EXPECT_TRUE(game.ToldAt(23, "ERROR: This line can't be understood."));
+    EXPECT_TRUE(game.ToldAt(25, "ERROR: This line can't be understood."));
     EXPECT_EQ(game.Text(TableNum::Locations, "locnum=0", "exits"), "SOUTH 1");
 }
 
 Reading Objects(const std::string& lines) {
-    return PcGame("/OTX\n/0\nA lamp\n/1\nA rope\n/OBJ\n" + lines);
+    return PcGame("/OTX\n/0\nA lamp\n/1\nA rope\n/LTX\n/3\nShed.\n/OBJ\n" + lines);
 }
 
 TEST(PcSourceObjects, TakePlaceWeightAttributesAndWords) {
@@ -297,15 +297,14 @@ TEST(PcSourceObjects, KnowThePlacesThatAreNoRoom) {
 TEST(PcSourceObjects, ABadAdjectiveIsSetToNone) {
     const Reading game = Objects("/0 0 1 N N LAMP LAMP\n");
     EXPECT_TRUE(
-        game.Told("ERROR: Adjective shown for object 0 is not an Adjective.\nAdjective set to _\n"
-                  "    game.sce:18: /0 0 1 N N LAMP LAMP"));
+        game.ToldAt(21, "ERROR: Adjective shown for object 0 is not an Adjective. Adjective set to _"));
     EXPECT_EQ(game.Text(TableNum::Objects, "objnum=0", "objnoun"), "LAMP");
     EXPECT_EQ(game.Text(TableNum::Objects, "objnum=0", "objadject"), "_");
 }
 
 TEST(PcSourceObjects, ABadNounSetsBothWordsToNone) {
     const Reading game = Objects("/0 0 1 N N XYZ RED\n");
-    EXPECT_TRUE(game.Told("ERROR: Noun shown for object 0 is not a Noun.\nNoun and Adjective set to _"));
+    EXPECT_TRUE(game.Told("ERROR: Noun shown for object 0 is not a Noun. Noun and Adjective set to _"));
     EXPECT_EQ(game.Text(TableNum::Objects, "objnum=0", "objnoun"), "_");
     EXPECT_EQ(game.Number(TableNum::Objects, "objnum=0", "objnumadject"), 255);
 }
@@ -313,9 +312,9 @@ TEST(PcSourceObjects, ABadNounSetsBothWordsToNone) {
 TEST(PcSourceObjects, BadLinesLeaveTheObjectAsItIs) {
     const Reading game =
         Objects("/0 nowhere 1 N N LAMP _\n/1 0 64 N N _ _\n/7 0 1 N N _ _\n/0 0 1\nhello\n");
-    EXPECT_TRUE(game.Told("Invalid location\n    game.sce:18: /0 nowhere 1 N N LAMP _"));
+    EXPECT_TRUE(game.ToldAt(21, "Invalid location"));
     EXPECT_TRUE(game.Told("Weight must be from 0 to 63"));
-    EXPECT_TRUE(game.Told("ERROR: This line can't be understood.\n    game.sce:20: /7 0 1 N N _ _"));
+    EXPECT_TRUE(game.ToldAt(23, "ERROR: This line can't be understood."));
     EXPECT_EQ(game.Number(TableNum::Objects, "objnum=0", "objloc"), 252);
     EXPECT_EQ(game.faults, 5);
 }
@@ -360,22 +359,20 @@ TEST(PcSourceProcesses, ADirectionNounMayStandForTheVerb) {
 
 TEST(PcSourceProcesses, ABadFirstWordDropsTheEntry) {
     const Reading game = Processes("/PRO 0\nLAMP _\n DONE\nGO _ DONE\n");
-    EXPECT_TRUE(
-        game.Told("Word1 (LAMP) not a verb\n    game.sce:13: LAMP _\nRecord LAMP _\nRecord Deleted"));
+    EXPECT_TRUE(game.ToldAt(13, "Word1 (LAMP) not a verb") && game.Told("Record LAMP _\nRecord Deleted"));
     EXPECT_EQ(game.Count(TableNum::ProcessTables, "w2<>'SCRIP'"), 1);
 }
 
 TEST(PcSourceProcesses, ABadSecondWordDropsTheEntry) {
     const Reading game = Processes("/PRO 0\nGO RED\n DONE\n");
-    EXPECT_TRUE(
-        game.Told("Word2 (RED) is not a Noun\n    game.sce:13: GO RED\nRecord GO RED\nRecord Deleted"));
+    EXPECT_TRUE(game.ToldAt(13, "Word2 (RED) is not a Noun") && game.Told("Record GO RED\nRecord Deleted"));
     EXPECT_EQ(game.Count(TableNum::ProcessTables, "w2<>'SCRIP'"), 0);
 }
 
 TEST(PcSourceProcesses, ABadCondactDropsTheEntryAndTellsItsLine) {
     const Reading game = Processes("/PRO 0\nGO LAMP\n AT 0\n XYZ 3\n DONE\nGO _\n PREP LAMP\n");
-    EXPECT_TRUE(game.Told(
-        "XYZ is an invalid Condition/Action\n    game.sce:15:  XYZ 3\nRecord GO LAMP\nRecord Deleted"));
+    EXPECT_TRUE(game.ToldAt(15, "XYZ is an invalid Condition/Action") &&
+                game.Told("Record GO LAMP\nRecord Deleted"));
     EXPECT_TRUE(game.Told("word LAMP Type doesn't agree with PREP"));
     EXPECT_EQ(game.Count(TableNum::ProcessTables, "w2<>'SCRIP'"), 0);
 }
@@ -429,8 +426,10 @@ TEST(PcSourceProcesses, ThereAreAtMost257Tables) {
     EXPECT_TRUE(game.Told("ERROR: Too many process tables."));
 }
 
-TEST(PcSourceProcesses, AnEntryMayBeEmpty) {
+TEST(PcSourceProcesses, AnEntryMayBeEmptyButIsTold) {
     const Reading game = Processes("/PRO 0\nGO LAMP\n");
+    EXPECT_EQ(game.allFaults,
+              (std::vector<std::string>{"13:1 GO LAMP: Cannot have a record with no Condition/Actions"}));
     EXPECT_EQ(game.Text(TableNum::ProcessTables, "canum=0", "condacts"), "");
     EXPECT_EQ(game.Text(TableNum::ProcessTables, "canum=0", "numericcondacts"), "");
     EXPECT_EQ(game.Number(TableNum::ProcessTables, "canum=0", "numcas"), 0);
@@ -438,7 +437,7 @@ TEST(PcSourceProcesses, AnEntryMayBeEmpty) {
 
 TEST(PcSourceProcesses, CondactsBeforeAnyWordsAreTold) {
     const Reading game = Processes("/PRO 0\n DONE\n");
-    EXPECT_TRUE(game.Told("ERROR: This line can't be understood.\n    game.sce:13:  DONE"));
+    EXPECT_TRUE(game.ToldAt(13, "ERROR: This line can't be understood."));
 }
 
 TEST(PcSourceProcesses, AGameWithoutEntriesIsTold) {

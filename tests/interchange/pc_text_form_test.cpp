@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "store/tags.h"
 #include "support/template_adventure.h"
 
 namespace fabula::interchange {
@@ -14,21 +15,30 @@ const AceTags& Tags() {
     return tags;
 }
 
-const PcTextForm kPc(kPcSource, nullptr);
+PcTextForm Pc() {
+    return {kPcSource, store::LoadTagCatalogue(*test::OpenedAdventure()), nullptr};
+}
 
 PcTextForm Ace() {
-    return PcTextForm(kAceSource, &Tags());
+    return {kAceSource, store::LoadTagCatalogue(*test::OpenedAdventure()), &Tags()};
+}
+
+std::vector<std::string> Told(const std::vector<PcTextForm::BadTag>& tags) {
+    std::vector<std::string> told;
+    for (const PcTextForm::BadTag& tag : tags)
+        told.push_back(std::to_string(tag.position) + ": " + tag.message);
+    return told;
 }
 
 TEST(PcTextForm, WritesLines) {
-    EXPECT_EQ(kPc.ToSource("One.\u008CTwo.\u008C").lines, Lines({"One.", "Two.", ""}));
-    EXPECT_EQ(kPc.ToSource(" ").lines, Lines({" "}));
-    EXPECT_EQ(kPc.ToSource("").lines, Lines());
+    EXPECT_EQ(Pc().ToSource("One.\u008CTwo.\u008C").lines, Lines({"One.", "Two.", ""}));
+    EXPECT_EQ(Pc().ToSource(" ").lines, Lines({" "}));
+    EXPECT_EQ(Pc().ToSource("").lines, Lines());
 }
 
 TEST(PcTextForm, WritesMarkupAsTheSourceHasIt) {
-    EXPECT_EQ(kPc.ToSource("Fish &amp; chips<tab>&lt;5 &gt;").lines, Lines({"Fish & chips<ht><5 >"}));
-    EXPECT_TRUE(kPc.ToSource("Fish &amp; chips<tab>&lt;5 &gt;").comesBack);
+    EXPECT_EQ(Pc().ToSource("Fish &amp; chips<tab>&lt;5 &gt;").lines, Lines({"Fish & chips<ht><5 >"}));
+    EXPECT_TRUE(Pc().ToSource("Fish &amp; chips<tab>&lt;5 &gt;").comesBack);
 }
 
 TEST(PcTextForm, WritesTheTagsOfAceSources) {
@@ -37,28 +47,42 @@ TEST(PcTextForm, WritesTheTagsOfAceSources) {
 }
 
 TEST(PcTextForm, AnEntityThatWouldPassForATagIsWrittenAsAnEntity) {
-    const PcTextForm::Written written = Ace().ToSource("&lt;b&gt;");
-    EXPECT_EQ(written.lines, Lines({"&lt;b&gt;"}));
-    EXPECT_FALSE(written.comesBack) << "it comes back as &amp;lt;b&amp;gt;, which prints the same";
+    const PcTextForm::Written written = Ace().ToSource("&lt;flash&gt;");
+    EXPECT_EQ(written.lines, Lines({"&lt;flash&gt;"}));
+    EXPECT_FALSE(written.comesBack) << "it comes back as &amp;lt;flash&amp;gt;, which prints the same";
 }
 
 TEST(PcTextForm, TellsWhatDoesNotComeBack) {
-    EXPECT_FALSE(kPc.ToSource("Stop; go").comesBack);
+    EXPECT_FALSE(Pc().ToSource("Stop; go").comesBack);
     EXPECT_TRUE(Ace().ToSource("Stop; go").comesBack);
     EXPECT_FALSE(Ace().ToSource("No. # 5").comesBack);
-    EXPECT_FALSE(kPc.ToSource("/5").comesBack);
-    EXPECT_FALSE(kPc.ToSource("a&sp;b").comesBack);
+    EXPECT_FALSE(Pc().ToSource("/5").comesBack);
+    EXPECT_FALSE(Pc().ToSource("a&sp;b").comesBack);
 }
 
 TEST(PcTextForm, ALineThatBeginsWithASlashGetsABlank) {
-    EXPECT_EQ(kPc.ToSource("a\u008C/PRO 0").lines, Lines({"a", " /PRO 0"}));
+    EXPECT_EQ(Pc().ToSource("a\u008C/PRO 0").lines, Lines({"a", " /PRO 0"}));
+}
+
+TEST(PcTextForm, WhatIsNoKnownTagIsText) {
+    EXPECT_EQ(Pc().FromSource("Press <enter> now"), "Press &lt;enter&gt; now");
+    EXPECT_EQ(Ace().FromSource("<COLOR=reddish>Hot<ink=99>"), "&lt;COLOR=reddish&gt;Hot&lt;ink=99&gt;");
+    EXPECT_EQ(Ace().ToSource("Press &lt;enter&gt; now").lines, Lines({"Press <enter> now"}));
+}
+
+TEST(PcTextForm, TellsWhatLooksLikeATagAndIsNone) {
+    EXPECT_EQ(Told(Pc().FindBadTags("Press <enter> now, <flash>or</flash> 1<2")),
+              Lines({"6: Invalid Tag: <ENTER>"}));
+    EXPECT_EQ(
+        Told(Ace().FindBadTags("<COLOR=reddish>Hot<ink=99><color=bright red>")),
+        Lines({"0: Invalid color REDDISH for tag COLOR=REDDISH", "18: Invalid color 99 for tag INK=99"}));
 }
 
 TEST(PcTextForm, KnowsTagsFromBrackets) {
-    EXPECT_EQ(kPc.FromSource("<INK=2></FLASH><#=96>"), "<INK=2></FLASH><#=96>");
-    EXPECT_EQ(kPc.FromSource("<<b>>"), "&lt;<b>&gt;");
-    EXPECT_EQ(kPc.FromSource("1<2, 3>2, <, <>"), "1&lt;2, 3&gt;2, &lt;, &lt;&gt;");
-    EXPECT_EQ(kPc.FromSource("<a\u008C>"), "&lt;a\u008C&gt;");
+    EXPECT_EQ(Pc().FromSource("<INK=2></FLASH><#=96>"), "<INK=2></FLASH><#=96>");
+    EXPECT_EQ(Pc().FromSource("<<b>>"), "&lt;&lt;b&gt;&gt;");
+    EXPECT_EQ(Pc().FromSource("1<2, 3>2, <, <>"), "1&lt;2, 3&gt;2, &lt;, &lt;&gt;");
+    EXPECT_EQ(Pc().FromSource("<a\u008C>"), "&lt;a\u008C&gt;");
 }
 
 }  // namespace

@@ -106,9 +106,10 @@ class Filler {
             std::string exits;
             std::string numeric;
             const int count = Below(4);
+            std::set<int> directions;
             for (int i = 0; i < count; ++i) {
                 const condacts::Word word = RandomWord(condacts::IsMovementWord);
-                if (word.type == condacts::kReserved) continue;
+                if (word.type == condacts::kReserved || !directions.insert(word.number).second) continue;
                 const std::string destination = std::to_string(Below(locations_));
                 exits += (exits.empty() ? "" : " ") + word.word + " " + destination;
                 numeric += (numeric.empty() ? "" : " ") + std::to_string(word.number) + " " + destination;
@@ -233,7 +234,8 @@ class Filler {
         for (int count = UpTo(30); count > 0; --count) {
             const condacts::Word verb = RandomWord(condacts::IsMovementWordOrReserved);
             const condacts::Word noun = RandomWord(condacts::IsNounOrReserved);
-            const std::string line = RandomCondActs(catalogue);
+            std::string line = RandomCondActs(catalogue);
+            if (line.empty()) line = "DONE";
             entries.AddNew();
             entries.SetField("canum", ++key);
             entries.SetField("estype", std::int64_t{Below(4)});

@@ -12,7 +12,8 @@ namespace fabula::interchange {
 /// line ends, tags and entities, exits, objects, entries with valid conditions and actions in several
 /// tables, flags and pictures. The same seed gives the same adventure.
 ///
-/// What the kinds of files are known to lose is not in it: "|" and "<CR>" in texts, the comment characters
+/// What the readers of sources tell as a mistake is not in it, nor what the kinds of files are known to
+/// lose: "|" and "<CR>" in texts, the comment characters
 /// ";" and "#", lines that begin with "/", line ends in texts of one line, entities that would pass for
 /// tags.
 void FillAtRandom(store::Adventure& adventure, std::uint32_t seed, int letters);

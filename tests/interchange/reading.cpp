@@ -1,5 +1,6 @@
 #include "reading.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -37,6 +38,11 @@ Reading::Reading(std::string_view kind, const std::string& source) : adventure_(
     transaction.Commit();
     status = jobStatus.Text();
     faults = jobStatus.Faults();
+    for (const Fault& fault : jobStatus.AllFaults()) {
+        const std::string entry = fault.entry.empty() ? "" : fault.entry + ": ";
+        allFaults.push_back(std::to_string(fault.place->line) + ":" + std::to_string(fault.place->column) +
+                            " " + entry + fault.message);
+    }
 }
 
 store::Cursor& Reading::Record(store::TableNum table, const char* where) const {
@@ -60,7 +66,16 @@ int Reading::Count(store::TableNum table, const char* where) const {
 }
 
 bool Reading::Told(std::string_view line) const {
-    return ("\n" + status).find("\n" + std::string(line) + "\n") != std::string::npos;
+    return ("\n" + status).find("\n" + std::string(line) + "\n") != std::string::npos ||
+           std::any_of(allFaults.begin(), allFaults.end(),
+                       [&](const std::string& fault) { return fault.ends_with(" " + std::string(line)); });
+}
+
+bool Reading::ToldAt(int line, std::string_view message) const {
+    const std::string start = std::to_string(line) + ":";
+    return std::any_of(allFaults.begin(), allFaults.end(), [&](const std::string& fault) {
+        return fault.starts_with(start) && fault.ends_with(" " + std::string(message));
+    });
 }
 
 std::string Written(store::Adventure& adventure, std::string_view kind, std::string* status) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "interchange/file_kinds.h"
 #include "platform/scripted_operator.h"
@@ -31,8 +32,12 @@ class Reading {
     std::int64_t Number(store::TableNum table, const char* where, const char* field) const;
     int Count(store::TableNum table, const char* where) const;
 
-    /// Whether a line of the status is this text.
+    /// Whether a line of the status is this text, or tells it as a fault.
     bool Told(std::string_view line) const;
+    /// Whether a fault of this line of the source was told in these words.
+    bool ToldAt(int line, std::string_view message) const;
+    /// The faults, "line:column entry: message", as they were told.
+    std::vector<std::string> allFaults;
 
   private:
     store::Cursor& Record(store::TableNum table, const char* where) const;

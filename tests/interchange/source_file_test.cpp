@@ -100,5 +100,43 @@ TEST(TrimRight, RemovesBlanksAndControlCharacters) {
     EXPECT_EQ(TrimRight("  "), "");
 }
 
+std::string Note(const std::string& bytes, Encoding encoding = Encoding::Detect) {
+    const test::TempFolder folder;
+    std::ofstream(folder / "source.txt", std::ios::binary) << bytes;
+    SourceFile source(folder / "source.txt", encoding);
+    std::string line;
+    source.Next(line);
+    return line + "|" + std::string(source.EncodingNote());
+}
+
+TEST(SourceFile, BytesThatAreAllUtf8AreUtf8AlsoWithoutAMark) {
+    EXPECT_EQ(Note("Caf\xC3\xA9\n"), "Caf\u00E9|The text is read as UTF-8.");
+}
+
+TEST(SourceFile, OneByteThatIsNoUtf8MakesAllOfItWindows1252) {
+    EXPECT_EQ(Note("Caf\xC3\xA9\nna\xEFve\n"), "Caf\u00C3\u00A9|The text is read as Windows-1252.");
+    EXPECT_EQ(Note("Caf\xE9"), "Caf\u00E9|The text is read as Windows-1252.");
+}
+
+TEST(SourceFile, ACharacterMayLieAcrossTheBlocksOfTheFile) {
+    for (const std::size_t before : {65533, 65534, 65535, 65536}) {
+        const std::string line(before, 'x');
+        EXPECT_EQ(Note(line + "\xE2\x82\xAC"), line + "\u20AC|The text is read as UTF-8.");
+    }
+}
+
+TEST(SourceFile, SaysNothingOfPlainTextAndOfAMarkedFile) {
+    EXPECT_EQ(Note("Cafe"), "Cafe|");
+    EXPECT_EQ(Note("\xEF\xBB\xBF"
+                   "Caf\xC3\xA9"),
+              "Caf\u00E9|");
+}
+
+TEST(SourceFile, TheEncodingCanBeDecided) {
+    EXPECT_EQ(Note("Caf\xC3\xA9", Encoding::Windows1252),
+              "Caf\u00C3\u00A9|The text is read as Windows-1252.");
+    EXPECT_EQ(Note("Caf\xE9", Encoding::Utf8), "Caf\uFFFD|The text is read as UTF-8.");
+}
+
 }  // namespace
 }  // namespace fabula::interchange

@@ -90,6 +90,11 @@ TEST(ConvertTabs, KeepsLineEnds) {
               "cd ");
 }
 
+TEST(ConvertTabs, CarriageReturnAndLineFeedAreALineEnd) {
+    EXPECT_EQ(ConvertTabs("a\r\nb"), ConvertTabs("a\u008Cb"));
+    EXPECT_EQ(ConvertTabs("a\nb"), ConvertTabs("a\u008Cb"));
+}
+
 TEST(ConvertTabs, BreaksAWordAtColumn32) {
     EXPECT_EQ(ConvertTabs("123456789012345678901234567890 abcd"),
               "123456789012345678901234567890 a\u008C"

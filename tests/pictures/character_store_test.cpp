@@ -136,6 +136,16 @@ TEST_F(CharacterStore, OnlyASetNamedDefaultMayBecomeSetZero) {
     EXPECT_EQ(Stored(0, 0), "9 9 9 9 9 9 9 9, Default");
 }
 
+TEST_F(CharacterStore, TheFontAndTheBlocksOfSetZeroStayWhateverAFileCallsItself) {
+    for (const char* number : {"16", "65", "143"}) {
+        WriteFile("CHARSETS\nDelim=|\nSET0005\nDefault\n0|9|9|9|9|9|9|9|9\n" + std::string(number) +
+                  "|9|9|9|9|9|9|9|9\nENDSET\n");
+        const std::string before = Stored(0, 65) + Stored(0, 0);
+        EXPECT_FALSE(LoadSet(*adventure_, File(), {"SET0005 - Default"}, 0, person_)) << number;
+        EXPECT_EQ(Stored(0, 65) + Stored(0, 0), before);
+    }
+}
+
 TEST_F(CharacterStore, ExactlyOneSetCanBeLoaded) {
     EXPECT_FALSE(LoadSet(*adventure_, File(), {}, 4, person_));
     EXPECT_FALSE(LoadSet(*adventure_, File(), {"SET0001", "SET0002"}, 4, person_));

@@ -83,6 +83,22 @@ TEST_F(PictureFolder, DefaultDrawingIsTheDefaultPicture) {
     EXPECT_TRUE(Exists("pictures/game/Default.bmp"));
 }
 
+TEST_F(PictureFolder, TheDefaultPictureHasANumberThatNoLocationCanHave) {
+    Write("default.draw", "END");
+    Add();
+    EXPECT_EQ(Field(TableNum::Pictures, "locnum"), "1000");
+}
+
+TEST_F(PictureFolder, OnlyThePicturesOfRoomsNameARoom) {
+    Write("0.draw", "GOSUB sc=4 500 END");
+    Write("500.draw", "LINE 0 8 8 END");
+    Write("default.draw", "END");
+    Add();
+    EXPECT_EQ(Field(TableNum::Pictures, "roompicnum", "locnum=0"), "0");
+    EXPECT_EQ(Field(TableNum::Pictures, "roompicnum", "locnum=500"), "-1");
+    EXPECT_EQ(Field(TableNum::Pictures, "roompicnum", "locnum=1000"), "-1");
+}
+
 TEST_F(PictureFolder, NumberWithoutARoomIsASubroutineWithoutABitmap) {
     Write("0.draw", "GOSUB sc=4 500 END");
     Write("500.draw", "LINE 0 8 8 END");

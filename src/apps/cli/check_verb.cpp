@@ -3,6 +3,8 @@
 
 #include "authoring/jobs/verify.h"
 #include "cli/console.h"
+#include "cli/encoding_option.h"
+#include "cli/fault_report.h"
 #include "cli/file_kind_option.h"
 #include "cli/verbs.h"
 #include "platform/error.h"
@@ -14,6 +16,8 @@ namespace {
 struct Options {
     std::string source;
     std::string kind;
+    interchange::Encoding encoding = interchange::Encoding::Detect;
+    bool json = false;
 };
 
 /// A folder for one run, deleted with what it holds.
@@ -52,14 +56,19 @@ int Check(const Options& options) {
     const interchange::FileKind& kind = KindOf(options);
     const ScratchFolder folder;
     const std::filesystem::path file = folder.Path() / "check.fbd";
-    Console console(std::cout);
-    const interchange::JobResult imported =
-        interchange::ImportIt(kind, options.source, file, true, console.JobHost());
-    if (!imported.done) return kFailed;
-    const auto adventure = OpenToRead(file.string());
+    Console console(options.json ? std::cerr : std::cout);
+    interchange::JobHost host = console.JobHost();
+    host.encoding = options.encoding;
+    const interchange::JobResult imported = interchange::ImportIt(kind, options.source, file, true, host);
     interchange::JobStatus status(console.Observer());
-    const bool verified = authoring::VerifyAdventure(*adventure, authoring::VerifyTarget::Play, status);
-    return verified && imported.faults == 0 ? kDone : kFailed;
+    status.Continue(imported.allFaults);
+    if (imported.done) {
+        const auto adventure = OpenToRead(file.string());
+        authoring::VerifyAdventure(*adventure, authoring::VerifyTarget::Play, status, &imported.places);
+    }
+    if (options.json) PrintAsJson(status.AllFaults());
+    if (status.Faults() > 0) status.AddToStatusCR(CountOf(status.AllFaults()));
+    return imported.done && status.Faults() == 0 ? kDone : kFailed;
 }
 
 }  // namespace
@@ -71,6 +80,8 @@ void AddCheckVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("source", options->source, "The file that is read")->required();
     verb->add_option("--kind", options->kind,
                      "What it is, where its name doesn't tell: " + ReadableKinds());
+    AddJsonFlag(*verb, options->json);
+    AddEncodingOption(*verb, options->encoding);
     Runs(*verb, chosen, options, Check);
 }
 

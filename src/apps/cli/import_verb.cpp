@@ -1,4 +1,6 @@
 #include "cli/console.h"
+#include "cli/encoding_option.h"
+#include "cli/fault_report.h"
 #include "cli/file_kind_option.h"
 #include "cli/target.h"
 #include "cli/verbs.h"
@@ -11,6 +13,8 @@ struct Options {
     std::string source;
     std::string file;
     bool force = false;
+    interchange::Encoding encoding = interchange::Encoding::Detect;
+    bool json = false;
 };
 
 int Import(const Options& options) {
@@ -18,9 +22,13 @@ int Import(const Options& options) {
     Console console(std::cerr);
     CheckTarget({options.file, store::Content::Adventure, {}, options.source, options.force},
                 console.Person());
+    interchange::JobHost host = console.JobHost();
+    host.encoding = options.encoding;
     const interchange::JobResult result =
-        interchange::ImportIt(kind, options.source, options.file, true, console.JobHost());
-    return result.done ? kDone : kFailed;
+        interchange::ImportIt(kind, options.source, options.file, true, host);
+    if (options.json) PrintAsJson(result.allFaults);
+    if (result.faults > 0) std::cerr << CountOf(result.allFaults) << "\n";
+    return result.done && result.faults == 0 ? kDone : kFailed;
 }
 
 }  // namespace
@@ -33,6 +41,11 @@ void AddImportVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("source", options->source, "The file that is read")->required();
     AddAdventureOption(*verb, options->file)->required();
     AddForceFlag(*verb, options->force);
+    AddJsonFlag(*verb, options->json);
+    AddEncodingOption(*verb, options->encoding);
+    verb->footer(
+        "What can't be read is left out and told. The status is 1 then, though the file was made of the "
+        "rest.");
     Runs(*verb, chosen, options, Import);
 }
 

@@ -46,7 +46,7 @@ std::unique_ptr<terminal::LineSource> OpenInput(const Options& options) {
 std::string TraceHeader(const Options& options) {
     const platform::DateTime now = platform::SystemClock().Now();
     std::string header =
-        options.file + text::FormatText(" %z4!-!%z2!-!%z2! !%z2!:!%z2!:!%z2",
+        options.file + text::FormatText(" !%z4!-!%z2!-!%z2! !%z2!:!%z2!:!%z2",
                                         {now.year, now.month, now.day, now.hour, now.minute, now.second});
     if (const char* computer = std::getenv("COMPUTER")) header += " " + std::string(computer);
     return header;

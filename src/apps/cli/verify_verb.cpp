@@ -1,4 +1,5 @@
 #include "authoring/jobs/verify.h"
+#include "cli/fault_report.h"
 #include "cli/job_terminal.h"
 #include "cli/verbs.h"
 
@@ -8,6 +9,7 @@ namespace {
 struct Options {
     std::string file;
     std::string target;
+    bool json = false;
 };
 
 int Verify(const Options& options) {
@@ -19,9 +21,11 @@ int Verify(const Options& options) {
         target = *named;
     }
     const auto adventure = OpenToRead(options.file);
-    JobTerminal observer(std::cout, ErrorsGoToTerminal());
+    JobTerminal observer(options.json ? std::cerr : std::cout, ErrorsGoToTerminal());
     interchange::JobStatus status(observer);
-    return authoring::VerifyAdventure(*adventure, target, status) ? kDone : kFailed;
+    const bool verified = authoring::VerifyAdventure(*adventure, target, status);
+    if (options.json) PrintAsJson(status.AllFaults());
+    return verified ? kDone : kFailed;
 }
 
 }  // namespace
@@ -31,6 +35,7 @@ void AddVerifyVerb(CLI::App& app, Chosen& chosen) {
     CLI::App* verb = app.add_subcommand("verify", "Checks an adventure against the rules of its type");
     AddAdventureOption(*verb, options->file)->required();
     verb->add_option("--for", options->target, "For an export: unvel, pcvel, fabula or ace");
+    AddJsonFlag(*verb, options->json);
     Runs(*verb, chosen, options, Verify);
 }
 

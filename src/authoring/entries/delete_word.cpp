@@ -8,6 +8,7 @@
 
 #include "condacts/load.h"
 #include "condacts/parser.h"
+#include "condacts/recompile.h"
 #include "text/fields.h"
 #include "text/utf8.h"
 
@@ -222,6 +223,7 @@ bool DeleteWord(ScreenContext& context, int vocindex) {
         deleted.entries = DeleteEntries(adventure, *word);
         deleted.movements = DeleteMovements(adventure, *word);
     }
+    condacts::RecompileEntries(adventure);
     change.Commit();
     ReadNextKeys(context);
     if (cascades) context.dialogs.Tell(ReportOf(deleted), "Delete Word");

@@ -6,6 +6,7 @@
 #include "authoring/entries/add_records.h"
 #include "authoring/entries/delete_word.h"
 #include "condacts/catalogue.h"
+#include "condacts/places.h"
 
 namespace fabula::authoring {
 namespace {
@@ -36,9 +37,6 @@ constexpr EntryTable kEntryTables[] = {
 
 constexpr int kHighestOfFabula = 999;
 constexpr int kHighestOfOthers = 255;
-/// The numbers that stand for places that are no location.
-constexpr int kFirstSpecialPlace = 252;
-constexpr int kAboveSpecialPlaces = 256;
 constexpr int kLastFixedProcess = 2;
 constexpr int kCharactersOfASet = 1000;
 constexpr int kLastShade = 15;
@@ -75,19 +73,20 @@ int HighestKey(Adventure& adventure, TableNum table) {
     return highest.First({}) ? static_cast<int>(highest.Number(0)) : -1;
 }
 
-int NextLocation(Adventure& adventure) {
-    const int next = NumberAfter(HighestKey(adventure, TableNum::Locations));
-    return next >= kFirstSpecialPlace && next < kAboveSpecialPlaces ? kAboveSpecialPlaces : next;
-}
-
-/// The lowest number without a record.
-int FirstGap(Adventure& adventure, TableNum table) {
+/// The lowest number from `from` up without a record.
+int FirstGap(Adventure& adventure, TableNum table, int from = 0) {
     const std::string key(store::FindTable(table)->key);
-    store::PreparedQuery row = adventure.Prepare(table, key, "", key);
-    int number = 0;
+    store::PreparedQuery row = adventure.Prepare(table, key, key + ">=" + std::to_string(from), key);
+    int number = from;
     for (bool more = row.First({}); more && row.Number(0) <= number; more = row.Next())
         number = NumberAfter(row.Number(0));
     return number;
+}
+
+int NextLocation(Adventure& adventure) {
+    const int next = FirstGap(adventure, TableNum::Locations);
+    if (!condacts::IsSpecialPlace(next)) return next;
+    return FirstGap(adventure, TableNum::Locations, condacts::place::kLastSpecial.value + 1);
 }
 
 /// The number of the records. Where one was deleted from their midst that number may be taken, and the

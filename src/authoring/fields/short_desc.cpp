@@ -36,7 +36,7 @@ class Loader {
             if (fault.empty()) {
                 ++loaded;
             } else {
-                status_.AddFault(fault, {list_.File(), list_.LineNumber(), line});
+                status_.AddFault(fault, {list_.File().filename(), list_.LineNumber()});
             }
         }
         return loaded;

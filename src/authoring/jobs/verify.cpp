@@ -2,7 +2,10 @@
 
 #include <set>
 #include <string>
+#include <utility>
 
+#include "authoring/jobs/missing_references.h"
+#include "condacts/convert.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "condacts/validate.h"
@@ -17,6 +20,7 @@ using condacts::Dialect;
 using condacts::ParsedLine;
 using condacts::Statement;
 using interchange::JobStatus;
+using interchange::SourceMap;
 using store::Adventure;
 using store::PreparedQuery;
 using store::TableNum;
@@ -53,6 +57,7 @@ constexpr LimitRow kLimits[] = {
     {"Verifying Flags", "Flags", TableNum::Flags, "flgnum", 1024},
 };
 
+constexpr const char* kInvalid = " is an invalid Condition/Action";
 constexpr int kHeaviest = 63;
 constexpr int kRowsAProgressLine = 5;
 constexpr std::int64_t kMostGraphicCharacters = 19;
@@ -68,41 +73,52 @@ int CountRecords(Adventure& adventure, TableNum table, const char* key, std::str
 /// One run of the check.
 class Verification {
   public:
-    Verification(Adventure& adventure, const TargetRow* target, JobStatus& status)
+    Verification(Adventure& adventure, const TargetRow* target, JobStatus& status, const SourceMap* places)
         : adventure_(adventure),
           target_(target),
           status_(status),
+          places_(places),
           catalogue_(condacts::LoadCatalogue(adventure)) {}
 
     bool Run() {
         CheckDefaultPicture();
         if (IsOwnMarlo()) CheckMarlo();
-        if (target_ == nullptr) CheckEntries();
+        if (target_ == nullptr) CheckWhatIsPlayed();
         if (adventure_.AdventureTypeLower() != "fabula") CheckLimits();
         if (target_ != nullptr) {
             CheckCondActsForExport();
             if (!target_->commands.empty()) CheckPicturesForExport();
             if (target_->target == VerifyTarget::UnVel) CheckCountsForUnVel();
         }
-        if (ok_) Step("No Errors Found");
+        if (ok_ && status_.Faults() == 0) Step("No Errors Found");
         Step("Verify Completed");
         return ok_;
     }
 
   private:
     void Step(const std::string& text) { status_.AddToStatusCR(text); }
-    void Fail(const std::string& text) {
-        status_.AddToStatusCR(text);
+    void Fail(const std::string& text) { Fail({text, {}, ""}, text); }
+    void Fail(interchange::Fault fault, const std::string& text) {
+        status_.Report(std::move(fault), text);
         ok_ = false;
+    }
+    /// An error at a word of a record's field. `text` is what is told where its place is not known.
+    void FailAt(TableNum table, std::int64_t key, const std::string& field, std::size_t word,
+                interchange::Fault fault, const std::string& text) {
+        const auto* place = places_ == nullptr ? nullptr : places_->Find(table, key, field, word);
+        if (place != nullptr) fault.place = *place;
+        const std::string line = place == nullptr ? text : fault.Line();
+        Fail(std::move(fault), line);
     }
 
     void CheckDefaultPicture() {
         PreparedQuery settings = adventure_.Prepare(TableNum::Adventure, "graphics, defpickey", "");
         settings.First({});
         if (settings.Number(0) == 0 || !text::TrimBlanks(settings.Text(1)).empty()) return;
-        Fail("No Default Picture defined. You MUST have a default picture.");
-        Fail("Use the black.gif or white.bmp distributed with the IDE.");
-        Fail("If you don't want graphics, turn it off in the Adventure Settings.");
+        const std::string missing = "No Default Picture defined. You MUST have a default picture.";
+        Fail({missing, {}, ""}, missing +
+                                    "\nUse the black.gif or white.bmp distributed with the IDE."
+                                    "\nIf you don't want graphics, turn it off in the Adventure Settings.");
     }
 
     bool IsOwnMarlo() {
@@ -128,8 +144,8 @@ class Verification {
         if (wordsFit) {
             CheckEntryWords();
         } else {
-            Fail("Because of the Vocabulary errors, Process Tables were not checked.");
-            Fail("There may be more errors in the Process Tables.");
+            Step("Because of the Vocabulary errors, Process Tables were not checked.");
+            Step("There may be more errors in the Process Tables.");
         }
     }
 
@@ -144,15 +160,15 @@ class Verification {
         PreparedQuery rows = Entries();
         for (bool more = rows.First({}); more; more = rows.Next()) {
             if (fits(rows.Text(2)) && fits(rows.Text(3))) continue;
-            Fail(
+            const std::string message =
                 "The following Process Entry has an invalid word in Verb or Noun. The word shown is a NOT "
-                "a Verb or "
-                "Noun, which is not allowed.");
-            Fail(NameOf(rows));
+                "a Verb or Noun, which is not allowed.";
+            FailAt(TableNum::ProcessTables, rows.Number(1), "", 0, {message, {}, NameOf(rows)},
+                   message + "\n" + NameOf(rows));
         }
     }
 
-    void CheckEntries() {
+    void CheckWhatIsPlayed() {
         Step("Verifying Process/Response Tables ");
         const condacts::Facts facts = condacts::LoadFacts(adventure_);
         PreparedQuery rows = Entries();
@@ -161,13 +177,45 @@ class Verification {
             if (++count % kRowsAProgressLine == 0)
                 status_.AddProgressLine("    Process " + std::to_string(count));
             status_.IncBar(1);
-            const std::string line(rows.Text(4));
-            const auto fault = condacts::ValidateCondActs(line, catalogue_, facts);
-            if (!fault) continue;
-            Fail(NameOf(rows));
-            Fail(FaultyPart(line, fault->token) + " is an invalid Condition/Action");
-            if (!fault->message.ends_with(" is an invalid Condition/Action")) Fail("    " + fault->message);
+            CheckEntry(rows, facts);
         }
+        for (const MissingReference& missing : FindMissingReferences(adventure_, facts)) {
+            const std::string record = RecordName(missing.table, missing.key);
+            FailAt(missing.table, missing.key, missing.field, missing.place, {missing.message, {}, record},
+                   record + ": " + missing.message);
+        }
+    }
+
+    void CheckEntry(const PreparedQuery& entry, const condacts::Facts& facts) {
+        const std::string line(entry.Text(4));
+        const auto faults = condacts::AllFaults(line, catalogue_, facts);
+        for (const condacts::Fault& fault : faults) {
+            const std::string part = FaultyPart(line, fault.token) + kInvalid;
+            const bool saysMore = !fault.message.ends_with(kInvalid);
+            FailAt(TableNum::ProcessTables, entry.Number(1), "condacts", fault.token,
+                   {saysMore ? part + ": " + fault.message : part, {}, NameOf(entry)},
+                   NameOf(entry) + "\n" + part + (saysMore ? "\n    " + fault.message : ""));
+        }
+        if (!faults.empty() || Compiled(line, facts.words) == entry.Text(5)) return;
+        const std::string message = "The numbers of the entry are not those of its text.";
+        FailAt(TableNum::ProcessTables, entry.Number(1), "", 0, {message, {}, NameOf(entry)},
+               NameOf(entry) + "\n    " + message);
+    }
+
+    std::string Compiled(std::string_view line, const condacts::WordIndex& words) const {
+        return condacts::CondActsToNumeric(condacts::LocationWordsToNumbers(line, catalogue_), catalogue_,
+                                           words)
+            .line;
+    }
+
+    std::string RecordName(TableNum table, std::int64_t key) {
+        if (table == TableNum::Adventure) return "Start location";
+        if (table == TableNum::Locations) return "Location " + std::to_string(key);
+        if (table == TableNum::Objects) return "Object " + std::to_string(key);
+        if (table == TableNum::Pictures) return "Picture " + std::to_string(key);
+        PreparedQuery entry =
+            adventure_.Prepare(TableNum::ProcessTables, "estype, canum, w1, w2, condacts", "canum=?");
+        return entry.First({key}) ? NameOf(entry) : "";
     }
 
     /// The condition or action that token number `token` belongs to.
@@ -250,7 +298,8 @@ class Verification {
     }
 
     PreparedQuery Entries() {
-        return adventure_.Prepare(TableNum::ProcessTables, "estype, canum, w1, w2, condacts", "");
+        return adventure_.Prepare(TableNum::ProcessTables,
+                                  "estype, canum, w1, w2, condacts, numericcondacts", "");
     }
 
     static std::string NameOf(const PreparedQuery& entry) {
@@ -262,6 +311,7 @@ class Verification {
     Adventure& adventure_;
     const TargetRow* target_;  ///< nullptr for play
     JobStatus& status_;
+    const SourceMap* places_;  ///< nullptr when the adventure does not come from a source
     condacts::Catalogue catalogue_;
     bool ok_ = true;
 };
@@ -275,13 +325,14 @@ std::optional<VerifyTarget> VerifyTargetFrom(std::string_view kind) {
     return std::nullopt;
 }
 
-bool VerifyAdventure(Adventure& adventure, VerifyTarget target, JobStatus& status) {
+bool VerifyAdventure(Adventure& adventure, VerifyTarget target, JobStatus& status,
+                     const SourceMap* places) {
     const TargetRow* row = nullptr;
     for (const TargetRow& candidate : kTargets) {
         if (candidate.target == target) row = &candidate;
     }
     const store::ReadTransaction reading(adventure);
-    return Verification(adventure, row, status).Run();
+    return Verification(adventure, row, status, places).Run();
 }
 
 }  // namespace fabula::authoring

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "interchange/job_status.h"
+#include "interchange/source_map.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {
@@ -14,8 +15,13 @@ enum class VerifyTarget { Play, UnVel, PCVel, Fabula, Ace };
 /// The target that a kind of file names ("unvel", "pcvel", "fabula", "ace"), case ignored.
 std::optional<VerifyTarget> VerifyTargetFrom(std::string_view kind);
 
-/// Checks an adventure against the rules of its type, and of the kind of file it is to go to. Writes each
-/// step and each error into the status, a line each. True when there was no error; warnings don't count.
-bool VerifyAdventure(store::Adventure& adventure, VerifyTarget target, interchange::JobStatus& status);
+/// Checks an adventure against the rules of its type, and of the kind of file it is to go to; for play also
+/// that everything is there that its records name. Writes each step and each error into the status, a line
+/// each. True when there was no error; warnings don't count. "No Errors Found" is told when the status has
+/// no faults from before either.
+///
+/// An adventure that was just read from a source has `places`: errors are then told where they stand there.
+bool VerifyAdventure(store::Adventure& adventure, VerifyTarget target, interchange::JobStatus& status,
+                     const interchange::SourceMap* places = nullptr);
 
 }  // namespace fabula::authoring

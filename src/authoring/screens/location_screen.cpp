@@ -9,6 +9,7 @@
 #include "authoring/fields/picture_choice.h"
 #include "authoring/fields/text_field.h"
 #include "condacts/load.h"
+#include "condacts/places.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -106,8 +107,9 @@ bool LocationScreen::LeaveShortDescription() {
     return CheckText("shortDescription", shortDescription, true);
 }
 
-/// A location that is being added may lead to itself.
+/// A location that is being added may lead to itself. No exit leads to a place that is no room.
 bool LocationScreen::Exists(int location) const {
+    if (condacts::IsSpecialPlace(location)) return false;
     if (location == Key().key) return true;
     for (const ListItem& item : exitPlace.items) {
         if (item.number == location) return true;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "condacts/recompile.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -135,6 +136,7 @@ bool WordScreen::Update() {
     if (!LeaveNumber()) return false;
     Change change(context_.document, (Key().isNew ? "add word " : "edit word ") + word);
     Store();
+    condacts::RecompileEntries(Adventure());
     change.Commit();
     if (Key().isNew) ++context_.nextWord;
     return true;

@@ -72,6 +72,16 @@ TEST_F(ExportVerb, WritesEachKindAndReadsItBack) {
     }
 }
 
+TEST_F(ExportVerb, AFolderOfAnyNameCanHoldTheAdventure) {
+    const std::filesystem::path folder = folder_ / "\u6587\u5B57";
+    std::filesystem::create_directory(folder);
+    Run({"import", "ace", File("game.txt"), (folder / "\u7070.fbd").string()});
+    for (const char* kind : {"ace", "pcvel"}) {
+        const ProgramResult result = Run({"export", kind, (folder / "\u7070.fbd").string(), File(kind)});
+        EXPECT_EQ(result.status, 0) << result.errors;
+    }
+}
+
 TEST_F(ExportVerb, AnAdventureThatDoesNotPassLeavesTheTargetAsItWas) {
     Write("own.txt", "/CTL\n_\n/VOC\n/PRO 0\n_ _ OOPS 1\n");
     Run({"import", "ace", File("own.txt"), File("own.fbd")});
@@ -124,9 +134,20 @@ TEST_F(CheckVerb, AFaultInTheSourceGivesStatusOneAndItsLine) {
     Write("bad.txt", std::string(kGame) + "_ _ NONSENSE\n");
     const ProgramResult result = Run({"check", File("bad.txt")});
     EXPECT_EQ(result.status, 1);
-    EXPECT_NE(result.output.find("NONSENSE is an invalid Condition/Action\n    bad.txt:30: _ _ NONSENSE\n"),
+    EXPECT_NE(result.output.find("bad.txt:30:5: fault: _ _: NONSENSE is an invalid Condition/Action\n"),
               std::string::npos)
         << result.output;
+}
+
+TEST_F(CheckVerb, TellsHowItReadASourceWithoutAMark) {
+    const std::string source(kGame);
+    const std::size_t at = source.find("Hello.");
+    Write("utf8.txt", std::string(source).insert(at, "Caf\u00E9 "));
+    EXPECT_NE(Run({"check", File("utf8.txt")}).output.find("The text is read as UTF-8.\n"),
+              std::string::npos);
+    const ProgramResult decided = Run({"check", File("utf8.txt"), "--encoding", "windows-1252"});
+    EXPECT_NE(decided.output.find("The text is read as Windows-1252.\n"), std::string::npos);
+    EXPECT_EQ(Run({"check", File("utf8.txt"), "--encoding", "latin"}).status, 2);
 }
 
 TEST_F(CheckVerb, TakesTheKindFromTheNameOrFromAnOption) {

@@ -257,6 +257,9 @@ TEST_F(PlayVerb, ATranscriptThatCannotBeWrittenIsToldSo) {
 TEST_F(PlayVerb, TheTraceTellsWhatTheEngineDoes) {
     Play("inventory\n", {"--trace", File("trace")});
     EXPECT_NE(Content(File("trace")).find("inven"), std::string::npos);
+    const std::string firstLine = Content(File("trace")).substr(0, Content(File("trace")).find('\n'));
+    EXPECT_NE(firstLine.find(".fbd 20"), std::string::npos) << firstLine;
+    EXPECT_EQ(firstLine.find_first_of("%*"), std::string::npos) << firstLine;
 }
 
 TEST_F(PlayVerb, DebugLinesLookIntoTheGameAndCountNoTurn) {

@@ -378,5 +378,26 @@ TEST(DeleteWord, TakesExitsWhoseTextWasLost) {
     EXPECT_THAT(ExitsOf(desk, 1), ElementsAre("|16 2|2"));
 }
 
+TEST(DeleteWord, AnEntryThatAskedForItAsksForItsSynonym) {
+    Desk desk;
+    desk.AddWord(kKey, "BENEATH", 60, kPreposition);
+    desk.AddWord(kKey + 1, "UNDER", 60, kPreposition);
+    desk.AddEntry(1, 0, kAny, kAny, "PREP BENEATH PLACE 0 254");
+    Delete(desk, {true});
+    EXPECT_THAT(desk.Rows(TableNum::ProcessTables, "condacts, numericcondacts, numcas"),
+                ElementsAre("PREP UNDER PLACE 0 254|123 60 208 0 254|5"));
+}
+
+TEST(DeleteWord, AnEntryWhoseWordIsNowCutIsCompiledAnew) {
+    Desk desk;
+    desk.AddWord(kKey, "UNDERNEATH", 60, kPreposition);
+    desk.AddWord(kKey + 1, "BENEATH", 60, kPreposition);
+    desk.AddWord(kKey + 2, "UNDER", 61, kPreposition);
+    desk.AddEntry(1, 0, kAny, kAny, "PREP UNDERNEATH DONE");
+    Delete(desk, {true});
+    EXPECT_THAT(desk.Rows(TableNum::ProcessTables, "condacts, numericcondacts"),
+                ElementsAre("PREP UNDERNEATH DONE|123 61 265"));
+}
+
 }  // namespace
 }  // namespace fabula::authoring

@@ -82,14 +82,10 @@ TEST_F(ShortDescTest, LinesThatAreWrongAreLeftOutAndTold) {
     EXPECT_EQ(Of(3), "New.");
     ASSERT_EQ(dialogs_.Reports().size(), 1U);
     EXPECT_EQ(dialogs_.Reports()[0].text,
-              "There is no \":\" behind a location number\n"
-              "    ShortDesc.lis:1: 1 no colon\n"
-              "The location number is not numeric\n"
-              "    ShortDesc.lis:2: x: A.\n"
-              "There is not a location with a number of 9\n"
-              "    ShortDesc.lis:3: 9: A.\n"
-              "Word: 1 Tags not allowed in this Description\n"
-              "    ShortDesc.lis:4: 2: <b>Bold</b>\n"
+              "ShortDesc.lis:1:1: fault: There is no \":\" behind a location number\n"
+              "ShortDesc.lis:2:1: fault: The location number is not numeric\n"
+              "ShortDesc.lis:3:1: fault: There is not a location with a number of 9\n"
+              "ShortDesc.lis:4:1: fault: Word: 1 Tags not allowed in this Description\n"
               "1 short descriptions loaded");
 }
 
@@ -100,7 +96,8 @@ TEST_F(ShortDescTest, LongerThanItsFieldIsLeftOut) {
     Write("1: " + text + "\n");
     EXPECT_TRUE(LoadShortDesc(context_));
     EXPECT_EQ(Of(1), "Old.");
-    EXPECT_TRUE(dialogs_.Reports().at(0).text.starts_with("A short description has at most 255 letters\n"));
+    EXPECT_TRUE(dialogs_.Reports().at(0).text.starts_with(
+        "ShortDesc.lis:1:1: fault: A short description has at most 255 letters\n"));
 }
 
 TEST_F(ShortDescTest, FileThatIsNoListChangesNothing) {

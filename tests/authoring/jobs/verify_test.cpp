@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "condacts/convert.h"
+#include "condacts/load.h"
 #include "support/template_adventure.h"
 
 namespace fabula::authoring {
@@ -44,6 +46,13 @@ class Verified : public testing::Test {
     }
 
     void AddEntry(std::int64_t key, const char* w1, const char* w2, const char* condActs) {
+        const condacts::WordIndex words = condacts::LoadWords(*adventure_);
+        const auto numberOf = [&](const char* word) {
+            const condacts::Word* found = words.Find(word);
+            return std::int64_t{found == nullptr ? condacts::kNoWordNumber : found->number};
+        };
+        const std::string numbers =
+            condacts::CondActsToNumeric(condActs, condacts::LoadCatalogue(*adventure_), words).line;
         Cursor& entries = adventure_->OpenTable(TableNum::ProcessTables, "def");
         entries.AddNew();
         entries.SetField("canum", key);
@@ -51,7 +60,9 @@ class Verified : public testing::Test {
         entries.SetField("w1", std::string(w1));
         entries.SetField("w2", std::string(w2));
         entries.SetField("condacts", std::string(condActs));
-        entries.SetField("numericcondacts", std::string());
+        entries.SetField("w1num", numberOf(w1));
+        entries.SetField("w2num", numberOf(w2));
+        entries.SetField("numericcondacts", numbers);
         entries.Update();
     }
 
@@ -59,6 +70,10 @@ class Verified : public testing::Test {
         Cursor& records = adventure_->OpenTable(table, "def");
         records.AddNew();
         records.SetField(key, number);
+        if (table == TableNum::Objects) {
+            records.SetField("objnumnoun", std::int64_t{condacts::kNoWordNumber});
+            records.SetField("objnumadject", std::int64_t{condacts::kNoWordNumber});
+        }
         records.Update();
     }
 
@@ -133,6 +148,47 @@ TEST_F(Verified, AnUnknownNameIsTold) {
               "Verifying Process/Response Tables \n"
               "Process Table 0 Entry # 5 (_ _ DONE XYZ 3)\n"
               "XYZ is an invalid Condition/Action\n"
+              "Verify Completed\n");
+}
+
+TEST_F(Verified, AllFaultsOfAnEntryAreTold) {
+    AddEntry(5, "_", "_", "GOTO 9 MESSAGE 9");
+    EXPECT_EQ(Verify(),
+              "Verifying Process/Response Tables \n"
+              "Process Table 0 Entry # 5 (_ _ GOTO 9 MESSAGE 9)\n"
+              "GOTO 9 is an invalid Condition/Action\n"
+              "    Invalid number for parameter 1\n"
+              "Process Table 0 Entry # 5 (_ _ GOTO 9 MESSAGE 9)\n"
+              "MESSAGE 9 is an invalid Condition/Action\n"
+              "    Invalid number for parameter 1\n"
+              "Verify Completed\n");
+}
+
+TEST_F(Verified, AnEntryWhoseNumbersAreNotThoseOfItsTextIsTold) {
+    AddWord("SATCHEL", 60, 2);
+    AddEntry(5, "_", "_", "NOUN2 SATCHEL DONE");
+    EXPECT_TRUE((Verify(), ok_));
+    Cursor& entry = adventure_->OpenTable(TableNum::ProcessTables, "def");
+    entry.SetField("numericcondacts", std::string("124 265"));
+    entry.Update();
+    EXPECT_EQ(Verify(),
+              "Verifying Process/Response Tables \n"
+              "Process Table 0 Entry # 5 (_ _ NOUN2 SATCHEL DONE)\n"
+              "    The numbers of the entry are not those of its text.\n"
+              "Verify Completed\n");
+    EXPECT_FALSE(ok_);
+}
+
+TEST_F(Verified, AFaultOfASourceIsToldAtItsPlace) {
+    AddEntry(5, "_", "_", "AT 0 GOTO 9");
+    interchange::SourceMap places;
+    places.Set(TableNum::ProcessTables, 5, "condacts", 3, {"games/game.sce", 36, "", 14});
+    interchange::JobStatus status(observer_);
+    EXPECT_FALSE(VerifyAdventure(*adventure_, VerifyTarget::Play, status, &places));
+    EXPECT_EQ(status.Text(),
+              "Verifying Process/Response Tables \n"
+              "games/game.sce:36:14: fault: Process Table 0 Entry # 5 (_ _ AT 0 GOTO 9): GOTO 9 is an "
+              "invalid Condition/Action: Invalid number for parameter 1\n"
               "Verify Completed\n");
 }
 

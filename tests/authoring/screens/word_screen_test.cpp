@@ -267,5 +267,22 @@ TEST_F(WordScreenTest, OfAnExistingWordStoresTheTypeAlone) {
     EXPECT_EQ(Stored(100), "LAMP|50|2|Noun");
 }
 
+TEST_F(WordScreenTest, AnEntryThatCutALongerWordIsCompiledAnewWhenTheWordIsAdded) {
+    desk_.AddWord(110, "UNDER", 61, condacts::kPreposition);
+    desk_.AddEntry(1, 0, {"_", 255}, {"_", 255}, "PREP UNDERNEATH DONE");
+    EXPECT_THAT(desk_.Rows(TableNum::ProcessTables, "numericcondacts"), ElementsAre("123 61 265"));
+    EXPECT_TRUE(Add("UNDERNEATH", "62", condacts::kPreposition));
+    EXPECT_THAT(desk_.Rows(TableNum::ProcessTables, "numericcondacts"), ElementsAre("123 62 265"));
+}
+
+TEST_F(WordScreenTest, AnEntryWhoseWordChangesItsTypeKeepsItsNumbersThatVerifyTells) {
+    desk_.AddEntry(1, 0, {"_", 255}, {"_", 255}, "ADJECT1 RED DONE");
+    WordScreen screen(desk_.context, {102, false});
+    screen.type = condacts::kAdverb;
+    EXPECT_TRUE(screen.Update());
+    EXPECT_THAT(desk_.Rows(TableNum::ProcessTables, "condacts, numericcondacts"),
+                ElementsAre("ADJECT1 RED DONE|121 60 265"));
+}
+
 }  // namespace
 }  // namespace fabula::authoring

@@ -10,7 +10,7 @@ namespace {
 
 /// "game.fbd 2026-01-31 23:59:59 COMPUTER"
 std::string TraceHeader(const std::filesystem::path& file, const platform::DateTime& begun) {
-    std::string header = file.string() + text::FormatText(" %z4!-!%z2!-!%z2! !%z2!:!%z2!:!%z2",
+    std::string header = file.string() + text::FormatText(" !%z4!-!%z2!-!%z2! !%z2!:!%z2!:!%z2",
                                                           {begun.year, begun.month, begun.day, begun.hour,
                                                            begun.minute, begun.second});
     if (const char* computer = std::getenv("COMPUTER")) header += " " + std::string(computer);
