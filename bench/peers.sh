@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Plays the same 12,000 commands through `fabula play` and through an interpreter of another system, in turn, five
-# times, and compares turns a second, the start and the memory. Installs what is missing: Debian's frotz,
-# inform6-compiler and inform6-library.
+# Plays 12,000 commands through `fabula play`, through an interpreter of another system and through a game that is a
+# program of its own, in turn, five times, and compares turns a second, the start and the memory. Installs what is
+# missing: Debian's frotz, inform6-compiler, inform6-library and open-adventure.
 # usage: bench/peers.sh [FOLDER], the folder of a build; build/default without one
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -10,6 +10,7 @@ PATH=$PATH:/usr/games
 
 packages=()
 command -v dfrotz >/dev/null || packages+=(frotz)
+command -v advent >/dev/null || packages+=(open-adventure)
 command -v inform6 >/dev/null || packages+=(inform6-compiler)
 [ -d /usr/share/inform6/library ] || packages+=(inform6-library)
 if [ ${#packages[@]} -gt 0 ]; then

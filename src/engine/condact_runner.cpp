@@ -1,5 +1,7 @@
 #include "engine/condact_runner.h"
 
+#include <algorithm>
+
 #include "engine/condact_table.h"
 #include "engine/game.h"
 #include "engine/sound_actions.h"
@@ -14,13 +16,19 @@ constexpr std::int64_t kEntriesForACondAct = 100;
 /// PROCESS and DOALL frames together. The call stack alone can't bound them: some actions empty it.
 constexpr std::size_t kFrameDepth = 2 * CondActRunner::kCallDepth;
 
+[[noreturn]] void FailRunaway(std::int64_t limit, const char* what) {
+    throw RunFailure("the game ran more than " + std::to_string(limit) + " " + what +
+                     " without waiting for the player");
+}
+
 }  // namespace
 
 CondActRunner::CondActRunner(Game& game, std::int64_t condactLimit) : game_(game), limit_(condactLimit) {
     for (const CondActRoutine& routine : AllCondActs()) {
         const int params = game.data.condActParams[static_cast<std::size_t>(routine.number)];
         if (params == GameData::kUnknownCondAct) continue;
-        routines_[static_cast<std::size_t>(routine.number - kFirstCondAct)] = {&routine, params};
+        routines_[static_cast<std::size_t>(routine.number - kFirstCondAct)] = {
+            &routine, params, !routine.IsAction() && !routine.asks};
     }
 }
 
@@ -62,7 +70,7 @@ bool CondActRunner::Run() {
     return true;
 }
 
-const std::vector<ProcessEntry>* CondActRunner::Table(int process) const {
+const ProcessTable* CondActRunner::Table(int process) const {
     if (process >= static_cast<int>(game_.data.processes.size())) return nullptr;
     return &game_.data.processes[static_cast<std::size_t>(process)];
 }
@@ -80,8 +88,7 @@ void CondActRunner::PushFrame(int process, int startX, int startY) {
         // An entry that is resumed is taken as it is, without matching its words again.
         frame.entry = startX;
         frame.cell = frame.startCell;
-        if (Table(process) && startX < static_cast<int>(Table(process)->size()))
-            frame.phase = Phase::CondAct;
+        if (Table(process) && startX < Table(process)->Count()) frame.phase = Phase::CondAct;
     }
     game_.runningProc = process;
     game_.SetFlag(flag::kDescribe, 0);
@@ -95,38 +102,80 @@ void CondActRunner::PushFrame(int process, int startX, int startY) {
     trace.Write("Flag(33):" + game_.state.WordText(flag::kVerb));
     trace.Write(") Flag(34):" + game_.state.WordText(flag::kNoun));
     trace.Write(") StartX: " + std::to_string(startX) + " StartY: " + std::to_string(startY));
-    trace.Line(" End of Table: " + std::to_string(static_cast<int>(Table(process)->size()) - 1));
+    trace.Line(" End of Table: " + std::to_string(Table(process)->Count() - 1));
 }
 
 /// Goes to the next entry that matches. Only process 0 and the tables called from it read the words, unless
 /// flag 58 says otherwise.
 void CondActRunner::SeekEntry() {
     Frame& frame = frames_.back();
-    const std::vector<ProcessEntry>* table = Table(frame.process);
-    const int end = table ? static_cast<int>(table->size()) : 0;
+    const ProcessTable* table = Table(frame.process);
+    const int end = table && frame.entry >= 0 ? table->Count() : 0;
     const bool allMatch = game_.parentProcNum > 0 && !game_.state.FlagBitSet(flag::kMatchWords, 7);
-    const int verb = game_.Flag(flag::kVerb);
-    const int noun = game_.Flag(flag::kNoun);
-    for (; frame.entry >= 0 && frame.entry < end; ++frame.entry) {
-        CountStep(entriesSeen_, limit_ * kEntriesForACondAct, "entries");
-        const ProcessEntry& entry = (*table)[static_cast<std::size_t>(frame.entry)];
-        if (!allMatch && !MatchWords(entry.verb, entry.noun, verb, noun)) continue;
+    const bool quiet = IsQuiet();
+    while (frame.entry < end) {
+        const int found = FindEntry(*table, frame.entry, allMatch);
+        CountEntries(frame, found, end);
+        if (found == end) break;
+        const ProcessEntry& entry = (*table)[found];
         if (game_.trace.On()) TraceMatch(entry, allMatch);
         frame.cell = frame.startCell;
         frame.phase = Phase::CondAct;
-        return;
+        if (!quiet || !ConditionsFail(frame, entry)) return;
+        frame.phase = Phase::Entry;
+        ++frame.entry;
     }
     if (table && game_.trace.On()) game_.trace.Line("Normal end of process table");
     EndTable();
 }
 
-/// A wild word fits every word, another one its own.
-bool CondActRunner::MatchWords(int word1, int word2, int verb, int noun) const {
-    return (word1 == verb || IsWild(word1)) && (word2 == noun || IsWild(word2));
+int CondActRunner::FindEntry(const ProcessTable& table, int from, bool allMatch) const {
+    return allMatch ? from : table.FindMatch(from, game_.Flag(flag::kVerb), game_.Flag(flag::kNoun));
+}
+
+/// Goes on to the entry `found`, or to the end of the table. Those that are passed over count as if each
+/// had been looked at: the failure names the one that was too many.
+void CondActRunner::CountEntries(Frame& frame, int found, int end) {
+    const std::int64_t limit = limit_ * kEntriesForACondAct;
+    const int last = std::min(found, end - 1);
+    const std::int64_t left = limit - entriesSeen_;
+    if (last - frame.entry >= left) {
+        frame.entry += static_cast<int>(left);
+        FailRunaway(limit, "entries");
+    }
+    entriesSeen_ += last - frame.entry + 1;
+    frame.entry = found;
+}
+
+/// Nothing is told of what fails, and no entry would be left for another reason than a condition. Both stay
+/// so while conditions only look.
+bool CondActRunner::IsQuiet() const {
+    return !game_.trace.On() && !game_.done && game_.Flag(flag::kDescribe) == 0 &&
+           game_.Flag(flag::kEnded) == 0 && game_.Flag(flag::kAsking) == 0;
+}
+
+/// Runs the conditions that an entry begins with, up to the first that fails. When none does, the entry
+/// goes on behind them. Most entries of a turn end here.
+bool CondActRunner::ConditionsFail(Frame& frame, const ProcessEntry& entry) {
+    const std::span<const std::int16_t> numbers = game_.data.CondActsOf(entry);
+    for (;;) {
+        const auto at = static_cast<std::size_t>(frame.cell - kFirstCell);
+        if (at >= numbers.size()) return false;
+        const auto index = static_cast<unsigned>(numbers[at] - kFirstCondAct);
+        if (index >= routines_.size() || !routines_[index].passive) return false;
+        const Runnable& condition = routines_[index];
+        const auto params = static_cast<std::size_t>(condition.params);
+        if (numbers.size() - at - 1 < params) return false;
+        CountCondAct();
+        const int p1 = params > 0 ? numbers[at + 1] : 0;
+        const int p2 = params > 1 ? numbers[at + 2] : 0;
+        if (!condition.routine->run(game_, p1, p2)) return true;
+        frame.cell += 1 + condition.params;
+    }
 }
 
 bool CondActRunner::IsWild(int word) const {
-    return word == kNoWord || (word == 1 && !game_.IsMarlo());
+    return ProcessTable::IsWild(word, !game_.IsMarlo());
 }
 
 void CondActRunner::TraceMatch(const ProcessEntry& entry, bool allMatch) {
@@ -152,13 +201,13 @@ void CondActRunner::TraceMatch(const ProcessEntry& entry, bool allMatch) {
 /// Runs the condacts of an entry until it is left, or until an action begins something of its own.
 void CondActRunner::RunEntry() {
     Frame& frame = frames_.back();
-    const ProcessEntry& entry = (*Table(frame.process))[static_cast<std::size_t>(frame.entry)];
+    const ProcessEntry& entry = (*Table(frame.process))[frame.entry];
     const std::span<const std::int16_t> numbers = game_.data.CondActsOf(entry);
     const std::size_t depth = frames_.size();
     while (frames_.size() == depth && frames_.back().phase == Phase::CondAct && wait_.count() == 0) {
         const auto at = static_cast<std::size_t>(frames_.back().cell - kFirstCell);
         if (at >= numbers.size()) return LeaveEntry();
-        CountStep(condactsRun_, limit_, "conditions and actions");
+        CountCondAct();
         RunCondAct(Find(numbers[at]), numbers.subspan(at + 1));
     }
 }
@@ -242,7 +291,7 @@ void CondActRunner::FinishAction() {
     Frame& frame = frames_.back();
     frame.phase = Phase::CondAct;
     if (!GoesOnAfterAction(true)) return LeaveEntry();
-    const ProcessEntry& entry = (*Table(frame.process))[static_cast<std::size_t>(frame.entry)];
+    const ProcessEntry& entry = (*Table(frame.process))[frame.entry];
     const std::int16_t number =
         game_.data.CondActsOf(entry)[static_cast<std::size_t>(frame.cell - kFirstCell)];
     frame.cell += 1 + Find(number).params;
@@ -316,20 +365,17 @@ const CondActRunner::Runnable& CondActRunner::Find(int number) const {
     return routines_[static_cast<std::size_t>(index)];
 }
 
-void CondActRunner::CountStep(std::int64_t& counter, std::int64_t limit, const char* what) {
-    if (++counter > limit) {
-        throw RunFailure("the game ran more than " + std::to_string(limit) + " " + what +
-                         " without waiting for the player");
-    }
+void CondActRunner::CountCondAct() {
+    if (++condactsRun_ > limit_) FailRunaway(limit_, "conditions and actions");
 }
 
 std::string CondActRunner::Where() const {
     if (frames_.empty()) return {};
     const Frame& frame = frames_.back();
     std::string where = "Process " + std::to_string(frame.process);
-    const std::vector<ProcessEntry>* table = Table(frame.process);
-    if (!table || frame.entry < 0 || frame.entry >= static_cast<int>(table->size())) return where;
-    const ProcessEntry& entry = (*table)[static_cast<std::size_t>(frame.entry)];
+    const ProcessTable* table = Table(frame.process);
+    if (!table || frame.entry < 0 || frame.entry >= table->Count()) return where;
+    const ProcessEntry& entry = (*table)[frame.entry];
     where += ", entry " + std::to_string(frame.entry) + " (record " + std::to_string(entry.record) + ")";
     const std::span<const std::int16_t> numbers = game_.data.CondActsOf(entry);
     const auto at = static_cast<std::size_t>(frame.cell - kFirstCell);

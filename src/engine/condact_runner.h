@@ -81,11 +81,15 @@ class CondActRunner {
     struct Runnable {
         const CondActRoutine* routine = nullptr;
         int params = 0;
+        bool passive = false;  ///< a condition that only looks: it changes nothing and asks for nothing
     };
 
     void PushFrame(int process, int startX, int startY);
     void SeekEntry();
-    bool MatchWords(int word1, int word2, int verb, int noun) const;
+    int FindEntry(const ProcessTable& table, int from, bool allMatch) const;
+    void CountEntries(Frame& frame, int found, int end);
+    bool IsQuiet() const;
+    bool ConditionsFail(Frame& frame, const ProcessEntry& entry);
     bool IsWild(int word) const;
     void TraceMatch(const ProcessEntry& entry, bool allMatch);
     void RunEntry();
@@ -101,8 +105,8 @@ class CondActRunner {
     void LeaveEntry();
     void EndTable();
     const Runnable& Find(int number) const;
-    const std::vector<ProcessEntry>* Table(int process) const;
-    void CountStep(std::int64_t& counter, std::int64_t limit, const char* what);
+    const ProcessTable* Table(int process) const;
+    void CountCondAct();
 
     Game& game_;
     std::array<Runnable, 200> routines_{};  ///< by number, from kFirstNumber

@@ -247,8 +247,10 @@ void GameData::ReadProcesses(store::Adventure& adventure) {
             numeric = compiled;
         }
         entry.length = AppendNumbers(numeric, kHighestRecord, condActs_, what);
-        processes[process].push_back(entry);
+        processes[process].Add(entry);
     }
+    for (ProcessTable& table : processes)
+        table.BuildIndex(!IsMarlo());
 }
 
 }  // namespace fabula::engine

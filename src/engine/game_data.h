@@ -8,20 +8,12 @@
 #include <vector>
 
 #include "engine/game_type.h"
+#include "engine/process_table.h"
 #include "engine/sound_player.h"
 #include "engine/text_settings.h"
 #include "store/adventure.h"
 
 namespace fabula::engine {
-
-/// One entry of a process table. Its condacts are `length` numbers of the list that all entries share.
-struct ProcessEntry {
-    std::int16_t verb = 0;
-    std::int16_t noun = 0;
-    std::int32_t record = 0;  ///< its record key (`canum`), for messages
-    std::uint32_t first = 0;
-    std::uint32_t length = 0;
-};
 
 struct ObjectData {
     std::int16_t startPlace = 0;
@@ -65,7 +57,7 @@ class GameData : public TextSettings {
     std::vector<LocationData> locations;  ///< by number, up to the highest
     std::vector<std::string> pictures;    ///< `picloc` by location; "" when it has no picture of its own
 
-    std::vector<std::vector<ProcessEntry>> processes;
+    std::vector<ProcessTable> processes;
     /// How many parameters each condact takes, by number; kUnknownCondAct for a number without a row.
     std::vector<std::int8_t> condActParams;
     static constexpr std::int8_t kUnknownCondAct = -1;

@@ -53,13 +53,22 @@ void GameTexts::Load(store::Adventure& adventure, Kind& kind, TableNum table, st
 }
 
 std::string_view GameTexts::Find(Kind& kind, int number) {
-    if (inMemory_) {
-        const auto index = static_cast<std::size_t>(number);
-        if (index >= kind.texts.size() || !kind.texts[index]) FailMissing(kind.name, number);
-        return *kind.texts[index];
+    const auto index = static_cast<std::size_t>(number);
+    if (index < kind.texts.size() && kind.texts[index]) return *kind.texts[index];
+    if (inMemory_ || !kind.query.First({number})) FailMissing(kind.name, number);
+    const std::string_view text = kind.query.Text(0);
+    const bool keeps = number >= 0 && number <= kHighestText && text.size() <= kMostTextKept;
+    return keeps ? Keep(kind, index, text) : text;
+}
+
+std::string_view GameTexts::Keep(Kind& kind, std::size_t index, std::string_view text) {
+    if (kind.bytes + text.size() > kMostTextKept) {
+        kind.texts.clear();
+        kind.bytes = 0;
     }
-    if (!kind.query.First({number})) FailMissing(kind.name, number);
-    return kind.query.Text(0);
+    if (kind.texts.size() <= index) kind.texts.resize(index + 1);
+    kind.bytes += text.size();
+    return kind.texts[index].emplace(text);
 }
 
 std::string_view GameTexts::Location(int location) {
@@ -83,16 +92,30 @@ std::string_view GameTexts::SystemMessage(int message) {
 }
 
 const std::vector<VocabularyWord>& GameTexts::FindWord(std::string_view word) {
-    found_.clear();
+    const auto known = known_.find(word);
+    if (known != known_.end()) return known->second;
+    found_ = LookUp(word);
+    const std::size_t rows = found_.size() + 1;  // a spelling that is no word counts too
+    if (rows > kMostWordsKept) return found_;
+    if (knownRows_ + rows > kMostWordsKept) {
+        known_.clear();
+        knownRows_ = 0;
+    }
+    knownRows_ += rows;
+    return known_.emplace(word, std::move(found_)).first->second;
+}
+
+std::vector<VocabularyWord> GameTexts::LookUp(std::string_view word) {
+    std::vector<VocabularyWord> found;
     for (bool more = words_.First({word}); more; more = words_.Next()) {
-        found_.push_back({static_cast<int>(words_.Number(0)), static_cast<int>(words_.Number(1)),
-                          std::string(words_.Text(2))});
+        found.push_back({static_cast<int>(words_.Number(0)), static_cast<int>(words_.Number(1)),
+                         std::string(words_.Text(2))});
     }
     // Two rows at most, as a rule: sorting them here costs less than asking the file for an order.
-    std::sort(found_.begin(), found_.end(), [](const VocabularyWord& left, const VocabularyWord& right) {
+    std::sort(found.begin(), found.end(), [](const VocabularyWord& left, const VocabularyWord& right) {
         return std::tie(left.type, left.number, left.word) < std::tie(right.type, right.number, right.word);
     });
-    return found_;
+    return found;
 }
 
 bool GameTexts::IsNoun(int number) {

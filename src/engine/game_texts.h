@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,7 +21,9 @@ struct VocabularyWord {
 };
 
 /// The texts and words of an adventure. For the type "fabula" each text is looked up in the file when it is
-/// used; the other types have theirs in memory. Words are always looked up.
+/// first used; the other types have theirs in memory from the start. Words are looked up when they are
+/// first typed. What was looked up stays in memory within a bound: beyond it all of its kind is let go and
+/// looked up anew.
 ///
 /// A text is in the markup, with its line-end markers; it is valid until the next call for a text of the
 /// same kind. A text that does not exist throws RunFailure.
@@ -42,15 +47,18 @@ class GameTexts {
     std::string WordOf(int number, std::string_view typeName);
 
   private:
-    /// One kind of text: its look-up, and its texts when they are in memory.
+    /// One kind of text: its look-up, and its texts that are in memory, by number.
     struct Kind {
         const char* name;
         store::PreparedQuery query;
         std::vector<std::optional<std::string>> texts;
+        std::size_t bytes = 0;  ///< of those that were looked up
     };
 
     void Load(store::Adventure& adventure, Kind& kind, store::TableNum table, std::string_view fields);
     std::string_view Find(Kind& kind, int number);
+    static std::string_view Keep(Kind& kind, std::size_t index, std::string_view text);
+    std::vector<VocabularyWord> LookUp(std::string_view word);
 
     bool inMemory_;
     Kind locations_;
@@ -61,7 +69,14 @@ class GameTexts {
     store::PreparedQuery words_;
     store::PreparedQuery nouns_;
     store::PreparedQuery wordsByNumber_;
+    /// The rows of the words typed so far, by what was typed.
+    std::map<std::string, std::vector<VocabularyWord>, std::less<>> known_;
+    std::size_t knownRows_ = 0;
     std::vector<VocabularyWord> found_;
 };
+
+/// How much is kept of what was looked up: bytes of text of one kind, and rows and spellings of words.
+inline constexpr std::size_t kMostTextKept = 1024 * 1024;
+inline constexpr std::size_t kMostWordsKept = 8192;
 
 }  // namespace fabula::engine

@@ -42,6 +42,12 @@ TypedLine LineReader::Read(const Question& question) {
     return {TypedLine::Kind::Line, std::exchange(line_, {})};
 }
 
+bool LineReader::HasLine() const {
+    const auto begin = buffer_.begin();
+    return std::find(begin + static_cast<std::ptrdiff_t>(begin_), begin + static_cast<std::ptrdiff_t>(end_),
+                     '\n') != begin + static_cast<std::ptrdiff_t>(end_);
+}
+
 LineReader::Filled LineReader::Fill(const Question& question) {
     if (question.timeOut) {
         pollfd waiting{descriptor_, POLLIN, 0};

@@ -20,6 +20,7 @@ class LineReader final : public LineSource {
     ~LineReader() override;
 
     TypedLine Read(const Question& question) override;
+    bool HasLine() const override;
 
   private:
     enum class Filled { Yes, TimeOut, End };
@@ -40,6 +41,7 @@ class LineSequence final : public LineSource {
         : first_(std::move(first)), second_(std::move(second)) {}
 
     TypedLine Read(const Question& question) override;
+    bool HasLine() const override { return first_ ? first_->HasLine() : second_->HasLine(); }
 
   private:
     std::unique_ptr<LineSource> first_;  ///< nullptr when it has ended

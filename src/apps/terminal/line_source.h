@@ -35,6 +35,8 @@ class LineSource {
   public:
     virtual ~LineSource() = default;
     virtual TypedLine Read(const Question& question) = 0;
+    /// Whether a whole line is there already, so that Read will not wait for anybody.
+    virtual bool HasLine() const { return false; }
 };
 
 /// Of a longer line the rest is left away.

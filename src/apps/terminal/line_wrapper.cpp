@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "engine/game_window.h"
 #include "text/safe_text.h"
+#include "text/str_edit.h"
 #include "text/utf8.h"
 
 namespace fabula::terminal {
@@ -20,17 +22,26 @@ char32_t Shown(char32_t point) {
 }  // namespace
 
 void LineWrapper::Write(std::string_view text, const Attributes& look) {
-    passing_ = passing_ || (width_ == 0 && !text.empty());
+    if (width_ == 0) return Pass(text);
     for (std::size_t at = 0; at < text.size();) {
         const text::CodePoint point = text::DecodeAt(text, at);
         at += point.size;
-        if (width_ == 0) {
-            text::AppendCodePoint(text_, Shown(point.value));
-        } else {
-            Add({point.value, text::DisplayWidth(point.value), attributes_ ? look : Attributes{}});
-        }
+        Add({point.value, text::DisplayWidth(point.value), attributes_ ? look : Attributes{}});
     }
-    if (width_ == 0) Show();
+}
+
+/// A line that is never broken goes straight on.
+void LineWrapper::Pass(std::string_view text) {
+    passing_ = passing_ || !text.empty();
+    Emit();
+    SwitchTo({});
+    if (text.find(engine::kNoBreakSpace) == std::string_view::npos) {
+        text_ += text;
+    } else {
+        text_ += text::ReplaceAll(text, engine::kNoBreakSpace, " ");
+    }
+    output_.Write(text_);
+    text_.clear();
 }
 
 bool LineWrapper::Fits(const Glyph& glyph) const {

@@ -47,6 +47,7 @@ class LineWrapper {
         Attributes look;
     };
 
+    void Pass(std::string_view text);
     void Add(const Glyph& glyph);
     bool Fits(const Glyph& glyph) const;
     void Break();

@@ -95,7 +95,7 @@ TypedLine Screen::ReadLine(Prompt prompt, bool remember, std::optional<std::chro
         if (!output_.AtLineStart()) output_.Write("\n");
         output_.Write(">");
     }
-    output_.Flush();
+    if (!source_.HasLine()) output_.Flush();  // nobody waits for the answer to a line that came with others
     TypedLine line = source_.Read({prompt_, timeOut, remember});
     wrapper_.Forget();
     if (style_.interactive) TakeWidth();  // the window may have another size by now
