@@ -73,6 +73,19 @@ TEST(LineReader, OfALongLineTheRestIsLeftAway) {
     EXPECT_EQ(reader.Read({}).text, "next");
 }
 
+TEST(LineReader, KnowsWhetherAWholeLineHasCome) {
+    Pipe pipe;
+    pipe.Write("one\ntwo\nthr");
+    LineReader reader(pipe.ReadEnd());
+    EXPECT_FALSE(reader.HasLine());  // nothing was read yet
+    EXPECT_EQ(reader.Read({}).text, "one");
+    EXPECT_TRUE(reader.HasLine());
+    EXPECT_EQ(reader.Read({}).text, "two");
+    EXPECT_FALSE(reader.HasLine());
+    pipe.Write("ee\n");
+    EXPECT_EQ(reader.Read({}).text, "three");
+}
+
 TEST(LineReader, AFileThatIsNotThereIsToldSo) {
     EXPECT_THROW(LineReader(std::filesystem::path("/nowhere/lines")), Error);
 }
