@@ -14,8 +14,6 @@ namespace {
 /// A window that takes everything and shows nothing.
 class NoWindow final : public engine::GameWindow {
   public:
-    void StartGame(const engine::GameLook&) override {}
-    void EndGame() override {}
     int PrintWidth() const override { return 80; }
     int CharacterAdvance() const override { return 1; }
     void Write(std::string_view text, const engine::TextStyle&, engine::TextRole) override {
@@ -23,18 +21,6 @@ class NoWindow final : public engine::GameWindow {
     }
     void EndLine(engine::LineEnd) override { ++bytes; }
     void Clear(int, int) override {}
-    void ShowInput(std::string_view, std::string_view) override {}
-    void EndInput(std::string_view) override {}
-    void ShowPicture(const engine::Picture&) override {}
-    void HidePicture() override {}
-    void ShowStatus(engine::StatusField, std::string_view) override {}
-    void EnableNext(bool) override {}
-    void StartTimeOut(std::chrono::milliseconds) override {}
-    void StopTimeOut() override {}
-    void StartWait(std::chrono::milliseconds) override {}
-    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest&) override {
-        return std::nullopt;
-    }
 
     std::size_t bytes = 0;
 };

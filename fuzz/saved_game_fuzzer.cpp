@@ -30,7 +30,7 @@ class GameHarness {
                                {person_, clock, events, test::DefaultData()});
         adventure_ = store::Adventure::Open(folder_ / "game.fbd", store::OpenMode::ReadOnly);
         engine_ = std::make_unique<engine::Engine>(
-            *adventure_, engine::Host{window_, person_, random_, sound_, nullptr});
+            *adventure_, engine::Host{window_, person_, random_, sound_, nullptr, window_.Parts()});
     }
     ~GameHarness() { std::filesystem::remove_all(folder_); }
 

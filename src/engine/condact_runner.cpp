@@ -1,6 +1,7 @@
 #include "engine/condact_runner.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/condact_table.h"
 #include "engine/game.h"
@@ -39,6 +40,7 @@ void CondActRunner::ResetBudget() {
 
 void CondActRunner::DoCondActs(int process, int startX, int startY) {
     frames_.clear();
+    question_.reset();
     game_.tones.clear();
     PushFrame(process, startX, startY);
 }
@@ -53,17 +55,21 @@ bool CondActRunner::Run() {
                 RunEntry();
                 break;
             case Phase::Called:
-                FinishAction();
+                FinishAction(true);
                 break;
             case Phase::ActionDone:
-                if (!PlayTones(game_)) FinishAction();
+                if (!PlayTones(game_)) FinishAction(true);
+                break;
+            case Phase::FileAsked:
+                UseFile();
                 break;
             case Phase::DoAll:
                 NextObject();
                 break;
         }
+        if (question_) return false;
         if (wait_.count() == 0) continue;
-        game_.host.window.StartWait(wait_);
+        game_.parts.timers.StartWait(wait_);
         wait_ = std::chrono::milliseconds(0);
         return false;
     }
@@ -231,6 +237,8 @@ void CondActRunner::RunCondAct(const Runnable& condact, std::span<const std::int
         frame.phase = Phase::Called;
     } else if (wait_.count() > 0) {
         frame.phase = Phase::ActionDone;
+    } else if (question_) {
+        frame.phase = Phase::FileAsked;
     } else if (frame.phase == Phase::CondAct) {
         const bool goOn = routine.IsAction() ? GoesOnAfterAction(result) : GoesOnAfterCondition(result);
         if (!goOn) return LeaveEntry();
@@ -286,11 +294,22 @@ bool CondActRunner::TraceLeaving(const char* why) {
     return false;
 }
 
+void CondActRunner::GiveFile(const std::optional<std::filesystem::path>& file) {
+    question_->file = file;
+    if (file && !file->has_extension()) *question_->file += "." + std::string(question_->request.extension);
+}
+
+void CondActRunner::UseFile() {
+    const FileQuestion question = std::move(*question_);
+    question_.reset();
+    FinishAction(!question.file || question.action(game_, *question.file));
+}
+
 /// What an action began is over: its entry goes on behind it.
-void CondActRunner::FinishAction() {
+void CondActRunner::FinishAction(bool result) {
     Frame& frame = frames_.back();
     frame.phase = Phase::CondAct;
-    if (!GoesOnAfterAction(true)) return LeaveEntry();
+    if (!GoesOnAfterAction(result)) return LeaveEntry();
     const ProcessEntry& entry = (*Table(frame.process))[frame.entry];
     const std::int16_t number =
         game_.data.CondActsOf(entry)[static_cast<std::size_t>(frame.cell - kFirstCell)];

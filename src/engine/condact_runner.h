@@ -3,12 +3,15 @@
 #include <array>
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "engine/game_data.h"
+#include "engine/game_window.h"
 
 namespace fabula::engine {
 
@@ -35,8 +38,8 @@ class CondActRunner {
 
     /// Begins a run of one table at an entry and cell; -1 means the first. Run then carries it out.
     void DoCondActs(int process, int startX, int startY);
-    /// Runs on. True when the table has ended, false when a PAUSE waits: the window has then been asked for
-    /// a tick.
+    /// Runs on. True when the table has ended, false when it waits: for a file when FileAsked tells of one,
+    /// else in a PAUSE, for which a tick has been asked.
     bool Run();
 
     /// For the actions. PROCESS, DOALL, and waits: the run goes on behind the action when what it began is
@@ -44,6 +47,15 @@ class CondActRunner {
     void CallProcess(int process);
     void BeginDoAll();
     void Wait(std::chrono::milliseconds length) { wait_ = length; }
+    /// What an action does with the file that the player named; whether its entry goes on.
+    using FileAction = bool (*)(Game& game, const std::filesystem::path& file);
+    /// Asks for a file. When the player names none the entry goes on.
+    void AskForFile(const FileRequest& request, FileAction action) { question_ = {request, action, {}}; }
+
+    /// What file is asked for; nullptr when none is.
+    const FileRequest* FileAsked() const { return question_ ? &question_->request : nullptr; }
+    /// The player's answer; a name without an extension gets that of its kind. Run then goes on.
+    void GiveFile(const std::optional<std::filesystem::path>& file);
     /// Empties the call stack; `why` is the action's name for the trace.
     void ClearStack(std::string_view why);
     /// Later entries of the running call begin at their first cell again.
@@ -68,6 +80,7 @@ class CondActRunner {
         CondAct,     ///< at a condact of an entry
         Called,      ///< an action called a table, which is the frame above
         ActionDone,  ///< an action waited, or walked all its objects
+        FileAsked,   ///< an action asked for a file
         DoAll,       ///< between two objects of a DOALL
     };
     struct Frame {
@@ -77,6 +90,11 @@ class CondActRunner {
         int startCell = kFirstCell;
         int object = 0;  ///< of a DOALL: the next to look at
         Phase phase = Phase::Entry;
+    };
+    struct FileQuestion {
+        FileRequest request;
+        FileAction action;
+        std::optional<std::filesystem::path> file;
     };
     struct Runnable {
         const CondActRoutine* routine = nullptr;
@@ -100,7 +118,8 @@ class CondActRunner {
     bool GoesOnAfterAction(bool result);
     bool TraceLeaving(const char* why);
     void TraceCondAct(const Runnable& condact, int p1, int p2);
-    void FinishAction();
+    void UseFile();
+    void FinishAction(bool result);
     void NextObject();
     void LeaveEntry();
     void EndTable();
@@ -112,6 +131,7 @@ class CondActRunner {
     std::array<Runnable, 200> routines_{};  ///< by number, from kFirstNumber
     std::vector<Frame> frames_;
     std::chrono::milliseconds wait_{0};
+    std::optional<FileQuestion> question_;
     std::int64_t limit_;
     std::int64_t condactsRun_ = 0;
     std::int64_t entriesSeen_ = 0;

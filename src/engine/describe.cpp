@@ -26,7 +26,7 @@ bool PictureIsHeldBack(const Game& game, int location) {
 void Describe(Game& game) {
     const int location = game.Flag(flag::kLocation);
     if (game.trace.On()) {
-        game.host.window.ShowStatus(StatusField::Location, "Location: " + std::to_string(location));
+        game.parts.status.ShowStatus(StatusField::Location, "Location: " + std::to_string(location));
     }
     if (game.Flag(flag::kDescribe) == 0) return;
     if (!game.data.LocationExists(location)) FailMissing("location", location);
@@ -55,7 +55,7 @@ void DescribeLocation(Game& game, int location) {
 
 void ShowRoomPicture(Game& game, int location) {
     if (!game.data.graphics) return;
-    if (PictureIsHeldBack(game, location)) return game.host.window.HidePicture();
+    if (PictureIsHeldBack(game, location)) return game.parts.pictures.HidePicture();
     ShowPictureOf(game, location);
 }
 
@@ -64,11 +64,11 @@ void ShowPictureOf(Game& game, int location) {
     const std::string& own = game.data.pictures.at(static_cast<std::size_t>(location));
     const bool isLast = location == game.data.LastLocation();
     if (!own.empty() && !(isLast && own == game.data.defaultPicture)) {
-        game.host.window.ShowPicture({own, location});
+        game.parts.pictures.ShowPicture({own, location});
     } else if (!game.data.defaultPicture.empty()) {
-        game.host.window.ShowPicture({game.data.defaultPicture, -1});
+        game.parts.pictures.ShowPicture({game.data.defaultPicture, -1});
     } else {
-        game.host.window.HidePicture();
+        game.parts.pictures.HidePicture();
     }
 }
 

@@ -75,12 +75,12 @@ void Engine::Fail(const std::string& what) {
 }
 
 void Engine::EndGame() {
-    if (game_ && game_->timeOutRunning) session_->host.window.StopTimeOut();
+    if (game_ && game_->timeOutRunning) session_->parts.timers.StopTimeOut();
     waiting_ = Waiting::Nothing;
     tickPending_ = false;
     scriptPlaying_ = false;
     game_.reset();
-    session_->host.window.EndGame();
+    session_->parts.events.EndGame();
 }
 
 void Engine::Initialize() {
@@ -89,7 +89,7 @@ void Engine::Initialize() {
 }
 
 void Engine::Start() {
-    if (game_ && game_->timeOutRunning) session_->host.window.StopTimeOut();
+    if (game_ && game_->timeOutRunning) session_->parts.timers.StopTimeOut();
     tickPending_ = false;
     failed_ = false;
     game_.reset();
@@ -107,10 +107,10 @@ void Engine::Start() {
 }
 
 void Engine::ShowStatus() {
-    GameWindow& window = session_->host.window;
-    window.ShowStatus(StatusField::Script, session_->script.StatusText());
-    window.ShowStatus(StatusField::Sound, session_->soundOn ? "Sound ON" : "Sound OFF");
-    window.EnableNext(session_->script.Loaded());
+    StatusLine& status = session_->parts.status;
+    status.ShowStatus(StatusField::Script, session_->script.StatusText());
+    status.ShowStatus(StatusField::Sound, session_->soundOn ? "Sound ON" : "Sound OFF");
+    status.EnableNext(session_->script.Loaded());
 }
 
 /// Enters the turn cycle and deals with what it came to.
@@ -126,6 +126,9 @@ void Engine::Finish(ProcessLoop::Outcome outcome) {
     switch (outcome) {
         case ProcessLoop::Outcome::Pauses:
             waiting_ = Waiting::Pause;
+            return;
+        case ProcessLoop::Outcome::AsksForFile:
+            waiting_ = Waiting::File;
             return;
         case ProcessLoop::Outcome::Ended:
             return EndGame();
@@ -178,7 +181,7 @@ void Engine::EnterLine(std::string_view line) {
 void Engine::PressEnter() {
     Game& game = *game_;
     const bool asking = game.Flag(flag::kAsking) != 0;
-    session_->host.window.EndInput(asking ? game.answer : game.command);
+    session_->parts.input.EndInput(asking ? game.answer : game.command);
     game.printer.AtLineStart();
     ProcessInput(false);
 }
@@ -206,12 +209,12 @@ void Engine::TimeOutTick() {
     Game& game = *game_;
     const bool asking = game.Flag(flag::kAsking) != 0;
     game.timeOutRunning = false;
-    session_->host.window.StopTimeOut();
+    session_->parts.timers.StopTimeOut();
     if (!game.state.FlagBitSet(flag::kTimeOutOptions, 7)) {
         game.SetFlag(flag::kTimeOutOptions, game.Flag(flag::kTimeOutOptions) + 128);
     }
     if (game.trace.On()) game.trace.Line("Timer TimeOut");
-    session_->host.window.EndInput(asking ? game.answer : game.command);
+    session_->parts.input.EndInput(asking ? game.answer : game.command);
     game.printer.AtLineStart();
     game.command.clear();
     tickPending_ = true;
@@ -229,14 +232,31 @@ void Engine::FinishTick() {
     if (TimeOutIsArmed(*game_)) StartTimeOut(*game_);
 }
 
+const FileRequest& Engine::FileAsked() const {
+    return *game_->runner.FileAsked();
+}
+
+void Engine::GiveFile(const std::optional<std::filesystem::path>& file) {
+    if (waiting_ != Waiting::File) return;
+    game_->runner.GiveFile(file);
+    GoOn();
+}
+
+/// The turn goes on behind the action that waited, within its limits.
+void Engine::GoOn() {
+    Guard([this] { Finish(game_->loop.Continue()); });
+    if (scriptPlaying_) PlayScript();
+}
+
 void Engine::WaitTick() {
     if (waiting_ != Waiting::Pause) return;
     if (++pauses_ > kMostPauses) {
         return Fail("the game paused more than " + std::to_string(kMostPauses) +
                     " times without waiting for the player");
     }
-    RunLoop(&ProcessLoop::Continue);
-    if (scriptPlaying_) PlayScript();
+    game_->runner.ResetBudget();
+    game_->printer.ResetBudget();
+    GoOn();
 }
 
 void Engine::DoNextScript() {
@@ -249,7 +269,7 @@ void Engine::PlayScript() {
     scriptPlaying_ = true;
     while (waiting_ == Waiting::Sentence && session_->script.Loaded() && PlayScriptLine()) {
     }
-    if (waiting_ != Waiting::Pause) scriptPlaying_ = false;
+    if (waiting_ != Waiting::Pause && waiting_ != Waiting::File) scriptPlaying_ = false;
 }
 
 /// False at the end of the script.
@@ -265,7 +285,7 @@ bool Engine::PlayScriptLine() {
     const bool asking = game_->Flag(flag::kAsking) != 0;
     std::string& input = asking ? game_->answer : game_->command;
     input = AsTyped(*line);
-    session_->host.window.EndInput(input);
+    session_->parts.input.EndInput(input);
     game_->printer.AtLineStart();
     ProcessInput(true);
     return true;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,7 @@ struct Host {
     platform::RandomSource& random;
     SoundPlayer& sound;
     TraceSink* trace = nullptr;  ///< nullptr: nothing is traced
+    WindowParts parts = {};
 };
 
 struct Options {
@@ -40,6 +42,7 @@ enum class Waiting {
     Sentence,  ///< a line: Key or EnterLine
     Answer,    ///< a line that answers a question: Key or EnterLine
     AnyKey,    ///< one key: Key (or EnterLine with whatever text)
+    File,      ///< the name of a file: GiveFile, in answer to FileAsked
     Pause,     ///< nothing of the player: WaitTick, when the time that StartWait told has passed
     Nothing,   ///< no game is running: not started, or ended
 };
@@ -53,6 +56,7 @@ enum class Waiting {
 ///     engine.Initialize();
 ///     while (engine.WaitingFor() != Waiting::Nothing) {
 ///         if (engine.WaitingFor() == Waiting::Pause) engine.WaitTick();
+///         else if (engine.WaitingFor() == Waiting::File) engine.GiveFile(std::nullopt);
 ///         else engine.EnterLine(ReadLine());
 ///     }
 ///
@@ -82,15 +86,23 @@ class Engine {
     /// A whole line, as if typed and ended by Enter; it may be empty. Ignored as Key is.
     void EnterLine(std::string_view line);
 
-    /// The time-out that GameWindow::StartTimeOut started has run out.
+    /// What file the game wants. Only while it waits for one.
+    const FileRequest& FileAsked() const;
+    /// The file that the player named, or nullopt when the player gives up: SAVE, LOAD and SCRIPT then do
+    /// nothing. Ignored unless the game waits for a file.
+    void GiveFile(const std::optional<std::filesystem::path>& file);
+
+    /// The time-out that GameTimers::StartTimeOut started has run out.
     void TimeOutTick();
 
-    /// The time that GameWindow::StartWait told has passed. Ignored unless the game pauses.
+    /// The time that GameTimers::StartWait told has passed. Ignored unless the game pauses.
     void WaitTick();
 
     /// "Next": plays the script that SCRIPT opened, up to the next question of the game, pause or end of
     /// the file.
     void DoNextScript();
+    /// Whether "Next" goes on when the pause or the question for a file is over.
+    bool PlaysScript() const { return scriptPlaying_; }
 
     /// The sound switch of the session. Tells the new state to the status.
     void ToggleSound();
@@ -117,6 +129,7 @@ class Engine {
     void Guard(Step step);
     void Start();
     void RunLoop(ProcessLoop::Outcome (ProcessLoop::*entrance)());
+    void GoOn();
     void Finish(ProcessLoop::Outcome outcome);
     void PlayerIsBack();
     void PressEnter();
@@ -135,7 +148,7 @@ class Engine {
     Waiting waiting_ = Waiting::Nothing;
     bool failed_ = false;
     bool tickPending_ = false;    ///< the turn of a time-out has not ended yet
-    bool scriptPlaying_ = false;  ///< "Next" goes on behind a pause
+    bool scriptPlaying_ = false;  ///< "Next" goes on behind a pause or a question for a file
     int restarts_ = 0;            ///< since the player was last asked
     std::int64_t pauses_ = 0;     ///< since the player was last asked
 };

@@ -50,6 +50,7 @@ GameLook LookOf(const Game& game) {
 Game::Game(store::Adventure& adventure, Session& theSession)
     : session(theSession),
       host(theSession.host),
+      parts(theSession.parts),
       reading_(adventure),
       data(adventure),
       texts(adventure, data.type),
@@ -66,7 +67,7 @@ Game::Game(store::Adventure& adventure, Session& theSession)
         prompt = texts.SystemMessage(kPromptMessage);
         cursor = printer.WithoutMarkup(texts.SystemMessage(kCursorMessage));
     }
-    host.window.StartGame(LookOf(*this));
+    parts.events.StartGame(LookOf(*this));
     printer.Clear();
 }
 

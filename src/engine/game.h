@@ -9,6 +9,7 @@
 #include "engine/engine.h"
 #include "engine/game_data.h"
 #include "engine/game_texts.h"
+#include "engine/host_parts.h"
 #include "engine/printer.h"
 #include "engine/process_loop.h"
 #include "engine/run_state.h"
@@ -25,9 +26,11 @@ struct Tone {
 
 /// What outlives a restart of the game.
 struct Session {
-    Session(const Host& theHost, const Options& theOptions) : host(theHost), options(theOptions) {}
+    Session(const Host& theHost, const Options& theOptions)
+        : host(theHost), parts(theHost.parts), options(theOptions) {}
 
     const Host host;
+    HostParts parts;
     const Options options;
     Script script;
     bool soundOn = false;
@@ -46,6 +49,7 @@ class Game {
 
     Session& session;
     const Host& host;
+    HostParts& parts;
 
   private:
     store::ReadTransaction reading_;

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <chrono>
-#include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -68,23 +66,20 @@ struct FileRequest {
     std::string_view title;      ///< "Save as a Fabula Save File"
     std::string_view filter;     ///< "Fabula Save File|*.sav"
     std::string_view extension;  ///< "sav"; appended by the engine to a name without one
-    bool forWriting = false;     ///< the window asks before a file is overwritten
+    bool forWriting = false;     ///< whoever asks the player lets him agree before a file is overwritten
 };
 
-/// The window as the engine sees it. The engine calls it while it runs and then returns; it never waits in
-/// here. Texts are UTF-8 without markup.
+// The window of a game as the engine sees it, in narrow parts. The engine calls them while it runs and then
+// returns; it never waits in here, and none gives it an answer: what the player says comes to the engine by
+// the members of Engine, whenever it comes.
+
+/// Where texts go: all that a printer needs. Texts are UTF-8 without markup.
 ///
 /// Of the character pane a run holds characters by their codes as code points: 32 to 127 the font, 128 to
 /// 143 block graphics, 144 to 164 user-defined graphics. Of the text pane it holds ordinary text.
 class GameWindow {
   public:
     virtual ~GameWindow() = default;
-
-    /// A game is about to start, or to start again: the input is closed and the pane of `look` shown.
-    virtual void StartGame(const GameLook& look) = 0;
-    /// The game has ended. A player's window offers to load another and closes the input; that of a test
-    /// run goes back to the authoring tool.
-    virtual void EndGame() = 0;
 
     /// The width at which lines break, asked before each text: columns in the text pane, pixels in the
     /// character pane. At most kNoWidthLimit, which means that lines never break.
@@ -98,30 +93,78 @@ class GameWindow {
     virtual void Write(std::string_view text, const TextStyle& style, TextRole role) = 0;
     virtual void EndLine(LineEnd kind) = 0;
     virtual void Clear(int paper, int ink) = 0;
+};
 
+/// The start and the end of games.
+class GameEvents {
+  public:
+    virtual ~GameEvents() = default;
+    /// A game is about to start, or to start again: the input is closed and the pane of `look` shown.
+    virtual void StartGame(const GameLook& look) = 0;
+    /// The game has ended. A player's window offers to load another and closes the input; that of a test
+    /// run goes back to the authoring tool.
+    virtual void EndGame() = 0;
+};
+
+/// The line in which the player types.
+class InputLine {
+  public:
+    virtual ~InputLine() = default;
     /// Shows what has been typed so far, and the cursor behind it, in place of what the last call showed.
     /// Called when the input opens (with nothing typed) and after each key.
     virtual void ShowInput(std::string_view typed, std::string_view cursor) = 0;
     /// The line has been entered: it stays on the screen without a cursor, and its line ends. Also called
     /// for a line that came whole, by script or through Engine::EnterLine, which no ShowInput showed.
     virtual void EndInput(std::string_view typed) = 0;
+};
 
+/// Where pictures are shown.
+class PictureScreen {
+  public:
+    virtual ~PictureScreen() = default;
     virtual void ShowPicture(const Picture& picture) = 0;
     virtual void HidePicture() = 0;
+};
 
+/// What is told beside the text.
+class StatusLine {
+  public:
+    virtual ~StatusLine() = default;
     virtual void ShowStatus(StatusField field, std::string_view text) = 0;
     /// Whether the script can be stepped by "Next".
     virtual void EnableNext(bool enabled) = 0;
+};
 
+/// The passing of time.
+class GameTimers {
+  public:
+    virtual ~GameTimers() = default;
     /// Starts the time-out afresh: unless it is stopped or started again, Engine::TimeOutTick is due after
     /// it.
     virtual void StartTimeOut(std::chrono::milliseconds length) = 0;
     virtual void StopTimeOut() = 0;
     /// The game pauses: Engine::WaitTick is due after `length`. Until then the engine takes no keys.
     virtual void StartWait(std::chrono::milliseconds length) = 0;
+};
 
-    /// The file that the player names, or nullopt when the player gives up.
-    virtual std::optional<std::filesystem::path> AskForFile(const FileRequest& request) = 0;
+/// The parts that a host has beside the text. What it lacks (nullptr) is neither shown nor timed.
+struct WindowParts {
+    GameEvents* events = nullptr;
+    InputLine* input = nullptr;
+    PictureScreen* pictures = nullptr;
+    StatusLine* status = nullptr;
+    GameTimers* timers = nullptr;
+};
+
+/// A window that is all of them.
+class WholeWindow : public GameWindow,
+                    public GameEvents,
+                    public InputLine,
+                    public PictureScreen,
+                    public StatusLine,
+                    public GameTimers {
+  public:
+    WindowParts Parts() { return {this, this, this, this, this}; }
 };
 
 /// The blank at which no line may break (GameWindow::BreaksLines).

@@ -56,7 +56,8 @@ ProcessLoop::Outcome ProcessLoop::Run(Label label) {
     while (label != Label::Return) {
         switch (label) {
             case Label::Table:
-                if (!game_.runner.Run()) return Outcome::Pauses;
+                if (!game_.runner.Run())
+                    return game_.runner.FileAsked() ? Outcome::AsksForFile : Outcome::Pauses;
                 label = afterTable_;
                 break;
             case Label::Begin:
@@ -177,7 +178,7 @@ ProcessLoop::Label ProcessLoop::ParseSentence() {
 void ProcessLoop::TraceSentence() {
     if (!game_.trace.On()) return;
     const std::string words = SentenceWords(game_);
-    game_.host.window.ShowStatus(StatusField::Command, words);
+    game_.parts.status.ShowStatus(StatusField::Command, words);
     game_.trace.Line("Processing sentence (abverb verb adjective noun prep " + words + ")");
 }
 

@@ -14,7 +14,8 @@ class ProcessLoop {
 
     enum class Outcome {
         WaitsForPlayer,
-        Pauses,  ///< Continue goes on when the wait is over
+        Pauses,       ///< Continue goes on when the wait is over
+        AsksForFile,  ///< Continue goes on when the file was given
         Ended,
         Restarts,  ///< the game has ended, and is to start again
     };
@@ -25,7 +26,7 @@ class ProcessLoop {
     Outcome Enter();
     /// The player has answered: goes on at the place that the asking action remembered.
     Outcome Resume();
-    /// The wait of a PAUSE is over.
+    /// The wait of a PAUSE is over, or the file that was asked for is there.
     Outcome Continue();
 
     /// The turn count was brought back from an earlier state: it no longer tells whether the line ran a

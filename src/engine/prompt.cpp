@@ -48,7 +48,7 @@ void ShowTyped(Game& game) {
     const std::string& typed = asking ? game.answer : game.command;
     // The character pane shows no cursor behind the prompt of a sentence before the first key.
     const bool cursorShown = asking || !typed.empty() || !game.data.characterSets;
-    game.host.window.ShowInput(typed, cursorShown ? game.cursor : "");
+    game.parts.input.ShowInput(typed, cursorShown ? game.cursor : "");
 }
 
 bool TimeOutIsArmed(const Game& game) {
@@ -61,13 +61,13 @@ void StartTimeOut(Game& game) {
         game.timeOutInterval != 0 ? game.timeOutInterval : game.Flag(flag::kTimeOut) * kTimeOutUnit;
     if (interval <= 0) return;
     game.timeOutRunning = true;
-    game.host.window.StartTimeOut(std::chrono::milliseconds(interval));
+    game.parts.timers.StartTimeOut(std::chrono::milliseconds(interval));
 }
 
 void StopTimeOut(Game& game) {
     if (!TimeOutIsArmed(game)) return;
     game.timeOutRunning = false;
-    game.host.window.StopTimeOut();
+    game.parts.timers.StopTimeOut();
     ClearTimeOutMark(game);
 }
 

@@ -59,7 +59,7 @@ void RecordingWindow::StartTimeOut(std::chrono::milliseconds length) {
     ++timeOutStarts;
 }
 
-std::optional<std::filesystem::path> RecordingWindow::AskForFile(const FileRequest& request) {
+std::optional<std::filesystem::path> RecordingWindow::FileFor(const FileRequest& request) {
     fileQuestions.emplace_back(request.title);
     if (files_.empty() && givesUp) return std::nullopt;
     if (files_.empty()) throw std::logic_error("the game asked for a file: " + std::string(request.title));

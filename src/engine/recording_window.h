@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
@@ -13,7 +14,7 @@ namespace fabula::engine {
 
 /// A window for tests: keeps what the game shows, answers what it was told to answer, and lets no time pass
 /// by itself.
-class RecordingWindow final : public GameWindow {
+class RecordingWindow final : public WholeWindow {
   public:
     struct Run {
         std::string text;
@@ -75,7 +76,9 @@ class RecordingWindow final : public GameWindow {
     void StartTimeOut(std::chrono::milliseconds length) override;
     void StopTimeOut() override { timeOut.reset(); }
     void StartWait(std::chrono::milliseconds length) override { waits.push_back(length); }
-    std::optional<std::filesystem::path> AskForFile(const FileRequest& request) override;
+
+    /// The answer to a question for a file.
+    std::optional<std::filesystem::path> FileFor(const FileRequest& request);
 
   private:
     std::string text_;

@@ -18,13 +18,6 @@ constexpr FileRequest kLoadRequest = {"Open Existing Fabula Save File", "Fabula 
 constexpr FileRequest kWriteScriptRequest = {"Output SCRIPT Name", "Fabula Script|*.scr", "scr", true};
 constexpr FileRequest kReadScriptRequest = {"Input SCRIPT Name", "Fabula Script|*.scr", "scr", false};
 
-/// The file that the player names, with the extension of its kind when the name has none.
-std::optional<std::filesystem::path> AskForFile(Game& game, const FileRequest& request) {
-    std::optional<std::filesystem::path> file = game.host.window.AskForFile(request);
-    if (file && !file->has_extension()) *file += "." + std::string(request.extension);
-    return file;
-}
-
 bool Fail(Game& game, std::string_view message) {
     game.host.oper.Tell(message, kErrorTitle);
     game.done = true;
@@ -54,18 +47,50 @@ struct SessionFlags {
 
 void ShowScriptState(Game& game) {
     game.SetFlag(flag::kScript, game.session.script.State());
-    game.host.window.ShowStatus(StatusField::Script, game.session.script.StatusText());
-    game.host.window.EnableNext(game.session.script.Loaded());
+    game.parts.status.ShowStatus(StatusField::Script, game.session.script.StatusText());
+    game.parts.status.EnableNext(game.session.script.Loaded());
 }
 
-void StartScript(Game& game) {
-    const std::optional<std::filesystem::path> file = AskForFile(game, kWriteScriptRequest);
-    if (file) game.session.script.StartWriting(*file);
+bool StartScript(Game& game, const std::filesystem::path& file) {
+    try {
+        game.session.script.StartWriting(file);
+    } catch (const Error& error) {
+        return Fail(game, error.what());
+    }
+    ShowScriptState(game);
+    return true;
 }
 
-void LoadScript(Game& game) {
-    const std::optional<std::filesystem::path> file = AskForFile(game, kReadScriptRequest);
-    if (file) game.session.script.Load(*file);
+bool LoadScript(Game& game, const std::filesystem::path& file) {
+    try {
+        game.session.script.Load(file);
+    } catch (const Error& error) {
+        return Fail(game, error.what());
+    }
+    ShowScriptState(game);
+    return true;
+}
+
+bool SaveInto(Game& game, const std::filesystem::path& file) {
+    try {
+        WriteSavedGame(file, game.data, game.state);
+    } catch (const Error& error) {
+        return Fail(game, error.what());
+    }
+    Desc(game, 0, 0);
+    game.runner.ClearStack("Save");
+    return true;
+}
+
+bool LoadOutOf(Game& game, const std::filesystem::path& file) {
+    try {
+        if (!RestoreFrom(game, file)) return Fail(game, "Invalid Save File for this Adventure");
+    } catch (const Error& error) {
+        return Fail(game, error.what());
+    }
+    Desc(game, 0, 0);
+    game.runner.ClearStack("Load");
+    return true;
 }
 
 struct WordKind {
@@ -93,15 +118,7 @@ constexpr int kRepeatedFlags[] = {flag::kVerb,        flag::kNoun,        flag::
 }  // namespace
 
 bool Save(Game& game, int, int) {
-    const std::optional<std::filesystem::path> file = AskForFile(game, kSaveRequest);
-    if (!file) return true;
-    try {
-        WriteSavedGame(*file, game.data, game.state);
-    } catch (const Error& error) {
-        return Fail(game, error.what());
-    }
-    Desc(game, 0, 0);
-    game.runner.ClearStack("Save");
+    game.runner.AskForFile(kSaveRequest, SaveInto);
     return true;
 }
 
@@ -113,15 +130,7 @@ bool RestoreFrom(Game& game, const std::filesystem::path& file) {
 }
 
 bool Load(Game& game, int, int) {
-    const std::optional<std::filesystem::path> file = AskForFile(game, kLoadRequest);
-    if (!file) return true;
-    try {
-        if (!RestoreFrom(game, *file)) return Fail(game, "Invalid Save File for this Adventure");
-    } catch (const Error& error) {
-        return Fail(game, error.what());
-    }
-    Desc(game, 0, 0);
-    game.runner.ClearStack("Load");
+    game.runner.AskForFile(kLoadRequest, LoadOutOf);
     return true;
 }
 
@@ -169,20 +178,16 @@ bool Again(Game& game, int, int) {
 
 bool ScriptAction(Game& game, int value, int) {
     Script& script = game.session.script;
-    try {
-        if (value == 0) {
-            script.CloseAll();
-        } else if (value == 1) {
-            if (script.Writing()) return Fail(game, "Script is already on!");
-            StartScript(game);
-        } else {
-            if (script.Loaded()) return Fail(game, "Script is already loaded!");
-            LoadScript(game);
-        }
-    } catch (const Error& error) {
-        return Fail(game, error.what());
+    if (value == 0) {
+        script.CloseAll();
+        ShowScriptState(game);
+    } else if (value == 1) {
+        if (script.Writing()) return Fail(game, "Script is already on!");
+        game.runner.AskForFile(kWriteScriptRequest, StartScript);
+    } else {
+        if (script.Loaded()) return Fail(game, "Script is already loaded!");
+        game.runner.AskForFile(kReadScriptRequest, LoadScript);
     }
-    ShowScriptState(game);
     return true;
 }
 

@@ -106,6 +106,7 @@ std::unique_ptr<GameRun> Play(std::uint32_t seed, bool traced) {
         run->random.numbers.push_back(static_cast<int>(chances() % 101));
     run->window.givesUp = true;
     run->engine.Initialize();
+    run->GiveFiles();
     for (int step = 0; step < 40 && run->Waits() != Waiting::Nothing; ++step) {
         if (run->Waits() == Waiting::Pause) {
             run->engine.WaitTick();
@@ -114,6 +115,7 @@ std::unique_ptr<GameRun> Play(std::uint32_t seed, bool traced) {
         } else {
             run->engine.EnterLine(random.Typed());
         }
+        run->GiveFiles();
     }
     EXPECT_EQ(run->Waits() == Waiting::Nothing, run->engine.Running() == nullptr);
     return run;

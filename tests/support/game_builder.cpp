@@ -86,11 +86,18 @@ bool RecordingTrace::Has(std::string_view line) const {
 GameRun::GameRun(std::unique_ptr<TempFolder> folder, const engine::Options& options, bool traced)
     : folder_(std::move(folder)),
       adventure_(store::Adventure::Open(*folder_ / "game.fbd", store::OpenMode::ReadOnly)),
-      engine(*adventure_, {window, oper, random, sound, traced ? &trace : nullptr}, options) {}
+      engine(*adventure_, {window, oper, random, sound, traced ? &trace : nullptr, window.Parts()},
+             options) {}
 
 std::string GameRun::Type(std::string_view line) {
     engine.EnterLine(line);
+    GiveFiles();
     return Said();
+}
+
+void GameRun::GiveFiles() {
+    while (Waits() == engine::Waiting::File)
+        engine.GiveFile(window.FileFor(engine.FileAsked()));
 }
 
 std::string GameRun::Said() {
@@ -366,6 +373,7 @@ std::unique_ptr<GameRun> GameBuilder::Open() const {
 std::unique_ptr<GameRun> GameBuilder::Start() const {
     std::unique_ptr<GameRun> run = Open();
     run->engine.Initialize();
+    run->GiveFiles();
     return run;
 }
 
@@ -374,6 +382,7 @@ std::unique_ptr<GameRun> GameBuilder::Do(std::string condacts) {
     std::unique_ptr<GameRun> run = Start();
     run->Said();
     run->engine.EnterLine("DO");
+    run->GiveFiles();
     return run;
 }
 

@@ -66,6 +66,8 @@ class GameRun {
 
     /// Types a line and gives what the game said in answer, up to the next prompt.
     std::string Type(std::string_view line);
+    /// Answers the questions for files as the window was told to. Type does so by itself.
+    void GiveFiles();
     /// What the game said since the last call, without the prompt at its end.
     std::string Said();
     /// The message of the latest box; "" when there was none.

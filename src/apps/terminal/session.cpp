@@ -24,7 +24,7 @@ class Session {
           screen_(screen),
           options_(options),
           random_(options.seed ? *options.seed : platform::UnpredictableSeed()),
-          engine_(adventure, {window, window, random_, sound_, options.trace},
+          engine_(adventure, {window, window, random_, sound_, options.trace, window.Parts()},
                   {.traceFile = options.trace != nullptr}),
           debug_(engine_) {}
 
@@ -41,13 +41,31 @@ class Session {
   private:
     /// Brings what the game waits for. False at the end of the input.
     bool Step() {
-        if (engine_.WaitingFor() != Waiting::Pause) return StepInput();
+        if (engine_.WaitingFor() == Waiting::Pause) {
+            PassPause();
+        } else if (engine_.WaitingFor() == Waiting::File) {
+            const auto file = window_.AskForFile(engine_.FileAsked());
+            Play([&] { engine_.GiveFile(file); });
+        } else {
+            return StepInput();
+        }
+        return true;
+    }
+
+    void PassPause() {
         if (options_.realTime) {
             screen_.Show();
             std::this_thread::sleep_for(window_.Wait());
         }
-        engine_.WaitTick();
-        return true;
+        Play([this] { engine_.WaitTick(); });
+    }
+
+    /// A step in which the engine may go on with a script: its lines are then shown.
+    template <typename EngineStep>
+    void Play(EngineStep step) {
+        window_.SetPlaying(engine_.PlaysScript());
+        step();
+        window_.SetPlaying(false);
     }
 
     bool StepInput() {

@@ -15,7 +15,7 @@ namespace fabula::terminal {
 
 /// The window of a game on a screen of text, and its boxes. Pictures and status are not shown. Lines break
 /// at the screen's width, not at the game's.
-class TerminalWindow final : public engine::GameWindow, public platform::Operator {
+class TerminalWindow final : public engine::WholeWindow, public platform::Operator {
   public:
     TerminalWindow(Screen& screen, const PlayerFiles& files) : screen_(screen), files_(files) {}
 
@@ -49,7 +49,9 @@ class TerminalWindow final : public engine::GameWindow, public platform::Operato
     void StartTimeOut(std::chrono::milliseconds length) override { timeOut_ = length; }
     void StopTimeOut() override { timeOut_.reset(); }
     void StartWait(std::chrono::milliseconds length) override { wait_ = length; }
-    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request) override;
+
+    /// The file that the player names; nullopt when he gives up.
+    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request);
 
     void Tell(std::string_view text, std::string_view title) override;
     bool Confirm(std::string_view text, std::string_view title) override;

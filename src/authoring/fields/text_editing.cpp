@@ -23,22 +23,7 @@ class PreviewWindow final : public engine::GameWindow {
         lines_.back().push_back({std::string(text), style, {}});
     }
     void EndLine(engine::LineEnd) override { lines_.emplace_back(); }
-
-    void StartGame(const engine::GameLook&) override {}
-    void EndGame() override {}
     void Clear(int, int) override {}
-    void ShowInput(std::string_view, std::string_view) override {}
-    void EndInput(std::string_view) override {}
-    void ShowPicture(const engine::Picture&) override {}
-    void HidePicture() override {}
-    void ShowStatus(engine::StatusField, std::string_view) override {}
-    void EnableNext(bool) override {}
-    void StartTimeOut(std::chrono::milliseconds) override {}
-    void StopTimeOut() override {}
-    void StartWait(std::chrono::milliseconds) override {}
-    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest&) override {
-        return std::nullopt;
-    }
 
   private:
     int width_;

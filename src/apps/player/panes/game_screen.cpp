@@ -73,6 +73,7 @@ void GameScreen::Attach(Session* session) {
     session_ = session;
     pictures_.reset();
     if (session_ == nullptr) return;
+    session_->AskForFilesBy([this](const engine::FileRequest& request) { return AskForFile(request); });
     pictures_ = std::make_unique<GamePictures>(session_->Adventure(), events_.notice);
 }
 

@@ -46,7 +46,7 @@ struct ScreenLook {
 
 /// The panes of a game: picture, text and characters. It draws what the engine tells, and brings the
 /// player's keys and the passing of time to the session.
-class GameScreen final : public QWidget, public engine::GameWindow {
+class GameScreen final : public QWidget, public engine::WholeWindow {
   public:
     GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, ScreenEvents events);
     ~GameScreen() override;
@@ -84,7 +84,6 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     void StartTimeOut(std::chrono::milliseconds length) override;
     void StopTimeOut() override;
     void StartWait(std::chrono::milliseconds length) override;
-    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request) override;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -96,6 +95,7 @@ class GameScreen final : public QWidget, public engine::GameWindow {
     void ReplaceLine(const std::string& line);
     void TimeOutTick();
     void WaitTick();
+    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request);
     void ChoosePane();
     void ColourPicture();
     void FitPicture();

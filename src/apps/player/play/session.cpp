@@ -50,7 +50,14 @@ bool Session::Run(Step step) {
     if (busy_) return false;
     const Mark busy(busy_);
     step();
+    GiveFiles();
     return true;
+}
+
+/// The question for a file is a box too.
+void Session::GiveFiles() {
+    while (WaitingFor() == Waiting::File)
+        engine_.GiveFile(askForFile_ ? askForFile_(engine_.FileAsked()) : std::nullopt);
 }
 
 bool Session::Start() {

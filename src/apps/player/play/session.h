@@ -1,9 +1,12 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "engine/engine.h"
 #include "platform/timers.h"
@@ -36,6 +39,11 @@ class Session {
     const std::filesystem::path& SaveFolder() const { return folder_.folder; }
     store::Adventure& Adventure() { return *adventure_; }
 
+    /// Who asks the player for the name of a file; nullopt when the player gives up. Without one the player
+    /// always does.
+    using FileAsker = std::function<std::optional<std::filesystem::path>(const engine::FileRequest&)>;
+    void AskForFilesBy(FileAsker asker) { askForFile_ = std::move(asker); }
+
     /// Starts the game.
     bool Start();
     /// Whether there is a state of an earlier session to go on from.
@@ -66,6 +74,7 @@ class Session {
   private:
     template <typename Step>
     bool Run(Step step);
+    void GiveFiles();
     void AfterTurn();
     void WriteAutosave();
 
@@ -73,6 +82,7 @@ class Session {
     GameFolder folder_;
     engine::Engine engine_;
     platform::Operator& oper_;
+    FileAsker askForFile_;
     bool keeps_;
     platform::Alarm autosave_;
     bool busy_ = false;

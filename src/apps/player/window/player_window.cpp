@@ -236,7 +236,8 @@ void PlayerWindow::Load(const std::filesystem::path& file) {
     try {
         opened = std::make_unique<Session>(
             file, services_.dataFolder,
-            engine::Host{*screen_, services_.dialogs, services_.random, services_.sound, services_.trace},
+            engine::Host{*screen_, services_.dialogs, services_.random, services_.sound, services_.trace,
+                         screen_->Parts()},
             services_.timers, services_.testRun ? Autosave::Off : Autosave::On, services_.options);
     } catch (const Error& error) {
         services_.dialogs.Tell(error.what(), "Error");
