@@ -4,6 +4,10 @@
 #include "interchange/fabula_writer.h"
 #include "interchange/pc_source_reader.h"
 #include "interchange/pc_source_writer.h"
+#include "interchange/unmarlo/unmarlo_reader.h"
+#include "interchange/unvel/unvel_head.h"
+#include "interchange/unvel/unvel_reader.h"
+#include "interchange/unvel/unvel_writer.h"
 #include "text/utf8.h"
 
 namespace fabula::interchange {
@@ -23,6 +27,26 @@ store::AdventureSetup SetupOfAceSource(const std::filesystem::path&) {
 
 // Paper and ink of an ACE source are white and black as screen colours; these are their numbers.
 const FileKind kKinds[] = {
+    {"unmarlo",
+     "UnMarlo",
+     ".unq",
+     {"", "Load an UnMarlo output file", "All files|*.*"},
+     {},
+     SetupOfUnMarlo,
+     LoadUnMarlo,
+     nullptr,
+     {"UnMarlo", true, false, 0, 0, 0},
+     true},
+    {"unvel",
+     "UnVel",
+     ".pex",
+     {"", "Load an UnVel output file", "All files|*.*"},
+     {"*.pex", "Save as an UnVEL Extract", "UnVEL Extract (*.pex)|*.pex"},
+     SetupOfUnVel,
+     LoadUnVel,
+     ExportUnVel,
+     {"UnVel", true, false, 0, 0, 0},
+     true},
     {"pcvel",
      "PCVEL",
      ".sce",

@@ -40,6 +40,7 @@ struct FileKind {
     bool (*read)(ImportContext& context);      ///< nullptr when it can't be read
     bool (*write)(ExportContext& context);     ///< nullptr when it can't be written
     ImportedSettings settings;
+    bool savesPictures = false;  ///< pictures that come in as drawings are saved as bitmaps, too
 
     bool CanRead() const { return read != nullptr; }
     bool CanWrite() const { return write != nullptr; }

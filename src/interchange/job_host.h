@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "interchange/job_status.h"
 #include "interchange/source_file.h"
@@ -27,6 +28,7 @@ struct ExportContext {
     std::filesystem::path target;
     platform::Operator& person;
     JobStatus& status;
+    std::string version = {};  ///< the form of the file, for kinds that have several; "" for the usual one
 };
 
 }  // namespace fabula::interchange

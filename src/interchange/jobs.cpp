@@ -1,5 +1,6 @@
 #include "interchange/jobs.h"
 
+#include "pictures/room_bitmaps.h"
 #include "platform/error.h"
 #include "store/create.h"
 #include "store/file_copy.h"
@@ -57,6 +58,13 @@ bool Build(const FileKind& kind, const std::filesystem::path& source, const std:
     return true;
 }
 
+/// A game that is drawn gets the bitmaps that are shown of its pictures, beside the new file.
+void SavePictures(const std::filesystem::path& target, JobStatus& status) {
+    const auto adventure = Adventure::Open(target);
+    for (const std::string& fault : pictures::SaveRoomBitmaps(*adventure).faults)
+        status.AddLoss(fault);
+}
+
 bool IsBlank(const std::filesystem::path& path) {
     return text::StrEdit(path.string(), "trim").empty();
 }
@@ -86,6 +94,7 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
     try {
         done = Build(kind, source, making.Path(), target, host, status, places);
         if (done) store::MoveIntoPlace(making.Path(), target);
+        if (done && kind.savesPictures) SavePictures(target, status);
     } catch (const JobCancelled&) {
         status.AddToStatusCR("Import cancelled");
     } catch (const TooManyFaults&) {
@@ -105,7 +114,7 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
 }
 
 JobResult ExportIt(const FileKind& kind, Adventure& adventure, const std::filesystem::path& target,
-                   const Verifier& verify, const JobHost& host) {
+                   const Verifier& verify, const JobHost& host, const std::string& version) {
     JobStatus status(host.observer);
     status.AddToStatus("CLS");
     if (IsBlank(target)) {
@@ -114,7 +123,7 @@ JobResult ExportIt(const FileKind& kind, Adventure& adventure, const std::filesy
     }
     try {
         const bool passed = verify(adventure, kind, status);
-        ExportContext context{adventure, target, host.person, status};
+        ExportContext context{adventure, target, host.person, status, version};
         const bool done = passed && kind.write(context);
         return ResultOf(done, status);
     } catch (const JobCancelled&) {

@@ -47,8 +47,8 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
 using Verifier = std::function<bool(store::Adventure&, const FileKind&, JobStatus&)>;
 
 /// Verifies `adventure` for the kind and writes it to `target`, which is replaced when the file is
-/// complete.
+/// complete. `version` names the form of the file, for kinds that have several.
 JobResult ExportIt(const FileKind& kind, store::Adventure& adventure, const std::filesystem::path& target,
-                   const Verifier& verify, const JobHost& host);
+                   const Verifier& verify, const JobHost& host, const std::string& version = {});
 
 }  // namespace fabula::interchange

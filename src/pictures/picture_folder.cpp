@@ -10,11 +10,10 @@
 #include "pictures/drawing.h"
 #include "pictures/drawstring.h"
 #include "pictures/drawstring_check.h"
-#include "pictures/image.h"
+#include "pictures/room_bitmaps.h"
 #include "platform/error.h"
 #include "platform/whole_file.h"
 #include "store/adventure.h"
-#include "text/format.h"
 
 namespace fabula::pictures {
 namespace {
@@ -93,12 +92,6 @@ std::vector<DrawingFile> FindDrawings(const std::filesystem::path& folder) {
     return found;
 }
 
-std::string BitmapName(const store::Adventure& adventure, const DrawingFile& drawing) {
-    const std::string name =
-        drawing.isDefault ? "Default" : text::FormatText("Room!%z3", {std::int64_t{drawing.number}});
-    return "pictures/" + adventure.CurrentFile().stem().string() + "/" + name + ".bmp";
-}
-
 void StorePicture(store::Adventure& adventure, const Picture& picture, const std::string& bitmap,
                   int room) {
     const std::string where = "locnum=" + std::to_string(picture.number);
@@ -113,31 +106,6 @@ void StorePicture(store::Adventure& adventure, const Picture& picture, const std
     cursor.SetField("picname", bitmap);
     cursor.SetField("roompicnum", room);
     cursor.Update();
-}
-
-void NameBitmap(store::Adventure& adventure, const DrawingFile& drawing, const std::string& bitmap) {
-    if (drawing.isDefault) {
-        Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
-        settings.SetField("defpickey", "Default");
-        settings.SetField("defpicloc", bitmap);
-        settings.Update();
-        return;
-    }
-    const std::string number = std::to_string(drawing.number);
-    Cursor& room = adventure.OpenTable(TableNum::Locations, "def", "locnum=" + number);
-    room.SetField("pickey", "Room" + number);
-    room.SetField("picloc", bitmap);
-    room.Update();
-}
-
-void SaveBitmap(const std::filesystem::path& file, const Canvas& canvas) {
-    std::error_code error;
-    std::filesystem::create_directories(file.parent_path(), error);
-    if (error) {
-        throw Error("Could not make the folder " + file.parent_path().string() + ": " + error.message() +
-                    ".");
-    }
-    WriteImage(file, ImageOf(canvas.colour));
 }
 
 }  // namespace
@@ -157,12 +125,13 @@ void AddPictureFolder(store::Adventure& adventure, const std::filesystem::path& 
         Picture& picture = book.pictures.at(drawing.number);
         const DrawstringCheck check = ValidateDrawString(book, picture.drawstring, picture.kind);
         if (!check.Passed()) throw Error(drawing.file.string() + ": " + check.fault);
-        const std::string bitmap = isShown(drawing) ? BitmapName(adventure, drawing) : "";
+        const std::optional<int> room = drawing.isDefault ? std::nullopt : std::optional(drawing.number);
+        const std::string bitmap = isShown(drawing) ? BitmapName(adventure, room) : "";
         StorePicture(adventure, picture, bitmap,
                      isShown(drawing) && !drawing.isDefault ? drawing.number : kNoRoom);
         if (bitmap.empty()) continue;
-        NameBitmap(adventure, drawing, bitmap);
-        SaveBitmap(adventure.GameDir() / bitmap, DrawPicture(book, drawing.number));
+        NameBitmap(adventure, room, bitmap);
+        SaveBitmap(adventure, bitmap, DrawPicture(book, drawing.number));
     }
     Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
     settings.SetField("graphics", true);

@@ -9,8 +9,10 @@
 namespace fabula::interchange {
 namespace {
 
-store::AdventureKind KindFor(std::string_view kind) {
-    return kind == "pcvel" ? store::AdventureKind::Vel : store::AdventureKind::Fabula;
+store::AdventureKind KindFor(std::string_view kind, const std::string& source) {
+    const bool isMarlo = source.find("Marlo Database") != std::string::npos;
+    if (kind == "unmarlo" || (kind == "unvel" && isMarlo)) return store::AdventureKind::Marlo;
+    return kind == "pcvel" || kind == "unvel" ? store::AdventureKind::Vel : store::AdventureKind::Fabula;
 }
 
 }  // namespace
@@ -25,7 +27,7 @@ bool ReadInto(store::Adventure& adventure, std::string_view kind, const std::fil
     return ok;
 }
 
-Reading::Reading(std::string_view kind, const std::string& source) : adventure_(KindFor(kind)) {
+Reading::Reading(std::string_view kind, const std::string& source) : adventure_(KindFor(kind, source)) {
     const FileKind& fileKind = *FindFileKind(kind);
     const std::filesystem::path file =
         adventure_.Folder().Path() / ("game" + std::string(fileKind.extension));

@@ -12,6 +12,7 @@ struct Options {
     std::string file;
     std::string target;
     bool force = false;
+    std::string version;
 };
 
 bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,
@@ -27,7 +28,7 @@ int Export(const Options& options) {
                 console.Person());
     const auto adventure = OpenToRead(options.file);
     const interchange::JobResult result =
-        interchange::ExportIt(kind, *adventure, options.target, Verify, console.JobHost());
+        interchange::ExportIt(kind, *adventure, options.target, Verify, console.JobHost(), options.version);
     return result.done ? kDone : kFailed;
 }
 
@@ -41,6 +42,8 @@ void AddExportVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("target", options->target, "The file that is written; - is standard output")
         ->required();
     AddForceFlag(*verb, options->force);
+    verb->add_option("--version", options->version,
+                     "The form of an UnVel extract: 2.0.0, 2.1.0, 2.2.0, 4.0.0 or 5.0.0");
     Runs(*verb, chosen, options, Export);
 }
 

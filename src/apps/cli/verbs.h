@@ -10,6 +10,7 @@ void AddCheckVerb(CLI::App& app, Chosen& chosen);
 void AddDrawVerb(CLI::App& app, Chosen& chosen);
 void AddDumpVerb(CLI::App& app, Chosen& chosen);
 void AddExportVerb(CLI::App& app, Chosen& chosen);
+void AddImportPictureVerb(CLI::App& app, Chosen& chosen);
 void AddImportVerb(CLI::App& app, Chosen& chosen);
 void AddNewVerb(CLI::App& app, Chosen& chosen);
 void AddPlayVerb(CLI::App& app, Chosen& chosen);
@@ -19,8 +20,8 @@ void AddVerifyVerb(CLI::App& app, Chosen& chosen);
 
 /// In the order in which --help shows them.
 inline constexpr void (*kVerbs[])(CLI::App& app, Chosen& chosen) = {
-    AddCheckVerb, AddExportVerb, AddImportVerb,  AddVerifyVerb, AddNewVerb,  AddTablesVerb,
-    AddDumpVerb,  AddDrawVerb,   AddCharsetVerb, AddPlayVerb,   AddTestVerb,
+    AddCheckVerb,  AddExportVerb, AddImportVerb, AddImportPictureVerb, AddVerifyVerb, AddNewVerb,
+    AddTablesVerb, AddDumpVerb,   AddDrawVerb,   AddCharsetVerb,       AddPlayVerb,   AddTestVerb,
 };
 
 }  // namespace fabula::cli

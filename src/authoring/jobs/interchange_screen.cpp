@@ -20,6 +20,8 @@ constexpr std::int64_t kStepsAYield = 10;
 
 constexpr std::string_view kImportKinds[] = {"UnMarlo", "UnVel", "PCVEL", "Fabula", "ACE"};
 constexpr std::string_view kExportKinds[] = {"UnVel", "PCVEL", "Fabula"};
+/// The kind that is chosen at first, where a mode has it.
+constexpr std::string_view kUsualKind = "PCVEL";
 constexpr std::string_view kGraphicKinds[] = {"UnMarlo", "UnVel"};
 
 struct ModeRow {
@@ -78,6 +80,9 @@ InterchangeScreen::InterchangeScreen(JobMode mode, store::Adventure* adventure, 
     : mode_(mode), adventure_(adventure), host_(host), record_(record), kinds_(KindsOf(mode)) {
     while (chosen_ + 1 < kinds_.size() && !kinds_[chosen_].kind)
         ++chosen_;
+    for (std::size_t option = 0; option < kinds_.size(); ++option) {
+        if (kinds_[option].name == kUsualKind && kinds_[option].kind) chosen_ = option;
+    }
 }
 
 std::string InterchangeScreen::Title() const {

@@ -76,12 +76,11 @@ TEST_F(InterchangeDialogTest, ShowsTheModeOfItsScreen) {
     EXPECT_FALSE(Button("print").isEnabled());
 }
 
-TEST_F(InterchangeDialogTest, KindsThatAreMissingAreSwitchedOffWithASentence) {
+TEST_F(InterchangeDialogTest, EveryKindCanBeChosen) {
     Open(JobMode::Import);
-    EXPECT_FALSE(Find<QRadioButton>("kindUnMarlo").isEnabled());
-    EXPECT_EQ(Find<QRadioButton>("kindUnMarlo").toolTip(),
-              "This version cannot yet read files of the kind UnMarlo.");
     EXPECT_TRUE(Find<QRadioButton>("kindPCVEL").isChecked());
+    Find<QRadioButton>("kindUnMarlo").click();
+    EXPECT_EQ(screen_->ChosenKind(), 0U);
     Find<QRadioButton>("kindACE").click();
     EXPECT_EQ(screen_->ChosenKind(), 4U);
 }

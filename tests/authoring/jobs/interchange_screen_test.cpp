@@ -89,12 +89,12 @@ TEST_F(InterchangeScreenTest, LoadOfAPictureIsSwitchedOffWithASentence) {
     EXPECT_FALSE(screen.RunJob());
 }
 
-TEST_F(InterchangeScreenTest, KindsThatAreMissingSayWhyAndCanNotBeChosen) {
+TEST_F(InterchangeScreenTest, TheUsualKindIsChosenAtFirstAndEachCanBe) {
     InterchangeScreen screen = Screen(JobMode::Import);
     EXPECT_EQ(screen.ChosenKind(), 2U);
-    EXPECT_EQ(screen.Kinds()[0].why, "This version cannot yet read files of the kind UnMarlo.");
-    EXPECT_FALSE(screen.ChooseKind(0));
-    EXPECT_EQ(screen.ChosenKind(), 2U);
+    EXPECT_EQ(screen.Kinds()[0].why, "");
+    EXPECT_TRUE(screen.ChooseKind(0));
+    EXPECT_EQ(screen.ChosenKind(), 0U);
     EXPECT_TRUE(screen.ChooseKind(4));
     EXPECT_EQ(screen.ChosenKind(), 4U);
     EXPECT_FALSE(screen.ChooseKind(5));
@@ -119,12 +119,14 @@ TEST_F(InterchangeScreenTest, BlankTargetOfAnExportIsRefused) {
 
 TEST_F(InterchangeScreenTest, SourceOfEachKindIsAskedForInItsOwnDialog) {
     InterchangeScreen screen = Screen(JobMode::Import);
-    for (const char* kind : {"PCVEL", "Fabula", "ACE"}) {
+    for (const char* kind : {"PCVEL", "Fabula", "ACE", "UnMarlo", "UnVel"}) {
         dialogs_.AnswerFile(std::nullopt);
         screen.ChooseKind(Option(screen, kind));
         screen.ChooseSource();
     }
-    ASSERT_EQ(dialogs_.Questions().size(), 3U);
+    ASSERT_EQ(dialogs_.Questions().size(), 5U);
+    EXPECT_EQ(dialogs_.Questions()[3].title, "Load an UnMarlo output file");
+    EXPECT_EQ(dialogs_.Questions()[4].title, "Load an UnVel output file");
     EXPECT_EQ(dialogs_.Questions()[0].title, "Load an PC VEL source file");
     EXPECT_EQ(dialogs_.Questions()[0].filter, "PC VEL Sources (*.sce)|*.sce|All files|*.*");
     EXPECT_EQ(dialogs_.Questions()[1].title, "Load an Fabula Exportfile");

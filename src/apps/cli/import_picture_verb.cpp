@@ -1,0 +1,80 @@
+#include "cli/console.h"
+#include "cli/verbs.h"
+#include "interchange/unmarlo/picture_import.h"
+#include "text/fields.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string kind;
+    std::string listing;
+    std::string file;
+    int record = 0;
+    std::string records;
+    std::vector<std::string> goesTo;
+};
+
+/// "3=12" as a place for picture 3.
+interchange::NewLocations PlacesIn(const std::vector<std::string>& options) {
+    interchange::NewLocations places;
+    for (const std::string& option : options) {
+        const auto pieces = text::Split(option, "=");
+        std::size_t read = 0;
+        int number = -1;
+        try {
+            number = std::stoi(std::string(pieces[0]), &read);
+        } catch (const std::logic_error&) {
+            read = 0;
+        }
+        if (pieces.size() != 2 || read == 0 || read != pieces[0].size())
+            throw UsageError("--goes-to takes the number in the listing and that in the game: 3=12");
+        places[number] = pieces[1];
+    }
+    return places;
+}
+
+/// Loading and moving are one step: what can't be moved is not loaded either.
+int ImportPicture(const Options& options) {
+    const interchange::NewLocations places = PlacesIn(options.goesTo);
+    const auto adventure = OpenToChange(options.file);
+    Console console(std::cerr);
+    interchange::JobStatus status(console.Observer());
+    store::Transaction transaction(*adventure);
+    const auto loaded = interchange::LoadGraphics(
+        {options.kind == "unvel", options.listing, options.records, options.record}, *adventure,
+        console.Person(), status);
+    if (loaded.pictures.empty()) return kFailed;
+    if (!places.empty()) {
+        const std::string fault = interchange::CheckNewLocations(loaded, places, *adventure);
+        if (!fault.empty()) {
+            console.Person().Tell(fault, "Error");
+            return kFailed;
+        }
+        interchange::MoveToNewLocations(loaded, places, *adventure);
+    }
+    transaction.Commit();
+    return kDone;
+}
+
+}  // namespace
+
+void AddImportPictureVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb =
+        app.add_subcommand("import-picture", "Takes pictures out of the listing of an older game");
+    verb->add_option("kind", options->kind, "The listing: unmarlo or unvel")
+        ->required()
+        ->check(CLI::IsMember({"unmarlo", "unvel"}));
+    verb->add_option("listing", options->listing, "The file that is read")->required();
+    verb->add_option("records", options->records, "The pictures of the listing, as in 3,7-9")->required();
+    AddAdventureOption(*verb, options->file)->required();
+    verb->add_option("record", options->record, "The picture they replace, and those behind it")
+        ->required()
+        ->check(CLI::Range(0, 999));
+    verb->add_option("--goes-to", options->goesTo,
+                     "N=M: picture N of the listing goes to M, and GOSUBs to it follow");
+    Runs(*verb, chosen, options, ImportPicture);
+}
+
+}  // namespace fabula::cli

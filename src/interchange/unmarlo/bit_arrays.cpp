@@ -1,0 +1,70 @@
+#include "interchange/unmarlo/bit_arrays.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "interchange/listing_numbers.h"
+#include "text/format.h"
+#include "text/utf8.h"
+
+namespace fabula::interchange {
+namespace {
+
+constexpr std::string_view kOpening = "static char ";
+constexpr std::string_view kBrackets = "[]";
+constexpr std::size_t kRows = 8;
+constexpr int kCharactersASet = 1000;
+constexpr std::size_t kLongestSetName = 20;
+/// More than the largest array has; what follows is passed over.
+constexpr std::size_t kMostRows = kRows * 256;
+
+}  // namespace
+
+std::string_view BitArray::NameIn(std::string_view line) {
+    const std::size_t opening = line.find(kOpening);
+    if (opening == std::string_view::npos || line.find('{') == std::string_view::npos) return {};
+    line.remove_prefix(opening + kOpening.size());
+    return line.substr(0, std::min(line.find(kBrackets), line.find(' ')));
+}
+
+void BitArray::TakeLine(std::string_view line) {
+    const std::size_t end = line.find('}');
+    if (end != std::string_view::npos) closed_ = true;
+    line = line.substr(0, end);
+    for (std::size_t at = line.find("0x"); at != std::string_view::npos; at = line.find("0x", at)) {
+        at += 2;
+        std::uint8_t row = 0;
+        const char* digits = line.data() + at;
+        const auto read =
+            std::from_chars(digits, digits + std::min<std::size_t>(2, line.size() - at), row, 16);
+        if (read.ptr != digits && rows_.size() < kMostRows) rows_.push_back(ReverseFont(row));
+    }
+}
+
+std::vector<std::string> BitArray::Characters(std::size_t most) const {
+    std::vector<std::string> characters;
+    for (std::size_t first = 0; first + kRows <= rows_.size() && characters.size() < most; first += kRows) {
+        std::string values;
+        for (std::size_t row = 0; row < kRows; ++row)
+            values += (row == 0 ? "" : " ") + std::to_string(rows_[first + row]);
+        characters.push_back(values);
+    }
+    return characters;
+}
+
+void ListedCharacters::Store(int set, int first, const std::vector<std::string>& characters,
+                             const std::string& setName) {
+    const std::string label = text::FormatText("SET !%z4", {std::int64_t{set}});
+    for (std::size_t i = 0; i < characters.size(); ++i) {
+        const std::int64_t number = first + static_cast<int>(i);
+        store::Cursor& record = table_.GoToOrAdd(std::int64_t{set} * kCharactersASet + number);
+        record.SetField("charset", label);
+        record.SetField("charsetnum", std::int64_t{set});
+        record.SetField("charsetname", std::string(text::Left(setName, kLongestSetName)));
+        record.SetField("charnum", number);
+        record.SetField("charvals", characters[i]);
+        table_.Update();
+    }
+}
+
+}  // namespace fabula::interchange

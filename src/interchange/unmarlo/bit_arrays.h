@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "interchange/keyed_table.h"
+
+namespace fabula::interchange {
+
+/// An array of bytes of a listing, as in "static char udg_bits[] = {", lines of "0x01, 0x02," and "};".
+/// Each byte is one row of a character, mirrored; eight are one character.
+class BitArray {
+  public:
+    /// The name of the array that the line opens ("udg_bits"); empty when it opens none.
+    static std::string_view NameIn(std::string_view line);
+
+    /// Takes the bytes of a line, up to "}". Anything else in it is passed over.
+    void TakeLine(std::string_view line);
+    /// Whether "}" was met.
+    bool Closed() const { return closed_; }
+
+    /// The whole characters, at most `most`, each as eight numbers with a blank between two (`charvals`).
+    std::vector<std::string> Characters(std::size_t most) const;
+
+  private:
+    std::vector<std::uint8_t> rows_;
+    bool closed_ = false;
+};
+
+/// The rows of the table `Characters` while sets are read into them. Nobody else may open the table
+/// meanwhile.
+class ListedCharacters {
+  public:
+    explicit ListedCharacters(store::Adventure& adventure)
+        : table_(adventure, store::TableNum::Characters, "charkey") {}
+
+    /// Stores characters of a set, from number `first` up. Those that are there are written over.
+    void Store(int set, int first, const std::vector<std::string>& characters, const std::string& setName);
+
+  private:
+    KeyedTable table_;
+};
+
+/// How many characters of each kind a listing has.
+inline constexpr std::size_t kUserGraphics = 21;
+inline constexpr std::size_t kFontCharacters = 96;
+inline constexpr std::size_t kShades = 16;
+
+}  // namespace fabula::interchange

@@ -1,0 +1,67 @@
+#include "interchange/unmarlo/listed_entries.h"
+#include "interchange/unmarlo/unmarlo_section.h"
+#include "text/utf8.h"
+
+namespace fabula::interchange {
+namespace {
+
+// 0A1F: GET  LAMP
+// 0A23:               GET      1
+constexpr Columns kFirstWord{6, 4};
+constexpr Columns kSecondWord{11, 4};
+constexpr Columns kCondAct{20, 16};
+constexpr Columns kFirstLetter{6, 1};
+
+constexpr std::string_view kAnyWord = "-";
+constexpr const char* kLoaded[] = {"Loaded Marlo Response Table.\n", "Loaded Marlo Status Table.\n"};
+
+/// The response or the status table. The numbers of words are found when the vocabulary is known.
+class Entries final : public UnMarloSection {
+  public:
+    Entries(ListingJob& job, int table) : job_(job), table_(table), entries_(job.Adventure()) {
+        pending_.table = table;
+    }
+
+    void Line(std::string_view line) override {
+        if (!HasAddress(line)) return;
+        if (Cut(line, kFirstLetter) == " ") {
+            const auto condAct = TakeCondActs(job_, CutTrimmed(line, kCondAct), nullptr);
+            if (condAct && !condAct->empty())
+                pending_.condActs += (pending_.condActs.empty() ? "" : " ") + *condAct;
+            return;
+        }
+        Flush();
+        pending_.w1 = Word(CutTrimmed(line, kFirstWord));
+        pending_.w2 = Word(CutTrimmed(line, kSecondWord));
+    }
+
+    void Finish() override {
+        Flush();
+        job_.Status(kLoaded[table_]);
+    }
+
+  private:
+    static std::string Word(std::string_view word) {
+        if (word.empty() || word == kAnyWord) return std::string(condacts::kNoWord);
+        return text::UpperCase(word);
+    }
+
+    void Flush() {
+        if (!pending_.IsEmpty()) entries_.Add(pending_, job_.catalogue, {});
+        pending_ = ListedEntry{};
+        pending_.table = table_;
+    }
+
+    ListingJob& job_;
+    int table_;
+    ListedEntries entries_;
+    ListedEntry pending_;
+};
+
+}  // namespace
+
+std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, int table) {
+    return std::make_unique<Entries>(job, table);
+}
+
+}  // namespace fabula::interchange

@@ -1,0 +1,90 @@
+#include "interchange/unmarlo/listed_entries.h"
+#include "interchange/unvel/unvel_section.h"
+#include "text/str_edit.h"
+#include "text/utf8.h"
+
+namespace fabula::interchange {
+namespace {
+
+using condacts::Word;
+using store::TableNum;
+
+// GET   LAMP       PRESENT        1
+//                  GET            1
+constexpr Columns kFirstWord{0, 6};
+constexpr Columns kSecondWord{6, 5};
+constexpr Columns kCondAct{17, 80};
+constexpr std::string_view kAnyWord = "-";
+constexpr int kLastDefaultTable = 2;
+
+bool IsVerbNounOrReserved(const Word& word) {
+    return word.type == condacts::kVerb || word.type == condacts::kNoun || word.type == condacts::kReserved;
+}
+
+class Entries final : public UnVelSection {
+  public:
+    Entries(UnVelJob& job, int table) : job_(job), table_(table), entries_(job.Adventure()) {
+        entry_.table = table;
+    }
+
+    void Line(std::string_view line) override {
+        if (text::TrimBlanks(line).empty()) return;
+        const std::string_view w1 = CutTrimmed(line, kFirstWord);
+        const std::string_view w2 = CutTrimmed(line, kSecondWord);
+        if (!w1.empty() || !w2.empty()) {
+            Flush();
+            SetWord(w1, FirstWord(w1), entry_.w1, entry_.w1Number);
+            SetWord(w2, job_.words.Find(w2, condacts::IsNounOrReserved), entry_.w2, entry_.w2Number);
+        }
+        const std::string_view rest = CutTrimmed(line, kCondAct);
+        if (rest.empty()) return;
+        const auto condAct = TakeCondActs(job_.listing, rest, &job_.words);
+        if (condAct) entry_.condActs += (entry_.condActs.empty() ? "" : " ") + *condAct;
+    }
+
+    void Finish() override {
+        Flush();
+        if (table_ <= kLastDefaultTable) return;
+        KeyedTable tables(job_.Adventure(), TableNum::ProcDesc, "pmsgnum");
+        if (!tables.Has(table_)) StoreText(tables, "pmsgmsg", table_, "");
+    }
+
+  private:
+    /// In a game of the older engine a verb may have come in as a noun.
+    const Word* FirstWord(std::string_view word) const {
+        if (!job_.isMarlo) return job_.words.Find(word, IsVerbNounOrReserved);
+        const Word* found = job_.words.Find(word, condacts::IsMovementWordOrReserved);
+        return found != nullptr ? found : job_.words.Find(word, condacts::IsNounOrReserved);
+    }
+
+    /// A word that the vocabulary does not have stays, as one that fits any.
+    static void SetWord(std::string_view listed, const Word* found, std::string& word, int& number) {
+        word = text::UpperCase(listed);
+        number = condacts::kNoWordNumber;
+        if (listed.empty() || listed == kAnyWord) {
+            word = condacts::kNoWord;
+        } else if (found != nullptr) {
+            word = found->word;
+            number = found->number;
+        }
+    }
+
+    void Flush() {
+        if (!entry_.IsEmpty()) entries_.Add(entry_, job_.listing.catalogue, job_.words);
+        entry_ = ListedEntry{};
+        entry_.table = table_;
+    }
+
+    UnVelJob& job_;
+    int table_;
+    ListedEntries entries_;
+    ListedEntry entry_;
+};
+
+}  // namespace
+
+std::unique_ptr<UnVelSection> UnVelEntries(UnVelJob& job, int table) {
+    return std::make_unique<Entries>(job, table);
+}
+
+}  // namespace fabula::interchange

@@ -1,0 +1,51 @@
+#include "interchange/unvel/unvel_notes.h"
+
+#include "interchange/keyed_table.h"
+#include "interchange/unmarlo/listing_job.h"
+#include "interchange/unvel/unvel_section.h"
+#include "interchange/unvel/unvel_text.h"
+#include "text/utf8.h"
+
+namespace fabula::interchange {
+namespace {
+
+using store::Cursor;
+using store::TableNum;
+
+constexpr std::string_view kComment = "; ";
+constexpr std::size_t kLongestTableText = 255;
+constexpr int kLastDefaultTable = 2;
+
+}  // namespace
+
+void UnVelNotes::Line(std::string_view line) {
+    if (!line.starts_with(kComment)) return;
+    line.remove_prefix(kComment.size());
+    if (number_ >= 0) {
+        notes_[number_] = UnVelText(line);
+        number_ = -1;
+        return;
+    }
+    number_ = NumberAlone(line, label_).value_or(-1);
+}
+
+void StoreFlagNotes(store::Adventure& adventure, const UnVelNotes& notes) {
+    Cursor& flags = adventure.OpenTable(TableNum::Flags, "def", "flgmod>0");
+    for (; !flags.Eof(); flags.MoveNext()) {
+        const auto note = notes.All().find(static_cast<int>(flags.Number("flgnum")));
+        const std::string text = note == notes.All().end() ? "" : note->second;
+        if (flags.Text("flgdesc") == text) continue;
+        flags.SetField("flgdesc", text);
+        flags.Update();
+    }
+}
+
+void StoreProcessNotes(store::Adventure& adventure, const UnVelNotes& notes) {
+    KeyedTable tables(adventure, TableNum::ProcDesc, "pmsgnum");
+    for (const auto& [number, text] : notes.All()) {
+        if (number > kLastDefaultTable && number <= kHighestListedTable)
+            StoreText(tables, "pmsgmsg", number, std::string(text::Left(text, kLongestTableText)));
+    }
+}
+
+}  // namespace fabula::interchange
