@@ -20,26 +20,6 @@ int Number(const Cursor& cursor, std::string_view field) {
     return static_cast<int>(std::clamp(cursor.Number(field), kLowest, kHighest));
 }
 
-CommandCatalogue LoadCommands(store::Adventure& adventure) {
-    CommandCatalogue commands;
-    Cursor& cursor = adventure.OpenTable(TableNum::Commands, "def");
-    for (; !cursor.Eof(); cursor.MoveNext()) {
-        Command command;
-        command.number = Number(cursor, "conum");
-        command.name = cursor.Text("coname");
-        command.typedParameters = Number(cursor, "cocmdparam");
-        command.drawnParameters = Number(cursor, "codrwparam");
-        for (std::size_t i = 0; i < command.typedCodes.size(); ++i) {
-            command.typedCodes[i] = cursor.Text("cval" + std::to_string(i + 1));
-        }
-        for (std::size_t i = 0; i < command.drawnCodes.size(); ++i) {
-            command.drawnCodes[i] = cursor.Text("dval" + std::to_string(i + 1));
-        }
-        commands.Add(std::move(command));
-    }
-    return commands;
-}
-
 std::map<int, Picture> LoadPictures(store::Adventure& adventure) {
     std::map<int, Picture> pictures;
     Cursor& cursor = adventure.OpenTable(TableNum::Pictures, "def");
@@ -79,6 +59,26 @@ PictureBook LoadPictureBook(store::Adventure& adventure) {
         book.textColor = IndexToColour(Number(settings, "textcolor"));
     }
     return book;
+}
+
+CommandCatalogue LoadCommands(store::Adventure& adventure) {
+    CommandCatalogue commands;
+    Cursor& cursor = adventure.OpenTable(TableNum::Commands, "def");
+    for (; !cursor.Eof(); cursor.MoveNext()) {
+        Command command;
+        command.number = Number(cursor, "conum");
+        command.name = cursor.Text("coname");
+        command.typedParameters = Number(cursor, "cocmdparam");
+        command.drawnParameters = Number(cursor, "codrwparam");
+        for (std::size_t i = 0; i < command.typedCodes.size(); ++i) {
+            command.typedCodes[i] = cursor.Text("cval" + std::to_string(i + 1));
+        }
+        for (std::size_t i = 0; i < command.drawnCodes.size(); ++i) {
+            command.drawnCodes[i] = cursor.Text("dval" + std::to_string(i + 1));
+        }
+        commands.Add(std::move(command));
+    }
+    return commands;
 }
 
 CharacterSets LoadCharacterSets(store::Adventure& adventure) {

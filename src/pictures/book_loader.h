@@ -12,7 +12,8 @@ namespace fabula::pictures {
 /// fabula::Error when the file can't be read.
 PictureBook LoadPictureBook(store::Adventure& adventure);
 
-/// Its characters alone.
+/// Its characters alone, and its commands alone.
 CharacterSets LoadCharacterSets(store::Adventure& adventure);
+CommandCatalogue LoadCommands(store::Adventure& adventure);
 
 }  // namespace fabula::pictures

@@ -70,7 +70,7 @@ class Drawing {
     void CommDrawMore(std::string_view drawstring, int scale = 0);
 
     /// Runs the one command at `index` of a drawstring's words, as CommDraw would; gives the index of the
-    /// word behind its parameters.
+    /// word behind its parameters. A row of these after `CommDraw` is one draw, and has its limit.
     std::size_t DrawCommand(const std::vector<std::string>& words, std::size_t index);
 
     /// Empties the canvas in the default colours of `picture` and puts the cursor on its bottom left pixel.
@@ -83,6 +83,15 @@ class Drawing {
 
     const Canvas& Planes() const { return canvas_; }
     const DrawingState& State() const { return state_; }
+
+    /// All that a draw has come to between two commands, to go on from there again.
+    struct Snapshot {
+        Canvas canvas;
+        DrawingState state;
+        int commandsLeft = kMostCommands;
+    };
+    Snapshot Keep() const { return {canvas_, state_, commandsLeft_}; }
+    void Restore(const Snapshot& snapshot);
 
   private:
     friend class CommandArguments;

@@ -99,8 +99,13 @@ void Drawing::CommDrawMore(std::string_view drawstring, int scale) {
 
 std::size_t Drawing::DrawCommand(const std::vector<std::string>& words, std::size_t index) {
     callees_.clear();
-    commandsLeft_ = kMostCommands;
     return RunCommand(words, index, 0);
+}
+
+void Drawing::Restore(const Snapshot& snapshot) {
+    canvas_ = snapshot.canvas;
+    state_ = snapshot.state;
+    commandsLeft_ = snapshot.commandsLeft;
 }
 
 void Drawing::DrawWords(const std::vector<std::string>& words, int scale, std::size_t lastWord) {
@@ -111,7 +116,7 @@ void Drawing::DrawWords(const std::vector<std::string>& words, int scale, std::s
 }
 
 std::size_t Drawing::RunCommand(const std::vector<std::string>& words, std::size_t index, int scale) {
-    if (commandsLeft_-- == 0) {
+    if (commandsLeft_-- <= 0) {
         throw Error("Picture " + std::to_string(picture_) +
                     " can't be drawn: with its subroutines it runs more than " +
                     std::to_string(kMostCommands) + " commands.");

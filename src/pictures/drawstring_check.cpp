@@ -124,31 +124,36 @@ std::string NonNumeric(std::string_view command) {
     return "Non-numeric parameter for " + std::string(command) + " command";
 }
 
-/// Checks the parameters of one command, and gives the message of the first that is refused. `parameter`
-/// brings what is the same for all of them.
-std::string CheckParameters(Parameter parameter, const Command& command, std::span<const std::string> words,
-                            std::span<const std::string> codes) {
+/// The first parameter of a command that is refused, by its place among them, and the message.
+struct ParameterFault {
+    std::string message;  ///< empty when all have passed
+    std::size_t place = 0;
+};
+
+/// Checks the parameters of one command. `parameter` brings what is the same for all of them.
+ParameterFault CheckParameters(Parameter parameter, const Command& command,
+                               std::span<const std::string> words, std::span<const std::string> codes) {
     for (std::size_t i = 0; i < words.size(); ++i) {
         std::string_view text = words[i];
         const bool isScaleWord =
             parameter.check == CheckOf::WholeDrawstring && command.number == kGoSub && i == 0;
         if (isScaleWord) {
             if (!text::EqualsNoCase(text.substr(0, 3), "SC=")) {
-                return "First parameter for GOSUB must start with SC=";
+                return {"First parameter for GOSUB must start with SC=", i};
             }
             text.remove_prefix(3);
         }
         const std::optional<int> value = ParameterValue(text);
-        if (!value) return NonNumeric(parameter.command);
+        if (!value) return {NonNumeric(parameter.command), i};
         parameter.previous = parameter.text;
         parameter.previousValue = parameter.value;
         parameter.text = text;
         parameter.value = *value;
         parameter.code = codes[i];
         std::string fault = CheckParameter(parameter);
-        if (!fault.empty()) return fault;
+        if (!fault.empty()) return {std::move(fault), i};
     }
-    return "";
+    return {};
 }
 
 Parameter ParametersOf(const PictureBook& book, CheckOf check, PictureKind kind, std::string_view command,
@@ -166,6 +171,8 @@ DrawstringCheck ValidateDrawString(const PictureBook& book, std::string_view dra
         result.fault = "Invalid DrawString. Must have an END";
     } else if (words.back() != "END") {
         result.fault = "DrawString not terminated with END";
+        result.faultAt = words.size();
+        result.faultyCommand = words.size();
     }
     std::size_t i = 0;
     while (result.Passed() && i < words.size()) {
@@ -173,14 +180,20 @@ DrawstringCheck ValidateDrawString(const PictureBook& book, std::string_view dra
         const Command* command = book.commands.Find(word);
         if (command == nullptr) {
             result.fault = "Invalid command: " + word;
+            result.faultAt = i;
+            result.faultyCommand = i;
             break;
         }
         // A command that lacks parameters takes END for one, which is no number.
         const auto count = static_cast<std::size_t>(command->drawnParameters);
         const auto parameters =
             std::span(words).subspan(i + 1).first(std::min(count, words.size() - i - 1));
-        result.fault = CheckParameters(ParametersOf(book, CheckOf::WholeDrawstring, kind, word, lastAction),
-                                       *command, parameters, command->drawnCodes);
+        ParameterFault fault =
+            CheckParameters(ParametersOf(book, CheckOf::WholeDrawstring, kind, word, lastAction), *command,
+                            parameters, command->drawnCodes);
+        result.fault = std::move(fault.message);
+        result.faultAt = i + 1 + fault.place;
+        result.faultyCommand = i;
         i += count + 1;
     }
     if (!result.Passed()) result.words.clear();
@@ -206,7 +219,8 @@ TypedCommandCheck ValidateCommandLine(const PictureBook& book, std::string_view 
                 "Command has too " + amount + " parameters. It should have " + std::to_string(wanted)};
     }
     std::string fault = CheckParameters(ParametersOf(book, CheckOf::TypedCommand, kind, word, ""), *command,
-                                        words, command->typedCodes);
+                                        words, command->typedCodes)
+                            .message;
     if (fault.empty() && command->number == kEnd) fault = "END is not allowed as a command";
     if (!fault.empty()) return {nullptr, {}, std::move(fault)};
 

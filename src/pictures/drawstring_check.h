@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,10 @@ namespace fabula::pictures {
 struct DrawstringCheck {
     std::vector<std::string> words;
     std::string fault;  ///< empty when the drawstring passed
+    /// The index of the word at fault, and of the word of its command. Where END is missing, both are the
+    /// number of words.
+    std::size_t faultAt = 0;
+    std::size_t faultyCommand = 0;
 
     bool Passed() const { return fault.empty(); }
 };

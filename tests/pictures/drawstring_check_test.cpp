@@ -201,5 +201,20 @@ TEST(ValidateDrawString, NumbersOfParametersComeFromTheCatalogueAlone) {
     EXPECT_TRUE(ValidateDrawString(book, "LINE 8 LINE 1 END", PictureKind::Room).Passed());
 }
 
+TEST(ValidateDrawString, TellsTheWordAtFaultAndThatOfItsCommand) {
+    const PictureBook book = TestBook();
+    const auto faultAt = [&](std::string_view text) {
+        return ValidateDrawString(book, text, PictureKind::Room).faultAt;
+    };
+    EXPECT_EQ(ValidateDrawString(book, "INK 2 LINE 0 300 5 END", PictureKind::Room).faultyCommand, 2U);
+    EXPECT_EQ(ValidateDrawString(book, "INK 2", PictureKind::Room).faultyCommand, 2U);
+    EXPECT_EQ(faultAt("INK 2 LINE 0 300 5 END"), 4U);
+    EXPECT_EQ(faultAt("INK 2 FOO END"), 2U);
+    EXPECT_EQ(faultAt("INK 2 LINE 0 5 END"), 5U);
+    EXPECT_EQ(faultAt("INK 2 GOSUB 0 5 END"), 3U);
+    EXPECT_EQ(faultAt("INK 2"), 2U);
+    EXPECT_EQ(faultAt(""), 0U);
+}
+
 }  // namespace
 }  // namespace fabula::pictures

@@ -7,11 +7,13 @@
 #include "cli/terminal_operator.h"
 #include "cli/verbs.h"
 #include "pictures/book_loader.h"
+#include "pictures/cell_image.h"
 #include "pictures/contact_sheet.h"
 #include "pictures/drawing.h"
 #include "pictures/drawstring.h"
 #include "pictures/drawstring_check.h"
 #include "pictures/image.h"
+#include "pictures/image_reader.h"
 #include "pictures/picture_folder.h"
 #include "platform/error.h"
 #include "store/adventure.h"
@@ -32,11 +34,16 @@ struct Options {
     std::optional<std::string> drawstring;
     std::string checkedIn;
     bool subroutine = false;
+    std::string image;
+    bool dither = false;
+    bool asDrawstring = false;
     bool force = false;
 };
 
 constexpr int kSheetColumns = 5;
 constexpr const char* kIndex = "index.png";
+/// The default paper of a drawing that is made of an image.
+constexpr int kPaperOfImages = 7;
 
 pictures::PictureBook Load(const std::string& file) {
     const auto adventure = OpenToRead(file);
@@ -113,7 +120,27 @@ int AddFolder(const Options& options) {
     return kDone;
 }
 
+/// Makes a picture of an image: as an image file, as a drawing in the form of N.draw, or as both.
+int FromImage(const Options& options) {
+    const std::string& target = options.file;
+    if (target.empty() && !options.asDrawstring)
+        throw UsageError("--from-image needs OUT.bmp or OUT.png, or --as-drawstring");
+    if (options.picture) throw UsageError("--from-image takes one image and no picture");
+    const auto dithering = options.dither ? pictures::Dithering::On : pictures::Dithering::Off;
+    const pictures::CellImage picture = FitToCells(pictures::ReadImage(options.image), dithering);
+    if (!target.empty()) {
+        TerminalOperator person;
+        CheckTarget({target, store::Content::Text, {}, options.image, options.force}, person);
+        pictures::WriteImage(target, picture.ToImage());
+    }
+    if (options.asDrawstring) {
+        std::cout << "DEFPAPER " << kPaperOfImages << "\n" << DrawstringOf(picture, kPaperOfImages) << "\n";
+    }
+    return kDone;
+}
+
 int Draw(const Options& options) {
+    if (!options.image.empty()) return FromImage(options);
     if (!options.drawings.empty()) return AddFolder(options);
     if (options.drawstring) return Check(options);
     return options.folder.empty() ? DrawOne(options) : DrawAll(options);
@@ -143,6 +170,10 @@ void AddDrawVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("--check", options->drawstring, "Check a drawstring and show its words");
     verb->add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use");
     verb->add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine");
+    verb->add_option("--from-image", options->image,
+                     "Make a picture of an image (PNG, JPEG or BMP) and write it to the file that follows");
+    verb->add_flag("--dither", options->dither, "Mix the colours that the palette lacks");
+    verb->add_flag("--as-drawstring", options->asDrawstring, "Write a drawing that draws the image");
     AddForceFlag(*verb, options->force);
     Runs(*verb, chosen, options, Draw);
 }

@@ -177,13 +177,6 @@ bool MayChangeProcess(ScreenContext& context, std::string_view deed) {
     return false;
 }
 
-/// Shades and user-defined graphics can be changed in set 0, everything in the others.
-bool IsEditableCharacter(int charkey) {
-    const int set = charkey / kCharactersOfASet;
-    const int number = charkey % kCharactersOfASet;
-    return set > 0 || number <= kLastShade || number >= kFirstUserGraphic;
-}
-
 bool MayEdit(ScreenContext& context) {
     const int key = context.currentEntry;
     switch (context.currentTable) {
@@ -194,7 +187,7 @@ bool MayEdit(ScreenContext& context) {
         case TableNum::ProcDesc:
             return MayChangeProcess(context, "edited");
         case TableNum::Characters:
-            if (IsEditableCharacter(key)) return true;
+            if (IsEditableCharacter(key / kCharactersOfASet, key % kCharactersOfASet)) return true;
             return Refuse(context.dialogs,
                           "Character " + std::to_string(key % kCharactersOfASet) + " cannot be edited");
         default:
@@ -229,6 +222,10 @@ bool DeleteRecord(ScreenContext& context, std::string_view one, const std::strin
 }
 
 }  // namespace
+
+bool IsEditableCharacter(int set, int number) {
+    return set > 0 || number <= kLastShade || number >= kFirstUserGraphic;
+}
 
 std::string_view MissingEditor(TableNum table, EntryCommand command) {
     if (table == TableNum::Pictures && (command == EntryCommand::Add || command == EntryCommand::Edit))

@@ -18,6 +18,8 @@ enum class Screen {
     Flag,          ///< FlagScreen
     ProcessEntry,  ///< ProcessEntryScreen
     Settings,      ///< SettingsScreen
+    Picture,       ///< PictureEditor
+    Character,     ///< CharacterEditor
 };
 
 /// A screen that the window is to open, and what `Entries::AfterScreen` needs when it has closed.
@@ -36,6 +38,9 @@ enum class EntryCommand { Add, AddBefore, Edit, Delete };
 /// Why a command on a table is switched off although the table allows it: one sentence, for the editors
 /// that this version does not have. "" for all others.
 std::string_view MissingEditor(store::TableNum table, EntryCommand command);
+
+/// Whether a character may be edited: in set 0 the shades and the user-defined graphics, in the others all.
+bool IsEditableCharacter(int set, int number);
 
 /// Add entry, Add entry before, Edit entry and Delete entry, on the table and the record that the context
 /// stands on (`currentTable`, `currentEntry`, `currentESNum`). They number new records, keep the limits of

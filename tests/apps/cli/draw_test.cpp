@@ -141,5 +141,30 @@ TEST_F(CharsetVerb, FailsWithTheSystemsWords) {
               "fabula: There is no character set 7.\n");
 }
 
+TEST_F(DrawVerb, MakesAPictureOfAnImageAndADrawingThatDrawsIt) {
+    ASSERT_EQ(Run({File(), "5", Path("photo.png"), "--scale", "3"}).status, 0);
+    const ProgramResult made = Run({"--from-image", Path("photo.png"), Path("made.bmp")});
+    EXPECT_EQ(made.status, 0) << made.errors;
+    EXPECT_EQ(BytesOf(Path("made.bmp")).size(), 54U + 256U * 176U * 3U);
+
+    const ProgramResult drawing = Run({"--from-image", Path("photo.png"), "--as-drawstring"});
+    EXPECT_EQ(drawing.status, 0);
+    EXPECT_TRUE(drawing.output.starts_with("DEFPAPER 7\n")) << drawing.output.substr(0, 40);
+    std::filesystem::create_directory(folder_ / "drawings");
+    std::ofstream(folder_ / "drawings/9.draw") << drawing.output;
+    ASSERT_EQ(Run({File(), "--add", Path("drawings")}).status, 0);
+    ASSERT_EQ(Run({File(), "9", Path("drawn.bmp")}).status, 0);
+    EXPECT_TRUE(BytesOf(Path("drawn.bmp")) == BytesOf(Path("made.bmp")));
+}
+
+TEST_F(DrawVerb, NamesAnImageThatItCannotRead) {
+    std::ofstream(folder_ / "none.png") << "no image";
+    const ProgramResult result = Run({"--from-image", Path("none.png"), Path("made.bmp")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "fabula: Could not read the image " + Path("none.png") +
+                                 ": it is no PNG, JPEG or BMP file.\n");
+    EXPECT_EQ(Run({"--from-image", Path("none.png")}).status, 2);
+}
+
 }  // namespace
 }  // namespace fabula::test

@@ -72,6 +72,9 @@ void OpenScreen(const authoring::ScreenRequest& request, authoring::ScreenContex
             return ShowProcessEntry(context, request, parent);
         case Screen::Settings:
             return ShowSettings(context, sound, parent);
+        case Screen::Picture:
+        case Screen::Character:
+            return;
     }
 }
 

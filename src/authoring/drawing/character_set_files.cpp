@@ -1,0 +1,69 @@
+#include "authoring/drawing/character_set_files.h"
+
+#include "pictures/character_store.h"
+
+namespace fabula::authoring {
+namespace {
+
+constexpr const char* kFilter = "Character Set File|*.chr";
+
+}  // namespace
+
+CharacterSetFiles::CharacterSetFiles(ScreenContext& context, Purpose purpose, int target)
+    : context_(context), purpose_(purpose), target_(target) {}
+
+bool CharacterSetFiles::Begin() {
+    store::Adventure& adventure = context_.document.Adventure();
+    if (purpose_ == Purpose::Save) {
+        lines_ = pictures::ListSets(adventure);
+        return true;
+    }
+    platform::FileQuestion question;
+    question.title = Title();
+    question.filter = kFilter;
+    question.start = adventure.GameDir();
+    const auto file = context_.dialogs.ChooseFile(question);
+    if (!file) return false;
+    file_ = *file;
+    lines_ = pictures::ListSetsInFile(file_, context_.dialogs);
+    return !lines_.empty();
+}
+
+std::string CharacterSetFiles::Title() const {
+    if (purpose_ == Purpose::Save) return "Save Character Set(s)";
+    return "Load Character Set " + std::to_string(target_);
+}
+
+std::vector<std::string> CharacterSetFiles::Selected() const {
+    std::vector<std::string> lines;
+    for (const std::size_t index : selected)
+        lines.push_back(lines_.at(index));
+    return lines;
+}
+
+bool CharacterSetFiles::Run() {
+    return purpose_ == Purpose::Save ? Save() : Load();
+}
+
+bool CharacterSetFiles::Save() {
+    if (selected.empty()) return Refuse(context_.dialogs, "No Set is selected");
+    platform::FileQuestion question;
+    question.title = "Save as a Character Set File";
+    question.filter = kFilter;
+    question.extension = "chr";
+    question.forWriting = true;
+    question.start = context_.document.Adventure().GameDir();
+    const auto file = context_.dialogs.ChooseFile(question);
+    return file && pictures::SaveSets(context_.document.Adventure(), Selected(), *file, context_.dialogs);
+}
+
+/// The message at the end of a load comes before its change is complete, so a failure then is told too.
+bool CharacterSetFiles::Load() {
+    Change change(context_.document, "load character set " + std::to_string(target_));
+    if (!pictures::LoadSet(context_.document.Adventure(), file_, Selected(), target_, context_.dialogs))
+        return false;
+    change.Commit();
+    return true;
+}
+
+}  // namespace fabula::authoring

@@ -1,0 +1,116 @@
+#include "authoring/drawing/character_set_screen.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "pictures/bdf_font.h"
+#include "pictures/book_loader.h"
+#include "platform/error.h"
+
+namespace fabula::authoring {
+
+using store::TableNum;
+
+namespace {
+
+constexpr int kCharactersOfASet = 1000;
+constexpr std::uintmax_t kLargestFont = 16 * 1024 * 1024;
+
+}  // namespace
+
+std::string ReadWholeFile(const std::filesystem::path& file, std::uintmax_t largest) {
+    const std::string doing = "Could not read " + file.string();
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(file, error);
+    if (error) throw Error(doing + ": " + error.message() + ".");
+    if (size > largest) throw Error(doing + ": it is too large.");
+    std::ifstream stream(file, std::ios::binary);
+    std::string bytes(std::istreambuf_iterator<char>(stream), {});
+    if (!stream) throw Error(doing + ".");
+    return bytes;
+}
+
+CharacterSetScreen::CharacterSetScreen(ScreenContext& context) : context_(context) {
+    if (context.currentTable == TableNum::Characters) set_ = context.currentEntry / kCharactersOfASet;
+    const store::Cursor& colours =
+        context.document.Adventure().OpenTable(TableNum::Adventure, "backcolor, textcolor");
+    if (!colours.Eof()) {
+        paper_ = static_cast<int>(colours.Number("backcolor"));
+        ink_ = static_cast<int>(colours.Number("textcolor"));
+    }
+    Read();
+    const int number = context.currentEntry % kCharactersOfASet;
+    const auto found = std::ranges::find(characters_, number, &pictures::Character::number);
+    if (context.currentTable == TableNum::Characters && found != characters_.end())
+        Choose(static_cast<std::size_t>(found - characters_.begin()));
+}
+
+void CharacterSetScreen::Read() {
+    all_ = pictures::LoadCharacterSets(context_.document.Adventure());
+    sets_ = all_.Sets();
+    characters_.clear();
+    for (const pictures::Character* character : all_.OfSet(set_))
+        characters_.push_back(*character);
+    if (chosen_ >= characters_.size()) chosen_ = 0;
+}
+
+std::string CharacterSetScreen::NameOf(int set) const {
+    const auto characters = all_.OfSet(set);
+    return std::to_string(set) + " - " + (characters.empty() ? "" : characters.front()->setName);
+}
+
+void CharacterSetScreen::Show(int set) {
+    set_ = set;
+    chosen_ = 0;
+    Read();
+}
+
+void CharacterSetScreen::Choose(std::size_t character) {
+    if (character < characters_.size()) chosen_ = character;
+}
+
+void CharacterSetScreen::MoveChoice(int by) {
+    const auto target = static_cast<std::ptrdiff_t>(chosen_) + by;
+    if (target >= 0) Choose(static_cast<std::size_t>(target));
+}
+
+std::optional<ScreenRequest> CharacterSetScreen::Open() {
+    if (characters_.empty()) return std::nullopt;
+    const int number = characters_[chosen_].number;
+    if (!IsEditableCharacter(set_, number)) {
+        Refuse(context_.dialogs, "Character " + std::to_string(number) + " cannot be edited");
+        return std::nullopt;
+    }
+    return ScreenRequest{.screen = Screen::Character,
+                         .key = {.key = set_ * kCharactersOfASet + number},
+                         .table = TableNum::Characters};
+}
+
+bool CharacterSetScreen::TakeFont() {
+    platform::FileQuestion question;
+    question.title = "Take Characters from a Font of 8 by 8";
+    question.filter = "Font in the Bitmap Distribution Format|*.bdf|All Files|*.*";
+    question.start = context_.document.Adventure().GameDir();
+    const auto file = context_.dialogs.ChooseFile(question);
+    if (!file) return false;
+    const auto font = pictures::ReadBdfFont(ReadWholeFile(*file, kLargestFont), file->filename().string());
+    Change change(context_.document, "take a font for character set " + std::to_string(set_));
+    store::Cursor& records = context_.document.Adventure().OpenTable(TableNum::Characters, "def",
+                                                                     "charsetnum=" + std::to_string(set_));
+    int taken = 0;
+    for (; !records.Eof(); records.MoveNext()) {
+        const int number = static_cast<int>(records.Number("charnum"));
+        const auto found = font.find(number);
+        if (found == font.end() || !IsEditableCharacter(set_, number)) continue;
+        records.SetField("charvals", pictures::FormatCharVals(found->second));
+        records.Update();
+        ++taken;
+    }
+    if (taken == 0) return Refuse(context_.dialogs, "The font has no character that this set could take.");
+    change.Commit();
+    Read();
+    return true;
+}
+
+}  // namespace fabula::authoring
