@@ -56,8 +56,8 @@ std::filesystem::path StarterFor(const std::filesystem::path& defaultData, store
 
 }  // namespace
 
-MainScreen::Desk::Desk(const std::filesystem::path& file, platform::Dialogs& dialogs)
-    : document(file), context{document, dialogs} {}
+MainScreen::Desk::Desk(const std::filesystem::path& file, store::OpenMode mode, platform::Dialogs& dialogs)
+    : document(file, mode), context{document, dialogs} {}
 
 MainScreen::MainScreen(const IdeHost& host, IdePaths paths, bool maintenance)
     : host_(host),
@@ -86,7 +86,8 @@ void MainScreen::Start(const std::function<void()>& show) {
 
 void MainScreen::NoteVersions() {
     std::vector<std::string> report;
-    if (desk_) report.push_back(NoteVersion(desk_->document.Adventure(), Program::Ide, paths_.version));
+    if (desk_ && !desk_->document.IsReadOnly())
+        report.push_back(NoteVersion(desk_->document.Adventure(), Program::Ide, paths_.version));
     report.push_back(ListVersion(paths_.versionFolders, Program::Ide, paths_.version, host_.clock.Now()));
     ReportVersions(report, host_.dialogs);
 }
@@ -125,15 +126,15 @@ bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::Ad
     const store::CreationHost host{host_.dialogs, host_.clock, host_.events, paths_.defaultData};
     bool created = false;
     Guard([&] {
-        created = store::CreateAdventure(false, file, setup, host);
+        created = store::CreateAdventure(false, file, setup, host, [&](store::Adventure& adventure) {
+            MarkAsNew(adventure);
+            if (starter) interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
+        });
         if (!created) return;
         host_.dialogs.Tell(file.filename().string() + " DataBase Created", kProgramName);
-        auto desk = std::make_unique<Desk>(file, host_.dialogs);
-        store::Adventure& adventure = desk->document.Adventure();
-        MarkAsNew(adventure);
-        if (starter) interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
+        auto desk = std::make_unique<Desk>(file, store::OpenMode::ReadWrite, host_.dialogs);
         WriteLastView(host_.settings, {{TableNum::Adventure, 0}, 0});
-        charSetsLoaded_ = charSetsLoaded_.value_or(false) || adventure.CharSetsOn();
+        charSetsLoaded_ = charSetsLoaded_.value_or(false) || desk->document.Adventure().CharSetsOn();
         Adopt(std::move(desk));
     });
     if (!created && replacesOpenOne) OpenFile(file);
@@ -149,8 +150,11 @@ bool MainScreen::Open() {
 bool MainScreen::OpenFile(const std::filesystem::path& file) {
     if (desk_ && IsSameFile(file, desk_->document.File())) return true;
     RememberView();
-    return Guard([&] {
-        auto desk = std::make_unique<Desk>(file, host_.dialogs);
+    bool wanted = true;
+    const bool opened = Guard([&] {
+        auto desk = OpenDesk(file);
+        wanted = desk != nullptr;
+        if (!wanted) return;
         if (!paths_.state.empty()) {
             Backups backups(paths_.state / "backups", host_.clock);
             BackUpAtOpening(backups, desk->document.Adventure(), host_.dialogs);
@@ -166,6 +170,27 @@ bool MainScreen::OpenFile(const std::filesystem::path& file) {
             kProgramName);
         mustExit_ = true;
     });
+    return opened && wanted;
+}
+
+/// A file that can't be changed is opened to read: where it can't be written the person is told, and where
+/// it is open for change elsewhere asked; nullptr for no.
+std::unique_ptr<MainScreen::Desk> MainScreen::OpenDesk(const std::filesystem::path& file) {
+    try {
+        return std::make_unique<Desk>(file, store::OpenMode::ReadWrite, host_.dialogs);
+    } catch (const store::OpenError& refused) {
+        const std::string why = refused.what();
+        if (refused.Reason() == store::Refusal::OpenForChange) {
+            if (!host_.dialogs.Confirm(why + " Open it to read only?", kProgramName)) return nullptr;
+        } else if (refused.Reason() == store::Refusal::CannotBeWritten) {
+            host_.dialogs.Tell(
+                why + " It is opened to read only; Save As makes a copy that can be changed.",
+                kProgramName);
+        } else {
+            throw;
+        }
+    }
+    return std::make_unique<Desk>(file, store::OpenMode::ReadOnly, host_.dialogs);
 }
 
 /// Puts an adventure in the place of the one that is open, which is closed; one that can't be shown leaves

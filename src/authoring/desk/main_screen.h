@@ -167,12 +167,13 @@ class MainScreen {
   private:
     /// The open adventure and what its screens share.
     struct Desk {
-        Desk(const std::filesystem::path& file, platform::Dialogs& dialogs);
+        Desk(const std::filesystem::path& file, store::OpenMode mode, platform::Dialogs& dialogs);
         Document document;
         ScreenContext context;
     };
 
     bool Guard(const std::function<void()>& step);
+    std::unique_ptr<Desk> OpenDesk(const std::filesystem::path& file);
     std::filesystem::path Folder() const;
     void NoteVersions();
     void Adopt(std::unique_ptr<Desk> desk);

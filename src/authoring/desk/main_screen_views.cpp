@@ -91,7 +91,7 @@ void MainScreen::SetFilter(std::string_view text) {
 }
 
 void MainScreen::ResizeColumn(int column, int width) {
-    if (!desk_) return;
+    if (!desk_ || desk_->document.IsReadOnly()) return;
     Guard([&] { grid_.ResizeColumn(desk_->document.Adventure(), column, width); });
 }
 

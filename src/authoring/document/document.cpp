@@ -5,8 +5,18 @@
 
 namespace fabula::authoring {
 
-Document::Document(const std::filesystem::path& file)
-    : adventure_(store::Adventure::Open(file)), log_(adventure_->CurrentFile()) {}
+Document::Document(const std::filesystem::path& file, store::OpenMode mode) {
+    if (mode == store::OpenMode::ReadOnly) {
+        adventure_ = store::Adventure::Open(file, mode);
+        return;
+    }
+    adventure_ = store::Adventure::OpenForChange(file);
+    try {
+        log_.emplace(adventure_->CurrentFile());
+    } catch (const Error& failure) {
+        throw store::OpenError(store::Refusal::CannotBeWritten, failure.what());
+    }
+}
 
 std::optional<std::string> Document::UndoName() const {
     if (done_.empty()) return std::nullopt;
@@ -33,7 +43,7 @@ void Document::PlaceLatest(int count, const Place& place) {
 
 std::set<store::TableNum> Document::Undo() {
     if (done_.empty()) return {};
-    const std::string changes = log_.Get(done_.back().changes);
+    const std::string changes = log_->Get(done_.back().changes);
     store::TakeBack(*adventure_, changes);
     undone_.push_back(std::move(done_.back()));
     done_.pop_back();
@@ -43,7 +53,7 @@ std::set<store::TableNum> Document::Undo() {
 
 std::set<store::TableNum> Document::Redo() {
     if (undone_.empty()) return {};
-    const std::string changes = log_.Get(undone_.back().changes);
+    const std::string changes = log_->Get(undone_.back().changes);
     store::DoAgain(*adventure_, changes);
     done_.push_back(std::move(undone_.back()));
     undone_.pop_back();
@@ -53,7 +63,9 @@ std::set<store::TableNum> Document::Redo() {
 
 void Document::SaveAs(const std::filesystem::path& file) {
     adventure_->SaveCopy(file);
-    adventure_ = store::Adventure::Open(file);
+    auto copy = store::Adventure::OpenForChange(file);
+    if (!log_) log_.emplace(copy->CurrentFile());
+    adventure_ = std::move(copy);
 }
 
 void Document::Add(Step step) {
@@ -61,19 +73,19 @@ void Document::Add(Step step) {
     Forget(undone_);
     done_.push_back(std::move(step));
     if (done_.size() <= kMostChanges) return;
-    log_.Remove(done_.front().changes);
+    log_->Remove(done_.front().changes);
     done_.pop_front();
 }
 
 void Document::Replace(Step& step, std::int64_t changes) {
     Forget(undone_);
-    log_.Remove(step.changes);
+    log_->Remove(step.changes);
     step.changes = changes;
 }
 
 void Document::Forget(std::deque<Step>& steps) {
     for (const Step& step : steps)
-        log_.Remove(step.changes);
+        log_->Remove(step.changes);
     steps.clear();
 }
 
@@ -110,13 +122,13 @@ void Change::CommitAsStep() {
     if (changes.empty()) return transaction_.Commit();
     // First the log, then the file: nothing is changed that could not be taken back.
     if (!joins_) {
-        Document::Step step{name_, document_.log_.Add(changes)};
+        Document::Step step{name_, document_.log_->Add(changes)};
         transaction_.Commit();
         return document_.Add(std::move(step));
     }
     Document::Step& latest = document_.done_.back();
-    const std::string before = document_.log_.Get(latest.changes);
-    const std::int64_t joined = document_.log_.Add(store::Joined(before, changes));
+    const std::string before = document_.log_->Get(latest.changes);
+    const std::int64_t joined = document_.log_->Add(store::Joined(before, changes));
     transaction_.Commit();
     document_.Replace(latest, joined);
 }

@@ -29,13 +29,17 @@ struct Place {
 /// undone and redone. What was changed is in the file at once; there is nothing to save.
 class Document {
   public:
-    /// Opens the file for writing. Throws store::OpenError when it is refused, and fabula::Error when the
-    /// file or its folder can't be written.
-    explicit Document(const std::filesystem::path& file);
+    /// Opens the file for change, or for reading only: nothing can be changed then, but SaveAs goes on with
+    /// a copy that can. Throws store::OpenError when it is refused: with OpenForChange when it is open for
+    /// change elsewhere, and with CannotBeWritten when the file or its folder can't be written, for want of
+    /// rights or of space.
+    explicit Document(const std::filesystem::path& file, store::OpenMode mode = store::OpenMode::ReadWrite);
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
     store::Adventure& Adventure() { return *adventure_; }
+    /// Whether the adventure is open for reading only.
+    bool IsReadOnly() const { return !log_; }
     const std::filesystem::path& File() const { return adventure_->CurrentFile(); }
 
     /// The name of the change that `Undo` would take back or `Redo` make again ("delete word LAMP");
@@ -80,7 +84,7 @@ class Document {
     void Forget(std::deque<Step>& steps);
 
     std::unique_ptr<store::Adventure> adventure_;
-    store::ChangeLog log_;
+    std::optional<store::ChangeLog> log_;  ///< without one nothing is changed
     std::deque<Step> done_;
     std::deque<Step> undone_;
     int changes_ = 0;

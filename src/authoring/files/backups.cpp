@@ -2,15 +2,18 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <functional>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "platform/error.h"
 #include "platform/file_names.h"
 #include "store/file_copy.h"
+#include "text/numbers.h"
 
 namespace fabula::authoring {
 namespace {
@@ -31,13 +34,15 @@ std::string Stamp(const platform::DateTime& time) {
     return stamp;
 }
 
+/// What stands behind the adventure's name in that of a copy: date and time; "d" is a digit.
+constexpr std::string_view kForm = "_dddddddd_dddddd";
+
 /// Whether a file is a copy of ours, by its name: the adventure's name, a date and a time, and perhaps a
 /// count.
 bool IsCopyOf(const std::string& name, const path& file) {
     const std::string stem = file.stem().string();
     if (file.extension() != kExtension || !stem.starts_with(name + "_")) return false;
     const std::string_view rest = std::string_view(stem).substr(name.size());
-    constexpr std::string_view kForm = "_dddddddd_dddddd";
     if (rest.size() < kForm.size()) return false;
     for (std::size_t i = 0; i < rest.size(); ++i) {
         const bool digit = rest[i] >= '0' && rest[i] <= '9';
@@ -76,12 +81,41 @@ void CopyWhileLocked(store::Adventure& adventure, const path& target) {
                                std::filesystem::copy_options::overwrite_existing);
 }
 
-path FreeName(const path& folder, const std::string& stem) {
-    path name = folder / (stem + kExtension);
-    std::error_code error;  // a folder that can't be looked at fails when the copy is made
-    for (int count = 2; std::filesystem::exists(name, error); ++count)
-        name = folder / (stem + "_" + std::to_string(count) + kExtension);
-    return name;
+/// The place of a copy in the order of making, from the number behind its date and time; the first has
+/// none.
+std::int64_t NumberOf(const std::string& name, const path& copy) {
+    const std::string stem = copy.stem().string();
+    const std::size_t behindDate = name.size() + kForm.size() + 1;
+    if (stem.size() <= behindDate) return 1;
+    return text::WholeNumber(std::string_view(stem).substr(behindDate)).value_or(1);
+}
+
+/// The eight digits of the day that a copy was made on.
+std::string DayOf(const std::string& name, const path& copy) {
+    return copy.stem().string().substr(name.size() + 1, 8);
+}
+
+platform::DateTime TimeOf(const std::string& name, const path& copy) {
+    const std::string stem = copy.stem().string().substr(name.size() + 1);
+    const auto number = [&](std::size_t at, std::size_t length) {
+        return static_cast<int>(text::WholeNumber(stem.substr(at, length)).value_or(0));
+    };
+    return {number(0, 4), number(4, 2), number(6, 2), number(9, 2), number(11, 2), number(13, 2)};
+}
+
+/// The days up to `last`, as DayOf gives them.
+std::vector<std::string> DaysUpTo(const platform::DateTime& last, int count) {
+    using namespace std::chrono;
+    const sys_days today =
+        year(last.year) / month(static_cast<unsigned>(last.month)) / day(static_cast<unsigned>(last.day));
+    std::vector<std::string> result;
+    for (int back = 0; back < count; ++back) {
+        const year_month_day day(today - days(back));
+        result.push_back(Stamp({static_cast<int>(day.year()), static_cast<int>(unsigned{day.month()}),
+                                static_cast<int>(unsigned{day.day()})})
+                             .substr(0, 8));
+    }
+    return result;
 }
 
 }  // namespace
@@ -100,10 +134,31 @@ std::vector<path> Backups::Of(const path& adventure) const {
          entry.increment(error)) {
         if (entry->is_regular_file(error) && IsCopyOf(name, entry->path())) copies.push_back(entry->path());
     }
-    // By the stem: the extension must not come between a copy and a later one of the same second.
-    std::sort(copies.begin(), copies.end(),
-              [](const path& left, const path& right) { return right.stem() < left.stem(); });
+    // Copies of older programs have no numbers but for those of the same second; their dates tell.
+    std::sort(copies.begin(), copies.end(), [&](const path& left, const path& right) {
+        return std::pair(NumberOf(name, right), right.stem().string()) <
+               std::pair(NumberOf(name, left), left.stem().string());
+    });
     return copies;
+}
+
+std::vector<Backup> Backups::List(const path& adventure) const {
+    std::vector<Backup> backups;
+    for (const path& copy : Of(adventure)) {
+        std::error_code error;  // a copy that goes meanwhile shows as empty
+        const std::uintmax_t size = std::filesystem::file_size(copy, error);
+        backups.push_back({copy, TimeOf(NameOf(adventure), copy), error ? 0 : size});
+    }
+    return backups;
+}
+
+void Backups::DeleteOld(const path& adventure) const {
+    const std::vector<path> copies = Of(adventure);
+    std::vector<std::string> wanted = DaysUpTo(clock_.Now(), kDaysKept);
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        const bool lastOfItsDay = std::erase(wanted, DayOf(NameOf(adventure), copies[i])) > 0;
+        if (i >= kMostBackups && !lastOfItsDay) std::filesystem::remove(copies[i]);
+    }
 }
 
 std::optional<path> Backups::Add(store::Adventure& adventure) {
@@ -112,19 +167,36 @@ std::optional<path> Backups::Add(store::Adventure& adventure) {
     try {
         const path folder = FolderOf(source);
         std::filesystem::create_directories(folder);
-        const path target = FreeName(folder, NameOf(source) + "_" + Stamp(clock_.Now()));
+        const std::string name = NameOf(source);
+        const std::vector<path> before = Of(source);
+        std::string stem = name + "_" + Stamp(clock_.Now());
+        if (!before.empty()) stem += "_" + std::to_string(NumberOf(name, before.front()) + 1);
+        const path target = folder / (stem + kExtension);
         const store::TemporaryFile making(target);
         CopyWhileLocked(adventure, making.Path());
-        const std::vector<path> before = Of(source);
         if (!before.empty() && SameBytes(making.Path(), before.front())) return std::nullopt;
         store::MoveIntoPlace(making.Path(), target);
-        const std::vector<path> copies = Of(source);
-        for (std::size_t i = kMostBackups; i < copies.size(); ++i)
-            std::filesystem::remove(copies[i]);
+        DeleteOld(source);
         return target;
     } catch (const std::filesystem::filesystem_error& error) {
         throw Error(doing + error.code().message() + ".");
     }
+}
+
+std::vector<CountDifference> CompareCounts(store::Adventure& backup, store::Adventure& now) {
+    std::vector<CountDifference> differences;
+    for (const store::TableEntry& table : store::AllTables()) {
+        const auto count = [&](store::Adventure& adventure) {
+            return std::int64_t{adventure.OpenTable(table.number, table.key).RecordCount()};
+        };
+        const CountDifference difference{std::string(table.name), count(backup), count(now)};
+        if (difference.inBackup != difference.now) differences.push_back(difference);
+    }
+    return differences;
+}
+
+void RestoreBackup(const path& backup, const path& target) {
+    store::Adventure::Open(backup, store::OpenMode::ReadOnly)->SaveCopy(target);
 }
 
 void BackUpAtOpening(Backups& backups, store::Adventure& adventure, platform::Operator& person) {

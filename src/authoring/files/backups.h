@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "platform/clock.h"
@@ -10,28 +12,55 @@
 
 namespace fabula::authoring {
 
+/// A backup copy, as it is shown.
+struct Backup {
+    std::filesystem::path file;
+    platform::DateTime made;  ///< as the clock said
+    std::uintmax_t size = 0;  ///< in bytes
+};
+
 /// Backup copies of adventures, in a folder of their own for each: below `folder`, named by the adventure's
-/// file and its place. A copy is named by the file, the date and the time.
+/// file and its place. A copy is named by the file, the date and the time, and from the second on by its
+/// number in the order of making ("game_20260309_080507_12.fbd"), since a clock may be set back.
 class Backups {
   public:
     Backups(std::filesystem::path folder, const platform::Clock& clock);
 
-    /// Copies the adventure as it stands, and deletes what is then more than the last kMostBackups copies.
-    /// A copy that would be byte for byte the latest one is not made: nullopt. Throws fabula::Error; the
-    /// older copies are then as they were.
+    /// Copies the adventure as it stands, and deletes what is then neither among the last kMostBackups
+    /// copies nor the last one of one of the last kDaysKept days. A copy that would be byte for byte the
+    /// latest one is not made: nullopt. Throws fabula::Error; the older copies are then as they were.
     std::optional<std::filesystem::path> Add(store::Adventure& adventure);
 
-    /// The copies of an adventure file, the latest first.
+    /// The copies of an adventure file, the latest first, in the order of their making.
     std::vector<std::filesystem::path> Of(const std::filesystem::path& adventure) const;
+    std::vector<Backup> List(const std::filesystem::path& adventure) const;
 
     static constexpr std::size_t kMostBackups = 10;
+    static constexpr int kDaysKept = 7;
 
   private:
     std::filesystem::path FolderOf(const std::filesystem::path& adventure) const;
+    void DeleteOld(const std::filesystem::path& adventure) const;
 
     std::filesystem::path folder_;
     const platform::Clock& clock_;
 };
+
+/// How many records of a table a backup holds, and how many the adventure holds now.
+struct CountDifference {
+    std::string table;
+    std::int64_t inBackup = 0;
+    std::int64_t now = 0;
+
+    friend bool operator==(const CountDifference&, const CountDifference&) = default;
+};
+
+/// The tables whose counts differ, in the order of their numbers.
+std::vector<CountDifference> CompareCounts(store::Adventure& backup, store::Adventure& now);
+
+/// Puts a backup in the place of `target`, which must not be open for change: a document is closed before.
+/// Throws fabula::Error; `target` is then as it was.
+void RestoreBackup(const std::filesystem::path& backup, const std::filesystem::path& target);
 
 /// Makes the backup copy of an adventure that was just opened. When that fails the person is told, and work
 /// goes on.

@@ -153,6 +153,35 @@ TEST_F(MainWindowTest, OpensANewAdventureOnItsSettings) {
     EXPECT_EQ(main->RecentFiles().at(0), folder / "first.fbd");
 }
 
+TEST_F(MainWindowTest, OffersToReadAnAdventureThatIsOpenForChangeElsewhere) {
+    const std::filesystem::path file = Make("shared.fbd");
+    const auto elsewhere = store::Adventure::OpenForChange(file);
+    EXPECT_FALSE(main->OpenFile(file));
+    EXPECT_EQ(main->GetState(), State::NoAdventure);
+    dialogs.AnswerNext(true);
+    EXPECT_TRUE(main->OpenFile(file));
+    EXPECT_EQ(Boxes().back(),
+              "Could not open " + file.string() +
+                  ": it is open for change in another window or program. Open it to read only?");
+    EXPECT_TRUE(main->CurrentContext().document.IsReadOnly());
+    main->ResizeColumn(0, 500);
+}
+
+TEST_F(MainWindowTest, OpensAFileThatCannotBeWrittenToReadAndSaysSo) {
+    const std::filesystem::path file = Make("fixed.fbd");
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    EXPECT_TRUE(main->OpenFile(file));
+    EXPECT_EQ(Boxes().back(),
+              "Could not open " + file.string() +
+                  ": it can only be read. It is opened to read only; Save As makes a copy that "
+                  "can be changed.");
+    EXPECT_TRUE(main->CurrentContext().document.IsReadOnly());
+    dialogs.AnswerFile(folder / "own.fbd");
+    EXPECT_TRUE(main->SaveAs());
+    EXPECT_FALSE(main->CurrentContext().document.IsReadOnly());
+    StoreMessage(1, "changed");
+}
+
 TEST_F(MainWindowTest, MarksANewAdventureAsNew) {
     New("first.fbd");
     EXPECT_EQ(Text(TableNum::Adventure, "source"), "New");

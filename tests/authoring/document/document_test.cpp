@@ -7,6 +7,7 @@
 #include "authoring/document/screen_context.h"
 #include "platform/error.h"
 #include "platform/scripted_dialogs.h"
+#include "support/child_process.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 
@@ -38,6 +39,54 @@ class DocumentTest : public testing::Test {
     test::TempFolder folder_;
     Document document_;
 };
+
+TEST_F(DocumentTest, IsOpenForChangeOnce) {
+    try {
+        Document(document_.File());
+        FAIL() << "it was opened twice";
+    } catch (const store::OpenError& error) {
+        EXPECT_EQ(error.Reason(), store::Refusal::OpenForChange);
+    }
+    Document reader(document_.File(), store::OpenMode::ReadOnly);
+    EXPECT_TRUE(reader.IsReadOnly());
+    EXPECT_FALSE(document_.IsReadOnly());
+    AddMessage(0);
+}
+
+TEST_F(DocumentTest, OpenForReadingRefusesChangesAndGoesOnWithACopyThatTakesThem) {
+    AddMessage(0);
+    Document reader(document_.File(), store::OpenMode::ReadOnly);
+    EXPECT_THROW(
+        {
+            Change change(reader, "delete all messages");
+            reader.Adventure().DeleteFrom(TableNum::Messages);
+            change.Commit();
+        },
+        Error);
+    EXPECT_EQ(Messages(), 1);
+    reader.SaveAs(folder_ / "copy.fbd");
+    EXPECT_FALSE(reader.IsReadOnly());
+    Change change(reader, "delete all messages");
+    EXPECT_EQ(reader.Adventure().DeleteFrom(TableNum::Messages), 1);
+    change.Commit();
+    EXPECT_EQ(reader.UndoName(), "delete all messages");
+    EXPECT_EQ(Messages(), 1);
+}
+
+TEST_F(DocumentTest, OnAFullDiskCanOnlyBeReadAndSaysSoAtOnce) {
+    const auto file = Made(folder_ / "other.fbd");
+    EXPECT_EQ(test::RunInChild([&] {
+                  test::LimitFileSize(0);
+                  try {
+                      Document full(file);
+                  } catch (const store::OpenError& error) {
+                      if (error.Reason() != store::Refusal::CannotBeWritten) return 1;
+                      return Document(file, store::OpenMode::ReadOnly).IsReadOnly() ? 0 : 2;
+                  }
+                  return 3;
+              }),
+              0);
+}
 
 TEST_F(DocumentTest, HasNothingToUndoAtFirst) {
     EXPECT_EQ(document_.UndoName(), std::nullopt);

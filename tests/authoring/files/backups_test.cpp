@@ -68,7 +68,8 @@ TEST_F(BackupsTest, AreMadeAgainWhenTheFileHasChanged) {
     const auto copy = backups_.Add(*adventure_);
     ASSERT_TRUE(copy);
     EXPECT_EQ(TitleIn(*copy), "Second");
-    EXPECT_EQ(Names(), (std::vector<std::string>{"game_20260310_090000.fbd", "game_20260309_080507.fbd"}));
+    EXPECT_EQ(Names(),
+              (std::vector<std::string>{"game_20260310_090000_2.fbd", "game_20260309_080507.fbd"}));
 }
 
 TEST_F(BackupsTest, OfTheSameSecondAreCounted) {
@@ -88,8 +89,93 @@ TEST_F(BackupsTest, TheLastTenAreKept) {
     }
     const auto copies = backups_.Of(adventure_.File());
     ASSERT_EQ(copies.size(), 10U);
-    EXPECT_EQ(copies.front().filename(), "game_20260309_081100.fbd");
-    EXPECT_EQ(copies.back().filename(), "game_20260309_080200.fbd");
+    EXPECT_EQ(copies.front().filename(), "game_20260309_081100_12.fbd");
+    EXPECT_EQ(copies.back().filename(), "game_20260309_080200_3.fbd");
+}
+
+TEST_F(BackupsTest, AreKeptInTheOrderOfMakingWhateverTheClockSays) {
+    for (int minute = 0; minute < 10; ++minute) {
+        Rename(std::to_string(minute).c_str());
+        clock_.Set({2026, 3, 9, 8, minute, 0});
+        backups_.Add(*adventure_);
+    }
+    Rename("After the clock was set back");
+    clock_.Set({2020, 1, 1, 0, 0, 0});
+    const auto copy = backups_.Add(*adventure_);
+    ASSERT_TRUE(copy);
+    EXPECT_TRUE(std::filesystem::exists(*copy));
+    EXPECT_EQ(backups_.Of(adventure_.File()).front(), *copy);
+    EXPECT_EQ(backups_.Of(adventure_.File()).size(), 10U);
+    EXPECT_EQ(backups_.Add(*adventure_), std::nullopt);
+}
+
+TEST_F(BackupsTest, OfOlderProgramsComeBeforeTheNewOnes) {
+    const auto first = backups_.Add(*adventure_);
+    for (const char* name : {"game_20260401_000000.fbd", "game_20260401_000000_2.fbd"})
+        std::filesystem::copy_file(*first, first->parent_path() / name);
+    Rename("Later");
+    const auto copy = backups_.Add(*adventure_);
+    EXPECT_EQ(Names(), (std::vector<std::string>{copy->filename(), "game_20260401_000000_2.fbd",
+                                                 "game_20260401_000000.fbd", "game_20260309_080507.fbd"}));
+}
+
+TEST_F(BackupsTest, OneOfEachOfTheLastSevenDaysIsKept) {
+    for (int day = 1; day <= 9; ++day) {
+        for (int minute = 0; minute < (day == 9 ? 12 : 2); ++minute) {
+            Rename((std::to_string(day) + ":" + std::to_string(minute)).c_str());
+            clock_.Set({2026, 3, day, 8, minute, 0});
+            backups_.Add(*adventure_);
+        }
+    }
+    std::vector<std::string> older = Names();
+    older.erase(older.begin(), older.begin() + 10);
+    EXPECT_EQ(older,
+              (std::vector<std::string>{"game_20260308_080100_16.fbd", "game_20260307_080100_14.fbd",
+                                        "game_20260306_080100_12.fbd", "game_20260305_080100_10.fbd",
+                                        "game_20260304_080100_8.fbd", "game_20260303_080100_6.fbd"}));
+}
+
+TEST_F(BackupsTest, AreListedWithTheirTimesAndSizes) {
+    const auto copy = backups_.Add(*adventure_);
+    const std::vector<Backup> list = backups_.List(adventure_.File());
+    ASSERT_EQ(list.size(), 1U);
+    EXPECT_EQ(list[0].file, *copy);
+    EXPECT_EQ(list[0].made, (platform::DateTime{2026, 3, 9, 8, 5, 7}));
+    EXPECT_EQ(list[0].size, std::filesystem::file_size(adventure_.File()));
+}
+
+TEST_F(BackupsTest, AreComparedByTheCountsOfTheirRecords) {
+    const auto copy = backups_.Add(*adventure_);
+    adventure_->DeleteFrom(TableNum::Sounds);
+    store::Cursor& messages = adventure_->OpenTable(TableNum::Messages, "*");
+    const std::int64_t before = messages.RecordCount();
+    messages.AddNew();
+    messages.SetField("msgnum", 900);
+    messages.Update();
+    const auto backup = store::Adventure::Open(*copy, store::OpenMode::ReadOnly);
+    const std::int64_t sounds = backup->OpenTable(TableNum::Sounds, "sndnum").RecordCount();
+    std::vector<CountDifference> expected{{"Messages", before, before + 1}};
+    if (sounds > 0) expected.push_back({"Sounds", sounds, 0});
+    EXPECT_EQ(CompareCounts(*backup, *adventure_), expected);
+}
+
+TEST_F(BackupsTest, AreRestoredInThePlaceOfAClosedAdventure) {
+    Rename("First");
+    const auto copy = backups_.Add(*adventure_);
+    Rename("Second");
+    adventure_.Close();
+    RestoreBackup(*copy, adventure_.File());
+    EXPECT_EQ(TitleIn(adventure_.File()), "First");
+    EXPECT_TRUE(std::filesystem::exists(*copy));
+}
+
+TEST_F(BackupsTest, AreNotRestoredOverAnAdventureThatIsOpenForChange) {
+    const auto copy = backups_.Add(*adventure_);
+    Rename("Second");
+    adventure_.Close();
+    const auto open = store::Adventure::OpenForChange(adventure_.File());
+    EXPECT_THROW(RestoreBackup(*copy, adventure_.File()), Error);
+    EXPECT_EQ(open->OpenTable(TableNum::Adventure, "def").Text("advname"), "Second");
 }
 
 TEST_F(BackupsTest, OtherFilesInTheFolderStay) {
