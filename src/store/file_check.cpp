@@ -77,7 +77,7 @@ void CheckHeader(const std::filesystem::path& file) {
     if (BigEndian(header, kUserVersionAt) > kFileVersion) Refuse(Refusal::NewerVersion, file);
     const auto log = std::filesystem::path(file) += "-wal";
     const bool hasLog = std::filesystem::exists(std::filesystem::symlink_status(log, error));
-    if (hasLog || header[kWriteVersionAt] == kWriteAheadLog || header[kReadVersionAt] == kWriteAheadLog)
+    if (hasLog || (header[kWriteVersionAt] == kWriteAheadLog && header[kReadVersionAt] == kWriteAheadLog))
         Refuse(Refusal::WriteAheadLog, file);
     if (header[kWriteVersionAt] != kRollbackJournal || header[kReadVersionAt] != kRollbackJournal) {
         Refuse(Refusal::Damaged, file);

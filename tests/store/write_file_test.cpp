@@ -17,7 +17,8 @@ int flushedFolders = 0;
 
 }  // namespace
 
-/// In place of the C library's, to know what was flushed: nothing else tells before the machine loses its power.
+/// In place of the C library's, to know what was flushed: nothing else tells before the machine loses its
+/// power.
 extern "C" int fsync(int handle) {
     struct stat status = {};
     if (fstat(handle, &status) == 0 && S_ISDIR(status.st_mode)) ++flushedFolders;
@@ -36,7 +37,7 @@ TEST(WriteFile, ThatCannotWriteToTheEndReplacesNothing) {
         try {
             WriteFile(file, std::string(100'000, 'x'));
         } catch (const Error& error) {
-            return error.what() == "Could not write " + file.string() + "." ? 1 : 2;
+            return error.what() == "Could not write " + file.string() + ": File too large." ? 1 : 2;
         }
         return 0;
     });
