@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds and runs every test: an optimised build by g++, the same tests built by clang under
-# the sanitizers, the programs that need no Qt without it, and the checks of formatting and includes.
+# the sanitizers, the programs that need no Qt without it, what plays a game without the packages of all other programs,
+# and the checks of formatting and includes.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -25,4 +26,5 @@ build sanitize
 echo "tests: sanitize"
 ctest --preset sanitize -j "$(nproc)"
 build core-only
+build core
 echo "all tests passed"

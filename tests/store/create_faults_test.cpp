@@ -40,6 +40,14 @@ TEST_F(Create, AMissingFileOfDataIsAnError) {
     EXPECT_TRUE(FilesInGames().empty());
 }
 
+TEST_F(Create, WhatCouldNotBeOpenedIsNotPutIntoPlace) {
+    const auto isText = [](const std::string& line) { return line.rfind("msgmsg|", 0) == 0; };
+    lines_.erase(std::find_if(lines_.begin(), lines_.end(), isText));
+    WriteData();
+    EXPECT_THROW(MakeWith(DataFile()), OpenError);
+    EXPECT_TRUE(FilesInGames().empty());
+}
+
 TEST_F(Create, ASectionWithoutAnEndIsAnError) {
     lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(Find("::VELTABLESDB")) - 2);
     EXPECT_EQ(ErrorOf(), "is wrong in section ::INFO at line 7: the section has no end.");

@@ -1,4 +1,5 @@
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -39,6 +40,7 @@ int Run(int argc, char** argv) {
     QApplication::setApplicationName("Fabula");
     QApplication::setApplicationVersion(FABULA_VERSION);
     QApplication::setDesktopFileName("fabula-ide");
+    QApplication::setWindowIcon(QIcon::fromTheme("fabula"));
     // While a game is tested the window is hidden and another one closes. This one ends the program itself.
     QApplication::setQuitOnLastWindowClosed(false);
 

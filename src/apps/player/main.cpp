@@ -1,4 +1,5 @@
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -21,6 +22,7 @@ int Run(int argc, char** argv) {
     QApplication::setApplicationName("Fabula");
     QApplication::setApplicationVersion(FABULA_VERSION);
     QApplication::setDesktopFileName("fabula-engine");
+    QApplication::setWindowIcon(QIcon::fromTheme("fabula"));
 
     QCommandLineParser arguments;
     arguments.setApplicationDescription("Plays text adventures.");
