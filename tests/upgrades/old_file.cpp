@@ -4,6 +4,7 @@
 
 #include "store/file_check.h"
 #include "store/file_forms.h"
+#include "support/places.h"
 #include "support/raw_database.h"
 #include "support/template_adventure.h"
 #include "text/utf8.h"
@@ -83,7 +84,7 @@ std::string LineOf(const store::Cursor& record) {
 }  // namespace
 
 std::filesystem::path DefaultDataFile() {
-    return std::filesystem::path(FABULA_SOURCE_DIR) / "data" / "Fabula.ini";
+    return DefaultData();
 }
 
 void MakeGame(const std::filesystem::path& file, store::AdventureKind kind) {
