@@ -18,7 +18,7 @@ Glyph Made(Source source) {
 }
 
 Glyph ByRow(Glyph glyph, std::uint8_t (*change)(std::uint8_t row)) {
-    std::ranges::transform(glyph, glyph.begin(), change);
+    std::transform(glyph.begin(), glyph.end(), glyph.begin(), change);
     return glyph;
 }
 
@@ -41,13 +41,13 @@ Glyph ShiftRight(const Glyph& glyph) {
 
 Glyph ShiftUp(const Glyph& glyph) {
     Glyph shifted = glyph;
-    std::ranges::rotate(shifted, shifted.begin() + 1);
+    std::rotate(shifted.begin(), shifted.begin() + 1, shifted.end());
     return shifted;
 }
 
 Glyph ShiftDown(const Glyph& glyph) {
     Glyph shifted = glyph;
-    std::ranges::rotate(shifted, shifted.end() - 1);
+    std::rotate(shifted.begin(), shifted.end() - 1, shifted.end());
     return shifted;
 }
 
@@ -61,7 +61,7 @@ Glyph MirrorSideways(const Glyph& glyph) {
 
 Glyph MirrorUpsideDown(const Glyph& glyph) {
     Glyph mirrored = glyph;
-    std::ranges::reverse(mirrored);
+    std::reverse(mirrored.begin(), mirrored.end());
     return mirrored;
 }
 

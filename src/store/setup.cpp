@@ -16,8 +16,10 @@ constexpr std::string_view kExplanations[] = {
 
 }  // namespace
 
-AdventureSetup::AdventureSetup(Adventure& adventure)
-    : graphics_(adventure.GraphicsOn()), charSets_(adventure.CharSetsOn()) {
+AdventureSetup::AdventureSetup(Adventure& adventure) {
+    adventure.ReadSettings();
+    graphics_ = adventure.GraphicsOn();
+    charSets_ = adventure.CharSetsOn();
     const bool decompiled = adventure.OpenTable(TableNum::Adventure, "unmarloed").Number("unmarloed") != 0;
     const auto stored = AdventureKindFrom(adventure.AdventureType());
     ChooseType(decompiled ? AdventureKind::Marlo : stored.value_or(AdventureKind::Fabula));

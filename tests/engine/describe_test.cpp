@@ -132,7 +132,7 @@ TEST(ShowRoomPicture, APathWithoutAPictureKeyIsNoPicture) {
     platform::ScriptedOperator oper;
     QueuedRandom random;
     engine::SilentPlayer sound;
-    engine::Engine engine(*adventure, {window, oper, random, sound});
+    engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
     engine.Initialize();
     EXPECT_EQ(window.pictures, (Pictures{Picture{"any.bmp", -1}}));
 }

@@ -165,7 +165,7 @@ std::string BoxOf(const GameBuilder& game, Change change) {
     platform::ScriptedOperator oper;
     QueuedRandom random;
     engine::SilentPlayer sound;
-    engine::Engine engine(*adventure, {window, oper, random, sound});
+    engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
     engine.Initialize();
     return oper.Boxes().empty() ? "" : oper.Boxes().back().text;
 }
@@ -231,7 +231,7 @@ TEST(OldGame, WithoutNumericListsIsCompiledFromTheText) {
     platform::ScriptedOperator oper;
     QueuedRandom random;
     engine::SilentPlayer sound;
-    engine::Engine engine(*adventure, {window, oper, random, sound});
+    engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
     engine.Initialize();
     engine.EnterLine("DO LAMP");
     EXPECT_EQ(engine.Running()->Flag(200), 0);

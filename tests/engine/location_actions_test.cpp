@@ -153,7 +153,7 @@ TEST(SearchConnections, ALocationWithNumexits0HasNoExitsWhateverItsListHolds) {
     platform::ScriptedOperator oper;
     QueuedRandom random;
     engine::SilentPlayer sound;
-    engine::Engine engine(*adventure, {window, oper, random, sound});
+    engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
     engine.Initialize();
     window.TakeText();
     engine.EnterLine("DO");

@@ -15,7 +15,7 @@ namespace {
 using testing::ElementsAre;
 using testing::UnorderedElementsAreArray;
 
-const std::filesystem::path kSource = test::SourceFolder();
+const std::filesystem::path kSource = fabula::test::SourceFolder();
 
 std::string Content(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);

@@ -51,7 +51,7 @@ std::vector<Sent> MessagesOf(const std::string& condacts, AdventureKind kind = A
     engine::RecordingWindow window;
     platform::ScriptedOperator oper;
     test::QueuedRandom random;
-    engine::Engine engine(*adventure, {window, oper, random, player});
+    engine::Engine engine(*adventure, {window, oper, random, player, nullptr, window.Parts()});
     engine.Initialize();
     engine.EnterLine("DO");
     for (std::size_t pauses = 0; pauses < window.waits.size(); ++pauses) {

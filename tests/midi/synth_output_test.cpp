@@ -75,7 +75,7 @@ std::vector<double> RenderBeep(const std::string& beep) {
     engine::RecordingWindow window;
     platform::ScriptedOperator oper;
     test::QueuedRandom random;
-    engine::Engine engine(*adventure, {window, oper, random, player});
+    engine::Engine engine(*adventure, {window, oper, random, player, nullptr, window.Parts()});
     engine.Initialize();
     for (int step = 0; step < 90; ++step) {
         rendered.Render(milliseconds(10));

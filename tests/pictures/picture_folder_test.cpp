@@ -39,8 +39,8 @@ class PictureFolder : public testing::Test {
         return std::string(adventure_->OpenTable(table, "def", where).Text(field));
     }
 
-    std::int64_t Number(const std::string& field) {
-        return adventure_->OpenTable(TableNum::Pictures, "def", "locnum=0").Number(field);
+    std::int64_t Number(const std::string& field, const std::string& where = "locnum=0") {
+        return adventure_->OpenTable(TableNum::Pictures, "def", where).Number(field);
     }
 
     bool Exists(const std::string& bitmap) const {
@@ -86,7 +86,7 @@ TEST_F(PictureFolder, DefaultDrawingIsTheDefaultPicture) {
 TEST_F(PictureFolder, TheDefaultPictureHasANumberThatNoLocationCanHave) {
     Write("default.draw", "END");
     Add();
-    EXPECT_EQ(Field(TableNum::Pictures, "locnum"), "1000");
+    EXPECT_EQ(Number("locnum", ""), 1000);
 }
 
 TEST_F(PictureFolder, OnlyThePicturesOfRoomsNameARoom) {
@@ -94,9 +94,9 @@ TEST_F(PictureFolder, OnlyThePicturesOfRoomsNameARoom) {
     Write("500.draw", "LINE 0 8 8 END");
     Write("default.draw", "END");
     Add();
-    EXPECT_EQ(Field(TableNum::Pictures, "roompicnum", "locnum=0"), "0");
-    EXPECT_EQ(Field(TableNum::Pictures, "roompicnum", "locnum=500"), "-1");
-    EXPECT_EQ(Field(TableNum::Pictures, "roompicnum", "locnum=1000"), "-1");
+    EXPECT_EQ(Number("roompicnum", "locnum=0"), 0);
+    EXPECT_EQ(Number("roompicnum", "locnum=500"), -1);
+    EXPECT_EQ(Number("roompicnum", "locnum=1000"), -1);
 }
 
 TEST_F(PictureFolder, NumberWithoutARoomIsASubroutineWithoutABitmap) {

@@ -227,7 +227,7 @@ class UnVelWriter {
         Item("Character sets", game_.fonts.size());
         Item("Conveyable objects", static_cast<std::size_t>(game_.maxObjects));
         Item("Graphics Count", game_.pictures.size());
-        out_ += std::string(74, '-') + "\n";
+        out_.append(74, '-').append("\n");
     }
 
     void Text(const std::string& label, std::size_t number, const ListedGame::Text& text) {

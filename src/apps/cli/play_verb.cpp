@@ -82,7 +82,7 @@ int Play(const Options& options) {
     const bool ended = terminal::PlaySession(
         *adventure, window, screen,
         {options.seed, interactive || options.realTime, options.debug, trace ? &*trace : nullptr});
-    transcriptStream.close();
+    if (transcript) transcriptStream.close();
     if (!transcriptStream) throw Error("Could not write all of the transcript " + options.transcript + ".");
     if (trace && !trace->Finish()) throw Error("Could not write all of the trace " + options.trace + ".");
     return ended ? kDone : kFailed;

@@ -15,6 +15,8 @@
 namespace fabula::authoring {
 namespace {
 
+constexpr std::string_view kTooLarge = "ShortDesc.lis is too large. No short descriptions loaded.";
+
 using store::TableNum;
 
 /// One reading of the list.
@@ -91,8 +93,7 @@ bool LoadShortDesc(ScreenContext& context) {
                       "Cannot find " + std::string(kShortDescFile) + " in " + folder.string());
     std::error_code error;  // what can't be measured can't be read either
     if (std::filesystem::file_size(file, error) > kLargestShortDescFile)
-        return Refuse(context.dialogs,
-                      std::string(kShortDescFile) + " is too large. No short descriptions loaded.");
+        return Refuse(context.dialogs, kTooLarge);
     interchange::NoObserver nobody;
     interchange::JobStatus status(nobody);
     try {

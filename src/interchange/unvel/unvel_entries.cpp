@@ -59,14 +59,13 @@ class Entries final : public UnVelSection {
 
     /// A word that the vocabulary does not have stays, as one that fits any.
     static void SetWord(std::string_view listed, const Word* found, std::string& word, int& number) {
-        word = text::UpperCase(listed);
-        number = condacts::kNoWordNumber;
+        number = found != nullptr ? found->number : condacts::kNoWordNumber;
         if (listed.empty() || listed == kAnyWord) {
-            word = condacts::kNoWord;
-        } else if (found != nullptr) {
-            word = found->word;
-            number = found->number;
+            word = std::string(condacts::kNoWord);
+            number = condacts::kNoWordNumber;
+            return;
         }
+        word = found != nullptr ? found->word : text::UpperCase(listed);
     }
 
     void Flush() {

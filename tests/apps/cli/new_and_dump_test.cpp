@@ -14,7 +14,7 @@ namespace {
 class Program : public testing::Test {
   protected:
     ProgramResult Run(const std::vector<std::string>& arguments) {
-        return RunProgram(Program(), arguments);
+        return RunProgram(test::Program(), arguments);
     }
     std::string File() const { return (folder_ / "game.fbd").string(); }
 
