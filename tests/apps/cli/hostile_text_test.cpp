@@ -53,7 +53,8 @@ class HostileText : public testing::Test {
 
 TEST_F(HostileText, OfASourceReachesNoTerminalFromCheck) {
     const ProgramResult result = RunPlain({"check", File("game.txt")});
-    EXPECT_NE(result.output.find("FROB is an invalid Condition/Action"), std::string::npos) << result.output;
+    EXPECT_NE(result.output.find("FROB is an invalid Condition/Action"), std::string::npos)
+        << result.output;
 }
 
 TEST_F(HostileText, OfASourceReachesNoTerminalFromImportVerifyAndExport) {

@@ -59,7 +59,8 @@ TEST_F(ImportVerb, ABadSourceFailsAndLeavesNoFile) {
 TEST_F(ImportVerb, AnUnknownKindIsWrongUsage) {
     const ProgramResult result = Run({"import", "word", File("game.txt"), File("game.fbd")});
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors, "fabula: the kind must be one of unmarlo, unvel, pcvel, fabula, ace, not 'word'\n");
+    EXPECT_EQ(result.errors,
+              "fabula: the kind must be one of unmarlo, unvel, pcvel, fabula, ace, not 'word'\n");
 }
 
 TEST_F(ExportVerb, WritesEachKindAndReadsItBack) {
