@@ -156,6 +156,7 @@ TEST_F(MainWindowTest, OpensANewAdventureOnItsSettings) {
 TEST_F(MainWindowTest, OffersToReadAnAdventureThatIsOpenForChangeElsewhere) {
     const std::filesystem::path file = Make("shared.fbd");
     const auto elsewhere = store::Adventure::OpenForChange(file);
+    dialogs.AnswerNext(false);
     EXPECT_FALSE(main->OpenFile(file));
     EXPECT_EQ(main->GetState(), State::NoAdventure);
     dialogs.AnswerNext(true);

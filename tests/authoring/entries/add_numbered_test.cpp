@@ -40,19 +40,27 @@ TEST(AddLocation, OfAnEmptyTableIsNumberZero) {
 
 TEST(AddLocation, AfterNumber251Is256) {
     Desk desk;
-    desk.Add(TableNum::Locations, {{"locnum", std::int64_t{251}}});
+    desk.FillUp(TableNum::Locations, 252);
     EXPECT_EQ(KeyOfNew(desk, TableNum::Locations), 256);
+}
+
+TEST(AddLocation, TakesTheLowestFreeNumber) {
+    Desk desk;
+    desk.FillUp(TableNum::Locations, 4);
+    desk.Add(TableNum::Locations, {{"locnum", std::int64_t{7}}});
+    EXPECT_EQ(KeyOfNew(desk, TableNum::Locations), 4);
 }
 
 TEST(AddLocation, PassesOverTheWholeRangeOfThePlacesThatAreNone) {
     Desk desk;
+    desk.FillUp(TableNum::Locations, 252);
     desk.Add(TableNum::Locations, {{"locnum", std::int64_t{254}}});
     EXPECT_EQ(KeyOfNew(desk, TableNum::Locations), 256);
 }
 
 TEST(AddLocation, Number999IsTheLastOfAFabulaAdventure) {
     Desk desk;
-    desk.Add(TableNum::Locations, {{"locnum", std::int64_t{998}}});
+    desk.FillUp(TableNum::Locations, 999);
     EXPECT_EQ(KeyOfNew(desk, TableNum::Locations), 999);
     desk.Add(TableNum::Locations, {{"locnum", std::int64_t{999}}});
     EXPECT_EQ(KeyOfNew(desk, TableNum::Locations), std::nullopt);
@@ -63,7 +71,7 @@ TEST(AddLocation, Number999IsTheLastOfAFabulaAdventure) {
 TEST(AddLocation, Number251IsTheLastOfTheOtherTypes) {
     for (const AdventureKind kind : {AdventureKind::Vel, AdventureKind::Marlo}) {
         Desk desk(kind);
-        desk.Add(TableNum::Locations, {{"locnum", std::int64_t{250}}});
+        desk.FillUp(TableNum::Locations, 251);
         EXPECT_EQ(KeyOfNew(desk, TableNum::Locations), 251);
         desk.Add(TableNum::Locations, {{"locnum", std::int64_t{251}}});
         EXPECT_EQ(KeyOfNew(desk, TableNum::Locations), std::nullopt);

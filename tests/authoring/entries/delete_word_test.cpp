@@ -388,7 +388,7 @@ TEST(DeleteWord, AnEntryThatAskedForItAsksForItsSynonym) {
                 ElementsAre("PREP UNDER PLACE 0 254|123 60 208 0 254|5"));
 }
 
-TEST(DeleteWord, AnEntryWhoseWordIsNowCutIsCompiledAnew) {
+TEST(DeleteWord, AnEntryThatAskedForItAsksForItsSynonymAndNotForAWordOfItsFirstLetters) {
     Desk desk;
     desk.AddWord(kKey, "UNDERNEATH", 60, kPreposition);
     desk.AddWord(kKey + 1, "BENEATH", 60, kPreposition);
@@ -396,7 +396,7 @@ TEST(DeleteWord, AnEntryWhoseWordIsNowCutIsCompiledAnew) {
     desk.AddEntry(1, 0, kAny, kAny, "PREP UNDERNEATH DONE");
     Delete(desk, {true});
     EXPECT_THAT(desk.Rows(TableNum::ProcessTables, "condacts, numericcondacts"),
-                ElementsAre("PREP UNDERNEATH DONE|123 61 265"));
+                ElementsAre("PREP BENEATH DONE|123 60 265"));
 }
 
 }  // namespace

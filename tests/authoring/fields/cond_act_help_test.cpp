@@ -157,11 +157,11 @@ TEST(Completing, OffersWordsOfTheTypeThatIsAsked) {
     EXPECT_THAT(HelpOf(AdventureKind::Vel).Offered("ADVERB QUIC|"), ElementsAre("QUICK  202"));
 }
 
-TEST(Completing, OffersLongWordsOnlyWhereTheirFirstFiveLettersAreAWordToo) {
+TEST(Completing, OffersLongWordsWhole) {
     HelpOf help;
     help.GameDesk().AddWord(500, "LANTERN", 50, 2);
     help.Reload();
-    EXPECT_THAT(help.Offered("NOUN2 LAN|"), IsEmpty());
+    EXPECT_THAT(help.Offered("NOUN2 LAN|"), ElementsAre("LANTERN  50"));
     EXPECT_THAT(help.Offered("ADVERB QUICK|"), ElementsAre("QUICK  202", "QUICKLY  202"));
 }
 

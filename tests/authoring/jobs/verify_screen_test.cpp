@@ -14,7 +14,7 @@ namespace {
 using store::TableNum;
 using test::ScriptedPump;
 
-void AddEntries(store::Adventure& adventure, int count, const char* condacts) {
+void AddEntries(store::Adventure& adventure, int count, const char* condacts, const char* numbers) {
     store::Cursor& entries = adventure.OpenTable(TableNum::ProcessTables, "def");
     for (int number = 0; number < count; ++number) {
         entries.AddNew();
@@ -22,7 +22,10 @@ void AddEntries(store::Adventure& adventure, int count, const char* condacts) {
         entries.SetField("estype", std::int64_t{0});
         entries.SetField("w1", std::string("*"));
         entries.SetField("w2", std::string("*"));
+        entries.SetField("w1num", std::int64_t{1});
+        entries.SetField("w2num", std::int64_t{1});
         entries.SetField("condacts", std::string(condacts));
+        entries.SetField("numericcondacts", std::string(numbers));
         entries.Update();
     }
 }
@@ -40,7 +43,7 @@ TEST(VerifyScreen, PassesAnAdventureWithoutErrors) {
 
 TEST(VerifyScreen, DoesNotPassOneWithAnError) {
     const test::OpenedAdventure adventure;
-    AddEntries(*adventure, 1, "FROB 3");
+    AddEntries(*adventure, 1, "FROB 3", "");
     ScriptedPump pump;
     VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
     verify.Run();
@@ -55,7 +58,7 @@ TEST(VerifyScreen, DoesNotPassOneWithAnError) {
 
 TEST(VerifyScreen, ShowsHowFarItIsEveryTenEntries) {
     const test::OpenedAdventure adventure;
-    AddEntries(*adventure, 25, "DONE");
+    AddEntries(*adventure, 25, "DONE", "265");
     ScriptedPump pump;
     VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
     std::vector<std::string> shown;
@@ -71,7 +74,7 @@ TEST(VerifyScreen, ShowsHowFarItIsEveryTenEntries) {
 
 TEST(VerifyScreen, OkEndsARunningCheckWhichHasNotPassed) {
     const test::OpenedAdventure adventure;
-    AddEntries(*adventure, 100, "DONE");
+    AddEntries(*adventure, 100, "DONE", "265");
     ScriptedPump pump;
     VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
     pump.atTurn = [&] {
@@ -94,7 +97,7 @@ TEST(VerifyScreen, OkFinishesACheckThatWasNotBegun) {
 
 TEST(VerifyScreen, IsNotStartedTwice) {
     const test::OpenedAdventure adventure;
-    AddEntries(*adventure, 30, "DONE");
+    AddEntries(*adventure, 30, "DONE", "265");
     ScriptedPump pump;
     VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
     pump.atTurn = [&] { verify.Run(); };
@@ -141,7 +144,8 @@ TEST(VerifyScreen, StatusThatCannotBeSavedIsTold) {
     platform::ScriptedDialogs dialogs;
     dialogs.AnswerFile("/nowhere/status.txt");
     EXPECT_FALSE(verify.SaveStatus(dialogs));
-    EXPECT_EQ(dialogs.Boxes().at(0).text, "Could not write /nowhere/status.txt.");
+    EXPECT_EQ(dialogs.Boxes().at(0).text,
+              "Could not write /nowhere/status.txt: No such file or directory.");
 }
 
 TEST(VerifyScreen, FindsTheEntryThatALineNames) {

@@ -154,13 +154,13 @@ TEST(UpdateCondAct, LooksUpALongWordByItsFirstFiveLetters) {
     EXPECT_THAT(game.Entries(), ElementsAre("0|0|_|255|_|255|NOUN2 LANTERN DONE|124 60 265|3"));
 }
 
-TEST(UpdateCondAct, StoresTheNumericFormEvenWhereAWordDoesNotFit) {
+TEST(UpdateCondAct, ALongWordOfTheVocabularyCountsWhole) {
     CondActScreen game;
     game.desk.AddWord(600, "LANTERN", 60, 2);
     ProcessEntryScreen screen(game.desk.context, New(game.desk));
     screen.line = "NOUN2 LANTERN DONE";
     EXPECT_TRUE(screen.Update());
-    EXPECT_THAT(game.Entries(), ElementsAre("0|0|_|255|_|255|NOUN2 LANTERN DONE|124 265|3"));
+    EXPECT_THAT(game.Entries(), ElementsAre("0|0|_|255|_|255|NOUN2 LANTERN DONE|124 60 265|3"));
 }
 
 TEST(UpdateCondAct, KeepsAWordThatTheVocabularyLacks) {
