@@ -16,12 +16,14 @@ void AddNewVerb(CLI::App& app, Chosen& chosen);
 void AddPlayVerb(CLI::App& app, Chosen& chosen);
 void AddTablesVerb(CLI::App& app, Chosen& chosen);
 void AddTestVerb(CLI::App& app, Chosen& chosen);
+void AddUpgradeVerb(CLI::App& app, Chosen& chosen);
 void AddVerifyVerb(CLI::App& app, Chosen& chosen);
 
 /// In the order in which --help shows them.
 inline constexpr void (*kVerbs[])(CLI::App& app, Chosen& chosen) = {
-    AddCheckVerb,  AddExportVerb, AddImportVerb, AddImportPictureVerb, AddVerifyVerb, AddNewVerb,
-    AddTablesVerb, AddDumpVerb,   AddDrawVerb,   AddCharsetVerb,       AddPlayVerb,   AddTestVerb,
+    AddCheckVerb, AddExportVerb, AddImportVerb,  AddImportPictureVerb, AddVerifyVerb,
+    AddNewVerb,   AddTablesVerb, AddDumpVerb,    AddDrawVerb,          AddCharsetVerb,
+    AddPlayVerb,  AddTestVerb,   AddUpgradeVerb,
 };
 
 }  // namespace fabula::cli

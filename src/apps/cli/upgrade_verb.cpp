@@ -1,0 +1,43 @@
+#include <iostream>
+
+#include "cli/installation.h"
+#include "cli/upgrade_terminal.h"
+#include "cli/verbs.h"
+#include "text/safe_text.h"
+#include "upgrades/upgrade.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string file;
+    bool check = false;
+};
+
+int Upgrade(const Options& options) {
+    if (!options.check) {
+        UpgradeTerminal terminal;
+        upgrades::OpenUpgraded(options.file, DefaultDataFile(), terminal);
+        return kDone;
+    }
+    const upgrades::Outlook outlook = upgrades::LookAhead(options.file, DefaultDataFile());
+    for (const std::string& step : outlook.steps)
+        std::cout << step << "\n";
+    for (const upgrades::Report& report : outlook.reports)
+        TellReport(report);
+    return outlook.steps.empty() ? kDone : kFailed;
+}
+
+}  // namespace
+
+void AddUpgradeVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = app.add_subcommand(
+        "upgrade", "Brings an adventure of an older version up to date, and mends its records");
+    AddAdventureOption(*verb, options->file)->required();
+    verb->add_flag("--check", options->check,
+                   "Only say what is needed: status 1 when something is, and no change");
+    Runs(*verb, chosen, options, Upgrade);
+}
+
+}  // namespace fabula::cli

@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "support/places.h"
+#include "support/raw_database.h"
+#include "support/run_program.h"
+#include "support/temp_folder.h"
+
+namespace fabula::test {
+namespace {
+
+class UpgradeVerb : public testing::Test {
+  protected:
+    UpgradeVerb() {
+        setenv("XDG_STATE_HOME", (folder_ / "state").c_str(), 1);
+        Run({"new", file_.string()});
+    }
+
+    ProgramResult Run(const std::vector<std::string>& arguments) {
+        return RunProgram(Program(), arguments);
+    }
+    void MakeOld() const {
+        RawDatabase(file_).Run(
+            "ALTER TABLE Adventure DROP COLUMN source; DELETE FROM Tables WHERE fieldname='source'");
+    }
+
+    TempFolder folder_;
+    const std::filesystem::path file_ = folder_ / "game.fbd";
+};
+
+TEST_F(UpgradeVerb, ChecksAPresentFileWithoutAWord) {
+    const ProgramResult result = Run({"upgrade", file_.string(), "--check"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output + result.errors, "");
+}
+
+TEST_F(UpgradeVerb, SaysWhatAnOldFileNeedsAndChangesNothing) {
+    MakeOld();
+    const std::string before = ReadBytes(file_);
+    const ProgramResult result = Run({"upgrade", file_.string(), "--check"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "46 - Add of Source to Adventure table\n");
+    EXPECT_EQ(result.errors, "");
+    EXPECT_TRUE(ReadBytes(file_) == before);
+}
+
+TEST_F(UpgradeVerb, DoesItOnce) {
+    MakeOld();
+    const ProgramResult first = Run({"upgrade", file_.string()});
+    EXPECT_EQ(first.status, 0);
+    EXPECT_EQ(first.errors, "46 - Add of Source to Adventure table\n");
+    const ProgramResult second = Run({"upgrade", file_.string()});
+    EXPECT_EQ(second.status, 0);
+    EXPECT_EQ(second.errors, "");
+    EXPECT_EQ(Run({"upgrade", file_.string(), "--check"}).status, 0);
+}
+
+}  // namespace
+}  // namespace fabula::test
