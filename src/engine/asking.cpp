@@ -8,9 +8,6 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr int kYesMessage = 30;
-constexpr int kNoMessage = 31;
-
 bool IsFirstVisit(const Game& game) {
     return game.Flag(flag::kAsking) == 0;
 }
@@ -21,7 +18,7 @@ void BeginAsking(Game& game) {
 }
 
 /// Whether the answer begins as system message `message` does; an empty one is the default answer.
-bool AnswerIs(Game& game, int message) {
+bool AnswerIs(Game& game, SystemMessageNumber message) {
     const std::string& given = game.answer.empty() ? game.defaultAnswer : game.answer;
     const std::string first = text::UpperCase(text::Left(given, 1));
     return !first.empty() && first == FirstCharacter(game, message);
@@ -29,7 +26,7 @@ bool AnswerIs(Game& game, int message) {
 
 }  // namespace
 
-bool YesNo(Game& game, int message, int) {
+bool YesNo(Game& game, MessageNumber message) {
     if (IsFirstVisit(game)) {
         game.printer.NewLine();
         SayMessage(game, message);
@@ -41,32 +38,31 @@ bool YesNo(Game& game, int message, int) {
     game.SetFlag(flag::kAsking, 0);
     game.startY = -1;
     game.runner.ResetStartCell();
-    const bool yes = AnswerIs(game, kYesMessage);
+    const bool yes = AnswerIs(game, message::kYes);
     game.SetFlag(flag::kYesNo, yes ? 2 : 1);
     game.SetFlag(flag::kVerb, yes ? 2 : 1);
     return yes;
 }
 
-bool Quit(Game& game, int, int) {
-    constexpr int kReallyQuit = 12;
+bool Quit(Game& game) {
     if (IsFirstVisit(game)) {
         game.printer.NewLine();
-        SaySystemMessage(game, kReallyQuit);
+        SaySystemMessage(game, message::kReallyQuit);
         BeginAsking(game);
-        game.defaultAnswer = LastCharacter(game, game.texts.SystemMessage(kReallyQuit));
+        game.defaultAnswer = LastCharacter(game, game.texts.SystemMessage(message::kReallyQuit));
         return true;
     }
     game.SetFlag(flag::kAsking, 0);
-    if (AnswerIs(game, kYesMessage)) return true;
+    if (AnswerIs(game, message::kYes)) return true;
     game.ClearCommand();
     game.done = true;
     return false;
 }
 
-bool AnyKey(Game& game, int, int) {
+bool AnyKey(Game& game) {
     if (IsFirstVisit(game)) {
         game.printer.NewLine();
-        SaySystemMessage(game, 16);
+        SaySystemMessage(game, message::kPressKey);
         BeginAsking(game);
         game.SetFlag(flag::kAnyKey, kSet);
         return true;
@@ -79,10 +75,10 @@ bool AnyKey(Game& game, int, int) {
     return true;
 }
 
-bool End(Game& game, int, int) {
+bool End(Game& game) {
     if (IsFirstVisit(game)) {
         game.printer.NewLine();
-        SaySystemMessage(game, 13);
+        SaySystemMessage(game, message::kPlayAgain);
         BeginAsking(game);
         game.defaultAnswer.clear();
         return true;
@@ -92,7 +88,7 @@ bool End(Game& game, int, int) {
     game.startY = -1;
     game.stopDoAll = true;
     game.SetFlag(flag::kEnded, kSet);
-    game.restart = !AnswerIs(game, kNoMessage);
+    game.restart = !AnswerIs(game, message::kNo);
     game.runner.ClearStack("End");
     return true;
 }

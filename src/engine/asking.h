@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/numbers.h"
+
 namespace fabula::engine {
 
 class Game;
@@ -8,9 +10,9 @@ class Game;
 /// first visit asks and sets flag 1017, and the tables are left; after the answer the turn cycle enters the
 /// table at the same cell, and the second visit, which finds the flag set, finishes.
 
-bool YesNo(Game& game, int message, int);
-bool Quit(Game& game, int, int);
-bool AnyKey(Game& game, int, int);
-bool End(Game& game, int, int);
+bool YesNo(Game& game, MessageNumber message);
+bool Quit(Game& game);
+bool AnyKey(Game& game);
+bool End(Game& game);
 
 }  // namespace fabula::engine

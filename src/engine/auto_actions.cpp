@@ -17,8 +17,8 @@ constexpr SearchOrder kFromInside = {kInside, place::kCarried, place::kWorn, pla
 
 /// The sentence has a noun, and no object of the whole game bears it with the sentence's adjective.
 bool NamesNoObject(Game& game) {
-    const int noun = game.Flag(flag::kNoun);
-    const int adjective = game.Flag(flag::kAdjective);
+    const WordNumber noun = game.Word(flag::kNoun);
+    const WordNumber adjective = game.Word(flag::kAdjective);
     if (!game.texts.IsNoun(noun)) return false;
     return std::none_of(game.data.objects.begin(), game.data.objects.end(), [&](const ObjectData& object) {
         return object.noun == noun && object.adjective == adjective;
@@ -26,47 +26,50 @@ bool NamesNoObject(Game& game) {
 }
 
 /// `refusal` is said when the object exists somewhere, or the word is no noun.
-bool RefuseUnfound(Game& game, int refusal) {
-    return Refuse(game, NamesNoObject(game) ? 8 : refusal);
+bool RefuseUnfound(Game& game, SystemMessageNumber refusal) {
+    return Refuse(game, NamesNoObject(game) ? message::kNoSuchThing : refusal);
 }
 
 }  // namespace
 
-bool AutoG(Game& game, int, int) {
-    int object = 0;
-    return FindObject(game, object, kFromHere) ? Get(game, object, 0) : RefuseUnfound(game, 26);
+bool AutoG(Game& game) {
+    ObjectNumber object;
+    return FindObject(game, object, kFromHere) ? Get(game, object) : RefuseUnfound(game, message::kNotHere);
 }
 
-bool AutoD(Game& game, int, int) {
-    int object = 0;
-    return FindObject(game, object, kFromCarried) ? Drop(game, object, 0) : RefuseUnfound(game, 28);
+bool AutoD(Game& game) {
+    ObjectNumber object;
+    return FindObject(game, object, kFromCarried) ? Drop(game, object)
+                                                  : RefuseUnfound(game, message::kDoNotHave);
 }
 
-bool AutoW(Game& game, int, int) {
-    int object = 0;
-    return FindObject(game, object, kFromCarried) ? Wear(game, object, 0) : RefuseUnfound(game, 28);
+bool AutoW(Game& game) {
+    ObjectNumber object;
+    return FindObject(game, object, kFromCarried) ? Wear(game, object)
+                                                  : RefuseUnfound(game, message::kDoNotHave);
 }
 
-bool AutoR(Game& game, int, int) {
-    int object = 0;
-    return FindObject(game, object, kFromWorn) ? Remove(game, object, 0) : RefuseUnfound(game, 23);
+bool AutoR(Game& game) {
+    ObjectNumber object;
+    return FindObject(game, object, kFromWorn) ? Remove(game, object)
+                                               : RefuseUnfound(game, message::kNotWearingAny);
 }
 
-bool AutoP(Game& game, int container, int) {
-    int object = container;
+bool AutoP(Game& game, ObjectNumber container) {
+    ObjectNumber object = container;
     return FindObject(game, object, kInHandOrHere) ? PutIn(game, object, container)
-                                                   : RefuseUnfound(game, 28);
+                                                   : RefuseUnfound(game, message::kDoNotHave);
 }
 
-bool AutoT(Game& game, int container, int) {
-    int object = container;
+bool AutoT(Game& game, ObjectNumber container) {
+    ObjectNumber object = container;
     if (FindObject(game, object, kFromInside)) return TakeOut(game, object, container);
-    if (NamesNoObject(game)) return Refuse(game, 8);
-    return RefuseWithObject(game, 52, container);
+    if (NamesNoObject(game)) return Refuse(game, message::kNoSuchThing);
+    return RefuseWithObject(game, message::kNoneInside, container);
 }
 
-bool WhatO(Game& game, int, int) {
-    int object = 0;
+bool WhatO(Game& game) {
+    ObjectNumber object;
     FindObject(game, object, kFromCarried);
     SetObjFlags(game, object);
     return true;

@@ -10,12 +10,13 @@ namespace fabula::engine {
 namespace {
 
 struct DefaultKind {
-    int flag;
+    FlagNumber flag;
     int kind;
 };
 
-constexpr DefaultKind kDefaultKinds[] = {{2, -4}, {3, -5}, {4, -6}, {5, -1}, {6, -1},
-                                         {7, -1}, {8, -1}, {9, -2}, {10, -3}};
+constexpr DefaultKind kDefaultKinds[] = {{FlagNumber(2), -4}, {FlagNumber(3), -5}, {FlagNumber(4), -6},
+                                         {FlagNumber(5), -1}, {FlagNumber(6), -1}, {FlagNumber(7), -1},
+                                         {FlagNumber(8), -1}, {FlagNumber(9), -2}, {FlagNumber(10), -3}};
 
 bool IsDue(const Game& game, int kind, bool isDescribe) {
     const bool dark = game.Flag(flag::kDark) != 0;
@@ -34,7 +35,7 @@ bool IsDue(const Game& game, int kind, bool isDescribe) {
             return isDescribe && dark && !game.LightIsPresent();
         case 7:
             return !isDescribe && game.state.ObjectCount() > 0 &&
-                   game.state.ObjectPlace(0) != place::kNotCreated;
+                   game.state.ObjectPlace(kLight) != place::kNotCreated;
         default:
             return false;
     }
@@ -47,8 +48,8 @@ void SetAutoFlags(Game& game) {
         SetAutoFlag(game, row.flag, row.kind);
 }
 
-void SetAutoFlag(Game& game, int flag, int kind) {
-    if (flag < 0 || flag >= game.state.FlagCount()) FailMissing("flag", flag);
+void SetAutoFlag(Game& game, FlagNumber flag, int kind) {
+    if (!game.state.HasFlag(flag)) FailMissing("flag", flag.value);
     std::vector<RunState::AutoFlag>& autoFlags = game.state.autoFlags;
     const auto at = std::find_if(autoFlags.begin(), autoFlags.end(),
                                  [&](const RunState::AutoFlag& other) { return other.flag >= flag; });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/numbers.h"
+
 namespace fabula::engine {
 
 class Game;
@@ -18,7 +20,7 @@ class Game;
 void SetAutoFlags(Game& game);
 
 /// Throws RunFailure for a flag that does not exist.
-void SetAutoFlag(Game& game, int flag, int kind);
+void SetAutoFlag(Game& game, FlagNumber flag, int kind);
 
 /// Changes the flags that are due, at a description or at a turn. A flag at 0 is not counted down; the
 /// others stay within 0 to 999.

@@ -38,7 +38,7 @@ void CondActRunner::ResetBudget() {
     entriesSeen_ = 0;
 }
 
-void CondActRunner::DoCondActs(int process, int startX, int startY) {
+void CondActRunner::DoCondActs(ProcessNumber process, int startX, int startY) {
     frames_.clear();
     question_.reset();
     game_.tones.clear();
@@ -76,13 +76,13 @@ bool CondActRunner::Run() {
     return true;
 }
 
-const ProcessTable* CondActRunner::Table(int process) const {
-    if (process >= static_cast<int>(game_.data.processes.size())) return nullptr;
-    return &game_.data.processes[static_cast<std::size_t>(process)];
+const ProcessTable* CondActRunner::Table(ProcessNumber process) const {
+    if (process.value >= static_cast<int>(game_.data.processes.size())) return nullptr;
+    return &game_.data.processes[static_cast<std::size_t>(process.value)];
 }
 
-void CondActRunner::PushFrame(int process, int startX, int startY) {
-    if (process < 0) FailMissing("process", process);
+void CondActRunner::PushFrame(ProcessNumber process, int startX, int startY) {
+    if (process.value < 0) FailMissing("process", process.value);
     if (frames_.size() >= kFrameDepth) {
         throw RunFailure("more than " + std::to_string(kFrameDepth) +
                          " tables are running inside each other");
@@ -103,7 +103,7 @@ void CondActRunner::PushFrame(int process, int startX, int startY) {
     frames_.push_back(frame);
     if (!game_.trace.On() || !Table(process)) return;
     Trace& trace = game_.trace;
-    trace.Write("Process " + std::to_string(process) + " stack " +
+    trace.Write("Process " + std::to_string(process.value) + " stack " +
                 std::to_string(static_cast<int>(callStack.size()) - 1) + " - ");
     trace.Write("Flag(33):" + game_.state.WordText(flag::kVerb));
     trace.Write(") Flag(34):" + game_.state.WordText(flag::kNoun));
@@ -117,7 +117,7 @@ void CondActRunner::SeekEntry() {
     Frame& frame = frames_.back();
     const ProcessTable* table = Table(frame.process);
     const int end = table && frame.entry >= 0 ? table->Count() : 0;
-    const bool allMatch = game_.parentProcNum > 0 && !game_.state.FlagBitSet(flag::kMatchWords, 7);
+    const bool allMatch = game_.parentProcNum.value > 0 && !game_.state.FlagBitSet(flag::kMatchWords, 7);
     const bool quiet = IsQuiet();
     while (frame.entry < end) {
         const int found = FindEntry(*table, frame.entry, allMatch);
@@ -136,7 +136,7 @@ void CondActRunner::SeekEntry() {
 }
 
 int CondActRunner::FindEntry(const ProcessTable& table, int from, bool allMatch) const {
-    return allMatch ? from : table.FindMatch(from, game_.Flag(flag::kVerb), game_.Flag(flag::kNoun));
+    return allMatch ? from : table.FindMatch(from, game_.Word(flag::kVerb), game_.Word(flag::kNoun));
 }
 
 /// Goes on to the entry `found`, or to the end of the table. Those that are passed over count as if each
@@ -180,7 +180,7 @@ bool CondActRunner::ConditionsFail(Frame& frame, const ProcessEntry& entry) {
     }
 }
 
-bool CondActRunner::IsWild(int word) const {
+bool CondActRunner::IsWild(WordNumber word) const {
     return ProcessTable::IsWild(word, !game_.IsMarlo());
 }
 
@@ -199,8 +199,8 @@ void CondActRunner::TraceMatch(const ProcessEntry& entry, bool allMatch) {
     } else if (IsWild(entry.noun)) {
         how = marlo ? "Word1=verb & word2 wild" : "word1=verb and word2 wild";
     }
-    game_.trace.Line("word1=" + std::to_string(entry.verb) + ", word2=" + std::to_string(entry.noun) +
-                     ",verb=" + std::to_string(game_.Flag(flag::kVerb)) +
+    game_.trace.Line("word1=" + std::to_string(entry.verb.value) + ", word2=" +
+                     std::to_string(entry.noun.value) + ",verb=" + std::to_string(game_.Flag(flag::kVerb)) +
                      ", noun=" + std::to_string(game_.Flag(flag::kNoun)) + ". Matched using " + how);
 }
 
@@ -256,7 +256,7 @@ void CondActRunner::TraceCondAct(const Runnable& condact, int p1, int p2) {
     } else {
         if (condact.params > 0) line += std::to_string(p1);
         if (condact.params > 1) line += "," + std::to_string(p2);
-        if (routine.traceFlag > 0) {
+        if (routine.traceFlag.value > 0) {
             line += std::string(routine.traceFlagText) + std::to_string(game_.Flag(routine.traceFlag));
         }
         line += ")";
@@ -343,7 +343,7 @@ void CondActRunner::EndTable() {
     if (frames_.back().phase == Phase::Called && !callStack.empty()) callStack.pop_back();
 }
 
-void CondActRunner::CallProcess(int process) {
+void CondActRunner::CallProcess(ProcessNumber process) {
     if (callStack.size() >= kCallDepth) {
         throw RunFailure("more than " + std::to_string(kCallDepth) + " calls of PROCESS inside each other");
     }
@@ -362,10 +362,11 @@ void CondActRunner::NextObject() {
     Frame& frame = frames_.back();
     while (!game_.stopDoAll && game_.Flag(flag::kAsking) == 0 && game_.Flag(flag::kEnded) == 0 &&
            frame.object < game_.state.ObjectCount()) {
-        const int object = frame.object++;
-        if (game_.state.ObjectPlace(object) != game_.PlaceOf(game_.Flag(flag::kDoAllPlace))) continue;
-        game_.SetFlag(flag::kNoun, game_.data.objects[static_cast<std::size_t>(object)].noun);
-        game_.SetFlag(flag::kAdjective, game_.data.objects[static_cast<std::size_t>(object)].adjective);
+        const ObjectNumber object(frame.object++);
+        if (game_.state.ObjectPlace(object) != game_.PlaceOf(PlaceNumber(game_.Flag(flag::kDoAllPlace))))
+            continue;
+        game_.SetFlag(flag::kNoun, game_.data.Object(object).noun.value);
+        game_.SetFlag(flag::kAdjective, game_.data.Object(object).adjective.value);
         return PushFrame(frame.process, -1, -1);
     }
     frame.phase = Phase::ActionDone;
@@ -391,7 +392,7 @@ void CondActRunner::CountCondAct() {
 std::string CondActRunner::Where() const {
     if (frames_.empty()) return {};
     const Frame& frame = frames_.back();
-    std::string where = "Process " + std::to_string(frame.process);
+    std::string where = "Process " + std::to_string(frame.process.value);
     const ProcessTable* table = Table(frame.process);
     if (!table || frame.entry < 0 || frame.entry >= table->Count()) return where;
     const ProcessEntry& entry = (*table)[frame.entry];

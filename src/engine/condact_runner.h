@@ -20,7 +20,7 @@ struct CondActRoutine;
 
 /// A place in a process table: `CallStack` holds one for each pending PROCESS, behind its parameter.
 struct TablePosition {
-    int process = 0;
+    ProcessNumber process;
     int entry = 0;
     int cell = 0;
 };
@@ -37,14 +37,14 @@ class CondActRunner {
     CondActRunner(Game& game, std::int64_t condactLimit);
 
     /// Begins a run of one table at an entry and cell; -1 means the first. Run then carries it out.
-    void DoCondActs(int process, int startX, int startY);
+    void DoCondActs(ProcessNumber process, int startX, int startY);
     /// Runs on. True when the table has ended, false when it waits: for a file when FileAsked tells of one,
     /// else in a PAUSE, for which a tick has been asked.
     bool Run();
 
     /// For the actions. PROCESS, DOALL, and waits: the run goes on behind the action when what it began is
     /// over.
-    void CallProcess(int process);
+    void CallProcess(ProcessNumber process);
     void BeginDoAll();
     void Wait(std::chrono::milliseconds length) { wait_ = length; }
     /// What an action does with the file that the player named; whether its entry goes on.
@@ -84,11 +84,11 @@ class CondActRunner {
         DoAll,       ///< between two objects of a DOALL
     };
     struct Frame {
-        int process = 0;
+        ProcessNumber process;
         int entry = 0;
         int cell = kFirstCell;
         int startCell = kFirstCell;
-        int object = 0;  ///< of a DOALL: the next to look at
+        int object = 0;  ///< of a DOALL: the number of the next to look at
         Phase phase = Phase::Entry;
     };
     struct FileQuestion {
@@ -102,13 +102,13 @@ class CondActRunner {
         bool passive = false;  ///< a condition that only looks: it changes nothing and asks for nothing
     };
 
-    void PushFrame(int process, int startX, int startY);
+    void PushFrame(ProcessNumber process, int startX, int startY);
     void SeekEntry();
     int FindEntry(const ProcessTable& table, int from, bool allMatch) const;
     void CountEntries(Frame& frame, int found, int end);
     bool IsQuiet() const;
     bool ConditionsFail(Frame& frame, const ProcessEntry& entry);
-    bool IsWild(int word) const;
+    bool IsWild(WordNumber word) const;
     void TraceMatch(const ProcessEntry& entry, bool allMatch);
     void RunEntry();
     void RunCondAct(const Runnable& condact, std::span<const std::int16_t> numbers);
@@ -124,7 +124,7 @@ class CondActRunner {
     void LeaveEntry();
     void EndTable();
     const Runnable& Find(int number) const;
-    const ProcessTable* Table(int process) const;
+    const ProcessTable* Table(ProcessNumber process) const;
     void CountCondAct();
 
     Game& game_;

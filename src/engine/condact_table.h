@@ -3,12 +3,14 @@
 #include <span>
 #include <string_view>
 
+#include "engine/numbers.h"
+
 namespace fabula::engine {
 
 class Game;
 
-/// A condition's routine returns whether it holds, an action's whether its entry goes on. A parameter that
-/// the condact does not take is 0.
+/// Runs a condact with the numbers of its entry; one that it does not take is 0. A condition returns
+/// whether it holds, an action whether its entry goes on.
 using Routine = bool (*)(Game& game, int p1, int p2);
 
 /// One condition or action: its number in the entries, its name, and how the trace begins its line. How
@@ -20,7 +22,7 @@ struct CondActRoutine {
     Routine run;
     /// For the word conditions: what the trace puts between the parameter and the flag, and that flag.
     std::string_view traceFlagText = {};
-    int traceFlag = 0;
+    FlagNumber traceFlag = {};
     /// It waits for the player: YESNO, QUIT, END, ANYKEY.
     bool asks = false;
 

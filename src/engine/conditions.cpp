@@ -7,118 +7,118 @@ namespace fabula::engine {
 namespace {
 
 /// The five word conditions. A game that clears a word flag to 0 instead of 255 has no word there either.
-bool WordIs(const Game& game, int wordFlag, int word) {
+bool WordIs(const Game& game, FlagNumber wordFlag, WordNumber word) {
     const int value = game.Flag(wordFlag);
-    return value == word || (word == kNoWord && value == 0);
+    return value == word.value || (word.value == kNoWord && value == 0);
 }
 
 }  // namespace
 
-bool At(Game& game, int location, int) {
-    return game.Flag(flag::kLocation) == location;
+bool At(Game& game, PlaceNumber location) {
+    return game.Location() == location;
 }
 
-bool NotAt(Game& game, int location, int) {
-    return game.Flag(flag::kLocation) != location;
+bool NotAt(Game& game, PlaceNumber location) {
+    return game.Location() != location;
 }
 
-bool AtGt(Game& game, int location, int) {
-    return game.Flag(flag::kLocation) > location;
+bool AtGt(Game& game, PlaceNumber location) {
+    return game.Location() > location;
 }
 
-bool AtLt(Game& game, int location, int) {
-    return game.Flag(flag::kLocation) < location;
+bool AtLt(Game& game, PlaceNumber location) {
+    return game.Location() < location;
 }
 
-bool Present(Game& game, int object, int) {
+bool Present(Game& game, ObjectNumber object) {
     return game.IsPresent(object);
 }
 
-bool Absent(Game& game, int object, int) {
+bool Absent(Game& game, ObjectNumber object) {
     return !game.IsPresent(object);
 }
 
-bool Worn(Game& game, int object, int) {
+bool Worn(Game& game, ObjectNumber object) {
     return game.IsWorn(object);
 }
 
-bool NotWorn(Game& game, int object, int) {
+bool NotWorn(Game& game, ObjectNumber object) {
     return !game.IsWorn(object);
 }
 
-bool Carried(Game& game, int object, int) {
+bool Carried(Game& game, ObjectNumber object) {
     return game.IsCarried(object);
 }
 
-bool NotCarr(Game& game, int object, int) {
+bool NotCarr(Game& game, ObjectNumber object) {
     return !game.IsCarried(object);
 }
 
-bool IsAt(Game& game, int object, int location) {
+bool IsAt(Game& game, ObjectNumber object, PlaceNumber location) {
     return game.state.ObjectPlace(object) == game.PlaceOf(location);
 }
 
-bool IsNotAt(Game& game, int object, int location) {
+bool IsNotAt(Game& game, ObjectNumber object, PlaceNumber location) {
     return !IsAt(game, object, location);
 }
 
-bool Zero(Game& game, int flag, int) {
+bool Zero(Game& game, FlagNumber flag) {
     return game.Flag(flag) == 0;
 }
 
-bool NotZero(Game& game, int flag, int) {
+bool NotZero(Game& game, FlagNumber flag) {
     return game.Flag(flag) != 0;
 }
 
-bool Eq(Game& game, int flag, int value) {
+bool Eq(Game& game, FlagNumber flag, int value) {
     return game.Flag(flag) == value;
 }
 
-bool NotEq(Game& game, int flag, int value) {
+bool NotEq(Game& game, FlagNumber flag, int value) {
     return game.Flag(flag) != value;
 }
 
-bool Gt(Game& game, int flag, int value) {
+bool Gt(Game& game, FlagNumber flag, int value) {
     return game.Flag(flag) > value;
 }
 
-bool Lt(Game& game, int flag, int value) {
+bool Lt(Game& game, FlagNumber flag, int value) {
     return game.Flag(flag) < value;
 }
 
-bool Same(Game& game, int flag1, int flag2) {
+bool Same(Game& game, FlagNumber flag1, FlagNumber flag2) {
     return game.Flag(flag1) == game.Flag(flag2);
 }
 
-bool NotSame(Game& game, int flag1, int flag2) {
+bool NotSame(Game& game, FlagNumber flag1, FlagNumber flag2) {
     return game.Flag(flag1) != game.Flag(flag2);
 }
 
-bool Adject1(Game& game, int word, int) {
+bool Adject1(Game& game, WordNumber word) {
     return WordIs(game, flag::kAdjective, word);
 }
 
-bool Adverb(Game& game, int word, int) {
+bool Adverb(Game& game, WordNumber word) {
     return WordIs(game, flag::kAdverb, word);
 }
 
-bool Prep(Game& game, int word, int) {
+bool Prep(Game& game, WordNumber word) {
     return WordIs(game, flag::kPreposition, word);
 }
 
-bool Noun2(Game& game, int word, int) {
+bool Noun2(Game& game, WordNumber word) {
     return WordIs(game, flag::kNoun2, word);
 }
 
-bool Adject2(Game& game, int word, int) {
+bool Adject2(Game& game, WordNumber word) {
     return WordIs(game, flag::kAdjective2, word);
 }
 
-bool Chance(Game& game, int percent, int) {
+bool Chance(Game& game, int percent) {
     return game.host.random.UpTo(100) <= percent;
 }
 
-bool TimeOut(Game& game, int, int) {
+bool TimeOut(Game& game) {
     return game.state.FlagBitSet(flag::kTimeOutOptions, 7);
 }
 

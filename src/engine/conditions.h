@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/numbers.h"
+
 namespace fabula::engine {
 
 class Game;
@@ -7,36 +9,36 @@ class Game;
 /// The conditions, under their names (condact_table.cpp). Each returns whether it holds; a parameter that
 /// it does not take is not named.
 
-bool At(Game& game, int location, int);
-bool NotAt(Game& game, int location, int);
-bool AtGt(Game& game, int location, int);
-bool AtLt(Game& game, int location, int);
+bool At(Game& game, PlaceNumber location);
+bool NotAt(Game& game, PlaceNumber location);
+bool AtGt(Game& game, PlaceNumber location);
+bool AtLt(Game& game, PlaceNumber location);
 
-bool Present(Game& game, int object, int);
-bool Absent(Game& game, int object, int);
-bool Worn(Game& game, int object, int);
-bool NotWorn(Game& game, int object, int);
-bool Carried(Game& game, int object, int);
-bool NotCarr(Game& game, int object, int);
-bool IsAt(Game& game, int object, int location);
-bool IsNotAt(Game& game, int object, int location);
+bool Present(Game& game, ObjectNumber object);
+bool Absent(Game& game, ObjectNumber object);
+bool Worn(Game& game, ObjectNumber object);
+bool NotWorn(Game& game, ObjectNumber object);
+bool Carried(Game& game, ObjectNumber object);
+bool NotCarr(Game& game, ObjectNumber object);
+bool IsAt(Game& game, ObjectNumber object, PlaceNumber location);
+bool IsNotAt(Game& game, ObjectNumber object, PlaceNumber location);
 
-bool Zero(Game& game, int flag, int);
-bool NotZero(Game& game, int flag, int);
-bool Eq(Game& game, int flag, int value);
-bool NotEq(Game& game, int flag, int value);
-bool Gt(Game& game, int flag, int value);
-bool Lt(Game& game, int flag, int value);
-bool Same(Game& game, int flag1, int flag2);
-bool NotSame(Game& game, int flag1, int flag2);
+bool Zero(Game& game, FlagNumber flag);
+bool NotZero(Game& game, FlagNumber flag);
+bool Eq(Game& game, FlagNumber flag, int value);
+bool NotEq(Game& game, FlagNumber flag, int value);
+bool Gt(Game& game, FlagNumber flag, int value);
+bool Lt(Game& game, FlagNumber flag, int value);
+bool Same(Game& game, FlagNumber flag1, FlagNumber flag2);
+bool NotSame(Game& game, FlagNumber flag1, FlagNumber flag2);
 
-bool Adject1(Game& game, int word, int);
-bool Adverb(Game& game, int word, int);
-bool Prep(Game& game, int word, int);
-bool Noun2(Game& game, int word, int);
-bool Adject2(Game& game, int word, int);
+bool Adject1(Game& game, WordNumber word);
+bool Adverb(Game& game, WordNumber word);
+bool Prep(Game& game, WordNumber word);
+bool Noun2(Game& game, WordNumber word);
+bool Adject2(Game& game, WordNumber word);
 
-bool Chance(Game& game, int percent, int);
-bool TimeOut(Game& game, int, int);
+bool Chance(Game& game, int percent);
+bool TimeOut(Game& game);
 
 }  // namespace fabula::engine

@@ -12,9 +12,8 @@ namespace {
 constexpr int kLongTextBit = 7;
 constexpr int kNoPictureBit = 6;
 constexpr int kAlwaysPictureBit = 5;
-constexpr int kDarkMessage = 0;
 
-bool PictureIsHeldBack(const Game& game, int location) {
+bool PictureIsHeldBack(const Game& game, PlaceNumber location) {
     const int mode = game.Flag(game.IsMarlo() ? flag::kMarloGraphicsMode : flag::kGraphicsMode);
     if (BitSet(mode, kNoPictureBit)) return true;
     if (BitSet(mode, kAlwaysPictureBit) || BitSet(mode, kLongTextBit)) return false;
@@ -24,26 +23,26 @@ bool PictureIsHeldBack(const Game& game, int location) {
 }  // namespace
 
 void Describe(Game& game) {
-    const int location = game.Flag(flag::kLocation);
+    const PlaceNumber location = game.Location();
     if (game.trace.On()) {
-        game.parts.status.ShowStatus(StatusField::Location, "Location: " + std::to_string(location));
+        game.parts.status.ShowStatus(StatusField::Location, "Location: " + std::to_string(location.value));
     }
     if (game.Flag(flag::kDescribe) == 0) return;
-    if (!game.data.LocationExists(location)) FailMissing("location", location);
+    if (!game.data.LocationExists(location)) FailMissing("location", location.value);
     DoAutoFlags(game, true);
     if (game.Flag(flag::kClearMode) != 0) game.printer.Clear();
     if (game.Flag(flag::kDark) != 0 && !game.LightIsPresent()) {
-        game.printer.PrintText(game.texts.SystemMessage(kDarkMessage), true, true);
+        game.printer.PrintText(game.texts.SystemMessage(message::kDark), true, true);
         ShowRoomPicture(game, game.data.LastLocation());
         return;
     }
     ShowRoomPicture(game, location);
     DescribeLocation(game, location);
     game.state.SetVisited(location, 1);
-    if (game.IsMarlo()) ListObj(game, 0, 0);
+    if (game.IsMarlo()) ListObj(game);
 }
 
-void DescribeLocation(Game& game, int location) {
+void DescribeLocation(Game& game, PlaceNumber location) {
     const bool wantsLong = game.state.Visited(location) == 0 ||
                            game.state.FlagBitSet(flag::kGraphicsMode, kLongTextBit) ||
                            game.Flag(flag::kLongText) != 0;
@@ -53,18 +52,18 @@ void DescribeLocation(Game& game, int location) {
     game.printer.PrintText(text, true, true);
 }
 
-void ShowRoomPicture(Game& game, int location) {
+void ShowRoomPicture(Game& game, PlaceNumber location) {
     if (!game.data.graphics) return;
     if (PictureIsHeldBack(game, location)) return game.parts.pictures.HidePicture();
     ShowPictureOf(game, location);
 }
 
-void ShowPictureOf(Game& game, int location) {
+void ShowPictureOf(Game& game, PlaceNumber location) {
     if (!game.data.graphics) return;
-    const std::string& own = game.data.pictures.at(static_cast<std::size_t>(location));
+    const std::string& own = game.data.pictures.at(static_cast<std::size_t>(location.value));
     const bool isLast = location == game.data.LastLocation();
     if (!own.empty() && !(isLast && own == game.data.defaultPicture)) {
-        game.parts.pictures.ShowPicture({own, location});
+        game.parts.pictures.ShowPicture({own, location.value});
     } else if (!game.data.defaultPicture.empty()) {
         game.parts.pictures.ShowPicture({game.data.defaultPicture, -1});
     } else {

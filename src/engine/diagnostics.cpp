@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "condacts/limits.h"
 #include "engine/engine.h"
 #include "engine/game.h"
 #include "engine/objects.h"
@@ -62,8 +63,9 @@ std::string Diagnostics::DisplayVariable() const {
     if (!engine_.Running() || !Exists(objectInView_, number_)) return {};
     const std::string number = std::to_string(number_);
     if (objectInView_)
-        return "O" + number + " Location = " + std::to_string(Running().state.ObjectPlace(number_));
-    return "F" + number + " = " + std::to_string(Running().Flag(number_));
+        return "O" + number +
+               " Location = " + std::to_string(Running().state.ObjectPlace(ObjectNumber(number_)).value);
+    return "F" + number + " = " + std::to_string(Running().Flag(FlagNumber(number_)));
 }
 
 bool Diagnostics::Exists(bool object, int number) const {
@@ -82,16 +84,16 @@ std::string Diagnostics::View(bool object, std::string_view number, const std::s
 /// Games of the oldest engine know flags 0 to 32. Of the others only the player's place, the long texts and
 /// the trace are for the author's hand.
 bool Diagnostics::IsProtected() const {
-    constexpr int kLastMarloFlag = 32;
-    if (!Running().IsMarlo() || number_ <= kLastMarloFlag) return false;
-    return number_ != flag::kLocation && number_ != flag::kLongText && number_ != flag::kTraceFile &&
-           number_ != flag::kTrace;
+    if (!Running().IsMarlo() || number_ <= condacts::limit::kHighestMarloFlag) return false;
+    const FlagNumber inView(number_);
+    return inView != flag::kLocation && inView != flag::kLongText && inView != flag::kTraceFile &&
+           inView != flag::kTrace;
 }
 
 std::string Diagnostics::SetTo(std::string_view name, int value) {
     if (objectInView_) return std::string(name) + " cannot be used on Objects";
     if (IsProtected()) return kProtectedRefusal;
-    Running().SetFlag(number_, value);
+    Running().SetFlag(FlagNumber(number_), value);
     return {};
 }
 
@@ -100,20 +102,22 @@ std::string Diagnostics::Assign(std::string_view number) {
     const std::optional<int> value = NumberIn(number);
     if (!value) return "Value after the = is not numeric";
     if (!objectInView_) return AssignFlag(*value);
-    if (*value == place::kHere) return "An object cannot be put at location 255";
-    PlaceObject(Running(), number_, *value);
+    const PlaceNumber where(*value);
+    if (where == place::kHere) return "An object cannot be put at location 255";
+    PlaceObject(Running(), ObjectNumber(number_), where);
     return {};
 }
 
 std::string Diagnostics::AssignFlag(int value) {
-    if (number_ == flag::kLocation && !Running().data.LocationExists(value)) {
+    const FlagNumber inView(number_);
+    if (inView == flag::kLocation && !Running().data.LocationExists(PlaceNumber(value))) {
         return "Invalid location for Flag 38: " + std::to_string(value);
     }
-    if (number_ == flag::kTraceFile || number_ == flag::kTrace) {
+    if (inView == flag::kTraceFile || inView == flag::kTrace) {
         return "Flags 1004 & 1005 can only be SET or CLEAR";
     }
     if (IsProtected()) return kProtectedRefusal;
-    Running().SetFlag(number_, value);
+    Running().SetFlag(FlagNumber(number_), value);
     return {};
 }
 

@@ -1,57 +1,58 @@
 #include "engine/flag_actions.h"
 
+#include "condacts/limits.h"
 #include "engine/auto_flags.h"
 #include "engine/game.h"
 
 namespace fabula::engine {
 
-bool Set(Game& game, int flag, int) {
+bool Set(Game& game, FlagNumber flag) {
     game.SetFlag(flag, kSet);
     return true;
 }
 
-bool Clear(Game& game, int flag, int) {
+bool Clear(Game& game, FlagNumber flag) {
     game.SetFlag(flag, 0);
     return true;
 }
 
-bool Plus(Game& game, int flag, int value) {
+bool Plus(Game& game, FlagNumber flag, int value) {
     game.state.Plus(flag, value);
     return true;
 }
 
-bool Minus(Game& game, int flag, int value) {
+bool Minus(Game& game, FlagNumber flag, int value) {
     game.state.Minus(flag, value);
     return true;
 }
 
-bool Let(Game& game, int flag, int value) {
+bool Let(Game& game, FlagNumber flag, int value) {
     game.SetFlag(flag, value);
     return true;
 }
 
-bool Add(Game& game, int from, int to) {
+bool Add(Game& game, FlagNumber from, FlagNumber to) {
     return Plus(game, to, game.Flag(from));
 }
 
-bool Sub(Game& game, int from, int to) {
+bool Sub(Game& game, FlagNumber from, FlagNumber to) {
     return Minus(game, to, game.Flag(from));
 }
 
-bool CopyFF(Game& game, int from, int to) {
+bool CopyFF(Game& game, FlagNumber from, FlagNumber to) {
     return Let(game, to, game.Flag(from));
 }
 
-bool Random(Game& game, int flag, int) {
+bool Random(Game& game, FlagNumber flag) {
     return Let(game, flag, game.host.random.UpTo(100));
 }
 
-bool AutoDec(Game& game, int flag, int kind) {
+bool AutoDec(Game& game, FlagNumber flag, int kind) {
     SetAutoFlag(game, flag, -kind);
     return true;
 }
 
-bool AutoInc(Game& game, int flag, int kind) {
+bool AutoInc(Game& game, FlagNumber flag, int kind) {
     SetAutoFlag(game, flag, kind);
     return true;
 }
@@ -62,28 +63,26 @@ bool Ability(Game& game, int objects, int weight) {
     return true;
 }
 
-bool Mode(Game& game, int value, int) {
+bool Mode(Game& game, int value) {
     if (value == 1 || value == 4) game.SetFlag(flag::kClearMode, 1);
     if (value == 0 || value == 2 || value == 3) game.SetFlag(flag::kClearMode, 0);
     return true;
 }
 
-bool Graphic(Game& game, int value, int) {
-    const int mode = game.IsMarlo() ? flag::kMarloGraphicsMode : flag::kGraphicsMode;
+bool Graphic(Game& game, int value) {
+    const FlagNumber mode = game.IsMarlo() ? flag::kMarloGraphicsMode : flag::kGraphicsMode;
     if (value >= 0 && value <= 3) game.SetFlag(mode, value * 32);
     return true;
 }
 
-bool Prompt(Game& game, int systemMessage, int) {
-    game.SetFlag(flag::kPrompt, systemMessage);
+bool Prompt(Game& game, SystemMessageNumber systemMessage) {
+    game.SetFlag(flag::kPrompt, systemMessage.value);
     return true;
 }
 
 bool Time(Game& game, int duration, int option) {
-    constexpr int kUnit = 1280;
-    const int interval = duration * kUnit;
-    if (interval < std::numeric_limits<std::int16_t>::min() ||
-        interval > std::numeric_limits<std::int16_t>::max()) {
+    const auto interval = static_cast<int>((duration * condacts::limit::kTimeOutUnit).count());
+    if (!condacts::FitsNumber(interval)) {
         FailRange("the time-out of " + std::to_string(duration) + " units", interval);
     }
     game.SetFlag(flag::kTimeOut, duration);

@@ -7,29 +7,27 @@ namespace fabula::engine {
 namespace {
 
 constexpr int kDefaultBeepPause = 12;
-constexpr int kPromptMessage = 33;
-constexpr int kCursorMessage = 34;
 
 void SetStartFlags(Game& game) {
     const Options& options = game.session.options;
     game.SetFlag(flag::kBeepPause, kDefaultBeepPause);
     if (options.traceRequested) game.SetFlag(flag::kTrace, kSet);
     if (options.traceFile) game.SetFlag(flag::kTraceFile, kSet);
-    for (const int wordFlag :
+    for (const FlagNumber wordFlag :
          {flag::kVerb, flag::kNoun, flag::kAdjective, flag::kAdverb, flag::kPreposition, flag::kNoun2,
           flag::kAdjective2, flag::kPronounNoun, flag::kPronounAdjective}) {
         game.SetFlag(wordFlag, kNoWord);
     }
     game.SetFlag(flag::kMaxObjects, game.data.maxObjects);
     game.SetFlag(flag::kMaxWeight, game.data.maxWeight);
-    game.SetFlag(flag::kLocation, game.data.startLocation);
+    game.SetFlag(flag::kLocation, game.data.startLocation.value);
     game.SetFlag(flag::kScript, game.session.script.State());
     game.SetFlag(flag::kDescribe, kSet);
 }
 
 void PlaceObjects(Game& game) {
-    for (int object = 0; object < game.state.ObjectCount(); ++object) {
-        game.state.SetObjectPlace(object, game.data.objects[static_cast<std::size_t>(object)].startPlace);
+    for (const ObjectNumber object : game.state.Objects()) {
+        game.state.SetObjectPlace(object, game.data.Object(object).startPlace);
         if (game.IsCarried(object)) game.state.Plus(flag::kCarriedCount, 1);
     }
 }
@@ -64,8 +62,8 @@ Game::Game(store::Adventure& adventure, Session& theSession)
     PlaceObjects(*this);
     state.FillHistory();
     if (!IsMarlo()) {
-        prompt = texts.SystemMessage(kPromptMessage);
-        cursor = printer.WithoutMarkup(texts.SystemMessage(kCursorMessage));
+        prompt = texts.SystemMessage(message::kInputPrompt);
+        cursor = printer.WithoutMarkup(texts.SystemMessage(message::kCursor));
     }
     parts.events.StartGame(LookOf(*this));
     printer.Clear();

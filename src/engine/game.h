@@ -75,12 +75,12 @@ class Game {
     bool inputReady = false;    ///< keys are for the game
 
     // Where the run stands, and where it goes on after an answer; -1 for the start of a table.
-    int runningProc = 0;
-    int currentProc = 0;
+    ProcessNumber runningProc;
+    ProcessNumber currentProc;
     int startX = -1;
     int startY = -1;
-    int parentProcNum = 0;
-    int savedParentProcNum = 0;
+    ProcessNumber parentProcNum;
+    ProcessNumber savedParentProcNum;
 
     /// Marks that the running table looks at behind each action.
     bool done = false;
@@ -97,19 +97,26 @@ class Game {
     bool timeOutRunning = false;  ///< the window's timer runs
     std::deque<Tone> tones;       ///< still to be played
 
-    int Flag(int flag) const { return state.Flag(flag); }
-    void SetFlag(int flag, int value) { state.SetFlag(flag, value); }
+    int Flag(FlagNumber flag) const { return state.Flag(flag); }
+    WordNumber Word(FlagNumber wordFlag) const { return WordNumber(Flag(wordFlag)); }
+    /// Where the player is.
+    PlaceNumber Location() const { return PlaceNumber(Flag(flag::kLocation)); }
+    void SetFlag(FlagNumber flag, int value) { state.SetFlag(flag, value); }
     bool IsMarlo() const { return data.IsMarlo(); }
 
     /// The flag 38 location, for arguments of 255 and above; any other argument itself.
-    int PlaceOf(int argument) const { return argument >= place::kHere ? Flag(flag::kLocation) : argument; }
-    bool IsWorn(int object) const { return state.ObjectPlace(object) == place::kWorn; }
-    bool IsCarried(int object) const { return state.ObjectPlace(object) == place::kCarried; }
-    bool IsHere(int object) const { return state.ObjectPlace(object) == Flag(flag::kLocation); }
+    PlaceNumber PlaceOf(PlaceNumber argument) const {
+        return argument >= place::kHere ? Location() : argument;
+    }
+    bool IsWorn(ObjectNumber object) const { return state.ObjectPlace(object) == place::kWorn; }
+    bool IsCarried(ObjectNumber object) const { return state.ObjectPlace(object) == place::kCarried; }
+    bool IsHere(ObjectNumber object) const { return state.ObjectPlace(object) == Location(); }
     /// Worn, carried or here.
-    bool IsPresent(int object) const { return IsWorn(object) || IsCarried(object) || IsHere(object); }
-    /// Whether the player can see: object 0 is the light.
-    bool LightIsPresent() const { return state.ObjectCount() > 0 && IsPresent(0); }
+    bool IsPresent(ObjectNumber object) const {
+        return IsWorn(object) || IsCarried(object) || IsHere(object);
+    }
+    /// Whether the player can see in the dark.
+    bool LightIsPresent() const { return state.HasObject(kLight) && IsPresent(kLight); }
 
     /// Throws away the rest of the typed line.
     void ClearCommand() { command.clear(); }

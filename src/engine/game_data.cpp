@@ -1,10 +1,10 @@
 #include "engine/game_data.h"
 
 #include <charconv>
-#include <limits>
 #include <optional>
 
 #include "condacts/convert.h"
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "platform/error.h"
 #include "text/str_edit.h"
@@ -17,8 +17,6 @@ using store::TableNum;
 
 namespace {
 
-constexpr int kHighestProcess = 256;
-constexpr int kHighestRecord = std::numeric_limits<std::int16_t>::max();
 constexpr int kHighestCondAct = 999;
 
 [[noreturn]] void Refuse(const std::string& what) {
@@ -26,8 +24,7 @@ constexpr int kHighestCondAct = 999;
 }
 
 std::int16_t Number16(std::int64_t value, const std::string& what) {
-    if (value < std::numeric_limits<std::int16_t>::min() ||
-        value > std::numeric_limits<std::int16_t>::max()) {
+    if (!condacts::FitsNumber(value)) {
         Refuse(what + " is " + std::to_string(value) + ", which is out of range");
     }
     return static_cast<std::int16_t>(value);
@@ -35,7 +32,7 @@ std::int16_t Number16(std::int64_t value, const std::string& what) {
 
 /// A record's number, which sizes what is kept of the records.
 std::size_t RecordNumber(std::int64_t value, const char* kind) {
-    if (value < 0 || value > kHighestRecord)
+    if (value < 0 || value > condacts::kHighestNumber)
         Refuse("there is " + std::string(kind) + " " + std::to_string(value));
     return static_cast<std::size_t>(value);
 }
@@ -67,31 +64,12 @@ std::string Filled(std::string_view text) {
     return std::string(text::TrimBlanks(text));
 }
 
-GameType TypeOf(const store::Adventure& adventure) {
-    const std::string& type = adventure.AdventureTypeLower();
-    if (type == "marlo") return GameType::Marlo;
-    if (type == "vel") return GameType::Vel;
-    return GameType::Fabula;
-}
-
-int SignificantLetters(GameType type) {
-    switch (type) {
-        case GameType::Marlo:
-            return 4;
-        case GameType::Vel:
-            return 5;
-        case GameType::Fabula:
-            break;
-    }
-    return 30;
-}
-
 }  // namespace
 
 GameData::GameData(store::Adventure& adventure)
     : TextSettings(ReadTextSettings(adventure)),
-      type(TypeOf(adventure)),
-      significantLetters(SignificantLetters(type)) {
+      type(store::AdventureKindOf(adventure.AdventureTypeLower())),
+      significantLetters(condacts::SignificantLetters(type)) {
     ReadSettings(adventure);
     ReadSoundSettings(adventure);
     ReadConjunctions(adventure);
@@ -111,7 +89,7 @@ void GameData::ReadSettings(store::Adventure& adventure) {
     title = std::string(row.Text(0)) + " (Version " + std::string(row.Text(1)) + ")";
     if (const std::string author = Filled(row.Text(2)); !author.empty()) title += " by " + author;
     saveName = text::CollapseBlanks(row.Text(3));  // a line of saved games
-    startLocation = Number16(row.Number(4), "startloc");
+    startLocation = PlaceNumber(Number16(row.Number(4), "startloc"));
     maxObjects = Number16(row.Number(5), "maxobj");
     maxWeight = Number16(row.Number(6), "maxweight");
     CheckTextSettings();
@@ -122,7 +100,7 @@ void GameData::ReadSettings(store::Adventure& adventure) {
     PreparedQuery flags = adventure.Prepare(TableNum::Flags, "flgnum", "");
     for (bool more = flags.First({}); more; more = flags.Next())
         ++flagCount;
-    if (flagCount > kHighestRecord) Refuse("it has " + std::to_string(flagCount) + " flags");
+    if (flagCount > condacts::kHighestNumber) Refuse("it has " + std::to_string(flagCount) + " flags");
 }
 
 void GameData::ReadSoundSettings(store::Adventure& adventure) {
@@ -182,13 +160,13 @@ void GameData::ReadObjects(store::Adventure& adventure) {
         const std::size_t number = RecordNumber(row.Number(0), "an object");
         const std::string what = "object " + std::to_string(number) + ", ";
         // Object numbers that are left out are objects that are nowhere and that no word names.
-        if (objects.size() <= number) objects.resize(number + 1, {252, 0, 0, 0, 0});
+        if (objects.size() <= number) objects.resize(number + 1, {place::kNotCreated, 0, 0, {}, {}});
         objects[number] = {
-            .startPlace = Number16(row.Number(1), what + "objloc"),
+            .startPlace = PlaceNumber(Number16(row.Number(1), what + "objloc")),
             .weight = Number16(row.Number(2), what + "objweight"),
             .attributes = Number16(row.Number(3), what + "objattrn"),
-            .noun = Number16(row.Number(4), what + "objnumnoun"),
-            .adjective = Number16(row.Number(5), what + "objnumadject"),
+            .noun = WordNumber(Number16(row.Number(4), what + "objnumnoun")),
+            .adjective = WordNumber(Number16(row.Number(5), what + "objnumadject")),
         };
     }
 }
@@ -223,14 +201,14 @@ void GameData::ReadProcesses(store::Adventure& adventure) {
     PreparedQuery row =
         adventure.Prepare(TableNum::ProcessTables, fields, "estype>=0", "estype, w1num, w2num, canum");
     for (bool more = row.First({}); more; more = row.Next()) {
-        if (row.Number(0) > kHighestProcess) break;
+        if (row.Number(0) > condacts::limit::kHighestProcess) break;
         const auto process = static_cast<std::size_t>(row.Number(0));
         if (processes.size() <= process) processes.resize(process + 1);
         const std::string what =
             "entry " + std::to_string(row.Number(1)) + " of process " + std::to_string(process);
         ProcessEntry entry{
-            .verb = Number16(row.Number(2), what + ", w1num"),
-            .noun = Number16(row.Number(3), what + ", w2num"),
+            .verb = WordNumber(Number16(row.Number(2), what + ", w1num")),
+            .noun = WordNumber(Number16(row.Number(3), what + ", w2num")),
             .record = static_cast<std::int32_t>(row.Number(1)),
             .first = static_cast<std::uint32_t>(condActs_.size()),
         };
@@ -246,7 +224,7 @@ void GameData::ReadProcesses(store::Adventure& adventure) {
             compiled = converted.line;
             numeric = compiled;
         }
-        entry.length = AppendNumbers(numeric, kHighestRecord, condActs_, what);
+        entry.length = AppendNumbers(numeric, condacts::kHighestNumber, condActs_, what);
         processes[process].Add(entry);
     }
     for (ProcessTable& table : processes)

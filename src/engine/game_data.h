@@ -7,20 +7,21 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/game_type.h"
+#include "engine/numbers.h"
 #include "engine/process_table.h"
 #include "engine/sound_player.h"
 #include "engine/text_settings.h"
 #include "store/adventure.h"
+#include "store/adventure_kind.h"
 
 namespace fabula::engine {
 
 struct ObjectData {
-    std::int16_t startPlace = 0;
+    PlaceNumber startPlace;
     std::int16_t weight = 0;
     std::int16_t attributes = 0;  ///< bit 0 container, bit 1 wearable
-    std::int16_t noun = 0;
-    std::int16_t adjective = 0;
+    WordNumber noun;
+    WordNumber adjective;
 };
 
 /// A location's exits: pairs of verb and destination, `length` numbers of the list that all locations
@@ -38,15 +39,15 @@ class GameData : public TextSettings {
     /// Throws fabula::Error, with the record that is at fault, when the adventure can't be played.
     explicit GameData(store::Adventure& adventure);
 
-    GameType type = GameType::Fabula;
-    bool IsMarlo() const { return type == GameType::Marlo; }
+    store::AdventureKind type = store::AdventureKind::Fabula;
+    bool IsMarlo() const { return type == store::AdventureKind::Marlo; }
     int significantLetters = 30;
 
     std::string title;  ///< of the window
     std::string saveName;
     bool graphics = false;
     bool sound = false;
-    int startLocation = 0;
+    PlaceNumber startLocation;
     int maxObjects = 0;
     int maxWeight = 0;
     std::string defaultPicture;  ///< "" when there is none
@@ -64,16 +65,22 @@ class GameData : public TextSettings {
 
     std::vector<std::string> conjunctions;  ///< in the order of the vocabulary
 
-    std::span<const std::int16_t> ExitsOf(const LocationData& location) const {
+    const ObjectData& Object(ObjectNumber object) const {
+        return objects[static_cast<std::size_t>(object.value)];
+    }
+    /// Of a number up to the last location's.
+    std::span<const std::int16_t> ExitsOf(PlaceNumber number) const {
+        const LocationData& location = locations[static_cast<std::size_t>(number.value)];
         return {exits_.data() + location.first, location.length};
     }
     std::span<const std::int16_t> CondActsOf(const ProcessEntry& entry) const {
         return {condActs_.data() + entry.first, entry.length};
     }
-    bool LocationExists(int location) const {
-        return location >= 0 && location < static_cast<int>(locations.size()) && locations[location].exists;
+    bool LocationExists(PlaceNumber location) const {
+        const auto index = static_cast<std::size_t>(location.value);
+        return index < locations.size() && locations[index].exists;
     }
-    int LastLocation() const { return static_cast<int>(locations.size()) - 1; }
+    PlaceNumber LastLocation() const { return PlaceNumber(static_cast<int>(locations.size()) - 1); }
 
   private:
     void ReadSettings(store::Adventure& adventure);

@@ -12,16 +12,17 @@ using store::TableNum;
 namespace {
 
 /// A text that stands nowhere near a number this high is not kept in memory.
-constexpr std::int64_t kHighestText = 32767;
+constexpr std::int64_t kHighestText = condacts::kHighestNumber;
 
-std::string_view WordFilter(GameType type) {
-    return type == GameType::Marlo ? "word=? and (voctypen=0 or voctypen=2 or voctypen=7)" : "word=?";
+std::string_view WordFilter(store::AdventureKind type) {
+    return type == store::AdventureKind::Marlo ? "word=? and (voctypen=0 or voctypen=2 or voctypen=7)"
+                                               : "word=?";
 }
 
 }  // namespace
 
-GameTexts::GameTexts(store::Adventure& adventure, GameType type)
-    : inMemory_(type != GameType::Fabula),
+GameTexts::GameTexts(store::Adventure& adventure, store::AdventureKind type)
+    : inMemory_(type != store::AdventureKind::Fabula),
       locations_{"location", adventure.Prepare(TableNum::Locations, "locdesc", "locnum=?"), {}},
       shortLocations_{"location", adventure.Prepare(TableNum::Locations, "locshortdesc", "locnum=?"), {}},
       objects_{"object", adventure.Prepare(TableNum::Objects, "objdesc", "objnum=?"), {}},
@@ -71,24 +72,24 @@ std::string_view GameTexts::Keep(Kind& kind, std::size_t index, std::string_view
     return kind.texts[index].emplace(text);
 }
 
-std::string_view GameTexts::Location(int location) {
-    return Find(locations_, location);
+std::string_view GameTexts::Location(PlaceNumber location) {
+    return Find(locations_, location.value);
 }
 
-std::string_view GameTexts::ShortLocation(int location) {
-    return Find(shortLocations_, location);
+std::string_view GameTexts::ShortLocation(PlaceNumber location) {
+    return Find(shortLocations_, location.value);
 }
 
-std::string_view GameTexts::Object(int object) {
-    return Find(objects_, object);
+std::string_view GameTexts::Object(ObjectNumber object) {
+    return Find(objects_, object.value);
 }
 
-std::string_view GameTexts::Message(int message) {
-    return Find(messages_, message);
+std::string_view GameTexts::Message(MessageNumber message) {
+    return Find(messages_, message.value);
 }
 
-std::string_view GameTexts::SystemMessage(int message) {
-    return Find(systemMessages_, message);
+std::string_view GameTexts::SystemMessage(SystemMessageNumber message) {
+    return Find(systemMessages_, message.value);
 }
 
 const std::vector<VocabularyWord>& GameTexts::FindWord(std::string_view word) {
@@ -108,7 +109,7 @@ const std::vector<VocabularyWord>& GameTexts::FindWord(std::string_view word) {
 std::vector<VocabularyWord> GameTexts::LookUp(std::string_view word) {
     std::vector<VocabularyWord> found;
     for (bool more = words_.First({word}); more; more = words_.Next()) {
-        found.push_back({static_cast<int>(words_.Number(0)), static_cast<int>(words_.Number(1)),
+        found.push_back({WordNumber(static_cast<int>(words_.Number(0))), static_cast<int>(words_.Number(1)),
                          std::string(words_.Text(2))});
     }
     // Two rows at most, as a rule: sorting them here costs less than asking the file for an order.
@@ -118,12 +119,12 @@ std::vector<VocabularyWord> GameTexts::LookUp(std::string_view word) {
     return found;
 }
 
-bool GameTexts::IsNoun(int number) {
-    return nouns_.First({number});
+bool GameTexts::IsNoun(WordNumber word) {
+    return nouns_.First({word.value});
 }
 
-std::string GameTexts::WordOf(int number, std::string_view typeName) {
-    if (!wordsByNumber_.First({typeName, number})) return {};
+std::string GameTexts::WordOf(WordNumber word, std::string_view typeName) {
+    if (!wordsByNumber_.First({typeName, word.value})) return {};
     return std::string(wordsByNumber_.Text(0));
 }
 

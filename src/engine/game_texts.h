@@ -8,14 +8,15 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/game_data.h"
+#include "engine/numbers.h"
 #include "store/adventure.h"
+#include "store/adventure_kind.h"
 
 namespace fabula::engine {
 
 /// A row of the vocabulary.
 struct VocabularyWord {
-    int number = 0;
+    WordNumber number;
     int type = 0;      ///< `voctypen`
     std::string word;  ///< as stored
 };
@@ -29,22 +30,22 @@ struct VocabularyWord {
 /// same kind. A text that does not exist throws RunFailure.
 class GameTexts {
   public:
-    GameTexts(store::Adventure& adventure, GameType type);
+    GameTexts(store::Adventure& adventure, store::AdventureKind type);
 
-    std::string_view Location(int location);
-    std::string_view ShortLocation(int location);
-    std::string_view Object(int object);
-    std::string_view Message(int message);
-    std::string_view SystemMessage(int message);
+    std::string_view Location(PlaceNumber location);
+    std::string_view ShortLocation(PlaceNumber location);
+    std::string_view Object(ObjectNumber object);
+    std::string_view Message(MessageNumber message);
+    std::string_view SystemMessage(SystemMessageNumber message);
 
     /// The rows of a word as typed, in the order of type and number; for "marlo" only verbs, nouns and
     /// reserved words. Valid until the next call.
     const std::vector<VocabularyWord>& FindWord(std::string_view word);
 
-    /// True when a noun (and no reserved word) has this number.
-    bool IsNoun(int number);
+    /// True when it is the number of a noun (and no reserved word's).
+    bool IsNoun(WordNumber word);
     /// The first word of a number and the type's name ("Verb"); "" when there is none.
-    std::string WordOf(int number, std::string_view typeName);
+    std::string WordOf(WordNumber word, std::string_view typeName);
 
   private:
     /// One kind of text: its look-up, and its texts that are in memory, by number.

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/game_type.h"
+#include "store/adventure_kind.h"
 
 namespace fabula::engine {
 
@@ -38,7 +38,7 @@ enum class LineEnd {
 /// What the window must know of a game before the first text.
 struct GameLook {
     std::string title;  ///< "NAME (Version 1.0) by AUTHOR"
-    GameType type = GameType::Fabula;
+    store::AdventureKind type = store::AdventureKind::Fabula;
     bool characterSets =
         false;              ///< true: the character pane with the game's own sets; false: the text pane
     bool graphics = false;  ///< the game shows pictures

@@ -9,35 +9,35 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr int kFirstPlainVerb = 14;
+constexpr WordNumber kFirstPlainVerb{14};
 
 /// Where an exit leads from a location for a verb.
-std::optional<int> FindExit(const Game& game, int location, int verb) {
-    const auto exits = game.data.ExitsOf(game.data.locations[static_cast<std::size_t>(location)]);
+std::optional<PlaceNumber> FindExit(const Game& game, PlaceNumber location, WordNumber verb) {
+    const auto exits = game.data.ExitsOf(location);
     for (std::size_t pair = 0; pair + 1 < exits.size(); pair += 2) {
-        if (exits[pair] == verb) return exits[pair + 1];
+        if (exits[pair] == verb.value) return PlaceNumber(exits[pair + 1]);
     }
     return std::nullopt;
 }
 
 }  // namespace
 
-bool GoTo(Game& game, int location, int) {
-    game.SetFlag(flag::kLocation, location);
+bool GoTo(Game& game, PlaceNumber location) {
+    game.SetFlag(flag::kLocation, location.value);
     return true;
 }
 
-bool Move(Game& game, int flag, int) {
-    const int location = game.Flag(flag);
-    const int verb = game.Flag(flag::kVerb);
-    if (location < 0 || location > game.data.LastLocation() || verb == 0) return false;
-    const std::optional<int> destination = FindExit(game, location, verb);
+bool Move(Game& game, FlagNumber flag) {
+    const PlaceNumber location(game.Flag(flag));
+    const WordNumber verb = game.Word(flag::kVerb);
+    if (location.value < 0 || location > game.data.LastLocation() || verb.value == 0) return false;
+    const std::optional<PlaceNumber> destination = FindExit(game, location, verb);
     if (!destination) return false;
-    game.SetFlag(flag, *destination);
+    game.SetFlag(flag, destination->value);
     return true;
 }
 
-bool Desc(Game& game, int, int) {
+bool Desc(Game& game) {
     game.SetFlag(flag::kDescribe, kSet);
     game.stopDoAll = true;
     game.done = true;
@@ -45,23 +45,23 @@ bool Desc(Game& game, int, int) {
     return true;
 }
 
-bool Reset(Game& game, int location, int) {
-    for (int object = 0; object < game.state.ObjectCount(); ++object) {
+bool Reset(Game& game, PlaceNumber location) {
+    for (const ObjectNumber object : game.state.Objects()) {
         if (game.IsPresent(object)) PlaceObject(game, object, location);
     }
-    GoTo(game, location, 0);
-    Desc(game, 0, 0);
+    GoTo(game, location);
+    Desc(game);
     game.runner.ClearStack("Reset");
     return true;
 }
 
-ExitSearch SearchConnections(Game& game, int location) {
+ExitSearch SearchConnections(Game& game, PlaceNumber location) {
     game.SetFlag(flag::kDescribe, 0);
-    const int verb = game.Flag(flag::kVerb);
-    if (!game.data.LocationExists(location)) FailMissing("location", location);
-    if (const std::optional<int> destination = FindExit(game, location, verb)) {
-        GoTo(game, *destination, 0);
-        Desc(game, 0, 0);
+    const WordNumber verb = game.Word(flag::kVerb);
+    if (!game.data.LocationExists(location)) FailMissing("location", location.value);
+    if (const std::optional<PlaceNumber> destination = FindExit(game, location, verb)) {
+        GoTo(game, *destination);
+        Desc(game);
         return ExitSearch::Moved;
     }
     return verb < kFirstPlainVerb ? ExitSearch::NoExit : ExitSearch::NoDirection;

@@ -17,7 +17,7 @@ ProcessLoop::Label ProcessLoop::MarloProcessLoop(Label label) {
 
         case Label::StartProc1:
             TraceLine("Drop into Proc1 after setting variables");
-            StartProcess(1);
+            StartProcess(kDescribed);
             return Label::Proc1;
         case Label::Proc1:
             ClearMatchWordsBit();
@@ -38,7 +38,7 @@ ProcessLoop::Label ProcessLoop::MarloProcessLoop(Label label) {
                 game_.trace.Line("Current location is " + std::to_string(game_.Flag(flag::kLocation)));
             }
             TraceLine("Drop into Proc0 after setting variables");
-            StartProcess(0);
+            StartProcess(kResponses);
             return MarloExits();
         case Label::Proc0:
             TraceLine("Process 0 from Proc0 label");
@@ -57,7 +57,7 @@ ProcessLoop::Label ProcessLoop::MarloProcessLoop(Label label) {
 /// What the search comes to without a move is kept until process 0 has run.
 ProcessLoop::Label ProcessLoop::MarloExits() {
     TraceLine("Searching Connections table");
-    exits_ = SearchConnections(game_, game_.Flag(flag::kLocation));
+    exits_ = SearchConnections(game_, game_.Location());
     if (exits_ != ExitSearch::Moved) return Label::Proc0;
     TraceLine("connections goto ");
     return Label::Top;

@@ -26,11 +26,11 @@ bool GiveUp(Game& game) {
 /// Prints a text with the description of the object of flag 51 in place of each "_".
 void Say(Game& game, std::string_view text) {
     const auto marks = static_cast<std::size_t>(std::count(text.begin(), text.end(), '_'));
-    const int object = game.Flag(flag::kObject);
-    if (marks == 0 || object < 0 || object >= game.state.ObjectCount()) return Print(game, text);
+    const ObjectNumber object(game.Flag(flag::kObject));
+    if (marks == 0 || !game.state.HasObject(object)) return Print(game, text);
     const std::string description = text::CollapseBlanks(game.texts.Object(object));
     if (marks * description.size() + text.size() > kLongestText) {
-        throw RunFailure("a message with the description of object " + std::to_string(object) +
+        throw RunFailure("a message with the description of object " + std::to_string(object.value) +
                          " in it is too long");
     }
     Print(game, text::ReplaceAll(text, "_", description));
@@ -38,34 +38,34 @@ void Say(Game& game, std::string_view text) {
 
 }  // namespace
 
-void PrintSystemMessage(Game& game, int message) {
+void PrintSystemMessage(Game& game, SystemMessageNumber message) {
     Print(game, game.texts.SystemMessage(message));
 }
 
-void SayMessage(Game& game, int message) {
+void SayMessage(Game& game, MessageNumber message) {
     Say(game, game.texts.Message(message));
 }
 
-void SaySystemMessage(Game& game, int message) {
+void SaySystemMessage(Game& game, SystemMessageNumber message) {
     Say(game, game.texts.SystemMessage(message));
 }
 
-void PrintObject(Game& game, int object) {
+void PrintObject(Game& game, ObjectNumber object) {
     Print(game, game.texts.Object(object));
 }
 
-bool Refuse(Game& game, int message) {
+bool Refuse(Game& game, SystemMessageNumber message) {
     SaySystemMessage(game, message);
     return GiveUp(game);
 }
 
-void SayWithObject(Game& game, int message, int object) {
+void SayWithObject(Game& game, SystemMessageNumber message, ObjectNumber object) {
     SaySystemMessage(game, message);
     PrintObject(game, object);
-    SaySystemMessage(game, 51);
+    SaySystemMessage(game, message::kStop);
 }
 
-bool RefuseWithObject(Game& game, int message, int object) {
+bool RefuseWithObject(Game& game, SystemMessageNumber message, ObjectNumber object) {
     SayWithObject(game, message, object);
     return GiveUp(game);
 }
@@ -74,8 +74,8 @@ std::string LastCharacter(Game& game, std::string_view text) {
     return std::string(text::Right(game.printer.WithoutMarkup(text), 1));
 }
 
-std::string FirstCharacter(Game& game, int systemMessage) {
-    const std::string shown = game.printer.WithoutMarkup(game.texts.SystemMessage(systemMessage));
+std::string FirstCharacter(Game& game, SystemMessageNumber message) {
+    const std::string shown = game.printer.WithoutMarkup(game.texts.SystemMessage(message));
     return text::UpperCase(text::Left(shown, 1));
 }
 

@@ -10,32 +10,23 @@ namespace {
 
 constexpr std::string_view kNoWordText = "Null";
 
-enum WordType {
-    kVerbType = 0,
-    kAdverbType = 1,
-    kNounType = 2,
-    kAdjectiveType = 3,
-    kPrepositionType = 4,
-    kPronounType = 6
-};
+constexpr WordNumber kFirstReferableNoun{50};
+constexpr WordNumber kFirstPlainNoun{condacts::kFirstPlainNoun};
 
-constexpr int kFirstReferableNoun = 50;
-constexpr int kFirstPlainNoun = 20;
-
-constexpr int kResetFlags[] = {flag::kVerb,        flag::kAdverb, flag::kNoun,      flag::kAdjective,
-                               flag::kPreposition, flag::kNoun2,  flag::kAdjective2};
+constexpr FlagNumber kResetFlags[] = {flag::kVerb,        flag::kAdverb, flag::kNoun,      flag::kAdjective,
+                                      flag::kPreposition, flag::kNoun2,  flag::kAdjective2};
 constexpr std::size_t kMarloKeeps = 2;  ///< the first two stay from the sentence before
 
-void SetWord(Game& game, int wordFlag, int number, std::string_view word) {
-    game.SetFlag(wordFlag, number);
+void SetWord(Game& game, FlagNumber wordFlag, WordNumber number, std::string_view word) {
+    game.SetFlag(wordFlag, number.value);
     game.state.WordText(wordFlag) = word;
 }
 
-void CopyWord(Game& game, int from, int to) {
-    SetWord(game, to, game.Flag(from), std::string(game.state.WordText(from)));
+void CopyWord(Game& game, FlagNumber from, FlagNumber to) {
+    SetWord(game, to, game.Word(from), std::string(game.state.WordText(from)));
 }
 
-bool HasWord(const Game& game, int wordFlag) {
+bool HasWord(const Game& game, FlagNumber wordFlag) {
     return game.Flag(wordFlag) != kNoWord;
 }
 
@@ -44,13 +35,14 @@ void BeginSentence(Game& game) {
     game.state.ShiftHistory();
     if (game.wordsCleared) {
         const auto before = game.state.Flags(1);
-        before[flag::kVerb] = static_cast<std::int16_t>(game.clearedVerb);
-        before[flag::kAdverb] = static_cast<std::int16_t>(game.clearedAdverb);
+        before[static_cast<std::size_t>(flag::kVerb.value)] = static_cast<std::int16_t>(game.clearedVerb);
+        before[static_cast<std::size_t>(flag::kAdverb.value)] =
+            static_cast<std::int16_t>(game.clearedAdverb);
         game.wordsCleared = false;
     }
     game.state.oldWordText = game.state.wordText;
     for (std::size_t i = game.IsMarlo() ? kMarloKeeps : 0; i < std::size(kResetFlags); ++i) {
-        SetWord(game, kResetFlags[i], kNoWord, kNoWordText);
+        SetWord(game, kResetFlags[i], WordNumber(kNoWord), kNoWordText);
     }
 }
 
@@ -62,11 +54,11 @@ class SentenceReader {
     void Take(const std::vector<VocabularyWord>& rows) {
         const VocabularyWord& row = rows.front();
         switch (row.type) {
-            case kVerbType:
+            case condacts::kVerb:
                 return TakeVerb(rows);
-            case kAdverbType:
+            case condacts::kAdverb:
                 return TakeAdverb(row);
-            case kPrepositionType:
+            case condacts::kPreposition:
                 if (!HasWord(game_, flag::kPreposition))
                     SetWord(game_, flag::kPreposition, row.number, row.word);
                 return;
@@ -74,16 +66,16 @@ class SentenceReader {
                 break;
         }
         if (secondNounSeen_) return;
-        if (row.type == kAdjectiveType) return TakeAdjective(row);
-        if (row.type == kPronounType) return TakePronoun();
+        if (row.type == condacts::kAdjective) return TakeAdjective(row);
+        if (row.type == condacts::kPronoun) return TakePronoun();
         TakeNoun(row.number, row.word);
     }
 
     void Finish() {
-        if (!adverbSeen_) SetWord(game_, flag::kAdverb, kNoWord, kNoWordText);
+        if (!adverbSeen_) SetWord(game_, flag::kAdverb, WordNumber(kNoWord), kNoWordText);
         KeepForPronoun(flag::kNoun2, flag::kAdjective2);
         KeepForPronoun(flag::kNoun, flag::kAdjective);
-        if (game_.Flag(flag::kNoun) < kFirstPlainNoun && !verbSeen_)
+        if (game_.Word(flag::kNoun) < kFirstPlainNoun && !verbSeen_)
             CopyWord(game_, flag::kNoun, flag::kVerb);
     }
 
@@ -94,7 +86,7 @@ class SentenceReader {
             verbSeen_ = true;
             return SetWord(game_, flag::kVerb, rows[0].number, rows[0].word);
         }
-        if (rows.size() != 2 || rows[1].type != kNounType || secondNounSeen_) return;
+        if (rows.size() != 2 || rows[1].type != condacts::kNoun || secondNounSeen_) return;
         TakeNoun(rows[1].number, rows[1].word);
     }
 
@@ -113,10 +105,10 @@ class SentenceReader {
     void TakePronoun() {
         if (!HasWord(game_, flag::kPronounNoun)) return;
         CopyWord(game_, flag::kPronounAdjective, nounSeen_ ? flag::kAdjective2 : flag::kAdjective);
-        TakeNoun(game_.Flag(flag::kPronounNoun), std::string(game_.state.WordText(flag::kPronounNoun)));
+        TakeNoun(game_.Word(flag::kPronounNoun), std::string(game_.state.WordText(flag::kPronounNoun)));
     }
 
-    void TakeNoun(int number, std::string_view word) {
+    void TakeNoun(WordNumber number, std::string_view word) {
         adjectivePending_ = false;
         if (!nounSeen_) {
             nounSeen_ = true;
@@ -125,13 +117,13 @@ class SentenceReader {
         // One noun twice names one thing, unless two different adjectives tell the things apart.
         const bool twoThings = HasWord(game_, flag::kAdjective) && HasWord(game_, flag::kAdjective2) &&
                                game_.Flag(flag::kAdjective) != game_.Flag(flag::kAdjective2);
-        if (number == game_.Flag(flag::kNoun) && !twoThings) return;
+        if (number == game_.Word(flag::kNoun) && !twoThings) return;
         secondNounSeen_ = true;
         SetWord(game_, flag::kNoun2, number, word);
     }
 
-    void KeepForPronoun(int noun, int adjective) {
-        if (game_.Flag(noun) < kFirstReferableNoun || !HasWord(game_, noun)) return;
+    void KeepForPronoun(FlagNumber noun, FlagNumber adjective) {
+        if (game_.Word(noun) < kFirstReferableNoun || !HasWord(game_, noun)) return;
         CopyWord(game_, noun, flag::kPronounNoun);
         CopyWord(game_, adjective, flag::kPronounAdjective);
     }
@@ -227,7 +219,7 @@ bool ParsePhrase(Game& game, std::string& text) {
 
 std::string SentenceWords(const Game& game) {
     std::string words;
-    for (const int wordFlag :
+    for (const FlagNumber wordFlag :
          {flag::kAdverb, flag::kVerb, flag::kAdjective, flag::kNoun, flag::kPreposition}) {
         if (!words.empty()) words += ' ';
         words += game.state.WordText(wordFlag);

@@ -16,27 +16,24 @@ void PrintNumber(Game& game, int number) {
     game.printer.PrintText(std::to_string(number), false, true);
 }
 
-int CountAt(const Game& game, int where) {
+int CountAt(const Game& game, PlaceNumber where) {
     int count = 0;
-    for (int object = 0; object < game.state.ObjectCount(); ++object) {
+    for (const ObjectNumber object : game.state.Objects()) {
         if (game.state.ObjectPlace(object) == where) ++count;
     }
     return count;
 }
 
 /// What follows an object in a list that runs on, by how many are still to come.
-int Separator(int left) {
-    constexpr int kComma = 46;
-    constexpr int kAnd = 47;
-    constexpr int kFullStop = 48;
-    if (left == 0) return kFullStop;
-    return left == 1 ? kAnd : kComma;
+SystemMessageNumber Separator(int left) {
+    if (left == 0) return message::kListEnd;
+    return left == 1 ? message::kAnd : message::kComma;
 }
 
-void PrintList(Game& game, int where, int count) {
+void PrintList(Game& game, PlaceNumber where, int count) {
     const bool runsOn = game.state.FlagBitSet(flag::kListOptions, 6);
     if (!runsOn) game.printer.NewLine();
-    for (int object = 0; object < game.state.ObjectCount(); ++object) {
+    for (const ObjectNumber object : game.state.Objects()) {
         if (game.state.ObjectPlace(object) != where) continue;
         PrintObject(game, object);
         if (runsOn) {
@@ -48,7 +45,7 @@ void PrintList(Game& game, int where, int count) {
 }
 
 /// How many objects are at a place, with bit 7 of flag 53 telling whether there is anything to list.
-int BeginList(Game& game, int where) {
+int BeginList(Game& game, PlaceNumber where) {
     const int count = CountAt(game, where);
     if (game.state.FlagBitSet(flag::kListOptions, 7)) {
         game.SetFlag(flag::kListOptions, game.Flag(flag::kListOptions) - kListedBit);
@@ -59,142 +56,142 @@ int BeginList(Game& game, int where) {
 
 }  // namespace
 
-bool Mes(Game& game, int message, int) {
+bool Mes(Game& game, MessageNumber message) {
     SayMessage(game, message);
     return true;
 }
 
-bool Message(Game& game, int message, int) {
+bool Message(Game& game, MessageNumber message) {
     SayMessage(game, message);
-    return NewLine(game, 0, 0);
+    return NewLine(game);
 }
 
-bool SysMess(Game& game, int message, int) {
+bool SysMess(Game& game, SystemMessageNumber message) {
     SaySystemMessage(game, message);
     return true;
 }
 
-bool MesF(Game& game, int flag, int) {
-    return Mes(game, game.Flag(flag), 0);
+bool MesF(Game& game, FlagNumber flag) {
+    return Mes(game, MessageNumber(game.Flag(flag)));
 }
 
-bool MessgF(Game& game, int flag, int) {
-    return Message(game, game.Flag(flag), 0);
+bool MessgF(Game& game, FlagNumber flag) {
+    return Message(game, MessageNumber(game.Flag(flag)));
 }
 
-bool SysMsgF(Game& game, int flag, int) {
-    return SysMess(game, game.Flag(flag), 0);
+bool SysMsgF(Game& game, FlagNumber flag) {
+    return SysMess(game, SystemMessageNumber(game.Flag(flag)));
 }
 
-bool Print(Game& game, int flag, int) {
+bool Print(Game& game, FlagNumber flag) {
     PrintNumber(game, game.Flag(flag));
     return true;
 }
 
-bool NewLine(Game& game, int, int) {
+bool NewLine(Game& game) {
     game.printer.NewLine();
     return true;
 }
 
-bool Turns(Game& game, int, int) {
+bool Turns(Game& game) {
     const int turns = game.Flag(flag::kTurnHigh) * 256 + game.Flag(flag::kTurnLow);
-    SaySystemMessage(game, 17);
+    SaySystemMessage(game, message::kTurnsTaken);
     game.printer.PrintText(std::to_string(turns) + " ", false, true);
-    SaySystemMessage(game, 18);
-    if (turns > 1) SaySystemMessage(game, 19);
-    SaySystemMessage(game, 20);
+    SaySystemMessage(game, message::kTurn);
+    if (turns > 1) SaySystemMessage(game, message::kPlural);
+    SaySystemMessage(game, message::kCountEnd);
     return true;
 }
 
-bool Score(Game& game, int, int) {
-    SaySystemMessage(game, 21);
+bool Score(Game& game) {
+    SaySystemMessage(game, message::kScored);
     PrintNumber(game, game.Flag(flag::kScore));
-    SaySystemMessage(game, 22);
-    SaySystemMessage(game, 20);
+    SaySystemMessage(game, message::kScoreEnd);
+    SaySystemMessage(game, message::kCountEnd);
     return true;
 }
 
-bool Cls(Game& game, int, int) {
+bool Cls(Game& game) {
     game.printer.Clear();
     return true;
 }
 
-bool Inven(Game& game, int, int) {
-    SaySystemMessage(game, 9);
+bool Inven(Game& game) {
+    SaySystemMessage(game, message::kCarrying);
     game.printer.NewLine();
     bool any = false;
-    for (int object = 0; object < game.state.ObjectCount(); ++object) {
+    for (const ObjectNumber object : game.state.Objects()) {
         if (!game.IsCarried(object) && !game.IsWorn(object)) continue;
         any = true;
         PrintObject(game, object);
-        if (game.IsWorn(object)) SaySystemMessage(game, 10);
+        if (game.IsWorn(object)) SaySystemMessage(game, message::kIsWorn);
         game.printer.NewLine();
     }
-    if (!any) SaySystemMessage(game, 11);
+    if (!any) SaySystemMessage(game, message::kNothing);
     return true;
 }
 
-bool ListObj(Game& game, int, int) {
-    const int where = game.Flag(flag::kLocation);
+bool ListObj(Game& game) {
+    const PlaceNumber where = game.Location();
     const int count = BeginList(game, where);
     if (count == 0) return true;
-    SaySystemMessage(game, 1);
+    SaySystemMessage(game, message::kAlsoHere);
     PrintList(game, where, count);
     return true;
 }
 
-bool ListAt(Game& game, int location, int) {
-    const int where = game.PlaceOf(location);
+bool ListAt(Game& game, PlaceNumber location) {
+    const PlaceNumber where = game.PlaceOf(location);
     const int count = BeginList(game, where);
-    if (count == 0) return SysMess(game, 53, 0);
+    if (count == 0) return SysMess(game, message::kNothingThere);
     PrintList(game, where, count);
     return true;
 }
 
-bool PictureAction(Game& game, int location, int) {
-    if (!game.data.LocationExists(location)) FailMissing("location", location);
+bool PictureAction(Game& game, PlaceNumber location) {
+    if (!game.data.LocationExists(location)) FailMissing("location", location.value);
     ShowPictureOf(game, location);
     return true;
 }
 
-bool Paper(Game& game, int colour, int) {
+bool Paper(Game& game, int colour) {
     constexpr int kHighestPaper = 8;
     game.printer.Paper(std::clamp(colour, 0, kHighestPaper));
     return true;
 }
 
-bool Ink(Game& game, int colour, int) {
+bool Ink(Game& game, int colour) {
     constexpr int kLeaveInk = 8;
     if (colour < kLeaveInk) game.printer.Ink(std::max(colour, 0));
     return true;
 }
 
-bool CharSet(Game& game, int font, int) {
+bool CharSet(Game& game, int font) {
     game.printer.CharSet(font);
     return true;
 }
 
-bool FntSize(Game& game, int code, int) {
+bool FntSize(Game& game, int code) {
     game.printer.FontSize(code);
     return true;
 }
 
-bool Bright(Game& game, int on, int) {
+bool Bright(Game& game, int on) {
     game.printer.Bright(on != 0);
     return true;
 }
 
-bool Flash(Game& game, int on, int) {
+bool Flash(Game& game, int on) {
     game.printer.Flash(on != 0);
     return true;
 }
 
-bool Inverse(Game& game, int on, int) {
+bool Inverse(Game& game, int on) {
     game.printer.Inverse(on != 0);
     return true;
 }
 
-bool Over(Game& game, int on, int) {
+bool Over(Game& game, int on) {
     game.printer.Over(on != 0);
     return true;
 }

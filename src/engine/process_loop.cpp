@@ -31,7 +31,7 @@ ProcessLoop::Outcome ProcessLoop::Enter() {
 }
 
 ProcessLoop::Outcome ProcessLoop::Resume() {
-    const int process = game_.currentProc;
+    const int process = game_.currentProc.value;
     turnAtInput_ = kTurnOfAnswer;  // the answer was this line's input
     game_.parentProcNum = game_.savedParentProcNum;
     unwinding_ = false;
@@ -91,21 +91,21 @@ ProcessLoop::Label ProcessLoop::BeginStep(Label label) {
         case Label::BegunProc1:
             if (game_.Flag(flag::kDescribe) == 0) return game_.IsMarlo() ? Prompt() : Label::BeginProc2;
             Describe(game_);
-            game_.parentProcNum = 1;
-            return RunTable(1, -1, -1, Label::BegunProc1);
+            game_.parentProcNum = kDescribed;
+            return RunTable(kDescribed, -1, -1, Label::BegunProc1);
         case Label::BeginProc2:
-            game_.parentProcNum = 2;
-            return RunTable(2, -1, -1, Label::BegunProc2);
+            game_.parentProcNum = kEachTurn;
+            return RunTable(kEachTurn, -1, -1, Label::BegunProc2);
         case Label::BegunProc2:
             if (game_.Flag(flag::kDescribe) == 0) return Prompt();
             Describe(game_);
-            return RunTable(1, -1, -1, Label::BegunLast);
+            return RunTable(kDescribed, -1, -1, Label::BegunLast);
         default:
             return Prompt();
     }
 }
 
-ProcessLoop::Label ProcessLoop::RunTable(int process, int startX, int startY, Label after) {
+ProcessLoop::Label ProcessLoop::RunTable(ProcessNumber process, int startX, int startY, Label after) {
     game_.runner.DoCondActs(process, startX, startY);
     afterTable_ = after;
     return Label::Table;
@@ -125,13 +125,13 @@ ProcessLoop::Label ProcessLoop::TestTable(Label table, Label next, bool testDesc
     if (!unwinding_) return next;
     const TablePosition call = calls.back();
     if (game_.IsMarlo() && game_.trace.On()) {
-        game_.trace.Line("Process " + std::to_string(call.process) + " from call stack " +
+        game_.trace.Line("Process " + std::to_string(call.process.value) + " from call stack " +
                          (table == Label::AfterProc0 ? "after Proc0" : "after Proc1"));
     }
     return RunTable(call.process, call.entry, call.cell, table);
 }
 
-void ProcessLoop::StartProcess(int process) {
+void ProcessLoop::StartProcess(ProcessNumber process) {
     game_.currentProc = process;
     game_.parentProcNum = process;
     game_.startX = -1;
@@ -147,16 +147,14 @@ void ProcessLoop::ClearMatchWordsBit() {
 
 /// What a line without words gets: message 35 when the time-out brought it.
 void ProcessLoop::SayNotUnderstood() {
-    constexpr int kNotUnderstood = 6;
-    constexpr int kTimePasses = 35;
-    PrintSystemMessage(game_,
-                       game_.state.FlagBitSet(flag::kTimeOutOptions, 7) ? kTimePasses : kNotUnderstood);
+    const bool timedOut = game_.state.FlagBitSet(flag::kTimeOutOptions, 7);
+    PrintSystemMessage(game_, timedOut ? message::kTimePasses : message::kNoExit);
 }
 
 /// System message 6 for a direction without an exit, 7 for anything else that nothing answered.
 void ProcessLoop::SayNoExit(ExitSearch search) {
-    if (search == ExitSearch::NoExit) PrintSystemMessage(game_, 6);
-    if (search == ExitSearch::NoDirection) PrintSystemMessage(game_, 7);
+    if (search == ExitSearch::NoExit) PrintSystemMessage(game_, message::kNoExit);
+    if (search == ExitSearch::NoDirection) PrintSystemMessage(game_, message::kCannotDo);
 }
 
 /// Takes the next sentence of the line. Without one, or with one that is not understood, the player is

@@ -65,12 +65,12 @@ class ProcessLoop {
     Label MarloExits();
     Label MarloAnswer();
 
-    Label RunTable(int process, int startX, int startY, Label after);
+    Label RunTable(ProcessNumber process, int startX, int startY, Label after);
     Label RunCurrentTable(Label after);
     /// The tests behind a table: for the player, for the end, for a description, for calls that never came
     /// back. `next` is where the cycle goes when none holds.
     Label TestTable(Label table, Label next, bool testDescribe);
-    void StartProcess(int process);
+    void StartProcess(ProcessNumber process);
     void ClearMatchWordsBit();
     Label ParseSentence();
     void CountTurn();

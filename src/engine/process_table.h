@@ -4,14 +4,14 @@
 #include <cstdint>
 #include <vector>
 
-#include "condacts/words.h"
+#include "engine/numbers.h"
 
 namespace fabula::engine {
 
 /// One entry of a process table. Its condacts are `length` numbers of the list that all entries share.
 struct ProcessEntry {
-    std::int16_t verb = 0;
-    std::int16_t noun = 0;
+    WordNumber verb;
+    WordNumber noun;
     std::int32_t record = 0;  ///< its record key (`canum`), for messages
     std::uint32_t first = 0;
     std::uint32_t length = 0;
@@ -30,17 +30,17 @@ class ProcessTable {
 
     /// The first entry from `from` (at least 0) on that fits a verb and a noun; Count() when none does. It
     /// takes the time of finding a few numbers in a sorted list, however many entries do not fit.
-    int FindMatch(int from, int verb, int noun) const;
+    int FindMatch(int from, WordNumber verb, WordNumber noun) const;
 
-    static constexpr bool IsWild(int word, bool oneIsWild) {
-        return word == condacts::kNoWordNumber || (oneIsWild && word == 1);
+    static constexpr bool IsWild(WordNumber word, bool oneIsWild) {
+        return word.value == kNoWord || (oneIsWild && word.value == 1);
     }
 
   private:
-    int FindExact(int from, int verb, int noun) const;
+    int FindExact(int from, WordNumber verb, WordNumber noun) const;
 
     std::vector<ProcessEntry> entries_;
-    /// Verb, noun and place of each entry in one number, sorted; wild words are kNoWordNumber.
+    /// Verb, noun and place of each entry in one number, sorted; wild words are kNoWord.
     std::vector<std::uint64_t> index_;
 };
 

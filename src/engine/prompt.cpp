@@ -1,5 +1,6 @@
 #include "engine/prompt.h"
 
+#include "condacts/limits.h"
 #include "engine/game.h"
 #include "engine/messages.h"
 
@@ -10,14 +11,13 @@ namespace {
 constexpr int kArmedBit = 2;
 constexpr int kFiredBit = 7;
 constexpr int kFired = 128;
-constexpr int kTimeOutUnit = 1280;  ///< ms
 
 /// One of system messages 2 to 5.
-int RandomPrompt(Game& game) {
+SystemMessageNumber RandomPrompt(Game& game) {
     const int chance = game.host.random.UpTo(100);
-    if (chance >= 91) return 5;
-    if (chance >= 61) return 4;
-    return chance >= 31 ? 3 : 2;
+    if (chance >= 91) return message::kLastPrompt;
+    if (chance >= 61) return message::kThirdPrompt;
+    return chance >= 31 ? message::kSecondPrompt : message::kFirstPrompt;
 }
 
 void OpenInput(Game& game) {
@@ -30,8 +30,8 @@ void OpenInput(Game& game) {
 }  // namespace
 
 void ProvidePrompt(Game& game) {
-    const int message = game.Flag(flag::kPrompt);
-    PrintSystemMessage(game, message != 0 ? message : RandomPrompt(game));
+    const SystemMessageNumber chosen(game.Flag(flag::kPrompt));
+    PrintSystemMessage(game, chosen.value != 0 ? chosen : RandomPrompt(game));
     game.printer.NewLine();
     game.command.clear();
     OpenInput(game);
@@ -57,11 +57,12 @@ bool TimeOutIsArmed(const Game& game) {
 
 void StartTimeOut(Game& game) {
     // A game that came by its flags otherwise than by TIME, from a saved state, has no interval yet.
-    const int interval =
-        game.timeOutInterval != 0 ? game.timeOutInterval : game.Flag(flag::kTimeOut) * kTimeOutUnit;
-    if (interval <= 0) return;
+    const std::chrono::milliseconds interval =
+        game.timeOutInterval != 0 ? std::chrono::milliseconds(game.timeOutInterval)
+                                  : game.Flag(flag::kTimeOut) * condacts::limit::kTimeOutUnit;
+    if (interval.count() <= 0) return;
     game.timeOutRunning = true;
-    game.parts.timers.StartTimeOut(std::chrono::milliseconds(interval));
+    game.parts.timers.StartTimeOut(interval);
 }
 
 void StopTimeOut(Game& game) {

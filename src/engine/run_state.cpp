@@ -8,10 +8,9 @@ namespace {
 
 constexpr int kHighestClamped = 999;
 
-std::int16_t Clamped(const char* verb, int flag, int value) {
-    if (value < std::numeric_limits<std::int16_t>::min() ||
-        value > std::numeric_limits<std::int16_t>::max()) {
-        FailRange(std::string(verb) + ": flag " + std::to_string(flag), value);
+std::int16_t Clamped(const char* verb, FlagNumber flag, int value) {
+    if (!condacts::FitsNumber(value)) {
+        FailRange(std::string(verb) + ": flag " + std::to_string(flag.value), value);
     }
     return static_cast<std::int16_t>(std::clamp(value, 0, kHighestClamped));
 }
@@ -35,21 +34,20 @@ std::int16_t* RunState::Slot(int slot) {
     return slots_.data() + stride_ * static_cast<std::size_t>((head_ + slot) % kSlots);
 }
 
-void RunState::Plus(int flag, int value) {
+void RunState::Plus(FlagNumber flag, int value) {
     SetFlag(flag, Clamped("PLUS", flag, Flag(flag) + value));
 }
 
-void RunState::Minus(int flag, int value) {
+void RunState::Minus(FlagNumber flag, int value) {
     SetFlag(flag, Clamped("MINUS", flag, Flag(flag) - value));
 }
 
-void RunState::SetObjectPlace(int object, int place) {
+void RunState::SetObjectPlace(ObjectNumber object, PlaceNumber place) {
     const int index = ObjectIndex(object);
-    if (place < std::numeric_limits<std::int16_t>::min() ||
-        place > std::numeric_limits<std::int16_t>::max()) {
-        FailRange("the place of object " + std::to_string(object), place);
+    if (!condacts::FitsNumber(place.value)) {
+        FailRange("the place of object " + std::to_string(object.value), place.value);
     }
-    now_[index] = static_cast<std::int16_t>(place);
+    now_[index] = static_cast<std::int16_t>(place.value);
 }
 
 void RunState::ShiftHistory() {
@@ -74,8 +72,8 @@ void RunState::RamSave() {
     std::copy_n(now_, stride_, ram_.begin());
 }
 
-void RunState::RamLoad(int lastFlag) {
-    const int kept = std::clamp(lastFlag + 1, 0, flagCount_);
+void RunState::RamLoad(FlagNumber lastFlag) {
+    const int kept = std::clamp(lastFlag.value + 1, 0, flagCount_);
     std::copy_n(ram_.begin(), kept, now_);
     std::copy(ram_.begin() + flagCount_, ram_.end(), now_ + flagCount_);
 }

@@ -2,13 +2,12 @@
 
 #include <array>
 #include <cstdint>
-#include <limits>
 #include <span>
 #include <string>
 #include <vector>
 
-#include "engine/flags.h"
 #include "engine/game_data.h"
+#include "engine/numbers.h"
 #include "engine/run_failure.h"
 
 namespace fabula::engine {
@@ -30,28 +29,29 @@ class RunState {
     int ObjectCount() const { return objectCount_; }
     int LocationCount() const { return locationCount_; }
 
-    int Flag(int flag) const {
-        if (static_cast<unsigned>(flag) >= static_cast<unsigned>(flagCount_)) FailMissing("flag", flag);
-        return now_[flag];
+    bool HasFlag(FlagNumber flag) const { return IsBelow(flag.value, flagCount_); }
+    bool HasObject(ObjectNumber object) const { return IsBelow(object.value, objectCount_); }
+    ObjectNumbers Objects() const { return ObjectNumbers(objectCount_); }
+
+    int Flag(FlagNumber flag) const {
+        if (!HasFlag(flag)) FailMissing("flag", flag.value);
+        return now_[flag.value];
     }
-    void SetFlag(int flag, int value) {
-        if (static_cast<unsigned>(flag) >= static_cast<unsigned>(flagCount_)) FailMissing("flag", flag);
-        if (value < std::numeric_limits<std::int16_t>::min() ||
-            value > std::numeric_limits<std::int16_t>::max()) {
-            FailRange("flag " + std::to_string(flag), value);
-        }
-        now_[flag] = static_cast<std::int16_t>(value);
+    void SetFlag(FlagNumber flag, int value) {
+        if (!HasFlag(flag)) FailMissing("flag", flag.value);
+        if (!condacts::FitsNumber(value)) FailRange("flag " + std::to_string(flag.value), value);
+        now_[flag.value] = static_cast<std::int16_t>(value);
     }
-    bool FlagBitSet(int flag, int bit) const { return BitSet(Flag(flag), bit); }
+    bool FlagBitSet(FlagNumber flag, int bit) const { return BitSet(Flag(flag), bit); }
 
     /// PLUS and MINUS: the result is clamped to 0 to 999 behind the sum, which itself must fit 16 bits.
-    void Plus(int flag, int value);
-    void Minus(int flag, int value);
+    void Plus(FlagNumber flag, int value);
+    void Minus(FlagNumber flag, int value);
 
-    int ObjectPlace(int object) const { return now_[ObjectIndex(object)]; }
-    void SetObjectPlace(int object, int place);
-    int Visited(int location) const { return now_[LocationIndex(location)]; }
-    void SetVisited(int location, int value) {
+    PlaceNumber ObjectPlace(ObjectNumber object) const { return PlaceNumber(now_[ObjectIndex(object)]); }
+    void SetObjectPlace(ObjectNumber object, PlaceNumber place);
+    int Visited(PlaceNumber location) const { return now_[LocationIndex(location)]; }
+    void SetVisited(PlaceNumber location, int value) {
         now_[LocationIndex(location)] = static_cast<std::int16_t>(value);
     }
 
@@ -73,39 +73,39 @@ class RunState {
 
     void RamSave();
     /// Visited marks, object locations and flags 0 to `lastFlag`; the flags above keep their values.
-    void RamLoad(int lastFlag);
+    void RamLoad(FlagNumber lastFlag);
 
     /// A flag that changes by itself, and when and how (auto_flags.h).
     struct AutoFlag {
-        int flag = 0;
+        FlagNumber flag;
         int kind = 0;
     };
     /// All of them, by flag. No part of the history.
     std::vector<AutoFlag> autoFlags;
 
     /// The text of the word behind flags 33 to 47, "Null" for none, and that of the sentence before.
-    static constexpr int kFirstWordFlag = flag::kVerb;
+    static constexpr FlagNumber kFirstWordFlag = flag::kVerb;
     std::array<std::string, 15> wordText;
     std::array<std::string, 15> oldWordText;
-    std::string& WordText(int wordFlag) {
-        return wordText[static_cast<std::size_t>(wordFlag - kFirstWordFlag)];
+    std::string& WordText(FlagNumber wordFlag) {
+        return wordText[static_cast<std::size_t>(wordFlag.value - kFirstWordFlag.value)];
     }
-    const std::string& WordText(int wordFlag) const {
-        return wordText[static_cast<std::size_t>(wordFlag - kFirstWordFlag)];
+    const std::string& WordText(FlagNumber wordFlag) const {
+        return wordText[static_cast<std::size_t>(wordFlag.value - kFirstWordFlag.value)];
     }
 
   private:
     std::int16_t* Slot(int slot);
-    int ObjectIndex(int object) const {
-        if (static_cast<unsigned>(object) >= static_cast<unsigned>(objectCount_))
-            FailMissing("object", object);
-        return flagCount_ + object;
+    static bool IsBelow(int number, int count) {
+        return static_cast<unsigned>(number) < static_cast<unsigned>(count);
     }
-    int LocationIndex(int location) const {
-        if (static_cast<unsigned>(location) >= static_cast<unsigned>(locationCount_)) {
-            FailMissing("location", location);
-        }
-        return flagCount_ + objectCount_ + location;
+    int ObjectIndex(ObjectNumber object) const {
+        if (!HasObject(object)) FailMissing("object", object.value);
+        return flagCount_ + object.value;
+    }
+    int LocationIndex(PlaceNumber location) const {
+        if (!IsBelow(location.value, locationCount_)) FailMissing("location", location.value);
+        return flagCount_ + objectCount_ + location.value;
     }
 
     int flagCount_;

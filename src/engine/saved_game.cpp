@@ -111,7 +111,9 @@ bool ReadSavedGame(const std::filesystem::path& file, const GameData& data, RunS
     }
     for (std::size_t slot = 0; slot < RunState::kSlots; ++slot) {
         const std::vector<std::int16_t>& flags = values[2 * RunState::kSlots + slot];
-        if (!AreMarks(values[slot]) || !data.LocationExists(flags[flag::kLocation])) return false;
+        if (!AreMarks(values[slot]) ||
+            !data.LocationExists(PlaceNumber(flags[static_cast<std::size_t>(flag::kLocation.value)])))
+            return false;
     }
     for (std::size_t i = 0; i < stores.size(); ++i)
         std::copy(values[i].begin(), values[i].end(), stores[i].begin());

@@ -71,7 +71,7 @@ bool PauseFunction(Game& game, int function, int value) {
             return RepeatedTones(game, value);
         case 7:
         case 8:
-            return CharSet(game, value, 0);
+            return CharSet(game, value);
         case 11:
             return Let(game, flag::kPauseFunction, value);
         case 12:
@@ -82,9 +82,9 @@ bool PauseFunction(Game& game, int function, int value) {
         case 15:
             return Minus(game, flag::kMaxObjects, value);
         case 19:
-            return Graphic(game, value, 0);
+            return Graphic(game, value);
         case 21:
-            return value == kRamSaveValue ? RamSave(game, 0, 0) : RamLoad(game, value, 0);
+            return value == kRamSaveValue ? RamSave(game) : RamLoad(game, FlagNumber(value));
         default:
             return true;  // 4, 9, 10, 16, 17, 18 and 20 have no effect here
     }
@@ -92,12 +92,12 @@ bool PauseFunction(Game& game, int function, int value) {
 
 }  // namespace
 
-bool Pause(Game& game, int value, int) {
+bool Pause(Game& game, int value) {
     constexpr int kHighestFunction = 21;
     const int function = game.IsMarlo() ? game.Flag(flag::kPauseFunction) : 0;
     if (function >= 1 && function <= kHighestFunction) {
         PauseFunction(game, function, value);
-        return Clear(game, flag::kPauseFunction, 0);
+        return Clear(game, flag::kPauseFunction);
     }
     game.runner.Wait(PauseLength(value));
     return true;
@@ -109,7 +109,7 @@ bool Beep(Game& game, int duration, int pitch) {
     return true;
 }
 
-bool Sound(Game& game, int voice, int) {
+bool Sound(Game& game, int voice) {
     game.host.sound.SetVoice(voice);
     return true;
 }

@@ -10,14 +10,17 @@ namespace fabula::engine {
 namespace {
 
 struct StoredFlag {
-    int flag;
-    int store;
+    FlagNumber flag;
+    FlagNumber store;
 };
 
 /// The words of the player's own sentence, while PARSE reads what was said.
-constexpr StoredFlag kStoredFlags[] = {{flag::kVerb, 1006},        {flag::kAdverb, 1007},
-                                       {flag::kNoun, 1008},        {flag::kAdjective, 1009},
-                                       {flag::kPronounNoun, 1010}, {flag::kPronounAdjective, 1011}};
+constexpr StoredFlag kStoredFlags[] = {{flag::kVerb, flag::kKeptVerb},
+                                       {flag::kAdverb, flag::kKeptAdverb},
+                                       {flag::kNoun, flag::kKeptNoun},
+                                       {flag::kAdjective, flag::kKeptAdjective},
+                                       {flag::kPronounNoun, flag::kKeptPronounNoun},
+                                       {flag::kPronounAdjective, flag::kKeptPronounAdjective}};
 
 /// Cuts the speech out of the pending line: what stands between the first double quote and the next, or the
 /// end. `begin` is where it stood.
@@ -40,7 +43,7 @@ void TraceSpeech(Game& game) {
 
 }  // namespace
 
-bool Parse(Game& game, int, int) {
+bool Parse(Game& game) {
     for (const StoredFlag& stored : kStoredFlags) {
         if (game.Flag(stored.store) == 0) game.SetFlag(stored.store, game.Flag(stored.flag));
     }

@@ -77,7 +77,7 @@ bool SaveInto(Game& game, const std::filesystem::path& file) {
     } catch (const Error& error) {
         return Fail(game, error.what());
     }
-    Desc(game, 0, 0);
+    Desc(game);
     game.runner.ClearStack("Save");
     return true;
 }
@@ -88,13 +88,13 @@ bool LoadOutOf(Game& game, const std::filesystem::path& file) {
     } catch (const Error& error) {
         return Fail(game, error.what());
     }
-    Desc(game, 0, 0);
+    Desc(game);
     game.runner.ClearStack("Load");
     return true;
 }
 
 struct WordKind {
-    int flag;
+    FlagNumber flag;
     std::string_view typeName;
 };
 
@@ -109,15 +109,15 @@ constexpr WordKind kToldWords[] = {
     {flag::kNoun2, "Noun"},
 };
 
-constexpr int kRepeatedFlags[] = {flag::kVerb,        flag::kNoun,        flag::kAdjective,
-                                  flag::kAdverb,      flag::kPreposition, flag::kNoun2,
-                                  flag::kAdjective2,  flag::kPronounNoun, flag::kPronounAdjective,
-                                  flag::kObject,      flag::kObjectPlace, flag::kObjectWeight,
-                                  flag::kIsContainer, flag::kIsWearable};
+constexpr FlagNumber kRepeatedFlags[] = {flag::kVerb,        flag::kNoun,        flag::kAdjective,
+                                         flag::kAdverb,      flag::kPreposition, flag::kNoun2,
+                                         flag::kAdjective2,  flag::kPronounNoun, flag::kPronounAdjective,
+                                         flag::kObject,      flag::kObjectPlace, flag::kObjectWeight,
+                                         flag::kIsContainer, flag::kIsWearable};
 
 }  // namespace
 
-bool Save(Game& game, int, int) {
+bool Save(Game& game) {
     game.runner.AskForFile(kSaveRequest, SaveInto);
     return true;
 }
@@ -129,17 +129,17 @@ bool RestoreFrom(Game& game, const std::filesystem::path& file) {
     return true;
 }
 
-bool Load(Game& game, int, int) {
+bool Load(Game& game) {
     game.runner.AskForFile(kLoadRequest, LoadOutOf);
     return true;
 }
 
-bool RamSave(Game& game, int, int) {
+bool RamSave(Game& game) {
     game.state.RamSave();
     return true;
 }
 
-bool RamLoad(Game& game, int lastFlag, int) {
+bool RamLoad(Game& game, FlagNumber lastFlag) {
     const SessionFlags session(game);
     game.state.RamLoad(lastFlag);
     session.PutBack(game);
@@ -147,7 +147,7 @@ bool RamLoad(Game& game, int lastFlag, int) {
 }
 
 /// Score and the low turn count survive.
-bool Oops(Game& game, int slot, int) {
+bool Oops(Game& game, int slot) {
     const SessionFlags session(game);
     const int score = game.Flag(flag::kScore);
     const int turn = game.Flag(flag::kTurnLow);
@@ -160,15 +160,15 @@ bool Oops(Game& game, int slot, int) {
     return true;
 }
 
-bool Again(Game& game, int, int) {
+bool Again(Game& game) {
     const auto before = game.state.Flags(1);
-    for (const int flag : kRepeatedFlags)
-        game.SetFlag(flag, before[static_cast<std::size_t>(flag)]);
+    for (const FlagNumber flag : kRepeatedFlags)
+        game.SetFlag(flag, before[static_cast<std::size_t>(flag.value)]);
     game.state.wordText = game.state.oldWordText;
     std::string told = "Re-executing ";
     for (const WordKind& kind : kToldWords) {
         if (game.Flag(kind.flag) == kNoWord) continue;
-        const std::string word = game.texts.WordOf(game.Flag(kind.flag), kind.typeName);
+        const std::string word = game.texts.WordOf(game.Word(kind.flag), kind.typeName);
         if (!word.empty()) told += text::EscapeMarkup(word) + " ";
     }
     game.printer.PrintText(told, false, true);
@@ -176,7 +176,7 @@ bool Again(Game& game, int, int) {
     return true;
 }
 
-bool ScriptAction(Game& game, int value, int) {
+bool ScriptAction(Game& game, int value) {
     Script& script = game.session.script;
     if (value == 0) {
         script.CloseAll();

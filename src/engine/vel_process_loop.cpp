@@ -16,7 +16,7 @@ ProcessLoop::Label ProcessLoop::VelProcessLoop(Label label) {
             return Label::StartProc1;
 
         case Label::StartProc1:
-            StartProcess(1);
+            StartProcess(kDescribed);
             return Label::Proc1;
         case Label::Proc1:
             ClearMatchWordsBit();
@@ -25,7 +25,7 @@ ProcessLoop::Label ProcessLoop::VelProcessLoop(Label label) {
             return TestTable(label, Label::StartProc2, true);
 
         case Label::StartProc2:
-            StartProcess(2);
+            StartProcess(kEachTurn);
             return Label::Proc2;
         case Label::Proc2:
             ClearMatchWordsBit();
@@ -38,7 +38,7 @@ ProcessLoop::Label ProcessLoop::VelProcessLoop(Label label) {
             return ParseSentence();
 
         case Label::StartProc0:
-            StartProcess(0);
+            StartProcess(kResponses);
             return Label::Proc0;
         case Label::Proc0:
             game_.SetFlag(flag::kActed, 0);
@@ -56,7 +56,7 @@ ProcessLoop::Label ProcessLoop::VelProcessLoop(Label label) {
 /// When no action ran the exits are searched.
 ProcessLoop::Label ProcessLoop::VelAnswer() {
     if (game_.Flag(flag::kActed) != 0) return Label::Top;
-    SayNoExit(SearchConnections(game_, game_.Flag(flag::kLocation)));
+    SayNoExit(SearchConnections(game_, game_.Location()));
     return Label::Top;
 }
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "engine/flags.h"
+#include "engine/numbers.h"
 #include "support/game_builder.h"
 
 namespace fabula::test {

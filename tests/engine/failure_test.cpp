@@ -234,9 +234,9 @@ TEST(OldGame, WithoutNumericListsIsCompiledFromTheText) {
     engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
     engine.Initialize();
     engine.EnterLine("DO LAMP");
-    EXPECT_EQ(engine.Running()->Flag(200), 0);
+    EXPECT_EQ(engine.Running()->Flag(engine::FlagNumber(200)), 0);
     engine.EnterLine("DO RED LAMP");
-    EXPECT_EQ(engine.Running()->Flag(200), 7);
+    EXPECT_EQ(engine.Running()->Flag(engine::FlagNumber(200)), 7);
 }
 
 }  // namespace

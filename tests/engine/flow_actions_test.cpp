@@ -85,7 +85,7 @@ TEST(Process, OfANumberAboveTheTopReturnsAtOnce) {
 TEST(DoCondActs, EnteredAtAnEntryPastItsLastDoesNothing) {
     const auto run = GameBuilder().Entry(0, "DO", "_", "SET 200").Start();
     engine::CondActRunner& runner = run->engine.Running()->runner;
-    runner.DoCondActs(0, 1, 4);
+    runner.DoCondActs(engine::kResponses, 1, 4);
     EXPECT_TRUE(runner.Run());
     EXPECT_EQ(run->Flag(200), 0);
 }

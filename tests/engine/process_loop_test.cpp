@@ -198,7 +198,8 @@ TEST(VelProcessLoop, CallsThatNeverCameBackAreUnwoundFromTheLatestOn) {
     const auto run = game.Start();
     run->Type("DO");
     run->Said();
-    run->engine.Running()->runner.callStack = {{6, 0, 6}, {5, 0, 6}};
+    run->engine.Running()->runner.callStack = {{engine::ProcessNumber(6), 0, 6},
+                                               {engine::ProcessNumber(5), 0, 6}};
     EXPECT_EQ(run->Type(""), "p0 upper lower ");
     EXPECT_EQ(run->Flag(201), 0);
     EXPECT_EQ(run->Flag(202), 0);

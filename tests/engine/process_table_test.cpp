@@ -9,12 +9,16 @@ namespace {
 
 constexpr int kMostEntries = 40;
 
+int Find(const ProcessTable& table, int from, int verb, int noun) {
+    return table.FindMatch(from, WordNumber(verb), WordNumber(noun));
+}
+
 /// What FindMatch is told to be: a look at each entry.
 int Scan(const ProcessTable& table, int from, int verb, int noun, bool oneIsWild) {
     const auto wild = [&](int word) { return word == 255 || (word == 1 && oneIsWild); };
     for (int entry = from; entry < table.Count(); ++entry) {
-        const bool verbFits = table[entry].verb == verb || wild(table[entry].verb);
-        const bool nounFits = table[entry].noun == noun || wild(table[entry].noun);
+        const bool verbFits = table[entry].verb.value == verb || wild(table[entry].verb.value);
+        const bool nounFits = table[entry].noun.value == noun || wild(table[entry].noun.value);
         if (verbFits && nounFits) return entry;
     }
     return table.Count();
@@ -25,8 +29,8 @@ ProcessTable RandomTable(std::mt19937& random, bool oneIsWild) {
     ProcessTable table;
     for (auto left = random() % kMostEntries; left > 0; --left) {
         ProcessEntry entry;
-        entry.verb = kWords[random() % std::size(kWords)];
-        entry.noun = kWords[random() % std::size(kWords)];
+        entry.verb = WordNumber(kWords[random() % std::size(kWords)]);
+        entry.noun = WordNumber(kWords[random() % std::size(kWords)]);
         table.Add(entry);
     }
     table.BuildIndex(oneIsWild);
@@ -41,7 +45,7 @@ TEST(ProcessTable, FindsWhatALookAtEachEntryWouldFind) {
         for (const int verb : {255, 1, 2, 100, 101, 0, -1, 32767, -32768, 7}) {
             for (const int noun : {255, 1, 2, 100, 101, 0, -1, 32767, -32768, 7}) {
                 for (int from = 0; from <= table.Count(); ++from) {
-                    ASSERT_EQ(table.FindMatch(from, verb, noun), Scan(table, from, verb, noun, oneIsWild))
+                    ASSERT_EQ(Find(table, from, verb, noun), Scan(table, from, verb, noun, oneIsWild))
                         << "round " << round << ", words " << verb << " " << noun << ", from " << from;
                 }
             }
@@ -54,24 +58,24 @@ TEST(ProcessTable, TakesWildEntriesInTheirPlacesAmongTheOthers) {
     for (const auto& [verb, noun] :
          {std::pair{100, 60}, {255, 60}, {101, 60}, {100, 255}, {255, 255}, {100, 60}}) {
         ProcessEntry entry;
-        entry.verb = static_cast<std::int16_t>(verb);
-        entry.noun = static_cast<std::int16_t>(noun);
+        entry.verb = WordNumber(verb);
+        entry.noun = WordNumber(noun);
         table.Add(entry);
     }
     table.BuildIndex(true);
-    EXPECT_EQ(table.FindMatch(0, 100, 60), 0);
-    EXPECT_EQ(table.FindMatch(1, 100, 60), 1);
-    EXPECT_EQ(table.FindMatch(2, 100, 60), 3);
-    EXPECT_EQ(table.FindMatch(4, 100, 60), 4);
-    EXPECT_EQ(table.FindMatch(5, 100, 60), 5);
-    EXPECT_EQ(table.FindMatch(6, 100, 60), 6);
-    EXPECT_EQ(table.FindMatch(0, 7, 7), 4);
+    EXPECT_EQ(Find(table, 0, 100, 60), 0);
+    EXPECT_EQ(Find(table, 1, 100, 60), 1);
+    EXPECT_EQ(Find(table, 2, 100, 60), 3);
+    EXPECT_EQ(Find(table, 4, 100, 60), 4);
+    EXPECT_EQ(Find(table, 5, 100, 60), 5);
+    EXPECT_EQ(Find(table, 6, 100, 60), 6);
+    EXPECT_EQ(Find(table, 0, 7, 7), 4);
 }
 
 TEST(ProcessTable, WithoutEntriesHasNoMatch) {
     ProcessTable table;
     table.BuildIndex(true);
-    EXPECT_EQ(table.FindMatch(0, 255, 255), 0);
+    EXPECT_EQ(Find(table, 0, 255, 255), 0);
 }
 
 }  // namespace

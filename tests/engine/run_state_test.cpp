@@ -69,21 +69,22 @@ TEST(RunState, IsAHistoryOfElevenCopiesWhateverIsDoneToIt) {
                 model.ram = now;
                 break;
             case 3:
-                state.RamLoad(static_cast<int>(flag));
+                state.RamLoad(engine::FlagNumber(static_cast<int>(flag)));
                 std::copy_n(model.ram.flags.begin(), flag + 1, now.flags.begin());
                 now.objects = model.ram.objects;
                 now.visits = model.ram.visits;
                 break;
             case 4:
-                state.SetObjectPlace(static_cast<int>(slot % 2), value);
+                state.SetObjectPlace(engine::ObjectNumber(static_cast<int>(slot % 2)),
+                                     engine::PlaceNumber(value));
                 now.objects[slot % 2] = value;
                 break;
             case 5:
-                state.SetVisited(static_cast<int>(slot % 3), 1);
+                state.SetVisited(engine::PlaceNumber(static_cast<int>(slot % 3)), 1);
                 now.visits[slot % 3] = 1;
                 break;
             default:
-                state.SetFlag(static_cast<int>(flag), value);
+                state.SetFlag(engine::FlagNumber(static_cast<int>(flag)), value);
                 now.flags[flag] = value;
                 break;
         }
@@ -124,7 +125,9 @@ TEST(RunState, ASlotOutOfRangeIsARunTimeFailure) {
 
 TEST(RunState, AnObjectsPlaceHas16Bits) {
     const auto run = World().Start();
-    EXPECT_THROW(run->engine.Running()->state.SetObjectPlace(0, 40000), engine::RunFailure);
+    EXPECT_THROW(
+        run->engine.Running()->state.SetObjectPlace(engine::ObjectNumber(0), engine::PlaceNumber(40000)),
+        engine::RunFailure);
 }
 
 TEST(TwoGames, SideBySideDoNotNoticeEachOther) {

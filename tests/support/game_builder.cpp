@@ -109,23 +109,23 @@ std::string GameRun::Box() const {
 }
 
 int GameRun::Flag(int flag) {
-    return engine.Running()->Flag(flag);
+    return engine.Running()->Flag(engine::FlagNumber(flag));
 }
 
 void GameRun::SetFlag(int flag, int value) {
-    engine.Running()->SetFlag(flag, value);
+    engine.Running()->SetFlag(engine::FlagNumber(flag), value);
 }
 
 int GameRun::PlaceOf(int object) {
-    return engine.Running()->state.ObjectPlace(object);
+    return engine.Running()->state.ObjectPlace(engine::ObjectNumber(object)).value;
 }
 
 void GameRun::Place(int object, int place) {
-    engine.Running()->state.SetObjectPlace(object, place);
+    engine.Running()->state.SetObjectPlace(engine::ObjectNumber(object), engine::PlaceNumber(place));
 }
 
 bool GameRun::Visited(int location) {
-    return engine.Running()->state.Visited(location) != 0;
+    return engine.Running()->state.Visited(engine::PlaceNumber(location)) != 0;
 }
 
 GameBuilder& GameBuilder::CharacterSets() {
