@@ -101,7 +101,23 @@ desk-messages-dark signal_box dark 2
 desk-location-editor-light lighthouse light 1 Location Home Down Down Down Down Down Down Down Return
 desk-process-editor-dark lighthouse dark 6 Process ctrl+k s w a p Return Down Return ctrl+Home ctrl+Right ctrl+Right ctrl+Right ctrl+Right
 desk-settings-light lighthouse light 5 Settings F4
+desk-picture-editor-light lighthouse light 34 Picture Home Down Down Down Return r e d r a w Return Prior shift+Right
+desk-picture-editor-dark lighthouse dark 34 Picture Home Down Return r e d r a w Return g r i d Return
+desk-character-editor-light cellar light 33 Character Home Down Down Down Down Down Down Down Down Down Return Tab
+desk-character-editor-dark cellar dark 33 Character Home Down Down Down Down Return
+desk-character-table-light cellar light 33 Table Home alt+t c
+desk-character-table-dark cellar dark 33 Table Home alt+t c
 TABLE
+
+# The picture that docs/drawing.md teaches, drawn by its commands.
+if wanted drawing-house; then
+    fabula=build/default/bin/fabula
+    mkdir "$work/drawings"
+    { echo "DEFPAPER 1"; sed -n '/^    INK 4 PLOT/,/ END$/p' docs/drawing.md; } >"$work/drawings/0.draw"
+    "$fabula" new "$work/house.fbd" >/dev/null
+    "$fabula" draw "$work/house.fbd" --add "$work/drawings"
+    "$fabula" draw "$work/house.fbd" 0 "$images/drawing-house.png" --scale 2
+fi
 
 if wanted tutorial; then
     # shellcheck source=scripts/tutorial_pictures.sh

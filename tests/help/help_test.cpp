@@ -204,6 +204,12 @@ const std::map<std::string, std::vector<std::string>> kScreens = {
       "chkcontainer", "chkwearremove", "cmdupdate", "cmdexit"}},
     {"frmvelvocabulary.html", {"txtword", "txtwordnum", "opttype", "cmdupdate", "cmdexit"}},
     {"frmverify.html", {"txtstatus", "cmdok", "cmdprint"}},
+    {"charactereditor.html", {"squares", "commandline", "cmdupdate", "cmdexit"}},
+    {"charactersetfiles.html", {"sets", "cmdexit"}},
+    {"charactertable.html", {"set", "characters", "takefont", "cmdexit"}},
+    {"pictureeditor.html",
+     {"canvas", "commandline", "commands", "drawstring", "status", "saveasroompicture", "roomnumber",
+      "filename", "browse", "importimage", "cmdupdate", "cmdexit"}},
 };
 
 TEST(Screens, HaveAPageWithAnAnchorForEachControl) {

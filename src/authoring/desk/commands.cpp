@@ -14,8 +14,6 @@ constexpr std::string_view kNoBatchImport = "Batch files are written only.";
 constexpr std::string_view kNoBatchExport = "This version cannot yet write batch files.";
 constexpr std::string_view kNoPackage = "This version cannot yet pack a game for others.";
 constexpr std::string_view kNoPrint = "This version cannot yet print.";
-constexpr std::string_view kNoSetFiles =
-    "This version cannot yet load and save character sets and keypad templates.";
 constexpr std::string_view kNoKeyChange = "This version cannot yet repair keys that occur twice.";
 constexpr std::string_view kNoTravelTable = "This version cannot yet read a classic travel table.";
 
@@ -61,9 +59,8 @@ constexpr CommandEntry kCommands[] = {
     {Command::Delete, "Delete", Menu::Edit, 1, "&Delete Entry", "Del", "delete",
      "Delete the current record", Use::ToolBar},
     {Command::Load, "LoadSet", Menu::Edit, 2, "&Load Entry...", "Ctrl+L", "load",
-     "Load records from a file", Use::Menu, kNoSetFiles},
-    {Command::Save, "SaveSet", Menu::Edit, 2, "&Save Entry...", "", "save", "Save records to a file",
-     Use::Menu, kNoSetFiles},
+     "Load records from a file"},
+    {Command::Save, "SaveSet", Menu::Edit, 2, "&Save Entry...", "", "save", "Save records to a file"},
     {Command::Find, "Find", Menu::Edit, 3, "&Find...", "Ctrl+F", "find",
      "Look for a text or a number in a field", Use::ToolBar},
     {Command::FindNext, "FindNext", Menu::Edit, 3, "Find Ne&xt", "F3", "find-next",
@@ -81,6 +78,8 @@ constexpr CommandEntry kCommands[] = {
     {Command::Settings, "Settings", Menu::Game, 2, "Adventure &Settings...", "F4", "settings",
      "Title, type, colours, font and sound of the adventure"},
 
+    {Command::CharacterTable, "CharTable", Menu::Tools, 0, "&Character Table...", "", "characters",
+     "Show all characters of a set, edit one, or take them from a font"},
     {Command::LastRecordKeys, "LstRecs", Menu::Tools, 0, "&Last Record Keys", "", "list",
      "List the highest key of each table"},
     {Command::ShortDescriptions, "ShortDesc", Menu::Tools, 0, "Load &Short Descriptions", "", "text",

@@ -43,6 +43,7 @@ enum class Command {
     Verify,
     Settings,
     // Tools
+    CharacterTable,  ///< a whole character set at a glance
     LastRecordKeys,
     ShortDescriptions,
     KeyChange,

@@ -52,6 +52,10 @@ bool IsFind(Command command) {
     return command == Command::Find || command == Command::FindNext;
 }
 
+bool IsLoadOrSave(Command command) {
+    return command == Command::Load || command == Command::Save;
+}
+
 /// A name in a menu, where "&" marks the next letter.
 std::string ForMenu(const std::string& name) {
     return text::ReplaceAll(name, "&", "&&");
@@ -94,11 +98,11 @@ std::string MainScreen::WhyNot(Command command) const {
     if (command == Command::Undo && !desk_->document.UndoName()) return "There is nothing to undo.";
     if (command == Command::Redo && !desk_->document.RedoName()) return "There is nothing to redo.";
     if (!rights_.Allows(command)) return Caption() + " does not offer this.";
+    if (IsLoadOrSave(command) && grid_.View().table != TableNum::Characters)
+        return "This version cannot yet load pictures and keypad templates.";
     if (IsFind(command) && grid_.View().table == TableNum::Adventure) return "The settings have no Find.";
     const auto entryCommand = EntryCommandOf(command);
     if (!entryCommand) return "";
-    const std::string_view missing = MissingEditor(grid_.View().table, *entryCommand);
-    if (!missing.empty()) return std::string(missing);
     if (NeedsRecord(command) && row_ < 0) return "No record is selected.";
     return "";
 }

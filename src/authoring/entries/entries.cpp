@@ -32,7 +32,8 @@ constexpr EntryTable kEntryTables[] = {
     {TableNum::SystemMessages, "system message", Screen::Text, "system messages", true},
     {TableNum::Flags, "", Screen::Flag, "", false},
     {TableNum::ProcDesc, "process description", Screen::Text, "", true},
-    {TableNum::Pictures, "picture", std::nullopt, "", true},
+    {TableNum::Characters, "character", Screen::Character, "", false},
+    {TableNum::Pictures, "picture", Screen::Picture, "", true},
 };
 
 constexpr int kHighestOfFabula = 999;
@@ -87,6 +88,16 @@ int NextLocation(Adventure& adventure) {
     const int next = FirstGap(adventure, TableNum::Locations);
     if (!condacts::IsSpecialPlace(next)) return next;
     return FirstGap(adventure, TableNum::Locations, condacts::place::kLastSpecial.value + 1);
+}
+
+/// That of the first location without a picture; where all have one, the number behind the highest.
+int NextPicture(Adventure& adventure) {
+    store::PreparedQuery row = adventure.Prepare(TableNum::Locations, "locnum", "locnum>=0", "locnum");
+    for (bool more = row.First({}); more; more = row.Next()) {
+        const int location = static_cast<int>(row.Number(0));
+        if (!Exists(adventure, TableNum::Pictures, location)) return location;
+    }
+    return NumberAfter(HighestKey(adventure, TableNum::Pictures));
 }
 
 /// The number of the records. Where one was deleted from their midst that number may be taken, and the
@@ -227,14 +238,6 @@ bool IsEditableCharacter(int set, int number) {
     return set > 0 || number <= kLastShade || number >= kFirstUserGraphic;
 }
 
-std::string_view MissingEditor(TableNum table, EntryCommand command) {
-    if (table == TableNum::Pictures && (command == EntryCommand::Add || command == EntryCommand::Edit))
-        return "The picture editor is not part of this version.";
-    if (table == TableNum::Characters && command == EntryCommand::Edit)
-        return "The character editor is not part of this version.";
-    return "";
-}
-
 std::optional<ScreenRequest> Entries::AddEntry() {
     const TableNum table = context_.currentTable;
     const EntryTable* entry = FindEntryTable(table);
@@ -253,8 +256,9 @@ std::optional<ScreenRequest> Entries::AddEntry() {
             AddCharacterSet(context_);
             return std::nullopt;
         case TableNum::Pictures:
-            Refuse(context_.dialogs, MissingEditor(table, EntryCommand::Add));
-            return std::nullopt;
+            return ScreenRequest{.screen = Screen::Picture,
+                                 .key = {.key = NextPicture(context_.document.Adventure()), .isNew = true},
+                                 .table = table};
         default:
             return std::nullopt;
     }
@@ -273,10 +277,6 @@ std::optional<ScreenRequest> Entries::EditEntry() {
     const TableNum table = context_.currentTable;
     Adventure& adventure = context_.document.Adventure();
     if (!MayEdit(context_)) return std::nullopt;
-    if (const std::string_view why = MissingEditor(table, EntryCommand::Edit); !why.empty()) {
-        Refuse(context_.dialogs, why);
-        return std::nullopt;
-    }
     const EntryTable* entry = FindEntryTable(table);
     if (entry == nullptr) {
         Refuse(context_.dialogs, std::string(store::FindTable(table)->name) + " cannot be edited");

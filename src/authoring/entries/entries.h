@@ -35,10 +35,6 @@ struct ScreenRequest {
 /// The commands on the entries of a table.
 enum class EntryCommand { Add, AddBefore, Edit, Delete };
 
-/// Why a command on a table is switched off although the table allows it: one sentence, for the editors
-/// that this version does not have. "" for all others.
-std::string_view MissingEditor(store::TableNum table, EntryCommand command);
-
 /// Whether a character may be edited: in set 0 the shades and the user-defined graphics, in the others all.
 bool IsEditableCharacter(int set, int number);
 

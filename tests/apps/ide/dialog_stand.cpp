@@ -16,6 +16,11 @@
 #include "ide/dialogs/sort_dialog.h"
 #include "ide/dialogs/verify_dialog.h"
 #include "ide/dialogs/word_dialog.h"
+#include "ide/drawing/character_dialog.h"
+#include "ide/drawing/character_table_dialog.h"
+#include "ide/drawing/image_import_dialog.h"
+#include "ide/drawing/picture_dialog.h"
+#include "ide/drawing/set_files_dialog.h"
 #include "platform/clock.h"
 #include "platform/settings.h"
 #include "support/places.h"
@@ -85,6 +90,47 @@ Opened OpenProcessEntry(Desk& desk) {
         ide::ProcessEntryDialog dialog;
     };
     return Keep<ide::ProcessEntryDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenPicture(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.context, ScreenKey{.key = 7, .isNew = true}), dialog(screen, settings) {}
+        platform::MemorySettings settings;
+        authoring::PictureEditor screen;
+        ide::PictureDialog dialog;
+    };
+    return Keep<ide::PictureDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenCharacterTable(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.context), dialog(screen, of.dialogs, [](const authoring::ScreenRequest&) {}) {}
+        authoring::CharacterSetScreen screen;
+        ide::CharacterTableDialog dialog;
+    };
+    return Keep<ide::CharacterTableDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenSetFiles(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : screen(of.context, authoring::CharacterSetFiles::Purpose::Save) {
+            screen.Begin();
+            dialog = std::make_unique<ide::SetFilesDialog>(screen, of.dialogs);
+        }
+        authoring::CharacterSetFiles screen;
+        std::unique_ptr<ide::SetFilesDialog> dialog;
+    };
+    auto parts = std::make_shared<Parts>(desk);
+    return {parts, parts->dialog.get()};
+}
+
+Opened OpenImageImport(Desk&) {
+    struct Parts {
+        ide::ImageImportDialog dialog{pictures::Image(60, 40, pictures::MakeColour(90, 120, 30))};
+    };
+    return Keep<ide::ImageImportDialog>(std::make_shared<Parts>());
 }
 
 Opened OpenColors(Desk&) {
@@ -180,6 +226,14 @@ const std::vector<DialogStand>& EveryDialog() {
         {"ProcessEntry", "Process Table Editor", "line", OpenProcessEntry},
         {"Flag", "Flag 60", "type",
          [](Desk& desk) { return OpenRecord<ide::FlagDialog, authoring::FlagScreen>(desk, {.key = 60}); }},
+        {"Picture", "Picture 7", "CommandLine", OpenPicture},
+        {"Character", "Character 144 of Set 0", "Squares",
+         [](Desk& desk) {
+             return OpenRecord<ide::CharacterDialog, authoring::CharacterEditor>(desk, {.key = 144});
+         }},
+        {"CharacterTable", "Character Table", "Characters", OpenCharacterTable},
+        {"SaveSets", "Save Character Set(s)", "Sets", OpenSetFiles},
+        {"ImportImage", "Import Image", "Dithering", OpenImageImport},
         {"Colors", "Set Color for Paper", "colour3", OpenColors},
         {"Sort", "Sort Vocabulary", "field1", OpenSort},
         {"Import", "Import of source file", "source",

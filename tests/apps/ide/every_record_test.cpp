@@ -322,11 +322,12 @@ TEST_P(EveryKind, AWordThatIsThereIsNotEdited) {
     EXPECT_EQ(UndoText(), "&Undo");
 }
 
-TEST_P(EveryKind, APictureHasNoEditorYetAndTheWindowSaysSo) {
+TEST_P(EveryKind, APictureIsAdded) {
     window_.GoToTable("Pictures");
-    EXPECT_FALSE(window_.Action("NewTab").isEnabled());
-    EXPECT_TRUE(
-        window_.Action("NewTab").toolTip().contains("The picture editor is not part of this version."));
+    const int before = window_.RowCount();
+    ASSERT_TRUE(window_.InDialog(Qt::Key_N, Qt::ControlModifier, {}));
+    EXPECT_EQ(window_.RowCount(), before + 1);
+    EXPECT_EQ(UndoText(), "&Undo add picture 0");
 }
 
 TEST_P(EveryKind, TablesOfTheSystemOpenNoEditor) {

@@ -55,10 +55,11 @@ TEST_F(CommandsTest, AreOffAgainWhenTheAdventureIsClosed) {
 TEST_F(CommandsTest, FollowTheTableInTheGrid) {
     OpenNew();
     main->Show({TableNum::Locations});
-    EXPECT_THAT(Enabled(*main),
-                ElementsAre("NewAdv", "Open", "SaveAs", "Close", "In", "Export", "Exit", "NewTab", "Edit",
-                            "Delete", "Find", "FindNext", "Filter", "Run", "Trace", "Verify", "Settings",
-                            "LstRecs", "ShortDesc", "Help", "HelpContents", "AboutAdventure", "About"));
+    EXPECT_THAT(
+        Enabled(*main),
+        ElementsAre("NewAdv", "Open", "SaveAs", "Close", "In", "Export", "Exit", "NewTab", "Edit", "Delete",
+                    "Find", "FindNext", "Filter", "Run", "Trace", "Verify", "Settings", "CharTable",
+                    "LstRecs", "ShortDesc", "Help", "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
     EXPECT_FALSE(IsEnabled(Command::Edit));
@@ -79,12 +80,12 @@ TEST_F(CommandsTest, ThatAreNotBuiltSayWhyNot) {
     }
 }
 
-TEST_F(CommandsTest, OnCharactersAndPicturesWaitForTheirEditors) {
+TEST_F(CommandsTest, OnCharactersEditAndLoadAndSaveSets) {
     OpenNew(AdventureKind::Marlo);
     main->Show({TableNum::Characters});
-    EXPECT_FALSE(IsEnabled(Command::Edit));
-    EXPECT_EQ(StateOf(Command::Edit).why, "The character editor is not part of this version.");
-    EXPECT_TRUE(IsEnabled(Command::Add));
+    for (const Command command : {Command::Edit, Command::Add, Command::Load, Command::Save})
+        EXPECT_TRUE(IsEnabled(command));
+    EXPECT_TRUE(IsEnabled(Command::CharacterTable));
 }
 
 TEST_F(CommandsTest, NeedARecordToEditOrDelete) {

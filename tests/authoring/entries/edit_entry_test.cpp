@@ -83,18 +83,27 @@ TEST(EditEntry, OfAFixedCharacterIsRefused) {
     }
 }
 
-TEST(EditEntry, OfOtherCharactersWaitsForTheirEditor) {
+TEST(EditEntry, OfOtherCharactersOpensTheirEditor) {
     Desk desk;
-    for (const int editable : {0, 15, 144, 164, 1032, 1127}) {
-        EXPECT_FALSE(Edit(desk, TableNum::Characters, editable));
-        EXPECT_EQ(desk.Boxes().back(), "The character editor is not part of this version.");
+    for (const int editable : {0, 15, 144, 164}) {
+        const auto request = Edit(desk, TableNum::Characters, editable);
+        ASSERT_TRUE(request);
+        EXPECT_EQ(request->screen, Screen::Character);
+        EXPECT_EQ(request->key.key, editable);
     }
+    EXPECT_FALSE(Edit(desk, TableNum::Characters, 1032));
+    EXPECT_THAT(desk.Boxes(), IsEmpty());
 }
 
-TEST(EditEntry, OfAPictureWaitsForItsEditor) {
+TEST(EditEntry, OfAPictureOpensItsEditor) {
     Desk desk(AdventureKind::Fabula, true);
+    desk.Clear(TableNum::Pictures);
     EXPECT_FALSE(Edit(desk, TableNum::Pictures, 0));
-    EXPECT_THAT(desk.Boxes(), ElementsAre("The picture editor is not part of this version."));
+    desk.Add(TableNum::Pictures, {{"locnum", std::int64_t{0}}});
+    const auto request = Edit(desk, TableNum::Pictures, 0);
+    ASSERT_TRUE(request);
+    EXPECT_EQ(request->screen, Screen::Picture);
+    EXPECT_FALSE(request->key.isNew);
 }
 
 TEST(EditEntry, OfAnyOtherTableIsRefusedWithItsName) {
@@ -128,23 +137,21 @@ TEST(EditSettings, GoesOnWhenTheyWereNot) {
     EXPECT_THAT(desk.Boxes(), IsEmpty());
 }
 
-TEST(MissingEditor, NamesTheEditorsThatThisVersionLacks) {
-    EXPECT_EQ(MissingEditor(TableNum::Pictures, EntryCommand::Add),
-              "The picture editor is not part of this version.");
-    EXPECT_EQ(MissingEditor(TableNum::Pictures, EntryCommand::Edit),
-              "The picture editor is not part of this version.");
-    EXPECT_EQ(MissingEditor(TableNum::Pictures, EntryCommand::Delete), "");
-    EXPECT_EQ(MissingEditor(TableNum::Characters, EntryCommand::Edit),
-              "The character editor is not part of this version.");
-    EXPECT_EQ(MissingEditor(TableNum::Characters, EntryCommand::Add), "");
-    EXPECT_EQ(MissingEditor(TableNum::Messages, EntryCommand::Edit), "");
-}
-
-TEST(AddPicture, WaitsForItsEditor) {
+TEST(AddPicture, OpensTheEditorForTheFirstLocationWithoutAPicture) {
     Desk desk(AdventureKind::Fabula, true);
+    desk.Clear(TableNum::Locations);
+    desk.Clear(TableNum::Pictures);
+    for (const std::int64_t number : {0, 1, 5})
+        desk.Add(TableNum::Locations, {{"locnum", number}});
     desk.context.currentTable = TableNum::Pictures;
-    EXPECT_FALSE(Entries(desk.context).AddEntry());
-    EXPECT_THAT(desk.Boxes(), ElementsAre("The picture editor is not part of this version."));
+    for (const int wanted : {0, 1, 5, 6}) {
+        const auto request = Entries(desk.context).AddEntry();
+        ASSERT_TRUE(request);
+        EXPECT_EQ(request->screen, Screen::Picture);
+        EXPECT_TRUE(request->key.isNew);
+        EXPECT_EQ(request->key.key, wanted);
+        desk.Add(TableNum::Pictures, {{"locnum", std::int64_t{wanted}}});
+    }
 }
 
 TEST(AddEntry, ToATableThatTakesNoneDoesNothing) {

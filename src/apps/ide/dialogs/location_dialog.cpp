@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "ide/editors/picture_view.h"
+#include "ide/editors/record_picture.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -157,6 +158,7 @@ void LocationDialog::AddPicture() {
     auto* clear = NewButton("&No picture", "clearPicture");
     picture_->setReadOnly(true);
     AddControl("&Picture:", picture_, "picture");
+    ShowDrawing();
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(kGap);
     buttons->addWidget(choose);
@@ -181,11 +183,18 @@ void LocationDialog::AddPicture() {
     });
 }
 
+/// A location without an image of its own shows what is drawn for it.
+void LocationDialog::ShowDrawing() {
+    if (!screen_.picture.empty() || !screen_.Adventure().GraphicsOn()) return;
+    pictureView_->Show(DrawnPicture(screen_.Adventure(), screen_.Key().key));
+}
+
 void LocationDialog::ShowPicture() {
     // Each check shows the fields again; a picture is read when it is another one.
     if (picture_->text() == qt::ToQt(screen_.picture)) return;
     picture_->setText(qt::ToQt(screen_.picture));
     pictureView_->Show(screen_.Adventure().GameDir(), screen_.picture);
+    ShowDrawing();
 }
 
 void LocationDialog::AddNeighbours() {

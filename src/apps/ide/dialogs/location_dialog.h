@@ -29,6 +29,7 @@ class LocationDialog final : public RecordDialog {
     void AddNeighbours();
     void ReadRows();
     void ShowPicture();
+    void ShowDrawing();
     void ShowRows();
     void RemoveRow();
     void AddExit();

@@ -18,8 +18,8 @@ struct SoundTest {
     std::function<std::vector<std::string>()> devices;  ///< the names of the system's MIDI devices
 };
 
-/// Shows the dialog of a screen until the author leaves it. What was stored is in the adventure then.
-/// Throws fabula::Error when the record can't be read.
+/// Shows the dialog of a screen, but for pictures and characters, until the author leaves it. What was
+/// stored is in the adventure then. Throws fabula::Error when the record can't be read.
 void OpenScreen(const authoring::ScreenRequest& request, authoring::ScreenContext& context,
                 const SoundTest& sound, QWidget* parent);
 

@@ -30,6 +30,13 @@ void PictureView::Show(const std::filesystem::path& gameFolder, std::string_view
     if (found.fault == store::GamePath::Fault::Missing) return setText(tr("The file is missing."));
     const QImage image = qt::ReadImage(found.file);
     if (image.isNull()) return setText(tr("The file holds no picture that can be shown."));
+    Show(image);
+}
+
+void PictureView::Show(const QImage& image) {
+    clear();
+    setVisible(!image.isNull());
+    if (image.isNull()) return;
     const QSize most(kWidestLines * fontMetrics().lineSpacing(),
                      kHighestLines * fontMetrics().lineSpacing());
     const double density = devicePixelRatioF();

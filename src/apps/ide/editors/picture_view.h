@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QLabel>
 #include <filesystem>
 #include <string_view>
@@ -14,6 +15,8 @@ class PictureView final : public QLabel {
 
     /// `stored` is the path as the record holds it; "" for none.
     void Show(const std::filesystem::path& gameFolder, std::string_view stored);
+    /// An image that is at hand; a null one for none.
+    void Show(const QImage& image);
 };
 
 }  // namespace fabula::ide

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "authoring/desk/main_screen.h"
+#include "authoring/drawing/character_set_files.h"
 #include "authoring/jobs/interchange_screen.h"
 #include "authoring/jobs/verify_screen.h"
 #include "engine/sound_player.h"
@@ -89,6 +90,7 @@ class MainWindow final : public QMainWindow {
 
     void ShowChanges();
     void ShowRow();
+    void ShowPicture();
     void ShowActions();
     void ShowStatus();
     void ShowTables();
@@ -100,6 +102,9 @@ class MainWindow final : public QMainWindow {
     void Open(const std::filesystem::path& file);
     void OpenExample(const Example& example);
     void DoInLogic(authoring::Command command);
+    void Open(const authoring::ScreenRequest& request);
+    void ShowCharacterTable();
+    void LoadOrSaveSets(authoring::CharacterSetFiles::Purpose purpose);
     void FindOrAsk(authoring::Command command);
     void Sort();
     void Verify();

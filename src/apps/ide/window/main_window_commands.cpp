@@ -3,11 +3,15 @@
 #include <QLineEdit>
 #include <QTableView>
 
+#include "authoring/drawing/character_set_screen.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/dialogs/screens.h"
 #include "ide/dialogs/setup_dialog.h"
 #include "ide/dialogs/sort_dialog.h"
 #include "ide/dialogs/verify_dialog.h"
+#include "ide/drawing/character_table_dialog.h"
+#include "ide/drawing/drawing_screens.h"
+#include "ide/drawing/set_files_dialog.h"
 #include "ide/window/find_bar.h"
 #include "ide/window/game_test.h"
 #include "ide/window/job_events.h"
@@ -42,6 +46,12 @@ void MainWindow::Do(Command command) {
             return Sort();
         case Command::Verify:
             return Verify();
+        case Command::CharacterTable:
+            return ShowCharacterTable();
+        case Command::Load:
+            return LoadOrSaveSets(authoring::CharacterSetFiles::Purpose::Load);
+        case Command::Save:
+            return LoadOrSaveSets(authoring::CharacterSetFiles::Purpose::Save);
         case Command::Filter:
             return records_->FilterLine().setFocus();
         case Command::Find:
@@ -62,17 +72,48 @@ void MainWindow::Do(Command command) {
 
 void MainWindow::DoInLogic(Command command) {
     const auto request = ide_.Run(command);
-    if (request) {
-        try {
-            OpenScreen(*request, ide_.CurrentContext(), {services_.sound, services_.soundDevices}, this);
-        } catch (const Error& error) {
-            services_.dialogs.Tell(error.what(), "Error");
-        }
-        ide_.ScreenClosed(*request);
-    }
+    if (request) Open(*request);
     ShowChanges();
     // The new record is the one to go on with.
     if (request && request->key.isNew) records_->Grid().setFocus();
+}
+
+void MainWindow::Open(const authoring::ScreenRequest& request) {
+    try {
+        authoring::ScreenContext& context = ide_.CurrentContext();
+        if (!OpenDrawingScreen(request, context, services_.settings, this))
+            OpenScreen(request, context, {services_.sound, services_.soundDevices}, this);
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+    ide_.ScreenClosed(request);
+}
+
+void MainWindow::ShowCharacterTable() {
+    authoring::CharacterSetScreen screen(ide_.CurrentContext());
+    CharacterTableDialog dialog(
+        screen, services_.dialogs, [this](const authoring::ScreenRequest& request) { Open(request); },
+        this);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.exec();
+    ide_.Refresh();
+    ShowChanges();
+}
+
+/// A load goes into the set of the row that is current.
+void MainWindow::LoadOrSaveSets(authoring::CharacterSetFiles::Purpose purpose) {
+    authoring::CharacterSetFiles screen(ide_.CurrentContext(), purpose,
+                                        authoring::CharacterSetScreen(ide_.CurrentContext()).Set());
+    try {
+        if (!screen.Begin()) return;
+    } catch (const Error& error) {
+        return services_.dialogs.Tell(error.what(), "Error");
+    }
+    SetFilesDialog dialog(screen, services_.dialogs, this);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.exec();
+    ide_.Refresh();
+    ShowChanges();
 }
 
 void MainWindow::FindOrAsk(Command command) {

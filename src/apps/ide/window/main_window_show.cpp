@@ -11,6 +11,8 @@
 #include <QTableView>
 
 #include "ide/editors/help_pages.h"
+#include "ide/editors/picture_view.h"
+#include "ide/editors/record_picture.h"
 #include "ide/window/command_actions.h"
 #include "ide/window/empty_page.h"
 #include "ide/window/find_bar.h"
@@ -70,7 +72,16 @@ void MainWindow::ShowRow() {
     if (qt::HelpBook(places_.help).FileOf(topic.page).empty()) topic.page = HelpPageOf(ide_.Grid().View());
     records_->setProperty(qt::kHelpPage, topic.page);
     records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
+    ShowPicture();
     ShowActions();
+}
+
+void MainWindow::ShowPicture() {
+    const bool shown = ide_.GetState() == authoring::MainScreen::State::Open && ide_.CurrentRow() >= 0;
+    records_->Picture().Show(shown ? PictureOfRecord(ide_.CurrentContext().document.Adventure(),
+                                                     ide_.Grid().View().table,
+                                                     ide_.Grid().KeyOf(ide_.CurrentRow()))
+                                   : QImage());
 }
 
 void MainWindow::ShowActions() {

@@ -9,6 +9,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "ide/editors/picture_view.h"
 #include "ide/window/cell_delegate.h"
 #include "ide/window/grid_model.h"
 #include "ide/window/pane_focus.h"
@@ -48,7 +49,8 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
       model_(new GridModel(grid, this)),
       view_(new RowsView),
       filter_(new QLineEdit),
-      count_(new QLabel) {
+      count_(new QLabel),
+      picture_(new PictureView) {
     filter_->setObjectName("FilterLine");
     filter_->setAccessibleName(tr("Filter rows"));
     filter_->setPlaceholderText(tr("Filter rows"));
@@ -68,6 +70,8 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
     column->setSpacing(0);
     column->addLayout(line);
     column->addWidget(view_, 1);
+    column->addWidget(picture_);
+    picture_->setMargin(8);
     Connect();
 }
 

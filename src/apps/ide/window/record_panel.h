@@ -15,6 +15,7 @@ class QTableView;
 namespace fabula::ide {
 
 class GridModel;
+class PictureView;
 
 /// What happens in the panel of records.
 struct RecordEvents {
@@ -45,6 +46,8 @@ class RecordPanel final : public QWidget {
 
     QTableView& Grid() { return *view_; }
     QLineEdit& FilterLine() { return *filter_; }
+    /// The picture of the chosen row, below the rows, as far as there is one.
+    PictureView& Picture() { return *picture_; }
 
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -71,6 +74,7 @@ class RecordPanel final : public QWidget {
     QTableView* view_;
     QLineEdit* filter_;
     QLabel* count_;
+    PictureView* picture_;
 };
 
 }  // namespace fabula::ide

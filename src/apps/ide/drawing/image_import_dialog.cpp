@@ -1,0 +1,85 @@
+#include "ide/drawing/image_import_dialog.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "pictures/drawstring.h"
+#include "pictures/image_reader.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr const char* kFilter = "Images(png,bmp,jpg)|*.png;*.bmp;*.jpg;*.jpeg|All Files|*.*";
+constexpr int kPreviewScale = 2;
+
+QPixmap PixmapOf(const pictures::Image& image) {
+    QImage pixels(image.width, image.height, QImage::Format_RGB32);
+    for (int y = 0; y < image.height; ++y) {
+        for (int x = 0; x < image.width; ++x)
+            pixels.setPixel(x, y, 0xFF000000U | static_cast<QRgb>(image.At(x, y)));
+    }
+    return QPixmap::fromImage(pixels.scaled(pixels.size() * kPreviewScale));
+}
+
+}  // namespace
+
+ImageImportDialog::ImageImportDialog(pictures::Image image, QWidget* parent)
+    : QDialog(parent),
+      image_(std::move(image)),
+      preview_(new QLabel),
+      size_(new QLabel),
+      dithering_(new QCheckBox(tr("&Mix colours that the palette lacks"))),
+      asDrawstring_(new QCheckBox(tr("Make a &drawstring that draws it"))) {
+    setWindowTitle(tr("Import Image"));
+    setProperty("helpPage", "pictureeditor.html");
+    preview_->setObjectName("Preview");
+    preview_->setAccessibleName(tr("The picture that the image becomes"));
+    size_->setObjectName("DrawstringSize");
+    dithering_->setObjectName("Dithering");
+    asDrawstring_->setObjectName("AsDrawstring");
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    for (QCheckBox* box : {dithering_, asDrawstring_})
+        connect(box, &QCheckBox::toggled, this, [this] { Fit(); });
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(preview_, 1, Qt::AlignCenter);
+    layout->addWidget(dithering_);
+    layout->addWidget(asDrawstring_);
+    layout->addWidget(size_);
+    layout->addWidget(buttons);
+    Fit();
+}
+
+void ImageImportDialog::Fit() {
+    const bool mixed = dithering_->isChecked();
+    chosen_ = {FitToCells(image_, mixed ? pictures::Dithering::On : pictures::Dithering::Off),
+               asDrawstring_->isChecked()};
+    preview_->setPixmap(PixmapOf(chosen_.image.ToImage()));
+    const std::string text = DrawstringOf(chosen_.image, 7);
+    const auto isWord = [](const std::string& word) { return !pictures::ParameterValue(word); };
+    const auto words = pictures::DrawstringWords(text);
+    size_->setText(tr("The drawstring would have %1 commands.")
+                       .arg(std::count_if(words.begin(), words.end(), isWord)));
+}
+
+std::optional<ImportedImage> AskImage(platform::Dialogs& dialogs, const std::filesystem::path& folder,
+                                      QWidget* parent) {
+    platform::FileQuestion question;
+    question.title = "Import Image";
+    question.filter = kFilter;
+    question.start = folder;
+    const auto file = dialogs.ChooseFile(question);
+    if (!file) return std::nullopt;
+    ImageImportDialog dialog(pictures::ReadImage(*file), parent);
+    dialog.setWindowModality(Qt::WindowModal);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.Chosen();
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDialog>
+#include <filesystem>
+#include <optional>
+
+#include "pictures/cell_image.h"
+#include "platform/dialogs.h"
+
+class QCheckBox;
+class QLabel;
+
+namespace fabula::ide {
+
+/// An image that was made a picture of, and how the picture takes it.
+struct ImportedImage {
+    pictures::CellImage image;
+    bool asDrawstring = false;
+};
+
+/// Shows what a picture made of an image looks like, with and without dithering, before it is taken.
+class ImageImportDialog final : public QDialog {
+  public:
+    explicit ImageImportDialog(pictures::Image image, QWidget* parent = nullptr);
+
+    const ImportedImage& Chosen() const { return chosen_; }
+
+  private:
+    void Fit();
+
+    pictures::Image image_;
+    ImportedImage chosen_;
+    QLabel* preview_;
+    QLabel* size_;
+    QCheckBox* dithering_;
+    QCheckBox* asDrawstring_;
+};
+
+/// Asks for an image file and shows the dialog; nullopt when the author would rather not. Throws
+/// fabula::Error when the file can't be read.
+std::optional<ImportedImage> AskImage(platform::Dialogs& dialogs, const std::filesystem::path& folder,
+                                      QWidget* parent);
+
+}  // namespace fabula::ide

@@ -1,0 +1,60 @@
+#include "ide/drawing/set_files_dialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "ide/editors/edit_controls.h"
+#include "platform/error.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+
+using authoring::CharacterSetFiles;
+
+SetFilesDialog::SetFilesDialog(CharacterSetFiles& screen, platform::Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent), screen_(screen), dialogs_(dialogs), sets_(new QListWidget) {
+    setWindowTitle(qt::ToQt(screen.Title()));
+    setProperty("helpPage", "charactersetfiles.html");
+    sets_->setObjectName("Sets");
+    sets_->setAccessibleName(qt::ToQt(screen.Label()));
+    const bool several = screen.GetPurpose() == CharacterSetFiles::Purpose::Save;
+    sets_->setSelectionMode(several ? QAbstractItemView::ExtendedSelection
+                                    : QAbstractItemView::SingleSelection);
+    for (const std::string& line : screen.Lines())
+        sets_->addItem(qt::ToQt(line));
+    auto* label = new QLabel(qt::ToQt(screen.Label()));
+    auto* run = new QPushButton(qt::ToQt(screen.Button()));
+    run->setObjectName("Run");
+    run->setDefault(true);
+    auto* exit = NewButton(tr("Exit"), "exit");
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(run);
+    buttons->addWidget(exit);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 16);
+    layout->addWidget(label);
+    layout->addWidget(sets_, 1);
+    layout->addLayout(buttons);
+    connect(run, &QPushButton::clicked, this, [this] { Run(); });
+    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    sets_->setFocus();
+}
+
+void SetFilesDialog::Run() {
+    screen_.selected.clear();
+    for (const QListWidgetItem* item : sets_->selectedItems())
+        screen_.selected.push_back(static_cast<std::size_t>(sets_->row(item)));
+    std::ranges::sort(screen_.selected);
+    try {
+        if (screen_.Run()) accept();
+    } catch (const Error& error) {
+        dialogs_.Tell(error.what(), "Error");
+    }
+}
+
+}  // namespace fabula::ide

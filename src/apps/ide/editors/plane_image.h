@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+
+#include "pictures/canvas.h"
+#include "pictures/glyph.h"
+
+namespace fabula::ide {
+
+/// A plane as an image.
+QImage ImageOfPlane(const pictures::Plane& plane);
+/// A character in two colours, every pixel `scale` wide.
+QImage ImageOfGlyph(const pictures::Glyph& glyph, QColor ink, QColor paper, int scale);
+QColor ColorOf(pictures::Colour colour);
+
+}  // namespace fabula::ide
