@@ -1,7 +1,5 @@
 #include "pictures/image_reader.h"
 
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,6 +9,7 @@
 
 #include "pictures/bmp_reader.h"
 #include "platform/error.h"
+#include "platform/whole_file.h"
 
 namespace fabula::pictures {
 namespace {
@@ -85,15 +84,8 @@ Image DecodeImage(std::string_view bytes, std::string_view fileName) {
 }
 
 Image ReadImage(const std::filesystem::path& file) {
-    const std::string doing = "Could not read the image " + file.string();
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(file, error)) throw Error(doing + ": it is no file.");
-    const std::uintmax_t size = std::filesystem::file_size(file, error);
-    if (error) throw Error(doing + ": " + error.message() + ".");
-    if (size > kLargestImageFile) throw Error(doing + ": it is too large.");
-    std::ifstream stream(file, std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(stream), {});
-    if (!stream) throw Error(doing + ".");
+    const std::string bytes =
+        platform::ReadWholeFile(file, kLargestImageFile, "read the image " + file.string());
     return DecodeImage(bytes, file.string());
 }
 

@@ -109,7 +109,7 @@ TEST(ReadImage, NamesTheFileThatIsMissing) {
         ReadImage("/nowhere/at.png");
         FAIL();
     } catch (const Error& error) {
-        EXPECT_STREQ(error.what(), "Could not read the image /nowhere/at.png: it is no file.");
+        EXPECT_STREQ(error.what(), "Could not read the image /nowhere/at.png: there is no such file.");
     }
 }
 

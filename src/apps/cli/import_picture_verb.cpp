@@ -1,7 +1,11 @@
+#include <optional>
+
 #include "cli/console.h"
 #include "cli/verbs.h"
+#include "condacts/numbers.h"
 #include "interchange/unmarlo/picture_import.h"
 #include "text/fields.h"
+#include "text/numbers.h"
 
 namespace fabula::cli {
 namespace {
@@ -20,16 +24,10 @@ interchange::NewLocations PlacesIn(const std::vector<std::string>& options) {
     interchange::NewLocations places;
     for (const std::string& option : options) {
         const auto pieces = text::Split(option, "=");
-        std::size_t read = 0;
-        int number = -1;
-        try {
-            number = std::stoi(std::string(pieces[0]), &read);
-        } catch (const std::logic_error&) {
-            read = 0;
-        }
-        if (pieces.size() != 2 || read == 0 || read != pieces[0].size())
+        const std::optional<std::int64_t> number = text::WholeNumber(pieces[0]);
+        if (pieces.size() != 2 || !number || !condacts::FitsNumber(*number))
             throw UsageError("--goes-to takes the number in the listing and that in the game: 3=12");
-        places[number] = pieces[1];
+        places[static_cast<int>(*number)] = pieces[1];
     }
     return places;
 }

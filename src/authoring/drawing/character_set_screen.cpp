@@ -1,12 +1,10 @@
 #include "authoring/drawing/character_set_screen.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 #include "pictures/bdf_font.h"
 #include "pictures/book_loader.h"
-#include "platform/error.h"
+#include "platform/whole_file.h"
 
 namespace fabula::authoring {
 
@@ -18,18 +16,6 @@ constexpr int kCharactersOfASet = 1000;
 constexpr std::uintmax_t kLargestFont = 16 * 1024 * 1024;
 
 }  // namespace
-
-std::string ReadWholeFile(const std::filesystem::path& file, std::uintmax_t largest) {
-    const std::string doing = "Could not read " + file.string();
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(file, error);
-    if (error) throw Error(doing + ": " + error.message() + ".");
-    if (size > largest) throw Error(doing + ": it is too large.");
-    std::ifstream stream(file, std::ios::binary);
-    std::string bytes(std::istreambuf_iterator<char>(stream), {});
-    if (!stream) throw Error(doing + ".");
-    return bytes;
-}
 
 CharacterSetScreen::CharacterSetScreen(ScreenContext& context) : context_(context) {
     if (context.currentTable == TableNum::Characters) set_ = context.currentEntry / kCharactersOfASet;
@@ -94,7 +80,8 @@ bool CharacterSetScreen::TakeFont() {
     question.start = context_.document.Adventure().GameDir();
     const auto file = context_.dialogs.ChooseFile(question);
     if (!file) return false;
-    const auto font = pictures::ReadBdfFont(ReadWholeFile(*file, kLargestFont), file->filename().string());
+    const auto font = pictures::ReadBdfFont(
+        platform::ReadWholeFile(*file, kLargestFont, "read " + file->string()), file->filename().string());
     Change change(context_.document, "take a font for character set " + std::to_string(set_));
     store::Cursor& records = context_.document.Adventure().OpenTable(TableNum::Characters, "def",
                                                                      "charsetnum=" + std::to_string(set_));

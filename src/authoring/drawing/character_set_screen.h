@@ -53,7 +53,4 @@ class CharacterSetScreen {
     int paper_ = 7;
 };
 
-/// A file of at most `largest` bytes. Throws fabula::Error when it is larger or can't be read.
-std::string ReadWholeFile(const std::filesystem::path& file, std::uintmax_t largest);
-
 }  // namespace fabula::authoring

@@ -1,9 +1,9 @@
 #include "authoring/fields/picture_choice.h"
 
 #include <filesystem>
-#include <fstream>
 
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "store/cursor.h"
 #include "store/file_copy.h"
 #include "store/game_path.h"
@@ -19,22 +19,6 @@ constexpr const char* kFilter = "Picture Files(jpg,gif,bmp)|*.jpg;*.gif;*.bmp|Al
 fs::path StartOf(const fs::path& folder, std::string_view current) {
     const store::GamePath found = store::FindGameFile(folder, current);
     return found.fault == store::GamePath::Fault::None ? found.file : folder;
-}
-
-std::string Contents(const fs::path& file) {
-    const std::string doing = "Could not copy " + file.string();
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw Error(doing + ".");
-    std::string bytes;
-    char buffer[65536];
-    while (stream.read(buffer, sizeof buffer) || stream.gcount() > 0) {
-        bytes.append(buffer, static_cast<std::size_t>(stream.gcount()));
-        if (static_cast<std::int64_t>(bytes.size()) > store::kLargestBinary) {
-            throw Error(doing + ": it is too large.");
-        }
-    }
-    if (stream.bad()) throw Error(doing + ".");
-    return bytes;
 }
 
 /// Copies a picture from elsewhere to where the author says.
@@ -56,7 +40,8 @@ std::optional<std::string> CopyIntoGame(ScreenContext& context, const fs::path& 
         Refuse(context.dialogs, "You changed the parent directory again. Command aborted.");
         return std::nullopt;
     }
-    store::WriteFile(*copy, Contents(picture));
+    store::WriteFile(*copy,
+                     platform::ReadWholeFile(picture, store::kLargestBinary, "copy " + picture.string()));
     return stored;
 }
 

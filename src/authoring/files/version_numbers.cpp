@@ -6,6 +6,8 @@
 #include <sstream>
 #include <system_error>
 
+#include "platform/error.h"
+#include "platform/whole_file.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -31,14 +33,13 @@ const ProgramRow& RowOf(Program program) {
     return kPrograms[static_cast<std::size_t>(program)];
 }
 
+/// What can't be looked at lists nothing.
 std::string ReadStart(const path& file) {
-    std::error_code missing;  // what can't be looked at lists nothing
-    if (!std::filesystem::is_regular_file(file, missing)) return {};
-    std::ifstream stream(file, std::ios::binary);
-    std::string content(kLargestVersionFile, '\0');
-    stream.read(content.data(), static_cast<std::streamsize>(content.size()));
-    content.resize(static_cast<std::size_t>(stream.gcount()));
-    return content;
+    try {
+        return platform::ReadStartOfFile(file, kLargestVersionFile, "read " + file.string());
+    } catch (const Error&) {
+        return {};
+    }
 }
 
 bool Lists(const std::string& content, std::string_view name, std::string_view version) {
