@@ -14,8 +14,8 @@
 #include "store/create.h"
 #include "text/utf8.h"
 
-// The life of the window and of the adventure in it. What it shows is in frm_vel_ide_views.cpp, what it
-// does on command in frm_vel_ide_commands.cpp.
+// The life of the window and of the adventure in it. What it shows is in main_screen_views.cpp, what it
+// does on command in main_screen_commands.cpp.
 
 namespace fabula::authoring {
 namespace {
