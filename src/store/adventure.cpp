@@ -89,11 +89,11 @@ void Adventure::ForbidChanges() {
     connection_->Run("PRAGMA query_only=ON", "open the adventure");
 }
 
-std::unique_ptr<Adventure> Adventure::OpenForChange(const std::filesystem::path& file) {
+std::unique_ptr<Adventure> Adventure::OpenForChange(const std::filesystem::path& file, Ages ages) {
     CheckCanBeWritten(file);
     auto lock = ChangeLock::Take(file);
     if (!lock) Refuse(Refusal::OpenForChange, file);
-    auto adventure = Open(file);
+    auto adventure = Open(file, OpenMode::ReadWrite, ages);
     adventure->lock_ = std::move(lock);
     return adventure;
 }

@@ -88,7 +88,8 @@ class Adventure {
     /// Opens a file to be worked on: it is marked as open for change as long as this lives, so that a
     /// second opening for change is refused (OpenForChange), and so is a file or folder that can only be
     /// read (CannotBeWritten).
-    static std::unique_ptr<Adventure> OpenForChange(const std::filesystem::path& file);
+    static std::unique_ptr<Adventure> OpenForChange(const std::filesystem::path& file,
+                                                    Ages ages = Ages::Current);
 
     Adventure(const Adventure&) = delete;
     Adventure& operator=(const Adventure&) = delete;

@@ -114,7 +114,11 @@ void NumberFile(Adventure& adventure) {
 
 std::unique_ptr<Adventure> OpenUpgraded(const std::filesystem::path& file,
                                         const std::filesystem::path& defaultData, UpgradeHost& host) {
-    auto adventure = Adventure::Open(file, OpenMode::ReadWrite, Ages::Any);
+    return Upgraded(Adventure::Open(file, OpenMode::ReadWrite, Ages::Any), defaultData, host);
+}
+
+std::unique_ptr<Adventure> Upgraded(std::unique_ptr<Adventure> adventure,
+                                    const std::filesystem::path& defaultData, UpgradeHost& host) {
     Defaults defaults(defaultData);
     Work work(*adventure, defaults);
     const Need need = NeedOf(work);

@@ -47,6 +47,10 @@ class UpgradeHost {
 std::unique_ptr<store::Adventure> OpenUpgraded(const std::filesystem::path& file,
                                                const std::filesystem::path& defaultData, UpgradeHost& host);
 
+/// The same for an adventure that was opened for writing, as one of any age.
+std::unique_ptr<store::Adventure> Upgraded(std::unique_ptr<store::Adventure> adventure,
+                                           const std::filesystem::path& defaultData, UpgradeHost& host);
+
 /// Opens an adventure for reading. One that needs an upgrade is upgraded in memory, after `tell` was given
 /// one sentence about it; its file stays as it is. Without default data (an empty path) only files of the
 /// present form can be opened.

@@ -111,7 +111,7 @@ TEST_F(Jobs, AnImportedExportFileKeepsItsOwnSettings) {
     EXPECT_EQ(settings.Text("source"), "FabulaExp");
     EXPECT_EQ(settings.Text("savename"), "cellar");
     EXPECT_EQ(settings.Number("backcolor"), 3);
-    EXPECT_FALSE(adventure->OpenTable(TableNum::System, "def").Truth("flagchange"));
+    EXPECT_TRUE(adventure->OpenTable(TableNum::System, "def").Truth("flagchange"));
 }
 
 TEST_F(Jobs, AFailedImportLeavesNothing) {

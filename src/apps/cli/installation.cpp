@@ -5,12 +5,16 @@
 
 namespace fabula::cli {
 
-std::filesystem::path DefaultDataFile() {
+std::filesystem::path FindDefaultData() {
     const auto folders =
         platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());
-    const auto file = platform::FindFile(folders, "Fabula.ini");
-    if (!file) throw Error("Could not find the default data, Fabula.ini.");
-    return *file;
+    return platform::FindFile(folders, "Fabula.ini").value_or(std::filesystem::path());
+}
+
+std::filesystem::path DefaultDataFile() {
+    auto file = FindDefaultData();
+    if (file.empty()) throw Error("Could not find the default data, Fabula.ini.");
+    return file;
 }
 
 }  // namespace fabula::cli

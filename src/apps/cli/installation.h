@@ -4,8 +4,9 @@
 
 namespace fabula::cli {
 
-/// The file of default data, beside the program or in one of the data folders.
-/// Throws fabula::Error when it is nowhere.
+/// The file of default data, beside the program or in one of the data folders; empty when it is nowhere.
+std::filesystem::path FindDefaultData();
+/// The same; throws fabula::Error when it is nowhere.
 std::filesystem::path DefaultDataFile();
 
 }  // namespace fabula::cli

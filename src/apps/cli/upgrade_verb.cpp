@@ -16,8 +16,7 @@ struct Options {
 
 int Upgrade(const Options& options) {
     if (!options.check) {
-        UpgradeTerminal terminal;
-        upgrades::OpenUpgraded(options.file, DefaultDataFile(), terminal);
+        OpenToChange(options.file);
         return kDone;
     }
     const upgrades::Outlook outlook = upgrades::LookAhead(options.file, DefaultDataFile());

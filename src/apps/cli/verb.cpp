@@ -1,5 +1,10 @@
 #include "cli/verb.h"
 
+#include "cli/installation.h"
+#include "cli/terminal_operator.h"
+#include "cli/upgrade_terminal.h"
+#include "upgrades/upgrade.h"
+
 namespace fabula::cli {
 
 CLI::Option* AddAdventureOption(CLI::App& verb, std::string& file) {
@@ -11,11 +16,15 @@ CLI::Option* AddForceFlag(CLI::App& verb, bool& force) {
 }
 
 std::unique_ptr<store::Adventure> OpenToRead(const std::string& file) {
-    return store::Adventure::Open(file, store::OpenMode::ReadOnly);
+    TerminalOperator person;
+    return upgrades::OpenForReading(file, FindDefaultData(),
+                                    [&](std::string_view sentence) { person.Tell(sentence, ""); });
 }
 
 std::unique_ptr<store::Adventure> OpenToChange(const std::string& file) {
-    return store::Adventure::OpenForChange(file);
+    UpgradeTerminal terminal;
+    return upgrades::Upgraded(store::Adventure::OpenForChange(file, store::Ages::Any), DefaultDataFile(),
+                              terminal);
 }
 
 }  // namespace fabula::cli

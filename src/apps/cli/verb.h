@@ -42,7 +42,8 @@ void Runs(CLI::App& verb, Chosen& chosen, const std::shared_ptr<Options>& option
 CLI::Option* AddAdventureOption(CLI::App& verb, std::string& file);
 CLI::Option* AddForceFlag(CLI::App& verb, bool& force);
 
-/// The adventure that a verb looks into, or changes. They throw fabula::Error when it can't be opened so.
+/// The adventure that a verb looks into, or changes. One of an older version is upgraded: in memory for
+/// reading, after a sentence about it, else in its file. They throw fabula::Error when it can't be opened.
 std::unique_ptr<store::Adventure> OpenToRead(const std::string& file);
 std::unique_ptr<store::Adventure> OpenToChange(const std::string& file);
 

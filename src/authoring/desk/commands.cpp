@@ -14,7 +14,6 @@ constexpr std::string_view kNoBatchImport = "Batch files are written only.";
 constexpr std::string_view kNoBatchExport = "This version cannot yet write batch files.";
 constexpr std::string_view kNoPackage = "This version cannot yet pack a game for others.";
 constexpr std::string_view kNoPrint = "This version cannot yet print.";
-constexpr std::string_view kNoKeyChange = "This version cannot yet repair keys that occur twice.";
 constexpr std::string_view kNoTravelTable = "This version cannot yet read a classic travel table.";
 
 using Use = CommandEntry::Use;
@@ -85,7 +84,7 @@ constexpr CommandEntry kCommands[] = {
     {Command::ShortDescriptions, "ShortDesc", Menu::Tools, 0, "Load &Short Descriptions", "", "text",
      "Take short descriptions of locations from the file ShortDesc.lis"},
     {Command::KeyChange, "KeyChange", Menu::Tools, 1, "Correct Table &Key...", "", "key",
-     "Give a free key to a record whose key occurs twice", Use::Menu, kNoKeyChange},
+     "Give a free key to a record whose key occurs twice"},
     {Command::TravelTable, "TravelTable", Menu::Tools, 1, "Convert &Travel Table...", "", "map",
      "Write a report of a classic travel table", Use::Menu, kNoTravelTable},
 

@@ -5,6 +5,7 @@
 
 #include "authoring/desk/ide_settings.h"
 #include "authoring/desk/sort_order.h"
+#include "authoring/desk/upgrading.h"
 #include "authoring/files/backups.h"
 #include "authoring/files/start_up.h"
 #include "authoring/files/version_numbers.h"
@@ -56,8 +57,9 @@ std::filesystem::path StarterFor(const std::filesystem::path& defaultData, store
 
 }  // namespace
 
-MainScreen::Desk::Desk(const std::filesystem::path& file, store::OpenMode mode, platform::Dialogs& dialogs)
-    : document(file, mode), context{document, dialogs} {}
+MainScreen::Desk::Desk(std::unique_ptr<store::Adventure> adventure, store::OpenMode mode,
+                       platform::Dialogs& dialogs)
+    : document(std::move(adventure), mode), context{document, dialogs} {}
 
 MainScreen::MainScreen(const IdeHost& host, IdePaths paths, bool maintenance)
     : host_(host),
@@ -132,7 +134,8 @@ bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::Ad
         });
         if (!created) return;
         host_.dialogs.Tell(file.filename().string() + " DataBase Created", kProgramName);
-        auto desk = std::make_unique<Desk>(file, store::OpenMode::ReadWrite, host_.dialogs);
+        auto desk = std::make_unique<Desk>(store::Adventure::OpenForChange(file),
+                                           store::OpenMode::ReadWrite, host_.dialogs);
         WriteLastView(host_.settings, {{TableNum::Adventure, 0}, 0});
         charSetsLoaded_ = charSetsLoaded_.value_or(false) || desk->document.Adventure().CharSetsOn();
         Adopt(std::move(desk));
@@ -152,13 +155,11 @@ bool MainScreen::OpenFile(const std::filesystem::path& file) {
     RememberView();
     bool wanted = true;
     const bool opened = Guard([&] {
-        auto desk = OpenDesk(file);
+        Upgrading upgrading(host_, paths_, upgradeBoxes);
+        auto desk = OpenDesk(file, upgrading);
         wanted = desk != nullptr;
         if (!wanted) return;
-        if (!paths_.state.empty()) {
-            Backups backups(paths_.state / "backups", host_.clock);
-            BackUpAtOpening(backups, desk->document.Adventure(), host_.dialogs);
-        }
+        upgrading.BackUp(desk->document.Adventure());
         Adopt(std::move(desk));
         const bool usesCharSets = desk_->document.Adventure().CharSetsOn();
         const bool loaded = charSetsLoaded_.value_or(usesCharSets);
@@ -173,24 +174,29 @@ bool MainScreen::OpenFile(const std::filesystem::path& file) {
     return opened && wanted;
 }
 
-/// A file that can't be changed is opened to read: where it can't be written the person is told, and where
-/// it is open for change elsewhere asked; nullptr for no.
-std::unique_ptr<MainScreen::Desk> MainScreen::OpenDesk(const std::filesystem::path& file) {
+/// Opens a file for change and brings it up to date. One that can't be changed is opened to read, and stays
+/// of its age: where it can't be written the person is told, and where it is open for change elsewhere
+/// asked; nullptr for no.
+std::unique_ptr<MainScreen::Desk> MainScreen::OpenDesk(const std::filesystem::path& file,
+                                                       Upgrading& upgrading) {
+    const auto toRead = [&] {
+        return std::make_unique<Desk>(store::Adventure::Open(file, store::OpenMode::ReadOnly),
+                                      store::OpenMode::ReadOnly, host_.dialogs);
+    };
     try {
-        return std::make_unique<Desk>(file, store::OpenMode::ReadWrite, host_.dialogs);
+        auto adventure = upgrades::Upgraded(store::Adventure::OpenForChange(file, store::Ages::Any),
+                                            paths_.defaultData, upgrading);
+        return std::make_unique<Desk>(std::move(adventure), store::OpenMode::ReadWrite, host_.dialogs);
     } catch (const store::OpenError& refused) {
         const std::string why = refused.what();
-        if (refused.Reason() == store::Refusal::OpenForChange) {
-            if (!host_.dialogs.Confirm(why + " Open it to read only?", kProgramName)) return nullptr;
-        } else if (refused.Reason() == store::Refusal::CannotBeWritten) {
-            host_.dialogs.Tell(
-                why + " It is opened to read only; Save As makes a copy that can be changed.",
-                kProgramName);
-        } else {
-            throw;
-        }
+        if (refused.Reason() == store::Refusal::OpenForChange)
+            return host_.dialogs.Confirm(why + " Open it to read only?", kProgramName) ? toRead() : nullptr;
+        if (refused.Reason() != store::Refusal::CannotBeWritten) throw;
+        auto desk = toRead();
+        host_.dialogs.Tell(why + " It is opened to read only; Save As makes a copy that can be changed.",
+                           kProgramName);
+        return desk;
     }
-    return std::make_unique<Desk>(file, store::OpenMode::ReadOnly, host_.dialogs);
 }
 
 /// Puts an adventure in the place of the one that is open, which is closed; one that can't be shown leaves

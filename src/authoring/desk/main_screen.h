@@ -27,6 +27,8 @@
 
 namespace fabula::authoring {
 
+class Upgrading;
+
 /// What the main window asks of its program. All of it outlives the window.
 struct IdeHost {
     platform::Dialogs& dialogs;
@@ -61,6 +63,14 @@ struct TestRun {
 class MainScreen {
   public:
     enum class State { NoAdventure, Open, EngineRunning };
+
+    /// How the window shows an upgrade of a file that is opened. `steps` takes the steps that run, a line
+    /// each, and "" when they are done; `chooseType` the screen of the types, which is not cancelled.
+    struct UpgradeBoxes {
+        std::function<void(std::string_view list)> steps = [](std::string_view) {};
+        std::function<void(store::AdventureSetup& setup)> chooseType = [](store::AdventureSetup&) {};
+    };
+    UpgradeBoxes upgradeBoxes;
 
     /// `maintenance` shows the program's own tables and fields.
     MainScreen(const IdeHost& host, IdePaths paths, bool maintenance = false);
@@ -167,13 +177,13 @@ class MainScreen {
   private:
     /// The open adventure and what its screens share.
     struct Desk {
-        Desk(const std::filesystem::path& file, store::OpenMode mode, platform::Dialogs& dialogs);
+        Desk(std::unique_ptr<store::Adventure> adventure, store::OpenMode mode, platform::Dialogs& dialogs);
         Document document;
         ScreenContext context;
     };
 
     bool Guard(const std::function<void()>& step);
-    std::unique_ptr<Desk> OpenDesk(const std::filesystem::path& file);
+    std::unique_ptr<Desk> OpenDesk(const std::filesystem::path& file, Upgrading& upgrading);
     std::filesystem::path Folder() const;
     void NoteVersions();
     void Adopt(std::unique_ptr<Desk> desk);

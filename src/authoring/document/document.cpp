@@ -5,12 +5,14 @@
 
 namespace fabula::authoring {
 
-Document::Document(const std::filesystem::path& file, store::OpenMode mode) {
-    if (mode == store::OpenMode::ReadOnly) {
-        adventure_ = store::Adventure::Open(file, mode);
-        return;
-    }
-    adventure_ = store::Adventure::OpenForChange(file);
+Document::Document(const std::filesystem::path& file, store::OpenMode mode)
+    : Document(mode == store::OpenMode::ReadOnly ? store::Adventure::Open(file, mode)
+                                                 : store::Adventure::OpenForChange(file),
+               mode) {}
+
+Document::Document(std::unique_ptr<store::Adventure> adventure, store::OpenMode mode)
+    : adventure_(std::move(adventure)) {
+    if (mode == store::OpenMode::ReadOnly) return;
     try {
         log_.emplace(adventure_->CurrentFile());
     } catch (const Error& failure) {

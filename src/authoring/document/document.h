@@ -34,6 +34,9 @@ class Document {
     /// change elsewhere, and with CannotBeWritten when the file or its folder can't be written, for want of
     /// rights or of space.
     explicit Document(const std::filesystem::path& file, store::OpenMode mode = store::OpenMode::ReadWrite);
+    /// Takes an adventure that was opened so: by Adventure::OpenForChange, or for reading only. Throws
+    /// store::OpenError with CannotBeWritten for want of space.
+    Document(std::unique_ptr<store::Adventure> adventure, store::OpenMode mode);
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 

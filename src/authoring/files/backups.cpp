@@ -196,7 +196,8 @@ std::vector<CountDifference> CompareCounts(store::Adventure& backup, store::Adve
 }
 
 void RestoreBackup(const path& backup, const path& target) {
-    store::Adventure::Open(backup, store::OpenMode::ReadOnly)->SaveCopy(target);
+    // The copy that an upgrade left is of the older form.
+    store::Adventure::Open(backup, store::OpenMode::ReadOnly, store::Ages::Any)->SaveCopy(target);
 }
 
 void BackUpAtOpening(Backups& backups, store::Adventure& adventure, platform::Operator& person) {

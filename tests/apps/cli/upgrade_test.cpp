@@ -54,5 +54,18 @@ TEST_F(UpgradeVerb, DoesItOnce) {
     EXPECT_EQ(Run({"upgrade", file_.string(), "--check"}).status, 0);
 }
 
+TEST_F(UpgradeVerb, OtherVerbsReadAnUpgradedCopy) {
+    MakeOld();
+    const std::string before = ReadBytes(file_);
+    const ProgramResult result = Run({"dump", file_.string(), "adventure", "--fields", "advname, source"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "{\"advname\":\"New Adventure\",\"source\":\"Unknown\"}\n");
+    EXPECT_EQ(
+        result.errors,
+        "game.fbd was made by an older version of Fabula; an upgraded copy in memory is used, and the "
+        "file stays as it is.\n");
+    EXPECT_TRUE(ReadBytes(file_) == before);
+}
+
 }  // namespace
 }  // namespace fabula::test

@@ -90,6 +90,12 @@ SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
     }
 }
 
+void SetupDialog::AskForExisting() {
+    starter_->setChecked(false);
+    starter_->hide();
+    findChild<QPushButton*>("exit")->hide();
+}
+
 bool SetupDialog::Starter() const {
     return starter_->isChecked();
 }

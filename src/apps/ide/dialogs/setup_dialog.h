@@ -17,6 +17,10 @@ class SetupDialog final : public QDialog {
   public:
     explicit SetupDialog(store::AdventureSetup& setup, QWidget* parent = nullptr);
 
+    /// For an adventure that is there already: without what only a new one is asked, and without Cancel,
+    /// since closing the dialog takes what it shows.
+    void AskForExisting();
+
     /// Whether the adventure is to begin with the words and entries that most games have.
     bool Starter() const;
 

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QProgressDialog>
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
@@ -102,6 +103,8 @@ MainWindow::MainWindow(const Services& services, Places places)
     setMinimumSize(kSmallestSize);
     setAcceptDrops(true);
     setProperty(qt::kHelpPage, kMainWindowPage);
+    ide_.upgradeBoxes = {.steps = [this](std::string_view steps) { ShowUpgrade(steps); },
+                         .chooseType = [this](store::AdventureSetup& setup) { ChooseType(setup); }};
     MakePages();
     MakeMenus();
     MakeStatusBar();

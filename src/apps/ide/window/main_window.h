@@ -20,6 +20,7 @@
 
 class QActionGroup;
 class QLabel;
+class QProgressDialog;
 class QSettings;
 class QSplitter;
 class QStackedWidget;
@@ -108,6 +109,9 @@ class MainWindow final : public QMainWindow {
     void FindOrAsk(authoring::Command command);
     void Sort();
     void Verify();
+    void KeyChange();
+    void ShowUpgrade(std::string_view steps);
+    void ChooseType(store::AdventureSetup& setup);
     void GoTo(const authoring::VerifyScreen::Entry& entry);
     void ImportOrExport(authoring::JobMode mode);
     void StartTest();
@@ -132,6 +136,7 @@ class MainWindow final : public QMainWindow {
     RecordPanel* records_;
     FindBar* find_;
     CommandActions* actions_;
+    std::unique_ptr<QProgressDialog> upgrade_;  ///< while the steps of an upgrade run
     QMenu* tables_ = nullptr;
     QMenu* columns_ = nullptr;
     QActionGroup* recent_ = nullptr;

@@ -1,10 +1,12 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressDialog>
 #include <QTableView>
 
 #include "authoring/drawing/character_set_screen.h"
 #include "ide/dialogs/interchange_dialog.h"
+#include "ide/dialogs/key_dialogs.h"
 #include "ide/dialogs/screens.h"
 #include "ide/dialogs/setup_dialog.h"
 #include "ide/dialogs/sort_dialog.h"
@@ -52,6 +54,8 @@ void MainWindow::Do(Command command) {
             return LoadOrSaveSets(authoring::CharacterSetFiles::Purpose::Load);
         case Command::Save:
             return LoadOrSaveSets(authoring::CharacterSetFiles::Purpose::Save);
+        case Command::KeyChange:
+            return KeyChange();
         case Command::Filter:
             return records_->FilterLine().setFocus();
         case Command::Find:
@@ -163,6 +167,40 @@ void MainWindow::Verify() {
     ide_.Refresh();
     ide_.Say(verify.Passed() ? "The adventure has passed." : "The adventure has not passed.");
     ShowChanges();
+}
+
+void MainWindow::KeyChange() {
+    authoring::KeySelectScreen select(ide_.CurrentContext());
+    KeySelectDialog selectDialog(select, this);
+    if (selectDialog.exec() != QDialog::Accepted) return;
+    authoring::KeyChangeScreen change(ide_.CurrentContext(), *selectDialog.Selection());
+    KeyChangeDialog changeDialog(change, services_.dialogs, this);
+    changeDialog.exec();
+    ide_.Refresh();
+    ShowChanges();
+}
+
+/// The box of the steps that bring a file up to date; no steps end it.
+void MainWindow::ShowUpgrade(std::string_view steps) {
+    if (steps.empty()) return upgrade_.reset();
+    if (!upgrade_) {
+        upgrade_ = std::make_unique<QProgressDialog>(this);
+        upgrade_->setObjectName("upgrade");
+        upgrade_->setWindowTitle(tr("Updating the adventure"));
+        upgrade_->setWindowModality(Qt::WindowModal);
+        upgrade_->setCancelButton(nullptr);
+        upgrade_->setRange(0, 0);
+        upgrade_->setMinimumDuration(0);
+    }
+    upgrade_->setLabelText(qt::ToQt(steps));
+    upgrade_->show();
+    services_.events.Pump();
+}
+
+void MainWindow::ChooseType(store::AdventureSetup& setup) {
+    SetupDialog dialog(setup, this);
+    dialog.AskForExisting();
+    dialog.exec();
 }
 
 void MainWindow::GoTo(const authoring::VerifyScreen::Entry& entry) {

@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "platform/error.h"
+#include "platform/user_folders.h"
+#include "upgrades/upgrade.h"
 
 namespace fabula::player {
 
@@ -15,6 +17,16 @@ constexpr std::chrono::milliseconds kAutosaveDelay{150};
 std::string SaveNameOf(store::Adventure& adventure) {
     const auto& settings = adventure.OpenTable(store::TableNum::Adventure, "savename");
     return settings.Eof() ? "" : std::string(settings.Text("savename"));
+}
+
+/// A game of an older version is upgraded in memory, and the player told so. Where the default data is not
+/// installed, only games of the present form can be played.
+std::unique_ptr<store::Adventure> OpenGame(const std::filesystem::path& file, platform::Operator& player) {
+    const auto folders =
+        platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());
+    const auto data = platform::FindFile(folders, "Fabula.ini").value_or(std::filesystem::path());
+    return upgrades::OpenForReading(file, data,
+                                    [&](std::string_view sentence) { player.Tell(sentence, "Fabula"); });
 }
 
 /// Set while it lives.
@@ -34,7 +46,7 @@ class Mark {
 Session::Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
                  const engine::Host& host, platform::Timers& timers, Autosave autosave,
                  const engine::Options& options)
-    : adventure_(store::Adventure::Open(file, store::OpenMode::ReadOnly)),
+    : adventure_(OpenGame(file, host.oper)),
       folder_(FolderOfGame(dataFolder, SaveNameOf(*adventure_), file)),
       engine_(*adventure_, host, options),
       oper_(host.oper),

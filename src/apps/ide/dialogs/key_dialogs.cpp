@@ -1,0 +1,151 @@
+#include "ide/dialogs/key_dialogs.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "ide/editors/help_pages.h"
+#include "platform/error.h"
+#include "qt/help_request.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+constexpr QSize kSize(620, 360);
+
+QLabel* Note(std::string_view text) {
+    auto* note = new QLabel(qt::ToQt(text));
+    note->setObjectName("explanation");
+    note->setWordWrap(true);
+    note->setVisible(!text.empty());
+    return note;
+}
+
+/// The two buttons of a dialog; the first is the default.
+QDialogButtonBox* Buttons(QDialog& dialog, const QString& accept, const char* name) {
+    auto* box = new QDialogButtonBox;
+    auto* button = box->addButton(accept, QDialogButtonBox::AcceptRole);
+    button->setObjectName(name);
+    button->setDefault(true);
+    box->addButton(QDialog::tr("Exit"), QDialogButtonBox::RejectRole)->setObjectName("exit");
+    QObject::connect(box, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    return box;
+}
+
+QVBoxLayout* Prepare(QDialog& dialog, const char* name, std::string_view title) {
+    dialog.setObjectName(name);
+    dialog.setWindowTitle(qt::ToQt(title));
+    dialog.setProperty(qt::kHelpPage, kMainWindowPage);
+    dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(12);
+    return layout;
+}
+
+}  // namespace
+
+KeySelectDialog::KeySelectDialog(authoring::KeySelectScreen& screen, QWidget* parent)
+    : QDialog(parent), screen_(screen), table_(new QComboBox), explanation_(Note("")) {
+    auto* layout = Prepare(*this, "keySelect", authoring::KeySelectScreen::kTitle);
+    auto* form = new QFormLayout;
+    table_->setObjectName("table");
+    table_->addItem("");
+    for (const std::string& table : screen.Tables())
+        table_->addItem(qt::ToQt(table));
+    form->addRow(tr("&Table"), table_);
+    key_ = AddLine(*form, "key", tr("&Key"));
+    process_ = AddLine(*form, "process", tr("&Process table"));
+    w1_ = AddLine(*form, "w1", tr("&Verb"));
+    w2_ = AddLine(*form, "w2", tr("&Noun"));
+    auto* buttons = Buttons(*this, tr("&Select"), "select");
+    layout->addLayout(form);
+    layout->addWidget(explanation_);
+    layout->addStretch();
+    layout->addWidget(buttons);
+    connect(table_, &QComboBox::currentIndexChanged, this, [this] { ShowTable(); });
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] { Select(); });
+    ShowTable();
+}
+
+QLineEdit* KeySelectDialog::AddLine(QFormLayout& form, const char* name, const QString& label) {
+    auto* line = new QLineEdit;
+    line->setObjectName(name);
+    form.addRow(label, line);
+    return line;
+}
+
+void KeySelectDialog::ShowTable() {
+    screen_.table = qt::FromQt(table_->currentText());
+    const bool words = screen_.TakesWords();
+    key_->setEnabled(!words);
+    for (QLineEdit* line : {process_, w1_, w2_})
+        line->setEnabled(words);
+    explanation_->setText(qt::ToQt(screen_.Explanation()));
+    explanation_->setVisible(words);
+}
+
+void KeySelectDialog::Select() {
+    screen_.key = qt::FromQt(key_->text());
+    screen_.process = qt::FromQt(process_->text());
+    screen_.w1 = qt::FromQt(w1_->text());
+    screen_.w2 = qt::FromQt(w2_->text());
+    selection_ = screen_.Select();
+    if (selection_) accept();
+}
+
+KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::Dialogs& dialogs,
+                                 QWidget* parent)
+    : QDialog(parent), screen_(screen), dialogs_(dialogs), rows_(new QTableWidget) {
+    auto* layout = Prepare(*this, "keyChange", authoring::KeyChangeScreen::kTitle);
+    rows_->setObjectName("rows");
+    rows_->setColumnCount(2);
+    rows_->setHorizontalHeaderLabels({qt::ToQt(screen.KeyName()), qt::ToQt(screen.ShownName())});
+    rows_->horizontalHeader()->setStretchLastSection(true);
+    rows_->verticalHeader()->hide();
+    auto* buttons = Buttons(*this, tr("&Finish"), "finish");
+    layout->addWidget(Note(screen.Instruction()));
+    layout->addWidget(rows_);
+    layout->addWidget(buttons);
+    resize(kSize);
+    ShowRows();
+    connect(rows_, &QTableWidget::cellChanged, this, [this](int row, int) { Leave(row); });
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] { Finish(); });
+}
+
+void KeyChangeDialog::ShowRows() {
+    showing_ = true;
+    rows_->setRowCount(static_cast<int>(screen_.Rows().size()));
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        const auto& shown = screen_.Rows()[static_cast<std::size_t>(row)];
+        rows_->setItem(row, 0, new QTableWidgetItem(qt::ToQt(shown.key)));
+        auto* text = new QTableWidgetItem(qt::ToQt(shown.shown));
+        text->setFlags(text->flags() & ~Qt::ItemIsEditable);
+        rows_->setItem(row, 1, text);
+    }
+    showing_ = false;
+}
+
+void KeyChangeDialog::Leave(int row) {
+    if (showing_) return;
+    screen_.SetKey(static_cast<std::size_t>(row), qt::FromQt(rows_->item(row, 0)->text()));
+    ShowRows();
+}
+
+void KeyChangeDialog::Finish() {
+    try {
+        if (screen_.Finish()) accept();
+    } catch (const Error& error) {
+        dialogs_.Tell(error.what(), "Error");
+    }
+}
+
+}  // namespace fabula::ide
