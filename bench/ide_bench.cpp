@@ -8,6 +8,7 @@
 #include "authoring/desk/main_screen.h"
 #include "bench_games.h"
 #include "platform/scripted_dialogs.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace fabula::authoring {
@@ -19,6 +20,7 @@ using store::TableNum;
 class Tool {
   public:
     Tool() {
+        paths_.defaultData = test::DefaultData();
         paths_.state = folder_ / "state";
         paths_.version = "1.0.0";
         paths_.versionFolders = {folder_ / "versions"};

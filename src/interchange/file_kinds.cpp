@@ -64,7 +64,7 @@ const FileKind kKinds[] = {
      SetupOfExport,
      LoadFabula,
      ExportFabula,
-     {"FabulaExp", false, true, 0, 0, 0}},
+     {"FabulaExp", true, false, 0, 0, 0}},
     {"ace",
      "ACE",
      ".txt",

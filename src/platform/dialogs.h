@@ -47,6 +47,8 @@ class Dialogs : public Operator {
 
     /// Shows a longer text in a window in which it can be read, copied and searched.
     virtual void Report(std::string_view text, std::string_view title) = 0;
+    /// The same with OK and Cancel; true for OK.
+    virtual bool ProceedFromReport(std::string_view text, std::string_view title) = 0;
 };
 
 }  // namespace fabula::platform

@@ -45,4 +45,9 @@ void ScriptedDialogs::Report(std::string_view text, std::string_view title) {
     reports_.push_back({std::string(text), std::string(title)});
 }
 
+bool ScriptedDialogs::ProceedFromReport(std::string_view text, std::string_view title) {
+    Report(text, title);
+    return person_.Confirm(text, title);
+}
+
 }  // namespace fabula::platform

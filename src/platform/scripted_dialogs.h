@@ -38,6 +38,7 @@ class ScriptedDialogs final : public Dialogs {
     std::optional<std::filesystem::path> ChooseFile(const FileQuestion& question) override;
     std::optional<std::string> AskText(const TextQuestion& question) override;
     void Report(std::string_view text, std::string_view title) override;
+    bool ProceedFromReport(std::string_view text, std::string_view title) override;
 
   private:
     ScriptedOperator person_;

@@ -102,6 +102,11 @@ void ShowReports(Work& work, UpgradeHost& host) {
     }
 }
 
+bool IsThere(const std::filesystem::path& defaultData) {
+    std::error_code error;  // what can't be looked at can't be read either
+    return std::filesystem::is_regular_file(defaultData, error);
+}
+
 /// A file of the present form that says to be of an earlier program is numbered anew.
 void NumberFile(Adventure& adventure) {
     if (store::SchemaChange(adventure).FileNumber() == store::kLatestStep) return;
@@ -114,11 +119,8 @@ void NumberFile(Adventure& adventure) {
 
 std::unique_ptr<Adventure> OpenUpgraded(const std::filesystem::path& file,
                                         const std::filesystem::path& defaultData, UpgradeHost& host) {
-    return Upgraded(Adventure::Open(file, OpenMode::ReadWrite, Ages::Any), defaultData, host);
-}
-
-std::unique_ptr<Adventure> Upgraded(std::unique_ptr<Adventure> adventure,
-                                    const std::filesystem::path& defaultData, UpgradeHost& host) {
+    if (!IsThere(defaultData)) return Adventure::OpenForChange(file);
+    auto adventure = Adventure::OpenForChange(file, Ages::Any);
     Defaults defaults(defaultData);
     Work work(*adventure, defaults);
     const Need need = NeedOf(work);
@@ -137,15 +139,14 @@ std::unique_ptr<Adventure> Upgraded(std::unique_ptr<Adventure> adventure,
 std::unique_ptr<Adventure> OpenForReading(const std::filesystem::path& file,
                                           const std::filesystem::path& defaultData,
                                           const std::function<void(std::string_view)>& tell) {
-    if (defaultData.empty()) return Adventure::Open(file, OpenMode::ReadOnly);
+    if (!IsThere(defaultData)) return Adventure::Open(file, OpenMode::ReadOnly);
     auto adventure = Adventure::Open(file, OpenMode::ReadOnly, Ages::Any);
     Defaults defaults(defaultData);
     Work look(*adventure, defaults);
     if (NeedOf(look) != Need::Changes) return adventure;
     tell(file.filename().string() +
-         " was made by an older version of Fabula; an upgraded copy in memory is used, and the file stays "
-         "as "
-         "it is.");
+         " was made by an older version of Fabula; an upgraded copy in memory is used, and the file "
+         "stays as it is.");
     auto copy = adventure->CopyInMemory();
     Work work(*copy, defaults);
     UpgradeHost silent;

@@ -41,19 +41,15 @@ class UpgradeHost {
     virtual bool ShowFlagChange(const Report&) { return false; }
 };
 
-/// Opens an adventure for writing and upgrades it, with the default data `defaultData`: either every step
-/// that it needs is done, or, when an Error is thrown, the file is as it was. Throws store::OpenError for a
-/// file that is refused.
+/// Opens an adventure to be worked on, as Adventure::OpenForChange does, and upgrades it with the default
+/// data `defaultData`: either every step that it needs is done, or, when an Error is thrown, the file is as
+/// it was. Throws store::OpenError for a file that is refused. Where the default data is not there only
+/// files of the present form can be opened, and nothing is mended.
 std::unique_ptr<store::Adventure> OpenUpgraded(const std::filesystem::path& file,
                                                const std::filesystem::path& defaultData, UpgradeHost& host);
 
-/// The same for an adventure that was opened for writing, as one of any age.
-std::unique_ptr<store::Adventure> Upgraded(std::unique_ptr<store::Adventure> adventure,
-                                           const std::filesystem::path& defaultData, UpgradeHost& host);
-
 /// Opens an adventure for reading. One that needs an upgrade is upgraded in memory, after `tell` was given
-/// one sentence about it; its file stays as it is. Without default data (an empty path) only files of the
-/// present form can be opened.
+/// one sentence about it; its file stays as it is. Default data that is not there is taken as above.
 std::unique_ptr<store::Adventure> OpenForReading(const std::filesystem::path& file,
                                                  const std::filesystem::path& defaultData,
                                                  const std::function<void(std::string_view)>& tell);

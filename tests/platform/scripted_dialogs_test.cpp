@@ -31,6 +31,14 @@ TEST(ScriptedDialogs, KeepWhatTheyWereShown) {
     EXPECT_EQ(dialogs.TextQuestions().at(0).proposal, "My Set 2");
 }
 
+TEST(ScriptedDialogs, AnswerReportsThatAsk) {
+    ScriptedDialogs dialogs;
+    dialogs.AnswerNext(false);
+    EXPECT_FALSE(dialogs.ProceedFromReport("SET 260", "Version 6 Flag Change"));
+    EXPECT_EQ(dialogs.Reports(),
+              (std::vector<ScriptedDialogs::Shown>{{"SET 260", "Version 6 Flag Change"}}));
+}
+
 TEST(ScriptedDialogs, RefuseAQuestionThatNoTestExpects) {
     ScriptedDialogs dialogs;
     EXPECT_THROW(dialogs.ChooseFile(FileQuestion()), std::logic_error);

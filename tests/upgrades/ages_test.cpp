@@ -38,53 +38,160 @@ class Ages : public testing::Test {
     test::RecordingHost host_;
 };
 
-class OneStep : public Ages, public testing::WithParamInterface<int> {};
+/// The steps from the latest down to `first` are taken back, as if they had not been written.
+void TakeBackTo(const std::filesystem::path& file, int first) {
+    for (int step = store::kLatestStep; step >= first; --step)
+        test::TakeBack(file, step);
+}
+
+/// The chain on a file that it has brought up to date shows no box and changes no byte.
+void ExpectDone(const std::filesystem::path& file) {
+    const std::string once = test::ReadBytes(file);
+    test::RecordingHost again;
+    OpenUpgraded(file, test::DefaultDataFile(), again);
+    EXPECT_TRUE(test::ReadBytes(file) == once) << "once more changed something";
+    EXPECT_TRUE(again.lists.empty());
+    EXPECT_EQ(again.changes, 0);
+    EXPECT_TRUE(again.proposals.empty());
+}
+
+const auto kEveryKind = testing::Values(AdventureKind::Fabula, AdventureKind::Vel, AdventureKind::Marlo);
+
+/// A step of the chain, and the kind of the game that it is tried on.
+using StepAndKind = std::tuple<int, AdventureKind>;
+
+std::string NameOf(const testing::TestParamInfo<StepAndKind>& tested) {
+    return std::string(store::NameOf(std::get<1>(tested.param))) +
+           std::to_string(std::get<0>(tested.param));
+}
+
+class OneStep : public Ages, public testing::WithParamInterface<StepAndKind> {};
 
 TEST_P(OneStep, IsDoneAgain) {
-    test::MakeGame(file_);
+    const auto [step, kind] = GetParam();
+    test::MakeGame(file_, kind);
     const Contents before = test::ContentsOf(file_);
-    test::TakeBack(file_, GetParam());
-    AnswerType(AdventureKind::Fabula);
+    test::TakeBack(file_, step);
+    AnswerType(kind);
     ExpectSame(Upgraded(), before);
-    const std::string number = std::to_string(GetParam()) + " - ";
+    const std::string number = std::to_string(step) + " - ";
     ASSERT_FALSE(host_.lists.empty());
     EXPECT_EQ(host_.lists.front().substr(0, number.size()), number);
     EXPECT_EQ(host_.changes, 1);
+    ExpectDone(file_);
 }
 
-INSTANTIATE_TEST_SUITE_P(Numbered, OneStep, testing::Range(1, store::kLatestStep + 1));
+INSTANTIATE_TEST_SUITE_P(Numbered, OneStep,
+                         testing::Combine(testing::Range(1, store::kLatestStep + 1), kEveryKind), NameOf);
 
-/// A file as it was when the steps from a number on had not been written, of each kind in turn.
-class Age : public Ages, public testing::WithParamInterface<int> {};
+/// A file as it was when the steps from a number on had not been written.
+class Age : public Ages, public testing::WithParamInterface<StepAndKind> {};
 
 TEST_P(Age, BecomesThePresent) {
-    const auto kind = static_cast<AdventureKind>(GetParam() % 3);
+    const auto [step, kind] = GetParam();
     test::MakeGame(file_, kind);
     const Contents before = test::ContentsOf(file_);
-    for (int step = store::kLatestStep; step >= GetParam(); --step)
-        test::TakeBack(file_, step);
+    TakeBackTo(file_, step);
     AnswerType(kind);
     ExpectSame(Upgraded(), before);
+    ExpectDone(file_);
 }
 
-INSTANTIATE_TEST_SUITE_P(BeforeStep, Age, testing::Range(1, store::kLatestStep + 1));
+INSTANTIATE_TEST_SUITE_P(BeforeStep, Age,
+                         testing::Combine(testing::Range(1, store::kLatestStep + 1), kEveryKind), NameOf);
 
-class OldestAge : public Ages, public testing::WithParamInterface<AdventureKind> {};
+/// What the corrections find in files of old: the texts, colours, flags and catalogues as they were, each
+/// with what it becomes.
+struct OldData {
+    const char* old;
+    const char* present;
+};
 
-TEST_P(OldestAge, BecomesThePresent) {
-    test::MakeGame(file_, GetParam());
+constexpr OldData kOldData[] = {
+    {"UPDATE SystemMessages SET smsgmsg='Press any KEY to go on.' WHERE smsgnum=16",
+     "UPDATE SystemMessages SET smsgmsg='Press ENTER to go on.' WHERE smsgnum=16"},
+    {"UPDATE Messages SET msgmsg='one'||char(13,10)||'two'||char(10)||'three' WHERE msgnum=0",
+     "UPDATE Messages SET msgmsg='one'||char(140)||'two'||char(140)||'three' WHERE msgnum=0"},
+    {"UPDATE Messages SET msgmsg='four'||char(30)||'five' WHERE msgnum=1",
+     "UPDATE Messages SET msgmsg='four'||char(140)||'five' WHERE msgnum=1"},
+    {"UPDATE Adventure SET backcolor=16777215, textcolor=58880",
+     "UPDATE Adventure SET backcolor=15, textcolor=4"},
+    {"UPDATE ProcessTables SET condacts='PLACE 0 NOTCR', numericcondacts='208 0 NOTCR', numcas=2 WHERE "
+     "canum=1",
+     "UPDATE ProcessTables SET condacts='PLACE 0 252', numericcondacts='208 0 252', numcas=2 WHERE "
+     "canum=1"},
+    {"UPDATE Flags SET flgtype='System', flguse='Switch' WHERE flgnum IN (28,255)",
+     "UPDATE Flags SET flgtype='User', flguse='Unknown' WHERE flgnum IN (28,255)"},
+    {"DELETE FROM Flags WHERE flgnum>255", ""},
+    {"UPDATE CondActs SET caparam1=4 WHERE caname='PUTO'", ""},
+    {"UPDATE CondActs SET camaxval1=9 WHERE caname IN ('CHARSET','PAPER')", ""},
+    {"DELETE FROM CondActs WHERE canum IN (283,288,289,290,291) OR canum>=292", ""},
+    {"UPDATE CondActs SET caname='BOLD' WHERE canum=284; UPDATE CondActs SET caname='ITALIC' WHERE "
+     "canum=285; UPDATE CondActs SET caname='UNDLINE' WHERE canum=286; UPDATE CondActs SET caname='FONT' "
+     "WHERE canum=287",
+     ""},
+    {"DELETE FROM Codes WHERE codenum>127", ""},
+    {"DELETE FROM DataBases WHERE dbnum IN (33,34)", ""},
+    {"UPDATE Tables SET tablename='DataBases' WHERE tablenum=14", ""},
+    {"UPDATE Tables SET tablename='Messages' WHERE tablenum=15", ""},
+};
+
+/// A file of an age with records of its age, from before the markup or from its first versions, of each
+/// kind in turn.
+class AgeWithItsData : public Ages, public testing::WithParamInterface<int> {
+  protected:
+    void MakePresent(AdventureKind kind) {
+        test::MakeGame(file_, kind);
+        for (const OldData& data : kOldData)
+            test::RawDatabase(file_).Run(data.present);
+        test::RawDatabase(file_).Run(
+            "UPDATE Locations SET locdesc='&lt;Fish&gt; &amp; chips' WHERE locnum=1");
+    }
+    void MakeOld(int step, const std::string& version) {
+        for (const OldData& data : kOldData)
+            test::RawDatabase(file_).Run(data.old);
+        test::RawDatabase(file_).Run("UPDATE System SET sysinidate='1999-01-01', sysexportversion='" +
+                                     version + "'");
+        TakeBackTo(file_, step);
+    }
+};
+
+TEST_P(AgeWithItsData, FromBeforeTheMarkupBecomesThePresent) {
+    const int step = GetParam();
+    const auto kind = static_cast<AdventureKind>(step % 3);
+    MakePresent(kind);
     const Contents before = test::ContentsOf(file_);
-    for (int step = store::kLatestStep; step >= 1; --step)
-        test::TakeBack(file_, step);
-    AnswerType(GetParam());
+    test::RawDatabase(file_).Run(
+        "UPDATE Locations SET locdesc='<Fish> & chips' WHERE locnum=1;"
+        "UPDATE SystemMessages SET smsgmsg='>' WHERE smsgnum=33");
+    MakeOld(step, "1.9.9");
+    AnswerType(kind);
     ExpectSame(Upgraded(), before);
+    ExpectDone(file_);
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, OldestAge,
-                         testing::Values(AdventureKind::Fabula, AdventureKind::Vel, AdventureKind::Marlo));
+INSTANTIATE_TEST_SUITE_P(BeforeStep, AgeWithItsData, testing::Range(1, store::kLatestStep + 2));
 
-TEST_F(Ages, APresentFilePassesWithoutABoxAndUnchanged) {
-    test::MakeGame(file_);
+/// Step 14 adds the version of a file's texts, so that only later files can say that theirs has markup.
+class AgeWithMarkup : public AgeWithItsData {};
+
+TEST_P(AgeWithMarkup, BecomesThePresentAndKeepsItsTexts) {
+    const int step = GetParam();
+    const auto kind = static_cast<AdventureKind>(step % 3);
+    MakePresent(kind);
+    const Contents before = test::ContentsOf(file_);
+    MakeOld(step, "2.0.5");
+    AnswerType(kind);
+    ExpectSame(Upgraded(), before);
+    ExpectDone(file_);
+}
+
+INSTANTIATE_TEST_SUITE_P(BeforeStep, AgeWithMarkup, testing::Range(15, store::kLatestStep + 2));
+
+class Present : public Ages, public testing::WithParamInterface<AdventureKind> {};
+
+TEST_P(Present, PassesWithoutABoxAndUnchanged) {
+    test::MakeGame(file_, GetParam());
     const std::string before = test::ReadBytes(file_);
     OpenUpgraded(file_, test::DefaultDataFile(), host_);
     EXPECT_TRUE(test::ReadBytes(file_) == before);
@@ -93,17 +200,7 @@ TEST_F(Ages, APresentFilePassesWithoutABoxAndUnchanged) {
     EXPECT_TRUE(host_.reports.empty());
 }
 
-TEST_F(Ages, TheChainOnceMoreChangesNothing) {
-    test::MakeGame(file_);
-    for (int step = store::kLatestStep; step >= 1; --step)
-        test::TakeBack(file_, step);
-    OpenUpgraded(file_, test::DefaultDataFile(), host_);
-    const std::string once = test::ReadBytes(file_);
-    test::RecordingHost again;
-    OpenUpgraded(file_, test::DefaultDataFile(), again);
-    EXPECT_TRUE(test::ReadBytes(file_) == once);
-    EXPECT_TRUE(again.lists.empty());
-}
+INSTANTIATE_TEST_SUITE_P(Kinds, Present, kEveryKind);
 
 TEST_F(Ages, AFileIsNumberedByTheLatestStep) {
     test::MakeGame(file_);

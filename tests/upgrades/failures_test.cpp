@@ -66,6 +66,30 @@ TEST_F(Failures, ASectionThatNoStepNeedsIsNotMissed) {
     EXPECT_EQ(ErrorOf(DataWithout("VELCOMMANDS")), "it was upgraded");
 }
 
+TEST_F(Failures, ARowForAFieldThatIsNotThereIsRefusedInOneSentence) {
+    test::MakeGame(file_);
+    test::RawDatabase(file_).Run("ALTER TABLE Adventure DROP COLUMN source");
+    const std::string before = test::ReadBytes(file_);
+    EXPECT_EQ(ErrorOf(test::DefaultDataFile()), "Could not open " + file_.string() + ": it is damaged.");
+    EXPECT_TRUE(test::ReadBytes(file_) == before);
+}
+
+TEST_F(Failures, ARowForATableThatIsNotThereIsRefusedInOneSentence) {
+    test::MakeGame(file_);
+    test::RawDatabase(file_).Run("DROP TABLE Templates");
+    const std::string before = test::ReadBytes(file_);
+    EXPECT_EQ(ErrorOf(test::DefaultDataFile()), "Could not open " + file_.string() + ": it is damaged.");
+    EXPECT_TRUE(test::ReadBytes(file_) == before);
+}
+
+TEST_F(Failures, AFieldThatNoStepKnowsAndNoRowTellsOfIsRefused) {
+    test::MakeGame(file_);
+    test::RawDatabase(file_).Run("DELETE FROM Tables WHERE tablenum=1 AND fieldname='exits'");
+    const std::string before = test::ReadBytes(file_);
+    EXPECT_EQ(ErrorOf(test::DefaultDataFile()), "Could not open " + file_.string() + ": it is damaged.");
+    EXPECT_TRUE(test::ReadBytes(file_) == before);
+}
+
 TEST_F(Failures, AFullDiskLeavesTheOldFile) {
     MakeOldest();
     const std::string before = test::ReadBytes(file_);
@@ -140,6 +164,23 @@ TEST_F(Failures, AFileThatMayNotBeWrittenStaysAndIsRead) {
     EXPECT_EQ(adventure->OpenTable(store::TableNum::ProcDesc, "*").RecordCount(), 3);
     EXPECT_EQ(adventure->CurrentFile(), file_);
     EXPECT_THROW(adventure->DeleteFrom(store::TableNum::Flags), Error);
+    EXPECT_TRUE(test::ReadBytes(file_) == before);
+}
+
+TEST_F(Failures, WithoutDefaultDataAPresentFileIsOpenedAsItIs) {
+    test::MakeGame(file_);
+    const std::string before = test::ReadBytes(file_);
+    EXPECT_EQ(ErrorOf(folder_ / "nowhere.ini"), "it was upgraded");
+    EXPECT_TRUE(test::ReadBytes(file_) == before);
+    OpenForReading(file_, {}, [](std::string_view) {});
+}
+
+TEST_F(Failures, WithoutDefaultDataAnOldFileIsRefusedAndStays) {
+    MakeOldest();
+    const std::string before = test::ReadBytes(file_);
+    EXPECT_EQ(ErrorOf(folder_ / "nowhere.ini"),
+              "Could not open " + file_.string() +
+                  ": it was made by an older version of Fabula and must be upgraded first.");
     EXPECT_TRUE(test::ReadBytes(file_) == before);
 }
 

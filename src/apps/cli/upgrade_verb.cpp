@@ -15,11 +15,12 @@ struct Options {
 };
 
 int Upgrade(const Options& options) {
+    const auto defaultData = DefaultDataFile();
     if (!options.check) {
         OpenToChange(options.file);
         return kDone;
     }
-    const upgrades::Outlook outlook = upgrades::LookAhead(options.file, DefaultDataFile());
+    const upgrades::Outlook outlook = upgrades::LookAhead(options.file, defaultData);
     for (const std::string& step : outlook.steps)
         std::cout << step << "\n";
     for (const upgrades::Report& report : outlook.reports)

@@ -23,8 +23,7 @@ std::unique_ptr<store::Adventure> OpenToRead(const std::string& file) {
 
 std::unique_ptr<store::Adventure> OpenToChange(const std::string& file) {
     UpgradeTerminal terminal;
-    return upgrades::Upgraded(store::Adventure::OpenForChange(file, store::Ages::Any), DefaultDataFile(),
-                              terminal);
+    return upgrades::OpenUpgraded(file, FindDefaultData(), terminal);
 }
 
 }  // namespace fabula::cli

@@ -2,17 +2,15 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStandardPaths>
-#include <QVBoxLayout>
 
+#include "qt/report_window.h"
 #include "qt/strings.h"
 #include "text/fields.h"
 
@@ -82,19 +80,12 @@ std::optional<std::string> QtDialogs::AskText(const platform::TextQuestion& ques
 }
 
 void QtDialogs::Report(std::string_view text, std::string_view title) {
-    QDialog window(Parent());
-    window.setWindowTitle(ToQt(title));
-    auto* pane = new QPlainTextEdit(ToQt(text), &window);
-    pane->setReadOnly(true);
-    pane->setAccessibleName(ToQt(title));
-    pane->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &window);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
-    auto* layout = new QVBoxLayout(&window);
-    layout->addWidget(pane);
-    layout->addWidget(buttons);
-    window.resize(640, 440);
-    window.exec();
+    ReportWindow(text, title, ReportWindow::Answer::Close, Parent()).exec();
+}
+
+bool QtDialogs::ProceedFromReport(std::string_view text, std::string_view title) {
+    return ReportWindow(text, title, ReportWindow::Answer::OkOrCancel, Parent()).exec() ==
+           QDialog::Accepted;
 }
 
 platform::Leaving QtDialogs::AskLeaving(std::string_view text, std::string_view title) {

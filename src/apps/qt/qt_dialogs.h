@@ -21,6 +21,7 @@ class QtDialogs final : public platform::Dialogs {
     std::optional<std::filesystem::path> ChooseFile(const platform::FileQuestion& question) override;
     std::optional<std::string> AskText(const platform::TextQuestion& question) override;
     void Report(std::string_view text, std::string_view title) override;
+    bool ProceedFromReport(std::string_view text, std::string_view title) override;
 
   private:
     QWidget* Parent() const;

@@ -79,10 +79,9 @@ bool MainScreen::Guard(const std::function<void()>& step) {
     }
 }
 
-void MainScreen::Start(const std::function<void()>& show) {
+void MainScreen::Start() {
     const std::filesystem::path file = LastFile(host_.settings);
     if (!file.empty()) OpenFile(file);
-    show();
     Guard([&] { NoteVersions(); });
 }
 
@@ -91,7 +90,8 @@ void MainScreen::NoteVersions() {
     if (desk_ && !desk_->document.IsReadOnly())
         report.push_back(NoteVersion(desk_->document.Adventure(), Program::Ide, paths_.version));
     report.push_back(ListVersion(paths_.versionFolders, Program::Ide, paths_.version, host_.clock.Now()));
-    ReportVersions(report, host_.dialogs);
+    const std::string told = VersionReport(report);
+    if (!told.empty()) message_ += (message_.empty() ? "" : " ") + told;
 }
 
 void MainScreen::End() {
@@ -174,18 +174,19 @@ bool MainScreen::OpenFile(const std::filesystem::path& file) {
     return opened && wanted;
 }
 
-/// Opens a file for change and brings it up to date. One that can't be changed is opened to read, and stays
-/// of its age: where it can't be written the person is told, and where it is open for change elsewhere
-/// asked; nullptr for no.
+/// Opens a file for change and brings it up to date. One that can't be changed is opened to read, an older
+/// one as an upgraded copy: where it can't be written the person is told, and where it is open for change
+/// elsewhere asked; nullptr for no.
 std::unique_ptr<MainScreen::Desk> MainScreen::OpenDesk(const std::filesystem::path& file,
                                                        Upgrading& upgrading) {
     const auto toRead = [&] {
-        return std::make_unique<Desk>(store::Adventure::Open(file, store::OpenMode::ReadOnly),
-                                      store::OpenMode::ReadOnly, host_.dialogs);
+        auto adventure = upgrades::OpenForReading(
+            file, paths_.defaultData,
+            [this](std::string_view sentence) { host_.dialogs.Tell(sentence, kProgramName); });
+        return std::make_unique<Desk>(std::move(adventure), store::OpenMode::ReadOnly, host_.dialogs);
     };
     try {
-        auto adventure = upgrades::Upgraded(store::Adventure::OpenForChange(file, store::Ages::Any),
-                                            paths_.defaultData, upgrading);
+        auto adventure = upgrades::OpenUpgraded(file, paths_.defaultData, upgrading);
         return std::make_unique<Desk>(std::move(adventure), store::OpenMode::ReadWrite, host_.dialogs);
     } catch (const store::OpenError& refused) {
         const std::string why = refused.what();

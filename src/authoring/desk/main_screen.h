@@ -81,9 +81,9 @@ class MainScreen {
     // --- Start and end of the program ---
 
     /// Opens the adventure that was open the last time, notes the version of the program in it and in the
-    /// list of versions, and reports what is new. When the file is gone the program starts without an
-    /// adventure. `show` is called before the report, which would stand in front of an empty window.
-    void Start(const std::function<void()>& show = [] {});
+    /// list of versions, and tells in the status line what is new. When the file is gone the program starts
+    /// without an adventure.
+    void Start();
     /// Remembers the open adventure and where the author was, and deletes old work files.
     void End();
     /// The author has been told that the program has to end.

@@ -32,7 +32,7 @@ void Upgrading::Show(const upgrades::Report& report) {
 }
 
 bool Upgrading::ShowFlagChange(const upgrades::Report& report) {
-    return !host_.dialogs.Proceed(report.text, report.title);
+    return !host_.dialogs.ProceedFromReport(report.text, report.title);
 }
 
 void Upgrading::BackUp(store::Adventure& adventure) {

@@ -119,14 +119,15 @@ std::string ListVersion(const std::vector<path>& folders, Program program, std::
            " to VersionNumbers.dat: no folder for it can be written.";
 }
 
-void ReportVersions(const std::vector<std::string>& lines, platform::Operator& person) {
+std::string VersionReport(const std::vector<std::string>& lines) {
     std::string report;
     for (const std::string& line : lines) {
         if (line.empty()) continue;
-        if (!report.empty()) report += "\n";
+        if (!report.empty()) report += " ";
         report += line;
+        if (!line.ends_with('.')) report += ".";
     }
-    if (!report.empty()) person.Tell(report, "Changes to DataBase System Version(s)");
+    return report;
 }
 
 }  // namespace fabula::authoring

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "platform/clock.h"
-#include "platform/operator.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {
@@ -29,8 +28,8 @@ std::string NoteVersion(store::Adventure& adventure, Program program, std::strin
 std::string ListVersion(const std::vector<std::filesystem::path>& folders, Program program,
                         std::string_view version, const platform::DateTime& today);
 
-/// Shows the lines that are not empty in one box; without any, nothing.
-void ReportVersions(const std::vector<std::string>& lines, platform::Operator& person);
+/// The lines that are not empty as sentences in a row; "" without any.
+std::string VersionReport(const std::vector<std::string>& lines);
 
 /// A version file is read so far, in bytes.
 inline constexpr std::size_t kLargestVersionFile = 1024 * 1024;

@@ -57,7 +57,6 @@ void Click(QWidget& control) {
 
 Author::Author() {
     LookOut();
-    Expects("Changes to DataBase System Version(s)", [this] { Presses(Qt::Key_Return); });
     desk_.emplace(&boxes_);
 }
 

@@ -27,7 +27,7 @@ namespace fabula::test {
 /// done in it, fails the test and is closed.
 class Author {
   public:
-    /// Starts the program, and closes what it tells at its first start.
+    /// Starts the program.
     Author();
 
     /// Says what to do in the dialog that opens next, or next after those that are expected already.

@@ -7,6 +7,7 @@
 #include "ide/dialogs/colour_dialog.h"
 #include "ide/dialogs/flag_dialog.h"
 #include "ide/dialogs/interchange_dialog.h"
+#include "ide/dialogs/key_dialogs.h"
 #include "ide/dialogs/location_dialog.h"
 #include "ide/dialogs/message_dialog.h"
 #include "ide/dialogs/object_dialog.h"
@@ -173,6 +174,32 @@ Opened OpenSort(Desk& desk) {
     return Keep<ide::SortDialog>(std::make_shared<Parts>(desk));
 }
 
+Opened OpenKeySelect(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : screen(of.context), dialog(screen) {}
+        authoring::KeySelectScreen screen;
+        ide::KeySelectDialog dialog;
+    };
+    return Keep<ide::KeySelectDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenKeyChange(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : screen(of.context, Selection(of)), dialog(screen, of.dialogs) {}
+        static authoring::KeySelection Selection(Desk& of) {
+            authoring::KeySelectScreen select(of.context);
+            select.table = "ProcessTables";
+            select.process = "0";
+            select.w1 = "GET";
+            select.w2 = "LAMP";
+            return select.Select().value();
+        }
+        authoring::KeyChangeScreen screen;
+        ide::KeyChangeDialog dialog;
+    };
+    return Keep<ide::KeyChangeDialog>(std::make_shared<Parts>(desk));
+}
+
 Opened OpenVerify(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
@@ -241,6 +268,8 @@ const std::vector<DialogStand>& EveryDialog() {
         {"Export", "Export of Database", "source",
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Export); }},
         {"Verify", "Verify Adventure", "status", OpenVerify},
+        {"KeySelect", "Correct Table Key: Select", "table", OpenKeySelect},
+        {"KeyChange", "Change incorrect key and Finish", "rows", OpenKeyChange},
     };
     return kStands;
 }

@@ -35,6 +35,10 @@ class YesSayer final : public platform::Dialogs {
         return question.proposal;
     }
     void Report(std::string_view text, std::string_view) override { told.emplace_back(text); }
+    bool ProceedFromReport(std::string_view text, std::string_view) override {
+        told.emplace_back(text);
+        return true;
+    }
 
     std::vector<std::string> told;
 };

@@ -59,7 +59,7 @@ TEST_F(CommandsTest, FollowTheTableInTheGrid) {
         Enabled(*main),
         ElementsAre("NewAdv", "Open", "SaveAs", "Close", "In", "Export", "Exit", "NewTab", "Edit", "Delete",
                     "Find", "FindNext", "Filter", "Run", "Trace", "Verify", "Settings", "CharTable",
-                    "LstRecs", "ShortDesc", "Help", "HelpContents", "AboutAdventure", "About"));
+                    "LstRecs", "ShortDesc", "KeyChange", "Help", "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
     EXPECT_FALSE(IsEnabled(Command::Edit));

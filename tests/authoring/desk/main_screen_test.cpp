@@ -82,30 +82,16 @@ TEST_F(MainWindowTest, StartsInTheProcessTableThatWasLastInView) {
     EXPECT_EQ(main->CurrentContext().currentESNum, kOtherProcesses);
 }
 
-TEST_F(MainWindowTest, ShowsTheAdventureBeforeItReportsVersions) {
-    settings.Set("Startup", "File", Make("game.fbd").string());
-    const std::size_t before = dialogs.Boxes().size();
-    std::string title;
-    std::size_t told = before + 1;
-    main->Start([&] {
-        title = main->Title();
-        told = dialogs.Boxes().size();
-    });
-    EXPECT_EQ(title, "Fabula IDE - game");
-    EXPECT_EQ(told, before);
-    EXPECT_EQ(dialogs.Boxes().size(), before + 1);
-}
-
-TEST_F(MainWindowTest, ReportsAnotherVersionOfTheProgramAtTheStart) {
+TEST_F(MainWindowTest, TellsAnotherVersionOfTheProgramInTheStatusLineAtTheStart) {
     OpenNew();
-    Restart();
-    EXPECT_EQ(dialogs.Boxes().back().title, "Changes to DataBase System Version(s)");
-    EXPECT_THAT(dialogs.Boxes().back().text, testing::HasSubstr("IDEVersion changed from space to 1.2.3"));
-    EXPECT_THAT(dialogs.Boxes().back().text,
-                testing::HasSubstr("Version 1.2.3 added to VersionNumbers.dat."));
     const std::size_t boxes = dialogs.Boxes().size();
     Restart();
-    EXPECT_EQ(dialogs.Boxes().size(), boxes);
+    EXPECT_EQ(main->Message(),
+              "Opened game.fbd. IDEVersion changed from space to 1.2.3. Version 1.2.3 added to "
+              "VersionNumbers.dat.");
+    EXPECT_EQ(dialogs.Boxes().size(), boxes) << "no box stands before the author has done anything";
+    Restart();
+    EXPECT_EQ(main->Message(), "Opened game.fbd.");
 }
 
 TEST_F(MainWindowTest, RemembersItsFileAtTheEnd) {

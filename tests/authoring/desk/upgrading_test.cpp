@@ -68,16 +68,48 @@ TEST_F(Upgrades, AnUpgradedFileIsOpenForChangeOnce) {
     EXPECT_THROW(store::Adventure::OpenForChange(file), store::OpenError);
 }
 
-TEST_F(Upgrades, AnOldFileThatCannotBeWrittenIsRefusedAndStays) {
+TEST_F(Upgrades, AnOldFileThatCannotBeWrittenIsReadAsAnUpgradedCopy) {
     const auto file = MakeOld(kWithoutSource);
     const std::string before = test::ReadBytes(file);
     std::filesystem::permissions(file, std::filesystem::perms::owner_read);
-    EXPECT_FALSE(stand_.main->OpenFile(file));
+    EXPECT_TRUE(stand_.main->OpenFile(file));
     EXPECT_EQ(stand_.Boxes(),
-              std::vector<std::string>{"Could not open " + file.string() +
+              (std::vector<std::string>{
+                  "old.fbd was made by an older version of Fabula; an upgraded copy in memory is used, and "
+                  "the file stays as it is.",
+                  "Could not open " + file.string() +
+                      ": it can only be read. It is opened to read only; Save As makes a copy that can be "
+                      "changed."}));
+    EXPECT_TRUE(stand_.Adventure().Schema(store::TableNum::Adventure).Find("source"));
+    EXPECT_TRUE(test::ReadBytes(file) == before);
+}
+
+TEST_F(Upgrades, SaveAsOfAnUpgradedCopyMakesAFileOfThePresentForm) {
+    const auto file = MakeOld(kWithoutSource);
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    EXPECT_TRUE(stand_.main->OpenFile(file));
+    stand_.dialogs.AnswerFile(stand_.folder / "new.fbd");
+    EXPECT_TRUE(stand_.main->SaveAs());
+    EXPECT_EQ(stand_.main->Title(), "Fabula IDE - new");
+    stand_.StoreMessage(9, "nine");
+    EXPECT_EQ(test::RawDatabase(stand_.folder / "new.fbd").Ask("SELECT source FROM Adventure"), "Unknown");
+    EXPECT_EQ(
+        test::RawDatabase(stand_.folder / "new.fbd").Ask("SELECT msgmsg FROM Messages WHERE msgnum=9"),
+        "nine");
+}
+
+TEST_F(Upgrades, WithoutTheDefaultDataAPresentFileIsOpenedAndAnOldOneRefused) {
+    const auto present = stand_.Make("present.fbd");
+    const auto old = MakeOld(kWithoutSource);
+    stand_.paths.defaultData = stand_.folder / "Fabula.ini";
+    stand_.Restart();
+    EXPECT_TRUE(stand_.main->OpenFile(present));
+    EXPECT_FALSE(stand_.main->OpenFile(old));
+    EXPECT_EQ(stand_.Boxes(),
+              std::vector<std::string>{"Could not open " + old.string() +
                                        ": it was made by an older version of Fabula and must be "
                                        "upgraded first."});
-    EXPECT_TRUE(test::ReadBytes(file) == before);
+    EXPECT_EQ(stand_.main->Title(), "Fabula IDE - present");
 }
 
 TEST_F(Upgrades, TheBoxOfTheStepsGoesWhenAStepFails) {
@@ -126,7 +158,8 @@ TEST_F(Upgrades, CancelEndsTheReportOfMovedFlags) {
     EXPECT_TRUE(stand_.main->OpenFile(file));
     stand_.main->Close();
     EXPECT_TRUE(stand_.main->OpenFile(file));
-    EXPECT_EQ(stand_.dialogs.Boxes().size(), 2u);
+    ASSERT_EQ(stand_.dialogs.Reports().size(), 2u);
+    EXPECT_EQ(stand_.dialogs.Reports()[1].title, "Version 6 Flag Change");
 }
 
 TEST_F(Upgrades, AFailureLeavesTheOpenAdventureAndTheFile) {

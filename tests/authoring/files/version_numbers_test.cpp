@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "platform/scripted_dialogs.h"
 #include "support/template_adventure.h"
 
 namespace fabula::authoring {
@@ -119,21 +118,14 @@ TEST_F(ListVersionTest, LetsAHugeFileGrowNoFurther) {
     EXPECT_EQ(std::filesystem::file_size(Installed()), kLargestVersionFile);
 }
 
-TEST(ReportVersions, ShowsTheLinesInOneBox) {
-    platform::ScriptedDialogs dialogs;
-    ReportVersions(
-        {"IDEVersion changed from space to 0.1.0", "", "Version 0.1.0 added to VersionNumbers.dat."},
-        dialogs);
-    ASSERT_EQ(dialogs.Boxes().size(), 1U);
-    EXPECT_EQ(dialogs.Boxes()[0].text,
-              "IDEVersion changed from space to 0.1.0\nVersion 0.1.0 added to VersionNumbers.dat.");
-    EXPECT_EQ(dialogs.Boxes()[0].title, "Changes to DataBase System Version(s)");
+TEST(VersionReport, IsTheLinesAsSentences) {
+    EXPECT_EQ(VersionReport({"IDEVersion changed from space to 0.1.0", "",
+                             "Version 0.1.0 added to VersionNumbers.dat."}),
+              "IDEVersion changed from space to 0.1.0. Version 0.1.0 added to VersionNumbers.dat.");
 }
 
-TEST(ReportVersions, ShowsNothingWhenNothingChanged) {
-    platform::ScriptedDialogs dialogs;
-    ReportVersions({"", ""}, dialogs);
-    EXPECT_TRUE(dialogs.Boxes().empty());
+TEST(VersionReport, IsNothingWhenNothingChanged) {
+    EXPECT_EQ(VersionReport({"", ""}), "");
 }
 
 }  // namespace

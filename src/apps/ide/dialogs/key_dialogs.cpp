@@ -10,7 +10,6 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-#include "ide/editors/help_pages.h"
 #include "platform/error.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
@@ -43,7 +42,7 @@ QDialogButtonBox* Buttons(QDialog& dialog, const QString& accept, const char* na
 QVBoxLayout* Prepare(QDialog& dialog, const char* name, std::string_view title) {
     dialog.setObjectName(name);
     dialog.setWindowTitle(qt::ToQt(title));
-    dialog.setProperty(qt::kHelpPage, kMainWindowPage);
+    dialog.setProperty(qt::kHelpPage, "frmkeychange.html");
     dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* layout = new QVBoxLayout(&dialog);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -107,6 +106,8 @@ KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::D
     : QDialog(parent), screen_(screen), dialogs_(dialogs), rows_(new QTableWidget) {
     auto* layout = Prepare(*this, "keyChange", authoring::KeyChangeScreen::kTitle);
     rows_->setObjectName("rows");
+    rows_->setAccessibleName(tr("Records"));
+    rows_->setTabKeyNavigation(false);
     rows_->setColumnCount(2);
     rows_->setHorizontalHeaderLabels({qt::ToQt(screen.KeyName()), qt::ToQt(screen.ShownName())});
     rows_->horizontalHeader()->setStretchLastSection(true);

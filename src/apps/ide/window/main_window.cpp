@@ -234,7 +234,7 @@ void MainWindow::Start(const std::filesystem::path& file) {
     const bool isFile = std::filesystem::is_regular_file(file, error);
     const auto remembered = std::filesystem::absolute(file, error).string();
     if (isFile) services_.settings.Set(authoring::startup::kSection, authoring::startup::kFile, remembered);
-    ide_.Start([this] { ShowChanges(); });
+    ide_.Start();
     if (!isFile && !file.empty()) ide_.OpenFile(file);
     ShowChanges();
 }
