@@ -1,5 +1,7 @@
 // Files from before each step come out as the file was before it was taken back.
 
+#include <map>
+
 #include <gtest/gtest.h>
 
 #include "old_file.h"
@@ -19,6 +21,18 @@ class Ages : public testing::Test {
     /// The type is the one thing that no step knows.
     void AnswerType(AdventureKind kind) {
         host_.answer = ChosenType{std::string(store::NameOf(kind)), false, kind == AdventureKind::Marlo};
+    }
+
+    /// What a fresh game of a kind holds. It is the same each time.
+    static const Contents& Fresh(AdventureKind kind) {
+        static std::map<AdventureKind, Contents> known;
+        Contents& contents = known[kind];
+        if (contents.empty()) {
+            const test::TempFolder folder;
+            test::MakeGame(folder / "game.fbd", kind);
+            contents = test::ContentsOf(folder / "game.fbd");
+        }
+        return contents;
     }
 
     Contents Upgraded() { return test::ContentsOf(*OpenUpgraded(file_, test::DefaultDataFile(), host_)); }
@@ -70,15 +84,13 @@ class OneStep : public Ages, public testing::WithParamInterface<StepAndKind> {};
 TEST_P(OneStep, IsDoneAgain) {
     const auto [step, kind] = GetParam();
     test::MakeGame(file_, kind);
-    const Contents before = test::ContentsOf(file_);
     test::TakeBack(file_, step);
     AnswerType(kind);
-    ExpectSame(Upgraded(), before);
+    ExpectSame(Upgraded(), Fresh(kind));
     const std::string number = std::to_string(step) + " - ";
     ASSERT_FALSE(host_.lists.empty());
     EXPECT_EQ(host_.lists.front().substr(0, number.size()), number);
     EXPECT_EQ(host_.changes, 1);
-    ExpectDone(file_);
 }
 
 INSTANTIATE_TEST_SUITE_P(Numbered, OneStep,
@@ -90,10 +102,9 @@ class Age : public Ages, public testing::WithParamInterface<StepAndKind> {};
 TEST_P(Age, BecomesThePresent) {
     const auto [step, kind] = GetParam();
     test::MakeGame(file_, kind);
-    const Contents before = test::ContentsOf(file_);
     TakeBackTo(file_, step);
     AnswerType(kind);
-    ExpectSame(Upgraded(), before);
+    ExpectSame(Upgraded(), Fresh(kind));
     ExpectDone(file_);
 }
 
@@ -105,6 +116,7 @@ INSTANTIATE_TEST_SUITE_P(BeforeStep, Age,
 struct OldData {
     const char* old;
     const char* present;
+    int since = 0;  ///< the step that made it possible
 };
 
 constexpr OldData kOldData[] = {
@@ -119,7 +131,8 @@ constexpr OldData kOldData[] = {
     {"UPDATE ProcessTables SET condacts='PLACE 0 NOTCR', numericcondacts='208 0 NOTCR', numcas=2 WHERE "
      "canum=1",
      "UPDATE ProcessTables SET condacts='PLACE 0 252', numericcondacts='208 0 252', numcas=2 WHERE "
-     "canum=1"},
+     "canum=1",
+     8},
     {"UPDATE Flags SET flgtype='System', flguse='Switch' WHERE flgnum IN (28,255)",
      "UPDATE Flags SET flgtype='User', flguse='Unknown' WHERE flgnum IN (28,255)"},
     {"DELETE FROM Flags WHERE flgnum>255", ""},
@@ -148,8 +161,9 @@ class AgeWithItsData : public Ages, public testing::WithParamInterface<int> {
             "UPDATE Locations SET locdesc='&lt;Fish&gt; &amp; chips' WHERE locnum=1");
     }
     void MakeOld(int step, const std::string& version) {
-        for (const OldData& data : kOldData)
-            test::RawDatabase(file_).Run(data.old);
+        for (const OldData& data : kOldData) {
+            if (step > data.since) test::RawDatabase(file_).Run(data.old);
+        }
         test::RawDatabase(file_).Run("UPDATE System SET sysinidate='1999-01-01', sysexportversion='" +
                                      version + "'");
         TakeBackTo(file_, step);
