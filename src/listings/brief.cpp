@@ -1,0 +1,59 @@
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+#include <string>
+
+#include "listings/record.h"
+#include "listings/reports.h"
+
+namespace fabula::listings {
+namespace {
+
+using store::TableNum;
+
+/// A table of a brief listing: the number, and the fields of which the first that says something is told.
+struct BriefTable {
+    TableNum table{};
+    std::string_view name;
+    std::string_view fields;
+    int texts = 1;
+};
+
+constexpr std::array<BriefTable, 5> kTables = {{
+    {TableNum::Locations, "Location Table", "locnum, locshortdesc, locdesc", 2},
+    {TableNum::Objects, "Object Table", "objnum, objdesc"},
+    {TableNum::Messages, "Messages Table", "msgnum, msgmsg"},
+    {TableNum::SystemMessages, "System Message Table", "smsgnum, smsgmsg"},
+    {TableNum::Flags, "Flag Descriptions Table", "flgnum, flgdesc, flguse", 2},
+}};
+
+constexpr std::string_view kFormat = "!%A!%t10!%a";
+constexpr TextArea kArea{10, 70};
+
+std::string_view FirstWithText(const store::PreparedQuery& rows, int texts) {
+    for (int i = 1; i <= texts; ++i) {
+        if (!IsEmpty(rows.Text(i))) return rows.Text(i);
+    }
+    return "";
+}
+
+}  // namespace
+
+void WriteBrief(const Listing& listing, TableNum number) {
+    const auto table =
+        std::ranges::find_if(kTables, [&](const BriefTable& each) { return each.table == number; });
+    if (table == kTables.end()) throw std::logic_error("a table without a brief listing");
+    listing.frame.Begin("Brief " + std::string(table->name),
+                        {Heading("!Number!%t10!Description"), Heading("!%c6-!%t10!%c70-")});
+    store::PreparedQuery rows = listing.adventure.Prepare(number, table->fields, "");
+    for (bool more = rows.First({}); more; more = rows.Next()) {
+        const auto key = rows.Number(0);
+        const Place place{number, static_cast<int>(key)};
+        Record record(place);
+        record.Row(kFormat, {key, WrappedText(FirstWithText(rows, table->texts), kArea.width).front()});
+        record.LinkTo(place, 0, std::to_string(key).size());
+        listing.frame.Add(record.Take());
+    }
+}
+
+}  // namespace fabula::listings

@@ -1,0 +1,132 @@
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "listings/record.h"
+#include "listings/reports.h"
+#include "pictures/book_loader.h"
+#include "pictures/drawing.h"
+#include "pictures/drawstring.h"
+#include "platform/error.h"
+#include "text/utf8.h"
+
+namespace fabula::listings {
+namespace {
+
+using store::TableNum;
+
+/// A picture of 256 by 176 points: 64 columns, of which a line is two high, and 22 lines.
+constexpr int kPictureColumns = pictures::kCanvasWidth / 4;
+constexpr int kPictureLines = pictures::kCanvasHeight / 8;
+constexpr std::size_t kPictureColumn = 6;
+
+/// The columns of the picture's name; more for longer names, in the whole listing.
+constexpr std::size_t kNameColumns = 20;
+
+/// Paper and ink take two digits where the headings leave room for three.
+std::string RecordFormat(std::size_t nameColumns) {
+    return "%s3!  !%a10!  !%s2!   !%s2!  !%a" + std::to_string(nameColumns) + "!   !%s3";
+}
+
+/// A command in a drawstring, by the number of its parameters.
+constexpr std::string_view kCommandFormats[] = {
+    "%a",
+    "%a7!   !%a7",
+    "%a7!   !%a7!%a7",
+    "%a7!   !%a7!%a7!%a7",
+    "%a7!   !%a7!%a7!%a7!%a7",
+    "%a7!   !%a7!%a7!%a7!%a7!%a7",
+};
+
+/// Where the last parameter of a command stands, counted from 0.
+std::size_t LastParameterColumn(std::size_t parameters) {
+    return 10 + 7 * (parameters - 1);
+}
+
+void AddCommands(const Listing& listing, const pictures::CommandCatalogue& commands,
+                 const std::string& drawstring) {
+    const std::vector<std::string> words = pictures::DrawstringWords(drawstring);
+    for (std::size_t at = 0; at < words.size();) {
+        const pictures::Command* const command = commands.Find(words[at]);
+        const auto wanted = static_cast<std::size_t>(command ? command->drawnParameters : 0);
+        const std::size_t count = std::min(wanted, words.size() - at - 1);
+        std::vector<text::Value> values;
+        for (std::size_t i = 0; i <= count; ++i)
+            values.emplace_back(words[at + i]);
+        Record record;
+        record.Row(kCommandFormats[count], std::move(values));
+        const auto number = pictures::ParameterValue(words[at + count]);
+        if (command && command->number == pictures::kGoSub && count == wanted && number)
+            record.LinkTo({TableNum::Pictures, *number}, LastParameterColumn(count),
+                          words[at + count].size());
+        listing.frame.Add(record.Take());
+        at += 1 + count;
+    }
+}
+
+/// The picture as it is drawn, or in its place why it can't be.
+void AddDrawing(const Listing& listing, const pictures::PictureBook& book, int number) {
+    Record record;
+    try {
+        const pictures::Canvas canvas = pictures::DrawPicture(book, number);
+        record.Row("", {});
+        record.AddPicture({.column = kPictureColumn,
+                           .columns = kPictureColumns,
+                           .lines = kPictureLines,
+                           .image = std::make_shared<pictures::Image>(pictures::ImageOf(canvas.colour)),
+                           .description = "Picture " + std::to_string(number)});
+    } catch (const Error& failure) {
+        record.Text("%a", {}, failure.what(), {});
+    }
+    listing.frame.Add(record.Take());
+}
+
+void AddPicture(const Listing& listing, const pictures::PictureBook& book, const std::string& format,
+                const store::PreparedQuery& row) {
+    const int number = static_cast<int>(row.Number(0));
+    const Place place{TableNum::Pictures, number};
+    Record record(place);
+    record.Row(format, {row.Number(0), std::string(row.Text(1)), row.Number(2), row.Number(3),
+                        std::string(row.Text(4)), row.Number(5)});
+    const std::string key = std::to_string(number);
+    record.LinkTo(place, key.size() < 3 ? 3 - key.size() : std::size_t{0}, key.size());
+    listing.frame.Add(record.Take());
+    AddDrawing(listing, book, number);
+    Record heading;
+    heading.Row("Graphics Picture Commands", {});
+    listing.frame.Add(heading.Take());
+    AddCommands(listing, book.commands, std::string(row.Text(6)));
+}
+
+bool IsAsked(const ReportRequest& request, std::int64_t number) {
+    const auto& asked = request.numbers;
+    return !asked || std::ranges::find(*asked, number) != asked->end();
+}
+
+std::size_t NameColumns(store::Adventure& adventure, const ReportRequest& request) {
+    std::size_t columns = kNameColumns;
+    store::PreparedQuery rows = adventure.Prepare(TableNum::Pictures, "locnum, picname", "");
+    for (bool more = rows.First({}); more; more = rows.Next()) {
+        if (IsAsked(request, rows.Number(0))) columns = std::max(columns, text::Length(rows.Text(1)));
+    }
+    return columns;
+}
+
+}  // namespace
+
+void WriteGraphics(const Listing& listing, const ReportRequest& request) {
+    const pictures::PictureBook book = pictures::LoadPictureBook(listing.adventure);
+    const std::size_t names = NameColumns(listing.adventure, request);
+    listing.frame.Begin("Listing of Graphics Table",
+                        {"Num  Type       Paper Ink " + text::PadRight("Picture Name", names) + " RoomNum",
+                         "---  ---------- ----- --- " + std::string(names, '-') + " --------"});
+    store::PreparedQuery rows = listing.adventure.Prepare(
+        TableNum::Pictures, "locnum, loctype, locpaper, locink, picname, roompicnum, drawstring", "");
+    for (bool more = rows.First({}); more; more = rows.Next()) {
+        if (IsAsked(request, rows.Number(0))) AddPicture(listing, book, RecordFormat(names), rows);
+    }
+}
+
+}  // namespace fabula::listings

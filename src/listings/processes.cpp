@@ -1,0 +1,150 @@
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "condacts/words.h"
+#include "listings/condition_texts.h"
+#include "listings/record.h"
+#include "listings/reports.h"
+#include "platform/error.h"
+
+namespace fabula::listings {
+namespace {
+
+using store::TableNum;
+
+/// Columns, counted from 0: of the conditions and actions, and of their parameters.
+constexpr std::size_t kCondActColumn = 62;
+constexpr std::size_t kFirstParameter = 70;
+constexpr std::size_t kSecondParameter = 77;
+constexpr TextArea kDescription{93, 40};
+
+constexpr std::string_view kColumnHeads = "Verb!%c27 !Noun!%c27 !Condition/Action";
+constexpr std::string_view kRule = "%c30-! !%c30-! !%c25-";
+
+/// Verb and noun, then the name of a condition or action and its parameters, by their number.
+constexpr std::string_view kCondActFormats[] = {"%a30! !%a30! !%a", "%a30! !%a30! !%a7! !%a",
+                                                "%a30! !%a30! !%a7! !%a7 !%a"};
+constexpr std::string_view kFault = "%a30! !%a30! !%a";
+
+/// What stands before a condition or action: the words of the entry in its first line.
+struct EntryWords {
+    std::string verb;
+    std::string noun;
+};
+
+void AddCondAct(Record& record, const EntryWords& words, const ShownCondAct& condAct) {
+    if (condAct.fault) {
+        record.Row(kFault, {words.verb, words.noun, condAct.name});
+        return;
+    }
+    const std::size_t count = condAct.parameters.size();
+    std::vector<text::Value> values{words.verb, words.noun, condAct.name};
+    for (const ShownParameter& parameter : condAct.parameters)
+        values.emplace_back(parameter.text);
+    record.Row(kCondActFormats[count], std::move(values));
+    for (std::size_t i = 0; i < count; ++i) {
+        const ShownParameter& parameter = condAct.parameters[i];
+        const std::size_t column = i == 0 ? kFirstParameter : kSecondParameter;
+        if (parameter.names) record.LinkTo(*parameter.names, column, parameter.text.size());
+    }
+    for (const ShownParameter& parameter : condAct.parameters)
+        record.Aside(parameter.tells, kDescription);
+}
+
+void AddEntry(const Listing& listing, const ConditionTexts& texts, const store::PreparedQuery& row) {
+    Record record;
+    EntryWords words{std::string(row.Text(0)), std::string(row.Text(1))};
+    const std::vector<ShownCondAct> shown = texts.Shown(row.Text(2));
+    if (shown.empty()) record.Row(kFault, {words.verb, words.noun, std::string()});
+    for (const ShownCondAct& condAct : shown) {
+        AddCondAct(record, words, condAct);
+        words = {};
+    }
+    listing.frame.Add(record.Take());
+}
+
+/// The description of a process table, in lines of the page.
+std::vector<std::string> DescriptionOf(store::Adventure& adventure, int process) {
+    store::PreparedQuery row =
+        adventure.Prepare(TableNum::ProcDesc, "pmsgmsg", "pmsgnum=" + std::to_string(process));
+    if (!row.First({})) return {};
+    return WrappedText(row.Text(0), static_cast<int>(kColumns));
+}
+
+std::vector<std::string> HeadingsOf(store::Adventure& adventure, int process, bool verbose) {
+    std::vector<std::string> headings = DescriptionOf(adventure, process);
+    headings.push_back(Heading(std::string(kColumnHeads) + (verbose ? "!%t93!Description" : "")));
+    headings.push_back(Heading(std::string(kRule) + (verbose ? "!%t93!%c40-" : "")));
+    return headings;
+}
+
+/// The numbers of the process tables that have entries, or such as a further part of a filter asks for.
+std::vector<int> TablesWithEntries(store::Adventure& adventure, const std::string& words) {
+    store::PreparedQuery rows =
+        adventure.Prepare(TableNum::ProcessTables, "estype", "estype>=0" + words, "estype");
+    std::vector<int> numbers;
+    for (bool more = rows.First({}); more; more = rows.Next()) {
+        const int number = static_cast<int>(rows.Number(0));
+        if (numbers.empty() || numbers.back() != number) numbers.push_back(number);
+    }
+    return numbers;
+}
+
+std::vector<int> AskedTables(const Listing& listing, const ReportRequest& request,
+                             const std::string& words = "") {
+    return request.numbers ? *request.numbers : TablesWithEntries(listing.adventure, words);
+}
+
+void WriteEntries(const Listing& listing, const ConditionTexts& texts, const std::string& where) {
+    store::PreparedQuery rows =
+        listing.adventure.Prepare(TableNum::ProcessTables, "w1, w2, condacts", where);
+    for (bool more = rows.First({}); more; more = rows.Next())
+        AddEntry(listing, texts, rows);
+}
+
+/// The number of a word of the vocabulary that the special listing looks for. Throws fabula::Error when
+/// there is none.
+int NumberOf(store::Adventure& adventure, const std::string& word, const std::string& types) {
+    store::PreparedQuery row = adventure.Prepare(TableNum::Vocabulary, "vocnum",
+                                                 "word=? and (" + types + ")", "voctypen, vocnum, word");
+    if (!row.First({std::string_view(word)}))
+        throw Error("The vocabulary has no such word for this listing: " + word + ".");
+    return static_cast<int>(row.Number(0));
+}
+
+/// A noun that stands for any noun asks for the entries of both such words.
+std::string FilterOfWords(store::Adventure& adventure, const ReportRequest& request) {
+    const int verb = NumberOf(adventure, request.verb, "voctypen=0 or voctypen=2 or voctypen=7");
+    const int noun = NumberOf(adventure, request.noun, "voctypen=7 or voctypen=2");
+    const bool any = noun == 1 || noun == condacts::kNoWordNumber;
+    const std::string nouns = any ? "(w2num=1 or w2num=255)" : "w2num=" + std::to_string(noun);
+    return " and w1num=" + std::to_string(verb) + " and " + nouns;
+}
+
+}  // namespace
+
+void WriteProcessTables(const Listing& listing, const ReportRequest& request) {
+    const bool verbose = request.detail == Detail::Verbose;
+    const ConditionTexts texts(listing.adventure, verbose);
+    for (const int process : AskedTables(listing, request)) {
+        const std::string number = std::to_string(process);
+        listing.frame.Begin("Process Table " + number + " Listing",
+                            HeadingsOf(listing.adventure, process, verbose),
+                            Place{TableNum::ProcessTables, process});
+        WriteEntries(listing, texts, "estype=" + number);
+    }
+}
+
+void WriteVerbAndNoun(const Listing& listing, const ReportRequest& request) {
+    const std::string words = FilterOfWords(listing.adventure, request);
+    const bool verbose = request.detail == Detail::Verbose;
+    const ConditionTexts texts(listing.adventure, verbose);
+    for (const int process : AskedTables(listing, request, words)) {
+        listing.frame.Begin("Listing of Specific Verb/Noun",
+                            HeadingsOf(listing.adventure, process, verbose));
+        WriteEntries(listing, texts, "estype=" + std::to_string(process) + words);
+    }
+}
+
+}  // namespace fabula::listings
