@@ -74,6 +74,8 @@ std::string ChangeRecorder::Changes() const {
 }
 
 void DoAgain(Adventure& adventure, std::string_view changes) {
+    if (adventure.connection_->HasMoved())
+        throw Error("Could not change the records: its file is no longer where it was opened.");
     Transaction transaction(adventure);
     const Bytes bytes = BytesOf(changes);
     const int result = sqlite3changeset_apply(adventure.connection_->Handle(), bytes.size, bytes.data,

@@ -63,10 +63,13 @@ int Run(int argc, char** argv) {
     platform::SystemClock clock;
     qt::QtTimers timers;
     qt::QtEvents events;
-    midi::Player sound(timers, midi::OpenOutput, [](const std::string&) {});
+    ide::MainWindow* shown = nullptr;
+    midi::Player sound(timers, midi::OpenOutput,
+                       [&shown](const std::string& sentence) { shown->SoundFailed(sentence); });
     ide::MainWindow window(
         {timers, dialogs, settings, store, clock, events, sound, random, midi::DeviceNames},
         FindPlaces(*files, environment, folders));
+    shown = &window;
     qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
     border.SetKeep([&window] { return window.Logic().KeepACopy(); });
     window.show();

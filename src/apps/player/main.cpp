@@ -39,7 +39,7 @@ int Run(int argc, char** argv) {
     qt::QtDialogs dialogs;
     player::PlayerWindow* shown = nullptr;
     midi::Player sound(timers, midi::OpenOutput,
-                       [&shown](const std::string& sentence) { shown->Tell(sentence); });
+                       [&shown](const std::string& sentence) { shown->SoundFailed(sentence); });
 
     const auto folders =
         platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());

@@ -46,6 +46,7 @@ constexpr Anchor kAnchors[] = {
     {"frmsrcimport.html", "kind", "optkind"},
     {"frmsrcimport.html", "source", "txtsource"},
     {"frmsrcimport.html", "chooseSource", "cmdsource"},
+    {"frmsrcimport.html", "encoding", "cboencoding"},
     {"frmsrcimport.html", "database", "txtdatabase"},
     {"frmsrcimport.html", "chooseDatabase", "cmddatabase"},
     {"frmsrcimport.html", "status", "txtstatus"},

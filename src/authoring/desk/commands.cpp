@@ -24,6 +24,8 @@ constexpr CommandEntry kCommands[] = {
     {Command::Open, "Open", Menu::File, 0, "&Open...", "Ctrl+O", "open", "Open an adventure", Use::ToolBar},
     {Command::SaveAs, "SaveAs", Menu::File, 0, "Save &As...", "Ctrl+Shift+S", "save-as",
      "Copy the adventure to another file and go on with the copy"},
+    {Command::Restore, "Restore", Menu::File, 0, "&Restore a Backup...", "", "undo",
+     "Go back to a copy of the adventure that was put aside"},
     {Command::Close, "Close", Menu::File, 0, "&Close", "Ctrl+W", "close", "Close the adventure"},
     {Command::Import, "In", Menu::File, 1, "&Import...", "Ctrl+I", "import",
      "Make an adventure from a source file", Use::ToolBar},

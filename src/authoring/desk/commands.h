@@ -13,6 +13,7 @@ enum class Command {
     New,
     Open,
     SaveAs,
+    Restore,  ///< a backup copy in place of the adventure
     Close,
     Import,         ///< a source file as a new adventure
     ImportGraphic,  ///< one picture of a listing into a record

@@ -1,5 +1,6 @@
 #include "authoring/desk/main_screen.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -105,6 +106,17 @@ void MainScreen::RememberFile() {
     host_.settings.Set(startup::kSection, startup::kFile, file);
 }
 
+bool MainScreen::IsKnown(const std::filesystem::path& file) const {
+    return std::ranges::find(recent_.Files(), file) != recent_.Files().end();
+}
+
+/// Another window may have listed files meanwhile.
+void MainScreen::ListAsRecent() {
+    recent_ = ReadRecentFiles(host_.settings);
+    recent_.AddMRUItem(desk_->document.File());
+    WriteRecentFiles(host_.settings, recent_);
+}
+
 void MainScreen::RememberView() {
     if (!desk_) return;
     WriteLastView(host_.settings, {grid_.View(), desk_->context.currentEntry});
@@ -160,6 +172,7 @@ bool MainScreen::OpenFile(const std::filesystem::path& file) {
         wanted = desk != nullptr;
         if (!wanted) return;
         upgrading.BackUp(desk->document.Adventure());
+        if (!IsKnown(desk->document.File())) WriteLastView(host_.settings, {{TableNum::Locations, 0}, 0});
         Adopt(std::move(desk));
         const bool usesCharSets = desk_->document.Adventure().CharSetsOn();
         const bool loaded = charSetsLoaded_.value_or(usesCharSets);
@@ -214,8 +227,7 @@ void MainScreen::Adopt(std::unique_ptr<Desk> desk) {
         throw;
     }
     RememberFile();
-    recent_.AddMRUItem(desk_->document.File());
-    WriteRecentFiles(host_.settings, recent_);
+    ListAsRecent();
     message_ = "Opened " + desk_->document.File().filename().string() + ".";
 }
 
@@ -228,11 +240,47 @@ bool MainScreen::SaveAs() {
     return Guard([&] {
         desk_->document.SaveAs(*file);
         RememberFile();
-        recent_.AddMRUItem(desk_->document.File());
-        WriteRecentFiles(host_.settings, recent_);
+        ListAsRecent();
         message_ = "Saved as " + file->filename().string() + ".";
         ReadAgain();
     });
+}
+
+std::optional<RestoreScreen> MainScreen::OpenRestore() {
+    if (!desk_) return std::nullopt;
+    std::vector<Backup> copies;
+    if (!paths_.state.empty()) copies = Backups(BackupFolder(), host_.clock).List(desk_->document.File());
+    if (!copies.empty()) return RestoreScreen(std::move(copies), desk_->document.Adventure());
+    host_.dialogs.Tell("There is no backup of " + desk_->document.File().filename().string() + " yet.",
+                       kProgramName);
+    return std::nullopt;
+}
+
+bool MainScreen::Restore(const Backup& copy) {
+    const std::string name = copy.file.filename().string();
+    if (!host_.dialogs.Confirm(
+            "Put the backup " + name +
+                " in the place of the adventure? The adventure as it is now is kept as a backup too.",
+            kProgramName)) {
+        return false;
+    }
+    const std::filesystem::path file = desk_->document.File();
+    bool closed = false;
+    const bool restored = Guard([&] {
+        // Opened first, since making a backup may delete the oldest ones.
+        const auto taken = store::Adventure::Open(copy.file, store::OpenMode::ReadOnly, store::Ages::Any);
+        Backups(BackupFolder(), host_.clock).Add(desk_->document.Adventure());
+        Close();
+        closed = true;
+        taken->SaveCopy(file);
+    });
+    if (closed) OpenFile(file);
+    if (restored) message_ = "Restored the backup " + name + ".";
+    return restored;
+}
+
+std::filesystem::path MainScreen::BackupFolder() const {
+    return paths_.state / "backups";
 }
 
 std::string MainScreen::KeepACopy() {

@@ -18,6 +18,7 @@
 #include "authoring/document/document.h"
 #include "authoring/document/screen_context.h"
 #include "authoring/entries/entries.h"
+#include "authoring/files/restore_screen.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/event_pump.h"
@@ -104,6 +105,11 @@ class MainScreen {
     bool OpenFile(const std::filesystem::path& file);
     bool SaveAs();
     void Close();
+    /// The screen of the command Restore; nullopt, and the person told, when there is no backup.
+    std::optional<RestoreScreen> OpenRestore();
+    /// Puts a backup in the place of the open adventure, after a question, and opens it. The adventure as
+    /// it was is added to the backups. When that fails it is as it was, and open again.
+    bool Restore(const Backup& copy);
     /// After a fault that nobody expected: adds a copy of the open adventure to its backups, and gives a
     /// sentence that tells where it is; "" when no adventure is open or the latest backup holds all of it.
     /// Throws fabula::Error.
@@ -189,6 +195,9 @@ class MainScreen {
     void Adopt(std::unique_ptr<Desk> desk);
     void RememberView();
     void RememberFile();
+    bool IsKnown(const std::filesystem::path& file) const;
+    void ListAsRecent();
+    std::filesystem::path BackupFolder() const;
 
     void ActivateMenus();
     void InActivateMenus();

@@ -113,6 +113,9 @@ class Change {
     Change& operator=(const Change&) = delete;
     ~Change();
 
+    /// Another name, where it became known on the way.
+    void Rename(std::string name) { name_ = std::move(name); }
+
     /// Throws fabula::Error when the file can't be written; the work is then undone.
     void Commit();
 

@@ -89,9 +89,11 @@ void AddFlags(ScreenContext& context) {
         "flags " + std::to_string(highest + 1) + " to " + std::to_string(highest + kFlagsAtATime);
     if (!context.dialogs.Confirm("Confirm add of " + range, "Confirm")) return;
     Change change(context.document, "add " + range);
+    // Asked again, since the question may have stood for long.
+    const int last = Highest(adventure, TableNum::Flags, "flgnum");
     Cursor& flags = adventure.OpenTable(TableNum::Free22, "* from flags", "flgnum<0");
     for (int n = 1; n <= kFlagsAtATime; ++n)
-        AddFlag(flags, highest + n);
+        AddFlag(flags, last + n);
     change.Commit();
 }
 

@@ -5,8 +5,8 @@
 
 #include "authoring/entries/add_records.h"
 #include "authoring/entries/delete_word.h"
+#include "authoring/entries/record_keys.h"
 #include "condacts/catalogue.h"
-#include "condacts/places.h"
 
 namespace fabula::authoring {
 namespace {
@@ -58,55 +58,6 @@ std::string KeyIs(TableNum table, int key) {
     return std::string(store::FindTable(table)->key) + "=" + std::to_string(key);
 }
 
-bool Exists(Adventure& adventure, TableNum table, int key) {
-    return adventure.Prepare(table, store::FindTable(table)->key, KeyIs(table, key)).First({});
-}
-
-int CountRecords(Adventure& adventure, TableNum table) {
-    const std::string select =
-        std::string(store::FindTable(table)->key) + " from " + std::string(store::FindTable(table)->name);
-    return adventure.OpenTable(TableNum::Free22, select).RecordCount();
-}
-
-int HighestKey(Adventure& adventure, TableNum table) {
-    const std::string key(store::FindTable(table)->key);
-    store::PreparedQuery highest = adventure.Prepare(table, key, "", key + " desc");
-    return highest.First({}) ? static_cast<int>(highest.Number(0)) : -1;
-}
-
-/// The lowest number from `from` up without a record.
-int FirstGap(Adventure& adventure, TableNum table, int from = 0) {
-    const std::string key(store::FindTable(table)->key);
-    store::PreparedQuery row = adventure.Prepare(table, key, key + ">=" + std::to_string(from), key);
-    int number = from;
-    for (bool more = row.First({}); more && row.Number(0) <= number; more = row.Next())
-        number = NumberAfter(row.Number(0));
-    return number;
-}
-
-int NextLocation(Adventure& adventure) {
-    const int next = FirstGap(adventure, TableNum::Locations);
-    if (!condacts::IsSpecialPlace(next)) return next;
-    return FirstGap(adventure, TableNum::Locations, condacts::place::kLastSpecial.value + 1);
-}
-
-/// That of the first location without a picture; where all have one, the number behind the highest.
-int NextPicture(Adventure& adventure) {
-    store::PreparedQuery row = adventure.Prepare(TableNum::Locations, "locnum", "locnum>=0", "locnum");
-    for (bool more = row.First({}); more; more = row.Next()) {
-        const int location = static_cast<int>(row.Number(0));
-        if (!Exists(adventure, TableNum::Pictures, location)) return location;
-    }
-    return NumberAfter(HighestKey(adventure, TableNum::Pictures));
-}
-
-/// The number of the records. Where one was deleted from their midst that number may be taken, and the
-/// gap is filled: texts and objects must be numbered without one.
-int NextOfCount(Adventure& adventure, TableNum table) {
-    const int count = CountRecords(adventure, table);
-    return Exists(adventure, table, count) ? FirstGap(adventure, table) : count;
-}
-
 /// Beyond 255 the older types can't count, and 255 itself is no object there.
 bool IsFull(Adventure& adventure, TableNum table, int key) {
     const int wanted = table == TableNum::Locations ? key : CountRecords(adventure, table);
@@ -123,8 +74,7 @@ std::string LimitMessage(const Adventure& adventure, const EntryTable& numbered)
 
 std::optional<ScreenRequest> AddNumbered(ScreenContext& context, const EntryTable& numbered) {
     Adventure& adventure = context.document.Adventure();
-    const int key = numbered.table == TableNum::Locations ? NextLocation(adventure)
-                                                          : NextOfCount(adventure, numbered.table);
+    const int key = *NextKey(adventure, numbered.table);
     if (IsFull(adventure, numbered.table, key)) {
         Refuse(context.dialogs, LimitMessage(adventure, numbered));
         return std::nullopt;
@@ -151,7 +101,7 @@ ScreenRequest AddProcessEntry(ScreenContext& context) {
 /// above that of the new entry, so that it stands before them.
 void MoveBehindNewEntry(ScreenContext& context, const ScreenRequest& request) {
     Adventure& adventure = context.document.Adventure();
-    if (!Exists(adventure, TableNum::ProcessTables, request.key.key)) return;
+    if (!HasRecord(adventure, TableNum::ProcessTables, request.key.key)) return;
     store::PreparedQuery current =
         adventure.Prepare(TableNum::ProcessTables, "estype, w1num, w2num", "canum=?");
     if (!current.First({std::int64_t{*request.before}})) return;
@@ -256,9 +206,10 @@ std::optional<ScreenRequest> Entries::AddEntry() {
             AddCharacterSet(context_);
             return std::nullopt;
         case TableNum::Pictures:
-            return ScreenRequest{.screen = Screen::Picture,
-                                 .key = {.key = NextPicture(context_.document.Adventure()), .isNew = true},
-                                 .table = table};
+            return ScreenRequest{
+                .screen = Screen::Picture,
+                .key = {.key = *NextKey(context_.document.Adventure(), table), .isNew = true},
+                .table = table};
         default:
             return std::nullopt;
     }
@@ -267,7 +218,7 @@ std::optional<ScreenRequest> Entries::AddEntry() {
 std::optional<ScreenRequest> Entries::AddEntryBefore() {
     if (context_.currentTable != TableNum::ProcessTables) return std::nullopt;
     const int current = context_.currentEntry;
-    const bool exists = Exists(context_.document.Adventure(), TableNum::ProcessTables, current);
+    const bool exists = HasRecord(context_.document.Adventure(), TableNum::ProcessTables, current);
     ScreenRequest request = AddProcessEntry(context_);
     if (exists) request.before = current;
     return request;
@@ -287,7 +238,7 @@ std::optional<ScreenRequest> Entries::EditEntry() {
         request.settings = ReadSettingsBefore(context_.document);
         return request;
     }
-    if (!Exists(adventure, table, context_.currentEntry)) return std::nullopt;
+    if (!HasRecord(adventure, table, context_.currentEntry)) return std::nullopt;
     return request;
 }
 
@@ -305,7 +256,7 @@ bool Entries::DeleteEntry() {
     const EntryTable* entry = FindEntryTable(table);
     if (entry == nullptr || !entry->deletable)
         return Refuse(context_.dialogs, std::string(store::FindTable(table)->name) + " cannot be deleted");
-    if (!Exists(adventure, table, key)) return false;
+    if (!HasRecord(adventure, table, key)) return false;
     if (table == TableNum::ProcDesc && !MayChangeProcess(context_, "deleted")) return false;
     const std::string question = table == TableNum::ProcessTables
                                      ? QuestionForEntry(adventure, key)

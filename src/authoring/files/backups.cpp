@@ -187,6 +187,8 @@ std::vector<CountDifference> CompareCounts(store::Adventure& backup, store::Adve
     std::vector<CountDifference> differences;
     for (const store::TableEntry& table : store::AllTables()) {
         const auto count = [&](store::Adventure& adventure) {
+            // A file of an older program may lack the table.
+            if (adventure.Schema(table.number).fields.empty()) return std::int64_t{0};
             return std::int64_t{adventure.OpenTable(table.number, table.key).RecordCount()};
         };
         const CountDifference difference{std::string(table.name), count(backup), count(now)};

@@ -1,7 +1,6 @@
 #include "authoring/jobs/interchange_screen.h"
 
 #include <array>
-#include <span>
 #include <system_error>
 
 #include "authoring/document/screen_context.h"
@@ -101,6 +100,16 @@ std::string_view InterchangeScreen::MainButton() const {
 std::string_view InterchangeScreen::WhyNot() const {
     if (mode_ == JobMode::Export && !adventure_) return "No adventure is open.";
     return RowOf(mode_).whyNot;
+}
+
+std::span<const InterchangeScreen::EncodingOption> InterchangeScreen::Encodings() {
+    using interchange::Encoding;
+    static constexpr std::array<EncodingOption, 3> kEncodings = {{
+        {"As the file tells", Encoding::Detect},
+        {"UTF-8", Encoding::Utf8},
+        {"Windows-1252", Encoding::Windows1252},
+    }};
+    return kEncodings;
 }
 
 bool InterchangeScreen::ChooseKind(std::size_t option) {
@@ -228,7 +237,7 @@ bool InterchangeScreen::Run(const std::function<bool()>& job) {
 }
 
 interchange::JobHost InterchangeScreen::JobHost() {
-    return {host_.dialogs, host_.clock, host_.events, *this, host_.defaultData};
+    return {host_.dialogs, host_.clock, host_.events, *this, host_.defaultData, encoding};
 }
 
 bool InterchangeScreen::SaveStatus() {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,6 +59,14 @@ class InterchangeScreen final : private interchange::JobObserver {
     std::size_t ChosenKind() const { return chosen_; }
     /// False, and nothing chosen, for a kind that this version does not have, and while a job runs.
     bool ChooseKind(std::size_t option);
+
+    /// How the letters of a source are read, in the order of a list. Exports have no choice.
+    struct EncodingOption {
+        std::string_view name;
+        interchange::Encoding encoding;
+    };
+    static std::span<const EncodingOption> Encodings();
+    interchange::Encoding encoding = interchange::Encoding::Detect;
 
     /// The file that is read, or written by an export, and the adventure that an import makes. Names
     /// without a folder lie beside the open adventure.

@@ -250,7 +250,7 @@ bool LocationScreen::Update() {
     if (!LeaveDescription() || !LeaveShortDescription() || !LeaveExits()) return false;
     if (HasPendingExit() && !Add()) return false;
     Change change(context_.document, ChangeName());
-    store::Cursor& record = RecordToStore();
+    store::Cursor& record = RecordToStore(change);
     record.SetField("locdesc", ToStored(description));
     record.SetField("locshortdesc", ToStored(shortDescription));
     StoreExits(record);

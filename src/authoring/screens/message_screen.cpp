@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "authoring/entries/record_keys.h"
 #include "authoring/fields/text_field.h"
 #include "store/tags.h"
 #include "text/markup.h"
@@ -95,10 +96,18 @@ bool MessageScreen::LeaveText() {
                                         " characters is allowed.\nYou have " + std::to_string(length));
 }
 
+std::string MessageScreen::ChangeName() const {
+    return (key_.isNew ? "add " : "edit ") + std::string(personality_.noun) + " " +
+           std::to_string(key_.key);
+}
+
 void MessageScreen::Store() {
-    const std::string name =
-        (key_.isNew ? "add " : "edit ") + std::string(personality_.noun) + " " + std::to_string(key_.key);
-    Change change(context_.document, name);
+    Change change(context_.document, ChangeName());
+    // Another program may have added a text of that number meanwhile.
+    if (key_.isNew && HasRecord(Adventure(), personality_.table, key_.key)) {
+        key_.key = *NextKey(Adventure(), personality_.table);
+        change.Rename(ChangeName());
+    }
     store::Cursor& record = OpenRecord();
     if (record.Eof()) {
         record.AddNew();

@@ -47,6 +47,7 @@ class MessageScreen {
     store::Adventure& Adventure() const { return context_.document.Adventure(); }
     store::Cursor& OpenRecord() const;
     void Read();
+    std::string ChangeName() const;
     void Store();
 
     ScreenContext& context_;

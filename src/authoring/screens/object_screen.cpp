@@ -177,7 +177,7 @@ bool ObjectScreen::Update() {
     if (!LeaveDescription() || !LeaveInitialPlace() || !LeaveRoom()) return false;
     if (HasAttributes() && (!CheckContainer() || !LeaveWeight())) return false;
     Change change(context_.document, ChangeName());
-    store::Cursor& record = RecordToStore();
+    store::Cursor& record = RecordToStore(change);
     record.SetField("objdesc", ToStored(description));
     StoreWord(record, noun, condacts::kNoun, "objnoun", "objnumnoun");
     StorePlace(record);

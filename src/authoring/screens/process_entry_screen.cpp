@@ -230,10 +230,10 @@ void ProcessEntryScreen::StoreWord(store::Cursor& record, const DropList& list, 
     record.SetField(numberField, std::int64_t{word.number});
 }
 
-void ProcessEntryScreen::Store() {
+void ProcessEntryScreen::Store(Change& change) {
     const auto table = text::WholeNumber(text::TrimBlanks(process)).value_or(0);
     AddDescription(static_cast<int>(table));
-    store::Cursor& record = RecordToStore();
+    store::Cursor& record = RecordToStore(change);
     record.SetField("estype", table);
     StoreWord(record, verb, "w1", "w1num");
     StoreWord(record, noun, "w2", "w2num");
@@ -270,7 +270,7 @@ bool ProcessEntryScreen::Update() {
     line = condacts::LocationWordsToNumbers(line, help_.Catalogue());
     if (line.empty()) return RefuseField("line", "Cannot have a record with no Condition/Actions");
     Change change(context_.document, ChangeName());
-    Store();
+    Store(change);
     change.Commit();
     if (Key().isNew) context_.nextEntry = NumberAfter(Key().key);
     const auto table = text::WholeNumber(text::TrimBlanks(process)).value_or(0);

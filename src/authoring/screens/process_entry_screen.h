@@ -82,7 +82,7 @@ class ProcessEntryScreen final : public RecordScreen {
     void AddDescription(int process);
     void StoreWord(store::Cursor& record, const DropList& list, std::string_view wordField,
                    std::string_view numberField) const;
-    void Store();
+    void Store(Change& change);
 
     CondActHelp help_;
     std::vector<VocabularyWord> words_;  ///< those that an entry may stand with

@@ -1,5 +1,6 @@
 #include "authoring/screens/record_screen.h"
 
+#include "authoring/entries/record_keys.h"
 #include "platform/error.h"
 
 namespace fabula::authoring {
@@ -24,10 +25,22 @@ store::Cursor& RecordScreen::OpenRecord() const {
 
 store::Cursor& RecordScreen::RecordToStore() const {
     if (!key_.isNew) return OpenRecord();
+    if (HasRecord(Adventure(), table_, key_.key)) {
+        throw Error("Could not add " + noun_ + " " + std::to_string(key_.key) +
+                    ": another program has added it meanwhile.");
+    }
     store::Cursor& record = Adventure().OpenTable(table_, "def", Criterion());
     record.AddNew();
     record.SetField(store::FindTable(table_)->key, std::int64_t{key_.key});
     return record;
+}
+
+store::Cursor& RecordScreen::RecordToStore(Change& change) {
+    if (key_.isNew && HasRecord(Adventure(), table_, key_.key)) {
+        key_.key = NextKey(Adventure(), table_).value_or(key_.key);
+        change.Rename(ChangeName());
+    }
+    return RecordToStore();
 }
 
 std::string RecordScreen::ChangeName() const {

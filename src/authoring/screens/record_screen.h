@@ -23,8 +23,12 @@ class RecordScreen : public EditScreen {
 
     /// The table's cursor on the record that is edited. Throws Error when it has gone.
     store::Cursor& OpenRecord() const;
-    /// The table's cursor on the record that Update writes: the same, or a new one with its key.
+    /// The table's cursor on the record that Update writes: the same, or a new one with its key. Throws
+    /// Error when another program has added one with that key meanwhile.
     store::Cursor& RecordToStore() const;
+    /// The same for tables that number their records: a new record whose key was taken meanwhile gets the
+    /// next free one, and `change` its name.
+    store::Cursor& RecordToStore(Change& change);
     /// "add location 3", "edit location 3".
     std::string ChangeName() const;
 

@@ -117,10 +117,9 @@ std::vector<std::string> WordScreen::Typed() const {
     return {word, number, type ? std::to_string(*type) : ""};
 }
 
-void WordScreen::Store() {
-    store::Cursor& record = RecordToStore();
+void WordScreen::Store(Change& change) {
+    store::Cursor& record = RecordToStore(change);
     if (Key().isNew) {
-        record.SetField("vocindex", std::int64_t{context_.nextWord});
         record.SetField("vocnum", *text::WholeNumber(text::TrimBlanks(number)));
         record.SetField("word", word);
     }
@@ -135,10 +134,10 @@ bool WordScreen::Update() {
     if (!type) return RefuseField("type", "No value set for word type");
     if (!LeaveNumber()) return false;
     Change change(context_.document, (Key().isNew ? "add word " : "edit word ") + word);
-    Store();
+    Store(change);
     condacts::RecompileEntries(Adventure());
     change.Commit();
-    if (Key().isNew) ++context_.nextWord;
+    if (Key().isNew) context_.nextWord = NumberAfter(Key().key);
     return true;
 }
 

@@ -49,7 +49,7 @@ class WordScreen final : public RecordScreen {
     std::vector<condacts::Word> SameSpelling() const;
     bool CheckClash(int number);
     std::vector<std::string> Typed() const;
-    void Store();
+    void Store(Change& change);
 
     std::vector<std::string> opened_;  ///< what `Typed` gave at first
 };

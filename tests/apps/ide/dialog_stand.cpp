@@ -12,6 +12,7 @@
 #include "ide/dialogs/message_dialog.h"
 #include "ide/dialogs/object_dialog.h"
 #include "ide/dialogs/process_entry_dialog.h"
+#include "ide/dialogs/restore_dialog.h"
 #include "ide/dialogs/settings_dialog.h"
 #include "ide/dialogs/setup_dialog.h"
 #include "ide/dialogs/sort_dialog.h"
@@ -200,6 +201,17 @@ Opened OpenKeyChange(Desk& desk) {
     return Keep<ide::KeyChangeDialog>(std::make_shared<Parts>(desk));
 }
 
+Opened OpenRestore(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen({{of.document.File(), {2026, 3, 9, 8, 5, 7}, 123456}}, of.Adventure()),
+              dialog(screen) {}
+        authoring::RestoreScreen screen;
+        ide::RestoreDialog dialog;
+    };
+    return Keep<ide::RestoreDialog>(std::make_shared<Parts>(desk));
+}
+
 Opened OpenVerify(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
@@ -268,6 +280,7 @@ const std::vector<DialogStand>& EveryDialog() {
         {"Export", "Export of Database", "source",
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Export); }},
         {"Verify", "Verify Adventure", "status", OpenVerify},
+        {"Restore", "Restore a Backup", "copies", OpenRestore},
         {"KeySelect", "Correct Table Key: Select", "table", OpenKeySelect},
         {"KeyChange", "Change incorrect key and Finish", "rows", OpenKeyChange},
     };

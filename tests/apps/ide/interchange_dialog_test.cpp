@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -102,6 +103,16 @@ TEST_F(InterchangeDialogTest, ImportsByKeysAndClicks) {
     EXPECT_TRUE(Button("print").isEnabled());
     QTest::keyClick(dialog_.get(), Qt::Key_Escape);
     EXPECT_FALSE(dialog_->isVisible());
+}
+
+TEST_F(InterchangeDialogTest, TheLettersOfAnImportCanBeChosen) {
+    Open(JobMode::Import);
+    auto& letters = Find<QComboBox>("encoding");
+    EXPECT_EQ(letters.currentText(), "As the file tells");
+    letters.setCurrentText("Windows-1252");
+    EXPECT_EQ(screen_->encoding, interchange::Encoding::Windows1252);
+    Open(JobMode::Export);
+    EXPECT_EQ(dialog_->findChild<QComboBox*>("encoding"), nullptr);
 }
 
 TEST_F(InterchangeDialogTest, FilesThatWereChosenStandInTheirFields) {

@@ -106,6 +106,21 @@ TEST(PlayerSettings, ValuesThatMakeNoSenseCountAsNotSet) {
     EXPECT_EQ(read.theme, qt::Theme::System);
 }
 
+TEST(PlayerSettings, TheRecentGamesStandBesideTheAdventuresOfTheAuthoringTool) {
+    const test::TempFolder folder;
+    QSettings store(qt::PathToQt(folder / "settings.ini"), QSettings::IniFormat);
+    store.setValue("MRUFiles/1", "/work/draft.fbd");
+    PlayerSettings settings = PlayerSettings::Load(store);
+    EXPECT_EQ(settings.recent.Files(), (std::vector<std::filesystem::path>{"/work/draft.fbd"}))
+        << "programs of before kept the games there";
+    settings.recent = platform::RecentFiles({"/games/cake.fbd"});
+    settings.Save(store);
+    EXPECT_EQ(store.value("MRUFiles/1").toString(), "/work/draft.fbd");
+    store.setValue("MRUFiles/1", "/work/other.fbd");
+    EXPECT_EQ(PlayerSettings::Load(store).recent.Files(),
+              (std::vector<std::filesystem::path>{"/games/cake.fbd"}));
+}
+
 TEST(NextZoom, GoesInStepsAndStopsAtTheEnds) {
     EXPECT_EQ(NextZoom(100, 1), 110);
     EXPECT_EQ(NextZoom(100, -1), 90);

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <csignal>
 #include <fstream>
@@ -212,6 +213,17 @@ TEST(Window, StatusLineShowsScriptAndSound) {
     played.Action("Sound").trigger();
     EXPECT_EQ(played.Status("Status2"), "Sound ON");
     EXPECT_TRUE(played.Action("Sound").isChecked());
+}
+
+TEST(Window, SoundThatCannotBeOpenedIsToldAndTurnedOff) {
+    PlayedWindow played;
+    played.Load(TalkingGame());
+    played.Action("Sound").trigger();
+    played.Window().SoundFailed("Could not open the synthesizer.");
+    EXPECT_EQ(played.Status("status"), "Could not open the synthesizer.");
+    QApplication::processEvents();
+    EXPECT_EQ(played.Status("Status2"), "Sound OFF");
+    EXPECT_FALSE(played.Action("Sound").isChecked());
 }
 
 TEST(Window, DebugCanBeUsedInATestRunOnly) {

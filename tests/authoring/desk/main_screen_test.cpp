@@ -82,6 +82,18 @@ TEST_F(MainWindowTest, StartsInTheProcessTableThatWasLastInView) {
     EXPECT_EQ(main->CurrentContext().currentESNum, kOtherProcesses);
 }
 
+TEST_F(MainWindowTest, AGameThatIsOpenedForTheFirstTimeShowsItsPlaces) {
+    OpenNew();
+    main->Show({TableNum::Messages});
+    main->OpenFile(Make("other.fbd"));
+    EXPECT_EQ(main->Grid().View(), TableView{TableNum::Locations});
+    EXPECT_EQ(main->CurrentRow(), 0);
+    main->Show({TableNum::Flags});
+    Restart();
+    EXPECT_EQ(main->Grid().View(), TableView{TableNum::Flags})
+        << "after that it opens where the author was";
+}
+
 TEST_F(MainWindowTest, TellsAnotherVersionOfTheProgramInTheStatusLineAtTheStart) {
     OpenNew();
     const std::size_t boxes = dialogs.Boxes().size();

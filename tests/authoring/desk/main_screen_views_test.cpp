@@ -35,9 +35,10 @@ TEST_F(ViewsTest, AreKeptInTheSettings) {
 }
 
 TEST_F(ViewsTest, ThatTheAdventureDoesNotHaveAreTheFirstProcess) {
+    main->OpenFile(Make("plain.fbd"));
     OpenNew(AdventureKind::Marlo);
     main->Show({TableNum::Characters});
-    main->OpenFile(Make("plain.fbd"));
+    main->OpenFile(folder / "plain.fbd");
     EXPECT_EQ(main->Grid().View(), (TableView{TableNum::ProcessTables, 0}));
 }
 

@@ -154,6 +154,18 @@ TEST_F(FailingMachine, AFileThatWasDeletedIsToldAndCanBeSavedElsewhere) {
     EXPECT_EQ(Messages(), (std::vector<std::string>{"first"}));
 }
 
+TEST_F(FailingMachine, UndoAndRedoInAFileThatWasMovedSayWhatUpdateSays) {
+    StoreText("changed");
+    Main().Run(Command::Undo);
+    std::filesystem::rename(file_, window_.folder / "elsewhere.fbd");
+    const std::string moved = "Could not change the records: its file is no longer where it was opened.";
+    Main().Run(Command::Redo);
+    EXPECT_EQ(LastBox(), moved);
+    Main().Run(Command::Undo);
+    EXPECT_EQ(LastBox(), moved);
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"first", "second"}));
+}
+
 TEST_F(FailingMachine, AFileThatWasReplacedIsNotWrittenAndNotTakenForTheOpenOne) {
     const auto other = window_.Make("other.fbd");
     std::filesystem::rename(other, file_);

@@ -7,6 +7,7 @@
 #include "authoring/document/document.h"
 #include "platform/scripted_dialogs.h"
 #include "support/places.h"
+#include "support/raw_database.h"
 #include "support/scripted_pump.h"
 #include "support/template_adventure.h"
 
@@ -393,6 +394,27 @@ TEST_F(InterchangeScreenTest, JobYieldsAndCanNotBeStartedTwice) {
     };
     EXPECT_TRUE(screen.RunJob());
     EXPECT_GT(pump_.turns, 3);
+}
+
+TEST_F(InterchangeScreenTest, TheLettersOfASourceAreReadAsTheAuthorSays) {
+    SetTitle("Caf\u00E9");
+    const path source = Exported();
+    const auto imported = [&](std::string_view name) {
+        InterchangeScreen screen = Screen(JobMode::Import);
+        screen.ChooseKind(Option(screen, "Fabula"));
+        for (const auto& option : InterchangeScreen::Encodings()) {
+            if (option.name == name) screen.encoding = option.encoding;
+        }
+        screen.source = source.string();
+        screen.database = In("new.fbd").string();
+        dialogs_.AnswerNext(true);
+        EXPECT_TRUE(screen.RunJob());
+        return TitleIn(In("new.fbd"));
+    };
+    test::WriteBytes(In("new.fbd"), "");
+    EXPECT_EQ(imported("As the file tells"), "Caf\u00E9");
+    EXPECT_EQ(imported("UTF-8"), "Caf\u00E9");
+    EXPECT_EQ(imported("Windows-1252"), "Caf\u00C3\u00A9");
 }
 
 TEST_F(InterchangeScreenTest, CancelledImportLeavesNothing) {

@@ -1,5 +1,6 @@
 #include "ide/dialogs/interchange_dialog.h"
 
+#include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -76,6 +77,7 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
     if (screen.Mode() == JobMode::Import)
         database_ = AddFile(*form, "database", tr("&Database:"), "chooseDatabase",
                             &InterchangeScreen::ChooseDatabase);
+    if (screen.Mode() == JobMode::Import) AddEncodings(*form);
     column->addLayout(form);
     MakeStatus();
     auto* label = new QLabel(qt::ToQt(screen.StatusCaption()));
@@ -125,6 +127,21 @@ void InterchangeDialog::AddKinds(QFormLayout& form) {
         kinds_.push_back(button);
     }
     form.addRow(tr("Kind:"), group);
+}
+
+void InterchangeDialog::AddEncodings(QFormLayout& form) {
+    auto* list = new QComboBox;
+    list->setObjectName("encoding");
+    list->setAccessibleName(tr("Letters"));
+    for (const auto& option : InterchangeScreen::Encodings())
+        list->addItem(qt::ToQt(option.name));
+    auto* caption = new QLabel(tr("&Letters:"));
+    caption->setBuddy(list);
+    form.addRow(caption, list);
+    inputs_.push_back(list);
+    QObject::connect(list, &QComboBox::currentIndexChanged, this, [this](int chosen) {
+        screen_.encoding = InterchangeScreen::Encodings()[static_cast<std::size_t>(chosen)].encoding;
+    });
 }
 
 QLineEdit* InterchangeDialog::AddFile(QFormLayout& form, const char* name, const QString& label,

@@ -28,6 +28,7 @@ class InterchangeDialog final : public QDialog {
 
   private:
     void AddKinds(QFormLayout& form);
+    void AddEncodings(QFormLayout& form);
     QLineEdit* AddFile(QFormLayout& form, const char* name, const QString& label, const char* buttonName,
                        void (authoring::InterchangeScreen::*choose)());
     void MakeStatus();

@@ -71,6 +71,9 @@ class MainWindow final : public QMainWindow {
     void Do(authoring::Command command);
 
     authoring::MainScreen& Logic() { return ide_; }
+    /// What plays the tones of a game that is tested can't be opened. The settings tell for themselves.
+    void SoundFailed(const std::string& sentence);
+
     /// The game being tested; nullptr when there is none.
     const GameTest* Test() const { return test_.get(); }
     qt::Help& Help() { return help_; }
@@ -109,6 +112,7 @@ class MainWindow final : public QMainWindow {
     void FindOrAsk(authoring::Command command);
     void Sort();
     void Verify();
+    void Restore();
     void KeyChange();
     void ShowUpgrade(std::string_view steps);
     void ChooseType(store::AdventureSetup& setup);

@@ -7,6 +7,7 @@
 #include "authoring/drawing/character_set_screen.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/dialogs/key_dialogs.h"
+#include "ide/dialogs/restore_dialog.h"
 #include "ide/dialogs/screens.h"
 #include "ide/dialogs/setup_dialog.h"
 #include "ide/dialogs/sort_dialog.h"
@@ -54,6 +55,8 @@ void MainWindow::Do(Command command) {
             return LoadOrSaveSets(authoring::CharacterSetFiles::Purpose::Load);
         case Command::Save:
             return LoadOrSaveSets(authoring::CharacterSetFiles::Purpose::Save);
+        case Command::Restore:
+            return Restore();
         case Command::KeyChange:
             return KeyChange();
         case Command::Filter:
@@ -169,6 +172,15 @@ void MainWindow::Verify() {
     ShowChanges();
 }
 
+void MainWindow::Restore() {
+    const auto screen = ide_.OpenRestore();
+    if (screen) {
+        RestoreDialog dialog(*screen, this);
+        if (dialog.exec() == QDialog::Accepted) ide_.Restore(screen->Copies()[dialog.Chosen()]);
+    }
+    ShowChanges();
+}
+
 void MainWindow::KeyChange() {
     authoring::KeySelectScreen select(ide_.CurrentContext());
     KeySelectDialog selectDialog(select, this);
@@ -241,6 +253,10 @@ void MainWindow::StartTest() {
         services_.dialogs.Tell(error.what(), "Error");
         EndTest();
     }
+}
+
+void MainWindow::SoundFailed(const std::string& sentence) {
+    if (test_) test_->Window().SoundFailed(sentence);
 }
 
 void MainWindow::EndTest() {

@@ -19,8 +19,12 @@ int Number(const QSettings& store, const char* key, int smallest, int largest, i
     return read && value >= smallest && value <= largest ? value : otherwise;
 }
 
-QString RecentKey(std::size_t place) {
-    return QStringLiteral("MRUFiles/%1").arg(place + 1);
+/// "MRUFiles" is the authoring tool's list; programs of before kept the games there too.
+constexpr const char* kRecent = "PlayedFiles";
+constexpr const char* kRecentOfBefore = "MRUFiles";
+
+QString RecentKey(const char* section, std::size_t place) {
+    return QStringLiteral("%1/%2").arg(section).arg(place + 1);
 }
 
 }  // namespace
@@ -45,9 +49,10 @@ PlayerSettings PlayerSettings::Load(const QSettings& store) {
         Number(store, "Startup/CharacterZoom", -kMostCharacterZoom, kMostCharacterZoom, 0);
     settings.flashing = store.value("Startup/Flashing", settings.flashing).toBool();
     settings.plainText = store.value("Startup/PlainText", settings.plainText).toBool();
+    const bool isKept = store.childGroups().contains(kRecent);
     std::vector<std::filesystem::path> recent;
     for (std::size_t place = 0; place < platform::RecentFiles::kMostFiles; ++place) {
-        const QString file = store.value(RecentKey(place)).toString();
+        const QString file = store.value(RecentKey(isKept ? kRecent : kRecentOfBefore, place)).toString();
         if (!file.isEmpty()) recent.push_back(qt::PathFromQt(file));
     }
     settings.recent = platform::RecentFiles(recent);
@@ -61,9 +66,9 @@ void PlayerSettings::Save(QSettings& store) const {
     store.setValue("Startup/CharacterZoom", characterZoom);
     store.setValue("Startup/Flashing", flashing);
     store.setValue("Startup/PlainText", plainText);
-    store.remove("MRUFiles");
+    store.remove(kRecent);
     for (std::size_t place = 0; place < recent.Files().size(); ++place)
-        store.setValue(RecentKey(place), qt::PathToQt(recent.Files()[place]));
+        store.setValue(RecentKey(kRecent, place), qt::PathToQt(recent.Files()[place]));
 }
 
 int NextZoom(int percent, int direction) {

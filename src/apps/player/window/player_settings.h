@@ -11,8 +11,8 @@ class QSettings;
 
 namespace fabula::player {
 
-/// What the player's window remembers from one start to the next: section "Startup", and "MRUFiles" for the
-/// recent games.
+/// What the player's window remembers from one start to the next: section "Startup", and "PlayedFiles"
+/// for the recent games.
 struct PlayerSettings {
     QByteArray geometry;  ///< of the window; empty for the default
     qt::Theme theme = qt::Theme::System;

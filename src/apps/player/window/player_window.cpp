@@ -265,6 +265,17 @@ void PlayerWindow::Tell(const std::string& sentence) {
     status_->Tell(sentence);
 }
 
+void PlayerWindow::SoundFailed(const std::string& sentence) {
+    Tell(sentence);
+    // It is noticed in the midst of a turn, which goes on first.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (session_ && session_->SoundOn()) ToggleSound();
+        },
+        Qt::QueuedConnection);
+}
+
 void PlayerWindow::EndSession() {
     debugWindow_.reset();
     transcript_->setChecked(false);

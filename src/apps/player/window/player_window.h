@@ -60,6 +60,9 @@ class PlayerWindow final : public QMainWindow {
     /// Shows a sentence in the status line.
     void Tell(const std::string& sentence);
 
+    /// What plays the tones can't be opened: tells the sentence and turns the sound off.
+    void SoundFailed(const std::string& sentence);
+
     /// The game being played, or nullptr.
     Session* Playing() { return session_.get(); }
     GameScreen& Screen() { return *screen_; }

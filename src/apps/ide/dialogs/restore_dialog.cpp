@@ -1,0 +1,83 @@
+#include "ide/dialogs/restore_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "ide/editors/help_pages.h"
+#include "qt/help_request.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+constexpr QSize kSize(560, 440);
+
+}  // namespace
+
+RestoreDialog::RestoreDialog(const authoring::RestoreScreen& screen, QWidget* parent)
+    : QDialog(parent), screen_(screen), copies_(new QTableWidget), comparison_(new QPlainTextEdit) {
+    setObjectName("restore");
+    setWindowTitle(qt::ToQt(authoring::RestoreScreen::kTitle));
+    setProperty(qt::kHelpPage, kMainWindowPage);
+    setProperty(qt::kHelpAnchor, "restore");
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
+    copies_->setObjectName("copies");
+    copies_->setAccessibleName(tr("Backup copies"));
+    copies_->setColumnCount(2);
+    copies_->setHorizontalHeaderLabels({tr("Made"), tr("Size")});
+    copies_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    copies_->verticalHeader()->hide();
+    copies_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    copies_->setSelectionMode(QAbstractItemView::SingleSelection);
+    copies_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    copies_->setTabKeyNavigation(false);
+    copies_->setRowCount(static_cast<int>(screen.Copies().size()));
+    for (int row = 0; row < copies_->rowCount(); ++row) {
+        const auto copy = static_cast<std::size_t>(row);
+        copies_->setItem(row, 0, new QTableWidgetItem(qt::ToQt(screen.MadeOf(copy))));
+        copies_->setItem(row, 1, new QTableWidgetItem(qt::ToQt(screen.SizeOf(copy))));
+    }
+    comparison_->setObjectName("comparison");
+    comparison_->setReadOnly(true);
+    comparison_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    comparison_->setTabChangesFocus(true);
+    auto* caption = new QLabel(tr("&What differs from the adventure as it is"));
+    caption->setBuddy(comparison_);
+    comparison_->setAccessibleName(caption->text().remove('&'));
+    auto* buttons = new QDialogButtonBox;
+    auto* restore = buttons->addButton(tr("&Restore"), QDialogButtonBox::AcceptRole);
+    restore->setObjectName("accept");
+    restore->setDefault(true);
+    buttons->addButton(tr("Exit"), QDialogButtonBox::RejectRole)->setObjectName("exit");
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(10);
+    layout->addWidget(copies_, 2);
+    layout->addWidget(caption);
+    layout->addWidget(comparison_, 1);
+    layout->addWidget(buttons);
+    resize(kSize);
+    connect(copies_, &QTableWidget::currentCellChanged, this, [this] { ShowComparison(); });
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    copies_->setCurrentCell(0, 0);
+    copies_->setFocus();
+}
+
+std::size_t RestoreDialog::Chosen() const {
+    return static_cast<std::size_t>(std::max(copies_->currentRow(), 0));
+}
+
+void RestoreDialog::ShowComparison() {
+    comparison_->setPlainText(qt::ToQt(screen_.ComparisonOf(Chosen())));
+}
+
+}  // namespace fabula::ide
