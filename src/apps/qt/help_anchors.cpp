@@ -108,6 +108,7 @@ constexpr Anchor kAnchors[] = {
     {"frmvellocation.html", "exits", "txtexits"},
     {"frmvellocation.html", "exitWord", "cboexit"},
     {"frmvellocation.html", "exitPlace", "cboloc"},
+    {"frmvellocation.html", "andBack", "chkandback"},
     {"frmvellocation.html", "add", "cmdadd"},
     {"frmvellocation.html", "choosePicture", "cmdgetpic"},
     {"frmvellocation.html", "update", "cmdupdate"},

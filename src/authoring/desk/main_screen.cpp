@@ -217,6 +217,7 @@ std::unique_ptr<MainScreen::Desk> MainScreen::OpenDesk(const std::filesystem::pa
 /// that one open.
 void MainScreen::Adopt(std::unique_ptr<Desk> desk) {
     std::swap(desk_, desk);
+    places_.clear();
     std::vector<TreeNode> treeBefore = tree_;
     try {
         ActivateMenus();

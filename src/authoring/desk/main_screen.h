@@ -188,6 +188,15 @@ class MainScreen {
         ScreenContext context;
     };
 
+    /// Where the author was in a view that is not shown now.
+    struct PlaceInView {
+        TableView view;
+        std::optional<int> key;
+        std::string filter;
+        std::optional<int> sortColumn;
+        bool sortsDown = false;
+    };
+
     bool Guard(const std::function<void()>& step);
     std::unique_ptr<Desk> OpenDesk(const std::filesystem::path& file, Upgrading& upgrading);
     std::filesystem::path Folder() const;
@@ -205,6 +214,8 @@ class MainScreen {
     void SetupGrid(TableView view);
     TableRights SetUpEdits(store::TableNum table) const;
     void StayOn(std::optional<int> key, int row);
+    void KeepPlace();
+    void GoToKeptPlace();
     std::optional<int> CurrentKey() const;
     void ReadAgain();
 
@@ -226,6 +237,7 @@ class MainScreen {
     std::vector<TreeNode> tree_;
     TableGrid grid_;
     TableRights rights_;
+    std::vector<PlaceInView> places_;  ///< one for each view that was left
     FindBox find_;
     int row_ = -1;
     std::string message_;

@@ -180,7 +180,12 @@ void MainScreen::ScreenClosed(const ScreenRequest& request) {
         if (!Entries(desk_->context).AfterScreen(request)) mustExit_ = true;
         ShowChanges(request.table);
         if (!request.key.isNew) return;
-        if (const auto added = grid_.RowOf(request.key.key)) SelectRow(*added);
+        const std::string filter = grid_.Filter();
+        if (!grid_.RowOf(request.key.key)) grid_.SetFilter("");
+        const auto added = grid_.RowOf(request.key.key);
+        if (added) SelectRow(*added);
+        // Nothing was added that the filter could have hidden.
+        if (!added) SetFilter(filter);
     });
 }
 

@@ -20,6 +20,7 @@ void MainScreen::InActivateMenus() {
     grid_.Clear();
     find_ = FindBox();
     rights_ = TableRights();
+    places_.clear();
     row_ = -1;
 }
 
@@ -63,9 +64,29 @@ void MainScreen::Show(TableView view) {
     if (!desk_ || running_) return;
     message_.clear();
     Guard([&] {
+        KeepPlace();
         SetupGrid(view);
+        GoToKeptPlace();
         RememberView();
     });
+}
+
+void MainScreen::KeepPlace() {
+    std::erase_if(places_, [&](const PlaceInView& place) { return place.view == grid_.View(); });
+    places_.push_back({grid_.View(), CurrentKey(), grid_.Filter(), grid_.SortColumn(), grid_.SortsDown()});
+}
+
+/// Filter, order and row of the view that is shown, as they were when the author left it.
+void MainScreen::GoToKeptPlace() {
+    const auto place =
+        std::ranges::find_if(places_, [&](const PlaceInView& kept) { return kept.view == grid_.View(); });
+    if (place == places_.end()) return;
+    grid_.SetFilter(place->filter);
+    if (place->sortColumn) {
+        grid_.ClickColumn(*place->sortColumn);
+        if (place->sortsDown) grid_.ClickColumn(*place->sortColumn);
+    }
+    StayOn(place->key, 0);
 }
 
 void MainScreen::SelectRow(int row) {

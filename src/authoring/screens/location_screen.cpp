@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <utility>
 
+#include "authoring/entries/record_keys.h"
 #include "authoring/fields/location_names.h"
 #include "authoring/fields/picture_choice.h"
 #include "authoring/fields/text_field.h"
@@ -13,6 +15,7 @@
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
+#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {
@@ -20,6 +23,22 @@ namespace {
 using store::TableNum;
 
 constexpr int kBehindDirections = 14;
+
+/// Directions and their opposites. Synonyms are found by their numbers.
+constexpr std::pair<std::string_view, std::string_view> kOpposites[] = {
+    {"NORTH", "SOUTH"},
+    {"EAST", "WEST"},
+    {"NORTHEAST", "SOUTHWEST"},
+    {"NORTHWEST", "SOUTHEAST"},
+    {"N", "S"},
+    {"E", "W"},
+    {"NE", "SW"},
+    {"NW", "SE"},
+    {"UP", "DOWN"},
+    {"U", "D"},
+    {"IN", "OUT"},
+    {"ENTER", "EXIT"},
+};
 
 std::string Edited(std::string_view exits) {
     return std::string(text::TrimBlanks(text::CollapseBlanks(exits)));
@@ -157,11 +176,64 @@ bool LocationScreen::LeaveExitPlace() {
     return CheckLocation("exitPlace", text::TrimBlanks(exitPlace.text), "");
 }
 
+/// A place that is given by its name, or by what only one name begins with, becomes its number.
+bool LocationScreen::TakePlaceByName() {
+    const std::string typed(text::TrimBlanks(exitPlace.text));
+    if (typed.empty() || LocationNumber(typed)) return true;
+    std::vector<int> same;
+    std::vector<int> beginning;
+    for (const ListItem& item : exitPlace.items) {
+        if (text::EqualsNoCase(item.text, typed)) same.push_back(item.number);
+        if (text::EqualsNoCase(item.text.substr(0, typed.size()), typed)) beginning.push_back(item.number);
+    }
+    const std::vector<int>& found = same.empty() ? beginning : same;
+    if (found.empty()) return MakePlace(typed);
+    if (found.size() > 1) return RefuseField("exitPlace", "More than one location is called " + typed);
+    exitPlace.text = std::to_string(found.front());
+    return true;
+}
+
+bool LocationScreen::MakePlace(const std::string& name) {
+    if (!context_.dialogs.Confirm("There is no location called " + name + ". Make it?", "New location"))
+        return KeepFocus("exitPlace");
+    int number = 0;
+    while (Exists(number) || condacts::IsSpecialPlace(number))
+        ++number;
+    exitPlace.items.push_back({number, name});
+    newPlaces_.push_back({number, name});
+    exitPlace.text = std::to_string(number);
+    return true;
+}
+
+/// The word of the opposite direction, the first of its number; nullptr when the game has none.
+const condacts::Word* LocationScreen::OppositeOf(std::string_view word) const {
+    const condacts::Word* typed = words_.Find(word, condacts::IsMovementWord);
+    for (const condacts::Word& synonym : words_.All()) {
+        if (synonym.number != typed->number || !condacts::IsMovementWord(synonym)) continue;
+        for (const auto& [there, back] : kOpposites) {
+            const bool isThere = text::EqualsNoCase(synonym.word, there);
+            if (!isThere && !text::EqualsNoCase(synonym.word, back)) continue;
+            const condacts::Word* opposite = words_.Find(isThere ? back : there, condacts::IsMovementWord);
+            if (opposite) return words_.FindNumber(opposite->number, condacts::IsMovementWord);
+        }
+    }
+    return nullptr;
+}
+
+bool LocationScreen::NoteWayBack(const std::string& word) {
+    if (!andBack) return true;
+    const condacts::Word* back = OppositeOf(word);
+    if (!back) return RefuseField("andBack", "There is no word for the way back of " + word);
+    waysBack_.push_back({words_.Find(word, condacts::IsMovementWord)->number,
+                         LocationNumber(text::TrimBlanks(exitPlace.text)).value_or(-1), back->number});
+    return true;
+}
+
 bool LocationScreen::Add() {
-    if (!LeaveExitPlace()) return false;
+    if (!TakePlaceByName() || !LeaveExitPlace()) return false;
     const std::string word = Edited(exitWord.text);
     const std::string location(text::TrimBlanks(exitPlace.text));
-    if (!CheckExit("exitWord", word, location)) return false;
+    if (!CheckExit("exitWord", word, location) || !NoteWayBack(word)) return false;
     exits = Edited(exits);
     AppendTo(exits, word, location);
     exitWord.text.clear();
@@ -224,6 +296,53 @@ void LocationScreen::StoreExits(store::Cursor& record) const {
     record.SetField("numexits", static_cast<std::int64_t>(2 * parsed.size()));
 }
 
+/// An exit to a new place may have been taken out of the line again.
+void LocationScreen::StoreNewPlaces() {
+    const std::vector<Exit> parsed = ParsedExits();
+    for (const ListItem& place : newPlaces_) {
+        const bool used =
+            std::ranges::any_of(parsed, [&](const Exit& exit) { return exit.location == place.number; });
+        if (!used || HasRecord(Adventure(), TableNum::Locations, place.number)) continue;
+        store::Cursor& record = Adventure().OpenTable(TableNum::Free22, "* from locations", "locnum<0");
+        record.AddNew();
+        record.SetField("locnum", std::int64_t{place.number});
+        record.SetField("locdesc", std::string(" "));
+        record.SetField("locshortdesc", place.text);
+        for (const char* field : {"exits", "numericexits", "picloc", "pickey"})
+            record.SetField(field, std::string());
+        record.SetField("numexits", std::int64_t{0});
+        record.SetField("oldpicloc", std::string(" "));
+        record.Update();
+    }
+}
+
+/// A location that has an exit in that direction keeps it.
+void LocationScreen::StoreWaysBack() {
+    const std::vector<Exit> parsed = ParsedExits();
+    for (const WayBack& way : waysBack_) {
+        const bool used = std::ranges::any_of(parsed, [&](const Exit& exit) {
+            return exit.location == way.location && exit.word->number == way.word;
+        });
+        store::Cursor& record = Adventure().OpenTable(TableNum::Free22, "* from locations",
+                                                      "locnum=" + std::to_string(way.location));
+        if (!used || record.Eof()) continue;
+        std::string numbers = Edited(record.Text("numericexits"));
+        const auto known = Tokens(numbers);
+        bool taken = false;
+        for (std::size_t i = 0; i < known.size(); i += 2)
+            taken = taken || known[i] == std::to_string(way.wordBack);
+        if (taken) continue;
+        std::string stored = Edited(record.Text("exits"));
+        const std::string here = std::to_string(Key().key);
+        AppendTo(stored, words_.FindNumber(way.wordBack, condacts::IsMovementWord)->word, here);
+        AppendTo(numbers, std::to_string(way.wordBack), here);
+        record.SetField("exits", stored);
+        record.SetField("numericexits", numbers);
+        record.SetField("numexits", record.Number("numexits") + 2);
+        record.Update();
+    }
+}
+
 void LocationScreen::StorePicture(store::Cursor& record) const {
     if (picture.empty()) {
         record.SetField("pickey", std::string());
@@ -256,6 +375,8 @@ bool LocationScreen::Update() {
     StoreExits(record);
     StorePicture(record);
     record.Update();
+    StoreNewPlaces();
+    StoreWaysBack();
     change.Commit();
     return true;
 }

@@ -45,7 +45,10 @@ class LocationScreen final : public RecordScreen {
     bool LeaveExits();
     bool LeaveExitPlace();
 
-    /// Adds the exit of `exitWord` and `exitPlace` to the line, and empties both.
+    bool andBack = false;  ///< the exits that `Add` adds get their way back in the other location
+
+    /// Adds the exit of `exitWord` and `exitPlace` to the line, and empties both. The place may be given by
+    /// its name; one that does not exist is made, after a question, when the screen is stored.
     bool Add();
     void ChoosePicture();
     void ClearPicture() { picture.clear(); }
@@ -75,6 +78,12 @@ class LocationScreen final : public RecordScreen {
     void ReadRecord();
     void ReadNeighbours();
     bool HasPendingExit() const;
+    bool TakePlaceByName();
+    bool MakePlace(const std::string& name);
+    const condacts::Word* OppositeOf(std::string_view word) const;
+    bool NoteWayBack(const std::string& word);
+    void StoreNewPlaces();
+    void StoreWaysBack();
     bool Exists(int location) const;
     bool CheckLocation(std::string_view control, std::string_view number, std::string_view word);
     bool CheckExit(std::string_view control, std::string_view word, std::string_view location);
@@ -84,7 +93,16 @@ class LocationScreen final : public RecordScreen {
     void StorePicture(store::Cursor& record) const;
 
     condacts::WordIndex words_;
+    /// An exit that is to get its way back, by the number of the word there.
+    struct WayBack {
+        int word;
+        int location;
+        int wordBack;
+    };
+
     std::vector<Neighbour> leadsHere_;
+    std::vector<ListItem> newPlaces_;  ///< to be made, as far as an exit leads there
+    std::vector<WayBack> waysBack_;
     std::vector<std::string> opened_;  ///< what `Typed` gave at first
 };
 

@@ -47,6 +47,14 @@ class LocationScreenTest : public testing::Test {
                                         {"oldpicloc", std::string(" ")}});
     }
 
+    void AddNamed(int number, const char* name) {
+        AddLocation(number);
+        store::Cursor& record =
+            desk_.Adventure().OpenTable(TableNum::Locations, "*", "locnum=" + std::to_string(number));
+        record.SetField("locshortdesc", std::string(name));
+        record.Update();
+    }
+
     LocationScreen Open(int number) { return {desk_.context, {number, false}}; }
     LocationScreen OpenNew(int number) { return {desk_.context, {number, true}}; }
 
@@ -222,6 +230,101 @@ TEST_F(LocationScreenTest, AddJoinsWordAndLocationToTheLine) {
     EXPECT_TRUE(screen.Add());
     EXPECT_EQ(screen.exits, "NORTH 5 CLIMB 7");
     EXPECT_EQ(screen.exitWord.text + screen.exitPlace.text, "");
+}
+
+TEST_F(LocationScreenTest, APlaceCanBeGivenByItsNameOrItsBeginning) {
+    AddNamed(20, "The old mill");
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = "NORTH";
+    screen.exitPlace.text = "the OLD mill";
+    EXPECT_TRUE(screen.Add());
+    screen.exitWord.text = "CLIMB";
+    screen.exitPlace.text = "the old";
+    EXPECT_TRUE(screen.Add());
+    EXPECT_EQ(screen.exits, "NORTH 20 CLIMB 20");
+}
+
+TEST_F(LocationScreenTest, ANameOfTwoPlacesIsRefused) {
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = "NORTH";
+    screen.exitPlace.text = "room";
+    EXPECT_FALSE(screen.Add());
+    EXPECT_EQ(desk_.Boxes().back(), "More than one location is called room");
+    EXPECT_EQ(screen.Refused(), "exitPlace");
+}
+
+TEST_F(LocationScreenTest, APlaceThatDoesNotExistIsMadeAfterAQuestion) {
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = "NORTH";
+    screen.exitPlace.text = "The mill";
+    desk_.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.Add());
+    EXPECT_EQ(desk_.Boxes().back(), "There is no location called The mill. Make it?");
+    EXPECT_EQ(Stored(6, "locnum"), "0 records") << "only Update makes it";
+    EXPECT_TRUE(screen.Update());
+    EXPECT_EQ(Stored(3, "exits, numericexits"), "NORTH 6|2 6");
+    EXPECT_EQ(Stored(6, "locshortdesc, exits, numexits"), "The mill||0");
+    desk_.document.Undo();
+    EXPECT_EQ(Stored(6, "locnum"), "0 records");
+}
+
+TEST_F(LocationScreenTest, APlaceThatNobodyWantsMadeKeepsTheFocus) {
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = "NORTH";
+    screen.exitPlace.text = "The mill";
+    desk_.dialogs.AnswerNext(false);
+    EXPECT_FALSE(screen.Add());
+    EXPECT_EQ(screen.Refused(), "exitPlace");
+    EXPECT_EQ(screen.exits, "");
+}
+
+TEST_F(LocationScreenTest, APlaceWhoseExitWasTakenOutAgainIsNotMade) {
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = "NORTH";
+    screen.exitPlace.text = "The mill";
+    desk_.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.Add());
+    screen.exits = "CLIMB 7";
+    EXPECT_TRUE(screen.Update());
+    EXPECT_EQ(Stored(6, "locnum"), "0 records");
+}
+
+TEST_F(LocationScreenTest, AnExitAndBackJoinsBothPlacesInOneStepOfUndo) {
+    desk_.AddWord(108, "SOUTH", 3, 2);
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = "NORD";
+    screen.exitPlace.text = "7";
+    screen.andBack = true;
+    EXPECT_TRUE(screen.Add());
+    EXPECT_TRUE(screen.Update());
+    EXPECT_EQ(Stored(3, "exits"), "NORTH 7");
+    EXPECT_EQ(Stored(7, "exits, numericexits, numexits"), "S\u00DCD 3|3 3|2");
+    desk_.document.Undo();
+    EXPECT_EQ(Stored(7, "exits, numexits"), "|0");
+}
+
+TEST_F(LocationScreenTest, AWayBackDoesNotReplaceAnExit) {
+    desk_.AddWord(108, "SOUTH", 3, 2);
+    LocationScreen other = Open(7);
+    other.exits = "SOUTH 5";
+    EXPECT_TRUE(other.Update());
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = "NORTH";
+    screen.exitPlace.text = "7";
+    screen.andBack = true;
+    EXPECT_TRUE(screen.Add());
+    EXPECT_TRUE(screen.Update());
+    EXPECT_EQ(Stored(7, "numericexits"), "3 5");
+}
+
+TEST_F(LocationScreenTest, AWordWithoutAnOppositeHasNoWayBack) {
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = "CLIMB";
+    screen.exitPlace.text = "7";
+    screen.andBack = true;
+    EXPECT_FALSE(screen.Add());
+    EXPECT_EQ(desk_.Boxes().back(), "There is no word for the way back of CLIMB");
+    EXPECT_EQ(screen.exits, "");
 }
 
 TEST_F(LocationScreenTest, UpdateStoresAnExitThatWasNotAddedYet) {

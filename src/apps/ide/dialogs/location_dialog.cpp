@@ -1,5 +1,6 @@
 #include "ide/dialogs/location_dialog.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -85,6 +86,7 @@ LocationDialog::LocationDialog(authoring::LocationScreen& screen, QWidget* paren
       rows_(new QTableWidget(0, kColumns)),
       word_(NewWordList(screen.exitWord)),
       location_(NewLocationList(screen.exitPlace)),
+      andBack_(new QCheckBox(tr("and &back"))),
       exits_(new QLineEdit),
       picture_(new QLineEdit),
       pictureView_(new PictureView) {
@@ -129,8 +131,10 @@ void LocationDialog::AddExits() {
 
     Name(word_, "exitWord", "Exit word");
     Name(location_, "exitPlace", "Location that the exit leads to");
+    Name(andBack_, "andBack", "and back");
+    andBack_->setToolTip(tr("The other location gets an exit in the opposite direction"));
     word_->lineEdit()->setPlaceholderText(tr("Word"));
-    location_->lineEdit()->setPlaceholderText(tr("Location"));
+    location_->lineEdit()->setPlaceholderText(tr("Number or name"));
     auto* add = NewButton("&Add", "add");
     auto* remove = NewButton("&Remove", "remove");
     connect(add, &QPushButton::clicked, this, [this] { AddExit(); });
@@ -143,6 +147,7 @@ void LocationDialog::AddExits() {
     adding->addWidget(location_, 0, 2, 1, 2);
     adding->addWidget(add, 1, 0);
     adding->addWidget(remove, 1, 1);
+    adding->addWidget(andBack_, 1, 2);
     adding->setColumnStretch(3, 1);
     form_->addRow("", adding);
 
@@ -278,12 +283,18 @@ void LocationDialog::Read() {
     screen_.exits = qt::FromQt(exits_->text());
     screen_.exitWord.text = qt::FromQt(word_->currentText());
     screen_.exitPlace.text = LocationTyped(*location_);
+    screen_.andBack = andBack_->isChecked();
 }
 
 void LocationDialog::Show() {
     exits_->setText(qt::ToQt(screen_.exits));
     if (screen_.exitWord.text.empty()) word_->clearEditText();
     if (screen_.exitPlace.text.empty()) location_->clearEditText();
+    // What is to be made is offered from now on.
+    for (int item = location_->count(); item < static_cast<int>(screen_.exitPlace.items.size()); ++item) {
+        const authoring::ListItem& made = screen_.exitPlace.items[static_cast<std::size_t>(item)];
+        location_->addItem(QString("%1 - %2").arg(made.number).arg(qt::ToQt(made.text)), made.number);
+    }
     ShowPicture();
     ShowRows();
 }

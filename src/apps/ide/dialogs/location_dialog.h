@@ -5,6 +5,7 @@
 #include "ide/dialogs/record_dialog.h"
 #include "ide/editors/markup_edit.h"
 
+class QCheckBox;
 class QLineEdit;
 class QTableWidget;
 
@@ -41,6 +42,7 @@ class LocationDialog final : public RecordDialog {
     QTableWidget* rows_;
     QComboBox* word_;
     QComboBox* location_;
+    QCheckBox* andBack_;
     QLineEdit* exits_;
     QLineEdit* picture_;
     PictureView* pictureView_;
