@@ -7,6 +7,7 @@
 #include "authoring/entries/delete_word.h"
 #include "authoring/entries/record_keys.h"
 #include "condacts/catalogue.h"
+#include "condacts/words.h"
 
 namespace fabula::authoring {
 namespace {
@@ -27,6 +28,7 @@ constexpr EntryTable kEntryTables[] = {
     {TableNum::Locations, "location", Screen::Location, "locations", true},
     {TableNum::Messages, "message", Screen::Text, "messages", true},
     {TableNum::Objects, "object", Screen::Object, "objects", true},
+    {TableNum::Vocabulary, "word", Screen::Word, "", false},
     {TableNum::Adventure, "", Screen::Settings, "", false},
     {TableNum::ProcessTables, "process entry", Screen::ProcessEntry, "", true},
     {TableNum::SystemMessages, "system message", Screen::Text, "system messages", true},
@@ -130,6 +132,15 @@ bool MayEditFlag(ScreenContext& context) {
     return false;
 }
 
+/// What the game itself asks for by its spelling stays as it is.
+bool MayEditWord(ScreenContext& context) {
+    store::PreparedQuery word =
+        context.document.Adventure().Prepare(TableNum::Vocabulary, "voctypen", "vocindex=?");
+    if (!word.First({std::int64_t{context.currentEntry}})) return false;
+    if (word.Number(0) != condacts::kReserved) return true;
+    return Refuse(context.dialogs, "Words of type RESERVED cannot be edited");
+}
+
 /// The first three tables are there in every game, and `deed` ("edited") can't be done to them.
 bool MayChangeProcess(ScreenContext& context, std::string_view deed) {
     if (context.currentEntry > kLastFixedProcess) return true;
@@ -142,7 +153,7 @@ bool MayEdit(ScreenContext& context) {
     const int key = context.currentEntry;
     switch (context.currentTable) {
         case TableNum::Vocabulary:
-            return Refuse(context.dialogs, "Vocabulary cannot be edited");
+            return MayEditWord(context);
         case TableNum::Flags:
             return MayEditFlag(context);
         case TableNum::ProcDesc:

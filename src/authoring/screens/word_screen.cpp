@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "authoring/entries/correct_word.h"
 #include "condacts/recompile.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -33,8 +34,10 @@ WordScreen::WordScreen(ScreenContext& context, ScreenKey key)
 void WordScreen::ReadRecord() {
     const store::Cursor& record = OpenRecord();
     word = record.Text("word");
+    spelledBefore_ = word;
     number = std::to_string(record.Number("vocnum"));
     const std::int64_t stored = record.Number("voctypen");
+    typeBefore_ = static_cast<int>(stored);
     if (stored >= condacts::kVerb && stored <= condacts::kPronoun) {
         type = static_cast<condacts::WordType>(stored);
     }
@@ -60,10 +63,12 @@ int WordScreen::NextNumber(condacts::WordType wordType) const {
 
 void WordScreen::ClickType(condacts::WordType chosen) {
     type = chosen;
-    if (EditsWord()) number = std::to_string(NextNumber(chosen));
+    if (EditsNumber()) number = std::to_string(NextNumber(chosen));
 }
 
 bool WordScreen::LeaveWord() {
+    // A word of another type of game may be longer than this one's.
+    if (!Key().isNew && word == spelledBefore_) return true;
     const std::string typed = text::UpperCase(text::TrimBlanks(text::CollapseBlanks(word)));
     if (typed.empty()) return RefuseField("word", "The word cannot be spaces");
     if (typed.find(' ') != std::string::npos) {
@@ -121,8 +126,8 @@ void WordScreen::Store(Change& change) {
     store::Cursor& record = RecordToStore(change);
     if (Key().isNew) {
         record.SetField("vocnum", *text::WholeNumber(text::TrimBlanks(number)));
-        record.SetField("word", word);
     }
+    record.SetField("word", word);
     record.SetField("voctypen", std::int64_t{*type});
     record.SetField("voctype", std::string(condacts::WordTypeName(*type)));
     record.Update();
@@ -134,7 +139,10 @@ bool WordScreen::Update() {
     if (!type) return RefuseField("type", "No value set for word type");
     if (!LeaveNumber()) return false;
     Change change(context_.document, (Key().isNew ? "add word " : "edit word ") + word);
+    const auto numbered = static_cast<int>(*text::WholeNumber(text::TrimBlanks(number)));
     Store(change);
+    if (!Key().isNew && word != spelledBefore_)
+        FollowCorrection(Adventure(), {spelledBefore_, numbered, typeBefore_}, word);
     condacts::RecompileEntries(Adventure());
     change.Commit();
     if (Key().isNew) context_.nextWord = NumberAfter(Key().key);

@@ -24,8 +24,9 @@ class WordScreen final : public RecordScreen {
     std::string_view Help() const;
     /// False in adventures of type Marlo: every word is a noun, and the options are not shown.
     bool ChoosesType() const { return !IsMarlo(); }
-    /// Word and number of a word that is there already are shown only.
-    bool EditsWord() const { return Key().isNew; }
+    /// The number of a word that is there already is shown only; its spelling can be corrected, and what
+    /// names it follows.
+    bool EditsNumber() const { return Key().isNew; }
     /// The longest word of the adventure's type, in characters.
     std::size_t LongestWord() const;
 
@@ -51,6 +52,8 @@ class WordScreen final : public RecordScreen {
     std::vector<std::string> Typed() const;
     void Store(Change& change);
 
+    int typeBefore_ = 0;
+    std::string spelledBefore_;        ///< of a word that is there already
     std::vector<std::string> opened_;  ///< what `Typed` gave at first
 };
 

@@ -382,10 +382,10 @@ TEST(MainWindow, ColumnsThatAreNotKeptCannotBeWidened) {
 TEST(MainWindow, EnterOnARowThatCannotBeEditedSaysWhy) {
     OpenedWindow opened;
     opened.Open(Game());
-    opened.ChooseNode("Vocabulary");
+    opened.ChooseNode("Special Codes");
     opened.Part<QTableView>("Grid").setFocus();
     opened.Press(Qt::Key_Return);
-    EXPECT_EQ(opened.Part<QLabel>("status").text(), "Vocabulary does not offer this.");
+    EXPECT_EQ(opened.Part<QLabel>("status").text(), "Special Codes does not offer this.");
 }
 
 TEST(MainWindow, F1TellsAboutTheTableInView) {

@@ -62,8 +62,9 @@ TEST_F(CommandsTest, FollowTheTableInTheGrid) {
                             "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
-    EXPECT_FALSE(IsEnabled(Command::Edit));
-    EXPECT_EQ(StateOf(Command::Edit).why, "Vocabulary does not offer this.");
+    EXPECT_TRUE(IsEnabled(Command::Edit));
+    EXPECT_FALSE(IsEnabled(Command::AddBefore));
+    EXPECT_EQ(StateOf(Command::AddBefore).why, "Vocabulary does not offer this.");
     main->Show({TableNum::Flags});
     EXPECT_FALSE(IsEnabled(Command::Delete));
     EXPECT_FALSE(IsEnabled(Command::Sort));

@@ -31,7 +31,8 @@ TEST(ReadTableRights, DifferByTable) {
     const test::OpenedAdventure adventure;
     EXPECT_TRUE(ReadTableRights(*adventure, TableNum::ProcessTables).addBefore);
     EXPECT_TRUE(ReadTableRights(*adventure, TableNum::Objects).changeSort);
-    EXPECT_FALSE(ReadTableRights(*adventure, TableNum::Vocabulary).edit);
+    EXPECT_TRUE(ReadTableRights(*adventure, TableNum::Vocabulary).edit);
+    EXPECT_FALSE(ReadTableRights(*adventure, TableNum::Codes).edit);
     EXPECT_FALSE(ReadTableRights(*adventure, TableNum::Flags).remove);
     EXPECT_TRUE(ReadTableRights(*adventure, TableNum::Characters).load);
     EXPECT_TRUE(ReadTableRights(*adventure, TableNum::Characters).save);

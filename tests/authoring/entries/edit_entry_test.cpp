@@ -49,10 +49,20 @@ TEST(EditEntry, OfARecordThatIsNotThereOpensNothing) {
     EXPECT_THAT(desk.Boxes(), IsEmpty());
 }
 
-TEST(EditEntry, OfAWordIsRefused) {
+TEST(EditEntry, OfAWordOpensItsScreen) {
     Desk desk;
-    EXPECT_FALSE(Edit(desk, TableNum::Vocabulary, 1));
-    EXPECT_THAT(desk.Boxes(), ElementsAre("Vocabulary cannot be edited"));
+    desk.AddWord(200, "LAMP", 60, 2);
+    const auto request = Edit(desk, TableNum::Vocabulary, 200);
+    ASSERT_TRUE(request);
+    EXPECT_EQ(request->screen, Screen::Word);
+    EXPECT_FALSE(request->key.isNew);
+}
+
+TEST(EditEntry, OfAReservedWordIsRefused) {
+    Desk desk;
+    desk.AddWord(200, "IT", 60, 7);
+    EXPECT_FALSE(Edit(desk, TableNum::Vocabulary, 200));
+    EXPECT_THAT(desk.Boxes(), ElementsAre("Words of type RESERVED cannot be edited"));
     EXPECT_EQ(desk.dialogs.Boxes().at(0).title, "Error");
 }
 

@@ -255,7 +255,7 @@ TEST_F(WordScreenTest, UpdateWithoutAChangeAddsNoWord) {
 
 TEST_F(WordScreenTest, OfAnExistingWordStoresTheTypeAlone) {
     WordScreen screen(desk_.context, {100, false});
-    EXPECT_FALSE(screen.EditsWord());
+    EXPECT_FALSE(screen.EditsNumber());
     EXPECT_EQ(screen.word, "LAMP");
     EXPECT_EQ(screen.number, "50");
     EXPECT_EQ(screen.type, condacts::kNoun);
@@ -265,6 +265,55 @@ TEST_F(WordScreenTest, OfAnExistingWordStoresTheTypeAlone) {
     EXPECT_EQ(desk_.document.UndoName(), "edit word LAMP");
     desk_.document.Undo();
     EXPECT_EQ(Stored(100), "LAMP|50|2|Noun");
+}
+
+TEST_F(WordScreenTest, ACorrectedWordIsFollowedByWhatNamesIt) {
+    desk_.Clear(TableNum::Objects);
+    desk_.Clear(TableNum::Locations);
+    desk_.AddWord(110, "NORHT", 2, condacts::kNoun);
+    desk_.AddEntry(1, 0, {"GET", 20}, {"LAMP", 50}, "NOUN2 LAMP DONE");
+    desk_.Add(
+        TableNum::Objects,
+        {{"objnum", std::int64_t{0}}, {"objnoun", std::string("LAMP")}, {"objnumnoun", std::int64_t{50}}});
+    desk_.Add(TableNum::Locations, {{"locnum", std::int64_t{0}},
+                                    {"exits", std::string("NORHT 0 S 0")},
+                                    {"numericexits", std::string("2 0 3 0")},
+                                    {"numexits", std::int64_t{4}}});
+    const auto numbers = desk_.Rows(TableNum::ProcessTables, "numericcondacts");
+    WordScreen lamp(desk_.context, {100, false});
+    lamp.word = "lantern";
+    EXPECT_TRUE(lamp.Update());
+    EXPECT_EQ(Stored(100), "LANTERN|50|2|Noun");
+    EXPECT_THAT(desk_.Rows(TableNum::ProcessTables, "w2, condacts"),
+                ElementsAre("LANTERN|NOUN2 LANTERN DONE"));
+    EXPECT_EQ(desk_.Rows(TableNum::ProcessTables, "numericcondacts"), numbers);
+    EXPECT_THAT(desk_.Rows(TableNum::Objects, "objnoun, objnumnoun"), ElementsAre("LANTERN|50"));
+    WordScreen north(desk_.context, {110, false});
+    north.word = "NORTH";
+    EXPECT_TRUE(north.Update());
+    EXPECT_THAT(desk_.Rows(TableNum::Locations, "exits, numericexits"), ElementsAre("NORTH 0 S 0|2 0 3 0"));
+    desk_.document.Undo();
+    desk_.document.Undo();
+    EXPECT_THAT(desk_.Rows(TableNum::ProcessTables, "w2, condacts"), ElementsAre("LAMP|NOUN2 LAMP DONE"));
+    EXPECT_THAT(desk_.Rows(TableNum::Locations, "exits"), ElementsAre("NORHT 0 S 0"));
+}
+
+TEST_F(WordScreenTest, UsesStayWithAnotherWordOfTheOldSpelling) {
+    desk_.AddWord(110, "LAMP", 50, condacts::kNoun);
+    desk_.AddEntry(1, 0, {"GET", 20}, {"LAMP", 50}, "DONE");
+    WordScreen screen(desk_.context, {100, false});
+    screen.word = "LANTERN";
+    EXPECT_TRUE(screen.Update());
+    EXPECT_THAT(desk_.Rows(TableNum::ProcessTables, "w2"), ElementsAre("LAMP"));
+}
+
+TEST_F(WordScreenTest, AWordIsNotCorrectedToOneThatIsThere) {
+    desk_.AddWord(110, "LANTERN", 50, condacts::kNoun);
+    WordScreen screen(desk_.context, {100, false});
+    screen.word = "LANTERN";
+    EXPECT_FALSE(screen.Update());
+    EXPECT_EQ(Stored(100), "LAMP|50|2|Noun");
+    EXPECT_EQ(desk_.Boxes().back(), "You already have LANTERN in the vocabulary as a Noun");
 }
 
 TEST_F(WordScreenTest, AnEntryThatCutALongerWordIsCompiledAnewWhenTheWordIsAdded) {

@@ -31,8 +31,7 @@ WordDialog::WordDialog(authoring::WordScreen& screen, QWidget* parent)
     help->setTextFormat(Qt::PlainText);
     help->setWordWrap(true);
     form_->addRow(help);
-    word_->setReadOnly(!screen_.EditsWord());
-    number_->setReadOnly(!screen_.EditsWord());
+    number_->setReadOnly(!screen_.EditsNumber());
     CheckOnLeave(word_, [this] { return screen_.LeaveWord(); });
     CheckOnLeave(number_, [this] { return screen_.LeaveNumber(); });
     Show();
