@@ -10,6 +10,7 @@
 #include "qt/help.h"
 #include "qt/last_border.h"
 #include "qt/qt_dialogs.h"
+#include "qt/qt_settings.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
 
@@ -58,6 +59,7 @@ int Run(int argc, char** argv) {
     const QStringList files = arguments.positionalArguments();
     if (!files.isEmpty()) window.OpenAtStart(qt::PathFromQt(files.first()));
     window.show();
+    if (const std::string notKept = qt::WhyNotKept(settings); !notKept.empty()) window.Tell(notKept);
     return app.Run(border);
 }
 

@@ -26,4 +26,9 @@ void QtSettings::Clear(std::string_view section) {
     store_.remove(ToQt(section));
 }
 
+std::string WhyNotKept(const QSettings& store) {
+    if (store.isWritable()) return "";
+    return "Settings can't be kept: " + FromQt(store.fileName()) + " can't be written.";
+}
+
 }  // namespace fabula::qt

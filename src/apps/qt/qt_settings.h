@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/settings.h"
 
 class QSettings;
@@ -19,5 +21,9 @@ class QtSettings final : public platform::Settings {
   private:
     QSettings& store_;
 };
+
+/// A sentence when settings that are made now are lost with the program, since their file can't be written;
+/// else "".
+std::string WhyNotKept(const QSettings& store);
 
 }  // namespace fabula::qt

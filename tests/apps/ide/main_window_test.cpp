@@ -49,6 +49,18 @@ TEST(MainWindow, OffersNewOpenAndImportWhileNothingIsOpen) {
     EXPECT_FALSE(opened.Action("Run").isEnabled());
 }
 
+TEST(MainWindow, SaysThatItsSettingsCannotBeKept) {
+    OpenedWindow window;
+    EXPECT_EQ(window.Part<QLabel>("status").text().toStdString().find("Settings can't be kept"),
+              std::string::npos);
+    const auto settings = window.folder / "settings.ini";
+    std::filesystem::remove(settings);
+    std::filesystem::create_directory(settings);
+    window.Window().Start({});
+    EXPECT_EQ(window.Part<QLabel>("status").text().toStdString(),
+              "Settings can't be kept: " + settings.string() + " can't be written.");
+}
+
 TEST(MainWindow, OpenAdventureShowsItsTreeAndGrid) {
     OpenedWindow opened;
     opened.Open(Game());

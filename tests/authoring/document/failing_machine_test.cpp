@@ -137,6 +137,22 @@ TEST_F(FailingMachine, AFullDiskRefusesAChangeAndGoesOn) {
     EXPECT_EQ(result, 0);
 }
 
+TEST_F(FailingMachine, ANewAdventureOnANearlyFullDiskIsToldOnceAndLeavesNothing) {
+    const int result = test::RunInChild([&] {
+        const auto folder = window_.folder / "new";
+        std::filesystem::create_directory(folder);
+        const std::size_t boxes = window_.Boxes().size();
+        test::LimitFileSize(100'000);
+        EXPECT_FALSE(Main().NewAdventure(folder / "new.fbd", {}, true));
+        EXPECT_EQ(window_.Boxes().size(), boxes + 1);
+        EXPECT_TRUE(LastBox().starts_with("Could not ")) << LastBox();
+        EXPECT_TRUE(std::filesystem::is_empty(folder));
+        EXPECT_EQ(Main().Title(), "Fabula IDE - game") << "the open adventure stays";
+        return testing::Test::HasFailure() ? 1 : 0;
+    });
+    EXPECT_EQ(result, 0);
+}
+
 TEST_F(FailingMachine, AFileThatWasDeletedIsToldAndCanBeSavedElsewhere) {
     std::filesystem::remove(file_);
     try {

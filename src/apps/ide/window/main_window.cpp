@@ -28,6 +28,7 @@
 #include "ide/window/game_test.h"
 #include "ide/window/record_panel.h"
 #include "ide/window/tree_panel.h"
+#include "qt/qt_settings.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -236,6 +237,8 @@ void MainWindow::Start(const std::filesystem::path& file) {
     if (isFile) services_.settings.Set(authoring::startup::kSection, authoring::startup::kFile, remembered);
     ide_.Start();
     if (!isFile && !file.empty()) ide_.OpenFile(file);
+    const std::string notKept = qt::WhyNotKept(services_.store);
+    if (!notKept.empty()) ide_.Say(notKept);
     ShowChanges();
 }
 
