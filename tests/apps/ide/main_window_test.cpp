@@ -43,7 +43,7 @@ GameBuilder Game() {
 
 TEST(MainWindow, OffersNewOpenAndImportWhileNothingIsOpen) {
     OpenedWindow opened;
-    for (const char* name : {"new", "open", "start"})
+    for (const char* name : {"new", "open", "start", "tutorial"})
         EXPECT_TRUE(opened.Part<QPushButton>(name).isVisible()) << name;
     EXPECT_EQ(opened.Window().windowTitle(), "Fabula IDE");
     EXPECT_FALSE(opened.Action("Run").isEnabled());

@@ -62,6 +62,8 @@ EmptyPage::EmptyPage(Actions actions, QWidget* parent) : QScrollArea(parent), ac
     add("open", "open", tr("&Open…"), tr("An adventure file that you have."), actions_.open);
     add("start", "import", tr("&Import…"), tr("A game from an export file, a source or a listing."),
         actions_.import);
+    add("tutorial", "book", tr("&A First Game"), tr("A small game in half an hour, step by step."),
+        actions_.tutorial);
     start->addStretch(1);
     setFocusProxy(create);
 

@@ -20,6 +20,7 @@ class EmptyPage final : public QScrollArea {
         std::function<void()> create;
         std::function<void()> open;
         std::function<void()> import;
+        std::function<void()> tutorial;
         std::function<void(const Example& example)> openExample;
         std::function<void(const std::filesystem::path& file)> openRecent;
     };
