@@ -1,12 +1,18 @@
 #include "authoring/jobs/interchange_screen.h"
 
+#include <algorithm>
 #include <array>
 #include <system_error>
 
 #include "authoring/document/screen_context.h"
 #include "authoring/files/start_up.h"
 #include "authoring/jobs/status_text.h"
+#include "platform/error.h"
+#include "platform/whole_file.h"
+#include "text/fields.h"
+#include "text/numbers.h"
 #include "text/str_edit.h"
+#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {
@@ -57,6 +63,45 @@ std::vector<InterchangeScreen::KindOption> KindsOf(JobMode mode) {
     return kinds;
 }
 
+/// What a game is exported as at first, by the `source` that it came from. Other games have the usual kind.
+struct OwnKind {
+    std::string_view source;
+    std::string_view kind;
+};
+
+constexpr OwnKind kOwnKinds[] = {
+    {"New", "Fabula"}, {"FabulaExp", "Fabula"}, {"UnVel", "UnVel"}, {"PCVel", "PCVEL"}, {"ACE", "PCVEL"},
+};
+
+std::string_view OwnKindOf(store::Adventure& adventure) {
+    const std::string source(adventure.OpenTable(store::TableNum::Adventure, "source").Text("source"));
+    for (const OwnKind& own : kOwnKinds) {
+        if (text::EqualsNoCase(own.source, source)) return own.kind;
+    }
+    return kUsualKind;
+}
+
+constexpr std::uintmax_t kBytesThatTell = 65536;
+
+/// The kind of a source, where its beginning tells it: an export file begins with its version and goes on
+/// with the fields of records; a PC source has a section /CTL. "" for any other, and for a file that can't
+/// be read, which the import tells.
+std::string_view KindOfSource(const path& file) {
+    std::string start;
+    try {
+        start = platform::ReadStartOfFile(file, kBytesThatTell, "read the source");
+    } catch (const Error&) {
+        return "";
+    }
+    const auto lines = text::Split(start, "\n");
+    if (lines.size() > 1 && text::Split(lines[0], ".").size() == 3 &&
+        text::WholeNumber(text::Split(lines[1], "|")[0]) && lines[1].find('|') != std::string_view::npos)
+        return "Fabula";
+    const bool isPcSource = std::ranges::any_of(
+        lines, [](std::string_view line) { return text::EqualsNoCase(line.substr(0, 4), "/CTL"); });
+    return isPcSource ? "PCVEL" : "";
+}
+
 std::string Trimmed(const std::string& text) {
     return text::StrEdit(text, "trim");
 }
@@ -79,9 +124,20 @@ InterchangeScreen::InterchangeScreen(JobMode mode, store::Adventure* adventure, 
     : mode_(mode), adventure_(adventure), host_(host), record_(record), kinds_(KindsOf(mode)) {
     while (chosen_ + 1 < kinds_.size() && !kinds_[chosen_].kind)
         ++chosen_;
+    ChooseKindNamed(mode == JobMode::Export && adventure ? OwnKindOf(*adventure) : kUsualKind);
+}
+
+void InterchangeScreen::ChooseKindNamed(std::string_view name) {
     for (std::size_t option = 0; option < kinds_.size(); ++option) {
-        if (kinds_[option].name == kUsualKind && kinds_[option].kind) chosen_ = option;
+        if (kinds_[option].name == name && kinds_[option].kind) chosen_ = option;
     }
+}
+
+/// An ACE source looks like a PC source: who has chosen that kind knows better.
+void InterchangeScreen::ChooseKindOf(const path& file) {
+    const std::string_view kind = KindOfSource(file);
+    const bool isAce = kind == "PCVEL" && kinds_[chosen_].name == "ACE";
+    if (!kind.empty() && !isAce) ChooseKindNamed(kind);
 }
 
 std::string InterchangeScreen::Title() const {
@@ -135,6 +191,7 @@ void InterchangeScreen::ChooseSource() {
     if (!file) return;
     source = file->string();
     if (writes) agreed_ = *file;
+    if (!writes) ChooseKindOf(*file);
     if (!writes && Trimmed(database).empty()) database = path(*file).replace_extension(".fbd").string();
     Show();
 }

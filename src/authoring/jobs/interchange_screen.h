@@ -73,7 +73,7 @@ class InterchangeScreen final : private interchange::JobObserver {
     std::string source;
     std::string database;
 
-    /// Ask for the files. A source proposes the database, in its folder.
+    /// Ask for the files. A source proposes the database, in its folder, and its kind where it tells.
     void ChooseSource();
     void ChooseDatabase();
 
@@ -111,6 +111,8 @@ class InterchangeScreen final : private interchange::JobObserver {
     void Progress(std::int64_t value, std::int64_t maximum) override;
     bool CancelWanted() override { return cancel_; }
 
+    void ChooseKindNamed(std::string_view name);
+    void ChooseKindOf(const std::filesystem::path& file);
     const interchange::FileKind* Kind() const { return kinds_[chosen_].kind; }
     std::string Placed(const std::string& typed) const;
     bool ImportIt();

@@ -101,6 +101,37 @@ TEST_F(InterchangeScreenTest, TheUsualKindIsChosenAtFirstAndEachCanBe) {
     EXPECT_FALSE(screen.ChooseKind(5));
 }
 
+TEST_F(InterchangeScreenTest, ASourceThatTellsItsKindChoosesIt) {
+    const auto chosen = [&](const char* name, const std::string& content, std::string_view before) {
+        test::WriteBytes(In(name), content);
+        InterchangeScreen screen = Screen(JobMode::Import);
+        screen.ChooseKind(Option(screen, before));
+        dialogs_.AnswerFile(In(name));
+        screen.ChooseSource();
+        return std::string(screen.Kinds()[screen.ChosenKind()].name);
+    };
+    EXPECT_EQ(chosen("a.txt", "4.0.0\n5|advnum|1\n", "PCVEL"), "Fabula");
+    EXPECT_EQ(chosen("b.txt", "; a game\n/CTL\n_\n", "Fabula"), "PCVEL");
+    EXPECT_EQ(chosen("c.txt", "/ctl\n_\n", "ACE"), "ACE") << "the two look alike";
+    EXPECT_EQ(chosen("d.txt", "a letter to a friend\n", "Fabula"), "Fabula");
+    EXPECT_EQ(chosen("e.txt", "", "PCVEL"), "PCVEL");
+}
+
+TEST_F(InterchangeScreenTest, AnExportBeginsWithTheAdventuresOwnKind) {
+    const auto chosen = [&](const char* source) {
+        store::Cursor& settings = adventure_->OpenTable(TableNum::Adventure, "source");
+        settings.SetField("source", std::string(source));
+        settings.Update();
+        const InterchangeScreen screen = Screen(JobMode::Export);
+        return std::string(screen.Kinds()[screen.ChosenKind()].name);
+    };
+    EXPECT_EQ(chosen("New"), "Fabula");
+    EXPECT_EQ(chosen("FabulaExp"), "Fabula");
+    EXPECT_EQ(chosen("UnVel"), "UnVel");
+    EXPECT_EQ(chosen("PCVel"), "PCVEL");
+    EXPECT_EQ(chosen("Unknown"), "PCVEL");
+}
+
 TEST_F(InterchangeScreenTest, BlankSourceIsRefused) {
     InterchangeScreen screen = Screen(JobMode::Import);
     screen.source = "   ";

@@ -225,8 +225,10 @@ void InterchangeDialog::reject() {
 
 void InterchangeDialog::Show() {
     const bool running = screen_.Running();
-    for (std::size_t i = 0; i < kinds_.size(); ++i)
+    for (std::size_t i = 0; i < kinds_.size(); ++i) {
         kinds_[i]->setEnabled(!running && screen_.Kinds()[i].kind);
+        if (i == screen_.ChosenKind() && screen_.Kinds()[i].kind) kinds_[i]->setChecked(true);
+    }
     for (QWidget* input : inputs_)
         input->setEnabled(!running);
     const auto showText = [](QLineEdit* field, const std::string& text) {

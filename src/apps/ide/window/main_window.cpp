@@ -58,7 +58,10 @@ MainWindow::MainWindow(const Services& services, Places places)
       empty_(new EmptyPage({.create = [this] { Do(Command::New); },
                             .open = [this] { Do(Command::Open); },
                             .import = [this] { Do(Command::Import); },
-                            .tutorial = [this] { help_.Show({"firstgame.html", {}}); },
+                            .tutorial =
+                                [this] {
+                                    help_.Show({"firstgame.html", {}});
+                                },
                             .openExample = [this](const Example& example) { OpenExample(example); },
                             .openRecent = [this](const auto& file) { Open(file); }})),
       desk_(new QSplitter),
