@@ -24,7 +24,8 @@ constexpr std::size_t kFrameDepth = 2 * CondActRunner::kCallDepth;
 
 }  // namespace
 
-CondActRunner::CondActRunner(Game& game, std::int64_t condactLimit) : game_(game), limit_(condactLimit) {
+CondActRunner::CondActRunner(Game& game, std::int64_t condactLimit, std::int64_t slice)
+    : game_(game), limit_(condactLimit), slice_(slice) {
     for (const CondActRoutine& routine : AllCondActs()) {
         const int params = game.data.condActParams[static_cast<std::size_t>(routine.number)];
         if (params == GameData::kUnknownCondAct) continue;
@@ -36,6 +37,17 @@ CondActRunner::CondActRunner(Game& game, std::int64_t condactLimit) : game_(game
 void CondActRunner::ResetBudget() {
     condactsRun_ = 0;
     entriesSeen_ = 0;
+    BeginSlice();
+}
+
+void CondActRunner::BeginSlice() {
+    sliceBegan_ = {condactsRun_, entriesSeen_, game_.printer.Spent()};
+}
+
+bool CondActRunner::SliceIsOver() const {
+    return slice_ > 0 && (condactsRun_ - sliceBegan_.condacts >= slice_ ||
+                          entriesSeen_ - sliceBegan_.entries >= slice_ * kEntriesForACondAct ||
+                          game_.printer.Spent() - sliceBegan_.text >= kSliceText);
 }
 
 void CondActRunner::DoCondActs(ProcessNumber process, int startX, int startY) {
@@ -46,7 +58,13 @@ void CondActRunner::DoCondActs(ProcessNumber process, int startX, int startY) {
 }
 
 bool CondActRunner::Run() {
+    rests_ = false;
     while (!frames_.empty()) {
+        if (SliceIsOver()) {
+            BeginSlice();
+            rests_ = true;
+            return false;
+        }
         switch (frames_.back().phase) {
             case Phase::Entry:
                 SeekEntry();
@@ -210,7 +228,8 @@ void CondActRunner::RunEntry() {
     const ProcessEntry& entry = (*Table(frame.process))[frame.entry];
     const std::span<const std::int16_t> numbers = game_.data.CondActsOf(entry);
     const std::size_t depth = frames_.size();
-    while (frames_.size() == depth && frames_.back().phase == Phase::CondAct && wait_.count() == 0) {
+    while (frames_.size() == depth && frames_.back().phase == Phase::CondAct && wait_.count() == 0 &&
+           !SliceIsOver()) {
         const auto at = static_cast<std::size_t>(frames_.back().cell - kFirstCell);
         if (at >= numbers.size()) return LeaveEntry();
         CountCondAct();
@@ -363,7 +382,8 @@ void CondActRunner::NextObject() {
     while (!game_.stopDoAll && game_.Flag(flag::kAsking) == 0 && game_.Flag(flag::kEnded) == 0 &&
            frame.object < game_.state.ObjectCount()) {
         const ObjectNumber object(frame.object++);
-        if (game_.state.ObjectPlace(object) != game_.PlaceOf(PlaceNumber(game_.Flag(flag::kDoAllPlace))))
+        if (game_.state.ObjectPlace(object) !=
+            game_.ListedPlace(PlaceNumber(game_.Flag(flag::kDoAllPlace))))
             continue;
         game_.SetFlag(flag::kNoun, game_.data.Object(object).noun.value);
         game_.SetFlag(flag::kAdjective, game_.data.Object(object).adjective.value);

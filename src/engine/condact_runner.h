@@ -25,6 +25,9 @@ struct TablePosition {
     int cell = 0;
 };
 
+/// How many bytes a run with slices prints before it rests.
+inline constexpr std::int64_t kSliceText = 16 * 1024;
+
 /// Runs process tables: `DoCondActs`. Tables that PROCESS calls and the walks of DOALL are frames of one
 /// stack, so that a PAUSE can stand in the midst of them while the event loop runs.
 ///
@@ -34,13 +37,17 @@ class CondActRunner {
     static constexpr int kFirstCell = 4;
     static constexpr int kCallDepth = 200;
 
-    CondActRunner(Game& game, std::int64_t condactLimit);
+    /// The run rests after `slice` condacts, a hundred times as many entries, or kSliceText bytes of text,
+    /// and then again; 0: it never does.
+    CondActRunner(Game& game, std::int64_t condactLimit, std::int64_t slice);
 
     /// Begins a run of one table at an entry and cell; -1 means the first. Run then carries it out.
     void DoCondActs(ProcessNumber process, int startX, int startY);
     /// Runs on. True when the table has ended, false when it waits: for a file when FileAsked tells of one,
-    /// else in a PAUSE, for which a tick has been asked.
+    /// for its host when it Rests, else in a PAUSE, for which a tick has been asked.
     bool Run();
+    /// The latest Run stopped only because it had run for long.
+    bool Rests() const { return rests_; }
 
     /// For the actions. PROCESS, DOALL, and waits: the run goes on behind the action when what it began is
     /// over.
@@ -126,6 +133,8 @@ class CondActRunner {
     const Runnable& Find(int number) const;
     const ProcessTable* Table(ProcessNumber process) const;
     void CountCondAct();
+    bool SliceIsOver() const;
+    void BeginSlice();
 
     Game& game_;
     std::array<Runnable, 200> routines_{};  ///< by number, from kFirstNumber
@@ -133,8 +142,18 @@ class CondActRunner {
     std::chrono::milliseconds wait_{0};
     std::optional<FileQuestion> question_;
     std::int64_t limit_;
+    std::int64_t slice_;
     std::int64_t condactsRun_ = 0;
     std::int64_t entriesSeen_ = 0;
+
+    /// What has been spent.
+    struct Spent {
+        std::int64_t condacts = 0;
+        std::int64_t entries = 0;
+        std::int64_t text = 0;
+    };
+    Spent sliceBegan_;
+    bool rests_ = false;
 };
 
 }  // namespace fabula::engine

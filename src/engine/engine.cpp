@@ -116,8 +116,8 @@ void Engine::ShowStatus() {
 /// Enters the turn cycle and deals with what it came to.
 void Engine::RunLoop(ProcessLoop::Outcome (ProcessLoop::*entrance)()) {
     game_->inputReady = false;
-    game_->runner.ResetBudget();
     game_->printer.ResetBudget();
+    game_->runner.ResetBudget();
     Guard([&] { Finish((game_->loop.*entrance)()); });
 }
 
@@ -129,6 +129,9 @@ void Engine::Finish(ProcessLoop::Outcome outcome) {
             return;
         case ProcessLoop::Outcome::AsksForFile:
             waiting_ = Waiting::File;
+            return;
+        case ProcessLoop::Outcome::Rests:
+            waiting_ = Waiting::Turn;
             return;
         case ProcessLoop::Outcome::Ended:
             return EndGame();
@@ -158,8 +161,13 @@ void Engine::TellScriptFailure() {
     ShowStatus();
 }
 
+/// Between two lines of a script the input is ready too, but not for the player.
+bool Engine::TakesInput() const {
+    return game_ && game_->inputReady && waiting_ != Waiting::Turn;
+}
+
 void Engine::Key(char32_t key) {
-    if (!game_ || !game_->inputReady) return;
+    if (!TakesInput()) return;
     Game& game = *game_;
     if (game.timeOutRunning) StartTimeOut(game);
     if (key == kEnter || game.Flag(flag::kAnyKey) != 0) return PressEnter();
@@ -173,7 +181,7 @@ void Engine::Key(char32_t key) {
 }
 
 void Engine::EnterLine(std::string_view line) {
-    if (!game_ || !game_->inputReady) return;
+    if (!TakesInput()) return;
     (game_->Flag(flag::kAsking) != 0 ? game_->answer : game_->command) = AsTyped(line);
     PressEnter();
 }
@@ -205,7 +213,7 @@ void Engine::ProcessInput(bool played) {
 }
 
 void Engine::TimeOutTick() {
-    if (!game_ || !game_->timeOutRunning || !game_->inputReady) return;
+    if (!TakesInput() || !game_->timeOutRunning) return;
     Game& game = *game_;
     const bool asking = game.Flag(flag::kAsking) != 0;
     game.timeOutRunning = false;
@@ -239,11 +247,11 @@ const FileRequest& Engine::FileAsked() const {
 void Engine::GiveFile(const std::optional<std::filesystem::path>& file) {
     if (waiting_ != Waiting::File) return;
     game_->runner.GiveFile(file);
-    GoOn();
+    GoOnBehindWait();
 }
 
 /// The turn goes on behind the action that waited, within its limits.
-void Engine::GoOn() {
+void Engine::GoOnBehindWait() {
     Guard([this] { Finish(game_->loop.Continue()); });
     if (scriptPlaying_) PlayScript();
 }
@@ -254,22 +262,53 @@ void Engine::WaitTick() {
         return Fail("the game paused more than " + std::to_string(kMostPauses) +
                     " times without waiting for the player");
     }
-    game_->runner.ResetBudget();
     game_->printer.ResetBudget();
-    GoOn();
+    game_->runner.ResetBudget();
+    GoOnBehindWait();
+}
+
+void Engine::GoOn() {
+    if (waiting_ != Waiting::Turn) return;
+    if (!game_->inputReady) return GoOnBehindWait();
+    // It stood between two lines of a script.
+    waiting_ = Waiting::Sentence;
+    PlayScript();
+}
+
+void Engine::StopTurn(std::string_view state) {
+    if (waiting_ != Waiting::Turn && waiting_ != Waiting::Pause) return;
+    scriptPlaying_ = false;
+    tickPending_ = false;
+    Game& game = *game_;
+    if (game.inputReady) {
+        waiting_ = Waiting::Sentence;
+        return;
+    }
+    if (!RestoreFrom(game, state)) return EndGame();
+    game.command.clear();
+    game.tones.clear();
+    Guard([&] {
+        game.printer.EndLine();
+        Finish(game.loop.Stop());
+    });
 }
 
 void Engine::DoNextScript() {
-    if (!game_ || !game_->inputReady || !session_->script.Loaded()) return;
+    if (!TakesInput() || !session_->script.Loaded()) return;
     if (PlayScriptLine()) PlayScript();
 }
 
 /// Plays on until the game asks a question or ends, or the script does.
 void Engine::PlayScript() {
+    constexpr int kLinesOfASlice = 20;
     scriptPlaying_ = true;
+    int lines = 0;
     while (waiting_ == Waiting::Sentence && session_->script.Loaded() && PlayScriptLine()) {
+        if (session_->options.slice == 0 || ++lines < kLinesOfASlice) continue;
+        if (waiting_ == Waiting::Sentence) waiting_ = Waiting::Turn;
     }
-    if (waiting_ != Waiting::Pause && waiting_ != Waiting::File) scriptPlaying_ = false;
+    if (waiting_ != Waiting::Pause && waiting_ != Waiting::File && waiting_ != Waiting::Turn)
+        scriptPlaying_ = false;
 }
 
 /// False at the end of the script.
@@ -301,11 +340,23 @@ bool Engine::SoundOn() const {
 }
 
 void Engine::SaveTo(const std::filesystem::path& file) {
-    if (game_) WriteSavedGame(file, game_->data, game_->state);
+    if (game_) WriteSavedGame(file, SavedState());
+}
+
+std::string Engine::SavedState() {
+    return game_ ? SavedGameText(game_->data, game_->state) : "";
 }
 
 bool Engine::LoadFrom(const std::filesystem::path& file) {
-    if (!game_ || !RestoreFrom(*game_, file)) return false;
+    return game_ && TakeState(ReadSavedGame(file, game_->state));
+}
+
+bool Engine::TakeState(std::string_view state) {
+    if (!game_ || !RestoreFrom(*game_, state)) return false;
+    StopTimeOut(*game_);
+    scriptPlaying_ = false;
+    tickPending_ = false;
+    game_->tones.clear();
     game_->printer.EndLine();
     game_->command.clear();
     game_->SetFlag(flag::kDescribe, kSet);

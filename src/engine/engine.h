@@ -35,6 +35,9 @@ struct Options {
     bool traceRequested = false;  ///< flag 1005 starts at 255
     /// How many condacts may run without returning to the player before the game is taken for a runaway.
     std::int64_t condactLimit = 10'000'000;
+    /// How many condacts may run until the engine returns in the midst of a turn (Waiting::Turn), so that a
+    /// window answers whatever a game does; also after kSliceText bytes of text. 0: a turn runs to its end.
+    std::int64_t slice = 0;
 };
 
 /// What the game needs next.
@@ -44,6 +47,7 @@ enum class Waiting {
     AnyKey,    ///< one key: Key (or EnterLine with whatever text)
     File,      ///< the name of a file: GiveFile, in answer to FileAsked
     Pause,     ///< nothing of the player: WaitTick, when the time that StartWait told has passed
+    Turn,      ///< nothing: the turn is long; GoOn, as soon as the host has had its say (Options::slice)
     Nothing,   ///< no game is running: not started, or ended
 };
 
@@ -98,6 +102,14 @@ class Engine {
     /// The time that GameTimers::StartWait told has passed. Ignored unless the game pauses.
     void WaitTick();
 
+    /// The turn goes on. Ignored unless the game waits for it (Waiting::Turn).
+    void GoOn();
+
+    /// Gives up the turn that stands in a pause or is long, and goes back to `state` (SavedState), without
+    /// a description; the player is asked for the next line. A state that is not of this game ends it.
+    /// Ignored unless the game waits in a turn.
+    void StopTurn(std::string_view state);
+
     /// "Next": plays the script that SCRIPT opened, up to the next question of the game, pause or end of
     /// the file.
     void DoNextScript();
@@ -107,6 +119,12 @@ class Engine {
     /// The sound switch of the session. Tells the new state to the status.
     void ToggleSound();
     bool SoundOn() const;
+
+    /// The state as SAVE writes it into a file; "" while no game runs.
+    std::string SavedState();
+    /// Goes back to a state and describes the place. False, with nothing changed, when it is none of this
+    /// game.
+    bool TakeState(std::string_view state);
 
     /// Writes the state to a file of the form of SAVE, atomically. Throws fabula::Error. Only while a game
     /// runs.
@@ -129,8 +147,9 @@ class Engine {
     void Guard(Step step);
     void Start();
     void RunLoop(ProcessLoop::Outcome (ProcessLoop::*entrance)());
-    void GoOn();
+    void GoOnBehindWait();
     void Finish(ProcessLoop::Outcome outcome);
+    bool TakesInput() const;
     void PlayerIsBack();
     void PressEnter();
     void ProcessInput(bool played);
@@ -148,7 +167,7 @@ class Engine {
     Waiting waiting_ = Waiting::Nothing;
     bool failed_ = false;
     bool tickPending_ = false;    ///< the turn of a time-out has not ended yet
-    bool scriptPlaying_ = false;  ///< "Next" goes on behind a pause or a question for a file
+    bool scriptPlaying_ = false;  ///< "Next" goes on behind a wait that is none for the player
     int restarts_ = 0;            ///< since the player was last asked
     std::int64_t pauses_ = 0;     ///< since the player was last asked
 };

@@ -55,7 +55,7 @@ Game::Game(store::Adventure& adventure, Session& theSession)
       state(data),
       printer(host.window, data, session.script),
       trace(host.trace, state),
-      runner(*this, session.options.condactLimit),
+      runner(*this, session.options.condactLimit, session.options.slice),
       loop(*this) {
     SetStartFlags(*this);
     SetAutoFlags(*this);

@@ -18,10 +18,11 @@
 
 namespace fabula::engine {
 
-/// One tone of a series: the Marlo sub-functions of PAUSE play several.
+/// A tone of BEEP, or one of the series that the Marlo sub-functions of PAUSE play.
 struct Tone {
     int duration = 0;  ///< in 10 ms
     int pitch = 0;
+    bool ofSeries = false;  ///< the pause behind it is plain, whatever flag 28 says
 };
 
 /// What outlives a restart of the game.
@@ -107,6 +108,10 @@ class Game {
     /// The flag 38 location, for arguments of 255 and above; any other argument itself.
     PlaceNumber PlaceOf(PlaceNumber argument) const {
         return argument >= place::kHere ? Location() : argument;
+    }
+    /// The same where a list of objects is asked for: above 255 a location that exists is meant itself.
+    PlaceNumber ListedPlace(PlaceNumber argument) const {
+        return argument > place::kHere && data.LocationExists(argument) ? argument : PlaceOf(argument);
     }
     bool IsWorn(ObjectNumber object) const { return state.ObjectPlace(object) == place::kWorn; }
     bool IsCarried(ObjectNumber object) const { return state.ObjectPlace(object) == place::kCarried; }

@@ -54,9 +54,15 @@ void GameTexts::Load(store::Adventure& adventure, Kind& kind, TableNum table, st
 }
 
 std::string_view GameTexts::Find(Kind& kind, int number) {
+    const std::optional<std::string_view> text = Seek(kind, number);
+    if (!text) FailMissing(kind.name, number);
+    return *text;
+}
+
+std::optional<std::string_view> GameTexts::Seek(Kind& kind, int number) {
     const auto index = static_cast<std::size_t>(number);
     if (index < kind.texts.size() && kind.texts[index]) return *kind.texts[index];
-    if (inMemory_ || !kind.query.First({number})) FailMissing(kind.name, number);
+    if (inMemory_ || !kind.query.First({number})) return std::nullopt;
     const std::string_view text = kind.query.Text(0);
     const bool keeps = number >= 0 && number <= kHighestText && text.size() <= kMostTextKept;
     return keeps ? Keep(kind, index, text) : text;
@@ -90,6 +96,10 @@ std::string_view GameTexts::Message(MessageNumber message) {
 
 std::string_view GameTexts::SystemMessage(SystemMessageNumber message) {
     return Find(systemMessages_, message.value);
+}
+
+bool GameTexts::HasSystemMessage(SystemMessageNumber message) {
+    return Seek(systemMessages_, message.value).has_value();
 }
 
 const std::vector<VocabularyWord>& GameTexts::FindWord(std::string_view word) {

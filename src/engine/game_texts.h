@@ -37,6 +37,7 @@ class GameTexts {
     std::string_view Object(ObjectNumber object);
     std::string_view Message(MessageNumber message);
     std::string_view SystemMessage(SystemMessageNumber message);
+    bool HasSystemMessage(SystemMessageNumber message);
 
     /// The rows of a word as typed, in the order of type and number; for "marlo" only verbs, nouns and
     /// reserved words. Valid until the next call.
@@ -58,6 +59,7 @@ class GameTexts {
 
     void Load(store::Adventure& adventure, Kind& kind, store::TableNum table, std::string_view fields);
     std::string_view Find(Kind& kind, int number);
+    std::optional<std::string_view> Seek(Kind& kind, int number);
     static std::string_view Keep(Kind& kind, std::size_t index, std::string_view text);
     std::vector<VocabularyWord> LookUp(std::string_view word);
 

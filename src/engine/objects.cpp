@@ -110,9 +110,12 @@ bool FindObject(Game& game, ObjectNumber& object, const SearchOrder& order) {
 }
 
 int WeighObject(Game& game, ObjectNumber object) {
+    if (game.IsMarlo()) {
+        DataOf(game, object);  // an object that does not exist is a fault there too
+        return 0;
+    }
     int left = game.state.ObjectCount();
-    const int weight = Weigh(game, object, left);
-    return game.IsMarlo() ? 0 : weight;
+    return Weigh(game, object, left);
 }
 
 void WeighCarried(Game& game, FlagNumber flag) {

@@ -141,7 +141,7 @@ bool ListObj(Game& game) {
 }
 
 bool ListAt(Game& game, PlaceNumber location) {
-    const PlaceNumber where = game.PlaceOf(location);
+    const PlaceNumber where = game.ListedPlace(location);
     const int count = BeginList(game, where);
     if (count == 0) return SysMess(game, message::kNothingThere);
     PrintList(game, where, count);

@@ -62,6 +62,8 @@ class Printer {
 
     /// Text may again be printed up to the limit. Called whenever the player had a turn.
     void ResetBudget() { spent_ = 0; }
+    /// Bytes printed since then.
+    std::int64_t Spent() const { return spent_; }
 
     /// A text without its tags, entities shown as characters, line-end markers as blanks.
     std::string WithoutMarkup(std::string_view text) const;

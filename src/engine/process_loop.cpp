@@ -33,6 +33,7 @@ ProcessLoop::Outcome ProcessLoop::Enter() {
 ProcessLoop::Outcome ProcessLoop::Resume() {
     const int process = game_.currentProc.value;
     turnAtInput_ = kTurnOfAnswer;  // the answer was this line's input
+    exits_ = ExitSearch::Moved;    // and no direction, so that no message tells of an exit
     game_.parentProcNum = game_.savedParentProcNum;
     unwinding_ = false;
     if (game_.IsMarlo() && game_.trace.On()) {
@@ -51,13 +52,23 @@ ProcessLoop::Outcome ProcessLoop::Continue() {
     return Run(Label::Table);
 }
 
+ProcessLoop::Outcome ProcessLoop::Stop() {
+    game_.runner.Abandon();
+    game_.runner.callStack.clear();
+    unwinding_ = false;
+    Prompt();
+    return Outcome::WaitsForPlayer;
+}
+
 ProcessLoop::Outcome ProcessLoop::Run(Label label) {
     ending_ = Outcome::WaitsForPlayer;
     while (label != Label::Return) {
         switch (label) {
             case Label::Table:
-                if (!game_.runner.Run())
-                    return game_.runner.FileAsked() ? Outcome::AsksForFile : Outcome::Pauses;
+                if (!game_.runner.Run()) {
+                    if (game_.runner.FileAsked()) return Outcome::AsksForFile;
+                    return game_.runner.Rests() ? Outcome::Rests : Outcome::Pauses;
+                }
                 label = afterTable_;
                 break;
             case Label::Begin:

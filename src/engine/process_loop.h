@@ -16,6 +16,7 @@ class ProcessLoop {
         WaitsForPlayer,
         Pauses,       ///< Continue goes on when the wait is over
         AsksForFile,  ///< Continue goes on when the file was given
+        Rests,        ///< Continue goes on as soon as the host has had its say
         Ended,
         Restarts,  ///< the game has ended, and is to start again
     };
@@ -26,8 +27,10 @@ class ProcessLoop {
     Outcome Enter();
     /// The player has answered: goes on at the place that the asking action remembered.
     Outcome Resume();
-    /// The wait of a PAUSE is over, or the file that was asked for is there.
+    /// The wait of a PAUSE is over, or the file that was asked for is there, or the host had its say.
     Outcome Continue();
+    /// The turn is given up: the player is asked for the next line.
+    Outcome Stop();
 
     /// The turn count was brought back from an earlier state: it no longer tells whether the line ran a
     /// sentence. It did, since an action of it brought the state back.
@@ -88,7 +91,7 @@ class ProcessLoop {
     int turnAtInput_ = kTurnOfAnswer;
     static constexpr int kTurnOfAnswer = -1;
     bool unwinding_ = false;
-    ExitSearch exits_ = ExitSearch::NoExit;  ///< in "marlo": what the search before process 0 came to
+    ExitSearch exits_ = ExitSearch::NoExit;  ///< in "marlo": what process 0 leaves to be told
 };
 
 }  // namespace fabula::engine

@@ -81,7 +81,7 @@ bool AreMarks(const std::vector<std::int16_t>& values) {
 
 }  // namespace
 
-void WriteSavedGame(const std::filesystem::path& file, const GameData& data, RunState& state) {
+std::string SavedGameText(const GameData& data, RunState& state) {
     std::string content = HeaderLine(data, state) + "\n10\n";
     for (const std::span<std::int16_t> store : Stores(state)) {
         for (std::size_t i = 0; i < store.size(); ++i) {
@@ -90,16 +90,23 @@ void WriteSavedGame(const std::filesystem::path& file, const GameData& data, Run
         }
         content += '\n';
     }
-    store::CheckTarget(file, store::Content::Text, kSavedGameExtension);
-    store::WriteFile(file, content);
+    return content;
 }
 
-bool ReadSavedGame(const std::filesystem::path& file, const GameData& data, RunState& state) {
+void WriteSavedGame(const std::filesystem::path& file, std::string_view text) {
+    store::CheckTarget(file, store::Content::Text, kSavedGameExtension);
+    store::WriteFile(file, text);
+}
+
+std::string ReadSavedGame(const std::filesystem::path& file, const RunState& state) {
     const std::size_t limit = LargestFile(state);
-    const std::string content =
+    std::string content =
         platform::ReadStartOfFile(file, limit + 1, "read the saved game " + file.string());
-    if (content.size() > limit) return false;
-    const std::vector<std::string_view> lines = SplitLines(content);
+    return content.size() > limit ? "" : content;
+}
+
+bool TakeSavedGame(std::string_view text, const GameData& data, RunState& state, const FlagsFit& fits) {
+    const std::vector<std::string_view> lines = SplitLines(text);
     if (lines.size() != kLines || lines[0] != HeaderLine(data, state) || lines[1] != "10") return false;
 
     const std::vector<std::span<std::int16_t>> stores = Stores(state);
@@ -112,7 +119,8 @@ bool ReadSavedGame(const std::filesystem::path& file, const GameData& data, RunS
     for (std::size_t slot = 0; slot < RunState::kSlots; ++slot) {
         const std::vector<std::int16_t>& flags = values[2 * RunState::kSlots + slot];
         if (!AreMarks(values[slot]) ||
-            !data.LocationExists(PlaceNumber(flags[static_cast<std::size_t>(flag::kLocation.value)])))
+            !data.LocationExists(PlaceNumber(flags[static_cast<std::size_t>(flag::kLocation.value)])) ||
+            !fits(flags))
             return false;
     }
     for (std::size_t i = 0; i < stores.size(); ++i)

@@ -5,6 +5,7 @@
 #include "platform/error.h"
 #include "platform/whole_file.h"
 #include "store/file_copy.h"
+#include "text/byte_order_mark.h"
 
 namespace fabula::engine {
 
@@ -43,6 +44,12 @@ void Script::Load(const std::filesystem::path& file) {
     input_.clear();
     input_.open(file, std::ios::binary);
     if (!input_) throw Error("Could not read the script " + file.string() + ".");
+    for (const char expected : text::kByteOrderMark) {
+        if (input_.get() == static_cast<unsigned char>(expected)) continue;
+        input_.clear();
+        input_.seekg(0);
+        return;
+    }
 }
 
 void Script::CloseInput() {

@@ -26,28 +26,26 @@ constexpr int kSeriesDuration = 5;
 constexpr int kRepeatedPitch = 120;
 constexpr int kLowestPitch = 100;
 
-bool PlaySeries(Game& game) {
-    game.host.sound.SetVoice(game.data.soundSettings.voice);
-    PlayTones(game);
-    return true;
+void AddTone(Game& game, int pitch) {
+    game.tones.push_back({kSeriesDuration, pitch, true});
 }
 
 bool RisingTones(Game& game, int value) {
     for (int i = 0; i <= value; ++i)
-        game.tones.push_back({kSeriesDuration, kLowestPitch + i});
-    return PlaySeries(game);
+        AddTone(game, kLowestPitch + i);
+    return true;
 }
 
 bool FallingTones(Game& game, int value) {
     for (int i = value; i >= 0; --i)
-        game.tones.push_back({kSeriesDuration, kLowestPitch + i});
-    return PlaySeries(game);
+        AddTone(game, kLowestPitch + i);
+    return true;
 }
 
 bool RepeatedTones(Game& game, int value) {
     for (int i = 0; i < value; ++i)
-        game.tones.push_back({kSeriesDuration, kRepeatedPitch});
-    return PlaySeries(game);
+        AddTone(game, kRepeatedPitch);
+    return true;
 }
 
 bool RestartGame(Game& game) {
@@ -57,9 +55,10 @@ bool RestartGame(Game& game) {
     return true;
 }
 
-/// What PAUSE does in "marlo" while flag 28 holds 1 to 21.
+/// What PAUSE does in "marlo" while flag 28 holds 1 to 21. The tones of a series wait to be played.
 bool PauseFunction(Game& game, int function, int value) {
     constexpr int kRamSaveValue = 50;
+    if (function <= 6 && function != 4) game.host.sound.SetVoice(game.data.soundSettings.voice);
     switch (function) {
         case 1:
             return RisingTones(game, value);
@@ -90,14 +89,29 @@ bool PauseFunction(Game& game, int function, int value) {
     }
 }
 
+/// Runs the function that flag 28 asks of a PAUSE; false when it asks for none.
+bool RunPauseFunction(Game& game, int value) {
+    constexpr int kHighestFunction = 21;
+    const int function = game.IsMarlo() ? game.Flag(flag::kPauseFunction) : 0;
+    if (function < 1 || function > kHighestFunction) return false;
+    PauseFunction(game, function, value);
+    Clear(game, flag::kPauseFunction);
+    return true;
+}
+
+/// The PAUSE behind a tone: how long it waits.
+milliseconds PauseBehind(Game& game, const Tone& tone) {
+    const int value = game.Flag(flag::kBeepPause);
+    if (value != 0 && !tone.ofSeries && RunPauseFunction(game, value)) return milliseconds(0);
+    return PauseLength(value);
+}
+
 }  // namespace
 
 bool Pause(Game& game, int value) {
-    constexpr int kHighestFunction = 21;
-    const int function = game.IsMarlo() ? game.Flag(flag::kPauseFunction) : 0;
-    if (function >= 1 && function <= kHighestFunction) {
-        PauseFunction(game, function, value);
-        return Clear(game, flag::kPauseFunction);
+    if (RunPauseFunction(game, value)) {
+        PlayTones(game);
+        return true;
     }
     game.runner.Wait(PauseLength(value));
     return true;
@@ -120,8 +134,7 @@ bool PlayTones(Game& game) {
         game.tones.pop_front();
         const milliseconds length(tone.duration > 0 ? tone.duration * 10 : 0);
         const bool sounds = game.session.soundOn && game.host.sound.PlayTone(NoteOf(tone.pitch), length);
-        const milliseconds wait =
-            (sounds ? length : milliseconds(0)) + PauseLength(game.Flag(flag::kBeepPause));
+        const milliseconds wait = (sounds ? length : milliseconds(0)) + PauseBehind(game, tone);
         if (wait.count() == 0) continue;
         game.runner.Wait(wait);
         return true;

@@ -2,6 +2,7 @@
 
 #include "engine/game.h"
 #include "engine/location_actions.h"
+#include "engine/objects.h"
 #include "engine/saved_game.h"
 #include "platform/error.h"
 #include "text/markup.h"
@@ -73,7 +74,7 @@ bool LoadScript(Game& game, const std::filesystem::path& file) {
 
 bool SaveInto(Game& game, const std::filesystem::path& file) {
     try {
-        WriteSavedGame(file, game.data, game.state);
+        WriteSavedGame(file, SavedGameText(game.data, game.state));
     } catch (const Error& error) {
         return Fail(game, error.what());
     }
@@ -84,13 +85,24 @@ bool SaveInto(Game& game, const std::filesystem::path& file) {
 
 bool LoadOutOf(Game& game, const std::filesystem::path& file) {
     try {
-        if (!RestoreFrom(game, file)) return Fail(game, "Invalid Save File for this Adventure");
+        if (!RestoreFrom(game, ReadSavedGame(file, game.state)))
+            return Fail(game, "Invalid Save File for this Adventure");
     } catch (const Error& error) {
         return Fail(game, error.what());
     }
     Desc(game);
     game.runner.ClearStack("Load");
     return true;
+}
+
+/// The object that was referred to last, and the message that is the prompt. Object 0 stands for none
+/// before the first is referred to, also in a game without objects.
+bool NameWhatIsThere(Game& game, std::span<const std::int16_t> flags) {
+    const auto valueOf = [flags](FlagNumber flag) { return flags[static_cast<std::size_t>(flag.value)]; };
+    const ObjectNumber object(valueOf(flag::kObject));
+    if (!game.state.HasObject(object) && object.value != 0 && object < kNotFound) return false;
+    const SystemMessageNumber prompt(valueOf(flag::kPrompt));
+    return prompt.value == 0 || game.texts.HasSystemMessage(prompt);
 }
 
 struct WordKind {
@@ -117,14 +129,19 @@ constexpr FlagNumber kRepeatedFlags[] = {flag::kVerb,        flag::kNoun,       
 
 }  // namespace
 
+const FileRequest& SavedGameRequest(bool forWriting) {
+    return forWriting ? kSaveRequest : kLoadRequest;
+}
+
 bool Save(Game& game) {
     game.runner.AskForFile(kSaveRequest, SaveInto);
     return true;
 }
 
-bool RestoreFrom(Game& game, const std::filesystem::path& file) {
+bool RestoreFrom(Game& game, std::string_view savedGame) {
     const SessionFlags session(game);
-    if (!ReadSavedGame(file, game.data, game.state)) return false;
+    const auto fits = [&game](std::span<const std::int16_t> flags) { return NameWhatIsThere(game, flags); };
+    if (!TakeSavedGame(savedGame, game.data, game.state, fits)) return false;
     session.PutBack(game);
     return true;
 }

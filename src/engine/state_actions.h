@@ -1,7 +1,8 @@
 #pragma once
 
-#include <filesystem>
+#include <string_view>
 
+#include "engine/game_window.h"
 #include "engine/numbers.h"
 
 namespace fabula::engine {
@@ -19,8 +20,10 @@ bool Oops(Game& game, int slot);
 bool Again(Game& game);
 bool ScriptAction(Game& game, int value);
 
-/// What LOAD does with a file: false, with nothing changed, when it is no save of this adventure. Throws
-/// fabula::Error.
-bool RestoreFrom(Game& game, const std::filesystem::path& file);
+/// The question for a file that SAVE (`forWriting`) and LOAD ask.
+const FileRequest& SavedGameRequest(bool forWriting);
+
+/// What LOAD does with a saved game: false, with nothing changed, when it is none of this adventure.
+bool RestoreFrom(Game& game, std::string_view savedGame);
 
 }  // namespace fabula::engine

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/error.h"
+#include "text/byte_order_mark.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 #include "text/windows1252.h"
@@ -11,7 +12,6 @@ namespace fabula::interchange {
 namespace {
 
 constexpr std::size_t kBufferSize = 65536;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsBlank(char c) {
     const auto code = static_cast<unsigned char>(c);
@@ -81,10 +81,11 @@ SourceFile::SourceFile(const std::filesystem::path& file, Encoding encoding)
 }
 
 void SourceFile::Choose(Encoding encoding) {
-    const bool isMarked = Fill() && std::string_view(buffer_.data(), end_).starts_with(kByteOrderMark);
+    const bool isMarked =
+        Fill() && std::string_view(buffer_.data(), end_).starts_with(text::kByteOrderMark);
     if (isMarked) {
         isUtf8_ = encoding != Encoding::Windows1252;
-        position_ = kByteOrderMark.size();
+        position_ = text::kByteOrderMark.size();
         return;
     }
     Utf8Detector detector;

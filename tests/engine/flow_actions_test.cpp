@@ -186,6 +186,17 @@ TEST(DoAll, HereIsThePlayersLocation) {
     EXPECT_EQ(run->Flag(200), 1);
 }
 
+TEST(DoAll, Above255IsALocationWhereThereIsOne) {
+    GameBuilder game = Things();
+    game.Location(300, "Room 300")
+        .Object(1, {.place = 300, .noun = "ROCK"})
+        .Entry(0, "DO", "ALL", "DOALL 300 DONE")
+        .Entry(0, "DO", "ROCK", "PLUS 200 1");
+    const auto run = game.Start();
+    run->Type("DO ALL");
+    EXPECT_EQ(run->Flag(200), 1);
+}
+
 TEST(DoAll, LooksFlag50UpAgainForEachObject) {
     GameBuilder game = Things();
     game.Entry(0, "DO", "ALL", "DOALL 0 DONE").Entry(0, "DO", "ROCK", "PLUS 200 1 LET 50 2");
@@ -403,6 +414,30 @@ TEST(MarloPause, Function21WithValue50IsRamsaveAndElseRamloadUpToThatFlag) {
     run->Type("BACK");
     EXPECT_EQ(run->Flag(11), 9);
     EXPECT_EQ(run->Flag(30), 1);
+}
+
+TEST(MarloBeep, RunsTheFunctionOfFlag28InsteadOfThePauseBehindIt) {
+    const auto run =
+        GameBuilder(AdventureKind::Marlo).Setting("sound", 1).Do("LET 28 15 LET 37 40 BEEP 5 120");
+    EXPECT_EQ(run->window.waits, std::vector<milliseconds>{milliseconds(50)});
+    LetPass(*run);
+    EXPECT_EQ(run->Flag(37), 40 - 12);
+    EXPECT_EQ(run->Flag(28), 0);
+}
+
+TEST(MarloBeep, PlaysTheSeriesOfAFunctionBehindItselfOnce) {
+    const auto run = GameBuilder(AdventureKind::Marlo)
+                         .Setting("sound", 1)
+                         .Do("LET 1012 2 LET 28 2 BEEP 7 100 PLUS 30 1");
+    LetPass(*run);
+    EXPECT_EQ(run->sound.notes, (std::vector<std::pair<int, long long>>{{-10, 70}, {0, 50}, {0, 50}}));
+    EXPECT_EQ(run->Flag(30), 1);
+}
+
+TEST(MarloBeep, WithoutAPauseBehindItLeavesFlag28) {
+    const auto run = GameBuilder(AdventureKind::Marlo).Do("LET 1012 0 LET 28 15 BEEP 5 120");
+    LetPass(*run);
+    EXPECT_EQ(run->Flag(28), 15);
 }
 
 TEST(MarloPause, OfOtherTypesKnowsNoFunctions) {

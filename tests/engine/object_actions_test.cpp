@@ -403,6 +403,13 @@ TEST(Weigh, OfAMarloGameIsNothing) {
     EXPECT_EQ(With({.weight = 7}, AdventureKind::Marlo).Do("LET 30 9 WEIGH 1 30")->Flag(30), 0);
 }
 
+TEST(Weigh, OfAMarloGameIsNothingForAContainerInsideItselfToo) {
+    const auto run =
+        With({.place = 1, .weight = 5, .container = true}, AdventureKind::Marlo).Do("LET 30 9 WEIGH 1 30");
+    EXPECT_EQ(run->Flag(30), 0);
+    EXPECT_EQ(run->Waits(), engine::Waiting::Sentence);
+}
+
 TEST(Weigh, OfAContainerThatLiesInsideItselfIsARunTimeFailure) {
     EXPECT_EQ(With({.place = 1, .weight = 5, .container = true}).Do("WEIGH 1 100")->Box(),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), WEIGH 1 100: object 1 lies "

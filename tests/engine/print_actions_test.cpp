@@ -246,6 +246,17 @@ TEST(ListAt, HereIsThePlayersLocation) {
               "\na hat\n");
 }
 
+TEST(ListAt, Above255IsALocationWhereThereIsOne) {
+    GameBuilder game = Things();
+    game.Location(300, "Room 300").Object(1, {.description = "a hat", .place = 300});
+    EXPECT_EQ(game.Do("LISTAT 300")->Said(), "\na hat\n");
+}
+
+TEST(ListAt, Above255IsHereWhereThereIsNoSuchLocation) {
+    EXPECT_EQ(Things().Object(1, {.description = "a hat", .place = 0}).Do("LISTAT 300")->Said(),
+              "\na hat\n");
+}
+
 // Pictures
 
 TEST(PictureAction, ShowsThePictureOfALocation) {

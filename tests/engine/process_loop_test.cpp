@@ -328,6 +328,17 @@ TEST(MarloProcessLoop, AResumePrintsNoExitMessage) {
     EXPECT_EQ(run->Type(""), "p0 \n");
 }
 
+TEST(MarloProcessLoop, AnAnswerThatDidNothingPrintsNoExitMessage) {
+    for (const char* condacts : {"ANYKEY NOTDONE", "QUIT END"}) {
+        for (const char* word : {"NORT", "DO"}) {
+            const auto run = Marlo().Word("NORT", 13, 0).Entry(0, word, "_", condacts).Start();
+            run->Type(word);
+            run->Said();
+            EXPECT_EQ(run->Type("N"), "") << word << " " << condacts;
+        }
+    }
+}
+
 TEST(MarloProcessLoop, ShowsNoPromptWhenAnActionAsks) {
     const auto run = Marlo().Entry(0, "DO", "_", "QUIT").Start();
     run->Type("DO");

@@ -176,6 +176,18 @@ TEST(DoNextScript, PlaysTheMarkedLinesToTheEnd) {
     EXPECT_EQ(run->Flag(1001), 0);
 }
 
+TEST(DoNextScript, PlaysAFileWithAByteOrderMarkAndLineEndsOfOtherSystems) {
+    const auto run = Loaded("\xEF\xBB\xBF>>SAY\r\n>>SAY\r\n");
+    run->engine.DoNextScript();
+    EXPECT_EQ(run->Flag(202), 2);
+}
+
+TEST(DoNextScript, PlaysAFileThatBeginsLikeAByteOrderMark) {
+    const auto run = Loaded("\xEF\xBB>>SAY\n>>SAY\n");
+    run->engine.DoNextScript();
+    EXPECT_EQ(run->Flag(202), 1);
+}
+
 TEST(DoNextScript, ShowsThePlayedLines) {
     const auto run = Loaded(">>SAY\n");
     run->engine.DoNextScript();

@@ -1,5 +1,6 @@
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -182,7 +183,7 @@ TEST(Load, AFileOfOneBuildLoadsInTheNext) {
         content += "253,2\r\n";
     for (int slot = 0; slot < 11; ++slot) {
         for (int flag = 0; flag < 1019; ++flag)
-            content += (flag > 0 ? "," : "") + std::to_string(flag == 38 ? 1 : flag % 7);
+            content += (flag > 0 ? "," : "") + std::to_string(flag == 38 || flag == 51 ? 1 : flag % 7);
         content += "\r\n";
     }
     WriteFile(run->File("one.sav"), content);
@@ -284,6 +285,39 @@ TEST_F(DamagedSave, WithThePlayerWhereNoLocationIsIsRefused) {
     EXPECT_TRUE(IsRefused(With(",10,0,0,", ",10,-1,0,")));
 }
 
+/// The saved game with another value in one flag of a slot.
+std::string WithFlag(const std::string& content, int slot, int flag, int value) {
+    constexpr int kFirstFlagLine = 24;
+    std::istringstream lines(content);
+    std::string changed;
+    std::string line;
+    for (int number = 0; std::getline(lines, line); ++number) {
+        std::size_t at = 0;
+        if (number == kFirstFlagLine + slot) {
+            for (int before = 0; before < flag; ++before)
+                at = line.find(',', at) + 1;
+            line.replace(at, line.find(',', at) - at, std::to_string(value));
+        }
+        changed += line + "\n";
+    }
+    return changed;
+}
+
+TEST_F(DamagedSave, WhoseFlagsNameAnObjectOrAMessageThatIsNotThereIsRefused) {
+    for (const int slot : {0, 10}) {
+        EXPECT_TRUE(IsRefused(WithFlag(content_, slot, 51, 77))) << slot;
+        EXPECT_TRUE(IsRefused(WithFlag(content_, slot, 51, -1))) << slot;
+        EXPECT_TRUE(IsRefused(WithFlag(content_, slot, 42, 2000))) << slot;
+        EXPECT_TRUE(IsRefused(WithFlag(content_, slot, 42, -1))) << slot;
+    }
+}
+
+TEST_F(DamagedSave, WhoseFlagsNameWhatIsThereOrNothingIsTaken) {
+    EXPECT_FALSE(IsRefused(WithFlag(content_, 0, 51, 1)));
+    EXPECT_FALSE(IsRefused(WithFlag(content_, 0, 51, 255)));
+    EXPECT_FALSE(IsRefused(WithFlag(content_, 0, 42, 2)));
+}
+
 TEST_F(DamagedSave, OfGiganticSizeIsRefused) {
     EXPECT_TRUE(IsRefused(std::string(10'000'000, '1')));
 }
@@ -326,6 +360,21 @@ TEST(LoadFrom, RefusesWhatIsNoSaveAndChangesNothing) {
     EXPECT_FALSE(run->engine.LoadFrom(run->File("auto.sav")));
     EXPECT_EQ(run->Said(), "");
     EXPECT_TRUE(run->oper.Boxes().empty());
+}
+
+TEST(LoadFrom, ForgetsTheLineThatWasHalfTyped) {
+    GameBuilder game = World();
+    game.Entry(0, "DO", "_", "PLUS 200 1").Entry(1, "_", "_", "ANYKEY");
+    const auto run = game.Start();
+    run->engine.EnterLine("");
+    run->engine.SaveTo(run->File("auto.sav"));
+    run->engine.Key(U'd');
+    run->engine.Key(U'o');
+    ASSERT_TRUE(run->engine.LoadFrom(run->File("auto.sav")));
+    ASSERT_EQ(run->Waits(), engine::Waiting::AnyKey);
+    run->engine.Key(engine::Engine::kEnter);
+    EXPECT_EQ(run->Waits(), engine::Waiting::Sentence);
+    EXPECT_EQ(run->Flag(200), 0);
 }
 
 // RAMSAVE and RAMLOAD

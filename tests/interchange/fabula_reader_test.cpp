@@ -93,6 +93,14 @@ TEST(LoadFabula, ReadsTruthValuesInAnyCase) {
     EXPECT_EQ(game.Number(TableNum::Adventure, "advnum='1'", "graphics"), 0);
 }
 
+TEST(LoadFabula, ReadsMinusOneAndOneAsTruth) {
+    const Reading game = File("5|advnum|1\n5|sound|-1\n5|graphics|1\n5|charsets|0\n");
+    EXPECT_EQ(game.Number(TableNum::Adventure, "advnum='1'", "sound"), 1);
+    EXPECT_EQ(game.Number(TableNum::Adventure, "advnum='1'", "graphics"), 1);
+    EXPECT_EQ(game.Number(TableNum::Adventure, "advnum='1'", "charsets"), 0);
+    EXPECT_EQ(game.faults, 0);
+}
+
 TEST(LoadFabula, ReadsDates) {
     EXPECT_EQ(File("5|advnum|1\n5|DateCreated|2001-03-05 14:07:09\n")
                   .Text(TableNum::Adventure, "advnum='1'", "datecreated"),

@@ -89,6 +89,7 @@ TEST(ValidateDrawString, AbsoluteCoordinatesAreReportedAsRelativeOnes) {
 TEST(ValidateDrawString, RelativeCoordinatesReachOverTheWholePicture) {
     EXPECT_EQ(Check("RELMOVE -255 -175 RELMOVE 255 175 END"), "ok");
     EXPECT_EQ(Check("RELMOVE -256 0 END"), "-256 is an invalid relative X number for command RELMOVE");
+    EXPECT_EQ(Check("RELMOVE 0 -176 END"), "-176 is an invalid relative Y number for command RELMOVE");
     EXPECT_EQ(Check("RELMOVE 0 176 END"), "176 is an invalid relative Y number for command RELMOVE");
 }
 

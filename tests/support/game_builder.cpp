@@ -210,6 +210,11 @@ GameBuilder& GameBuilder::CondactLimit(std::int64_t limit) {
     return *this;
 }
 
+GameBuilder& GameBuilder::Slice(std::int64_t condacts) {
+    options_.slice = condacts;
+    return *this;
+}
+
 GameBuilder& GameBuilder::Traced() {
     traced_ = true;
     options_.traceFile = true;

@@ -136,6 +136,7 @@ class GameBuilder {
     GameBuilder& Numbers(int process, int verb, int noun, std::string numbers);
 
     GameBuilder& CondactLimit(std::int64_t limit);
+    GameBuilder& Slice(std::int64_t condacts);
     GameBuilder& Traced();
     /// Keeps the first `count` flags only.
     GameBuilder& FlagCount(int count);

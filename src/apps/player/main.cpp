@@ -3,6 +3,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include "midi/device_output.h"
 #include "midi/player.h"
 #include "platform/random_source.h"
 #include "platform/user_folders.h"
@@ -51,6 +52,7 @@ int Run(int argc, char** argv) {
                                  .random = random,
                                  .settings = settings,
                                  .dataFolder = dataFolder,
+                                 .soundDevices = midi::DeviceNames,
                                  .help = [&help](const qt::HelpTopic& topic) { help.Show(topic); }});
     shown = &window;
     dialogs.SetParent(&window);

@@ -89,6 +89,8 @@ constexpr std::array kShapes = {
     IconShape{"forward", "M 4 12 L 19 12", "M 13 5 L 20 12 L 13 19"},
     IconShape{"home", "M 5 11 L 5 20 L 19 20 L 19 11 M 3 12 L 12 4 L 21 12",
               "M 10 20 L 10 14 L 14 14 L 14 20"},
+    IconShape{"sound", "M 3 9 L 7 9 L 12 5 L 12 19 L 7 15 L 3 15 Z",
+              "M 15 9 C 16.5 10.5 16.5 13.5 15 15 M 17.5 6.5 C 20.5 9.5 20.5 14.5 17.5 17.5"},
     IconShape{"lamp", "M 9 17 L 15 17 M 10 20 L 14 20",
               "M 9 17 C 9 14 6 13 6 9 C 6 1 18 1 18 9 C 18 13 15 14 15 17"},
 };

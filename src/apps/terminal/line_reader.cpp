@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "platform/error.h"
+#include "text/byte_order_mark.h"
 
 namespace fabula::terminal {
 
@@ -39,6 +40,8 @@ TypedLine LineReader::Read(const Question& question) {
         if (filled == Filled::End) break;
     }
     if (line_.ends_with('\r')) line_.pop_back();
+    if (std::exchange(first_, false) && line_.starts_with(text::kByteOrderMark))
+        line_.erase(0, text::kByteOrderMark.size());
     return {TypedLine::Kind::Line, std::exchange(line_, {})};
 }
 

@@ -31,7 +31,8 @@ class LineReader final : public LineSource {
     std::array<char, 16 * 1024> buffer_;
     std::size_t begin_ = 0;
     std::size_t end_ = 0;
-    std::string line_;  ///< read so far
+    std::string line_;   ///< read so far
+    bool first_ = true;  ///< no line was read yet
 };
 
 /// The lines of one source, and then those of another.

@@ -53,6 +53,16 @@ TEST_F(TestVerb, ShowsTheDifferenceAndEndsWithOne) {
     EXPECT_EQ(result.status, 1);
 }
 
+TEST_F(TestVerb, TakesAByteOrderMarkAndLineEndsOfOtherSystems) {
+    Write(transcript_, "A room.\n?\n>inventory\nYou are carrying:\nnothing.\n?\n");
+    for (const char* script : {"\xEF\xBB\xBFinventory\r\n", "\xEF\xBB\xBF>>inventory\r\n"}) {
+        Write(script_, script);
+        const ProgramResult result = Test();
+        EXPECT_EQ(result.output, "") << script;
+        EXPECT_EQ(result.status, 0) << script;
+    }
+}
+
 TEST_F(TestVerb, OfARecordedScriptTheTypedLinesArePlayed) {
     Write(script_, "A room.\n?\n>>inventory\r\nYou are carrying:\nnothing.\n?\n>>Read:>>inventory\n");
     Write(transcript_,

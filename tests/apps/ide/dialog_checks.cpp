@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QGroupBox>
+#include <QImage>
 #include <QKeySequence>
 #include <QLabel>
 #include <QPixmap>
@@ -12,7 +13,10 @@
 #include <QScrollBar>
 #include <QTest>
 #include <algorithm>
+#include <cstdlib>
 #include <map>
+
+#include <gtest/gtest.h>
 
 #include "qt/strings.h"
 #include "qt/theme.h"
@@ -147,12 +151,32 @@ int ScrollsSideways(const QWidget& window) {
     return most;
 }
 
+namespace {
+
+/// How many points stand out from the paper by half of what black does from white.
+int OtherThan(const QImage& drawn, const QColor& paper) {
+    int count = 0;
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x)
+            count += std::abs(drawn.pixelColor(x, y).lightness() - paper.lightness()) > 100 ? 1 : 0;
+    }
+    return count;
+}
+
+}  // namespace
+
 void GrabInBothThemes(QWidget& window, const QString& name) {
     const QString folder = qEnvironmentVariable("FABULA_GRABS");
     for (const qt::Theme theme : {qt::Theme::Light, qt::Theme::Dark}) {
         qt::ApplyTheme(theme);
         QApplication::processEvents();
         const QPixmap picture = window.grab();
+        // The paper of the window, at its edge, and something written on it.
+        const QImage drawn = picture.toImage().convertToFormat(QImage::Format_RGB32);
+        const QColor paper = window.palette().color(QPalette::Window);
+        EXPECT_EQ(drawn.pixelColor(1, 1), paper) << name.toStdString();
+        EXPECT_EQ(paper.lightness() < 128, theme == qt::Theme::Dark) << name.toStdString();
+        EXPECT_GT(OtherThan(drawn, paper), drawn.width() * drawn.height() / 100) << name.toStdString();
         if (folder.isEmpty()) continue;
         picture.save(folder + "/" + name + "-" + QString::fromUtf8(qt::NameOf(theme)) + ".png");
     }

@@ -9,11 +9,13 @@
 #include <QTimer>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
 #include "ide/dialog_stand.h"
 #include "ide/opened_window.h"
+#include "store/adventure.h"
 #include "support/raw_database.h"
 
 namespace fabula::test {
@@ -115,8 +117,22 @@ class HostileFile : public testing::TestWithParam<const char*> {
 };
 
 TEST_P(HostileFile, IsUsedWithoutACrash) {
-    window_.Window().Start(Make(GetParam()));
+    const auto file = Make(GetParam());
+    window_.Window().Start(file);
     UseEverything();
+    EXPECT_GT(window_.Part<QTreeWidget>("Tree").topLevelItemCount(), 0);
+    for (const std::string& sentence : person_.told) {
+        EXPECT_FALSE(sentence.empty());
+        for (const char* inner : {"std::", "bad_alloc", "vector", "SELECT ", "constraint", "unknown"})
+            EXPECT_EQ(sentence.find(inner), std::string::npos) << sentence;
+        EXPECT_TRUE(std::all_of(sentence.begin(), sentence.end(), [](unsigned char c) {
+            return c >= ' ' || c == '\n' || c == '\t';
+        })) << sentence;
+    }
+    window_.Window().close();
+    EXPECT_FALSE(window_.Window().isVisible());
+    // What the window did to it left it sound.
+    EXPECT_NO_THROW(store::Adventure::Open(file, store::OpenMode::ReadOnly));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -91,6 +91,68 @@ TEST(WindowAccess, EveryControlOfDiagnosticsHasAName) {
     EXPECT_EQ(Nameless(*played.Window().findChild<QWidget*>("diagnostics")), kNone);
 }
 
+/// What is wrong with what a screen reader is told of a thing and all that is in it: controls without a
+/// name, and choices without a value.
+void Walk(QAccessibleInterface& access, std::vector<std::string>& wrong, int& seen) {
+    if (access.state().invisible) return;
+    ++seen;
+    const auto role = access.role();
+    const bool choice =
+        role == QAccessible::ComboBox || role == QAccessible::SpinBox || role == QAccessible::Slider;
+    const std::string name = qt::FromQt(access.text(QAccessible::Name));
+    const std::string told = std::to_string(role) + " " + name;
+    if (access.state().focusable && IsControl(access) && name.empty()) wrong.push_back(told + ": no name");
+    if (choice && access.text(QAccessible::Value).isEmpty()) wrong.push_back(told + ": no value");
+    if (name.find('<') != std::string::npos) wrong.push_back(told + ": markup");
+    // What such a control is made of is no concern of the listener.
+    if (choice || role == QAccessible::Terminal) return;
+    for (int child = 0; child < access.childCount(); ++child) {
+        if (QAccessibleInterface* inner = access.child(child)) Walk(*inner, wrong, seen);
+    }
+}
+
+std::vector<std::string> WrongInTree(QWidget& window) {
+    std::vector<std::string> wrong;
+    int seen = 0;
+    Walk(*QAccessible::queryAccessibleInterface(&window), wrong, seen);
+    EXPECT_GT(seen, 5);
+    return wrong;
+}
+
+TEST(WindowAccess, TreeOfEachStateOfTheWindowTellsNamesAndValues) {
+    PlayedWindow played;
+    EXPECT_EQ(WrongInTree(played.Window()), kNone);
+    played.Load(Game().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END"));
+    EXPECT_EQ(WrongInTree(played.Window()), kNone);
+    played.Action("Find").trigger();
+    EXPECT_EQ(WrongInTree(played.Window()), kNone);
+    played.Press(Qt::Key_Escape);
+    played.Type("stop\n");
+    EXPECT_EQ(WrongInTree(played.Window()), kNone);
+    played.Type("n\n");
+    EXPECT_EQ(WrongInTree(played.Window()), kNone);
+}
+
+TEST(WindowAccess, TreeOfACharacterGameAndOfDiagnosticsTellsNamesAndValues) {
+    PlayedWindow played(true);
+    played.Load(Game().CharacterSets());
+    EXPECT_EQ(WrongInTree(played.Window()), kNone);
+    played.Action("Debug").trigger();
+    EXPECT_EQ(WrongInTree(*played.Window().findChild<QWidget*>("diagnostics")), kNone);
+}
+
+TEST(WindowAccess, TreeOfTheSettingsTellsNamesAndValues) {
+    PlayedWindow played;
+    std::vector<std::string> wrong{"not looked at"};
+    QTimer::singleShot(0, &played.Window(), [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        wrong = WrongInTree(*dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    played.Action("Settings").trigger();
+    EXPECT_EQ(wrong, kNone);
+}
+
 TEST(WindowAccess, EveryControlOfAboutHasANameAndEscapeLeavesIt) {
     PlayedWindow played;
     played.Load(Game().SettingText("advdesc", "A vault.").SettingText("advcontactinfo", "Write."));
@@ -129,7 +191,7 @@ TEST(WindowAccess, TabGoesFromTheTextToEveryButtonAndBack) {
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
         const auto round = Round(played, key);
         EXPECT_EQ(round.back(), &played.Window().Screen().Text());
-        for (const char* button : {"Load", "Sound", "About", "Exit"})
+        for (const char* button : {"Load a Game", "Save", "Sound", "About", "Exit"})
             EXPECT_TRUE(HasButton(round, button)) << button;
     }
 }
@@ -140,7 +202,7 @@ TEST(WindowAccess, TabGoesFromTheCharactersToEveryButtonAndBack) {
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
         const auto round = Round(played, key);
         EXPECT_EQ(round.back(), &played.Window().Screen().Characters());
-        EXPECT_TRUE(HasButton(round, "Load"));
+        EXPECT_TRUE(HasButton(round, "Load a Game"));
     }
 }
 

@@ -263,6 +263,7 @@ TEST(WindowLook, HeightThatThePlayerGaveToPicturesIsKept) {
     const int given = played.Window().Screen().Picture().height();
     played.Type("e\n");
     ASSERT_FALSE(played.Window().Screen().Picture().isVisible());
+    played.dialogs.AnswerNext(true);
     played.Action("StartAgain").trigger();
     QApplication::processEvents();
     EXPECT_NEAR(played.Window().Screen().Picture().height(), given, 1);

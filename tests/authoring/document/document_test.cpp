@@ -1,5 +1,6 @@
 #include "authoring/document/document.h"
 
+#include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -124,6 +125,37 @@ TEST_F(DocumentTest, RemembersWhereAChangeWasMade) {
     EXPECT_EQ(document_.UndoPlace(), messages);
     document_.Undo();
     EXPECT_EQ(document_.UndoPlace(), std::nullopt);
+}
+
+/// What the log of changes takes on the disk: the one open file that has no name any more.
+std::uintmax_t LogSize() {
+    std::uintmax_t size = 0;
+    for (const auto& open : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code gone;
+        if (std::filesystem::read_symlink(open.path(), gone).string().ends_with(" (deleted)"))
+            size += std::filesystem::file_size(open.path(), gone);
+    }
+    return size;
+}
+
+TEST_F(DocumentTest, LogOfChangesGrowsNoMoreWhenTheOldestAreForgotten) {
+    const auto writeMessage = [this](int number) {
+        Change change(document_, "write a message");
+        store::Cursor& messages = document_.Adventure().OpenTable(TableNum::Messages, "def");
+        messages.Edit();
+        messages.SetField("msgmsg", std::string(5000, static_cast<char>('a' + number % 26)));
+        messages.Update();
+        change.Commit();
+    };
+    AddMessage(0);
+    int number = 0;
+    for (; number < static_cast<int>(Document::kMostChanges); ++number)
+        writeMessage(number);
+    const std::uintmax_t full = LogSize();
+    EXPECT_GT(full, 5'000'000U);
+    for (; number < static_cast<int>(Document::kMostChanges) + 200; ++number)
+        writeMessage(number);
+    EXPECT_LE(LogSize(), full + 100'000);
 }
 
 TEST_F(DocumentTest, ANewChangeEndsWhatCouldBeRedone) {

@@ -21,7 +21,7 @@ std::string TraceHeader(const std::filesystem::path& file, const platform::DateT
 
 GameTest::GameTest(const authoring::TestRun& run, const player::WindowServices& services,
                    const platform::DateTime& begun, std::function<void()> ended)
-    : ended_(std::move(ended)) {
+    : dialogs_(services.dialogs), ended_(std::move(ended)) {
     player::WindowServices testing = services;
     testing.testRun = true;
     if (run.trace) {
@@ -39,11 +39,23 @@ GameTest::GameTest(const authoring::TestRun& run, const player::WindowServices& 
 
 GameTest::~GameTest() = default;
 
+void GameTest::FinishTrace() {
+    if (!trace_ || traceFinished_) return;
+    traceFinished_ = true;
+    if (!trace_->Finish())
+        dialogs_.Tell("Could not write all of the trace " + traceFile_.string() + ".", "Error");
+}
+
 bool GameTest::eventFilter(QObject*, QEvent* event) {
     // The window is at work on the event that hides it: the owner may end it afterwards.
     if (event->type() == QEvent::Hide && !event->spontaneous())
         QMetaObject::invokeMethod(
-            this, [this] { ended_(); }, Qt::QueuedConnection);
+            this,
+            [this] {
+                FinishTrace();
+                ended_();
+            },
+            Qt::QueuedConnection);
     return false;
 }
 

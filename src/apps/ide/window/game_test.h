@@ -16,7 +16,7 @@ class GameTest final : public QObject {
   public:
     /// Shows the window on the game. `ended` is called from the event loop when it has closed. With a
     /// trace the game's steps go to a file beside the adventure, told by `begun`. Throws fabula::Error when
-    /// that can't be written.
+    /// that can't be written; when its end can't, a box tells it.
     GameTest(const authoring::TestRun& run, const player::WindowServices& services,
              const platform::DateTime& begun, std::function<void()> ended);
     ~GameTest() override;
@@ -29,9 +29,13 @@ class GameTest final : public QObject {
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
   private:
+    void FinishTrace();
+
+    platform::Dialogs& dialogs_;
     std::function<void()> ended_;
     std::filesystem::path traceFile_;
     std::optional<engine::TraceFile> trace_;
+    bool traceFinished_ = false;
     std::unique_ptr<player::PlayerWindow> window_;
 };
 

@@ -69,7 +69,9 @@ int CharacterPane::Factor() const {
     const double ratio = devicePixelRatioF();
     const int byWidth = static_cast<int>(viewport()->width() * ratio) / CharacterScreen::kWidth;
     const int byHeight = static_cast<int>(viewport()->height() * ratio) / (kWantedRows * kSize);
-    return std::clamp(std::min(byWidth, byHeight) + zoomSteps_, 1, std::max(1, byWidth));
+    // Fewer rows in sight are better than letters that can't be read.
+    const int fitting = std::max(std::min(byWidth, byHeight), std::min(byWidth, kLeastFactor));
+    return std::clamp(fitting + zoomSteps_, 1, std::max(1, byWidth));
 }
 
 int CharacterPane::VisibleRows() const {

@@ -25,8 +25,10 @@ class CharacterPane final : public QAbstractScrollArea {
     /// Shows what has changed since the last call, the newest row in sight.
     void ShowChanges();
 
-    /// Pixels of the display to one pixel of a character.
+    /// Pixels of the display to one pixel of a character: at least kLeastFactor where the pane is wide
+    /// enough, unless the player wants less.
     int Factor() const;
+    static constexpr int kLeastFactor = 2;
     bool FlashIsOn() const { return flashOn_; }
 
   protected:

@@ -1,5 +1,6 @@
 #include "player/panes/character_screen.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "text/safe_text.h"
@@ -28,6 +29,21 @@ void CharacterScreen::Clear(int paper, int ink) {
     rows_.back() = blank;
     top_ = rows_.size() - 1;
     cursor_ = {top_, 0};
+    Trim();
+}
+
+void CharacterScreen::Keep(std::size_t rows) {
+    kept_ = rows;
+    Trim();
+}
+
+void CharacterScreen::Trim() {
+    if (rows_.size() <= kept_ + kept_ / 10) return;
+    const std::size_t gone = rows_.size() - kept_;
+    rows_.erase(rows_.begin(), rows_.begin() + static_cast<std::ptrdiff_t>(gone));
+    top_ -= std::min(top_, gone);
+    for (Place* place : {&cursor_, &input_, &caret_})
+        place->row -= std::min(place->row, gone);
 }
 
 void CharacterScreen::Write(std::string_view run, const engine::TextStyle& style) {
@@ -58,7 +74,9 @@ void CharacterScreen::Draw(char32_t code) {
 
 void CharacterScreen::EndLine() {
     cursor_ = {cursor_.row + 1, 0};
-    if (cursor_.row == rows_.size()) rows_.push_back(BlankRow());
+    if (cursor_.row < rows_.size()) return;
+    rows_.push_back(BlankRow());
+    Trim();
 }
 
 void CharacterScreen::EraseInput() {

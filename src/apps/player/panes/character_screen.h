@@ -48,6 +48,9 @@ class CharacterScreen {
     void ShowInput(std::string_view typed, std::string_view cursor);
     void EndInput(std::string_view typed);
 
+    /// How many rows are kept, at least; the oldest go, many at once.
+    void Keep(std::size_t rows);
+
     struct Place {
         std::size_t row = 0;
         int column = 0;  ///< kColumns behind the last one
@@ -76,10 +79,12 @@ class CharacterScreen {
     void Draw(char32_t code);
     void EraseInput();
     Row BlankRow() const;
+    void Trim();
 
     pictures::CharacterSets sets_;
     std::vector<Row> rows_{1};
     std::size_t top_ = 0;
+    std::size_t kept_ = 5000;
     int paper_ = 0;
     Place cursor_;
     engine::TextStyle style_;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "engine/engine.h"
+#include "engine/state_actions.h"
 #include "pictures/book_loader.h"
 #include "player/panes/character_pane.h"
 #include "player/panes/picture_pane.h"
@@ -28,6 +29,8 @@ using engine::Waiting;
 
 /// How soon a tick comes again that found the engine at work.
 constexpr std::chrono::milliseconds kBusyDelay{50};
+/// Time for what came in the meantime, between two slices of a turn.
+constexpr std::chrono::milliseconds kNextSlice{1};
 /// The last character of a character set that a key can type.
 constexpr char32_t kLastTyped = 126;
 /// What a picture leaves to the text; where it can't, it gives way.
@@ -41,6 +44,7 @@ GameScreen::GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, Scr
       events_(std::move(events)),
       timeOut_(timers, [this] { TimeOutTick(); }),
       wait_(timers, [this] { WaitTick(); }),
+      more_(timers, [this] { GoOn(); }),
       splitter_(new QSplitter(Qt::Vertical)),
       picture_(new PicturePane),
       panes_(new QStackedWidget) {
@@ -65,9 +69,14 @@ GameScreen::GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, Scr
 
 GameScreen::~GameScreen() = default;
 
-void GameScreen::Attach(Session* session) {
+void GameScreen::StopAlarms() {
     timeOut_.Stop();
     wait_.Stop();
+    more_.Stop();
+}
+
+void GameScreen::Attach(Session* session) {
+    StopAlarms();
     history_ = {};
     typed_.clear();
     session_ = session;
@@ -82,6 +91,8 @@ void GameScreen::SetLook(const ScreenLook& look) {
     text_->SetPage(look.page);
     text_->SetZoom(look.zoom);
     text_->SetFlashing(look.flashing);
+    text_->SetChoice(look.text);
+    characters_->Screen().Keep(static_cast<std::size_t>(look.text.lines));
     characters_->SetZoomSteps(look.characterZoom);
     characters_->SetFlashing(look.flashing);
     ChoosePane();
@@ -117,8 +128,7 @@ void GameScreen::FocusInput() {
 }
 
 void GameScreen::StartGame(const engine::GameLook& look) {
-    timeOut_.Stop();
-    wait_.Stop();
+    StopAlarms();
     game_ = look;
     HidePicture();
     TextLook textLook{.style = look.style, .columns = look.printWidth, .page = look_.page};
@@ -128,13 +138,13 @@ void GameScreen::StartGame(const engine::GameLook& look) {
     if (look.characterSets) sets = pictures::LoadCharacterSets(session_->Adventure());
     characters_->StartGame(CharacterScreen(std::move(sets)));
     characters_->Screen().Clear(look.style.paper, look.style.ink);
+    characters_->Screen().Keep(static_cast<std::size_t>(look_.text.lines));
     ChoosePane();
     events_.started(look);
 }
 
 void GameScreen::EndGame() {
-    timeOut_.Stop();
-    wait_.Stop();
+    StopAlarms();
     turnMade_ = true;
     events_.ended();
 }
@@ -217,8 +227,11 @@ void GameScreen::HidePicture() {
 }
 
 int GameScreen::LeastTextHeight() const {
-    return ShowsCharacters() ? kLeastRows * CharacterScreen::kCharacterSize
-                             : kLeastLines * QFontMetrics(text_->font()).lineSpacing();
+    if (!ShowsCharacters()) return kLeastLines * QFontMetrics(text_->font()).lineSpacing();
+    const int rows = kLeastRows * CharacterScreen::kCharacterSize;
+    const bool roomForTwo = splitter_->width() >= CharacterPane::kLeastFactor * CharacterScreen::kWidth &&
+                            splitter_->height() >= 2 * CharacterPane::kLeastFactor * rows;
+    return roomForTwo ? CharacterPane::kLeastFactor * rows : rows;
 }
 
 void GameScreen::FitPicture() {
@@ -271,6 +284,20 @@ void GameScreen::WaitTick() {
     ShowStep();
 }
 
+void GameScreen::GoOn() {
+    if (session_ == nullptr) return;
+    if (!session_->GoOn()) return more_.Start(kBusyDelay);
+    ShowStep();
+}
+
+void GameScreen::StopTurn() {
+    if (session_ == nullptr || !session_->StopTurn()) return;
+    wait_.Stop();
+    more_.Stop();
+    turnMade_ = true;
+    ShowStep();
+}
+
 std::optional<std::filesystem::path> GameScreen::AskForFile(const engine::FileRequest& request) {
     std::error_code ignored;
     std::filesystem::create_directories(session_->SaveFolder(), ignored);
@@ -279,6 +306,12 @@ std::optional<std::filesystem::path> GameScreen::AskForFile(const engine::FileRe
                                 .extension = std::string(request.extension),
                                 .forWriting = request.forWriting,
                                 .start = session_->SaveFolder()});
+}
+
+std::optional<std::filesystem::path> GameScreen::AskForSavedGame(bool forWriting) {
+    auto file = AskForFile(engine::SavedGameRequest(forWriting));
+    if (file && !file->has_extension()) *file += ".sav";
+    return file;
 }
 
 void GameScreen::Send(char32_t key) {
@@ -296,6 +329,7 @@ void GameScreen::Type(const std::string& typed) {
 
 void GameScreen::Press(PaneKey key) {
     if (session_ == nullptr) return;
+    if (key == PaneKey::EraseLine && session_->WaitingFor() == Waiting::Turn) return StopTurn();
     if (!session_->TakesLine()) {
         Send(Engine::kEnter);
         return ShowStep();
@@ -335,6 +369,7 @@ void GameScreen::ShowStep() {
     events_.stepped();
     if (const auto failure = transcript_.Flush()) events_.notice(*failure);
     if (session_ == nullptr) return;
+    if (session_->WaitingFor() == Waiting::Turn) more_.Start(kNextSlice);
     if (const std::string failure = session_->TakeFailure(); !failure.empty()) events_.notice(failure);
 }
 

@@ -12,6 +12,7 @@
 #include "player/panes/history.h"
 #include "player/panes/pane_keys.h"
 #include "player/panes/text_colours.h"
+#include "player/panes/text_pane.h"
 #include "player/play/transcript_file.h"
 
 class QSplitter;
@@ -23,7 +24,6 @@ class CharacterPane;
 class GamePictures;
 class PicturePane;
 class Session;
-class TextPane;
 
 /// What a game tells the window around its screen.
 struct ScreenEvents {
@@ -42,6 +42,7 @@ struct ScreenLook {
     Page page = Page::OfTheGame;
     bool flashing = true;
     bool plainText = false;  ///< games with character sets go to the text pane too
+    TextChoice text{};       ///< fonts and lines of the text pane; the lines that both panes keep
 };
 
 /// The panes of a game: picture, text and characters. It draws what the engine tells, and brings the
@@ -57,6 +58,12 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     void SetLook(const ScreenLook& look);
     /// The transcript, to be opened and closed.
     TranscriptFile& Transcript() { return transcript_; }
+
+    /// Gives up the turn that goes on or pauses.
+    void StopTurn();
+
+    /// Asks for the file of a saved game as SAVE and LOAD do.
+    std::optional<std::filesystem::path> AskForSavedGame(bool forWriting);
 
     /// Gives the keyboard to the pane that takes it.
     void FocusInput();
@@ -95,6 +102,8 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     void ReplaceLine(const std::string& line);
     void TimeOutTick();
     void WaitTick();
+    void GoOn();
+    void StopAlarms();
     std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request);
     void ChoosePane();
     void ColourPicture();
@@ -117,6 +126,7 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     bool afterBlank_ = false;  ///< the latest run ended with a blank
     platform::Alarm timeOut_;
     platform::Alarm wait_;
+    platform::Alarm more_;  ///< the turn goes on
 
     std::optional<double> pictureShare_;  ///< the part of the height that the player gave to pictures
     QSplitter* splitter_;

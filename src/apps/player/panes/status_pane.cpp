@@ -1,5 +1,6 @@
 #include "player/panes/status_pane.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPainter>
 
@@ -36,6 +37,7 @@ StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
         made->setObjectName(name);
         made->setTextFormat(Qt::PlainText);
         made->setAccessibleName(spoken);
+        made->setAccessibleDescription(spoken);
         made->setContentsMargins(4, 0, 4, 0);
         return made;
     };
@@ -52,8 +54,20 @@ StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
         field->hide();
 }
 
+void StatusPane::Announce(QLabel& label, const QString& text) {
+    if (label.text() == text) return;
+    label.setText(text);
+    // What is said is the text; while there is none, what would be told here.
+    label.setAccessibleName(text.isEmpty() ? label.accessibleDescription() : QString());
+    if (text.isEmpty()) return;
+    QAccessibleEvent changed(&label, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
+    QAccessibleEvent said(&label, QAccessible::Alert);
+    QAccessible::updateAccessibility(&said);
+}
+
 void StatusPane::Tell(const std::string& sentence) {
-    status_->setText(qt::ToQt(sentence));
+    Announce(*status_, qt::ToQt(sentence));
     status_->setToolTip(sentence.empty() ? QString() : qt::TipOf(qt::ToQt(sentence)));
 }
 
@@ -73,7 +87,7 @@ void StatusPane::Show(engine::StatusField field, const std::string& text) {
             label = location_;
             break;
     }
-    label->setText(qt::ToQt(text));
+    Announce(*label, qt::ToQt(text));
     label->setToolTip(text.empty() ? QString() : qt::TipOf(qt::ToQt(text)));
     label->setVisible(!text.empty());
 }

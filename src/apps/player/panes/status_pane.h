@@ -15,10 +15,13 @@ class StatusPane final : public QStatusBar {
   public:
     explicit StatusPane(QWidget* parent = nullptr);
 
+    /// A sentence; a screen reader says it.
     void Tell(const std::string& sentence);
     void Show(engine::StatusField field, const std::string& text);
 
   private:
+    void Announce(QLabel& label, const QString& text);
+
     QLabel* status_;
     QLabel* command_;
     QLabel* location_;

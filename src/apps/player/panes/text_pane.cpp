@@ -24,6 +24,7 @@ constexpr int kMargin = 18;
 constexpr int kMarkWidth = 3;
 constexpr int kDefaultPoints = 12;
 constexpr std::chrono::milliseconds kFlashTime{320};
+constexpr std::chrono::milliseconds kSoon{1};
 constexpr std::size_t kMostFlashing = 200;
 
 /// Lines stand a little apart, for long texts.
@@ -41,7 +42,10 @@ QColor ToColour(text::Rgb rgb) {
 }  // namespace
 
 TextPane::TextPane(platform::Timers& timers, PaneHandlers handlers, QWidget* parent)
-    : QTextEdit(parent), handlers_(std::move(handlers)), flash_(timers, [this] { ToggleFlash(); }) {
+    : QTextEdit(parent),
+      handlers_(std::move(handlers)),
+      flash_(timers, [this] { ToggleFlash(); }),
+      more_(timers, [this] { ShowMore(); }) {
     setUndoRedoEnabled(false);
     setAcceptDrops(false);
     setAcceptRichText(false);
@@ -55,12 +59,18 @@ TextPane::TextPane(platform::Timers& timers, PaneHandlers handlers, QWidget* par
 }
 
 void TextPane::StartGame(const TextLook& look) {
+    Settle();
     look_ = look;
+    latest_ = {look.style, look.family};
     styles_.clear();
     flashing_.clear();
+    queue_.clear();
+    waiting_ = 0;
+    room_ = kWrittenAtOnce;
+    inputBehindQueue_.reset();
     clear();
     QTextCursor(document()).setBlockFormat(LineFormat());
-    turnStart_ = pageStart_ = inputStart_ = 0;
+    turnStart_ = pageStart_ = inputStart_ = Mark();
     inputShown_ = false;
     ApplyColours();
     SetZoom(zoom_);
@@ -74,18 +84,26 @@ void TextPane::ApplyColours() {
     setPalette(shown);
 }
 
+void TextPane::SetChoice(const TextChoice& choice) {
+    if (choice == choice_) return;
+    choice_ = choice;
+    SetZoom(zoom_);
+    Trim();
+}
+
 void TextPane::SetPage(Page page) {
+    Settle();
     look_.page = page;
     ApplyColours();
     Restyle();
 }
 
 void TextPane::SetZoom(int percent) {
+    Settle();
     const Reading place = Place();
     zoom_ = percent;
-    QFont shown = look_.family.isEmpty() ? QApplication::font() : QFont(look_.family);
-    const int points = look_.style.fontSize > 0 ? look_.style.fontSize : kDefaultPoints;
-    shown.setPointSizeF(points * percent / 100.0);
+    QFont shown = BaseFamily().isEmpty() ? QApplication::font() : QFont(BaseFamily());
+    shown.setPointSizeF(PointsOf(look_.style.fontSize));
     setFont(shown);
     Restyle();
     FitMargins();
@@ -100,18 +118,133 @@ void TextPane::SetFlashing(bool allowed) {
     if (!allowed) flash_.Stop();
 }
 
+QString TextPane::BaseFamily() const {
+    return choice_.family.isEmpty() ? look_.family : choice_.family;
+}
+
+double TextPane::PointsOf(int fontSize) const {
+    const double ordinary = look_.style.fontSize > 0 ? look_.style.fontSize : kDefaultPoints;
+    const double own = fontSize > 0 ? fontSize : ordinary;
+    const double wanted = choice_.points > 0 ? own * choice_.points / ordinary : own;
+    return wanted * zoom_ / 100.0;
+}
+
 QTextCursor TextPane::End() const {
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
     return end;
 }
 
+QTextCursor TextPane::Mark() const {
+    QTextCursor mark = End();
+    mark.setKeepPositionOnInsert(true);
+    return mark;
+}
+
+void TextPane::OpenEdit() {
+    if (!edit_.isNull()) return;
+    edit_ = End();
+    edit_.beginEditBlock();
+    if (!more_.IsRunning()) more_.Start(kSoon);
+}
+
+/// What was written so far becomes one change of the document, and can be laid out.
+void TextPane::Settle() {
+    if (edit_.isNull()) return;
+    QTextCursor made = edit_;
+    edit_ = {};
+    made.endEditBlock();
+}
+
+void TextPane::Take(Step step) {
+    if (!queue_.empty() || room_ <= 0) {
+        waiting_ += static_cast<int>(step.text.size()) + 1;
+        queue_.push_back(std::move(step));
+        if (!more_.IsRunning()) more_.Start(kSoon);
+        return DropWhatIsNotKept();
+    }
+    Carry(step);
+}
+
+void TextPane::Carry(const Step& step) {
+    OpenEdit();
+    room_ -= static_cast<int>(step.text.size()) + 1;
+    switch (step.kind) {
+        case Step::Kind::Run:
+            return InsertRun(step.text, step.style);
+        case Step::Kind::LineEnd:
+            return End().insertBlock(LineFormat(), QTextCharFormat());
+        case Step::Kind::Page:
+            return BeginPage(step.style.style);
+        case Step::Kind::TurnBegins:
+            turnStart_ = Mark();
+            turnStart_.setPosition(turnStart_.block().position());
+            return;
+    }
+}
+
+/// Text that would be taken away again as soon as it is shown is not shown at all. Colours and marks are.
+void TextPane::DropWhatIsNotKept() {
+    while (queue_.size() > 1 && IsTooMuch(static_cast<int>(queue_.size()), waiting_)) {
+        const Step first = std::move(queue_.front());
+        queue_.pop_front();
+        waiting_ -= static_cast<int>(first.text.size()) + 1;
+        if (first.kind == Step::Kind::Page || first.kind == Step::Kind::TurnBegins) Carry(first);
+    }
+}
+
+/// The next piece of what waits.
+void TextPane::ShowMore() {
+    Settle();
+    if (queue_.empty()) {
+        room_ = kWrittenAtOnce;
+        return;
+    }
+    const Reading place = Place();
+    room_ = kWrittenAtOnce;
+    while (!queue_.empty() && room_ > 0) {
+        const Step step = std::move(queue_.front());
+        queue_.pop_front();
+        waiting_ -= static_cast<int>(step.text.size()) + 1;
+        Carry(step);
+    }
+    Settle();
+    Trim();
+    Return(place);
+    if (queue_.empty() && inputBehindQueue_) PlaceInput(*std::exchange(inputBehindQueue_, std::nullopt));
+    if (!more_.IsRunning()) more_.Start(kSoon);
+}
+
+bool TextPane::IsTooMuch(int blocks, int characters) const {
+    return blocks > choice_.lines || characters / kCharactersOfALine > choice_.lines;
+}
+
+/// Takes the oldest lines away, many at once.
+void TextPane::Trim() {
+    Settle();
+    const int slack = std::max(1, choice_.lines / 10);
+    if (!IsTooMuch(document()->blockCount() - slack,
+                   document()->characterCount() - slack * kCharactersOfALine))
+        return;
+    int blocks = document()->blockCount();
+    QTextBlock first = document()->begin();
+    while (first.next().isValid() && IsTooMuch(blocks, document()->characterCount() - first.position())) {
+        first = first.next();
+        --blocks;
+    }
+    QTextCursor gone(document());
+    gone.setPosition(first.position(), QTextCursor::KeepAnchor);
+    gone.removeSelectedText();
+    std::erase_if(flashing_, [](const QTextCursor& run) { return !run.hasSelection(); });
+}
+
 QTextCharFormat TextPane::FormatOf(const RunStyle& run) const {
     QTextCharFormat format;
     const engine::TextStyle& style = run.style;
-    if (run.family != look_.family && !run.family.isEmpty()) format.setFontFamilies({run.family});
+    if (choice_.family.isEmpty() && run.family != look_.family && !run.family.isEmpty())
+        format.setFontFamilies({run.family});
     if (style.fontSize != look_.style.fontSize && style.fontSize > 0)
-        format.setFontPointSize(style.fontSize * zoom_ / 100.0);
+        format.setFontPointSize(PointsOf(style.fontSize));
     if (style.bright) format.setFontWeight(QFont::Bold);
     const TextColours::Run colours = colours_.Of(style);
     if (colours.ink != colours_.Text()) format.setForeground(ToColour(colours.ink));
@@ -150,24 +283,44 @@ void TextPane::Restyle() {
 
 void TextPane::Write(const QString& run, const engine::TextStyle& style, const QString& family) {
     inputShown_ = false;
+    latest_ = {style, family};
+    for (qsizetype at = 0; at < run.size();) {
+        qsizetype length = std::min<qsizetype>(run.size() - at, kLongestLine);
+        if (at + length < run.size()) {
+            const qsizetype blank = QStringView(run).mid(at, length).lastIndexOf(' ');
+            if (blank >= 0) length = blank + 1;
+        }
+        Take({Step::Kind::Run, run.mid(at, length), latest_});
+        at += length;
+    }
+}
+
+void TextPane::InsertRun(const QString& text, const RunStyle& style) {
     QTextCursor end = End();
-    const int start = end.position();
-    end.insertText(run, Format({style, family}));
-    if (!style.flash) return;
-    flashing_.emplace_back(start, end.position());
+    if (end.block().length() + text.size() > kLongestLine + 1)
+        end.insertBlock(LineFormat(), QTextCharFormat());
+    QTextCursor run = Mark();
+    end.insertText(text, Format(style));
+    if (!style.style.flash) return;
+    run.setPosition(end.position(), QTextCursor::KeepAnchor);
+    flashing_.push_back(run);
     if (flashing_.size() > kMostFlashing) flashing_.erase(flashing_.begin());
     if (flashAllowed_ && !flash_.IsRunning()) flash_.Start(kFlashTime);
 }
 
 void TextPane::EndLine() {
     inputShown_ = false;
-    End().insertBlock(LineFormat(), QTextCharFormat());
+    Take({Step::Kind::LineEnd});
 }
 
 void TextPane::ClearPage(int paper, int ink) {
     inputShown_ = false;
-    look_.style.paper = paper;
-    look_.style.ink = ink;
+    Take({Step::Kind::Page, {}, {.style = {.paper = paper, .ink = ink}, .family = {}}});
+}
+
+void TextPane::BeginPage(const engine::TextStyle& style) {
+    look_.style.paper = style.paper;
+    look_.style.ink = style.ink;
     ApplyColours();
     flashing_.clear();
     if (!document()->isEmpty()) {
@@ -175,27 +328,47 @@ void TextPane::ClearPage(int paper, int ink) {
         if (!end.atBlockStart()) end.insertBlock(LineFormat(), QTextCharFormat());
         end.insertBlock(LineFormat(), QTextCharFormat());
     }
-    pageStart_ = turnStart_ = End().position();
+    pageStart_ = turnStart_ = Mark();
 }
 
 void TextPane::ShowInput(const QString& typed, const QString& cursor) {
-    QTextCursor end = End();
-    if (!inputShown_) inputStart_ = end.position();
+    if (!queue_.empty()) {
+        inputBehindQueue_ = {typed, cursor};
+        return;
+    }
+    PlaceInput({typed, cursor});
+}
+
+/// What is typed has the font of the text before it.
+TextPane::RunStyle TextPane::TypedStyle() const {
+    RunStyle typed{look_.style, latest_.family};
+    typed.style.font = latest_.style.font;
+    typed.style.fontSize = latest_.style.fontSize;
+    return typed;
+}
+
+void TextPane::PlaceInput(const Input& line) {
+    const auto& [typed, cursor] = line;
+    OpenEdit();
+    if (!inputShown_) inputStart_ = Mark();
     inputShown_ = true;
+    QTextCursor end = End();
     // Only what differs is replaced, so that a screen reader hears the one key and not the whole line.
     shownCursor_ = cursor;
     const QString shown = typed + cursor;
     QTextCursor input(document());
-    input.setPosition(inputStart_);
+    input.setPosition(inputStart_.position());
     input.setPosition(end.position(), QTextCursor::KeepAnchor);
     const QString before = input.selectedText();
     const auto same = std::mismatch(before.begin(), before.end(), shown.begin(), shown.end()).first;
     const int kept = static_cast<int>(same - before.begin());
-    input.setPosition(inputStart_ + kept);
+    input.setPosition(inputStart_.position() + kept);
     input.setPosition(end.position(), QTextCursor::KeepAnchor);
-    input.insertText(shown.mid(kept), QTextCharFormat());
+    if (input.hasSelection() || kept < shown.size())
+        input.insertText(shown.mid(kept), Format(TypedStyle()));
+    Settle();
     QTextCursor caret(document());
-    caret.setPosition(inputStart_ + static_cast<int>(typed.size()));
+    caret.setPosition(inputStart_.position() + static_cast<int>(typed.size()));
     const int scrolled = verticalScrollBar()->value();
     setTextCursor(caret);
     KeepPage();
@@ -203,8 +376,15 @@ void TextPane::ShowInput(const QString& typed, const QString& cursor) {
 }
 
 void TextPane::EndInput(const QString& typed) {
-    ShowInput(typed, {});
-    if (!typed.isEmpty()) turnStart_ = End().block().position();
+    if (queue_.empty()) {
+        PlaceInput({typed, {}});
+        room_ = kWrittenAtOnce;
+        Trim();
+    } else {
+        inputBehindQueue_.reset();
+        if (!typed.isEmpty()) Take({Step::Kind::Run, typed, TypedStyle()});
+    }
+    if (!typed.isEmpty()) Take({Step::Kind::TurnBegins});
     EndLine();
 }
 
@@ -216,35 +396,36 @@ int TextPane::BlockTop(int position) const {
 void TextPane::KeepPage() {
     // A page that does not fill the pane begins at its top all the same, with empty space below.
     QScrollBar& bar = *verticalScrollBar();
-    if (pageStart_ > 0) bar.setMaximum(std::max(bar.maximum(), BlockTop(pageStart_) - kMargin / 2));
+    const int page = pageStart_.position();
+    if (page > 0) bar.setMaximum(std::max(bar.maximum(), BlockTop(page) - kMargin / 2));
 }
 
 int TextPane::TurnScroll() const {
-    return std::min(verticalScrollBar()->maximum(), BlockTop(turnStart_) - kMargin / 2);
+    return std::min(verticalScrollBar()->maximum(), BlockTop(turnStart_.position()) - kMargin / 2);
 }
 
 void TextPane::ShowTurn() {
+    Settle();
     KeepPage();
     verticalScrollBar()->setValue(TurnScroll());
     viewport()->update();
 }
 
 TextPane::Reading TextPane::Place() const {
-    return {verticalScrollBar()->value() >= TurnScroll(), cursorForPosition(QPoint(0, 0)).position()};
+    return {verticalScrollBar()->value() >= TurnScroll(), cursorForPosition(QPoint(0, 0))};
 }
 
 void TextPane::Return(const Reading& place) {
     if (place.latest) return ShowTurn();
     KeepPage();
-    QTextCursor top(document());
-    top.setPosition(place.position);
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(place.top).top());
 }
 
 void TextPane::FitMargins() {
     int side = kMargin;
-    if (look_.columns > 0) {
-        const int widest = QFontMetrics(font()).averageCharWidth() * look_.columns;
+    const int columns = choice_.columns > 0 ? choice_.columns : look_.columns;
+    if (columns > 0) {
+        const int widest = QFontMetrics(font()).averageCharWidth() * columns;
         side = std::max(side, (viewport()->width() - widest) / 2);
     }
     QTextFrameFormat frame = document()->rootFrame()->frameFormat();
@@ -264,9 +445,9 @@ void TextPane::resizeEvent(QResizeEvent* event) {
 
 void TextPane::paintEvent(QPaintEvent* event) {
     QTextEdit::paintEvent(event);
-    if (turnStart_ == 0) return;
+    if (TurnStart() == 0) return;
     const int scrolled = verticalScrollBar()->value();
-    const int top = BlockTop(turnStart_) - scrolled;
+    const int top = BlockTop(TurnStart()) - scrolled;
     const QRectF end = document()->documentLayout()->blockBoundingRect(document()->lastBlock());
     const int bottom = static_cast<int>(end.bottom()) - scrolled;
     const int side = static_cast<int>(document()->rootFrame()->frameFormat().leftMargin());
@@ -279,12 +460,9 @@ void TextPane::paintEvent(QPaintEvent* event) {
 void TextPane::ToggleFlash() {
     flashOn_ = !flashOn_;
     QList<ExtraSelection> selections;
-    for (const auto& [start, end] : flashing_) {
+    for (const QTextCursor& run : flashing_) {
         ExtraSelection selection;
-        selection.cursor = QTextCursor(document());
-        selection.cursor.setPosition(start);
-        const QTextCharFormat format = selection.cursor.charFormat();
-        selection.cursor.setPosition(end, QTextCursor::KeepAnchor);
+        selection.cursor = run;
         selection.format.setForeground(palette().color(QPalette::Base));
         selection.format.setBackground(palette().color(QPalette::Text));
         if (flashOn_) selections.append(selection);
@@ -302,9 +480,30 @@ void TextPane::BackToInput() {
     ensureCursorVisible();
 }
 
+bool TextPane::FindText(const QString& text, bool backwards) {
+    Settle();
+    return find(text, backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags());
+}
+
+bool TextPane::event(QEvent* event) {
+    Settle();
+    // What is no key of the pane stays a key of the window, such as that of Undo.
+    if (event->type() == QEvent::ShortcutOverride &&
+        MeaningOf(*static_cast<QKeyEvent*>(event)) == PaneKey::Other) {
+        event->ignore();
+        return true;
+    }
+    return QTextEdit::event(event);
+}
+
+bool TextPane::viewportEvent(QEvent* event) {
+    Settle();
+    return QTextEdit::viewportEvent(event);
+}
+
 void TextPane::keyPressEvent(QKeyEvent* event) {
     const PaneKey key = MeaningOf(*event);
-    const bool inText = !textCursor().atEnd() && textCursor().position() < inputStart_;
+    const bool inText = !textCursor().atEnd() && textCursor().position() < inputStart_.position();
     switch (key) {
         case PaneKey::Text:
             BackToInput();

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "engine/saved_game.h"
 #include "platform/error.h"
 #include "platform/user_folders.h"
 #include "upgrades/upgrade.h"
@@ -13,6 +14,14 @@ namespace {
 using engine::Waiting;
 
 constexpr std::chrono::milliseconds kAutosaveDelay{150};
+
+/// How many condacts run until the window has its say.
+constexpr std::int64_t kSlice = 20'000;
+
+engine::Options InSlices(engine::Options options) {
+    options.slice = kSlice;
+    return options;
+}
 
 std::string SaveNameOf(store::Adventure& adventure) {
     const auto& settings = adventure.OpenTable(store::TableNum::Adventure, "savename");
@@ -48,7 +57,7 @@ Session::Session(const std::filesystem::path& file, const std::filesystem::path&
                  const engine::Options& options)
     : adventure_(OpenGame(file, host.oper)),
       folder_(FolderOfGame(dataFolder, SaveNameOf(*adventure_), file)),
-      engine_(*adventure_, host, options),
+      engine_(*adventure_, host, InSlices(options)),
       oper_(host.oper),
       keeps_(autosave == Autosave::On),
       autosave_(timers, [this] { WriteAutosave(); }) {}
@@ -73,7 +82,61 @@ void Session::GiveFiles() {
 }
 
 bool Session::Start() {
-    return Run([this] { engine_.Initialize(); });
+    if (!Run([this] { engine_.Initialize(); })) return false;
+    Remember();
+    return true;
+}
+
+bool Session::GoOn() {
+    if (!Run([this] { engine_.GoOn(); })) return false;
+    AfterTurn();
+    return true;
+}
+
+bool Session::CanStop() const {
+    return WaitingFor() == Waiting::Turn || WaitingFor() == Waiting::Pause;
+}
+
+bool Session::StopTurn() {
+    return CanStop() && Run([this] { engine_.StopTurn(states_.empty() ? "" : states_.back()); });
+}
+
+bool Session::CanRestore() const {
+    return !CanStop() && WaitingFor() != Waiting::File;
+}
+
+void Session::SaveTo(const std::filesystem::path& file) {
+    if (CanSave()) engine_.SaveTo(file);
+}
+
+bool Session::RestoreFrom(const std::filesystem::path& file) {
+    bool taken = false;
+    if (!CanRestore()) return false;
+    const auto take = [&] {
+        if (WaitingFor() == Waiting::Nothing) engine_.Initialize();
+        taken = engine_.LoadFrom(file);
+    };
+    if (!Run(take)) return false;
+    AfterTurn();
+    return taken;
+}
+
+bool Session::CanUndo() const {
+    if (CanSave()) return states_.size() > 1;
+    return !CanStop() && !states_.empty();
+}
+
+bool Session::Undo() {
+    if (!CanUndo() || busy_) return false;
+    // In the midst of a turn the latest state is the one before it.
+    if (CanSave()) states_.pop_back();
+    bool taken = false;
+    Run([&] {
+        if (WaitingFor() == Waiting::Nothing) engine_.Initialize();
+        taken = engine_.TakeState(states_.back());
+    });
+    if (keeps_) autosave_.Start(kAutosaveDelay);
+    return taken;
 }
 
 bool Session::CanResume() const {
@@ -132,20 +195,30 @@ bool Session::TakesLine() const {
 }
 
 void Session::AfterTurn() {
+    Remember();
     if (!keeps_) return;
     if (WaitingFor() == Waiting::Sentence) autosave_.Start(kAutosaveDelay);
     if (WaitingFor() != Waiting::Nothing) return;
+    if (engine_.HasFailed()) return WriteAutosave();
     autosave_.Stop();
     std::error_code ignored;
     std::filesystem::remove(folder_.autosave, ignored);
 }
 
+void Session::Remember() {
+    if (!CanSave()) return;
+    std::string state = engine_.SavedState();
+    if (!states_.empty() && states_.back() == state) return;
+    states_.push_back(std::move(state));
+    if (states_.size() > kMostStates) states_.erase(states_.begin());
+}
+
 void Session::WriteAutosave() {
     autosave_.Stop();
-    if (WaitingFor() != Waiting::Sentence) return;
+    if (states_.empty()) return;
     try {
         std::filesystem::create_directories(folder_.folder);
-        engine_.SaveTo(folder_.autosave);
+        engine::WriteSavedGame(folder_.autosave, states_.back());
     } catch (const std::exception& error) {
         if (!std::exchange(failureTold_, true)) failure_ = error.what();
     }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "engine/engine.h"
 #include "platform/timers.h"
@@ -24,7 +25,11 @@ enum class Autosave { On, Off };
 /// must not break into a turn. Calls that come while the engine runs are therefore ignored, and false.
 ///
 /// With an autosave the state is written after every turn, shortly later, so that nobody waits for it. It
-/// goes when the game ends, and stays when the program does.
+/// goes when the game ends, and stays when the program does, or when the game goes wrong: it is then the
+/// state before the turn that did.
+///
+/// A long turn is played in slices, so that the window stays awake: while the game is in the midst of one
+/// (Waiting::Turn) GoOn is due.
 class Session {
   public:
     /// Opens the file. Throws store::OpenError when it is refused, and fabula::Error when it can't be read.
@@ -44,12 +49,31 @@ class Session {
     using FileAsker = std::function<std::optional<std::filesystem::path>(const engine::FileRequest&)>;
     void AskForFilesBy(FileAsker asker) { askForFile_ = std::move(asker); }
 
-    /// Starts the game.
+    /// Starts the game. The states before stay for Undo.
     bool Start();
     /// Whether there is a state of an earlier session to go on from.
     bool CanResume() const;
     /// Goes on from it. When that is not possible the game goes on as it is, and the operator is told.
     bool Resume();
+
+    /// The game goes on with a long turn.
+    bool GoOn();
+    /// A long turn, or a pause, can be given up: the game is then as it was before the turn.
+    bool CanStop() const;
+    bool StopTurn();
+
+    /// A state can be saved, or another one taken.
+    bool CanSave() const { return WaitingFor() == engine::Waiting::Sentence; }
+    bool CanRestore() const;
+    /// Writes the state as SAVE does. Throws fabula::Error.
+    void SaveTo(const std::filesystem::path& file);
+    /// Goes back to a saved game as LOAD does. False when it is none of this adventure. Throws
+    /// fabula::Error when it can't be read.
+    bool RestoreFrom(const std::filesystem::path& file);
+    /// Goes back by one line that the player entered, also when the game has ended or gone wrong since.
+    bool CanUndo() const;
+    bool Undo();
+    static constexpr std::size_t kMostStates = 100;
 
     bool Key(char32_t key);
     bool EnterLine(std::string_view line);
@@ -61,6 +85,8 @@ class Session {
     engine::Waiting WaitingFor() const { return engine_.WaitingFor(); }
     /// A line is being typed.
     bool TakesLine() const;
+    /// The latest game went wrong.
+    bool HasFailed() const { return engine_.HasFailed(); }
     bool SoundOn() const { return engine_.SoundOn(); }
     std::string FontName(int number) const { return engine_.FontName(number); }
     bool IsBusy() const { return busy_; }
@@ -76,6 +102,7 @@ class Session {
     bool Run(Step step);
     void GiveFiles();
     void AfterTurn();
+    void Remember();
     void WriteAutosave();
 
     std::unique_ptr<store::Adventure> adventure_;
@@ -85,6 +112,8 @@ class Session {
     FileAsker askForFile_;
     bool keeps_;
     platform::Alarm autosave_;
+    /// What the game was when it waited for a line, the latest at the end.
+    std::vector<std::string> states_;
     bool busy_ = false;
     bool failureTold_ = false;
     std::string failure_;

@@ -5,23 +5,29 @@
 namespace fabula::player {
 
 void TranscriptFile::Open(const std::filesystem::path& file) {
-    Close();
+    if (const auto failure = Close()) throw Error(*failure);
     file_ = file;
     output_.open(file, std::ios::binary | std::ios::trunc);
-    if (!output_) throw Error("Could not write the transcript " + file.string() + ".");
+    if (!output_) {
+        output_.clear();
+        throw Error("Could not write the transcript " + file.string() + ".");
+    }
     lines_.emplace(output_);
 }
 
-void TranscriptFile::Close() {
+std::optional<std::string> TranscriptFile::Close() {
+    if (!IsOpen()) return std::nullopt;
     lines_.reset();
     output_.close();
+    const bool whole = output_.good();
     output_.clear();
+    if (whole) return std::nullopt;
+    return "Could not write the transcript " + file_.string() + ". It is closed.";
 }
 
 std::optional<std::string> TranscriptFile::Flush() {
     if (!IsOpen() || output_.flush()) return std::nullopt;
-    Close();
-    return "Could not write the transcript " + file_.string() + ". It is closed.";
+    return Close();
 }
 
 }  // namespace fabula::player

@@ -14,7 +14,9 @@ class TranscriptFile {
   public:
     /// Starts a new file; one that was open is closed. Throws fabula::Error when it can't be written.
     void Open(const std::filesystem::path& file);
-    void Close();
+    /// The sentence that tells a failure to write its end; nullopt when there was none, or nothing to
+    /// close.
+    std::optional<std::string> Close();
     bool IsOpen() const { return output_.is_open(); }
 
     /// Where to write; nullptr while it is closed.

@@ -19,6 +19,11 @@ int Number(const QSettings& store, const char* key, int smallest, int largest, i
     return read && value >= smallest && value <= largest ? value : otherwise;
 }
 
+/// 0 stands for what the game has.
+int NumberOrNone(const QSettings& store, const char* key, int smallest, int largest) {
+    return Number(store, key, smallest, largest, 0);
+}
+
 /// "MRUFiles" is the authoring tool's list; programs of before kept the games there too.
 constexpr const char* kRecent = "PlayedFiles";
 constexpr const char* kRecentOfBefore = "MRUFiles";
@@ -31,13 +36,15 @@ QString RecentKey(const char* section, std::size_t place) {
 
 ScreenLook PlayerSettings::Look() const {
     Page page = Page::OfTheGame;
-    if (theme == qt::Theme::Light) page = Page::Light;
-    if (theme == qt::Theme::Dark) page = Page::Dark;
+    const bool byTheme = colours == Colours::ByTheme;
+    if (colours == Colours::Light || (byTheme && theme == qt::Theme::Light)) page = Page::Light;
+    if (colours == Colours::Dark || (byTheme && theme == qt::Theme::Dark)) page = Page::Dark;
     return {.zoom = zoom,
             .characterZoom = characterZoom,
             .page = page,
             .flashing = flashing,
-            .plainText = plainText};
+            .plainText = plainText,
+            .text = text};
 }
 
 PlayerSettings PlayerSettings::Load(const QSettings& store) {
@@ -49,6 +56,15 @@ PlayerSettings PlayerSettings::Load(const QSettings& store) {
         Number(store, "Startup/CharacterZoom", -kMostCharacterZoom, kMostCharacterZoom, 0);
     settings.flashing = store.value("Startup/Flashing", settings.flashing).toBool();
     settings.plainText = store.value("Startup/PlainText", settings.plainText).toBool();
+    settings.text.family = store.value("Startup/Font").toString();
+    settings.text.points = NumberOrNone(store, "Startup/FontSize", kLeastPoints, kMostPoints);
+    settings.text.columns = NumberOrNone(store, "Startup/LineWidth", kLeastColumns, kMostColumns);
+    settings.text.lines =
+        Number(store, "Startup/KeptLines", kLeastLines, kMostLines, TextChoice::kDefaultLines);
+    settings.colours =
+        static_cast<Colours>(Number(store, "Startup/Colours", 0, static_cast<int>(Colours::Dark), 0));
+    settings.sound.device = qt::FromQt(store.value("Startup/SoundDevice").toString());
+    settings.sound.volume = Number(store, "Startup/Volume", 0, 100, settings.sound.volume);
     const bool isKept = store.childGroups().contains(kRecent);
     std::vector<std::filesystem::path> recent;
     for (std::size_t place = 0; place < platform::RecentFiles::kMostFiles; ++place) {
@@ -66,6 +82,13 @@ void PlayerSettings::Save(QSettings& store) const {
     store.setValue("Startup/CharacterZoom", characterZoom);
     store.setValue("Startup/Flashing", flashing);
     store.setValue("Startup/PlainText", plainText);
+    store.setValue("Startup/Font", text.family);
+    store.setValue("Startup/FontSize", text.points);
+    store.setValue("Startup/LineWidth", text.columns);
+    store.setValue("Startup/KeptLines", text.lines);
+    store.setValue("Startup/Colours", static_cast<int>(colours));
+    store.setValue("Startup/SoundDevice", qt::ToQt(sound.device));
+    store.setValue("Startup/Volume", sound.volume);
     store.remove(kRecent);
     for (std::size_t place = 0; place < recent.Files().size(); ++place)
         store.setValue(RecentKey(kRecent, place), qt::PathToQt(recent.Files()[place]));

@@ -5,11 +5,16 @@
 
 #include "platform/recent_files.h"
 #include "player/panes/game_screen.h"
+#include "player/play/preferred_sound.h"
 #include "qt/theme.h"
 
 class QSettings;
 
 namespace fabula::player {
+
+/// What the text of games is coloured by. ByTheme: the game's own colours with the theme of the system,
+/// else those of the theme.
+enum class Colours { ByTheme, OfTheGame, Light, Dark };
 
 /// What the player's window remembers from one start to the next: section "Startup", and "PlayedFiles"
 /// for the recent games.
@@ -20,7 +25,17 @@ struct PlayerSettings {
     int characterZoom = 0;
     bool flashing = true;
     bool plainText = false;
+    TextChoice text{};
+    Colours colours = Colours::ByTheme;
+    SoundChoice sound{};
     platform::RecentFiles recent;
+
+    static constexpr int kLeastPoints = 6;
+    static constexpr int kMostPoints = 72;
+    static constexpr int kLeastColumns = 20;
+    static constexpr int kMostColumns = 200;
+    static constexpr int kLeastLines = 100;
+    static constexpr int kMostLines = 100'000;
 
     ScreenLook Look() const;
 

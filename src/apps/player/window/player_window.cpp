@@ -5,22 +5,25 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenuBar>
+#include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
-#include <QToolBar>
 #include <QWheelEvent>
 
 #include "platform/error.h"
+#include "player/panes/character_pane.h"
 #include "player/panes/game_screen.h"
 #include "player/panes/status_pane.h"
+#include "player/panes/text_access.h"
 #include "player/panes/text_pane.h"
 #include "player/play/session.h"
 #include "player/window/about_adventure.h"
 #include "player/window/diagnostics_window.h"
+#include "player/window/find_bar.h"
+#include "player/window/settings_dialog.h"
 #include "player/window/welcome_page.h"
 #include "qt/strings.h"
 
@@ -38,6 +41,8 @@ constexpr std::chrono::milliseconds kBusyDelay{50};
 PlayerWindow::PlayerWindow(const WindowServices& services)
     : services_(services),
       settings_(PlayerSettings::Load(services.settings)),
+      sound_(services.sound),
+      actions_(*this, [this](Command command) { Do(command); }),
       opening_(services.timers, [this] { Load(openAtStart_); }),
       closing_(services.timers, [this] { CloseAfterGame(); }),
       pages_(new QStackedWidget),
@@ -49,29 +54,29 @@ PlayerWindow::PlayerWindow(const WindowServices& services)
                                                const std::string& text) { status_->Show(field, text); },
                               .nextEnabled =
                                   [this](bool enabled) {
-                                      next_->setEnabled(enabled);
-                                      next_->setVisible(enabled);
+                                      scriptLoaded_ = enabled;
+                                      Follow();
                                   },
-                              .stepped =
-                                  [this] {
-                                      if (debugWindow_) debugWindow_->Follow();
-                                  },
+                              .stepped = [this] { Follow(); },
                               .notice = [this](const std::string& sentence) { Tell(sentence); }})),
+      findBar_(new FindBar(
+          {.find = [this](const QString& text, bool up) { return screen_->Text().FindText(text, up); },
+           .closed = [this] { screen_->FocusInput(); }})),
       status_(new StatusPane) {
+    DescribeTextPanes();
     setObjectName("playerWindow");
     setProperty(qt::kHelpPage, "frmvelengmain.html");
     setWindowTitle("Fabula");
     setMinimumSize(kSmallestSize);
     setAcceptDrops(true);
-    MakeActions();
-    MakeMenus();
-    MakeToolBar();
+    MakeRecentMenu();
     MakeEndBar();
     auto* game = new QWidget;
     auto* column = new QVBoxLayout(game);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(screen_, 1);
+    column->addWidget(findBar_);
     column->addWidget(endBar_);
     pages_->addWidget(welcome_);
     pages_->addWidget(game);
@@ -80,6 +85,7 @@ PlayerWindow::PlayerWindow(const WindowServices& services)
     status_->Show(engine::StatusField::Script, "Script Off");
     ApplySettings();
     ShowRecent();
+    Follow();
     PlaceWindow();
     welcome_->setFocus();
 }
@@ -88,123 +94,134 @@ PlayerWindow::~PlayerWindow() {
     EndSession();
 }
 
-QAction* PlayerWindow::AddAction(const char* name, const QString& text, const QString& iconText,
-                                 std::function<void()> act) {
-    auto* action = new QAction(text, this);
-    action->setObjectName(name);
-    action->setIconText(iconText);
-    QObject::connect(action, &QAction::triggered, this, std::move(act));
-    addAction(action);
-    return action;
+void PlayerWindow::Do(Command command) {
+    switch (command) {
+        case Command::Open:
+            return AskForGame();
+        case Command::Save:
+            return SaveGame();
+        case Command::Restore:
+            return RestoreGame();
+        case Command::Exit:
+            close();
+            return;
+        case Command::Undo:
+            return Step(&Session::Undo);
+        case Command::Stop:
+            return screen_->StopTurn();
+        case Command::StartAgain:
+            return StartAgain();
+        case Command::Next:
+            return Step(&Session::Next);
+        case Command::Sound:
+            return ToggleSound();
+        case Command::Transcript:
+            return ToggleTranscript(actions_.Of(command).isChecked());
+        case Command::Debug:
+            return ShowDiagnostics();
+        case Command::Find:
+            return findBar_->Open();
+        case Command::FindNext:
+            return findBar_->Find(false);
+        case Command::FindBefore:
+            return findBar_->Find(true);
+        case Command::ZoomIn:
+            return Zoom(1);
+        case Command::ZoomOut:
+            return Zoom(-1);
+        case Command::ZoomNormal:
+            return Zoom(0);
+        case Command::FullScreen:
+            return ToggleFullScreen();
+        case Command::ThemeSystem:
+            return ChooseTheme(qt::Theme::System);
+        case Command::ThemeLight:
+            return ChooseTheme(qt::Theme::Light);
+        case Command::ThemeDark:
+            return ChooseTheme(qt::Theme::Dark);
+        case Command::Flashing:
+            settings_.flashing = actions_.Of(command).isChecked();
+            return ApplySettings();
+        case Command::PlainText:
+            settings_.plainText = actions_.Of(command).isChecked();
+            return ApplySettings();
+        case Command::Settings:
+            return ChangeSettings();
+        case Command::Help:
+            return services_.help(qt::TopicOf(QApplication::focusWidget()));
+        case Command::HelpContents:
+            return services_.help({});
+        case Command::About:
+            return About();
+    }
 }
 
-void PlayerWindow::MakeActions() {
-    load_ = AddAction("LoadAdv", tr("&Load Adventure…"), tr("Load"), [this] { AskForGame(); });
-    load_->setShortcut(QKeySequence::Open);
-    exit_ = AddAction("Exit", tr("E&xit"), tr("Exit"), [this] { close(); });
-    exit_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
-    next_ = AddAction("Next", tr("&Next Line of the Script"), tr("Next"), [this] {
-        if (session_ && session_->Next()) screen_->ShowStep();
-    });
-    next_->setShortcut(Qt::Key_F8);
-    next_->setEnabled(false);
-    next_->setVisible(false);
-    sound_ = AddAction("Sound", tr("&Sound"), tr("Sound"), [this] { ToggleSound(); });
-    sound_->setCheckable(true);
-    sound_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
-    startAgain_ = AddAction("StartAgain", tr("Start &Again"), tr("Start Again"), [this] { StartAgain(); });
-    transcript_ = AddAction("Transcript", tr("&Transcript…"), tr("Transcript"),
-                            [this] { ToggleTranscript(transcript_->isChecked()); });
-    transcript_->setCheckable(true);
-    help_ = AddAction("Help", tr("&Help"), tr("Help"),
-                      [this] { services_.help(qt::TopicOf(QApplication::focusWidget())); });
-    help_->setShortcut(Qt::Key_F1);
-    helpContents_ =
-        AddAction("HelpContents", tr("&Contents"), tr("Contents"), [this] { services_.help({}); });
-    about_ = AddAction("About", tr("About this &Adventure"), tr("About"), [this] { About(); });
-    debug_ = AddAction("Debug", tr("&Debug"), tr("Debug"), [this] { ShowDiagnostics(); });
-    debug_->setEnabled(services_.testRun);
-    debug_->setVisible(services_.testRun);
-    zoomIn_ = AddAction("ZoomIn", tr("Zoom &In"), tr("Zoom In"), [this] { Zoom(1); });
-    zoomIn_->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
-    zoomOut_ = AddAction("ZoomOut", tr("Zoom &Out"), tr("Zoom Out"), [this] { Zoom(-1); });
-    zoomOut_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
-    zoomNormal_ = AddAction("ZoomNormal", tr("&Normal Size"), tr("Normal Size"), [this] { Zoom(0); });
-    zoomNormal_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
-    flashing_ = AddAction("Flashing", tr("&Flashing Text"), tr("Flashing"), [this] {
-        settings_.flashing = flashing_->isChecked();
-        ApplySettings();
-    });
-    flashing_->setCheckable(true);
-    plainText_ = AddAction("PlainText", tr("Character Games as &Plain Text"), tr("Plain Text"), [this] {
-        settings_.plainText = plainText_->isChecked();
-        ApplySettings();
-    });
-    plainText_->setCheckable(true);
+/// A step of the game that a command takes.
+void PlayerWindow::Step(bool (Session::*step)()) {
+    if (!session_ || !(session_.get()->*step)()) return;
+    ShowCommandedStep();
 }
 
-void PlayerWindow::MakeMenus() {
-    QMenu* file = menuBar()->addMenu(tr("&File"));
-    file->addAction(load_);
-    recentMenu_ = file->addMenu(tr("&Recent Games"));
-    file->addSeparator();
-    file->addAction(exit_);
-    QMenu* game = menuBar()->addMenu(tr("&Game"));
-    game->addActions({sound_, transcript_, next_, startAgain_, debug_});
-    QMenu* view = menuBar()->addMenu(tr("&View"));
-    view->addActions({zoomIn_, zoomOut_, zoomNormal_});
-    view->addSeparator();
-    MakeThemeMenu(*view);
-    view->addActions({flashing_, plainText_});
-    QMenu* help = menuBar()->addMenu(tr("&Help"));
-    help->addActions({help_, helpContents_});
-    help->addSeparator();
-    help->addAction(about_);
+void PlayerWindow::ShowCommandedStep() {
+    const bool over = session_->WaitingFor() == engine::Waiting::Nothing;
+    endBar_->setVisible(over);
+    screen_->ShowStep();
+    if (!over) screen_->FocusInput();
 }
 
-void PlayerWindow::MakeThemeMenu(QMenu& view) {
-    QMenu* menu = view.addMenu(tr("&Theme"));
-    auto* group = new QActionGroup(this);
-    const auto add = [&](qt::Theme theme, const char* name, const QString& text) {
-        QAction* action = AddAction(name, text, text, [this, theme] {
-            settings_.theme = theme;
-            ApplySettings();
-        });
-        action->setCheckable(true);
-        action->setChecked(settings_.theme == theme);
-        group->addAction(action);
-        menu->addAction(action);
-    };
-    add(qt::Theme::System, "ThemeSystem", tr("&System, with the Game's Own Colours"));
-    add(qt::Theme::Light, "ThemeLight", tr("&Light"));
-    add(qt::Theme::Dark, "ThemeDark", tr("&Dark"));
+/// Shows what can be done now, and what the game waits for.
+void PlayerWindow::Follow() {
+    if (debugWindow_) debugWindow_->Follow();
+    actions_.Follow({.session = session_.get(),
+                     .scriptLoaded = scriptLoaded_,
+                     .testRun = services_.testRun,
+                     .characters = session_ && screen_->ShowsCharacters()});
+    TellWait();
 }
 
-void PlayerWindow::MakeToolBar() {
-    QToolBar* bar = addToolBar(tr("Tools"));
-    bar->setObjectName("Toolbar");
-    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    bar->setMovable(false);
-    bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    bar->addActions({load_, next_, sound_, debug_, about_, exit_});
-    // Tab goes from the game to the buttons and on.
-    for (QAction* action : bar->actions())
-        bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+void PlayerWindow::TellWait() {
+    constexpr int kLongTurn = 20;
+    const auto waiting = session_ ? session_->WaitingFor() : engine::Waiting::Nothing;
+    slices_ = waiting == engine::Waiting::Turn ? slices_ + 1 : 0;
+    std::string sentence;
+    if (waiting == engine::Waiting::AnyKey) sentence = "The game waits for a key.";
+    if (slices_ >= kLongTurn) sentence = "The game is busy. Esc stops the turn.";
+    if (!sentence.empty() || waitTold_) status_->Tell(sentence);
+    waitTold_ = !sentence.empty();
+}
+
+void PlayerWindow::MakeRecentMenu() {
+    QMenu& file = actions_.MenuOf(Menu::File);
+    recentMenu_ = new QMenu(tr("Re&cent Games"), this);
+    file.insertMenu(file.actions().at(1), recentMenu_);
+    auto* themes = new QActionGroup(this);
+    for (const Command theme : {Command::ThemeSystem, Command::ThemeLight, Command::ThemeDark})
+        themes->addAction(&actions_.Of(theme));
 }
 
 void PlayerWindow::MakeEndBar() {
     endBar_ = new QWidget;
     endBar_->setObjectName("EndBar");
-    auto* row = new QHBoxLayout(endBar_);
-    row->setContentsMargins(12, 6, 12, 6);
+    auto* rows = new QVBoxLayout(endBar_);
+    rows->setContentsMargins(12, 6, 12, 6);
+    auto* row = new QHBoxLayout;
     auto* again = new QPushButton(tr("Play Again"));
+    auto* back = new QPushButton(tr("Undo"));
+    back->setObjectName("GoBack");
+    back->setToolTip(tr("Go back to before the latest line"));
     auto* load = new QPushButton(tr("Load…"));
-    load->setAccessibleName(tr("Load another adventure"));
+    load->setAccessibleName(tr("Load a Game"));
+    ending_ = new QLabel;
+    ending_->setObjectName("Ending");
     QObject::connect(again, &QPushButton::clicked, this, [this] { StartAgain(); });
+    QObject::connect(back, &QPushButton::clicked, this, [this] { Step(&Session::Undo); });
     QObject::connect(load, &QPushButton::clicked, this, [this] { AskForGame(); });
-    // Short, for narrow windows and large text.
-    row->addWidget(new QLabel(tr("The end.")), 1);
+    ending_->setWordWrap(true);
+    rows->addWidget(ending_);
+    rows->addLayout(row);
+    row->addStretch(1);
     row->addWidget(again);
+    row->addWidget(back);
     row->addWidget(load);
     endBar_->setFocusProxy(again);
     endBar_->hide();
@@ -236,7 +253,7 @@ void PlayerWindow::Load(const std::filesystem::path& file) {
     try {
         opened = std::make_unique<Session>(
             file, services_.dataFolder,
-            engine::Host{*screen_, services_.dialogs, services_.random, services_.sound, services_.trace,
+            engine::Host{*screen_, services_.dialogs, services_.random, sound_, services_.trace,
                          screen_->Parts()},
             services_.timers, services_.testRun ? Autosave::Off : Autosave::On, services_.options);
     } catch (const Error& error) {
@@ -257,7 +274,7 @@ void PlayerWindow::Load(const std::filesystem::path& file) {
         services_.dialogs.Confirm("Go on where the last session of this game stopped?", "Resume");
     session_->Start();
     if (resume && session_->WaitingFor() != engine::Waiting::Nothing) session_->Resume();
-    sound_->setChecked(session_->SoundOn());
+    actions_.Of(Command::Sound).setChecked(session_->SoundOn());
     screen_->ShowStep();
 }
 
@@ -278,24 +295,35 @@ void PlayerWindow::SoundFailed(const std::string& sentence) {
 
 void PlayerWindow::EndSession() {
     debugWindow_.reset();
-    transcript_->setChecked(false);
-    screen_->Transcript().Close();
+    CloseTranscript();
     screen_->Attach(nullptr);
     session_.reset();
+    scriptLoaded_ = false;
 }
 
 void PlayerWindow::GameStarted(const engine::GameLook& look) {
     setWindowTitle(qt::ToQt(look.title));
     status_->Tell("");
     endBar_->hide();
+    if (look.characterSets && !settings_.plainText) GrowForCharacters();
     screen_->FocusInput();
 }
 
 void PlayerWindow::GameEnded() {
     // The engine is still at work: a window that closes lets it finish first.
     if (services_.testRun) return closing_.Start(std::chrono::milliseconds(0));
+    const bool failed = session_ && session_->HasFailed();
+    ending_->setText(failed ? tr("The game went wrong. Undo goes back to before.") : tr("The end."));
     endBar_->show();
     endBar_->setFocus();
+}
+
+/// Characters of two points a side and more can be read: the window takes the room that the screen has.
+void PlayerWindow::GrowForCharacters() {
+    constexpr int kEdges = 40;
+    constexpr int kWanted = CharacterPane::kLeastFactor * CharacterScreen::kWidth + kEdges;
+    if (isMaximized() || isFullScreen() || width() >= kWanted) return;
+    resize(std::min(kWanted, screen()->availableSize().width()), height());
 }
 
 void PlayerWindow::CloseAfterGame() {
@@ -304,18 +332,69 @@ void PlayerWindow::CloseAfterGame() {
 
 void PlayerWindow::StartAgain() {
     if (!session_ || session_->IsBusy()) return;
-    session_->Start();
-    screen_->ShowStep();
+    const bool running = session_->WaitingFor() != engine::Waiting::Nothing;
+    if (running && session_->CanUndo() &&
+        !services_.dialogs.Confirm("Leave the game as it stands and start it from its beginning?",
+                                   "Start Again"))
+        return;
+    Step(&Session::Start);
+}
+
+void PlayerWindow::SaveGame() {
+    if (!session_ || !session_->CanSave()) return;
+    const auto file = screen_->AskForSavedGame(true);
+    if (!file) return;
+    try {
+        session_->SaveTo(*file);
+        Tell("Saved as " + file->filename().string() + ".");
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+}
+
+void PlayerWindow::RestoreGame() {
+    if (!session_ || !session_->CanRestore()) return;
+    const auto file = screen_->AskForSavedGame(false);
+    if (!file) return;
+    try {
+        if (!session_->RestoreFrom(*file))
+            services_.dialogs.Tell("Invalid Save File for this Adventure", "Error");
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+    ShowCommandedStep();
+}
+
+void PlayerWindow::ToggleFullScreen() {
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+    actions_.Of(Command::FullScreen).setChecked(isFullScreen());
+}
+
+void PlayerWindow::ChangeSettings() {
+    SettingsDialog dialog(settings_, services_.soundDevices(), services_.timers, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    settings_ = dialog.Chosen();
+    ApplySettings();
+}
+
+void PlayerWindow::ChooseTheme(qt::Theme theme) {
+    settings_.theme = theme;
+    ApplySettings();
 }
 
 void PlayerWindow::ToggleSound() {
     if (session_) session_->ToggleSound();
-    sound_->setChecked(session_ && session_->SoundOn());
+    actions_.Of(Command::Sound).setChecked(session_ && session_->SoundOn());
+}
+
+void PlayerWindow::CloseTranscript() {
+    actions_.Of(Command::Transcript).setChecked(false);
+    if (const auto failure = screen_->Transcript().Close()) services_.dialogs.Tell(*failure, "Error");
 }
 
 void PlayerWindow::ToggleTranscript(bool on) {
-    if (!on) return screen_->Transcript().Close();
-    transcript_->setChecked(false);
+    if (!on) return CloseTranscript();
+    actions_.Of(Command::Transcript).setChecked(false);
     if (!session_) return;
     const auto start = std::filesystem::is_directory(session_->SaveFolder()) ? session_->SaveFolder()
                                                                              : services_.dataFolder;
@@ -327,7 +406,7 @@ void PlayerWindow::ToggleTranscript(bool on) {
     if (!file) return;
     try {
         screen_->Transcript().Open(*file);
-        transcript_->setChecked(true);
+        actions_.Of(Command::Transcript).setChecked(true);
     } catch (const Error& error) {
         services_.dialogs.Tell(error.what(), "Error");
     }
@@ -357,9 +436,13 @@ void PlayerWindow::Zoom(int direction) {
 
 void PlayerWindow::ApplySettings() {
     qt::ApplyTheme(settings_.theme);
-    flashing_->setChecked(settings_.flashing);
-    plainText_->setChecked(settings_.plainText);
+    actions_.Of(Command::Flashing).setChecked(settings_.flashing);
+    actions_.Of(Command::PlainText).setChecked(settings_.plainText);
+    constexpr Command kThemes[] = {Command::ThemeSystem, Command::ThemeLight, Command::ThemeDark};
+    actions_.Of(kThemes[static_cast<int>(settings_.theme)]).setChecked(true);
+    sound_.SetChoice(settings_.sound);
     screen_->SetLook(settings_.Look());
+    Follow();
 }
 
 void PlayerWindow::ShowRecent() {
@@ -376,6 +459,7 @@ void PlayerWindow::ShowRecent() {
 
 void PlayerWindow::closeEvent(QCloseEvent* event) {
     if (session_ && session_->IsBusy()) return event->ignore();
+    CloseTranscript();
     settings_.geometry = saveGeometry();
     settings_.Save(services_.settings);
     event->accept();

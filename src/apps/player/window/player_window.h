@@ -10,10 +10,11 @@
 #include "platform/dialogs.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
+#include "player/play/preferred_sound.h"
+#include "player/window/player_actions.h"
 #include "player/window/player_settings.h"
 #include "qt/help_request.h"
 
-class QAction;
 class QLabel;
 class QSettings;
 class QStackedWidget;
@@ -21,6 +22,7 @@ class QStackedWidget;
 namespace fabula::player {
 
 class DiagnosticsWindow;
+class FindBar;
 class GameScreen;
 class Session;
 class StatusPane;
@@ -39,6 +41,8 @@ struct WindowServices {
     bool testRun = false;
     engine::TraceSink* trace = nullptr;  ///< where the steps of the game go; nullptr: nowhere
     engine::Options options{};
+    /// The names of the devices that sounds can come from.
+    std::function<std::vector<std::string>()> soundDevices = [] { return std::vector<std::string>{}; };
     /// Shows the help on a topic.
     std::function<void(const qt::HelpTopic& topic)> help = [](const qt::HelpTopic&) {};
 };
@@ -74,12 +78,12 @@ class PlayerWindow final : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
   private:
-    QAction* AddAction(const char* name, const QString& text, const QString& iconText,
-                       std::function<void()> act);
-    void MakeActions();
-    void MakeMenus();
-    void MakeThemeMenu(QMenu& view);
-    void MakeToolBar();
+    void Do(Command command);
+    void Step(bool (Session::*step)());
+    void ShowCommandedStep();
+    void Follow();
+    void TellWait();
+    void MakeRecentMenu();
     void MakeEndBar();
     void PlaceWindow();
 
@@ -87,6 +91,13 @@ class PlayerWindow final : public QMainWindow {
     void GameEnded();
     void CloseAfterGame();
     void StartAgain();
+    void SaveGame();
+    void RestoreGame();
+    void GrowForCharacters();
+    void ToggleFullScreen();
+    void ChangeSettings();
+    void ChooseTheme(qt::Theme theme);
+    void CloseTranscript();
     void EndSession();
     void ToggleSound();
     void ToggleTranscript(bool on);
@@ -98,6 +109,8 @@ class PlayerWindow final : public QMainWindow {
 
     WindowServices services_;
     PlayerSettings settings_;
+    PreferredSound sound_;
+    PlayerActions actions_;
     platform::Alarm opening_;
     platform::Alarm closing_;
     std::filesystem::path openAtStart_;
@@ -107,24 +120,14 @@ class PlayerWindow final : public QMainWindow {
     QStackedWidget* pages_;
     WelcomePage* welcome_;
     GameScreen* screen_;
+    FindBar* findBar_;
     QWidget* endBar_;
+    QLabel* ending_;
     StatusPane* status_;
     QMenu* recentMenu_;
-    QAction* load_;
-    QAction* next_;
-    QAction* sound_;
-    QAction* startAgain_;
-    QAction* transcript_;
-    QAction* help_;
-    QAction* helpContents_;
-    QAction* about_;
-    QAction* debug_;
-    QAction* exit_;
-    QAction* zoomIn_;
-    QAction* zoomOut_;
-    QAction* zoomNormal_;
-    QAction* flashing_;
-    QAction* plainText_;
+    bool scriptLoaded_ = false;
+    bool waitTold_ = false;  ///< the status line tells what the game waits for
+    int slices_ = 0;         ///< of the turn that goes on
 };
 
 }  // namespace fabula::player
