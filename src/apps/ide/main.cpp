@@ -12,6 +12,7 @@
 #include "qt/last_border.h"
 #include "qt/qt_dialogs.h"
 #include "qt/qt_events.h"
+#include "qt/qt_programs.h"
 #include "qt/qt_settings.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
@@ -63,9 +64,10 @@ int Run(int argc, char** argv) {
     platform::SystemClock clock;
     qt::QtTimers timers;
     qt::QtEvents events;
+    qt::QtPrograms programs;
     midi::Player sound(timers, midi::OpenOutput, [](const std::string&) {});
     ide::MainWindow window(
-        {timers, dialogs, settings, store, clock, events, sound, random, midi::DeviceNames},
+        {timers, dialogs, settings, store, clock, events, sound, random, programs, midi::DeviceNames},
         FindPlaces(*files, environment, folders));
     qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
     border.SetKeep([&window] { return window.Logic().KeepACopy(); });

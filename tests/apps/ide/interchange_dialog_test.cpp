@@ -198,16 +198,9 @@ TEST_F(InterchangeDialogTest, ExportWaitsUntilTheFaultsOfTheCheckWereRead) {
     EXPECT_TRUE(Status().contains("Use of BRIGHT Condition/Action."));
 }
 
-TEST_F(InterchangeDialogTest, LoadOfAPictureSaysWhyItIsSwitchedOff) {
-    Open(JobMode::LoadGraphic);
-    EXPECT_FALSE(Button("start").isEnabled());
-    EXPECT_EQ(Find<QPlainTextEdit>("status").placeholderText(),
-              "This version cannot yet take single pictures out of the listings of older games.");
-}
-
 TEST_F(InterchangeDialogTest, EveryControlHasANameAndBothThemesShowIt) {
     const auto source = Exported();
-    for (const JobMode mode : {JobMode::Export, JobMode::LoadGraphic, JobMode::Import}) {
+    for (const JobMode mode : {JobMode::Export, JobMode::Import}) {
         Open(mode);
         EXPECT_EQ(WidgetsWithoutName(*dialog_), std::vector<std::string>{});
         GrabInBothThemes(*dialog_, mode == JobMode::Export ? "export" : "import-empty");
