@@ -104,6 +104,26 @@ TEST_F(InterchangeDialogTest, ImportsByKeysAndClicks) {
     EXPECT_FALSE(dialog_->isVisible());
 }
 
+TEST_F(InterchangeDialogTest, ListingsOfOlderGamesAreImported) {
+    struct Row {
+        const char* button;
+        const char* listing;
+        const char* last;
+    };
+    for (const Row& row :
+         {Row{"kindUnMarlo", "honey_run/honey_run.unq", "honey_run.unq Loaded"},
+          Row{"kindUnVel", "stuck_cockerel/stuck_cockerel.unp", "stuck_cockerel.unp Loaded"}}) {
+        Open(JobMode::Import);
+        Find<QRadioButton>(row.button).click();
+        Type("source", test::SourceFolder() / "examples" / row.listing);
+        Type("database", In(row.button).replace_extension(".fbd"));
+        QTest::keyClick(&Find<QLineEdit>("database"), Qt::Key_Return);
+        EXPECT_EQ(screen_->NewFile(), In(row.button).replace_extension(".fbd")) << screen_->Status();
+        EXPECT_TRUE(Status().contains("User Flag Analysis")) << Status().toStdString();
+        EXPECT_EQ(dialogs_.Boxes().back().text, row.last);
+    }
+}
+
 TEST_F(InterchangeDialogTest, FilesThatWereChosenStandInTheirFields) {
     Open(JobMode::Import);
     dialogs_.AnswerFile(In("mill.sce"));
