@@ -111,6 +111,9 @@ test::ListedGame LargeListedGame(bool isMarlo) {
         game.objects.push_back(object);
     }
     game.systemMessages.assign(30, ListedText(0));
+    game.userGraphics.assign(isMarlo ? 21 : 19, Game::Glyph(8));
+    game.shades.assign(isMarlo ? 0 : 16, Game::Glyph(8));
+    game.fonts.assign(1, std::vector<Game::Glyph>(96, Game::Glyph(8)));
     game.tables.resize(2);
     for (int i = 0; i < kListedEntries; ++i) {
         Game::Entry entry{game.words[static_cast<std::size_t>(2 + i % 150)], {"_", 255}, {}};
