@@ -20,6 +20,7 @@
 #include "platform/manual_timers.h"
 #include "platform/random_source.h"
 #include "platform/scripted_dialogs.h"
+#include "qt/qt_programs.h"
 #include "qt/qt_settings.h"
 #include "qt/strings.h"
 #include "support/places.h"
@@ -44,9 +45,10 @@ class Tool {
 
     /// A new window, the adventure opened in it, and its first picture.
     void Open() {
-        window_ = std::make_unique<ide::MainWindow>(
-            ide::Services{timers_, dialogs_, settings_, store_, clock_, events_, sound_, random_},
-            Places());
+        window_ =
+            std::make_unique<ide::MainWindow>(ide::Services{timers_, dialogs_, settings_, store_, clock_,
+                                                            events_, sound_, random_, programs_},
+                                              Places());
         window_->show();
         window_->Start(File());
         Draw();
@@ -88,6 +90,7 @@ class Tool {
     platform::NoEvents events_;
     engine::SilentPlayer sound_;
     platform::SeededRandom random_{1};
+    qt::QtPrograms programs_;
     std::unique_ptr<ide::MainWindow> window_;
 };
 

@@ -70,10 +70,21 @@ function(fabula_test name library)
     add_test(NAME ${name} COMMAND ${name})
 endfunction()
 
-# fabula_fuzzer(NAME LIBRARY SOURCES file...): one libFuzzer program for one reader.
+# fabula_fuzzer(NAME LIBRARY SOURCES file... [SEEDS file...] [OPTIONS option...])
+#
+# One libFuzzer program for one reader, and a test that gives it its seeds and the same thousand changes of them each
+# time. Its seeds are SEEDS and the files of seeds/READER, where it is named READER_fuzzer. Only with FABULA_FUZZ do the
+# libraries tell it what a change has reached; without, it sees no further than its own source.
 function(fabula_fuzzer name library)
-    cmake_parse_arguments(arg "" "" "SOURCES" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SOURCES;SEEDS;OPTIONS" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${library} fabula_flags)
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    string(REPLACE _fuzzer "" reader ${name})
+    file(GLOB seeds CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/seeds/${reader}/*")
+    list(APPEND seeds ${arg_SEEDS})
+    list(JOIN seeds "," seeds)
+    add_test(NAME fuzz.${reader}
+             COMMAND ${name} -runs=1000 -seed=1 -timeout=60 -seed_inputs=${seeds} ${arg_OPTIONS})
 endfunction()

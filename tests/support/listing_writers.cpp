@@ -85,8 +85,9 @@ class UnMarloWriter {
         return texts;
     }
 
+    /// Of a machine of 64 KiB.
     std::string Address() {
-        address_ += 4;
+        address_ = (address_ + 4) % 0x10000;
         return Formatted("%04X: ", address_);
     }
 

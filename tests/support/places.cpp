@@ -14,6 +14,10 @@ std::filesystem::path Program() {
     return std::filesystem::path(FABULA_BINARY_DIR) / "bin" / "fabula";
 }
 
+std::filesystem::path StandInDecompiler() {
+    return std::filesystem::path(FABULA_BINARY_DIR) / "tests" / "support" / "stand_in_decompiler";
+}
+
 std::filesystem::path ExampleGames() {
     return std::filesystem::path(FABULA_BINARY_DIR) / "examples";
 }

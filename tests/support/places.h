@@ -13,6 +13,9 @@ std::filesystem::path DefaultData();
 /// The built command line, `fabula`.
 std::filesystem::path Program();
 
+/// A built program that stands for a decompiler (tests/support/stand_in_decompiler.cpp).
+std::filesystem::path StandInDecompiler();
+
 /// The folder of the adventures that the build made of examples/.
 std::filesystem::path ExampleGames();
 

@@ -12,6 +12,7 @@
 #include "qt/last_border.h"
 #include "qt/qt_dialogs.h"
 #include "qt/qt_events.h"
+#include "qt/qt_programs.h"
 #include "qt/qt_settings.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
@@ -63,11 +64,12 @@ int Run(int argc, char** argv) {
     platform::SystemClock clock;
     qt::QtTimers timers;
     qt::QtEvents events;
+    qt::QtPrograms programs;
     ide::MainWindow* shown = nullptr;
     midi::Player sound(timers, midi::OpenOutput,
                        [&shown](const std::string& sentence) { shown->SoundFailed(sentence); });
     ide::MainWindow window(
-        {timers, dialogs, settings, store, clock, events, sound, random, midi::DeviceNames},
+        {timers, dialogs, settings, store, clock, events, sound, random, programs, midi::DeviceNames},
         FindPlaces(*files, environment, folders));
     shown = &window;
     qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });

@@ -7,9 +7,6 @@
 namespace fabula::authoring {
 namespace {
 
-constexpr std::string_view kNoImportGraphic =
-    "This version cannot yet take single pictures out of the listings of older games.";
-constexpr std::string_view kNoDecompiler = "This version cannot yet take older games apart.";
 constexpr std::string_view kNoBatchImport = "Batch files are written only.";
 constexpr std::string_view kNoBatchExport = "This version cannot yet write batch files.";
 constexpr std::string_view kNoPackage = "This version cannot yet pack a game for others.";
@@ -32,9 +29,9 @@ constexpr CommandEntry kCommands[] = {
     {Command::Export, "Export", Menu::File, 1, "&Export...", "", "export",
      "Write the adventure as a source file", Use::ToolBar},
     {Command::Decompile, "Decomp", Menu::File, 1, "&Decompile...", "", "decompile",
-     "Take an older game apart", Use::Menu, kNoDecompiler},
+     "Take an older game apart"},
     {Command::ImportGraphic, "Import", Menu::File, 1, "Import &Graphic Record...", "", "import-picture",
-     "Take a picture out of a listing", Use::Menu, kNoImportGraphic},
+     "Take a picture out of a listing"},
     {Command::BatchImport, "BatImp", Menu::File, 1, "&Batch Import...", "", "batch-import",
      "Read a batch file", Use::Menu, kNoBatchImport},
     {Command::BatchExport, "BatExp", Menu::File, 1, "Ba&tch Export...", "", "batch-export",

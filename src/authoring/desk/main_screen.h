@@ -157,9 +157,9 @@ class MainScreen {
     FindBox& Finder() { return find_; }
 
     /// Does a command. The screen that it needs is given back: the window opens it and then calls
-    /// ScreenClosed. Commands that need a window of their own (New, Import, Export, Sort, Run, Verify,
-    /// Exit, Help, About) are the window's to do, by the other members; here they do nothing. A command
-    /// that is not enabled does nothing.
+    /// ScreenClosed. Commands that need a window of their own (New, Import, Export, Decompile, Import
+    /// Graphic Record, Sort, Run, Verify, Exit, Help, About) are the window's to do, by the other members;
+    /// here they do nothing. A command that is not enabled does nothing.
     std::optional<ScreenRequest> Run(Command command);
     void ScreenClosed(const ScreenRequest& request);
     /// After work that is not a command of this class changed the adventure, such as Verify: reads grid and
@@ -171,6 +171,12 @@ class MainScreen {
     /// SortClosed is called.
     SortScreen OpenSort();
     void SortClosed();
+
+    /// The record that a picture of a listing would go into: the number of the current location or picture;
+    /// nullopt when the grid shows neither. After such pictures were loaded, PicturesLoaded is called with
+    /// the count of changes that there were before.
+    std::optional<int> PictureTarget() const;
+    void PicturesLoaded(int changesBefore);
 
     /// Begins a test of the open adventure; nullopt when there is none. The window then hides, shows the
     /// engine's window on the file, and calls EndRunTest when that has closed.

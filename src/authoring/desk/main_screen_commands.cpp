@@ -17,6 +17,7 @@ bool AlwaysWorks(Command command) {
         case Command::New:
         case Command::Open:
         case Command::Import:
+        case Command::Decompile:
         case Command::Exit:
         case Command::Trace:
         case Command::Help:
@@ -82,6 +83,18 @@ ActionState MainScreen::StateOf(Command command) const {
     return state;
 }
 
+std::optional<int> MainScreen::PictureTarget() const {
+    if (!desk_) return std::nullopt;
+    const TableNum table = grid_.View().table;
+    const bool hasPictures = table == TableNum::Locations || table == TableNum::Pictures;
+    return hasPictures ? CurrentKey() : std::nullopt;
+}
+
+void MainScreen::PicturesLoaded(int changesBefore) {
+    changesBefore_ = changesBefore;
+    Guard([&] { ShowChanges(grid_.View().table); });
+}
+
 std::optional<std::string> MainScreen::UndoOrRedoName(Command command) const {
     if (!desk_) return std::nullopt;
     if (command == Command::Undo) return desk_->document.UndoName();
@@ -97,6 +110,8 @@ std::string MainScreen::WhyNot(Command command) const {
     if (!desk_) return "No adventure is open.";
     if (command == Command::Undo && !desk_->document.UndoName()) return "There is nothing to undo.";
     if (command == Command::Redo && !desk_->document.RedoName()) return "There is nothing to redo.";
+    if (command == Command::ImportGraphic && !PictureTarget())
+        return "Select the location or the picture that it goes into.";
     if (!rights_.Allows(command)) return Caption() + " does not offer this.";
     if (IsLoadOrSave(command) && grid_.View().table != TableNum::Characters)
         return "This version cannot yet load pictures and keypad templates.";

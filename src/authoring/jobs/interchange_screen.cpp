@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <system_error>
+#include <utility>
 
 #include "authoring/document/screen_context.h"
 #include "authoring/files/start_up.h"
@@ -35,14 +36,12 @@ struct ModeRow {
     std::string_view button;
     std::span<const std::string_view> kinds;
     std::string_view verb;  ///< what the kinds that are missing can't do
-    std::string_view whyNot;
 };
 
 const std::array<ModeRow, 3> kModes{{
-    {"Import of source file", "Import Status", "&Import", kImportKinds, "read", ""},
-    {"Export of Database", "Export Status", "&Export", kExportKinds, "write", ""},
-    {"Import of Graphic Record into record ", "Import Status", "&Load", kGraphicKinds, "read",
-     "This version cannot yet take single pictures out of the listings of older games."},
+    {"Import of source file", "Import Status", "&Import", kImportKinds, "read"},
+    {"Export of Database", "Export Status", "&Export", kExportKinds, "write"},
+    {"Import of Graphic Record into record ", "Import Status", "&Load", kGraphicKinds, "read"},
 }};
 
 const ModeRow& RowOf(JobMode mode) {
@@ -119,9 +118,14 @@ std::string ExtensionOf(std::string_view defaultName, std::string_view otherwise
 
 }  // namespace
 
-InterchangeScreen::InterchangeScreen(JobMode mode, store::Adventure* adventure, const InterchangeHost& host,
-                                     int record)
-    : mode_(mode), adventure_(adventure), host_(host), record_(record), kinds_(KindsOf(mode)) {
+InterchangeScreen::InterchangeScreen(Document& document, const InterchangeHost& host, int record)
+    : InterchangeScreen(JobMode::LoadGraphic, &document.Adventure(), host) {
+    document_ = &document;
+    record_ = record;
+}
+
+InterchangeScreen::InterchangeScreen(JobMode mode, store::Adventure* adventure, const InterchangeHost& host)
+    : mode_(mode), adventure_(adventure), host_(host), kinds_(KindsOf(mode)) {
     while (chosen_ + 1 < kinds_.size() && !kinds_[chosen_].kind)
         ++chosen_;
     ChooseKindNamed(mode == JobMode::Export && adventure ? OwnKindOf(*adventure) : kUsualKind);
@@ -155,7 +159,7 @@ std::string_view InterchangeScreen::MainButton() const {
 
 std::string_view InterchangeScreen::WhyNot() const {
     if (mode_ == JobMode::Export && !adventure_) return "No adventure is open.";
-    return RowOf(mode_).whyNot;
+    return "";
 }
 
 std::span<const InterchangeScreen::EncodingOption> InterchangeScreen::Encodings() {
@@ -177,7 +181,8 @@ bool InterchangeScreen::ChooseKind(std::size_t option) {
 void InterchangeScreen::ChooseSource() {
     const bool writes = mode_ == JobMode::Export;
     interchange::DialogText shown{"", "Select Source File", "All Files|*.*"};
-    if (const FileKind* kind = Kind()) shown = writes ? kind->exportDialog : kind->importDialog;
+    if (mode_ != JobMode::LoadGraphic && Kind())
+        shown = writes ? Kind()->exportDialog : Kind()->importDialog;
     path start = Trimmed(source);
     if (start.empty() && adventure_) {
         start = adventure_->GameDir();
@@ -191,8 +196,9 @@ void InterchangeScreen::ChooseSource() {
     if (!file) return;
     source = file->string();
     if (writes) agreed_ = *file;
-    if (!writes) ChooseKindOf(*file);
-    if (!writes && Trimmed(database).empty()) database = path(*file).replace_extension(".fbd").string();
+    if (mode_ == JobMode::Import) ChooseKindOf(*file);
+    if (mode_ == JobMode::Import && Trimmed(database).empty())
+        database = path(*file).replace_extension(".fbd").string();
     Show();
 }
 
@@ -218,6 +224,7 @@ bool InterchangeScreen::RunJob() {
     if (!CanRun()) return false;
     if (Trimmed(source).empty()) return Refuse(host_.dialogs, "Source File not specified");
     source = Placed(source);
+    if (mode_ == JobMode::LoadGraphic) return LoadGraphics();
     database = Placed(database);
     return mode_ == JobMode::Export ? ExportIt() : ImportIt();
 }
@@ -254,6 +261,25 @@ bool InterchangeScreen::ExportIt() {
     };
     return Run(
         [&] { return interchange::ExportIt(*Kind(), *adventure_, target, verifier, JobHost()).done; });
+}
+
+/// What was loaded is one step of Undo, and stays when nobody says where it is to go.
+bool InterchangeScreen::LoadGraphics() {
+    interchange::LoadedPictures loaded;
+    const bool done = Run([&] {
+        Change change(*document_, "load pictures of a listing");
+        interchange::JobStatus status(*this);
+        const bool isUnVel = Kind()->word == "unvel";
+        loaded = interchange::LoadGraphics({isUnVel, source, records, record_}, *adventure_, host_.dialogs,
+                                           status);
+        if (loaded.pictures.empty()) return false;
+        change.Commit();
+        return true;
+    });
+    if (!done || loaded.subroutines.empty()) return done;
+    NewLocationsScreen places(*document_, std::move(loaded), host_.dialogs);
+    showNewLocations(places);
+    return true;
 }
 
 bool InterchangeScreen::Verify(store::Adventure& adventure, const FileKind& kind,

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "authoring/document/document.h"
+#include "authoring/jobs/new_locations_screen.h"
 #include "authoring/jobs/verify_screen.h"
 #include "interchange/jobs.h"
 #include "platform/clock.h"
@@ -22,7 +24,7 @@ namespace fabula::authoring {
 enum class JobMode {
     Import,
     Export,
-    LoadGraphic,  ///< a picture of a listing into a record; not in this version
+    LoadGraphic,  ///< pictures of a listing into records
 };
 
 /// What the job dialog needs of its program.
@@ -34,14 +36,16 @@ struct InterchangeHost {
     std::filesystem::path defaultData;  ///< the file Fabula.ini
 };
 
-/// The dialog of an import or export: a kind of file, the file, for an import the new adventure, and the
-/// status of the job. The job runs within `RunJob`; the window gets its turns meanwhile.
+/// The dialog of an import or export: a kind of file, the file, for an import the new adventure, for a load
+/// of pictures their numbers, and the status of the job. The job runs within `RunJob`; the window gets its
+/// turns meanwhile.
 class InterchangeScreen final : private interchange::JobObserver {
   public:
-    /// `adventure` is the open one, nullptr when there is none; an export needs one. `record` is the
-    /// location that a picture is loaded for.
-    InterchangeScreen(JobMode mode, store::Adventure* adventure, const InterchangeHost& host,
-                      int record = 0);
+    /// An import or an export. `adventure` is the open one, nullptr when there is none; an export needs
+    /// one.
+    InterchangeScreen(JobMode mode, store::Adventure* adventure, const InterchangeHost& host);
+    /// A load of pictures into the record of that number, and into those behind it.
+    InterchangeScreen(Document& document, const InterchangeHost& host, int record);
 
     std::string Title() const;
     std::string_view StatusCaption() const;  ///< "Import Status", "Export Status"
@@ -72,6 +76,8 @@ class InterchangeScreen final : private interchange::JobObserver {
     /// without a folder lie beside the open adventure.
     std::string source;
     std::string database;
+    /// The pictures of the listing that are loaded: "3,7-9".
+    std::string records;
 
     /// Ask for the files. A source proposes the database, in its folder, and its kind where it tells.
     void ChooseSource();
@@ -104,6 +110,8 @@ class InterchangeScreen final : private interchange::JobObserver {
     /// Shows the window of the check before an export and runs it there; returns when the check is finished
     /// and, unless it has passed, the window was closed.
     std::function<void(VerifyScreen&)> showVerify = [](VerifyScreen& verify) { verify.Run(); };
+    /// Shows the window that asks where pictures go that were loaded, when one of them draws others.
+    std::function<void(NewLocationsScreen&)> showNewLocations = [](NewLocationsScreen&) {};
 
   private:
     void StatusAdded(std::string_view text) override;
@@ -117,6 +125,7 @@ class InterchangeScreen final : private interchange::JobObserver {
     std::string Placed(const std::string& typed) const;
     bool ImportIt();
     bool ExportIt();
+    bool LoadGraphics();
     bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,
                 interchange::JobStatus& status);
     bool Run(const std::function<bool()>& job);
@@ -126,8 +135,9 @@ class InterchangeScreen final : private interchange::JobObserver {
 
     JobMode mode_;
     store::Adventure* adventure_;
+    Document* document_ = nullptr;  ///< of a load of pictures
     InterchangeHost host_;
-    int record_;
+    int record_ = 0;
     std::vector<KindOption> kinds_;
     std::size_t chosen_ = 0;
     std::filesystem::path agreed_;  ///< a file that its dialog has asked about already

@@ -154,10 +154,18 @@ LoadedPictures LoadGraphics(const PictureImport& import, store::Adventure& adven
     const std::string kind = import.isUnVel ? "UnVel" : "UnMarlo";
     status.AddToStatusCR("Load Status of Graphics Records " + import.records + " from file " +
                          import.listing.filename().string());
-    ListingLines lines(import.listing, status);
-    if (!HasHead(import, lines, person, status)) return {};
-    const auto found =
-        FindPictures(lines, wanted.numbers, pictures::LoadPictureBook(adventure).commands, status);
+    std::map<int, ListedPicture> found;
+    try {
+        ListingLines lines(import.listing, status);
+        if (!HasHead(import, lines, person, status)) return {};
+        found = FindPictures(lines, wanted.numbers, pictures::LoadPictureBook(adventure).commands, status);
+    } catch (const JobCancelled&) {
+        status.AddToStatusCR("Load cancelled");
+        return {};
+    } catch (const TooManyFaults&) {
+        status.AddToStatusCR("Too many errors. Load aborted.");
+        return {};
+    }
     LoadedPictures loaded;
     store::Transaction transaction(adventure);
     KeyedTable table(adventure, TableNum::Pictures, "locnum");

@@ -5,11 +5,13 @@
 #include "authoring/fields/text_editing.h"
 #include "authoring/screens/message_screen.h"
 #include "ide/dialogs/colour_dialog.h"
+#include "ide/dialogs/decompile_dialog.h"
 #include "ide/dialogs/flag_dialog.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/dialogs/key_dialogs.h"
 #include "ide/dialogs/location_dialog.h"
 #include "ide/dialogs/message_dialog.h"
+#include "ide/dialogs/new_locations_dialog.h"
 #include "ide/dialogs/object_dialog.h"
 #include "ide/dialogs/process_entry_dialog.h"
 #include "ide/dialogs/restore_dialog.h"
@@ -25,6 +27,7 @@
 #include "ide/drawing/set_files_dialog.h"
 #include "platform/clock.h"
 #include "platform/settings.h"
+#include "qt/qt_programs.h"
 #include "support/places.h"
 #include "support/scripted_pump.h"
 
@@ -165,6 +168,43 @@ Opened OpenImport(Desk& desk, authoring::JobMode mode) {
     return Keep<ide::InterchangeDialog>(std::make_shared<Parts>(desk, mode));
 }
 
+Opened OpenLoadGraphic(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.document, {of.dialogs, clock, pump, settings, test::DefaultData()}, 0),
+              dialog(screen, of.dialogs) {}
+        platform::FixedClock clock{{2026, 3, 9, 8, 5, 7}};
+        ScriptedPump pump;
+        platform::MemorySettings settings;
+        authoring::InterchangeScreen screen;
+        ide::InterchangeDialog dialog;
+    };
+    return Keep<ide::InterchangeDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenNewLocations(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.document, {.pictures = {{3, 0}}, .subroutines = {7, 12}}, of.dialogs),
+              dialog(screen, of.dialogs) {}
+        authoring::NewLocationsScreen screen;
+        ide::NewLocationsDialog dialog;
+    };
+    return Keep<ide::NewLocationsDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenDecompile(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : screen({of.dialogs, pump, settings, programs}), dialog(screen) {}
+        ScriptedPump pump;
+        platform::MemorySettings settings;
+        qt::QtPrograms programs;
+        authoring::DecompileScreen screen;
+        ide::DecompileDialog dialog;
+    };
+    return Keep<ide::DecompileDialog>(std::make_shared<Parts>(desk));
+}
+
 Opened OpenSort(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
@@ -279,6 +319,9 @@ const std::vector<DialogStand>& EveryDialog() {
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Import); }},
         {"Export", "Export of Database", "source",
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Export); }},
+        {"LoadGraphic", "Import of Graphic Record into record 0", "source", OpenLoadGraphic},
+        {"NewLocations", "New Locations of the Pictures", "goesTo3", OpenNewLocations},
+        {"Decompile", "Decompile an Older Game", "unMarlo", OpenDecompile},
         {"Verify", "Verify Adventure", "status", OpenVerify},
         {"Restore", "Restore a Backup", "copies", OpenRestore},
         {"KeySelect", "Correct Table Key: Select", "table", OpenKeySelect},

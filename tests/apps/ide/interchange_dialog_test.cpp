@@ -115,6 +115,26 @@ TEST_F(InterchangeDialogTest, TheLettersOfAnImportCanBeChosen) {
     EXPECT_EQ(dialog_->findChild<QComboBox*>("encoding"), nullptr);
 }
 
+TEST_F(InterchangeDialogTest, ListingsOfOlderGamesAreImported) {
+    struct Row {
+        const char* button;
+        const char* listing;
+        const char* last;
+    };
+    for (const Row& row :
+         {Row{"kindUnMarlo", "honey_run/honey_run.unq", "honey_run.unq Loaded"},
+          Row{"kindUnVel", "stuck_cockerel/stuck_cockerel.unp", "stuck_cockerel.unp Loaded"}}) {
+        Open(JobMode::Import);
+        Find<QRadioButton>(row.button).click();
+        Type("source", test::SourceFolder() / "examples" / row.listing);
+        Type("database", In(row.button).replace_extension(".fbd"));
+        QTest::keyClick(&Find<QLineEdit>("database"), Qt::Key_Return);
+        EXPECT_EQ(screen_->NewFile(), In(row.button).replace_extension(".fbd")) << screen_->Status();
+        EXPECT_TRUE(Status().contains("User Flag Analysis")) << Status().toStdString();
+        EXPECT_EQ(dialogs_.Boxes().back().text, row.last);
+    }
+}
+
 TEST_F(InterchangeDialogTest, FilesThatWereChosenStandInTheirFields) {
     Open(JobMode::Import);
     dialogs_.AnswerFile(In("mill.sce"));
@@ -209,16 +229,9 @@ TEST_F(InterchangeDialogTest, ExportWaitsUntilTheFaultsOfTheCheckWereRead) {
     EXPECT_TRUE(Status().contains("Use of BRIGHT Condition/Action."));
 }
 
-TEST_F(InterchangeDialogTest, LoadOfAPictureSaysWhyItIsSwitchedOff) {
-    Open(JobMode::LoadGraphic);
-    EXPECT_FALSE(Button("start").isEnabled());
-    EXPECT_EQ(Find<QPlainTextEdit>("status").placeholderText(),
-              "This version cannot yet take single pictures out of the listings of older games.");
-}
-
 TEST_F(InterchangeDialogTest, EveryControlHasANameAndBothThemesShowIt) {
     const auto source = Exported();
-    for (const JobMode mode : {JobMode::Export, JobMode::LoadGraphic, JobMode::Import}) {
+    for (const JobMode mode : {JobMode::Export, JobMode::Import}) {
         Open(mode);
         EXPECT_EQ(WidgetsWithoutName(*dialog_), std::vector<std::string>{});
         GrabInBothThemes(*dialog_, mode == JobMode::Export ? "export" : "import-empty");

@@ -35,7 +35,8 @@ void OpenedWindow::Restart() {
     if (window_) window_->close();
     window_.reset();
     window_ = std::make_unique<ide::MainWindow>(
-        ide::Services{timers, boxes_, settings_, store_, clock_, events_, sound, random}, Places());
+        ide::Services{timers, boxes_, settings_, store_, clock_, events_, sound, random, programs_},
+        Places());
     window_->show();
     QApplication::setActiveWindow(window_.get());
     window_->Start({});

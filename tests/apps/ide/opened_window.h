@@ -13,6 +13,7 @@
 #include "platform/random_source.h"
 #include "platform/scripted_dialogs.h"
 #include "qt/help_folder.h"
+#include "qt/qt_programs.h"
 #include "qt/qt_settings.h"
 #include "support/game_builder.h"
 #include "support/temp_folder.h"
@@ -71,6 +72,7 @@ class OpenedWindow {
     qt::QtSettings settings_;
     platform::FixedClock clock_{{2026, 3, 1, 12, 0, 0}};
     platform::NoEvents events_;
+    qt::QtPrograms programs_;
     std::unique_ptr<ide::MainWindow> window_;
 };
 

@@ -64,7 +64,9 @@ TEST_P(ExampleGames, WindowTellsWhatTheTerminalTells) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Games, ExampleGames, testing::Values("lighthouse", "signal_box", "cellar"),
+INSTANTIATE_TEST_SUITE_P(Games, ExampleGames,
+                         testing::Values("lighthouse", "signal_box", "cellar", "honey_run",
+                                         "stuck_cockerel"),
                          [](const auto& example) { return example.param; });
 
 }  // namespace

@@ -39,8 +39,8 @@ class CommandsTest : public testing::Test, public test::MainScreenStand {
 };
 
 TEST_F(CommandsTest, WithoutAnAdventureAreOff) {
-    EXPECT_THAT(Enabled(*main), ElementsAre("NewAdv", "Open", "In", "Exit", "Trace", "Help", "HelpContents",
-                                            "AboutAdventure", "About"));
+    EXPECT_THAT(Enabled(*main), ElementsAre("NewAdv", "Open", "In", "Decomp", "Exit", "Trace", "Help",
+                                            "HelpContents", "AboutAdventure", "About"));
     EXPECT_EQ(StateOf(Command::Verify).why, "No adventure is open.");
 }
 
@@ -56,10 +56,10 @@ TEST_F(CommandsTest, FollowTheTableInTheGrid) {
     OpenNew();
     main->Show({TableNum::Locations});
     EXPECT_THAT(Enabled(*main),
-                ElementsAre("NewAdv", "Open", "SaveAs", "Restore", "Close", "In", "Export", "Exit",
-                            "NewTab", "Edit", "Delete", "Find", "FindNext", "Filter", "Run", "Trace",
-                            "Verify", "Settings", "CharTable", "LstRecs", "ShortDesc", "KeyChange", "Help",
-                            "HelpContents", "AboutAdventure", "About"));
+                ElementsAre("NewAdv", "Open", "SaveAs", "Restore", "Close", "In", "Export", "Decomp",
+                            "Import", "Exit", "NewTab", "Edit", "Delete", "Find", "FindNext", "Filter",
+                            "Run", "Trace", "Verify", "Settings", "CharTable", "LstRecs", "ShortDesc",
+                            "KeyChange", "Help", "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
     EXPECT_TRUE(IsEnabled(Command::Edit));
@@ -95,6 +95,16 @@ TEST_F(CommandsTest, NeedARecordToEditOrDelete) {
     EXPECT_EQ(StateOf(Command::Edit).why, "No record is selected.");
     EXPECT_EQ(StateOf(Command::Delete).why, "No record is selected.");
     EXPECT_TRUE(IsEnabled(Command::Add));
+}
+
+TEST_F(CommandsTest, ToLoadAPictureNeedALocationOrAPicture) {
+    OpenNew();
+    main->Show({TableNum::Messages});
+    EXPECT_EQ(StateOf(Command::ImportGraphic).why, "Select the location or the picture that it goes into.");
+    EXPECT_EQ(main->PictureTarget(), std::nullopt);
+    main->Show({TableNum::Locations});
+    EXPECT_TRUE(IsEnabled(Command::ImportGraphic));
+    EXPECT_EQ(main->PictureTarget(), 0);
 }
 
 TEST_F(CommandsTest, OfTheSettingsHaveNoFind) {

@@ -78,18 +78,6 @@ TEST_F(InterchangeScreenTest, ExportHasItsTitleLabelsAndKinds) {
     EXPECT_EQ(Names(screen), (std::vector<std::string>{"UnVel", "PCVEL", "Fabula"}));
 }
 
-TEST_F(InterchangeScreenTest, LoadOfAPictureIsSwitchedOffWithASentence) {
-    InterchangeScreen screen(JobMode::LoadGraphic, &*adventure_, host_, 12);
-    EXPECT_EQ(screen.Title(), "Import of Graphic Record into record 12");
-    EXPECT_EQ(screen.StatusCaption(), "Import Status");
-    EXPECT_EQ(screen.MainButton(), "&Load");
-    EXPECT_EQ(Names(screen), (std::vector<std::string>{"UnMarlo", "UnVel"}));
-    EXPECT_FALSE(screen.CanRun());
-    EXPECT_EQ(screen.WhyNot(),
-              "This version cannot yet take single pictures out of the listings of older games.");
-    EXPECT_FALSE(screen.RunJob());
-}
-
 TEST_F(InterchangeScreenTest, TheUsualKindIsChosenAtFirstAndEachCanBe) {
     InterchangeScreen screen = Screen(JobMode::Import);
     EXPECT_EQ(screen.ChosenKind(), 2U);

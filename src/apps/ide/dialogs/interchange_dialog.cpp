@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <functional>
 
+#include "ide/dialogs/file_row.h"
+#include "ide/dialogs/new_locations_dialog.h"
 #include "ide/dialogs/option_focus.h"
 #include "ide/dialogs/status_button.h"
 #include "ide/dialogs/verify_dialog.h"
@@ -78,6 +80,7 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
         database_ = AddFile(*form, "database", tr("&Database:"), "chooseDatabase",
                             &InterchangeScreen::ChooseDatabase);
     if (screen.Mode() == JobMode::Import) AddEncodings(*form);
+    if (screen.Mode() == JobMode::LoadGraphic) AddRecords(*form);
     column->addLayout(form);
     MakeStatus();
     auto* label = new QLabel(qt::ToQt(screen.StatusCaption()));
@@ -96,6 +99,9 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
         window.CloseWhenPassed();
         window.exec();
     };
+    screen_.showNewLocations = [this](authoring::NewLocationsScreen& places) {
+        NewLocationsDialog(places, dialogs_, this).exec();
+    };
     Show();
     source_->setFocus();
 }
@@ -103,6 +109,7 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
 InterchangeDialog::~InterchangeDialog() {
     screen_.changed = [] {};
     screen_.showVerify = [](authoring::VerifyScreen& verify) { verify.Run(); };
+    screen_.showNewLocations = [](authoring::NewLocationsScreen&) {};
 }
 
 void InterchangeDialog::AddKinds(QFormLayout& form) {
@@ -146,28 +153,27 @@ void InterchangeDialog::AddEncodings(QFormLayout& form) {
 
 QLineEdit* InterchangeDialog::AddFile(QFormLayout& form, const char* name, const QString& label,
                                       const char* buttonName, void (InterchangeScreen::*choose)()) {
-    auto* field = new QLineEdit;
-    field->setObjectName(name);
-    field->setAccessibleName(QString(label).remove('&').remove(':'));
-    auto* button = new QPushButton(tr("Choose…"));
-    button->setObjectName(buttonName);
-    button->setAccessibleName(tr("Choose the %1").arg(field->accessibleName().toLower()));
-    button->setAutoDefault(false);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    row->addWidget(field, 1);
-    row->addWidget(button);
-    auto* caption = new QLabel(label);
-    caption->setBuddy(field);
-    form.addRow(caption, row);
-    inputs_.push_back(field);
-    inputs_.push_back(button);
-    QObject::connect(field, &QLineEdit::textEdited, this, [this] { ReadFields(); });
-    QObject::connect(button, &QPushButton::clicked, this, [this, choose] {
+    const FileRow row = AddFileRow(form, name, label, buttonName);
+    inputs_.push_back(row.field);
+    inputs_.push_back(row.button);
+    QObject::connect(row.field, &QLineEdit::textEdited, this, [this] { ReadFields(); });
+    QObject::connect(row.button, &QPushButton::clicked, this, [this, choose] {
         ReadFields();
         std::invoke(choose, screen_);
     });
-    return field;
+    return row.field;
+}
+
+void InterchangeDialog::AddRecords(QFormLayout& form) {
+    records_ = new QLineEdit;
+    records_->setObjectName("records");
+    records_->setAccessibleName(tr("Pictures of the listing"));
+    records_->setPlaceholderText(tr("Their numbers, as in 3,7-9"));
+    auto* caption = new QLabel(tr("Pict&ures:"));
+    caption->setBuddy(records_);
+    form.addRow(caption, records_);
+    inputs_.push_back(records_);
+    QObject::connect(records_, &QLineEdit::textEdited, this, [this] { ReadFields(); });
 }
 
 void InterchangeDialog::MakeStatus() {
@@ -205,6 +211,7 @@ QWidget* InterchangeDialog::MakeButtons() {
 void InterchangeDialog::ReadFields() {
     screen_.source = qt::FromQt(source_->text());
     if (database_) screen_.database = qt::FromQt(database_->text());
+    if (records_) screen_.records = qt::FromQt(records_->text());
 }
 
 void InterchangeDialog::Import() {

@@ -31,6 +31,7 @@ class InterchangeDialog final : public QDialog {
     void AddEncodings(QFormLayout& form);
     QLineEdit* AddFile(QFormLayout& form, const char* name, const QString& label, const char* buttonName,
                        void (authoring::InterchangeScreen::*choose)());
+    void AddRecords(QFormLayout& form);
     void MakeStatus();
     QWidget* MakeButtons();
     void Import();
@@ -44,6 +45,7 @@ class InterchangeDialog final : public QDialog {
     std::vector<QWidget*> inputs_;  ///< what can't be used while a job runs
     QLineEdit* source_ = nullptr;
     QLineEdit* database_ = nullptr;  ///< nullptr where nothing is made
+    QLineEdit* records_ = nullptr;   ///< nullptr where no pictures are loaded
     QPlainTextEdit* status_;
     QProgressBar* bar_;
     QPushButton* import_;

@@ -13,6 +13,7 @@
 #include "authoring/jobs/verify_screen.h"
 #include "engine/sound_player.h"
 #include "ide/window/examples.h"
+#include "platform/programs.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
 #include "qt/help.h"
@@ -44,6 +45,7 @@ struct Services {
     platform::EventPump& events;
     engine::SoundPlayer& sound;
     platform::RandomSource& random;
+    platform::Programs& programs;
     /// The names of the system's MIDI devices, for the settings.
     std::function<std::vector<std::string>()> soundDevices = [] { return std::vector<std::string>(); };
 };
@@ -118,6 +120,8 @@ class MainWindow final : public QMainWindow {
     void ChooseType(store::AdventureSetup& setup);
     void GoTo(const authoring::VerifyScreen::Entry& entry);
     void ImportOrExport(authoring::JobMode mode);
+    void ImportGraphic();
+    void Decompile();
     void StartTest();
     void EndTest();
     void AboutAdventure();

@@ -5,6 +5,7 @@
 #include <QTableView>
 
 #include "authoring/drawing/character_set_screen.h"
+#include "ide/dialogs/decompile_dialog.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/dialogs/key_dialogs.h"
 #include "ide/dialogs/restore_dialog.h"
@@ -45,6 +46,10 @@ void MainWindow::Do(Command command) {
             return ImportOrExport(authoring::JobMode::Import);
         case Command::Export:
             return ImportOrExport(authoring::JobMode::Export);
+        case Command::ImportGraphic:
+            return ImportGraphic();
+        case Command::Decompile:
+            return Decompile();
         case Command::Sort:
             return Sort();
         case Command::Verify:
@@ -231,6 +236,28 @@ void MainWindow::ImportOrExport(authoring::JobMode mode) {
     if (screen.NewFile()) ide_.OpenFile(*screen.NewFile());
     if (mode == authoring::JobMode::Export && screen.Done())
         ide_.Say("Exported to " + std::filesystem::path(screen.source).filename().string() + ".");
+    ShowChanges();
+}
+
+void MainWindow::ImportGraphic() {
+    authoring::Document& document = ide_.CurrentContext().document;
+    const int changes = document.Changes();
+    JobEvents events;
+    authoring::InterchangeScreen screen(
+        document,
+        {services_.dialogs, services_.clock, events, services_.settings, places_.desk.defaultData},
+        ide_.PictureTarget().value_or(0));
+    InterchangeDialog dialog(screen, services_.dialogs, this);
+    dialog.exec();
+    ide_.PicturesLoaded(changes);
+    ShowChanges();
+}
+
+void MainWindow::Decompile() {
+    JobEvents events;
+    authoring::DecompileScreen screen({services_.dialogs, events, services_.settings, services_.programs});
+    DecompileDialog dialog(screen, this);
+    dialog.exec();
     ShowChanges();
 }
 

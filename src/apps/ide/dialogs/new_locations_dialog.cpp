@@ -1,0 +1,85 @@
+#include "ide/dialogs/new_locations_dialog.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "platform/error.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kLettersOfANumber = 10;
+
+}  // namespace
+
+NewLocationsDialog::NewLocationsDialog(authoring::NewLocationsScreen& screen, platform::Dialogs& dialogs,
+                                       QWidget* parent)
+    : QDialog(parent), screen_(screen), dialogs_(dialogs) {
+    setObjectName("NewLocationsScreen");
+    setWindowTitle(qt::ToQt(authoring::NewLocationsScreen::kTitle));
+    setProperty("helpPage", "frmnewlocs.html");
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
+    auto* told =
+        new QLabel(tr("Some of the pictures draw others by GOSUB. Which location does each go to? The "
+                      "GOSUBs follow. Exit leaves all as it was loaded."));
+    told->setWordWrap(true);
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(MakeLines());
+    auto* update = new QPushButton(tr("&Update"));
+    update->setObjectName("update");
+    update->setDefault(true);
+    auto* exit = new QPushButton(tr("E&xit"));
+    exit->setObjectName("exit");
+    exit->setAutoDefault(false);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addStretch(1);
+    buttons->addWidget(update);
+    buttons->addWidget(exit);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(10);
+    column->addWidget(told);
+    column->addWidget(scroll, 1);
+    column->addLayout(buttons);
+    QObject::connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
+    QObject::connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    if (!fields_.empty()) fields_.front()->setFocus();
+}
+
+QWidget* NewLocationsDialog::MakeLines() {
+    auto* lines = new QWidget;
+    auto* form = new QFormLayout(lines);
+    for (const auto& line : screen_.lines) {
+        auto* field = new QLineEdit(qt::ToQt(line.goesTo));
+        field->setObjectName(QString("goesTo%1").arg(line.number));
+        field->setMaximumWidth(fontMetrics().averageCharWidth() * kLettersOfANumber);
+        const QString text =
+            line.loaded ? tr("Picture %1 goes to:") : tr("Picture %1, drawn by GOSUB, goes to:");
+        field->setAccessibleName(text.arg(line.number).remove(':'));
+        form->addRow(text.arg(line.number), field);
+        fields_.push_back(field);
+    }
+    return lines;
+}
+
+void NewLocationsDialog::ClickUpdate() {
+    for (std::size_t i = 0; i < fields_.size(); ++i)
+        screen_.lines[i].goesTo = qt::FromQt(fields_[i]->text());
+    try {
+        if (screen_.Update()) accept();
+    } catch (const Error& error) {
+        dialogs_.Tell(error.what(), "Error");
+    }
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+#include "authoring/jobs/new_locations_screen.h"
+
+class QLineEdit;
+
+namespace fabula::ide {
+
+/// The dialog of `NewLocationsScreen`: a line for each picture.
+class NewLocationsDialog final : public QDialog {
+  public:
+    NewLocationsDialog(authoring::NewLocationsScreen& screen, platform::Dialogs& dialogs,
+                       QWidget* parent = nullptr);
+
+  private:
+    QWidget* MakeLines();
+    void ClickUpdate();
+
+    authoring::NewLocationsScreen& screen_;
+    platform::Dialogs& dialogs_;
+    std::vector<QLineEdit*> fields_;
+};
+
+}  // namespace fabula::ide
