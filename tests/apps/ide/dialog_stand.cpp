@@ -8,9 +8,12 @@
 #include "ide/dialogs/flag_dialog.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/dialogs/key_dialogs.h"
+#include "ide/dialogs/keypad_dialog.h"
 #include "ide/dialogs/location_dialog.h"
 #include "ide/dialogs/message_dialog.h"
 #include "ide/dialogs/object_dialog.h"
+#include "ide/dialogs/preview_dialog.h"
+#include "ide/dialogs/print_dialog.h"
 #include "ide/dialogs/process_entry_dialog.h"
 #include "ide/dialogs/settings_dialog.h"
 #include "ide/dialogs/setup_dialog.h"
@@ -200,6 +203,37 @@ Opened OpenKeyChange(Desk& desk) {
     return Keep<ide::KeyChangeDialog>(std::make_shared<Parts>(desk));
 }
 
+Opened OpenPrint(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.Adventure(), TableNum::ProcessTables, authoring::kOtherProcesses,
+                     listings::PrintScreen::Purpose::Print, of.dialogs),
+              dialog(screen, {of.Adventure(), of.dialogs}) {}
+        listings::PrintScreen screen;
+        ide::PrintDialog dialog;
+    };
+    return Keep<ide::PrintDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenPreview(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen({listings::FindReport("flags"), {}, "Flag Descriptions Table"}, of.Adventure()),
+              dialog(screen, {of.Adventure(), of.dialogs}) {}
+        listings::PrintPreview screen;
+        ide::PreviewDialog dialog;
+    };
+    return Keep<ide::PreviewDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenKeypad(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : dialog(of.dialogs) {}
+        ide::KeypadDialog dialog;
+    };
+    return Keep<ide::KeypadDialog>(std::make_shared<Parts>(desk));
+}
+
 Opened OpenVerify(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
@@ -267,6 +301,9 @@ const std::vector<DialogStand>& EveryDialog() {
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Import); }},
         {"Export", "Export of Database", "source",
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Export); }},
+        {"Print", "Print for Other Process Tables", "detail", OpenPrint},
+        {"Preview", "Print Preview for Flag Descriptions Table", "pages", OpenPreview},
+        {"Keypad", "Size of your KeyPad", "size1", OpenKeypad},
         {"Verify", "Verify Adventure", "status", OpenVerify},
         {"KeySelect", "Correct Table Key: Select", "table", OpenKeySelect},
         {"KeyChange", "Change incorrect key and Finish", "rows", OpenKeyChange},
