@@ -206,5 +206,22 @@ void RunJob(benchmark::State& state) {
 }
 BENCHMARK(RunJob)->Name("LargeGameAsAFile")->DenseRange(0, 7)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+/// The complete listing, as text and as HTML.
+void ListAll(benchmark::State& state) {
+    const Games& games = LargeGame();
+    const char* const output = state.range(0) == 0 ? "new.txt" : "new.html";
+    double memory = 0;
+    for (auto _ : state)
+        memory = games.Run(
+            {"list", games.File("game.fbd"), "adventure", "--output", games.File(output), "--force"});
+    state.counters["MiB"] = memory;
+    state.SetLabel(output);
+}
+BENCHMARK(ListAll)
+    ->Name("LargeGameAsAListing")
+    ->DenseRange(0, 1)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
 }  // namespace
 }  // namespace fabula::interchange

@@ -24,6 +24,7 @@ constexpr std::size_t kPictureColumn = 6;
 
 /// The columns of the picture's name; more for longer names, in the whole listing.
 constexpr std::size_t kNameColumns = 20;
+constexpr std::size_t kMostNameColumns = 255;
 
 /// Paper and ink take two digits where the headings leave room for three.
 std::string RecordFormat(std::size_t nameColumns) {
@@ -67,8 +68,7 @@ void AddCommands(const Listing& listing, const pictures::CommandCatalogue& comma
 }
 
 /// The picture as it is drawn, or in its place why it can't be.
-void AddDrawing(const Listing& listing, const pictures::PictureBook& book, int number) {
-    Record record;
+void AddDrawing(Record& record, const pictures::PictureBook& book, int number) {
     try {
         const pictures::Canvas canvas = pictures::DrawPicture(book, number);
         record.Row("", {});
@@ -80,7 +80,6 @@ void AddDrawing(const Listing& listing, const pictures::PictureBook& book, int n
     } catch (const Error& failure) {
         record.Text("%a", {}, failure.what(), {});
     }
-    listing.frame.Add(record.Take());
 }
 
 void AddPicture(const Listing& listing, const pictures::PictureBook& book, const std::string& format,
@@ -92,11 +91,9 @@ void AddPicture(const Listing& listing, const pictures::PictureBook& book, const
                         std::string(row.Text(4)), row.Number(5)});
     const std::string key = std::to_string(number);
     record.LinkTo(place, key.size() < 3 ? 3 - key.size() : std::size_t{0}, key.size());
+    AddDrawing(record, book, number);
+    record.Row("Graphics Picture Commands", {});
     listing.frame.Add(record.Take());
-    AddDrawing(listing, book, number);
-    Record heading;
-    heading.Row("Graphics Picture Commands", {});
-    listing.frame.Add(heading.Take());
     AddCommands(listing, book.commands, std::string(row.Text(6)));
 }
 
@@ -111,7 +108,7 @@ std::size_t NameColumns(store::Adventure& adventure, const ReportRequest& reques
     for (bool more = rows.First({}); more; more = rows.Next()) {
         if (IsAsked(request, rows.Number(0))) columns = std::max(columns, text::Length(rows.Text(1)));
     }
-    return columns;
+    return std::min(columns, kMostNameColumns);
 }
 
 }  // namespace

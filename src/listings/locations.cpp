@@ -50,7 +50,9 @@ struct ExitColumns {
     void MakeRoomFor(std::string_view wordNumber, std::string_view words) {
         // A blank between number and word, and one before the column.
         const int needed = static_cast<int>(text::Length(wordNumber) + text::Length(words)) + 3;
-        if (needed <= to) return;
+        // Two words of 30 letters and their number fit. Whatever is longer is no word.
+        constexpr int kMostNeeded = 70;
+        if (needed <= to || needed > kMostNeeded) return;
         to = needed;
         destination = to + 5;
         condition = to + 15;

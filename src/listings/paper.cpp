@@ -8,7 +8,7 @@
 namespace fabula::listings {
 
 void Paper::Put(Line line) {
-    columns_ = std::max(columns_, text::Length(line.text));
+    columns_ = std::clamp(text::Length(line.text), columns_, kMostSheetColumns);
     sheets_.back().lines.push_back(std::move(line));
 }
 

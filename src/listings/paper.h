@@ -11,6 +11,8 @@ namespace fabula::listings {
 /// The lines of a sheet: with lines twice as high as columns are wide, 80 columns of them have the form of
 /// a usual sheet of paper.
 inline constexpr int kSheetLines = 60;
+/// The most columns of a sheet. What a file that is no author's holds beyond them leaves the sheet.
+inline constexpr std::size_t kMostSheetColumns = 400;
 
 /// What stands on one sheet, from the top.
 struct Sheet {
@@ -26,7 +28,7 @@ class Paper final : public Page {
     void EndPage() override { sheets_.emplace_back(); }
 
     const std::vector<Sheet>& Sheets() const { return sheets_; }
-    /// The columns that all sheets have: 80, or more where a line has more.
+    /// The columns that all sheets have: 80, or more where a line has more, up to kMostSheetColumns.
     std::size_t Columns() const { return columns_; }
 
   private:

@@ -26,7 +26,7 @@ struct ReportRequest {
     /// Of the special listing: the words of the entries, in any case.
     std::string verb = {};
     std::string noun = {};
-    /// Of templates: their names; without any, all of them.
+    /// Of templates: their names, or files *.tpl; without any, all of the adventure.
     std::vector<std::string> names = {};
 };
 

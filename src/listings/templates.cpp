@@ -114,6 +114,17 @@ std::vector<std::string> DrawTemplateRecord(store::Adventure& adventure, const s
     return DrawTemplate(text::StrEdit(row.Text(0), "compress,trim"), name);
 }
 
+namespace {
+
+/// A name with the extension of a file is that of a file.
+std::vector<std::string> DrawNamed(store::Adventure& adventure, const std::string& name) {
+    const std::filesystem::path path = name;
+    if (!text::EqualsNoCase(path.extension().string(), ".tpl")) return DrawTemplateRecord(adventure, name);
+    return DrawTemplateFile(path.parent_path(), path.stem().string());
+}
+
+}  // namespace
+
 void WriteTemplates(const Listing& listing, const ReportRequest& request) {
     std::vector<std::string> names = request.names;
     if (names.empty()) {
@@ -122,7 +133,7 @@ void WriteTemplates(const Listing& listing, const ReportRequest& request) {
             names.emplace_back(rows.Text(0));
     }
     for (const std::string& name : names) {
-        const std::vector<std::string> lines = DrawTemplateRecord(listing.adventure, name);
+        const std::vector<std::string> lines = DrawNamed(listing.adventure, name);
         listing.frame.Begin("Keypad Template " + name, {});
         for (const std::string& line : lines) {
             Record record;

@@ -161,6 +161,12 @@ TEST_F(TableReports, ColumnsOfExitsMoveForWordsOfEightLetters) {
     EXPECT_NE(listed.find("6 NORTHEAST To   2\n2 N         To   3\n"), std::string::npos) << listed;
 }
 
+TEST_F(TableReports, WordThatNoVocabularyHoldsDoesNotMoveTheColumns) {
+    Empty(*adventure_, TableNum::Locations);
+    Location(1, "Mill.", std::string(200, 'X') + " 2 N 3", "6 2 2 3");
+    EXPECT_NE(Listed(*adventure_, "locations").find("2 N      To   3\n"), std::string::npos);
+}
+
 TEST_F(TableReports, CompleteLocationsShowConditionalExitsAndObjects) {
     Empty(*adventure_, TableNum::Locations);
     Empty(*adventure_, TableNum::Objects);

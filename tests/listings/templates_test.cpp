@@ -73,6 +73,12 @@ TEST(Template, ThatIsNotThereIsNotAvailable) {
     EXPECT_THROW(DrawTemplateFile(test::SourceFolder() / "data/templates", "keypad"), Error);
 }
 
+TEST(TemplatesReport, PrintsAFileByItsName) {
+    const test::OpenedAdventure adventure;
+    const std::string file = (test::SourceFolder() / "data/templates/keypad_small.tpl").string();
+    EXPECT_NE(Listed(*adventure, "templates", {.names = {file}}).find("|INS|HOM|PUP|"), std::string::npos);
+}
+
 TEST(TemplatesReport, PrintsTheNamedOneUnderItsHeader) {
     const test::OpenedAdventure adventure;
     Empty(*adventure, store::TableNum::Templates);

@@ -107,7 +107,7 @@ void AddListVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("report", options->report, "The report")->required();
     verb->add_option("--range", options->range,
                      "Of process tables and pictures which, \"1,3-5,9\", \"3-\" or ALL; of user-flags how "
-                     "many behind 60; of templates their names");
+                     "many behind 60; of templates their names, or files *.tpl");
     CLI::Option* verbose = verb->add_flag("--verbose", options->verbose, "Tell more beside each record");
     verb->add_flag("--complete", options->complete,
                    "List locations with their conditional exits and the objects that are present");

@@ -2,11 +2,16 @@
 #include <QIcon>
 #include <QSettings>
 #include <QStandardPaths>
+#include <algorithm>
+#include <string>
+#include <string_view>
 
 #include "authoring/files/start_up.h"
+#include "ide/printing/print_to.h"
 #include "ide/window/main_window.h"
 #include "midi/device_output.h"
 #include "midi/player.h"
+#include "platform/error.h"
 #include "platform/random_source.h"
 #include "platform/user_folders.h"
 #include "qt/last_border.h"
@@ -36,7 +41,25 @@ ide::Places FindPlaces(const authoring::ProgramFiles& files, const platform::Env
             .playersData = folderOf(QStandardPaths::AppDataLocation)};
 }
 
+constexpr const char* kPrintTo = "print-to";
+
+int PrintTo(const QCommandLineParser& arguments, const QString& file, bool force) {
+    const QStringList names = arguments.positionalArguments();
+    if (names.size() != 2) throw Error("--print-to needs FILE.fbd and REPORT.");
+    ide::PrintTo(qt::PathFromQt(file), qt::PathFromQt(names[0]), qt::FromQt(names[1]), force);
+    return EXIT_SUCCESS;
+}
+
+/// Printing to a file needs no display. Qt has to know before it begins.
+void DoWithoutDisplay(int argc, char** argv) {
+    const bool prints = std::any_of(argv, argv + argc, [](std::string_view argument) {
+        return argument.starts_with(std::string("--") + kPrintTo);
+    });
+    if (prints && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 int Run(int argc, char** argv) {
+    DoWithoutDisplay(argc, argv);
     qt::Program app(argc, argv);
     QApplication::setApplicationName("Fabula");
     QApplication::setApplicationVersion(FABULA_VERSION);
@@ -50,7 +73,15 @@ int Run(int argc, char** argv) {
     arguments.addHelpOption();
     arguments.addVersionOption();
     arguments.addPositionalArgument("file", "The adventure to open (*.fbd).", "[file]");
+    arguments.addPositionalArgument("report", "With --print-to: the report, as of 'fabula list'.",
+                                    "[report]");
+    const QCommandLineOption printTo(kPrintTo, "Print a report of the adventure into a file and end.",
+                                     "PDF");
+    const QCommandLineOption force("force", "With --print-to: replace a file that exists.");
+    arguments.addOptions({printTo, force});
     arguments.process(app);
+    if (arguments.isSet(printTo))
+        return PrintTo(arguments, arguments.value(printTo), arguments.isSet(force));
 
     QSettings store(QSettings::IniFormat, QSettings::UserScope, "Fabula", "Fabula");
     qt::QtSettings settings(store);

@@ -151,6 +151,23 @@ constexpr Anchor kAnchors[] = {
     {"frmverify.html", "goTo", "cmdgoto"},
     {"frmverify.html", "ok", "cmdok"},
     {"frmverify.html", "print", "cmdprint"},
+    {"frmprint.html", "form", "cboform"},
+    {"frmprint.html", "detail", "opttopt"},
+    {"frmprint.html", "range", "txtnum"},
+    {"frmprint.html", "special", "chkspecial"},
+    {"frmprint.html", "wordType", "cboverbtype"},
+    {"frmprint.html", "verb", "cboverbtype"},
+    {"frmprint.html", "noun", "cbonoun"},
+    {"frmprint.html", "complete", "chkcomplete"},
+    {"frmprint.html", "completeBrief", "optcopt"},
+    {"frmprint.html", "completeVerbose", "optcopt"},
+    {"frmprint.html", "completeNonVerbose", "optcopt"},
+    {"frmprint.html", "print", "cmdprint"},
+    {"frmprint.html", "save", "cmdsave"},
+    {"frmprint.html", "exit", "cmdexit"},
+    {"frmprintpreview.html", "previous", "prev"},
+    {"frmtempsize.html", "size", "optsize"},
+    {"frmtempsize.html", "continue", "cmdcontinue"},
 };
 
 QString WithoutNumber(QString name) {

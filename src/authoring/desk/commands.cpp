@@ -10,7 +10,6 @@ namespace {
 constexpr std::string_view kNoBatchImport = "Batch files are written only.";
 constexpr std::string_view kNoBatchExport = "This version cannot yet write batch files.";
 constexpr std::string_view kNoPackage = "This version cannot yet pack a game for others.";
-constexpr std::string_view kNoPrint = "This version cannot yet print.";
 constexpr std::string_view kNoTravelTable = "This version cannot yet read a classic travel table.";
 
 using Use = CommandEntry::Use;
@@ -36,10 +35,10 @@ constexpr CommandEntry kCommands[] = {
      "Read a batch file", Use::Menu, kNoBatchImport},
     {Command::BatchExport, "BatExp", Menu::File, 1, "Ba&tch Export...", "", "batch-export",
      "Write tables as a batch file", Use::Menu, kNoBatchExport},
-    {Command::Print, "Print", Menu::File, 2, "&Print...", "Ctrl+P", "print", "Print a listing of the table",
-     Use::Menu, kNoPrint},
+    {Command::Print, "Print", Menu::File, 2, "&Print...", "Ctrl+P", "print",
+     "Print a listing of the table"},
     {Command::Preview, "Preview", Menu::File, 2, "Print Pre&view...", "", "preview",
-     "Show a listing of the table", Use::Menu, kNoPrint},
+     "Show a listing of the table"},
     {Command::Package, "Package", Menu::File, 2, "Pac&kage...", "", "package", "Pack the game for others",
      Use::Menu, kNoPackage},
     {Command::Exit, "Exit", Menu::File, 3, "E&xit", "Ctrl+Q", "exit", "End the program"},

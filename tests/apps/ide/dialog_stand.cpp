@@ -9,10 +9,13 @@
 #include "ide/dialogs/flag_dialog.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/dialogs/key_dialogs.h"
+#include "ide/dialogs/keypad_dialog.h"
 #include "ide/dialogs/location_dialog.h"
 #include "ide/dialogs/message_dialog.h"
 #include "ide/dialogs/new_locations_dialog.h"
 #include "ide/dialogs/object_dialog.h"
+#include "ide/dialogs/preview_dialog.h"
+#include "ide/dialogs/print_dialog.h"
 #include "ide/dialogs/process_entry_dialog.h"
 #include "ide/dialogs/restore_dialog.h"
 #include "ide/dialogs/settings_dialog.h"
@@ -252,6 +255,37 @@ Opened OpenRestore(Desk& desk) {
     return Keep<ide::RestoreDialog>(std::make_shared<Parts>(desk));
 }
 
+Opened OpenPrint(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(of.Adventure(), TableNum::ProcessTables, authoring::kOtherProcesses,
+                     listings::PrintScreen::Purpose::Print, of.dialogs),
+              dialog(screen, {of.Adventure(), of.dialogs}) {}
+        listings::PrintScreen screen;
+        ide::PrintDialog dialog;
+    };
+    return Keep<ide::PrintDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenPreview(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen({listings::FindReport("flags"), {}, "Flag Descriptions Table"}, of.Adventure()),
+              dialog(screen, {of.Adventure(), of.dialogs}) {}
+        listings::PrintPreview screen;
+        ide::PreviewDialog dialog;
+    };
+    return Keep<ide::PreviewDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenKeypad(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : dialog(of.dialogs) {}
+        ide::KeypadDialog dialog;
+    };
+    return Keep<ide::KeypadDialog>(std::make_shared<Parts>(desk));
+}
+
 Opened OpenVerify(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
@@ -322,6 +356,9 @@ const std::vector<DialogStand>& EveryDialog() {
         {"LoadGraphic", "Import of Graphic Record into record 0", "source", OpenLoadGraphic},
         {"NewLocations", "New Locations of the Pictures", "goesTo3", OpenNewLocations},
         {"Decompile", "Decompile an Older Game", "unMarlo", OpenDecompile},
+        {"Print", "Print for Other Process Tables", "detail", OpenPrint},
+        {"Preview", "Print Preview for Flag Descriptions Table", "pages", OpenPreview},
+        {"Keypad", "Size of your KeyPad", "size1", OpenKeypad},
         {"Verify", "Verify Adventure", "status", OpenVerify},
         {"Restore", "Restore a Backup", "copies", OpenRestore},
         {"KeySelect", "Correct Table Key: Select", "table", OpenKeySelect},

@@ -258,6 +258,41 @@ TEST(MainWindow, TellsHowAVerifyEnded) {
     EXPECT_EQ(opened.Part<QLabel>("status").text(), "The adventure has passed.");
 }
 
+TEST(MainWindow, PrintsTheTableInTheGrid) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    QString title;
+    WithNextDialog("PrintDialog", [&](QDialog& dialog) {
+        title = dialog.windowTitle();
+        opened.dialogs.AnswerFile(opened.folder / "messages.txt");
+        dialog.findChild<QPushButton*>("save")->click();
+    });
+    opened.Action("Print").trigger();
+    EXPECT_EQ(title, "Print for Messages Table");
+    std::ifstream file(opened.folder / "messages.txt");
+    const std::string listed((std::istreambuf_iterator<char>(file)), {});
+    EXPECT_NE(listed.find("0        The lamp is lit."), std::string::npos);
+}
+
+TEST(MainWindow, PreviewOpensBehindItsSetup) {
+    OpenedWindow opened;
+    opened.Open(Game());
+    opened.ChooseNode("Messages");
+    QString place;
+    WithNextDialog("PrintDialog", [&](QDialog& dialog) {
+        WithNextDialog("PreviewDialog", [&](QDialog& preview) {
+            auto* label = preview.findChild<QLabel*>("place");
+            EXPECT_TRUE(QTest::qWaitFor([&] { return label->text().startsWith("Page"); }));
+            place = label->text();
+            preview.reject();
+        });
+        dialog.findChild<QPushButton*>("print")->click();
+    });
+    opened.Action("Preview").trigger();
+    EXPECT_EQ(place, "Page 1 of 1, 100 %");
+}
+
 TEST(MainWindow, TellsWhereAnExportWent) {
     OpenedWindow opened;
     opened.Open(Game());

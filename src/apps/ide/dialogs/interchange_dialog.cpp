@@ -17,6 +17,7 @@
 #include "ide/dialogs/option_focus.h"
 #include "ide/dialogs/status_button.h"
 #include "ide/dialogs/verify_dialog.h"
+#include "ide/printing/paper_output.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -60,7 +61,8 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
       bar_(new QProgressBar),
       import_(new QPushButton(qt::ToQt(screen.MainButton()))),
       print_(NewStatusButton(qt::ToQt(InterchangeScreen::kPrintButton),
-                             {[this] { return screen_.Status(); }, [this] { screen_.SaveStatus(); }})),
+                             {[this] { return screen_.Status(); }, [this] { screen_.SaveStatus(); },
+                              [this] { PrintText(screen_.Status(), screen_.Title(), dialogs_, this); }})),
       exit_(new QPushButton) {
     setObjectName("InterchangeScreen");
     setWindowTitle(qt::ToQt(screen.Title()));

@@ -5,7 +5,6 @@
 #include <QMenu>
 #include <QPushButton>
 
-#include "authoring/desk/commands.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -18,8 +17,8 @@ QPushButton* NewStatusButton(const QString& caption, const StatusActions& action
     auto* menu = new QMenu(button);
     menu->setToolTipsVisible(true);
     auto* print = menu->addAction(QObject::tr("&Print…"));
-    print->setEnabled(false);
-    print->setToolTip(qt::ToQt(authoring::EntryOf(authoring::Command::Print).notBuilt));
+    print->setObjectName("printStatus");
+    QObject::connect(print, &QAction::triggered, button, [actions] { actions.print(); });
     auto* copy = menu->addAction(QObject::tr("&Copy to Clipboard"));
     copy->setObjectName("copyStatus");
     QObject::connect(copy, &QAction::triggered, button,

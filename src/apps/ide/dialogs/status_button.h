@@ -12,10 +12,11 @@ namespace fabula::ide {
 struct StatusActions {
     std::function<std::string()> text;
     std::function<void()> save;
+    std::function<void()> print;
 };
 
-/// A button "Print Status" whose menu copies and saves the status (the actions "copyStatus" and
-/// "saveStatus"). Printing is in its place, switched off.
+/// A button "Print Status" whose menu prints, copies and saves the status (the actions "printStatus",
+/// "copyStatus" and "saveStatus").
 QPushButton* NewStatusButton(const QString& caption, const StatusActions& actions);
 
 }  // namespace fabula::ide

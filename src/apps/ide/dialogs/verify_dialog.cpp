@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/status_button.h"
+#include "ide/printing/paper_output.h"
 #include "platform/error.h"
 #include "qt/strings.h"
 
@@ -25,8 +26,9 @@ VerifyDialog::VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& d
       lines_(new QListWidget),
       progress_(new QLabel),
       goToButton_(new QPushButton(tr("&Go to Entry"))),
-      print_(NewStatusButton(
-          tr("&Print"), {[this] { return verify_.Status(); }, [this] { verify_.SaveStatus(dialogs_); }})) {
+      print_(NewStatusButton(tr("&Print"),
+                             {[this] { return verify_.Status(); }, [this] { verify_.SaveStatus(dialogs_); },
+                              [this] { PrintText(verify_.Status(), verify_.Title(), dialogs_, this); }})) {
     setObjectName("VerifyScreen");
     setWindowTitle(qt::ToQt(verify.Title()));
     setProperty("helpPage", "frmverify.html");

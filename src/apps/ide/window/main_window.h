@@ -12,6 +12,7 @@
 #include "authoring/jobs/interchange_screen.h"
 #include "authoring/jobs/verify_screen.h"
 #include "engine/sound_player.h"
+#include "ide/printing/paper_output.h"
 #include "ide/window/examples.h"
 #include "platform/programs.h"
 #include "platform/random_source.h"
@@ -48,6 +49,7 @@ struct Services {
     platform::Programs& programs;
     /// The names of the system's MIDI devices, for the settings.
     std::function<std::vector<std::string>()> soundDevices = [] { return std::vector<std::string>(); };
+    PrintPaper print = PrintOnPrinter;
 };
 
 /// Where the window finds and keeps its files.
@@ -118,6 +120,7 @@ class MainWindow final : public QMainWindow {
     void KeyChange();
     void ShowUpgrade(std::string_view steps);
     void ChooseType(store::AdventureSetup& setup);
+    void Print(listings::PrintScreen::Purpose purpose);
     void GoTo(const authoring::VerifyScreen::Entry& entry);
     void ImportOrExport(authoring::JobMode mode);
     void ImportGraphic();

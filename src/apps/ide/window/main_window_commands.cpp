@@ -8,6 +8,7 @@
 #include "ide/dialogs/decompile_dialog.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/dialogs/key_dialogs.h"
+#include "ide/dialogs/preview_dialog.h"
 #include "ide/dialogs/restore_dialog.h"
 #include "ide/dialogs/screens.h"
 #include "ide/dialogs/setup_dialog.h"
@@ -54,6 +55,10 @@ void MainWindow::Do(Command command) {
             return Sort();
         case Command::Verify:
             return Verify();
+        case Command::Print:
+            return Print(listings::PrintScreen::Purpose::Print);
+        case Command::Preview:
+            return Print(listings::PrintScreen::Purpose::Preview);
         case Command::CharacterTable:
             return ShowCharacterTable();
         case Command::Load:
@@ -193,6 +198,25 @@ void MainWindow::KeyChange() {
     authoring::KeyChangeScreen change(ide_.CurrentContext(), *selectDialog.Selection());
     KeyChangeDialog changeDialog(change, services_.dialogs, this);
     changeDialog.exec();
+    ide_.Refresh();
+    ShowChanges();
+}
+
+void MainWindow::Print(listings::PrintScreen::Purpose purpose) {
+    try {
+        store::Adventure& adventure = ide_.CurrentContext().document.Adventure();
+        const authoring::TableView view = ide_.Grid().View();
+        const PrintServices services{adventure, services_.dialogs, services_.print};
+        listings::PrintScreen screen(adventure, view.table, view.process, purpose, services_.dialogs);
+        PrintDialog dialog(screen, services, this);
+        const bool ready = dialog.exec() == QDialog::Accepted && dialog.Job();
+        if (ready && purpose == listings::PrintScreen::Purpose::Preview) {
+            listings::PrintPreview preview(*dialog.Job(), adventure);
+            PreviewDialog(preview, services, this).exec();
+        }
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
     ide_.Refresh();
     ShowChanges();
 }

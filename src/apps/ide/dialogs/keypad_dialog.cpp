@@ -1,0 +1,56 @@
+#include "ide/dialogs/keypad_dialog.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "listings/print_screen.h"
+#include "qt/help_request.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+
+}  // namespace
+
+KeypadDialog::KeypadDialog(platform::Operator& author, QWidget* parent) : QDialog(parent), author_(author) {
+    setObjectName("KeypadSize");
+    setWindowTitle(qt::ToQt(listings::kKeypadTitle));
+    setProperty(qt::kHelpPage, "frmtempsize.html");
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    auto* frame = new QGroupBox(qt::ToQt(listings::kKeypadFrame));
+    auto* sizes = new QVBoxLayout(frame);
+    for (const listings::KeypadSize& size : listings::kKeypadSizes) {
+        auto* button = new QRadioButton(qt::ToQt(size.text));
+        button->setObjectName(QString("size%1").arg(sizes_.size() + 1));
+        sizes->addWidget(button);
+        sizes_.push_back(button);
+    }
+    sizes_.front()->setChecked(true);
+    column->addWidget(frame);
+    auto* go = new QPushButton(tr("&Continue"));
+    go->setObjectName("continue");
+    go->setDefault(true);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(go);
+    column->addLayout(buttons);
+    connect(go, &QPushButton::clicked, this, [this] { ClickContinue(); });
+    sizes_.front()->setFocus();
+}
+
+void KeypadDialog::ClickContinue() {
+    std::size_t chosen = 0;
+    while (chosen + 1 < sizes_.size() && !sizes_[chosen]->isChecked())
+        ++chosen;
+    const auto name = listings::TemplateOfSize(chosen, author_);
+    if (!name) return reject();
+    templateName_ = *name;
+    accept();
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDialog>
+#include <string>
+#include <vector>
+
+#include "platform/operator.h"
+
+class QRadioButton;
+
+namespace fabula::ide {
+
+/// The choice of the size of the keypad that a template is printed for. Another size than those that there
+/// are is told of when it is chosen.
+class KeypadDialog final : public QDialog {
+  public:
+    explicit KeypadDialog(platform::Operator& author, QWidget* parent = nullptr);
+
+    /// The template of the size, once the window has closed with Continue.
+    const std::string& TemplateName() const { return templateName_; }
+
+  private:
+    void ClickContinue();
+
+    platform::Operator& author_;
+    std::string templateName_;
+    std::vector<QRadioButton*> sizes_;
+};
+
+}  // namespace fabula::ide
