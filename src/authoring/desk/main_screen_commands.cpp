@@ -1,3 +1,4 @@
+#include "authoring/desk/batch_commands.h"
 #include "authoring/desk/ide_settings.h"
 #include "authoring/desk/main_screen.h"
 #include "authoring/entries/last_records.h"
@@ -141,6 +142,14 @@ std::optional<ScreenRequest> MainScreen::Do(Command command) {
         case Command::FindNext:
             Find();
             break;
+        case Command::BatchExport:
+            message_ = ExportBatchFile(desk_->context, grid_.View(), CurrentKey()).value_or("");
+            // It stood on the tables' own cursors.
+            ReadAgain();
+            break;
+        case Command::BatchImport:
+            BatchImport();
+            break;
         case Command::Trace:
             SetTraceMode(host_.settings, !TraceMode(host_.settings));
             break;
@@ -155,6 +164,14 @@ std::optional<ScreenRequest> MainScreen::Do(Command command) {
             break;
     }
     return std::nullopt;
+}
+
+void MainScreen::BatchImport() {
+    const auto read = ImportBatchFile(desk_->context);
+    ShowChanges(grid_.View().table);
+    if (!read) return;
+    mustExit_ = mustExit_ || read->mustExit;
+    message_ = read->message;
 }
 
 std::optional<ScreenRequest> MainScreen::DoEntry(Command command) {

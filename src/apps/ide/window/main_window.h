@@ -116,6 +116,8 @@ class MainWindow final : public QMainWindow {
     void ImportOrExport(authoring::JobMode mode);
     void StartTest();
     void EndTest();
+    void Package();
+    void ConvertTravelTable();
     void AboutAdventure();
     void About();
     void AskEntryMenu(const QPoint& place);
