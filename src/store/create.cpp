@@ -178,7 +178,8 @@ class Creator {
                                        {"sysexportversion", data_.Info("ExportVersion")},
                                        {"ideversion", std::string(" ")},
                                        {"engversion", std::string(" ")},
-                                       {"flagchange", std::int64_t{1}}});
+                                       {"flagchange", std::int64_t{1}},
+                                       {"ifid", MarkedIfid(host_.newIfid())}});
     }
 
     void AddTemplates() {

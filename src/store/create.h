@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/event_pump.h"
 #include "platform/operator.h"
+#include "store/ifid.h"
 #include "store/setup.h"
 
 namespace fabula::store {
@@ -19,6 +20,7 @@ struct CreationHost {
     platform::EventPump& events;
     std::filesystem::path
         defaultData;  ///< the file Fabula.ini; templates (*.tpl) lie in the folder beside it
+    IfidMaker newIfid = NewIfid;
 };
 
 /// Creates the adventure file `path` from the default data, with the type and switches of `setup`. An

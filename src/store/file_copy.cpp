@@ -20,7 +20,8 @@ namespace fabula::store {
 namespace {
 
 /// The extensions of the files that this program makes. One kind is never written over another.
-constexpr std::string_view kOwnExtensions[] = {".fbd", ".sav", ".scr", ".trc", ".chr", ".ext", ".sce"};
+constexpr std::string_view kOwnExtensions[] = {".fbd", ".sav", ".scr", ".trc",
+                                               ".chr", ".ext", ".sce", ".fbb"};
 
 [[noreturn]] void Refuse(const std::filesystem::path& target, const std::string& reason) {
     throw Error("Could not write " + target.string() + ": " + reason + ".");

@@ -79,6 +79,7 @@ constexpr LaterField kLaterFields[] = {
     {TableNum::Tables, "FbbExp", 49},
     {TableNum::Tables, "AltName", 49},
     {TableNum::Tables, "AllowChgSort", 50},
+    {TableNum::System, "Ifid", 51},
 };
 static_assert(std::size(kLaterFields) > 0 && kLaterFields[std::size(kLaterFields) - 1].step == kLatestStep);
 

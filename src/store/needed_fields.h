@@ -15,8 +15,8 @@ struct FieldFault {
 };
 
 /// What is wrong with a table's fields: each that the programs read must be there, each of its class. They
-/// are the fields of the default data but for `ideversion`, `engversion`, `allowexp` and those that About
-/// this Adventure shows beside the name, which a file may lack. Further fields do no harm.
+/// are the fields of the default data but for `ideversion`, `engversion`, `ifid`, `allowexp` and those that
+/// About this Adventure shows beside the name, which a file may lack. Further fields do no harm.
 std::vector<FieldFault> FaultsOfFields(TableNum table, const TableSchema& schema);
 
 /// Whether the fault of `field` is that the font of the settings is given by its name, as it once was.

@@ -8,6 +8,7 @@
 #include "condacts/load.h"
 #include "platform/error.h"
 #include "store/file_forms.h"
+#include "store/ifid.h"
 #include "store/schema_change.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -291,6 +292,11 @@ void AddCharSets(Work& work, const Step& step) {
 
 void AddSource(Work& work, const Step& step) {
     AddFields(work, step, "Unknown");
+}
+
+void AddIfid(Work& work, const Step& step) {
+    AddFields(work, step, "");
+    work.FillField(TableNum::System, "ifid", store::MarkedIfid(work.newIfid()));
 }
 
 void AddFlgChg(Work& work, const Step& step) {

@@ -39,5 +39,7 @@ void AddType(Work& work, const Step& step);
 void AddCharSets(Work& work, const Step& step);
 void AddSource(Work& work, const Step& step);
 void AddFlgChg(Work& work, const Step& step);
+/// A new name for the adventure, once and for all.
+void AddIfid(Work& work, const Step& step);
 
 }  // namespace fabula::upgrades

@@ -189,6 +189,7 @@ constexpr Step kSteps[] = {
      {TableNum::Tables, "AllowChgSort"},
      nullptr,
      AddFieldSettings},
+    {51, "51 - Add of IFID to System table", {TableNum::System, "Ifid"}, nullptr, AddIfid},
 };
 
 }  // namespace

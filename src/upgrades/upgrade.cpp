@@ -127,6 +127,7 @@ std::unique_ptr<Adventure> OpenUpgraded(const std::filesystem::path& file,
     if (need == Need::Changes) {
         host.BeforeChange(*adventure);
         AskForType(work, host);
+        work.newIfid = [&host] { return host.NewIfid(); };
         Upgrade(work, host);
     } else {
         NumberFile(*adventure);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "store/adventure.h"
+#include "store/ifid.h"
 #include "upgrades/report.h"
 #include "upgrades/work.h"
 
@@ -33,6 +34,9 @@ class UpgradeHost {
 
     /// The type of the adventure is not known. `proposal` is what follows from the file.
     virtual ChosenType ChooseType(const ChosenType& proposal) { return proposal; }
+
+    /// A name for an adventure that has none.
+    virtual std::string NewIfid() { return store::NewIfid(); }
 
     /// What has to be told, when the file is upgraded.
     virtual void Show(const Report&) {}

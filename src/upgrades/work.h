@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "store/adventure.h"
+#include "store/ifid.h"
 #include "store/setup.h"
 #include "upgrades/defaults.h"
 #include "upgrades/report.h"
@@ -29,6 +30,8 @@ class Work {
     store::Adventure& adventure;
     Defaults& defaults;
     std::vector<Report> reports;
+    /// Gives a name to an adventure that has none.
+    store::IfidMaker newIfid = store::NewIfid;
     /// Set when the author was asked; a type that is not known then follows what the file says of itself.
     std::optional<ChosenType> chosen;
     /// The settings took their font from its name in this run, so that nothing has to be said of it again.

@@ -20,6 +20,8 @@
 
 namespace fabula::store {
 
+inline constexpr const char* kIfid = "5EED0000-0000-4000-8000-000000000001";
+
 /// Default data of the project as a test changes them, and the adventure that is made of them.
 class Create : public testing::Test {
   protected:
@@ -69,7 +71,8 @@ class Create : public testing::Test {
                   bool replace = false) {
         const platform::FixedClock clock({2026, 3, 4, 5, 6, 7});
         platform::NoEvents events;
-        return CreateAdventure(replace, file_, setup, {person_, clock, events, data});
+        return CreateAdventure(replace, file_, setup,
+                               {person_, clock, events, data, [] { return std::string(kIfid); }});
     }
     bool Make(const AdventureSetup& setup = {}, bool replace = false) {
         WriteData();

@@ -93,7 +93,7 @@ constexpr TableFields kFields[] = {
     {TableNum::Header, "hdrkey=advarwchar hdrmess=advarwchar"},
     {TableNum::System,
      "systemnum=adsmallint sysinidate=advarwchar sysexportversion=advarwchar(10) "
-     "ideversion=advarwchar(15) engversion=advarwchar(15) flagchange=adboolean"},
+     "ideversion=advarwchar(15) engversion=advarwchar(15) flagchange=adboolean ifid=advarwchar(50)"},
     {TableNum::Codes,
      "codenum=adinteger voicename=advarwchar FontName=advarwchar FontSize=adinteger "
      "FabulaTag=advarwchar ACETag=advarwchar FabulaTagParam=adinteger FabulaTagVal=advarwchar(2)"},

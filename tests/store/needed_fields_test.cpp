@@ -41,9 +41,9 @@ TEST(NeededFields, AreThereInANewAdventure) {
 TEST(NeededFields, AreAllFieldsOfTheDefaultDataButThoseOfLaterPrograms) {
     const test::OpenedAdventure adventure;
     const Fields fields = TryWithoutEach(adventure);
-    EXPECT_EQ(fields.others,
-              (std::vector<std::string>{"allowexp", "advdesc", "advpicloc", "advcontactinfo",
-                                        "advpicgraphic", "oldadvpicloc", "ideversion", "engversion"}));
+    EXPECT_EQ(fields.others, (std::vector<std::string>{"allowexp", "advdesc", "advpicloc", "advcontactinfo",
+                                                       "advpicgraphic", "oldadvpicloc", "ideversion",
+                                                       "engversion", "ifid"}));
     EXPECT_GT(fields.needed, 100);
 }
 

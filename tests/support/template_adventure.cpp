@@ -16,7 +16,8 @@ void Create(const std::filesystem::path& file, const store::AdventureSetup& setu
     platform::ScriptedOperator person;
     const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
     platform::NoEvents events;
-    store::CreateAdventure(true, file, setup, {person, clock, events, DefaultData()});
+    store::CreateAdventure(true, file, setup,
+                           {person, clock, events, DefaultData(), [] { return std::string(kTestIfid); }});
 }
 
 /// The files that were created so far, one for each setup; they live as long as the test program.

@@ -9,6 +9,9 @@
 
 namespace fabula::test {
 
+/// The name of all adventures that tests make.
+inline constexpr const char* kTestIfid = "5EED0000-0000-4000-8000-00000000FA8A";
+
 /// Creates an adventure from the project's own default data. The first of each kind and setting costs a
 /// creation; later ones copy its file.
 void MakeAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup = {});

@@ -7,6 +7,7 @@
 
 #include "store/adventure.h"
 #include "store/setup.h"
+#include "support/template_adventure.h"
 #include "upgrades/upgrade.h"
 
 namespace fabula::test {
@@ -36,6 +37,7 @@ class RecordingHost final : public upgrades::UpgradeHost {
         proposals.push_back(proposal);
         return answer.value_or(proposal);
     }
+    std::string NewIfid() override { return kTestIfid; }
     void Show(const upgrades::Report& report) override { reports.push_back(report); }
     bool ShowFlagChange(const upgrades::Report& report) override {
         reports.push_back(report);

@@ -17,4 +17,10 @@ std::filesystem::path DefaultDataFile() {
     return file;
 }
 
+std::filesystem::path InstalledEngine() {
+    const auto engine = platform::RunningProgram().parent_path() / "FabulaEngine";
+    std::error_code error;  // what can't be looked at is not there
+    return std::filesystem::is_regular_file(engine, error) ? engine : std::filesystem::path();
+}
+
 }  // namespace fabula::cli

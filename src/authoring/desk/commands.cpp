@@ -7,10 +7,6 @@
 namespace fabula::authoring {
 namespace {
 
-constexpr std::string_view kNoBatchImport = "Batch files are written only.";
-constexpr std::string_view kNoBatchExport = "This version cannot yet write batch files.";
-constexpr std::string_view kNoPackage = "This version cannot yet pack a game for others.";
-constexpr std::string_view kNoTravelTable = "This version cannot yet read a classic travel table.";
 
 using Use = CommandEntry::Use;
 
@@ -32,15 +28,14 @@ constexpr CommandEntry kCommands[] = {
     {Command::ImportGraphic, "Import", Menu::File, 1, "Import &Graphic Record...", "", "import-picture",
      "Take a picture out of a listing"},
     {Command::BatchImport, "BatImp", Menu::File, 1, "&Batch Import...", "", "batch-import",
-     "Read a batch file", Use::Menu, kNoBatchImport},
+     "Read a batch file that was edited outside"},
     {Command::BatchExport, "BatExp", Menu::File, 1, "Ba&tch Export...", "", "batch-export",
-     "Write tables as a batch file", Use::Menu, kNoBatchExport},
+     "Write tables as a batch file"},
     {Command::Print, "Print", Menu::File, 2, "&Print...", "Ctrl+P", "print",
      "Print a listing of the table"},
     {Command::Preview, "Preview", Menu::File, 2, "Print Pre&view...", "", "preview",
      "Show a listing of the table"},
-    {Command::Package, "Package", Menu::File, 2, "Pac&kage...", "", "package", "Pack the game for others",
-     Use::Menu, kNoPackage},
+    {Command::Package, "Package", Menu::File, 2, "Pac&kage...", "", "package", "Pack the game for others"},
     {Command::Exit, "Exit", Menu::File, 3, "E&xit", "Ctrl+Q", "exit", "End the program"},
 
     {Command::Undo, "Undo", Menu::Edit, 0, "&Undo", "Ctrl+Z", "undo", "Take back the latest change",
@@ -84,7 +79,7 @@ constexpr CommandEntry kCommands[] = {
     {Command::KeyChange, "KeyChange", Menu::Tools, 1, "Correct Table &Key...", "", "key",
      "Give a free key to a record whose key occurs twice"},
     {Command::TravelTable, "TravelTable", Menu::Tools, 1, "Convert &Travel Table...", "", "map",
-     "Write a report of a classic travel table", Use::Menu, kNoTravelTable},
+     "Write a report of a classic travel table"},
 
     {Command::Help, "Help", Menu::Help, 0, "&Help", "F1", "help", "Tell about what is at hand"},
     {Command::HelpContents, "HelpContents", Menu::Help, 0, "&Contents", "", "book",

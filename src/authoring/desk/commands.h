@@ -81,7 +81,6 @@ struct CommandEntry {
     std::string_view icon;      ///< the icon's name
     std::string_view tip;       ///< what it does, for the tool tip
     Use use = Use::Menu;
-    std::string_view notBuilt = {};  ///< why this version does not do it, a sentence; "" when it does
 };
 
 /// All commands in the order of their menus.

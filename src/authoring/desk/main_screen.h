@@ -229,6 +229,7 @@ class MainScreen {
     std::optional<std::string> UndoOrRedoName(Command command) const;
     std::optional<ScreenRequest> Do(Command command);
     std::optional<ScreenRequest> DoEntry(Command command);
+    void BatchImport();
     void ShowChanges(store::TableNum changed);
     void UndoOrRedo(Command command);
     void GoTo(const Place& place);

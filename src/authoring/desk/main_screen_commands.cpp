@@ -1,3 +1,4 @@
+#include "authoring/desk/batch_commands.h"
 #include "authoring/desk/ide_settings.h"
 #include "authoring/desk/main_screen.h"
 #include "authoring/entries/last_records.h"
@@ -104,8 +105,6 @@ std::optional<std::string> MainScreen::UndoOrRedoName(Command command) const {
 
 std::string MainScreen::WhyNot(Command command) const {
     if (running_) return "The game is being tested.";
-    const CommandEntry& entry = EntryOf(command);
-    if (!entry.notBuilt.empty()) return std::string(entry.notBuilt);
     if (AlwaysWorks(command)) return "";
     if (!desk_) return "No adventure is open.";
     if (command == Command::Undo && !desk_->document.UndoName()) return "There is nothing to undo.";
@@ -156,6 +155,14 @@ std::optional<ScreenRequest> MainScreen::Do(Command command) {
         case Command::FindNext:
             Find();
             break;
+        case Command::BatchExport:
+            message_ = ExportBatchFile(desk_->context, grid_.View(), CurrentKey()).value_or("");
+            // It stood on the tables' own cursors.
+            ReadAgain();
+            break;
+        case Command::BatchImport:
+            BatchImport();
+            break;
         case Command::Trace:
             SetTraceMode(host_.settings, !TraceMode(host_.settings));
             break;
@@ -170,6 +177,14 @@ std::optional<ScreenRequest> MainScreen::Do(Command command) {
             break;
     }
     return std::nullopt;
+}
+
+void MainScreen::BatchImport() {
+    const auto read = ImportBatchFile(desk_->context);
+    ShowChanges(grid_.View().table);
+    if (!read) return;
+    mustExit_ = mustExit_ || read->mustExit;
+    message_ = read->message;
 }
 
 std::optional<ScreenRequest> MainScreen::DoEntry(Command command) {

@@ -9,6 +9,7 @@
 #include "authoring/fields/text_field.h"
 #include "authoring/settings/settings_lists.h"
 #include "platform/error.h"
+#include "store/ifid.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -61,6 +62,7 @@ SettingsScreen::SettingsScreen(ScreenContext& context, const std::vector<std::st
     channel.items = ChannelItems();
     voice.items = VoiceItems(Adventure());
     source.items = SourceItems();
+    ifid_ = store::IfidOf(Adventure());
     const Cursor& record = OpenSettings();
     ReadGame(record);
     ReadLook(record);

@@ -74,6 +74,9 @@ class SettingsScreen final : public EditScreen {
     // --- Source ---
     DropList source;
 
+    /// The name by which libraries of games know the adventure, which nobody changes; "" for none.
+    const std::string& Ifid() const { return ifid_; }
+
     /// What the author is told of the choice of types.
     std::string_view TypeNote() const;
     /// False in adventures of type Marlo: their controls are off, and what the record holds stays.
@@ -141,6 +144,7 @@ class SettingsScreen final : public EditScreen {
 
     DropList otherFonts_;  ///< the list that `font` does not show
     std::string storedStart_;
+    std::string ifid_;
     bool voiceTested_ = false;
     std::vector<std::string> opened_;  ///< what `Typed` gave at first
 };

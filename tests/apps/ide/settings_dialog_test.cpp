@@ -269,6 +269,7 @@ TEST_F(SettingsDialogTest, TabGoesThroughThePageAndThenToTheButtons) {
                                                "author",
                                                "saveName",
                                                "version",
+                                               "ifid",
                                                "type",
                                                "startPlace",
                                                "maxObjects",

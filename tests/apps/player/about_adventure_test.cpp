@@ -5,6 +5,7 @@
 #include "qt/strings.h"
 #include "support/game_builder.h"
 #include "support/temp_folder.h"
+#include "support/template_adventure.h"
 
 namespace fabula::player {
 namespace {
@@ -42,7 +43,8 @@ TEST_F(AboutTest, TellsNameVersionAuthorAndTexts) {
                                  .SettingText("advdesc", "A vault.\u008CAnd more. ")
                                  .SettingText("advcontactinfo", "Write."));
     EXPECT_EQ(about.name, "The Vault");
-    EXPECT_EQ(about.lines, (std::vector<std::string>{"Version: 1.0", "Written by M. E."}));
+    EXPECT_EQ(about.lines, (std::vector<std::string>{"Version: 1.0", "Written by M. E.",
+                                                     std::string("IFID: ") + test::kTestIfid}));
     EXPECT_EQ(about.description, "A vault.\nAnd more.");
     EXPECT_EQ(about.contact, "Write.");
     EXPECT_TRUE(about.picture.isNull());

@@ -81,16 +81,6 @@ TEST(Commands, StandTogetherWithTheirMenuAndGroup) {
     }
 }
 
-TEST(Commands, ThatAreNotBuiltSaySoInASentence) {
-    for (const Command command :
-         {Command::BatchImport, Command::BatchExport, Command::Package, Command::TravelTable}) {
-        EXPECT_THAT(std::string(EntryOf(command).notBuilt), testing::EndsWith("."));
-    }
-    for (const Command command :
-         {Command::Export, Command::ImportGraphic, Command::Decompile, Command::KeyChange})
-        EXPECT_EQ(EntryOf(command).notBuilt, "");
-}
-
 TEST(Menus, HaveTheirNames) {
     EXPECT_EQ(NameOf(Menu::File), "&File");
     EXPECT_EQ(NameOf(Menu::Edit), "&Edit");

@@ -22,7 +22,7 @@ TEST(ReadTableRights, ReadsTheRecordOfTheKeyField) {
     EXPECT_FALSE(locations.Allows(Command::Save));
     EXPECT_TRUE(locations.Allows(Command::Print));
     EXPECT_TRUE(locations.Allows(Command::Preview));
-    EXPECT_FALSE(locations.Allows(Command::BatchImport));
+    EXPECT_TRUE(locations.Allows(Command::BatchImport));
     EXPECT_TRUE(locations.Allows(Command::BatchExport));
     EXPECT_FALSE(locations.Allows(Command::Sort));
 }

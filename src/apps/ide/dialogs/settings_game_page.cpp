@@ -128,6 +128,12 @@ void SettingsGamePage::AddGame(QFormLayout& form) {
     AddToForm(form, "Au&thor:", author_, "author");
     AddToForm(form, "&Save name:", saveName_, "saveName");
     AddToForm(form, "&Version:", version_, "version");
+    if (!screen_.Ifid().empty()) {
+        // It is there to be read and copied.
+        auto* ifid = new QLineEdit(qt::ToQt(screen_.Ifid()));
+        ifid->setReadOnly(true);
+        AddToForm(form, "IFID:", ifid, "ifid");
+    }
     AddToForm(form, "T&ype:", type_, "type");
     // The note is written for a caption, in which an ampersand is doubled.
     form.addRow(NewNote(qt::ToQt(screen_.TypeNote()).replace("&&", "&"), "typeNote"));

@@ -127,6 +127,8 @@ class MainWindow final : public QMainWindow {
     void Decompile();
     void StartTest();
     void EndTest();
+    void Package();
+    void ConvertTravelTable();
     void AboutAdventure();
     void About();
     void AskEntryMenu(const QPoint& place);

@@ -1,13 +1,16 @@
 #include <QApplication>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QTableView>
+#include <QUrl>
 
 #include "authoring/drawing/character_set_screen.h"
 #include "ide/dialogs/decompile_dialog.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/dialogs/key_dialogs.h"
+#include "ide/dialogs/package_dialog.h"
 #include "ide/dialogs/preview_dialog.h"
 #include "ide/dialogs/restore_dialog.h"
 #include "ide/dialogs/screens.h"
@@ -22,6 +25,7 @@
 #include "ide/window/job_events.h"
 #include "ide/window/main_window.h"
 #include "ide/window/record_panel.h"
+#include "packages/travel_report.h"
 #include "platform/error.h"
 #include "player/window/about_adventure.h"
 #include "qt/strings.h"
@@ -69,6 +73,10 @@ void MainWindow::Do(Command command) {
             return Restore();
         case Command::KeyChange:
             return KeyChange();
+        case Command::Package:
+            return Package();
+        case Command::TravelTable:
+            return ConvertTravelTable();
         case Command::Filter:
             return records_->FilterLine().setFocus();
         case Command::Find:
@@ -282,6 +290,49 @@ void MainWindow::Decompile() {
     authoring::DecompileScreen screen({services_.dialogs, events, services_.settings, services_.programs});
     DecompileDialog dialog(screen, this);
     dialog.exec();
+    ShowChanges();
+}
+
+void MainWindow::Package() {
+    try {
+        const auto engine =
+            std::filesystem::path(qt::FromQt(QApplication::applicationDirPath())) / "FabulaEngine";
+        std::error_code error;  // what can't be looked at is not there
+        const bool installed = std::filesystem::is_regular_file(engine, error);
+        const auto screen = packages::PackageScreen::Open(ide_.CurrentContext(), services_.settings,
+                                                          {installed ? engine : std::filesystem::path()});
+        if (screen) {
+            screen->look = [](const std::filesystem::path& file) {
+                QDesktopServices::openUrl(QUrl::fromLocalFile(qt::ToQt(file.string())));
+            };
+            PackageDialog(*screen, this).exec();
+            screen->Leave();
+        }
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+    ide_.Refresh();
+    ShowChanges();
+}
+
+void MainWindow::ConvertTravelTable() {
+    authoring::Document& document = ide_.CurrentContext().document;
+    const std::filesystem::path folder = document.Adventure().GameDir();
+    interchange::NoObserver nobody;
+    interchange::JobStatus status(nobody);
+    try {
+        const auto result = packages::Analyze_advent(document, folder / packages::kTravelData,
+                                                     folder / packages::kTravelReport, status);
+        ide_.Refresh();
+        if (result.done) {
+            ide_.Say(std::to_string(result.wordsAdded) + " words added; the report is " +
+                     packages::kTravelReport + ".");
+        } else {
+            services_.dialogs.Report(status.Text() + "Nothing was changed.", "Convert Travel Table");
+        }
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
     ShowChanges();
 }
 

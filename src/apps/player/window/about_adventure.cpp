@@ -12,6 +12,7 @@
 #include "qt/strings.h"
 #include "store/adventure.h"
 #include "store/game_path.h"
+#include "store/ifid.h"
 #include "text/line_ends.h"
 
 namespace fabula::player {
@@ -101,6 +102,8 @@ AboutAdventure AboutAdventure::Of(store::Adventure* adventure) {
     about.lines = {"Version: " + TextOf(settings, schema, "Version")};
     const std::string author = TextOf(settings, schema, "author");
     if (!author.empty()) about.lines.push_back("Written by " + author);
+    const std::string ifid = store::IfidOf(*adventure);
+    if (!ifid.empty()) about.lines.push_back("IFID: " + ifid);
     about.description = TextOf(settings, schema, "advdesc");
     about.contact = TextOf(settings, schema, "advcontactinfo");
     about.picture = PictureOf(*adventure, settings, schema);

@@ -1,0 +1,33 @@
+#include <iostream>
+
+#include "cli/verbs.h"
+#include "packages/cover.h"
+#include "packages/ifiction.h"
+
+namespace fabula::cli {
+namespace {
+
+struct Options {
+    std::string file;
+};
+
+int Print(const Options& options) {
+    const auto adventure = OpenToRead(options.file);
+    const packages::GameFacts facts = packages::ReadFacts(*adventure);
+    const packages::CoverSearch search = packages::FindCover(*adventure, facts);
+    std::cout << packages::IFictionRecord(facts, search.cover ? &*search.cover : nullptr);
+    if (!search.cover) std::cerr << search.why << "\n";
+    return kDone;
+}
+
+}  // namespace
+
+void AddIfictionVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb =
+        app.add_subcommand("ifiction", "Prints the iFiction record by which libraries know a game");
+    AddAdventureOption(*verb, options->file)->required();
+    Runs(*verb, chosen, options, Print);
+}
+
+}  // namespace fabula::cli

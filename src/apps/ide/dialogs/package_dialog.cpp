@@ -1,0 +1,163 @@
+#include "ide/dialogs/package_dialog.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "qt/help_request.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+
+using packages::PackageScreen;
+
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kLettersOfTheList = 70;
+constexpr int kLinesOfTheReadMe = 5;
+
+QPushButton* AddButton(QHBoxLayout& row, const QString& text, const char* name) {
+    auto* button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setAccessibleName(QString(text).remove('&'));
+    button->setAutoDefault(false);
+    row.addWidget(button);
+    return button;
+}
+
+QCheckBox* NewBox(std::string_view text, const char* name) {
+    auto* box = new QCheckBox(qt::ToQt(text));
+    box->setObjectName(name);
+    box->setAccessibleName(box->text().simplified());
+    return box;
+}
+
+}  // namespace
+
+PackageDialog::PackageDialog(PackageScreen& screen, QWidget* parent)
+    : QDialog(parent),
+      screen_(screen),
+      version_(new QLineEdit(qt::ToQt(screen.version))),
+      engine_(NewBox(PackageScreen::kIncludeEngine, "includeEngine")),
+      files_(new QTableWidget(0, 2)),
+      readMe_(new QPlainTextEdit),
+      look_(NewBox(PackageScreen::kLookAtReadMe, "lookAtReadMe")) {
+    setObjectName("package");
+    setWindowTitle(qt::ToQt(PackageScreen::kTitle));
+    setProperty(qt::kHelpPage, "frmpackage.html");
+    setWindowModality(Qt::WindowModal);  // the help can be read beside it
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(10);
+    auto* form = new QFormLayout;
+    version_->setObjectName("version");
+    version_->setAccessibleName("Version");
+    form->addRow("&Version:", version_);
+    layout->addLayout(form);
+    AddList(*layout);
+    AddReadMe(*layout);
+    AddButtons(*layout);
+    Show();
+    version_->setFocus();
+}
+
+void PackageDialog::AddList(QVBoxLayout& layout) {
+    files_->setObjectName("files");
+    files_->setAccessibleName("Files of the package");
+    files_->setHorizontalHeaderLabels({"Type", "Name"});
+    files_->horizontalHeader()->setStretchLastSection(true);
+    files_->verticalHeader()->hide();
+    files_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    files_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    files_->setSelectionMode(QAbstractItemView::SingleSelection);
+    files_->setTabKeyNavigation(false);
+    files_->setMinimumWidth(fontMetrics().averageCharWidth() * kLettersOfTheList);
+    layout.addWidget(files_, 2);
+    auto* row = new QHBoxLayout;
+    auto* add = AddButton(*row, "&Add Files...", "addFiles");
+    auto* remove = AddButton(*row, "&Delete", "delete");
+    row->addStretch(1);
+    row->addWidget(engine_);
+    layout.addLayout(row);
+    connect(add, &QPushButton::clicked, this, [this] {
+        screen_.AddFile();
+        Show();
+    });
+    connect(remove, &QPushButton::clicked, this, [this] {
+        if (files_->currentRow() < 0) return;
+        screen_.DeleteFile(static_cast<std::size_t>(files_->currentRow()));
+        Show();
+    });
+    connect(engine_, &QCheckBox::toggled, this, [this](bool on) {
+        screen_.ClickIncludeEngine(on);
+        Show();
+    });
+}
+
+void PackageDialog::AddReadMe(QVBoxLayout& layout) {
+    auto* label = new QLabel(qt::ToQt(PackageScreen::kLabel));
+    label->setWordWrap(true);
+    label->setBuddy(readMe_);
+    layout.addWidget(label);
+    readMe_->setObjectName("readMe");
+    readMe_->setAccessibleName("What is added to the ReadMe");
+    readMe_->setTabChangesFocus(true);
+    readMe_->setMinimumHeight(fontMetrics().lineSpacing() * kLinesOfTheReadMe);
+    layout.addWidget(readMe_, 1);
+    auto* row = new QHBoxLayout;
+    auto* browse = AddButton(*row, "&Browse for Readme...", "browse");
+    row->addStretch(1);
+    row->addWidget(look_);
+    layout.addLayout(row);
+    connect(browse, &QPushButton::clicked, this, [this] {
+        Read();
+        screen_.BrowseForReadMe();
+        Show();
+    });
+}
+
+void PackageDialog::AddButtons(QVBoxLayout& layout) {
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    auto* pack = AddButton(*row, "&Package", "pack");
+    pack->setDefault(true);
+    auto* exit = AddButton(*row, "E&xit", "exit");
+    layout.addLayout(row);
+    connect(pack, &QPushButton::clicked, this, [this] {
+        Read();
+        if (screen_.Package()) accept();
+    });
+    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void PackageDialog::Read() {
+    screen_.version = qt::FromQt(version_->text());
+    screen_.readMeText = qt::FromQt(readMe_->toPlainText());
+    screen_.lookAtReadMe = look_->isChecked();
+}
+
+void PackageDialog::Show() {
+    const int current = files_->currentRow();
+    files_->setRowCount(static_cast<int>(screen_.Rows().size()));
+    int line = 0;
+    for (const packages::PackageRow& row : screen_.Rows()) {
+        files_->setItem(line, 0, new QTableWidgetItem(qt::ToQt(row.type)));
+        files_->setItem(line, 1, new QTableWidgetItem(qt::ToQt(row.name)));
+        ++line;
+    }
+    if (line > 0) files_->setCurrentCell(std::clamp(current, 0, line - 1), 0);
+    const QSignalBlocker quiet(engine_);
+    engine_->setChecked(screen_.IncludesEngine());
+    if (qt::FromQt(readMe_->toPlainText()) != screen_.readMeText)
+        readMe_->setPlainText(qt::ToQt(screen_.readMeText));
+}
+
+}  // namespace fabula::ide

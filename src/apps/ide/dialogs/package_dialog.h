@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+
+#include "packages/package_screen.h"
+
+class QCheckBox;
+class QLineEdit;
+class QPlainTextEdit;
+class QTableWidget;
+class QVBoxLayout;
+
+namespace fabula::ide {
+
+/// The window of `PackageScreen`: the files in a list, what goes into the ReadMe, and the button that
+/// packs.
+class PackageDialog final : public QDialog {
+  public:
+    explicit PackageDialog(packages::PackageScreen& screen, QWidget* parent = nullptr);
+
+  private:
+    void AddList(QVBoxLayout& layout);
+    void AddReadMe(QVBoxLayout& layout);
+    void AddButtons(QVBoxLayout& layout);
+    void Read();
+    void Show();
+
+    packages::PackageScreen& screen_;
+    QLineEdit* version_;
+    QCheckBox* engine_;
+    QTableWidget* files_;
+    QPlainTextEdit* readMe_;
+    QCheckBox* look_;
+};
+
+}  // namespace fabula::ide

@@ -1,0 +1,85 @@
+#include "packages/package_list.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "packed_game.h"
+
+namespace fabula::packages {
+namespace {
+
+using store::TableNum;
+using testing::ElementsAre;
+
+std::vector<std::string> Lines(const PackageList& list) {
+    std::vector<std::string> lines;
+    for (const PackageRow& row : list.Rows())
+        lines.push_back(row.type + " " + row.name);
+    return lines;
+}
+
+TEST(PackageList, HoldsTheDatabaseTheGraphicsAndTheReadMe) {
+    PackedGame game;
+    game.Set("advpicloc", std::string("about.png"));
+    game.Set("defpicloc", std::string("default.bmp"));
+    game.SetPicture(0, "rooms/0.bmp");
+    EXPECT_THAT(Lines(PackageList(game.Adventure())),
+                ElementsAre("DB game.fbd", "Graphic about.png", "Graphic default.bmp",
+                            "Graphic rooms/0.bmp", "ReadMe The Lamp.ReadMe"));
+}
+
+TEST(PackageList, APictureNamedBothByARoomAndByPicturesIsListedOnce) {
+    PackedGame game;
+    game.SetPicture(0, "Room.bmp");
+    game.Add(TableNum::Pictures, {{"locnum", std::int64_t{0}},
+                                  {"picname", std::string("ROOM.BMP")},
+                                  {"drawstring", std::string("END")}});
+    EXPECT_THAT(Lines(PackageList(game.Adventure())),
+                ElementsAre("DB game.fbd", "Graphic Room.bmp", "ReadMe The Lamp.ReadMe"));
+}
+
+TEST(PackageList, WithGraphicsInDbOnNoGraphicRowsAppear) {
+    PackedGame game;
+    game.SetPicture(0, "room.bmp");
+    game.Set("graphicsindb", std::int64_t{1});
+    EXPECT_THAT(Lines(PackageList(game.Adventure())), ElementsAre("DB game.fbd", "ReadMe The Lamp.ReadMe"));
+}
+
+TEST(PackageList, NamesTheReadMeBySaveNameWhenTheGameHasNoName) {
+    PackedGame game("");
+    game.Set("savename", std::string("lamp"));
+    EXPECT_EQ(PackageList(game.Adventure()).ReadMeName(), "lamp.ReadMe");
+}
+
+TEST(PackageList, KeepsFilesFromOneOpeningToTheNextAndBuildsGraphicsAnew) {
+    PackedGame game;
+    game.SetPicture(0, "old.bmp");
+    PackageList first(game.Adventure());
+    EXPECT_TRUE(first.Add(package_type::kFile, "map.txt"));
+    EXPECT_FALSE(first.Add(package_type::kFile, "MAP.TXT"));
+    first.Store(game.Adventure());
+    game.SetPicture(0, "new.bmp");
+    EXPECT_THAT(Lines(PackageList(game.Adventure())),
+                ElementsAre("DB game.fbd", "Graphic new.bmp", "File map.txt", "ReadMe The Lamp.ReadMe"));
+    EXPECT_THAT(game.Rows(TableNum::Package, "pkginclude,pkgtype,pkgname,pkgpackage"),
+                ElementsAre("X|DB|game.fbd|The Lamp", "X|Graphic|old.bmp|The Lamp",
+                            "X|File|map.txt|The Lamp", "X|ReadMe|The Lamp.ReadMe|The Lamp"));
+}
+
+TEST(PackageList, IsKeptUnderTheFirstTwelveCharactersOfTheName) {
+    PackedGame game("The Lighthouse at the End");
+    PackageList list(game.Adventure());
+    list.Store(game.Adventure());
+    EXPECT_THAT(game.Rows(TableNum::Package, "pkgpackage", "pkgtype='DB'"), ElementsAre("The Lighthou"));
+}
+
+TEST(PackageList, StoredTwiceWritesOnce) {
+    PackedGame game;
+    PackageList(game.Adventure()).Store(game.Adventure());
+    const auto before = game.Everything();
+    PackageList(game.Adventure()).Store(game.Adventure());
+    EXPECT_EQ(game.Everything(), before);
+}
+
+}  // namespace
+}  // namespace fabula::packages

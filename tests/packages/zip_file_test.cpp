@@ -1,0 +1,85 @@
+#include "packages/zip_file.h"
+
+#include <fstream>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/child_process.h"
+#include "support/raw_database.h"
+#include "support/temp_folder.h"
+#include "zipped.h"
+
+namespace fabula::packages {
+namespace {
+
+using testing::ElementsAre;
+using testing::Pair;
+
+TEST(ZipErrorText, GivesTheTextOfEachCode) {
+    EXPECT_EQ(ZipErrorText(2), "Zip Error code 2: Unexpected End Of Zip File Error");
+    EXPECT_EQ(ZipErrorText(7), "Zip Error code 7: Invalid Comment Format Error");
+    EXPECT_EQ(ZipErrorText(8), "Zip Error code 8: Invalid Comment Format Error");
+    EXPECT_EQ(ZipErrorText(12), "Zip Error code 12: Nothing To Do Error");
+    EXPECT_EQ(ZipErrorText(15), "Zip Error code 15: Could't Open To Write Error");
+    EXPECT_EQ(ZipErrorText(18), "Zip Error code 18: Could Not Open A Specified File To Read Error");
+    EXPECT_EQ(ZipErrorText(17), "Zip Error code 17: ");
+}
+
+TEST(WriteZip, PacksFilesUnderTheirNames) {
+    const test::TempFolder folder;
+    WriteZip(folder / "game.zip",
+             {{"game.fbd", "adventure"}, {"pictures/höhle.png", std::string(9999, 'p')}});
+    EXPECT_THAT(
+        Unzipped(folder / "game.zip"),
+        ElementsAre(Pair("game.fbd", "adventure"), Pair("pictures/höhle.png", std::string(9999, 'p'))));
+}
+
+TEST(WriteZip, GivesTheSameBytesForTheSameFiles) {
+    const test::TempFolder folder;
+    const std::vector<PackedFile> files = {{"b", std::string(5000, 'x')}, {"a", "y", true}};
+    WriteZip(folder / "1.zip", files);
+    WriteZip(folder / "2.zip", files);
+    EXPECT_TRUE(test::ReadBytes(folder / "1.zip") == test::ReadBytes(folder / "2.zip"));
+}
+
+TEST(WriteZip, ReplacesAnOldZipOfMoreFiles) {
+    const test::TempFolder folder;
+    WriteZip(folder / "game.zip", {{"a", "1"}, {"b", "2"}});
+    WriteZip(folder / "game.zip", {{"c", "3"}});
+    EXPECT_THAT(Unzipped(folder / "game.zip"), ElementsAre(Pair("c", "3")));
+}
+
+TEST(WriteZip, OfNothingIsNothingToDo) {
+    const test::TempFolder folder;
+    try {
+        WriteZip(folder / "game.zip", {});
+        FAIL();
+    } catch (const ZipFailure& failure) {
+        EXPECT_EQ(failure.Code(), 12);
+    }
+}
+
+TEST(WriteZip, LeavesTheOldZipWhenTheDiskIsFull) {
+    const test::TempFolder folder;
+    WriteZip(folder / "game.zip", {{"old", "as it was"}});
+    const std::string before = test::ReadBytes(folder / "game.zip");
+    std::string noise;
+    for (unsigned n = 1; noise.size() < 200'000; n = n * 1664525U + 1013904223U)
+        noise += static_cast<char>(n >> 24);
+    const int code = test::RunInChild([&] {
+        test::LimitFileSize(50'000);
+        try {
+            WriteZip(folder / "game.zip", {{"new", noise}});
+        } catch (const ZipFailure& failure) {
+            return failure.Code();
+        }
+        return 0;
+    });
+    EXPECT_EQ(code, 14);
+    EXPECT_TRUE(test::ReadBytes(folder / "game.zip") == before);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
+}
+
+}  // namespace
+}  // namespace fabula::packages
