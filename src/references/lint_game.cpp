@@ -36,10 +36,12 @@ std::vector<LintText> Texts(store::Adventure& adventure, TableNum table, std::st
 }  // namespace
 
 LintGame::LintGame(store::Adventure& adventure)
-    : index(adventure), uses(index.AllUses()), facts(condacts::LoadFacts(adventure)) {
+    : index(adventure),
+      uses(index.AllUses()),
+      catalogue(condacts::LoadCatalogue(adventure)),
+      facts(condacts::LoadFacts(adventure)) {
     const store::ReadTransaction reading(adventure);
     Read(adventure);
-    const condacts::Catalogue catalogue = condacts::LoadCatalogue(adventure);
     ForEachRow(adventure, TableNum::ProcessTables, "canum, estype, w1num, w2num, condacts, numericcondacts",
                "estype, w1num, w2num, canum", [&](const PreparedQuery& row) {
                    auto entry = std::make_unique<LintEntry>();

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "condacts/catalogue.h"
 #include "condacts/facts.h"
 #include "condacts/parser.h"
 #include "references/index.h"
@@ -67,6 +68,7 @@ struct LintGame {
 
     Index index;
     std::map<Target, std::vector<KeptUse>> uses;
+    condacts::Catalogue catalogue;  ///< the statements of entries look into it
     condacts::Facts facts;
     bool draws = false;  ///< it has pictures or character sets of its own
     bool characterSets = false;
