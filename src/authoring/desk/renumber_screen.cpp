@@ -1,6 +1,7 @@
 #include "authoring/desk/renumber_screen.h"
 
 #include "condacts/parser.h"
+#include "platform/error.h"
 #include "references/place_text.h"
 #include "text/str_edit.h"
 
@@ -45,6 +46,14 @@ std::vector<std::string> RenumberScreen::Preview() {
 }
 
 bool RenumberScreen::Update() {
+    try {
+        return Store();
+    } catch (const Error& error) {
+        return Refuse(context_.dialogs, error.what());
+    }
+}
+
+bool RenumberScreen::Store() {
     const references::RenumberPlan plan = Plan();
     if (!plan.refusal.empty()) return Refuse(context_.dialogs, plan.refusal);
     const int to = condacts::WholeNumber(text::TrimBlanks(number)).value_or(0);

@@ -35,6 +35,7 @@ class RenumberScreen {
 
   private:
     references::RenumberPlan Plan() const;
+    bool Store();
 
     ScreenContext& context_;
     references::Target target_;

@@ -56,10 +56,12 @@ bool ReplaceScreen::Replace() {
     }
     if (ticked.empty()) return Refuse(context_.dialogs, "Nothing is ticked that could be replaced.");
     references::Replaced done;
-    {
+    try {
         Change change(context_.document, "replace " + wanted.text);
         done = references::ReplaceHits(context_.document.Adventure(), ticked);
         change.Commit();
+    } catch (const Error& error) {
+        return Refuse(context_.dialogs, error.what());
     }
     std::string refused;
     for (const std::string& why : done.refused)

@@ -8,7 +8,6 @@
 #include <QVBoxLayout>
 
 #include "ide/editors/help_pages.h"
-#include "platform/error.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 

@@ -10,6 +10,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTreeWidget;
+class QVBoxLayout;
 
 namespace fabula::ide {
 
@@ -25,8 +26,8 @@ class ReplaceDialog final : public QDialog {
     const authoring::ReplaceScreen::Found* GoTo() const { return goTo_; }
 
   private:
-    void MakeLines(class QVBoxLayout& layout);
-    void MakeList(class QVBoxLayout& layout);
+    void MakeLines(QVBoxLayout& layout);
+    void MakeList(QVBoxLayout& layout);
     void Find();
     void Replace();
     void ShowFound();

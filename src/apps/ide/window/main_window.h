@@ -103,6 +103,7 @@ class MainWindow final : public QMainWindow {
     void ShowUses();
 
     void DoJump(authoring::Command command);
+    void RunJump(authoring::Command command);
     void Jump(const authoring::Jump& jump);
     void GoToNamed();
     void GoToAnything();

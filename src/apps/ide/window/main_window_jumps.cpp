@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <QTableView>
 
 #include "ide/dialogs/quick_list_dialog.h"
@@ -31,6 +32,14 @@ std::vector<std::string> TextsOf(const std::vector<JumpLine>& lines) {
 }  // namespace
 
 void MainWindow::DoJump(Command command) {
+    try {
+        RunJump(command);
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+}
+
+void MainWindow::RunJump(Command command) {
     switch (command) {
         case Command::Uses:
             uses_->show();
@@ -59,7 +68,11 @@ void MainWindow::DoJump(Command command) {
 
 void MainWindow::ShowUses() {
     if (!uses_->isVisibleTo(this)) return;
-    uses_->Show(navigator_.Title(), navigator_.Lines());
+    try {
+        uses_->Show(navigator_.Title(), navigator_.Lines());
+    } catch (const Error& error) {
+        uses_->Show(error.what(), {});
+    }
 }
 
 void MainWindow::Jump(const authoring::Jump& jump) {
@@ -124,11 +137,7 @@ void MainWindow::ChooseCommand() {
 void MainWindow::Replace() {
     authoring::ReplaceScreen screen(ide_.CurrentContext());
     ReplaceDialog dialog(screen, this);
-    try {
-        dialog.exec();
-    } catch (const Error& error) {
-        services_.dialogs.Tell(error.what(), "Error");
-    }
+    dialog.exec();
     ide_.Refresh();
     if (!screen.Status().empty()) ide_.Say(screen.Status());
     ShowChanges();
