@@ -52,7 +52,8 @@ class Checks {
         const store::TableSchema& schema = adventure_.Schema(field.table);
         const store::Field& declared = schema.fields[*schema.Find(field.field)];
         if (const auto fault = store::FaultOf(schema, declared, text::Value(value))) return *fault;
-        return text::ValidateDescription(value, field.markup, tags_).BoxText();
+        const text::Verdict verdict = text::ValidateDescription(value, field.markup, tags_);
+        return verdict.IsValid() ? std::string() : verdict.BoxText();
     }
 
     /// The compiled form of a line that has no fault.
