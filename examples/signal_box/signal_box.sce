@@ -285,6 +285,7 @@ LEG     101 noun
 ANKLE   101 noun
 FOOT    101 noun
 BOOT    101 noun
+; CROSS, CUTTI and CHAIR are there to be known, so that EXAMINE answers: lint off word-unused
 CROSS   102 noun
 ROAD    102 noun
 LANE    102 noun

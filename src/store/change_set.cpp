@@ -44,6 +44,23 @@ std::string Inverted(std::string_view changes) {
     return std::string(static_cast<const char*>(data), static_cast<std::size_t>(size));
 }
 
+/// Calls `use` with the table of each record of a change set, and where the iterator stands on it.
+template <typename Use>
+void ForEachRecord(std::string_view changes, Use use) {
+    if (changes.empty()) return;
+    const Bytes bytes = BytesOf(changes);
+    sqlite3_changeset_iter* iterator = nullptr;
+    Check(sqlite3changeset_start(&iterator, bytes.size, bytes.data), "read a change");
+    while (sqlite3changeset_next(iterator) == SQLITE_ROW) {
+        const char* name = nullptr;
+        int columns = 0;
+        int operation = 0;
+        sqlite3changeset_op(iterator, &name, &columns, &operation, nullptr);
+        if (const TableEntry* table = FindTable(std::string_view(name))) use(table->number, iterator);
+    }
+    Check(sqlite3changeset_finalize(iterator), "read a change");
+}
+
 int RefuseConflict(void*, int, sqlite3_changeset_iter*) {
     return SQLITE_CHANGESET_ABORT;
 }
@@ -62,6 +79,10 @@ ChangeRecorder::ChangeRecorder(Adventure& adventure) : session_(std::make_unique
 }
 
 ChangeRecorder::~ChangeRecorder() = default;
+
+Connection& ChangeRecorder::ConnectionOf(Adventure& adventure) {
+    return *adventure.connection_;
+}
 
 std::string ChangeRecorder::Changes() const {
     int size = 0;
@@ -106,19 +127,21 @@ std::string Joined(std::string_view first, std::string_view second) {
 
 std::set<TableNum> TablesOf(std::string_view changes) {
     std::set<TableNum> tables;
-    if (changes.empty()) return tables;
-    const Bytes bytes = BytesOf(changes);
-    sqlite3_changeset_iter* iterator = nullptr;
-    Check(sqlite3changeset_start(&iterator, bytes.size, bytes.data), "read a change");
-    while (sqlite3changeset_next(iterator) == SQLITE_ROW) {
-        const char* name = nullptr;
-        int columns = 0;
-        int operation = 0;
-        sqlite3changeset_op(iterator, &name, &columns, &operation, nullptr);
-        if (const TableEntry* table = FindTable(std::string_view(name))) tables.insert(table->number);
-    }
-    Check(sqlite3changeset_finalize(iterator), "read a change");
+    ForEachRecord(changes, [&](TableNum table, sqlite3_changeset_iter*) { tables.insert(table); });
     return tables;
+}
+
+std::set<TouchedRecord> RecordsOf(std::string_view changes) {
+    std::set<TouchedRecord> records;
+    ForEachRecord(changes, [&](TableNum table, sqlite3_changeset_iter* iterator) {
+        // The store's key is the first column of every table. It stands among the old values, but for
+        // records that are new.
+        sqlite3_value* key = nullptr;
+        if (sqlite3changeset_old(iterator, 0, &key) != SQLITE_OK || key == nullptr)
+            Check(sqlite3changeset_new(iterator, 0, &key), "read a change");
+        records.insert({table, sqlite3_value_int64(key)});
+    });
+    return records;
 }
 
 }  // namespace fabula::store

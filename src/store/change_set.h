@@ -1,5 +1,7 @@
 #pragma once
 
+#include <compare>
+#include <cstdint>
 #include <memory>
 #include <set>
 #include <string>
@@ -10,6 +12,7 @@
 namespace fabula::store {
 
 class Adventure;
+class Connection;
 
 /// Records what happens to the records of all tables, to be taken back or done again. It records from its
 /// making to its end; recorders may overlap.
@@ -25,6 +28,9 @@ class ChangeRecorder {
     std::string Changes() const;
 
   private:
+    friend class KeyedRows;
+    static Connection& ConnectionOf(Adventure& adventure);
+
     struct Session;
     std::unique_ptr<Session> session_;
 };
@@ -43,5 +49,16 @@ std::string Joined(std::string_view first, std::string_view second);
 
 /// The tables whose records a change set touches.
 std::set<TableNum> TablesOf(std::string_view changes);
+
+/// A record that a change set touches, by the key that the store knows it by (keyed_rows.h).
+struct TouchedRecord {
+    TableNum table = TableNum::Adventure;
+    std::int64_t storeKey = 0;
+
+    friend auto operator<=>(const TouchedRecord&, const TouchedRecord&) = default;
+};
+
+/// The records that a change set adds, changes or deletes.
+std::set<TouchedRecord> RecordsOf(std::string_view changes);
 
 }  // namespace fabula::store

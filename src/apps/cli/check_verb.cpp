@@ -1,4 +1,3 @@
-#include <cstdlib>
 #include <filesystem>
 
 #include "authoring/jobs/verify.h"
@@ -6,9 +5,8 @@
 #include "cli/encoding_option.h"
 #include "cli/fault_report.h"
 #include "cli/file_kind_option.h"
+#include "cli/source_adventure.h"
 #include "cli/verbs.h"
-#include "platform/error.h"
-#include "text/utf8.h"
 
 namespace fabula::cli {
 namespace {
@@ -20,40 +18,8 @@ struct Options {
     bool json = false;
 };
 
-/// A folder for one run, deleted with what it holds.
-class ScratchFolder {
-  public:
-    ScratchFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "fabula-check-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) throw Error("Could not make a folder for temporary files.");
-        path_ = name;
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-
-    const std::filesystem::path& Path() const { return path_; }
-
-  private:
-    std::filesystem::path path_;
-};
-
-/// The kind that was named, or else the one whose files have the source's extension.
-const interchange::FileKind& KindOf(const Options& options) {
-    if (!options.kind.empty()) return ReadableKind(options.kind);
-    const std::string extension = std::filesystem::path(options.source).extension().string();
-    for (const interchange::FileKind& kind : interchange::FileKinds()) {
-        if (kind.CanRead() && text::EqualsNoCase(kind.extension, extension)) return kind;
-    }
-    throw UsageError("what kind of source " + options.source +
-                     " is can't be told from its name; use --kind");
-}
-
 int Check(const Options& options) {
-    const interchange::FileKind& kind = KindOf(options);
+    const interchange::FileKind& kind = KindOfSource(options.source, options.kind);
     const ScratchFolder folder;
     const std::filesystem::path file = folder.Path() / "check.fbd";
     Console console(options.json ? std::cerr : std::cout);

@@ -38,6 +38,13 @@ enum class Command {
     FindNext,
     Filter,
     Sort,
+    Replace,
+    GoToAnything,
+    GoToNamed,
+    Uses,
+    Back,
+    Forward,
+    Renumber,
     // Game
     Run,
     Trace,  ///< whether a test is traced; switched on and off
@@ -49,6 +56,7 @@ enum class Command {
     ShortDescriptions,
     KeyChange,
     TravelTable,
+    Palette,
     // Help
     Help,
     HelpContents,

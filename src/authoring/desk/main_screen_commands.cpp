@@ -1,6 +1,7 @@
 #include "authoring/desk/batch_commands.h"
 #include "authoring/desk/ide_settings.h"
 #include "authoring/desk/main_screen.h"
+#include "authoring/desk/renumber_screen.h"
 #include "authoring/entries/last_records.h"
 #include "authoring/fields/short_desc.h"
 #include "text/str_edit.h"
@@ -25,29 +26,16 @@ bool AlwaysWorks(Command command) {
         case Command::HelpContents:
         case Command::AboutAdventure:
         case Command::About:
+        case Command::Palette:
             return true;
         default:
             return false;
     }
 }
 
-std::optional<EntryCommand> EntryCommandOf(Command command) {
-    switch (command) {
-        case Command::Add:
-            return EntryCommand::Add;
-        case Command::AddBefore:
-            return EntryCommand::AddBefore;
-        case Command::Edit:
-            return EntryCommand::Edit;
-        case Command::Delete:
-            return EntryCommand::Delete;
-        default:
-            return std::nullopt;
-    }
-}
-
 bool NeedsRecord(Command command) {
-    return command == Command::Edit || command == Command::Delete || command == Command::AddBefore;
+    return command == Command::Edit || command == Command::Delete || command == Command::AddBefore ||
+           command == Command::GoToNamed || command == Command::Uses || command == Command::Renumber;
 }
 
 bool IsFind(Command command) {
@@ -115,8 +103,8 @@ std::string MainScreen::WhyNot(Command command) const {
     if (IsLoadOrSave(command) && grid_.View().table != TableNum::Characters)
         return "This version cannot yet load pictures and keypad templates.";
     if (IsFind(command) && grid_.View().table == TableNum::Adventure) return "The settings have no Find.";
-    const auto entryCommand = EntryCommandOf(command);
-    if (!entryCommand) return "";
+    if (command == Command::Renumber && !RenumberScreen::CanRenumber(grid_.View().table))
+        return Caption() + " does not offer this.";
     if (NeedsRecord(command) && row_ < 0) return "No record is selected.";
     return "";
 }

@@ -50,6 +50,7 @@ std::set<store::TableNum> Document::Undo() {
     undone_.push_back(std::move(done_.back()));
     done_.pop_back();
     adventure_->ReadSettings();
+    TellOf(changes);
     return store::TablesOf(changes);
 }
 
@@ -60,6 +61,7 @@ std::set<store::TableNum> Document::Redo() {
     done_.push_back(std::move(undone_.back()));
     undone_.pop_back();
     adventure_->ReadSettings();
+    TellOf(changes);
     return store::TablesOf(changes);
 }
 
@@ -89,6 +91,10 @@ void Document::Forget(std::deque<Step>& steps) {
     for (const Step& step : steps)
         log_->Remove(step.changes);
     steps.clear();
+}
+
+void Document::TellOf(std::string_view changes) const {
+    if (onChange) onChange(changes);
 }
 
 Change::Change(Document& document, std::string name)
@@ -126,13 +132,15 @@ void Change::CommitAsStep() {
     if (!joins_) {
         Document::Step step{name_, document_.log_->Add(changes)};
         transaction_.Commit();
-        return document_.Add(std::move(step));
+        document_.Add(std::move(step));
+        return document_.TellOf(changes);
     }
     Document::Step& latest = document_.done_.back();
     const std::string before = document_.log_->Get(latest.changes);
     const std::int64_t joined = document_.log_->Add(store::Joined(before, changes));
     transaction_.Commit();
     document_.Replace(latest, joined);
+    document_.TellOf(changes);
 }
 
 }  // namespace fabula::authoring

@@ -4,10 +4,12 @@
 #include <cstdint>
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "store/adventure.h"
 #include "store/change_log.h"
@@ -70,6 +72,10 @@ class Document {
     /// could be undone still can. Throws fabula::Error, and nothing has happened then.
     void SaveAs(const std::filesystem::path& file);
 
+    /// Told of each change set that has become part of the file, was taken back or made again: for what
+    /// follows the records (references/index.h). It must not change anything.
+    std::function<void(std::string_view changes)> onChange;
+
     /// The most changes that can be undone; older ones are forgotten.
     static constexpr std::size_t kMostChanges = 1000;
 
@@ -85,6 +91,7 @@ class Document {
     void Add(Step step);
     void Replace(Step& step, std::int64_t changes);
     void Forget(std::deque<Step>& steps);
+    void TellOf(std::string_view changes) const;
 
     std::unique_ptr<store::Adventure> adventure_;
     std::optional<store::ChangeLog> log_;  ///< without one nothing is changed

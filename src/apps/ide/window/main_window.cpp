@@ -28,6 +28,7 @@
 #include "ide/window/game_test.h"
 #include "ide/window/record_panel.h"
 #include "ide/window/tree_panel.h"
+#include "ide/window/uses_pane.h"
 #include "qt/qt_settings.h"
 #include "qt/strings.h"
 
@@ -46,6 +47,7 @@ constexpr int kTreeWidth = 250;
 // Where the window's look is kept.
 constexpr const char* kGeometry = "Desk/Geometry";
 constexpr const char* kSplitter = "Desk/Splitter";
+constexpr const char* kUsesShown = "Desk/Uses";
 
 }  // namespace
 
@@ -53,6 +55,7 @@ MainWindow::MainWindow(const Services& services, Places places)
     : services_(services),
       places_(std::move(places)),
       ide_({services.dialogs, services.settings, services.clock, services.events}, places_.desk),
+      navigator_(ide_),
       help_(places_.help, services.dialogs),
       pages_(new QStackedWidget),
       empty_(new EmptyPage({.create = [this] { Do(Command::New); },
@@ -100,6 +103,7 @@ MainWindow::MainWindow(const Services& services, Places places)
                                  find_->hide();
                                  records_->Grid().setFocus();
                              }})),
+      uses_(new UsesPane([this](const authoring::Jump& jump) { Jump(jump); })),
       actions_(new CommandActions(this, [this](Command command) { Do(command); })),
       message_(new QLabel),
       tableStatus_(new QLabel),
@@ -130,8 +134,10 @@ void MainWindow::MakePages() {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(records_, 1);
+    column->addWidget(uses_);
     column->addWidget(find_);
     find_->hide();
+    uses_->setVisible(services_.store.value(kUsesShown, false).toBool());
     desk_->setChildrenCollapsible(false);
     desk_->setHandleWidth(1);
     desk_->addWidget(tree_);
@@ -175,6 +181,14 @@ void MainWindow::MakeMenus() {
     }
     view->addSeparator();
     view->addAction(bar->toggleViewAction());
+    QAction* uses = view->addAction(tr("&Uses"), this, [this](bool shown) {
+        uses_->setVisible(shown);
+        ShowUses();
+    });
+    uses->setObjectName("UsesShown");
+    uses->setCheckable(true);
+    QObject::connect(view, &QMenu::aboutToShow, this,
+                     [this, uses] { uses->setChecked(uses_->isVisibleTo(desk_)); });
 }
 
 void MainWindow::MakeThemeMenu(QMenu& view) {
@@ -249,6 +263,7 @@ void MainWindow::Start(const std::filesystem::path& file) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     services_.store.setValue(kGeometry, saveGeometry());
     services_.store.setValue(kSplitter, desk_->saveState());
+    services_.store.setValue(kUsesShown, uses_->isVisibleTo(desk_));
     ide_.End();
     help_.Close();
     event->accept();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "authoring/desk/main_screen.h"
+#include "authoring/desk/navigator.h"
 #include "authoring/drawing/character_set_files.h"
 #include "authoring/jobs/interchange_screen.h"
 #include "authoring/jobs/verify_screen.h"
@@ -35,6 +36,7 @@ class FindBar;
 class GameTest;
 class RecordPanel;
 class TreePanel;
+class UsesPane;
 
 /// What the window asks of its program. All of it outlives the window.
 struct Services {
@@ -105,6 +107,16 @@ class MainWindow final : public QMainWindow {
     void ShowColumns();
     void ShowRecent();
     void NextPane(int direction);
+    void ShowUses();
+
+    void DoJump(authoring::Command command);
+    void RunJump(authoring::Command command);
+    void Jump(const authoring::Jump& jump);
+    void GoToNamed();
+    void GoToAnything();
+    void ChooseCommand();
+    void Replace();
+    void Renumber();
 
     void New();
     void Open(const std::filesystem::path& file);
@@ -137,6 +149,7 @@ class MainWindow final : public QMainWindow {
     Services services_;
     Places places_;
     authoring::MainScreen ide_;
+    authoring::Navigator navigator_;
     qt::Help help_;
     authoring::TableView shownView_;
     std::filesystem::path shownFile_;  ///< whose table it is; empty for none
@@ -148,6 +161,7 @@ class MainWindow final : public QMainWindow {
     TreePanel* tree_;
     RecordPanel* records_;
     FindBar* find_;
+    UsesPane* uses_;
     CommandActions* actions_;
     std::unique_ptr<QProgressDialog> upgrade_;  ///< while the steps of an upgrade run
     QMenu* tables_ = nullptr;

@@ -77,6 +77,15 @@ void MainWindow::Do(Command command) {
             return Package();
         case Command::TravelTable:
             return ConvertTravelTable();
+        case Command::Uses:
+        case Command::GoToNamed:
+        case Command::GoToAnything:
+        case Command::Back:
+        case Command::Forward:
+        case Command::Replace:
+        case Command::Renumber:
+        case Command::Palette:
+            return DoJump(command);
         case Command::Filter:
             return records_->FilterLine().setFocus();
         case Command::Find:

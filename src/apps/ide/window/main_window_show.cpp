@@ -19,6 +19,7 @@
 #include "ide/window/main_window.h"
 #include "ide/window/record_panel.h"
 #include "ide/window/tree_panel.h"
+#include "ide/window/uses_pane.h"
 #include "qt/help_book.h"
 #include "qt/icons.h"
 #include "qt/strings.h"
@@ -73,6 +74,7 @@ void MainWindow::ShowRow() {
     records_->setProperty(qt::kHelpPage, topic.page);
     records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
     ShowPicture();
+    ShowUses();
     ShowActions();
 }
 
@@ -150,7 +152,7 @@ void MainWindow::ShowRecent() {
 }
 
 void MainWindow::NextPane(int direction) {
-    const std::vector<QWidget*> panes = {tree_, &records_->FilterLine(), &records_->Grid(), find_};
+    const std::vector<QWidget*> panes = {tree_, &records_->FilterLine(), &records_->Grid(), uses_, find_};
     const int count = static_cast<int>(panes.size());
     int at = 0;
     while (at < count && !panes[static_cast<std::size_t>(at)]->isAncestorOf(QApplication::focusWidget()) &&
@@ -160,6 +162,7 @@ void MainWindow::NextPane(int direction) {
         QWidget* pane = panes[static_cast<std::size_t>((at + step * direction + 2 * count) % count)];
         if (!pane->isVisible()) continue;
         if (pane == find_) return find_->Ask();
+        if (pane == uses_) return uses_->Focus();
         return pane->setFocus(Qt::TabFocusReason);
     }
 }

@@ -1,0 +1,164 @@
+#include <fstream>
+#include <iostream>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/file_kind_option.h"
+#include "cli/source_adventure.h"
+#include "cli/verbs.h"
+#include "platform/error.h"
+#include "references/lint.h"
+#include "references/place_text.h"
+#include "text/safe_text.h"
+#include "text/utf8.h"
+
+namespace fabula::cli {
+namespace {
+
+using Json = nlohmann::ordered_json;
+using references::Finding;
+
+/// In a source, a comment with these words switches findings off.
+constexpr std::string_view kDirective = "lint off ";
+
+struct Options {
+    std::string file;
+    std::string kind;
+    std::vector<std::string> off;
+    bool json = false;
+    bool rules = false;
+};
+
+/// The findings of a file, and where its records stand when it is a source.
+struct Result {
+    std::vector<Finding> findings;
+    interchange::SourceMap places;
+    bool isSource = false;
+};
+
+bool IsAdventure(const std::string& file) {
+    return text::EqualsNoCase(std::filesystem::path(file).extension().string(), ".fbd");
+}
+
+references::LintSwitches SwitchesOf(const Options& options) {
+    references::LintSwitches switches;
+    for (const std::string& line : options.off) {
+        if (!switches.Add(line)) throw UsageError("there is no finding '" + line + "'; --rules shows them");
+    }
+    return switches;
+}
+
+void AddSwitchesOfSource(const std::string& source, references::LintSwitches& switches) {
+    std::ifstream file(source);
+    for (std::string line; std::getline(file, line);) {
+        const std::size_t at = line.find(kDirective);
+        if (at != std::string::npos) switches.Add(std::string_view(line).substr(at + kDirective.size()));
+    }
+}
+
+Result LintFile(const Options& options) {
+    references::LintSwitches switches = SwitchesOf(options);
+    Result result;
+    if (IsAdventure(options.file) && options.kind.empty()) {
+        const auto adventure = OpenToRead(options.file);
+        const references::LintSwitches stored = references::StoredSwitches(*adventure);
+        switches.rules.insert(stored.rules.begin(), stored.rules.end());
+        switches.records.insert(stored.records.begin(), stored.records.end());
+        result.findings = references::Lint(*adventure, switches);
+        return result;
+    }
+    const ScratchFolder folder;
+    const std::filesystem::path file = folder.Path() / "lint.fbd";
+    std::ostream quiet(nullptr);
+    Console console(quiet);
+    interchange::JobResult imported = interchange::ImportIt(KindOfSource(options.file, options.kind),
+                                                            options.file, file, true, console.JobHost());
+    for (const interchange::Fault& fault : imported.allFaults)
+        std::cerr << text::SafeLines(fault.Line()) << "\n";
+    if (!imported.done) throw Error("Could not read " + options.file + ".");
+    AddSwitchesOfSource(options.file, switches);
+    const auto adventure = OpenToRead(file.string());
+    result.findings = references::Lint(*adventure, switches);
+    result.places = std::move(imported.places);
+    result.isSource = true;
+    return result;
+}
+
+const interchange::SourcePlace* PlaceOf(const Result& result, const Finding& finding) {
+    return result.places.Find(finding.table, finding.record, finding.field, finding.token);
+}
+
+Json JsonOf(const Result& result, const Finding& finding) {
+    Json object = Json::object();
+    if (const auto* place = PlaceOf(result, finding)) {
+        object["file"] = place->file.string();
+        object["line"] = place->line;
+        object["column"] = place->column;
+    }
+    object["code"] = std::string(finding.code);
+    object["table"] = std::string(store::FindTable(finding.table)->name);
+    object["record"] = finding.record;
+    object["field"] = std::string(finding.field);
+    object["token"] = finding.token;
+    object["message"] = finding.message;
+    return object;
+}
+
+void Print(const Options& options, const Result& result, const Finding& finding) {
+    std::string line;
+    if (const auto* place = PlaceOf(result, finding)) {
+        line = place->file.string();
+        line.append(":").append(std::to_string(place->line));
+        line.append(":").append(std::to_string(place->column)).append(": warning: ");
+    } else if (result.isSource) {
+        line = options.file + ":1:1: warning: ";
+    }
+    line.append(finding.message).append(" [").append(finding.code).append("]");
+    std::cout << text::SafeLines(line) << "\n";
+}
+
+int ShowRules() {
+    for (const references::LintRule& rule : references::AllLintRules())
+        std::cout << text::PadRight(rule.code, 22) << " " << rule.meaning << "\n";
+    return kDone;
+}
+
+int Lint(const Options& options) {
+    if (options.rules) return ShowRules();
+    if (options.file.empty()) throw UsageError("which file is to be looked through?");
+    const Result result = LintFile(options);
+    if (options.json) {
+        Json list = Json::array();
+        for (const Finding& finding : result.findings)
+            list.push_back(JsonOf(result, finding));
+        std::cout << list.dump(2, ' ', true, Json::error_handler_t::replace) << "\n";
+    } else {
+        for (const Finding& finding : result.findings)
+            Print(options, result, finding);
+    }
+    return result.findings.empty() ? kDone : kFailed;
+}
+
+}  // namespace
+
+void AddLintVerb(CLI::App& app, Chosen& chosen) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = app.add_subcommand(
+        "lint", "Tells what a game has that can't be meant: unused, unreachable, contradictory, missing");
+    verb->footer(
+        "A finding is told with its code. A source switches findings off by a comment with the words\n"
+        "'lint off CODE', which may be followed by numbers of records and a reason. The status is 1 when\n"
+        "anything was found.");
+    verb->add_option("file", options->file, "The adventure, FILE.fbd, or a source");
+    verb->add_option("--kind", options->kind,
+                     "What the source is, where its name doesn't tell: " + ReadableKinds());
+    verb->add_option(
+        "--off", options->off,
+        "A code that is not to be told; with numbers behind it for these records: \"gap 4 7\"");
+    verb->add_flag("--rules", options->rules, "Show all codes and what they mean");
+    verb->add_flag("--json", options->json, "As a JSON array");
+    Runs(*verb, chosen, options, Lint);
+}
+
+}  // namespace fabula::cli

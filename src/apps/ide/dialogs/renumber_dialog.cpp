@@ -1,0 +1,68 @@
+#include "ide/dialogs/renumber_dialog.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ide/editors/help_pages.h"
+#include "qt/help_request.h"
+#include "qt/strings.h"
+
+namespace fabula::ide {
+namespace {
+
+constexpr int kMargin = 16;
+constexpr QSize kSize(640, 400);
+
+}  // namespace
+
+RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* parent)
+    : QDialog(parent), screen_(screen), number_(new QLineEdit), changes_(new QListWidget) {
+    setObjectName("RenumberDialog");
+    setWindowTitle(qt::ToQt(authoring::RenumberScreen::kCaption));
+    setProperty(qt::kHelpPage, kMainWindowPage);
+    resize(kSize);
+    number_->setObjectName("number");
+    number_->setText(qt::ToQt(screen.number));
+    number_->selectAll();
+    changes_->setObjectName("changes");
+    changes_->setAccessibleName(tr("What changes"));
+    auto* form = new QFormLayout;
+    form->addRow(tr("&New number of %1:").arg(qt::ToQt(screen.Name())), number_);
+    auto* update = new QPushButton(tr("&Update"));
+    update->setObjectName("update");
+    update->setDefault(true);
+    auto* exit = new QPushButton(tr("Exit"));
+    exit->setObjectName("exit");
+    exit->setAutoDefault(false);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(update);
+    buttons->addWidget(exit);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->addLayout(form);
+    layout->addWidget(changes_);
+    layout->addLayout(buttons);
+    connect(number_, &QLineEdit::textChanged, this, [this] { ShowPreview(); });
+    connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
+    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    ShowPreview();
+}
+
+void RenumberDialog::ShowPreview() {
+    screen_.number = qt::FromQt(number_->text());
+    changes_->clear();
+    for (const std::string& line : screen_.Preview())
+        changes_->addItem(qt::ToQt(line));
+}
+
+void RenumberDialog::ClickUpdate() {
+    if (screen_.Update()) return accept();
+    number_->setFocus();
+}
+
+}  // namespace fabula::ide

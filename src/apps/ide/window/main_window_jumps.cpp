@@ -1,0 +1,160 @@
+#include <QLabel>
+#include <QTableView>
+
+#include "ide/dialogs/quick_list_dialog.h"
+#include "ide/dialogs/renumber_dialog.h"
+#include "ide/dialogs/replace_dialog.h"
+#include "ide/window/command_actions.h"
+#include "ide/window/main_window.h"
+#include "ide/window/record_panel.h"
+#include "ide/window/uses_pane.h"
+#include "platform/error.h"
+#include "qt/strings.h"
+#include "text/utf8.h"
+
+// Ways through the adventure: uses, jumps, find and replace over all tables, numbers.
+
+namespace fabula::ide {
+
+using authoring::Command;
+using authoring::JumpLine;
+
+namespace {
+
+std::vector<std::string> TextsOf(const std::vector<JumpLine>& lines) {
+    std::vector<std::string> texts;
+    texts.reserve(lines.size());
+    for (const JumpLine& line : lines)
+        texts.push_back(line.text);
+    return texts;
+}
+
+}  // namespace
+
+void MainWindow::DoJump(Command command) {
+    try {
+        RunJump(command);
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+}
+
+void MainWindow::RunJump(Command command) {
+    switch (command) {
+        case Command::Uses:
+            uses_->show();
+            ShowUses();
+            return uses_->Focus();
+        case Command::GoToNamed:
+            return GoToNamed();
+        case Command::GoToAnything:
+            return GoToAnything();
+        case Command::Back:
+            if (!navigator_.Back()) ide_.Say("There is nowhere to go back to.");
+            return ShowChanges();
+        case Command::Forward:
+            if (!navigator_.Forward()) ide_.Say("There is nowhere to go forward to.");
+            return ShowChanges();
+        case Command::Replace:
+            return Replace();
+        case Command::Renumber:
+            return Renumber();
+        case Command::Palette:
+            return ChooseCommand();
+        default:
+            return;
+    }
+}
+
+void MainWindow::ShowUses() {
+    if (!uses_->isVisibleTo(this)) return;
+    try {
+        uses_->Show(navigator_.Title(), navigator_.Lines());
+    } catch (const Error& error) {
+        uses_->Show(error.what(), {});
+    }
+}
+
+void MainWindow::Jump(const authoring::Jump& jump) {
+    navigator_.GoTo(jump);
+    ShowChanges();
+    records_->Grid().setFocus();
+}
+
+void MainWindow::GoToNamed() {
+    const std::vector<JumpLine> lines = navigator_.Named();
+    if (lines.empty()) return message_->setText(tr("This record names no other."));
+    if (lines.size() == 1) return Jump(lines.front().jump);
+    std::vector<JumpLine> fitting;
+    QuickListDialog dialog(
+        tr("Go To What It Names"), tr("A part of its name"),
+        [&](const std::string& typed) {
+            fitting.clear();
+            for (const JumpLine& line : lines) {
+                if (text::LowerCase(line.text).find(text::LowerCase(typed)) != std::string::npos)
+                    fitting.push_back(line);
+            }
+            return TextsOf(fitting);
+        },
+        this);
+    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) Jump(fitting[*dialog.Chosen()].jump);
+}
+
+void MainWindow::GoToAnything() {
+    std::vector<JumpLine> found;
+    QuickListDialog dialog(
+        tr("Go To"), tr("m40, lantern, get lamp ..."),
+        [&](const std::string& typed) {
+            found = navigator_.Search(typed);
+            return TextsOf(found);
+        },
+        this);
+    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) Jump(found[*dialog.Chosen()].jump);
+}
+
+void MainWindow::ChooseCommand() {
+    std::vector<Command> fitting;
+    QuickListDialog dialog(
+        tr("Commands"), tr("A part of a command's name"),
+        [&](const std::string& typed) {
+            fitting.clear();
+            std::vector<std::string> lines;
+            for (const authoring::CommandEntry& entry : authoring::AllCommands()) {
+                const authoring::ActionState state = ide_.StateOf(entry.id);
+                if (!state.enabled || entry.id == Command::Palette) continue;
+                std::string line = qt::FromQt(actions_->Of(entry.id)->text().remove('&').remove("..."));
+                if (text::LowerCase(line).find(text::LowerCase(typed)) == std::string::npos) continue;
+                if (!entry.shortcut.empty()) line.append("  (").append(entry.shortcut).append(")");
+                fitting.push_back(entry.id);
+                lines.push_back(line);
+            }
+            return lines;
+        },
+        this);
+    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) Do(fitting[*dialog.Chosen()]);
+}
+
+void MainWindow::Replace() {
+    authoring::ReplaceScreen screen(ide_.CurrentContext());
+    ReplaceDialog dialog(screen, this);
+    dialog.exec();
+    ide_.Refresh();
+    if (!screen.Status().empty()) ide_.Say(screen.Status());
+    ShowChanges();
+    if (const auto* chosen = dialog.GoTo())
+        Jump(navigator_.JumpTo(chosen->hit.where->table, chosen->hit.record));
+}
+
+void MainWindow::Renumber() {
+    const store::TableNum table = ide_.Grid().View().table;
+    authoring::RenumberScreen screen(ide_.CurrentContext(), table, ide_.Grid().KeyOf(ide_.CurrentRow()));
+    RenumberDialog dialog(screen, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    ide_.Refresh();
+    if (const auto row = ide_.Grid().RowOf(screen.Key())) ide_.SelectRow(*row);
+    ide_.Say("It is " + std::string(screen.Name().substr(0, screen.Name().rfind(' '))) + " " +
+             std::to_string(screen.Key()) + " now.");
+    ShowChanges();
+}
+
+}  // namespace fabula::ide

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "authoring/desk/main_screen.h"
+#include "references/index.h"
+#include "references/place_text.h"
+
+namespace fabula::authoring {
+
+/// A record that the author can be taken to.
+struct Jump {
+    TableView view;
+    int key = 0;
+
+    friend bool operator==(const Jump&, const Jump&) = default;
+};
+
+/// A line of a list of places: what it says, and where it leads.
+struct JumpLine {
+    Jump jump;
+    std::string text;
+    bool possible = false;  ///< a use that only may be one
+};
+
+/// Ways through the open adventure: what uses the selected record, what that names, any record by a few
+/// letters, and back and forward through the jumps. The index of references is made when it is first asked
+/// for, and follows the document's changes.
+class Navigator {
+  public:
+    explicit Navigator(MainScreen& main) : main_(main) {}
+    Navigator(const Navigator&) = delete;
+    Navigator& operator=(const Navigator&) = delete;
+    ~Navigator();
+
+    /// "message 7: 3 uses", "message 7: not used"; "" without a record. Of an entry, which nothing names:
+    /// "process table 0, entry 12 names 4 records".
+    std::string Title();
+    /// The uses of the selected record, or what the selected entry names.
+    std::vector<JumpLine> Lines();
+    /// What the selected record names, each record once.
+    std::vector<JumpLine> Named();
+
+    /// Records by what the author typed: a letter and a number ("m40": l location, m message, o object, s
+    /// system message, f flag, p process table, d drawing), two words of the vocabulary for the entries
+    /// that answer to them ("get lamp"), or a part of a text or word. At most kMostFound.
+    std::vector<JumpLine> Search(std::string_view typed);
+    static constexpr std::size_t kMostFound = 100;
+
+    /// Shows the record; where the author was before is kept for Back. A record that has gone is told in
+    /// the status line.
+    void GoTo(const Jump& jump);
+    /// False when there is nowhere to go.
+    bool Back();
+    bool Forward();
+
+    /// Where a record is shown; only while an adventure is open.
+    Jump JumpTo(store::TableNum table, std::int64_t key);
+
+    /// Of the open adventure; only while one is open.
+    const references::Index& Index();
+
+  private:
+    struct Followed;
+
+    Document* OpenDocument();
+    references::PlaceText& Places();
+    std::optional<Jump> Here() const;
+    void Show(const Jump& jump);
+    JumpLine LineFor(const references::Use& use);
+    std::optional<JumpLine> LineOf(const references::Target& target, references::WordTypes types);
+    void SearchNumber(std::string_view typed, std::vector<JumpLine>& found);
+    void SearchEntries(std::string_view typed, std::vector<JumpLine>& found);
+    void SearchTexts(std::string_view typed, std::vector<JumpLine>& found);
+
+    MainScreen& main_;
+    std::shared_ptr<Followed> followed_;
+    std::vector<Jump> back_;
+    std::vector<Jump> forward_;
+};
+
+}  // namespace fabula::authoring

@@ -1,0 +1,74 @@
+#include "references/flag_contents.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "references/condact_access.h"
+
+namespace fabula::references {
+namespace {
+
+/// Two flags of which each holds what the other one may.
+constexpr std::string_view kLinks[] = {"COPYFF", "SAME", "NOTSAME"};
+constexpr std::string_view kCounts[] = {"PLUS", "MINUS", "ADD", "SUB", "RANDOM", "AUTOINC", "AUTODEC"};
+
+template <std::size_t Size>
+bool Has(const std::string_view (&names)[Size], std::string_view name) {
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+/// The flags that a statement names.
+std::vector<int> FlagsOf(const LintEntry& entry, const condacts::Statement& statement) {
+    std::vector<int> flags;
+    for (std::size_t i = 0; i < statement.paramsGiven; ++i) {
+        if (statement.condAct->params[i].kind != condacts::ParamKind::Flag) continue;
+        if (const auto number = condacts::WholeNumber(entry.line.Param(statement, i)))
+            flags.push_back(*number);
+    }
+    return flags;
+}
+
+}  // namespace
+
+FlagContents::FlagContents(const LintGame& game) {
+    std::vector<std::pair<int, int>> links;
+    for (const auto& entry : game.entries) {
+        for (const condacts::Statement& statement : entry->line.statements) {
+            const std::vector<int> flags = FlagsOf(*entry, statement);
+            if (flags.empty()) continue;
+            const std::string& name = statement.condAct->name;
+            for (const int flag : flags) {
+                if (const FlagMeaning* meaning = FindFlagMeaning(flag)) kinds_[flag].insert(meaning->kind);
+            }
+            const CondActAccess* access = FindCondActAccess(name);
+            if (access != nullptr && access->carries) kinds_[flags[0]].insert(*access->carries);
+            if (Has(kLinks, name) && flags.size() == 2) links.emplace_back(flags[0], flags[1]);
+            if (Has(kCounts, name)) counted_.insert(flags.back());
+        }
+    }
+    for (bool grown = true; grown;) {
+        grown = false;
+        for (const auto& [a, b] : links) {
+            const std::size_t before = kinds_[a].size() + kinds_[b].size();
+            kinds_[a].insert(kinds_[b].begin(), kinds_[b].end());
+            kinds_[b].insert(kinds_[a].begin(), kinds_[a].end());
+            const bool spreads = counted_.contains(a) && !counted_.contains(b);
+            if (spreads) counted_.insert(b);
+            grown = grown || spreads || kinds_[a].size() + kinds_[b].size() != before;
+        }
+    }
+}
+
+bool FlagContents::Holds(int flag, Kind kind) const {
+    const auto found = kinds_.find(flag);
+    return found != kinds_.end() && found->second.contains(kind);
+}
+
+bool FlagContents::IsMixed(int flag) const {
+    const auto found = kinds_.find(flag);
+    return found != kinds_.end() && found->second.size() > 1;
+}
+
+}  // namespace fabula::references

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <compare>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "store/table_catalogue.h"
+
+namespace fabula::references {
+
+/// What a game names by number. A word stands for its number, which synonyms share; a process table is its
+/// description's record too; a character is numbered by its `charkey`, set times 1000 plus number.
+enum class Kind : std::uint8_t {
+    Flag,
+    Object,
+    Location,
+    Message,
+    SystemMessage,
+    Word,
+    Process,
+    Picture,
+    CharacterSet,
+    Character,
+};
+
+struct KindEntry {
+    Kind kind;
+    std::string_view name;      ///< as it is told and typed: "system message"
+    std::string_view option;    ///< the same in one word: "sysmess"
+    store::TableNum table;      ///< whose records they are
+    std::string_view keyField;  ///< that numbers them
+};
+
+std::span<const KindEntry> AllKinds();
+const KindEntry& EntryOf(Kind kind);
+/// The kind of a name or an option, case ignored.
+std::optional<Kind> KindFrom(std::string_view name);
+/// The kind that the records of a table are; nullopt for tables that nothing is named from.
+std::optional<Kind> KindOf(store::TableNum table);
+
+/// Something that can be named: "flag 60".
+struct Target {
+    Kind kind = Kind::Flag;
+    int number = 0;
+
+    friend auto operator<=>(const Target&, const Target&) = default;
+};
+
+/// The types of words, as a set: one bit for each `voctypen`.
+using WordTypes = unsigned;
+constexpr WordTypes TypeBit(int wordType) {
+    return wordType < 0 || wordType > 7 ? 0U : 1U << static_cast<unsigned>(wordType);
+}
+inline constexpr WordTypes kAnyType = 0xFF;
+
+}  // namespace fabula::references

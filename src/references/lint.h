@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "store/adventure.h"
+
+namespace fabula::references {
+
+/// A kind of finding: the code that it is told and switched off by, and what it means.
+struct LintRule {
+    std::string_view code;
+    std::string_view meaning;
+};
+
+/// All of them, in the order in which they are told.
+std::span<const LintRule> AllLintRules();
+
+/// Something that an author would want to know of a game.
+struct Finding {
+    std::string_view code;  ///< of a rule
+    store::TableNum table = store::TableNum::Adventure;
+    std::int64_t record = 0;      ///< its number; 0 for the settings
+    std::string_view field = {};  ///< "" for the record as a whole
+    std::size_t token = 0;        ///< which word of the field, from 0
+    std::string message = {};     ///< a sentence that names the record
+};
+
+/// What is not to be told: rules as a whole, and rules for one record.
+struct LintSwitches {
+    std::set<std::string, std::less<>> rules;
+    std::set<std::pair<std::string, std::int64_t>> records;
+
+    /// Adds what a line says: codes, each perhaps with the numbers of records behind it, up to the first
+    /// word that is neither: "message-unused 40 41 gap they are kept for later". False when it begins with
+    /// no code.
+    bool Add(std::string_view line);
+    bool Hides(const Finding& finding) const;
+};
+
+/// The switches that an adventure keeps for itself: the texts of `Header` whose key is kLintHeader.
+LintSwitches StoredSwitches(store::Adventure& adventure);
+inline constexpr std::string_view kLintHeader = "lint off";
+
+/// Looks through a whole game. The findings come in the order of the rules, then of the records.
+std::vector<Finding> Lint(store::Adventure& adventure, const LintSwitches& switches = {});
+
+}  // namespace fabula::references

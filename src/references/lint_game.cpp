@@ -1,0 +1,111 @@
+#include "references/lint_game.h"
+
+#include "condacts/load.h"
+#include "pictures/drawstring.h"
+#include "text/utf8.h"
+
+namespace fabula::references {
+namespace {
+
+using store::PreparedQuery;
+using store::TableNum;
+
+constexpr int kContainerBit = 1;
+
+int Int(const PreparedQuery& row, int column) {
+    return static_cast<int>(row.Number(column));
+}
+
+template <typename Use>
+void ForEachRow(store::Adventure& adventure, TableNum table, std::string_view fields,
+                std::string_view order, Use use) {
+    PreparedQuery rows = adventure.Prepare(table, fields, "", order);
+    for (bool more = rows.First({}); more; more = rows.Next())
+        use(rows);
+}
+
+std::vector<LintText> Texts(store::Adventure& adventure, TableNum table, std::string_view fields,
+                            std::string_view key) {
+    std::vector<LintText> texts;
+    ForEachRow(adventure, table, fields, key, [&](const PreparedQuery& row) {
+        texts.push_back({row.Number(0), std::string(row.Text(1))});
+    });
+    return texts;
+}
+
+}  // namespace
+
+LintGame::LintGame(store::Adventure& adventure)
+    : index(adventure),
+      uses(index.AllUses()),
+      catalogue(condacts::LoadCatalogue(adventure)),
+      facts(condacts::LoadFacts(adventure)) {
+    const store::ReadTransaction reading(adventure);
+    Read(adventure);
+    ForEachRow(adventure, TableNum::ProcessTables, "canum, estype, w1num, w2num, condacts, numericcondacts",
+               "estype, w1num, w2num, canum", [&](const PreparedQuery& row) {
+                   auto entry = std::make_unique<LintEntry>();
+                   entry->key = row.Number(0);
+                   entry->process = Int(row, 1);
+                   entry->verb = Int(row, 2);
+                   entry->noun = Int(row, 3);
+                   entry->text = row.Text(4);
+                   entry->numbers = row.Text(5);
+                   entry->line = condacts::ParseLine(entry->text, catalogue);
+                   byKey_.try_emplace(entry->key, entry.get());
+                   entries.push_back(std::move(entry));
+               });
+}
+
+void LintGame::Read(store::Adventure& adventure) {
+    characterSets = adventure.CharSetsOn();
+    draws = adventure.GraphicsOn() || characterSets;
+    ForEachRow(adventure, TableNum::Adventure, "startloc", "",
+               [&](const PreparedQuery& row) { start = row.Number(0); });
+    ForEachRow(adventure, TableNum::Locations, "locnum, exits, numericexits", "locnum",
+               [&](const PreparedQuery& row) {
+                   locations.push_back({row.Number(0), pictures::DrawstringWords(row.Text(1)),
+                                        pictures::DrawstringWords(row.Text(2))});
+               });
+    ForEachRow(adventure, TableNum::Objects, "objnum, objloc, objnumnoun, objnumadject, objattrn", "objnum",
+               [&](const PreparedQuery& row) {
+                   objects.push_back({row.Number(0), row.Number(1), Int(row, 2), Int(row, 3),
+                                      (row.Number(4) & kContainerBit) != 0});
+               });
+    messages = Texts(adventure, TableNum::Messages, "msgnum, msgmsg", "msgnum");
+    systemMessages = Texts(adventure, TableNum::SystemMessages, "smsgnum, smsgmsg", "smsgnum");
+    processes = Texts(adventure, TableNum::ProcDesc, "pmsgnum, pmsgmsg", "pmsgnum");
+    ForEachRow(
+        adventure, TableNum::Flags, "flgnum, flgtype, flgdesc", "flgnum", [&](const PreparedQuery& row) {
+            flags.push_back(
+                {row.Number(0), text::EqualsNoCase(row.Text(1), "system"), std::string(row.Text(2))});
+        });
+    ForEachRow(adventure, TableNum::Vocabulary, "vocindex, word, vocnum, voctypen", "vocindex",
+               [&](const PreparedQuery& row) {
+                   words.push_back({row.Number(0), {std::string(row.Text(1)), Int(row, 2), Int(row, 3)}});
+               });
+    ForEachRow(adventure, TableNum::Pictures, "locnum, loctype", "locnum", [&](const PreparedQuery& row) {
+        pictures.push_back({row.Number(0), text::EqualsNoCase(row.Text(1), "subroutine")});
+    });
+    ForEachRow(adventure, TableNum::Characters, "charkey, charsetnum", "charkey",
+               [&](const PreparedQuery& row) {
+                   characters.insert(Int(row, 0));
+                   characterSetNumbers.insert(Int(row, 1));
+               });
+}
+
+const LintEntry& LintGame::EntryOf(std::int64_t key) const {
+    return *byKey_.at(key);
+}
+
+const std::vector<KeptUse>& LintGame::UsesOf(const Target& target) const {
+    static const std::vector<KeptUse> none;
+    const auto found = uses.find(target);
+    return found == uses.end() ? none : found->second;
+}
+
+std::string NameOf(const LintEntry& entry) {
+    return "process table " + std::to_string(entry.process) + ", entry " + std::to_string(entry.key);
+}
+
+}  // namespace fabula::references

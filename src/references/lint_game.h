@@ -1,0 +1,122 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "condacts/catalogue.h"
+#include "condacts/facts.h"
+#include "condacts/parser.h"
+#include "references/index.h"
+#include "references/lint.h"
+#include "store/adventure.h"
+
+namespace fabula::references {
+
+/// An entry of a process table.
+struct LintEntry {
+    std::int64_t key = 0;  ///< `canum`
+    int process = 0;
+    int verb = 0;
+    int noun = 0;
+    std::string text;
+    std::string numbers;
+    condacts::ParsedLine line;  ///< its tokens look into `text`
+};
+
+struct LintLocation {
+    std::int64_t number = 0;
+    std::vector<std::string> exits;    ///< words and numbers as they are written
+    std::vector<std::string> numbers;  ///< the same as they are compiled
+};
+
+struct LintObject {
+    std::int64_t number = 0;
+    std::int64_t place = 0;
+    int noun = 0;
+    int adjective = 0;
+    bool container = false;
+};
+
+struct LintText {
+    std::int64_t number = 0;
+    std::string text;
+};
+
+struct LintFlag {
+    std::int64_t number = 0;
+    bool system = false;
+    std::string description;
+};
+
+struct LintWord {
+    std::int64_t index = 0;
+    condacts::Word word;
+};
+
+struct LintPicture {
+    std::int64_t number = 0;
+    bool subroutine = false;
+};
+
+/// A whole game in memory, for the checks. Entries stand in the order in which they run.
+struct LintGame {
+    explicit LintGame(store::Adventure& adventure);
+
+    Index index;
+    std::map<Target, std::vector<KeptUse>> uses;
+    condacts::Catalogue catalogue;  ///< the statements of entries look into it
+    condacts::Facts facts;
+    bool draws = false;  ///< it has pictures or character sets of its own
+    bool characterSets = false;
+    std::int64_t start = 0;
+    std::vector<std::unique_ptr<LintEntry>> entries;
+    std::vector<LintLocation> locations;
+    std::vector<LintObject> objects;
+    std::vector<LintText> messages;
+    std::vector<LintText> systemMessages;
+    std::vector<LintText> processes;
+    std::vector<LintFlag> flags;
+    std::vector<LintWord> words;
+    std::vector<LintPicture> pictures;
+    std::set<int> characterSetNumbers;
+    std::set<int> characters;  ///< by `charkey`
+
+    /// The entry with this key; it must be there.
+    const LintEntry& EntryOf(std::int64_t key) const;
+    const std::vector<KeptUse>& UsesOf(const Target& target) const;
+
+  private:
+    void Read(store::Adventure& adventure);
+
+    std::map<std::int64_t, const LintEntry*> byKey_;
+};
+
+/// Gathers what the checks find.
+class Findings {
+  public:
+    void Add(std::string_view code, store::TableNum table, std::int64_t record, std::string message,
+             std::string_view field = {}, std::size_t token = 0) {
+        all_.push_back({code, table, record, field, token, std::move(message)});
+    }
+    std::vector<Finding>& All() { return all_; }
+
+  private:
+    std::vector<Finding> all_;
+};
+
+// The checks, by subject.
+void CheckMissing(const LintGame& game, Findings& findings);
+void CheckUnused(const LintGame& game, Findings& findings);
+void CheckReach(const LintGame& game, Findings& findings);
+void CheckEntries(const LintGame& game, Findings& findings);
+void CheckOrder(const LintGame& game, Findings& findings);
+void CheckRecords(const LintGame& game, Findings& findings);
+
+/// "process table 3, entry 12"
+std::string NameOf(const LintEntry& entry);
+
+}  // namespace fabula::references

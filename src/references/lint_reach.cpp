@@ -1,0 +1,119 @@
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "condacts/flags.h"
+#include "condacts/places.h"
+#include "references/lint_game.h"
+
+namespace fabula::references {
+namespace {
+
+using store::TableNum;
+
+constexpr int kPlayersPlace = condacts::flag::kLocation.value;
+/// Actions behind which the player is at the location that they name.
+constexpr std::string_view kGoing[] = {"GOTO", "RESET"};
+/// Actions that give their first or second flag a number that does not stand there.
+constexpr std::string_view kComputedFirst[] = {"PLUS", "MINUS", "RANDOM", "WEIGHT"};
+constexpr std::string_view kComputedSecond[] = {"COPYOF", "ADD", "SUB", "WEIGH"};
+
+template <std::size_t Size>
+bool Holds(const std::string_view (&names)[Size], std::string_view name) {
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+std::optional<int> NumberAt(const LintEntry& entry, const condacts::Statement& statement, std::size_t i) {
+    if (i >= statement.paramsGiven) return std::nullopt;
+    return condacts::WholeNumber(entry.line.Param(statement, i));
+}
+
+/// The search for places that the player can come to.
+class Reach {
+  public:
+    explicit Reach(const LintGame& game) : game_(game) {
+        Visit(game.start);
+        const std::set<int> flags = FlagsOfPlace();
+        for (const auto& entry : game.entries)
+            ReadEntry(*entry, flags);
+        while (!waiting_.empty()) {
+            const std::int64_t place = waiting_.back();
+            waiting_.pop_back();
+            for (const LintLocation& location : game.locations) {
+                if (location.number == place) FollowExits(location);
+            }
+        }
+    }
+
+    /// The player may be sent anywhere by a number that no rule states.
+    bool IsOpen() const { return open_; }
+    bool Has(std::int64_t place) const { return reached_.contains(place); }
+
+  private:
+    void Visit(std::int64_t place) {
+        if (reached_.insert(place).second) waiting_.push_back(place);
+    }
+
+    void FollowExits(const LintLocation& location) {
+        for (std::size_t i = 1; i < location.numbers.size(); i += 2) {
+            if (const auto to = condacts::WholeNumber(location.numbers[i])) Visit(*to);
+        }
+    }
+
+    /// The flags whose numbers come to be the player's place: its own flag, and what is copied to one of
+    /// them.
+    std::set<int> FlagsOfPlace() const {
+        std::set<int> flags{kPlayersPlace};
+        for (std::size_t before = 0; before != flags.size();) {
+            before = flags.size();
+            for (const auto& entry : game_.entries) {
+                for (const condacts::Statement& statement : entry->line.statements) {
+                    if (statement.condAct->name != "COPYFF") continue;
+                    const auto from = NumberAt(*entry, statement, 0);
+                    const auto to = NumberAt(*entry, statement, 1);
+                    if (from && to && flags.contains(*to)) flags.insert(*from);
+                }
+            }
+        }
+        return flags;
+    }
+
+    void ReadEntry(const LintEntry& entry, const std::set<int>& flags) {
+        for (const condacts::Statement& statement : entry.line.statements) {
+            const std::string& name = statement.condAct->name;
+            const auto first = NumberAt(entry, statement, 0);
+            const auto second = NumberAt(entry, statement, 1);
+            if (Holds(kGoing, name) && first) Visit(*first);
+            const bool inFirst = first && flags.contains(*first);
+            const bool inSecond = second && flags.contains(*second);
+            if (name == "LET" && inFirst && second) Visit(*second);
+            open_ = open_ || (Holds(kComputedSecond, name) && inSecond) ||
+                    (Holds(kComputedFirst, name) && inFirst);
+        }
+    }
+
+    const LintGame& game_;
+    std::set<std::int64_t> reached_;
+    std::vector<std::int64_t> waiting_;
+    bool open_ = false;
+};
+
+}  // namespace
+
+void CheckReach(const LintGame& game, Findings& findings) {
+    const Reach reach(game);
+    if (reach.IsOpen()) return;
+    std::set<std::int64_t> containers;
+    for (const LintObject& object : game.objects) {
+        if (object.container) containers.insert(object.number);
+    }
+    for (const LintLocation& location : game.locations) {
+        const bool special = condacts::IsSpecialPlace(location.number);
+        if (special || reach.Has(location.number) || containers.contains(location.number)) continue;
+        findings.Add("location-unreachable", TableNum::Locations, location.number,
+                     "No exit and no rule leads to location " + std::to_string(location.number) + ".");
+    }
+}
+
+}  // namespace fabula::references
