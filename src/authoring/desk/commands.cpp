@@ -7,7 +7,6 @@
 namespace fabula::authoring {
 namespace {
 
-
 using Use = CommandEntry::Use;
 
 constexpr CommandEntry kCommands[] = {

@@ -183,6 +183,15 @@ class MainScreen {
     std::optional<TestRun> BeginRunTest();
     void EndRunTest();
 
+    /// The record of the current row, where a pane beside the rows can show its screen; nullopt where it
+    /// can't be edited, or its editor needs a window of its own. What the pane stores then is told by
+    /// ScreenClosed, as after a command.
+    std::optional<ScreenRequest> RecordBeside();
+
+    /// Whether process tables show what the numbers in their lines stand for.
+    bool NamesShown() const { return namesShown_; }
+    void ShowNames(bool shown);
+
     /// For the screens. Only while an adventure is open.
     ScreenContext& CurrentContext();
 
@@ -224,6 +233,7 @@ class MainScreen {
     void GoToKeptPlace();
     std::optional<int> CurrentKey() const;
     void ReadAgain();
+    void PutNames();
 
     std::string WhyNot(Command command) const;
     std::optional<std::string> UndoOrRedoName(Command command) const;
@@ -250,6 +260,7 @@ class MainScreen {
     std::string message_;
     int changesBefore_ = 0;  ///< how many changes there were before the latest command
     bool running_ = false;
+    bool namesShown_ = false;
     std::optional<bool> charSetsLoaded_;  ///< by an adventure of this sitting; nullopt: there was none yet
     bool mustExit_ = false;
 };

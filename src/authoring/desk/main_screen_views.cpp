@@ -2,6 +2,7 @@
 
 #include "authoring/desk/ide_settings.h"
 #include "authoring/desk/main_screen.h"
+#include "authoring/fields/cond_act_help.h"
 
 // Tree, grid and selection.
 
@@ -41,6 +42,7 @@ void MainScreen::SetupGrid(TableView view) {
     grid_.SetupGrid(adventure, view, maintenance_);
     rights_ = rights;
     find_ = std::move(find);
+    PutNames();
     context.currentTable = view.table;
     if (view.table == store::TableNum::ProcessTables) context.currentESNum = view.process;
     StayOn(std::nullopt, 0);
@@ -133,9 +135,30 @@ void MainScreen::ReadAgain() {
     if (view != grid_.View() || AdventureStatus() != before) {
         SetupGrid(view);
     } else {
+        PutNames();
         grid_.Refresh(desk_->document.Adventure());
     }
     StayOn(key, row);
+}
+
+/// The names are read from the adventure as it is now.
+void MainScreen::PutNames() {
+    const bool shown = namesShown_ && grid_.View().table == store::TableNum::ProcessTables;
+    grid_.ShowNames(shown ? std::make_shared<const CondActHelp>(desk_->document.Adventure()) : nullptr);
+}
+
+void MainScreen::ShowNames(bool shown) {
+    namesShown_ = shown;
+    Refresh();
+}
+
+std::optional<ScreenRequest> MainScreen::RecordBeside() {
+    if (!desk_ || row_ < 0 || !StateOf(Command::Edit).enabled || desk_->document.IsReadOnly())
+        return std::nullopt;
+    changesBefore_ = desk_->document.Changes();
+    std::optional<ScreenRequest> request;
+    Guard([&] { request = Entries(desk_->context).RecordBeside(); });
+    return request;
 }
 
 std::string MainScreen::AdventureStatus() const {

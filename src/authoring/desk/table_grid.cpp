@@ -6,6 +6,7 @@
 #include <numeric>
 #include <variant>
 
+#include "authoring/fields/cond_act_help.h"
 #include "store/filter.h"
 #include "text/line_ends.h"
 #include "text/utf8.h"
@@ -17,6 +18,7 @@ using store::TableNum;
 
 constexpr std::string_view kLineEndSign = "\u21B5";
 constexpr std::string_view kHardSpaceSign = "\u2423";
+constexpr std::string_view kCondActsField = "condacts";
 constexpr std::string_view kCutSign = "\u2026";
 constexpr int kWidestColumn = 32767;
 /// The title of a column is no longer, in characters.
@@ -185,14 +187,18 @@ std::string TableGrid::CellText(int row, int column) const {
     const text::Value& value = At(RecordOf(row), static_cast<std::size_t>(column));
     const auto* const text = std::get_if<std::string>(&value);
     if (!text) return text::ToText(value);
-    const std::string_view begin = text::Left(*text, kLongestCell);
+    const CondActHelp* const names = NamesFor(static_cast<std::size_t>(column));
+    const std::string whole = names ? names->WithNames(*text) : *text;
+    const std::string_view begin = text::Left(whole, kLongestCell);
     std::string shown = Replace(begin, kLineEndSign, kHardSpaceSign);
-    if (begin.size() < text->size()) shown += kCutSign;
+    if (begin.size() < whole.size()) shown += kCutSign;
     return shown;
 }
 
 std::string TableGrid::FullText(int row, int column) const {
-    const std::string text = text::ToText(At(RecordOf(row), static_cast<std::size_t>(column)));
+    const std::string stored = text::ToText(At(RecordOf(row), static_cast<std::size_t>(column)));
+    const CondActHelp* const names = NamesFor(static_cast<std::size_t>(column));
+    const std::string text = names ? names->WithNames(stored) : stored;
     const std::string_view begin = text::Left(text, kLongestTip);
     std::string shown = Replace(begin, "\n", " ");
     if (begin.size() < text.size()) shown += kCutSign;
@@ -205,6 +211,16 @@ const text::Value& TableGrid::ValueOf(int row, std::string_view field) const {
         if (text::EqualsNoCase(fields_[i], field)) return At(RecordOf(row), i);
     }
     return kNull;
+}
+
+void TableGrid::ShowNames(std::shared_ptr<const CondActHelp> names) {
+    names_ = std::move(names);
+    if (!filter_.empty()) Arrange();
+}
+
+const CondActHelp* TableGrid::NamesFor(std::size_t column) const {
+    if (!names_ || view_.table != TableNum::ProcessTables) return nullptr;
+    return text::EqualsNoCase(columns_[column].field, kCondActsField) ? names_.get() : nullptr;
 }
 
 void TableGrid::SetFilter(std::string_view text) {
@@ -229,7 +245,9 @@ void TableGrid::ClickColumn(int column) {
 /// `wanted` is in lower case.
 bool TableGrid::Contains(std::size_t record, std::string_view wanted) const {
     for (std::size_t column = 0; column < columns_.size(); ++column) {
-        if (text::LowerCase(text::ToText(At(record, column))).find(wanted) != std::string::npos)
+        const std::string stored = text::ToText(At(record, column));
+        const CondActHelp* const names = NamesFor(column);
+        if (text::LowerCase(names ? names->WithNames(stored) : stored).find(wanted) != std::string::npos)
             return true;
     }
     return false;

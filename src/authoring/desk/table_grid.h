@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,6 +12,8 @@
 #include "text/value.h"
 
 namespace fabula::authoring {
+
+class CondActHelp;
 
 /// A column of the grid.
 struct GridColumn {
@@ -65,6 +68,10 @@ class TableGrid {
     /// other.
     const text::Value& ValueOf(int row, std::string_view field) const;
 
+    /// Shows the lines of conditions and actions with what they stand for, and filters by that; nullptr
+    /// shows them as they are stored.
+    void ShowNames(std::shared_ptr<const CondActHelp> names);
+
     /// Shows only the rows of which a column contains `text`, case ignored; "" shows all.
     void SetFilter(std::string_view text);
     const std::string& Filter() const { return filter_; }
@@ -86,6 +93,8 @@ class TableGrid {
     void ReadColumns(store::Adventure& adventure, bool maintenance);
     void ReadRecords(store::Adventure& adventure);
     void Arrange();
+    /// The names, where the column holds conditions and actions and names are shown.
+    const CondActHelp* NamesFor(std::size_t column) const;
     bool Contains(std::size_t record, std::string_view wanted) const;
     const text::Value& At(std::size_t record, std::size_t field) const {
         return values_[record * fields_.size() + field];
@@ -101,6 +110,7 @@ class TableGrid {
     std::string filter_;
     std::optional<int> sortColumn_;
     bool sortsDown_ = false;
+    std::shared_ptr<const CondActHelp> names_;
 };
 
 }  // namespace fabula::authoring

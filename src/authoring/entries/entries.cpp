@@ -124,10 +124,16 @@ void MoveBehindNewEntry(ScreenContext& context, const ScreenRequest& request) {
     change.Commit();
 }
 
-bool MayEditFlag(ScreenContext& context) {
+/// nullopt for a flag that is not there.
+std::optional<bool> IsEditableFlag(ScreenContext& context) {
     store::PreparedQuery flag = context.document.Adventure().Prepare(TableNum::Flags, "flgmod", "flgnum=?");
-    if (!flag.First({std::int64_t{context.currentEntry}})) return false;
-    if (flag.Number(0) != kUntouchableFlag) return true;
+    if (!flag.First({std::int64_t{context.currentEntry}})) return std::nullopt;
+    return flag.Number(0) != kUntouchableFlag;
+}
+
+bool MayEditFlag(ScreenContext& context) {
+    const std::optional<bool> editable = IsEditableFlag(context);
+    if (!editable || *editable) return editable.has_value();
     context.dialogs.Tell("That Flag cannot be edited", "Flag Information");
     return false;
 }
@@ -147,6 +153,22 @@ bool MayChangeProcess(ScreenContext& context, std::string_view deed) {
     context.dialogs.Tell("That Process table Description cannot be " + std::string(deed),
                          "Process Description Information");
     return false;
+}
+
+bool StandsBeside(ScreenContext& context) {
+    switch (context.currentTable) {
+        case TableNum::Adventure:
+        case TableNum::Vocabulary:
+        case TableNum::Characters:
+        case TableNum::Pictures:
+            return false;
+        case TableNum::Flags:
+            return IsEditableFlag(context).value_or(false);
+        case TableNum::ProcDesc:
+            return context.currentEntry > kLastFixedProcess;
+        default:
+            return true;
+    }
 }
 
 bool MayEdit(ScreenContext& context) {
@@ -251,6 +273,14 @@ std::optional<ScreenRequest> Entries::EditEntry() {
     }
     if (!HasRecord(adventure, table, context_.currentEntry)) return std::nullopt;
     return request;
+}
+
+std::optional<ScreenRequest> Entries::RecordBeside() {
+    const TableNum table = context_.currentTable;
+    const EntryTable* entry = FindEntryTable(table);
+    if (entry == nullptr || !StandsBeside(context_)) return std::nullopt;
+    if (!Exists(context_.document.Adventure(), table, context_.currentEntry)) return std::nullopt;
+    return ScreenRequest{.screen = *entry->editor, .key = {.key = context_.currentEntry}, .table = table};
 }
 
 bool Entries::AfterScreen(const ScreenRequest& request) {

@@ -58,6 +58,10 @@ class Entries {
     std::optional<ScreenRequest> AddEntryBefore();
     std::optional<ScreenRequest> EditEntry();
 
+    /// The same for a pane beside the records, which tells nothing where there is nothing to be edited;
+    /// nullopt too for pictures, characters and the settings, whose editors need a window of their own.
+    std::optional<ScreenRequest> RecordBeside();
+
     /// To be called when a screen has closed, whether it stored something or not. False when the program
     /// has to end, since character sets were switched; the author has been told.
     bool AfterScreen(const ScreenRequest& request);

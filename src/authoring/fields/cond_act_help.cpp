@@ -104,6 +104,12 @@ std::string MeaningOfName(const CondAct& condAct) {
     return meaning;
 }
 
+/// What the game says stands in quotes.
+std::string Quoted(ParamKind kind, const std::string& meaning) {
+    if (kind != ParamKind::Message && kind != ParamKind::SystemMessage) return meaning;
+    return std::string("\u201C").append(meaning).append("\u201D");
+}
+
 bool IsLetter(char c) {
     return static_cast<unsigned char>(c) > ' ' &&
            std::string_view(".,;:!?\"'()-").find(c) == std::string_view::npos;
@@ -278,6 +284,41 @@ std::string CondActHelp::Meaning(std::string_view line, std::size_t cursor) cons
     const std::string meaning = MeaningOfParameter(*place.condAct, place.parameter, token);
     if (meaning.empty()) return "";
     return place.condAct->name + " " + text::UpperCase(token) + ": " + meaning;
+}
+
+std::vector<ExplainedCondAct> CondActHelp::Explain(std::string_view line) const {
+    const condacts::ParsedLine parsed = condacts::ParseLine(line, catalogue_, facts_.dialect);
+    std::vector<ExplainedCondAct> explained;
+    for (const condacts::Statement& statement : parsed.statements) {
+        const CondAct& condAct = *statement.condAct;
+        ExplainedCondAct each{.text = condAct.name, .meaning = "", .isAction = condAct.isAction};
+        for (std::size_t place = 0; place < statement.paramsGiven; ++place) {
+            const std::string_view token = parsed.Param(statement, place);
+            each.text.append(" ").append(token);
+            if (condAct.params[place].kind == ParamKind::Value) continue;
+            const std::string meaning = MeaningOfParameter(condAct, place, token);
+            if (meaning.empty()) continue;
+            if (!each.meaning.empty()) each.meaning += ", ";
+            each.meaning += Quoted(condAct.params[place].kind, meaning);
+        }
+        explained.push_back(std::move(each));
+    }
+    if (parsed.unknownName) {
+        const std::string name(parsed.tokens[*parsed.unknownName].text);
+        explained.push_back(
+            {.text = name, .meaning = condacts::InvalidCondActMessage(name), .isFault = true});
+    }
+    return explained;
+}
+
+std::string CondActHelp::WithNames(std::string_view line) const {
+    std::string text;
+    for (const ExplainedCondAct& each : Explain(line)) {
+        if (!text.empty()) text.append("  \u00B7  ");
+        text.append(each.text);
+        if (!each.meaning.empty()) text.append(" ").append(each.meaning);
+    }
+    return text;
 }
 
 std::string CondActHelp::Page(std::string_view line, std::size_t cursor) const {

@@ -38,6 +38,16 @@ struct MarkedFault {
     friend bool operator==(const MarkedFault&, const MarkedFault&) = default;
 };
 
+/// A condition or action of a line, and what its parameters stand for.
+struct ExplainedCondAct {
+    std::string text;     ///< "MESSAGE 40"
+    std::string meaning;  ///< "\u201CYou lower the wick\u201D"; "" where there is nothing to be said
+    bool isAction = false;
+    bool isFault = false;  ///< no such name: the meaning says so, and nothing behind it is understood
+
+    friend bool operator==(const ExplainedCondAct&, const ExplainedCondAct&) = default;
+};
+
 /// What an author who writes conditions and actions wants to be told, from the adventure as it was when
 /// this was made: making it reads the tables, the answers read nothing. Places in a line count bytes, and a
 /// cursor stands before the byte of its number.
@@ -66,6 +76,11 @@ class CondActHelp {
     /// What the token at the cursor means: "MESSAGE 7: It is too dark"; where no token is, what could stand
     /// there. "" in an empty line.
     std::string Meaning(std::string_view line, std::size_t cursor) const;
+
+    /// The conditions and actions of a line, one by one.
+    std::vector<ExplainedCondAct> Explain(std::string_view line) const;
+    /// The line with what it stands for: "AT 7 The Yard  \u00B7  SET 62 lamp lit".
+    std::string WithNames(std::string_view line) const;
 
     /// The page of the help about the condition or action at the cursor, which may stand in its name or in
     /// a parameter of it: "at.htm". "" where there is none.

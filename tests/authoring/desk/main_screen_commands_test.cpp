@@ -56,10 +56,11 @@ TEST_F(CommandsTest, FollowTheTableInTheGrid) {
     OpenNew();
     main->Show({TableNum::Locations});
     EXPECT_THAT(Enabled(*main),
-                ElementsAre("NewAdv", "Open", "SaveAs", "Restore", "Close", "In", "Export", "Decomp", "Import",
-                            "BatImp", "BatExp", "Print", "Preview", "Package", "Exit", "NewTab", "Edit", "Delete", "Find", "FindNext", "Filter",
-                            "Run", "Trace", "Verify", "Settings", "CharTable", "LstRecs", "ShortDesc",
-                            "KeyChange", "TravelTable", "Help", "HelpContents", "AboutAdventure", "About"));
+                ElementsAre("NewAdv", "Open", "SaveAs", "Restore", "Close", "In", "Export", "Decomp",
+                            "Import", "BatImp", "BatExp", "Print", "Preview", "Package", "Exit", "NewTab",
+                            "Edit", "Delete", "Find", "FindNext", "Filter", "Run", "Trace", "Verify",
+                            "Settings", "CharTable", "LstRecs", "ShortDesc", "KeyChange", "TravelTable",
+                            "Help", "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
     EXPECT_TRUE(IsEnabled(Command::Edit));

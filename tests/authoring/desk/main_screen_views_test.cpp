@@ -97,5 +97,62 @@ TEST(MaintenanceView, ShowsTheProgramsTablesAndFields) {
     EXPECT_EQ(window.main->Grid().Columns()[0].field, "vocindex");
 }
 
+TEST_F(ViewsTest, OfProcessTablesShowNamesOnRequestAndFilterByThem) {
+    OpenNew();
+    StoreMessage(1, "Dark!");
+    {
+        Change change(main->CurrentContext().document, "entry");
+        store::Cursor& entry = Adventure().OpenTable(TableNum::ProcessTables, "def");
+        entry.AddNew();
+        entry.SetField("canum", std::int64_t{999});
+        entry.SetField("estype", std::int64_t{0});
+        entry.SetField("condacts", std::string("MESSAGE 1 DONE"));
+        entry.Update();
+        change.Commit();
+    }
+    main->Show({TableNum::ProcessTables, 0});
+    const auto line = [&] {
+        const auto& columns = main->Grid().Columns();
+        const int row = main->Grid().RowOf(999).value();
+        for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
+            if (columns[static_cast<std::size_t>(column)].title == "CondActs")
+                return main->Grid().CellText(row, column);
+        }
+        return std::string("no column");
+    };
+    EXPECT_EQ(line(), "MESSAGE 1 DONE");
+    main->ShowNames(true);
+    EXPECT_EQ(line(), "MESSAGE 1 \u201CDark!\u201D  \u00B7  DONE");
+    main->SetFilter("dark!");
+    EXPECT_EQ(main->Grid().RowCount(), 1);
+    main->ShowNames(false);
+    EXPECT_EQ(main->Grid().RowCount(), 0);
+    main->SetFilter("");
+    EXPECT_EQ(line(), "MESSAGE 1 DONE");
+}
+
+TEST_F(ViewsTest, OfTextsAndEntriesHaveARecordBesideTheRows) {
+    OpenNew();
+    StoreMessage(1, "Dark!");
+    main->Show({TableNum::Messages});
+    const auto message = main->RecordBeside();
+    ASSERT_TRUE(message.has_value());
+    EXPECT_EQ(message->screen, Screen::Text);
+    EXPECT_EQ(message->key.key, 1);
+    main->Show({TableNum::Locations});
+    ASSERT_TRUE(main->RecordBeside().has_value());
+    EXPECT_EQ(main->RecordBeside()->screen, Screen::Location);
+}
+
+TEST_F(ViewsTest, WhoseRecordsCannotBeEditedHaveNoneBesideTheRowsAndSayNothing) {
+    OpenNew();
+    for (const TableNum table : {TableNum::Vocabulary, TableNum::Adventure, TableNum::CondActs,
+                                 TableNum::ProcDesc, TableNum::Messages}) {
+        main->Show({table});
+        EXPECT_FALSE(main->RecordBeside().has_value()) << static_cast<int>(table);
+    }
+    EXPECT_TRUE(Boxes().empty());
+}
+
 }  // namespace
 }  // namespace fabula::authoring

@@ -191,6 +191,46 @@ TEST(Completing, ACursorBehindTheLineStandsAtItsEnd) {
     EXPECT_EQ(help->Complete("MESSA", 99).items.size(), 1U);
 }
 
+ExplainedCondAct Action(std::string text, std::string meaning) {
+    return {std::move(text), std::move(meaning), true, false};
+}
+ExplainedCondAct Condition(std::string text, std::string meaning) {
+    return {std::move(text), std::move(meaning), false, false};
+}
+
+TEST(ALineExplained, IsItsConditionsAndActionsOneByOneWithWhatTheyStandFor) {
+    const HelpOf help;
+    EXPECT_THAT(help->Explain("AT 1 PRESENT 0 MESSAGE 1 PLACE 0 2 DONE"),
+                ElementsAre(Condition("AT 1", "The cellar"), Condition("PRESENT 0", "a brass lamp"),
+                            Action("MESSAGE 1", "\u201CIt is too dark.\u201D"),
+                            Action("PLACE 0 2", "a brass lamp, The stairs"), Action("DONE", "")));
+}
+
+TEST(ALineExplained, TellsWhatIsNotThere) {
+    const HelpOf help;
+    EXPECT_THAT(help->Explain("AT 77"), ElementsAre(Condition("AT 77", "there is no location 77")));
+}
+
+TEST(ALineExplained, EndsAtANameThatIsNone) {
+    const HelpOf help;
+    const auto explained = help->Explain("DONE XYZZY 5 DONE");
+    ASSERT_EQ(explained.size(), 2U);
+    EXPECT_TRUE(explained[1].isFault);
+    EXPECT_EQ(explained[1].meaning, "XYZZY is an invalid Condition/Action");
+}
+
+TEST(ALineExplained, OfNothingIsNothing) {
+    const HelpOf help;
+    EXPECT_THAT(help->Explain(""), IsEmpty());
+    EXPECT_EQ(help->WithNames(""), "");
+}
+
+TEST(ALineExplained, StandsInOneLineWithNames) {
+    const HelpOf help;
+    EXPECT_EQ(help->WithNames("AT 1 MESSAGE 0 DONE"),
+              "AT 1 The cellar  \u00B7  MESSAGE 0 \u201CWelcome!\u201D  \u00B7  DONE");
+}
+
 TEST(MeaningOfAToken, OfANumberIsItsText) {
     const HelpOf help;
     EXPECT_EQ(help.Meaning("MESSAGE 1|"), "MESSAGE 1: It is too dark.");

@@ -42,7 +42,6 @@ MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::
     layout->addWidget(text_, 1);
     layout->addLayout(bottom);
     ShowRecord();
-    text_->setFocus();
     resize(sizeHint().expandedTo({640, 480}));
 }
 
@@ -62,10 +61,24 @@ void MessageDialog::AddMoves(QHBoxLayout& row) {
         auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
         connect(shortcut, &QShortcut::activated, this, [this, step] { Move(step); });
         row.addWidget(button);
+        moves_.append(button);
+        moveKeys_.append(shortcut);
     };
     add("previous", tr("Previous number"), Qt::UpArrow, Qt::Key_PageUp, -1);
     add("next", tr("Next number"), Qt::DownArrow, Qt::Key_PageDown, 1);
     row.addStretch(1);
+}
+
+void MessageDialog::setVisible(bool visible) {
+    if (visible && isWindow()) text_->setFocus();
+    QDialog::setVisible(visible);
+}
+
+void MessageDialog::StandBeside() {
+    for (QToolButton* move : moves_)
+        move->hide();
+    for (QShortcut* key : moveKeys_)
+        key->setEnabled(false);
 }
 
 void MessageDialog::AddButtons(QHBoxLayout& row) {

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
 
 #include "authoring/fields/text_editing.h"
 #include "authoring/screens/message_screen.h"
+#include "ide/dialogs/record_editor.h"
 
 class QHBoxLayout;
 class QLabel;
+class QShortcut;
+class QToolButton;
 
 namespace fabula::ide {
 
@@ -14,7 +18,7 @@ class MarkupEdit;
 
 /// The dialog of a message, a system message or the description of a process table. Accepted by Update.
 /// Page Up and Page Down with Ctrl go to the previous and the next number.
-class MessageDialog final : public QDialog {
+class MessageDialog final : public QDialog, public RecordEditor {
   public:
     /// All of them outlive the dialog. `dialogs` tells what could not be stored.
     MessageDialog(authoring::MessageScreen& screen, const authoring::TextEditing& editing,
@@ -22,6 +26,11 @@ class MessageDialog final : public QDialog {
 
     /// Closes without storing; asks first where the text was changed.
     void reject() override;
+    void setVisible(bool visible) override;
+
+    bool HasChanges() override { return screen_.Changed(); }
+    void Store() override { ClickUpdate(); }
+    void StandBeside() override;
 
   private:
     void AddMoves(QHBoxLayout& row);
@@ -34,6 +43,8 @@ class MessageDialog final : public QDialog {
     authoring::MessageScreen& screen_;
     platform::Dialogs& dialogs_;
     QLabel* number_;
+    QList<QToolButton*> moves_;
+    QList<QShortcut*> moveKeys_;
     MarkupEdit* text_;
 };
 

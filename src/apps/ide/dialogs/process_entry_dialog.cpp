@@ -10,10 +10,12 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 
 #include "ide/dialogs/leaving.h"
 #include "ide/editors/cond_act_edit.h"
@@ -74,9 +76,6 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QW
     Show();
     focus_ = connect(qApp, &QApplication::focusChanged, this,
                      [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
-    // A new entry begins with its words.
-    QWidget* const first = screen_.Key().isNew ? static_cast<QWidget*>(word1_) : line_;
-    first->setFocus();
     const int moreLines = kMoreLines * line_->fontMetrics().lineSpacing();
     const QSize wanted(kDefaultWidth,
                        form->heightForWidth(kDefaultWidth) + buttons->sizeHint().height() + moreLines);
@@ -93,6 +92,24 @@ void ProcessEntryDialog::reject() {
     if (line_->HideOffers()) return;
     Take();
     if (MayClose(screen_.Changed(), screen_.Dialogs(), [this] { Update(); })) QDialog::reject();
+}
+
+void ProcessEntryDialog::setVisible(bool visible) {
+    if (visible && isWindow()) {
+        // A new entry begins with its words.
+        QWidget* const first = screen_.Key().isNew ? static_cast<QWidget*>(word1_) : line_;
+        first->setFocus();
+    }
+    QDialog::setVisible(visible);
+}
+
+bool ProcessEntryDialog::HasChanges() {
+    Take();
+    return screen_.Changed();
+}
+
+bool ProcessEntryDialog::CloseList() {
+    return line_->HideOffers();
 }
 
 QComboBox* ProcessEntryDialog::MakeWords(const QString& name, const QString& what,
@@ -191,6 +208,13 @@ QLayout* ProcessEntryDialog::BuildLine() {
     line_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     auto* label = new QLabel(tr("Com&bined Condition/Actions"), this);
     label->setBuddy(line_);
+    explained_ = new QListWidget(this);
+    explained_->setObjectName("explained");
+    explained_->setAccessibleName(tr("Conditions and actions, one by one"));
+    explained_->setSelectionMode(QAbstractItemView::NoSelection);
+    explained_->setMinimumHeight(explained_->fontMetrics().lineSpacing() * kFewestLines);
+    explained_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    connect(line_, &QPlainTextEdit::textChanged, this, [this] { Explain(); });
     meaning_ = MakeNote("meaning", tr("Meaning"), this);
     fault_ = MakeNote("fault", tr("Fault"), this);
     line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
@@ -199,6 +223,7 @@ QLayout* ProcessEntryDialog::BuildLine() {
     help->setWordWrap(true);
     column->addWidget(label);
     column->addWidget(line_, 1);
+    column->addWidget(explained_, 1);
     column->addWidget(meaning_);
     column->addWidget(fault_);
     column->addSpacing(kBelowLabel);
@@ -248,6 +273,21 @@ void ProcessEntryDialog::Show() {
     if (line == line_->toPlainText()) return;
     line_->setPlainText(line);
     line_->moveCursor(QTextCursor::End);
+}
+
+/// One condition or action to a line, coloured by kind, with what it means.
+void ProcessEntryDialog::Explain() {
+    explained_->clear();
+    for (const authoring::ExplainedCondAct& each :
+         screen_.Help().Explain(qt::FromQt(line_->toPlainText()))) {
+        const QString meaning = qt::ToQt(each.meaning);
+        const QString shown =
+            meaning.isEmpty() ? qt::ToQt(each.text) : QString("%1    %2").arg(qt::ToQt(each.text), meaning);
+        auto* item = new QListWidgetItem(shown, explained_);
+        item->setToolTip(qt::TipOf(shown));
+        if (!each.isAction && !each.isFault) item->setForeground(palette().color(QPalette::Link));
+        if (each.isFault) item->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    }
 }
 
 void ProcessEntryDialog::Take() {

@@ -4,10 +4,12 @@
 #include <functional>
 
 #include "authoring/screens/process_entry_screen.h"
+#include "ide/dialogs/record_editor.h"
 
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QListWidget;
 class QPushButton;
 
 namespace fabula::ide {
@@ -16,7 +18,7 @@ class CondActEdit;
 
 /// The window of the process entry editor. It shows the fields of `screen`, gives them back when they are
 /// left, and keeps the focus in one that is refused.
-class ProcessEntryDialog final : public QDialog {
+class ProcessEntryDialog final : public QDialog, public RecordEditor {
   public:
     explicit ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QWidget* parent = nullptr);
     ~ProcessEntryDialog() override;
@@ -24,6 +26,11 @@ class ProcessEntryDialog final : public QDialog {
     /// Closes the list of offers, when it is open; else the dialog, after a question where something was
     /// changed.
     void reject() override;
+    void setVisible(bool visible) override;
+
+    bool HasChanges() override;
+    void Store() override { Update(); }
+    bool CloseList() override;
 
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -42,6 +49,7 @@ class ProcessEntryDialog final : public QDialog {
     QComboBox* MakeWords(const QString& name, const QString& what, const authoring::DropList& list);
 
     void Show();
+    void Explain();
     void Take();
     void ShowParameter(const ParameterWidgets& widgets, const authoring::ParameterField& field);
     void FocusChanged(QWidget* left, QWidget* now);
@@ -62,6 +70,7 @@ class ProcessEntryDialog final : public QDialog {
     ParameterWidgets param1_{};
     ParameterWidgets param2_{};
     CondActEdit* line_ = nullptr;
+    QListWidget* explained_ = nullptr;
     QLabel* meaning_ = nullptr;
     QLabel* fault_ = nullptr;
     QPushButton* add_ = nullptr;

@@ -59,8 +59,10 @@ void ScreenDialog::setVisible(bool visible) {
         placed_ = true;
         // Made last, they come last for the keyboard too.
         AddButtons();
-        resize(sizeHint());
-        FocusFirst();
+        if (isWindow()) {
+            resize(sizeHint());
+            FocusFirst();
+        }
     }
     QDialog::setVisible(visible);
 }
@@ -68,6 +70,11 @@ void ScreenDialog::setVisible(bool visible) {
 void ScreenDialog::reject() {
     Read();
     if (MayClose(edited_.Changed(), edited_.Dialogs(), [this] { ClickUpdate(); })) QDialog::reject();
+}
+
+bool ScreenDialog::HasChanges() {
+    Read();
+    return edited_.Changed();
 }
 
 void ScreenDialog::AddButtons() {

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "authoring/fields/edit_screen.h"
+#include "ide/dialogs/record_editor.h"
 
 class QHBoxLayout;
 class QPushButton;
@@ -12,12 +13,15 @@ namespace fabula::ide {
 
 /// What the dialogs that edit something share: Update (Ctrl+Return) and Exit (Esc), and checks of the
 /// fields that are left. A control that is refused gets the focus back.
-class ScreenDialog : public QDialog {
+class ScreenDialog : public QDialog, public RecordEditor {
   public:
-    /// The first time: in its size, with the keyboard in the first field.
+    /// The first time, as a window: in its size, with the keyboard in the first field.
     void setVisible(bool visible) override;
     /// Closes without storing; asks first where something was changed.
     void reject() override;
+
+    bool HasChanges() override;
+    void Store() override { ClickUpdate(); }
 
   protected:
     /// `screen` outlives the dialog.

@@ -26,25 +26,60 @@ void Show(QDialog& dialog) {
     dialog.exec();
 }
 
-template <typename Dialog, typename Logic>
-void ShowRecord(authoring::ScreenContext& context, authoring::ScreenKey key, QWidget* parent) {
-    Logic screen(context, key);
-    Dialog dialog(screen, parent);
-    Show(dialog);
-}
+/// A screen with the dialog on it.
+template <typename EditedDialog, typename Logic>
+class Record final : public OpenedRecord {
+  public:
+    template <typename Key>
+    Record(authoring::ScreenContext& context, const Key& key, QWidget* parent)
+        : screen_(context, key), dialog_(screen_, parent) {}
+    QDialog& Dialog() override { return dialog_; }
+    RecordEditor& Editor() override { return dialog_; }
 
-void ShowText(authoring::ScreenContext& context, authoring::ScreenKey key, QWidget* parent) {
-    authoring::MessageScreen screen(context, key);
-    const authoring::TextEditing editing(context.document.Adventure());
-    MessageDialog dialog(screen, editing, context.dialogs, parent);
-    Show(dialog);
-}
+  private:
+    Logic screen_;
+    EditedDialog dialog_;
+};
 
-void ShowProcessEntry(authoring::ScreenContext& context, const authoring::ScreenRequest& request,
-                      QWidget* parent) {
-    authoring::ProcessEntryScreen screen(context, request);
-    ProcessEntryDialog dialog(screen, parent);
-    Show(dialog);
+class TextRecord final : public OpenedRecord {
+  public:
+    TextRecord(authoring::ScreenContext& context, authoring::ScreenKey key, QWidget* parent)
+        : screen_(context, key),
+          editing_(context.document.Adventure()),
+          dialog_(screen_, editing_, context.dialogs, parent) {}
+    QDialog& Dialog() override { return dialog_; }
+    RecordEditor& Editor() override { return dialog_; }
+
+  private:
+    authoring::MessageScreen screen_;
+    authoring::TextEditing editing_;
+    MessageDialog dialog_;
+};
+
+std::unique_ptr<OpenedRecord> Opened(const authoring::ScreenRequest& request,
+                                     authoring::ScreenContext& context, QWidget* parent) {
+    using namespace authoring;
+    const ScreenKey key = request.key;
+    switch (request.screen) {
+        case Screen::Location:
+            return std::make_unique<Record<LocationDialog, LocationScreen>>(context, key, parent);
+        case Screen::Object:
+            return std::make_unique<Record<ObjectDialog, ObjectScreen>>(context, key, parent);
+        case Screen::Word:
+            return std::make_unique<Record<WordDialog, WordScreen>>(context, key, parent);
+        case Screen::Flag:
+            return std::make_unique<Record<FlagDialog, FlagScreen>>(context, key, parent);
+        case Screen::Text:
+            return std::make_unique<TextRecord>(context, key, parent);
+        case Screen::ProcessEntry:
+            return std::make_unique<Record<ProcessEntryDialog, ProcessEntryScreen>>(context, request,
+                                                                                    parent);
+        case Screen::Settings:
+        case Screen::Picture:
+        case Screen::Character:
+            break;
+    }
+    return nullptr;
 }
 
 void ShowSettings(authoring::ScreenContext& context, const SoundTest& sound, QWidget* parent) {
@@ -55,27 +90,15 @@ void ShowSettings(authoring::ScreenContext& context, const SoundTest& sound, QWi
 
 }  // namespace
 
+std::unique_ptr<OpenedRecord> OpenRecord(const authoring::ScreenRequest& request,
+                                         authoring::ScreenContext& context) {
+    return Opened(request, context, nullptr);
+}
+
 void OpenScreen(const authoring::ScreenRequest& request, authoring::ScreenContext& context,
                 const SoundTest& sound, QWidget* parent) {
-    switch (request.screen) {
-        case Screen::Location:
-            return ShowRecord<LocationDialog, authoring::LocationScreen>(context, request.key, parent);
-        case Screen::Object:
-            return ShowRecord<ObjectDialog, authoring::ObjectScreen>(context, request.key, parent);
-        case Screen::Word:
-            return ShowRecord<WordDialog, authoring::WordScreen>(context, request.key, parent);
-        case Screen::Flag:
-            return ShowRecord<FlagDialog, authoring::FlagScreen>(context, request.key, parent);
-        case Screen::Text:
-            return ShowText(context, request.key, parent);
-        case Screen::ProcessEntry:
-            return ShowProcessEntry(context, request, parent);
-        case Screen::Settings:
-            return ShowSettings(context, sound, parent);
-        case Screen::Picture:
-        case Screen::Character:
-            return;
-    }
+    if (request.screen == Screen::Settings) return ShowSettings(context, sound, parent);
+    if (const auto record = Opened(request, context, parent)) Show(record->Dialog());
 }
 
 }  // namespace fabula::ide

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "authoring/document/screen_context.h"
 #include "authoring/entries/entries.h"
 #include "engine/sound_player.h"
+#include "ide/dialogs/record_editor.h"
 
+class QDialog;
 class QWidget;
 
 namespace fabula::ide {
@@ -17,6 +20,19 @@ struct SoundTest {
     engine::SoundPlayer& player;
     std::function<std::vector<std::string>()> devices;  ///< the names of the system's MIDI devices
 };
+
+/// A record in its dialog, which is not shown yet.
+class OpenedRecord {
+  public:
+    virtual ~OpenedRecord() = default;
+    virtual QDialog& Dialog() = 0;
+    virtual RecordEditor& Editor() = 0;
+};
+
+/// Opens the screen of a record of which a pane is to show the dialog; nullptr for settings, pictures and
+/// characters. Throws fabula::Error when the record can't be read.
+std::unique_ptr<OpenedRecord> OpenRecord(const authoring::ScreenRequest& request,
+                                         authoring::ScreenContext& context);
 
 /// Shows the dialog of a screen, but for pictures and characters, until the author leaves it. What was
 /// stored is in the adventure then. Throws fabula::Error when the record can't be read.

@@ -26,6 +26,7 @@
 #include "ide/window/empty_page.h"
 #include "ide/window/find_bar.h"
 #include "ide/window/game_test.h"
+#include "ide/window/record_pane.h"
 #include "ide/window/record_panel.h"
 #include "ide/window/tree_panel.h"
 #include "ide/window/uses_pane.h"
@@ -43,11 +44,14 @@ constexpr QSize kDefaultSize(1080, 700);
 constexpr QSize kSmallestSize(320, 240);
 constexpr int kSmallestIcon = 22;
 constexpr int kTreeWidth = 250;
+constexpr int kWidthForBeside = 1300;  ///< of a window in which the record has room beside the rows
 
 // Where the window's look is kept.
 constexpr const char* kGeometry = "Desk/Geometry";
 constexpr const char* kSplitter = "Desk/Splitter";
 constexpr const char* kUsesShown = "Desk/Uses";
+constexpr const char* kRecordBeside = "Desk/RecordBeside";
+constexpr const char* kWithNames = "Desk/WithNames";
 
 }  // namespace
 
@@ -68,30 +72,35 @@ MainWindow::MainWindow(const Services& services, Places places)
                             .openExample = [this](const Example& example) { OpenExample(example); },
                             .openRecent = [this](const auto& file) { Open(file); }})),
       desk_(new QSplitter),
-      tree_(new TreePanel([this](int sort) {
-          ide_.ShowNode(sort);
-          ShowChanges();
-      })),
+      tree_(new TreePanel([this](int sort) { ChooseNode(sort); })),
+      work_(new QSplitter),
       records_(new RecordPanel(
           ide_.Grid(), services.timers,
-          {.rowChosen =
-               [this](int row) {
-                   ide_.SelectRow(row);
-                   ShowRow();
+          {.rowChosen = [this](int row) { ChooseRow(row); },
+           .opened =
+               [this] {
+                   if (!beside_->Enter()) Do(Command::Edit);
                },
-           .opened = [this] { Do(Command::Edit); },
            .columnClicked =
                [this](int column) {
+                   if (!LeaveRecord()) return;
                    ide_.ClickColumn(column);
                    ShowChanges();
                },
            .columnResized = [this](int column, int width) { ide_.ResizeColumn(column, width); },
            .filtered =
                [this](const std::string& text) {
+                   if (!LeaveRecord()) return;
                    ide_.SetFilter(text);
                    ShowChanges();
                },
            .menuAsked = [this](const QPoint& place) { AskEntryMenu(place); }})),
+      beside_(new RecordPane({.stored =
+                                  [this](const authoring::ScreenRequest& request) {
+                                      ide_.ScreenClosed(request);
+                                      ShowChanges();
+                                  },
+                              .left = [this] { records_->Grid().setFocus(); }})),
       find_(new FindBar({.changed =
                              [this](const std::string& text, std::optional<std::size_t> field) {
                                  ide_.Finder().text = text;
@@ -141,7 +150,11 @@ void MainWindow::MakePages() {
     desk_->setChildrenCollapsible(false);
     desk_->setHandleWidth(1);
     desk_->addWidget(tree_);
-    desk_->addWidget(right);
+    work_->setChildrenCollapsible(false);
+    work_->addWidget(right);
+    work_->addWidget(beside_);
+    beside_->hide();
+    desk_->addWidget(work_);
     desk_->setStretchFactor(1, 1);
     desk_->setSizes({kTreeWidth, kDefaultSize.width() - kTreeWidth});
     tree_->setMinimumWidth(80);
@@ -166,6 +179,7 @@ void MainWindow::MakeMenus() {
     QObject::connect(tables_, &QMenu::aboutToShow, this, [this] { ShowTables(); });
     QObject::connect(columns_, &QMenu::aboutToShow, this, [this] { ShowColumns(); });
     view->addSeparator();
+    MakeViewSwitches(*view);
     MakeThemeMenu(*view);
 
     QToolBar* bar = addToolBar(tr("Tool bar"));
@@ -189,6 +203,30 @@ void MainWindow::MakeMenus() {
     uses->setCheckable(true);
     QObject::connect(view, &QMenu::aboutToShow, this,
                      [this, uses] { uses->setChecked(uses_->isVisibleTo(desk_)); });
+}
+
+void MainWindow::MakeViewSwitches(QMenu& view) {
+    const auto add = [&](const char* name, const QString& text, QKeySequence key, const QString& kept) {
+        QAction* action = view.addAction(text);
+        action->setObjectName(name);
+        action->setShortcut(key);
+        action->setCheckable(true);
+        action->setChecked(services_.store.value(kept, false).toBool());
+        QObject::connect(action, &QAction::toggled, this,
+                         [this, kept](bool on) { services_.store.setValue(kept, on); });
+        return action;
+    };
+    showBeside_ = add("RecordBeside", tr("Record &Beside the Rows"), Qt::Key_F9, kRecordBeside);
+    QObject::connect(showBeside_, &QAction::toggled, this, [this] {
+        if (LeaveRecord()) ShowBeside();
+    });
+    QAction* names = add("WithNames", tr("Process Tables with &Names"), Qt::Key_F8, kWithNames);
+    ide_.ShowNames(names->isChecked());
+    QObject::connect(names, &QAction::toggled, this, [this](bool on) {
+        if (!LeaveRecord()) return;
+        ide_.ShowNames(on);
+        ShowChanges();
+    });
 }
 
 void MainWindow::MakeThemeMenu(QMenu& view) {
@@ -261,6 +299,7 @@ void MainWindow::Start(const std::filesystem::path& file) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!LeaveRecord()) return event->ignore();
     services_.store.setValue(kGeometry, saveGeometry());
     services_.store.setValue(kSplitter, desk_->saveState());
     services_.store.setValue(kUsesShown, uses_->isVisibleTo(desk_));
@@ -268,6 +307,17 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     help_.Close();
     event->accept();
     QApplication::quit();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    ArrangePanes();
+}
+
+/// The record stands beside the rows where the window has the room, and else below them.
+void MainWindow::ArrangePanes() {
+    const auto wanted = width() >= kWidthForBeside ? Qt::Horizontal : Qt::Vertical;
+    if (work_->orientation() != wanted) work_->setOrientation(wanted);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

@@ -34,6 +34,7 @@ class CommandActions;
 class EmptyPage;
 class FindBar;
 class GameTest;
+class RecordPane;
 class RecordPanel;
 class TreePanel;
 class UsesPane;
@@ -87,6 +88,7 @@ class MainWindow final : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -94,6 +96,7 @@ class MainWindow final : public QMainWindow {
     void MakePages();
     void MakeMenus();
     void MakeThemeMenu(QMenu& view);
+    void MakeViewSwitches(QMenu& view);
     void MakeStatusBar();
     void MakeKeys();
     void PlaceWindow();
@@ -101,6 +104,11 @@ class MainWindow final : public QMainWindow {
     void ShowChanges();
     void ShowRow();
     void ShowPicture();
+    void ShowBeside();
+    void ChooseRow(int row);
+    void ChooseNode(int sort);
+    bool LeaveRecord();
+    void ArrangePanes();
     void ShowActions();
     void ShowStatus();
     void ShowTables();
@@ -159,7 +167,10 @@ class MainWindow final : public QMainWindow {
     EmptyPage* empty_;
     QSplitter* desk_;
     TreePanel* tree_;
+    QSplitter* work_;  ///< the rows, and beside or below them the record
     RecordPanel* records_;
+    RecordPane* beside_;
+    QAction* showBeside_ = nullptr;
     FindBar* find_;
     UsesPane* uses_;
     CommandActions* actions_;

@@ -40,6 +40,7 @@ void MainWindow::Do(Command command) {
     // Enter and a double click on a row come here whatever the table allows.
     const authoring::ActionState state = ide_.StateOf(command);
     if (!state.enabled) return message_->setText(qt::ToQt(state.why));
+    if (command != Command::Help && !LeaveRecord()) return;
     switch (command) {
         case Command::New:
             return New();
@@ -166,6 +167,7 @@ void MainWindow::New() {
 }
 
 void MainWindow::Open(const std::filesystem::path& file) {
+    if (!LeaveRecord()) return;
     ide_.OpenFile(file);
     ShowChanges();
 }

@@ -17,6 +17,7 @@
 #include "ide/window/empty_page.h"
 #include "ide/window/find_bar.h"
 #include "ide/window/main_window.h"
+#include "ide/window/record_pane.h"
 #include "ide/window/record_panel.h"
 #include "ide/window/tree_panel.h"
 #include "ide/window/uses_pane.h"
@@ -75,7 +76,52 @@ void MainWindow::ShowRow() {
     records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
     ShowPicture();
     ShowUses();
+    ShowBeside();
     ShowActions();
+}
+
+/// The record of the current row beside the rows, when the author wants it there.
+void MainWindow::ShowBeside() {
+    const bool wanted = showBeside_->isChecked() && ide_.GetState() == authoring::MainScreen::State::Open;
+    const auto request = wanted ? ide_.RecordBeside() : std::nullopt;
+    beside_->Show(request, request ? &ide_.CurrentContext() : nullptr);
+}
+
+/// The author goes to another row: what was typed beside the rows is stored first, which may move them.
+void MainWindow::ChooseRow(int row) {
+    const auto key = row >= 0 ? std::optional(ide_.Grid().KeyOf(row)) : std::nullopt;
+    const int changes = ide_.CurrentRow() >= 0 ? ide_.CurrentContext().document.Changes() : 0;
+    if (!LeaveRecord()) return;
+    if (key && ide_.CurrentContext().document.Changes() != changes) {
+        row = ide_.Grid().RowOf(*key, row).value_or(-1);
+        records_->ChooseRow(row);
+    }
+    ide_.SelectRow(row);
+    ShowRow();
+}
+
+void MainWindow::ChooseNode(int sort) {
+    if (!LeaveRecord()) {
+        const authoring::TreeNode* node = ide_.CurrentNode();
+        return tree_->Show(ide_.Tree(), node ? node->sort : -1);
+    }
+    ide_.ShowNode(sort);
+    ShowChanges();
+}
+
+/// Stores what was typed beside the rows. When that is refused, the author stays at the record.
+bool MainWindow::LeaveRecord() {
+    if (beside_->Leave()) return true;
+    // Once the rows have taken what the author did.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            QWidget* const focus = QApplication::focusWidget();
+            records_->ChooseRow(ide_.CurrentRow());
+            if (focus && beside_->isAncestorOf(focus)) focus->setFocus();
+        },
+        Qt::QueuedConnection);
+    return false;
 }
 
 void MainWindow::ShowPicture() {
@@ -106,10 +152,7 @@ void MainWindow::ShowTables() {
     for (const authoring::TreeNode& node : ide_.Tree()) {
         if (node.group) continue;
         QAction* action = tables_->addAction(qt::IconOf(node.icon), qt::ToQt(node.name).replace('&', "&&"),
-                                             this, [this, sort = node.sort] {
-                                                 ide_.ShowNode(sort);
-                                                 ShowChanges();
-                                             });
+                                             this, [this, sort = node.sort] { ChooseNode(sort); });
         action->setCheckable(true);
         action->setChecked(current && current->sort == node.sort);
     }
@@ -124,6 +167,7 @@ void MainWindow::ShowColumns() {
         QString name = qt::ToQt(grid.Columns()[static_cast<std::size_t>(column)].title).replace('&', "&&");
         if (sorted) name += grid.SortsDown() ? tr(" (descending)") : tr(" (ascending)");
         QAction* action = columns_->addAction(name, this, [this, column] {
+            if (!LeaveRecord()) return;
             ide_.ClickColumn(column);
             ShowChanges();
         });
@@ -152,7 +196,8 @@ void MainWindow::ShowRecent() {
 }
 
 void MainWindow::NextPane(int direction) {
-    const std::vector<QWidget*> panes = {tree_, &records_->FilterLine(), &records_->Grid(), uses_, find_};
+    const std::vector<QWidget*> panes = {tree_, &records_->FilterLine(), &records_->Grid(), beside_, uses_,
+                                         find_};
     const int count = static_cast<int>(panes.size());
     int at = 0;
     while (at < count && !panes[static_cast<std::size_t>(at)]->isAncestorOf(QApplication::focusWidget()) &&
@@ -163,6 +208,7 @@ void MainWindow::NextPane(int direction) {
         if (!pane->isVisible()) continue;
         if (pane == find_) return find_->Ask();
         if (pane == uses_) return uses_->Focus();
+        if (pane == beside_) return void(beside_->Enter());
         return pane->setFocus(Qt::TabFocusReason);
     }
 }

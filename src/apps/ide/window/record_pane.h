@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "authoring/document/screen_context.h"
+#include "authoring/entries/entries.h"
+#include "ide/dialogs/screens.h"
+
+namespace fabula::ide {
+
+/// The record of the current row beside the rows, ready to be edited: its dialog, without a window of its
+/// own. What was typed is stored when the author leaves the record, by Update, or by Ctrl+Enter; Esc takes
+/// it back, and with nothing typed goes back to the rows.
+class RecordPane final : public QWidget {
+  public:
+    struct Events {
+        /// The record was stored: what is shown of it must be read again.
+        std::function<void(const authoring::ScreenRequest& request)> stored;
+        std::function<void()> left;  ///< the keyboard is to go back to the rows
+    };
+
+    explicit RecordPane(Events events, QWidget* parent = nullptr);
+    ~RecordPane() override;
+
+    /// Shows a record as it is in the tables; nothing for nullopt. What was typed into the one before is
+    /// dropped.
+    void Show(const std::optional<authoring::ScreenRequest>& request, authoring::ScreenContext* context);
+    /// Whether it shows a record.
+    bool HasRecord() const { return record_ != nullptr; }
+    /// Gives the keyboard to the first field; false without a record.
+    bool Enter();
+    /// Stores what was typed. False when it was refused: the field at fault has the keyboard.
+    bool Leave();
+
+    QSize sizeHint() const override;
+
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+  private:
+    void Settle();
+    void Escape();
+    void Finished();
+
+    Events events_;
+    std::optional<authoring::ScreenRequest> request_;
+    authoring::ScreenContext* context_ = nullptr;
+    std::unique_ptr<OpenedRecord> record_;
+    bool leaving_ = false;
+    bool accepted_ = false;
+};
+
+}  // namespace fabula::ide
