@@ -52,6 +52,12 @@ std::string Rest(const condacts::ParsedLine& line, std::size_t from) {
     return rest;
 }
 
+void AddFault(std::string_view what, std::vector<ShownCondAct>& shown) {
+    ShownCondAct& fault = shown.emplace_back();
+    fault.name = what;
+    fault.fault = true;
+}
+
 std::string TextIn(const std::vector<authoring::ListItem>& items, int number) {
     const auto found = std::ranges::lower_bound(items, number, {}, &authoring::ListItem::number);
     return found != items.end() && found->number == number ? found->text : "";
@@ -81,12 +87,11 @@ std::vector<ShownCondAct> ConditionTexts::Shown(std::string_view condActs) const
             each.parameters.push_back(Parameter(condAct, i, line.Param(statement, i)));
         const bool tooFew = statement.paramsGiven < static_cast<std::size_t>(condAct.paramCount);
         shown.push_back(std::move(each));
-        if (tooFew) shown.push_back({.name = std::string(kNoParameters), .fault = true});
+        if (tooFew) AddFault(kNoParameters, shown);
     }
     if (line.unknownName) {
         const std::string_view name = line.tokens[*line.unknownName].text;
-        const std::string message = condacts::InvalidCondActMessage(name);
-        shown.push_back({.name = message + Rest(line, *line.unknownName + 1), .fault = true});
+        AddFault(condacts::InvalidCondActMessage(name) + Rest(line, *line.unknownName + 1), shown);
     }
     return shown;
 }
