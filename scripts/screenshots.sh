@@ -116,7 +116,7 @@ if wanted drawing-house; then
     { echo "DEFPAPER 1"; sed -n '/^    INK 4 PLOT/,/ END$/p' docs/drawing.md; } >"$work/drawings/0.draw"
     "$fabula" new "$work/house.fbd" >/dev/null
     "$fabula" draw "$work/house.fbd" --add "$work/drawings"
-    "$fabula" draw "$work/house.fbd" 0 "$images/drawing-house.png" --scale 2
+    "$fabula" draw "$work/house.fbd" 0 "$images/drawing-house.png" --scale 2 --force
 fi
 
 if wanted tutorial; then

@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -17,6 +18,7 @@
 #include "ide/drawing/image_import_dialog.h"
 #include "ide/drawing/picture_canvas.h"
 #include "ide/drawing/picture_dialog.h"
+#include "ide/editors/record_picture.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"
 #include "pictures/picture_folder.h"
@@ -266,6 +268,72 @@ TEST_F(DrawingTest, ABrokenDrawstringShowsItsFaultInTheList) {
     const auto& list = drawer.Part<QListView>("Commands");
     EXPECT_TRUE(list.model()->index(2, 0).data().toString().contains(
         "999 is an invalid relative X number for command PLOT"));
+}
+
+TEST_F(DrawingTest, ABrokenDrawstringIsUnderlinedAtItsWordAndSteppingStopsInFrontOfIt) {
+    desk_.Add(TableNum::Pictures, {{"locnum", std::int64_t{50}},
+                                   {"locpaper", std::int64_t{7}},
+                                   {"locink", std::int64_t{0}},
+                                   {"drawstring", std::string("INK 2 PLOT 0 999 5 END")}});
+    Drawer drawer(desk_, 50, false);
+    const auto marks = drawer.Part<QPlainTextEdit>("Drawstring").extraSelections();
+    ASSERT_EQ(marks.size(), 1);
+    EXPECT_EQ(marks.first().cursor.selectedText(), "999");
+    drawer.Presses(Qt::Key_PageDown);
+    drawer.Presses(Qt::Key_PageDown);
+    EXPECT_EQ(drawer.Editor().Position(), 2U);
+    EXPECT_EQ(desk_.Boxes(),
+              std::vector<std::string>{"999 is an invalid relative X number for command PLOT"});
+}
+
+TEST_F(DrawingTest, AnUpdateThatFailsIsToldAndKeepsTheEditorOpenWithItsWork) {
+    std::ofstream(desk_.Adventure().GameDir() / "art") << "a file, no folder";
+    desk_.dialogs.AnswerFile(desk_.Adventure().GameDir() / "art" / "kitchen.bmp");
+    Drawer drawer(desk_, 99, true);
+    drawer.ClicksOn("Browse");
+    drawer.Types("INK 5");
+    QTest::keyClick(&drawer.Dialog(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(desk_.Boxes().size(), 1U);
+    EXPECT_TRUE(drawer.Dialog().isVisible());
+    EXPECT_EQ(drawer.Editor().drawstring, "INK 5 END");
+    EXPECT_EQ(desk_.Rows(TableNum::Pictures, "locnum", "locnum=99"), std::vector<std::string>{});
+    desk_.dialogs.AnswerLeaving(platform::Leaving::Discard);
+    drawer.Dialog().reject();
+}
+
+TEST_F(DrawingTest, AnUpdateIsOneStepOfTheUndoOfTheAdventure) {
+    const Snapshot before = desk_.Everything();
+    Drawer drawer(desk_, 13, false);
+    drawer.Types("INK 5");
+    drawer.Types("PLOT");
+    desk_.dialogs.AnswerNext(false);  // no image of it
+    QTest::keyClick(&drawer.Dialog(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(desk_.document.UndoName(), "edit picture 13");
+    desk_.document.Undo();
+    EXPECT_EQ(desk_.Everything(), before);
+    EXPECT_FALSE(desk_.document.UndoName());
+}
+
+TEST_F(DrawingTest, PicturesThatAreDrawnAreShownInSmall) {
+    EXPECT_EQ(ide::PictureOfRecord(desk_.Adventure(), TableNum::Pictures, 13).size(), QSize(256, 176));
+    EXPECT_EQ(ide::PictureOfRecord(desk_.Adventure(), TableNum::Locations, 13).size(), QSize(256, 176));
+    EXPECT_TRUE(ide::PictureOfRecord(desk_.Adventure(), TableNum::Pictures, 99).isNull());
+    EXPECT_TRUE(ide::PictureOfRecord(desk_.Adventure(), TableNum::Messages, 13).isNull());
+}
+
+TEST_F(DrawingTest, APictureThatIsKeptInTheFileIsShownInSmall) {
+    QImage image(64, 44, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    const auto file = desk_.Adventure().GameDir() / "kept.png";
+    ASSERT_TRUE(image.save(qt::PathToQt(file)));
+    store::Cursor& settings = desk_.Adventure().OpenTable(TableNum::Adventure, "def");
+    settings.SetField("graphicsindb", std::int64_t{1});
+    settings.Update();
+    store::Cursor& room = desk_.Adventure().OpenTable(TableNum::Locations, "def", "locnum=20");
+    room.StoreFileInField(file, "picgraphic", "oldpicloc");
+    room.Update();
+    std::filesystem::remove(file);
+    EXPECT_EQ(ide::PictureOfRecord(desk_.Adventure(), TableNum::Locations, 20).size(), QSize(64, 44));
 }
 
 /// The editor of the first user-defined character.

@@ -13,6 +13,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "authoring/fields/brief_text.h"
 #include "ide/drawing/command_list.h"
 #include "ide/drawing/image_import_dialog.h"
 #include "ide/drawing/picture_canvas.h"
@@ -102,7 +103,7 @@ QWidget* PictureDialog::NewLeft() {
     auto* left = new QWidget;
     auto* layout = new QVBoxLayout(left);
     layout->setContentsMargins(0, 0, 4, 0);
-    auto* title = new QLabel(qt::ToQt(screen_.LocationLine()));
+    auto* title = new QLabel(qt::ToQt(authoring::BriefText(screen_.LocationLine())));
     title->setObjectName("LocationLine");
     title->setTextFormat(Qt::PlainText);
     title->setMinimumWidth(1);
