@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds and runs every test: an optimised build by g++, the same tests built by clang under
 # the sanitizers, the programs that need no Qt without it, what plays a game without the packages of all other programs,
-# and the checks of formatting and includes.
+# and the checks of formatting, includes and links.
 set -euo pipefail
 cd "$(dirname "$0")"
 

@@ -78,7 +78,7 @@ QWidget* SettingsDialog::MakeText() {
     const TextChoice& text = settings_.text;
     auto* group = new QGroupBox(tr("Text"));
     auto* form = new QFormLayout(group);
-    ownFont_ = new QCheckBox(tr("The game's o&wn font"));
+    ownFont_ = new QCheckBox(tr("The game's &own font"));
     ownFont_->setObjectName("OwnFont");
     ownFont_->setChecked(text.family.isEmpty());
     font_ = new QFontComboBox;
