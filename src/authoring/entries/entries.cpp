@@ -279,7 +279,7 @@ std::optional<ScreenRequest> Entries::RecordBeside() {
     const TableNum table = context_.currentTable;
     const EntryTable* entry = FindEntryTable(table);
     if (entry == nullptr || !StandsBeside(context_)) return std::nullopt;
-    if (!Exists(context_.document.Adventure(), table, context_.currentEntry)) return std::nullopt;
+    if (!HasRecord(context_.document.Adventure(), table, context_.currentEntry)) return std::nullopt;
     return ScreenRequest{.screen = *entry->editor, .key = {.key = context_.currentEntry}, .table = table};
 }
 

@@ -142,7 +142,6 @@ TEST_F(DocumentTest, LogOfChangesGrowsNoMoreWhenTheOldestAreForgotten) {
     const auto writeMessage = [this](int number) {
         Change change(document_, "write a message");
         store::Cursor& messages = document_.Adventure().OpenTable(TableNum::Messages, "def");
-        messages.Edit();
         messages.SetField("msgmsg", std::string(5000, static_cast<char>('a' + number % 26)));
         messages.Update();
         change.Commit();
