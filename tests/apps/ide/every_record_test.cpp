@@ -315,11 +315,12 @@ TEST_P(EveryKind, AWordIsAddedTakenBackAndMadeAgainByKeysAndClicks) {
     EXPECT_EQ(window_.CellOf("77", "Word"), word);
 }
 
-TEST_P(EveryKind, AWordThatIsThereIsNotEdited) {
+TEST_P(EveryKind, AWordThatIsThereIsCorrected) {
     window_.GoToTable("Vocabulary");
     window_.GoToRow("60");
-    EXPECT_FALSE(window_.InDialog(Qt::Key_Return, Qt::NoModifier, {}));
-    EXPECT_EQ(UndoText(), "&Undo");
+    EXPECT_TRUE(window_.InDialog(Qt::Key_Return, Qt::NoModifier, {Step{"word", "knob"}}));
+    EXPECT_EQ(window_.CellOf("60", "Word"), "KNOB");
+    EXPECT_EQ(UndoText(), "&Undo edit word KNOB");
 }
 
 TEST_P(EveryKind, APictureIsAdded) {

@@ -262,7 +262,7 @@ TEST_F(LocationScreenTest, APlaceThatDoesNotExistIsMadeAfterAQuestion) {
     EXPECT_EQ(desk_.Boxes().back(), "There is no location called The mill. Make it?");
     EXPECT_EQ(Stored(6, "locnum"), "0 records") << "only Update makes it";
     EXPECT_TRUE(screen.Update());
-    EXPECT_EQ(Stored(3, "exits, numericexits"), "NORTH 6|2 6");
+    EXPECT_EQ(Stored(3, "exits, numericexits"), "NORD 6|2 6");
     EXPECT_EQ(Stored(6, "locshortdesc, exits, numexits"), "The mill||0");
     desk_.document.Undo();
     EXPECT_EQ(Stored(6, "locnum"), "0 records");
@@ -297,8 +297,8 @@ TEST_F(LocationScreenTest, AnExitAndBackJoinsBothPlacesInOneStepOfUndo) {
     screen.andBack = true;
     EXPECT_TRUE(screen.Add());
     EXPECT_TRUE(screen.Update());
-    EXPECT_EQ(Stored(3, "exits"), "NORTH 7");
-    EXPECT_EQ(Stored(7, "exits, numericexits, numexits"), "S\u00DCD 3|3 3|2");
+    EXPECT_EQ(Stored(3, "exits"), "NORD 7");
+    EXPECT_EQ(Stored(7, "exits, numericexits, numexits"), "SOUTH 3|3 3|2");
     desk_.document.Undo();
     EXPECT_EQ(Stored(7, "exits, numexits"), "|0");
 }

@@ -28,7 +28,7 @@ using authoring::JobMode;
 
 constexpr int kMargin = 16;
 constexpr QSize kDefaultSize(620, 540);
-constexpr int kSmallestStatusLines = 3;
+constexpr int kSmallestStatusLines = 1;
 
 struct KindText {
     std::string_view kind;
