@@ -189,8 +189,8 @@ INSTANTIATE_TEST_SUITE_P(Examples, RenumberedExample,
                                                   {"location", "5", "200"},
                                                   {"flag", "15", "16"},
                                                   {"flag", "12", "13"}}}),
-                         [](const testing::TestParamInfo<Example>& info) {
-                             return std::string(info.param.name);
+                         [](const testing::TestParamInfo<Example>& each) {
+                             return std::string(each.param.name);
                          });
 
 }  // namespace
