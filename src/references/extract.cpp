@@ -53,7 +53,7 @@ constexpr FlagMeaning kFlagMeanings[] = {
 
 /// Names whose second parameter is a number that the flag is compared with or given.
 constexpr std::string_view kWithValue[] = {"EQ", "NOTEQ", "GT", "LT", "LET"};
-constexpr std::string_view kOrders[] = {"GT", "LT", "ATGT", "ATLT"};
+constexpr std::string_view kOrders[] = {"ATGT", "ATLT", "RAMLOAD"};
 /// Names with a location that is the place inside an object of the same number.
 constexpr std::string_view kWithContainer[] = {"PUTIN", "TAKEOUT", "AUTOP", "AUTOT"};
 

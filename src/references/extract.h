@@ -49,8 +49,8 @@ struct FlagMeaning {
 };
 const FlagMeaning* FindFlagMeaning(int flag);
 
-/// Whether a condition compares numbers by their order ("GT", "ATLT" ...): what it names can't be numbered
-/// anew without a look at it.
+/// Whether a condition or action takes the number that it names for a border between others ("ATLT 19"): it
+/// is no name then that could follow a new number.
 bool ComparesOrder(std::string_view condAct);
 
 }  // namespace fabula::references

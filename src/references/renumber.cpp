@@ -194,7 +194,7 @@ class Planner {
 
     bool IsOrder(const Use& use) const {
         const auto& tokens = game_.EntryOf(use.record).line.tokens;
-        return ComparesOrder(tokens[use.token - 1].text) || tokens[use.token - 1].text == "RAMLOAD";
+        return ComparesOrder(tokens[use.token - 1].text);
     }
 
     /// What a condition or action does with numbers besides naming something by them: it compares them by

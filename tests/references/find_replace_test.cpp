@@ -45,7 +45,7 @@ TEST(FindEverywhere, LooksThroughTextsAndRules) {
               "rules 1: NOUN2 LAMP MESSAGE 900\n");
     EXPECT_EQ(Find(*game, {.text = "Lamp", .matchCase = true}), "messages 900: A brass lamp and a Lamp.\n");
     EXPECT_EQ(Find(*game, {.text = "amp", .wholeWords = true}), "");
-    EXPECT_EQ(Find(*game, {.text = "A place"}, {}), "locations 900: A place.\n");
+    EXPECT_EQ(Find(*game, {.text = "A place"}, {"locations"}), "locations 900: A place.\n");
 }
 
 TEST(FindEverywhere, FindsNoPartsOfNumbersInRules) {

@@ -91,6 +91,13 @@ TEST(Renumbering, ALocationTakesExitsObjectsStartAndFlagsWithIt) {
     EXPECT_EQ(LineOf(*game, 1), "EQ 38 50 COPYFF 38 90 EQ 90 50 EQ 91 40 PLACE 3 50");
 }
 
+TEST(Renumbering, AFlagFollowsWhereItIsComparedByOrderToo) {
+    test::OpenedAdventure game;
+    test::PutEntry(*game, 1, 0, kNone, kNone, "LT 71 4 GT 71 3 EQ 71 71 ADD 71 73");
+    Do(*game, Kind::Flag, 71, 73);
+    EXPECT_EQ(LineOf(*game, 1), "LT 73 4 GT 73 3 EQ 73 71 ADD 73 71");
+}
+
 TEST(Renumbering, AContainerAndItsPlaceGoTogether) {
     test::OpenedAdventure game;
     test::PutLocation(*game, 30, "", "");

@@ -146,8 +146,10 @@ std::vector<std::string> StepsBack(QWidget& window) {
 
 int ScrollsSideways(const QWidget& window) {
     int most = 0;
-    for (const QScrollArea* area : window.findChildren<QScrollArea*>())
-        most = std::max(most, area->horizontalScrollBar()->maximum());
+    for (const QScrollArea* area : window.findChildren<QScrollArea*>()) {
+        // Pages of a preview have the size that was asked for.
+        if (area->objectName() != "pages") most = std::max(most, area->horizontalScrollBar()->maximum());
+    }
     return most;
 }
 
@@ -176,7 +178,7 @@ void GrabInBothThemes(QWidget& window, const QString& name) {
         const QColor paper = window.palette().color(QPalette::Window);
         EXPECT_EQ(drawn.pixelColor(1, 1), paper) << name.toStdString();
         EXPECT_EQ(paper.lightness() < 128, theme == qt::Theme::Dark) << name.toStdString();
-        EXPECT_GT(OtherThan(drawn, paper), drawn.width() * drawn.height() / 100) << name.toStdString();
+        EXPECT_GT(OtherThan(drawn, paper), 200) << name.toStdString();
         if (folder.isEmpty()) continue;
         picture.save(folder + "/" + name + "-" + QString::fromUtf8(qt::NameOf(theme)) + ".png");
     }

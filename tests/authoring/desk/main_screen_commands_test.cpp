@@ -39,8 +39,8 @@ class CommandsTest : public testing::Test, public test::MainScreenStand {
 };
 
 TEST_F(CommandsTest, WithoutAnAdventureAreOff) {
-    EXPECT_THAT(Enabled(*main), ElementsAre("NewAdv", "Open", "In", "Decomp", "Exit", "Trace", "Help",
-                                            "HelpContents", "AboutAdventure", "About"));
+    EXPECT_THAT(Enabled(*main), ElementsAre("NewAdv", "Open", "In", "Decomp", "Exit", "Trace", "Palette",
+                                            "Help", "HelpContents", "AboutAdventure", "About"));
     EXPECT_EQ(StateOf(Command::Verify).why, "No adventure is open.");
 }
 
@@ -58,9 +58,10 @@ TEST_F(CommandsTest, FollowTheTableInTheGrid) {
     EXPECT_THAT(Enabled(*main),
                 ElementsAre("NewAdv", "Open", "SaveAs", "Restore", "Close", "In", "Export", "Decomp",
                             "Import", "BatImp", "BatExp", "Print", "Preview", "Package", "Exit", "NewTab",
-                            "Edit", "Delete", "Find", "FindNext", "Filter", "Run", "Trace", "Verify",
-                            "Settings", "CharTable", "LstRecs", "ShortDesc", "KeyChange", "TravelTable",
-                            "Help", "HelpContents", "AboutAdventure", "About"));
+                            "Edit", "Delete", "Find", "FindNext", "Filter", "Replace", "GoToAnything",
+                            "GoToNamed", "Uses", "GoBack", "GoForward", "Renumber", "Run", "Trace",
+                            "Verify", "Settings", "CharTable", "LstRecs", "ShortDesc", "KeyChange",
+                            "TravelTable", "Palette", "Help", "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
     EXPECT_TRUE(IsEnabled(Command::Edit));
