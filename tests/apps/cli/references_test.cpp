@@ -69,7 +69,7 @@ TEST_F(LintVerb, TellsFindingsOfASourceAtTheirPlaces) {
     const ProgramResult result = Run({"lint", "--kind", "ace", File("game.txt")});
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.output.find(File("game.txt") +
-                                 ":10:1: warning: No rule prints message 1. [message-unused]\n"),
+                                 ":12:1: warning: No rule prints message 1. [message-unused]\n"),
               std::string::npos)
         << result.output;
     EXPECT_NE(result.output.find("warning: Nothing uses the Verb XYZZY (60). [word-unused]\n"),
@@ -177,7 +177,7 @@ INSTANTIATE_TEST_SUITE_P(Examples, RenumberedExample,
                                                  {{"message", "3", "30"},
                                                   {"message", "5", "250"},
                                                   {"location", "4", "5"},
-                                                  {"location", "6", "200"},
+                                                  {"message", "7", "31"},
                                                   {"flag", "67", "75"},
                                                   {"flag", "70", "190"}}},
                                          Example{"cellar",
@@ -186,7 +186,7 @@ INSTANTIATE_TEST_SUITE_P(Examples, RenumberedExample,
                                                  {{"message", "3", "30"},
                                                   {"message", "5", "250"},
                                                   {"location", "3", "4"},
-                                                  {"location", "5", "200"},
+                                                  {"message", "7", "31"},
                                                   {"flag", "15", "16"},
                                                   {"flag", "12", "13"}}}),
                          [](const testing::TestParamInfo<Example>& each) {

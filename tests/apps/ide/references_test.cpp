@@ -60,7 +60,7 @@ TEST_P(References, ShiftF12ListsTheUsesAndEnterGoesThereAndAltLeftBack) {
 
 TEST_P(References, ControlPGoesToARecordByItsNumber) {
     QTimer::singleShot(0, [] {
-        auto* dialog = qobject_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());
+        auto* dialog = dynamic_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr);
         QTest::keyClicks(dialog->findChild<QLineEdit*>("QuickLine"), "m1");
         EXPECT_EQ(dialog->findChild<QListWidget*>("QuickList")->count(), 1);
@@ -72,7 +72,7 @@ TEST_P(References, ControlPGoesToARecordByItsNumber) {
 
 TEST_P(References, ThePaletteDoesACommandByAPartOfItsName) {
     QTimer::singleShot(0, [] {
-        auto* dialog = qobject_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());
+        auto* dialog = dynamic_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr);
         QTest::keyClicks(dialog->findChild<QLineEdit*>("QuickLine"), "show uses");
         QTest::keyClick(dialog->findChild<QLineEdit*>("QuickLine"), Qt::Key_Return);
@@ -112,7 +112,9 @@ TEST_F(ReferenceDialogs, ReplaceLeavesOutWhatIsNotTicked) {
     for (int row = 0; row < found->topLevelItemCount(); ++row) {
         QTreeWidgetItem* item = found->topLevelItem(row);
         const bool wanted = item->text(0) == "message 900";
-        if (wanted) EXPECT_EQ(item->text(2), "the new lamp");
+        if (wanted) {
+            EXPECT_EQ(item->text(2), "the new lamp");
+        }
         here += wanted ? 1 : 0;
         item->setCheckState(0, wanted ? Qt::Checked : Qt::Unchecked);
     }

@@ -39,8 +39,8 @@ class CommandsTest : public testing::Test, public test::MainScreenStand {
 };
 
 TEST_F(CommandsTest, WithoutAnAdventureAreOff) {
-    EXPECT_THAT(Enabled(*main), ElementsAre("NewAdv", "Open", "In", "Exit", "Trace", "Help", "HelpContents",
-                                            "AboutAdventure", "About"));
+    EXPECT_THAT(Enabled(*main), ElementsAre("NewAdv", "Open", "In", "Exit", "Trace", "Palette", "Help",
+                                            "HelpContents", "AboutAdventure", "About"));
     EXPECT_EQ(StateOf(Command::Verify).why, "No adventure is open.");
 }
 
@@ -57,9 +57,10 @@ TEST_F(CommandsTest, FollowTheTableInTheGrid) {
     main->Show({TableNum::Locations});
     EXPECT_THAT(Enabled(*main),
                 ElementsAre("NewAdv", "Open", "SaveAs", "Close", "In", "Export", "Exit", "NewTab", "Edit",
-                            "Delete", "Find", "FindNext", "Filter", "Run", "Trace", "Verify", "Settings",
-                            "CharTable", "LstRecs", "ShortDesc", "KeyChange", "Help", "HelpContents",
-                            "AboutAdventure", "About"));
+                            "Delete", "Find", "FindNext", "Filter", "Replace", "GoToAnything", "GoToNamed",
+                            "Uses", "GoBack", "GoForward", "Renumber", "Run", "Trace", "Verify", "Settings",
+                            "CharTable", "LstRecs", "ShortDesc", "KeyChange", "Palette", "Help",
+                            "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
     EXPECT_FALSE(IsEnabled(Command::Edit));
