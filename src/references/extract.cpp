@@ -171,8 +171,10 @@ class Extraction {
         Add(Kind::Process, row_.Number(1), "estype", 0);
         AddWord(row_.Number(2), kVerbOrNoun, "w1", 0);
         AddWord(row_.Number(3), TypeBit(condacts::kNoun), "w2", 0);
-        line_ = condacts::ParseLine(row_.Text(4), language_.condActs);
         numbers_ = condacts::SplitLine(row_.Text(5));
+        line_ = condacts::ParseLine(row_.Text(4), language_.condActs);
+        // The engine runs the compiled form, also of an entry that has lost its text.
+        if (line_.tokens.empty()) line_ = condacts::ParseNumericLine(row_.Text(5), language_.condActs);
         for (const condacts::Statement& statement : line_.statements)
             ReadStatement(statement);
     }

@@ -153,6 +153,14 @@ TEST(ReferenceIndex, ReadsTagsOfSetsOnlyWhereTheGameHasCharacterSets) {
     EXPECT_EQ(UsesOf(index, Kind::Character, 65), "message 7 msgmsg 19 names?\n");
 }
 
+TEST(ReferenceIndex, AnEntryThatHasLostItsTextIsReadInItsCompiledForm) {
+    OpenedAdventure game;
+    test::PutEntry(*game, 1, 0, kNone, kNone, "", "101 3 124 60");
+    const Index index(*game);
+    EXPECT_EQ(UsesOf(index, Kind::Location, 3), "entry 1 condacts 1 names\n");
+    EXPECT_EQ(UsesOf(index, Kind::Word, 60), "entry 1 condacts 3 names\n");
+}
+
 TEST(ReferenceIndex, AWordThatWasNotCompiledNamesNothing) {
     OpenedAdventure game;
     test::PutEntry(*game, 1, 0, kNone, kNone, "PREP UNDER AT 3", "123 101 3");

@@ -340,7 +340,6 @@ void GameBuilder::WriteEntries(store::Adventure& adventure) const {
         row.SetField("w2num",
                      std::int64_t{entry.numeric ? std::stoi(entry.noun) : NumberOf(entry.noun, {2})});
         row.SetField("numcas", std::int64_t{tokens});
-        if (!entry.numeric) row.SetField("condacts", entry.condacts);
         row.SetField("numericcondacts", numbers);
         row.Update();
     }
