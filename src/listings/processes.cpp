@@ -13,8 +13,7 @@ namespace {
 
 using store::TableNum;
 
-/// Columns, counted from 0: of the conditions and actions, and of their parameters.
-constexpr std::size_t kCondActColumn = 62;
+/// Columns of the parameters, counted from 0.
 constexpr std::size_t kFirstParameter = 70;
 constexpr std::size_t kSecondParameter = 77;
 constexpr TextArea kDescription{93, 40};

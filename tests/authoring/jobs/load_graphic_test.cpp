@@ -148,8 +148,8 @@ TEST_F(LoadGraphicTest, APictureThatDrawsOneThatWasNotLoadedAsksForItsPlaceToo) 
         const char* told[] = {
             "The Location you specified for GoesTo for location 4 is not filled in",
             "The Location you specified for GoesTo for location 4 is not numeric",
-            "The Location you specified for GoesTo for location 4 is not a valid graphics "
-            "location"};
+            ("The Location you specified for GoesTo for location 4 is not a valid graphics "
+             "location")};
         for (int i = 0; i < 3; ++i) {
             places.lines[1].goesTo = typed[i];
             EXPECT_FALSE(places.Update());
