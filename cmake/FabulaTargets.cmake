@@ -72,8 +72,8 @@ endfunction()
 
 # fabula_fuzzer(NAME LIBRARY SOURCES file... [SEEDS file...] [OPTIONS option...])
 #
-# One libFuzzer program for one reader, and a test that gives it its seeds and the same thousand changes of them each
-# time. Its seeds are SEEDS and the files of seeds/READER, where it is named READER_fuzzer. Only with FABULA_FUZZ do the
+# One libFuzzer program for one reader, and a test that gives it its seeds and a thousand changes of them, or as many
+# as five seconds take. Its seeds are SEEDS and the files of seeds/READER, where it is named READER_fuzzer. Only with FABULA_FUZZ do the
 # libraries tell it what a change has reached; without, it sees no further than its own source.
 function(fabula_fuzzer name library)
     cmake_parse_arguments(arg "" "" "SOURCES;SEEDS;OPTIONS" ${ARGN})
@@ -86,5 +86,5 @@ function(fabula_fuzzer name library)
     list(APPEND seeds ${arg_SEEDS})
     list(JOIN seeds "," seeds)
     add_test(NAME fuzz.${reader}
-             COMMAND ${name} -runs=1000 -seed=1 -timeout=60 -seed_inputs=${seeds} ${arg_OPTIONS})
+             COMMAND ${name} -runs=1000 -max_total_time=5 -seed=1 -timeout=60 -seed_inputs=${seeds} ${arg_OPTIONS})
 endfunction()
