@@ -109,14 +109,14 @@ TEST(PlayerSettings, ValuesThatMakeNoSenseCountAsNotSet) {
 TEST(PlayerSettings, TheRecentGamesStandBesideTheAdventuresOfTheAuthoringTool) {
     const test::TempFolder folder;
     QSettings store(qt::PathToQt(folder / "settings.ini"), QSettings::IniFormat);
-    store.setValue("MRUFiles/1", "/work/draft.fbd");
+    store.setValue("MRUFiles/1", "/plays/draft.fbd");
     PlayerSettings settings = PlayerSettings::Load(store);
-    EXPECT_EQ(settings.recent.Files(), (std::vector<std::filesystem::path>{"/work/draft.fbd"}))
+    EXPECT_EQ(settings.recent.Files(), (std::vector<std::filesystem::path>{"/plays/draft.fbd"}))
         << "programs of before kept the games there";
     settings.recent = platform::RecentFiles({"/games/cake.fbd"});
     settings.Save(store);
-    EXPECT_EQ(store.value("MRUFiles/1").toString(), "/work/draft.fbd");
-    store.setValue("MRUFiles/1", "/work/other.fbd");
+    EXPECT_EQ(store.value("MRUFiles/1").toString(), "/plays/draft.fbd");
+    store.setValue("MRUFiles/1", "/plays/other.fbd");
     EXPECT_EQ(PlayerSettings::Load(store).recent.Files(),
               (std::vector<std::filesystem::path>{"/games/cake.fbd"}));
 }
