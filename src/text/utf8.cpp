@@ -83,52 +83,23 @@ int CompareDecoded(std::string_view left, std::string_view right, std::size_t at
 CodePoint DecodeAt(std::string_view text, std::size_t offset) {
     const auto first = static_cast<unsigned char>(text[offset]);
     if (first < 0x80) return {first, 1};
-
-    const CodePoint bad{kBadByte + first, 1};
-    std::size_t size = 0;
-    char32_t smallest = 0;
-    char32_t value = 0;
-    if (first >= 0xC2 && first <= 0xDF) {
-        size = 2, smallest = 0x80, value = first & 0x1Fu;
-    } else if (first >= 0xE0 && first <= 0xEF) {
-        size = 3, smallest = 0x800, value = first & 0x0Fu;
-    } else if (first >= 0xF0 && first <= 0xF4) {
-        size = 4, smallest = 0x10000, value = first & 0x07u;
-    } else {
-        return bad;
-    }
-    if (offset + size > text.size()) return bad;
-    for (std::size_t i = 1; i < size; ++i) {
-        const auto next = static_cast<unsigned char>(text[offset + i]);
-        if ((next & 0xC0u) != 0x80) return bad;
-        value = value << 6 | (next & 0x3Fu);
-    }
-    const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
-    if (value < smallest || value > 0x10FFFF || isSurrogate) return bad;
-    return {value, size};
+    constexpr std::size_t kLongest = 4;
+    const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data() + offset);
+    const auto left = static_cast<utf8proc_ssize_t>(std::min(text.size() - offset, kLongest));
+    utf8proc_int32_t value = 0;
+    const utf8proc_ssize_t size = utf8proc_iterate(bytes, left, &value);
+    if (size < 1) return {kBadByte + first, 1};
+    return {static_cast<char32_t>(value), static_cast<std::size_t>(size)};
 }
 
 void AppendCodePoint(std::string& text, char32_t value) {
-    const auto append = [&text](char32_t byte) {
-        text += static_cast<char>(static_cast<unsigned char>(byte));
-    };
     if (value >= kBadByte) {
-        append(value - kBadByte);
-    } else if (value < 0x80) {
-        append(value);
-    } else if (value < 0x800) {
-        append(0xC0 | value >> 6);
-        append(0x80 | (value & 0x3F));
-    } else if (value < 0x10000) {
-        append(0xE0 | value >> 12);
-        append(0x80 | (value >> 6 & 0x3F));
-        append(0x80 | (value & 0x3F));
-    } else {
-        append(0xF0 | value >> 18);
-        append(0x80 | (value >> 12 & 0x3F));
-        append(0x80 | (value >> 6 & 0x3F));
-        append(0x80 | (value & 0x3F));
+        text += static_cast<char>(static_cast<unsigned char>(value - kBadByte));
+        return;
     }
+    utf8proc_uint8_t bytes[4];
+    const utf8proc_ssize_t size = utf8proc_encode_char(static_cast<utf8proc_int32_t>(value), bytes);
+    text.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size));
 }
 
 std::u32string Decode(std::string_view text) {

@@ -9,8 +9,8 @@
 #include "terminal/line_reader.h"
 #include "terminal/player_files.h"
 #include "terminal/session.h"
+#include "terminal/unified_diff.h"
 #include "text/safe_text.h"
-#include "text/unified_diff.h"
 
 namespace fabula::cli {
 namespace {
@@ -89,7 +89,7 @@ int Test(const Options& options) {
         return kDone;
     }
     const std::string difference =
-        text::UnifiedDiff(ReadExpected(expectedFile), played, expectedFile.string(), "played");
+        terminal::UnifiedDiff(ReadExpected(expectedFile), played, expectedFile.string(), "played");
     std::cout << text::SafeLines(difference);
     return difference.empty() ? kDone : kFailed;
 }

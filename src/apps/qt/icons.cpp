@@ -1,34 +1,61 @@
 #include "qt/icons.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QSvgRenderer>
 
-#include "qt/icon_shapes.h"
+#include "qt/strings.h"
 
 namespace fabula::qt {
 namespace {
 
-constexpr double kGrid = 24.0;
-constexpr double kLineWidth = 1.7;
+// The colours that stand in the files of icons/ for those of the windows.
+constexpr auto kLines = "#000000";
+constexpr auto kAccent = "#0000ff";
 
-/// Draws a shape anew for each size and theme.
-class ShapeEngine final : public QIconEngine {
+constexpr std::string_view kOpen = "-open";
+
+/// The drawing of exactly this name; empty when there is none.
+QByteArray FileOf(std::string_view name) {
+    QFile file(":/icons/" + ToQt(name) + ".svg");
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray DrawingOf(std::string_view name) {
+    if (const QByteArray drawing = FileOf(name); !drawing.isEmpty()) return drawing;
+    if (name.ends_with(kOpen)) return FileOf(name.substr(0, name.size() - kOpen.size()));
+    return {};
+}
+
+QColor LineColour(QIcon::Mode mode) {
+    const QPalette palette = QGuiApplication::palette();
+    if (mode == QIcon::Disabled) return palette.color(QPalette::Disabled, QPalette::WindowText);
+    if (mode == QIcon::Selected) return palette.color(QPalette::HighlightedText);
+    return palette.color(QPalette::WindowText);
+}
+
+QColor AccentColour(QIcon::Mode mode) {
+    if (mode == QIcon::Disabled || mode == QIcon::Selected) return LineColour(mode);
+    return QGuiApplication::palette().color(QPalette::Link);
+}
+
+/// Paints a drawing in the colours that the windows have at that moment.
+class ThemedDrawing final : public QIconEngine {
   public:
-    explicit ShapeEngine(const IconShape* shape) : shape_(shape) {}
+    explicit ThemedDrawing(const QByteArray& drawing) : drawing_(drawing) {}
 
     void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State) override {
-        if (!shape_) return;
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        const double side = std::min(area.width(), area.height());
-        painter->translate(area.x() + (area.width() - side) / 2, area.y() + (area.height() - side) / 2);
-        painter->scale(side / kGrid, side / kGrid);
-        painter->setBrush(Qt::NoBrush);
-        Stroke(*painter, shape_->lines, LineColour(mode));
-        Stroke(*painter, shape_->accent, AccentColour(mode));
-        painter->restore();
+        if (drawing_.isEmpty()) return;
+        QByteArray coloured = drawing_;
+        // The accent first: the lines may be drawn in the very colour that stands for it.
+        coloured.replace(kAccent, "accent").replace(kLines, LineColour(mode).name().toLatin1());
+        coloured.replace("accent", AccentColour(mode).name().toLatin1());
+        QSvgRenderer renderer(coloured);
+        renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+        renderer.render(painter, area);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -39,37 +66,20 @@ class ShapeEngine final : public QIconEngine {
         return made;
     }
 
-    QIconEngine* clone() const override { return new ShapeEngine(*this); }
+    QIconEngine* clone() const override { return new ThemedDrawing(*this); }
 
   private:
-    static void Stroke(QPainter& painter, std::string_view shape, const QColor& colour) {
-        painter.setPen(QPen(colour, kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPath(PathOf(shape));
-    }
-
-    static QColor LineColour(QIcon::Mode mode) {
-        const QPalette palette = QGuiApplication::palette();
-        if (mode == QIcon::Disabled) return palette.color(QPalette::Disabled, QPalette::WindowText);
-        if (mode == QIcon::Selected) return palette.color(QPalette::HighlightedText);
-        return palette.color(QPalette::WindowText);
-    }
-
-    static QColor AccentColour(QIcon::Mode mode) {
-        if (mode == QIcon::Disabled || mode == QIcon::Selected) return LineColour(mode);
-        return QGuiApplication::palette().color(QPalette::Link);
-    }
-
-    const IconShape* shape_;
+    QByteArray drawing_;
 };
 
 }  // namespace
 
 QIcon IconOf(std::string_view name) {
-    return QIcon(new ShapeEngine(FindIconShape(name)));
+    return QIcon(new ThemedDrawing(DrawingOf(name)));
 }
 
 bool HasIcon(std::string_view name) {
-    return FindIconShape(name) != nullptr;
+    return !DrawingOf(name).isEmpty();
 }
 
 }  // namespace fabula::qt

@@ -8,6 +8,7 @@
 #include <system_error>
 #include <vector>
 
+#include <fnmatch.h>
 #include <sys/stat.h>
 
 #include "text/fields.h"
@@ -38,29 +39,11 @@ std::optional<std::int64_t> WrittenAt(const std::filesystem::path& file) {
         {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec});
 }
 
-/// Whether a pattern with "*" fits the whole name; case is ignored. ".*" at its end also fits a name
-/// without an extension.
-bool Fits(std::string_view pattern, std::string_view name) {
-    if (pattern.ends_with("*.*")) pattern.remove_suffix(2);
-    std::size_t p = 0;
-    std::size_t n = 0;
-    std::optional<std::size_t> star;  // the place behind the latest "*"
-    std::size_t taken = 0;            // where what that "*" stands for ends
-    while (n < name.size()) {
-        if (p < pattern.size() && pattern[p] == '*') {
-            star = ++p;
-            taken = n;
-        } else if (p < pattern.size() && pattern[p] == name[n]) {
-            ++p;
-            ++n;
-        } else if (star) {
-            p = *star;
-            n = ++taken;
-        } else {
-            return false;
-        }
-    }
-    return pattern.find_first_not_of('*', p) == std::string_view::npos;
+/// Whether a pattern, in small letters, fits the whole name. ".*" at its end also fits a name without an
+/// extension.
+bool Fits(std::string pattern, const std::string& name) {
+    if (pattern.ends_with("*.*")) pattern.resize(pattern.size() - 2);
+    return fnmatch(pattern.c_str(), name.c_str(), FNM_NOESCAPE) == 0;
 }
 
 struct CleanUpRow {
@@ -83,7 +66,7 @@ bool IsOld(const std::filesystem::path& file, std::int64_t now, const std::vecto
     const std::int64_t days = (now - *written) / kSecondsADay;
     const std::string name = text::LowerCase(file.filename().string());
     for (const CleanUpRow& row : rows) {
-        if (Fits(row.pattern, name) && days > row.days) return true;
+        if (Fits(std::string(row.pattern), name) && days > row.days) return true;
     }
     return false;
 }

@@ -1,11 +1,11 @@
 #include "qt/icons.h"
 
+#include <QGuiApplication>
 #include <QImage>
+#include <QPalette>
 #include <QPixmap>
 
 #include <gtest/gtest.h>
-
-#include "qt/icon_shapes.h"
 
 namespace fabula::test {
 namespace {
@@ -20,6 +20,10 @@ bool DrawsSomething(const QIcon& icon) {
     return false;
 }
 
+QImage Drawn(std::string_view name) {
+    return qt::IconOf(name).pixmap(24, 24).toImage();
+}
+
 TEST(Icons, NameWithAShapeIsDrawn) {
     EXPECT_TRUE(qt::HasIcon("map"));
     EXPECT_TRUE(DrawsSomething(qt::IconOf("map")));
@@ -27,8 +31,8 @@ TEST(Icons, NameWithAShapeIsDrawn) {
 
 TEST(Icons, OpenFormWithoutAShapeOfItsOwnIsDrawnAsTheClosedOne) {
     EXPECT_TRUE(qt::HasIcon("map-open"));
-    EXPECT_EQ(qt::FindIconShape("map-open"), qt::FindIconShape("map"));
-    EXPECT_NE(qt::FindIconShape("folder-open"), qt::FindIconShape("folder"));
+    EXPECT_EQ(Drawn("map-open"), Drawn("map"));
+    EXPECT_NE(Drawn("folder-open"), Drawn("folder"));
 }
 
 TEST(Icons, NameWithoutAShapeDrawsNothing) {
@@ -36,11 +40,16 @@ TEST(Icons, NameWithoutAShapeDrawsNothing) {
     EXPECT_FALSE(DrawsSomething(qt::IconOf("no such icon")));
 }
 
-TEST(Icons, ShapesAreReadLetterByLetter) {
-    EXPECT_EQ(qt::PathOf("M 1 2 L 3 4").boundingRect(), QRectF(1, 2, 2, 2));
-    EXPECT_EQ(qt::PathOf("O 12 12 3").boundingRect(), QRectF(9, 9, 6, 6));
-    EXPECT_EQ(qt::PathOf("R 2 3 10 5 0").boundingRect(), QRectF(2, 3, 10, 5));
-    EXPECT_TRUE(qt::PathOf("").isEmpty());
+TEST(Icons, DrawingsTakeTheColoursOfTheWindows) {
+    const QPalette before = QGuiApplication::palette();
+    QPalette palette = before;
+    palette.setColor(QPalette::WindowText, QColor("#0000ff"));
+    palette.setColor(QPalette::Link, QColor("#c02040"));
+    QGuiApplication::setPalette(palette);
+    const QImage image = qt::IconOf("find").pixmap(240, 240).toImage();
+    QGuiApplication::setPalette(before);
+    EXPECT_EQ(image.pixelColor(105, 40), QColor("#0000ff"));
+    EXPECT_EQ(image.pixelColor(182, 182), QColor("#c02040"));
 }
 
 }  // namespace

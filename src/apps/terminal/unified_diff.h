@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace fabula::text {
+namespace fabula::terminal {
 
 /// The difference of two texts in the unified form, with three lines of context; "" when they are equal.
 /// `patch` makes the second text of the first and it. The names stand in its head.
@@ -12,4 +12,4 @@ namespace fabula::text {
 std::string UnifiedDiff(std::string_view before, std::string_view after, std::string_view beforeName,
                         std::string_view afterName);
 
-}  // namespace fabula::text
+}  // namespace fabula::terminal

@@ -1,4 +1,4 @@
-#include "text/unified_diff.h"
+#include "terminal/unified_diff.h"
 
 #include <random>
 #include <sstream>
@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace fabula::text {
+namespace fabula::terminal {
 namespace {
 
 std::string Diff(std::string_view before, std::string_view after) {
@@ -109,4 +109,4 @@ TEST(UnifiedDiff, ManyDifferencesAreStillADifferenceThatApplies) {
 }
 
 }  // namespace
-}  // namespace fabula::text
+}  // namespace fabula::terminal
