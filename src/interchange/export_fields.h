@@ -37,11 +37,11 @@ std::optional<text::Value> ParseExportValue(store::FieldType type, ExportUse use
 std::string RenderExportValue(store::FieldType type, const text::Value& value);
 
 /// The tables that travel, in the order of the file.
-struct ExportTable {
+struct TravellingTable {
     store::TableNum number;
     std::string_view loaded;  ///< the status line behind its records
 };
-inline constexpr ExportTable kExportTables[] = {
+inline constexpr TravellingTable kExportTables[] = {
     {store::TableNum::Adventure, "Loaded Adventure Settings"},
     {store::TableNum::Vocabulary, "Loaded Vocabulary"},
     {store::TableNum::Locations, "Loaded Locations"},

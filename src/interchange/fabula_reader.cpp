@@ -54,8 +54,8 @@ FieldLine SplitFieldLine(std::string_view line) {
     return fieldLine;
 }
 
-const ExportTable* FindExportTable(std::int64_t number) {
-    for (const ExportTable& table : kExportTables) {
+const TravellingTable* FindExportTable(std::int64_t number) {
+    for (const TravellingTable& table : kExportTables) {
         if (static_cast<std::int64_t>(table.number) == number) return &table;
     }
     return nullptr;
@@ -144,9 +144,9 @@ class TableImport {
 };
 
 /// The reading of one file.
-class Reader {
+class ExportReader {
   public:
-    explicit Reader(ImportContext& context)
+    explicit ExportReader(ImportContext& context)
         : context_(context), source_(context.source, context.encoding) {}
 
     bool Read() {
@@ -228,7 +228,7 @@ class Reader {
     }
 
     void ChangeTable(int number) {
-        const ExportTable* last = FindExportTable(lastTable_);
+        const TravellingTable* last = FindExportTable(lastTable_);
         if (last != nullptr && last->number != TableNum::Pictures)
             context_.status.AddToStatus(last->loaded);
         context_.status.AddToStatusCR(" ");
@@ -331,7 +331,7 @@ store::AdventureSetup SetupOfExport(const std::filesystem::path& source) {
 
 bool LoadFabula(ImportContext& context) {
     context.status.AddToStatusCR("Loading Fabula Export " + context.source.string());
-    return Reader(context).Read();
+    return ExportReader(context).Read();
 }
 
 }  // namespace fabula::interchange

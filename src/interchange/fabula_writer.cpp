@@ -19,7 +19,7 @@ using store::FieldType;
 /// One table on its way into the file.
 class TableExport {
   public:
-    TableExport(ExportContext& context, TargetFile& file, const ExportTable& table)
+    TableExport(ExportContext& context, TargetFile& file, const TravellingTable& table)
         : context_(context), file_(file), number_(static_cast<int>(table.number)) {
         const store::TableSchema& schema = context.adventure.Schema(table.number);
         for (ExportField& field : ExportFields(context.adventure, number_)) {
@@ -114,7 +114,7 @@ bool ExportFabula(ExportContext& context) {
                                      ", which can't be written.");
         return false;
     }
-    for (const ExportTable& table : kExportTables) {
+    for (const TravellingTable& table : kExportTables) {
         if (!TableExport(context, file, table).WriteAll()) return false;
     }
     file.Finish();

@@ -74,10 +74,10 @@ bool SaysNothing(std::string_view value) {
 }
 
 /// The writing of the extras of one adventure.
-class Writer {
+class ExtrasWriter {
   public:
-    Writer(Adventure& adventure,
-           const std::function<void(const std::string&, const std::string&)>& writeLine)
+    ExtrasWriter(Adventure& adventure,
+                 const std::function<void(const std::string&, const std::string&)>& writeLine)
         : adventure_(adventure), writeLine_(writeLine) {}
 
     void Write(const ExtraTable& table) {
@@ -151,7 +151,7 @@ void WriteExtras(Adventure& adventure, JobStatus& status,
     store::PreparedQuery settings = adventure.Prepare(TableNum::Adventure, "graphics, charsets", "");
     const bool draws = settings.First({}) && (settings.Number(0) != 0 || settings.Number(1) != 0);
     settings.Reset();
-    Writer writer(adventure, writeLine);
+    ExtrasWriter writer(adventure, writeLine);
     for (const ExtraTable& table : ExtraTables()) {
         if (draws || !table.isOnlyForGraphics) writer.Write(table);
     }

@@ -33,13 +33,13 @@ constexpr NeededWord kNeededWords[] = {
     {"OFF", condacts::kPreposition},
 };
 
-struct Command {
+struct ScriptCommand {
     const char* verb;
     const char* condActs;
 };
 
 constexpr const char* kCommandNoun = "SCRIP";
-constexpr Command kCommands[] = {
+constexpr ScriptCommand kCommands[] = {
     {"TURN", "PREP OFF SCRIPT 0"},
     {"TURN", "PREP ON SCRIPT 1"},
     {"LOAD", "SCRIPT 2"},
@@ -87,13 +87,13 @@ class Vocabulary {
     KeyedTable table_;
 };
 
-bool HasEntry(store::Adventure& adventure, const Command& command) {
+bool HasEntry(store::Adventure& adventure, const ScriptCommand& command) {
     store::PreparedQuery entries =
         adventure.Prepare(TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?");
     return entries.First({command.verb, kCommandNoun, command.condActs});
 }
 
-void AddEntry(PcSourceJob& job, const Command& command, const condacts::WordIndex& words) {
+void AddEntry(PcSourceJob& job, const ScriptCommand& command, const condacts::WordIndex& words) {
     const Word* verb =
         words.Find(command.verb, [](const Word& word) { return word.type == condacts::kVerb; });
     const Word* noun =
@@ -123,7 +123,7 @@ void AddScriptCommands(PcSourceJob& job) {
             vocabulary.MakeSureOf(needed);
     }
     const condacts::WordIndex words = condacts::LoadWords(adventure);
-    for (const Command& command : kCommands) {
+    for (const ScriptCommand& command : kCommands) {
         if (!HasEntry(adventure, command)) AddEntry(job, command, words);
     }
 }

@@ -46,9 +46,9 @@ bool IsKeyword(std::string_view line, std::string_view keyword) {
 }
 
 /// The reading of one source, section by section.
-class Reader {
+class SourceReader {
   public:
-    explicit Reader(PcSourceJob& job) : job_(job) {
+    explicit SourceReader(PcSourceJob& job) : job_(job) {
         sections_[0] = std::make_unique<PcVocabulary>(job);
         for (std::size_t i = 0; i < std::size(kPcTextTables); ++i) {
             sections_[1 + i] = std::make_unique<PcTexts>(job, kPcTextTables[i]);
@@ -168,7 +168,7 @@ bool Load(ImportContext& context, const PcDialect& dialect) {
         FlagAnalysis(context.adventure, catalogue),
         PcTextForm(dialect, store::LoadTagCatalogue(context.adventure), dialect.hasTags ? &tags : nullptr),
         {}};
-    if (!Reader(job).Read()) return false;
+    if (!SourceReader(job).Read()) return false;
     if (context.adventure.OpenTable(TableNum::ProcessTables, "canum").RecordCount() == 0) {
         context.status.AddToStatusCR("No status records generated from file");
     }

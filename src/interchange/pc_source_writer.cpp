@@ -41,9 +41,9 @@ constexpr std::size_t kNounColumn = 6;
 class CannotWrite : public std::exception {};
 
 /// The writing of one source.
-class Writer {
+class SourceWriter {
   public:
-    Writer(ExportContext& context, const PcDialect& dialect)
+    SourceWriter(ExportContext& context, const PcDialect& dialect)
         : context_(context),
           dialect_(dialect),
           file_(context.target),
@@ -289,7 +289,7 @@ class Writer {
 
 bool Export(ExportContext& context, const PcDialect& dialect, const char* completed) {
     try {
-        Writer(context, dialect).WriteAll();
+        SourceWriter(context, dialect).WriteAll();
     } catch (const CannotWrite&) {
         return false;
     }

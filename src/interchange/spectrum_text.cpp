@@ -19,7 +19,7 @@ constexpr std::size_t kLineNumberLength = 6;
 constexpr int kLongestTab = 255;
 constexpr std::string_view kVersionWithoutLayout = "0.8.2";
 constexpr std::size_t kLongestEscape = 4;
-constexpr std::string_view kTab = "<TAB";
+constexpr std::string_view kTabTag = "<TAB";
 
 struct Replacement {
     std::string_view from;
@@ -44,7 +44,7 @@ constexpr std::string_view kKeptTags[] = {"<BRI", "<CHA", "<FNT", "<INK", "</BR"
 
 /// The number behind "<TAB" of a tag, as read from any tag.
 int TabLength(std::string_view tag) {
-    tag.remove_prefix(std::min(tag.size(), kTab.size()));
+    tag.remove_prefix(std::min(tag.size(), kTabTag.size()));
     int length = 0;
     std::from_chars(tag.data(), tag.data() + tag.size(), length);
     return std::clamp(length, 0, kLongestTab);
@@ -54,7 +54,7 @@ int TabLength(std::string_view tag) {
 std::string ReplaceTabs(std::string_view text) {
     std::string result;
     std::size_t done = 0;
-    const std::size_t lastTab = text.rfind(kTab);
+    const std::size_t lastTab = text.rfind(kTabTag);
     while (lastTab != std::string_view::npos) {
         const std::size_t open = text.find('<', done);
         const std::size_t close = open > lastTab ? std::string_view::npos : text.find('>', open);
@@ -168,8 +168,8 @@ std::string ProcessTag(std::string_view& word, int& column) {
         const std::size_t close = word.find('>');
         if (close == std::string_view::npos) break;
         const std::string_view tag = word.substr(0, close + 1);
-        const std::string head = text::UpperCase(tag.substr(0, kTab.size()));
-        if (head == kTab) {
+        const std::string head = text::UpperCase(tag.substr(0, kTabTag.size()));
+        if (head == kTabTag) {
             const bool sameLine = column < kTabColumn;
             result += sameLine ? tag : text::kLineEndMarker;
             column = sameLine ? kTabColumn : 0;

@@ -16,7 +16,7 @@ namespace {
 
 using store::TableNum;
 
-constexpr TextArea kDescription{12, 60};
+constexpr TextArea kRoomText{12, 60};
 constexpr std::string_view kDescriptionRow = "%r3!%t10!: !%a";
 constexpr std::string_view kPictureRow = "%r3!%t10!%a";
 constexpr std::string_view kPictureAndKeyRow = "%r3!%t10!%a!%t50!%a";
@@ -176,7 +176,7 @@ void WriteLocations(const Listing& listing, const ReportRequest& request) {
         const Place place{TableNum::Locations, number};
         const std::string key = std::to_string(number);
         Record record(place);
-        record.Text(kDescriptionRow, {key}, rows.Text(1), kDescription);
+        record.Text(kDescriptionRow, {key}, rows.Text(1), kRoomText);
         record.LinkTo(place, key.size() < 3 ? 3 - key.size() : std::size_t{0}, key.size());
         AddPicture(record, exits.size(), rows.Text(4), rows.Text(5), verbose);
         for (const Exit& exit : exits)

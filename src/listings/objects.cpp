@@ -11,7 +11,7 @@ namespace {
 
 using store::TableNum;
 
-constexpr TextArea kDescription{5, 40};
+constexpr TextArea kObjectText{5, 40};
 /// Where the place of an object stands, counted from 0.
 constexpr std::size_t kPlaceColumn = 71;
 constexpr std::string_view kWords = "!%a30! !%a30! !%r3! !%a4! !%a";
@@ -46,7 +46,7 @@ void WriteObjects(const Listing& listing, const ReportRequest& request) {
     for (bool more = rows.First({}); more; more = rows.Next()) {
         const Place place{TableNum::Objects, static_cast<int>(rows.Number(0))};
         Record record(place);
-        record.Text("!%a!%t5!%a", {rows.Number(0)}, rows.Text(1), kDescription);
+        record.Text("!%a!%t5!%a", {rows.Number(0)}, rows.Text(1), kObjectText);
         record.LinkTo(place, 0, std::to_string(rows.Number(0)).size());
         const std::string initially(rows.Text(6));
         std::vector<text::Value> words{std::string(rows.Text(2)), std::string(rows.Text(3)), rows.Number(4),

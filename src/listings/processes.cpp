@@ -16,7 +16,7 @@ using store::TableNum;
 /// Columns of the parameters, counted from 0.
 constexpr std::size_t kFirstParameter = 70;
 constexpr std::size_t kSecondParameter = 77;
-constexpr TextArea kDescription{93, 40};
+constexpr TextArea kMeaning{93, 40};
 
 constexpr std::string_view kColumnHeads = "Verb!%c27 !Noun!%c27 !Condition/Action";
 constexpr std::string_view kRule = "%c30-! !%c30-! !%c25-";
@@ -48,7 +48,7 @@ void AddCondAct(Record& record, const EntryWords& words, const ShownCondAct& con
         if (parameter.names) record.LinkTo(*parameter.names, column, parameter.text.size());
     }
     for (const ShownParameter& parameter : condAct.parameters)
-        record.Aside(parameter.tells, kDescription);
+        record.Aside(parameter.tells, kMeaning);
 }
 
 void AddEntry(const Listing& listing, const ConditionTexts& texts, const store::PreparedQuery& row) {

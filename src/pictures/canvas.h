@@ -11,6 +11,8 @@ inline constexpr int kCanvasWidth = 256;
 inline constexpr int kCanvasHeight = 176;
 /// Cells are 8 by 8 pixels: 32 columns, 22 rows.
 inline constexpr int kCellSize = 8;
+inline constexpr int kCellColumns = kCanvasWidth / kCellSize;
+inline constexpr int kCellRows = kCanvasHeight / kCellSize;
 
 /// The pixel plane's two colours, by palette number. A pixel that isn't the background counts as drawn.
 inline constexpr int kPixelPlaneBackground = 1;

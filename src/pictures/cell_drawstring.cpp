@@ -10,16 +10,14 @@
 namespace fabula::pictures {
 namespace {
 
-constexpr int kColumns = kCanvasWidth / kCellSize;
-constexpr int kRows = kCanvasHeight / kCellSize;
 constexpr int kFirstBright = 8;
 
 class CellDrawer {
   public:
     CellDrawer(const CellImage& image, int paper) : image_(image) {
         shown_.numbers.fill(static_cast<std::uint8_t>(paper));
-        for (int cell = 0; cell < kColumns * kRows; ++cell)
-            bases_[static_cast<std::size_t>(cell)] = MostFrequent(cell % kColumns, cell / kColumns);
+        for (int cell = 0; cell < kCellColumns * kCellRows; ++cell)
+            bases_[static_cast<std::size_t>(cell)] = MostFrequent(cell % kCellColumns, cell / kCellColumns);
     }
 
     std::string Draw() {
@@ -40,7 +38,7 @@ class CellDrawer {
 
     /// Whether a block would show something new in a cell.
     bool WantsBlock(int column, int row, int colour) const {
-        return bases_[static_cast<std::size_t>(row * kColumns + column)] == colour &&
+        return bases_[static_cast<std::size_t>(row * kCellColumns + column)] == colour &&
                shown_.At(column * kCellSize, row * kCellSize) != colour;
     }
 
@@ -48,8 +46,8 @@ class CellDrawer {
     /// the paper colour, which is never bright.
     void DrawBlocks(int colour) {
         bool named = false;
-        for (int row = 0; row < kRows; ++row) {
-            for (int column = 0; column < kColumns; ++column) {
+        for (int row = 0; row < kCellRows; ++row) {
+            for (int column = 0; column < kCellColumns; ++column) {
                 if (!WantsBlock(column, row, colour)) continue;
                 if (!named) Add({"PAPER", colour});
                 named = true;
@@ -60,7 +58,7 @@ class CellDrawer {
 
     void DrawBlock(int column, int row, int colour) {
         int right = column;
-        while (right + 1 < kColumns && WantsBlock(right + 1, row, colour))
+        while (right + 1 < kCellColumns && WantsBlock(right + 1, row, colour))
             ++right;
         int bottom = row;
         const auto rowWants = [&](int at) {
@@ -68,7 +66,7 @@ class CellDrawer {
                 if (!WantsBlock(x, at, colour)) return false;
             return true;
         };
-        while (bottom + 1 < kRows && rowWants(bottom + 1))
+        while (bottom + 1 < kCellRows && rowWants(bottom + 1))
             ++bottom;
         Add({"BLOCK", bottom - row, right - column, column, row});
         for (int line = row * kCellSize; line < (bottom + 1) * kCellSize; ++line) {
@@ -133,7 +131,7 @@ class CellDrawer {
 
     const CellImage& image_;
     CellImage shown_;  ///< what the drawstring so far draws
-    std::array<int, static_cast<std::size_t>(kColumns) * kRows> bases_;
+    std::array<int, static_cast<std::size_t>(kCellColumns) * kCellRows> bases_;
     std::string text_;
 };
 

@@ -8,8 +8,6 @@
 namespace fabula::pictures {
 namespace {
 
-constexpr int kColumns = kCanvasWidth / kCellSize;
-constexpr int kRows = kCanvasHeight / kCellSize;
 constexpr int kColoursOfABrightness = 8;
 /// A pair whose colours lie far apart makes a coarse mixture: how much of their distance counts.
 constexpr float kCoarseness = 0.02F;
@@ -158,14 +156,15 @@ Image CellImage::ToImage() const {
 
 CellImage FitToCells(const Image& image, Dithering dithering) {
     Pixels pixels = Cover(image);
-    std::array<Pair, static_cast<std::size_t>(kColumns) * kRows> pairs;
-    for (int cell = 0; cell < kColumns * kRows; ++cell)
+    std::array<Pair, static_cast<std::size_t>(kCellColumns) * kCellRows> pairs;
+    for (int cell = 0; cell < kCellColumns * kCellRows; ++cell)
         pairs[static_cast<std::size_t>(cell)] =
-            BestPair(pixels, cell % kColumns, cell / kColumns, dithering);
+            BestPair(pixels, cell % kCellColumns, cell / kCellColumns, dithering);
     CellImage fitted;
     for (int line = 0; line < kCanvasHeight; ++line) {
         for (int x = 0; x < kCanvasWidth; ++x) {
-            const Pair& pair = pairs[static_cast<std::size_t>(line / kCellSize * kColumns + x / kCellSize)];
+            const Pair& pair =
+                pairs[static_cast<std::size_t>(line / kCellSize * kCellColumns + x / kCellSize)];
             const Rgb wanted = Within(pixels[CellImage::IndexOf(x, line)]);
             const Rgb& first = PaletteColours()[static_cast<std::size_t>(pair.first)];
             const Rgb& second = PaletteColours()[static_cast<std::size_t>(pair.second)];

@@ -18,11 +18,6 @@ constexpr std::string_view kEnds[] = {"DONE", "NOTDONE", "OK", "DESC", "RESET", 
 /// Conditions that may turn out otherwise when they are asked again.
 constexpr std::string_view kAskedAgain[] = {"CHANCE", "YESNO", "QUIT"};
 
-template <std::size_t Size>
-bool Holds(const std::string_view (&names)[Size], std::string_view name) {
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
-
 std::string TextOf(const LintEntry& entry, const condacts::Statement& statement) {
     std::string text = statement.condAct->name;
     for (std::size_t i = 0; i < statement.paramsGiven; ++i)

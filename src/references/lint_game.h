@@ -1,10 +1,13 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "condacts/catalogue.h"
@@ -40,6 +43,12 @@ struct LintObject {
     int adjective = 0;
     bool container = false;
 };
+
+/// Whether a list of names holds one.
+template <std::size_t Size>
+bool Holds(const std::string_view (&names)[Size], std::string_view name) {
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
 
 struct LintText {
     std::int64_t number = 0;

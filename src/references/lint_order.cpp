@@ -16,11 +16,6 @@ constexpr std::string_view kUnsteady[] = {"CHANCE", "YESNO", "QUIT", "TIMEOUT"};
 /// How far behind an entry those that it may hide are looked for.
 constexpr std::size_t kFarthest = 200;
 
-template <std::size_t Size>
-bool Holds(const std::string_view (&names)[Size], std::string_view name) {
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
-
 bool IsWild(int word) {
     return word == condacts::kNoWordNumber || word == 1;
 }

@@ -19,11 +19,6 @@ constexpr std::string_view kGoing[] = {"GOTO", "RESET"};
 constexpr std::string_view kComputedFirst[] = {"PLUS", "MINUS", "RANDOM", "WEIGHT"};
 constexpr std::string_view kComputedSecond[] = {"COPYOF", "ADD", "SUB", "WEIGH"};
 
-template <std::size_t Size>
-bool Holds(const std::string_view (&names)[Size], std::string_view name) {
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
-
 std::optional<int> NumberAt(const LintEntry& entry, const condacts::Statement& statement, std::size_t i) {
     if (i >= statement.paramsGiven) return std::nullopt;
     return condacts::WholeNumber(entry.line.Param(statement, i));

@@ -49,7 +49,7 @@ void CheckFlags(const LintGame& game, Findings& findings) {
 
 /// What is not there at first has to be brought by a rule: one that moves it, or any that takes its number
 /// from a flag.
-void CheckObjects(const LintGame& game, Findings& findings) {
+void CheckUnusedObjects(const LintGame& game, Findings& findings) {
     for (const LintObject& object : game.objects) {
         if (object.place != condacts::place::kNotCreated.value) continue;
         const auto uses = game.index.UsesOf({Kind::Object, static_cast<int>(object.number)});
@@ -63,7 +63,7 @@ void CheckObjects(const LintGame& game, Findings& findings) {
     }
 }
 
-void CheckTexts(const LintGame& game, Findings& findings) {
+void CheckUnusedTexts(const LintGame& game, Findings& findings) {
     for (const LintText& message : game.messages) {
         if (IsUsed(game, Kind::Message, message.number)) continue;
         findings.Add("message-unused", TableNum::Messages, message.number,
@@ -136,8 +136,8 @@ void CheckPictures(const LintGame& game, Findings& findings) {
 
 void CheckUnused(const LintGame& game, Findings& findings) {
     CheckFlags(game, findings);
-    CheckObjects(game, findings);
-    CheckTexts(game, findings);
+    CheckUnusedObjects(game, findings);
+    CheckUnusedTexts(game, findings);
     CheckWords(game, findings);
     CheckProcesses(game, findings);
     CheckPictures(game, findings);

@@ -10,7 +10,7 @@ namespace {
 
 using Operand = FilterNode::Operand;
 
-constexpr std::string_view kSigns[] = {"=", "<>", "<", ">", "<=", ">="};
+constexpr std::string_view kComparisonSigns[] = {"=", "<>", "<", ">", "<=", ">="};
 
 bool IsText(const Operand& operand, const TableSchema& schema) {
     if (operand.kind == Operand::Kind::Field) {
@@ -39,7 +39,7 @@ void AppendOperand(const Operand& operand, const TableSchema& schema, std::strin
 void AppendComparison(const FilterNode& node, const TableSchema& schema, std::string& sql,
                       std::vector<text::Value>& values) {
     AppendOperand(node.left, schema, sql, values);
-    sql += kSigns[static_cast<std::size_t>(node.comparison)];
+    sql += kComparisonSigns[static_cast<std::size_t>(node.comparison)];
     AppendOperand(node.right, schema, sql, values);
     if (IsText(node.left, schema) || IsText(node.right, schema)) sql += " COLLATE fabula_nocase";
 }

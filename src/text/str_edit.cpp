@@ -20,10 +20,6 @@ std::string Scrambled(std::string_view text) {
     return ScrambleText(text, mode);
 }
 
-std::string Trimmed(std::string_view text) {
-    return std::string(TrimBlanks(text));
-}
-
 struct Edit {
     std::string_view keyword;
     std::string (*apply)(std::string_view text);
@@ -139,6 +135,10 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
     }
     result.append(text, begin);
     return result;
+}
+
+std::string Trimmed(std::string_view text) {
+    return std::string(TrimBlanks(text));
 }
 
 }  // namespace fabula::text

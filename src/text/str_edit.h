@@ -37,6 +37,8 @@ std::string CollapseText(std::string_view text);
 
 /// The text without the blanks at its ends; no other white space is taken for a blank. A view into `text`.
 std::string_view TrimBlanks(std::string_view text);
+/// The same as a text of its own.
+std::string Trimmed(std::string_view text);
 
 /// The text with every `from`, found from left to right without overlap, replaced by `to`. An empty `from`
 /// occurs nowhere.

@@ -2,6 +2,7 @@
 #include <optional>
 
 #include "authoring/batch/batch_work.h"
+#include "condacts/limits.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"
 #include "pictures/drawstring_check.h"
@@ -17,14 +18,14 @@ namespace {
 
 using store::TableNum;
 
-constexpr int kHighestColour = 15;
 constexpr std::string_view kTypes[] = {"Picture", "Subroutine"};
 
 bool StoreColour(const BatchChange& change, const char* field, store::Cursor& record) {
     const auto typed = change.Text(field);
     if (!typed) return true;
     const auto colour = text::WholeNumber(text::TrimBlanks(*typed));
-    const bool good = colour && *colour >= pictures::kColourOfTheAdventure && *colour <= kHighestColour;
+    const bool good =
+        colour && *colour >= pictures::kColourOfTheAdventure && *colour <= condacts::limit::kHighestColour;
     if (!good) return change.Refuse(field, "A colour is a number from 0 to 15, or -1 for the adventure's.");
     record.SetField(field, *colour);
     return true;

@@ -2,6 +2,7 @@
 
 #include "authoring/batch/batch_work.h"
 #include "authoring/settings/settings_screen.h"
+#include "condacts/limits.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -33,10 +34,9 @@ struct NumberSetting {
     int SettingsScreen::*number;
     int most;
 };
-constexpr int kHighestColour = 15;
 constexpr NumberSetting kNumbers[] = {
-    {"backcolor", &SettingsScreen::paper, kHighestColour},
-    {"textcolor", &SettingsScreen::ink, kHighestColour},
+    {"backcolor", &SettingsScreen::paper, condacts::limit::kHighestColour},
+    {"textcolor", &SettingsScreen::ink, condacts::limit::kHighestColour},
     {"defsndvol", &SettingsScreen::volume, SettingsScreen::kLoudest},
     {"defsndbal", &SettingsScreen::balance, SettingsScreen::kLoudest},
     {"defsndbass", &SettingsScreen::bass, SettingsScreen::kLoudest},

@@ -28,8 +28,8 @@ constexpr std::string_view kGap = "     ";
 /// Cells of two colours by turns, row by row.
 pictures::Plane MakeGrid(const pictures::PictureBook& book) {
     std::string text;
-    for (int row = 0; row < pictures::kCanvasHeight / pictures::kCellSize; ++row) {
-        for (int column = 0; column < pictures::kCanvasWidth / pictures::kCellSize; ++column) {
+    for (int row = 0; row < pictures::kCellRows; ++row) {
+        for (int column = 0; column < pictures::kCellColumns; ++column) {
             text += "PAPER " + std::to_string(6 + (row + column) % 2) + " BLOCK 0 0 " +
                     std::to_string(column) + " " + std::to_string(row) + " ";
         }

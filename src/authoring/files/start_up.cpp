@@ -10,7 +10,7 @@ namespace {
 
 using std::filesystem::path;
 
-bool IsFile(const path& file) {
+bool IsPlainFile(const path& file) {
     std::error_code missing;  // what can't be looked at counts as gone
     return std::filesystem::is_regular_file(file, missing);
 }
@@ -28,7 +28,7 @@ constexpr Wanted kHelp{startup::kHelpName, "help/contents.html",
 std::optional<path> Find(const Wanted& wanted, platform::Settings& settings,
                          const std::vector<path>& folders, platform::Operator& person) {
     const path remembered = settings.Get(startup::kSection, wanted.key);
-    if (IsFile(remembered)) return remembered;
+    if (IsPlainFile(remembered)) return remembered;
     auto found = platform::FindFile(folders, wanted.name);
     if (found) {
         settings.Set(startup::kSection, wanted.key, found->string());
@@ -51,7 +51,7 @@ std::optional<ProgramFiles> FindProgramFiles(platform::Settings& settings, const
 
 path LastFile(const platform::Settings& settings) {
     const path file = settings.Get(startup::kSection, startup::kFile);
-    return IsFile(file) ? file : path();
+    return IsPlainFile(file) ? file : path();
 }
 
 }  // namespace fabula::authoring

@@ -51,10 +51,6 @@ const DecompilerRow& RowOf(Decompiler decompiler) {
     return kRows[IndexOf(decompiler)];
 }
 
-std::string Trimmed(const std::string& text) {
-    return text::StrEdit(text, "trim");
-}
-
 /// Small and capital letters count alike, as the programs' own names are written either way.
 bool HasItsName(const fs::path& file, const DecompilerRow& row) {
     return text::UpperCase(file.filename().string()).find(text::UpperCase(row.program)) !=
@@ -97,7 +93,7 @@ void DecompileScreen::FindProgram(Decompiler decompiler) {
     const DecompilerRow& row = RowOf(decompiler);
     std::string& program = programs[IndexOf(decompiler)];
     const auto file = host_.dialogs.ChooseFile(
-        {std::string(row.findTitle), kExecutables, "", false, fs::path(Trimmed(program))});
+        {std::string(row.findTitle), kExecutables, "", false, fs::path(text::Trimmed(program))});
     if (!file) return;
     if (!HasItsName(*file, row)) {
         Refuse(host_.dialogs, "The executable does not have " + std::string(row.fileName) + " in it.");
@@ -116,7 +112,7 @@ void DecompileScreen::ChooseInput() {
     if (!file) return;
     input = file->string();
     RememberFolder(*file);
-    if (Trimmed(output).empty())
+    if (text::Trimmed(output).empty())
         output = fs::path(*file).replace_extension("." + std::string(row.extension)).string();
     changed();
 }
@@ -124,7 +120,7 @@ void DecompileScreen::ChooseInput() {
 void DecompileScreen::ChooseOutput() {
     if (!chosen) return void(Refuse(host_.dialogs, "No Program Selected"));
     const DecompilerRow& row = RowOf(*chosen);
-    const fs::path start = Trimmed(output).empty() ? LastFolder() : fs::path(Trimmed(output));
+    const fs::path start = text::Trimmed(output).empty() ? LastFolder() : fs::path(text::Trimmed(output));
     const auto file = host_.dialogs.ChooseFile({std::string(row.outputTitle), std::string(row.outputFilter),
                                                 std::string(row.extension), true, start});
     if (!file) return;
@@ -144,11 +140,11 @@ void DecompileScreen::RememberFolder(const fs::path& file) {
 
 bool DecompileScreen::Run() {
     if (running_ || !MayRun()) return false;
-    const fs::path program = fs::absolute(Trimmed(programs[IndexOf(*chosen)]));
+    const fs::path program = fs::absolute(text::Trimmed(programs[IndexOf(*chosen)]));
     host_.settings.Set(kSection, RowOf(*chosen).name, program.string());
     programs[IndexOf(*chosen)] = program.string();
-    input = fs::absolute(Trimmed(input)).string();
-    output = Collapsed(fs::absolute(Trimmed(output))).string();
+    input = fs::absolute(text::Trimmed(input)).string();
+    output = Collapsed(fs::absolute(text::Trimmed(output))).string();
     for (const Step& step : Steps()) {
         if (store::IsSameFile(step.output, input))
             return Refuse(host_.dialogs, "The listing cannot be written over the game itself");
@@ -161,16 +157,17 @@ bool DecompileScreen::Run() {
 bool DecompileScreen::MayRun() {
     if (!chosen) return Refuse(host_.dialogs, "No Program Selected");
     if (!HasProgram(*chosen)) return false;
-    if (Trimmed(input).empty()) return Refuse(host_.dialogs, "No Input File Selected");
-    if (Trimmed(output).empty()) return Refuse(host_.dialogs, "No Output File Selected");
-    if (!IsFile(Trimmed(input))) return Refuse(host_.dialogs, "There is no file " + Trimmed(input));
+    if (text::Trimmed(input).empty()) return Refuse(host_.dialogs, "No Input File Selected");
+    if (text::Trimmed(output).empty()) return Refuse(host_.dialogs, "No Output File Selected");
+    if (!IsFile(text::Trimmed(input)))
+        return Refuse(host_.dialogs, "There is no file " + text::Trimmed(input));
     return true;
 }
 
 bool DecompileScreen::HasProgram(Decompiler decompiler) {
     const DecompilerRow& row = RowOf(decompiler);
     const std::string name(row.name);
-    const std::string program = Trimmed(programs[IndexOf(decompiler)]);
+    const std::string program = text::Trimmed(programs[IndexOf(decompiler)]);
     if (program.empty()) return Refuse(host_.dialogs, "No Location for the " + name + " program");
     if (!IsFile(program))
         return Refuse(host_.dialogs, "The " + name + " program is no longer where you said it was.");

@@ -101,10 +101,6 @@ std::string_view KindOfSource(const path& file) {
     return isPcSource ? "PCVEL" : "";
 }
 
-std::string Trimmed(const std::string& text) {
-    return text::StrEdit(text, "trim");
-}
-
 bool IsSameFile(const path& left, const path& right) {
     std::error_code missing;  // what is not there is no file
     return std::filesystem::equivalent(left, right, missing);
@@ -183,7 +179,7 @@ void InterchangeScreen::ChooseSource() {
     interchange::DialogText shown{"", "Select Source File", "All Files|*.*"};
     if (mode_ != JobMode::LoadGraphic && Kind())
         shown = writes ? Kind()->exportDialog : Kind()->importDialog;
-    path start = Trimmed(source);
+    path start = text::Trimmed(source);
     if (start.empty() && adventure_) {
         start = adventure_->GameDir();
         if (writes && Kind())
@@ -197,14 +193,14 @@ void InterchangeScreen::ChooseSource() {
     source = file->string();
     if (writes) agreed_ = *file;
     if (mode_ == JobMode::Import) ChooseKindOf(*file);
-    if (mode_ == JobMode::Import && Trimmed(database).empty())
+    if (mode_ == JobMode::Import && text::Trimmed(database).empty())
         database = path(*file).replace_extension(".fbd").string();
     Show();
 }
 
 void InterchangeScreen::ChooseDatabase() {
-    path start = Trimmed(database);
-    if (start.empty()) start = path(Trimmed(source)).parent_path();
+    path start = text::Trimmed(database);
+    if (start.empty()) start = path(text::Trimmed(source)).parent_path();
     const auto file =
         host_.dialogs.ChooseFile({"Create a Fabula Database", "Fabula Database|*.fbd", "fbd", true, start});
     if (!file) return;
@@ -215,14 +211,14 @@ void InterchangeScreen::ChooseDatabase() {
 
 /// A name without a folder lies beside the open adventure, and not where the program was started.
 std::string InterchangeScreen::Placed(const std::string& typed) const {
-    const path file = Trimmed(typed);
+    const path file = text::Trimmed(typed);
     if (file.empty() || !adventure_) return file.string();
     return (adventure_->GameDir() / file).string();
 }
 
 bool InterchangeScreen::RunJob() {
     if (!CanRun()) return false;
-    if (Trimmed(source).empty()) return Refuse(host_.dialogs, "Source File not specified");
+    if (text::Trimmed(source).empty()) return Refuse(host_.dialogs, "Source File not specified");
     source = Placed(source);
     if (mode_ == JobMode::LoadGraphic) return LoadGraphics();
     database = Placed(database);
@@ -324,7 +320,7 @@ interchange::JobHost InterchangeScreen::JobHost() {
 }
 
 bool InterchangeScreen::SaveStatus() {
-    const path file = Trimmed(source);
+    const path file = text::Trimmed(source);
     return SaveStatusText(status_, file.parent_path() / (file.stem().string() + "-status.txt"),
                           host_.dialogs);
 }

@@ -46,10 +46,6 @@ const KeyedText* FindKeyedText(std::string_view tableName) {
     return found == std::end(kKeyedTexts) ? nullptr : found;
 }
 
-std::string Trimmed(std::string_view text) {
-    return std::string(text::TrimBlanks(text));
-}
-
 std::string Equals(std::string_view field, std::int64_t number) {
     return std::string(field) + "=" + std::to_string(number);
 }
@@ -74,11 +70,11 @@ std::string_view KeySelectScreen::Explanation() const {
 }
 
 std::optional<std::string> KeySelectScreen::Filter() const {
-    const auto number = text::WholeNumber(Trimmed(TakesWords() ? process : key));
+    const auto number = text::WholeNumber(text::Trimmed(TakesWords() ? process : key));
     if (!number) return std::nullopt;
     if (!TakesWords()) return Equals(FindKeyedText(table)->key, *number);
-    return Equals("estype", *number) + " and w1 = " + store::QuoteText(Trimmed(w1)) +
-           " and w2 = " + store::QuoteText(Trimmed(w2));
+    return Equals("estype", *number) + " and w1 = " + store::QuoteText(text::Trimmed(w1)) +
+           " and w2 = " + store::QuoteText(text::Trimmed(w2));
 }
 
 std::optional<KeySelection> KeySelectScreen::Select() {
@@ -88,7 +84,8 @@ std::optional<KeySelection> KeySelectScreen::Select() {
         return std::nullopt;
     }
     const std::string name =
-        TakesWords() ? Trimmed(process) + " " + Trimmed(w1) + " " + Trimmed(w2) : Trimmed(key);
+        TakesWords() ? text::Trimmed(process) + " " + text::Trimmed(w1) + " " + text::Trimmed(w2)
+                     : text::Trimmed(key);
     const auto filter = Filter();
     const bool found =
         filter && context_.document.Adventure().Prepare(chosen->table, chosen->key, *filter).First({});
@@ -125,7 +122,7 @@ bool KeyChangeScreen::IsUsed(std::int64_t key) const {
 }
 
 bool KeyChangeScreen::SetKey(std::size_t row, std::string_view key) {
-    const std::string typed = Trimmed(key);
+    const std::string typed = text::Trimmed(key);
     const auto number = text::WholeNumber(typed);
     if (!number)
         return Refuse(context_.dialogs, "The value for " + std::string(table_.key) + " is not numeric");

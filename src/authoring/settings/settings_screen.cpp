@@ -23,10 +23,6 @@ using store::TableNum;
 constexpr int kTestNote = 0;  ///< middle C
 constexpr std::chrono::milliseconds kTestLength(1000);
 
-std::string Trimmed(std::string_view text) {
-    return std::string(text::TrimBlanks(text));
-}
-
 int NumberOf(const Cursor& record, std::string_view field) {
     return static_cast<int>(record.Number(field));
 }
@@ -82,17 +78,17 @@ bool SettingsScreen::HasField(std::string_view field) const {
 }
 
 void SettingsScreen::ReadGame(const Cursor& record) {
-    name = Trimmed(record.Text("advname"));
-    author = Trimmed(record.Text("author"));
-    saveName = Trimmed(record.Text("savename"));
-    version = Trimmed(record.Text("Version"));
-    const std::string stored = Trimmed(record.Text("adventype"));
+    name = text::Trimmed(record.Text("advname"));
+    author = text::Trimmed(record.Text("author"));
+    saveName = text::Trimmed(record.Text("savename"));
+    version = text::Trimmed(record.Text("Version"));
+    const std::string stored = text::Trimmed(record.Text("adventype"));
     type.items = TypeItems(stored);
     type.ChooseText(stored);
     startPlace.text = storedStart_ = std::to_string(record.Number("startloc"));
     maxObjects = std::to_string(record.Number("maxobj"));
     maxWeight = std::to_string(record.Number("maxweight"));
-    const std::string origin = Trimmed(record.Text("source"));
+    const std::string origin = text::Trimmed(record.Text("source"));
     source.ChooseText(origin == "Unknown" ? "Unknown!" : origin);
 }
 
@@ -109,7 +105,7 @@ void SettingsScreen::ReadLook(const Cursor& record) {
     otherFonts_.items = charSets ? FontItems(Adventure()) : CharSetItems(Adventure());
     if (!record.IsNull("Font")) font.ChooseNumber(NumberOf(record, "Font"));
     fontSize.ChooseNumber(NumberOf(record, "FontSize"));
-    defaultPicture = Trimmed(record.Text("defpicloc"));
+    defaultPicture = text::Trimmed(record.Text("defpicloc"));
 }
 
 void SettingsScreen::ReadAbout(const Cursor& record) {
@@ -119,7 +115,7 @@ void SettingsScreen::ReadAbout(const Cursor& record) {
         if (!description.empty() && description.back() == ' ') description.pop_back();
     }
     if (HasContactInfo()) contactInfo = ToEdited(record.Text("advcontactinfo"));
-    if (HasAboutPicture()) aboutPicture = Trimmed(record.Text("advpicloc"));
+    if (HasAboutPicture()) aboutPicture = text::Trimmed(record.Text("advpicloc"));
 }
 
 void SettingsScreen::ReadSound(const Cursor& record, const std::vector<std::string>& devices) {
@@ -130,7 +126,7 @@ void SettingsScreen::ReadSound(const Cursor& record, const std::vector<std::stri
     balance = NumberOf(record, "defsndbal");
     bass = NumberOf(record, "defsndbass");
     device.items = DeviceItems(devices);
-    std::string wanted = Trimmed(record.Text("defsnddevname"));
+    std::string wanted = text::Trimmed(record.Text("defsnddevname"));
     if (wanted.empty()) wanted = kMidiMapper;
     device.ChooseText(wanted);
     if (device.index >= 0) return;
@@ -169,7 +165,7 @@ bool SettingsScreen::LeaveAuthor() {
 }
 
 bool SettingsScreen::LeaveSaveName() {
-    if (Trimmed(saveName).empty()) return RefuseField("saveName", "Must have a Save Name");
+    if (text::Trimmed(saveName).empty()) return RefuseField("saveName", "Must have a Save Name");
     return CheckLength("saveName", saveName, kLongestText);
 }
 
@@ -178,7 +174,7 @@ bool SettingsScreen::LeaveVersion() {
 }
 
 bool SettingsScreen::LeaveStartPlace() {
-    const std::string typed = Trimmed(startPlace.text);
+    const std::string typed = text::Trimmed(startPlace.text);
     if (typed == storedStart_) return true;
     if (typed.empty()) return RefuseField("startPlace", "No start location is set");
     const auto number = text::WholeNumber(typed);
@@ -198,7 +194,7 @@ bool SettingsScreen::CheckNumber(std::string_view control, std::string_view what
 }
 
 bool SettingsScreen::LeaveMaxObjects() {
-    if (Trimmed(maxObjects).empty())
+    if (text::Trimmed(maxObjects).empty())
         return RefuseField("maxObjects", "Must have Maximum Objects that can be carried");
     return CheckNumber("maxObjects", "Maximum Objects", maxObjects, kMostObjects);
 }
@@ -279,7 +275,7 @@ std::vector<std::string> SettingsScreen::Typed() const {
 void SettingsScreen::StoreGame(Cursor& record) const {
     record.SetField("advname", name);
     record.SetField("author", author);
-    record.SetField("savename", Trimmed(saveName));
+    record.SetField("savename", text::Trimmed(saveName));
     record.SetField("Version", version);
     if (const ListItem* chosen = type.Chosen()) record.SetField("adventype", chosen->text);
     StoreNumber(record, "startloc", startPlace.text);

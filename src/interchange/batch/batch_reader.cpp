@@ -12,9 +12,9 @@
 namespace fabula::interchange {
 namespace {
 
-class Reader {
+class BatchReader {
   public:
-    Reader(const std::filesystem::path& file, store::Adventure& adventure, JobStatus& status)
+    BatchReader(const std::filesystem::path& file, store::Adventure& adventure, JobStatus& status)
         : source_(file), adventure_(adventure), status_(status) {}
 
     std::vector<BatchRecord> Read() {
@@ -139,7 +139,7 @@ class Reader {
 
 std::vector<BatchRecord> ReadBatchRecords(const std::filesystem::path& file, store::Adventure& adventure,
                                           JobStatus& status) {
-    return Reader(file, adventure, status).Read();
+    return BatchReader(file, adventure, status).Read();
 }
 
 }  // namespace fabula::interchange

@@ -16,23 +16,23 @@ using condacts::WordIndex;
 using store::Cursor;
 using store::TableNum;
 
-struct Command {
+struct EntryCommand {
     const char* w1;
     const char* w2;
     const char* condActs;
 };
 
-constexpr Command kMarloScript[] = {
+constexpr EntryCommand kMarloScript[] = {
     {"SCRI", "OFF", "SCRIPT 0"},
     {"SCRI", "ON", "SCRIPT 1"},
     {"LOAD", "SCRI", "SCRIPT 2"},
 };
-constexpr Command kMarloGraphics[] = {
+constexpr EntryCommand kMarloGraphics[] = {
     {"GRAP", "OFF", "LET 28 19 PAUSE 255 DESC"},
     {"GRAP", "ON", "LET 28 19 PAUSE 1 DESC"},
     {"GRAP", "NORM", "LET 28 19 PAUSE 0 DESC"},
 };
-constexpr Command kVelScript[] = {
+constexpr EntryCommand kVelScript[] = {
     {"TURN", "SCRIP", "PREP OFF SCRIPT 0"},
     {"TURN", "SCRIP", "PREP ON SCRIPT 1"},
     {"LOAD", "SCRIP", "SCRIPT 2"},
@@ -53,7 +53,7 @@ constexpr const char* kRedescribeAdvice =
     "Check the R (REDE) command to be sure it does a SET 29 before the DESC so the Room Graphic will show "
     "on a REDESCRIBE.";
 
-bool HasEntry(store::Adventure& adventure, const Command& command) {
+bool HasEntry(store::Adventure& adventure, const EntryCommand& command) {
     return adventure.Prepare(TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?")
         .First({command.w1, command.w2, command.condActs});
 }
@@ -68,9 +68,9 @@ int NumberOf(const WordIndex& words, const char* word) {
 }
 
 template <std::size_t count>
-void AddEntries(ListingJob& job, const Command (&commands)[count]) {
+void AddEntries(ListingJob& job, const EntryCommand (&commands)[count]) {
     const WordIndex words = condacts::LoadWords(job.Adventure());
-    for (const Command& command : commands) {
+    for (const EntryCommand& command : commands) {
         if (HasEntry(job.Adventure(), command)) continue;
         ListedEntries(job.Adventure())
             .Add({0, command.w1, command.w2, NumberOf(words, command.w1), NumberOf(words, command.w2),

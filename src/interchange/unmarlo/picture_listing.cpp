@@ -83,7 +83,7 @@ Pieces TakeToPieces(std::vector<std::string_view> words) {
 }
 
 /// One parameter in the form of drawstrings; nothing when it is none.
-std::optional<std::string> Parameter(std::string_view word, std::string_view code) {
+std::optional<std::string> ListedParameter(std::string_view word, std::string_view code) {
     std::string_view prefix;
     if (code == "SC") {
         prefix = "sc=";
@@ -137,7 +137,7 @@ ListedCommand TranslateCommand(std::string_view line, const pictures::CommandCat
     const std::size_t wanted = static_cast<std::size_t>(command->drawnParameters) - code;
     bool fits = pieces.parameters.size() == wanted;
     for (std::size_t i = 0; fits && i < wanted; ++i) {
-        const auto parameter = Parameter(pieces.parameters[i], command->drawnCodes[code + i]);
+        const auto parameter = ListedParameter(pieces.parameters[i], command->drawnCodes[code + i]);
         fits = parameter.has_value();
         if (fits) result.words += " " + *parameter;
     }

@@ -11,7 +11,7 @@ using store::TableNum;
 // Location   0:  NORTH  5
 //                SOUTH 12
 // Some versions begin the words one column later.
-constexpr Columns kHead{0, 8};
+constexpr Columns kLocationHead{0, 8};
 constexpr Columns kLocation{8, 4};
 constexpr std::size_t kWordColumn = 15;
 constexpr std::size_t kWordWidth = 5;
@@ -28,7 +28,7 @@ class Connections final : public UnVelSection {
 
     void Line(std::string_view line) override {
         if (text::TrimBlanks(line).empty()) return;
-        if (Cut(line, kHead) == "Location") {
+        if (Cut(line, kLocationHead) == "Location") {
             Flush();
             number_ = ListedNumber(CutTrimmed(line, kLocation), kHighestListedRecord);
         }

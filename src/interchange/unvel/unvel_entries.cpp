@@ -15,7 +15,6 @@ constexpr Columns kFirstWord{0, 6};
 constexpr Columns kSecondWord{6, 5};
 constexpr Columns kCondAct{17, 80};
 constexpr std::string_view kAnyWord = "-";
-constexpr int kLastDefaultTable = 2;
 
 bool IsVerbNounOrReserved(const Word& word) {
     return word.type == condacts::kVerb || word.type == condacts::kNoun || word.type == condacts::kReserved;

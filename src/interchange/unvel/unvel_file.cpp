@@ -9,8 +9,6 @@
 namespace fabula::interchange {
 namespace {
 
-constexpr std::string_view kComment = "; ";
-
 /// The text with "?" for each character that one byte can't hold.
 std::string Writable(std::string_view line) {
     std::string result;
@@ -33,7 +31,7 @@ void UnVelFile::Line(std::string_view line) {
 }
 
 void UnVelFile::UnVelHdr(std::string_view title, bool blankFirst, bool comment) {
-    const std::string prefix(comment ? kComment : "");
+    const std::string prefix(comment ? kCommentMark : "");
     if (blankFirst) Line("");
     Line(prefix + std::string(title));
     Line(prefix + std::string(title.size(), '-'));
@@ -45,7 +43,7 @@ void UnVelFile::WriteUnVelDesc(const std::string& head, std::string_view text, s
     WrittenUnVelText written = ToUnVelText(text);
     const bool isHead = !comment && NumberAlone(written.line, label).has_value();
     if (!written.comesBack || isHead) Loss("the text will not come back as it is.");
-    Line(std::string(comment ? kComment : "") + written.line);
+    Line(std::string(comment ? kCommentMark : "") + written.line);
 }
 
 std::string UnVelFile::Word(std::string_view word, std::size_t letters) {

@@ -12,15 +12,13 @@ namespace {
 using store::Cursor;
 using store::TableNum;
 
-constexpr std::string_view kComment = "; ";
 constexpr std::size_t kLongestTableText = 255;
-constexpr int kLastDefaultTable = 2;
 
 }  // namespace
 
 void UnVelNotes::Line(std::string_view line) {
-    if (!line.starts_with(kComment)) return;
-    line.remove_prefix(kComment.size());
+    if (!line.starts_with(kCommentMark)) return;
+    line.remove_prefix(kCommentMark.size());
     if (number_ >= 0) {
         notes_[number_] = UnVelText(line);
         number_ = -1;

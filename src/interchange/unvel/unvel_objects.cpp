@@ -16,7 +16,7 @@ using store::TableNum;
 // Object   3    LAMP BRASS
 // Object   3  NC
 // Object   3:  weights  5    CW
-constexpr Columns kHead{0, 6};
+constexpr Columns kObjectHead{0, 6};
 constexpr Columns kNumber{6, 5};  // the colon apart, wherever it stands
 constexpr Columns kWords{14, 80};
 constexpr Columns kPlace{10, 80};
@@ -49,7 +49,7 @@ class ObjectLines : public UnVelSection {
         std::string_view digits = CutTrimmed(line, kNumber);
         if (digits.ends_with(':')) digits.remove_suffix(1);
         const auto number = ListedNumber(digits, kHighestListedRecord);
-        if (Cut(line, kHead) != "Object" || !number) {
+        if (Cut(line, kObjectHead) != "Object" || !number) {
             job_.Fault(kBadListingLine);
             return;
         }

@@ -5,6 +5,9 @@
 
 namespace fabula::interchange {
 
+/// What begins a line that the reader of listings skips.
+inline constexpr std::string_view kCommentMark = "; ";
+
 /// A Spectrum text of an UnVel listing as description markup: "{16}{3}" becomes "<INK=3>", "^{7}" a line
 /// end. Characters that would be taken for markup become entities; a "{" that begins no code stays.
 std::string UnVelText(std::string_view text);

@@ -23,9 +23,9 @@ constexpr TextRow kRows[] = {
 };
 
 /// Texts below lines "Message   12". Empty lines at the end of a text part it from what follows.
-class Texts final : public UnVelSection {
+class ListedTexts final : public UnVelSection {
   public:
-    Texts(UnVelJob& job, UnVelTextKind kind)
+    ListedTexts(UnVelJob& job, UnVelTextKind kind)
         : job_(job),
           kind_(kind),
           row_(kRows[static_cast<std::size_t>(kind)]),
@@ -92,7 +92,7 @@ class Texts final : public UnVelSection {
 }  // namespace
 
 std::unique_ptr<UnVelSection> UnVelTexts(UnVelJob& job, UnVelTextKind kind) {
-    return std::make_unique<Texts>(job, kind);
+    return std::make_unique<ListedTexts>(job, kind);
 }
 
 std::optional<int> NumberAlone(std::string_view line, std::string_view label) {

@@ -51,9 +51,9 @@ std::set<std::string> ForbiddenNames(store::Adventure& adventure, const condacts
 }
 
 /// The writing of one extract.
-class Writer {
+class ExtractWriter {
   public:
-    Writer(ExportContext& context, std::string_view version)
+    ExtractWriter(ExportContext& context, std::string_view version)
         : context_(context),
           version_(version),
           isOldest_(version == kOldestUnVelVersion),
@@ -357,7 +357,7 @@ bool ExportUnVel(ExportContext& context) {
         context.status.AddToStatusCR("Use of " + name +
                                      " Condition/Action. This is not a valid Vel Condition/Action.");
     if (!forbidden.empty()) return false;
-    Writer(context, *version).WriteAll();
+    ExtractWriter(context, *version).WriteAll();
     context.person.Tell("UnVel Export completed", "Fabula");
     return true;
 }

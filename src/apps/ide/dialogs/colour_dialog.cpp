@@ -11,15 +11,12 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ide/editors/layout.h"
 #include "qt/strings.h"
 #include "text/colours.h"
 
 namespace fabula::ide {
-namespace {
-
-constexpr int kMargin = 16;
-
-}  // namespace
+namespace {}  // namespace
 
 /// Framed, so that it can be told from any window.
 QIcon ColorSwatch(int number, int height) {
@@ -52,7 +49,7 @@ ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
     buttons->addWidget(update);
     buttons->addWidget(exit);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(12);
     layout->addLayout(colors);
     layout->addWidget(current_);

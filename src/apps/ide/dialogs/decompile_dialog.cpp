@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/option_focus.h"
+#include "ide/editors/layout.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -19,9 +20,8 @@ namespace {
 using authoring::Decompiler;
 using authoring::DecompileScreen;
 
-constexpr int kMargin = 16;
-constexpr QSize kDefaultSize(620, 520);
-constexpr int kSmallestStatusLines = 3;
+constexpr QSize kDecompileSize(620, 520);
+constexpr int kStatusLines = 3;
 constexpr Decompiler kDecompilers[] = {Decompiler::UnMarlo, Decompiler::UnVel};
 
 }  // namespace
@@ -40,7 +40,7 @@ DecompileDialog::DecompileDialog(DecompileScreen& screen, QWidget* parent)
     setProperty("helpPage", "frmunmarlovel.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     column->setSpacing(10);
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(16);
@@ -53,7 +53,7 @@ DecompileDialog::DecompileDialog(DecompileScreen& screen, QWidget* parent)
     column->addWidget(progress_);
     column->addWidget(bar_);
     column->addWidget(MakeButtons());
-    resize(kDefaultSize);
+    resize(kDecompileSize);
     screen_.changed = [this] { Show(); };
     Show();
     options_[0]->setFocus();
@@ -116,7 +116,7 @@ void DecompileDialog::MakeStatus() {
     status_->setPlaceholderText(
         tr("The listing that the program writes is read by File, Import. What the program tells stands "
            "here."));
-    status_->setMinimumHeight(fontMetrics().lineSpacing() * kSmallestStatusLines);
+    status_->setMinimumHeight(fontMetrics().lineSpacing() * kStatusLines);
     progress_->setObjectName("progress");
     progress_->setAccessibleName(tr("Progress"));
     progress_->setTextFormat(Qt::PlainText);

@@ -17,6 +17,7 @@
 #include "ide/dialogs/option_focus.h"
 #include "ide/dialogs/status_button.h"
 #include "ide/dialogs/verify_dialog.h"
+#include "ide/editors/layout.h"
 #include "ide/printing/paper_output.h"
 #include "qt/strings.h"
 
@@ -26,8 +27,7 @@ namespace {
 using authoring::InterchangeScreen;
 using authoring::JobMode;
 
-constexpr int kMargin = 16;
-constexpr QSize kDefaultSize(620, 540);
+constexpr QSize kInterchangeSize(620, 540);
 constexpr int kSmallestStatusLines = 1;
 
 struct KindText {
@@ -69,7 +69,7 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
     setProperty("helpPage", "frmsrcimport.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     column->setSpacing(10);
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(16);
@@ -93,7 +93,7 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
     column->addWidget(status_, 1);
     column->addWidget(bar_);
     column->addWidget(MakeButtons());
-    resize(kDefaultSize);
+    resize(kInterchangeSize);
 
     screen_.changed = [this] { Show(); };
     screen_.showVerify = [this](authoring::VerifyScreen& verify) {

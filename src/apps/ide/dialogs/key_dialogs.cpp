@@ -10,6 +10,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
@@ -17,8 +18,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
-constexpr QSize kSize(620, 360);
+constexpr QSize kKeysSize(620, 360);
 
 QLabel* Note(std::string_view text) {
     auto* note = new QLabel(qt::ToQt(text));
@@ -45,7 +45,7 @@ QVBoxLayout* Prepare(QDialog& dialog, const char* name, std::string_view title) 
     dialog.setProperty(qt::kHelpPage, "frmkeychange.html");
     dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* layout = new QVBoxLayout(&dialog);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(12);
     return layout;
 }
@@ -116,7 +116,7 @@ KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::D
     layout->addWidget(Note(screen.Instruction()));
     layout->addWidget(rows_);
     layout->addWidget(buttons);
-    resize(kSize);
+    resize(kKeysSize);
     ShowRows();
     connect(rows_, &QTableWidget::cellChanged, this, [this](int row, int) { Leave(row); });
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Finish(); });

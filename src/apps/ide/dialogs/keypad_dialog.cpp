@@ -5,23 +5,20 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "ide/editors/layout.h"
 #include "listings/print_screen.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
-namespace {
-
-constexpr int kMargin = 16;
-
-}  // namespace
+namespace {}  // namespace
 
 KeypadDialog::KeypadDialog(platform::Operator& author, QWidget* parent) : QDialog(parent), author_(author) {
     setObjectName("KeypadSize");
     setWindowTitle(qt::ToQt(listings::kKeypadTitle));
     setProperty(qt::kHelpPage, "frmtempsize.html");
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     auto* frame = new QGroupBox(qt::ToQt(listings::kKeypadFrame));
     auto* sizes = new QVBoxLayout(frame);
     for (const listings::KeypadSize& size : listings::kKeypadSizes) {

@@ -9,17 +9,14 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/leaving.h"
+#include "ide/editors/layout.h"
 #include "ide/editors/leave_check.h"
 #include "ide/editors/markup_edit.h"
 #include "platform/error.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
-namespace {
-
-constexpr int kMargin = 16;
-
-}  // namespace
+namespace {}  // namespace
 
 MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::TextEditing& editing,
                              platform::Dialogs& dialogs, QWidget* parent)
@@ -36,7 +33,7 @@ MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::
     auto* bottom = new QHBoxLayout;
     AddButtons(*bottom);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(10);
     layout->addLayout(top);
     layout->addWidget(text_, 1);

@@ -7,13 +7,13 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kLettersOfANumber = 10;
 
 }  // namespace
@@ -46,7 +46,7 @@ NewLocationsDialog::NewLocationsDialog(authoring::NewLocationsScreen& screen, pl
     buttons->addWidget(update);
     buttons->addWidget(exit);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     column->setSpacing(10);
     column->addWidget(told);
     column->addWidget(scroll, 1);

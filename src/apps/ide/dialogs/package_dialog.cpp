@@ -11,6 +11,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "ide/editors/layout.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
@@ -20,7 +21,6 @@ using packages::PackageScreen;
 
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kLettersOfTheList = 70;
 constexpr int kLinesOfTheReadMe = 5;
 
@@ -55,7 +55,7 @@ PackageDialog::PackageDialog(PackageScreen& screen, QWidget* parent)
     setProperty(qt::kHelpPage, "frmpackage.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(10);
     auto* form = new QFormLayout;
     version_->setObjectName("version");

@@ -18,8 +18,8 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 12;
-constexpr QSize kDefaultSize(860, 700);
+constexpr int kPreviewMargin = 12;
+constexpr QSize kPreviewSize(860, 700);
 
 }  // namespace
 
@@ -58,11 +58,11 @@ PreviewDialog::PreviewDialog(listings::PrintPreview& preview, const PrintService
     scroll_->setBackgroundRole(QPalette::Dark);
     scroll_->installEventFilter(this);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kPreviewMargin, kPreviewMargin, kPreviewMargin, kPreviewMargin);
     column->addLayout(moves);
     column->addLayout(others);
     column->addWidget(scroll_, 1);
-    resize(kDefaultSize);
+    resize(kPreviewSize);
     ShowPage();
     scroll_->setFocus();
 }

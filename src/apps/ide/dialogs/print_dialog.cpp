@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/keypad_dialog.h"
+#include "ide/editors/layout.h"
 #include "listings/outputs.h"
 #include "platform/error.h"
 #include "qt/help_request.h"
@@ -17,8 +18,6 @@
 
 namespace fabula::ide {
 namespace {
-
-constexpr int kMargin = 16;
 
 using listings::PrintScreen;
 
@@ -38,7 +37,7 @@ PrintDialog::PrintDialog(PrintScreen& screen, const PrintServices& services, QWi
     setProperty(qt::kHelpPage, "frmprint.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     column->setSpacing(6);
     auto* form = new QFormLayout;
     form->setVerticalSpacing(6);

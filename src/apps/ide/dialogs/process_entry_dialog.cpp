@@ -19,13 +19,13 @@
 
 #include "ide/dialogs/leaving.h"
 #include "ide/editors/cond_act_edit.h"
+#include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kDefaultWidth = 720;
 constexpr int kFewestLines = 4;  ///< of the field of the whole entry
 constexpr int kMoreLines = 10;   ///< that it has room for at first
@@ -58,7 +58,7 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QW
     setWindowTitle(qt::ToQt(authoring::ProcessEntryScreen::kCaption));
     auto* form = new QWidget;
     auto* column = new QVBoxLayout(form);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     column->setSpacing(12);
     column->addLayout(BuildEntry());
     column->addLayout(BuildCondAct());
@@ -243,7 +243,7 @@ QLayout* ProcessEntryDialog::BuildButtons() {
     connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
     connect(new QShortcut(Qt::CTRL | Qt::Key_Return, this), &QShortcut::activated, this,
             &ProcessEntryDialog::Update);
-    row->setContentsMargins(kMargin, 0, kMargin, kMargin);
+    row->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin);
     row->setSpacing(8);
     row->addStretch();
     row->addWidget(update);

@@ -13,8 +13,8 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 8;
-constexpr QSize kSize(640, 420);
+constexpr int kQuickListMargin = 8;
+constexpr QSize kQuickListSize(640, 420);
 
 bool GoesThroughLines(int key) {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
@@ -27,7 +27,7 @@ QuickListDialog::QuickListDialog(const QString& title, const QString& hint, Sear
     setObjectName("QuickListDialog");
     setWindowTitle(title);
     setProperty(qt::kHelpPage, kMainWindowPage);
-    resize(kSize);
+    resize(kQuickListSize);
     typed_->setObjectName("QuickLine");
     typed_->setPlaceholderText(hint);
     typed_->setAccessibleName(title);
@@ -36,7 +36,7 @@ QuickListDialog::QuickListDialog(const QString& title, const QString& hint, Sear
     list_->setAccessibleName(tr("What fits"));
     list_->setUniformItemSizes(true);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kQuickListMargin, kQuickListMargin, kQuickListMargin, kQuickListMargin);
     column->addWidget(typed_);
     column->addWidget(list_);
     connect(typed_, &QLineEdit::textChanged, this, [this] { Fill(); });

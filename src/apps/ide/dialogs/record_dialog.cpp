@@ -5,10 +5,11 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "ide/editors/layout.h"
+
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kGap = 28;  ///< between columns
 constexpr int kLettersOfAColumn = 74;
 constexpr int kLinesToGrow = 6;  ///< more than a text field needs at least
@@ -20,7 +21,7 @@ RecordDialog::RecordDialog(authoring::RecordScreen& screen, const QString& title
     : ScreenDialog(screen, title, helpPage, parent), columns_(nullptr) {
     auto* page = new QWidget;
     columns_ = new QBoxLayout(QBoxLayout::TopToBottom, page);
-    columns_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    columns_->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     BeginColumn();
     auto* scroll = new QScrollArea;
     scroll->setWidget(page);
@@ -66,7 +67,7 @@ QSize RecordDialog::sizeHint() const {
         grows = grows || (form.expandingDirections() & Qt::Vertical);
     }
     if (grows) height += kLinesToGrow * fontMetrics().lineSpacing();
-    return SizeFor({WidthOfColumns() + 2 * kMargin, height + kMargin + 2});
+    return SizeFor({WidthOfColumns() + 2 * kDialogMargin, height + kDialogMargin + 2});
 }
 
 void RecordDialog::AddControl(const QString& label, QWidget* control, const char* name) {

@@ -8,14 +8,14 @@
 #include <QVBoxLayout>
 
 #include "ide/editors/help_pages.h"
+#include "ide/editors/layout.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
-constexpr QSize kSize(640, 400);
+constexpr QSize kRenumberSize(640, 400);
 
 }  // namespace
 
@@ -24,7 +24,7 @@ RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* paren
     setObjectName("RenumberDialog");
     setWindowTitle(qt::ToQt(authoring::RenumberScreen::kCaption));
     setProperty(qt::kHelpPage, kMainWindowPage);
-    resize(kSize);
+    resize(kRenumberSize);
     number_->setObjectName("number");
     number_->setText(qt::ToQt(screen.number));
     number_->selectAll();
@@ -43,7 +43,7 @@ RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* paren
     buttons->addWidget(update);
     buttons->addWidget(exit);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->addLayout(form);
     layout->addWidget(changes_);
     layout->addLayout(buttons);

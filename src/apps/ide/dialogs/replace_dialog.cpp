@@ -11,14 +11,14 @@
 #include <QVBoxLayout>
 
 #include "ide/editors/help_pages.h"
+#include "ide/editors/layout.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
-constexpr QSize kSize(860, 520);
+constexpr QSize kReplaceSize(860, 520);
 constexpr int kPlaceWidth = 220;
 constexpr int kFoundWidth = 290;
 
@@ -45,9 +45,9 @@ ReplaceDialog::ReplaceDialog(authoring::ReplaceScreen& screen, QWidget* parent)
     setObjectName("ReplaceDialog");
     setWindowTitle(qt::ToQt(authoring::ReplaceScreen::kCaption));
     setProperty(qt::kHelpPage, kMainWindowPage);
-    resize(kSize);
+    resize(kReplaceSize);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     MakeLines(*layout);
     MakeList(*layout);
     what_->setFocus();

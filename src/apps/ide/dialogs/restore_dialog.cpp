@@ -10,14 +10,14 @@
 #include <algorithm>
 
 #include "ide/editors/help_pages.h"
+#include "ide/editors/layout.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
-constexpr QSize kSize(560, 440);
+constexpr QSize kRestoreSize(560, 440);
 
 }  // namespace
 
@@ -58,13 +58,13 @@ RestoreDialog::RestoreDialog(const authoring::RestoreScreen& screen, QWidget* pa
     buttons->addButton(tr("Exit"), QDialogButtonBox::RejectRole)->setObjectName("exit");
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(10);
     layout->addWidget(copies_, 2);
     layout->addWidget(caption);
     layout->addWidget(comparison_, 1);
     layout->addWidget(buttons);
-    resize(kSize);
+    resize(kRestoreSize);
     connect(copies_, &QTableWidget::currentCellChanged, this, [this] { ShowComparison(); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -8,14 +8,13 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/leaving.h"
+#include "ide/editors/layout.h"
 #include "ide/editors/leave_check.h"
 #include "platform/error.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
 namespace {
-
-constexpr int kMargin = 16;
 
 /// Turns to the page that a control stands on, and scrolls to it.
 void BringIntoView(QWidget* control) {
@@ -42,7 +41,7 @@ ScreenDialog::ScreenDialog(authoring::EditScreen& screen, const QString& title, 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(buttons_);
-    buttons_->setContentsMargins(kMargin, 0, kMargin, kMargin);
+    buttons_->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin);
     buttons_->setSpacing(8);
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(key)), this);
@@ -99,7 +98,7 @@ void ScreenDialog::FocusFirst() {
 }
 
 QSize ScreenDialog::SizeFor(const QSize& contents) const {
-    const QSize whole(contents.width(), contents.height() + buttons_->sizeHint().height() + kMargin);
+    const QSize whole(contents.width(), contents.height() + buttons_->sizeHint().height() + kDialogMargin);
     return whole.boundedTo(screen()->availableSize() * 9 / 10);
 }
 

@@ -19,7 +19,7 @@ using authoring::SettingsScreen;
 
 namespace {
 
-constexpr int kMargin = 12;
+constexpr int kPagesMargin = 12;
 
 struct FieldCheck {
     const char* control;
@@ -65,7 +65,7 @@ SettingsDialog::SettingsDialog(SettingsScreen& screen, engine::SoundPlayer& soun
     AddPage(NewSourcePage(), "Source");
     auto* frame = new QWidget;
     auto* layout = new QVBoxLayout(frame);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, 0);
+    layout->setContentsMargins(kPagesMargin, kPagesMargin, kPagesMargin, 0);
     layout->addWidget(pages_);
     SetContents(frame);
     CheckFields();
@@ -101,8 +101,8 @@ void SettingsDialog::CheckFields() {
 
 QSize SettingsDialog::sizeHint() const {
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
-    const int aboveThePage = kMargin + pages_->tabBar()->sizeHint().height() + 2;
-    return SizeFor(game_->sizeHint() + QSize(2 * kMargin + scrollBar, aboveThePage));
+    const int aboveThePage = kPagesMargin + pages_->tabBar()->sizeHint().height() + 2;
+    return SizeFor(game_->sizeHint() + QSize(2 * kPagesMargin + scrollBar, aboveThePage));
 }
 
 void SettingsDialog::Read() {

@@ -15,6 +15,7 @@
 #include "ide/dialogs/colour_dialog.h"
 #include "ide/editors/edit_controls.h"
 #include "ide/editors/font_test.h"
+#include "ide/editors/layout.h"
 #include "qt/strings.h"
 #include "text/colours.h"
 #include "text/utf8.h"
@@ -25,7 +26,6 @@ using authoring::SettingsScreen;
 
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kBetweenColumns = 32;
 constexpr int kLettersOfAColumn = 40;  ///< below this width there is one column, and labels stand above
 
@@ -90,7 +90,7 @@ SettingsGamePage::SettingsGamePage(SettingsScreen& screen, Guard guard)
       description_(NewTextEdit(screen.description)),
       count_(NewNote("", "count")),
       contact_(NewTextEdit(screen.contactInfo)) {
-    columns_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    columns_->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     columns_->setSpacing(kBetweenColumns);
     columns_->addWidget(left_, 1);
     columns_->addWidget(right_, 1);
@@ -114,7 +114,7 @@ QFormLayout* SettingsGamePage::NewForm(QVBoxLayout& column, const QString& headi
     QFont font = title->font();
     font.setWeight(QFont::DemiBold);
     title->setFont(font);
-    if (column.count() > 0) column.addSpacing(kMargin);
+    if (column.count() > 0) column.addSpacing(kDialogMargin);
     column.addWidget(title);
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -283,13 +283,13 @@ int SettingsGamePage::WidthOfColumn() const {
 }
 
 QSize SettingsGamePage::sizeHint() const {
-    return {2 * (WidthOfColumn() + kMargin) + kBetweenColumns, QWidget::sizeHint().height()};
+    return {2 * (WidthOfColumn() + kDialogMargin) + kBetweenColumns, QWidget::sizeHint().height()};
 }
 
 void SettingsGamePage::resizeEvent(QResizeEvent* event) {
     const bool both = width() >= sizeHint().width();
     columns_->setDirection(both ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    const bool narrow = width() < kLettersOfAColumn * fontMetrics().averageCharWidth() + 2 * kMargin;
+    const bool narrow = width() < kLettersOfAColumn * fontMetrics().averageCharWidth() + 2 * kDialogMargin;
     for (QFormLayout* form : forms_)
         form->setRowWrapPolicy(narrow ? QFormLayout::WrapAllRows : QFormLayout::DontWrapRows);
     QWidget::resizeEvent(event);

@@ -17,7 +17,7 @@ namespace {
 using store::AdventureKind;
 using store::AdventureSetup;
 
-constexpr int kMargin = 20;
+constexpr int kSetupMargin = 20;
 constexpr int kLettersOfALine = 54;
 constexpr int kLinesOfAnExplanation = 3;
 
@@ -50,7 +50,7 @@ SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
     setProperty("helpPage", "frmsetup.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kSetupMargin, kSetupMargin, kSetupMargin, kSetupMargin);
     column->setSpacing(6);
     AddTypes(*column);
     AddGraphics(*column);

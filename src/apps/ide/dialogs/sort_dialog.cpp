@@ -9,16 +9,13 @@
 #include <algorithm>
 
 #include "ide/editors/help_pages.h"
+#include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
-namespace {
-
-constexpr int kMargin = 16;
-
-}  // namespace
+namespace {}  // namespace
 
 SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs, QWidget* parent)
     : QDialog(parent), screen_(screen), dialogs_(dialogs), lines_(new QGridLayout) {
@@ -49,7 +46,7 @@ SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs
     // Before the buttons join the dialog, so that the keyboard comes to the lines first.
     ShowLevels();
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(12);
     layout->addWidget(told);
     layout->addLayout(lines_);

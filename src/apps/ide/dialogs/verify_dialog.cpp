@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/status_button.h"
+#include "ide/editors/layout.h"
 #include "ide/printing/paper_output.h"
 #include "platform/error.h"
 #include "qt/strings.h"
@@ -14,8 +15,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
-constexpr QSize kDefaultSize(640, 420);
+constexpr QSize kVerifySize(640, 420);
 
 }  // namespace
 
@@ -54,12 +54,12 @@ VerifyDialog::VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& d
     buttons->addStretch(1);
     buttons->addWidget(ok);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     column->setSpacing(10);
     column->addWidget(progress_);
     column->addWidget(lines_, 1);
     column->addLayout(buttons);
-    resize(kDefaultSize);
+    resize(kVerifySize);
 
     QObject::connect(ok, &QPushButton::clicked, this, [this] { Leave(); });
     QObject::connect(goToButton_, &QPushButton::clicked, this, [this] { GoTo(lines_->currentItem()); });

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "ide/drawing/character_grid.h"
+#include "ide/editors/layout.h"
 #include "ide/editors/plane_image.h"
 #include "pictures/palette.h"
 #include "qt/icons.h"
@@ -26,7 +27,6 @@ using authoring::CharacterEdit;
 
 namespace {
 
-constexpr int kMargin = 16;
 constexpr const char* kSample = "The quick brown fox jumps";
 
 QColor ColourOfSettings(authoring::CharacterEditor& screen, const char* field) {
@@ -79,8 +79,8 @@ CharacterDialog::CharacterDialog(authoring::CharacterEditor& screen, QWidget* pa
     right->addStretch();
     auto* contents = new QWidget;
     auto* columns = new QHBoxLayout(contents);
-    columns->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    columns->setSpacing(kMargin);
+    columns->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
+    columns->setSpacing(kDialogMargin);
     columns->addLayout(left, 1);
     columns->addLayout(right);
     SetContents(contents);

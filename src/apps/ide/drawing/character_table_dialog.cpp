@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "ide/editors/edit_controls.h"
+#include "ide/editors/layout.h"
 #include "ide/editors/plane_image.h"
 #include "platform/error.h"
 #include "qt/strings.h"
@@ -17,7 +18,6 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
 constexpr int kScale = 3;
 
 }  // namespace
@@ -63,7 +63,7 @@ CharacterTableDialog::CharacterTableDialog(authoring::CharacterSetScreen& screen
     for (QPushButton* button : {edit, font, exit})
         bottom->addWidget(button);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->addLayout(top);
     layout->addWidget(table_, 1);
     layout->addLayout(bottom);

@@ -26,11 +26,11 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 8;
+constexpr int kPictureMargin = 8;
 /// Three points of the screen for a pixel, also on a screen of 768 lines; and the column at the right.
 constexpr int kCanvasRoom = 3 * pictures::kCanvasWidth + 8;
 constexpr int kSideRoom = 370;
-constexpr QSize kUsualSize(kCanvasRoom + kSideRoom + 3 * kMargin, 690);
+constexpr QSize kUsualSize(kCanvasRoom + kSideRoom + 3 * kPictureMargin, 690);
 
 QToolButton* NewTool(const char* name, const char* icon, const QString& caption) {
     auto* tool = new QToolButton;
@@ -71,7 +71,7 @@ PictureDialog::PictureDialog(authoring::PictureEditor& screen, platform::Setting
     columns->setSizes({kCanvasRoom, kSideRoom});
     auto* contents = new QWidget;
     auto* layout = new QVBoxLayout(contents);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, 0);
+    layout->setContentsMargins(kPictureMargin, kPictureMargin, kPictureMargin, 0);
     layout->addWidget(columns);
     SetContents(contents);
     Connect();
@@ -145,7 +145,7 @@ QWidget* PictureDialog::NewImages() {
     connect(import, &QPushButton::clicked, this, [this] { ImportImage(); });
     auto* images = new QWidget;
     auto* layout = new QVBoxLayout(images);
-    layout->setContentsMargins(0, kMargin, 0, 0);
+    layout->setContentsMargins(0, kPictureMargin, 0, 0);
     layout->addWidget(import);
     layout->addWidget(tracing_);
     layout->addStretch();
@@ -155,7 +155,7 @@ QWidget* PictureDialog::NewImages() {
 QWidget* PictureDialog::NewSaving() {
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, kMargin, 0, 0);
+    layout->setContentsMargins(0, kPictureMargin, 0, 0);
     layout->addWidget(new QLabel(tr("<b>Save Picture Information</b>")));
     auto* told =
         new QLabel(tr("Drawstring always saved on Update. Below is to save Picture as a Room "

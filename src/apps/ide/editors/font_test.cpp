@@ -15,7 +15,7 @@ constexpr const char* kSampleLines[] = {"You are in a", "dark cave. 123"};
 constexpr int kColumns = 14;
 constexpr int kCell = 8;
 constexpr int kEnlarged = 2;  ///< characters of 8 pixels are small on the screens of today
-constexpr int kMargin = 12;
+constexpr int kFontTestMargin = 12;
 
 QColor ToColour(int number) {
     const text::Rgb rgb = text::ColorRGB(number);
@@ -44,11 +44,11 @@ void DrawGlyph(QImage& image, const QPoint& place, const pictures::Glyph& glyph,
 FontTest::FontTest(store::Adventure& adventure, QWidget* parent) : QLabel(parent), adventure_(adventure) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setMargin(kMargin);
+    setMargin(kFontTestMargin);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setMinimumHeight(2 * kMargin + kEnlarged * kCell * static_cast<int>(std::size(kSampleLines)));
+    setMinimumHeight(2 * kFontTestMargin + kEnlarged * kCell * static_cast<int>(std::size(kSampleLines)));
     // A large size asks for more lines, not for a wider window.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
 }

@@ -19,7 +19,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 8;
+constexpr int kMarkupMargin = 8;
 constexpr int kShortLines = 2;
 /// Below this a text in the game's colours can't be told from the paper, and the windows' own serve.
 constexpr double kVisible = 1.5;
@@ -143,7 +143,7 @@ void MarkupEdit::ScrollPreview() {
 
 /// Room for so many lines at least, in a short editor for two.
 void MarkupEdit::SetLines(QAbstractScrollArea& area, const QFontMetrics& metrics, int lines) const {
-    const int around = 2 * (kMargin + area.frameWidth());
+    const int around = 2 * (kMarkupMargin + area.frameWidth());
     if (kind_.isShort) return area.setFixedHeight(metrics.lineSpacing() * kShortLines + around);
     area.setMinimumHeight(metrics.lineSpacing() * lines + around);
 }
@@ -161,7 +161,7 @@ void MarkupEdit::FitLook() {
     field_->setPalette(game);
     field_->setFont(font);
     SetLines(*field_, metrics, 4);
-    field_->document()->setDocumentMargin(kMargin);
+    field_->document()->setDocumentMargin(kMarkupMargin);
     auto* highlighter = field_->document()->findChild<QSyntaxHighlighter*>();
     static_cast<MarkupHighlighter*>(highlighter)
         ->SetColours(game.color(QPalette::Base), game.color(QPalette::Text));
@@ -170,9 +170,9 @@ void MarkupEdit::FitLook() {
     game.setColor(QPalette::Text, ToColour(ink));
     preview_->setPalette(game);
     preview_->setFont(font);
-    preview_->document()->setDocumentMargin(kMargin);
+    preview_->document()->setDocumentMargin(kMarkupMargin);
     const int frame =
-        2 * (kMargin + preview_->frameWidth()) + preview_->verticalScrollBar()->sizeHint().width();
+        2 * (kMarkupMargin + preview_->frameWidth()) + preview_->verticalScrollBar()->sizeHint().width();
     preview_->setMaximumWidth(metrics.averageCharWidth() * editing_.PreviewColumns() + frame);
     SetLines(*preview_, metrics, 3);
 }

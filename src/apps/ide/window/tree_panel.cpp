@@ -11,7 +11,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kSmallestIcon = 20;
+constexpr int kSmallestTreeIcon = 20;
 constexpr int kSort = Qt::UserRole;
 constexpr int kIcon = Qt::UserRole + 1;
 constexpr int kOpenIcon = Qt::UserRole + 2;
@@ -39,7 +39,7 @@ TreePanel::TreePanel(Choose choose, QWidget* parent) : QTreeWidget(parent), choo
     setHeaderHidden(true);
     setFrameShape(QFrame::NoFrame);
     setUniformRowHeights(true);
-    const int icon = std::max(kSmallestIcon, fontMetrics().height() * 6 / 5);
+    const int icon = std::max(kSmallestTreeIcon, fontMetrics().height() * 6 / 5);
     setIconSize(QSize(icon, icon));
     setIndentation(18);
     setTabKeyNavigation(false);
