@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds and runs every test: an optimised build by g++, the same tests built by clang under
 # the sanitizers, the programs that need no Qt without it, what plays a game without the packages of all other programs,
-# and the checks of formatting, includes and links.
+# and the checks of formatting, includes, links, and what clang-tidy finds in what the last commit changed.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -26,6 +26,7 @@ build sanitize
 echo "tests: sanitize"
 # The sanitizers slow windows down so much that a test which waits for one may need a second try.
 ctest --preset sanitize -j "$(nproc)" --repeat until-pass:2
+scripts/check_tidy.sh
 build core-only
 build core
 echo "all tests passed"
