@@ -105,13 +105,13 @@ bool NameWhatIsThere(Game& game, std::span<const std::int16_t> flags) {
     return prompt.value == 0 || game.texts.HasSystemMessage(prompt);
 }
 
-struct WordKind {
+struct NumberedWords {
     FlagNumber flag;
     std::string_view typeName;
 };
 
 /// The words that AGAIN tells, in their order.
-constexpr WordKind kToldWords[] = {
+constexpr NumberedWords kToldWords[] = {
     {flag::kAdverb, "Adverb"},
     {flag::kVerb, "Verb"},
     {flag::kAdjective, "Adjective"},
@@ -183,7 +183,7 @@ bool Again(Game& game) {
         game.SetFlag(flag, before[static_cast<std::size_t>(flag.value)]);
     game.state.wordText = game.state.oldWordText;
     std::string told = "Re-executing ";
-    for (const WordKind& kind : kToldWords) {
+    for (const NumberedWords& kind : kToldWords) {
         if (game.Flag(kind.flag) == kNoWord) continue;
         const std::string word = game.texts.WordOf(game.Word(kind.flag), kind.typeName);
         if (!word.empty()) told += text::EscapeMarkup(word) + " ";
