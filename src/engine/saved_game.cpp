@@ -21,9 +21,8 @@ constexpr int kLines = kHeaderLines + 3 * RunState::kSlots;
 
 /// More than any saved game takes: every value at its longest.
 std::size_t LargestFile(const RunState& state) {
-    const auto values =
-        static_cast<std::size_t>(state.FlagCount() + state.ObjectCount() + state.LocationCount());
-    return 4096 + RunState::kSlots * (values * 7 + 8);
+    const int values = state.FlagCount() + state.ObjectCount() + state.LocationCount();
+    return 4096 + RunState::kSlots * (static_cast<std::size_t>(values) * 7 + 8);
 }
 
 std::string HeaderLine(const GameData& data, const RunState& state) {
