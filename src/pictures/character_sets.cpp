@@ -2,9 +2,8 @@
 
 namespace fabula::pictures {
 
-void CharacterSets::Add(Character character) {
-    const int number = character.number;
-    sets_[character.set].try_emplace(number, std::move(character));
+void CharacterSets::Add(const Character& character) {
+    sets_[character.set].try_emplace(character.number, character);
 }
 
 bool CharacterSets::HasSet(int set) const {

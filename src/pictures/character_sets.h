@@ -29,7 +29,7 @@ inline constexpr int kLastCharacter = 164;
 class CharacterSets {
   public:
     /// Of two characters with the same set and number the first stays.
-    void Add(Character character);
+    void Add(const Character& character);
 
     bool HasSet(int set) const;
 
