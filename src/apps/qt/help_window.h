@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QMainWindow>
 
 #include "qt/help_book.h"
@@ -16,6 +17,7 @@ namespace fabula::qt {
 /// The help in a window of its own: contents and search at the left, the page at the right. Its controls
 /// are found by their names: "Contents", "Search", "Hits", "Page".
 class HelpWindow final : public QMainWindow {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit HelpWindow(const std::filesystem::path& contents);
 

@@ -20,7 +20,7 @@ namespace {
 /// Games and files speak in these boxes too: what they say is no markup.
 QMessageBox::StandardButton Ask(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons,
                                 std::string_view text, std::string_view title, QWidget* parent) {
-    QMessageBox box(icon, ToQt(title), ToQt(text), buttons, parent);
+    QMessageBox box(icon, Translated(title), Translated(text), buttons, parent);
     box.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
@@ -43,7 +43,7 @@ std::string QtFilter(const std::string& filter) {
             if (letter == ';') letter = ' ';
         }
         if (part > 0) shown += ";;";
-        shown.append(parts[part]).append(" (").append(pattern).append(")");
+        shown.append(FromQt(Translated(parts[part]))).append(" (").append(pattern).append(")");
     }
     return shown;
 }
@@ -70,8 +70,8 @@ bool QtDialogs::Proceed(std::string_view text, std::string_view title) {
 
 std::optional<std::string> QtDialogs::AskText(const platform::TextQuestion& question) {
     QInputDialog box(Parent());
-    box.setWindowTitle(ToQt(question.title));
-    box.setLabelText(ToQt(question.prompt));
+    box.setWindowTitle(Translated(question.title));
+    box.setLabelText(Translated(question.prompt));
     box.setTextValue(ToQt(question.proposal));
     for (auto* label : box.findChildren<QLabel*>())
         label->setTextFormat(Qt::PlainText);
@@ -89,11 +89,12 @@ bool QtDialogs::ProceedFromReport(std::string_view text, std::string_view title)
 }
 
 platform::Leaving QtDialogs::AskLeaving(std::string_view text, std::string_view title) {
-    QMessageBox box(QMessageBox::Question, ToQt(title), ToQt(text), QMessageBox::NoButton, Parent());
+    QMessageBox box(QMessageBox::Question, Translated(title), Translated(text), QMessageBox::NoButton,
+                    Parent());
     box.setTextFormat(Qt::PlainText);
-    const auto* store = box.addButton(QObject::tr("&Store"), QMessageBox::AcceptRole);
-    const auto* discard = box.addButton(QObject::tr("&Discard"), QMessageBox::DestructiveRole);
-    QPushButton* keep = box.addButton(QObject::tr("&Keep Editing"), QMessageBox::RejectRole);
+    const auto* store = box.addButton(Translated("&Store"), QMessageBox::AcceptRole);
+    const auto* discard = box.addButton(Translated("&Discard"), QMessageBox::DestructiveRole);
+    QPushButton* keep = box.addButton(Translated("&Keep Editing"), QMessageBox::RejectRole);
     box.setDefaultButton(keep);
     box.setEscapeButton(keep);
     box.exec();
@@ -103,7 +104,7 @@ platform::Leaving QtDialogs::AskLeaving(std::string_view text, std::string_view 
 }
 
 std::optional<std::filesystem::path> QtDialogs::ChooseFile(const platform::FileQuestion& question) {
-    QFileDialog dialog(Parent(), ToQt(question.title));
+    QFileDialog dialog(Parent(), Translated(question.title));
     dialog.setNameFilters(ToQt(QtFilter(question.filter)).split(";;"));
     dialog.setDefaultSuffix(ToQt(question.extension));
     dialog.setAcceptMode(question.forWriting ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

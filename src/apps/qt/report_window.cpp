@@ -35,11 +35,11 @@ QPushButton* AddAction(QDialogButtonBox& buttons, const QString& caption, const 
 ReportWindow::ReportWindow(std::string_view text, std::string_view title, Answer answer, QWidget* parent)
     : QDialog(parent),
       print([this](const QTextDocument& document) { PrintOnPaper(document, this); }),
-      pane_(new QPlainTextEdit(ToQt(text), this)) {
+      pane_(new QPlainTextEdit(Translated(text), this)) {
     setObjectName("report");
-    setWindowTitle(ToQt(title));
+    setWindowTitle(Translated(title));
     pane_->setReadOnly(true);
-    pane_->setAccessibleName(ToQt(title));
+    pane_->setAccessibleName(Translated(title));
     pane_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto* buttons = new QDialogButtonBox(
         answer == Answer::Close ? QDialogButtonBox::Close : QDialogButtonBox::Ok | QDialogButtonBox::Cancel,

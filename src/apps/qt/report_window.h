@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <functional>
 #include <string_view>
@@ -11,6 +12,7 @@ namespace fabula::qt {
 
 /// A longer text in a window in which it can be read, copied, printed and saved.
 class ReportWindow final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// How the window is left: by Close, or by OK (it is accepted then) and Cancel.
     enum class Answer { Close, OkOrCancel };

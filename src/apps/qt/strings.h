@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <filesystem>
 #include <string>
@@ -21,6 +22,15 @@ inline std::string FromQt(const QString& text) {
 }
 inline std::filesystem::path PathFromQt(const QString& text) {
     return std::filesystem::path(text.toStdString());
+}
+
+/// The context of all texts of the windows in files of translations.
+constexpr const char* kTranslations = "Fabula";
+
+/// A sentence of the system in the language of the windows. What libraries say comes through here on its
+/// way to a widget or a box; what records hold does not (`ToQt`).
+inline QString Translated(std::string_view sentence) {
+    return QCoreApplication::translate(kTranslations, std::string(sentence).c_str());
 }
 
 /// A text as a tool tip that shows it as it is, with its line ends. Tips guess whether they hold markup.

@@ -16,7 +16,6 @@
 #include "text/colours.h"
 
 namespace fabula::ide {
-namespace {}  // namespace
 
 /// Framed, so that it can be told from any window.
 QIcon ColorSwatch(int number, int height) {
@@ -30,7 +29,7 @@ QIcon ColorSwatch(int number, int height) {
 
 ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
     : QDialog(parent), screen_(screen), chosen_(new QButtonGroup(this)), current_(new QLabel) {
-    setWindowTitle(qt::ToQt(screen.Caption()));
+    setWindowTitle(qt::Translated(screen.Caption()));
     setProperty("helpPage", "frmcolors.html");
     auto* colors = new QHBoxLayout;
     colors->addWidget(NewColors(0, authoring::ColourScreen::kNormalColors));
@@ -38,10 +37,10 @@ ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
         NewColors(authoring::ColourScreen::kFirstBright, authoring::ColourScreen::kBrightColors));
     current_->setObjectName("current");
     colors->setSpacing(16);
-    auto* update = new QPushButton("&Update");
+    auto* update = new QPushButton(tr("&Update"));
     update->setObjectName("update");
     update->setDefault(true);
-    auto* exit = new QPushButton("Exit");
+    auto* exit = new QPushButton(tr("Exit"));
     exit->setObjectName("exit");
     exit->setAutoDefault(false);
     auto* buttons = new QHBoxLayout;
@@ -61,13 +60,13 @@ ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
 }
 
 QWidget* ColourDialog::NewColors(int first, std::string_view caption) {
-    auto* group = new QGroupBox(qt::ToQt(caption));
+    auto* group = new QGroupBox(qt::Translated(caption));
     auto* layout = new QVBoxLayout(group);
     layout->setSpacing(4);
     const int size = fontMetrics().height();
     for (int number = first; number < first + authoring::ColourScreen::kFirstBright; ++number) {
         auto* color = new QToolButton;
-        color->setText(qt::ToQt(text::ColorName(number)));
+        color->setText(qt::Translated(text::ColorName(number)));
         color->setObjectName(QString("colour%1").arg(number));
         color->setAccessibleName(color->text());
         color->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -97,7 +96,7 @@ bool ColourDialog::eventFilter(QObject* receiver, QEvent* event) {
 
 void ColourDialog::ShowCurrent() {
     chosen_->button(screen_.Current())->setChecked(true);
-    current_->setText(qt::ToQt(screen_.CurrentLine()));
+    current_->setText(qt::Translated(screen_.CurrentLine()));
 }
 
 }  // namespace fabula::ide

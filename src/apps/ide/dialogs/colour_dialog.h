@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QIcon>
 
@@ -16,6 +17,7 @@ QIcon ColorSwatch(int number, int height);
 /// The dialog that picks one of the 16 colours. Accepted by Update or a double click on a colour; `screen`
 /// then has the number.
 class ColourDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ColourDialog(authoring::ColourScreen& screen, QWidget* parent = nullptr);
 

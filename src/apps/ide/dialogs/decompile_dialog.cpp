@@ -36,7 +36,7 @@ DecompileDialog::DecompileDialog(DecompileScreen& screen, QWidget* parent)
       run_(new QPushButton(tr("&Run"))),
       exit_(new QPushButton) {
     setObjectName("DecompileScreen");
-    setWindowTitle(qt::ToQt(DecompileScreen::kTitle));
+    setWindowTitle(qt::Translated(DecompileScreen::kTitle));
     setProperty("helpPage", "frmunmarlovel.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
@@ -73,7 +73,7 @@ void DecompileDialog::AddOptions(QFormLayout& form) {
     row->setSpacing(24);
     for (const Decompiler decompiler : kDecompilers) {
         const auto i = static_cast<std::size_t>(decompiler);
-        auto* button = new QRadioButton(qt::ToQt(DecompileScreen::kOptions[i]));
+        auto* button = new QRadioButton(qt::Translated(DecompileScreen::kOptions[i]));
         button->setObjectName(i == 0 ? "unMarlo" : "unVel");
         button->setAccessibleName(button->text().remove('&'));
         QObject::connect(button, &QRadioButton::clicked, this, [this, decompiler] {
@@ -179,10 +179,10 @@ void DecompileDialog::Show() {
     run_->setEnabled(!running);
     exit_->setText(running ? tr("&Cancel") : tr("E&xit"));
     exit_->setAccessibleName(exit_->text().remove('&'));
-    progress_->setText(qt::ToQt(screen_.ProgressLine()));
+    progress_->setText(qt::Translated(screen_.ProgressLine()));
     // How long a program will take is not known.
     bar_->setRange(0, running ? 0 : 1);
-    const QString status = qt::ToQt(screen_.Status());
+    const QString status = qt::Translated(screen_.Status());
     if (status_->toPlainText() == status) return;
     status_->setPlainText(status);
     status_->moveCursor(QTextCursor::End);

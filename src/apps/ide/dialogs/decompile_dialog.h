@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <array>
 
@@ -17,6 +18,7 @@ namespace fabula::ide {
 
 /// The dialog of `DecompileScreen`.
 class DecompileDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `events` of the screen should be JobEvents, so that a program can be ended.
     explicit DecompileDialog(authoring::DecompileScreen& screen, QWidget* parent = nullptr);

@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "qt/strings.h"
+
 namespace fabula::ide {
 
 void FileRow::SetEnabled(bool enabled) const {
@@ -17,12 +19,12 @@ void FileRow::Show(const QString& file) const {
 }
 
 FileRow AddFileRow(QFormLayout& form, const char* name, const QString& label, const char* buttonName) {
-    FileRow line{new QLineEdit, new QPushButton(QObject::tr("Choose…"))};
+    FileRow line{new QLineEdit, new QPushButton(qt::Translated("Choose…"))};
     line.field->setObjectName(name);
     line.field->setAccessibleName(QString(label).remove('&').remove(':'));
     line.button->setObjectName(buttonName);
     line.button->setAccessibleName(
-        QObject::tr("Choose the %1").arg(line.field->accessibleName().toLower()));
+        qt::Translated("Choose the %1").arg(line.field->accessibleName().toLower()));
     line.button->setAutoDefault(false);
     auto* row = new QHBoxLayout;
     row->setSpacing(8);

@@ -8,14 +8,14 @@
 namespace fabula::ide {
 
 FlagDialog::FlagDialog(authoring::FlagScreen& screen, QWidget* parent)
-    : RecordDialog(screen, QString("Flag %1").arg(screen.Key().key), "frmflags.html", parent),
+    : RecordDialog(screen, tr("Flag %1").arg(screen.Key().key), "frmflags.html", parent),
       screen_(screen),
       type_(NewDropList(screen.type)),
       use_(NewDropList(screen.use)),
       description_(NewTextEdit(screen.description)) {
-    AddControl("&Type:", type_, "type");
-    AddControl("U&se:", use_, "use");
-    AddControl("&Description:", description_, "description");
+    AddControl(tr("&Type:"), type_, "type");
+    AddControl(tr("U&se:"), use_, "use");
+    AddControl(tr("&Description:"), description_, "description");
     CheckOnLeave(type_, [this] { return screen_.LeaveType(); });
     CheckOnLeave(use_, [this] { return screen_.LeaveUse(); });
     CheckOnLeave(description_, [this] { return screen_.LeaveDescription(); });

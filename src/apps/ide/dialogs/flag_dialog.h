@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include "authoring/screens/flag_screen.h"
 #include "ide/dialogs/record_dialog.h"
 
@@ -7,6 +9,7 @@ namespace fabula::ide {
 
 /// The dialog of what a flag is used for.
 class FlagDialog final : public RecordDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit FlagDialog(authoring::FlagScreen& screen, QWidget* parent = nullptr);
 

@@ -46,7 +46,7 @@ constexpr KindText kKindTexts[] = {
 QString TextOf(const InterchangeScreen::KindOption& option) {
     const QString name = qt::ToQt(option.name);
     for (const KindText& text : kKindTexts) {
-        if (text.kind == option.name) return name + ": " + QObject::tr(text.about);
+        if (text.kind == option.name) return name + ": " + qt::Translated(text.about);
     }
     return name;
 }
@@ -59,13 +59,13 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
       dialogs_(dialogs),
       status_(new QPlainTextEdit),
       bar_(new QProgressBar),
-      import_(new QPushButton(qt::ToQt(screen.MainButton()))),
-      print_(NewStatusButton(qt::ToQt(InterchangeScreen::kPrintButton),
+      import_(new QPushButton(qt::Translated(screen.MainButton()))),
+      print_(NewStatusButton(qt::Translated(InterchangeScreen::kPrintButton),
                              {[this] { return screen_.Status(); }, [this] { screen_.SaveStatus(); },
                               [this] { PrintText(screen_.Status(), screen_.Title(), dialogs_, this); }})),
       exit_(new QPushButton) {
     setObjectName("InterchangeScreen");
-    setWindowTitle(qt::ToQt(screen.Title()));
+    setWindowTitle(qt::Translated(screen.Title()));
     setProperty("helpPage", "frmsrcimport.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
@@ -85,7 +85,7 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
     if (screen.Mode() == JobMode::LoadGraphic) AddRecords(*form);
     column->addLayout(form);
     MakeStatus();
-    auto* label = new QLabel(qt::ToQt(screen.StatusCaption()));
+    auto* label = new QLabel(qt::Translated(screen.StatusCaption()));
     label->setObjectName("statusCaption");
     label->setBuddy(status_);
     column->addSpacing(6);
@@ -127,8 +127,8 @@ void InterchangeDialog::AddKinds(QFormLayout& form) {
         auto* button = new QRadioButton(TextOf(option));
         button->setObjectName("kind" + qt::ToQt(option.name));
         button->setAccessibleName(button->text());
-        button->setToolTip(qt::ToQt(option.why));
-        button->setAccessibleDescription(qt::ToQt(option.why));
+        button->setToolTip(qt::Translated(option.why));
+        button->setAccessibleDescription(qt::Translated(option.why));
         button->setChecked(option.kind && screen_.ChosenKind() == i);
         TabToChosen(*button);
         QObject::connect(button, &QRadioButton::clicked, this, [this, i] { screen_.ChooseKind(i); });
@@ -180,11 +180,11 @@ void InterchangeDialog::AddRecords(QFormLayout& form) {
 
 void InterchangeDialog::MakeStatus() {
     status_->setObjectName("status");
-    status_->setAccessibleName(qt::ToQt(screen_.StatusCaption()));
+    status_->setAccessibleName(qt::Translated(screen_.StatusCaption()));
     status_->setReadOnly(true);
     status_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     status_->setTabChangesFocus(true);
-    status_->setPlaceholderText(qt::ToQt(screen_.WhyNot()));
+    status_->setPlaceholderText(qt::Translated(screen_.WhyNot()));
     status_->setMinimumHeight(fontMetrics().lineSpacing() * kSmallestStatusLines);
     bar_->setObjectName("barProgress");
     bar_->setAccessibleName(tr("Progress"));
@@ -193,7 +193,7 @@ void InterchangeDialog::MakeStatus() {
 QWidget* InterchangeDialog::MakeButtons() {
     import_->setObjectName("start");
     import_->setAccessibleName(import_->text().remove('&'));
-    import_->setToolTip(qt::ToQt(screen_.WhyNot()));
+    import_->setToolTip(qt::Translated(screen_.WhyNot()));
     import_->setDefault(true);
     exit_->setObjectName("exit");
     exit_->setAutoDefault(false);
@@ -270,7 +270,7 @@ void InterchangeDialog::ShowStatus() {
     }
     if (text.size() == shown_) return;
     status_->moveCursor(QTextCursor::End);
-    status_->insertPlainText(qt::ToQt(std::string_view(text).substr(shown_)));
+    status_->insertPlainText(qt::Translated(std::string_view(text).substr(shown_)));
     status_->moveCursor(QTextCursor::End);
     shown_ = text.size();
 }

@@ -21,7 +21,7 @@ namespace {
 constexpr QSize kKeysSize(620, 360);
 
 QLabel* Note(std::string_view text) {
-    auto* note = new QLabel(qt::ToQt(text));
+    auto* note = new QLabel(qt::Translated(text));
     note->setObjectName("explanation");
     note->setWordWrap(true);
     note->setVisible(!text.empty());
@@ -34,14 +34,14 @@ QDialogButtonBox* Buttons(QDialog& dialog, const QString& accept, const char* na
     auto* button = box->addButton(accept, QDialogButtonBox::AcceptRole);
     button->setObjectName(name);
     button->setDefault(true);
-    box->addButton(QDialog::tr("Exit"), QDialogButtonBox::RejectRole)->setObjectName("exit");
+    box->addButton(qt::Translated("Exit"), QDialogButtonBox::RejectRole)->setObjectName("exit");
     QObject::connect(box, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     return box;
 }
 
 QVBoxLayout* Prepare(QDialog& dialog, const char* name, std::string_view title) {
     dialog.setObjectName(name);
-    dialog.setWindowTitle(qt::ToQt(title));
+    dialog.setWindowTitle(qt::Translated(title));
     dialog.setProperty(qt::kHelpPage, "frmkeychange.html");
     dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* layout = new QVBoxLayout(&dialog);
@@ -59,7 +59,7 @@ KeySelectDialog::KeySelectDialog(authoring::KeySelectScreen& screen, QWidget* pa
     table_->setObjectName("table");
     table_->addItem("");
     for (const std::string& table : screen.Tables())
-        table_->addItem(qt::ToQt(table));
+        table_->addItem(qt::Translated(table));
     form->addRow(tr("&Table"), table_);
     key_ = AddLine(*form, "key", tr("&Key"));
     process_ = AddLine(*form, "process", tr("&Process table"));
@@ -88,7 +88,7 @@ void KeySelectDialog::ShowTable() {
     key_->setEnabled(!words);
     for (QLineEdit* line : {process_, w1_, w2_})
         line->setEnabled(words);
-    explanation_->setText(qt::ToQt(screen_.Explanation()));
+    explanation_->setText(qt::Translated(screen_.Explanation()));
     explanation_->setVisible(words);
 }
 
@@ -109,7 +109,8 @@ KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::D
     rows_->setAccessibleName(tr("Records"));
     rows_->setTabKeyNavigation(false);
     rows_->setColumnCount(2);
-    rows_->setHorizontalHeaderLabels({qt::ToQt(screen.KeyName()), qt::ToQt(screen.ShownName())});
+    rows_->setHorizontalHeaderLabels(
+        {qt::Translated(screen.KeyName()), qt::Translated(screen.ShownName())});
     rows_->horizontalHeader()->setStretchLastSection(true);
     rows_->verticalHeader()->hide();
     auto* buttons = Buttons(*this, tr("&Finish"), "finish");

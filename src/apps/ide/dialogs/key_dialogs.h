@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 
 #include "authoring/jobs/key_change.h"
@@ -13,6 +14,7 @@ namespace fabula::ide {
 
 /// The dialog of KeySelectScreen. Accepted when records were found; `Selection` tells which.
 class KeySelectDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// The screen outlives the dialog.
     explicit KeySelectDialog(authoring::KeySelectScreen& screen, QWidget* parent = nullptr);
@@ -36,6 +38,7 @@ class KeySelectDialog final : public QDialog {
 
 /// The dialog of KeyChangeScreen: the records, of which only the keys can be edited. Accepted by Finish.
 class KeyChangeDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// Both outlive the dialog. `dialogs` tells what could not be stored.
     KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::Dialogs& dialogs,

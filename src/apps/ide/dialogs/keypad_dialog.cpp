@@ -11,18 +11,17 @@
 #include "qt/strings.h"
 
 namespace fabula::ide {
-namespace {}  // namespace
 
 KeypadDialog::KeypadDialog(platform::Operator& author, QWidget* parent) : QDialog(parent), author_(author) {
     setObjectName("KeypadSize");
-    setWindowTitle(qt::ToQt(listings::kKeypadTitle));
+    setWindowTitle(qt::Translated(listings::kKeypadTitle));
     setProperty(qt::kHelpPage, "frmtempsize.html");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    auto* frame = new QGroupBox(qt::ToQt(listings::kKeypadFrame));
+    auto* frame = new QGroupBox(qt::Translated(listings::kKeypadFrame));
     auto* sizes = new QVBoxLayout(frame);
     for (const listings::KeypadSize& size : listings::kKeypadSizes) {
-        auto* button = new QRadioButton(qt::ToQt(size.text));
+        auto* button = new QRadioButton(qt::Translated(size.text));
         button->setObjectName(QString("size%1").arg(sizes_.size() + 1));
         sizes->addWidget(button);
         sizes_.push_back(button);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <string>
 #include <vector>
@@ -13,6 +14,7 @@ namespace fabula::ide {
 /// The choice of the size of the keypad that a template is printed for. Another size than those that there
 /// are is told of when it is chosen.
 class KeypadDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit KeypadDialog(platform::Operator& author, QWidget* parent = nullptr);
 

@@ -67,7 +67,7 @@ QComboBox* NewWordList(const authoring::ComboBox& box) {
     return list;
 }
 
-void Name(QWidget* control, const char* name, const char* accessibleName) {
+void Name(QWidget* control, const char* name, const QString& accessibleName) {
     control->setObjectName(name);
     control->setAccessibleName(accessibleName);
 }
@@ -75,14 +75,14 @@ void Name(QWidget* control, const char* name, const char* accessibleName) {
 }  // namespace
 
 LocationDialog::LocationDialog(authoring::LocationScreen& screen, QWidget* parent)
-    : RecordDialog(screen, QString("Location %1").arg(screen.Key().key), "frmvellocation.html", parent),
+    : RecordDialog(screen, tr("Location %1").arg(screen.Key().key), "frmvellocation.html", parent),
       screen_(screen),
       editing_(screen.Adventure()),
-      shortDescription_(new MarkupEdit(editing_,
-                                       {"&Short description:", "Converted Short Description", true, true},
-                                       "shortDescription")),
-      description_(new MarkupEdit(editing_, {"&Description:", "Converted Location Description", true},
-                                  "description")),
+      shortDescription_(new MarkupEdit(
+          editing_, {tr("&Short description:"), tr("Converted Short Description"), true, true},
+          "shortDescription")),
+      description_(new MarkupEdit(
+          editing_, {tr("&Description:"), tr("Converted Location Description"), true}, "description")),
       rows_(new QTableWidget(0, kColumns)),
       word_(NewWordList(screen.exitWord)),
       location_(NewLocationList(screen.exitPlace)),
@@ -105,7 +105,7 @@ LocationDialog::LocationDialog(authoring::LocationScreen& screen, QWidget* paren
 }
 
 void LocationDialog::AddExits() {
-    rows_->setHorizontalHeaderLabels({"Exit", "To", "Leads to"});
+    rows_->setHorizontalHeaderLabels({tr("Exit"), tr("To"), tr("Leads to")});
     rows_->verticalHeader()->hide();
     const int letter = rows_->fontMetrics().averageCharWidth();
     rows_->setColumnWidth(kWord, 2 * kShortestWord * letter);
@@ -127,16 +127,16 @@ void LocationDialog::AddExits() {
                                              },
                                              this));
     connect(rows_, &QTableWidget::cellChanged, this, [this] { ReadRows(); });
-    AddControl("&Exits:", rows_, "exitRows");
+    AddControl(tr("&Exits:"), rows_, "exitRows");
 
-    Name(word_, "exitWord", "Exit word");
-    Name(location_, "exitPlace", "Location that the exit leads to");
-    Name(andBack_, "andBack", "and back");
+    Name(word_, "exitWord", tr("Exit word"));
+    Name(location_, "exitPlace", tr("Location that the exit leads to"));
+    Name(andBack_, "andBack", tr("and back"));
     andBack_->setToolTip(tr("The other location gets an exit in the opposite direction"));
     word_->lineEdit()->setPlaceholderText(tr("Word"));
     location_->lineEdit()->setPlaceholderText(tr("Number or name"));
-    auto* add = NewButton("&Add", "add");
-    auto* remove = NewButton("&Remove", "remove");
+    auto* add = NewButton(tr("&Add"), "add");
+    auto* remove = NewButton(tr("&Remove"), "remove");
     connect(add, &QPushButton::clicked, this, [this] { AddExit(); });
     word_->installEventFilter(this);
     location_->installEventFilter(this);
@@ -151,7 +151,7 @@ void LocationDialog::AddExits() {
     adding->setColumnStretch(3, 1);
     form_->addRow("", adding);
 
-    AddControl("As one &line:", exits_, "exits");
+    AddControl(tr("As one &line:"), exits_, "exits");
     connect(exits_, &QLineEdit::textEdited, this, [this](const QString& text) {
         screen_.exits = qt::FromQt(text);
         ShowRows();
@@ -159,10 +159,10 @@ void LocationDialog::AddExits() {
 }
 
 void LocationDialog::AddPicture() {
-    auto* choose = NewButton("&Choose...", "choosePicture");
-    auto* clear = NewButton("&No picture", "clearPicture");
+    auto* choose = NewButton(tr("&Choose..."), "choosePicture");
+    auto* clear = NewButton(tr("&No picture"), "clearPicture");
     picture_->setReadOnly(true);
-    AddControl("&Picture:", picture_, "picture");
+    AddControl(tr("&Picture:"), picture_, "picture");
     ShowDrawing();
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(kGap);
@@ -206,13 +206,13 @@ void LocationDialog::AddNeighbours() {
     auto* list = new QListWidget;
     for (const authoring::Neighbour& from : screen_.LeadsHere()) {
         list->addItem(
-            QString("%1 - %2, by %3").arg(from.location).arg(qt::ToQt(from.name), qt::ToQt(from.word)));
+            tr("%1 - %2, by %3").arg(from.location).arg(qt::ToQt(from.name), qt::ToQt(from.word)));
     }
-    if (screen_.LeadsHere().empty()) list->addItem("No exit leads here.");
+    if (screen_.LeadsHere().empty()) list->addItem(tr("No exit leads here."));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
     list->setMaximumHeight(5 * list->fontMetrics().lineSpacing());
-    AddControl("Leads &here:", list, "leadsHere");
+    AddControl(tr("Leads &here:"), list, "leadsHere");
 }
 
 void LocationDialog::AddExit() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include "authoring/fields/text_editing.h"
 #include "authoring/screens/location_screen.h"
 #include "ide/dialogs/record_dialog.h"
@@ -15,6 +17,7 @@ class PictureView;
 
 /// The dialog of a location. Its exits stand in one line, and in rows that are kept in step with it.
 class LocationDialog final : public RecordDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit LocationDialog(authoring::LocationScreen& screen, QWidget* parent = nullptr);
 

@@ -16,17 +16,16 @@
 #include "qt/strings.h"
 
 namespace fabula::ide {
-namespace {}  // namespace
 
 MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::TextEditing& editing,
                              platform::Dialogs& dialogs, QWidget* parent)
     : QDialog(parent), screen_(screen), dialogs_(dialogs), number_(new QLabel) {
-    setWindowTitle(qt::ToQt(screen.Caption()));
+    setWindowTitle(qt::Translated(screen.Caption()));
     setProperty("helpPage", "frmbothmessages.html");
     setSizeGripEnabled(true);
     number_->setObjectName("number");
-    text_ = new MarkupEdit(editing, {tr("&Text:"), qt::ToQt(screen.PreviewCaption()), screen.TagsAllowed()},
-                           "text");
+    text_ = new MarkupEdit(
+        editing, {tr("&Text:"), qt::Translated(screen.PreviewCaption()), screen.TagsAllowed()}, "text");
     text_->typed = [this](const std::string& text) { screen_.TypeMessage(text); };
     auto* top = new QHBoxLayout;
     AddMoves(*top);
@@ -100,7 +99,7 @@ void MessageDialog::AddButtons(QHBoxLayout& row) {
 }
 
 void MessageDialog::ShowRecord() {
-    number_->setText(QString("%1 %2").arg(qt::ToQt(screen_.Label())).arg(screen_.Number()));
+    number_->setText(QString("%1 %2").arg(qt::Translated(screen_.Label())).arg(screen_.Number()));
     text_->SetText(screen_.Text());
 }
 

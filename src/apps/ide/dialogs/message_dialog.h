@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QList>
 
@@ -19,6 +20,7 @@ class MarkupEdit;
 /// The dialog of a message, a system message or the description of a process table. Accepted by Update.
 /// Page Up and Page Down with Ctrl go to the previous and the next number.
 class MessageDialog final : public QDialog, public RecordEditor {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// All of them outlive the dialog. `dialogs` tells what could not be stored.
     MessageDialog(authoring::MessageScreen& screen, const authoring::TextEditing& editing,

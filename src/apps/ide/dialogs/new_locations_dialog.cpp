@@ -22,7 +22,7 @@ NewLocationsDialog::NewLocationsDialog(authoring::NewLocationsScreen& screen, pl
                                        QWidget* parent)
     : QDialog(parent), screen_(screen), dialogs_(dialogs) {
     setObjectName("NewLocationsScreen");
-    setWindowTitle(qt::ToQt(authoring::NewLocationsScreen::kTitle));
+    setWindowTitle(qt::Translated(authoring::NewLocationsScreen::kTitle));
     setProperty("helpPage", "frmnewlocs.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* told =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <vector>
 
@@ -11,6 +12,7 @@ namespace fabula::ide {
 
 /// The dialog of `NewLocationsScreen`: a line for each picture.
 class NewLocationsDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     NewLocationsDialog(authoring::NewLocationsScreen& screen, platform::Dialogs& dialogs,
                        QWidget* parent = nullptr);

@@ -22,30 +22,30 @@ constexpr const char* kPlaces[] = {"&Not created", "&Worn", "&Carried", "In a &r
 }  // namespace
 
 ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
-    : RecordDialog(screen, QString("Object %1").arg(screen.Key().key), "frmvelobjects.html", parent),
+    : RecordDialog(screen, tr("Object %1").arg(screen.Key().key), "frmvelobjects.html", parent),
       screen_(screen),
       editing_(screen.Adventure()),
-      description_(new MarkupEdit(editing_, {"&Description:", "", true}, "description")),
+      description_(new MarkupEdit(editing_, {tr("&Description:"), "", true}, "description")),
       noun_(NewDropList(screen.noun)),
       adjective_(NewDropList(screen.adjective)),
       places_(new QButtonGroup(this)),
       room_(NewLocationList(screen.room)),
-      container_(new QCheckBox("Conta&iner")),
-      wearable_(new QCheckBox("Wear and remo&ve")),
+      container_(new QCheckBox(tr("Conta&iner"))),
+      wearable_(new QCheckBox(tr("Wear and remo&ve"))),
       weight_(new QLineEdit) {
     form_->addRow(description_);
     description_->SetText(screen_.description);
-    AddControl("N&oun:", noun_, "noun");
-    AddControl("Ad&jective:", adjective_, "adjective");
-    AddControl("Initial location:", NewPlaces(), "initialPlace");
-    AddControl("Roo&m:", room_, "room");
+    AddControl(tr("N&oun:"), noun_, "noun");
+    AddControl(tr("Ad&jective:"), adjective_, "adjective");
+    AddControl(tr("Initial location:"), NewPlaces(), "initialPlace");
+    AddControl(tr("Roo&m:"), room_, "room");
     container_->setObjectName("container");
-    container_->setAccessibleName("Container");
+    container_->setAccessibleName(tr("Container"));
     wearable_->setObjectName("wearable");
-    wearable_->setAccessibleName("Wear and remove");
+    wearable_->setAccessibleName(tr("Wear and remove"));
     form_->addRow("", container_);
     form_->addRow("", wearable_);
-    AddControl("Wei&ght:", weight_, "weight");
+    AddControl(tr("Wei&ght:"), weight_, "weight");
     for (QWidget* control : {static_cast<QWidget*>(adjective_), static_cast<QWidget*>(container_),
                              static_cast<QWidget*>(wearable_), static_cast<QWidget*>(weight_)})
         control->setEnabled(screen_.HasAttributes());
@@ -65,9 +65,9 @@ QWidget* ObjectDialog::NewPlaces() {
     auto* layout = new QVBoxLayout(group);
     layout->setContentsMargins(0, 0, 0, 0);
     for (int place = 0; place < static_cast<int>(std::size(kPlaces)); ++place) {
-        auto* option = new QRadioButton(kPlaces[place]);
+        auto* option = new QRadioButton(tr(kPlaces[place]));
         option->setObjectName(QString("initialPlace%1").arg(place));
-        option->setAccessibleName(PlainLabel(kPlaces[place]));
+        option->setAccessibleName(PlainLabel(tr(kPlaces[place])));
         places_->addButton(option, place);
         layout->addWidget(option);
         connect(option, &QRadioButton::clicked, this, [this] {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include "authoring/fields/text_editing.h"
 #include "authoring/screens/object_screen.h"
 #include "ide/dialogs/record_dialog.h"
@@ -13,6 +15,7 @@ namespace fabula::ide {
 
 /// The dialog of an object.
 class ObjectDialog final : public RecordDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent = nullptr);
 

@@ -34,7 +34,7 @@ QPushButton* AddButton(QHBoxLayout& row, const QString& text, const char* name) 
 }
 
 QCheckBox* NewBox(std::string_view text, const char* name) {
-    auto* box = new QCheckBox(qt::ToQt(text));
+    auto* box = new QCheckBox(qt::Translated(text));
     box->setObjectName(name);
     box->setAccessibleName(box->text().simplified());
     return box;
@@ -51,7 +51,7 @@ PackageDialog::PackageDialog(PackageScreen& screen, QWidget* parent)
       readMe_(new QPlainTextEdit),
       look_(NewBox(PackageScreen::kLookAtReadMe, "lookAtReadMe")) {
     setObjectName("package");
-    setWindowTitle(qt::ToQt(PackageScreen::kTitle));
+    setWindowTitle(qt::Translated(PackageScreen::kTitle));
     setProperty(qt::kHelpPage, "frmpackage.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* layout = new QVBoxLayout(this);
@@ -59,8 +59,8 @@ PackageDialog::PackageDialog(PackageScreen& screen, QWidget* parent)
     layout->setSpacing(10);
     auto* form = new QFormLayout;
     version_->setObjectName("version");
-    version_->setAccessibleName("Version");
-    form->addRow("&Version:", version_);
+    version_->setAccessibleName(tr("Version"));
+    form->addRow(tr("&Version:"), version_);
     layout->addLayout(form);
     AddList(*layout);
     AddReadMe(*layout);
@@ -71,8 +71,8 @@ PackageDialog::PackageDialog(PackageScreen& screen, QWidget* parent)
 
 void PackageDialog::AddList(QVBoxLayout& layout) {
     files_->setObjectName("files");
-    files_->setAccessibleName("Files of the package");
-    files_->setHorizontalHeaderLabels({"Type", "Name"});
+    files_->setAccessibleName(tr("Files of the package"));
+    files_->setHorizontalHeaderLabels({tr("Type"), tr("Name")});
     files_->horizontalHeader()->setStretchLastSection(true);
     files_->verticalHeader()->hide();
     files_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -82,8 +82,8 @@ void PackageDialog::AddList(QVBoxLayout& layout) {
     files_->setMinimumWidth(fontMetrics().averageCharWidth() * kLettersOfTheList);
     layout.addWidget(files_, 2);
     auto* row = new QHBoxLayout;
-    auto* add = AddButton(*row, "&Add Files...", "addFiles");
-    auto* remove = AddButton(*row, "&Delete", "delete");
+    auto* add = AddButton(*row, tr("&Add Files..."), "addFiles");
+    auto* remove = AddButton(*row, tr("&Delete"), "delete");
     row->addStretch(1);
     row->addWidget(engine_);
     layout.addLayout(row);
@@ -103,17 +103,17 @@ void PackageDialog::AddList(QVBoxLayout& layout) {
 }
 
 void PackageDialog::AddReadMe(QVBoxLayout& layout) {
-    auto* label = new QLabel(qt::ToQt(PackageScreen::kLabel));
+    auto* label = new QLabel(qt::Translated(PackageScreen::kLabel));
     label->setWordWrap(true);
     label->setBuddy(readMe_);
     layout.addWidget(label);
     readMe_->setObjectName("readMe");
-    readMe_->setAccessibleName("What is added to the ReadMe");
+    readMe_->setAccessibleName(tr("What is added to the ReadMe"));
     readMe_->setTabChangesFocus(true);
     readMe_->setMinimumHeight(fontMetrics().lineSpacing() * kLinesOfTheReadMe);
     layout.addWidget(readMe_, 1);
     auto* row = new QHBoxLayout;
-    auto* browse = AddButton(*row, "&Browse for Readme...", "browse");
+    auto* browse = AddButton(*row, tr("&Browse for Readme..."), "browse");
     row->addStretch(1);
     row->addWidget(look_);
     layout.addLayout(row);
@@ -127,9 +127,9 @@ void PackageDialog::AddReadMe(QVBoxLayout& layout) {
 void PackageDialog::AddButtons(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
     row->addStretch(1);
-    auto* pack = AddButton(*row, "&Package", "pack");
+    auto* pack = AddButton(*row, tr("&Package"), "pack");
     pack->setDefault(true);
-    auto* exit = AddButton(*row, "E&xit", "exit");
+    auto* exit = AddButton(*row, tr("E&xit"), "exit");
     layout.addLayout(row);
     connect(pack, &QPushButton::clicked, this, [this] {
         Read();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 
 #include "packages/package_screen.h"
@@ -15,6 +16,7 @@ namespace fabula::ide {
 /// The window of `PackageScreen`: the files in a list, what goes into the ReadMe, and the button that
 /// packs.
 class PackageDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit PackageDialog(packages::PackageScreen& screen, QWidget* parent = nullptr);
 

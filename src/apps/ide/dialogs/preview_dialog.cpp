@@ -32,7 +32,7 @@ PreviewDialog::PreviewDialog(listings::PrintPreview& preview, const PrintService
       scroll_(new QScrollArea),
       sheet_(new SheetView) {
     setObjectName("PrintPreview");
-    setWindowTitle(qt::ToQt(preview.Title()));
+    setWindowTitle(qt::Translated(preview.Title()));
     setProperty(qt::kHelpPage, "frmprintpreview.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* moves = new QHBoxLayout;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 
 #include "ide/dialogs/print_dialog.h"
@@ -16,6 +17,7 @@ class SheetView;
 
 /// The window of a `PrintPreview`. The pages are made once it is on the screen.
 class PreviewDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     PreviewDialog(listings::PrintPreview& preview, const PrintServices& services,
                   QWidget* parent = nullptr);

@@ -24,7 +24,7 @@ using listings::PrintScreen;
 void Fill(QComboBox& list, const authoring::DropList& items) {
     list.clear();
     for (const authoring::ListItem& item : items.items)
-        list.addItem(qt::ToQt(item.text));
+        list.addItem(qt::Translated(item.text));
     list.setCurrentIndex(items.index);
 }
 
@@ -33,7 +33,7 @@ void Fill(QComboBox& list, const authoring::DropList& items) {
 PrintDialog::PrintDialog(PrintScreen& screen, const PrintServices& services, QWidget* parent)
     : QDialog(parent), screen_(screen), services_(services), status_(new QLabel) {
     setObjectName("PrintScreen");
-    setWindowTitle(qt::ToQt(screen.Title()));
+    setWindowTitle(qt::Translated(screen.Title()));
     setProperty(qt::kHelpPage, "frmprint.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
@@ -85,7 +85,7 @@ void PrintDialog::AddForm(QFormLayout& form) {
     }
     range_ = new QLineEdit;
     range_->setObjectName("range");
-    range_->setPlaceholderText(qt::ToQt(PrintScreen::kRangeHint));
+    range_->setPlaceholderText(qt::Translated(PrintScreen::kRangeHint));
     rangeLabel_ = new QLabel;
     rangeLabel_->setBuddy(range_);
     form.addRow(rangeLabel_, range_);
@@ -170,8 +170,8 @@ void PrintDialog::ShowState() {
     Read();
     const bool table = !screen_.complete;
     const bool hasRange = screen_.HasRange();
-    rangeLabel_->setText(qt::ToQt(screen_.RangeLabel()));
-    range_->setAccessibleName(qt::ToQt(screen_.RangeLabel()).remove(':'));
+    rangeLabel_->setText(qt::Translated(screen_.RangeLabel()));
+    range_->setAccessibleName(qt::Translated(screen_.RangeLabel()).remove(':'));
     rangeLabel_->setVisible(hasRange);
     range_->setVisible(hasRange);
     range_->setEnabled(table);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <filesystem>
 #include <optional>
@@ -28,6 +29,7 @@ struct PrintServices {
 /// The window of a `PrintScreen`. To print, it prints or saves the listing and stays open when that was not
 /// to be; to preview, it closes with the job.
 class PrintDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     PrintDialog(listings::PrintScreen& screen, const PrintServices& services, QWidget* parent = nullptr);
 

@@ -55,7 +55,7 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QW
     : QDialog(parent), screen_(screen) {
     setObjectName("ProcessEntryScreen");
     setProperty("helpPage", "frmvelcondact.html");
-    setWindowTitle(qt::ToQt(authoring::ProcessEntryScreen::kCaption));
+    setWindowTitle(qt::Translated(authoring::ProcessEntryScreen::kCaption));
     auto* form = new QWidget;
     auto* column = new QVBoxLayout(form);
     column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
@@ -127,7 +127,7 @@ QLayout* ProcessEntryDialog::BuildEntry() {
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(12);
     form->setVerticalSpacing(10);
-    auto* key = new QLabel(qt::ToQt(screen_.recordKey), this);
+    auto* key = new QLabel(qt::Translated(screen_.recordKey), this);
     key->setObjectName("recordKey");
     form->addRow(key);
     type_ = new QLineEdit(this);
@@ -219,7 +219,7 @@ QLayout* ProcessEntryDialog::BuildLine() {
     fault_ = MakeNote("fault", tr("Fault"), this);
     line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
     line_->onFault = [this](const QString& fault) { fault_->setText(fault); };
-    auto* help = new QLabel(qt::ToQt(authoring::ProcessEntryScreen::kHelpLine), this);
+    auto* help = new QLabel(qt::Translated(authoring::ProcessEntryScreen::kHelpLine), this);
     help->setWordWrap(true);
     column->addWidget(label);
     column->addWidget(line_, 1);
@@ -253,8 +253,8 @@ QLayout* ProcessEntryDialog::BuildButtons() {
 
 void ProcessEntryDialog::ShowParameter(const ParameterWidgets& widgets,
                                        const authoring::ParameterField& field) {
-    widgets.label->setText(qt::ToQt(field.label));
-    widgets.box->setAccessibleName(qt::ToQt(field.label));
+    widgets.label->setText(qt::Translated(field.label));
+    widgets.box->setAccessibleName(qt::Translated(field.label));
     widgets.box->setEnabled(field.enabled);
     widgets.box->clear();
     for (const authoring::Completion& item : field.items)
@@ -280,7 +280,7 @@ void ProcessEntryDialog::Explain() {
     explained_->clear();
     for (const authoring::ExplainedCondAct& each :
          screen_.Help().Explain(qt::FromQt(line_->toPlainText()))) {
-        const QString meaning = qt::ToQt(each.meaning);
+        const QString meaning = qt::Translated(each.meaning);
         const QString shown =
             meaning.isEmpty() ? qt::ToQt(each.text) : QString("%1    %2").arg(qt::ToQt(each.text), meaning);
         auto* item = new QListWidgetItem(shown, explained_);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <functional>
 
@@ -19,6 +20,7 @@ class CondActEdit;
 /// The window of the process entry editor. It shows the fields of `screen`, gives them back when they are
 /// left, and keeps the focus in one that is refused.
 class ProcessEntryDialog final : public QDialog, public RecordEditor {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QWidget* parent = nullptr);
     ~ProcessEntryDialog() override;

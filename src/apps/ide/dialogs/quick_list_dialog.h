@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <functional>
 #include <optional>
@@ -15,6 +16,7 @@ namespace fabula::ide {
 /// page keys go through the lines while the keyboard stays in the line. Its parts are found by the names
 /// "QuickLine" and "QuickList".
 class QuickListDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// Gives the lines that fit what was typed; asked after each letter.
     using Search = std::function<std::vector<std::string>(const std::string& typed)>;

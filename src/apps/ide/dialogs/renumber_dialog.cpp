@@ -22,7 +22,7 @@ constexpr QSize kRenumberSize(640, 400);
 RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* parent)
     : QDialog(parent), screen_(screen), number_(new QLineEdit), changes_(new QListWidget) {
     setObjectName("RenumberDialog");
-    setWindowTitle(qt::ToQt(authoring::RenumberScreen::kCaption));
+    setWindowTitle(qt::Translated(authoring::RenumberScreen::kCaption));
     setProperty(qt::kHelpPage, kMainWindowPage);
     resize(kRenumberSize);
     number_->setObjectName("number");
@@ -31,7 +31,7 @@ RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* paren
     changes_->setObjectName("changes");
     changes_->setAccessibleName(tr("What changes"));
     auto* form = new QFormLayout;
-    form->addRow(tr("&New number of %1:").arg(qt::ToQt(screen.Name())), number_);
+    form->addRow(tr("&New number of %1:").arg(qt::Translated(screen.Name())), number_);
     auto* update = new QPushButton(tr("&Update"));
     update->setObjectName("update");
     update->setDefault(true);
@@ -57,7 +57,7 @@ void RenumberDialog::ShowPreview() {
     screen_.number = qt::FromQt(number_->text());
     changes_->clear();
     for (const std::string& line : screen_.Preview())
-        changes_->addItem(qt::ToQt(line));
+        changes_->addItem(qt::Translated(line));
 }
 
 void RenumberDialog::ClickUpdate() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 
 #include "authoring/desk/renumber_screen.h"
@@ -12,6 +13,7 @@ namespace fabula::ide {
 /// The dialog of the command Change Number: the new number, and what it would change. Accepted by Update.
 /// Its parts are found by the names "number", "changes", "update" and "exit".
 class RenumberDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit RenumberDialog(authoring::RenumberScreen& screen, QWidget* parent = nullptr);
 

@@ -43,7 +43,7 @@ ReplaceDialog::ReplaceDialog(authoring::ReplaceScreen& screen, QWidget* parent)
       status_(Named(new QLabel, "replaceStatus")),
       replace_(Named(new QPushButton(tr("&Replace")), "replace")) {
     setObjectName("ReplaceDialog");
-    setWindowTitle(qt::ToQt(authoring::ReplaceScreen::kCaption));
+    setWindowTitle(qt::Translated(authoring::ReplaceScreen::kCaption));
     setProperty(qt::kHelpPage, kMainWindowPage);
     resize(kReplaceSize);
     auto* layout = new QVBoxLayout(this);
@@ -56,7 +56,7 @@ ReplaceDialog::ReplaceDialog(authoring::ReplaceScreen& screen, QWidget* parent)
 void ReplaceDialog::MakeLines(QVBoxLayout& layout) {
     scope_->addItem(tr("everywhere"));
     for (const std::string& name : authoring::ReplaceScreen::Scopes())
-        scope_->addItem(qt::ToQt(name));
+        scope_->addItem(qt::Translated(name));
     auto* find = Named(new QPushButton(tr("&Find")), "find");
     find->setDefault(true);
     auto* form = new QFormLayout;
@@ -123,15 +123,16 @@ void ReplaceDialog::ShowFound() {
     bool any = false;
     for (const authoring::ReplaceScreen::Found& found : screen_.Hits()) {
         const bool fits = found.hit.refusal.empty();
-        auto* item = new QTreeWidgetItem(found_, {qt::ToQt(found.place), qt::ToQt(found.hit.Shown()),
-                                                  fits ? qt::ToQt(found.hit.Preview())
-                                                       : tr("left out: ") + qt::ToQt(found.hit.refusal)});
+        auto* item = new QTreeWidgetItem(
+            found_,
+            {qt::ToQt(found.place), qt::ToQt(found.hit.Shown()),
+             fits ? qt::ToQt(found.hit.Preview()) : tr("left out: ") + qt::Translated(found.hit.refusal)});
         item->setCheckState(0, found.ticked ? Qt::Checked : Qt::Unchecked);
         if (!fits) item->setFlags(item->flags() & ~Qt::ItemIsUserCheckable);
         any = any || fits;
     }
     replace_->setEnabled(any);
-    status_->setText(qt::ToQt(screen_.Status()));
+    status_->setText(qt::Translated(screen_.Status()));
     if (found_->topLevelItemCount() > 0) found_->setCurrentItem(found_->topLevelItem(0));
 }
 

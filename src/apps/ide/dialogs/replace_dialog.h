@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 
 #include "authoring/desk/replace_screen.h"
@@ -19,6 +20,7 @@ namespace fabula::ide {
 /// are found by the names "what", "with", "scope", "matchCase", "wholeWords", "expression", "find",
 /// "found", "replace", "replaceStatus" and "exit".
 class ReplaceDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ReplaceDialog(authoring::ReplaceScreen& screen, QWidget* parent = nullptr);
 

@@ -24,7 +24,7 @@ constexpr QSize kRestoreSize(560, 440);
 RestoreDialog::RestoreDialog(const authoring::RestoreScreen& screen, QWidget* parent)
     : QDialog(parent), screen_(screen), copies_(new QTableWidget), comparison_(new QPlainTextEdit) {
     setObjectName("restore");
-    setWindowTitle(qt::ToQt(authoring::RestoreScreen::kTitle));
+    setWindowTitle(qt::Translated(authoring::RestoreScreen::kTitle));
     setProperty(qt::kHelpPage, kMainWindowPage);
     setProperty(qt::kHelpAnchor, "restore");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
@@ -77,7 +77,7 @@ std::size_t RestoreDialog::Chosen() const {
 }
 
 void RestoreDialog::ShowComparison() {
-    comparison_->setPlainText(qt::ToQt(screen_.ComparisonOf(Chosen())));
+    comparison_->setPlainText(qt::Translated(screen_.ComparisonOf(Chosen())));
 }
 
 }  // namespace fabula::ide

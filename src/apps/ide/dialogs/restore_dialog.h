@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <cstddef>
 
@@ -12,6 +13,7 @@ namespace fabula::ide {
 
 /// The dialog of RestoreScreen. Accepted when a copy was chosen to be restored.
 class RestoreDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// The screen outlives the dialog and has at least one copy.
     explicit RestoreDialog(const authoring::RestoreScreen& screen, QWidget* parent = nullptr);

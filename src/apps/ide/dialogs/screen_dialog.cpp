@@ -77,10 +77,10 @@ bool ScreenDialog::HasChanges() {
 }
 
 void ScreenDialog::AddButtons() {
-    update_ = new QPushButton("&Update");
+    update_ = new QPushButton(tr("&Update"));
     update_->setObjectName("update");
     update_->setDefault(true);
-    exit_ = new QPushButton("Exit");
+    exit_ = new QPushButton(tr("Exit"));
     exit_->setObjectName("exit");
     exit_->setAutoDefault(false);
     buttons_->addStretch();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <functional>
 
@@ -14,6 +15,7 @@ namespace fabula::ide {
 /// What the dialogs that edit something share: Update (Ctrl+Return) and Exit (Esc), and checks of the
 /// fields that are left. A control that is refused gets the focus back.
 class ScreenDialog : public QDialog, public RecordEditor {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// The first time, as a window: in its size, with the keyboard in the first field.
     void setVisible(bool visible) override;

@@ -44,7 +44,7 @@ constexpr FieldCheck kChecks[] = {
 }  // namespace
 
 SettingsDialog::SettingsDialog(SettingsScreen& screen, engine::SoundPlayer& sound, QWidget* parent)
-    : ScreenDialog(screen, qt::ToQt(SettingsScreen::kCaption), "frmveladvsettings.html", parent),
+    : ScreenDialog(screen, qt::Translated(SettingsScreen::kCaption), "frmveladvsettings.html", parent),
       screen_(screen),
       pages_(new QTabWidget),
       game_(new SettingsGamePage(screen,
@@ -58,11 +58,11 @@ SettingsDialog::SettingsDialog(SettingsScreen& screen, engine::SoundPlayer& soun
       source_(NewDropList(screen.source)) {
     pages_->setObjectName("pages");
     pages_->setDocumentMode(true);
-    pages_->setAccessibleName("Pages of the settings");
+    pages_->setAccessibleName(tr("Pages of the settings"));
     pages_->tabBar()->setAccessibleName(pages_->accessibleName());
-    AddPage(game_, "Adventure Settings");
-    AddPage(soundPage_, "Sound");
-    AddPage(NewSourcePage(), "Source");
+    AddPage(game_, tr("Adventure Settings"));
+    AddPage(soundPage_, tr("Sound"));
+    AddPage(NewSourcePage(), tr("Source"));
     auto* frame = new QWidget;
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(kPagesMargin, kPagesMargin, kPagesMargin, 0);
@@ -89,7 +89,7 @@ QWidget* SettingsDialog::NewSourcePage() {
     auto* form = new QFormLayout(page);
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->setContentsMargins(16, 16, 16, 16);
-    AddToForm(*form, "Sou&rce:", source_, "source");
+    AddToForm(*form, tr("Sou&rce:"), source_, "source");
     return page;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include "authoring/settings/settings_screen.h"
 #include "engine/sound_player.h"
 #include "ide/dialogs/screen_dialog.h"
@@ -14,6 +16,7 @@ class SettingsSoundPage;
 
 /// The dialog of the settings, in three pages.
 class SettingsDialog final : public ScreenDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `sound` plays the note of Test Voice.
     SettingsDialog(authoring::SettingsScreen& screen, engine::SoundPlayer& sound,

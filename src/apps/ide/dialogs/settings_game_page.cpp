@@ -80,13 +80,13 @@ SettingsGamePage::SettingsGamePage(SettingsScreen& screen, Guard guard)
       start_(NewLocationList(screen.startPlace)),
       objects_(NewLine(screen.maxObjects)),
       weight_(NewLine(screen.maxWeight)),
-      charSets_(NewSwitch("&Char. Sets", "charSets", screen.charSets)),
+      charSets_(NewSwitch(tr("&Char. Sets"), "charSets", screen.charSets)),
       font_(NewDropList(screen.font)),
       fontSize_(NewDropList(screen.fontSize)),
       printWidth_(NewDropList(screen.printWidth)),
       sample_(new FontTest(screen.Adventure())),
-      graphics_(NewSwitch("Pictu&res", "graphics", screen.graphics)),
-      graphicsInDb_(NewSwitch("Pictures in the data&base", "graphicsInDb", screen.graphicsInDb)),
+      graphics_(NewSwitch(tr("Pictu&res"), "graphics", screen.graphics)),
+      graphicsInDb_(NewSwitch(tr("Pictures in the data&base"), "graphicsInDb", screen.graphicsInDb)),
       description_(NewTextEdit(screen.description)),
       count_(NewNote("", "count")),
       contact_(NewTextEdit(screen.contactInfo)) {
@@ -95,12 +95,12 @@ SettingsGamePage::SettingsGamePage(SettingsScreen& screen, Guard guard)
     columns_->addWidget(left_, 1);
     columns_->addWidget(right_, 1);
     auto* left = NewColumn(*left_);
-    AddGame(*NewForm(*left, "Game"));
+    AddGame(*NewForm(*left, tr("Game")));
     AddAbout(*left);
     left->addStretch(1);
     auto* right = NewColumn(*right_);
-    AddLook(*NewForm(*right, "Look"));
-    AddSwitches(*NewForm(*right, "Pictures"));
+    AddLook(*NewForm(*right, tr("Look")));
+    AddSwitches(*NewForm(*right, tr("Pictures")));
     right->addStretch(1);
     for (QComboBox* list : {type_, start_, font_, fontSize_, printWidth_})
         KeepNarrow(*list);
@@ -124,35 +124,35 @@ QFormLayout* SettingsGamePage::NewForm(QVBoxLayout& column, const QString& headi
 }
 
 void SettingsGamePage::AddGame(QFormLayout& form) {
-    AddToForm(form, "Adventure &name:", name_, "name");
-    AddToForm(form, "Au&thor:", author_, "author");
-    AddToForm(form, "&Save name:", saveName_, "saveName");
-    AddToForm(form, "&Version:", version_, "version");
+    AddToForm(form, tr("Adventure &name:"), name_, "name");
+    AddToForm(form, tr("Au&thor:"), author_, "author");
+    AddToForm(form, tr("&Save name:"), saveName_, "saveName");
+    AddToForm(form, tr("&Version:"), version_, "version");
     if (!screen_.Ifid().empty()) {
         // It is there to be read and copied.
         auto* ifid = new QLineEdit(qt::ToQt(screen_.Ifid()));
         ifid->setReadOnly(true);
-        AddToForm(form, "IFID:", ifid, "ifid");
+        AddToForm(form, tr("IFID:"), ifid, "ifid");
     }
-    AddToForm(form, "T&ype:", type_, "type");
+    AddToForm(form, tr("T&ype:"), type_, "type");
     // The note is written for a caption, in which an ampersand is doubled.
-    form.addRow(NewNote(qt::ToQt(screen_.TypeNote()).replace("&&", "&"), "typeNote"));
-    AddToForm(form, "Start &location:", start_, "startPlace");
-    AddToForm(form, "Maximum &objects:", objects_, "maxObjects");
-    AddToForm(form, "Maximum &weight:", weight_, "maxWeight");
+    form.addRow(NewNote(qt::Translated(screen_.TypeNote()).replace("&&", "&"), "typeNote"));
+    AddToForm(form, tr("Start &location:"), start_, "startPlace");
+    AddToForm(form, tr("Maximum &objects:"), objects_, "maxObjects");
+    AddToForm(form, tr("Maximum &weight:"), weight_, "maxWeight");
     weight_->setEnabled(screen_.HasWeights());
 }
 
 void SettingsGamePage::AddLook(QFormLayout& form) {
-    AddColour(form, "&Paper:", "paper", &SettingsScreen::paper, false);
-    AddColour(form, "&Ink:", "ink", &SettingsScreen::ink, true);
+    AddColour(form, tr("&Paper:"), "paper", &SettingsScreen::paper, false);
+    AddColour(form, tr("&Ink:"), "ink", &SettingsScreen::ink, true);
     form.addRow(charSets_);
-    AddToForm(form, "&Font:", font_, "font");
-    AddToForm(form, "Font si&ze:", fontSize_, "fontSize");
+    AddToForm(form, tr("&Font:"), font_, "font");
+    AddToForm(form, tr("Font si&ze:"), fontSize_, "fontSize");
     sample_->setObjectName("FontTest");
-    sample_->setAccessibleName("Sample of the font");
+    sample_->setAccessibleName(tr("Sample of the font"));
     form.addRow(sample_);
-    AddToForm(form, "Print wi&dth:", printWidth_, "printWidth");
+    AddToForm(form, tr("Print wi&dth:"), printWidth_, "printWidth");
     printWidth_->setEnabled(screen_.HasPrintWidth());
     for (const QComboBox* list : {font_, fontSize_}) {
         connect(list, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] {
@@ -177,7 +177,7 @@ void SettingsGamePage::AddColour(QFormLayout& form, const QString& label, const 
     auto* button = NewButton("", name);
     const auto show = [this, button, colour, caption = PlainLabel(label)] {
         const int size = button->fontMetrics().height();
-        const QString chosen = qt::ToQt(text::ColorName(screen_.*colour));
+        const QString chosen = qt::Translated(text::ColorName(screen_.*colour));
         button->setText(" " + chosen);
         button->setAccessibleName(caption + ": " + chosen);
         button->setIcon(ColorSwatch(screen_.*colour, size));
@@ -201,19 +201,19 @@ void SettingsGamePage::AddColour(QFormLayout& form, const QString& label, const 
 void SettingsGamePage::AddSwitches(QFormLayout& form) {
     form.addRow(graphics_);
     form.addRow(graphicsInDb_);
-    AddPicture(form, {"D&efault picture:", "defaultPicture", "C&hoose...", "choosePicture", "No picture",
-                      "clearPicture", &SettingsScreen::defaultPicture, &SettingsScreen::ChoosePicture,
-                      &SettingsScreen::ClearPicture});
+    AddPicture(form, {tr("D&efault picture:"), "defaultPicture", tr("C&hoose..."), "choosePicture",
+                      tr("No picture"), "clearPicture", &SettingsScreen::defaultPicture,
+                      &SettingsScreen::ChoosePicture, &SettingsScreen::ClearPicture});
     if (!screen_.HasAboutPicture()) return;
-    AddPicture(form, {"&About picture:", "aboutPicture", "Choose...", "chooseAboutPicture", "No picture",
-                      "clearAboutPicture", &SettingsScreen::aboutPicture,
+    AddPicture(form, {tr("&About picture:"), "aboutPicture", tr("Choose..."), "chooseAboutPicture",
+                      tr("No picture"), "clearAboutPicture", &SettingsScreen::aboutPicture,
                       &SettingsScreen::ChooseAboutPicture, &SettingsScreen::ClearAboutPicture});
 }
 
 void SettingsGamePage::AddPicture(QFormLayout& form, const PictureRow& row) {
     auto* line = new QLineEdit(qt::ToQt(screen_.*row.path));
     line->setReadOnly(true);
-    line->setPlaceholderText("No picture");
+    line->setPlaceholderText(tr("No picture"));
     AddToForm(form, row.label, line, row.line);
     auto* choose = NewButton(row.chooseText, row.choose);
     auto* clear = NewButton(row.clearText, row.clear);
@@ -237,14 +237,14 @@ void SettingsGamePage::AddPicture(QFormLayout& form, const PictureRow& row) {
 
 /// Texts of several lines have their labels above them, always.
 void SettingsGamePage::AddAbout(QVBoxLayout& column) {
-    QFormLayout& form = *NewForm(column, "About this Adventure");
+    QFormLayout& form = *NewForm(column, tr("About this Adventure"));
     forms_.pop_back();
     form.setRowWrapPolicy(QFormLayout::WrapAllRows);
     description_->setEnabled(screen_.HasAdvDesc());
     contact_->setEnabled(screen_.HasContactInfo());
-    AddToForm(form, "&Game description:", description_, "description");
+    AddToForm(form, tr("&Game description:"), description_, "description");
     form.addRow(count_);
-    AddToForm(form, "Contact infor&mation:", contact_, "contactInfo");
+    AddToForm(form, tr("Contact infor&mation:"), contact_, "contactInfo");
     for (QPlainTextEdit* edit : {description_, contact_})
         edit->setMaximumHeight(6 * edit->fontMetrics().lineSpacing());
     connect(description_, &QPlainTextEdit::textChanged, this, [this] { ShowCount(); });
@@ -256,7 +256,7 @@ void SettingsGamePage::ShowSample() {
 
 void SettingsGamePage::ShowCount() {
     const auto count = text::Length(qt::FromQt(description_->toPlainText()));
-    count_->setText(QString("%1 of %2 characters").arg(count).arg(SettingsScreen::kLongestText));
+    count_->setText(tr("%1 of %2 characters").arg(count).arg(SettingsScreen::kLongestText));
 }
 
 void SettingsGamePage::Read() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QWidget>
 #include <functional>
 #include <vector>
@@ -22,6 +23,7 @@ class FontTest;
 
 /// The settings' page of the game as a whole, in two columns where the window is wide enough.
 class SettingsGamePage final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// Does something that may fail, and tells of it when it does.
     using Guard = std::function<void(const std::function<void()>& work)>;

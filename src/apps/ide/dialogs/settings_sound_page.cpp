@@ -35,12 +35,12 @@ SettingsSoundPage::SettingsSoundPage(SettingsScreen& screen, engine::SoundPlayer
         ShowSwitch();
     });
     form->addRow("", on_);
-    AddToForm(*form, "&Device:", device_, "device");
-    AddToForm(*form, "&Channel:", channel_, "channel");
-    AddToForm(*form, "&Voice:", voice_, "voice");
-    AddSlider(*form, "Vo&lume:", "volume", &SettingsScreen::volume);
-    AddSlider(*form, "&Balance:", "balance", &SettingsScreen::balance);
-    AddSlider(*form, "B&ass:", "bass", &SettingsScreen::bass);
+    AddToForm(*form, tr("&Device:"), device_, "device");
+    AddToForm(*form, tr("&Channel:"), channel_, "channel");
+    AddToForm(*form, tr("&Voice:"), voice_, "voice");
+    AddSlider(*form, tr("Vo&lume:"), "volume", &SettingsScreen::volume);
+    AddSlider(*form, tr("&Balance:"), "balance", &SettingsScreen::balance);
+    AddSlider(*form, tr("B&ass:"), "bass", &SettingsScreen::bass);
     form->addRow("", NewTest());
 }
 
@@ -71,28 +71,29 @@ QWidget* SettingsSoundPage::NewTest() {
     auto* test = new QWidget;
     auto* column = new QVBoxLayout(test);
     column->setContentsMargins(0, 0, 0, 0);
-    auto* button = NewButton("&Test Voice", "testVoice");
+    auto* button = NewButton(tr("&Test Voice"), "testVoice");
     connect(button, &QPushButton::clicked, this, [this] { TestVoice(); });
     heard_->setObjectName("heard");
-    heard_->setAccessibleName("Test of the voice");
+    heard_->setAccessibleName(tr("Test of the voice"));
     heard_->setTextFormat(Qt::PlainText);
     heard_->setWordWrap(true);
-    heard_->setText("Plays one note with these settings.");
+    heard_->setText(tr("Plays one note with these settings."));
     column->addWidget(button, 0, Qt::AlignLeft);
     column->addWidget(heard_);
     return test;
 }
 
 void SettingsSoundPage::ShowSwitch() {
-    on_->setText(qt::ToQt(screen_.SoundCaption()).prepend('&'));
+    on_->setText(qt::Translated(screen_.SoundCaption()).prepend('&'));
     on_->setAccessibleName(PlainLabel(on_->text()));
 }
 
 void SettingsSoundPage::TestVoice() {
     Read();
     const bool sounds = screen_.TestVoice(player_);
-    heard_->setText(sounds ? "The note is played."
-                           : "This computer has nothing that plays notes. The settings count as tested.");
+    heard_->setText(sounds
+                        ? tr("The note is played.")
+                        : tr("This computer has nothing that plays notes. The settings count as tested."));
 }
 
 void SettingsSoundPage::Read() {

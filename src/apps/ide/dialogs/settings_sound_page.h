@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QWidget>
 
 #include "authoring/settings/settings_screen.h"
@@ -14,6 +15,7 @@ namespace fabula::ide {
 
 /// The settings' page of the sound.
 class SettingsSoundPage final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `player` plays the note of Test Voice.
     SettingsSoundPage(authoring::SettingsScreen& screen, engine::SoundPlayer& player);

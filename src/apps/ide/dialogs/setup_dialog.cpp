@@ -35,7 +35,7 @@ constexpr KindOption kKinds[] = {
 
 /// The explanations are written for captions, in which an ampersand is doubled.
 QString Plain(std::string_view explanation) {
-    return qt::ToQt(explanation).replace("&&", "&");
+    return qt::Translated(explanation).replace("&&", "&");
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
       explanation_(new QLabel),
       starter_(new QCheckBox(tr("&Begin with the words and entries that most games have"))) {
     setObjectName("adventureSetup");
-    setWindowTitle(qt::ToQt(AdventureSetup::kTitle));
+    setWindowTitle(qt::Translated(AdventureSetup::kTitle));
     setProperty("helpPage", "frmsetup.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 
 #include "store/setup.h"
@@ -14,6 +15,7 @@ namespace fabula::ide {
 /// The dialog of `AdventureSetup`: type, graphics and character sets of a new adventure, each with its
 /// explanation.
 class SetupDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit SetupDialog(store::AdventureSetup& setup, QWidget* parent = nullptr);
 

@@ -15,12 +15,11 @@
 #include "qt/strings.h"
 
 namespace fabula::ide {
-namespace {}  // namespace
 
 SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs, QWidget* parent)
     : QDialog(parent), screen_(screen), dialogs_(dialogs), lines_(new QGridLayout) {
     setObjectName("OpenSort");
-    setWindowTitle(qt::ToQt(screen.Caption()));
+    setWindowTitle(qt::Translated(screen.Caption()));
     setProperty(qt::kHelpPage, kMainWindowPage);
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     lines_->setColumnStretch(1, 1);
@@ -74,7 +73,7 @@ void SortDialog::AddLine() {
     line.field->setAccessibleName(QString(name).remove('&'));
     line.field->addItem(tr("(none)"));
     for (const authoring::SortField& field : screen_.Fields())
-        line.field->addItem(qt::ToQt(field.title));
+        line.field->addItem(qt::Translated(field.title));
     line.direction->setObjectName(QString("direction%1").arg(row + 1));
     line.direction->setAccessibleName(tr("Direction of line %1").arg(row + 1));
     line.direction->addItems({tr("Ascending"), tr("Descending")});

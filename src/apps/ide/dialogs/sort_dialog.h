@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <vector>
 
@@ -14,6 +15,7 @@ namespace fabula::ide {
 /// The dialog of the command Sort: a line for each field, with its direction. Accepted by Update. The lists
 /// of the lines are called "field1" and "direction1" and so on.
 class SortDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// Both outlive the dialog. `dialogs` tells what could not be stored.
     SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs, QWidget* parent = nullptr);

@@ -30,7 +30,7 @@ VerifyDialog::VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& d
                              {[this] { return verify_.Status(); }, [this] { verify_.SaveStatus(dialogs_); },
                               [this] { PrintText(verify_.Status(), verify_.Title(), dialogs_, this); }})) {
     setObjectName("VerifyScreen");
-    setWindowTitle(qt::ToQt(verify.Title()));
+    setWindowTitle(qt::Translated(verify.Title()));
     setProperty("helpPage", "frmverify.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     lines_->setObjectName("status");
@@ -103,8 +103,8 @@ void VerifyDialog::ShowStatus() {
         shown_ = 0;
     }
     for (std::size_t end; (end = status.find('\n', shown_)) != std::string::npos; shown_ = end + 1)
-        lines_->addItem(qt::ToQt(std::string_view(status).substr(shown_, end - shown_)));
-    const QString step = qt::ToQt(verify_.ProgressLine()).trimmed();
+        lines_->addItem(qt::Translated(std::string_view(status).substr(shown_, end - shown_)));
+    const QString step = qt::Translated(verify_.ProgressLine()).trimmed();
     progress_->setText(step.isEmpty() ? tr("Checking…") : tr("Checking… %1").arg(step));
     print_->setEnabled(verify_.Finished());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <functional>
 
@@ -14,6 +15,7 @@ namespace fabula::ide {
 
 /// The status window of `VerifyScreen`. It begins the check once it is shown.
 class VerifyDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `events` of the screen should be JobEvents, so that the window can be used meanwhile.
     VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& dialogs, QWidget* parent = nullptr);

@@ -19,15 +19,15 @@ constexpr const char* kTypes[] = {"&Verb",        "Adver&b",      "N&oun",   "Ad
 }  // namespace
 
 WordDialog::WordDialog(authoring::WordScreen& screen, QWidget* parent)
-    : RecordDialog(screen, "Vocabulary Editor", "frmvelvocabulary.html", parent),
+    : RecordDialog(screen, tr("Vocabulary Editor"), "frmvelvocabulary.html", parent),
       screen_(screen),
       word_(new QLineEdit),
       types_(new QButtonGroup(this)),
       number_(new QLineEdit) {
-    AddControl("&Word:", word_, "word");
+    AddControl(tr("&Word:"), word_, "word");
     if (screen_.ChoosesType()) AddTypes();
-    AddControl("Word &#:", number_, "number");
-    auto* help = new QLabel(qt::ToQt(screen_.Help()));
+    AddControl(tr("Word &#:"), number_, "number");
+    auto* help = new QLabel(qt::Translated(screen_.Help()));
     help->setTextFormat(Qt::PlainText);
     help->setWordWrap(true);
     form_->addRow(help);
@@ -42,9 +42,9 @@ void WordDialog::AddTypes() {
     auto* layout = new QVBoxLayout(group);
     layout->setContentsMargins(0, 0, 0, 0);
     for (int type = 0; type < static_cast<int>(std::size(kTypes)); ++type) {
-        auto* option = new QRadioButton(kTypes[type]);
+        auto* option = new QRadioButton(tr(kTypes[type]));
         option->setObjectName(QString("type%1").arg(type));
-        option->setAccessibleName(PlainLabel(kTypes[type]));
+        option->setAccessibleName(PlainLabel(tr(kTypes[type])));
         types_->addButton(option, type);
         layout->addWidget(option);
         connect(option, &QRadioButton::clicked, this, [this, type] {
@@ -54,7 +54,7 @@ void WordDialog::AddTypes() {
         });
     }
     group->setFocusProxy(types_->button(0));
-    AddControl("Type:", group, "type");
+    AddControl(tr("Type:"), group, "type");
 }
 
 void WordDialog::Read() {

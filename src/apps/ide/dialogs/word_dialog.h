@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include "authoring/screens/word_screen.h"
 #include "ide/dialogs/record_dialog.h"
 
@@ -10,6 +12,7 @@ namespace fabula::ide {
 
 /// The dialog of a word.
 class WordDialog final : public RecordDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit WordDialog(authoring::WordScreen& screen, QWidget* parent = nullptr);
 

@@ -45,7 +45,7 @@ QPixmap Tiled(const QImage& one) {
 }  // namespace
 
 CharacterDialog::CharacterDialog(authoring::CharacterEditor& screen, QWidget* parent)
-    : ScreenDialog(screen, QString("Character %1 of Set %2").arg(screen.Number()).arg(screen.Set()),
+    : ScreenDialog(screen, tr("Character %1 of Set %2").arg(screen.Number()).arg(screen.Set()),
                    "charactereditor.html", parent),
       screen_(screen),
       ink_(ColourOfSettings(screen, "textcolor")),
@@ -56,9 +56,9 @@ CharacterDialog::CharacterDialog(authoring::CharacterEditor& screen, QWidget* pa
       sample_(new QLabel),
       sampleText_(new QLineEdit(kSample)),
       commandLine_(new QLineEdit) {
-    auto* status = new QLabel(qt::ToQt(screen.StatusLine()));
+    auto* status = new QLabel(qt::Translated(screen.StatusLine()));
     status->setObjectName("Status");
-    auto* hint = new QLabel(qt::ToQt(authoring::CharacterEditor::kHint));
+    auto* hint = new QLabel(qt::Translated(authoring::CharacterEditor::kHint));
     hint->setObjectName("Hint");
     commandLine_->setObjectName("CommandLine");
     commandLine_->setAccessibleName(tr("Command"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <functional>
 
 #include "authoring/drawing/character_editor.h"
@@ -16,6 +17,7 @@ class CharacterGrid;
 
 /// The dialog of one character: its squares, the two samples, and what can be done to it as a whole.
 class CharacterDialog final : public ScreenDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit CharacterDialog(authoring::CharacterEditor& screen, QWidget* parent = nullptr);
 

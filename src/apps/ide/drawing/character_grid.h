@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QWidget>
 #include <functional>
 
@@ -11,6 +12,7 @@ namespace fabula::ide {
 /// The 8 by 8 squares of a character. The mouse and Space toggle one, the arrow keys go from one to
 /// another.
 class CharacterGrid final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `editor` outlives it.
     CharacterGrid(authoring::CharacterEditor& editor, QColor ink, QColor paper, QWidget* parent = nullptr);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <functional>
 
@@ -13,6 +14,7 @@ namespace fabula::ide {
 
 /// The characters of a whole set at a glance. Enter and a double click open the editor of one.
 class CharacterTableDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `open` shows a character's editor and comes back when it has closed.
     CharacterTableDialog(authoring::CharacterSetScreen& screen, platform::Dialogs& dialogs,

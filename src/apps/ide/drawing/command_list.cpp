@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QColor>
+#include <QCoreApplication>
 #include <QFont>
 
 #include "qt/strings.h"
@@ -9,6 +10,7 @@
 namespace fabula::ide {
 
 class CommandListModel final : public QAbstractListModel {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     CommandListModel(const authoring::PictureEditor& editor, QObject* parent)
         : QAbstractListModel(parent), editor_(editor) {}
@@ -31,8 +33,8 @@ class CommandListModel final : public QAbstractListModel {
         const auto& fault = editor_.Fault();
         QString text = qt::ToQt(editor_.CommandText(command));
         if (fault && fault->command == editor_.Commands()[command])
-            return text + "    \u26A0 " + qt::ToQt(fault->message);
-        const QString words = qt::ToQt(editor_.CommandInWords(command));
+            return text + "    \u26A0 " + qt::Translated(fault->message);
+        const QString words = qt::Translated(editor_.CommandInWords(command));
         return words.isEmpty() ? text : text + "    " + words;
     }
 

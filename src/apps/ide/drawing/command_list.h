@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QListView>
 #include <functional>
 #include <string>
@@ -13,6 +14,7 @@ class CommandListModel;
 /// The commands of a picture, one to a line with what it does in words, behind a line for the empty
 /// picture. The line that was drawn last is the current one.
 class CommandList final : public QListView {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `editor` outlives it.
     explicit CommandList(const authoring::PictureEditor& editor, QWidget* parent = nullptr);

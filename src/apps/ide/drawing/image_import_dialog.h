@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <filesystem>
 #include <optional>
@@ -20,6 +21,7 @@ struct ImportedImage {
 
 /// Shows what a picture made of an image looks like, with and without dithering, before it is taken.
 class ImageImportDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ImageImportDialog(pictures::Image image, QWidget* parent = nullptr);
 

@@ -83,7 +83,7 @@ std::optional<pictures::Point> PictureCanvas::PointAt(QPoint place) const {
 
 void PictureCanvas::Show() {
     image_ = ImageOfPlane(editor_.Planes().colour);
-    const QString status = qt::ToQt(editor_.Status());
+    const QString status = qt::Translated(editor_.Status());
     if (status != accessibleDescription()) {
         setAccessibleDescription(status);
         QAccessibleEvent changed(this, QAccessible::DescriptionChanged);

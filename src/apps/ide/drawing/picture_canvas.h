@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QWidget>
 #include <functional>
@@ -20,6 +21,7 @@ struct Tracing {
 /// The picture that is being drawn, enlarged by a whole number as far as there is room. What guides the
 /// author lies above it: the guide line, the key cursor, the grid, and the pixels that a command changed.
 class PictureCanvas final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `editor` outlives it.
     explicit PictureCanvas(authoring::PictureEditor& editor, QWidget* parent = nullptr);

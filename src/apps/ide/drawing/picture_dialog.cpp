@@ -46,7 +46,7 @@ QToolButton* NewTool(const char* name, const char* icon, const QString& caption)
 
 PictureDialog::PictureDialog(authoring::PictureEditor& screen, platform::Settings& settings,
                              QWidget* parent)
-    : ScreenDialog(screen, QString("Picture %1").arg(screen.Key().key), "pictureeditor.html", parent),
+    : ScreenDialog(screen, tr("Picture %1").arg(screen.Key().key), "pictureeditor.html", parent),
       screen_(screen),
       palette_(new PicturePalette(screen)),
       canvas_(new PictureCanvas(screen)),
@@ -212,7 +212,7 @@ void PictureDialog::Connect() {
         Show();
     };
     screen_.saying = [this](std::string_view text) {
-        saying_->setText(qt::ToQt(text));
+        saying_->setText(qt::Translated(text));
         saying_->setVisible(!text.empty());
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     };
@@ -302,7 +302,7 @@ void PictureDialog::Show() {
     canvas_->Show();
     palette_->Show();
     commands_->Show();
-    status_->setText(qt::ToQt(screen_.Status()));
+    status_->setText(qt::Translated(screen_.Status()));
     if (qt::FromQt(drawstring_->toPlainText()) != screen_.drawstring) {
         drawstring_->setPlainText(qt::ToQt(screen_.drawstring));
         drawstring_->moveCursor(QTextCursor::End);
@@ -333,7 +333,7 @@ void PictureDialog::MarkFault() {
         mark.format.setUnderlineColor(Qt::red);
         mark.format.setFontWeight(QFont::Bold);
         marks.append(mark);
-        drawstring_->setToolTip(qt::TipOf(qt::ToQt(fault->message)));
+        drawstring_->setToolTip(qt::TipOf(qt::Translated(fault->message)));
     } else {
         drawstring_->setToolTip({});
     }

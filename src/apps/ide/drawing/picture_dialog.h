@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <optional>
 
 #include "authoring/drawing/picture_editor.h"
@@ -23,6 +24,7 @@ class TracingPanel;
 /// The dialog of a picture: the canvas with the command line at the left; at the right the commands, and
 /// below them pages with buttons and swatches, the drawstring, images, and what is saved.
 class PictureDialog final : public ScreenDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `screen` and `settings`, which keep the tracing image, outlive it.
     PictureDialog(authoring::PictureEditor& screen, platform::Settings& settings,

@@ -167,7 +167,8 @@ void PicturePalette::AddColourRow(QGridLayout& grid, const char* word, const QSt
     const bool isInk = row == 0;
     for (int number = 0; number <= kTransparent; ++number) {
         auto* button = new QToolButton;
-        const QString name = number == kTransparent ? tr("transparent") : qt::ToQt(text::ColorName(number));
+        const QString name =
+            number == kTransparent ? tr("transparent") : qt::Translated(text::ColorName(number));
         button->setObjectName(QString("%1%2").arg(word).arg(number));
         button->setAccessibleName(QString("%1 %2").arg(label, name));
         button->setToolTip(QString("%1 %2: %3").arg(word).arg(number).arg(name));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QTabWidget>
 #include <functional>
 #include <string>
@@ -17,6 +18,7 @@ namespace fabula::ide {
 /// Buttons, swatches and lists for what can be typed at the command line of the picture editor, on pages.
 /// Each shows its word in its tip, so that the words are learnt by clicking.
 class PicturePalette final : public QTabWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `editor` outlives it.
     explicit PicturePalette(const authoring::PictureEditor& editor, QWidget* parent = nullptr);

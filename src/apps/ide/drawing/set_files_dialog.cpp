@@ -17,17 +17,17 @@ using authoring::CharacterSetFiles;
 
 SetFilesDialog::SetFilesDialog(CharacterSetFiles& screen, platform::Dialogs& dialogs, QWidget* parent)
     : QDialog(parent), screen_(screen), dialogs_(dialogs), sets_(new QListWidget) {
-    setWindowTitle(qt::ToQt(screen.Title()));
+    setWindowTitle(qt::Translated(screen.Title()));
     setProperty("helpPage", "charactersetfiles.html");
     sets_->setObjectName("Sets");
-    sets_->setAccessibleName(qt::ToQt(screen.Label()));
+    sets_->setAccessibleName(qt::Translated(screen.Label()));
     const bool several = screen.GetPurpose() == CharacterSetFiles::Purpose::Save;
     sets_->setSelectionMode(several ? QAbstractItemView::ExtendedSelection
                                     : QAbstractItemView::SingleSelection);
     for (const std::string& line : screen.Lines())
         sets_->addItem(qt::ToQt(line));
-    auto* label = new QLabel(qt::ToQt(screen.Label()));
-    auto* run = new QPushButton(qt::ToQt(screen.Button()));
+    auto* label = new QLabel(qt::Translated(screen.Label()));
+    auto* run = new QPushButton(qt::Translated(screen.Button()));
     run->setObjectName("Run");
     run->setDefault(true);
     auto* exit = NewButton(tr("Exit"), "exit");

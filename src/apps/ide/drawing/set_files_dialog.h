@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 
 #include "authoring/drawing/character_set_files.h"
@@ -10,6 +11,7 @@ namespace fabula::ide {
 
 /// The window that saves or loads character sets: a list of them and a button.
 class SetFilesDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     SetFilesDialog(authoring::CharacterSetFiles& screen, platform::Dialogs& dialogs,
                    QWidget* parent = nullptr);

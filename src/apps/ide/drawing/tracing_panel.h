@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <functional>
 #include <optional>
@@ -17,6 +18,7 @@ namespace fabula::ide {
 /// What lies under the picture to be traced: its file, how strongly it shows, its place and its width. Kept
 /// in the author's settings at each change.
 class TracingPanel final : public QGroupBox {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `settings` and `dialogs` outlive it.
     TracingPanel(platform::Settings& settings, std::filesystem::path adventure, int picture,

@@ -25,7 +25,7 @@ int PositionOf(const std::string& line, std::size_t byte) {
 QString SentenceOf(const authoring::MarkedFault& fault, const std::string& line) {
     const std::string token = line.substr(fault.begin, fault.end - fault.begin);
     const bool named = text::EqualsNoCase(std::string_view(fault.message).substr(0, token.size()), token);
-    return qt::ToQt((named ? "Fault: " : "Fault at " + token + ": ") + fault.message);
+    return qt::Translated((named ? "Fault: " : "Fault at " + token + ": ") + fault.message);
 }
 
 }  // namespace
@@ -77,7 +77,7 @@ void CondActEdit::Tell() {
     }
     setExtraSelections(marks);
     setProperty(qt::kHelpPage, qt::ToQt(help_.Page(typed.line, typed.cursor)));
-    onMeaning(qt::ToQt(help_.Meaning(typed.line, typed.cursor)));
+    onMeaning(qt::Translated(help_.Meaning(typed.line, typed.cursor)));
     onFault(fault ? SentenceOf(*fault, typed.line) : QString());
 }
 

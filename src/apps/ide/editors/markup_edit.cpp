@@ -205,7 +205,7 @@ void MarkupEdit::ShowFault() {
 
 void MarkupEdit::ShowText() {
     const std::string text = Text();
-    counts_->setText(qt::ToQt(authoring::CountsLine(editing_.Count(text))));
+    counts_->setText(qt::Translated(authoring::CountsLine(editing_.Count(text))));
     const auto fault = authoring::FirstFault(text, kind_.tagsAllowed, editing_.Tags());
     fault_->setText(fault ? Safe(fault->verdict.BoxText()) : QString());
     if (preview_ != nullptr) ShowPreview(text);

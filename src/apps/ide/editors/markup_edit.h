@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -31,6 +32,7 @@ struct MarkupEditKind {
 /// faults have a wavy line. The field is the widget's focus proxy; Tab leaves it, for what comes behind the
 /// preview.
 class MarkupEdit final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `editing` outlives the widget. The field is called `fieldName`.
     MarkupEdit(const authoring::TextEditing& editing, const MarkupEditKind& kind, const QString& fieldName,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QWidget>
 #include <cstddef>
 
@@ -9,6 +10,7 @@ namespace fabula::ide {
 
 /// A sheet of a listing as it would be printed, in a size that is chosen.
 class SheetView final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit SheetView(QWidget* parent = nullptr);
 

@@ -21,7 +21,7 @@ constexpr std::array kMenus = {Menu::File, Menu::Edit, Menu::View, Menu::Game, M
 
 /// The word of a button: the text of the menu without what is for menus only.
 QString ButtonText(std::string_view text) {
-    QString word = qt::ToQt(text);
+    QString word = qt::Translated(text);
     word.replace("&&", "\n").remove('&').replace('\n', "&&").remove("...");
     return word;
 }
@@ -30,7 +30,7 @@ QString ButtonText(std::string_view text) {
 
 CommandActions::CommandActions(QWidget* window, Run run) : QObject(window) {
     for (const CommandEntry& entry : authoring::AllCommands()) {
-        auto* action = new QAction(qt::IconOf(entry.icon), qt::ToQt(entry.text), this);
+        auto* action = new QAction(qt::IconOf(entry.icon), qt::Translated(entry.text), this);
         action->setObjectName(qt::ToQt(entry.key));
         action->setIconText(ButtonText(entry.text));
         action->setCheckable(entry.use == CommandEntry::Use::Switch);
@@ -45,8 +45,8 @@ CommandActions::CommandActions(QWidget* window, Run run) : QObject(window) {
 
 void CommandActions::FillMenuBar(QMenuBar& bar) const {
     for (const Menu menu : kMenus) {
-        QMenu* made = bar.addMenu(qt::ToQt(authoring::NameOf(menu)));
-        made->setObjectName(made->title().remove('&'));
+        QMenu* made = bar.addMenu(qt::Translated(authoring::NameOf(menu)));
+        made->setObjectName(qt::ToQt(authoring::NameOf(menu)).remove('&'));
         made->setToolTipsVisible(true);
         int group = 0;
         for (const CommandEntry& entry : authoring::AllCommands()) {
@@ -80,10 +80,10 @@ void CommandActions::Refresh(const StateOf& stateOf) const {
         QAction* action = Of(entry.id);
         action->setEnabled(state.enabled);
         action->setChecked(state.checked);
-        action->setText(qt::ToQt(state.menuText));
+        action->setText(qt::Translated(state.menuText));
         const QString tip =
-            qt::ToQt(state.enabled || state.why.empty() ? std::string(entry.tip) : state.why);
-        const QString text = qt::ToQt(state.text);
+            qt::Translated(state.enabled || state.why.empty() ? std::string(entry.tip) : state.why);
+        const QString text = qt::Translated(state.text);
         action->setStatusTip(tip);
         action->setToolTip("<p>" + text.toHtmlEscaped() + "<br>" + tip.toHtmlEscaped() + "</p>");
     }

@@ -125,7 +125,7 @@ void EmptyPage::ShowExamples(const std::vector<Example>& examples) {
     examples_.whole->setVisible(!examples.empty());
     for (const Example& example : examples) {
         auto* button = LinkButton(QString("Example%1").arg(examples_.lines->count() + 1), "lamp",
-                                  qt::ToQt(example.name), qt::ToQt(example.about));
+                                  qt::ToQt(example.name), qt::Translated(example.about));
         QObject::connect(button, &QCommandLinkButton::clicked, this,
                          [this, example] { actions_.openExample(example); });
         examples_.lines->addWidget(button);

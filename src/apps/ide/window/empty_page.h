@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QScrollArea>
 #include <filesystem>
 #include <functional>
@@ -15,6 +16,7 @@ namespace fabula::ide {
 /// What the window shows while no adventure is open: how to get one. Its buttons are found by their names:
 /// "new", "open", "start", "Example1" and on, "Recent1" and on.
 class EmptyPage final : public QScrollArea {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     struct Actions {
         std::function<void()> create;

@@ -62,7 +62,7 @@ void FindBar::ShowFields(const authoring::FindBox& box) {
     filling_ = true;
     fields_->clear();
     for (const authoring::FindField& field : box.Fields())
-        fields_->addItem(qt::ToQt(field.title));
+        fields_->addItem(qt::Translated(field.title));
     fields_->setCurrentIndex(box.Chosen() ? static_cast<int>(*box.Chosen()) : -1);
     text_->setText(qt::ToQt(box.text));
     filling_ = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -15,6 +16,7 @@ namespace fabula::ide {
 /// The line below the grid in which the author types what to look for and chooses where. Its parts are
 /// found by the names "FindBox", "ComboBox" and "FindNextButton".
 class FindBar final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     struct Events {
         std::function<void(const std::string& text, std::optional<std::size_t> field)> changed;

@@ -38,7 +38,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
     const authoring::GridColumn& column = grid_.Columns()[static_cast<std::size_t>(section)];
-    if (role == Qt::DisplayRole) return qt::ToQt(column.title);
+    if (role == Qt::DisplayRole) return qt::Translated(column.title);
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignVCenter | (column.number ? Qt::AlignRight : Qt::AlignLeft));
     return {};

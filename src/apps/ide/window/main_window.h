@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QMainWindow>
 #include <filesystem>
 #include <functional>
@@ -67,6 +68,7 @@ struct Places {
 /// The window of the authoring tool: menus, tool bar, tree and grid around `MainScreen`, which decides
 /// everything. The window only shows what that tells and hands on what the author does.
 class MainWindow final : public QMainWindow {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     MainWindow(const Services& services, Places places);
     ~MainWindow() override;

@@ -39,7 +39,7 @@ using authoring::Command;
 void MainWindow::Do(Command command) {
     // Enter and a double click on a row come here whatever the table allows.
     const authoring::ActionState state = ide_.StateOf(command);
-    if (!state.enabled) return message_->setText(qt::ToQt(state.why));
+    if (!state.enabled) return message_->setText(qt::Translated(state.why));
     if (command != Command::Help && !LeaveRecord()) return;
     switch (command) {
         case Command::New:
@@ -252,7 +252,7 @@ void MainWindow::ShowUpgrade(std::string_view steps) {
         upgrade_->setRange(0, 0);
         upgrade_->setMinimumDuration(0);
     }
-    upgrade_->setLabelText(qt::ToQt(steps));
+    upgrade_->setLabelText(qt::Translated(steps));
     upgrade_->show();
     services_.events.Pump();
 }

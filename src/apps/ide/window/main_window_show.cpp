@@ -54,7 +54,7 @@ void MainWindow::ShowChanges() {
         records_->ShowRecords();
     } else {
         shownView_ = ide_.Grid().View();
-        records_->ShowTable(qt::ToQt(ide_.Caption()));
+        records_->ShowTable(qt::Translated(ide_.Caption()));
         find_->ShowFields(ide_.Finder());
         tree_->setProperty(qt::kHelpPage, HelpPageOf(shownView_));
     }
@@ -138,11 +138,11 @@ void MainWindow::ShowActions() {
 }
 
 void MainWindow::ShowStatus() {
-    message_->setText(qt::ToQt(ide_.Message()));
-    message_->setToolTip(ide_.Message().empty() ? QString() : qt::TipOf(qt::ToQt(ide_.Message())));
-    tableStatus_->setText(qt::ToQt(ide_.TableStatus()));
+    message_->setText(qt::Translated(ide_.Message()));
+    message_->setToolTip(ide_.Message().empty() ? QString() : qt::TipOf(qt::Translated(ide_.Message())));
+    tableStatus_->setText(qt::Translated(ide_.TableStatus()));
     tableStatus_->setVisible(!tableStatus_->text().isEmpty());
-    adventureStatus_->setText(qt::ToQt(ide_.AdventureStatus()));
+    adventureStatus_->setText(qt::Translated(ide_.AdventureStatus()));
     adventureStatus_->setVisible(!adventureStatus_->text().isEmpty());
 }
 
@@ -151,8 +151,9 @@ void MainWindow::ShowTables() {
     const authoring::TreeNode* current = ide_.CurrentNode();
     for (const authoring::TreeNode& node : ide_.Tree()) {
         if (node.group) continue;
-        QAction* action = tables_->addAction(qt::IconOf(node.icon), qt::ToQt(node.name).replace('&', "&&"),
-                                             this, [this, sort = node.sort] { ChooseNode(sort); });
+        QAction* action =
+            tables_->addAction(qt::IconOf(node.icon), qt::Translated(node.name).replace('&', "&&"), this,
+                               [this, sort = node.sort] { ChooseNode(sort); });
         action->setCheckable(true);
         action->setChecked(current && current->sort == node.sort);
     }
@@ -164,7 +165,8 @@ void MainWindow::ShowColumns() {
     const authoring::TableGrid& grid = ide_.Grid();
     for (int column = 0; column < static_cast<int>(grid.Columns().size()); ++column) {
         const bool sorted = grid.SortColumn() == column;
-        QString name = qt::ToQt(grid.Columns()[static_cast<std::size_t>(column)].title).replace('&', "&&");
+        QString name =
+            qt::Translated(grid.Columns()[static_cast<std::size_t>(column)].title).replace('&', "&&");
         if (sorted) name += grid.SortsDown() ? tr(" (descending)") : tr(" (ascending)");
         QAction* action = columns_->addAction(name, this, [this, column] {
             if (!LeaveRecord()) return;

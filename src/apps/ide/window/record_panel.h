@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -31,6 +32,7 @@ struct RecordEvents {
 /// shown; the panel only shows it and tells what the author does. Its parts are found by the names "Grid",
 /// "FilterLine" and "Count".
 class RecordPanel final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     RecordPanel(const authoring::TableGrid& grid, platform::Timers& timers, RecordEvents events,
                 QWidget* parent = nullptr);

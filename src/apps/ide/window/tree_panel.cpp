@@ -81,7 +81,7 @@ void TreePanel::Fill(const std::vector<authoring::TreeNode>& nodes) {
     clear();
     std::vector<QTreeWidgetItem*> items;
     for (const authoring::TreeNode& node : nodes) {
-        auto* item = new QTreeWidgetItem({qt::ToQt(node.name)});
+        auto* item = new QTreeWidgetItem({qt::Translated(node.name)});
         item->setIcon(0, qt::IconOf(node.icon));
         item->setData(0, kSort, node.sort);
         item->setData(0, kIcon, qt::ToQt(node.icon));

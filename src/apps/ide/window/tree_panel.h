@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QTreeWidget>
 #include <functional>
 #include <string>
@@ -11,6 +12,7 @@ namespace fabula::ide {
 
 /// The tree of an adventure's tables.
 class TreePanel final : public QTreeWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     using Choose = std::function<void(int sort)>;
 

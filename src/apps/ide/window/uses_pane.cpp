@@ -41,7 +41,7 @@ UsesPane::UsesPane(std::function<void(const authoring::Jump& jump)> chosen, QWid
 
 void UsesPane::Show(const std::string& title, std::vector<authoring::JumpLine> lines) {
     lines_ = std::move(lines);
-    title_->setText(qt::ToQt(title));
+    title_->setText(qt::Translated(title));
     list_->clear();
     for (const authoring::JumpLine& line : lines_) {
         auto* item = new QListWidgetItem(qt::ToQt(line.text), list_);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QWidget>
 #include <functional>
 #include <vector>
@@ -14,6 +15,7 @@ namespace fabula::ide {
 /// The pane below the rows that lists what uses the selected record. Enter or a double click on a line goes
 /// there. Its parts are found by the names "UsesTitle" and "UsesList".
 class UsesPane final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit UsesPane(std::function<void(const authoring::Jump& jump)> chosen, QWidget* parent = nullptr);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QCoreApplication>
 #include <QImage>
 
 #include "platform/timers.h"
@@ -12,6 +13,7 @@ namespace fabula::player {
 /// A CharacterScreen on the screen: 256 pixels wide, each pixel a square of whole pixels of the display, as
 /// large as the pane allows. What is typed goes to the handlers.
 class CharacterPane final : public QAbstractScrollArea {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     CharacterPane(platform::Timers& timers, PaneHandlers handlers, QWidget* parent = nullptr);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QWidget>
 
@@ -8,6 +9,7 @@ namespace fabula::player {
 /// Shows one picture, as large as its place allows but at most kLargestFactor times its size, with its
 /// shape kept.
 class PicturePane final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit PicturePane(QWidget* parent = nullptr);
 

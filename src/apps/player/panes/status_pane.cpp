@@ -36,8 +36,8 @@ StatusPane::StatusPane(QWidget* parent) : QStatusBar(parent) {
         auto* made = new StatusLabel(this);
         made->setObjectName(name);
         made->setTextFormat(Qt::PlainText);
-        made->setAccessibleName(spoken);
-        made->setAccessibleDescription(spoken);
+        made->setAccessibleName(qt::Translated(spoken));
+        made->setAccessibleDescription(qt::Translated(spoken));
         made->setContentsMargins(4, 0, 4, 0);
         return made;
     };
@@ -67,8 +67,8 @@ void StatusPane::Announce(QLabel& label, const QString& text) {
 }
 
 void StatusPane::Tell(const std::string& sentence) {
-    Announce(*status_, qt::ToQt(sentence));
-    status_->setToolTip(sentence.empty() ? QString() : qt::TipOf(qt::ToQt(sentence)));
+    Announce(*status_, qt::Translated(sentence));
+    status_->setToolTip(sentence.empty() ? QString() : qt::TipOf(qt::Translated(sentence)));
 }
 
 void StatusPane::Show(engine::StatusField field, const std::string& text) {
@@ -87,8 +87,10 @@ void StatusPane::Show(engine::StatusField field, const std::string& text) {
             label = location_;
             break;
     }
-    Announce(*label, qt::ToQt(text));
-    label->setToolTip(text.empty() ? QString() : qt::TipOf(qt::ToQt(text)));
+    const bool ofTheGame = label == command_ || label == location_;
+    const QString shown = ofTheGame ? qt::ToQt(text) : qt::Translated(text);
+    Announce(*label, shown);
+    label->setToolTip(text.empty() ? QString() : qt::TipOf(shown));
     label->setVisible(!text.empty());
 }
 

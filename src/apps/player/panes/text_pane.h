@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QTextCursor>
 #include <QTextEdit>
 #include <deque>
@@ -44,6 +45,7 @@ struct TextChoice {
 /// one. All that a step of the game writes comes into the document as one change, which is what a screen
 /// reader announces.
 class TextPane final : public QTextEdit {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     TextPane(platform::Timers& timers, PaneHandlers handlers, QWidget* parent = nullptr);
 

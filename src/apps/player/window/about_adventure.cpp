@@ -69,7 +69,7 @@ QWidget* PageOf(const AboutAdventure& about) {
         if (shown.width() > kLargestPicture.width() || shown.height() > kLargestPicture.height())
             shown = shown.scaled(kLargestPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         picture->setPixmap(QPixmap::fromImage(shown));
-        picture->setAccessibleName("Picture of the adventure");
+        picture->setAccessibleName(qt::Translated("Picture of the adventure"));
         layout->addWidget(picture, 0, Qt::AlignHCenter);
     }
     QLabel* name = Line(about.name, page);
@@ -79,7 +79,7 @@ QWidget* PageOf(const AboutAdventure& about) {
     name->setFont(large);
     layout->addWidget(name);
     for (const std::string& line : about.lines)
-        layout->addWidget(Line(line, page));
+        layout->addWidget(Line(qt::FromQt(qt::Translated(line)), page));
     for (const std::string& text : {about.description, about.contact}) {
         if (!text.empty()) layout->addWidget(Line(text, page));
     }
@@ -92,7 +92,7 @@ QWidget* PageOf(const AboutAdventure& about) {
 AboutAdventure AboutAdventure::Of(store::Adventure* adventure) {
     AboutAdventure about;
     if (adventure == nullptr) {
-        about.name = "No Adventure Loaded";
+        about.name = qt::FromQt(qt::Translated("No Adventure Loaded"));
         return about;
     }
     const store::Cursor& settings = adventure->OpenTable(store::TableNum::Adventure, "*");
@@ -115,11 +115,11 @@ void ShowAbout(const AboutAdventure& about, QWidget* parent) {
     dialog.setObjectName("aboutAdventure");
     dialog.setProperty(qt::kHelpPage, "frmaboutadventure.html");
     dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    dialog.setWindowTitle("About this Adventure");
+    dialog.setWindowTitle(qt::Translated("About this Adventure"));
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
-    area->setAccessibleName("About this Adventure");
+    area->setAccessibleName(qt::Translated("About this Adventure"));
     QWidget* page = PageOf(about);
     area->setWidget(page);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);

@@ -19,7 +19,7 @@ DiagnosticsWindow::DiagnosticsWindow(engine::Engine& engine, std::function<void(
       input_(new QLineEdit),
       result_(new QLabel),
       follow_(new QCheckBox(tr("&Follow the game"))) {
-    setWindowTitle(qt::ToQt(engine::Diagnostics::kCaption));
+    setWindowTitle(qt::Translated(engine::Diagnostics::kCaption));
     setObjectName("diagnostics");
     setProperty(qt::kHelpPage, "frmdebug.html");
     input_->setObjectName("request");
@@ -49,7 +49,7 @@ DiagnosticsWindow::DiagnosticsWindow(engine::Engine& engine, std::function<void(
 }
 
 void DiagnosticsWindow::DisplayVariable() {
-    result_->setText(qt::ToQt(debug_.DisplayVariable()));
+    result_->setText(qt::Translated(debug_.DisplayVariable()));
 }
 
 void DiagnosticsWindow::Follow() {
@@ -59,7 +59,7 @@ void DiagnosticsWindow::Follow() {
 void DiagnosticsWindow::DoIt() {
     const engine::Diagnostics::Answer answer = debug_.DoIt(qt::FromQt(input_->text().trimmed()));
     input_->selectAll();
-    if (!answer.refusal.empty()) return result_->setText(qt::ToQt(answer.refusal));
+    if (!answer.refusal.empty()) return result_->setText(qt::Translated(answer.refusal));
     DisplayVariable();
     if (answer.help) help_();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <functional>
 
@@ -14,6 +15,7 @@ namespace fabula::player {
 /// The window "Diagnostics" beside a game that is tested: one request at a time, typed and carried out by
 /// Enter.
 class DiagnosticsWindow final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `help` opens the help file. The window must close before the engine ends.
     DiagnosticsWindow(engine::Engine& engine, std::function<void()> help, QWidget* parent);

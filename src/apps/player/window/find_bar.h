@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QWidget>
 #include <functional>
 
@@ -11,6 +12,7 @@ namespace fabula::player {
 /// The line below a game in which the player looks for words in its text. Enter goes up, to what was
 /// written before; Escape closes it.
 class FindBar final : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     struct Handlers {
         std::function<bool(const QString& text, bool backwards)> find;  ///< false where there is none

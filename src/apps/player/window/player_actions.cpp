@@ -18,12 +18,12 @@ PlayerActions::PlayerActions(QMainWindow& window, std::function<void(Command)> r
 }
 
 void PlayerActions::MakeAction(QMainWindow& window, const CommandEntry& entry) {
-    auto* action = new QAction(qt::ToQt(entry.text), &window);
+    auto* action = new QAction(qt::Translated(entry.text), &window);
     action->setObjectName(qt::ToQt(entry.key));
-    action->setIconText(qt::ToQt(entry.shortText));
+    action->setIconText(qt::Translated(entry.shortText));
     const auto keys = QKeySequence::listFromString(qt::ToQt(entry.shortcut));
     action->setShortcuts(keys);
-    QString tip = qt::ToQt(entry.tip);
+    QString tip = qt::Translated(entry.tip);
     if (!keys.isEmpty()) tip += " (" + keys.first().toString(QKeySequence::NativeText) + ")";
     action->setToolTip(tip);
     action->setStatusTip({});
@@ -36,8 +36,8 @@ void PlayerActions::MakeAction(QMainWindow& window, const CommandEntry& entry) {
 
 void PlayerActions::MakeMenus(QMainWindow& window) {
     for (const Menu menu : {Menu::File, Menu::Game, Menu::View, Menu::Help})
-        menus_[menu] = window.menuBar()->addMenu(qt::ToQt(NameOf(menu)));
-    menus_[Menu::Theme] = new QMenu(qt::ToQt(NameOf(Menu::Theme)), &window);
+        menus_[menu] = window.menuBar()->addMenu(qt::Translated(NameOf(menu)));
+    menus_[Menu::Theme] = new QMenu(qt::Translated(NameOf(Menu::Theme)), &window);
     std::map<Menu, int> groups;
     for (const CommandEntry& entry : AllCommands()) {
         QMenu& menu = *menus_[entry.menu];
@@ -50,7 +50,7 @@ void PlayerActions::MakeMenus(QMainWindow& window) {
 }
 
 void PlayerActions::MakeToolBar(QMainWindow& window) {
-    QToolBar* bar = window.addToolBar(QMainWindow::tr("Tools"));
+    QToolBar* bar = window.addToolBar(qt::Translated("Tools"));
     bar->setObjectName("Toolbar");
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->setMovable(false);

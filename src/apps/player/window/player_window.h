@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QMainWindow>
 #include <filesystem>
 #include <functional>
@@ -49,6 +50,7 @@ struct WindowServices {
 
 /// The engine's window: one adventure, loaded and played.
 class PlayerWindow final : public QMainWindow {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit PlayerWindow(const WindowServices& services);
     ~PlayerWindow() override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <string>
 #include <vector>
@@ -20,6 +21,7 @@ class TextPane;
 /// How the player wants games to look and to sound, with a sample that shows each change at once. Nothing
 /// is changed but by OK.
 class SettingsDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     SettingsDialog(const PlayerSettings& settings, const std::vector<std::string>& soundDevices,
                    platform::Timers& timers, QWidget* parent);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QScrollArea>
 #include <filesystem>
 #include <functional>
@@ -11,6 +12,7 @@ namespace fabula::player {
 
 /// What the window shows while no adventure is loaded: how to load one, and the latest ones.
 class WelcomePage final : public QScrollArea {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     using Open = std::function<void(const std::filesystem::path& file)>;
 
