@@ -23,8 +23,10 @@ namespace {
 
 /// How long the width of a column must rest before it counts.
 constexpr std::chrono::milliseconds kResizeDelay{300};
-/// How many rows tell the width of a column that has none, and the widest that it becomes, in letters.
-constexpr int kRowsForWidth = 100;
+/// How many rows tell the width of a column that has none, and the widest that it becomes, in letters. Of
+/// the last column, which takes the room that is left, a few rows are enough.
+constexpr int kRowsForWidth = 1000;
+constexpr int kRowsForLast = 100;
 constexpr int kWidestColumn = 160;
 constexpr int kNarrowestColumn = 10;  ///< of those that need more
 constexpr int kCellMargin = 20;
@@ -250,7 +252,8 @@ void RecordPanel::PlaceColumns() {
 int RecordPanel::WidthOf(int column) const {
     const QFontMetrics metrics = view_->fontMetrics();
     int width = view_->horizontalHeader()->sectionSizeHint(column) + kTitleMargin;
-    for (int row = 0; row < std::min(grid_.RowCount(), kRowsForWidth); ++row)
+    const int rows = column == model_->columnCount() - 1 ? kRowsForLast : kRowsForWidth;
+    for (int row = 0; row < std::min(grid_.RowCount(), rows); ++row)
         width =
             std::max(width, metrics.horizontalAdvance(qt::ToQt(grid_.CellText(row, column))) + kCellMargin);
     return std::min(width, metrics.averageCharWidth() * kWidestColumn);
