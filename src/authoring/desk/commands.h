@@ -45,6 +45,17 @@ enum class Command {
     Back,
     Forward,
     Renumber,
+    // View
+    GroupByVerb,
+    GroupByPlace,
+    GroupByObject,
+    FoldAll,
+    UnfoldAll,
+    UsesColumn,
+    OpenInTab,
+    NextTab,
+    PreviousTab,
+    CloseTab,
     // Game
     Run,
     Trace,  ///< whether a test is traced; switched on and off
@@ -64,8 +75,8 @@ enum class Command {
     About,
 };
 
-/// The menus, in the order of the menu bar. View is made of the tree's nodes and of what the window itself
-/// offers (theme, panes), so no command stands in it.
+/// The menus, in the order of the menu bar. View has the tree's nodes and what the window itself offers
+/// (theme, panes) besides its commands.
 enum class Menu { File, Edit, View, Game, Tools, Help };
 
 /// The menu's name with its mnemonic: "&File".

@@ -14,6 +14,8 @@ namespace {
 constexpr std::string_view kCurrentEntry = "CurrentEntry";
 constexpr std::string_view kTraceMode = "TraceMode";
 constexpr std::string_view kRecentSection = "MRUFiles";
+constexpr std::string_view kUsesColumn = "UsesColumn";
+constexpr std::string_view kTabsSection = "OpenTabs";
 
 int NumberOf(const platform::Settings& settings, std::string_view key) {
     return text::HexToValue(settings.Get(startup::kSection, key));
@@ -23,7 +25,72 @@ void SetNumber(platform::Settings& settings, std::string_view key, int number) {
     settings.Set(startup::kSection, key, std::to_string(number));
 }
 
+/// What is kept of a file, as the settings hold it by position: "File1", "Tabs1", "Groups1".
+struct KeptText {
+    std::string file;
+    std::string tabs;
+    std::string groups;
+};
+
+std::vector<KeptText> ReadKeptTexts(const platform::Settings& settings) {
+    std::vector<KeptText> kept;
+    for (std::size_t place = 1; place <= platform::RecentFiles::kMostFiles; ++place) {
+        const std::string number = std::to_string(place);
+        KeptText each{settings.Get(kTabsSection, "File" + number),
+                      settings.Get(kTabsSection, "Tabs" + number),
+                      settings.Get(kTabsSection, "Groups" + number)};
+        if (!each.file.empty()) kept.push_back(std::move(each));
+    }
+    return kept;
+}
+
+/// The groupings have the form of tabs.
+std::string GroupsOf(const std::vector<PlaceInView>& places) {
+    std::string stored;
+    for (const PlaceInView& place : places) {
+        OpenTabs one;
+        one.Shown().place = {.view = place.view, .grouping = place.grouping, .folded = place.folded};
+        if (place.grouping != Grouping::None) stored += (stored.empty() ? "" : "\n") + one.Stored();
+    }
+    return stored;
+}
+
 }  // namespace
+
+KeptDesk ReadKeptDesk(const platform::Settings& settings, const std::filesystem::path& file) {
+    KeptDesk desk;
+    for (const KeptText& kept : ReadKeptTexts(settings)) {
+        if (kept.file != file.string()) continue;
+        desk.tabs = OpenTabs::From(kept.tabs);
+        if (kept.groups.empty()) break;
+        for (const OpenTab& tab : OpenTabs::From(kept.groups).All())
+            desk.places.push_back(tab.place);
+        break;
+    }
+    return desk;
+}
+
+void WriteKeptDesk(platform::Settings& settings, const std::filesystem::path& file, const KeptDesk& desk) {
+    std::vector<KeptText> kept = ReadKeptTexts(settings);
+    std::erase_if(kept, [&](const KeptText& each) { return each.file == file.string(); });
+    kept.insert(kept.begin(), {file.string(), desk.tabs.Stored(), GroupsOf(desk.places)});
+    if (kept.size() > platform::RecentFiles::kMostFiles) kept.resize(platform::RecentFiles::kMostFiles);
+    settings.Clear(kTabsSection);
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+        const std::string number = std::to_string(i + 1);
+        settings.Set(kTabsSection, "File" + number, kept[i].file);
+        settings.Set(kTabsSection, "Tabs" + number, kept[i].tabs);
+        settings.Set(kTabsSection, "Groups" + number, kept[i].groups);
+    }
+}
+
+bool UsesColumn(const platform::Settings& settings) {
+    return settings.Get(startup::kSection, kUsesColumn) == "1";
+}
+
+void SetUsesColumn(platform::Settings& settings, bool on) {
+    settings.Set(startup::kSection, kUsesColumn, on ? "1" : "0");
+}
 
 LastView ReadLastView(const platform::Settings& settings) {
     LastView last;

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <filesystem>
+#include <vector>
+
+#include "authoring/desk/open_tabs.h"
 #include "authoring/desk/table_view.h"
 #include "platform/recent_files.h"
 #include "platform/settings.h"
@@ -21,6 +25,23 @@ void WriteLastView(platform::Settings& settings, const LastView& last);
 /// The adventures that were opened last, in the section MRUFiles by position.
 platform::RecentFiles ReadRecentFiles(const platform::Settings& settings);
 void WriteRecentFiles(platform::Settings& settings, const platform::RecentFiles& recent);
+
+/// What the author had open in an adventure.
+struct KeptDesk {
+    OpenTabs tabs;
+    std::vector<PlaceInView> places;  ///< the groupings of views that are in no tab
+
+    friend bool operator==(const KeptDesk&, const KeptDesk&) = default;
+};
+
+/// What was kept of a file; nothing is known of one that was not among the latest
+/// platform::RecentFiles::kMostFiles.
+KeptDesk ReadKeptDesk(const platform::Settings& settings, const std::filesystem::path& file);
+void WriteKeptDesk(platform::Settings& settings, const std::filesystem::path& file, const KeptDesk& desk);
+
+/// Whether tables have a column that counts the uses of each record.
+bool UsesColumn(const platform::Settings& settings);
+void SetUsesColumn(platform::Settings& settings, bool on);
 
 /// Whether test runs are traced.
 bool TraceMode(const platform::Settings& settings);

@@ -119,6 +119,8 @@ void MainScreen::ListAsRecent() {
 
 void MainScreen::RememberView() {
     if (!desk_) return;
+    KeepPlace();
+    WriteKeptDesk(host_.settings, desk_->document.File(), {tabs_, places_});
     WriteLastView(host_.settings, {grid_.View(), desk_->context.currentEntry});
 }
 
@@ -217,14 +219,17 @@ std::unique_ptr<MainScreen::Desk> MainScreen::OpenDesk(const std::filesystem::pa
 /// that one open.
 void MainScreen::Adopt(std::unique_ptr<Desk> desk) {
     std::swap(desk_, desk);
-    places_.clear();
     std::vector<TreeNode> treeBefore = tree_;
+    OpenTabs tabsBefore = tabs_;
+    std::vector<PlaceInView> placesBefore = std::exchange(places_, {});
     try {
         ActivateMenus();
         LastTable();
     } catch (const Error&) {
         std::swap(desk_, desk);
         tree_ = std::move(treeBefore);
+        tabs_ = std::move(tabsBefore);
+        places_ = std::move(placesBefore);
         throw;
     }
     RememberFile();

@@ -9,7 +9,9 @@
 #include <vector>
 
 #include "authoring/desk/commands.h"
+#include "authoring/desk/entry_groups.h"
 #include "authoring/desk/find.h"
+#include "authoring/desk/open_tabs.h"
 #include "authoring/desk/sort_screen.h"
 #include "authoring/desk/table_grid.h"
 #include "authoring/desk/table_rights.h"
@@ -135,8 +137,10 @@ class MainScreen {
     /// The node of the view in the grid; nullptr when there is none.
     const TreeNode* CurrentNode() const;
     const TableGrid& Grid() const { return grid_; }
-    /// The row that is selected, -1 for none.
+    /// The row that is selected, -1 for none and for the heading of a group.
     int CurrentRow() const { return row_; }
+    /// The line of the grid that is selected: a row or a heading; -1 for none.
+    int CurrentLine() const;
     /// The node's caption: "Locations".
     std::string Caption() const;
 
@@ -148,7 +152,10 @@ class MainScreen {
     void ShowNode(int sort);
     /// A table or a view of the process tables.
     void Show(TableView view);
+    /// A row in a folded group unfolds it.
     void SelectRow(int row);
+    /// A row or a heading.
+    void SelectLine(int line);
     void ClickColumn(int column);
     void ResizeColumn(int column, int width);
     void SetFilter(std::string_view text);
@@ -192,6 +199,32 @@ class MainScreen {
     bool NamesShown() const { return namesShown_; }
     void ShowNames(bool shown);
 
+    /// How the rows of the process table in view are grouped. Each view keeps its own.
+    Grouping RowGrouping() const { return grouping_; }
+    void GroupRows(Grouping grouping);
+    /// Folds or unfolds a group. When the row that is selected goes with it, the heading is selected.
+    void FoldGroup(int group, bool folded);
+    void FoldAll(bool folded);
+
+    /// Counts the uses of records for the column of the uses; a navigator gives it.
+    UseCounter countUses;
+    void ShowUsesColumn(bool shown);
+
+    // --- Tabs ---
+
+    const OpenTabs& Tabs() const { return tabs_; }
+    /// "Messages", or of a tab for a record "Messages 40".
+    std::string TabTitle(int tab) const;
+    /// Shows a table in a tab of its own; the tab that was shown stays as it is.
+    void OpenInTab(TableView view);
+    /// The same for the record of the current row.
+    void OpenRecordInTab();
+    void GoToTab(int tab);
+    void CloseTab(int tab);
+    void MoveTab(int from, int to);
+    /// The tab that is shown is for one record.
+    bool IsRecordTab() const { return desk_ && tabs_.Shown().record; }
+
     /// For the screens. Only while an adventure is open.
     ScreenContext& CurrentContext();
 
@@ -201,15 +234,6 @@ class MainScreen {
         Desk(std::unique_ptr<store::Adventure> adventure, store::OpenMode mode, platform::Dialogs& dialogs);
         Document document;
         ScreenContext context;
-    };
-
-    /// Where the author was in a view that is not shown now.
-    struct PlaceInView {
-        TableView view;
-        std::optional<int> key;
-        std::string filter;
-        std::optional<int> sortColumn;
-        bool sortsDown = false;
     };
 
     bool Guard(const std::function<void()>& step);
@@ -230,7 +254,16 @@ class MainScreen {
     TableRights SetUpEdits(store::TableNum table) const;
     void StayOn(std::optional<int> key, int row);
     void KeepPlace();
-    void GoToKeptPlace();
+    PlaceInView PlaceHere() const;
+    PlaceInView KeptPlaceOf(const TableView& view) const;
+    void GoToPlace(const PlaceInView& place);
+    void TakeView(const TableView& view);
+    void ShowTab();
+    void SelectGroup(int group);
+    UseCounter UsesIn(store::TableNum table) const;
+    std::string WhyNotView(Command command) const;
+    void DoView(Command command);
+    bool IsOn(Command command) const;
     std::optional<int> CurrentKey() const;
     void ReadAgain();
     void PutNames();
@@ -255,6 +288,9 @@ class MainScreen {
     TableGrid grid_;
     TableRights rights_;
     std::vector<PlaceInView> places_;  ///< one for each view that was left
+    OpenTabs tabs_;
+    Grouping grouping_ = Grouping::None;
+    std::optional<std::string> heading_;  ///< the title of the group whose heading is selected
     FindBox find_;
     int row_ = -1;
     std::string message_;

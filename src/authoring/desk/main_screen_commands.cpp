@@ -63,6 +63,7 @@ ActionState MainScreen::StateOf(Command command) const {
     state.text = texts.text;
     state.menuText = texts.menuText;
     if (command == Command::Trace) state.checked = TraceMode(host_.settings);
+    if (EntryOf(command).menu == Menu::View) state.checked = IsOn(command);
     const auto name = UndoOrRedoName(command);
     if (name) {
         const std::string verb = command == Command::Undo ? "Undo " : "Redo ";
@@ -106,6 +107,7 @@ std::string MainScreen::WhyNot(Command command) const {
     if (command == Command::Renumber && !RenumberScreen::CanRenumber(grid_.View().table))
         return Caption() + " does not offer this.";
     if (NeedsRecord(command) && row_ < 0) return "No record is selected.";
+    if (EntryOf(command).menu == Menu::View) return WhyNotView(command);
     return "";
 }
 
@@ -162,6 +164,7 @@ std::optional<ScreenRequest> MainScreen::Do(Command command) {
             ShowChanges(TableNum::Locations);
             break;
         default:
+            DoView(command);
             break;
     }
     return std::nullopt;
@@ -248,6 +251,7 @@ void MainScreen::UndoOrRedo(Command command) {
 void MainScreen::GoTo(const Place& place) {
     const TableView view{place.table, place.process};
     if (view == grid_.View() || !NodeOf(tree_, view)) return;
+    tabs_.Shown().record = false;
     SetupGrid(view);
     StayOn(place.key, 0);
     RememberView();
@@ -276,7 +280,9 @@ void MainScreen::SortClosed() {
 std::optional<std::string> MainScreen::ClickedOrder() const {
     const auto column = grid_.SortColumn();
     if (!column) return std::nullopt;
-    const std::string& field = grid_.Columns()[static_cast<std::size_t>(*column)].field;
+    const GridColumn& clicked = grid_.Columns()[static_cast<std::size_t>(*column)];
+    if (clicked.uses) return std::nullopt;
+    const std::string& field = clicked.field;
     const std::string key = KeyField(grid_.View().table);
     std::string order = field + (grid_.SortsDown() ? " desc" : "");
     if (field != key) order += ", " + key;

@@ -22,13 +22,22 @@ void MainScreen::InActivateMenus() {
     find_ = FindBox();
     rights_ = TableRights();
     places_.clear();
+    tabs_ = OpenTabs();
+    grouping_ = Grouping::None;
+    heading_.reset();
     row_ = -1;
 }
 
 /// Goes where the author was the last time, as far as this adventure has it.
 void MainScreen::LastTable() {
     const LastView last = ReadLastView(host_.settings);
-    SetupGrid(NodeOf(tree_, last.view) ? last.view : TableView());
+    const TableView view = NodeOf(tree_, last.view) ? last.view : TableView();
+    KeptDesk kept = ReadKeptDesk(host_.settings, desk_->document.File());
+    tabs_ = std::move(kept.tabs);
+    places_ = std::move(kept.places);
+    TakeView(view);
+    SetupGrid(view);
+    GoToPlace(tabs_.Shown().place);
     StayOn(last.key, 0);
 }
 
@@ -39,9 +48,13 @@ void MainScreen::SetupGrid(TableView view) {
     const TableRights rights = SetUpEdits(view.table);
     FindBox find = find_;
     find.SetUpFindComboBox(adventure, view.table);
-    grid_.SetupGrid(adventure, view, maintenance_);
+    const PlaceInView kept = view == grid_.View() ? PlaceHere() : KeptPlaceOf(view);
+    grid_.SetupGrid(adventure, view, maintenance_, UsesIn(view.table));
     rights_ = rights;
     find_ = std::move(find);
+    grouping_ = kept.grouping;
+    grid_.Lines().SetFolded(kept.folded);
+    heading_.reset();
     PutNames();
     context.currentTable = view.table;
     if (view.table == store::TableNum::ProcessTables) context.currentESNum = view.process;
@@ -53,8 +66,16 @@ TableRights MainScreen::SetUpEdits(store::TableNum table) const {
 }
 
 void MainScreen::StayOn(std::optional<int> key, int row) {
+    const auto& groups = grid_.Lines().Groups();
+    const auto heading = std::ranges::find_if(
+        groups, [&](const RowGroup& group) { return !key && group.title == heading_; });
+    if (heading != groups.end()) return SelectGroup(static_cast<int>(heading - groups.begin()));
     const std::optional<int> found = key ? grid_.RowOf(*key, row) : std::nullopt;
-    SelectRow(found.value_or(std::min(std::max(row, 0), grid_.RowCount() - 1)));
+    const int near = std::min(std::max(row, 0), grid_.RowCount() - 1);
+    const int group = grid_.Lines().GroupOf(near);
+    // Nobody asked for what is folded.
+    if (!found && group >= 0 && grid_.Lines().IsFolded(group)) return SelectGroup(group);
+    SelectRow(found.value_or(near));
 }
 
 void MainScreen::ShowNode(int sort) {
@@ -67,32 +88,18 @@ void MainScreen::Show(TableView view) {
     message_.clear();
     Guard([&] {
         KeepPlace();
+        if (view != grid_.View()) tabs_.Shown().record = false;
         SetupGrid(view);
-        GoToKeptPlace();
+        GoToPlace(KeptPlaceOf(view));
         RememberView();
     });
 }
 
-void MainScreen::KeepPlace() {
-    std::erase_if(places_, [&](const PlaceInView& place) { return place.view == grid_.View(); });
-    places_.push_back({grid_.View(), CurrentKey(), grid_.Filter(), grid_.SortColumn(), grid_.SortsDown()});
-}
-
-/// Filter, order and row of the view that is shown, as they were when the author left it.
-void MainScreen::GoToKeptPlace() {
-    const auto place =
-        std::ranges::find_if(places_, [&](const PlaceInView& kept) { return kept.view == grid_.View(); });
-    if (place == places_.end()) return;
-    grid_.SetFilter(place->filter);
-    if (place->sortColumn) {
-        grid_.ClickColumn(*place->sortColumn);
-        if (place->sortsDown) grid_.ClickColumn(*place->sortColumn);
-    }
-    StayOn(place->key, 0);
-}
-
 void MainScreen::SelectRow(int row) {
     row_ = row >= 0 && row < grid_.RowCount() ? row : -1;
+    heading_.reset();
+    const int group = grid_.Lines().GroupOf(row_);
+    if (group >= 0 && grid_.Lines().IsFolded(group)) grid_.Lines().Fold(group, false);
     if (desk_) desk_->context.currentEntry = row_ < 0 ? 0 : grid_.KeyOf(row_);
 }
 
@@ -132,6 +139,7 @@ void MainScreen::ReadAgain() {
     TableView view = grid_.View();
     if (view.table == store::TableNum::ProcessTables) view.process = desk_->context.currentESNum;
     if (!NodeOf(tree_, view)) view = TableView();
+    if (view != grid_.View()) tabs_.Shown() = {};
     if (view != grid_.View() || AdventureStatus() != before) {
         SetupGrid(view);
     } else {
@@ -141,10 +149,13 @@ void MainScreen::ReadAgain() {
     StayOn(key, row);
 }
 
-/// The names are read from the adventure as it is now.
+/// The names and the groups are read from the adventure as it is now.
 void MainScreen::PutNames() {
-    const bool shown = namesShown_ && grid_.View().table == store::TableNum::ProcessTables;
-    grid_.ShowNames(shown ? std::make_shared<const CondActHelp>(desk_->document.Adventure()) : nullptr);
+    const bool areEntries = grid_.View().table == store::TableNum::ProcessTables;
+    store::Adventure& adventure = desk_->document.Adventure();
+    grid_.ShowNames(namesShown_ && areEntries ? std::make_shared<const CondActHelp>(adventure) : nullptr);
+    const bool grouped = areEntries && grouping_ != Grouping::None;
+    grid_.GroupBy(grouped ? std::make_shared<const EntryGroups>(adventure, grouping_) : nullptr);
 }
 
 void MainScreen::ShowNames(bool shown) {

@@ -1,6 +1,7 @@
 #include "authoring/desk/navigator.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "authoring/fields/brief_text.h"
@@ -63,7 +64,38 @@ const SearchedText* FindText(TableNum table) {
 
 }  // namespace
 
-Navigator::~Navigator() = default;
+Navigator::Navigator(MainScreen& main) : main_(main) {
+    main_.countUses = [this](TableNum table, const std::vector<int>& keys) {
+        return CountsOf(table, keys);
+    };
+}
+
+Navigator::~Navigator() {
+    main_.countUses = {};
+}
+
+std::vector<int> Navigator::CountsOf(TableNum table, const std::vector<int>& keys) {
+    std::vector<int> counts(keys.size());
+    const auto kind = references::KindOf(table);
+    if (!kind || OpenDocument() == nullptr) return counts;
+    std::map<int, std::pair<int, int>> words;  // number and type
+    if (*kind == Kind::Word) {
+        PreparedQuery rows = followed_->adventure.Prepare(table, "vocindex, vocnum, voctypen", "");
+        for (bool more = rows.First({}); more; more = rows.Next())
+            words[static_cast<int>(rows.Number(0))] = {static_cast<int>(rows.Number(1)),
+                                                       static_cast<int>(rows.Number(2))};
+    }
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        Target target{*kind, keys[i]};
+        references::WordTypes types = references::kAnyType;
+        if (*kind == Kind::Word) {
+            target.number = words[keys[i]].first;
+            types = references::TypeBit(words[keys[i]].second);
+        }
+        counts[i] = followed_->index.CountOf(target, types);
+    }
+    return counts;
+}
 
 Document* Navigator::OpenDocument() {
     if (main_.GetState() == MainScreen::State::NoAdventure) {

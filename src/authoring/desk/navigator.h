@@ -33,7 +33,8 @@ struct JumpLine {
 /// for, and follows the document's changes.
 class Navigator {
   public:
-    explicit Navigator(MainScreen& main) : main_(main) {}
+    /// Counts the uses of records for `main`.
+    explicit Navigator(MainScreen& main);
     Navigator(const Navigator&) = delete;
     Navigator& operator=(const Navigator&) = delete;
     ~Navigator();
@@ -61,6 +62,9 @@ class Navigator {
 
     /// Where a record is shown; only while an adventure is open.
     Jump JumpTo(store::TableNum table, std::int64_t key);
+
+    /// How often each record of a table is used, by their keys; uses that only may be one don't count.
+    std::vector<int> CountsOf(store::TableNum table, const std::vector<int>& keys);
 
     /// Of the open adventure; only while one is open.
     const references::Index& Index();

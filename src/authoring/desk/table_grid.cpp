@@ -19,13 +19,23 @@ using store::TableNum;
 constexpr std::string_view kLineEndSign = "\u21B5";
 constexpr std::string_view kHardSpaceSign = "\u2423";
 constexpr std::string_view kCondActsField = "condacts";
+constexpr std::string_view kVerbField = "w1";
+constexpr std::string_view kNounField = "w2";
 constexpr std::string_view kCutSign = "\u2026";
 constexpr int kWidestColumn = 32767;
+constexpr std::string_view kProcessField = "estype";
+constexpr std::string_view kUsesTitle = "Uses";
 /// The title of a column is no longer, in characters.
 constexpr std::size_t kLongestTitle = 60;
 
 /// What a Marlo adventure has no use for.
 constexpr std::string_view kNotInMarlo[] = {"objweight", "objadject", "objattr"};
+
+/// The number of the table says nothing where one table is in view.
+bool IsSameInAll(const std::string& field, const TableView& view) {
+    return view.table == TableNum::ProcessTables && view.process < kOtherProcesses &&
+           text::EqualsNoCase(field, kProcessField);
+}
 
 bool IsHidden(const std::string& field, const store::Adventure& adventure) {
     if (adventure.AdventureTypeLower() != "marlo") return false;
@@ -74,9 +84,10 @@ bool LessValue(const text::Value& left, const text::Value& right) {
 
 }  // namespace
 
-void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance) {
+void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance, UseCounter uses) {
     TableGrid grid;
     grid.view_ = view;
+    grid.uses_ = std::move(uses);
     grid.ReadColumns(adventure, maintenance);
     grid.ReadRecords(adventure);
     *this = std::move(grid);
@@ -101,16 +112,25 @@ void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
         const auto place = schema.Find(field);
         if (!place || IsHidden(field, adventure)) continue;
         const auto see = rows.Number("see");
-        if (see == 0 || (maintenance && see == 2)) {
+        const bool shown = see == 0 && (maintenance || !IsSameInAll(field, view_));
+        if (shown || (maintenance && see == 2)) {
             const std::string_view other = rows.Text("altname");
             columns_.push_back({field,
                                 other.empty() ? field : std::string(text::Left(other, kLongestTitle)),
                                 static_cast<int>(rows.Number("gridwidth")), rows.Text("expand") == "Y",
                                 IsNumber(schema.fields[*place].type)});
-        } else if (rows.Text("search") == "Y" || text::EqualsNoCase(field, "estype") ||
+        } else if (rows.Text("search") == "Y" || text::EqualsNoCase(field, kProcessField) ||
                    text::EqualsNoCase(field, kHelpPageField)) {
             others.push_back(field);
         }
+    }
+    if (uses_ && !columns_.empty()) {
+        // The last column takes the room that is left.
+        usesField_ = columns_.size() - 1;
+        columns_.insert(columns_.end() - 1, {.field = std::string(kUsesTitle),
+                                             .title = std::string(kUsesTitle),
+                                             .number = true,
+                                             .uses = true});
     }
     for (const GridColumn& column : columns_)
         fields_.push_back(column.field);
@@ -123,15 +143,20 @@ void TableGrid::ReadRecords(store::Adventure& adventure) {
     const bool countsRecords =
         store::ClassOf(schema.fields[schema.Find(key).value()].type) == store::FieldClass::Text;
     std::string list = key;
-    for (const std::string& field : fields_) {
-        if (!text::EqualsNoCase(field, key)) list += "," + field;
+    for (std::size_t field = 0; field < fields_.size(); ++field) {
+        if (field != usesField_ && !text::EqualsNoCase(fields_[field], key)) list += "," + fields_[field];
     }
     const std::string filter = FilterOf(view_);
     store::Cursor& records = adventure.OpenTable(
         view_.table, list, filter.empty() ? std::nullopt : std::optional<std::string_view>(filter));
-    std::vector<std::size_t> columns;
-    for (const std::string& field : fields_)
-        columns.push_back(records.Column(field));
+    std::vector<std::optional<std::size_t>> columns;
+    for (std::size_t field = 0; field < fields_.size(); ++field) {
+        if (field == usesField_) {
+            columns.emplace_back();
+        } else {
+            columns.emplace_back(records.Column(fields_[field]));
+        }
+    }
 
     keys_.clear();
     values_.clear();
@@ -139,10 +164,19 @@ void TableGrid::ReadRecords(store::Adventure& adventure) {
     for (; !records.Eof(); records.MoveNext()) {
         keys_.push_back(countsRecords ? static_cast<int>(keys_.size()) + 1
                                       : static_cast<int>(records.Number(std::size_t{0})));
-        for (const std::size_t column : columns)
-            values_.push_back(Shown(records, column));
+        for (const auto& column : columns)
+            values_.push_back(column ? Shown(records, *column) : text::Value());
     }
+    CountUses();
+    NoteGroups();
     Arrange();
+}
+
+void TableGrid::CountUses() {
+    if (!usesField_) return;
+    const std::vector<int> counts = uses_(view_.table, keys_);
+    for (std::size_t record = 0; record < keys_.size(); ++record)
+        values_[record * fields_.size() + *usesField_] = std::int64_t{counts.at(record)};
 }
 
 int TableGrid::KeyOf(int row) const {
@@ -164,7 +198,7 @@ std::optional<int> TableGrid::FirstChange(const TableGrid& before) const {
         known.emplace(before.keys_[record], record);
     const auto sameValues = [&](std::size_t record, std::size_t earlier) {
         for (std::size_t field = 0; field < fields_.size(); ++field) {
-            if (At(record, field) != before.At(earlier, field)) return false;
+            if (field != usesField_ && At(record, field) != before.At(earlier, field)) return false;
         }
         return true;
     };
@@ -207,15 +241,44 @@ std::string TableGrid::FullText(int row, int column) const {
 
 const text::Value& TableGrid::ValueOf(int row, std::string_view field) const {
     static const text::Value kNull;
+    const auto place = FieldAt(field);
+    return place ? At(RecordOf(row), *place) : kNull;
+}
+
+std::optional<std::size_t> TableGrid::FieldAt(std::string_view field) const {
     for (std::size_t i = 0; i < fields_.size(); ++i) {
-        if (text::EqualsNoCase(fields_[i], field)) return At(RecordOf(row), i);
+        if (text::EqualsNoCase(fields_[i], field)) return i;
     }
-    return kNull;
+    return std::nullopt;
 }
 
 void TableGrid::ShowNames(std::shared_ptr<const CondActHelp> names) {
     names_ = std::move(names);
     if (!filter_.empty()) Arrange();
+}
+
+std::vector<ExplainedCondAct> TableGrid::Explained(int row) const {
+    if (!names_ || view_.table != TableNum::ProcessTables) return {};
+    return names_->Explain(text::ToText(ValueOf(row, kCondActsField)));
+}
+
+void TableGrid::GroupBy(std::shared_ptr<const EntryGroups> groups) {
+    if (!groups && !groups_) return;
+    groups_ = std::move(groups);
+    NoteGroups();
+    Arrange();
+}
+
+void TableGrid::NoteGroups() {
+    groupOf_.clear();
+    if (!groups_ || view_.table != TableNum::ProcessTables) return;
+    const auto text = [this](std::size_t record, std::string_view field) {
+        const auto place = FieldAt(field);
+        return place ? text::ToText(At(record, *place)) : std::string();
+    };
+    for (std::size_t record = 0; record < keys_.size(); ++record)
+        groupOf_.push_back(
+            groups_->Of(text(record, kVerbField), text(record, kNounField), text(record, kCondActsField)));
 }
 
 const CondActHelp* TableGrid::NamesFor(std::size_t column) const {
@@ -247,6 +310,7 @@ bool TableGrid::Contains(std::size_t record, std::string_view wanted) const {
     for (std::size_t column = 0; column < columns_.size(); ++column) {
         const std::string stored = text::ToText(At(record, column));
         const CondActHelp* const names = NamesFor(column);
+        if (column == usesField_) continue;
         if (text::LowerCase(names ? names->WithNames(stored) : stored).find(wanted) != std::string::npos)
             return true;
     }
@@ -260,12 +324,37 @@ void TableGrid::Arrange() {
     for (std::size_t record = 0; record < keys_.size(); ++record) {
         if (wanted.empty() || Contains(record, wanted)) order_.push_back(record);
     }
-    if (!sortColumn_) return;
-    const auto column = static_cast<std::size_t>(*sortColumn_);
-    std::ranges::stable_sort(order_, [&](std::size_t left, std::size_t right) {
-        return sortsDown_ ? LessValue(At(right, column), At(left, column))
-                          : LessValue(At(left, column), At(right, column));
-    });
+    if (sortColumn_) {
+        const auto column = static_cast<std::size_t>(*sortColumn_);
+        std::ranges::stable_sort(order_, [&](std::size_t left, std::size_t right) {
+            return sortsDown_ ? LessValue(At(right, column), At(left, column))
+                              : LessValue(At(left, column), At(right, column));
+        });
+    }
+    LayLines();
+}
+
+/// Rows of a group stand together; in it they keep their order.
+void TableGrid::LayLines() {
+    std::vector<RowGroup> groups;
+    if (!groupOf_.empty()) {
+        std::ranges::stable_sort(
+            order_, [&](std::size_t left, std::size_t right) { return groupOf_[left] < groupOf_[right]; });
+    }
+    for (int row = 0; !groupOf_.empty() && row < RowCount(); ++row) {
+        const std::string& title = groupOf_[RecordOf(row)].title;
+        if (groups.empty() || groups.back().title != title) groups.push_back({title, row, 0});
+        ++groups.back().count;
+    }
+    lines_.Set(RowCount(), std::move(groups));
+}
+
+void TableGrid::SortBy(std::string_view field, bool down) {
+    const auto place = FieldAt(field);
+    sortColumn_.reset();
+    if (place && *place < columns_.size()) sortColumn_ = static_cast<int>(*place);
+    sortsDown_ = sortColumn_ && down;
+    Arrange();
 }
 
 void TableGrid::ResizeColumn(store::Adventure& adventure, int column, int width) {

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "authoring/desk/entry_groups.h"
+#include "authoring/desk/grid_lines.h"
 #include "authoring/desk/table_view.h"
 #include "store/adventure.h"
 #include "text/value.h"
@@ -14,6 +17,7 @@
 namespace fabula::authoring {
 
 class CondActHelp;
+struct ExplainedCondAct;
 
 /// A column of the grid.
 struct GridColumn {
@@ -22,22 +26,28 @@ struct GridColumn {
     int width = 0;        ///< in points of the screen at its normal size; 0: the window finds one
     bool expand = false;  ///< the author may change the width, which is then kept
     bool number = false;  ///< it holds numbers: shown at the right, sorted by value
+    bool uses = false;    ///< it counts the uses of each record, and is no field of the table
 };
 
 /// The field in which the catalogues of conditions, actions and drawing commands name a page of the help.
 inline constexpr std::string_view kHelpPageField = "htmlpage";
+
+/// How often each record of a table is used, by their keys.
+using UseCounter = std::function<std::vector<int>(store::TableNum table, const std::vector<int>& keys)>;
 
 /// The records of a view as the main window shows them. They are read when the grid is set up and when it
 /// is refreshed, and at no other time: scrolling, filtering, sorting and searching work in memory.
 ///
 /// Rows count from 0 in the order in which they are shown: the view's own order, or that of a column. A
 /// column's order lasts as long as the view is shown and is kept nowhere; the table's own order is changed
-/// by the command Sort. With a filter only the rows that contain its text are shown.
+/// by the command Sort. With a filter only the rows that contain its text are shown. The rows of a process
+/// table can stand in groups, each below a heading; the lines tell what stands where.
 class TableGrid {
   public:
-    /// Shows the records of a view, without filter, in the view's own order. Throws fabula::Error when the
-    /// file can't be read; what was shown before is then still shown.
-    void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance);
+    /// Shows the records of a view, without filter, in the view's own order. With `uses` there is a column
+    /// that counts them. Throws fabula::Error when the file can't be read; what was shown before is then
+    /// still shown.
+    void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance, UseCounter uses = {});
     /// Reads the records again; columns, filter and order stay.
     void Refresh(store::Adventure& adventure);
     /// Shows nothing.
@@ -72,6 +82,14 @@ class TableGrid {
     /// shows them as they are stored.
     void ShowNames(std::shared_ptr<const CondActHelp> names);
 
+    /// The conditions and actions of a row one by one; none where names are not shown.
+    std::vector<ExplainedCondAct> Explained(int row) const;
+
+    /// Puts the rows in groups; nullptr: they stand in none. Only for process tables.
+    void GroupBy(std::shared_ptr<const EntryGroups> groups);
+    GridLines& Lines() { return lines_; }
+    const GridLines& Lines() const { return lines_; }
+
     /// Shows only the rows of which a column contains `text`, case ignored; "" shows all.
     void SetFilter(std::string_view text);
     const std::string& Filter() const { return filter_; }
@@ -79,6 +97,8 @@ class TableGrid {
     /// Sorts by a column, a second time downwards, and a third time in the view's own order again.
     void ClickColumn(int column);
     std::optional<int> SortColumn() const { return sortColumn_; }
+    /// Sorts by the column of a field; one that is no column gives the view's own order.
+    void SortBy(std::string_view field, bool down);
     bool SortsDown() const { return sortsDown_; }
 
     /// Keeps the width of a column that may be changed; other columns stay as they are. No step of Undo.
@@ -92,7 +112,11 @@ class TableGrid {
   private:
     void ReadColumns(store::Adventure& adventure, bool maintenance);
     void ReadRecords(store::Adventure& adventure);
+    void CountUses();
+    void NoteGroups();
     void Arrange();
+    void LayLines();
+    std::optional<std::size_t> FieldAt(std::string_view field) const;
     /// The names, where the column holds conditions and actions and names are shown.
     const CondActHelp* NamesFor(std::size_t column) const;
     bool Contains(std::size_t record, std::string_view wanted) const;
@@ -111,6 +135,11 @@ class TableGrid {
     std::optional<int> sortColumn_;
     bool sortsDown_ = false;
     std::shared_ptr<const CondActHelp> names_;
+    UseCounter uses_;
+    std::optional<std::size_t> usesField_;  ///< the place of their column among the fields
+    std::shared_ptr<const EntryGroups> groups_;
+    std::vector<EntryGroup> groupOf_;  ///< by record; empty without groups
+    GridLines lines_;
 };
 
 }  // namespace fabula::authoring

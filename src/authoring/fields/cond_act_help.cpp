@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "authoring/fields/flag_meaning.h"
 #include "condacts/convert.h"
 #include "condacts/load.h"
 #include "condacts/places.h"
@@ -18,6 +19,7 @@ using condacts::ParamKind;
 using condacts::Token;
 
 constexpr int kHighestMarloFlag = 32;
+constexpr std::string_view kNoDescription = "no description";
 
 struct KindName {
     ParamKind kind;
@@ -256,7 +258,7 @@ std::string CondActHelp::MeaningOfNumber(const Parameter& parameter, std::string
     const auto record = std::find_if(records.begin(), records.end(),
                                      [&](const ListItem& item) { return item.number == *number; });
     if (record == records.end()) return "there is no " + std::string(name->noun) + " " + std::string(token);
-    return record->text.empty() ? "no description" : record->text;
+    return record->text.empty() ? std::string(kNoDescription) : record->text;
 }
 
 std::string CondActHelp::MeaningOfParameter(const CondAct& condAct, std::size_t place,
@@ -286,6 +288,36 @@ std::string CondActHelp::Meaning(std::string_view line, std::size_t cursor) cons
     return place.condAct->name + " " + text::UpperCase(token) + ": " + meaning;
 }
 
+/// As a line of an entry names it. Of flags the name is enough, and of process tables nothing where they
+/// have none.
+std::string CondActHelp::NameIn(const CondAct& condAct, std::size_t place, std::string_view token) const {
+    const Parameter& parameter = condAct.params[place];
+    const auto number = condacts::WholeNumber(token);
+    if (parameter.kind != ParamKind::Flag || !number) {
+        const std::string meaning = MeaningOfParameter(condAct, place, token);
+        return parameter.kind == ParamKind::Process && meaning == kNoDescription ? "" : meaning;
+    }
+    const auto flag =
+        std::ranges::find_if(texts_.flags, [&](const ListItem& item) { return item.number == *number; });
+    if (flag == texts_.flags.end()) return MeaningOfNumber(parameter, token);
+    return FlagName(*number, flag->text);
+}
+
+/// What a value stands for that is compared with a flag or put into it.
+std::string CondActHelp::MeaningOfValue(const CondAct& condAct, std::string_view flagToken,
+                                        std::string_view token) const {
+    const auto flag = condacts::WholeNumber(flagToken);
+    const auto number = condacts::WholeNumber(token);
+    const HeldNumbers* const held =
+        flag && number && TakesWhatFlagHolds(condAct) ? FindHeldNumbers(*flag) : nullptr;
+    if (held == nullptr) return "";
+    if (held->kind != ParamKind::Word)
+        return Quoted(held->kind, MeaningOfNumber({.kind = held->kind}, token));
+    if (*number == condacts::kNoWordNumber) return "none";
+    const condacts::Word* const word = facts_.words.FindNumberTyped(*number, held->wordType);
+    return word ? word->word : "";
+}
+
 std::vector<ExplainedCondAct> CondActHelp::Explain(std::string_view line) const {
     const condacts::ParsedLine parsed = condacts::ParseLine(line, catalogue_, facts_.dialect);
     std::vector<ExplainedCondAct> explained;
@@ -295,10 +327,11 @@ std::vector<ExplainedCondAct> CondActHelp::Explain(std::string_view line) const 
         for (std::size_t place = 0; place < statement.paramsGiven; ++place) {
             const std::string_view token = parsed.Param(statement, place);
             each.text.append(" ").append(token);
-            if (condAct.params[place].kind == ParamKind::Value) continue;
-            const std::string meaning = MeaningOfParameter(condAct, place, token);
+            const bool isValue = condAct.params[place].kind == ParamKind::Value;
+            const std::string meaning = isValue ? MeaningOfValue(condAct, parsed.Param(statement, 0), token)
+                                                : NameIn(condAct, place, token);
             if (meaning.empty()) continue;
-            if (!each.meaning.empty()) each.meaning += ", ";
+            if (!each.meaning.empty()) each.meaning += isValue ? ": " : ", ";
             each.meaning += Quoted(condAct.params[place].kind, meaning);
         }
         explained.push_back(std::move(each));

@@ -98,6 +98,9 @@ class CondActHelp {
     std::vector<Completion> Words(const condacts::CondAct& condAct) const;
     std::string MeaningOfParameter(const condacts::CondAct& condAct, std::size_t place,
                                    std::string_view token) const;
+    std::string NameIn(const condacts::CondAct& condAct, std::size_t place, std::string_view token) const;
+    std::string MeaningOfValue(const condacts::CondAct& condAct, std::string_view flagToken,
+                               std::string_view token) const;
     std::string MeaningOfNumber(const condacts::Parameter& parameter, std::string_view token) const;
 
     condacts::Catalogue catalogue_;

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include "ide/window/grid_model.h"
+
 namespace fabula::test {
 namespace {
 
@@ -63,6 +65,57 @@ TEST(CellDelegate, DrawsATagThatTheCellCutsOffPaleToItsEnd) {
 TEST(CellDelegate, DrawsASignThatBeginsNoTagLikeAnyOther) {
     const int words = Darkest(Drawn("HHHH"), 0, kCell.width());
     EXPECT_NEAR(Darkest(Drawn("3 < HHHH"), 0, kCell.width()), words, 20);
+}
+
+/// A cell of conditions and actions, conditions in blue and actions in black.
+QImage DrawnCondActs(const QStringList& condActs, int height, QStyle::State more = {}) {
+    QStandardItemModel model;
+    auto* item = new QStandardItem("not shown");
+    item->setData(condActs, ide::GridModel::kCondActs);
+    model.appendRow(item);
+    QStyleOptionViewItem option;
+    option.rect = QRect(0, 0, kCell.width(), height);
+    option.state = QStyle::State_Enabled | QStyle::State_Active | more;
+    option.palette.setColor(QPalette::Text, Qt::black);
+    option.palette.setColor(QPalette::Link, Qt::blue);
+    option.palette.setColor(QPalette::Highlight, Qt::white);
+    option.palette.setColor(QPalette::HighlightedText, Qt::black);
+    option.font = QApplication::font();
+    option.fontMetrics = QFontMetrics(option.font);
+    QImage image(option.rect.size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    ide::CellDelegate().paint(&painter, option, model.index(0, 0));
+    return image;
+}
+
+/// Whether something blue stands between two lines of points.
+bool HasBlue(const QImage& image, int from, int to) {
+    for (int y = from; y < to; ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor point = image.pixelColor(x, y);
+            if (point.blue() > point.red() + 60) return true;
+        }
+    }
+    return false;
+}
+
+TEST(CellDelegate, DrawsConditionsInAnotherColourThanActions) {
+    EXPECT_TRUE(HasBlue(DrawnCondActs({"?HHHH"}, 24), 0, 24));
+    const QImage action = DrawnCondActs({"!HHHH"}, 24);
+    EXPECT_FALSE(HasBlue(action, 0, 24));
+    EXPECT_LT(Darkest(action, 0, kCell.width()), 100);
+}
+
+TEST(CellDelegate, DrawsOneConditionOrActionToALineWhereThereIsRoom) {
+    const int line = QFontMetrics(QApplication::font()).height();
+    const QImage image = DrawnCondActs({"!HHHH", "?HHHH"}, 3 * line);
+    EXPECT_FALSE(HasBlue(image, 0, 3 * line / 2));
+    EXPECT_TRUE(HasBlue(image, 3 * line / 2, 3 * line));
+}
+
+TEST(CellDelegate, KeepsTheColourOfAChosenRow) {
+    EXPECT_FALSE(HasBlue(DrawnCondActs({"?HHHH"}, 24, QStyle::State_Selected), 0, 24));
 }
 
 TEST(CellDelegate, WritesNothingBeyondItsCell) {

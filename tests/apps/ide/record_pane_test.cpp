@@ -81,6 +81,54 @@ TEST_F(RecordPaneTest, AnotherTableStoresIt) {
     EXPECT_EQ(Message(0), "The lamp burns.");
 }
 
+TEST_F(RecordPaneTest, AnotherWindowStoresItAndTheFieldKeepsTheKeyboard) {
+    window_.GoToTable("Messages");
+    window_.GoToRow("0");
+    Press(Qt::Key_Return);
+    Replace("The lamp burns.");
+    Press(Qt::Key_Left);
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QApplication::processEvents();
+    EXPECT_EQ(Message(0), "The lamp burns.");
+    QApplication::setActiveWindow(&window_.Window());
+    QApplication::processEvents();
+    EXPECT_EQ(Focus(), "text");
+    window_.Type("!");
+    EXPECT_EQ(Shown(), "The lamp burns!.");
+}
+
+TEST_F(RecordPaneTest, AFaultIsToldWhenAnotherWindowIsChosen) {
+    window_.GoToTable("Response (P0)");
+    window_.GoToRow("*");
+    window_.Part<QPlainTextEdit>("line").setFocus();
+    Replace("XYZZY");
+    CloseOffers();
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QApplication::processEvents();
+    ASSERT_FALSE(window_.dialogs.Boxes().empty());
+    EXPECT_EQ(window_.dialogs.Boxes().back().text, "XYZZY is an invalid Condition/Action");
+    QApplication::setActiveWindow(&window_.Window());
+    QApplication::processEvents();
+    EXPECT_EQ(Focus(), "line");
+    EXPECT_EQ(window_.Part<QPlainTextEdit>("line").toPlainText(), "XYZZY");
+}
+
+TEST_F(RecordPaneTest, AWindowOfItsOwnDoesNotStoreIt) {
+    window_.GoToTable("Messages");
+    window_.GoToRow("0");
+    Press(Qt::Key_Return);
+    Replace("The lamp burns.");
+    QWidget own(&window_.Window(), Qt::Dialog);
+    own.show();
+    QApplication::setActiveWindow(&own);
+    QApplication::processEvents();
+    EXPECT_EQ(Message(0), "The lamp is lit.");
+}
+
 TEST_F(RecordPaneTest, CtrlEnterStoresItAndGoesBackToTheRow) {
     window_.GoToTable("Messages");
     window_.GoToRow("1");
@@ -108,7 +156,7 @@ TEST_F(RecordPaneTest, EscapeTakesBackWhatWasTypedAndThenGoesBackToTheRow) {
 
 TEST_F(RecordPaneTest, AFaultKeepsTheKeyboardAndTheRow) {
     window_.GoToTable("Response (P0)");
-    window_.GoToRow("0");
+    window_.GoToRow("*");
     auto& grid = window_.Part<QTableView>("Grid");
     auto& line = window_.Part<QPlainTextEdit>("line");
     line.setFocus();
@@ -128,7 +176,7 @@ TEST_F(RecordPaneTest, AFaultKeepsTheKeyboardAndTheRow) {
 
 TEST_F(RecordPaneTest, ARuleShowsOneConditionOrActionToALine) {
     window_.GoToTable("Response (P0)");
-    window_.GoToRow("0");
+    window_.GoToRow("*");
     window_.Part<QPlainTextEdit>("line").setFocus();
     Replace("AT 0 MESSAGE 1 ");
     const auto& explained = window_.Part<QListWidget>("explained");
@@ -163,15 +211,15 @@ TEST_F(RecordPaneTest, IsRememberedAndCanBeLeftOutForTheDialogs) {
 
 TEST_F(RecordPaneTest, ProcessTablesShowNamesByF8) {
     window_.GoToTable("Response (P0)");
-    window_.GoToRow("0");
+    window_.GoToRow("*");
     auto& line = window_.Part<QPlainTextEdit>("line");
     line.setFocus();
     line.setPlainText("MESSAGE 1 DONE");
     Press(Qt::Key_Return, Qt::ControlModifier);
     Press(Qt::Key_F8);
-    EXPECT_EQ(window_.CellOf("0", "CondActs"), "MESSAGE 1 \u201CIt is dark.\u201D  \u00B7  DONE");
+    EXPECT_EQ(window_.CellOf("*", "CondActs"), "MESSAGE 1 \u201CIt is dark.\u201D  \u00B7  DONE");
     Press(Qt::Key_F8);
-    EXPECT_EQ(window_.CellOf("0", "CondActs"), "MESSAGE 1 DONE");
+    EXPECT_EQ(window_.CellOf("*", "CondActs"), "MESSAGE 1 DONE");
 }
 
 }  // namespace

@@ -55,13 +55,14 @@ TEST_F(CommandsTest, AreOffAgainWhenTheAdventureIsClosed) {
 TEST_F(CommandsTest, FollowTheTableInTheGrid) {
     OpenNew();
     main->Show({TableNum::Locations});
-    EXPECT_THAT(Enabled(*main),
-                ElementsAre("NewAdv", "Open", "SaveAs", "Restore", "Close", "In", "Export", "Decomp",
-                            "Import", "BatImp", "BatExp", "Print", "Preview", "Package", "Exit", "NewTab",
-                            "Edit", "Delete", "Find", "FindNext", "Filter", "Replace", "GoToAnything",
-                            "GoToNamed", "Uses", "GoBack", "GoForward", "Renumber", "Run", "Trace",
-                            "Verify", "Settings", "CharTable", "LstRecs", "ShortDesc", "KeyChange",
-                            "TravelTable", "Palette", "Help", "HelpContents", "AboutAdventure", "About"));
+    EXPECT_THAT(
+        Enabled(*main),
+        ElementsAre("NewAdv", "Open", "SaveAs", "Restore", "Close", "In", "Export", "Decomp", "Import",
+                    "BatImp", "BatExp", "Print", "Preview", "Package", "Exit", "NewTab", "Edit", "Delete",
+                    "Find", "FindNext", "Filter", "Replace", "GoToAnything", "GoToNamed", "Uses", "GoBack",
+                    "GoForward", "Renumber", "UsesColumn", "OpenInTab", "Run", "Trace", "Verify",
+                    "Settings", "CharTable", "LstRecs", "ShortDesc", "KeyChange", "TravelTable", "Palette",
+                    "Help", "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
     EXPECT_TRUE(IsEnabled(Command::Edit));

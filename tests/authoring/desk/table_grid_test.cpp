@@ -103,15 +103,29 @@ TEST(SetupGrid, HidesWeightAdjectiveAndAttributesInAMarloAdventure) {
                 ElementsAre("objnum", "objdesc", "objnoun", "objlocdesc", "objloc"));
 }
 
+/// The keys of the rows.
+std::vector<int> Keys(const TableGrid& grid) {
+    std::vector<int> keys;
+    for (int row = 0; row < grid.RowCount(); ++row)
+        keys.push_back(grid.KeyOf(row));
+    return keys;
+}
+
 TEST(SetupGrid, ShowsOneProcessAtATimeAndAllFromThreeTogether) {
     const test::OpenedAdventure adventure;
     for (const int process : {0, 1, 2, 3, 7})
         AddEntry(*adventure, process);
-    EXPECT_THAT(Cells(GridOf(*adventure, {TableNum::ProcessTables, 0}), 0), ElementsAre("0"));
-    EXPECT_THAT(Cells(GridOf(*adventure, {TableNum::ProcessTables, 1}), 0), ElementsAre("1"));
-    EXPECT_THAT(Cells(GridOf(*adventure, {TableNum::ProcessTables, 2}), 0), ElementsAre("2"));
-    EXPECT_THAT(Cells(GridOf(*adventure, {TableNum::ProcessTables, kOtherProcesses}), 0),
-                ElementsAre("3", "7"));
+    for (const int process : {0, 1, 2})
+        EXPECT_THAT(Keys(GridOf(*adventure, {TableNum::ProcessTables, process})), ElementsAre(process));
+    EXPECT_THAT(Keys(GridOf(*adventure, {TableNum::ProcessTables, kOtherProcesses})), ElementsAre(3, 7));
+}
+
+TEST(SetupGrid, LeavesTheNumberOfTheProcessOutWhereOneIsInView) {
+    const test::OpenedAdventure adventure;
+    EXPECT_THAT(Fields(GridOf(*adventure, {TableNum::ProcessTables, 0})),
+                ElementsAre("w1", "w2", "CondActs"));
+    EXPECT_THAT(Fields(GridOf(*adventure, {TableNum::ProcessTables, kOtherProcesses})),
+                ElementsAre("estype", "w1", "w2", "CondActs"));
 }
 
 TEST(SetupGrid, OfEveryTableReadsItsRecords) {

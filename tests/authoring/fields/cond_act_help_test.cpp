@@ -231,6 +231,20 @@ TEST(ALineExplained, StandsInOneLineWithNames) {
               "AT 1 The cellar  \u00B7  MESSAGE 0 \u201CWelcome!\u201D  \u00B7  DONE");
 }
 
+TEST(ALineExplained, NamesFlagsBrieflyAndWhatTheEngineKeepsInThem) {
+    HelpOf help;
+    help.GameDesk().AddWord(500, "LANTERN", 50, 2);
+    help.Reload();
+    EXPECT_EQ(help->WithNames("EQ 34 50"), "EQ 34 50 noun: LANTERN");
+    EXPECT_EQ(help->WithNames("NOTEQ 44 255"), "NOTEQ 44 255 second noun: none");
+    EXPECT_EQ(help->WithNames("LET 38 1"), "LET 38 1 place of the player: The cellar");
+    EXPECT_EQ(help->WithNames("GT 34 49"), "GT 34 49 noun");
+}
+
+TEST(ALineExplained, SaysNothingOfAFlagWithoutDescription) {
+    EXPECT_EQ(HelpOf()->WithNames("SET 100"), "SET 100");
+}
+
 TEST(MeaningOfAToken, OfANumberIsItsText) {
     const HelpOf help;
     EXPECT_EQ(help.Meaning("MESSAGE 1|"), "MESSAGE 1: It is too dark.");

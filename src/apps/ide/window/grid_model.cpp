@@ -1,8 +1,13 @@
 #include "ide/window/grid_model.h"
 
+#include <QFont>
+
+#include "authoring/fields/cond_act_help.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
+
+using authoring::GridLine;
 
 GridModel::GridModel(const authoring::TableGrid& grid, QObject* parent)
     : QAbstractTableModel(parent), grid_(grid) {}
@@ -13,7 +18,7 @@ void GridModel::Reset() {
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : grid_.RowCount();
+    return parent.isValid() ? 0 : grid_.Lines().Count();
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
@@ -21,18 +26,53 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
+    const GridLine& line = grid_.Lines().At(index.row());
+    if (line.IsHeading()) return index.column() == 0 ? OfHeading(line.group, role) : QVariant();
     switch (role) {
         case Qt::DisplayRole:
-            return qt::ToQt(grid_.CellText(index.row(), index.column()));
+            return qt::ToQt(grid_.CellText(line.row, index.column()));
         case Qt::ToolTipRole:
-            return qt::TipOf(qt::ToQt(grid_.FullText(index.row(), index.column())));
+            return qt::TipOf(qt::ToQt(grid_.FullText(line.row, index.column())));
         case Qt::TextAlignmentRole: {
             const bool number = grid_.Columns()[static_cast<std::size_t>(index.column())].number;
             return QVariant(Qt::AlignVCenter | (number ? Qt::AlignRight : Qt::AlignLeft));
         }
+        case kCondActs:
+            // They are what the last column shows.
+            return index.column() == columnCount() - 1 ? CondActsOf(line.row) : QVariant();
         default:
             return {};
     }
+}
+
+QVariant GridModel::OfHeading(int group, int role) const {
+    const authoring::RowGroup& shown = grid_.Lines().Groups()[static_cast<std::size_t>(group)];
+    switch (role) {
+        case Qt::DisplayRole:
+            return QString("%1 %2  (%3)")
+                .arg(QChar(grid_.Lines().IsFolded(group) ? 0x25B8 : 0x25BE))
+                .arg(qt::ToQt(shown.title))
+                .arg(shown.count);
+        case Qt::AccessibleTextRole:
+            return qt::ToQt(grid_.Lines().Spoken(group));
+        case Qt::FontRole: {
+            QFont font;
+            font.setBold(true);
+            return font;
+        }
+        default:
+            return {};
+    }
+}
+
+QVariant GridModel::CondActsOf(int row) const {
+    QStringList lines;
+    for (const authoring::ExplainedCondAct& each : grid_.Explained(row)) {
+        const QChar kind = each.isFault ? kFault : each.isAction ? kAction : kCondition;
+        const QString meaning = each.meaning.empty() ? QString() : " " + qt::ToQt(each.meaning);
+        lines << kind + qt::ToQt(each.text) + meaning;
+    }
+    return lines.isEmpty() ? QVariant() : QVariant(lines);
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -6,10 +6,18 @@
 
 namespace fabula::ide {
 
-/// A grid of the logic as the model of a table on the screen. Cells are asked for when they are shown.
+/// A grid of the logic as the model of a table on the screen, a row of the model for each of its lines.
+/// Cells are asked for when they are shown.
 class GridModel final : public QAbstractTableModel {
   public:
     explicit GridModel(const authoring::TableGrid& grid, QObject* parent = nullptr);
+
+    /// The role of the conditions and actions of a line, where names are shown: a list of texts, in front
+    /// of each a sign of its kind.
+    static constexpr int kCondActs = Qt::UserRole + 1;
+    static constexpr QChar kCondition = u'?';
+    static constexpr QChar kAction = u'!';
+    static constexpr QChar kFault = u'#';
 
     /// Rows or columns are other ones now.
     void Reset();
@@ -20,6 +28,9 @@ class GridModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    QVariant OfHeading(int group, int role) const;
+    QVariant CondActsOf(int row) const;
+
     const authoring::TableGrid& grid_;
 };
 

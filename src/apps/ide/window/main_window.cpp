@@ -11,6 +11,7 @@
 #include <QProgressDialog>
 #include <QScreen>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -28,6 +29,7 @@
 #include "ide/window/game_test.h"
 #include "ide/window/record_pane.h"
 #include "ide/window/record_panel.h"
+#include "ide/window/tab_strip.h"
 #include "ide/window/tree_panel.h"
 #include "ide/window/uses_pane.h"
 #include "qt/qt_settings.h"
@@ -40,11 +42,13 @@ using authoring::Menu;
 
 namespace {
 
-constexpr QSize kDefaultSize(1080, 700);
+constexpr QSize kDefaultSize(1280, 800);
 constexpr QSize kSmallestSize(320, 240);
 constexpr int kSmallestIcon = 22;
 constexpr int kTreeWidth = 250;
-constexpr int kWidthForBeside = 1300;  ///< of a window in which the record has room beside the rows
+constexpr int kShareOfRows = 600;  ///< of the room that they share with the record
+constexpr int kShareOfRecord = 400;
+constexpr int kWidthForBeside = 1200;  ///< of a window in which the record has room beside the rows
 
 // Where the window's look is kept.
 constexpr const char* kGeometry = "Desk/Geometry";
@@ -72,11 +76,14 @@ MainWindow::MainWindow(const Services& services, Places places)
                             .openExample = [this](const Example& example) { OpenExample(example); },
                             .openRecent = [this](const auto& file) { Open(file); }})),
       desk_(new QSplitter),
-      tree_(new TreePanel([this](int sort) { ChooseNode(sort); })),
+      tree_(new TreePanel([this](int sort) { ChooseNode(sort); }, [this](int sort) { OpenInTab(sort); })),
+      tabs_(new TabStrip({.chosen = [this](int tab) { ChangeTabs([this, tab] { ide_.GoToTab(tab); }); },
+                          .closed = [this](int tab) { ChangeTabs([this, tab] { ide_.CloseTab(tab); }); },
+                          .moved = [this](int from, int to) { ide_.MoveTab(from, to); }})),
       work_(new QSplitter),
       records_(new RecordPanel(
           ide_.Grid(), services.timers,
-          {.rowChosen = [this](int row) { ChooseRow(row); },
+          {.lineChosen = [this](int line) { ChooseLine(line); },
            .opened =
                [this] {
                    if (!beside_->Enter()) Do(Command::Edit);
@@ -94,7 +101,9 @@ MainWindow::MainWindow(const Services& services, Places places)
                    ide_.SetFilter(text);
                    ShowChanges();
                },
-           .menuAsked = [this](const QPoint& place) { AskEntryMenu(place); }})),
+           .menuAsked = [this](const QPoint& place) { AskEntryMenu(place); },
+           .folded = [this](int group, bool folded) { FoldGroup(group, folded); },
+           .openedInTab = [this] { Do(Command::OpenInTab); }})),
       beside_(new RecordPane({.stored =
                                   [this](const authoring::ScreenRequest& request) {
                                       ide_.ScreenClosed(request);
@@ -142,6 +151,7 @@ void MainWindow::MakePages() {
     auto* column = new QVBoxLayout(right);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
+    column->addWidget(tabs_);
     column->addWidget(records_, 1);
     column->addWidget(uses_);
     column->addWidget(find_);
@@ -153,6 +163,8 @@ void MainWindow::MakePages() {
     work_->setChildrenCollapsible(false);
     work_->addWidget(right);
     work_->addWidget(beside_);
+    work_->setStretchFactor(0, 1);
+    work_->setStretchFactor(1, 0);
     beside_->hide();
     desk_->addWidget(work_);
     desk_->setStretchFactor(1, 1);
@@ -171,12 +183,13 @@ void MainWindow::MakeMenus() {
     recent_->setExclusive(false);
     file->addSeparator();
     QMenu* view = menuBar()->findChild<QMenu*>("View");
-    tables_ = view->addMenu(tr("&Tables"));
-    tables_->setObjectName("Tables");
+    view->addSeparator();
+    tableMenu_ = view->addMenu(tr("&Tables"));
+    tableMenu_->setObjectName("Tables");
     columns_ = view->addMenu(tr("Sort &Rows By"));
     columns_->setObjectName("Columns");
     // Filled when they are opened: none of their lines may go while it is being chosen.
-    QObject::connect(tables_, &QMenu::aboutToShow, this, [this] { ShowTables(); });
+    QObject::connect(tableMenu_, &QMenu::aboutToShow, this, [this] { ShowTables(); });
     QObject::connect(columns_, &QMenu::aboutToShow, this, [this] { ShowColumns(); });
     view->addSeparator();
     MakeViewSwitches(*view);
@@ -270,6 +283,14 @@ void MainWindow::MakeKeys() {
     QAction* remove = actions_->Of(Command::Delete);
     remove->setShortcutContext(Qt::WidgetShortcut);
     records_->Grid().addAction(remove);
+    // Elsewhere Ctrl+Enter stores a record.
+    QAction* inTab = actions_->Of(Command::OpenInTab);
+    inTab->setShortcutContext(Qt::WidgetShortcut);
+    records_->Grid().addAction(inTab);
+    tree_->addAction(inTab);
+    tree_->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(tree_, &QWidget::customContextMenuRequested, this,
+                     [this](const QPoint& place) { AskTreeMenu(place); });
     const auto add = [this](QKeySequence key, int direction) {
         auto* action = new QAction(this);
         action->setShortcut(key);
@@ -316,13 +337,28 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 
 /// The record stands beside the rows where the window has the room, and else below them.
 void MainWindow::ArrangePanes() {
-    const auto wanted = width() >= kWidthForBeside ? Qt::Horizontal : Qt::Vertical;
-    if (work_->orientation() != wanted) work_->setOrientation(wanted);
+    const bool wide = width() >= kWidthForBeside;
+    const auto wanted = wide ? Qt::Horizontal : Qt::Vertical;
+    if (work_->orientation() != wanted) {
+        work_->setOrientation(wanted);
+        work_->setSizes({kShareOfRows, kShareOfRecord});
+    }
+    // Until the author chooses, the room decides whether it is shown.
+    if (services_.store.contains(kRecordBeside) || showBeside_->isChecked() == wide || !LeaveRecord())
+        return;
+    const QSignalBlocker unchosen(showBeside_);
+    showBeside_->setChecked(wide);
+    ShowBeside();
 }
 
 void MainWindow::changeEvent(QEvent* event) {
     // Icons are drawn in the theme's colours, but buttons keep what they have drawn.
     if (event->type() == QEvent::PaletteChange) update();
+    // Which window has the keyboard instead is known a moment later.
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
+        QMetaObject::invokeMethod(
+            this, [this] { StoreBeside(); }, Qt::QueuedConnection);
+    }
     QMainWindow::changeEvent(event);
 }
 

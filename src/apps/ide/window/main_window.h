@@ -37,6 +37,7 @@ class FindBar;
 class GameTest;
 class RecordPane;
 class RecordPanel;
+class TabStrip;
 class TreePanel;
 class UsesPane;
 
@@ -107,9 +108,16 @@ class MainWindow final : public QMainWindow {
     void ShowRow();
     void ShowPicture();
     void ShowBeside();
-    void ChooseRow(int row);
+    void ChooseLine(int line);
+    void FoldGroup(int group, bool folded);
     void ChooseNode(int sort);
     bool LeaveRecord();
+    void StoreBeside();
+    void ShowTabs();
+    void OpenInTab();
+    void OpenInTab(int sort);
+    void ChangeTabs(const std::function<void()>& change);
+    void AskTreeMenu(const QPoint& place);
     void ArrangePanes();
     void ShowActions();
     void ShowStatus();
@@ -169,6 +177,7 @@ class MainWindow final : public QMainWindow {
     EmptyPage* empty_;
     QSplitter* desk_;
     TreePanel* tree_;
+    TabStrip* tabs_;
     QSplitter* work_;  ///< the rows, and beside or below them the record
     RecordPanel* records_;
     RecordPane* beside_;
@@ -177,7 +186,7 @@ class MainWindow final : public QMainWindow {
     UsesPane* uses_;
     CommandActions* actions_;
     std::unique_ptr<QProgressDialog> upgrade_;  ///< while the steps of an upgrade run
-    QMenu* tables_ = nullptr;
+    QMenu* tableMenu_ = nullptr;
     QMenu* columns_ = nullptr;
     QActionGroup* recent_ = nullptr;
     QActionGroup* themes_ = nullptr;

@@ -87,6 +87,8 @@ void MainWindow::Do(Command command) {
         case Command::Renumber:
         case Command::Palette:
             return DoJump(command);
+        case Command::OpenInTab:
+            return OpenInTab();
         case Command::Filter:
             return records_->FilterLine().setFocus();
         case Command::Find:

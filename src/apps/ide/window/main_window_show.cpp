@@ -59,9 +59,9 @@ void MainWindow::ShowChanges() {
         tree_->setProperty(qt::kHelpPage, HelpPageOf(shownView_));
     }
     shownFile_ = file;
-    records_->ChooseRow(ide_.CurrentRow());
+    records_->ChooseLine(ide_.CurrentLine());
     if (changedPage) open ? records_->Grid().setFocus() : empty_->setFocus();
-    tables_->setEnabled(open);
+    tableMenu_->setEnabled(open);
     columns_->setEnabled(open);
     ShowRecent();
     ShowRow();
@@ -77,27 +77,39 @@ void MainWindow::ShowRow() {
     ShowPicture();
     ShowUses();
     ShowBeside();
+    ShowTabs();
     ShowActions();
 }
 
 /// The record of the current row beside the rows, when the author wants it there.
 void MainWindow::ShowBeside() {
-    const bool wanted = showBeside_->isChecked() && ide_.GetState() == authoring::MainScreen::State::Open;
+    const bool wanted = (showBeside_->isChecked() || ide_.IsRecordTab()) &&
+                        ide_.GetState() == authoring::MainScreen::State::Open;
     const auto request = wanted ? ide_.RecordBeside() : std::nullopt;
-    beside_->Show(request, request ? &ide_.CurrentContext() : nullptr);
+    // On the way over a heading the rows stay where they are.
+    const bool atHeading = wanted && ide_.CurrentRow() < 0 && ide_.CurrentLine() >= 0;
+    beside_->Show(request, request ? &ide_.CurrentContext() : nullptr, atHeading);
 }
 
-/// The author goes to another row: what was typed beside the rows is stored first, which may move them.
-void MainWindow::ChooseRow(int row) {
+/// The author goes to another line: what was typed beside the rows is stored first, which may move them.
+void MainWindow::ChooseLine(int line) {
+    const int row = line >= 0 ? ide_.Grid().Lines().At(line).row : -1;
     const auto key = row >= 0 ? std::optional(ide_.Grid().KeyOf(row)) : std::nullopt;
     const int changes = ide_.CurrentRow() >= 0 ? ide_.CurrentContext().document.Changes() : 0;
     if (!LeaveRecord()) return;
     if (key && ide_.CurrentContext().document.Changes() != changes) {
-        row = ide_.Grid().RowOf(*key, row).value_or(-1);
-        records_->ChooseRow(row);
+        ide_.SelectRow(ide_.Grid().RowOf(*key, row).value_or(-1));
+        records_->ChooseLine(ide_.CurrentLine());
+    } else {
+        ide_.SelectLine(line);
     }
-    ide_.SelectRow(row);
     ShowRow();
+}
+
+void MainWindow::FoldGroup(int group, bool folded) {
+    if (!LeaveRecord()) return;
+    if (group < static_cast<int>(ide_.Grid().Lines().Groups().size())) ide_.FoldGroup(group, folded);
+    ShowChanges();
 }
 
 void MainWindow::ChooseNode(int sort) {
@@ -117,7 +129,7 @@ bool MainWindow::LeaveRecord() {
         this,
         [this] {
             QWidget* const focus = QApplication::focusWidget();
-            records_->ChooseRow(ide_.CurrentRow());
+            records_->ChooseLine(ide_.CurrentLine());
             if (focus && beside_->isAncestorOf(focus)) focus->setFocus();
         },
         Qt::QueuedConnection);
@@ -147,13 +159,13 @@ void MainWindow::ShowStatus() {
 }
 
 void MainWindow::ShowTables() {
-    tables_->clear();
+    tableMenu_->clear();
     const authoring::TreeNode* current = ide_.CurrentNode();
     for (const authoring::TreeNode& node : ide_.Tree()) {
         if (node.group) continue;
         QAction* action =
-            tables_->addAction(qt::IconOf(node.icon), qt::Translated(node.name).replace('&', "&&"), this,
-                               [this, sort = node.sort] { ChooseNode(sort); });
+            tableMenu_->addAction(qt::IconOf(node.icon), qt::Translated(node.name).replace('&', "&&"), this,
+                                  [this, sort = node.sort] { ChooseNode(sort); });
         action->setCheckable(true);
         action->setChecked(current && current->sort == node.sort);
     }
@@ -220,6 +232,7 @@ void MainWindow::AskEntryMenu(const QPoint& place) {
     menu.setToolTipsVisible(true);
     actions_->FillGroup(menu, Menu::Edit, kEntryGroup);
     menu.addSeparator();
+    menu.addAction(actions_->Of(Command::OpenInTab));
     menu.addAction(actions_->Of(Command::Sort));
     menu.exec(place);
 }

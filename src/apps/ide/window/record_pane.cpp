@@ -4,9 +4,12 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/error.h"
 #include "qt/strings.h"
@@ -27,6 +30,22 @@ void DropMnemonics(const QWidget& dialog) {
         button->setText(button->text().remove('&'));
 }
 
+/// The place of the cursor in a field in which text is typed, else 0.
+int CursorIn(const QWidget* field) {
+    if (const auto* line = qobject_cast<const QLineEdit*>(field)) return line->cursorPosition();
+    if (const auto* text = qobject_cast<const QPlainTextEdit*>(field)) return text->textCursor().position();
+    return 0;
+}
+
+void PutCursor(QWidget* field, int place) {
+    if (auto* line = qobject_cast<QLineEdit*>(field)) line->setCursorPosition(place);
+    if (auto* text = qobject_cast<QPlainTextEdit*>(field)) {
+        QTextCursor cursor = text->textCursor();
+        cursor.setPosition(std::min(place, static_cast<int>(text->toPlainText().size())));
+        text->setTextCursor(cursor);
+    }
+}
+
 }  // namespace
 
 RecordPane::RecordPane(Events events, QWidget* parent) : QWidget(parent), events_(std::move(events)) {
@@ -42,7 +61,7 @@ QSize RecordPane::sizeHint() const {
 }
 
 void RecordPane::Show(const std::optional<authoring::ScreenRequest>& request,
-                      authoring::ScreenContext* context) {
+                      authoring::ScreenContext* context, bool keepsRoom) {
     record_.reset();
     request_ = request;
     context_ = context;
@@ -53,7 +72,7 @@ void RecordPane::Show(const std::optional<authoring::ScreenRequest>& request,
             context_->dialogs.Tell(error.what(), "Error");
         }
     }
-    setVisible(record_ != nullptr);
+    setVisible(record_ != nullptr || (keepsRoom && isVisible()));
     if (record_) Settle();
 }
 
@@ -97,6 +116,19 @@ bool RecordPane::Leave() {
     if (!accepted_) return false;
     record_.reset();
     events_.stored(*request_);
+    return true;
+}
+
+bool RecordPane::Store() {
+    const QWidget* const field = window()->focusWidget();
+    const bool inside = field && isAncestorOf(field);
+    const QString name = inside ? field->objectName() : QString();
+    const int cursor = CursorIn(field);
+    if (!Leave()) return false;
+    auto* const again = inside && record_ ? record_->Dialog().findChild<QWidget*>(name) : nullptr;
+    if (!again) return true;
+    again->setFocus();
+    PutCursor(again, cursor);
     return true;
 }
 

@@ -26,14 +26,18 @@ class RecordPane final : public QWidget {
     ~RecordPane() override;
 
     /// Shows a record as it is in the tables; nothing for nullopt. What was typed into the one before is
-    /// dropped.
-    void Show(const std::optional<authoring::ScreenRequest>& request, authoring::ScreenContext* context);
+    /// dropped. With `keepsRoom` it then stays where it is, empty.
+    void Show(const std::optional<authoring::ScreenRequest>& request, authoring::ScreenContext* context,
+              bool keepsRoom = false);
     /// Whether it shows a record.
     bool HasRecord() const { return record_ != nullptr; }
     /// Gives the keyboard to the first field; false without a record.
     bool Enter();
     /// Stores what was typed. False when it was refused: the field at fault has the keyboard.
     bool Leave();
+
+    /// The same for an author who comes back: the field that has the keyboard has it again.
+    bool Store();
 
     QSize sizeHint() const override;
 

@@ -1,5 +1,6 @@
 #include "ide/window/record_panel.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -8,6 +9,7 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ide/editors/picture_view.h"
 #include "ide/window/cell_delegate.h"
@@ -21,8 +23,10 @@ namespace {
 
 /// How long the width of a column must rest before it counts.
 constexpr std::chrono::milliseconds kResizeDelay{300};
-/// How many rows tell the width of a column that has none, and the widest that it becomes, in letters.
-constexpr int kRowsForWidth = 100;
+/// How many rows tell the width of a column that has none, and the widest that it becomes, in letters. Of
+/// the last column, which takes the room that is left, a few rows are enough.
+constexpr int kRowsForWidth = 1000;
+constexpr int kRowsForLast = 100;
 constexpr int kWidestColumn = 160;
 constexpr int kNarrowestColumn = 10;  ///< of those that need more
 constexpr int kCellMargin = 20;
@@ -107,10 +111,21 @@ void RecordPanel::Connect() {
         if (!placing_) events_.filtered(qt::FromQt(text));
     });
     QObject::connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-                     [this](const QModelIndex& row) {
-                         if (!placing_) events_.rowChosen(row.isValid() ? row.row() : -1);
+                     [this](const QModelIndex& line) {
+                         OpenRow(line.isValid() ? line.row() : -1);
+                         if (!placing_) events_.lineChosen(line.isValid() ? line.row() : -1);
                      });
-    QObject::connect(view_, &QTableView::doubleClicked, this, [this] { events_.opened(); });
+    QObject::connect(view_, &QTableView::doubleClicked, this, [this](const QModelIndex& cell) {
+        if (!grid_.Lines().At(cell.row()).IsHeading()) events_.opened();
+    });
+    QObject::connect(view_, &QTableView::clicked, this, [this](const QModelIndex& cell) {
+        const authoring::GridLine& line = grid_.Lines().At(cell.row());
+        if (line.IsHeading()) {
+            events_.folded(line.group, !grid_.Lines().IsFolded(line.group));
+        } else if (QGuiApplication::keyboardModifiers() & Qt::ControlModifier) {
+            events_.openedInTab();
+        }
+    });
     QObject::connect(view_, &QTableView::customContextMenuRequested, this, [this](const QPoint& place) {
         events_.menuAsked(view_->viewport()->mapToGlobal(place));
     });
@@ -137,7 +152,9 @@ void RecordPanel::ShowRecords() {
     placing_ = true;
     if (const QString filter = qt::ToQt(grid_.Filter()); filter_->text() != filter)
         filter_->setText(filter);
+    OpenRow(-1);
     model_->Reset();
+    ShowHeadings();
     ShowOrder();
     placing_ = false;
     ShowCount();
@@ -163,8 +180,30 @@ void RecordPanel::ShowCount() {
     count_->setVisible(!grid_.Filter().empty());
 }
 
+/// A heading takes the whole width.
+void RecordPanel::ShowHeadings() {
+    view_->clearSpans();
+    const authoring::GridLines& lines = grid_.Lines();
+    for (int group = 0; group < static_cast<int>(lines.Groups().size()); ++group)
+        view_->setSpan(lines.OfGroup(group), 0, 1, model_->columnCount());
+}
+
+/// The current row shows its conditions and actions one below the other, where names are shown.
+void RecordPanel::OpenRow(int line) {
+    QHeaderView& heights = *view_->verticalHeader();
+    const int usual = heights.defaultSectionSize();
+    if (openLine_ >= 0 && openLine_ < heights.count()) heights.resizeSection(openLine_, usual);
+    openLine_ = line;
+    if (line < 0 || line >= model_->rowCount()) return;
+    const int lines = CellDelegate::LinesOf(model_->index(line, model_->columnCount() - 1));
+    if (lines == 1) return;
+    const int height = usual + (lines - 1) * view_->fontMetrics().height();
+    heights.resizeSection(line, std::max(usual, std::min(height, view_->viewport()->height() - usual)));
+}
+
 void RecordPanel::FitRows() {
     view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view_->verticalHeader()->setMinimumSectionSize(1);
     view_->verticalHeader()->setDefaultSectionSize(view_->fontMetrics().height() * 3 / 2);
 }
 
@@ -213,18 +252,20 @@ void RecordPanel::PlaceColumns() {
 int RecordPanel::WidthOf(int column) const {
     const QFontMetrics metrics = view_->fontMetrics();
     int width = view_->horizontalHeader()->sectionSizeHint(column) + kTitleMargin;
-    for (int row = 0; row < std::min(grid_.RowCount(), kRowsForWidth); ++row)
+    const int rows = column == model_->columnCount() - 1 ? kRowsForLast : kRowsForWidth;
+    for (int row = 0; row < std::min(grid_.RowCount(), rows); ++row)
         width =
             std::max(width, metrics.horizontalAdvance(qt::ToQt(grid_.CellText(row, column))) + kCellMargin);
     return std::min(width, metrics.averageCharWidth() * kWidestColumn);
 }
 
-void RecordPanel::ChooseRow(int row) {
+void RecordPanel::ChooseLine(int line) {
     placing_ = true;
-    const QModelIndex index = model_->index(row, 0);
+    const QModelIndex index = model_->index(line, 0);
     if (index.isValid()) {
         const int across = view_->horizontalScrollBar()->value();
         view_->setCurrentIndex(index);
+        OpenRow(line);
         view_->scrollTo(index);
         view_->horizontalScrollBar()->setValue(across);
     } else {
@@ -234,9 +275,25 @@ void RecordPanel::ChooseRow(int row) {
     placing_ = false;
 }
 
-int RecordPanel::ChosenRow() const {
+/// Left and Right, or - and +, on a heading; Left in the first column of a row goes to its heading.
+bool RecordPanel::FoldBy(int key) {
     const QModelIndex current = view_->currentIndex();
-    return current.isValid() ? current.row() : -1;
+    if (!current.isValid() || grid_.Lines().Groups().empty()) return false;
+    const bool fold = key == Qt::Key_Left || key == Qt::Key_Minus;
+    if (!fold && key != Qt::Key_Right && key != Qt::Key_Plus) return false;
+    const authoring::GridLine line = grid_.Lines().At(current.row());
+    if (line.IsHeading()) {
+        if (grid_.Lines().IsFolded(line.group) != fold) events_.folded(line.group, fold);
+        return true;
+    }
+    const int group = grid_.Lines().GroupOf(line.row);
+    if (key == Qt::Key_Minus) {
+        events_.folded(group, true);
+        return true;
+    }
+    if (key != Qt::Key_Left || current.column() > 0) return key == Qt::Key_Plus;
+    view_->setCurrentIndex(model_->index(grid_.Lines().OfGroup(group), 0));
+    return true;
 }
 
 bool RecordPanel::eventFilter(QObject* receiver, QEvent* event) {
@@ -244,8 +301,16 @@ bool RecordPanel::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return false;
     const int key = static_cast<QKeyEvent*>(event)->key();
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const auto modifiers = static_cast<QKeyEvent*>(event)->modifiers() & ~Qt::KeypadModifier;
+    if (receiver == view_ && modifiers == Qt::NoModifier && FoldBy(key)) return true;
     if (receiver == view_ && enter) {
-        events_.opened();
+        const QModelIndex current = view_->currentIndex();
+        const int group = current.isValid() ? grid_.Lines().At(current.row()).group : -1;
+        if (group >= 0) {
+            events_.folded(group, !grid_.Lines().IsFolded(group));
+        } else {
+            events_.opened();
+        }
         return true;
     }
     if (receiver != filter_) return false;

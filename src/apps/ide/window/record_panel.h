@@ -20,12 +20,14 @@ class PictureView;
 
 /// What happens in the panel of records.
 struct RecordEvents {
-    std::function<void(int row)> rowChosen;  ///< -1 for none
-    std::function<void()> opened;            ///< Enter or a double click on a row
+    std::function<void(int line)> lineChosen;  ///< of the grid's lines; -1 for none
+    std::function<void()> opened;              ///< Enter or a double click on a row
     std::function<void(int column)> columnClicked;
     std::function<void(int column, int width)> columnResized;  ///< a moment after the author has done it
     std::function<void(const std::string& text)> filtered;
     std::function<void(const QPoint& place)> menuAsked;  ///< `place` on the screen
+    std::function<void(int group, bool folded)> folded;  ///< a group is to be folded or unfolded
+    std::function<void()> openedInTab;                   ///< a click with Ctrl
 };
 
 /// The records of the table in view, with the line that filters them above. The window tells what is to be
@@ -42,9 +44,8 @@ class RecordPanel final : public QWidget {
     /// The records, their order or the filter are other ones.
     void ShowRecords();
 
-    /// Chooses a row and brings it in sight; -1 chooses none.
-    void ChooseRow(int row);
-    int ChosenRow() const;
+    /// Chooses a line of the grid and brings it in sight; -1 chooses none.
+    void ChooseLine(int line);
 
     QTableView& Grid() { return *view_; }
     QLineEdit& FilterLine() { return *filter_; }
@@ -65,6 +66,9 @@ class RecordPanel final : public QWidget {
     int WidthOf(int column) const;
     void ShowOrder();
     void ShowCount();
+    void ShowHeadings();
+    void OpenRow(int line);
+    bool FoldBy(int key);
 
     const authoring::TableGrid& grid_;
     RecordEvents events_;
@@ -72,6 +76,7 @@ class RecordPanel final : public QWidget {
     int resizedColumn_ = -1;
     std::vector<ColumnWish> wishes_;  ///< of the columns
     bool placing_ = false;            ///< the panel moves columns and rows itself
+    int openLine_ = -1;               ///< the line whose conditions and actions stand one below the other
     GridModel* model_;
     QTableView* view_;
     QLineEdit* filter_;

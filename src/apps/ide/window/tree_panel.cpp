@@ -1,5 +1,6 @@
 #include "ide/window/tree_panel.h"
 
+#include <QMouseEvent>
 #include <QStyledItemDelegate>
 #include <QTreeWidgetItemIterator>
 #include <algorithm>
@@ -33,7 +34,8 @@ class NodeDelegate final : public QStyledItemDelegate {
 
 }  // namespace
 
-TreePanel::TreePanel(Choose choose, QWidget* parent) : QTreeWidget(parent), choose_(std::move(choose)) {
+TreePanel::TreePanel(Choose choose, Choose openInTab, QWidget* parent)
+    : QTreeWidget(parent), choose_(std::move(choose)), openInTab_(std::move(openInTab)) {
     setObjectName("Tree");
     setAccessibleName(tr("Tables"));
     setHeaderHidden(true);
@@ -72,9 +74,21 @@ void TreePanel::Show(const std::vector<authoring::TreeNode>& nodes, int chosen) 
     filling_ = false;
 }
 
+int TreePanel::SortOf(const QTreeWidgetItem& item) {
+    return item.data(0, kSort).toInt();
+}
+
 void TreePanel::initViewItemOption(QStyleOptionViewItem* option) const {
     QTreeWidget::initViewItemOption(option);
     ShowWhetherFocused(*this, *option);
+}
+
+void TreePanel::mousePressEvent(QMouseEvent* event) {
+    const QTreeWidgetItem* item = itemAt(event->pos());
+    const bool withCtrl = event->button() == Qt::LeftButton && event->modifiers() == Qt::ControlModifier;
+    if (!item || !(withCtrl || event->button() == Qt::MiddleButton))
+        return QTreeWidget::mousePressEvent(event);
+    openInTab_(item->data(0, kSort).toInt());
 }
 
 void TreePanel::Fill(const std::vector<authoring::TreeNode>& nodes) {

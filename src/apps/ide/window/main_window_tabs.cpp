@@ -1,0 +1,61 @@
+#include <QApplication>
+#include <QMenu>
+#include <QTreeWidgetItem>
+
+#include "ide/window/main_window.h"
+#include "ide/window/record_pane.h"
+#include "ide/window/tab_strip.h"
+#include "ide/window/tree_panel.h"
+#include "qt/strings.h"
+
+// Tabs, and what happens when the author goes to another window.
+
+namespace fabula::ide {
+
+void MainWindow::ShowTabs() {
+    QStringList titles;
+    const bool open = ide_.GetState() != authoring::MainScreen::State::NoAdventure;
+    for (int tab = 0; open && tab < ide_.Tabs().Count(); ++tab)
+        titles << qt::ToQt(ide_.TabTitle(tab));
+    tabs_->Show(titles, ide_.Tabs().Current());
+}
+
+void MainWindow::ChangeTabs(const std::function<void()>& change) {
+    if (!LeaveRecord()) return ShowTabs();
+    change();
+    ShowChanges();
+}
+
+/// Of the tree the table that is shown, of the rows the record.
+void MainWindow::OpenInTab() {
+    const authoring::TreeNode* const node = tree_->hasFocus() ? ide_.CurrentNode() : nullptr;
+    if (node) return OpenInTab(node->sort);
+    ChangeTabs([this] { ide_.OpenRecordInTab(); });
+}
+
+void MainWindow::OpenInTab(int sort) {
+    ChangeTabs([this, sort] {
+        if (const authoring::TreeNode* const node = authoring::NodeAt(ide_.Tree(), sort))
+            ide_.OpenInTab(node->view);
+    });
+}
+
+void MainWindow::AskTreeMenu(const QPoint& place) {
+    const QTreeWidgetItem* const item = tree_->itemAt(place);
+    if (!item) return;
+    const int sort = TreePanel::SortOf(*item);
+    QMenu menu(this);
+    menu.addAction(tr("Open in New T&ab"), this, [this, sort] { OpenInTab(sort); });
+    menu.exec(tree_->viewport()->mapToGlobal(place));
+}
+
+/// The author has gone to another window. Boxes and lists of this one are not left for.
+void MainWindow::StoreBeside() {
+    if (isActiveWindow() || QApplication::activeModalWidget() || QApplication::activePopupWidget()) return;
+    for (const QWidget* window = QApplication::activeWindow(); window; window = window->parentWidget()) {
+        if (window == this) return;
+    }
+    beside_->Store();
+}
+
+}  // namespace fabula::ide
