@@ -7,6 +7,7 @@
 
 class QCheckBox;
 class QLineEdit;
+class QListWidget;
 class QTableWidget;
 
 namespace fabula::ide {
@@ -17,6 +18,8 @@ class PictureView;
 class LocationDialog final : public RecordDialog {
   public:
     explicit LocationDialog(authoring::LocationScreen& screen, QWidget* parent = nullptr);
+
+    std::optional<authoring::NamedRecord> NamedAtCursor() override;
 
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -40,6 +43,7 @@ class LocationDialog final : public RecordDialog {
     MarkupEdit* shortDescription_;
     MarkupEdit* description_;
     QTableWidget* rows_;
+    QListWidget* neighbours_ = nullptr;
     QComboBox* word_;
     QComboBox* location_;
     QCheckBox* andBack_;

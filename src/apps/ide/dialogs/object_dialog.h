@@ -7,6 +7,7 @@
 
 class QButtonGroup;
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 
 namespace fabula::ide {
@@ -16,6 +17,8 @@ class ObjectDialog final : public RecordDialog {
   public:
     explicit ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent = nullptr);
 
+    std::optional<authoring::NamedRecord> NamedAtCursor() override;
+
   protected:
     void Read() override;
     void Show() override;
@@ -23,6 +26,7 @@ class ObjectDialog final : public RecordDialog {
 
   private:
     QWidget* NewPlaces();
+    void ReadNoun();
 
     authoring::ObjectScreen& screen_;
     authoring::TextEditing editing_;
@@ -33,6 +37,7 @@ class ObjectDialog final : public RecordDialog {
     QComboBox* room_;
     QCheckBox* container_;
     QCheckBox* wearable_;
+    QLabel* inside_;  ///< which location holds what is in a container
     QLineEdit* weight_;
 };
 
