@@ -51,6 +51,7 @@ class MarkupEdit final : public QWidget {
 
   protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void AddPreview(const QString& caption);
@@ -58,6 +59,7 @@ class MarkupEdit final : public QWidget {
     void FitLook();
     void ShowText();
     void ScrollPreview();
+    int ColumnsInSight() const;
     void ShowPreview(const std::string& text);
 
     const authoring::TextEditing& editing_;
@@ -66,6 +68,7 @@ class MarkupEdit final : public QWidget {
     QLabel* counts_;
     QLabel* fault_;
     QTextEdit* preview_ = nullptr;
+    int columns_ = 0;       ///< that the preview was shown in
     bool showing_ = false;  ///< the widget itself changes the text
 };
 
