@@ -31,9 +31,10 @@ update() { keys ctrl+Return; back; }
 
 place() { types "$1"; keys alt+d ctrl+a; types "$2"; }
 word() { opens ctrl+n "Vocabulary Editor"; types "$1"; keys "alt+$2"; }
-thing() { opens ctrl+n "Object $1"; types "$2"; keys Tab; types "$3"; keys alt+r alt+m ctrl+a; types "$4"; }
-message() { opens ctrl+n "Messages Editor"; types "$1"; update; }
-rule() { opens ctrl+n "Process Table Editor"; keys alt+v; types "$1"; keys alt+n; types "$2"; keys alt+b; types "$3"; update; }
+thing() { opens ctrl+n "Object $1"; types "$2"; keys alt+r alt+m ctrl+a; types "$3"; }
+# The word that comes with a thing is asked about.
+make_word() { keys ctrl+Return; at "New word"; keys Return; back; }
+rule() { opens ctrl+n "Process Table Editor"; keys alt+v; types "$1"; keys alt+n; types "$2"; keys alt+b; types "$3"; shift 3; local part; for part; do keys Tab; types "$part"; done; update; }
 
 tutorial() {
     local desk=$PWD/build/default/bin/FabulaIDE
@@ -87,11 +88,9 @@ tutorial() {
     take locations
 
     table voc
-    word KEY o
+    word DOOR o
     take word
     update
-    word DOOR o; update
-    word CAKE o; update
     word OPEN v; update
     word UNLOCK v; keys Tab ctrl+a; types 33; update
     word EAT v; update
@@ -111,20 +110,10 @@ tutorial() {
     keys ctrl+z
 
     table obj
-    thing 0 "a small brass key" KEY 1
+    thing 0 "a small brass key" 1
     take object
-    update
-    thing 1 "the last slice of cake" CAKE 2; update
-
-    table mes
-    opens ctrl+n "Messages Editor"
-    types "The pantry is locked. It has been locked since the business with the jam."
-    take message
-    update
-    message "The key turns without a sound. You have done this before."
-    message "You have nothing to open it with."
-    message "It is open."
-    message "You eat the cake in the dark, standing up. It is the best cake in the world."
+    make_word
+    thing 1 "the last slice of cake" 2; make_word
 
     table fl
     keys ctrl+k
@@ -145,15 +134,15 @@ tutorial() {
     keys alt+b
     types "at 0 zero 60 mess"
     keys Tab
-    types "lock"
+    types '"The pantry is locked. It has been locked since the business with the jam.'
     take completion
     keys Tab
     types "done"
     update
-    rule OPEN DOOR "at 0 notzero 60 message 5 done"
-    rule OPEN DOOR "at 0 notcarr 0 message 4 done"
-    rule OPEN DOOR "at 0 set 60 message 3 done"
-    rule EAT CAKE "present 1 plus 30 100 message 6 score turns end"
+    rule OPEN DOOR "at 0 notzero @pantry" 'message "It is open.' done
+    rule OPEN DOOR "at 0 notcarr @key" 'message "You have nothing to open it with.' done
+    rule OPEN DOOR "at 0 set @pantry" 'message "The key turns without a sound. You have done this before.' done
+    rule EAT CAKE "present @cake" 'plus 30 100 message "You eat the cake in the dark, standing up. It is the best cake in the world.' "score turns end"
     take rules
 
     opens F4 "Adventure Settings"

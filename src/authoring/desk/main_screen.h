@@ -75,6 +75,9 @@ class MainScreen {
     };
     UpgradeBoxes upgradeBoxes;
 
+    /// Shows what uses a record before Delete asks about it.
+    BeforeDelete beforeDelete = [](const Deletion&) { return true; };
+
     /// `maintenance` shows the program's own tables and fields.
     MainScreen(const IdeHost& host, IdePaths paths, bool maintenance = false);
     MainScreen(const MainScreen&) = delete;

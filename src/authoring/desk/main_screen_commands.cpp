@@ -190,7 +190,7 @@ std::optional<ScreenRequest> MainScreen::DoEntry(Command command) {
         request = entries.EditEntry();
         context.currentTable = grid_.View().table;
     }
-    if (command == Command::Delete) entries.DeleteEntry();
+    if (command == Command::Delete) entries.DeleteEntry(beforeDelete);
     if (!request) ShowChanges(grid_.View().table);
     return request;
 }

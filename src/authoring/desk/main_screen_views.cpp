@@ -178,7 +178,9 @@ std::string MainScreen::AdventureStatus() const {
 
 std::string MainScreen::TableStatus() const {
     if (!desk_) return "";
-    std::string status = Caption() + " - " + std::to_string(grid_.RecordCount()) + " records";
+    const int records = grid_.RecordCount();
+    std::string status = Caption() + " - " + std::to_string(records);
+    status += records == 1 ? " record" : " records";
     if (!grid_.Filter().empty()) status += ", " + std::to_string(grid_.RowCount()) + " shown";
     return status;
 }

@@ -4,6 +4,7 @@
 #include <map>
 #include <set>
 
+#include "authoring/entries/record_keys.h"
 #include "authoring/fields/brief_text.h"
 #include "condacts/parser.h"
 #include "text/utf8.h"
@@ -163,19 +164,41 @@ std::vector<JumpLine> Navigator::Lines() {
     const auto here = Here();
     if (!here || OpenDocument() == nullptr) return lines;
     if (here->view.table == TableNum::ProcessTables) return Named();
-    const auto target = TargetOf(followed_->adventure, *here);
+    return UsesOf(*here);
+}
+
+std::vector<JumpLine> Navigator::UsesOf(const Jump& record) {
+    OpenDocument();
+    std::vector<JumpLine> lines;
+    const auto target = TargetOf(followed_->adventure, record);
     if (!target) return lines;
     for (const Use& use : followed_->index.UsesOf(target->first, target->second))
         lines.push_back(LineFor(use));
     return lines;
 }
 
+std::string Navigator::NameOf(const Jump& record) {
+    OpenDocument();
+    return Places().RecordName(record.view.table, record.key);
+}
+
+std::optional<Jump> Navigator::Find(const NamedRecord& record) {
+    OpenDocument();
+    if (!HasRecord(followed_->adventure, record.table, record.key)) return std::nullopt;
+    return JumpTo(record.table, record.key);
+}
+
 std::vector<JumpLine> Navigator::Named() {
-    std::vector<JumpLine> lines;
     const auto here = Here();
-    if (!here || OpenDocument() == nullptr) return lines;
+    if (!here || OpenDocument() == nullptr) return {};
+    return NamedBy(here->view.table, here->key);
+}
+
+std::vector<JumpLine> Navigator::NamedBy(TableNum table, std::int64_t key) {
+    OpenDocument();
+    std::vector<JumpLine> lines;
     std::set<std::pair<Target, references::WordTypes>> seen;
-    for (const Use& use : followed_->index.UsesBy(here->view.table, here->key)) {
+    for (const Use& use : followed_->index.UsesBy(table, key)) {
         if (use.possible || use.field == "estype" || !seen.insert({use.target, use.wordTypes}).second)
             continue;
         if (auto line = LineOf(use.target, use.wordTypes)) lines.push_back(std::move(*line));

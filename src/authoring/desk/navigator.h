@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "authoring/desk/main_screen.h"
+#include "authoring/fields/named_record.h"
 #include "references/index.h"
 #include "references/place_text.h"
 
@@ -59,6 +60,14 @@ class Navigator {
     /// False when there is nowhere to go.
     bool Back();
     bool Forward();
+
+    /// What a record names, each record once; only while an adventure is open.
+    std::vector<JumpLine> NamedBy(store::TableNum table, std::int64_t key);
+    /// What uses a record, and its name; only while an adventure is open.
+    std::vector<JumpLine> UsesOf(const Jump& record);
+    std::string NameOf(const Jump& record);
+    /// Where a record is shown; nullopt when it is not there.
+    std::optional<Jump> Find(const NamedRecord& record);
 
     /// Where a record is shown; only while an adventure is open.
     Jump JumpTo(store::TableNum table, std::int64_t key);

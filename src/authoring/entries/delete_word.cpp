@@ -33,10 +33,23 @@ std::optional<Word> ReadWord(Adventure& adventure, int vocindex) {
     return Word{std::string(row.Text(0)), static_cast<int>(row.Number(1)), static_cast<int>(row.Number(2))};
 }
 
-bool HasSynonym(Adventure& adventure, const Word& word, int vocindex) {
+/// Another word of the same number and type; "" when there is none.
+std::string SynonymOf(Adventure& adventure, const Word& word, int vocindex) {
     store::PreparedQuery row =
-        adventure.Prepare(TableNum::Vocabulary, "vocindex", "vocnum=? and voctypen=? and vocindex<>?");
-    return row.First({std::int64_t{word.number}, std::int64_t{word.type}, std::int64_t{vocindex}});
+        adventure.Prepare(TableNum::Vocabulary, "word", "vocnum=? and voctypen=? and vocindex<>?");
+    const bool found =
+        row.First({std::int64_t{word.number}, std::int64_t{word.type}, std::int64_t{vocindex}});
+    return found ? std::string(row.Text(0)) : std::string();
+}
+
+/// The vocabulary as it will be without a word.
+condacts::WordIndex WordsWithout(Adventure& adventure, const Word& word) {
+    std::vector<Word> words = condacts::LoadWords(adventure).All();
+    const auto found = std::find_if(words.begin(), words.end(), [&](const Word& each) {
+        return each.number == word.number && each.type == word.type && each.word == word.word;
+    });
+    if (found != words.end()) words.erase(found);
+    return condacts::WordIndex(std::move(words));
 }
 
 /// Whether the verb of an entry or the word of an exit, with the number of `deleted`, has gone with it. A
@@ -51,13 +64,23 @@ bool HasGone(const condacts::WordIndex& words, const Word& deleted, std::string_
     });
 }
 
+bool MayNameObjects(const Word& word) {
+    return word.type == condacts::kNoun || word.type == condacts::kAdjective;
+}
+
+/// The objects of a noun or an adjective.
+Cursor& ObjectsOf(Adventure& adventure, const Word& word) {
+    const std::string numberField = word.type == condacts::kNoun ? "objnumnoun" : "objnumadject";
+    return adventure.OpenTable(TableNum::Free22, "* from objects",
+                               numberField + "=" + std::to_string(word.number));
+}
+
 int DetachObjects(Adventure& adventure, const Word& word) {
+    if (!MayNameObjects(word)) return 0;
     const bool noun = word.type == condacts::kNoun;
-    if (!noun && word.type != condacts::kAdjective) return 0;
     const std::string numberField = noun ? "objnumnoun" : "objnumadject";
     const std::string wordField = noun ? "objnoun" : "objadject";
-    Cursor& objects = adventure.OpenTable(TableNum::Free22, "* from objects",
-                                          numberField + "=" + std::to_string(word.number));
+    Cursor& objects = ObjectsOf(adventure, word);
     for (; !objects.Eof(); objects.MoveNext()) {
         objects.SetField(wordField, std::string(condacts::kNoWord));
         objects.SetField(numberField, std::int64_t{condacts::kNoWordNumber});
@@ -76,13 +99,13 @@ bool Asks(const condacts::ParsedLine& line, int wordType, std::string_view param
         });
 }
 
-/// Tells which process entries used a word that has been deleted.
+/// Tells which process entries use a word that is deleted, by the words that are left.
 class EntryTest {
   public:
     EntryTest(Adventure& adventure, const Word& word)
         : word_(word),
           catalogue_(condacts::LoadCatalogue(adventure)),
-          words_(condacts::LoadWords(adventure)) {}
+          words_(WordsWithout(adventure, word)) {}
 
     bool Used(const Cursor& entry) const {
         const bool verb = word_.type == condacts::kVerb;
@@ -178,6 +201,30 @@ int DeleteMovements(Adventure& adventure, const Word& word) {
     return deleted;
 }
 
+/// What goes, or loses the word, when the last of its number and type is deleted.
+std::vector<Affected> AffectedBy(Adventure& adventure, const Word& word) {
+    std::vector<Affected> affected;
+    if (MayNameObjects(word)) {
+        for (Cursor& object = ObjectsOf(adventure, word); !object.Eof(); object.MoveNext())
+            affected.push_back({TableNum::Objects, static_cast<int>(object.Number("objnum"))});
+    }
+    const EntryTest test(adventure, word);
+    for (Cursor& entry = adventure.OpenTable(TableNum::Free22, "* from processtables"); !entry.Eof();
+         entry.MoveNext()) {
+        if (test.Used(entry))
+            affected.push_back({TableNum::ProcessTables, static_cast<int>(entry.Number("canum")), true});
+    }
+    if (word.type != condacts::kVerb && word.type != condacts::kNoun) return affected;
+    const condacts::WordIndex words = WordsWithout(adventure, word);
+    for (Cursor& location = adventure.OpenTable(
+             TableNum::Free22, "locnum, numexits, exits, numericexits from locations", "numexits>0");
+         !location.Eof(); location.MoveNext()) {
+        if (Without(word, words, location.Text("exits"), location.Text("numericexits")).deleted > 0)
+            affected.push_back({TableNum::Locations, static_cast<int>(location.Number("locnum"))});
+    }
+    return affected;
+}
+
 bool AgreesToCascade(ScreenContext& context, const Word& word) {
     return context.dialogs.Proceed(
         "There are no more records with this word number. \n"
@@ -204,16 +251,21 @@ std::string ReportOf(const Deleted& deleted) {
 
 }  // namespace
 
-bool DeleteWord(ScreenContext& context, int vocindex) {
+bool DeleteWord(ScreenContext& context, int vocindex, const BeforeDelete& before) {
     Adventure& adventure = context.document.Adventure();
     const std::optional<Word> word = ReadWord(adventure, vocindex);
     if (!word) return false;
     if (word->type == condacts::kReserved)
         return Refuse(context.dialogs, "Sorry, but you cannot delete word " + word->word);
+    Deletion deletion{.table = TableNum::Vocabulary, .key = vocindex};
+    deletion.synonym = SynonymOf(adventure, *word, vocindex);
+    const bool isLast = deletion.synonym.empty();
+    if (isLast) deletion.affected = AffectedBy(adventure, *word);
+    if (!before(deletion)) return false;
     if (!context.dialogs.Confirm("Are you sure you want to delete word " + word->word + "?", "Confirm"))
         return false;
     // Everything is asked before the change begins, so that the file is not locked while a box is shown.
-    const bool cascades = !HasSynonym(adventure, *word, vocindex) && AgreesToCascade(context, *word);
+    const bool cascades = isLast && AgreesToCascade(context, *word);
 
     Change change(context.document, "delete word " + word->word);
     adventure.DeleteFrom(TableNum::Vocabulary, "vocindex=" + std::to_string(vocindex));

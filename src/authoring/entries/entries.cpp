@@ -289,16 +289,17 @@ bool Entries::AfterScreen(const ScreenRequest& request) {
     return request.screen != Screen::Settings || FollowSettings(context_, request.settings);
 }
 
-bool Entries::DeleteEntry() {
+bool Entries::DeleteEntry(const BeforeDelete& before) {
     const TableNum table = context_.currentTable;
     const int key = context_.currentEntry;
     Adventure& adventure = context_.document.Adventure();
-    if (table == TableNum::Vocabulary) return DeleteWord(context_, key);
+    if (table == TableNum::Vocabulary) return DeleteWord(context_, key, before);
     const EntryTable* entry = FindEntryTable(table);
     if (entry == nullptr || !entry->deletable)
         return Refuse(context_.dialogs, std::string(store::FindTable(table)->name) + " cannot be deleted");
     if (!HasRecord(adventure, table, key)) return false;
     if (table == TableNum::ProcDesc && !MayChangeProcess(context_, "deleted")) return false;
+    if (!before({.table = table, .key = key})) return false;
     const std::string question = table == TableNum::ProcessTables
                                      ? QuestionForEntry(adventure, key)
                                      : "Are you sure you want to delete " + CaptionOf(adventure, table) +

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "authoring/document/screen_context.h"
+#include "authoring/entries/deletion.h"
 #include "authoring/settings/settings_followup.h"
 #include "store/table_catalogue.h"
 
@@ -66,8 +67,8 @@ class Entries {
     /// has to end, since character sets were switched; the author has been told.
     bool AfterScreen(const ScreenRequest& request);
 
-    /// Asks first. True when the record is gone.
-    bool DeleteEntry();
+    /// Asks first, and before that `before`. True when the record is gone.
+    bool DeleteEntry(const BeforeDelete& before = [](const Deletion&) { return true; });
 
   private:
     ScreenContext& context_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "authoring/fields/cond_act_place.h"
 #include "authoring/fields/flag_meaning.h"
 #include "condacts/convert.h"
 #include "condacts/load.h"
@@ -17,24 +18,26 @@ using condacts::CondAct;
 using condacts::Parameter;
 using condacts::ParamKind;
 using condacts::Token;
+using store::TableNum;
 
 constexpr int kHighestMarloFlag = 32;
 constexpr std::string_view kNoDescription = "no description";
 
 struct KindName {
     ParamKind kind;
-    std::string_view field;   ///< over the field of the parameter
-    std::string_view phrase;  ///< "takes a message"
-    std::string_view noun;    ///< "there is no message 7"
+    std::string_view field;                        ///< over the field of the parameter
+    std::string_view phrase;                       ///< "takes a message"
+    std::string_view noun;                         ///< "there is no message 7"
+    std::optional<TableNum> table = std::nullopt;  ///< whose records they are
 };
 
 constexpr KindName kKindNames[] = {
-    {ParamKind::Location, "Location", "a location", "location"},
-    {ParamKind::Message, "Message", "a message", "message"},
-    {ParamKind::Object, "Object", "an object", "object"},
-    {ParamKind::Process, "Process", "a process table", "process table"},
-    {ParamKind::SystemMessage, "SysMsg", "a system message", "system message"},
-    {ParamKind::Flag, "Flag", "a flag", "flag"},
+    {ParamKind::Location, "Location", "a location", "location", TableNum::Locations},
+    {ParamKind::Message, "Message", "a message", "message", TableNum::Messages},
+    {ParamKind::Object, "Object", "an object", "object", TableNum::Objects},
+    {ParamKind::Process, "Process", "a process table", "process table", TableNum::ProcDesc},
+    {ParamKind::SystemMessage, "SysMsg", "a system message", "system message", TableNum::SystemMessages},
+    {ParamKind::Flag, "Flag", "a flag", "flag", TableNum::Flags},
     {ParamKind::Value, "Value", "a value", ""},
 };
 
@@ -117,17 +120,6 @@ bool IsLetter(char c) {
            std::string_view(".,;:!?\"'()-").find(c) == std::string_view::npos;
 }
 
-/// Whether a word of `text` begins with `typed`, case ignored.
-bool HasWordWith(std::string_view text, std::string_view typed) {
-    const std::string lowered = text::LowerCase(text);
-    const std::string sought = text::LowerCase(typed);
-    for (std::size_t at = lowered.find(sought); at != std::string::npos;
-         at = lowered.find(sought, at + 1)) {
-        if (at == 0 || !IsLetter(lowered[at - 1])) return true;
-    }
-    return false;
-}
-
 bool BeginsWith(std::string_view text, std::string_view typed) {
     return text::EqualsNoCase(text.substr(0, typed.size()), typed);
 }
@@ -140,15 +132,15 @@ bool Matches(const Completion& completion, std::string_view typed) {
 
 }  // namespace
 
-/// Where a cursor stands.
-struct CondActHelp::Place {
-    std::size_t begin = 0;  ///< of the token at the cursor; both are the cursor where there is none
-    std::size_t end = 0;
-    bool known = true;                 ///< false behind a name that is none: nothing can be told there
-    const CondAct* condAct = nullptr;  ///< whose parameter stands here; nullptr where a name does
-    std::size_t parameter = 0;
-    std::string before;  ///< the condact and its parameters up to here
-};
+bool HasWordWith(std::string_view text, std::string_view typed) {
+    const std::string lowered = text::LowerCase(text);
+    const std::string sought = text::LowerCase(typed);
+    for (std::size_t at = lowered.find(sought); at != std::string::npos;
+         at = lowered.find(sought, at + 1)) {
+        if (at == 0 || !IsLetter(lowered[at - 1])) return true;
+    }
+    return false;
+}
 
 CondActHelp::CondActHelp(store::Adventure& adventure)
     : catalogue_(condacts::LoadCatalogue(adventure)),
@@ -233,6 +225,8 @@ bool CondActHelp::Fits(const Place& place, std::string_view parameter) const {
 }
 
 Completions CondActHelp::Complete(std::string_view line, std::size_t cursor) const {
+    if (const auto name = FirstName(line); name && name->begin < cursor && cursor <= name->end)
+        return CompleteName(line, cursor, *name);
     const Place place = Find(line, cursor);
     Completions found{.begin = place.begin, .end = place.end, .items = {}};
     if (!place.known) return found;
@@ -247,6 +241,28 @@ Completions CondActHelp::Complete(std::string_view line, std::size_t cursor) con
         if (Matches(item, typed) && Fits(place, item.insert)) found.items.push_back(std::move(item));
     }
     return found;
+}
+
+std::string CondActHelp::PhraseFor(std::string_view line, const TypedName& name) const {
+    const Place place = Find(line, name.begin + 1);
+    return PhraseOf(*place.condAct, place.parameter);
+}
+
+std::optional<NamedRecord> CondActHelp::Named(store::Adventure& adventure, std::string_view line,
+                                              std::size_t cursor) const {
+    const Place place = Find(line, cursor);
+    if (!place.known || place.condAct == nullptr) return std::nullopt;
+    const std::string_view token = line.substr(place.begin, place.end - place.begin);
+    const Parameter& parameter = place.condAct->params[place.parameter];
+    if (parameter.kind == ParamKind::Word) {
+        const condacts::WordCondition* condition = condacts::FindWordCondition(place.condAct->name);
+        const condacts::Word* word =
+            condition == nullptr ? nullptr : facts_.words.FindTyped(token, condition->wordType);
+        return word == nullptr ? std::nullopt : NamedWord(adventure, word->word, word->number);
+    }
+    const KindName* name = NameOf(parameter.kind);
+    if (name == nullptr || !name->table) return std::nullopt;
+    return NamedByNumber(*name->table, token);
 }
 
 std::string CondActHelp::MeaningOfNumber(const Parameter& parameter, std::string_view token) const {
@@ -319,6 +335,8 @@ std::string CondActHelp::MeaningOfValue(const CondAct& condAct, std::string_view
 }
 
 std::vector<ExplainedCondAct> CondActHelp::Explain(std::string_view line) const {
+    // Behind a name nothing is understood yet.
+    if (const auto name = FirstName(line)) line = line.substr(0, name->begin);
     const condacts::ParsedLine parsed = condacts::ParseLine(line, catalogue_, facts_.dialect);
     std::vector<ExplainedCondAct> explained;
     for (const condacts::Statement& statement : parsed.statements) {
@@ -366,6 +384,8 @@ std::string CondActHelp::Page(std::string_view line, std::size_t cursor) const {
 std::optional<MarkedFault> CondActHelp::FirstFault(std::string_view line) const {
     const auto fault = condacts::ValidateCondActs(line, catalogue_, facts_);
     if (!fault) return std::nullopt;
+    if (const auto name = FirstName(line))
+        return MarkedFault{"Choose " + PhraseFor(line, *name), name->begin, name->end};
     const Token token = condacts::SplitLine(line).at(fault->token);
     return MarkedFault{fault->message, token.position, token.position + token.text.size()};
 }

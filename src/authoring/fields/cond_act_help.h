@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "authoring/fields/named_record.h"
 #include "authoring/fields/record_texts.h"
 #include "condacts/catalogue.h"
 #include "condacts/facts.h"
@@ -16,8 +17,9 @@ namespace fabula::authoring {
 
 /// Something that can be written in a line of conditions and actions.
 struct Completion {
-    std::string insert;  ///< what is written: "7", "CARRIED", "MESSAGE"
-    std::string shown;   ///< what a list shows for it: "7  It is too dark"
+    std::string insert;        ///< what is written: "7", "CARRIED", "MESSAGE"
+    std::string shown;         ///< what a list shows for it: "7  It is too dark"
+    std::string newText = {};  ///< of a message that is to be added, whose number `insert` will be
 
     friend bool operator==(const Completion&, const Completion&) = default;
 };
@@ -27,6 +29,17 @@ struct Completions {
     std::size_t begin = 0;
     std::size_t end = 0;
     std::vector<Completion> items;
+};
+
+/// What was typed where a number is to stand, to find its record by its text: "brass lamp" in quotes, or
+/// @lamp, which ends at a blank.
+struct TypedName {
+    std::size_t begin = 0;  ///< in bytes; with the quotes or the @
+    std::size_t end = 0;
+    std::string text;  ///< without them
+    bool quoted = false;
+
+    friend bool operator==(const TypedName&, const TypedName&) = default;
 };
 
 /// A fault of a line, and the bytes of the token that is at fault.
@@ -73,6 +86,26 @@ class CondActHelp {
     /// word.
     Completions Complete(std::string_view line, std::size_t cursor) const;
 
+    /// The first name that stands in the line in place of a number; nullopt where something else is at
+    /// fault before it.
+    std::optional<TypedName> FirstName(std::string_view line) const;
+    /// What such a name may mean at its place: the records whose text it is or, where there are none, those
+    /// with a word that begins so.
+    std::vector<Completion> MeantBy(std::string_view line, const TypedName& name) const;
+    /// Whether a message is to stand at its place.
+    bool IsMessage(std::string_view line, const TypedName& name) const;
+    /// What may stand where a name does: "an object".
+    std::string PhraseFor(std::string_view line, const TypedName& name) const;
+
+    /// The number that a message would get that is added; nullopt offers none.
+    void OfferNewMessage(std::optional<int> number) { newMessage_ = number; }
+    /// From now on there is a message of this number and text.
+    void AddMessage(int number, std::string_view text);
+
+    /// The record that the token at the cursor names; words are looked up in the adventure.
+    std::optional<NamedRecord> Named(store::Adventure& adventure, std::string_view line,
+                                     std::size_t cursor) const;
+
     /// What the token at the cursor means: "MESSAGE 7: It is too dark"; where no token is, what could stand
     /// there. "" in an empty line.
     std::string Meaning(std::string_view line, std::size_t cursor) const;
@@ -95,6 +128,8 @@ class CondActHelp {
     struct Place;
     Place Find(std::string_view line, std::size_t cursor) const;
     bool Fits(const Place& place, std::string_view parameter) const;
+    std::vector<Completion> Fitting(const Place& place, std::string_view text) const;
+    Completions CompleteName(std::string_view line, std::size_t cursor, const TypedName& name) const;
     std::vector<Completion> Words(const condacts::CondAct& condAct) const;
     std::string MeaningOfParameter(const condacts::CondAct& condAct, std::size_t place,
                                    std::string_view token) const;
@@ -106,6 +141,7 @@ class CondActHelp {
     condacts::Catalogue catalogue_;
     condacts::Facts facts_;
     RecordTexts texts_;
+    std::optional<int> newMessage_;
     std::map<int, std::string> pages_;  ///< by the number of the condition or action
 };
 

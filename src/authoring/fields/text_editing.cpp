@@ -90,8 +90,8 @@ ShownText TextEditing::Print(std::string_view text, int width) const {
     return result;
 }
 
-ShownText TextEditing::Show(std::string_view text) const {
-    const int columns = PreviewColumns();
+ShownText TextEditing::Show(std::string_view text, int most) const {
+    const int columns = std::min(PreviewColumns(), most);
     return Print(text, columns == 0 ? engine::kNoWidthLimit : columns);
 }
 

@@ -56,8 +56,9 @@ class TextEditing {
     /// since the game writes through character sets.
     int PreviewColumns() const;
 
-    /// The text as the game prints it in a window of `PreviewColumns`.
-    ShownText Show(std::string_view text) const;
+    /// The text as the game prints it in a window of `PreviewColumns`, or of fewer where there is no room
+    /// for them.
+    ShownText Show(std::string_view text, int most = kWidestPreview) const;
 
     TextCounts Count(std::string_view text) const;
 

@@ -125,6 +125,13 @@ InterchangeScreen::InterchangeScreen(JobMode mode, store::Adventure* adventure, 
     while (chosen_ + 1 < kinds_.size() && !kinds_[chosen_].kind)
         ++chosen_;
     ChooseKindNamed(mode == JobMode::Export && adventure ? OwnKindOf(*adventure) : kUsualKind);
+    source = ProposedTarget();
+}
+
+/// The name of the adventure's export; "" for other jobs.
+std::string InterchangeScreen::ProposedTarget() const {
+    if (mode_ != JobMode::Export || !adventure_ || !Kind()) return "";
+    return adventure_->CurrentFile().stem().string() + std::string(Kind()->extension);
 }
 
 void InterchangeScreen::ChooseKindNamed(std::string_view name) {
@@ -170,7 +177,9 @@ std::span<const InterchangeScreen::EncodingOption> InterchangeScreen::Encodings(
 
 bool InterchangeScreen::ChooseKind(std::size_t option) {
     if (running_ || option >= kinds_.size() || !kinds_[option].kind) return false;
+    const bool proposed = source == ProposedTarget();
     chosen_ = option;
+    if (proposed) source = ProposedTarget();
     return true;
 }
 
@@ -179,12 +188,8 @@ void InterchangeScreen::ChooseSource() {
     interchange::DialogText shown{"", "Select Source File", "All Files|*.*"};
     if (mode_ != JobMode::LoadGraphic && Kind())
         shown = writes ? Kind()->exportDialog : Kind()->importDialog;
-    path start = text::Trimmed(source);
-    if (start.empty() && adventure_) {
-        start = adventure_->GameDir();
-        if (writes && Kind())
-            start /= adventure_->CurrentFile().stem().string() + std::string(Kind()->extension);
-    }
+    path start = Placed(source);
+    if (start.empty() && adventure_) start = adventure_->GameDir() / ProposedTarget();
     const std::string extension =
         writes && Kind() ? ExtensionOf(shown.defaultName, Kind()->extension) : std::string();
     const auto file = host_.dialogs.ChooseFile(

@@ -73,7 +73,8 @@ class InterchangeScreen final : private interchange::JobObserver {
     interchange::Encoding encoding = interchange::Encoding::Detect;
 
     /// The file that is read, or written by an export, and the adventure that an import makes. Names
-    /// without a folder lie beside the open adventure.
+    /// without a folder lie beside the open adventure. An export proposes the adventure's name, with the
+    /// extension of the chosen kind as long as the proposal stands.
     std::string source;
     std::string database;
     /// The pictures of the listing that are loaded: "3,7-9".
@@ -122,6 +123,7 @@ class InterchangeScreen final : private interchange::JobObserver {
     void ChooseKindNamed(std::string_view name);
     void ChooseKindOf(const std::filesystem::path& file);
     const interchange::FileKind* Kind() const { return kinds_[chosen_].kind; }
+    std::string ProposedTarget() const;
     std::string Placed(const std::string& typed) const;
     bool ImportIt();
     bool ExportIt();

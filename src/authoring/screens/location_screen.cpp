@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "authoring/entries/made_records.h"
 #include "authoring/entries/record_keys.h"
 #include "authoring/fields/location_names.h"
 #include "authoring/fields/picture_choice.h"
@@ -176,6 +177,14 @@ bool LocationScreen::LeaveExitPlace() {
     return CheckLocation("exitPlace", text::TrimBlanks(exitPlace.text), "");
 }
 
+void LocationScreen::SplitTypedExit() {
+    const std::string typed = Edited(exitWord.text);
+    const std::size_t blank = typed.find(' ');
+    if (blank == std::string::npos || !text::TrimBlanks(exitPlace.text).empty()) return;
+    exitWord.text = typed.substr(0, blank);
+    exitPlace.text = typed.substr(blank + 1);
+}
+
 /// A place that is given by its name, or by what only one name begins with, becomes its number.
 bool LocationScreen::TakePlaceByName() {
     const std::string typed(text::TrimBlanks(exitPlace.text));
@@ -230,6 +239,7 @@ bool LocationScreen::NoteWayBack(const std::string& word) {
 }
 
 bool LocationScreen::Add() {
+    SplitTypedExit();
     if (!TakePlaceByName() || !LeaveExitPlace()) return false;
     const std::string word = Edited(exitWord.text);
     const std::string location(text::TrimBlanks(exitPlace.text));
@@ -269,6 +279,24 @@ void LocationScreen::SetExits(const std::vector<ExitRow>& rows) {
     }
 }
 
+std::optional<NamedRecord> LocationScreen::NamedWordOf(std::string_view word) const {
+    const condacts::Word* found = words_.Find(text::TrimBlanks(word), condacts::IsMovementWord);
+    if (found == nullptr) return std::nullopt;
+    return NamedWord(Adventure(), found->word, found->number);
+}
+
+std::optional<NamedRecord> LocationScreen::NamedInExits(std::size_t cursor) const {
+    bool isWord = true;
+    for (const std::string_view token : text::Split(exits, " ")) {
+        if (token.empty()) continue;
+        const auto begin = static_cast<std::size_t>(token.data() - exits.data());
+        if (cursor >= begin && cursor <= begin + token.size())
+            return isWord ? NamedWordOf(token) : NamedByNumber(TableNum::Locations, token);
+        isWord = !isWord;
+    }
+    return std::nullopt;
+}
+
 /// The exits of a line that passed its check.
 std::vector<LocationScreen::Exit> LocationScreen::ParsedExits() const {
     const std::string edited = Edited(exits);
@@ -303,16 +331,7 @@ void LocationScreen::StoreNewPlaces() {
         const bool used =
             std::ranges::any_of(parsed, [&](const Exit& exit) { return exit.location == place.number; });
         if (!used || HasRecord(Adventure(), TableNum::Locations, place.number)) continue;
-        store::Cursor& record = Adventure().OpenTable(TableNum::Free22, "* from locations", "locnum<0");
-        record.AddNew();
-        record.SetField("locnum", std::int64_t{place.number});
-        record.SetField("locdesc", std::string(" "));
-        record.SetField("locshortdesc", place.text);
-        for (const char* field : {"exits", "numericexits", "picloc", "pickey"})
-            record.SetField(field, std::string());
-        record.SetField("numexits", std::int64_t{0});
-        record.SetField("oldpicloc", std::string(" "));
-        record.Update();
+        AddPlace(Adventure(), place.number, place.text);
     }
 }
 

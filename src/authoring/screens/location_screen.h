@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "authoring/fields/controls.h"
+#include "authoring/fields/named_record.h"
 #include "authoring/screens/record_screen.h"
 #include "condacts/words.h"
 
@@ -48,7 +50,8 @@ class LocationScreen final : public RecordScreen {
     bool andBack = false;  ///< the exits that `Add` adds get their way back in the other location
 
     /// Adds the exit of `exitWord` and `exitPlace` to the line, and empties both. The place may be given by
-    /// its name; one that does not exist is made, after a question, when the screen is stored.
+    /// its name; one that does not exist is made, after a question, when the screen is stored. Both may be
+    /// typed as the word: "NORTH The attic".
     bool Add();
     void ChoosePicture();
     void ClearPicture() { picture.clear(); }
@@ -60,6 +63,10 @@ class LocationScreen final : public RecordScreen {
 
     /// The locations from which an exit leads here, by number.
     const std::vector<Neighbour>& LeadsHere() const { return leadsHere_; }
+
+    /// The record of a movement word, and of the word or the location at a place of `exits`, in bytes.
+    std::optional<NamedRecord> NamedWordOf(std::string_view word) const;
+    std::optional<NamedRecord> NamedInExits(std::size_t cursor) const;
 
     bool Changed() const override { return Typed() != opened_ || HasPendingExit(); }
 
@@ -78,6 +85,7 @@ class LocationScreen final : public RecordScreen {
     void ReadRecord();
     void ReadNeighbours();
     bool HasPendingExit() const;
+    void SplitTypedExit();
     bool TakePlaceByName();
     bool MakePlace(const std::string& name);
     const condacts::Word* OppositeOf(std::string_view word) const;

@@ -2,13 +2,20 @@
 
 #include <cstdint>
 
+#include "authoring/entries/made_records.h"
+#include "authoring/entries/record_keys.h"
+#include "authoring/fields/brief_text.h"
 #include "authoring/fields/location_names.h"
 #include "authoring/fields/text_field.h"
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/places.h"
+#include "condacts/recompile.h"
 #include "condacts/words.h"
+#include "store/adventure_kind.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
+#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {
@@ -22,12 +29,36 @@ constexpr int kWearableBit = 2;
 
 constexpr const char* kUsualWeight = "1";
 
+/// Articles and the like are no nouns.
+constexpr std::size_t kShortestProposal = 2;
+
 std::vector<ListItem> WordItems(const condacts::WordIndex& words, condacts::WordTest test) {
     std::vector<ListItem> items;
     for (const condacts::Word& word : words.All()) {
         if (test(word)) items.push_back({word.number, word.word});
     }
     return items;
+}
+
+bool IsLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) >= 0x80 || c == '-' || c == '\'';
+}
+
+/// The words of the first sentence of a description that could be nouns, in capitals.
+std::vector<std::string> WordsOf(std::string_view description, std::size_t longest) {
+    const std::string upper = text::UpperCase(BriefText(description));
+    std::vector<std::string> words;
+    std::string word;
+    for (const char c : upper + ' ') {
+        if (IsLetter(c)) {
+            word += c;
+            continue;
+        }
+        if (text::Length(word) > kShortestProposal) words.emplace_back(text::Left(word, longest));
+        word.clear();
+        if (c != ' ') break;
+    }
+    return words;
 }
 
 /// Chooses a record's word; where synonyms share its number, the one that is written in the record.
@@ -80,7 +111,47 @@ void ObjectScreen::ReadPlace(int place) {
 }
 
 bool ObjectScreen::LeaveDescription() {
-    return CheckText("description", description, true);
+    if (!CheckText("description", description, true)) return false;
+    ProposeNoun();
+    return true;
+}
+
+/// The last word of the description that is a noun already, or else the last of all.
+void ObjectScreen::ProposeNoun() {
+    const bool hasNoun = noun.Chosen() != nullptr && noun.Chosen()->number != condacts::kNoWordNumber;
+    if (!Key().isNew || proposed_ || hasNoun || !newNoun.empty()) return;
+    const std::vector<std::string> words = WordsOf(description, LongestWord());
+    if (words.empty()) return;
+    proposed_ = true;
+    for (auto word = words.rbegin(); word != words.rend(); ++word) {
+        noun.ChooseText(*word);
+        if (noun.Chosen() != nullptr) return;
+    }
+    newNoun = words.back();
+}
+
+std::size_t ObjectScreen::LongestWord() const {
+    return condacts::SignificantLetters(store::AdventureKindOf(Adventure().AdventureType()));
+}
+
+bool ObjectScreen::LeaveNoun() {
+    std::string typed = text::UpperCase(text::TrimBlanks(text::CollapseBlanks(newNoun)));
+    newNoun.clear();
+    if (typed.empty()) return true;
+    if (typed.find(' ') != std::string::npos) return RefuseField("noun", "The word cannot hold spaces");
+    typed = std::string(text::Left(typed, LongestWord()));
+    noun.ChooseText(typed);
+    if (noun.Chosen() != nullptr) return true;
+    newNoun = typed;
+    if (typed == agreedNoun_) return true;
+    if (!NumberOfNewNoun(Adventure())) return RefuseField("noun", "There is no number left for a noun");
+    if (!context_.dialogs.Confirm("There is no noun " + typed + ". Make it?", "New word")) {
+        newNoun.clear();
+        noun.ChooseNumber(condacts::kNoWordNumber);
+        return KeepFocus("noun");
+    }
+    agreedNoun_ = typed;
+    return true;
 }
 
 bool ObjectScreen::LeaveInitialPlace() {
@@ -104,9 +175,33 @@ bool ObjectScreen::CheckContainer() {
     if (!container) return true;
     const store::Cursor& inside =
         Adventure().OpenTable(TableNum::LocationsWalk, "numexits", "locnum=" + std::to_string(Key().key));
-    if (inside.Eof()) return RefuseField("container", "There is no location with this object number");
+    if (inside.Eof()) return MakesInside();
     if (inside.Number("numexits") == 0) return true;
     return RefuseField("container", "This Location has exits. A container cannot have exits.");
+}
+
+bool ObjectScreen::MakesInside() {
+    if (makesInside_) return true;
+    const int highest = condacts::HighestRecord(store::AdventureKindOf(Adventure().AdventureType()));
+    if (condacts::IsSpecialPlace(Key().key) || Key().key > highest)
+        return RefuseField("container", "There is no location with this object number");
+    const std::string number = std::to_string(Key().key);
+    makesInside_ = context_.dialogs.Confirm(
+        "What a container holds lies in the location of its number. "
+        "There is no location " +
+            number + ". Make it?",
+        "New location");
+    return makesInside_ || KeepFocus("container");
+}
+
+std::string ObjectScreen::Inside() const {
+    if (!container) return "";
+    const std::string place = "location " + std::to_string(Key().key);
+    for (const ListItem& item : room.items) {
+        if (item.number != Key().key) continue;
+        return "What is in it lies in " + place + (item.text.empty() ? "." : ", " + item.text + ".");
+    }
+    return "What is in it lies in " + place + (makesInside_ ? ", which is made." : ", which is missing.");
 }
 
 bool ObjectScreen::ClickContainer() {
@@ -145,7 +240,8 @@ std::vector<std::string> ObjectScreen::Typed() const {
             room.text,
             container ? "C" : "",
             wearable ? "WR" : "",
-            weight};
+            weight,
+            newNoun};
 }
 
 /// A list without a chosen item, as for a word that the vocabulary has lost, stores "no word".
@@ -172,21 +268,42 @@ void ObjectScreen::StoreAttributes(store::Cursor& record) const {
     record.SetField("objweight", *text::WholeNumber(text::TrimBlanks(weight)));
 }
 
+void ObjectScreen::StoreNewNoun(store::Cursor& record) {
+    const int number = NumberOfNewNoun(Adventure()).value_or(condacts::kNoWordNumber);
+    record.SetField("objnumnoun", std::int64_t{number});
+    record.SetField("objnoun", newNoun);
+    AddNoun(Adventure(), newNoun, number);
+    condacts::RecompileEntries(Adventure());
+}
+
+void ObjectScreen::StoreInside() {
+    if (!container || !makesInside_ || HasRecord(Adventure(), TableNum::Locations, Key().key)) return;
+    AddPlace(Adventure(), Key().key,
+             "Inside " + BriefText(description, "object " + std::to_string(Key().key)));
+}
+
 bool ObjectScreen::Update() {
     if (!Changed()) return true;
     if (!LeaveDescription() || !LeaveInitialPlace() || !LeaveRoom()) return false;
     if (HasAttributes() && (!CheckContainer() || !LeaveWeight())) return false;
+    if (!LeaveNoun()) return false;
     Change change(context_.document, ChangeName());
     store::Cursor& record = RecordToStore(change);
     record.SetField("objdesc", ToStored(description));
-    StoreWord(record, noun, condacts::kNoun, "objnoun", "objnumnoun");
+    if (newNoun.empty())
+        StoreWord(record, noun, condacts::kNoun, "objnoun", "objnumnoun");
+    else
+        StoreNewNoun(record);
     StorePlace(record);
     if (HasAttributes() || Key().isNew) {
         StoreWord(record, adjective, condacts::kAdjective, "objadject", "objnumadject");
         StoreAttributes(record);
     }
     record.Update();
+    StoreInside();
+    if (!newNoun.empty()) change.Rename(ChangeName() + " with word " + newNoun);
     change.Commit();
+    if (!newNoun.empty()) ReadNextKeys(context_);
     return true;
 }
 

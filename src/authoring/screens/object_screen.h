@@ -20,6 +20,7 @@ class ObjectScreen final : public RecordScreen {
 
     std::string description;  ///< with "\n" for line ends
     DropList noun;            ///< nouns and reserved words, by number
+    std::string newNoun;      ///< in place of one of them: a word that is made with the object; "" for none
     DropList adjective;       ///< adjectives and reserved words
     std::optional<InitialPlace> initialPlace;
     ComboBox room;  ///< the locations; `text` is a number
@@ -31,11 +32,17 @@ class ObjectScreen final : public RecordScreen {
     /// controls are off, and what the record holds of them stays.
     bool HasAttributes() const { return !IsMarlo(); }
 
+    /// Proposes a noun for a new object that has none: a word of the description.
     bool LeaveDescription();
+    /// Checks a noun that is not there, after a question: Update makes it.
+    bool LeaveNoun();
     bool LeaveInitialPlace();
     bool LeaveRoom();
-    /// Checks that the object can be a container, which `container` loses when it can't.
+    /// Checks that the object can be a container, which `container` loses when it can't. Where the location
+    /// of its number is missing, which holds what is in it, Update makes it after a question.
     bool ClickContainer();
+    /// Which location holds what is in a container; "" while the object is none.
+    std::string Inside() const;
     bool LeaveWeight();
 
     bool Changed() const override { return Typed() != opened_; }
@@ -48,7 +55,12 @@ class ObjectScreen final : public RecordScreen {
   private:
     void ReadRecord();
     void ReadPlace(int place);
+    void ProposeNoun();
+    std::size_t LongestWord() const;
     bool CheckContainer();
+    bool MakesInside();
+    void StoreNewNoun(store::Cursor& record);
+    void StoreInside();
     int Place() const;
     std::vector<std::string> Typed() const;
     void StoreWord(store::Cursor& record, const DropList& list, int wordType, const char* wordField,
@@ -56,6 +68,9 @@ class ObjectScreen final : public RecordScreen {
     void StorePlace(store::Cursor& record) const;
     void StoreAttributes(store::Cursor& record) const;
 
+    std::string agreedNoun_;           ///< that the author wants to be made
+    bool proposed_ = false;            ///< a noun, which the author may have put back
+    bool makesInside_ = false;         ///< the author wants the location of the container to be made
     std::vector<std::string> opened_;  ///< what `Typed` gave at first
 };
 

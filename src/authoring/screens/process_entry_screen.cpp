@@ -37,6 +37,7 @@ ProcessEntryScreen::ProcessEntryScreen(ScreenContext& context, const ScreenReque
         Propose(request);
     else
         ReadEntry(Key().key);
+    help_.OfferNewMessage(NextMessage());
     openedType_ = process;
     opened_ = Typed();
 }
@@ -201,6 +202,7 @@ bool ProcessEntryScreen::Add() {
 }
 
 bool ProcessEntryScreen::LeaveLine() {
+    if (!TakeNames()) return false;
     line = text::UpperCase(line);
     const auto fault = condacts::ValidateCondActs(line, help_.Catalogue(), help_.Facts());
     return !fault || RefuseField("line", fault->message);
@@ -233,6 +235,7 @@ void ProcessEntryScreen::StoreWord(store::Cursor& record, const DropList& list, 
 void ProcessEntryScreen::Store(Change& change) {
     const auto table = text::WholeNumber(text::TrimBlanks(process)).value_or(0);
     AddDescription(static_cast<int>(table));
+    StoreNewMessages();
     store::Cursor& record = RecordToStore(change);
     record.SetField("estype", table);
     StoreWord(record, verb, "w1", "w1num");

@@ -41,8 +41,17 @@ class ProcessEntryScreen final : public RecordScreen {
     bool LeaveCondAct();
     bool LeaveParameter1();
     bool LeaveParameter2();
-    /// Puts the line into capitals and checks it.
+    /// Puts numbers in place of names that were typed, puts the line into capitals and checks it.
     bool LeaveLine();
+
+    /// A message that a name of the line is to be: from now on the line may print it, and Update adds it
+    /// if it does. The number that it will have; nullopt when it is refused.
+    std::optional<int> AddMessage(const std::string& text);
+
+    /// The record that a token of the line, or of the fields above it, names: at a place in bytes.
+    std::optional<NamedRecord> NamedInLine(std::size_t cursor) const;
+    std::optional<NamedRecord> NamedByParameter(std::size_t place) const;
+    std::optional<NamedRecord> NamedByWord(const DropList& list) const;
 
     /// Adds what was put together to the line.
     bool Add();
@@ -78,6 +87,11 @@ class ProcessEntryScreen final : public RecordScreen {
     std::string PutTogether() const;
     bool Check(std::string_view control, std::string_view condAct);
     bool AddPending();
+    std::optional<int> NextMessage() const;
+    bool TakeNames();
+    std::optional<std::string> NumberOf(const TypedName& name);
+    bool Prints(int message) const;
+    void StoreNewMessages();
     void Append(std::string_view condAct);
     void AddDescription(int process);
     void StoreWord(store::Cursor& record, const DropList& list, std::string_view wordField,
@@ -85,6 +99,7 @@ class ProcessEntryScreen final : public RecordScreen {
     void Store(Change& change);
 
     CondActHelp help_;
+    std::vector<ListItem> newMessages_;  ///< to be added, as far as the line prints them
     std::vector<VocabularyWord> words_;  ///< those that an entry may stand with
     std::vector<std::string> opened_;    ///< what `Typed` gave at first
     std::string openedType_;

@@ -25,7 +25,7 @@ struct Addition {
 const std::vector<Addition>& Additions() {
     static const std::vector<Addition> kAdditions = {
         {"Location", "Locations", "3", {{"description", "You are in the attic."}}, "location 3"},
-        {"Object", "Objects", "1", {{"description", "a coin"}, {"initialPlace2"}}, "object 1"},
+        {"Object", "Objects", "1", {{"description", "a lamp"}, {"initialPlace2"}}, "object 1"},
         {"Message", "Messages", "2", {{"text", "It is cold."}}, "message 2"},
         {"SystemMessage", "System Messages", "54", {{"text", "Go on."}}, "system message 54"},
         {"EntryOfResponse", "Response (P0)", "*", {{"line", "DONE"}}, "process entry 4"},

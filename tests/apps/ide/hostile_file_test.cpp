@@ -70,7 +70,8 @@ class HostileFile : public testing::TestWithParam<const char*> {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!dialog) return;
         dialog->grab();
-        if (auto* update = dialog->findChild<QPushButton*>("update")) update->click();
+        for (const char* button : {"update", "goOn"})
+            if (auto* update = dialog->findChild<QPushButton*>(button)) update->click();
         if (dialog->isVisible()) dialog->reject();
     }
 

@@ -214,6 +214,18 @@ TEST_F(MarkupEditTest, PreviewsTheTextAsTheGameShowsIt) {
     EXPECT_EQ(dark.charFormat().foreground().color(), QColor(230, 0, 0));
 }
 
+TEST_F(MarkupEditTest, APreviewThatIsNarrowerThanTheGameWrapsItsLinesEarlier) {
+    SetNumber("defprintwidth", 80);
+    std::string text;
+    for (int word = 0; word < 40; ++word)
+        text += "lighthouse ";
+    Open(text);
+    window_->resize(300, 500);
+    QApplication::processEvents();
+    EXPECT_GE(Preview()->document()->blockCount(), 10);
+    EXPECT_EQ(Preview()->horizontalScrollBar()->maximum(), 0);
+}
+
 TEST_F(MarkupEditTest, PreviewsWhileTyping) {
     Open("a");
     edit_->Field().moveCursor(QTextCursor::End);

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -320,6 +321,80 @@ TEST_F(ProcessEntryDialogTest, TheLineGivesWayBeforeAnythingHasToBeScrolled) {
     dialog_->resize(dialog_->width(), dialog_->height() - line_->height() + line_->minimumHeight() + 1);
     QApplication::processEvents();
     EXPECT_FALSE(bar->isVisible());
+}
+
+/// Names in place of numbers, by keys.
+class TypedNames : public ProcessEntryDialogTest {
+  protected:
+    void PressInList(int key) {
+        QTest::keyClick(QApplication::activePopupWidget(), static_cast<Qt::Key>(key));
+    }
+    std::vector<std::string> Messages() {
+        return desk_.Rows(TableNum::Messages, "msgnum, msgmsg", "", "msgnum");
+    }
+};
+
+TEST_F(TypedNames, BehindAQuoteTheRecordsAreOfferedAndTypingFiltersThem) {
+    desk_.Add(TableNum::Objects, {{"objnum", std::int64_t{1}}, {"objdesc", std::string("a red coat")}});
+    Reopen({.screen = authoring::Screen::ProcessEntry,
+            .key = screen_->Key(),
+            .table = TableNum::ProcessTables});
+    Type("PRESENT \"");
+    EXPECT_EQ(line_->Offered(), (QStringList{"0  a brass lamp", "1  a red coat"}));
+    Type("lam");
+    EXPECT_EQ(line_->Offered(), QStringList{"0  a brass lamp"});
+    QTest::keyClick(line_, Qt::Key_Tab);
+    EXPECT_EQ(Line(), "PRESENT 0 ");
+}
+
+TEST_F(TypedNames, BehindAnAtTheyAreOfferedTooAndEnterTakesOne) {
+    Type("PRESENT 0 GET @bra");
+    EXPECT_EQ(line_->Offered(), QStringList{"0  a brass lamp"});
+    PressInList(Qt::Key_Return);
+    EXPECT_EQ(Line(), "PRESENT 0 GET 0 ");
+    EXPECT_TRUE(dialog_->isVisible());
+}
+
+TEST_F(TypedNames, EscapeClosesTheListAndNothingElse) {
+    Type("PRESENT \"bra");
+    ASSERT_FALSE(line_->Offered().isEmpty());
+    PressInList(Qt::Key_Escape);
+    EXPECT_THAT(line_->Offered(), IsEmpty());
+    EXPECT_TRUE(dialog_->isVisible());
+    EXPECT_EQ(Line(), "PRESENT \"bra");
+}
+
+TEST_F(TypedNames, ANewTextBecomesAMessageWithItsEntryAndOneUndoTakesBothBack) {
+    Type("MESSAGE \"It snows.");
+    EXPECT_EQ(line_->Offered(), QStringList{"Add message 1: \u201CIt snows.\u201D"});
+    QTest::keyClick(line_, Qt::Key_Tab);
+    EXPECT_EQ(Line(), "MESSAGE 1 ");
+    EXPECT_EQ(Find<QListWidget>("explained")->item(0)->text().toStdString(),
+              "MESSAGE 1    \u201CIt snows.\u201D");
+    EXPECT_THAT(Messages(), ElementsAre("0|It is too dark."));
+    Type("DONE");
+    if (!line_->Offered().isEmpty()) PressInList(Qt::Key_Escape);
+    QTest::mouseClick(Find<QPushButton>("update"), Qt::LeftButton);
+    EXPECT_THAT(Entries(), ElementsAre("0|0|_|_|MESSAGE 1 DONE|250 1 265"));
+    EXPECT_THAT(Messages(), ElementsAre("0|It is too dark.", "1|It snows."));
+    desk_.document.Undo();
+    EXPECT_THAT(Entries(), IsEmpty());
+    EXPECT_THAT(Messages(), ElementsAre("0|It is too dark."));
+}
+
+TEST_F(TypedNames, ANewTextOfAnEntryThatIsDiscardedIsNotAdded) {
+    Type("MESSAGE \"It snows.");
+    QTest::keyClick(line_, Qt::Key_Tab);
+    desk_.dialogs.AnswerLeaving(platform::Leaving::Discard);
+    QTest::mouseClick(Find<QPushButton>("exit"), Qt::LeftButton);
+    EXPECT_THAT(Messages(), ElementsAre("0|It is too dark."));
+}
+
+TEST_F(TypedNames, AFaultInANewTextIsToldOnceAndTheTextStays) {
+    Type("MESSAGE \"<INK=99>snow");
+    QTest::keyClick(line_, Qt::Key_Tab);
+    EXPECT_EQ(desk_.Boxes().size(), 1U);
+    EXPECT_EQ(Line(), "MESSAGE \"<INK=99>snow");
 }
 
 }  // namespace

@@ -221,9 +221,34 @@ TEST_F(RecordDialogs, AContainerThatIsRefusedIsNotTicked) {
     ObjectDialog dialog(screen);
     Open(dialog);
     auto* container = Find<QCheckBox>(dialog, "container");
+    boxes_.AnswerNext(false);
     container->click();
-    EXPECT_EQ(boxes_.Boxes().at(0).text, "There is no location with this object number");
+    EXPECT_EQ(
+        boxes_.Boxes().at(0).text,
+        "What a container holds lies in the location of its number. There is no location 5. Make it?");
     EXPECT_FALSE(container->isChecked());
+    EXPECT_FALSE(Find<QLabel>(dialog, "inside")->isVisible());
+    boxes_.AnswerNext(true);
+    container->click();
+    EXPECT_TRUE(container->isChecked());
+    EXPECT_EQ(Find<QLabel>(dialog, "inside")->text(), "What is in it lies in location 5, which is made.");
+}
+
+TEST_F(RecordDialogs, ANewObjectIsOfferedItsNounAndAWordThatIsNotThereIsMadeWithIt) {
+    authoring::ObjectScreen screen(context_, {5, true});
+    ObjectDialog dialog(screen);
+    Open(dialog);
+    QTest::keyClicks(QApplication::focusWidget(), "a rusty trowel");
+    Find<QRadioButton>(dialog, "initialPlace2")->click();
+    Find<QRadioButton>(dialog, "initialPlace2")->setFocus();
+    QApplication::processEvents();
+    EXPECT_EQ(Find<QComboBox>(dialog, "noun")->currentText(), "TROWEL");
+    EXPECT_TRUE(boxes_.Boxes().empty());
+    boxes_.AnswerNext(true);
+    Find<QPushButton>(dialog, "update")->click();
+    EXPECT_EQ(boxes_.Boxes().at(0).text, "There is no noun TROWEL. Make it?");
+    EXPECT_EQ(Stored(TableNum::Objects, "objnoun", "objnum=5"), "TROWEL");
+    EXPECT_EQ(Stored(TableNum::Vocabulary, "voctype", "word='TROWEL'"), "Noun");
 }
 
 TEST_F(RecordDialogs, AWordIsAddedWithTheNumberThatItsTypeProposes) {

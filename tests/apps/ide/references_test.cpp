@@ -4,10 +4,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -32,9 +34,18 @@ class References : public testing::TestWithParam<qt::Theme> {
         GameBuilder game;
         game.Message(0, "You lower the wick.").Message(1, "It is dark.");
         game.Entry(0, "DO", "_", "MESSAGE 0 DONE").Entry(0, "DO", "_", "MESSAGE 1");
+        game.Object(0, {.description = "a lamp", .place = 0});
         window_.Open(game);
         window_.ChooseNode("Messages");
         window_.Logic().SelectRow(0);
+    }
+
+    /// A dialog that has closed gives the keyboard back once its events are done.
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QApplication::setActiveWindow(&window_.Window());
+        QApplication::processEvents();
+        window_.Press(key, modifiers);
+        QApplication::processEvents();
     }
 
     QListWidget& Uses() { return window_.Part<QListWidget>("UsesList"); }
@@ -79,6 +90,160 @@ TEST_P(References, ThePaletteDoesACommandByAPartOfItsName) {
     });
     window_.Press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(Uses().isVisible());
+}
+
+/// Does something in the dialog that opens next.
+void InNextDialog(const char* name, const std::function<void(QDialog&)>& steps) {
+    QTimer::singleShot(0, [=] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr) << name;
+        EXPECT_EQ(qt::FromQt(dialog->objectName()), name);
+        QApplication::processEvents();
+        steps(*dialog);
+    });
+}
+
+TEST_P(References, DeleteShowsTheUsesFirstAndEnterGoesThere) {
+    InNextDialog("DeletionDialog", [](QDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QLabel*>("deletionTitle")->text(), "message 0: 1 use");
+        EXPECT_EQ(dialog.findChild<QLabel*>("deletionSummary")->text(),
+                  "They stay, and name what is not there any more.");
+        auto* list = dialog.findChild<QListWidget*>("deletionUses");
+        ASSERT_EQ(list->count(), 1);
+        EXPECT_TRUE(list->item(0)->text().endsWith(": MESSAGE 0"));
+        EXPECT_EQ(dialog.focusWidget(), list);
+        QTest::keyClick(list, Qt::Key_Return);
+    });
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::ProcessTables);
+    EXPECT_TRUE(window_.dialogs.Boxes().empty());
+    Press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(window_.Cell(0, 1), "You lower the wick.");
+}
+
+TEST_P(References, DeleteGoesOnToItsQuestionAndTellsWhatIsLeft) {
+    const std::size_t boxes = window_.dialogs.Boxes().size();
+    InNextDialog("DeletionDialog",
+                 [](QDialog& dialog) { dialog.findChild<QPushButton*>("goOn")->click(); });
+    window_.dialogs.AnswerNext(true);
+    Press(Qt::Key_Delete);
+    ASSERT_EQ(window_.dialogs.Boxes().size(), boxes + 1);
+    EXPECT_EQ(window_.dialogs.Boxes().back().text, "Are you sure you want to delete Messages 0 ?");
+    EXPECT_EQ(window_.Cell(0, 1), "It is dark.");
+    EXPECT_EQ(window_.Part<QLabel>("status").text(), "Done: delete message 0. 1 place names it still.");
+}
+
+TEST_P(References, DeleteThatIsCancelledAtTheUsesAsksNothing) {
+    const std::size_t boxes = window_.dialogs.Boxes().size();
+    InNextDialog("DeletionDialog", [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(window_.dialogs.Boxes().size(), boxes);
+    EXPECT_EQ(window_.Cell(0, 1), "You lower the wick.");
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::Messages);
+}
+
+TEST_P(References, DeleteOfWhatNothingUsesAsksItsQuestionOnly) {
+    window_.ChooseNode("Objects");
+    window_.Logic().SelectRow(0);
+    window_.dialogs.AnswerNext(true);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(window_.dialogs.Boxes().back().text, "Are you sure you want to delete Objects 0 ?");
+    EXPECT_EQ(window_.Part<QLabel>("status").text(), "Done: delete object 0");
+}
+
+/// Puts the cursor behind the first letters of the line of conditions.
+QPlainTextEdit* CursorInLine(QWidget& window, int position) {
+    auto* line = window.findChild<QPlainTextEdit*>("line");
+    line->setFocus();
+    QTextCursor cursor = line->textCursor();
+    cursor.setPosition(position);
+    line->setTextCursor(cursor);
+    return line;
+}
+
+TEST_P(References, F12InADialogGoesToWhatTheTokenAtTheCursorNames) {
+    window_.ChooseNode("Response (P0)");
+    window_.Logic().SelectRow(1);
+    InNextDialog("ProcessEntryScreen", [](QDialog& dialog) {
+        QTest::keyClick(CursorInLine(dialog, 9), Qt::Key_F12);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    Press(Qt::Key_Return);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::Messages);
+    EXPECT_EQ(window_.Logic().CurrentRow(), 1);
+    Press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::ProcessTables);
+    EXPECT_EQ(window_.Logic().CurrentRow(), 1);
+}
+
+TEST_P(References, F12InADialogWithChangesAsksAsItsExitDoes) {
+    window_.ChooseNode("Response (P0)");
+    window_.Logic().SelectRow(1);
+    window_.dialogs.AnswerLeaving(platform::Leaving::KeepEditing);
+    window_.dialogs.AnswerLeaving(platform::Leaving::Store);
+    InNextDialog("ProcessEntryScreen", [this](QDialog& dialog) {
+        QPlainTextEdit* line = CursorInLine(dialog, 9);
+        line->setPlainText("MESSAGE 1 DONE");
+        CursorInLine(dialog, 9);
+        QTest::keyClick(line, Qt::Key_F12);
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(window_.dialogs.Boxes().back().text, "What was changed here is not stored yet.");
+        QTest::keyClick(line, Qt::Key_F12);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    Press(Qt::Key_Return);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::Messages);
+    Press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(window_.Cell(1, 4), "MESSAGE 1 DONE");
+}
+
+TEST_P(References, ShiftF12InADialogListsTheUsesOfTheTokenAndStaysUntilOneIsChosen) {
+    window_.ChooseNode("Response (P0)");
+    window_.Logic().SelectRow(1);
+    InNextDialog("ProcessEntryScreen", [](QDialog& dialog) {
+        QPlainTextEdit* line = CursorInLine(dialog, 9);
+        InNextDialog("QuickListDialog", [](QDialog& uses) {
+            EXPECT_EQ(uses.windowTitle(), "Uses of message 1");
+            EXPECT_EQ(uses.findChild<QListWidget*>("QuickList")->count(), 1);
+            QTest::keyClick(&uses, Qt::Key_Escape);
+        });
+        QTest::keyClick(line, Qt::Key_F12, Qt::ShiftModifier);
+        EXPECT_TRUE(dialog.isVisible());
+        InNextDialog("QuickListDialog", [](QDialog& uses) {
+            QTest::keyClick(uses.findChild<QLineEdit*>("QuickLine"), Qt::Key_Return);
+        });
+        QTest::keyClick(line, Qt::Key_F12, Qt::ShiftModifier);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    Press(Qt::Key_Return);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::ProcessTables);
+    EXPECT_EQ(window_.Logic().CurrentRow(), 1);
+}
+
+TEST_P(References, F12InTheRecordBesideTheRowsStoresItAndGoesToTheToken) {
+    window_.ChooseNode("Response (P0)");
+    window_.Logic().SelectRow(1);
+    Press(Qt::Key_F9);
+    QPlainTextEdit* line = CursorInLine(window_.Window(), 9);
+    line->setPlainText("MESSAGE 1 DONE");
+    CursorInLine(window_.Window(), 9);
+    Press(Qt::Key_F12);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::Messages);
+    EXPECT_EQ(window_.Logic().CurrentRow(), 1);
+    EXPECT_EQ(window_.Part<QPlainTextEdit>("text").toPlainText(), "It is dark.");
+    Press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(window_.Cell(1, 4), "MESSAGE 1 DONE");
+}
+
+TEST_P(References, F12OfANumberWithoutARecordTellsSo) {
+    window_.ChooseNode("Response (P0)");
+    window_.Logic().SelectRow(1);
+    Press(Qt::Key_F9);
+    CursorInLine(window_.Window(), 9)->setPlainText("MESSAGE 77");
+    CursorInLine(window_.Window(), 9);
+    Press(Qt::Key_F12);
+    EXPECT_EQ(window_.dialogs.Boxes().back().text, "There is no message 77.");
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::ProcessTables);
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, References, testing::Values(qt::Theme::Light, qt::Theme::Dark));

@@ -16,7 +16,7 @@ TEST_F(ViewsTest, OfANodeIsItsTable) {
     OpenNew();
     main->ShowNode(2);
     EXPECT_EQ(main->Grid().View(), TableView{TableNum::Locations});
-    EXPECT_EQ(main->TableStatus(), "Locations - 1 records");
+    EXPECT_EQ(main->TableStatus(), "Locations - 1 record");
     EXPECT_EQ(main->CurrentNode()->name, "Locations");
     main->ShowNode(9);
     EXPECT_EQ(main->CurrentNode()->name, "Response (P0)");

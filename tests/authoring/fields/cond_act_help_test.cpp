@@ -383,5 +383,83 @@ TEST(Page, IsNoneWhereThereIsNoName) {
     EXPECT_EQ(help->Page("DONE ", 5), "");
 }
 
+TEST(TypedNames, OfferTheRecordsOfTheParameterByTheirText) {
+    HelpOf help;
+    EXPECT_THAT(help.Offered("PRESENT \"|"), ElementsAre("0  a brass lamp", "1  a box"));
+    EXPECT_THAT(help.Offered("PRESENT \"bra|"), ElementsAre("0  a brass lamp"));
+    EXPECT_THAT(help.Offered("PRESENT @LAM|"), ElementsAre("0  a brass lamp"));
+    EXPECT_THAT(help.Offered("AT @cel| DONE"), ElementsAre("1  The cellar"));
+    EXPECT_THAT(help.Offered("PRESENT \"amp|"), IsEmpty());
+    EXPECT_THAT(help.Offered("MESSAGE \"too dark|\" DONE"), ElementsAre("1  It is too dark."));
+}
+
+TEST(TypedNames, OfferOnlyWhatPassesTheChecksAtThePlace) {
+    HelpOf help;
+    EXPECT_THAT(help.Offered("PUTIN 0 \"|"), ElementsAre("1  The cellar"));
+    EXPECT_THAT(help.Offered("PLACE \"a b|"), ElementsAre("0  a brass lamp", "1  a box"));
+}
+
+TEST(TypedNames, OfferFlagsAndProcessTablesByTheirDescriptions) {
+    HelpOf help;
+    help.GameDesk().Add(TableNum::ProcDesc,
+                        {{"pmsgnum", std::int64_t{7}}, {"pmsgmsg", std::string("The tide rises")}});
+    help.Reload();
+    EXPECT_THAT(help.Offered("PROCESS @tide|"), ElementsAre("7  The tide rises"));
+    EXPECT_THAT(help.Offered("SET \"no such flag|"), IsEmpty());
+}
+
+TEST(TypedNames, OfferToAddAMessageThatIsNotThere) {
+    HelpOf help;
+    EXPECT_THAT(help.Offered("MESSAGE \"It snows|"), IsEmpty());
+    help->OfferNewMessage(3);
+    EXPECT_THAT(help.Offered("MESSAGE \"It snows|"), ElementsAre("Add message 3: \u201CIt snows\u201D"));
+    EXPECT_THAT(help.Offered("MESSAGE \"It|"),
+                ElementsAre("1  It is too dark.", "Add message 3: \u201CIt\u201D"));
+    EXPECT_THAT(help.Offered("MESSAGE \"welcome!\"|"), ElementsAre("0  Welcome!"));
+    EXPECT_THAT(help.Offered("MESSAGE @snow|"), IsEmpty());
+    EXPECT_THAT(help.Offered("SYSMESS \"It snows|"), IsEmpty());
+    EXPECT_THAT(help.Offered("MESSAGE \"|"), Not(Contains("Add message 3: \u201C\u201D")));
+}
+
+TEST(TypedNames, AreReplacedWithTheirQuotes) {
+    HelpOf help;
+    const std::string line = "PRESENT \"brass lamp\" DONE";
+    const Completions found = help->Complete(line, 20);
+    EXPECT_EQ(found.begin, 8U);
+    EXPECT_EQ(found.end, 20U);
+    ASSERT_EQ(found.items.size(), 1U);
+    EXPECT_EQ(found.items.front().insert, "0");
+    // The rest of a line is no part of a name that is not closed yet.
+    EXPECT_EQ(help->Complete("PRESENT \"bra DONE", 12).end, 12U);
+}
+
+TEST(TypedNames, AreAFaultUntilARecordIsChosen) {
+    HelpOf help;
+    EXPECT_EQ(help->FirstFault("PRESENT \"brass lamp\" DONE"), (MarkedFault{"Choose an object", 8, 20}));
+    EXPECT_EQ(help->FirstFaultWhileTyping("PRESENT \"brass la", 17), std::nullopt);
+}
+
+TEST(TypedNames, AreNoneWhereAPlainNumberOrANameOfACondactStands) {
+    HelpOf help;
+    EXPECT_EQ(help->FirstName("\"lamp\""), std::nullopt);
+    EXPECT_EQ(help->FirstName("CHANCE \"lamp\""), std::nullopt);
+    EXPECT_EQ(help->FirstName("PRESENT 0 DONE"), std::nullopt);
+}
+
+TEST(NamedByALine, IsTheRecordOfTheTokenAtTheCursor) {
+    HelpOf help;
+    help.GameDesk().AddWord(500, "GENTLY", 40, 1);
+    help.Reload();
+    const auto named = [&](const char* line, std::size_t cursor) {
+        return help->Named(help.GameDesk().Adventure(), line, cursor);
+    };
+    EXPECT_EQ(named("AT 1 MESSAGE 2", 4), (NamedRecord{TableNum::Locations, 1}));
+    EXPECT_EQ(named("AT 1 MESSAGE 2", 14), (NamedRecord{TableNum::Messages, 2}));
+    EXPECT_EQ(named("AT 1 MESSAGE 2", 7), std::nullopt);
+    EXPECT_EQ(named("PLACE 0 CARRIED", 12), std::nullopt);
+    EXPECT_EQ(named("ADVERB gently", 9), (NamedRecord{TableNum::Vocabulary, 500}));
+    EXPECT_EQ(named("CHANCE 50", 8), std::nullopt);
+}
+
 }  // namespace
 }  // namespace fabula::authoring

@@ -133,8 +133,27 @@ TEST_F(InterchangeScreenTest, BlankSourceIsRefused) {
 
 TEST_F(InterchangeScreenTest, BlankTargetOfAnExportIsRefused) {
     InterchangeScreen screen = Screen(JobMode::Export);
+    screen.source = "  ";
     EXPECT_FALSE(screen.RunJob());
     EXPECT_EQ(dialogs_.Boxes().at(0).text, "Source File not specified");
+}
+
+TEST_F(InterchangeScreenTest, AnExportProposesTheAdventuresNameWithTheExtensionOfTheKind) {
+    InterchangeScreen screen = Screen(JobMode::Export);
+    screen.ChooseKind(Option(screen, "PCVEL"));
+    EXPECT_EQ(screen.source, "game.sce");
+    screen.ChooseKind(Option(screen, "Fabula"));
+    EXPECT_EQ(screen.source, "game.ext");
+    screen.source = "mine.txt";
+    screen.ChooseKind(Option(screen, "PCVEL"));
+    EXPECT_EQ(screen.source, "mine.txt");
+}
+
+TEST_F(InterchangeScreenTest, AnExportUnderTheProposedNameLiesBesideTheAdventure) {
+    InterchangeScreen screen = Screen(JobMode::Export);
+    screen.ChooseKind(Option(screen, "Fabula"));
+    EXPECT_TRUE(screen.RunJob());
+    EXPECT_TRUE(std::filesystem::exists(In("game.ext")));
 }
 
 TEST_F(InterchangeScreenTest, SourceOfEachKindIsAskedForInItsOwnDialog) {

@@ -558,5 +558,15 @@ TEST_F(LocationScreenTest, WithoutAPictureAllItsFieldsAreCleared) {
     EXPECT_EQ(PictureBytes(3), "none");
 }
 
+TEST_F(LocationScreenTest, AnExitMayBeTypedAsItsWordAndThePlace) {
+    LocationScreen screen = Open(3);
+    screen.exitWord.text = " north  Room 4 ";
+    EXPECT_TRUE(screen.Add());
+    EXPECT_EQ(screen.exits, "north 4");
+    screen.exitWord.text = "climb 5";
+    EXPECT_TRUE(screen.Update());
+    EXPECT_EQ(Stored(3, "exits"), "NORTH 4 CLIMB 5");
+}
+
 }  // namespace
 }  // namespace fabula::authoring

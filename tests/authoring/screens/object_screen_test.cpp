@@ -131,9 +131,122 @@ TEST_F(ObjectScreenTest, AContainerNumbered7NeedsLocation7) {
     desk_.Adventure().DeleteFrom(TableNum::Locations, "locnum=7");
     ObjectScreen screen = OpenNew(7);
     screen.container = true;
+    desk_.dialogs.AnswerNext(false);
+    EXPECT_FALSE(screen.ClickContainer());
+    EXPECT_THAT(desk_.Boxes(),
+                ElementsAre("What a container holds lies in the location of its number. There "
+                            "is no location 7. Make it?"));
+    EXPECT_FALSE(screen.container);
+}
+
+TEST_F(ObjectScreenTest, TheLocationOfAContainerIsMadeWithItInOneStepOfUndo) {
+    desk_.Adventure().DeleteFrom(TableNum::Locations, "locnum=7");
+    const auto before = desk_.Everything();
+    ObjectScreen screen = OpenNew(7);
+    screen.description = "a tin box";
+    screen.initialPlace = InitialPlace::Carried;
+    screen.noun.ChooseText("LAMP");
+    screen.container = true;
+    desk_.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.ClickContainer());
+    EXPECT_EQ(screen.Inside(), "What is in it lies in location 7, which is made.");
+    EXPECT_EQ(desk_.Everything(), before);
+    EXPECT_TRUE(screen.Update());
+    EXPECT_THAT(desk_.Rows(TableNum::Locations, "locshortdesc, numexits", "locnum=7"),
+                ElementsAre("Inside a tin box|0"));
+    EXPECT_EQ(Stored(7, "objattr"), "C");
+    EXPECT_EQ(desk_.Boxes().size(), 1U);
+    desk_.document.Undo();
+    EXPECT_EQ(desk_.Everything(), before);
+}
+
+TEST_F(ObjectScreenTest, TellsWhichLocationHoldsWhatIsInAContainer) {
+    ObjectScreen screen = OpenNew(7);
+    EXPECT_EQ(screen.Inside(), "");
+    screen.container = true;
+    EXPECT_EQ(screen.Inside(), "What is in it lies in location 7.");
+}
+
+TEST_F(ObjectScreenTest, AContainerWithTheNumberOfAPlaceThatIsNoRoomIsRefused) {
+    ObjectScreen screen = OpenNew(254);
+    screen.container = true;
     EXPECT_FALSE(screen.ClickContainer());
     EXPECT_THAT(desk_.Boxes(), ElementsAre("There is no location with this object number"));
-    EXPECT_FALSE(screen.container);
+}
+
+TEST_F(ObjectScreenTest, ProposesANounOfTheVocabularyThatTheDescriptionNames) {
+    ObjectScreen screen = OpenNew();
+    screen.description = "a lamp made of copper";
+    EXPECT_TRUE(screen.LeaveDescription());
+    ASSERT_NE(screen.noun.Chosen(), nullptr);
+    EXPECT_EQ(screen.noun.Chosen()->text, "LAMP");
+    EXPECT_EQ(screen.newNoun, "");
+    // Who puts it back is not asked twice.
+    screen.noun.ChooseText("_");
+    EXPECT_TRUE(screen.LeaveDescription());
+    EXPECT_EQ(screen.noun.Chosen()->text, "_");
+}
+
+TEST_F(ObjectScreenTest, ProposesTheLastWordOfTheDescriptionWhereThereIsNoSuchNoun) {
+    ObjectScreen screen = OpenNew();
+    screen.description = "a heavy iron key, rusty";
+    EXPECT_TRUE(screen.LeaveDescription());
+    EXPECT_EQ(screen.newNoun, "KEY");
+}
+
+TEST_F(ObjectScreenTest, ProposesNothingForAnObjectThatIsThere) {
+    ObjectScreen screen = Open();
+    screen.noun.ChooseText("_");
+    screen.description = "a key";
+    EXPECT_TRUE(screen.LeaveDescription());
+    EXPECT_EQ(screen.newNoun, "");
+}
+
+TEST_F(ObjectScreenTest, ANewNounIsMadeWithItsObjectInOneStepOfUndo) {
+    const auto before = desk_.Everything();
+    ObjectScreen screen = OpenNew();
+    screen.description = "a key";
+    screen.initialPlace = InitialPlace::Carried;
+    desk_.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.Update());
+    EXPECT_THAT(desk_.Boxes(), ElementsAre("There is no noun KEY. Make it?"));
+    EXPECT_EQ(Stored(4, "objnoun, objnumnoun"), "KEY|51");
+    EXPECT_THAT(desk_.Rows(TableNum::Vocabulary, "word, vocnum, voctypen, voctype", "word='KEY'"),
+                ElementsAre("KEY|51|2|Noun"));
+    EXPECT_EQ(desk_.document.UndoName(), "add object 4 with word KEY");
+    desk_.document.Undo();
+    EXPECT_EQ(desk_.Everything(), before);
+}
+
+TEST_F(ObjectScreenTest, ANounThatIsNotToBeMadeLeavesTheObjectWithoutOne) {
+    ObjectScreen screen = OpenNew();
+    screen.description = "a key";
+    screen.initialPlace = InitialPlace::Carried;
+    desk_.dialogs.AnswerNext(false);
+    EXPECT_FALSE(screen.Update());
+    EXPECT_EQ(screen.Refused(), "noun");
+    EXPECT_TRUE(screen.Update());
+    EXPECT_EQ(Stored(4, "objnoun, objnumnoun"), "_|255");
+    EXPECT_EQ(desk_.Boxes().size(), 1U);
+}
+
+TEST_F(ObjectScreenTest, ANewNounIsCheckedLikeAnyWord) {
+    ObjectScreen screen = OpenNew();
+    screen.newNoun = "tin box";
+    EXPECT_FALSE(screen.LeaveNoun());
+    EXPECT_THAT(desk_.Boxes(), ElementsAre("The word cannot hold spaces"));
+    screen.newNoun = " lamp ";
+    EXPECT_TRUE(screen.LeaveNoun());
+    EXPECT_EQ(screen.noun.Chosen()->text, "LAMP");
+    EXPECT_EQ(desk_.Boxes().size(), 1U);
+}
+
+TEST_F(MarloObjectScreenTest, ANewNounHasFourLettersAndNoNumberOfADirection) {
+    ObjectScreen screen = OpenNew();
+    screen.newNoun = "lantern";
+    desk_.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.LeaveNoun());
+    EXPECT_EQ(screen.newNoun, "LANT");
 }
 
 TEST_F(ObjectScreenTest, AContainerNeedsALocationWithoutExits) {
@@ -198,6 +311,9 @@ TEST_F(ObjectScreenTest, UpdateChecksTheFieldsInTheirOrder) {
     screen.Update();
     EXPECT_EQ(screen.Refused(), "weight");
     screen.weight = "3";
+    desk_.dialogs.AnswerNext(false);
+    screen.Update();
+    EXPECT_EQ(screen.Refused(), "noun");
     EXPECT_TRUE(screen.Update());
 }
 
@@ -277,7 +393,7 @@ TEST_F(MarloObjectScreenTest, DoesNotUseWeightAdjectiveAndAttributes) {
 
 TEST_F(MarloObjectScreenTest, GivesANewObjectTheUsualOnes) {
     ObjectScreen screen = OpenNew();
-    screen.description = "a coin";
+    screen.description = "a lamp";
     screen.initialPlace = InitialPlace::NotCreated;
     EXPECT_TRUE(screen.Update());
     EXPECT_EQ(Stored(4, "objadject, objnumadject, objweight, objattrn, objattr"), "_|255|1|0|");

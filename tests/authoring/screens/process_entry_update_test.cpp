@@ -211,5 +211,95 @@ TEST(AddBeforeWithItsScreen, IsOneStepThatPutsTheNewEntryFirst) {
     EXPECT_EQ(game.desk.Everything(), before);
 }
 
+std::vector<std::string> Messages(CondActScreen& game) {
+    return game.desk.Rows(TableNum::Messages, "msgnum, msgmsg", "msgnum>2", "msgnum");
+}
+
+TEST(NamesInALine, BecomeNumbersWhenTheLineIsLeft) {
+    CondActScreen game;
+    game.desk.Add(TableNum::Objects,
+                  {{"objnum", std::int64_t{2}}, {"objdesc", std::string("a brass lamp")}});
+    ProcessEntryScreen screen(game.desk.context, New(game.desk));
+    screen.line = "present \"a brass lamp\" get @brass prep \"";
+    EXPECT_FALSE(screen.LeaveLine());
+    screen.line = "present \"a brass lamp\" get @brass done";
+    EXPECT_TRUE(screen.LeaveLine());
+    EXPECT_EQ(screen.line, "PRESENT 2 GET 2 DONE");
+}
+
+TEST(NamesInALine, ThatNobodyHasOrMoreThanOneAreRefused) {
+    CondActScreen game;
+    game.desk.Add(TableNum::Objects, {{"objnum", std::int64_t{2}}, {"objdesc", std::string("a red lamp")}});
+    game.desk.Add(TableNum::Objects,
+                  {{"objnum", std::int64_t{3}}, {"objdesc", std::string("a green lamp")}});
+    EXPECT_EQ(game.Left("GET \"lantern\" DONE"), "There is no lantern");
+    EXPECT_EQ(game.Left("GET \"lamp\" DONE"), "More than one is called lamp");
+}
+
+TEST(NewMessage, ComesWithItsEntryInOneStepOfUndo) {
+    CondActScreen game;
+    const auto before = game.desk.Everything();
+    ProcessEntryScreen screen(game.desk.context, New(game.desk));
+    EXPECT_EQ(screen.AddMessage("It snows."), 3);
+    EXPECT_EQ(screen.AddMessage("It thaws."), 4);
+    screen.line = "MESSAGE 3 MESSAGE 4 DONE";
+    EXPECT_EQ(game.desk.Everything(), before);
+    EXPECT_TRUE(screen.Update());
+    EXPECT_THAT(Messages(game), ElementsAre("3|It snows.", "4|It thaws."));
+    EXPECT_EQ(game.desk.document.UndoName(), "add process entry 0");
+    game.desk.document.Undo();
+    EXPECT_EQ(game.desk.Everything(), before);
+    EXPECT_EQ(game.desk.document.UndoName(), std::nullopt);
+}
+
+TEST(NewMessage, ThatTheLineDoesNotPrintInTheEndIsNotAdded) {
+    CondActScreen game;
+    ProcessEntryScreen screen(game.desk.context, New(game.desk));
+    EXPECT_EQ(screen.AddMessage("It snows."), 3);
+    screen.line = "DONE";
+    EXPECT_TRUE(screen.Update());
+    EXPECT_THAT(Messages(game), IsEmpty());
+}
+
+TEST(NewMessage, OfAScreenThatIsLeftIsNotAdded) {
+    CondActScreen game;
+    {
+        ProcessEntryScreen screen(game.desk.context, New(game.desk));
+        screen.AddMessage("It snows.");
+        screen.line = "MESSAGE 3";
+    }
+    EXPECT_THAT(Messages(game), IsEmpty());
+    EXPECT_EQ(game.desk.document.UndoName(), std::nullopt);
+}
+
+TEST(NewMessage, ThatWasTypedOutIsAddedAfterAQuestion) {
+    CondActScreen game;
+    ProcessEntryScreen screen(game.desk.context, New(game.desk));
+    screen.line = "MESSAGE \"It snows.\" DONE";
+    game.desk.dialogs.AnswerNext(false);
+    EXPECT_FALSE(screen.Update());
+    EXPECT_EQ(game.Box(), "There is no message \u201CIt snows.\u201D. Add it?");
+    game.desk.dialogs.AnswerNext(true);
+    EXPECT_TRUE(screen.Update());
+    EXPECT_THAT(game.Entries(), ElementsAre("0|0|_|255|_|255|MESSAGE 3 DONE|250 3 265|3"));
+    EXPECT_THAT(Messages(game), ElementsAre("3|It snows."));
+}
+
+TEST(NewMessage, WithAFaultInItsTextIsRefused) {
+    CondActScreen game;
+    ProcessEntryScreen screen(game.desk.context, New(game.desk));
+    EXPECT_EQ(screen.AddMessage("<INK=99>snow"), std::nullopt);
+    EXPECT_EQ(game.desk.Boxes().size(), 1U);
+}
+
+TEST(NewMessage, BeyondTheLastNumberIsRefused) {
+    CondActScreen game(AdventureKind::Vel);
+    game.desk.Clear(TableNum::Messages);
+    game.desk.FillUp(TableNum::Messages, 256);
+    ProcessEntryScreen screen(game.desk.context, New(game.desk));
+    EXPECT_EQ(screen.AddMessage("It snows."), std::nullopt);
+    EXPECT_EQ(game.Box(), "You have reached the maximum of 255 messages");
+}
+
 }  // namespace
 }  // namespace fabula::authoring

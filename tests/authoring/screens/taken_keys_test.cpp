@@ -50,6 +50,7 @@ TEST_F(TakenKeys, AnObjectGetsTheNextNumber) {
     ObjectScreen screen(desk_.context, {.key = 0, .isNew = true});
     screen.description = "my lamp";
     screen.initialPlace = InitialPlace::Carried;
+    desk_.dialogs.AnswerNext(true);
     Elsewhere("INSERT INTO Objects(objnum, objdesc) VALUES(0, 'their lamp')");
     ASSERT_TRUE(screen.Update()) << testing::PrintToString(desk_.Boxes());
     EXPECT_EQ(desk_.Rows(TableNum::Objects, "objnum, objdesc"),

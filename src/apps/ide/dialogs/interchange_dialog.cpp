@@ -131,7 +131,10 @@ void InterchangeDialog::AddKinds(QFormLayout& form) {
         button->setAccessibleDescription(qt::Translated(option.why));
         button->setChecked(option.kind && screen_.ChosenKind() == i);
         TabToChosen(*button);
-        QObject::connect(button, &QRadioButton::clicked, this, [this, i] { screen_.ChooseKind(i); });
+        QObject::connect(button, &QRadioButton::clicked, this, [this, i] {
+            screen_.ChooseKind(i);
+            Show();
+        });
         list->addWidget(button);
         kinds_.push_back(button);
     }

@@ -213,6 +213,27 @@ void LocationDialog::AddNeighbours() {
     list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
     list->setMaximumHeight(5 * list->fontMetrics().lineSpacing());
     AddControl(tr("Leads &here:"), list, "leadsHere");
+    neighbours_ = list;
+}
+
+std::optional<authoring::NamedRecord> LocationDialog::NamedAtCursor() {
+    using authoring::NamedByNumber;
+    Read();
+    const QWidget* const at = focusWidget();
+    if (at == word_) return screen_.NamedWordOf(screen_.exitWord.text);
+    if (at == location_) return NamedByNumber(store::TableNum::Locations, screen_.exitPlace.text);
+    if (at == exits_)
+        return screen_.NamedInExits(qt::FromQt(exits_->text().left(exits_->cursorPosition())).size());
+    if (at == neighbours_) {
+        const int row = neighbours_->currentRow();
+        if (row < 0 || row >= static_cast<int>(screen_.LeadsHere().size())) return std::nullopt;
+        return authoring::NamedRecord{store::TableNum::Locations,
+                                      screen_.LeadsHere()[static_cast<std::size_t>(row)].location};
+    }
+    const QTableWidgetItem* cell = at == rows_ ? rows_->currentItem() : nullptr;
+    if (cell == nullptr) return std::nullopt;
+    if (cell->column() == kWord) return screen_.NamedWordOf(qt::FromQt(cell->text()));
+    return NamedByNumber(store::TableNum::Locations, qt::FromQt(rows_->item(cell->row(), kTo)->text()));
 }
 
 void LocationDialog::AddExit() {

@@ -9,6 +9,7 @@
 
 class QCheckBox;
 class QLineEdit;
+class QListWidget;
 class QTableWidget;
 
 namespace fabula::ide {
@@ -20,6 +21,8 @@ class LocationDialog final : public RecordDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit LocationDialog(authoring::LocationScreen& screen, QWidget* parent = nullptr);
+
+    std::optional<authoring::NamedRecord> NamedAtCursor() override;
 
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -43,6 +46,7 @@ class LocationDialog final : public RecordDialog {
     MarkupEdit* shortDescription_;
     MarkupEdit* description_;
     QTableWidget* rows_;
+    QListWidget* neighbours_ = nullptr;
     QComboBox* word_;
     QComboBox* location_;
     QCheckBox* andBack_;

@@ -4,11 +4,13 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "condacts/words.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -19,6 +21,22 @@ using authoring::InitialPlace;
 /// In the order of InitialPlace.
 constexpr const char* kPlaces[] = {"&Not created", "&Worn", "&Carried", "In a &room"};
 
+/// What the field of the noun shows.
+QString TextOf(const authoring::ListItem* word) {
+    const bool none = word == nullptr || word->number == condacts::kNoWordNumber;
+    return none ? QString() : qt::ToQt(word->text);
+}
+
+/// The nouns, in which a new one may be typed.
+QComboBox* NewNounList(const authoring::DropList& list) {
+    QComboBox* box = NewDropList(list);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->lineEdit()->setPlaceholderText(QObject::tr("None"));
+    box->setEditText(TextOf(list.Chosen()));
+    return box;
+}
+
 }  // namespace
 
 ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
@@ -26,12 +44,13 @@ ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
       screen_(screen),
       editing_(screen.Adventure()),
       description_(new MarkupEdit(editing_, {tr("&Description:"), "", true}, "description")),
-      noun_(NewDropList(screen.noun)),
+      noun_(NewNounList(screen.noun)),
       adjective_(NewDropList(screen.adjective)),
       places_(new QButtonGroup(this)),
       room_(NewLocationList(screen.room)),
       container_(new QCheckBox(tr("Conta&iner"))),
       wearable_(new QCheckBox(tr("Wear and remo&ve"))),
+      inside_(new QLabel),
       weight_(new QLineEdit) {
     form_->addRow(description_);
     description_->SetText(screen_.description);
@@ -44,6 +63,10 @@ ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
     wearable_->setObjectName("wearable");
     wearable_->setAccessibleName(tr("Wear and remove"));
     form_->addRow("", container_);
+    inside_->setObjectName("inside");
+    inside_->setTextFormat(Qt::PlainText);
+    inside_->setWordWrap(true);
+    form_->addRow("", inside_);
     form_->addRow("", wearable_);
     AddControl(tr("Wei&ght:"), weight_, "weight");
     for (QWidget* control : {static_cast<QWidget*>(adjective_), static_cast<QWidget*>(container_),
@@ -55,6 +78,7 @@ ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
         Show();
     });
     CheckOnLeave(&description_->Field(), [this] { return screen_.LeaveDescription(); });
+    CheckOnLeave(noun_, [this] { return screen_.LeaveNoun(); });
     CheckOnLeave(room_, [this] { return screen_.LeaveRoom(); });
     CheckOnLeave(weight_, [this] { return screen_.LeaveWeight(); });
     Show();
@@ -79,9 +103,20 @@ QWidget* ObjectDialog::NewPlaces() {
     return group;
 }
 
+std::optional<authoring::NamedRecord> ObjectDialog::NamedAtCursor() {
+    Read();
+    const QWidget* const at = focusWidget();
+    if (at == room_) return authoring::NamedByNumber(store::TableNum::Locations, screen_.room.text);
+    const authoring::ListItem* word = nullptr;
+    if (at == noun_) word = screen_.noun.Chosen();
+    if (at == adjective_) word = screen_.adjective.Chosen();
+    if (word == nullptr || word->number == condacts::kNoWordNumber) return std::nullopt;
+    return authoring::NamedWord(screen_.Adventure(), word->text, word->number);
+}
+
 void ObjectDialog::Read() {
     screen_.description = description_->Text();
-    screen_.noun.index = noun_->currentIndex();
+    ReadNoun();
     screen_.adjective.index = adjective_->currentIndex();
     if (places_->checkedId() >= 0) screen_.initialPlace = static_cast<InitialPlace>(places_->checkedId());
     screen_.room.text = LocationTyped(*room_);
@@ -90,8 +125,24 @@ void ObjectDialog::Read() {
     screen_.weight = qt::FromQt(weight_->text());
 }
 
+/// "No word" is an empty field. Two nouns may have one spelling: the one that was chosen stays.
+void ObjectDialog::ReadNoun() {
+    const QString typed = noun_->currentText().trimmed();
+    const authoring::ListItem* const chosen = screen_.noun.Chosen();
+    screen_.newNoun.clear();
+    if (typed == TextOf(chosen)) return;
+    screen_.noun.index = noun_->findText(typed, Qt::MatchFixedString);
+    if (typed.isEmpty()) screen_.noun.ChooseNumber(condacts::kNoWordNumber);
+    if (screen_.noun.Chosen() == nullptr) screen_.newNoun = qt::FromQt(typed);
+}
+
 void ObjectDialog::Show() {
     if (screen_.initialPlace) places_->button(static_cast<int>(*screen_.initialPlace))->setChecked(true);
+    const QString word =
+        screen_.newNoun.empty() ? TextOf(screen_.noun.Chosen()) : qt::ToQt(screen_.newNoun);
+    if (noun_->currentText() != word) noun_->setEditText(word);
+    inside_->setText(qt::ToQt(screen_.Inside()));
+    inside_->setVisible(screen_.container);
     room_->setEnabled(screen_.initialPlace == InitialPlace::InRoom);
     container_->setChecked(screen_.container);
     wearable_->setChecked(screen_.wearable);

@@ -9,6 +9,7 @@
 
 class QButtonGroup;
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 
 namespace fabula::ide {
@@ -19,6 +20,8 @@ class ObjectDialog final : public RecordDialog {
   public:
     explicit ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent = nullptr);
 
+    std::optional<authoring::NamedRecord> NamedAtCursor() override;
+
   protected:
     void Read() override;
     void Show() override;
@@ -26,6 +29,7 @@ class ObjectDialog final : public RecordDialog {
 
   private:
     QWidget* NewPlaces();
+    void ReadNoun();
 
     authoring::ObjectScreen& screen_;
     authoring::TextEditing editing_;
@@ -36,6 +40,7 @@ class ObjectDialog final : public RecordDialog {
     QComboBox* room_;
     QCheckBox* container_;
     QCheckBox* wearable_;
+    QLabel* inside_;  ///< which location holds what is in a container
     QLineEdit* weight_;
 };
 

@@ -16,6 +16,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
+#include <utility>
 
 #include "ide/dialogs/leaving.h"
 #include "ide/editors/cond_act_edit.h"
@@ -110,6 +111,18 @@ bool ProcessEntryDialog::HasChanges() {
 
 bool ProcessEntryDialog::CloseList() {
     return line_->HideOffers();
+}
+
+std::optional<authoring::NamedRecord> ProcessEntryDialog::NamedAtCursor() {
+    Take();
+    const QWidget* const at = focusWidget();
+    if (at == line_) return screen_.NamedInLine(line_->CursorByte());
+    if (at == word1_) return screen_.NamedByWord(screen_.verb);
+    if (at == word2_) return screen_.NamedByWord(screen_.noun);
+    if (at == type_) return authoring::NamedByNumber(store::TableNum::ProcDesc, screen_.process);
+    if (at == param1_.box) return screen_.NamedByParameter(0);
+    if (at == param2_.box) return screen_.NamedByParameter(1);
+    return std::nullopt;
 }
 
 QComboBox* ProcessEntryDialog::MakeWords(const QString& name, const QString& what,
@@ -219,6 +232,7 @@ QLayout* ProcessEntryDialog::BuildLine() {
     fault_ = MakeNote("fault", tr("Fault"), this);
     line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
     line_->onFault = [this](const QString& fault) { fault_->setText(fault); };
+    line_->onNewMessage = [this](const std::string& text) { return NewMessage(text); };
     auto* help = new QLabel(qt::Translated(authoring::ProcessEntryScreen::kHelpLine), this);
     help->setWordWrap(true);
     column->addWidget(label);
@@ -298,6 +312,18 @@ void ProcessEntryDialog::Take() {
     screen_.parameter1.text = qt::FromQt(param1_.box->currentText());
     screen_.parameter2.text = qt::FromQt(param2_.box->currentText());
     screen_.line = qt::FromQt(line_->toPlainText());
+}
+
+/// A box that tells why it is refused must not set off the check of the line.
+std::optional<int> ProcessEntryDialog::NewMessage(const std::string& text) {
+    const bool wasChecking = std::exchange(checking_, true);
+    std::optional<int> number;
+    Guarded([&] {
+        number = screen_.AddMessage(text);
+        return number.has_value();
+    });
+    checking_ = wasChecking;
+    return number;
 }
 
 /// A failing machine is told, and what was typed stays.

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <functional>
+#include <optional>
+#include <string>
 
 #include "authoring/screens/process_entry_screen.h"
 #include "ide/dialogs/record_editor.h"
@@ -33,6 +35,7 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     bool HasChanges() override;
     void Store() override { Update(); }
     bool CloseList() override;
+    std::optional<authoring::NamedRecord> NamedAtCursor() override;
 
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -55,6 +58,7 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     void Take();
     void ShowParameter(const ParameterWidgets& widgets, const authoring::ParameterField& field);
     void FocusChanged(QWidget* left, QWidget* now);
+    std::optional<int> NewMessage(const std::string& text);
     bool Guarded(const std::function<bool()>& work);
     bool Leave(const QWidget* field);
     void CheckLeft(QWidget* field);

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <optional>
+
+#include "authoring/fields/named_record.h"
+
 namespace fabula::ide {
 
 /// What a pane beside the rows asks of the dialog of a record that stands in it.
@@ -11,6 +15,8 @@ class RecordEditor {
     virtual void Store() = 0;
     /// What Esc closes before it takes anything back, such as a list; false when there is nothing.
     virtual bool CloseList() { return false; }
+    /// The record that the token at the cursor names; nullopt where there is none.
+    virtual std::optional<authoring::NamedRecord> NamedAtCursor() { return std::nullopt; }
     /// It stands in a pane from now on: what goes to other records is the business of the rows.
     virtual void StandBeside() {}
 

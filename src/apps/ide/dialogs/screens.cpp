@@ -12,6 +12,7 @@
 #include "ide/dialogs/message_dialog.h"
 #include "ide/dialogs/object_dialog.h"
 #include "ide/dialogs/process_entry_dialog.h"
+#include "ide/dialogs/record_jumps.h"
 #include "ide/dialogs/settings_dialog.h"
 #include "ide/dialogs/word_dialog.h"
 
@@ -95,10 +96,18 @@ std::unique_ptr<OpenedRecord> OpenRecord(const authoring::ScreenRequest& request
     return Opened(request, context, nullptr);
 }
 
-void OpenScreen(const authoring::ScreenRequest& request, authoring::ScreenContext& context,
-                const SoundTest& sound, QWidget* parent) {
-    if (request.screen == Screen::Settings) return ShowSettings(context, sound, parent);
-    if (const auto record = Opened(request, context, parent)) Show(record->Dialog());
+std::optional<authoring::Jump> OpenScreen(const authoring::ScreenRequest& request,
+                                          authoring::ScreenContext& context, const SoundTest& sound,
+                                          authoring::Navigator& navigator, QWidget* parent) {
+    if (request.screen == Screen::Settings) {
+        ShowSettings(context, sound, parent);
+        return std::nullopt;
+    }
+    const auto record = Opened(request, context, parent);
+    if (!record) return std::nullopt;
+    const RecordJumps jumps(*record, request, navigator, context.dialogs);
+    Show(record->Dialog());
+    return jumps.Wanted();
 }
 
 }  // namespace fabula::ide

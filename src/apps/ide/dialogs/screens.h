@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "authoring/desk/navigator.h"
 #include "authoring/document/screen_context.h"
 #include "authoring/entries/entries.h"
 #include "engine/sound_player.h"
@@ -35,8 +37,10 @@ std::unique_ptr<OpenedRecord> OpenRecord(const authoring::ScreenRequest& request
                                          authoring::ScreenContext& context);
 
 /// Shows the dialog of a screen, but for pictures and characters, until the author leaves it. What was
-/// stored is in the adventure then. Throws fabula::Error when the record can't be read.
-void OpenScreen(const authoring::ScreenRequest& request, authoring::ScreenContext& context,
-                const SoundTest& sound, QWidget* parent);
+/// stored is in the adventure then. Gives the place that the author left it for by F12 or Shift+F12. Throws
+/// fabula::Error when the record can't be read.
+std::optional<authoring::Jump> OpenScreen(const authoring::ScreenRequest& request,
+                                          authoring::ScreenContext& context, const SoundTest& sound,
+                                          authoring::Navigator& navigator, QWidget* parent);
 
 }  // namespace fabula::ide

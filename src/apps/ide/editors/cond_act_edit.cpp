@@ -87,8 +87,10 @@ void CondActEdit::Offer(bool asked) {
     offered_ = help_.Complete(typed.line, typed.cursor);
     const bool nothingTyped = offered_.begin == typed.cursor;
     const bool forParameter = !help_.Meaning(typed.line, typed.cursor).empty();
+    const std::string_view begun =
+        std::string_view(typed.line).substr(offered_.begin, typed.cursor - offered_.begin);
     const bool complete =
-        offered_.items.size() == 1 && offered_.items.front().insert.size() == typed.cursor - offered_.begin;
+        offered_.items.size() == 1 && text::EqualsNoCase(offered_.items.front().insert, begun);
     const bool wanted = asked || (!complete && (!nothingTyped || forParameter));
     if (!wanted || offered_.items.empty()) {
         completer_->popup()->hide();
@@ -107,11 +109,18 @@ void CondActEdit::Offer(bool asked) {
 
 void CondActEdit::Insert(int item) {
     if (item < 0 || item >= static_cast<int>(offered_.items.size())) return;
+    const authoring::Completion& taken = offered_.items[static_cast<std::size_t>(item)];
+    std::string insert = taken.insert;
+    if (!taken.newText.empty()) {
+        const std::optional<int> number = onNewMessage(taken.newText);
+        if (!number) return;
+        insert = std::to_string(*number);
+    }
     const std::string line = Read().line;
     QTextCursor cursor = textCursor();
     cursor.setPosition(PositionOf(line, offered_.begin));
     cursor.setPosition(PositionOf(line, offered_.end), QTextCursor::KeepAnchor);
-    cursor.insertText(qt::ToQt(offered_.items[static_cast<std::size_t>(item)].insert) + " ");
+    cursor.insertText(qt::ToQt(insert) + " ");
     setTextCursor(cursor);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,8 @@ class QStringListModel;
 namespace fabula::ide {
 
 /// The field for a line of conditions and actions. It offers what may follow while the line is typed
-/// (Ctrl+Space asks for it), marks the first fault by a wavy line, and tells the meaning of the token at
-/// the cursor.
+/// (Ctrl+Space asks for it), behind " or @ the records by their texts, marks the first fault by a wavy
+/// line, and tells the meaning of the token at the cursor.
 class CondActEdit final : public QPlainTextEdit {
   public:
     /// `help` outlives the field.
@@ -28,6 +29,12 @@ class CondActEdit final : public QPlainTextEdit {
     /// Called when the meaning changes, and when the sentence about the fault does: "" when there is none.
     std::function<void(const QString& meaning)> onMeaning = [](const QString&) {};
     std::function<void(const QString& fault)> onFault = [](const QString&) {};
+    /// Asked for the number of a message that is to be added; nullopt when it is refused.
+    std::function<std::optional<int>(const std::string& text)> onNewMessage =
+        [](const std::string&) -> std::optional<int> { return std::nullopt; };
+
+    /// The place of the cursor, in bytes.
+    std::size_t CursorByte() const { return Read().cursor; }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

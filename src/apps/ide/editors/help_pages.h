@@ -8,6 +8,7 @@
 namespace fabula::ide {
 
 inline constexpr const char* kMainWindowPage = "frmvelidemain.html";
+inline constexpr const char* kUsesPage = "uses.html";
 
 /// The page of the help that tells about the records of a view.
 QString HelpPageOf(const authoring::TableView& view);

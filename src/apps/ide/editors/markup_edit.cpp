@@ -20,6 +20,7 @@ namespace fabula::ide {
 namespace {
 
 constexpr int kMarkupMargin = 8;
+constexpr int kFewestColumns = 16;  ///< of a preview
 constexpr int kShortLines = 2;
 /// Below this a text in the game's colours can't be told from the paper, and the windows' own serve.
 constexpr double kVisible = 1.5;
@@ -219,7 +220,8 @@ void MarkupEdit::ShowPreview(const std::string& text) {
     QTextCursor end(preview_->document());
     end.beginEditBlock();
     bool first = true;
-    const authoring::ShownText shown = editing_.Show(text);
+    columns_ = ColumnsInSight();
+    const authoring::ShownText shown = editing_.Show(text, columns_);
     for (const authoring::ShownLine& line : shown.lines) {
         if (!first) end.insertBlock();
         first = false;
@@ -234,6 +236,19 @@ void MarkupEdit::ShowPreview(const std::string& text) {
     // Its own cursor went with the text, and would be brought in sight.
     preview_->moveCursor(QTextCursor::Start);
     preview_->verticalScrollBar()->setValue(scrolled);
+}
+
+/// A preview that is narrower than the game's window wraps its lines earlier: nobody reads across an edge.
+int MarkupEdit::ColumnsInSight() const {
+    const int letter = std::max(1, QFontMetrics(preview_->font()).averageCharWidth());
+    const int bar = preview_->verticalScrollBar()->sizeHint().width();
+    const int room = preview_->width() - 2 * (kMargin + preview_->frameWidth()) - bar;
+    return std::clamp(room / letter, kFewestColumns, authoring::TextEditing::kWidestPreview);
+}
+
+void MarkupEdit::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (preview_ != nullptr && ColumnsInSight() != columns_) ShowPreview(Text());
 }
 
 void MarkupEdit::changeEvent(QEvent* event) {

@@ -53,6 +53,7 @@ class MarkupEdit final : public QWidget {
 
   protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void AddPreview(const QString& caption);
@@ -60,6 +61,7 @@ class MarkupEdit final : public QWidget {
     void FitLook();
     void ShowText();
     void ScrollPreview();
+    int ColumnsInSight() const;
     void ShowPreview(const std::string& text);
 
     const authoring::TextEditing& editing_;
@@ -68,6 +70,7 @@ class MarkupEdit final : public QWidget {
     QLabel* counts_;
     QLabel* fault_;
     QTextEdit* preview_ = nullptr;
+    int columns_ = 0;       ///< that the preview was shown in
     bool showing_ = false;  ///< the widget itself changes the text
 };
 

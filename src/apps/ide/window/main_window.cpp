@@ -132,6 +132,7 @@ MainWindow::MainWindow(const Services& services, Places places)
     setProperty(qt::kHelpPage, kMainWindowPage);
     ide_.upgradeBoxes = {.steps = [this](std::string_view steps) { ShowUpgrade(steps); },
                          .chooseType = [this](store::AdventureSetup& setup) { ChooseType(setup); }};
+    ide_.beforeDelete = [this](const authoring::Deletion& deletion) { return AskBeforeDelete(deletion); };
     MakePages();
     MakeMenus();
     MakeStatusBar();

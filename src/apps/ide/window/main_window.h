@@ -131,6 +131,8 @@ class MainWindow final : public QMainWindow {
     void RunJump(authoring::Command command);
     void Jump(const authoring::Jump& jump);
     void GoToNamed();
+    bool FollowFromPane(authoring::Command command);
+    bool AskBeforeDelete(const authoring::Deletion& deletion);
     void GoToAnything();
     void ChooseCommand();
     void Replace();
@@ -168,6 +170,8 @@ class MainWindow final : public QMainWindow {
     Places places_;
     authoring::MainScreen ide_;
     authoring::Navigator navigator_;
+    std::optional<authoring::Jump> leftFor_;  ///< where the author went from a box or a dialog
+    std::string afterDelete_;                 ///< to be told when the record has gone
     qt::Help help_;
     authoring::TableView shownView_;
     std::filesystem::path shownFile_;  ///< whose table it is; empty for none

@@ -40,6 +40,7 @@ void MainWindow::Do(Command command) {
     // Enter and a double click on a row come here whatever the table allows.
     const authoring::ActionState state = ide_.StateOf(command);
     if (!state.enabled) return message_->setText(qt::Translated(state.why));
+    if (FollowFromPane(command)) return;
     if (command != Command::Help && !LeaveRecord()) return;
     switch (command) {
         case Command::New:
@@ -108,8 +109,14 @@ void MainWindow::Do(Command command) {
 }
 
 void MainWindow::DoInLogic(Command command) {
+    leftFor_.reset();
+    afterDelete_.clear();
+    const int changes = ide_.CurrentRow() >= 0 ? ide_.CurrentContext().document.Changes() : 0;
     const auto request = ide_.Run(command);
     if (request) Open(*request);
+    if (leftFor_) return Jump(authoring::Jump(*leftFor_));
+    if (!afterDelete_.empty() && ide_.CurrentContext().document.Changes() != changes)
+        ide_.Say(ide_.Message() + ". " + afterDelete_);
     ShowChanges();
     // The new record is the one to go on with.
     if (request && request->key.isNew) records_->Grid().setFocus();
@@ -119,7 +126,8 @@ void MainWindow::Open(const authoring::ScreenRequest& request) {
     try {
         authoring::ScreenContext& context = ide_.CurrentContext();
         if (!OpenDrawingScreen(request, context, services_.settings, this))
-            OpenScreen(request, context, {services_.sound, services_.soundDevices}, this);
+            leftFor_ =
+                OpenScreen(request, context, {services_.sound, services_.soundDevices}, navigator_, this);
     } catch (const Error& error) {
         services_.dialogs.Tell(error.what(), "Error");
     }

@@ -1,11 +1,14 @@
 #include <QLabel>
 #include <QTableView>
 
+#include "ide/dialogs/deletion_dialog.h"
 #include "ide/dialogs/quick_list_dialog.h"
+#include "ide/dialogs/record_jumps.h"
 #include "ide/dialogs/renumber_dialog.h"
 #include "ide/dialogs/replace_dialog.h"
 #include "ide/window/command_actions.h"
 #include "ide/window/main_window.h"
+#include "ide/window/record_pane.h"
 #include "ide/window/record_panel.h"
 #include "ide/window/uses_pane.h"
 #include "platform/error.h"
@@ -85,19 +88,32 @@ void MainWindow::GoToNamed() {
     const std::vector<JumpLine> lines = navigator_.Named();
     if (lines.empty()) return message_->setText(tr("This record names no other."));
     if (lines.size() == 1) return Jump(lines.front().jump);
-    std::vector<JumpLine> fitting;
-    QuickListDialog dialog(
-        tr("Go To What It Names"), tr("A part of its name"),
-        [&](const std::string& typed) {
-            fitting.clear();
-            for (const JumpLine& line : lines) {
-                if (text::LowerCase(line.text).find(text::LowerCase(typed)) != std::string::npos)
-                    fitting.push_back(line);
-            }
-            return TextsOf(fitting);
-        },
-        this);
-    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) Jump(fitting[*dialog.Chosen()].jump);
+    if (const auto jump = ChoosePlace(tr("Go To What It Names"), lines, this)) Jump(*jump);
+}
+
+/// F12 and Shift+F12 in the record beside the rows mean the token at the cursor, if there is one.
+bool MainWindow::FollowFromPane(Command command) {
+    if (command != Command::GoToNamed && command != Command::Uses) return false;
+    const auto named = beside_->NamedAtCursor();
+    if (!named) return false;
+    try {
+        const auto jump =
+            FollowNamed(*named, command == Command::Uses, navigator_, services_.dialogs, this);
+        if (jump && LeaveRecord()) Jump(*jump);
+    } catch (const Error& error) {
+        services_.dialogs.Tell(error.what(), "Error");
+    }
+    return true;
+}
+
+bool MainWindow::AskBeforeDelete(const authoring::Deletion& deletion) {
+    const authoring::DeletionUses uses(navigator_, deletion);
+    if (!uses.Any()) return true;
+    DeletionDialog dialog(uses, this);
+    const bool goesOn = dialog.exec() == QDialog::Accepted;
+    leftFor_ = dialog.GoTo();
+    if (goesOn) afterDelete_ = uses.AfterIt();
+    return goesOn;
 }
 
 void MainWindow::GoToAnything() {

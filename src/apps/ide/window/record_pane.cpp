@@ -1,6 +1,7 @@
 #include "ide/window/record_pane.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLabel>
@@ -92,6 +93,11 @@ void RecordPane::Settle() {
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     dialog.installEventFilter(this);
     connect(&dialog, &QDialog::accepted, this, [this] { Finished(); });
+}
+
+std::optional<authoring::NamedRecord> RecordPane::NamedAtCursor() const {
+    if (!record_ || !isAncestorOf(QApplication::focusWidget())) return std::nullopt;
+    return record_->Editor().NamedAtCursor();
 }
 
 bool RecordPane::Enter() {

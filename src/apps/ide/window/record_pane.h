@@ -31,6 +31,8 @@ class RecordPane final : public QWidget {
               bool keepsRoom = false);
     /// Whether it shows a record.
     bool HasRecord() const { return record_ != nullptr; }
+    /// The record that the token at the cursor names, while the keyboard is in the pane.
+    std::optional<authoring::NamedRecord> NamedAtCursor() const;
     /// Gives the keyboard to the first field; false without a record.
     bool Enter();
     /// Stores what was typed. False when it was refused: the field at fault has the keyboard.

@@ -1,0 +1,66 @@
+#include "authoring/entries/made_records.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <set>
+
+#include "authoring/entries/record_keys.h"
+#include "condacts/catalogue.h"
+#include "condacts/limits.h"
+#include "condacts/load.h"
+#include "condacts/words.h"
+
+namespace fabula::authoring {
+namespace {
+
+using store::Adventure;
+using store::TableNum;
+
+constexpr int kFirstNounOfIt = 51;
+/// In the oldest games the words below are directions.
+constexpr int kFirstMarloNoun = 13;
+
+}  // namespace
+
+void AddPlace(Adventure& adventure, int number, const std::string& name) {
+    store::Cursor& record = adventure.OpenTable(TableNum::Free22, "* from locations", "locnum<0");
+    record.AddNew();
+    record.SetField("locnum", std::int64_t{number});
+    record.SetField("locdesc", std::string(" "));
+    record.SetField("locshortdesc", name);
+    for (const char* field : {"exits", "numericexits", "picloc", "pickey"})
+        record.SetField(field, std::string());
+    record.SetField("numexits", std::int64_t{0});
+    record.SetField("oldpicloc", std::string(" "));
+    record.Update();
+}
+
+std::optional<int> NumberOfNewNoun(Adventure& adventure) {
+    const bool marlo = condacts::DialectOf(adventure.AdventureType()) == condacts::Dialect::Marlo;
+    const int first = marlo ? kFirstMarloNoun : kFirstNounOfIt;
+    std::set<int> taken;
+    for (const condacts::Word& word : condacts::LoadWords(adventure).All()) {
+        if (word.type == condacts::kNoun && word.number <= condacts::limit::kHighestWord)
+            taken.insert(word.number);
+    }
+    const int next = taken.empty() ? first : std::max(first, *taken.rbegin() + 1);
+    if (next <= condacts::limit::kHighestWord) return next;
+    for (int number = first; number <= condacts::limit::kHighestWord; ++number) {
+        if (!taken.contains(number)) return number;
+    }
+    return std::nullopt;
+}
+
+void AddNoun(Adventure& adventure, const std::string& word, int number) {
+    const std::optional<int> key = NextKey(adventure, TableNum::Vocabulary);
+    store::Cursor& record = adventure.OpenTable(TableNum::Free22, "* from vocabulary", "vocindex<0");
+    record.AddNew();
+    record.SetField("vocindex", std::int64_t{*key});
+    record.SetField("word", word);
+    record.SetField("vocnum", std::int64_t{number});
+    record.SetField("voctypen", std::int64_t{condacts::kNoun});
+    record.SetField("voctype", std::string(condacts::WordTypeName(condacts::kNoun)));
+    record.Update();
+}
+
+}  // namespace fabula::authoring
