@@ -242,7 +242,7 @@ void MarkupEdit::ShowPreview(const std::string& text) {
 int MarkupEdit::ColumnsInSight() const {
     const int letter = std::max(1, QFontMetrics(preview_->font()).averageCharWidth());
     const int bar = preview_->verticalScrollBar()->sizeHint().width();
-    const int room = preview_->width() - 2 * (kMargin + preview_->frameWidth()) - bar;
+    const int room = preview_->width() - 2 * (kMarkupMargin + preview_->frameWidth()) - bar;
     return std::clamp(room / letter, kFewestColumns, authoring::TextEditing::kWidestPreview);
 }
 
