@@ -120,13 +120,13 @@ void CondActRunner::PushFrame(ProcessNumber process, int startX, int startY) {
     game_.done = false;
     frames_.push_back(frame);
     if (!game_.trace.On() || !Table(process)) return;
-    Trace& trace = game_.trace;
-    trace.Write("Process " + std::to_string(process.value) + " stack " +
-                std::to_string(static_cast<int>(callStack.size()) - 1) + " - ");
-    trace.Write("Flag(33):" + game_.state.WordText(flag::kVerb));
-    trace.Write(") Flag(34):" + game_.state.WordText(flag::kNoun));
-    trace.Write(") StartX: " + std::to_string(startX) + " StartY: " + std::to_string(startY));
-    trace.Line(" End of Table: " + std::to_string(Table(process)->Count() - 1));
+    game_.trace.Tell(TableBegun{.process = process,
+                                .depth = static_cast<int>(callStack.size()) - 1,
+                                .verb = game_.state.WordText(flag::kVerb),
+                                .noun = game_.state.WordText(flag::kNoun),
+                                .entry = startX,
+                                .cell = startY,
+                                .lastEntry = Table(process)->Count() - 1});
 }
 
 /// Goes to the next entry that matches. Only process 0 and the tables called from it read the words, unless
@@ -142,14 +142,14 @@ void CondActRunner::SeekEntry() {
         CountEntries(frame, found, end);
         if (found == end) break;
         const ProcessEntry& entry = (*table)[found];
-        if (game_.trace.On()) TraceMatch(entry, allMatch);
+        if (game_.trace.On()) TraceMatch(frame, entry, allMatch);
         frame.cell = frame.startCell;
         frame.phase = Phase::CondAct;
         if (!quiet || !ConditionsFail(frame, entry)) return;
         frame.phase = Phase::Entry;
         ++frame.entry;
     }
-    if (table && game_.trace.On()) game_.trace.Line("Normal end of process table");
+    if (table && game_.trace.On()) game_.trace.Tell(TableEnded{});
     EndTable();
 }
 
@@ -202,24 +202,25 @@ bool CondActRunner::IsWild(WordNumber word) const {
     return ProcessTable::IsWild(word, !game_.IsMarlo());
 }
 
-void CondActRunner::TraceMatch(const ProcessEntry& entry, bool allMatch) {
+void CondActRunner::TraceMatch(const Frame& frame, const ProcessEntry& entry, bool allMatch) {
+    using By = EntryMatched::By;
+    By by = By::Words;
     if (allMatch) {
-        return game_.trace.Line(
-            "Matched using intParentProcNum > 0 (All words match in processes > 0 or called from Processes "
-            "> 0)");
-    }
-    const bool marlo = game_.IsMarlo();
-    const char* how = marlo ? "word1=verb & word2=noun" : "word1=verb and word2=noun";
-    if (IsWild(entry.verb) && IsWild(entry.noun)) {
-        how = "Both words wild";
+        by = By::Called;
     } else if (IsWild(entry.verb)) {
-        how = marlo ? "Word1 wild & word2=noun" : "word1 wild and word2=noun";
+        by = IsWild(entry.noun) ? By::BothWild : By::VerbWild;
     } else if (IsWild(entry.noun)) {
-        how = marlo ? "Word1=verb & word2 wild" : "word1=verb and word2 wild";
+        by = By::NounWild;
     }
-    game_.trace.Line("word1=" + std::to_string(entry.verb.value) + ", word2=" +
-                     std::to_string(entry.noun.value) + ",verb=" + std::to_string(game_.Flag(flag::kVerb)) +
-                     ", noun=" + std::to_string(game_.Flag(flag::kNoun)) + ". Matched using " + how);
+    game_.trace.Tell(EntryMatched{.by = by,
+                                  .process = frame.process,
+                                  .entry = frame.entry,
+                                  .record = entry.record,
+                                  .verb = entry.verb,
+                                  .noun = entry.noun,
+                                  .saidVerb = game_.Flag(flag::kVerb),
+                                  .saidNoun = game_.Flag(flag::kNoun),
+                                  .isMarlo = game_.IsMarlo()});
 }
 
 /// Runs the condacts of an entry until it is left, or until an action begins something of its own.
@@ -267,20 +268,15 @@ void CondActRunner::RunCondAct(const Runnable& condact, std::span<const std::int
 
 void CondActRunner::TraceCondAct(const Runnable& condact, int p1, int p2) {
     const CondActRoutine& routine = *condact.routine;
-    std::string line(routine.trace);
-    if (routine.IsAction()) {
-        if (condact.params > 0) line += " " + std::to_string(p1);
-        if (condact.params > 1) line += " " + std::to_string(p2);
-        line += " ";
-    } else {
-        if (condact.params > 0) line += std::to_string(p1);
-        if (condact.params > 1) line += "," + std::to_string(p2);
-        if (routine.traceFlag.value > 0) {
-            line += std::string(routine.traceFlagText) + std::to_string(game_.Flag(routine.traceFlag));
-        }
-        line += ")";
+    CondActBegun event{.name = routine.trace,
+                       .isAction = routine.IsAction(),
+                       .paramCount = std::min(condact.params, 2),
+                       .params = {p1, p2}};
+    if (routine.traceFlag.value > 0) {
+        event.flagText = routine.traceFlagText;
+        event.flagValue = game_.Flag(routine.traceFlag);
     }
-    game_.trace.Line(line);
+    game_.trace.Tell(event);
 }
 
 /// Where the table is entered again when the player has answered.
@@ -294,22 +290,23 @@ void CondActRunner::RememberPosition() {
 
 bool CondActRunner::GoesOnAfterCondition(bool result) {
     if (game_.Flag(flag::kAsking) != 0) return false;
-    if (!result) return TraceLeaving("Exiting record because condition not satisfied");
-    if (game_.done) return TraceLeaving("exiting record because Done");
+    if (!result) return LeaveBecause(Leaving::NotSatisfied);
+    if (game_.done) return LeaveBecause(Leaving::DoneAfterCondition);
     return true;
 }
 
 bool CondActRunner::GoesOnAfterAction(bool result) {
     if (game_.Flag(flag::kAsking) != 0) return false;
-    if (game_.Flag(flag::kDescribe) != 0) return TraceLeaving("Exiting record because of Describe");
-    if (game_.done) return TraceLeaving("Exiting record because of Done");
-    if (game_.Flag(flag::kEnded) != 0) return TraceLeaving("Exiting record because of End");
-    if (!result) return TraceLeaving("Exiting record because condition not satisfied");
+    if (game_.Flag(flag::kDescribe) != 0) return LeaveBecause(Leaving::Describe);
+    if (game_.done) return LeaveBecause(Leaving::Done);
+    if (game_.Flag(flag::kEnded) != 0) return LeaveBecause(Leaving::End);
+    if (!result) return LeaveBecause(Leaving::NotSatisfied);
     return true;
 }
 
-bool CondActRunner::TraceLeaving(const char* why) {
-    if (game_.trace.On()) game_.trace.Line(why);
+/// Tells that an entry is left before its end. Returns false: it does not go on.
+bool CondActRunner::LeaveBecause(Leaving why) {
+    if (game_.trace.On()) game_.trace.Tell(EntryLeft{why});
     return false;
 }
 
@@ -336,21 +333,23 @@ void CondActRunner::FinishAction(bool result) {
 }
 
 void CondActRunner::LeaveEntry() {
-    if (game_.Flag(flag::kDescribe) != 0) {
-        TraceLeaving("Exiting process because of Describe");
-    } else if (game_.done) {
-        TraceLeaving("Exiting process because of Done");
-    } else if (game_.Flag(flag::kEnded) != 0) {
-        TraceLeaving("Exiting process because of End");
-    } else if (game_.Flag(flag::kAsking) != 0) {
-        TraceLeaving("Exiting process because asking for input");
-    } else {
+    const std::optional<Leaving> why = LeavesTable();
+    if (!why) {
         Frame& frame = frames_.back();
         ++frame.entry;
         frame.phase = Phase::Entry;
         return;
     }
+    if (game_.trace.On()) game_.trace.Tell(TableLeft{*why});
     EndTable();
+}
+
+std::optional<Leaving> CondActRunner::LeavesTable() const {
+    if (game_.Flag(flag::kDescribe) != 0) return Leaving::Describe;
+    if (game_.done) return Leaving::Done;
+    if (game_.Flag(flag::kEnded) != 0) return Leaving::End;
+    if (game_.Flag(flag::kAsking) != 0) return Leaving::Asking;
+    return std::nullopt;
 }
 
 /// The running table comes back to the one that called it. Its own `done` has ended it alone.
@@ -394,7 +393,7 @@ void CondActRunner::NextObject() {
 
 void CondActRunner::ClearStack(std::string_view why) {
     callStack.clear();
-    if (game_.trace.On()) game_.trace.Line("stack cleared because of " + std::string(why));
+    if (game_.trace.On()) game_.trace.Tell(CallsForgotten{why});
 }
 
 const CondActRunner::Runnable& CondActRunner::Find(int number) const {
@@ -409,26 +408,30 @@ void CondActRunner::CountCondAct() {
     if (++condactsRun_ > limit_) FailRunaway(limit_, "conditions and actions");
 }
 
-std::string CondActRunner::Where() const {
-    if (frames_.empty()) return {};
+RunPlace CondActRunner::Place() const {
+    RunPlace place;
+    if (frames_.empty()) return place;
     const Frame& frame = frames_.back();
-    std::string where = "Process " + std::to_string(frame.process.value);
+    place.process = frame.process.value;
     const ProcessTable* table = Table(frame.process);
-    if (!table || frame.entry < 0 || frame.entry >= table->Count()) return where;
+    if (!table || frame.entry < 0 || frame.entry >= table->Count()) return place;
     const ProcessEntry& entry = (*table)[frame.entry];
-    where += ", entry " + std::to_string(frame.entry) + " (record " + std::to_string(entry.record) + ")";
+    place.entry = frame.entry;
+    place.record = entry.record;
     const std::span<const std::int16_t> numbers = game_.data.CondActsOf(entry);
     const auto at = static_cast<std::size_t>(frame.cell - kFirstCell);
-    if (frame.phase == Phase::Entry || at >= numbers.size()) return where;
+    if (frame.phase == Phase::Entry || at >= numbers.size()) return place;
     const int index = numbers[at] - kFirstCondAct;
-    if (index < 0 || index >= static_cast<int>(routines_.size())) return where;
+    if (index < 0 || index >= static_cast<int>(routines_.size())) return place;
     const Runnable& condact = routines_[static_cast<std::size_t>(index)];
-    if (!condact.routine) return where;
-    where += ", " + std::string(condact.routine->name);
-    for (std::size_t p = 1; p <= static_cast<std::size_t>(condact.params) && at + p < numbers.size(); ++p) {
-        where += " " + std::to_string(numbers[at + p]);
+    if (!condact.routine) return place;
+    place.name = condact.routine->name;
+    const auto params = std::min(static_cast<std::size_t>(condact.params), place.params.size());
+    for (std::size_t p = 0; p < params && at + 1 + p < numbers.size(); ++p) {
+        place.params[p] = numbers[at + 1 + p];
+        place.paramCount = static_cast<int>(p) + 1;
     }
-    return where;
+    return place;
 }
 
 }  // namespace fabula::engine

@@ -12,6 +12,8 @@
 
 #include "engine/game_data.h"
 #include "engine/game_window.h"
+#include "engine/origin.h"
+#include "engine/trace_event.h"
 
 namespace fabula::engine {
 
@@ -78,8 +80,8 @@ class CondActRunner {
     /// Condacts are counted from here on.
     void ResetBudget();
 
-    /// Where the run stands: "Process 0, entry 3 (record 57), LET 5 40000". "" when no table is running.
-    std::string Where() const;
+    /// Where the run stands.
+    RunPlace Place() const;
 
   private:
     enum class Phase {
@@ -116,19 +118,21 @@ class CondActRunner {
     bool IsQuiet() const;
     bool ConditionsFail(Frame& frame, const ProcessEntry& entry);
     bool IsWild(WordNumber word) const;
-    void TraceMatch(const ProcessEntry& entry, bool allMatch);
+    void TraceMatch(const Frame& frame, const ProcessEntry& entry, bool allMatch);
     void RunEntry();
     void RunCondAct(const Runnable& condact, std::span<const std::int16_t> numbers);
     void RememberPosition();
     /// Whether the entry goes on behind a condition or action.
     bool GoesOnAfterCondition(bool result);
     bool GoesOnAfterAction(bool result);
-    bool TraceLeaving(const char* why);
+    bool LeaveBecause(Leaving why);
     void TraceCondAct(const Runnable& condact, int p1, int p2);
     void UseFile();
     void FinishAction(bool result);
     void NextObject();
     void LeaveEntry();
+    /// Whether the running table is left with its entry, and why.
+    std::optional<Leaving> LeavesTable() const;
     void EndTable();
     const Runnable& Find(int number) const;
     const ProcessTable* Table(ProcessNumber process) const;

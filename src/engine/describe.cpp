@@ -32,7 +32,8 @@ void Describe(Game& game) {
     DoAutoFlags(game, true);
     if (game.Flag(flag::kClearMode) != 0) game.printer.Clear();
     if (game.Flag(flag::kDark) != 0 && !game.LightIsPresent()) {
-        game.printer.PrintText(game.texts.SystemMessage(message::kDark), true, true);
+        game.printer.PrintText(game.texts.SystemMessage(message::kDark), true, true, TextRole::Game,
+                               TextRecord::Of(message::kDark));
         ShowRoomPicture(game, game.data.LastLocation());
         return;
     }
@@ -46,10 +47,14 @@ void DescribeLocation(Game& game, PlaceNumber location) {
     const bool wantsLong = game.state.Visited(location) == 0 ||
                            game.state.FlagBitSet(flag::kGraphicsMode, kLongTextBit) ||
                            game.Flag(flag::kLongText) != 0;
+    TextRecord record{TextRecord::Kind::ShortLocation, location.value};
     std::string_view text;
     if (!wantsLong) text = game.texts.ShortLocation(location);
-    if (text::TrimBlanks(text).empty()) text = game.texts.Location(location);
-    game.printer.PrintText(text, true, true);
+    if (text::TrimBlanks(text).empty()) {
+        text = game.texts.Location(location);
+        record = TextRecord::Of(location);
+    }
+    game.printer.PrintText(text, true, true, TextRole::Game, record);
 }
 
 void ShowRoomPicture(Game& game, PlaceNumber location) {

@@ -66,7 +66,7 @@ void Engine::Guard(Step step) {
 }
 
 void Engine::Fail(const std::string& what) {
-    const std::string where = game_ ? game_->runner.Where() : "";
+    const std::string where = game_ ? TextOf(game_->runner.Place()) : "";
     session_->host.oper.Tell(
         "The game has gone wrong and ends. " + (where.empty() ? "" : where + ": ") + what + ".",
         kFailureTitle);
@@ -204,8 +204,7 @@ void Engine::ProcessInput(bool played) {
     if (!asking && line.empty()) return Guard([&] { ShowTyped(game); });
     StopTimeOut(game);
     played ? script.WritePlayed(line) : script.WriteInput(line);
-    if (game.trace.On())
-        game.trace.Line((asking ? "Executing AskForInput Command: " : "Executing Command: ") + line);
+    if (game.trace.On()) game.trace.Tell(LineEntered{line, asking});
     if (asking) return RunLoop(&ProcessLoop::Resume);
     game.answer.clear();
     game.command = SplitSentences(line, game.data.conjunctions);
@@ -221,7 +220,7 @@ void Engine::TimeOutTick() {
     if (!game.state.FlagBitSet(flag::kTimeOutOptions, 7)) {
         game.SetFlag(flag::kTimeOutOptions, game.Flag(flag::kTimeOutOptions) + 128);
     }
-    if (game.trace.On()) game.trace.Line("Timer TimeOut");
+    if (game.trace.On()) game.trace.Tell(TimeRanOut{});
     session_->parts.input.EndInput(asking ? game.answer : game.command);
     game.printer.AtLineStart();
     game.command.clear();

@@ -57,6 +57,7 @@ Game::Game(store::Adventure& adventure, Session& theSession)
       trace(host.trace, state),
       runner(*this, session.options.condactLimit, session.options.slice),
       loop(*this) {
+    printer.TellOrigins(host.parts.origins, runner);
     SetStartFlags(*this);
     SetAutoFlags(*this);
     PlaceObjects(*this);

@@ -6,6 +6,7 @@
 #include "condacts/convert.h"
 #include "condacts/limits.h"
 #include "condacts/load.h"
+#include "condacts/word_filters.h"
 #include "platform/error.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -133,7 +134,8 @@ void GameData::CheckTextSettings() const {
 
 void GameData::ReadConjunctions(store::Adventure& adventure) {
     PreparedQuery row =
-        adventure.Prepare(TableNum::Vocabulary, "Word", "voctypen=5", "voctypen, vocnum, word");
+        adventure.Prepare(TableNum::Vocabulary, "Word", condacts::OfWordTypes({condacts::kConjunction}),
+                          "voctypen, vocnum, word");
     for (bool more = row.First({}); more; more = row.Next()) {
         if (!row.Text(0).empty()) conjunctions.emplace_back(row.Text(0));
     }

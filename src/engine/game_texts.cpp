@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
+#include "condacts/word_filters.h"
 #include "engine/run_failure.h"
 
 namespace fabula::engine {
@@ -14,9 +15,9 @@ namespace {
 /// A text that stands nowhere near a number this high is not kept in memory.
 constexpr std::int64_t kHighestText = condacts::kHighestNumber;
 
-std::string_view WordFilter(store::AdventureKind type) {
-    return type == store::AdventureKind::Marlo ? "word=? and (voctypen=0 or voctypen=2 or voctypen=7)"
-                                               : "word=?";
+std::string WordFilter(store::AdventureKind type) {
+    const std::string word = "word=?";
+    return type == store::AdventureKind::Marlo ? word + " and " + condacts::OfEntryVerbs() : word;
 }
 
 }  // namespace
@@ -30,7 +31,8 @@ GameTexts::GameTexts(store::Adventure& adventure, store::AdventureKind type)
       systemMessages_{
           "system message", adventure.Prepare(TableNum::SystemMessages, "smsgmsg", "smsgnum=?"), {}},
       words_(adventure.Prepare(TableNum::Vocabulary, "vocnum, voctypen, Word", WordFilter(type), "")),
-      nouns_(adventure.Prepare(TableNum::Vocabulary, "vocnum", "voctypen=2 and vocnum=?",
+      nouns_(adventure.Prepare(TableNum::Vocabulary, "vocnum",
+                               condacts::OfWordTypes({condacts::kNoun}) + " and vocnum=?",
                                "voctypen, vocnum, word")),
       wordsByNumber_(adventure.Prepare(TableNum::Vocabulary, "Word", "voctype=? and vocnum=?",
                                        "voctypen, vocnum, word")) {

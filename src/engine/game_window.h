@@ -147,6 +147,8 @@ class GameTimers {
     virtual void StartWait(std::chrono::milliseconds length) = 0;
 };
 
+class OriginSink;
+
 /// The parts that a host has beside the text. What it lacks (nullptr) is neither shown nor timed.
 struct WindowParts {
     GameEvents* events = nullptr;
@@ -154,6 +156,7 @@ struct WindowParts {
     PictureScreen* pictures = nullptr;
     StatusLine* status = nullptr;
     GameTimers* timers = nullptr;
+    OriginSink* origins = nullptr;  ///< who wants to know where texts come from (origin.h)
 };
 
 /// A window that is all of them.
@@ -164,7 +167,7 @@ class WholeWindow : public GameWindow,
                     public StatusLine,
                     public GameTimers {
   public:
-    WindowParts Parts() { return {this, this, this, this, this}; }
+    WindowParts Parts() { return {this, this, this, this, this, nullptr}; }
 };
 
 /// The blank at which no line may break (GameWindow::BreaksLines).

@@ -16,32 +16,30 @@ ProcessLoop::Label ProcessLoop::MarloProcessLoop(Label label) {
             return Label::StartProc1;
 
         case Label::StartProc1:
-            TraceLine("Drop into Proc1 after setting variables");
+            TraceStep(CycleStep::BeginDescribed);
             StartProcess(kDescribed);
             return Label::Proc1;
         case Label::Proc1:
             ClearMatchWordsBit();
-            TraceLine("Process 1 from Proc1 label");
+            TraceStep(CycleStep::RunDescribed);
             return RunCurrentTable(Label::AfterProc1);
         case Label::AfterProc1:
             return TestTable(label, Label::Parse, true);
 
         case Label::Parse:
-            TraceLine("Autodec any flags (if necessary) to ");
+            TraceStep(CycleStep::CountAutoFlags);
             ClearMatchWordsBit();
             DoAutoFlags(game_, false);
             return ParseSentence();
 
         case Label::StartProc0:
-            if (game_.trace.On()) {
-                game_.trace.Line("Incrementing turn to " + std::to_string(game_.Flag(flag::kTurnLow)));
-                game_.trace.Line("Current location is " + std::to_string(game_.Flag(flag::kLocation)));
-            }
-            TraceLine("Drop into Proc0 after setting variables");
+            if (game_.trace.On())
+                game_.trace.Tell(TurnCounted{game_.Flag(flag::kTurnLow), game_.Flag(flag::kLocation)});
+            TraceStep(CycleStep::BeginResponses);
             StartProcess(kResponses);
             return MarloExits();
         case Label::Proc0:
-            TraceLine("Process 0 from Proc0 label");
+            TraceStep(CycleStep::RunResponses);
             game_.SetFlag(flag::kActed, 0);
             return RunCurrentTable(Label::AfterProc0);
         case Label::AfterProc0:
@@ -56,24 +54,24 @@ ProcessLoop::Label ProcessLoop::MarloProcessLoop(Label label) {
 
 /// What the search comes to without a move is kept until process 0 has run.
 ProcessLoop::Label ProcessLoop::MarloExits() {
-    TraceLine("Searching Connections table");
+    TraceStep(CycleStep::SearchExits);
     exits_ = SearchConnections(game_, game_.Location());
     if (exits_ != ExitSearch::Moved) return Label::Proc0;
-    TraceLine("connections goto ");
+    TraceStep(CycleStep::TakeExit);
     return Label::Top;
 }
 
 ProcessLoop::Label ProcessLoop::MarloAnswer() {
     if (game_.Flag(flag::kActed) != 0) {
-        TraceLine("Did an action. Back to Proc1");
+        TraceStep(CycleStep::Answered);
     } else {
         SayNoExit(exits_);
     }
     return Label::StartProc1;
 }
 
-void ProcessLoop::TraceLine(const char* text) {
-    if (game_.trace.On()) game_.trace.Line(text);
+void ProcessLoop::TraceStep(CycleStep step) {
+    if (game_.trace.On()) game_.trace.Tell(step);
 }
 
 }  // namespace fabula::engine

@@ -81,16 +81,14 @@ void PlaceObject(Game& game, ObjectNumber object, PlaceNumber where) {
     if (game.IsCarried(object)) {
         game.state.Minus(flag::kCarriedCount, 1);
         if (game.trace.On()) {
-            game.trace.Line(std::to_string(object.value) + " removed from carried. Value now " +
-                            std::to_string(game.Flag(flag::kCarriedCount)));
+            game.trace.Tell(CarriedChanged{object, false, game.Flag(flag::kCarriedCount)});
         }
     }
     game.state.SetObjectPlace(object, where == place::kHere ? game.Location() : where);
     if (game.IsCarried(object)) {
         game.state.Plus(flag::kCarriedCount, 1);
         if (game.trace.On()) {
-            game.trace.Line(std::to_string(object.value) + " added to carried. Value now " +
-                            std::to_string(game.Flag(flag::kCarriedCount)));
+            game.trace.Tell(CarriedChanged{object, true, game.Flag(flag::kCarriedCount)});
         }
     }
 }

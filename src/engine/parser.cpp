@@ -200,7 +200,7 @@ std::string SplitSentences(std::string_view line, const std::vector<std::string>
 
 bool ParsePhrase(Game& game, std::string& text) {
     if (text.empty()) return false;
-    if (game.trace.On()) game.trace.Line("Command: " + text);
+    if (game.trace.On()) game.trace.Tell(PhraseBegun{text});
     BeginSentence(game);
     const std::size_t end = text.find(kSentenceEnd);
     const std::string collapsed = text::CollapseBlanks(std::string_view(text).substr(0, end));

@@ -12,8 +12,9 @@ namespace {
 
 constexpr int kListedBit = 128;
 
-void PrintNumber(Game& game, int number) {
-    game.printer.PrintText(std::to_string(number), false, true);
+void PrintFlag(Game& game, FlagNumber flag) {
+    game.printer.PrintText(std::to_string(game.Flag(flag)), false, true, TextRole::Game,
+                           TextRecord::Of(flag));
 }
 
 int CountAt(const Game& game, PlaceNumber where) {
@@ -84,7 +85,7 @@ bool SysMsgF(Game& game, FlagNumber flag) {
 }
 
 bool Print(Game& game, FlagNumber flag) {
-    PrintNumber(game, game.Flag(flag));
+    PrintFlag(game, flag);
     return true;
 }
 
@@ -96,7 +97,8 @@ bool NewLine(Game& game) {
 bool Turns(Game& game) {
     const int turns = game.Flag(flag::kTurnHigh) * 256 + game.Flag(flag::kTurnLow);
     SaySystemMessage(game, message::kTurnsTaken);
-    game.printer.PrintText(std::to_string(turns) + " ", false, true);
+    game.printer.PrintText(std::to_string(turns) + " ", false, true, TextRole::Game,
+                           TextRecord::Of(flag::kTurnLow));
     SaySystemMessage(game, message::kTurn);
     if (turns > 1) SaySystemMessage(game, message::kPlural);
     SaySystemMessage(game, message::kCountEnd);
@@ -105,7 +107,7 @@ bool Turns(Game& game) {
 
 bool Score(Game& game) {
     SaySystemMessage(game, message::kScored);
-    PrintNumber(game, game.Flag(flag::kScore));
+    PrintFlag(game, flag::kScore);
     SaySystemMessage(game, message::kScoreEnd);
     SaySystemMessage(game, message::kCountEnd);
     return true;

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <optional>
 
+#include "condacts/limits.h"
+#include "engine/condact_runner.h"
 #include "engine/run_failure.h"
 #include "engine/script.h"
 #include "engine/shown_text.h"
@@ -14,7 +16,6 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr int kHighestColour = 15;
 constexpr int kTabColumn = 16;
 constexpr std::size_t kLongestRun = 64 * 1024;
 
@@ -57,8 +58,15 @@ Printer::Printer(GameWindow& window, const TextSettings& settings, Script& scrip
     ResetColours();
 }
 
-void Printer::PrintText(std::string_view text, bool freshStart, bool restoreAttributes, TextRole role) {
+void Printer::TellOrigins(OriginSink* sink, const CondActRunner& runner) {
+    origins_ = sink;
+    runner_ = &runner;
+}
+
+void Printer::PrintText(std::string_view text, bool freshStart, bool restoreAttributes, TextRole role,
+                        TextRecord record) {
     role_ = role;
+    record_ = record;
     width_ = window_.PrintWidth();
     advance_ = CharacterPane() ? std::max(1, window_.CharacterAdvance()) : 1;
     if (freshStart) {
@@ -84,6 +92,7 @@ void Printer::PrintText(std::string_view text, bool freshStart, bool restoreAttr
     }
     Flush();
     role_ = TextRole::Game;
+    record_ = {};
 }
 
 void Printer::PrintLine(std::string_view line) {
@@ -157,11 +166,11 @@ void Printer::RunValueTag(int code, std::string_view value) {
     if (!value.empty() && !number) return;
     switch (code) {
         case kPaperTag:
-            if (number.value_or(0) >= 0 && number.value_or(0) <= kHighestColour)
+            if (number.value_or(0) >= 0 && number.value_or(0) <= condacts::limit::kHighestColour)
                 Paper(number.value_or(noted_.paper));
             break;
         case kInkTag:
-            if (number.value_or(0) >= 0 && number.value_or(0) <= kHighestColour)
+            if (number.value_or(0) >= 0 && number.value_or(0) <= condacts::limit::kHighestColour)
                 Ink(number.value_or(noted_.ink));
             break;
         case kCharSetTag:
@@ -268,6 +277,7 @@ void Printer::Flush() {
         throw RunFailure("the game prints more than " + std::to_string(kPrintLimit) +
                          " characters without waiting for the player");
     }
+    if (origins_) origins_->Printing(run_, {runner_->Place(), record_});
     window_.Write(run_, style_, role_);
     if (role_ == TextRole::Game && script_.Writing()) {
         script_.WriteText(text::ReplaceAll(run_, kNoBreakSpace, " "));

@@ -5,10 +5,12 @@
 #include <string_view>
 
 #include "engine/game_window.h"
+#include "engine/origin.h"
 #include "engine/text_settings.h"
 
 namespace fabula::engine {
 
+class CondActRunner;
 class Script;
 
 /// The one output of a game: takes texts in the markup and gives the window runs of one look, with line
@@ -35,10 +37,15 @@ class Printer {
   public:
     Printer(GameWindow& window, const TextSettings& settings, Script& script);
 
+    /// From here on `sink` learns where each run of text comes from; nullptr: no one does. `runner` knows
+    /// where the game stands.
+    void TellOrigins(OriginSink* sink, const CondActRunner& runner);
+
     /// Prints a text. With `freshStart` it begins a line of its own in the game's colours. With
-    /// `restoreAttributes` bright, font, size and ink are afterwards what they were.
+    /// `restoreAttributes` bright, font, size and ink are afterwards what they were. `record` is the one
+    /// that holds the text.
     void PrintText(std::string_view text, bool freshStart, bool restoreAttributes,
-                   TextRole role = TextRole::Game);
+                   TextRole role = TextRole::Game, TextRecord record = {});
     /// NEWLINE: the game's colours, then a line end.
     void NewLine();
     void EndLine(LineEnd kind = LineEnd::Hard);
@@ -87,11 +94,14 @@ class Printer {
     GameWindow& window_;
     const TextSettings& settings_;
     Script& script_;
+    OriginSink* origins_ = nullptr;
+    const CondActRunner* runner_ = nullptr;
     TextStyle style_;
     int sizeCode_;
     TextStyle noted_;  ///< as the text in print began
     int notedSizeCode_ = 0;
     TextRole role_ = TextRole::Game;
+    TextRecord record_;  ///< of the text in print
 
     int column_ = 0;  ///< columns in the text pane, pixels in the character pane
     int width_ = 0;

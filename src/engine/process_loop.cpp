@@ -9,6 +9,7 @@
 namespace fabula::engine {
 
 ProcessLoop::Outcome ProcessLoop::Start() {
+    game_.runner.Abandon();
     turnAtInput_ = kTurnOfAnswer;
     unwinding_ = false;
     return Run(Label::Begin);
@@ -26,7 +27,7 @@ ProcessLoop::Outcome ProcessLoop::Enter() {
     game_.startX = -1;
     game_.startY = -1;
     unwinding_ = false;
-    if (game_.IsMarlo() && game_.trace.On()) game_.trace.Line("Executing MarloProcessLoop -1 -1 -1");
+    if (game_.IsMarlo() && game_.trace.On()) game_.trace.Tell(CycleEntered{});
     return Run(Label::Top);
 }
 
@@ -36,13 +37,8 @@ ProcessLoop::Outcome ProcessLoop::Resume() {
     exits_ = ExitSearch::Moved;    // and no direction, so that no message tells of an exit
     game_.parentProcNum = game_.savedParentProcNum;
     unwinding_ = false;
-    if (game_.IsMarlo() && game_.trace.On()) {
-        game_.trace.Line("Executing MarloProcessLoop " + std::to_string(process) + " " +
-                         std::to_string(game_.startX) + " " + std::to_string(game_.startY));
-        game_.trace.Line(process <= 1
-                             ? "Back to Process " + std::to_string(process) + " after ending procedure"
-                             : "Trying to skip to " + std::to_string(process) + " in a Marlo game");
-    }
+    if (game_.IsMarlo() && game_.trace.On())
+        game_.trace.Tell(CycleEntered{true, process, game_.startX, game_.startY});
     if (process == 1) return Run(Label::Proc1);
     if (game_.IsMarlo()) return Run(process == 0 ? Label::Proc0 : Label::Top);
     return Run(process == 2 ? Label::Proc2 : Label::Proc0);
@@ -135,10 +131,8 @@ ProcessLoop::Label ProcessLoop::TestTable(Label table, Label next, bool testDesc
     unwinding_ = !calls.empty();
     if (!unwinding_) return next;
     const TablePosition call = calls.back();
-    if (game_.IsMarlo() && game_.trace.On()) {
-        game_.trace.Line("Process " + std::to_string(call.process.value) + " from call stack " +
-                         (table == Label::AfterProc0 ? "after Proc0" : "after Proc1"));
-    }
+    if (game_.IsMarlo() && game_.trace.On())
+        game_.trace.Tell(CallTakenUp{call.process, table == Label::AfterProc0});
     return RunTable(call.process, call.entry, call.cell, table);
 }
 
@@ -188,7 +182,7 @@ void ProcessLoop::TraceSentence() {
     if (!game_.trace.On()) return;
     const std::string words = SentenceWords(game_);
     game_.parts.status.ShowStatus(StatusField::Command, words);
-    game_.trace.Line("Processing sentence (abverb verb adjective noun prep " + words + ")");
+    game_.trace.Tell(SentenceRead{.words = words});
 }
 
 void ProcessLoop::CountTurn() {

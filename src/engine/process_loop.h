@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/location_actions.h"
+#include "engine/trace_event.h"
 
 namespace fabula::engine {
 
@@ -82,7 +83,7 @@ class ProcessLoop {
     void SayNotUnderstood();
     void SayNoExit(ExitSearch search);
     void TraceSentence();
-    void TraceLine(const char* text);
+    void TraceStep(CycleStep step);
 
     Game& game_;
     Label afterTable_ = Label::Return;

@@ -21,7 +21,8 @@ SystemMessageNumber RandomPrompt(Game& game) {
 }
 
 void OpenInput(Game& game) {
-    game.printer.PrintText(game.prompt, false, true, TextRole::Prompt);
+    game.printer.PrintText(game.prompt, false, true, TextRole::Prompt,
+                           TextRecord::Of(message::kInputPrompt));
     if (TimeOutIsArmed(game)) StartTimeOut(game);
     game.inputReady = true;
     ShowTyped(game);

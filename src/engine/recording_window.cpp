@@ -10,9 +10,9 @@ std::string RecordingWindow::TakeText() {
     return text;
 }
 
-const TextStyle& RecordingWindow::StyleOf(std::string_view text) const {
+const RecordingWindow::Run& RecordingWindow::LatestRun(std::string_view text) const {
     for (auto run = runs_.rbegin(); run != runs_.rend(); ++run) {
-        if (run->text.find(text) != std::string::npos) return run->style;
+        if (run->text.find(text) != std::string::npos) return *run;
     }
     throw std::logic_error("no run holds \"" + std::string(text) + "\"");
 }
@@ -27,7 +27,7 @@ void RecordingWindow::EndGame() {
 }
 
 void RecordingWindow::Write(std::string_view text, const TextStyle& style, TextRole role) {
-    runs_.push_back({std::string(text), style, role});
+    runs_.push_back({std::string(text), style, role, origin_});
     screen_ += text;
     if (role == TextRole::Game) text_ += text;
 }

@@ -9,18 +9,21 @@
 #include <vector>
 
 #include "engine/game_window.h"
+#include "engine/origin.h"
 
 namespace fabula::engine {
 
 /// A window for tests: keeps what the game shows, answers what it was told to answer, and lets no time pass
 /// by itself.
-class RecordingWindow final : public WholeWindow {
+class RecordingWindow final : public WholeWindow, public OriginSink {
   public:
     struct Run {
         std::string text;
         TextStyle style;
         TextRole role = TextRole::Game;
+        Origin origin;  ///< where the window's Parts were given to the engine
     };
+    WindowParts Parts() { return {this, this, this, this, this, this}; }
 
     /// What the game said since the last call: line ends as "\n", lines not wrapped, without prompts and
     /// typed lines.
@@ -31,7 +34,10 @@ class RecordingWindow final : public WholeWindow {
     const std::string& Screen() const { return screen_; }
     const std::vector<Run>& Runs() const { return runs_; }
     /// The style of the latest run that holds `text`; throws std::logic_error when none does.
-    const TextStyle& StyleOf(std::string_view text) const;
+    const TextStyle& StyleOf(std::string_view text) const { return LatestRun(text).style; }
+
+    /// Where the latest run that holds `text` came from; throws as StyleOf does.
+    const Origin& OriginOf(std::string_view text) const { return LatestRun(text).origin; }
 
     /// How wide the pane is, in the unit of PrintWidth. No line breaks at first.
     int printWidth = kNoWidthLimit;
@@ -65,6 +71,7 @@ class RecordingWindow final : public WholeWindow {
     bool BreaksLines() const override { return breaksLines; }
     int CharacterAdvance() const override { return characterAdvance; }
     void Write(std::string_view text, const TextStyle& style, TextRole role) override;
+    void Printing(std::string_view, const Origin& origin) override { origin_ = origin; }
     void EndLine(LineEnd kind) override;
     void Clear(int paper, int ink) override;
     void ShowInput(std::string_view line, std::string_view cursorText) override;
@@ -81,10 +88,13 @@ class RecordingWindow final : public WholeWindow {
     std::optional<std::filesystem::path> FileFor(const FileRequest& request);
 
   private:
+    const Run& LatestRun(std::string_view text) const;
+
     std::string text_;
     std::size_t taken_ = 0;
     std::string screen_;
     std::vector<Run> runs_;
+    Origin origin_;
     std::deque<std::optional<std::filesystem::path>> files_;
 };
 

@@ -36,9 +36,7 @@ std::string CutSpeech(std::string& command, std::size_t& begin) {
 
 void TraceSpeech(Game& game) {
     if (!game.trace.On()) return;
-    game.trace.Line("Processing parse sentence (abverb verb adjective noun prep " + SentenceWords(game) +
-                    ")");
-    game.trace.Line("Continuing:");
+    game.trace.Tell(SentenceRead{.words = SentenceWords(game), .isSpoken = true});
 }
 
 }  // namespace

@@ -2,12 +2,18 @@
 
 #include <string_view>
 
+#include "engine/trace_event.h"
+
 namespace fabula::engine {
 
-/// Where the lines of a trace go.
+/// Where the events of a trace go. One that overrides nothing else gets them as lines.
 class TraceSink {
   public:
     virtual ~TraceSink() = default;
+    virtual void Tell(const TraceEvent& event) {
+        for (const std::string& line : LinesOf(event))
+            WriteLine(line);
+    }
     /// One line, without its end.
     virtual void WriteLine(std::string_view line) = 0;
 };

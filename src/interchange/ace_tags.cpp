@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "condacts/limits.h"
 #include "text/colours.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
@@ -9,11 +10,9 @@
 namespace fabula::interchange {
 namespace {
 
-constexpr int kColors = 16;
-
 bool IsColorNumber(std::string_view value) {
     const auto number = text::WholeNumber(value);
-    return number && *number >= 0 && *number < kColors;
+    return number && *number >= 0 && *number <= condacts::limit::kHighestColour;
 }
 
 std::string ColorFromAce(std::string_view value) {
@@ -86,7 +85,7 @@ std::string AceTags::ToACETags(std::string_view text) const {
 }
 
 int ConvertACEColors(std::string_view name) {
-    for (int number = 0; number < kColors; ++number) {
+    for (int number = 0; number <= condacts::limit::kHighestColour; ++number) {
         if (text::EqualsNoCase(text::ColorName(number), name)) return number;
     }
     return -1;

@@ -11,6 +11,7 @@
 
 #include "condacts/load.h"
 #include "condacts/parser.h"
+#include "condacts/word_filters.h"
 #include "interchange/companion_texts.h"
 #include "interchange/export_fields.h"
 #include "interchange/keyed_table.h"
@@ -280,7 +281,7 @@ class ExportReader {
         if (!words || words->Keys().empty()) return;
         std::vector<std::int64_t> deleted;
         store::PreparedQuery all =
-            context_.adventure.Prepare(TableNum::Vocabulary, "vocindex", "voctypen<>7");
+            context_.adventure.Prepare(TableNum::Vocabulary, "vocindex", condacts::ButReserved());
         for (bool more = all.First({}); more; more = all.Next()) {
             if (!words->Keys().contains(all.Number(0))) deleted.push_back(all.Number(0));
         }

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <optional>
 
+#include "condacts/limits.h"
 #include "condacts/parser.h"
 #include "interchange/keyed_table.h"
+#include "store/new_flag.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -21,11 +23,8 @@ bool HasText(std::string_view description) {
 
 void AddFlag(KeyedTable& flags, int number) {
     Cursor& flag = flags.Add(number);
-    flag.SetField("flgtype", std::string("User"));
-    flag.SetField("flguse", std::string("Unknown"));
-    flag.SetField("flgmod", std::int64_t{2});
-    flag.SetField("flgdesc", std::string());
-    flag.SetField("flgchg", std::int64_t{1});
+    for (const auto& [field, value] : store::FieldsOfNewFlag(number, ""))
+        flag.SetField(field, value);
     flags.Update();
 }
 
@@ -68,7 +67,7 @@ void FlagAnalysis::CheckForFlags(std::string_view condAct) {
 
 void FlagAnalysis::Count(std::size_t user, std::string_view token) {
     const std::optional<int> flag = condacts::WholeNumber(token);
-    if (flag && *flag < kFirstExtendedFlag) uses_[*flag].insert(user);
+    if (flag && *flag < condacts::limit::kFirstExtendedFlag) uses_[*flag].insert(user);
 }
 
 bool FlagAnalysis::IsUserFlag(int flag) const {

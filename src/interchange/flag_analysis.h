@@ -44,7 +44,4 @@ class FlagAnalysis {
     std::map<int, std::set<std::size_t>> uses_;  ///< by flag, the users that name it
 };
 
-/// Flags from this number up belong to the system.
-inline constexpr int kFirstExtendedFlag = 1000;
-
 }  // namespace fabula::interchange

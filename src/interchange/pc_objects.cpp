@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "condacts/limits.h"
 #include "condacts/parser.h"
 #include "condacts/places.h"
 #include "text/utf8.h"
@@ -13,7 +14,6 @@ namespace {
 using condacts::Word;
 using store::Cursor;
 
-constexpr int kHeaviest = 63;
 constexpr std::size_t kTokensNeeded = 6;
 
 struct NamedPlace {
@@ -59,7 +59,7 @@ void PcObjects::Slash(std::string_view line) {
         return;
     }
     const std::optional<int> weight = condacts::WholeNumber(tokens[2]);
-    if (!weight || *weight > kHeaviest) {
+    if (!weight || *weight > condacts::limit::kHeaviestObject) {
         job_.Fault("Weight must be from 0 to 63", tokens[2]);
         return;
     }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "condacts/convert.h"
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "interchange/keyed_table.h"
@@ -19,7 +20,6 @@ using store::TableNum;
 
 /// Numbers below are directions and conversion nouns.
 constexpr int kFirstFreeNumber = 20;
-constexpr int kLastFreeNumber = 254;
 
 struct NeededWord {
     const char* word;
@@ -74,7 +74,7 @@ class Vocabulary {
 
   private:
     std::optional<int> FreeNumber(int type) const {
-        for (int number = kFirstFreeNumber; number <= kLastFreeNumber; ++number) {
+        for (int number = kFirstFreeNumber; number <= condacts::limit::kHighestWord; ++number) {
             const bool taken = std::any_of(words_.begin(), words_.end(), [&](const Word& word) {
                 return word.type == type && word.number == number;
             });

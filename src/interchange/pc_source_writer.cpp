@@ -139,7 +139,8 @@ class SourceWriter {
 
     void WriteVocabulary() {
         Keyword("VOC");
-        Cursor& words = context_.adventure.OpenTable(TableNum::Vocabulary, "def", "voctypen<7");
+        Cursor& words = context_.adventure.OpenTable(TableNum::Vocabulary, "def",
+                                                     "voctypen<" + std::to_string(condacts::kReserved));
         for (; !words.Eof(); words.MoveNext()) {
             record_ = "Vocabulary " + std::to_string(words.Number("vocindex"));
             const std::string word = Word(words.Text("word"));

@@ -2,8 +2,10 @@
 
 #include <optional>
 
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
+#include "condacts/word_filters.h"
 #include "text/utf8.h"
 
 namespace fabula::interchange {
@@ -12,13 +14,11 @@ namespace {
 using condacts::Word;
 using store::TableNum;
 
-constexpr int kLowestWord = 2;
-constexpr int kHighestWord = 254;
 constexpr int kHighestReservedWord = 255;
 
 bool IsWordNumber(int number, int type) {
     if (type == condacts::kReserved) return number <= kHighestReservedWord;
-    return number >= kLowestWord && number <= kHighestWord;
+    return number >= condacts::limit::kLowestWord && number <= condacts::limit::kHighestWord;
 }
 
 }  // namespace
@@ -39,7 +39,7 @@ int WordTypeFromSource(std::string_view type) {
 void PcVocabulary::Begin(const std::vector<std::string_view>&) {
     if (table_) return;
     store::Adventure& adventure = job_.context.adventure;
-    adventure.DeleteFrom(TableNum::Vocabulary, "voctypen<>7");
+    adventure.DeleteFrom(TableNum::Vocabulary, condacts::ButReserved());
     const condacts::WordIndex reserved = condacts::LoadWords(adventure);
     for (const Word& word : reserved.All()) {
         bySpelling_[text::LowerCase(word.word)].push_back(word);

@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "condacts/word_filters.h"
 #include "condacts/words.h"
 #include "listings/condition_texts.h"
 #include "listings/record.h"
@@ -105,8 +106,8 @@ void WriteEntries(const Listing& listing, const ConditionTexts& texts, const std
 /// The number of a word of the vocabulary that the special listing looks for. Throws fabula::Error when
 /// there is none.
 int NumberOf(store::Adventure& adventure, const std::string& word, const std::string& types) {
-    store::PreparedQuery row = adventure.Prepare(TableNum::Vocabulary, "vocnum",
-                                                 "word=? and (" + types + ")", "voctypen, vocnum, word");
+    store::PreparedQuery row =
+        adventure.Prepare(TableNum::Vocabulary, "vocnum", "word=? and " + types, "voctypen, vocnum, word");
     if (!row.First({std::string_view(word)}))
         throw Error("The vocabulary has no such word for this listing: " + word + ".");
     return static_cast<int>(row.Number(0));
@@ -114,8 +115,9 @@ int NumberOf(store::Adventure& adventure, const std::string& word, const std::st
 
 /// A noun that stands for any noun asks for the entries of both such words.
 std::string FilterOfWords(store::Adventure& adventure, const ReportRequest& request) {
-    const int verb = NumberOf(adventure, request.verb, "voctypen=0 or voctypen=2 or voctypen=7");
-    const int noun = NumberOf(adventure, request.noun, "voctypen=7 or voctypen=2");
+    const int verb = NumberOf(adventure, request.verb, condacts::OfEntryVerbs());
+    const int noun =
+        NumberOf(adventure, request.noun, condacts::OfWordTypes({condacts::kNoun, condacts::kReserved}));
     const bool any = noun == 1 || noun == condacts::kNoWordNumber;
     const std::string nouns = any ? "(w2num=1 or w2num=255)" : "w2num=" + std::to_string(noun);
     return " and w1num=" + std::to_string(verb) + " and " + nouns;

@@ -7,6 +7,7 @@
 
 #include "condacts/load.h"
 #include "condacts/parser.h"
+#include "store/new_flag.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/str_edit.h"
@@ -44,9 +45,8 @@ const Record* KnownFlag(Work& work, int number) {
 }
 
 Record UserFlag(int number) {
-    return {{"flgnum", std::int64_t{number}},   {"flgtype", std::string("User")},
-            {"flguse", std::string("Unknown")}, {"flgmod", std::int64_t{2}},
-            {"flgdesc", std::string()},         {"flgchg", std::int64_t{1}}};
+    const auto fields = store::FieldsOfNewFlag(number, "");
+    return {fields.begin(), fields.end()};
 }
 
 std::set<std::int64_t> FlagNumbers(Work& work) {
@@ -186,9 +186,9 @@ void FreeFlags28And255(Work& work, const Step&) {
     for (Cursor& flags = work.adventure.OpenTable(TableNum::Flags, "flgtype, flguse, flgmod",
                                                   "(flgnum=28 or flgnum=255) and flgtype='System'");
          !flags.Eof(); flags.MoveNext()) {
-        flags.SetField("flgtype", std::string("User"));
-        flags.SetField("flguse", std::string("Unknown"));
-        flags.SetField("flgmod", std::int64_t{2});
+        flags.SetField("flgtype", std::string(store::kUserFlagType));
+        flags.SetField("flguse", std::string(store::kUnknownFlagUse));
+        flags.SetField("flgmod", store::kEditableFlag);
         flags.Update();
     }
 }

@@ -112,7 +112,7 @@ std::vector<Record> FirstRecords(Work& work, TableNum table) {
 template <typename Use>
 void ForEachUncompiled(Work& work, Use use) {
     Cursor& entries = work.adventure.OpenTable(TableNum::ProcessTables, "condacts, numericcondacts",
-                                               "numericcondacts='' and condacts<>''");
+                                               "numericcondacts='' and condacts<>''", std::string_view());
     if (entries.Eof()) return;
     const condacts::Catalogue catalogue = condacts::LoadCatalogue(work.adventure);
     const condacts::WordIndex words = condacts::LoadWords(work.adventure);

@@ -1,5 +1,6 @@
 #include "upgrades/settings_corrections.h"
 
+#include "condacts/limits.h"
 #include "text/colours.h"
 #include "text/utf8.h"
 
@@ -9,10 +10,8 @@ namespace {
 using store::Cursor;
 using store::TableNum;
 
-constexpr int kColours = 16;
-
 bool IsColour(std::int64_t number) {
-    return number >= 0 && number < kColours;
+    return number >= 0 && number <= condacts::limit::kHighestColour;
 }
 
 /// The number of a colour that was stored as the screen's: red in the lowest byte, then green and blue.

@@ -36,18 +36,14 @@ bool IsOfRecords(const Description& description) {
     return description.table != TableNum::Adventure;
 }
 
-/// Calls `use` with every text of the chosen fields until it gives true; whether it did.
-template <typename Use>
-bool AnyText(Work& work, Chosen chosen, Use use) {
-    for (const Description& description : Descriptions()) {
-        if (!chosen(description) || !work.Has(description.table, {description.field})) continue;
-        store::PreparedQuery texts =
-            work.adventure.Prepare(description.table, description.field, "", std::string_view());
-        for (bool found = texts.First({}); found; found = texts.Next()) {
-            if (use(texts.Text(0))) return true;
-        }
-    }
-    return false;
+/// Whether one of these control characters stands in a text of the chosen fields.
+bool AnyTextHolds(Work& work, Chosen chosen, std::string_view controls) {
+    std::uint32_t sought = 0;
+    for (const char control : controls)
+        sought |= std::uint32_t{1} << control;
+    return std::ranges::any_of(Descriptions(), [&](const Description& description) {
+        return chosen(description) && (work.ControlsIn(description.table, description.field) & sought) != 0;
+    });
 }
 
 /// Puts every text of the chosen fields through `change`.
@@ -66,17 +62,11 @@ void ChangeTexts(Work& work, Chosen chosen, Change change) {
     }
 }
 
-bool HasLoneLineEnd(std::string_view text) {
-    return text.find_first_of("\r\n") != std::string_view::npos;
-}
+constexpr std::string_view kForeignLineEnds = "\r\n";
 
 /// The characters that separated lines before the line-end marker did: the four separators among the
 /// control characters, which no text holds for itself.
 constexpr std::string_view kOldSeparators = "\x1c\x1d\x1e\x1f";
-
-bool HasOldSeparator(std::string_view text) {
-    return text.find_first_of(kOldSeparators) != std::string_view::npos;
-}
 
 std::string WithPresentSeparator(std::string_view text) {
     std::string result;
@@ -89,7 +79,12 @@ std::string WithPresentSeparator(std::string_view text) {
     return result;
 }
 
+bool IsDigitOrBlank(char c) {
+    return c == ' ' || (c >= '0' && c <= '9');
+}
+
 bool HasLocationWord(std::string_view numbers) {
+    if (std::ranges::all_of(numbers, IsDigitOrBlank)) return false;  // as nearly every line is
     const std::string capitals = text::UpperCase(numbers);
     return std::ranges::any_of(condacts::kLocationWords, [&](const condacts::LocationWord& word) {
         return capitals.find(word.word) != std::string::npos;
@@ -128,7 +123,8 @@ void SayEnter(Work& work, const Step&) {
 
 bool HasLocationWords(Work& work) {
     if (!work.Has(TableNum::ProcessTables, {"numericcondacts"})) return false;
-    store::PreparedQuery lines = work.adventure.Prepare(TableNum::ProcessTables, "numericcondacts", "");
+    store::PreparedQuery lines =
+        work.adventure.Prepare(TableNum::ProcessTables, "numericcondacts", "", std::string_view());
     for (bool found = lines.First({}); found; found = lines.Next()) {
         if (HasLocationWord(lines.Text(0)) && WithNumbers(lines.Text(0)) != lines.Text(0)) return true;
     }
@@ -149,7 +145,7 @@ void NumberLocationWords(Work& work, const Step&) {
 }
 
 bool HasForeignLineEnds(Work& work) {
-    return AnyText(work, IsLongText, HasLoneLineEnd);
+    return AnyTextHolds(work, IsLongText, kForeignLineEnds);
 }
 
 void NormaliseLineEnds(Work& work, const Step&) {
@@ -159,7 +155,7 @@ void NormaliseLineEnds(Work& work, const Step&) {
 }
 
 bool HasOldSeparators(Work& work) {
-    return AnyText(work, IsNotAuthor, HasOldSeparator);
+    return AnyTextHolds(work, IsNotAuthor, kOldSeparators);
 }
 
 void RenewSeparators(Work& work, const Step&) {

@@ -76,6 +76,7 @@ Need NeedOf(Work& work) {
 /// Does everything that the adventure needs, as one transaction.
 std::vector<const Step*> Upgrade(Work& work, UpgradeHost& host) {
     store::Transaction whole(work.adventure);
+    work.Forget();
     std::vector<const Step*> ran = RunAll(work, host);
     store::SchemaChange(work.adventure).Finish();
     whole.Commit();

@@ -12,6 +12,8 @@ using store::Cursor;
 using store::Record;
 using store::TableNum;
 
+constexpr unsigned kControls = 32;
+
 struct KeyRow {
     TableNum table;
     std::vector<std::string_view> fields;
@@ -52,6 +54,15 @@ const std::vector<Record>& RecordsOf(Defaults& defaults, TableNum table, std::ve
     return own;
 }
 
+std::uint32_t ControlsOf(std::string_view text) {
+    std::uint32_t controls = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        controls |= std::uint32_t{byte < kControls} << byte % kControls;
+    }
+    return controls;
+}
+
 bool Differs(const Cursor& cursor, std::string_view field, const text::Value& value) {
     return cursor.Field(field) != value;
 }
@@ -68,6 +79,20 @@ const std::vector<Work::FieldRow>& Work::FieldRows() {
                                std::string(rows.Text(2)), static_cast<int>(rows.Number(3))});
     }
     return *fieldRows_;
+}
+
+void Work::Forget() {
+    fieldRows_.reset();
+    controls_.clear();
+}
+
+std::uint32_t Work::ControlsIn(TableNum table, std::string_view field) {
+    const auto [known, isNew] = controls_.try_emplace({table, std::string(field)}, 0);
+    if (!isNew || !Has(table, {field})) return known->second;
+    store::PreparedQuery texts = adventure.Prepare(table, field, "", std::string_view());
+    for (bool found = texts.First({}); found; found = texts.Next())
+        known->second |= ControlsOf(texts.Text(0));
+    return known->second;
 }
 
 bool Work::Has(TableNum table, std::initializer_list<std::string_view> fields) const {

@@ -2,9 +2,11 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "store/adventure.h"
@@ -46,7 +48,11 @@ class Work {
     };
     /// `Tables` as it is; read again after `Forget`, which follows each step.
     const std::vector<FieldRow>& FieldRows();
-    void Forget() { fieldRows_.reset(); }
+    void Forget();
+
+    /// The control characters, those below blank, that stand in the texts of a field: bit 13 for a carriage
+    /// return. 0 for a field that is not there. Known until `Forget`, since several steps ask.
+    std::uint32_t ControlsIn(store::TableNum table, std::string_view field);
 
     bool HasTable(store::TableNum table) const { return !adventure.Schema(table).fields.empty(); }
     /// Whether the table has all of the fields.
@@ -60,6 +66,7 @@ class Work {
 
   private:
     std::optional<std::vector<FieldRow>> fieldRows_;
+    std::map<std::pair<store::TableNum, std::string>, std::uint32_t> controls_;
 };
 
 /// Gives the records of the default data to those of the file with the same keys: `fields` of each. Records

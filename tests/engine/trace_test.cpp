@@ -246,6 +246,39 @@ TEST(Trace, IsSwitchedOnByFlag1005) {
     EXPECT_TRUE(run->trace.Has("set 200 "));
 }
 
+/// Takes the events themselves.
+class Matches final : public engine::TraceSink {
+  public:
+    void Tell(const engine::TraceEvent& event) override {
+        if (const auto* match = std::get_if<engine::EntryMatched>(&event)) entries.push_back(*match);
+    }
+    void WriteLine(std::string_view) override { ADD_FAILURE() << "no one asked for lines"; }
+
+    std::vector<engine::EntryMatched> entries;
+};
+
+TEST(Trace, GivesEventsInPlaceOfLinesToWhoWantsThem) {
+    const TempFolder folder;
+    GameBuilder game;
+    game.Entry(0, "DO", "_", "PROCESS 4").Entry(4, "_", "_", "AT 1").Entry(4, "DO", "_", "DONE");
+    game.Write(folder / "game.fbd");
+    const auto adventure = store::Adventure::Open(folder / "game.fbd", store::OpenMode::ReadOnly);
+    engine::RecordingWindow window;
+    platform::ScriptedOperator oper;
+    QueuedRandom random;
+    RecordingSound sound;
+    Matches trace;
+    engine::Engine played(*adventure, {window, oper, random, sound, &trace, window.Parts()},
+                          {.traceFile = true});
+    played.Initialize();
+    played.EnterLine("DO");
+    ASSERT_EQ(trace.entries.size(), 3U);
+    EXPECT_EQ(trace.entries[2].process, engine::ProcessNumber(4));
+    EXPECT_EQ(trace.entries[2].entry, 1);
+    EXPECT_EQ(trace.entries[2].record, 2);
+    EXPECT_EQ(trace.entries[2].by, engine::EntryMatched::By::NounWild);
+}
+
 TEST(TraceFile, IsNamedByItsBegin) {
     EXPECT_EQ(engine::TraceFileName({2026, 1, 31, 23, 5, 9}), "TRC20260131_230509.trc");
 }

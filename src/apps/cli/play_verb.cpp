@@ -22,6 +22,7 @@ struct Options {
     std::string script;
     std::string transcript;
     std::string trace;
+    std::string origins;
     std::optional<std::uint32_t> seed;
     int width = 0;
     bool plain = false;
@@ -52,18 +53,40 @@ std::string TraceHeader(const Options& options) {
     return header;
 }
 
+/// A text that is written as the game runs, when the command line names a file for it.
+class Record {
+  public:
+    Record(const std::string& file, const Options& options, platform::Operator& person) : file_(file) {
+        if (file.empty()) return;
+        CheckTarget({file, store::Content::Text, {}, options.file, options.force}, person);
+        stream_.open(file, std::ios::binary);
+        if (!stream_) throw Error("Could not write " + file + ".");
+    }
+
+    bool IsWanted() const { return !file_.empty(); }
+    std::ostream& Stream() { return stream_; }
+
+    /// Throws fabula::Error when not all of it could be written; `what` names it: "transcript".
+    void Finish(const std::string& what) {
+        if (IsWanted()) stream_.close();
+        if (!stream_) throw Error("Could not write all of the " + what + " " + file_ + ".");
+    }
+
+  private:
+    const std::string& file_;
+    std::ofstream stream_;
+};
+
 int Play(const Options& options) {
     const auto adventure = OpenToRead(options.file);
     const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
     TerminalOperator person;
-    std::ofstream transcriptStream;
+    Record transcriptFile(options.transcript, options, person);
     std::optional<engine::Transcript> transcript;
-    if (!options.transcript.empty()) {
-        CheckTarget({options.transcript, store::Content::Text, {}, options.file, options.force}, person);
-        transcriptStream.open(options.transcript, std::ios::binary);
-        if (!transcriptStream) throw Error("Could not write " + options.transcript + ".");
-        transcript.emplace(transcriptStream);
-    }
+    if (transcriptFile.IsWanted()) transcript.emplace(transcriptFile.Stream());
+    Record originsFile(options.origins, options, person);
+    std::optional<engine::OriginLog> origins;
+    if (originsFile.IsWanted()) origins.emplace(originsFile.Stream());
     std::optional<engine::TraceFile> trace;
     if (!options.trace.empty()) {
         CheckTarget({options.trace, store::Content::Text, ".trc", options.file, options.force}, person);
@@ -79,11 +102,11 @@ int Play(const Options& options) {
     terminal::Screen screen(style, output, *input, transcript ? &*transcript : nullptr);
     const terminal::NamedFiles files;
     terminal::TerminalWindow window(screen, files);
-    const bool ended = terminal::PlaySession(
-        *adventure, window, screen,
-        {options.seed, interactive || options.realTime, options.debug, trace ? &*trace : nullptr});
-    if (transcript) transcriptStream.close();
-    if (!transcriptStream) throw Error("Could not write all of the transcript " + options.transcript + ".");
+    const bool ended = terminal::PlaySession(*adventure, window, screen,
+                                             {options.seed, interactive || options.realTime, options.debug,
+                                              trace ? &*trace : nullptr, origins ? &*origins : nullptr});
+    transcriptFile.Finish("transcript");
+    originsFile.Finish("list of origins");
     if (trace && !trace->Finish()) throw Error("Could not write all of the trace " + options.trace + ".");
     return ended ? kDone : kFailed;
 }
@@ -102,6 +125,9 @@ void AddPlayVerb(CLI::App& app, Chosen& chosen) {
     verb->add_option("--script", options->script, "Take commands from this file first");
     verb->add_option("--transcript", options->transcript, "Write all that is shown and typed to this file");
     verb->add_option("--trace", options->trace, "Write what the engine does to this file");
+    verb->add_option("--origins", options->origins,
+                     "Write where each text came from to this file: the entry and action, the record, and "
+                     "the text, with tabs between them");
     verb->add_option("--seed", options->seed, "Draw the random numbers of this seed");
     verb->add_option("--width", options->width, "Break lines at this many columns")
         ->check(CLI::Range(10, 10000));

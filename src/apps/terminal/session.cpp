@@ -16,6 +16,12 @@ const std::string kDebugHelp =
     "to 0; "
     ":=5 gives it a value, or the object a location.";
 
+engine::WindowParts PartsOf(TerminalWindow& window, const SessionOptions& options) {
+    engine::WindowParts parts = window.Parts();
+    parts.origins = options.origins;
+    return parts;
+}
+
 class Session {
   public:
     Session(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
@@ -24,7 +30,7 @@ class Session {
           screen_(screen),
           options_(options),
           random_(options.seed ? *options.seed : platform::UnpredictableSeed()),
-          engine_(adventure, {window, window, random_, sound_, options.trace, window.Parts()},
+          engine_(adventure, {window, window, random_, sound_, options.trace, PartsOf(window, options)},
                   {.traceFile = options.trace != nullptr}),
           debug_(engine_) {}
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "engine/origin.h"
 #include "engine/trace_sink.h"
 #include "store/adventure.h"
 #include "terminal/terminal_window.h"
@@ -14,6 +15,7 @@ struct SessionOptions {
     bool realTime = false;              ///< time-outs run out and pauses last
     bool debug = false;                 ///< a line that begins with ":" is a request to Diagnostics
     engine::TraceSink* trace = nullptr;
+    engine::OriginSink* origins = nullptr;
 };
 
 /// Plays a game to its end or to the end of the input. False when the game went wrong or could not be

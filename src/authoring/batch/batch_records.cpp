@@ -8,6 +8,7 @@
 #include "authoring/screens/process_entry_screen.h"
 #include "authoring/screens/word_screen.h"
 #include "condacts/places.h"
+#include "condacts/word_filters.h"
 #include "condacts/words.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -76,7 +77,7 @@ bool CheckMarloObject(const BatchChange& change, const ObjectScreen& screen) {
 /// stand there.
 std::optional<int> IndexOfWord(store::Adventure& adventure, std::string_view word, int usual) {
     store::PreparedQuery rows = adventure.Prepare(TableNum::Vocabulary, "vocindex, voctypen",
-                                                  "word=? and (voctypen=0 or voctypen=2 or voctypen=7)");
+                                                  "word=? and " + condacts::OfEntryVerbs());
     std::optional<int> found;
     for (bool more = rows.First({word}); more; more = rows.Next()) {
         if (!found || rows.Number(1) == usual) found = static_cast<int>(rows.Number(0));

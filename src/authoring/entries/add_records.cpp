@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "condacts/catalogue.h"
+#include "condacts/limits.h"
+#include "store/new_flag.h"
 #include "text/format.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -18,8 +20,6 @@ using store::Cursor;
 using store::TableNum;
 
 constexpr int kFlagsAtATime = 25;
-/// The highest of the flags that every adventure has.
-constexpr int kHighestSystemFlag = 1024;
 constexpr int kMostAddedFlags = 999;
 
 constexpr int kHighestSet = 998;
@@ -34,12 +34,8 @@ int Highest(store::Adventure& adventure, TableNum table, const std::string& fiel
 
 void AddFlag(Cursor& flags, int number) {
     flags.AddNew();
-    flags.SetField("flgnum", std::int64_t{number});
-    flags.SetField("flgtype", std::string("User"));
-    flags.SetField("flguse", std::string("Unknown"));
-    flags.SetField("flgmod", std::int64_t{2});
-    flags.SetField("flgdesc", std::string(" "));
-    flags.SetField("flgchg", std::int64_t{1});
+    for (const auto& [field, value] : store::FieldsOfNewFlag(number, " "))
+        flags.SetField(field, value);
     flags.Update();
 }
 
@@ -81,7 +77,7 @@ void AddFlags(ScreenContext& context) {
         return;
     }
     const int highest = Highest(adventure, TableNum::Flags, "flgnum");
-    if (highest - kHighestSystemFlag > kMostAddedFlags) {
+    if (highest - condacts::limit::kHighestSystemFlag > kMostAddedFlags) {
         Refuse(context.dialogs, "There are over 999 flags.\nNo more flags can be added.");
         return;
     }

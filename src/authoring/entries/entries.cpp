@@ -7,6 +7,7 @@
 #include "authoring/entries/delete_word.h"
 #include "authoring/entries/record_keys.h"
 #include "condacts/catalogue.h"
+#include "condacts/limits.h"
 #include "condacts/words.h"
 
 namespace fabula::authoring {
@@ -38,9 +39,6 @@ constexpr EntryTable kEntryTables[] = {
     {TableNum::Pictures, "picture", Screen::Picture, "", true},
 };
 
-constexpr int kHighestOfFabula = 999;
-constexpr int kHighestOfOthers = 255;
-constexpr int kLastFixedProcess = 2;
 constexpr int kCharactersOfASet = 1000;
 constexpr int kLastShade = 15;
 constexpr int kFirstUserGraphic = 144;
@@ -63,15 +61,18 @@ std::string KeyIs(TableNum table, int key) {
 /// Beyond 255 the older types can't count, and 255 itself is no object there.
 bool IsFull(Adventure& adventure, TableNum table, int key) {
     const int wanted = table == TableNum::Locations ? key : CountRecords(adventure, table);
-    if (IsFabula(adventure)) return wanted > kHighestOfFabula;
-    return wanted > (table == TableNum::Objects ? kHighestOfOthers - 1 : kHighestOfOthers);
+    if (IsFabula(adventure)) return wanted > condacts::limit::kHighestRecord;
+    return wanted > (table == TableNum::Objects ? condacts::limit::kHighestRecordOfOthers - 1
+                                                : condacts::limit::kHighestRecordOfOthers);
 }
 
 /// The message for objects names 999 in every type.
 std::string LimitMessage(const Adventure& adventure, const EntryTable& numbered) {
     const bool of999 = IsFabula(adventure) || numbered.table == TableNum::Objects;
     return "You have reached the maximum of " +
-           std::to_string(of999 ? kHighestOfFabula : kHighestOfOthers) + " " + std::string(numbered.plural);
+           std::to_string(of999 ? condacts::limit::kHighestRecord
+                                : condacts::limit::kHighestRecordOfOthers) +
+           " " + std::string(numbered.plural);
 }
 
 std::optional<ScreenRequest> AddNumbered(ScreenContext& context, const EntryTable& numbered) {
@@ -92,7 +93,7 @@ ScreenRequest AddProcessEntry(ScreenContext& context) {
         context.currentEntry = 0;
         // Games of type Marlo have the first two tables only.
         if (condacts::DialectOf(adventure.AdventureType()) != condacts::Dialect::Marlo)
-            context.currentESNum = kLastFixedProcess;
+            context.currentESNum = condacts::limit::kLastFixedProcess;
     }
     return {.screen = Screen::ProcessEntry,
             .key = {.key = context.nextEntry, .isNew = true},
@@ -149,7 +150,7 @@ bool MayEditWord(ScreenContext& context) {
 
 /// The first three tables are there in every game, and `deed` ("edited") can't be done to them.
 bool MayChangeProcess(ScreenContext& context, std::string_view deed) {
-    if (context.currentEntry > kLastFixedProcess) return true;
+    if (context.currentEntry > condacts::limit::kLastFixedProcess) return true;
     context.dialogs.Tell("That Process table Description cannot be " + std::string(deed),
                          "Process Description Information");
     return false;
@@ -165,7 +166,7 @@ bool StandsBeside(ScreenContext& context) {
         case TableNum::Flags:
             return IsEditableFlag(context).value_or(false);
         case TableNum::ProcDesc:
-            return context.currentEntry > kLastFixedProcess;
+            return context.currentEntry > condacts::limit::kLastFixedProcess;
         default:
             return true;
     }

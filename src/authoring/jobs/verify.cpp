@@ -6,6 +6,7 @@
 
 #include "authoring/jobs/missing_references.h"
 #include "condacts/convert.h"
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "condacts/validate.h"
@@ -50,15 +51,17 @@ struct LimitRow {
 };
 
 constexpr LimitRow kLimits[] = {
-    {"Verifying Locations", "location", TableNum::Locations, "locnum", 255},
-    {"Verifying Messages", "message", TableNum::Messages, "msgnum", 255},
-    {"Verifying Objects", "object", TableNum::Objects, "objnum", 255},
-    {"Verifying System Messages", "System Message", TableNum::SystemMessages, "smsgnum", 255},
-    {"Verifying Flags", "Flags", TableNum::Flags, "flgnum", 1024},
+    {"Verifying Locations", "location", TableNum::Locations, "locnum",
+     condacts::limit::kHighestRecordOfOthers},
+    {"Verifying Messages", "message", TableNum::Messages, "msgnum",
+     condacts::limit::kHighestRecordOfOthers},
+    {"Verifying Objects", "object", TableNum::Objects, "objnum", condacts::limit::kHighestRecordOfOthers},
+    {"Verifying System Messages", "System Message", TableNum::SystemMessages, "smsgnum",
+     condacts::limit::kHighestRecordOfOthers},
+    {"Verifying Flags", "Flags", TableNum::Flags, "flgnum", condacts::limit::kHighestSystemFlag},
 };
 
 constexpr const char* kInvalid = " is an invalid Condition/Action";
-constexpr int kHeaviest = 63;
 constexpr int kRowsAProgressLine = 5;
 constexpr std::int64_t kMostGraphicCharacters = 19;
 
@@ -129,14 +132,15 @@ class Verification {
 
     void CheckMarlo() {
         Step("Verifying Object table for weights > 63");
-        PreparedQuery heavy =
-            adventure_.Prepare(TableNum::Objects, "objnum", "objweight>" + std::to_string(kHeaviest));
+        PreparedQuery heavy = adventure_.Prepare(
+            TableNum::Objects, "objnum", "objweight>" + std::to_string(condacts::limit::kHeaviestObject));
         for (bool more = heavy.First({}); more; more = heavy.Next()) {
             Fail("Object # " + std::to_string(heavy.Number(0)) + " has a weight > 63.");
         }
         Step("Verifying Vocabulary for Vocabulary Type > 7");
         bool wordsFit = true;
-        PreparedQuery words = adventure_.Prepare(TableNum::Vocabulary, "word", "voctypen>7");
+        PreparedQuery words = adventure_.Prepare(TableNum::Vocabulary, "word",
+                                                 "voctypen>" + std::to_string(condacts::kReserved));
         for (bool more = words.First({}); more; more = words.Next()) {
             Fail("Word " + std::string(words.Text(0)) + " has an invalid Word Type.");
             wordsFit = false;

@@ -7,6 +7,7 @@
 
 #include "authoring/fields/controls.h"
 #include "authoring/screens/record_screen.h"
+#include "condacts/limits.h"
 
 namespace fabula::authoring {
 
@@ -50,7 +51,7 @@ class ObjectScreen final : public RecordScreen {
     /// True when the screen can close: what was changed is stored.
     bool Update();
 
-    static constexpr int kHeaviest = 63;
+    static constexpr int kHeaviest = condacts::limit::kHeaviestObject;
 
   private:
     void ReadRecord();

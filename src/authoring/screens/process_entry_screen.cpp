@@ -6,6 +6,7 @@
 #include "condacts/convert.h"
 #include "condacts/parser.h"
 #include "condacts/validate.h"
+#include "condacts/word_filters.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -44,7 +45,7 @@ ProcessEntryScreen::ProcessEntryScreen(ScreenContext& context, const ScreenReque
 
 void ProcessEntryScreen::ReadWords() {
     store::PreparedQuery rows = Adventure().Prepare(
-        TableNum::Vocabulary, "vocindex, word, vocnum, voctypen", "voctypen=0 or voctypen=2 or voctypen=7");
+        TableNum::Vocabulary, "vocindex, word, vocnum, voctypen", condacts::OfEntryVerbs());
     for (bool more = rows.First({}); more; more = rows.Next()) {
         const Word word{std::string(rows.Text(1)), static_cast<int>(rows.Number(2)),
                         static_cast<int>(rows.Number(3))};

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "authoring/entries/correct_word.h"
+#include "condacts/limits.h"
 #include "condacts/recompile.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -48,8 +49,7 @@ std::string_view WordScreen::Help() const {
 }
 
 std::size_t WordScreen::LongestWord() const {
-    if (IsMarlo()) return 4;
-    return Adventure().AdventureTypeLower() == "vel" ? 5 : 30;
+    return static_cast<std::size_t>(condacts::SignificantLetters(Adventure().Kind()));
 }
 
 /// One above the highest number of the type. Below the lowest that a word may have there is nothing to

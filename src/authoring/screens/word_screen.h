@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "authoring/screens/record_screen.h"
+#include "condacts/limits.h"
 #include "condacts/words.h"
 
 namespace fabula::authoring {
@@ -41,8 +42,8 @@ class WordScreen final : public RecordScreen {
     /// True when the screen can close: what was changed is stored.
     bool Update();
 
-    static constexpr int kLowestNumber = 2;
-    static constexpr int kHighestNumber = 254;
+    static constexpr int kLowestNumber = condacts::limit::kLowestWord;
+    static constexpr int kHighestNumber = condacts::limit::kHighestWord;
 
   private:
     void ReadRecord();

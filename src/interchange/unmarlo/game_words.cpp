@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "condacts/limits.h"
 #include "condacts/load.h"
 
 namespace fabula::interchange {
@@ -12,7 +13,6 @@ using condacts::Word;
 using store::Cursor;
 using store::TableNum;
 
-constexpr int kLastFreeNumber = 254;
 constexpr std::int64_t kHighestIndex = std::numeric_limits<std::int16_t>::max();
 
 bool IsFixedKind(int type) {
@@ -56,7 +56,7 @@ bool GameWords::Add(const Word& word) {
 void GameWords::MakeSureOf(const std::string& word, int type, std::vector<int> types) {
     if (Has(word, type)) return;
     types.push_back(type);
-    for (int number = condacts::kFirstPlainNoun; number <= kLastFreeNumber; ++number) {
+    for (int number = condacts::kFirstPlainNoun; number <= condacts::limit::kHighestWord; ++number) {
         const bool taken = std::any_of(words_.begin(), words_.end(), [&](const Word& other) {
             return other.number == number &&
                    std::find(types.begin(), types.end(), other.type) != types.end();

@@ -1,5 +1,6 @@
 #include "interchange/unmarlo/picture_listing.h"
 
+#include "condacts/limits.h"
 #include "interchange/source_file.h"
 #include "interchange/unmarlo/listing_lines.h"
 #include "pictures/drawstring.h"
@@ -14,7 +15,6 @@ using pictures::Command;
 constexpr std::string_view kPlace = "Location";
 constexpr std::string_view kFlag = "graphics flag";
 constexpr std::size_t kAddressLength = 5;
-constexpr int kHighestColour = 15;
 constexpr int kColourOfTheAdventure = -1;
 
 struct ListedName {
@@ -39,7 +39,8 @@ std::optional<int> Assigned(std::string_view line, std::string_view name) {
 }
 
 std::optional<int> Colour(std::optional<int> number) {
-    if (number && (*number < kColourOfTheAdventure || *number > kHighestColour)) return std::nullopt;
+    if (number && (*number < kColourOfTheAdventure || *number > condacts::limit::kHighestColour))
+        return std::nullopt;
     return number;
 }
 

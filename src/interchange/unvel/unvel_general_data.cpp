@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "condacts/limits.h"
 #include "condacts/parser.h"
 #include "interchange/source_file.h"
 #include "text/str_edit.h"
@@ -12,7 +13,6 @@ namespace {
 using store::Adventure;
 using store::TableNum;
 
-constexpr int kHighestColour = 15;
 constexpr int kLastColourBeforeWhite = 6;
 constexpr int kWhite = 7;
 constexpr int kMostCarried = 255;
@@ -73,7 +73,7 @@ bool IsEnd(std::string_view line) {
 }  // namespace
 
 std::optional<int> GetColor(std::string_view token) {
-    if (const auto number = ListedNumber(token, kHighestColour)) return number;
+    if (const auto number = ListedNumber(token, condacts::limit::kHighestColour)) return number;
     const std::string text(token);
     char* end = nullptr;
     const double number = std::strtod(text.c_str(), &end);

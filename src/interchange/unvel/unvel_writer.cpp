@@ -4,6 +4,7 @@
 #include <iterator>
 #include <set>
 
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "condacts/places.h"
@@ -29,7 +30,6 @@ constexpr const char* kConnectionLine = "Location!%s4!:  !%a5!%s3";
 /// Exits behind the first of a location stand below it; the oldest form puts them a column further right.
 constexpr const char* kNextConnection = "%t16!%a5!%s3";
 constexpr const char* kNextConnectionOldest = "%t17!%a5!%s3";
-constexpr int kHighestDestination = 999;
 
 bool IsVersion(std::string_view version) {
     return std::find(std::begin(kUnVelVersions), std::end(kUnVelVersions), version) !=
@@ -103,7 +103,7 @@ class ExtractWriter {
         for (const std::string_view end :
              {std::string_view("\r"), std::string_view("\n"), text::kLineEndMarker})
             name = text::ReplaceAll(name, end, " ");
-        const bool isMarlo = context_.adventure.AdventureTypeLower() == "marlo";
+        const bool isMarlo = context_.adventure.Kind() == store::AdventureKind::Marlo;
         file_.Line(std::string(isMarlo ? kMarloDatabase : kVelDatabase) + ": " + name);
         file_.Line(std::string(kOwnExtract) + ExportVersion(context_.adventure));
         file_.Line(version_);
@@ -175,7 +175,7 @@ class ExtractWriter {
             Record(TableNum::Locations, locations.Number("locnum"));
             const auto tokens = SplitWords(locations.Text("exits"));
             for (std::size_t i = 0; i + 1 < tokens.size(); i += 2) {
-                const auto destination = ListedNumber(tokens[i + 1], kHighestDestination);
+                const auto destination = ListedNumber(tokens[i + 1], condacts::limit::kHighestRecord);
                 if (!destination)
                     file_.Loss("an exit to " + std::string(tokens[i + 1]) + " can't be read back.");
                 const std::string word = file_.Word(tokens[i], kLetters);

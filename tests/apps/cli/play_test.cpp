@@ -262,6 +262,17 @@ TEST_F(PlayVerb, TheTraceTellsWhatTheEngineDoes) {
     EXPECT_EQ(firstLine.find_first_of("%*"), std::string::npos) << firstLine;
 }
 
+TEST_F(PlayVerb, TheOriginsTellEntryActionAndRecordOfEachText) {
+    Play("silent\nlong\n", {"--origins", File("origins")});
+    const std::string origins = Content(File("origins"));
+    EXPECT_TRUE(origins.starts_with("-\tlocation 0\tA room.\n")) << origins;
+    EXPECT_NE(origins.find(", MESSAGE 16\tmessage 16\tone two three four five six seven eight nine ten "
+                           "eleven twelve thirteen\n"),
+              std::string::npos)
+        << origins;
+    EXPECT_NE(origins.find("-\tsystem message 33\t>\n"), std::string::npos) << origins;
+}
+
 TEST_F(PlayVerb, DebugLinesLookIntoTheGameAndCountNoTurn) {
     EXPECT_EQ(Play(":F60\n:=5\n:F31\n:nonsense\n", {"--debug"}).output,
               "A room.\n?\n>F60 = 0\n>F60 = 5\n>F31 = 0\n>Invalid option\n>\n");

@@ -81,6 +81,7 @@ TEST_F(Targets, AFileThatExistsIsReplacedOnlyWithForce) {
          {std::vector<std::string>{"export", "ace", File("game.fbd"), File("out.txt")},
           {"play", File("game.fbd"), "--transcript", File("out.txt")},
           {"play", File("game.fbd"), "--trace", File("out.txt")},
+          {"play", File("game.fbd"), "--origins", File("out.txt")},
           {"charset", "save", File("game.fbd"), File("out.txt"), "0"}}) {
         ExpectRefused(arguments, File("out.txt"), "it exists already; --force replaces it");
         EXPECT_EQ(Content(File("out.txt")), "precious") << arguments[0];
@@ -141,6 +142,9 @@ TEST_F(Targets, ATranscriptOrTraceOnAFullDiskFails) {
     result = Run({"play", File("game.fbd"), "--trace", "/dev/full"}, "");
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors, "fabula: Could not write the trace /dev/full.\n");
+    result = Run({"play", File("game.fbd"), "--origins", "/dev/full"}, "");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "fabula: Could not write all of the list of origins /dev/full.\n");
 }
 
 TEST_F(Targets, APipeInPlaceOfAFileThatIsReadIsRefusedWithoutAWait) {
