@@ -53,14 +53,13 @@ desk() {
         file=$work/$game.fbd
         cp "build/default/examples/$game.fbd" "$file"
     fi
-    printf '[Startup]\nTheme=%s\nCurrentSet=%s\nCurrentESNum=0\n' "$theme" "$table" >"$XDG_CONFIG_HOME/Fabula/Fabula.ini"
+    # A file that was open before opens at the table that was in view.
+    printf '[Startup]\nTheme=%s\nCurrentSet=%s\nCurrentESNum=0\n[MRUFiles]\n1=%s\n' "$theme" "$table" "$file" \
+        >"$XDG_CONFIG_HOME/Fabula/Fabula.ini"
     build/default/bin/FabulaIDE ${file:+"$file"} 2>/dev/null &
     player=$!
     window=$(xdotool search --sync --onlyvisible --pid "$player" --name "Fabula IDE" | head -n 1)
-    # The first start of a version reports it in a box.
-    sleep 1.5
-    xdotool key Return
-    sleep 1
+    sleep 2.5
     if [ -n "$title" ]; then
         xdotool windowfocus "$window"
         xdotool key --delay 40 "${@:6}"
@@ -95,7 +94,7 @@ done <<'TABLE'
 desk-start-light none light 5
 desk-start-dark none dark 5
 desk-locations-light lighthouse light 1
-desk-processes-dark lighthouse dark 6
+desk-processes-dark lighthouse dark 6 Fabula F8 ctrl+1 ctrl+k l a n t e r n Return Down Down Down Down Down
 desk-vocabulary-light lighthouse light 8
 desk-messages-dark signal_box dark 2
 desk-location-editor-light lighthouse light 1 Location Home Down Down Down Down Down Down Down Return

@@ -63,7 +63,8 @@ KeptDesk ReadKeptDesk(const platform::Settings& settings, const std::filesystem:
         if (kept.file != file.string()) continue;
         desk.tabs = OpenTabs::From(kept.tabs);
         if (kept.groups.empty()) break;
-        for (const OpenTab& tab : OpenTabs::From(kept.groups).All())
+        const OpenTabs groups = OpenTabs::From(kept.groups);
+        for (const OpenTab& tab : groups.All())
             desk.places.push_back(tab.place);
         break;
     }

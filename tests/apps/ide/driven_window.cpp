@@ -81,6 +81,8 @@ void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind
     const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadWrite);
     store::Cursor& entries = adventure->OpenTable(TableNum::ProcessTables, "def");
     for (; !entries.Eof(); entries.MoveNext()) {
+        entries.SetField("w1", std::string("*"));
+        entries.SetField("w2", std::string("_"));
         entries.SetField("condacts", std::string("DESC"));
         entries.Update();
     }

@@ -4,6 +4,8 @@
 #include <QHeaderView>
 #include <QTableView>
 #include <QTest>
+#include <array>
+#include <filesystem>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -24,11 +26,30 @@ class Rows : public testing::TestWithParam<qt::Theme> {
   protected:
     Rows() {
         qt::ApplyTheme(GetParam());
+        const auto file = window_.folder / "rows.fbd";
+        WriteGame(file);
+        window_.Window().Start(file);
+    }
+
+    static void WriteGame(const std::filesystem::path& file) {
+        constexpr std::array<std::array<const char*, 2>, 3> kEntries = {
+            {{"GET", "AT 0 MESSAGE 0 DONE"}, {"GET", "MESSAGE 1 DONE"}, {"DROP", "DONE"}}};
         GameBuilder game;
+        game.Location(0, "You are in the hall.", "The hall").Word("GET", 30, 0).Word("DROP", 31, 0);
         game.Message(0, "You lower the wick.").Message(1, "It is dark.");
-        game.Entry(0, "GET", "_", "AT 0 MESSAGE 0 DONE").Entry(0, "GET", "_", "MESSAGE 1 DONE");
-        game.Entry(0, "DROP", "_", "DONE");
-        window_.Open(game);
+        for (const auto& [verb, line] : kEntries)
+            game.Entry(0, verb, "_", line);
+        game.Write(file);
+        // The texts of the entries, which a game does not need.
+        const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadWrite);
+        store::Cursor& rows = adventure->OpenTable(TableNum::ProcessTables, "def");
+        for (; !rows.Eof(); rows.MoveNext()) {
+            const auto& [verb, line] = kEntries.at(static_cast<std::size_t>(rows.Number("canum")));
+            rows.SetField("w1", std::string(verb));
+            rows.SetField("w2", std::string("_"));
+            rows.SetField("condacts", std::string(line));
+            rows.Update();
+        }
     }
 
     QTableView& Grid() { return window_.Part<QTableView>("Grid"); }

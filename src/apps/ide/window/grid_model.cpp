@@ -26,7 +26,9 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
-    const GridLine& line = grid_.Lines().At(index.row());
+    // A box that tells of a failure may stand over rows that have gone.
+    if (index.row() >= rowCount() || index.column() >= columnCount()) return {};
+    const GridLine line = grid_.Lines().At(index.row());
     if (line.IsHeading()) return index.column() == 0 ? OfHeading(line.group, role) : QVariant();
     switch (role) {
         case Qt::DisplayRole:

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -297,7 +298,11 @@ bool RecordPanel::FoldBy(int key) {
 }
 
 bool RecordPanel::eventFilter(QObject* receiver, QEvent* event) {
-    if (receiver == view_->viewport() && event->type() == QEvent::Resize) PlaceColumns();
+    if (receiver == view_->viewport() && event->type() == QEvent::Resize) {
+        const auto* resized = static_cast<QResizeEvent*>(event);
+        PlaceColumns();
+        if (resized->size().height() != resized->oldSize().height()) OpenRow(openLine_);
+    }
     if (event->type() != QEvent::KeyPress) return false;
     const int key = static_cast<QKeyEvent*>(event)->key();
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
