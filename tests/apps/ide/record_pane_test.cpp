@@ -222,5 +222,36 @@ TEST_F(RecordPaneTest, ProcessTablesShowNamesByF8) {
     EXPECT_EQ(window_.CellOf("*", "CondActs"), "MESSAGE 1 DONE");
 }
 
+TEST_F(RecordPaneTest, ANewTextInALineBecomesAMessageWhenTheRowIsLeft) {
+    window_.GoToTable("Response (P0)");
+    window_.GoToRow("0");
+    window_.Part<QPlainTextEdit>("line").setFocus();
+    Replace("MESSAGE \"It snows.");
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(window_.Part<QPlainTextEdit>("line").toPlainText(), "MESSAGE 2 ");
+    EXPECT_EQ(Message(2), "no record");
+    CloseOffers();
+    window_.GoToTable("Messages");
+    EXPECT_EQ(Message(2), "It snows.");
+    EXPECT_EQ(UndoText().substr(0, 24), "&Undo edit process entry");
+    window_.Action("Undo").trigger();
+    EXPECT_EQ(Message(2), "no record");
+}
+
+TEST_F(RecordPaneTest, EscapeTakesANewTextInALineBack) {
+    window_.GoToTable("Response (P0)");
+    window_.GoToRow("0");
+    auto* line = &window_.Part<QPlainTextEdit>("line");
+    const QString before = line->toPlainText();
+    line->setFocus();
+    Replace("MESSAGE \"It snows.");
+    Press(Qt::Key_Tab);
+    CloseOffers();
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(window_.Part<QPlainTextEdit>("line").toPlainText(), before);
+    window_.GoToTable("Messages");
+    EXPECT_EQ(Message(2), "no record");
+}
+
 }  // namespace
 }  // namespace fabula::test

@@ -565,7 +565,7 @@ TEST_F(LocationScreenTest, AnExitMayBeTypedAsItsWordAndThePlace) {
     EXPECT_EQ(screen.exits, "north 4");
     screen.exitWord.text = "climb 5";
     EXPECT_TRUE(screen.Update());
-    EXPECT_EQ(Stored(3, "exits"), "NORTH 4 CLIMB 5");
+    EXPECT_EQ(Stored(3, "exits"), "NORD 4 CLIMB 5");
 }
 
 }  // namespace

@@ -50,8 +50,8 @@ std::optional<Jump> FollowNamed(const authoring::NamedRecord& named, bool uses,
 }
 
 RecordJumps::RecordJumps(OpenedRecord& opened, const authoring::ScreenRequest& request,
-                         authoring::Navigator& navigator, platform::Dialogs& dialogs)
-    : opened_(opened), request_(request), navigator_(navigator), dialogs_(dialogs) {
+                         authoring::ScreenContext& context, authoring::Navigator& navigator)
+    : opened_(opened), request_(request), context_(context), navigator_(navigator) {
     QDialog* const dialog = &opened.Dialog();
     for (const bool uses : {false, true}) {
         const QKeySequence key = uses ? QKeySequence(Qt::SHIFT | Qt::Key_F12) : QKeySequence(Qt::Key_F12);
@@ -63,15 +63,17 @@ RecordJumps::RecordJumps(OpenedRecord& opened, const authoring::ScreenRequest& r
 std::optional<Jump> RecordJumps::Target(bool uses) {
     QDialog* const dialog = &opened_.Dialog();
     if (const auto named = opened_.Editor().NamedAtCursor())
-        return FollowNamed(*named, uses, navigator_, dialogs_, dialog);
+        return FollowNamed(*named, uses, navigator_, context_.dialogs, dialog);
     if (request_.key.isNew) {
-        dialogs_.Tell("Nothing at the cursor names a record.", "Go To");
+        context_.dialogs.Tell("Nothing at the cursor names a record.", "Go To");
         return std::nullopt;
     }
-    if (uses) return FollowNamed({request_.table, request_.key.key}, true, navigator_, dialogs_, dialog);
-    const std::vector<JumpLine> names = navigator_.NamedBy(request_.table, request_.key.key);
+    if (uses)
+        return FollowNamed({request_.table, context_.currentEntry}, true, navigator_, context_.dialogs,
+                           dialog);
+    const std::vector<JumpLine> names = navigator_.NamedBy(request_.table, context_.currentEntry);
     if (!names.empty()) return ChoosePlace(QObject::tr("Go To What It Names"), names, dialog);
-    dialogs_.Tell("This record names no other.", "Go To");
+    context_.dialogs.Tell("This record names no other.", "Go To");
     return std::nullopt;
 }
 
@@ -84,7 +86,7 @@ void RecordJumps::Press(bool uses) {
         opened_.Dialog().reject();
         if (opened_.Dialog().isVisible()) wanted_.reset();
     } catch (const Error& error) {
-        dialogs_.Tell(error.what(), "Error");
+        context_.dialogs.Tell(error.what(), "Error");
     }
 }
 

@@ -26,9 +26,10 @@ std::optional<authoring::Jump> FollowNamed(const authoring::NamedRecord& named, 
 /// something was changed.
 class RecordJumps {
   public:
-    /// `opened`, `request`, `navigator` and `dialogs` outlive it.
+    /// All of it outlives it. The record is the context's current entry, which a screen that goes to other
+    /// records moves.
     RecordJumps(OpenedRecord& opened, const authoring::ScreenRequest& request,
-                authoring::Navigator& navigator, platform::Dialogs& dialogs);
+                authoring::ScreenContext& context, authoring::Navigator& navigator);
     RecordJumps(const RecordJumps&) = delete;
     RecordJumps& operator=(const RecordJumps&) = delete;
 
@@ -41,8 +42,8 @@ class RecordJumps {
 
     OpenedRecord& opened_;
     const authoring::ScreenRequest& request_;
+    authoring::ScreenContext& context_;
     authoring::Navigator& navigator_;
-    platform::Dialogs& dialogs_;
     std::optional<authoring::Jump> wanted_;
 };
 

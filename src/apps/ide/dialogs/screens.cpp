@@ -105,7 +105,7 @@ std::optional<authoring::Jump> OpenScreen(const authoring::ScreenRequest& reques
     }
     const auto record = Opened(request, context, parent);
     if (!record) return std::nullopt;
-    const RecordJumps jumps(*record, request, navigator, context.dialogs);
+    const RecordJumps jumps(*record, request, context, navigator);
     Show(record->Dialog());
     return jumps.Wanted();
 }
