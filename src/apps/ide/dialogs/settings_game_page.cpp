@@ -150,7 +150,7 @@ void SettingsGamePage::AddLook(QFormLayout& form) {
     AddToForm(form, "&Font:", font_, "font");
     AddToForm(form, "Font si&ze:", fontSize_, "fontSize");
     sample_->setObjectName("FontTest");
-    sample_->setAccessibleName("Sample of the font");
+    sample_->setAccessibleDescription("Sample of the font");
     form.addRow(sample_);
     AddToForm(form, "Print wi&dth:", printWidth_, "printWidth");
     printWidth_->setEnabled(screen_.HasPrintWidth());
