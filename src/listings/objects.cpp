@@ -1,7 +1,8 @@
 #include <cstdint>
-#include <map>
 #include <string>
+#include <vector>
 
+#include "authoring/fields/location_names.h"
 #include "condacts/places.h"
 #include "listings/record.h"
 #include "listings/reports.h"
@@ -15,18 +16,7 @@ constexpr TextArea kObjectText{5, 40};
 /// Where the place of an object stands, counted from 0.
 constexpr std::size_t kPlaceColumn = 71;
 constexpr std::string_view kWords = "!%a30! !%a30! !%r3! !%a4! !%a";
-constexpr std::string_view kVerboseWords = "!%a30! !%a30! !%r3! !%a4! !%a!%t92!%a";
-
-using RoomNames = std::map<std::int64_t, std::string>;
-
-/// The short descriptions of the locations.
-RoomNames LoadRoomNames(store::Adventure& adventure) {
-    RoomNames names;
-    store::PreparedQuery rows = adventure.Prepare(TableNum::Locations, "locnum, locshortdesc", "");
-    for (bool more = rows.First({}); more; more = rows.Next())
-        names.try_emplace(rows.Number(0), rows.Text(1));
-    return names;
-}
+constexpr TextArea kRoom{92, 40};
 
 }  // namespace
 
@@ -39,7 +29,8 @@ void WriteObjects(const Listing& listing, const ReportRequest& request) {
                          Heading(std::string("Noun!%c27 !Adj.!%c27 !Wt. Attr Initially At") +
                                  (verbose ? "!%t92!Room Description" : "")),
                          Heading(lastHeading + (verbose ? "!%t92!%c16-" : ""))});
-    const RoomNames rooms = verbose ? LoadRoomNames(listing.adventure) : RoomNames();
+    std::vector<authoring::ListItem> rooms;
+    if (verbose) rooms = authoring::LocationNames(listing.adventure);
     store::PreparedQuery rows = listing.adventure.Prepare(
         TableNum::Objects, "objnum, objdesc, objnoun, objadject, objweight, objattr, objlocdesc, objloc",
         "");
@@ -52,13 +43,10 @@ void WriteObjects(const Listing& listing, const ReportRequest& request) {
         std::vector<text::Value> words{std::string(rows.Text(2)), std::string(rows.Text(3)), rows.Number(4),
                                        std::string(rows.Text(5)), initially};
         const std::int64_t at = rows.Number(7);
-        if (verbose) {
-            const auto room = rooms.find(at);
-            words.emplace_back(room == rooms.end() ? std::string() : room->second);
-        }
-        record.Row(verbose ? kVerboseWords : kWords, std::move(words));
+        record.Row(kWords, std::move(words));
         if (!condacts::IsSpecialPlace(at))
             record.LinkTo({TableNum::Locations, static_cast<int>(at)}, kPlaceColumn, initially.size());
+        if (verbose) record.Aside(authoring::NameIn(rooms, static_cast<int>(at)), kRoom);
         listing.frame.Add(record.Take());
     }
 }

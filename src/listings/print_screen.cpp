@@ -144,12 +144,17 @@ bool PrintScreen::HasRange() const {
 std::string_view PrintScreen::RangeLabel() const {
     switch (table_) {
         case TableNum::ProcessTables:
-            return special ? "What Table:" : "What Tables:";
+            return tablesLabel_;
         case TableNum::Flags:
             return "How many lines for tables:";
         default:
             return "Which Records:";
     }
+}
+
+void PrintScreen::ClickSpecial(bool on) {
+    special = on;
+    tablesLabel_ = on ? "What Table:" : "What Tables:";
 }
 
 void PrintScreen::ChooseWordType(int index) {

@@ -55,12 +55,14 @@ class PrintScreen {
     /// "Special Listing": of process tables, the entries for a verb and a noun. The words follow the type.
     bool HasSpecial() const { return table_ == store::TableNum::ProcessTables; }
     bool special = false;
+    void ClickSpecial(bool on);
     authoring::DropList wordType;
     authoring::DropList verb;
     authoring::DropList noun;
     void ChooseWordType(int index);
 
-    /// The text of the range, where the listing takes one, and its label.
+    /// The text of the range, where the listing takes one, and its label, which the box of the special
+    /// listing changes.
     bool HasRange() const;
     std::string_view RangeLabel() const;
     std::string range;
@@ -84,6 +86,7 @@ class PrintScreen {
     int process_;
     Purpose purpose_;
     platform::Dialogs& dialogs_;
+    std::string_view tablesLabel_ = "Which Tables:";
 };
 
 /// The choice of the keypad's size, which is that of its template.

@@ -78,9 +78,11 @@ TEST_F(Printing, OtherTablesAreAskedFor) {
 
 TEST_F(Printing, SpecialListingChangesTheLabelOfTheRange) {
     PrintScreen screen = Screen(TableNum::ProcessTables, Purpose::Print, authoring::kOtherProcesses);
-    EXPECT_EQ(screen.RangeLabel(), "What Tables:");
-    screen.special = true;
+    EXPECT_EQ(screen.RangeLabel(), "Which Tables:");
+    screen.ClickSpecial(true);
     EXPECT_EQ(screen.RangeLabel(), "What Table:");
+    screen.ClickSpecial(false);
+    EXPECT_EQ(screen.RangeLabel(), "What Tables:");
 }
 
 TEST_F(Printing, SpecialListingAsksForTypeVerbAndNoun) {
@@ -165,6 +167,7 @@ TEST_F(Printing, UserFlagsTakeANumberOfEntries) {
     EXPECT_FALSE(screen.HasRange());
     screen.form.index = 1;
     EXPECT_TRUE(screen.HasRange());
+    EXPECT_EQ(screen.RangeLabel(), "How many lines for tables:");
     screen.range = "200";
     EXPECT_EQ(Refused(screen), "200 extra entries would take it out of the table");
     screen.range = "5";

@@ -136,6 +136,15 @@ TEST_F(TableReports, VerboseObjectShowsTheShortDescriptionOfItsRoom) {
                     .ends_with("5 CWR  In Room 7.          The mill\n"));
 }
 
+TEST_F(TableReports, VerboseObjectShowsTheFirstLineOfARoomWithoutAShortDescription) {
+    Empty(*adventure_, TableNum::Locations);
+    Location(7, "<bright>The mill</bright><BR>It is dark.");
+    Empty(*adventure_, TableNum::Objects);
+    Object(3, "a lamp", 7, "In Room 7.");
+    EXPECT_TRUE(Listed(*adventure_, "objects", {.detail = Detail::Verbose})
+                    .ends_with("5 CWR  In Room 7.          The mill\n"));
+}
+
 TEST_F(TableReports, LocationTellsItsPictureAndExits) {
     Empty(*adventure_, TableNum::Locations);
     Location(1, "You are in a mill.", "N 2 UP 3", "2 2 10 3");

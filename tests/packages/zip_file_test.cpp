@@ -18,10 +18,20 @@ using testing::Pair;
 
 TEST(ZipErrorText, GivesTheTextOfEachCode) {
     EXPECT_EQ(ZipErrorText(2), "Zip Error code 2: Unexpected End Of Zip File Error");
+    EXPECT_EQ(ZipErrorText(3), "Zip Error code 3: Zip File Structure Error");
+    EXPECT_EQ(ZipErrorText(4), "Zip Error code 4: Out Of Memory Error");
+    EXPECT_EQ(ZipErrorText(5), "Zip Error code 5: Internal Logic Error");
+    EXPECT_EQ(ZipErrorText(6), "Zip Error code 6: Entry Too Large To Split Error");
     EXPECT_EQ(ZipErrorText(7), "Zip Error code 7: Invalid Comment Format Error");
     EXPECT_EQ(ZipErrorText(8), "Zip Error code 8: Invalid Comment Format Error");
+    EXPECT_EQ(ZipErrorText(9), "Zip Error code 9: User Interrupted Or Termination Error");
+    EXPECT_EQ(ZipErrorText(10), "Zip Error code 10: Error Using A Temp File");
+    EXPECT_EQ(ZipErrorText(11), "Zip Error code 11: Read Or Seek Error");
     EXPECT_EQ(ZipErrorText(12), "Zip Error code 12: Nothing To Do Error");
+    EXPECT_EQ(ZipErrorText(13), "Zip Error code 13: Missing Or Empty Zip File Error");
+    EXPECT_EQ(ZipErrorText(14), "Zip Error code 14: Error Writing To A File");
     EXPECT_EQ(ZipErrorText(15), "Zip Error code 15: Could't Open To Write Error");
+    EXPECT_EQ(ZipErrorText(16), "Zip Error code 16: Bad Command Line Argument Error");
     EXPECT_EQ(ZipErrorText(18), "Zip Error code 18: Could Not Open A Specified File To Read Error");
     EXPECT_EQ(ZipErrorText(17), "Zip Error code 17: ");
 }

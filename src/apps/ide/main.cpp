@@ -43,12 +43,45 @@ ide::Places FindPlaces(const authoring::ProgramFiles& files, const platform::Env
 
 constexpr const char* kPrintTo = "print-to";
 
-int PrintTo(const QCommandLineParser& arguments, const QString& file, bool force) {
-    const QStringList names = arguments.positionalArguments();
-    if (names.size() != 2) throw Error("--print-to needs FILE.fbd and REPORT.");
-    ide::PrintTo(qt::PathFromQt(file), qt::PathFromQt(names[0]), qt::FromQt(names[1]), force);
-    return EXIT_SUCCESS;
-}
+/// The options of --print-to, named as those of 'fabula list'.
+class PrintToOptions {
+  public:
+    explicit PrintToOptions(QCommandLineParser& arguments) : arguments_(arguments) {
+        arguments.addOptions({to_, range_, verbose_, complete_, brief_, verb_, noun_, force_});
+    }
+
+    bool AreGiven() const { return arguments_.isSet(to_); }
+
+    ide::PrintToOrder Order() const {
+        const QStringList names = arguments_.positionalArguments();
+        if (names.size() != 2) throw Error("--print-to needs FILE.fbd and REPORT.");
+        listings::ReportOptions options;
+        if (arguments_.isSet(range_)) options.range = qt::FromQt(arguments_.value(range_));
+        options.verbose = arguments_.isSet(verbose_);
+        options.complete = arguments_.isSet(complete_);
+        options.brief = arguments_.isSet(brief_);
+        options.verb = qt::FromQt(arguments_.value(verb_));
+        options.noun = qt::FromQt(arguments_.value(noun_));
+        return {.file = qt::PathFromQt(arguments_.value(to_)),
+                .adventure = qt::PathFromQt(names[0]),
+                .report = qt::FromQt(names[1]),
+                .options = std::move(options),
+                .force = arguments_.isSet(force_)};
+    }
+
+  private:
+    const QCommandLineParser& arguments_;
+    QCommandLineOption to_{kPrintTo, "Print a report of the adventure into a file and end.", "PDF"};
+    QCommandLineOption range_{"range", "With --print-to: which records, as 'fabula list' takes it.",
+                              "RANGE"};
+    QCommandLineOption verbose_{"verbose", "With --print-to: tell more beside each record."};
+    QCommandLineOption complete_{"complete",
+                                 "With --print-to: locations with conditional exits and objects."};
+    QCommandLineOption brief_{"brief", "With --print-to: one line for each record."};
+    QCommandLineOption verb_{"verb", "With --print-to: the verb of verb-noun.", "WORD", "_"};
+    QCommandLineOption noun_{"noun", "With --print-to: the noun of verb-noun.", "WORD", "_"};
+    QCommandLineOption force_{"force", "With --print-to: replace a file that exists."};
+};
 
 /// Printing to a file needs no display. Qt has to know before it begins.
 void DoWithoutDisplay(int argc, char** argv) {
@@ -75,13 +108,12 @@ int Run(int argc, char** argv) {
     arguments.addPositionalArgument("file", "The adventure to open (*.fbd).", "[file]");
     arguments.addPositionalArgument("report", "With --print-to: the report, as of 'fabula list'.",
                                     "[report]");
-    const QCommandLineOption printTo(kPrintTo, "Print a report of the adventure into a file and end.",
-                                     "PDF");
-    const QCommandLineOption force("force", "With --print-to: replace a file that exists.");
-    arguments.addOptions({printTo, force});
+    const PrintToOptions printTo(arguments);
     arguments.process(app);
-    if (arguments.isSet(printTo))
-        return PrintTo(arguments, arguments.value(printTo), arguments.isSet(force));
+    if (printTo.AreGiven()) {
+        ide::PrintTo(printTo.Order());
+        return EXIT_SUCCESS;
+    }
 
     QSettings store(QSettings::IniFormat, QSettings::UserScope, "Fabula", "Fabula");
     qt::QtSettings settings(store);

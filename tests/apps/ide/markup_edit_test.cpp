@@ -1,5 +1,6 @@
 #include "ide/editors/markup_edit.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -258,8 +259,12 @@ TEST_F(MarkupEditTest, EveryPartHasAnAccessibleName) {
     Open("a");
     EXPECT_EQ(edit_->Field().accessibleName(), "Text");
     EXPECT_EQ(Preview()->accessibleName(), "Converted Message");
-    EXPECT_EQ(edit_->findChild<QLabel*>("counts")->accessibleName(), "Length of the text");
-    EXPECT_EQ(edit_->findChild<QLabel*>("fault")->accessibleName(), "First fault of the text");
+    const auto said = [&](const char* name, QAccessible::Text what) {
+        return QAccessible::queryAccessibleInterface(edit_->findChild<QLabel*>(name))->text(what);
+    };
+    EXPECT_EQ(said("counts", QAccessible::Name), edit_->findChild<QLabel*>("counts")->text());
+    EXPECT_EQ(said("counts", QAccessible::Description), "Length of the text");
+    EXPECT_EQ(said("fault", QAccessible::Description), "First fault of the text");
 }
 
 TEST_F(MarkupEditTest, AChangeOfTheThemeLeavesTheGamesColours) {

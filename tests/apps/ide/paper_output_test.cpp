@@ -37,15 +37,20 @@ std::vector<std::string> WordsOfLines(const std::string& text) {
     return lines;
 }
 
+std::string Contents(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string TextOf(const std::filesystem::path& pdf) {
+    const ProgramResult result =
+        RunProgram("/usr/bin/pdftotext", {"-layout", "-enc", "UTF-8", pdf.string(), "-"});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    return result.output;
+}
+
 class PdfOfAGame : public testing::TestWithParam<std::string> {
   protected:
-    static std::string TextOf(const std::filesystem::path& pdf) {
-        const ProgramResult result =
-            RunProgram("/usr/bin/pdftotext", {"-layout", "-enc", "UTF-8", pdf.string(), "-"});
-        EXPECT_EQ(result.status, 0) << result.errors;
-        return result.output;
-    }
-
     TempFolder folder_;
 };
 
@@ -90,9 +95,7 @@ class PrintTo : public testing::Test {
 TEST_F(PrintTo, MakesAPdfWithoutADisplay) {
     const ProgramResult result = Run({"--print-to", File("x.pdf"), Game(), "adventure"});
     EXPECT_EQ(result.status, 0) << result.errors;
-    std::ifstream file(File("x.pdf"), std::ios::binary);
-    const std::string pdf((std::istreambuf_iterator<char>(file)), {});
-    EXPECT_TRUE(pdf.starts_with("%PDF-"));
+    EXPECT_TRUE(Contents(File("x.pdf")).starts_with("%PDF-"));
 }
 
 TEST_F(PrintTo, RefusesAReportThatIsNotThere) {
@@ -100,6 +103,41 @@ TEST_F(PrintTo, RefusesAReportThatIsNotThere) {
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.errors.find("There is no report 'rooms'"), std::string::npos) << result.errors;
     EXPECT_FALSE(std::filesystem::exists(File("x.pdf")));
+}
+
+TEST_F(PrintTo, TakesTheRangeAndTheDetailOfTheListing) {
+    const auto printed = [&](std::vector<std::string> options) {
+        std::vector<std::string> arguments{"--print-to", File("x.pdf"), Game(), "--force"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        EXPECT_EQ(Run(arguments).status, 0);
+        return WordsOfLines(TextOf(File("x.pdf")));
+    };
+    const auto listed = [](const char* golden) {
+        return WordsOfLines(
+            Contents(SourceFolder() / "tests/listings/golden/cellar" / (std::string(golden) + ".txt")));
+    };
+    EXPECT_EQ(printed({"processes", "--range", "1", "--verbose"}), listed("processes-verbose"));
+    EXPECT_EQ(printed({"locations", "--complete", "--verbose"}), listed("locations-complete"));
+    EXPECT_EQ(printed({"user-flags", "--range", "60"}), listed("user-flags"));
+    EXPECT_EQ(printed({"verb-noun", "--verb", "_", "--noun", "_"}), listed("verb-noun"));
+    EXPECT_EQ(printed({"adventure", "--brief"}), listed("brief"));
+}
+
+TEST_F(PrintTo, TellsARangeThatIsNone) {
+    const auto fault = [&](std::vector<std::string> options) {
+        std::vector<std::string> arguments{"--print-to", File("x.pdf"), Game()};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const ProgramResult result = Run(arguments);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_FALSE(std::filesystem::exists(File("x.pdf")));
+        return result.errors;
+    };
+    EXPECT_TRUE(fault({"processes", "--range", "5-3"})
+                    .ends_with("FabulaIDE: Beginning range > ending range in 5-3\n"));
+    EXPECT_TRUE(
+        fault({"objects", "--range", "1"}).ends_with("FabulaIDE: The report 'objects' takes no range.\n"));
+    EXPECT_TRUE(fault({"adventure", "--brief", "--verbose"})
+                    .ends_with("FabulaIDE: --brief and --verbose exclude each other.\n"));
 }
 
 TEST_F(PrintTo, ReplacesAFileByForceAlone) {

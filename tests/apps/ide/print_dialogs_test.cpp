@@ -1,10 +1,12 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QTest>
 #include <QTimer>
@@ -77,6 +79,31 @@ TEST_F(PrintDialogs, PrintSendsTheListingToThePrinterAndCloses) {
     Click(dialog, "print");
     EXPECT_EQ(tray_.titles, std::vector<QString>{"Location Table"});
     EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(PrintDialogs, WindowsHaveTheirOwnWords) {
+    PrintScreen screen(*adventure_, TableNum::ProcessTables, authoring::kOtherProcesses,
+                       PrintScreen::Purpose::Preview, dialogs_);
+    ide::PrintDialog dialog(screen, Services());
+    const auto words = [](const QString& text) {
+        return QString(text).remove(QRegularExpression("&(?!&)"));
+    };
+    EXPECT_EQ(dialog.windowTitle(), "Print Preview Setup for Other Process Tables");
+    EXPECT_EQ(words(Part<QCheckBox>(dialog, "special").text()), "Special Listing");
+    EXPECT_EQ(words(Part<QCheckBox>(dialog, "complete").text()), "Print the complete Adventure");
+    EXPECT_EQ(words(Part<QRadioButton>(dialog, "completeVerbose").text()), "Verbose");
+    EXPECT_EQ(words(Part<QRadioButton>(dialog, "completeNonVerbose").text()), "Non-Verbose");
+    EXPECT_EQ(Part<QRadioButton>(dialog, "completeBrief").text(),
+              "&Brief of Loc, Mess, Obj, Sys Mess, && Flags");
+    EXPECT_EQ(Part<QComboBox>(dialog, "detail").itemText(0), "Verbose");
+    EXPECT_EQ(Part<QComboBox>(dialog, "detail").itemText(1), "Non-Verbose");
+    ide::KeypadDialog keypad(dialogs_);
+    EXPECT_EQ(keypad.windowTitle(), "Size of your KeyPad");
+    EXPECT_EQ(keypad.findChild<QGroupBox*>()->title(), "Top Extended KeyPad Size");
+    EXPECT_EQ(words(Part<QRadioButton>(keypad, "size1").text()), "About 1 1/8 inches");
+    EXPECT_EQ(words(Part<QRadioButton>(keypad, "size2").text()), "About 1 1/2 inches");
+    EXPECT_EQ(words(Part<QRadioButton>(keypad, "size3").text()), "Another size");
+    EXPECT_EQ(Button(keypad, "continue").text(), "&Continue");
 }
 
 TEST_F(PrintDialogs, PrinterThatFailsIsToldInOneSentenceAndTheWindowStays) {

@@ -159,7 +159,7 @@ class RandomGame {
     }
 
     void Edit() {
-        switch (Below(8)) {
+        switch (Below(9)) {
             case 0:
                 return Toggle(locations_, TableNum::Locations, "locnum",
                               [&](int n) { AddRandomLocation(n); });
@@ -174,6 +174,8 @@ class RandomGame {
             case 4:
                 return Toggle(nouns_, TableNum::Vocabulary, "vocindex", [&](int n) { AddNoun(n); });
             case 5:
+                return Toggle(pictures_, TableNum::Pictures, "locnum", [&](int n) { AddRandomPicture(n); });
+            case 6:
                 start_ = Number();
                 return SetStart(desk_, start_);
             default:
@@ -197,6 +199,12 @@ class RandomGame {
             AddMissingOf(object, missing);
         for (const int entry : entries_)
             AddMissingOfEntry(entry, missing);
+        for (const int picture : pictures_) {
+            const int called = calls_.at(picture);
+            if (pictures_.contains(called)) continue;
+            missing.push_back("Picture " + std::to_string(picture) + ": " + std::to_string(called) +
+                              " is an invalid location");
+        }
         std::sort(missing.begin(), missing.end());
         return missing;
     }
@@ -212,6 +220,7 @@ class RandomGame {
     struct Action {
         std::string name;
         int number = 0;
+        int verb = 255;  ///< one of the nouns, or none
     };
 
     int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
@@ -258,12 +267,24 @@ class RandomGame {
         desk_.AddWord(kFirstNounKey + number, "N" + std::to_string(number), number, condacts::kNoun);
     }
 
+    void AddRandomPicture(int number) {
+        const int called = calls_[number] = Number();
+        desk_.Add(TableNum::Pictures, {{"locnum", std::int64_t{number}},
+                                       {"loctype", std::string("Picture")},
+                                       {"drawstring", "GOSUB SC=0 " + std::to_string(called) + " END"}});
+    }
+
+    static std::string VerbOf(const Action& action) {
+        return action.verb == 255 ? "_" : "N" + std::to_string(action.verb);
+    }
+
     void AddRandomEntry(int number) {
         constexpr const char* kNames[] = {"AT",      "GOTO",    "PRESENT", "PLACE 0",
                                           "MESSAGE", "SYSMESS", "PROCESS"};
-        const Action action{kNames[Below(std::size(kNames))], Number()};
+        const Action action{kNames[Below(std::size(kNames))], Number(),
+                            Below(2) == 0 ? 255 : 2 + Below(12)};
         actions_[number] = action;
-        desk_.AddEntry(number, 0, {"_", 255}, {"_", 255},
+        desk_.AddEntry(number, 0, {VerbOf(action), action.verb}, {"_", 255},
                        action.name + " " + std::to_string(action.number));
     }
 
@@ -293,7 +314,8 @@ class RandomGame {
     }
 
     void AddMissingOfEntry(int number, std::vector<std::string>& missing) const {
-        const auto& [name, parameter] = actions_.at(number);
+        const Action& action = actions_.at(number);
+        const auto& [name, parameter, verb] = action;
         const bool special = parameter >= 252 && parameter <= 255;
         const bool isSecond = name == "PLACE 0";
         bool isThere = true;
@@ -308,8 +330,11 @@ class RandomGame {
             why = "There is not a Process table with that number";
         }
         const std::string line = name + " " + std::to_string(parameter);
-        const std::string told = "Process Table 0 Entry # " + std::to_string(number) + " (_ _ " + line +
-                                 "): " + line + " is an invalid Condition/Action: ";
+        const std::string entry = "Process Table 0 Entry # " + std::to_string(number) + " (" +
+                                  VerbOf(action) + " _ " + line + "): ";
+        if (verb != 255 && !nouns_.contains(verb))
+            missing.push_back(entry + "Word1 (" + VerbOf(action) + ") not a verb");
+        const std::string told = entry + line + " is an invalid Condition/Action: ";
         if (isSecond && !objects_.contains(0)) missing.push_back(told + "Invalid number for parameter 1");
         if (!isThere) missing.push_back(told + why);
     }
@@ -325,6 +350,8 @@ class RandomGame {
     std::set<int> systemMessages_;
     std::set<int> nouns_;
     std::set<int> entries_;
+    std::set<int> pictures_;
+    std::map<int, int> calls_;  ///< the picture that a picture calls
     std::map<int, std::pair<int, int>> exits_;
     std::map<int, Object> objectRecords_;
     std::map<int, Action> actions_;

@@ -118,7 +118,7 @@ void DecompileDialog::MakeStatus() {
            "here."));
     status_->setMinimumHeight(fontMetrics().lineSpacing() * kStatusLines);
     progress_->setObjectName("progress");
-    progress_->setAccessibleName(tr("Progress"));
+    progress_->setAccessibleDescription(tr("Progress"));
     progress_->setTextFormat(Qt::PlainText);
     bar_->setObjectName("barProgress");
     bar_->setAccessibleName(tr("Progress"));

@@ -42,7 +42,7 @@ PreviewDialog::PreviewDialog(listings::PrintPreview& preview, const PrintService
     last_ = AddButton(*moves, tr("&Last"), "last", &PreviewDialog::Last);
     moves->addStretch();
     place_->setObjectName("place");
-    place_->setAccessibleName(tr("Page"));
+    place_->setAccessibleDescription(tr("Page"));
     moves->addWidget(place_);
     auto* others = new QHBoxLayout;
     print_ = AddButton(*others, tr("&Print"), "print", &PreviewDialog::Print);

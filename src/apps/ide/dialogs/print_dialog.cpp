@@ -46,7 +46,7 @@ PrintDialog::PrintDialog(PrintScreen& screen, const PrintServices& services, QWi
     column->addLayout(form);
     AddComplete(*column);
     status_->setObjectName("status");
-    status_->setAccessibleName(tr("Status"));
+    status_->setAccessibleDescription(tr("Status"));
     column->addWidget(status_);
     column->addStretch();
     AddButtons(*column);
@@ -103,7 +103,10 @@ void PrintDialog::AddSpecial(QFormLayout& form) {
     form.addRow(tr("&Type of Verb:"), wordType_);
     form.addRow(tr("&Verb:"), verb_);
     form.addRow(tr("&Noun:"), noun_);
-    connect(special_, &QCheckBox::toggled, this, [this] { ShowState(); });
+    connect(special_, &QCheckBox::toggled, this, [this](bool on) {
+        screen_.ClickSpecial(on);
+        ShowState();
+    });
     connect(wordType_, &QComboBox::currentIndexChanged, this, [this] { ShowVerbs(); });
 }
 
@@ -160,7 +163,6 @@ void PrintDialog::Read() {
             screen_.completeForm = static_cast<PrintScreen::CompleteForm>(i);
     }
     if (!special_) return;
-    screen_.special = special_->isChecked();
     screen_.verb.index = verb_->currentIndex();
     screen_.noun.index = noun_->currentIndex();
 }

@@ -36,7 +36,7 @@ constexpr int kBelowLabel = 4;
 QLabel* MakeNote(const char* name, const QString& what, QWidget* parent) {
     auto* note = new QLabel(parent);
     note->setObjectName(name);
-    note->setAccessibleName(what);
+    note->setAccessibleDescription(what);
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
     note->setMinimumHeight(note->fontMetrics().height());

@@ -150,7 +150,7 @@ void SettingsGamePage::AddLook(QFormLayout& form) {
     AddToForm(form, tr("&Font:"), font_, "font");
     AddToForm(form, tr("Font si&ze:"), fontSize_, "fontSize");
     sample_->setObjectName("FontTest");
-    sample_->setAccessibleName(tr("Sample of the font"));
+    sample_->setAccessibleDescription(tr("Sample of the font"));
     form.addRow(sample_);
     AddToForm(form, tr("Print wi&dth:"), printWidth_, "printWidth");
     printWidth_->setEnabled(screen_.HasPrintWidth());

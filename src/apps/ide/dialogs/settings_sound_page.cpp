@@ -74,7 +74,7 @@ QWidget* SettingsSoundPage::NewTest() {
     auto* button = NewButton(tr("&Test Voice"), "testVoice");
     connect(button, &QPushButton::clicked, this, [this] { TestVoice(); });
     heard_->setObjectName("heard");
-    heard_->setAccessibleName(tr("Test of the voice"));
+    heard_->setAccessibleDescription(tr("Test of the voice"));
     heard_->setTextFormat(Qt::PlainText);
     heard_->setWordWrap(true);
     heard_->setText(tr("Plays one note with these settings."));

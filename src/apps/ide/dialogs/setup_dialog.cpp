@@ -57,7 +57,7 @@ SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
     AddCharSets(*column);
 
     explanation_->setObjectName("explanation");
-    explanation_->setAccessibleName(tr("Explanation"));
+    explanation_->setAccessibleDescription(tr("Explanation"));
     explanation_->setTextFormat(Qt::PlainText);
     explanation_->setWordWrap(true);
     explanation_->setMargin(10);

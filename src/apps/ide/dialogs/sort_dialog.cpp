@@ -76,6 +76,7 @@ void SortDialog::AddLine() {
         line.field->addItem(qt::Translated(field.title));
     line.direction->setObjectName(QString("direction%1").arg(row + 1));
     line.direction->setAccessibleName(tr("Direction of line %1").arg(row + 1));
+    line.direction->setAccessibleDescription(line.direction->accessibleName());  // no label tells it
     line.direction->addItems({tr("Ascending"), tr("Descending")});
     auto* label = new QLabel(name);
     label->setBuddy(line.field);

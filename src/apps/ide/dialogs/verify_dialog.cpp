@@ -39,7 +39,7 @@ VerifyDialog::VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& d
     lines_->setSpacing(1);
     lines_->setAlternatingRowColors(true);
     progress_->setObjectName("progress");
-    progress_->setAccessibleName(tr("Progress"));
+    progress_->setAccessibleDescription(tr("Progress"));
     progress_->setTextFormat(Qt::PlainText);
     goToButton_->setObjectName("goTo");
     goToButton_->setAutoDefault(false);

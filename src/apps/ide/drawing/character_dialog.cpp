@@ -174,6 +174,7 @@ QLayout* CharacterDialog::NewSamples() {
     second_->setAccessibleName(tr("The character 64 times, exchanged"));
     sampleText_->setObjectName("SampleText");
     sampleText_->setAccessibleName(tr("Sample text"));
+    sample_->setAccessibleName(tr("The sample text in the set's characters"));
     auto* tiles = new QHBoxLayout;
     tiles->addWidget(first_);
     tiles->addWidget(second_);

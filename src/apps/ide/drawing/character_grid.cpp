@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "qt/picture_access.h"
+
 namespace fabula::ide {
 namespace {
 
@@ -16,6 +18,7 @@ constexpr int kSmallestSide = 14;
 
 CharacterGrid::CharacterGrid(authoring::CharacterEditor& editor, QColor ink, QColor paper, QWidget* parent)
     : QWidget(parent), editor_(editor), ink_(ink), paper_(paper) {
+    qt::ActAsPicture(*this);
     setObjectName("Squares");
     setAccessibleName(tr("Squares of the character"));
     setFocusPolicy(Qt::StrongFocus);

@@ -7,6 +7,7 @@
 #include <array>
 
 #include "ide/editors/plane_image.h"
+#include "qt/picture_access.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -42,6 +43,7 @@ std::optional<DrawingKey> DrawingKeyOf(int key) {
 
 PictureCanvas::PictureCanvas(authoring::PictureEditor& editor, QWidget* parent)
     : QWidget(parent), editor_(editor), grid_(ImageOfPlane(editor.Grid())) {
+    qt::ActAsPicture(*this);
     setObjectName("Canvas");
     setAccessibleName(tr("Picture"));
     setFocusPolicy(Qt::StrongFocus);

@@ -58,14 +58,17 @@ void FontTest::ShowSample(const authoring::FontSample& sample) {
     colours.setColor(QPalette::Window, ToColour(sample.paper));
     colours.setColor(QPalette::WindowText, ToColour(sample.ink));
     setPalette(colours);
+    const QString text = QString("%1 %2").arg(kSampleLines[0], kSampleLines[1]);
     if (sample.charSet) {
+        setAccessibleName(text);
         setPixmap(Drawn(*sample.charSet, ToColour(sample.ink)));
         return;
     }
     QFont font(qt::ToQt(sample.fontName));
     font.setPointSize(sample.points);
     setFont(font);
-    setText(QString("%1 %2").arg(kSampleLines[0], kSampleLines[1]));
+    setAccessibleName("");
+    setText(text);
 }
 
 QPixmap FontTest::Drawn(int charSet, const QColor& ink) const {

@@ -82,11 +82,11 @@ MarkupEdit::MarkupEdit(const authoring::TextEditing& editing, const MarkupEditKi
 
     counts_ = new QLabel;
     counts_->setObjectName(kind.isShort ? "shortCounts" : "counts");
-    counts_->setAccessibleName(tr("Length of the text"));
+    counts_->setAccessibleDescription(tr("Length of the text"));
     counts_->setForegroundRole(QPalette::PlaceholderText);
     fault_ = new QLabel;
     fault_->setObjectName(kind.isShort ? "shortFault" : "fault");
-    fault_->setAccessibleName(tr("First fault of the text"));
+    fault_->setAccessibleDescription(tr("First fault of the text"));
     fault_->setWordWrap(true);
     fault_->setTextFormat(Qt::PlainText);
     auto* below = new QHBoxLayout;

@@ -14,7 +14,6 @@ constexpr int kHighestLines = 7;
 
 PictureView::PictureView(QWidget* parent) : QLabel(parent) {
     setObjectName("imgPicture");
-    setAccessibleName(tr("Picture"));
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     hide();
@@ -22,6 +21,7 @@ PictureView::PictureView(QWidget* parent) : QLabel(parent) {
 
 void PictureView::Show(const std::filesystem::path& gameFolder, std::string_view stored) {
     clear();
+    setAccessibleName("");  // a text in place of the picture is read as it stands
     setVisible(!stored.empty());
     if (stored.empty()) return;
     const store::GamePath found = store::FindGameFile(gameFolder, stored);
@@ -44,6 +44,7 @@ void PictureView::Show(const QImage& image) {
                                 Qt::SmoothTransformation);
     small.setDevicePixelRatio(density);
     setPixmap(QPixmap::fromImage(small));
+    setAccessibleName(tr("Picture"));
 }
 
 }  // namespace fabula::ide

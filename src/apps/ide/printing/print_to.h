@@ -3,11 +3,21 @@
 #include <filesystem>
 #include <string>
 
+#include "listings/report_options.h"
+
 namespace fabula::ide {
 
-/// Prints a report of an adventure into a PDF file: what `FabulaIDE --print-to` does. A file that exists is
-/// replaced with `force` only. Throws fabula::Error with one sentence; nothing is written then.
-void PrintTo(const std::filesystem::path& file, const std::filesystem::path& adventure,
-             const std::string& report, bool force);
+/// What `FabulaIDE --print-to` is asked for.
+struct PrintToOrder {
+    std::filesystem::path file;  ///< the PDF file
+    std::filesystem::path adventure;
+    std::string report;
+    listings::ReportOptions options = {};
+    bool force = false;  ///< replace a file that exists
+};
+
+/// Prints a report of an adventure into a PDF file. Throws fabula::Error with one sentence; nothing is
+/// written then.
+void PrintTo(const PrintToOrder& order);
 
 }  // namespace fabula::ide

@@ -4,6 +4,7 @@
 #include <QSizeF>
 
 #include "ide/printing/sheet_painter.h"
+#include "qt/picture_access.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -17,6 +18,7 @@ constexpr qreal kMillimetresPerInch = 25.4;
 }  // namespace
 
 SheetView::SheetView(QWidget* parent) : QWidget(parent) {
+    qt::ActAsPicture(*this);
     setAccessibleName(tr("Sheet of the listing"));
 }
 

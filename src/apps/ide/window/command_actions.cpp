@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <array>
 
 #include "qt/icons.h"
@@ -86,6 +87,10 @@ void CommandActions::Refresh(const StateOf& stateOf) const {
         const QString text = qt::Translated(state.text);
         action->setStatusTip(tip);
         action->setToolTip("<p>" + text.toHtmlEscaped() + "<br>" + tip.toHtmlEscaped() + "</p>");
+        // A screen reader would read the markup of the tip.
+        for (QObject* object : action->associatedObjects()) {
+            if (auto* button = qobject_cast<QToolButton*>(object)) button->setAccessibleDescription(tip);
+        }
     }
 }
 

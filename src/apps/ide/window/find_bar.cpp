@@ -21,6 +21,7 @@ FindBar::FindBar(Events events, QWidget* parent)
     text_->setClearButtonEnabled(true);
     fields_->setObjectName("ComboBox");
     fields_->setAccessibleName(tr("Field to find in"));
+    fields_->setAccessibleDescription(fields_->accessibleName());  // no label tells it
     fields_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     auto* in = new QLabel(tr("in"));
     const auto button = [](const char* name, const char* icon, const QString& text) {

@@ -263,7 +263,7 @@ void MainWindow::MakeThemeMenu(QMenu& view) {
 void MainWindow::MakeStatusBar() {
     const auto add = [](QLabel& label, const char* name, const QString& spoken) {
         label.setObjectName(name);
-        label.setAccessibleName(spoken);
+        label.setAccessibleDescription(spoken);
         label.setTextFormat(Qt::PlainText);
         label.setContentsMargins(6, 0, 6, 0);
     };

@@ -23,9 +23,8 @@ constexpr QSize kUsualSize(420, 300);
 /// The letters behind Alt belong to the menus of the window that the dialog stands in now.
 void DropMnemonics(const QWidget& dialog) {
     for (auto* label : dialog.findChildren<QLabel*>()) {
-        if (!label->buddy()) continue;
-        label->setBuddy(nullptr);
-        label->setText(label->text().remove('&'));
+        // The buddy stays: a screen reader tells it by its label.
+        if (label->buddy()) label->setText(label->text().remove('&'));
     }
     for (auto* button : dialog.findChildren<QAbstractButton*>())
         button->setText(button->text().remove('&'));

@@ -40,6 +40,11 @@ class RowsView final : public QTableView {
         QTableView::initViewItemOption(option);
         ShowWhetherFocused(*this, *option);
     }
+    /// A table calls its new cell the one with the keyboard. It is not while somebody walks in the tree.
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+        if (hasFocus()) return QTableView::currentChanged(current, previous);
+        QAbstractItemView::currentChanged(current, previous);
+    }
 };
 
 }  // namespace
@@ -63,7 +68,7 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
     filter_->addAction(qt::IconOf("filter"), QLineEdit::LeadingPosition);
     filter_->installEventFilter(this);
     count_->setObjectName("Count");
-    count_->setAccessibleName(tr("Rows shown"));
+    count_->setAccessibleDescription(tr("Rows shown"));
     SetUpView();
 
     auto* line = new QHBoxLayout;

@@ -1,0 +1,24 @@
+#include "qt/picture_access.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+namespace fabula::qt {
+namespace {
+
+constexpr const char* kIsPicture = "isPicture";
+
+QAccessibleInterface* Describe(const QString&, QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (!widget || !widget->property(kIsPicture).toBool()) return nullptr;
+    return new QAccessibleWidget(widget, QAccessible::Graphic);  // Qt deletes it
+}
+
+}  // namespace
+
+void ActAsPicture(QWidget& widget) {
+    widget.setProperty(kIsPicture, true);
+    QAccessible::installFactory(Describe);
+}
+
+}  // namespace fabula::qt

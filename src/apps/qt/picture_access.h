@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace fabula::qt {
+
+/// Makes screen readers take a widget that paints for a picture, by its accessible name and description.
+/// Without this it is nothing in particular to them. To be called before the widget gets a name.
+void ActAsPicture(QWidget& widget);
+
+}  // namespace fabula::qt
