@@ -192,6 +192,10 @@ class MainScreen {
     bool NamesShown() const { return namesShown_; }
     void ShowNames(bool shown);
 
+    /// Whether tables show the author's comments as a column.
+    bool CommentsShown() const { return commentsShown_; }
+    void ShowComments(bool shown);
+
     /// For the screens. Only while an adventure is open.
     ScreenContext& CurrentContext();
 
@@ -261,6 +265,7 @@ class MainScreen {
     int changesBefore_ = 0;  ///< how many changes there were before the latest command
     bool running_ = false;
     bool namesShown_ = false;
+    bool commentsShown_ = false;
     std::optional<bool> charSetsLoaded_;  ///< by an adventure of this sitting; nullopt: there was none yet
     bool mustExit_ = false;
 };

@@ -39,7 +39,7 @@ void MainScreen::SetupGrid(TableView view) {
     const TableRights rights = SetUpEdits(view.table);
     FindBox find = find_;
     find.SetUpFindComboBox(adventure, view.table);
-    grid_.SetupGrid(adventure, view, maintenance_);
+    grid_.SetupGrid(adventure, view, maintenance_, commentsShown_);
     rights_ = rights;
     find_ = std::move(find);
     PutNames();
@@ -150,6 +150,16 @@ void MainScreen::PutNames() {
 void MainScreen::ShowNames(bool shown) {
     namesShown_ = shown;
     Refresh();
+}
+
+void MainScreen::ShowComments(bool shown) {
+    commentsShown_ = shown;
+    if (!desk_ || running_) return;
+    Guard([&] {
+        KeepPlace();
+        SetupGrid(grid_.View());
+        GoToKeptPlace();
+    });
 }
 
 std::optional<ScreenRequest> MainScreen::RecordBeside() {

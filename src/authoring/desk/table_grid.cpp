@@ -16,6 +16,11 @@ namespace {
 
 using store::TableNum;
 
+/// The values of `see` that make a field a column, by what the author wants to see.
+constexpr int kSeenAlways = 0;
+constexpr int kSeenInMaintenance = 2;
+constexpr int kSeenWithComments = 3;
+
 constexpr std::string_view kLineEndSign = "\u21B5";
 constexpr std::string_view kHardSpaceSign = "\u2423";
 constexpr std::string_view kCondActsField = "condacts";
@@ -74,10 +79,10 @@ bool LessValue(const text::Value& left, const text::Value& right) {
 
 }  // namespace
 
-void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance) {
+void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance, bool comments) {
     TableGrid grid;
     grid.view_ = view;
-    grid.ReadColumns(adventure, maintenance);
+    grid.ReadColumns(adventure, maintenance, comments);
     grid.ReadRecords(adventure);
     *this = std::move(grid);
 }
@@ -90,7 +95,7 @@ void TableGrid::Clear() {
     *this = TableGrid();
 }
 
-void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
+void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance, bool comments) {
     const store::TableSchema& schema = adventure.Schema(view_.table);
     std::vector<std::string> others;
     store::Cursor& rows =
@@ -101,7 +106,8 @@ void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
         const auto place = schema.Find(field);
         if (!place || IsHidden(field, adventure)) continue;
         const auto see = rows.Number("see");
-        if (see == 0 || (maintenance && see == 2)) {
+        if (see == kSeenAlways || (maintenance && see == kSeenInMaintenance) ||
+            (comments && see == kSeenWithComments)) {
             const std::string_view other = rows.Text("altname");
             columns_.push_back({field,
                                 other.empty() ? field : std::string(text::Left(other, kLongestTitle)),

@@ -35,9 +35,10 @@ inline constexpr std::string_view kHelpPageField = "htmlpage";
 /// by the command Sort. With a filter only the rows that contain its text are shown.
 class TableGrid {
   public:
-    /// Shows the records of a view, without filter, in the view's own order. Throws fabula::Error when the
-    /// file can't be read; what was shown before is then still shown.
-    void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance);
+    /// Shows the records of a view, without filter, in the view's own order; with `maintenance` the fields
+    /// of the program, with `comments` the author's comments too. Throws fabula::Error when the file can't
+    /// be read; what was shown before is then still shown.
+    void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance, bool comments = false);
     /// Reads the records again; columns, filter and order stay.
     void Refresh(store::Adventure& adventure);
     /// Shows nothing.
@@ -90,7 +91,7 @@ class TableGrid {
     static constexpr std::size_t kLongestTip = 4000;
 
   private:
-    void ReadColumns(store::Adventure& adventure, bool maintenance);
+    void ReadColumns(store::Adventure& adventure, bool maintenance, bool comments);
     void ReadRecords(store::Adventure& adventure);
     void Arrange();
     /// The names, where the column holds conditions and actions and names are shown.

@@ -172,7 +172,7 @@ void ObjectScreen::StoreAttributes(store::Cursor& record) const {
     record.SetField("objweight", *text::WholeNumber(text::TrimBlanks(weight)));
 }
 
-bool ObjectScreen::Update() {
+bool ObjectScreen::UpdateFields() {
     if (!Changed()) return true;
     if (!LeaveDescription() || !LeaveInitialPlace() || !LeaveRoom()) return false;
     if (HasAttributes() && (!CheckContainer() || !LeaveWeight())) return false;

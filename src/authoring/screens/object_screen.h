@@ -38,12 +38,11 @@ class ObjectScreen final : public RecordScreen {
     bool ClickContainer();
     bool LeaveWeight();
 
-    bool Changed() const override { return Typed() != opened_; }
-
-    /// True when the screen can close: what was changed is stored.
-    bool Update();
-
     static constexpr int kHeaviest = 63;
+
+  protected:
+    bool FieldsChanged() const override { return Typed() != opened_; }
+    bool UpdateFields() override;
 
   private:
     void ReadRecord();

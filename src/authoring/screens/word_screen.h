@@ -36,13 +36,12 @@ class WordScreen final : public RecordScreen {
     bool LeaveWord();
     bool LeaveNumber();
 
-    bool Changed() const override { return Typed() != opened_; }
-
-    /// True when the screen can close: what was changed is stored.
-    bool Update();
-
     static constexpr int kLowestNumber = 2;
     static constexpr int kHighestNumber = 254;
+
+  protected:
+    bool FieldsChanged() const override { return Typed() != opened_; }
+    bool UpdateFields() override;
 
   private:
     void ReadRecord();

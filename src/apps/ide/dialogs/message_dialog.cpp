@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/leaving.h"
+#include "ide/editors/comment_edit.h"
 #include "ide/editors/leave_check.h"
 #include "ide/editors/markup_edit.h"
 #include "platform/error.h"
@@ -33,13 +34,15 @@ MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::
     text_->typed = [this](const std::string& text) { screen_.TypeMessage(text); };
     auto* top = new QHBoxLayout;
     AddMoves(*top);
-    auto* bottom = new QHBoxLayout;
-    AddButtons(*bottom);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(10);
     layout->addLayout(top);
     layout->addWidget(text_, 1);
+    comment_ = new CommentEdit(screen.Comment(), *this);
+    layout->addWidget(comment_);
+    auto* bottom = new QHBoxLayout;
+    AddButtons(*bottom);
     layout->addLayout(bottom);
     ShowRecord();
     resize(sizeHint().expandedTo({640, 480}));
@@ -105,6 +108,7 @@ void MessageDialog::AddButtons(QHBoxLayout& row) {
 void MessageDialog::ShowRecord() {
     number_->setText(QString("%1 %2").arg(qt::ToQt(screen_.Label())).arg(screen_.Number()));
     text_->SetText(screen_.Text());
+    comment_->Show();
 }
 
 void MessageDialog::Move(int step) {
