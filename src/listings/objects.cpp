@@ -41,8 +41,8 @@ void WriteObjects(const Listing& listing, const ReportRequest& request) {
                          Heading(lastHeading + (verbose ? "!%t92!%c16-" : ""))});
     const RoomNames rooms = verbose ? LoadRoomNames(listing.adventure) : RoomNames();
     store::PreparedQuery rows = listing.adventure.Prepare(
-        TableNum::Objects, "objnum, objdesc, objnoun, objadject, objweight, objattr, objlocdesc, objloc",
-        "");
+        TableNum::Objects,
+        "objnum, objdesc, objnoun, objadject, objweight, objattr, objlocdesc, objloc, comment", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
         const Place place{TableNum::Objects, static_cast<int>(rows.Number(0))};
         Record record(place);
@@ -59,6 +59,7 @@ void WriteObjects(const Listing& listing, const ReportRequest& request) {
         record.Row(verbose ? kVerboseWords : kWords, std::move(words));
         if (!condacts::IsSpecialPlace(at))
             record.LinkTo({TableNum::Locations, static_cast<int>(at)}, kPlaceColumn, initially.size());
+        if (verbose) AddComment(record, rows.Text(8));
         listing.frame.Add(record.Take());
     }
 }
