@@ -155,6 +155,26 @@ void ScrollAPage(benchmark::State& state) {
     }
 }
 
+/// An arrow key in the rows, and the window drawn with the next record beside them.
+void NextRecordBeside(benchmark::State& state, const char* table) {
+    Tool tool;
+    tool.Choose(table);
+    tool.Action("RecordBeside").setChecked(true);
+    auto* grid = tool.Window().findChild<QTableView*>("Grid");
+    grid->selectRow(0);
+    tool.Draw();
+    for (auto _ : state) {
+        if (tool.Logic().CurrentRow() + 1 == tool.Logic().Grid().RowCount()) {
+            state.PauseTiming();
+            grid->selectRow(0);
+            state.ResumeTiming();
+        }
+        QTest::keyClick(grid, Qt::Key_Down);
+        tool.Draw();
+    }
+    if (tool.Window().findChild<QWidget*>("RecordPane")->isHidden()) state.SkipWithError("no record");
+}
+
 /// The middle record of a table.
 authoring::ScreenRequest MiddleOf(Tool& tool, const char* table) {
     tool.Choose(table);
@@ -218,6 +238,9 @@ BENCHMARK_CAPTURE(SwitchDrawnTables, process, "Response (P0)")
     ->UseRealTime();
 BENCHMARK(FindAndDraw)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(ScrollAPage)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(NextRecordBeside, process, "Response (P0)")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(NextRecordBeside, locations, "Locations")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(NextRecordBeside, messages, "Messages")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(ProcessEditor)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(LocationEditor)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(TypeAMessage)->Unit(benchmark::kMillisecond)->UseRealTime();

@@ -55,7 +55,7 @@ std::vector<ExportField> ExportFields(store::Adventure& adventure, int tableNumb
 
 std::optional<text::Value> ParseExportValue(FieldType type, ExportUse use, std::string_view text) {
     if (type == FieldType::VarWChar || type == FieldType::LongVarWChar) {
-        if (use != ExportUse::LongText) return std::string(text);
+        if (!KeepsLineEnds(use)) return std::string(text);
         return text::ReplaceAll(text, kLineEndTag, text::kLineEndMarker);
     }
     if (text.empty()) return text::Value();

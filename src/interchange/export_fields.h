@@ -18,7 +18,13 @@ enum class ExportUse : int {
     Plain = 2,     ///< stored as it stands
     Numeric = 3,   ///< stored, and its companion text is made anew
     LongText = 4,  ///< "<CR>" turned back into the line-end marker
+    Comment = 5,   ///< a long text that has no line in the file where there is none
 };
+
+/// Whether line ends of the text travel.
+constexpr bool KeepsLineEnds(ExportUse use) {
+    return use == ExportUse::LongText || use == ExportUse::Comment;
+}
 
 struct ExportField {
     std::string name;

@@ -57,6 +57,7 @@ class TableExport {
 
     bool WriteField(const Cursor& records, const Column& column) {
         const text::Value value = records.Field(column.index);
+        if (column.field.use == ExportUse::Comment && text::IsNull(value)) return true;
         const std::string written = Rendered(column, value, records);
         const auto bad = file_.WriteLine(
             text::FormatText("%n!|!%a!|!%a", {std::int64_t{number_}, column.field.name, written}));
@@ -82,10 +83,10 @@ class TableExport {
         if (stored.find('|') != std::string::npos) {
             context_.status.AddLoss(name + ": what stands behind the first | will not come back.");
         }
-        if (stored.find(kLineEndTag) != std::string::npos && use == ExportUse::LongText) {
+        if (stored.find(kLineEndTag) != std::string::npos && KeepsLineEnds(use)) {
             context_.status.AddLoss(name + ": <CR> will come back as a line end.");
         }
-        if (hasLineEnd && use != ExportUse::LongText) {
+        if (hasLineEnd && !KeepsLineEnds(use)) {
             context_.status.AddLoss(name + ": line ends will come back as <CR>.");
         }
         if (stored.find_first_of("\r\n") != std::string::npos) {

@@ -5,6 +5,7 @@
 
 #include "interchange/pc_extras.h"
 #include "platform/error.h"
+#include "text/line_ends.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -53,7 +54,7 @@ bool PcLines::RdSrcFile(std::string& line, bool skipBlank) {
     while (!failed_ && file_->Next(whole_)) {
         status_.SetBar(file_->BytesRead());
         line = whole_;
-        if (IsExtra(line, comment_)) extras_.push_back({line.substr(1), Place()});
+        if (IsExtra(line, comment_)) TakeExtra(line.substr(1));
         if (line.starts_with(comment_)) TakeName(std::string_view(line).substr(1));
         if (!CutComment(line, comment_)) continue;
         if (IsLink(line)) {
@@ -64,6 +65,20 @@ bool PcLines::RdSrcFile(std::string& line, bool skipBlank) {
         return true;
     }
     return false;
+}
+
+void PcLines::TakeExtra(std::string line) {
+    const auto comment = LineOfComment(line);
+    if (!comment) {
+        extras_.push_back({std::move(line), Place()});
+        return;
+    }
+    if (pendingComment_) pendingComment_->append(text::kLineEndMarker);
+    pendingComment_ = pendingComment_.value_or("").append(*comment);
+}
+
+std::string PcLines::TakeComment() {
+    return std::exchange(pendingComment_, std::nullopt).value_or("");
 }
 
 void PcLines::TellLinesBehindLink() {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -39,11 +40,16 @@ class PcLines {
     };
     const std::vector<Extra>& Extras() const { return extras_; }
 
+    /// The comment to the record that begins at the latest line: the lines in front of it that hold it,
+    /// with line-end markers between them. It is given once; "" where there is none.
+    std::string TakeComment();
+
     /// The game's name, when a comment at the head tells it as the writer of these files does.
     const std::string& AdventureName() const { return adventureName_; }
 
   private:
     void Open(const std::filesystem::path& file);
+    void TakeExtra(std::string line);
     void TakeName(std::string_view comment);
     void Follow(const std::string& line);
     void TellLinesBehindLink();
@@ -58,6 +64,7 @@ class PcLines {
     std::set<std::filesystem::path> read_;
     std::string whole_;
     std::vector<Extra> extras_;
+    std::optional<std::string> pendingComment_;  ///< read and not taken yet
     std::string adventureName_;
     bool failed_ = false;
 };

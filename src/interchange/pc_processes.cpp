@@ -4,6 +4,7 @@
 
 #include "condacts/parser.h"
 #include "interchange/condact_text.h"
+#include "store/comments.h"
 #include "text/utf8.h"
 
 namespace fabula::interchange {
@@ -63,6 +64,7 @@ PcProcesses::PcProcesses(PcSourceJob& job) : job_(job), withBell_(WithBell(job.c
 
 void PcProcesses::Begin(const std::vector<std::string_view>& words) {
     Flush();
+    job_.lines.TakeComment();  // what stands in front of the section belongs to none of its entries
     if (!entries_) {
         entries_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcessTables, "canum");
         descriptions_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcDesc, "pmsgnum");
@@ -107,6 +109,7 @@ void PcProcesses::BeginEntry(std::string_view line) {
     entry_ = std::make_unique<Entry>();
     const auto tokens = SplitWords(line);
     entry_->place = job_.PlaceOf(tokens[0]);
+    entry_->comment = job_.lines.TakeComment();
     if (tokens.size() < 2) {
         entry_->w1 = tokens[0];
         entry_->good = false;
@@ -220,6 +223,7 @@ void PcProcesses::Store() {
     record.SetField("numcas", std::int64_t{condacts::CountTokens(entry_->condActs)});
     record.SetField("condacts", entry_->condActs);
     record.SetField("numericcondacts", entry_->numeric);
+    if (!entry_->comment.empty()) record.SetField(store::kCommentField, entry_->comment);
     entries_->Update();
     job_.Note(TableNum::ProcessTables, key, "", 0, entry_->place);
     job_.Note(TableNum::ProcessTables, key, "w1", 0, entry_->words[0]);

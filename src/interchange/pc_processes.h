@@ -32,6 +32,7 @@ class PcProcesses final : public PcSection {
         std::string condActs;
         std::vector<SourcePlace> tokens;  ///< places of the tokens of condActs
         std::string numeric;
+        std::string comment;
         bool good = true;
 
         std::string Name() const { return w1 + " " + w2; }

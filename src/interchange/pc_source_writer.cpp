@@ -15,6 +15,7 @@
 #include "interchange/pc_source_job.h"
 #include "interchange/pc_texts.h"
 #include "interchange/target_file.h"
+#include "store/comments.h"
 #include "store/tags.h"
 #include "text/fields.h"
 #include "text/format.h"
@@ -60,7 +61,7 @@ class SourceWriter {
         WriteObjects();
         WriteProcesses();
         WriteDocumentation();
-        WriteExtras(context_.adventure, context_.status,
+        WriteExtras(context_.adventure, dialect_.letters, context_.status,
                     [this](const std::string& record, const std::string& line) {
                         record_ = record;
                         TextLine(dialect_.comment + line);
@@ -217,6 +218,8 @@ class SourceWriter {
             for (; !entries.Eof(); entries.MoveNext()) {
                 context_.status.IncBar(1);
                 record_ = "ProcessTables " + std::to_string(entries.Number("canum"));
+                for (const std::string& line : CommentLines(entries.Text(store::kCommentField)))
+                    TextLine(dialect_.comment + line);
                 WriteEntry(Word(entries.Text("w1")), Word(entries.Text("w2")), entries.Text("condacts"));
             }
         }

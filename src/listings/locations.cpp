@@ -169,7 +169,7 @@ void WriteLocations(const Listing& listing, const ReportRequest& request) {
     const Surroundings around = request.complete ? LoadSurroundings(listing.adventure) : Surroundings();
     const ExitColumns columns = ColumnsFor(listing.adventure, around);
     store::PreparedQuery rows = listing.adventure.Prepare(
-        TableNum::Locations, "locnum, locdesc, exits, numericexits, picloc, pickey", "");
+        TableNum::Locations, "locnum, locdesc, exits, numericexits, picloc, pickey, comment", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
         const int number = static_cast<int>(rows.Number(0));
         const std::vector<Exit> exits = ExitsOf(rows.Text(2), rows.Text(3));
@@ -182,6 +182,7 @@ void WriteLocations(const Listing& listing, const ReportRequest& request) {
         for (const Exit& exit : exits)
             AddExit(record, columns, exit);
         AddSurroundings(record, columns, around, number);
+        if (verbose) AddComment(record, rows.Text(6));
         listing.frame.Add(record.Take());
     }
 }

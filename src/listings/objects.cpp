@@ -32,8 +32,8 @@ void WriteObjects(const Listing& listing, const ReportRequest& request) {
     std::vector<authoring::ListItem> rooms;
     if (verbose) rooms = authoring::LocationNames(listing.adventure);
     store::PreparedQuery rows = listing.adventure.Prepare(
-        TableNum::Objects, "objnum, objdesc, objnoun, objadject, objweight, objattr, objlocdesc, objloc",
-        "");
+        TableNum::Objects,
+        "objnum, objdesc, objnoun, objadject, objweight, objattr, objlocdesc, objloc, comment", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
         const Place place{TableNum::Objects, static_cast<int>(rows.Number(0))};
         Record record(place);
@@ -47,6 +47,7 @@ void WriteObjects(const Listing& listing, const ReportRequest& request) {
         if (!condacts::IsSpecialPlace(at))
             record.LinkTo({TableNum::Locations, static_cast<int>(at)}, kPlaceColumn, initially.size());
         if (verbose) record.Aside(authoring::NameIn(rooms, static_cast<int>(at)), kRoom);
+        if (verbose) AddComment(record, rows.Text(8));
         listing.frame.Add(record.Take());
     }
 }

@@ -52,8 +52,10 @@ void AddCondAct(Record& record, const EntryWords& words, const ShownCondAct& con
         record.Aside(parameter.tells, kMeaning);
 }
 
-void AddEntry(const Listing& listing, const ConditionTexts& texts, const store::PreparedQuery& row) {
+void AddEntry(const Listing& listing, const ConditionTexts& texts, const store::PreparedQuery& row,
+              bool verbose) {
     Record record;
+    if (verbose) AddComment(record, row.Text(3));
     EntryWords words{std::string(row.Text(0)), std::string(row.Text(1))};
     const std::vector<ShownCondAct> shown = texts.Shown(row.Text(2));
     if (shown.empty()) record.Row(kFault, {words.verb, words.noun, std::string()});
@@ -96,11 +98,12 @@ std::vector<int> AskedTables(const Listing& listing, const ReportRequest& reques
     return request.numbers ? *request.numbers : TablesWithEntries(listing.adventure, words);
 }
 
-void WriteEntries(const Listing& listing, const ConditionTexts& texts, const std::string& where) {
+void WriteEntries(const Listing& listing, const ConditionTexts& texts, const std::string& where,
+                  bool verbose) {
     store::PreparedQuery rows =
-        listing.adventure.Prepare(TableNum::ProcessTables, "w1, w2, condacts", where);
+        listing.adventure.Prepare(TableNum::ProcessTables, "w1, w2, condacts, comment", where);
     for (bool more = rows.First({}); more; more = rows.Next())
-        AddEntry(listing, texts, rows);
+        AddEntry(listing, texts, rows, verbose);
 }
 
 /// The number of a word of the vocabulary that the special listing looks for. Throws fabula::Error when
@@ -133,7 +136,7 @@ void WriteProcessTables(const Listing& listing, const ReportRequest& request) {
         listing.frame.Begin("Process Table " + number + " Listing",
                             HeadingsOf(listing.adventure, process, verbose),
                             Place{TableNum::ProcessTables, process});
-        WriteEntries(listing, texts, "estype=" + number);
+        WriteEntries(listing, texts, "estype=" + number, verbose);
     }
 }
 
@@ -144,7 +147,7 @@ void WriteVerbAndNoun(const Listing& listing, const ReportRequest& request) {
     for (const int process : AskedTables(listing, request, words)) {
         listing.frame.Begin("Listing of Specific Verb/Noun",
                             HeadingsOf(listing.adventure, process, verbose));
-        WriteEntries(listing, texts, "estype=" + std::to_string(process) + words);
+        WriteEntries(listing, texts, "estype=" + std::to_string(process) + words, verbose);
     }
 }
 

@@ -110,6 +110,11 @@ std::vector<Line> Record::Take() {
     return std::move(lines_);
 }
 
+void AddComment(Record& record, std::string_view comment) {
+    constexpr TextArea kArea{10, 70};
+    if (!IsEmpty(comment)) record.Text("Comment: !%a", {}, comment, kArea);
+}
+
 std::string Heading(std::string_view format) {
     return WithoutEndBlanks(text::FormatText(format, {}));
 }

@@ -57,6 +57,9 @@ class Record {
     std::size_t row_ = 0;  ///< the index of the latest line that was begun
 };
 
+/// Adds the author's comment to the record, where there is one.
+void AddComment(Record& record, std::string_view comment);
+
 /// The text of a heading: a format without values.
 std::string Heading(std::string_view format);
 

@@ -11,6 +11,7 @@
 #include "condacts/parser.h"
 #include "condacts/validate.h"
 #include "references/kinds.h"
+#include "store/comments.h"
 #include "store/record_check.h"
 #include "store/tags.h"
 #include "text/line_ends.h"
@@ -23,19 +24,33 @@ namespace {
 
 using store::TableNum;
 
+using enum SearchedField::Form;
+
+constexpr std::string_view kComments = "comments";
+
 constexpr SearchedField kFields[] = {
-    {TableNum::Locations, "locnum", "locdesc", "locations", true},
-    {TableNum::Locations, "locnum", "locshortdesc", "locations", true},
-    {TableNum::Messages, "msgnum", "msgmsg", "messages", true},
-    {TableNum::Objects, "objnum", "objdesc", "objects", true},
-    {TableNum::ProcessTables, "canum", "condacts", "rules", false},
-    {TableNum::SystemMessages, "smsgnum", "smsgmsg", "system messages", true},
-    {TableNum::Flags, "flgnum", "flgdesc", "flags", false},
-    {TableNum::ProcDesc, "pmsgnum", "pmsgmsg", "process tables", false},
+    {TableNum::Locations, "locnum", "locdesc", "locations", Markup},
+    {TableNum::Locations, "locnum", "locshortdesc", "locations", Markup},
+    {TableNum::Messages, "msgnum", "msgmsg", "messages", Markup},
+    {TableNum::Objects, "objnum", "objdesc", "objects", Markup},
+    {TableNum::ProcessTables, "canum", "condacts", "rules", Rules},
+    {TableNum::SystemMessages, "smsgnum", "smsgmsg", "system messages", Markup},
+    {TableNum::Flags, "flgnum", "flgdesc", "flags", Note},
+    {TableNum::ProcDesc, "pmsgnum", "pmsgmsg", "process tables", Note},
+    {TableNum::Locations, "locnum", store::kCommentField, kComments, Comment},
+    {TableNum::Messages, "msgnum", store::kCommentField, kComments, Comment},
+    {TableNum::Objects, "objnum", store::kCommentField, kComments, Comment},
+    {TableNum::ProcessTables, "canum", store::kCommentField, kComments, Comment},
+    {TableNum::SystemMessages, "smsgnum", store::kCommentField, kComments, Comment},
+    {TableNum::Vocabulary, "vocindex", store::kCommentField, kComments, Comment},
+    {TableNum::Flags, "flgnum", store::kCommentField, kComments, Comment},
+    {TableNum::ProcDesc, "pmsgnum", store::kCommentField, kComments, Comment},
+    {TableNum::Characters, "charkey", store::kCommentField, kComments, Comment},
+    {TableNum::Pictures, "locnum", store::kCommentField, kComments, Comment},
 };
 
 bool IsRules(const SearchedField& field) {
-    return field.table == TableNum::ProcessTables;
+    return field.form == Rules;
 }
 
 /// The checks that the screens make.
@@ -52,7 +67,8 @@ class Checks {
         const store::TableSchema& schema = adventure_.Schema(field.table);
         const store::Field& declared = schema.fields[*schema.Find(field.field)];
         if (const auto fault = store::FaultOf(schema, declared, text::Value(value))) return *fault;
-        const text::Verdict verdict = text::ValidateDescription(value, field.markup, tags_);
+        if (field.form == Comment) return {};
+        const text::Verdict verdict = text::ValidateDescription(value, field.form == Markup, tags_);
         return verdict.IsValid() ? std::string() : verdict.BoxText();
     }
 
@@ -182,7 +198,8 @@ Replaced ReplaceHits(store::Adventure& adventure, const std::vector<Hit>& hits) 
         after = StoredForm(*field, after);
         if (IsRules(*field)) after = checks.WithNumbers(after);
         if (const std::string fault = checks.FaultOf(*field, after); !fault.empty()) {
-            std::string why(IsRules(*field) ? "entry" : EntryOf(*KindOf(field->table)).name);
+            std::string why(field->table == TableNum::ProcessTables ? "entry"
+                                                                    : EntryOf(*KindOf(field->table)).name);
             done.refused.push_back(
                 why.append(" ").append(std::to_string(record)).append(": ").append(fault));
             continue;
@@ -193,7 +210,8 @@ Replaced ReplaceHits(store::Adventure& adventure, const std::vector<Hit>& hits) 
         while (!records.Eof() && records.Text(field->field) != before)
             records.MoveNext();
         if (records.Eof()) continue;
-        records.SetField(field->field, after);
+        const bool isNoComment = field->form == Comment && after.empty();
+        records.SetField(field->field, isNoComment ? text::Value() : text::Value(after));
         if (IsRules(*field)) {
             records.SetField("numericcondacts", checks.Compiled(after));
             records.SetField("numcas", std::int64_t{condacts::CountTokens(after)});

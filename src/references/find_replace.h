@@ -13,13 +13,14 @@
 
 namespace fabula::references {
 
-/// A field of a table that is searched: a text of the game, a note, or the conditions and actions.
+/// A field of a table that is searched: a text of the game with tags, a note without, the conditions and
+/// actions, or an author's comment, which may hold anything.
 struct SearchedField {
     store::TableNum table;
     std::string_view key;
     std::string_view field;
     std::string_view name;  ///< "messages", as the author chooses it
-    bool markup;            ///< a text with tags
+    enum class Form { Markup, Note, Rules, Comment } form;
 };
 
 std::span<const SearchedField> SearchedFields();

@@ -69,6 +69,19 @@ bool IsRule(std::string_view code) {
     return OrderOf(code) < std::size(kRules);
 }
 
+/// A line that an adventure keeps, in characters.
+constexpr std::size_t kLongestLine = 255;
+
+void AddLines(store::Adventure& adventure, const LintSwitches& switches) {
+    store::Cursor& headers = adventure.OpenTable(store::TableNum::Header, "def");
+    for (const std::string& line : switches.Lines()) {
+        headers.AddNew();
+        headers.SetField("hdrkey", std::string(kLintHeader));
+        headers.SetField("hdrmess", line);
+        headers.Update();
+    }
+}
+
 }  // namespace
 
 std::span<const LintRule> AllLintRules() {
@@ -92,6 +105,30 @@ bool LintSwitches::Add(std::string_view line) {
     return true;
 }
 
+void LintSwitches::Remove(const LintSwitches& others) {
+    for (const std::string& rule : others.rules) {
+        rules.erase(rule);
+        std::erase_if(records, [&](const auto& record) { return record.first == rule; });
+    }
+    for (const auto& record : others.records)
+        records.erase(record);
+}
+
+std::vector<std::string> LintSwitches::Lines() const {
+    std::vector<std::string> lines(rules.begin(), rules.end());
+    std::string code;
+    for (const auto& [rule, record] : records) {
+        const std::string number = " " + std::to_string(record);
+        if (rule == code && lines.back().size() + number.size() <= kLongestLine) {
+            lines.back() += number;
+        } else {
+            lines.push_back(rule + number);
+        }
+        code = rule;
+    }
+    return lines;
+}
+
 bool LintSwitches::Hides(const Finding& finding) const {
     return rules.contains(finding.code) || records.contains({std::string(finding.code), finding.record});
 }
@@ -103,6 +140,29 @@ LintSwitches StoredSwitches(store::Adventure& adventure) {
         if (text::EqualsNoCase(rows.Text(0), kLintHeader)) switches.Add(rows.Text(1));
     }
     return switches;
+}
+
+void SwitchOff(store::Adventure& adventure, const LintSwitches& switches) {
+    LintSwitches missing = switches;
+    missing.Remove(StoredSwitches(adventure));
+    AddLines(adventure, missing);
+}
+
+void SwitchOn(store::Adventure& adventure, const LintSwitches& switches) {
+    LintSwitches kept;
+    store::Cursor& headers = adventure.OpenTable(store::TableNum::Header, "def");
+    for (; !headers.Eof(); headers.MoveNext()) {
+        LintSwitches line;
+        if (!text::EqualsNoCase(headers.Text("hdrkey"), kLintHeader) || !line.Add(headers.Text("hdrmess")))
+            continue;
+        const LintSwitches before = line;
+        line.Remove(switches);
+        if (line.rules == before.rules && line.records == before.records) continue;
+        kept.rules.merge(line.rules);
+        kept.records.merge(line.records);
+        headers.Delete();
+    }
+    AddLines(adventure, kept);
 }
 
 std::vector<Finding> Lint(store::Adventure& adventure, const LintSwitches& switches) {

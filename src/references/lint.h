@@ -41,12 +41,21 @@ struct LintSwitches {
     /// word that is neither: "message-unused 40 41 gap they are kept for later". False when it begins with
     /// no code.
     bool Add(std::string_view line);
+    /// Takes `others` out: a rule that is named goes with all its records.
+    void Remove(const LintSwitches& others);
+    /// What is off, a code to a line, its records behind it. `Add` of all gives the same again.
+    std::vector<std::string> Lines() const;
     bool Hides(const Finding& finding) const;
 };
 
 /// The switches that an adventure keeps for itself: the texts of `Header` whose key is kLintHeader.
 LintSwitches StoredSwitches(store::Adventure& adventure);
 inline constexpr std::string_view kLintHeader = "lint off";
+
+/// Switches findings off, or on again, in the adventure itself: `switches` are added to those it keeps, or
+/// taken out of them. Lines that are kept and not touched stay as they are. Belongs into one transaction.
+void SwitchOff(store::Adventure& adventure, const LintSwitches& switches);
+void SwitchOn(store::Adventure& adventure, const LintSwitches& switches);
 
 /// Looks through a whole game. The findings come in the order of the rules, then of the records.
 std::vector<Finding> Lint(store::Adventure& adventure, const LintSwitches& switches = {});

@@ -1,5 +1,6 @@
 #include "store/file_forms.h"
 
+#include "store/comments.h"
 #include "store/needed_fields.h"
 #include "text/utf8.h"
 
@@ -80,6 +81,16 @@ constexpr LaterField kLaterFields[] = {
     {TableNum::Tables, "AltName", 49},
     {TableNum::Tables, "AllowChgSort", 50},
     {TableNum::System, "Ifid", 51},
+    {TableNum::Locations, kCommentField, 52},
+    {TableNum::Messages, kCommentField, 52},
+    {TableNum::Objects, kCommentField, 52},
+    {TableNum::ProcessTables, kCommentField, 52},
+    {TableNum::SystemMessages, kCommentField, 52},
+    {TableNum::Vocabulary, kCommentField, 52},
+    {TableNum::Flags, kCommentField, 52},
+    {TableNum::ProcDesc, kCommentField, 52},
+    {TableNum::Characters, kCommentField, 52},
+    {TableNum::Pictures, kCommentField, 52},
 };
 static_assert(std::size(kLaterFields) > 0 && kLaterFields[std::size(kLaterFields) - 1].step == kLatestStep);
 

@@ -11,7 +11,7 @@ namespace fabula::store {
 /// The number of the latest step that changed the tables or fields of an adventure file. A file's
 /// `user_version` is that of the program that made or upgraded it; files from before these numbers were
 /// written have 1.
-inline constexpr int kLatestStep = 51;
+inline constexpr int kLatestStep = 52;
 
 /// A field that files from before a step of the upgrade chain lack. A new field takes one row here, one
 /// among the steps (upgrades/schema_steps.cpp), and its row in the default data.

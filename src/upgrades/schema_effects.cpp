@@ -7,6 +7,7 @@
 #include "condacts/convert.h"
 #include "condacts/load.h"
 #include "platform/error.h"
+#include "store/comments.h"
 #include "store/file_forms.h"
 #include "store/ifid.h"
 #include "store/schema_change.h"
@@ -57,18 +58,18 @@ text::Value InitialValue(const store::Field& field, std::string_view text) {
     return {};
 }
 
-/// Adds one field, the row that tells of it, and its value in every record.
-void AddField(Work& work, TableNum table, std::string_view name, std::string_view text) {
+/// Adds one field, the row that tells of it, and its value in every record, unless that is null.
+void AddField(Work& work, TableNum table, std::string_view name, std::optional<std::string_view> text) {
     const store::Field field = DeclaredField(work, table, name);
     store::SchemaChange(work.adventure).AddField(table, field);
-    work.FillNulls(table, field.name, InitialValue(field, text));
+    if (text) work.FillNulls(table, field.name, InitialValue(field, *text));
     AddFieldRecord(work, table, name);
     work.Forget();
 }
 
 /// Adds those fields of a step that the file has not yet; which they were.
 std::map<TableNum, std::vector<std::string_view>> AddFields(Work& work, const Step& step,
-                                                            std::string_view text) {
+                                                            std::optional<std::string_view> text) {
     std::map<TableNum, std::vector<std::string_view>> added;
     for (const store::LaterField& later : store::LaterFields()) {
         if (later.step != step.number || work.Has(later.table, {later.name})) continue;
@@ -138,6 +139,10 @@ void AddEmptyFields(Work& work, const Step& step) {
     AddFields(work, step, "");
 }
 
+void AddFieldsOfNulls(Work& work, const Step& step) {
+    AddFields(work, step, std::nullopt);
+}
+
 void AddKnownFields(Work& work, const Step& step) {
     for (const auto& [table, fields] : AddFields(work, step, " "))
         FillFromDefaults(work, table, fields);
@@ -187,6 +192,13 @@ bool HasEntryWithoutNumbers(Work& work) {
     bool found = false;
     ForEachUncompiled(work, [&](Cursor&, const std::string&) { found = true; });
     return found;
+}
+
+bool LacksComment(Work& work) {
+    return std::ranges::any_of(store::LaterFields(), [&](const store::LaterField& later) {
+        return later.name == store::kCommentField && work.HasTable(later.table) &&
+               !work.Has(later.table, {later.name});
+    });
 }
 
 void CompileEntries(Work& work, const Step&) {

@@ -12,7 +12,9 @@ namespace fabula::upgrades {
 void AddBlankFields(Work& work, const Step& step);
 /// The same with the empty text in texts.
 void AddEmptyFields(Work& work, const Step& step);
-/// The same; records that the default data has too take their values from there.
+/// Adds the step's fields, null in every record.
+void AddFieldsOfNulls(Work& work, const Step& step);
+/// As AddBlankFields; records that the default data has too take their values from there.
 void AddKnownFields(Work& work, const Step& step);
 /// Fields of `Tables`: "N" where the default data has no record for the field that they tell of.
 void AddFieldSettings(Work& work, const Step& step);
@@ -25,6 +27,8 @@ void TakeTypes(Work& work, const Step& step);
 
 bool LacksProcDescNode(Work& work);
 bool HasEntryWithoutNumbers(Work& work);
+/// Of any table that the file has.
+bool LacksComment(Work& work);
 
 void AddProcDesc(Work& work, const Step& step);
 void RecreateTree(Work& work, const Step& step);

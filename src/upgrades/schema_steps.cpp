@@ -190,6 +190,7 @@ constexpr Step kSteps[] = {
      nullptr,
      AddFieldSettings},
     {51, "51 - Add of IFID to System table", {TableNum::System, "Ifid"}, nullptr, AddIfid},
+    {52, "52 - Add of Comment to Tables of Records", {}, LacksComment, AddFieldsOfNulls},
 };
 
 }  // namespace

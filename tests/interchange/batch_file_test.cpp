@@ -65,6 +65,23 @@ TEST_F(BatchFile, WritesOneLineFieldsAndTextsAsTheTableSays) {
               "/MSG\nMessage=0\nText=\nA cellar.\nIt is damp.\nENDDESC\nENDRECORD\n/END\n");
 }
 
+TEST_F(BatchFile, HasACommentWhereThereIsOne) {
+    SetText(0, "A cellar.");
+    SetText(1, "A hall.");
+    store::Cursor& message = adventure_->OpenTable(TableNum::Messages, "def", "msgnum=1");
+    message.SetField("comment", std::string("First.\u008CThen."));
+    message.Update();
+    const std::string file = Written(TableNum::Messages);
+    EXPECT_EQ(file,
+              "/MSG\nMessage=0\nText=\nA cellar.\nENDDESC\nENDRECORD\n"
+              "Message=1\nText=\nA hall.\nENDDESC\nComment=\nFirst.\nThen.\nENDCOMMENT\n"
+              "ENDRECORD\n/END\n");
+    const auto records = Read(file);
+    ASSERT_EQ(records.size(), 2u);
+    EXPECT_EQ(records[1].entries.back().value, "First.\nThen.");
+    EXPECT_THAT(faults_, ElementsAre());
+}
+
 TEST_F(BatchFile, AnEmptyMultiLineFieldWritesItsNameLineAndDirectlyTheEndMarker) {
     SetText(0, " ");
     EXPECT_EQ(Written(TableNum::Messages), "/MSG\nMessage=0\nText=\nENDDESC\nENDRECORD\n/END\n");

@@ -65,6 +65,21 @@ TEST(ExportFabula, WritesLineEndsAsATag) {
     EXPECT_TRUE(Has(Written(*adventure, "fabula"), "2|msgmsg|a<CR>b\r\n"));
 }
 
+TEST(ExportFabula, HasALineForACommentOnlyWhereThereIsOne) {
+    const test::OpenedAdventure adventure;
+    SetMessage(*adventure, 3, "Hello.");
+    SetMessage(*adventure, 4, "Bye.");
+    Cursor& message = adventure->OpenTable(TableNum::Messages, "def", "msgnum=4");
+    message.SetField("comment", std::string("When\u008C"
+                                            "he leaves"));
+    message.Update();
+    const std::string file = Written(*adventure, "fabula");
+    EXPECT_TRUE(Has(file,
+                    "2|msgnum|3\r\n2|msgmsg|Hello.\r\n"
+                    "2|msgnum|4\r\n2|comment|When<CR>he leaves\r\n2|msgmsg|Bye.\r\n"));
+    EXPECT_EQ(file.find("comment|"), file.rfind("comment|"));
+}
+
 TEST(ExportFabula, WritesNullAsAnEmptyValue) {
     const test::OpenedAdventure adventure;
     Cursor& messages = adventure->OpenTable(TableNum::Messages, "def");

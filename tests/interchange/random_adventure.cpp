@@ -43,6 +43,7 @@ class Filler {
         AddEntries();
         ChangeFlags();
         AddPictures();
+        AddComments();
         ChangeSettings();
         transaction.Commit();
     }
@@ -283,6 +284,22 @@ class Filler {
         settings.Update();
     }
 
+    void AddComments() {
+        for (const TableNum table :
+             {TableNum::Locations, TableNum::Messages, TableNum::Objects, TableNum::ProcessTables,
+              TableNum::SystemMessages, TableNum::Vocabulary, TableNum::Flags, TableNum::ProcDesc}) {
+            const bool isWords = table == TableNum::Vocabulary;
+            Cursor& records = adventure_.OpenTable(table, "def", isWords ? "voctypen<7" : "");
+            for (; !records.Eof(); records.MoveNext()) {
+                if (Below(4) != 0) continue;
+                const std::string comment = RandomText();
+                if (comment.empty()) continue;
+                records.SetField("comment", comment);
+                records.Update();
+            }
+        }
+    }
+
     Adventure& adventure_;
     std::mt19937 random_;
     int letters_;
@@ -337,19 +354,21 @@ std::vector<std::string> ExportedFields(Adventure& adventure) {
 std::vector<std::string> SourceContents(Adventure& adventure) {
     std::vector<std::string> lines;
     AddRecords(adventure, TableNum::Vocabulary, "voctypen, vocnum, word",
-               {"word", "vocnum", "voctypen", "voctype"}, "voctypen<7", lines);
-    AddRecords(adventure, TableNum::SystemMessages, "smsgnum", {"smsgnum", "smsgmsg"}, "smsgnum>=0", lines);
-    AddRecords(adventure, TableNum::Messages, "msgnum", {"msgnum", "msgmsg"}, "msgnum>=0", lines);
+               {"word", "vocnum", "voctypen", "voctype", "comment"}, "voctypen<7", lines);
+    AddRecords(adventure, TableNum::SystemMessages, "smsgnum", {"smsgnum", "smsgmsg", "comment"},
+               "smsgnum>=0", lines);
+    AddRecords(adventure, TableNum::Messages, "msgnum", {"msgnum", "msgmsg", "comment"}, "msgnum>=0",
+               lines);
     AddRecords(adventure, TableNum::Locations, "locnum",
-               {"locnum", "locdesc", "exits", "numericexits", "numexits"}, "locnum>=0", lines);
+               {"locnum", "locdesc", "exits", "numericexits", "numexits", "comment"}, "locnum>=0", lines);
     AddRecords(adventure, TableNum::Objects, "objnum",
                {"objnum", "objdesc", "objnoun", "objnumnoun", "objadject", "objnumadject", "objloc",
-                "objweight", "objattr", "objattrn"},
+                "objweight", "objattr", "objattrn", "comment"},
                "objnum>=0", lines);
     AddRecords(adventure, TableNum::ProcessTables, "estype, canum",
-               {"estype", "w1", "w2", "w1num", "w2num", "numcas", "condacts", "numericcondacts"},
+               {"estype", "w1", "w2", "w1num", "w2num", "numcas", "condacts", "numericcondacts", "comment"},
                "canum>=0", lines);
-    AddRecords(adventure, TableNum::ProcDesc, "pmsgnum", {"pmsgnum"}, "pmsgnum>=0", lines);
+    AddRecords(adventure, TableNum::ProcDesc, "pmsgnum", {"pmsgnum", "comment"}, "pmsgnum>=0", lines);
     return lines;
 }
 

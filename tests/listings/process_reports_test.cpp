@@ -56,6 +56,17 @@ TEST_F(ProcessReports, EntryHasOneLineForEachConditionAndAction) {
                              std::string(kIndent) + "SWAP    3      4\n" + kIndent + "DONE\n");
 }
 
+TEST_F(ProcessReports, CommentsStandInFrontOfEntriesInTheVerboseForm) {
+    Entry(0, "DESC DONE");
+    store::Cursor& entry = adventure_->OpenTable(TableNum::ProcessTables, "def");
+    entry.SetField("comment", std::string("First.\u008CThen."));
+    entry.Update();
+    EXPECT_EQ(Entries().find("First"), std::string::npos);
+    EXPECT_TRUE(Entries({.detail = Detail::Verbose})
+                    .starts_with("Comment: First.\n         Then.\nGET                            LAMP"))
+        << Entries({.detail = Detail::Verbose});
+}
+
 TEST_F(ProcessReports, ContinuationLinesStartInColumn62) {
     Entry(0, "DESC DONE");
     EXPECT_EQ(Behind(Entries(), "DESC").find("DONE"), 62u);

@@ -34,6 +34,38 @@ std::string TextOf(store::Adventure& game, int message) {
         game.OpenTable(TableNum::Messages, "def", "msgnum=" + std::to_string(message)).Text("msgmsg"));
 }
 
+void SetComment(store::Adventure& game, TableNum table, const std::string& where,
+                const std::string& comment) {
+    store::Cursor& record = game.OpenTable(table, "def", where);
+    record.SetField("comment", comment);
+    record.Update();
+}
+
+TEST(FindEverywhere, LooksThroughComments) {
+    OpenedAdventure game;
+    test::PutMessage(*game, 900, "A lamp.");
+    test::PutEntry(*game, 1, 0, 255, 255, "MESSAGE 900");
+    SetComment(*game, TableNum::Messages, "msgnum=900", "Until <b the lamp is lit");
+    SetComment(*game, TableNum::ProcessTables, "canum=1", "Lamps only");
+    EXPECT_EQ(Find(*game, {.text = "lamp"}, {"comments"}),
+              "comments 900: Until <b the lamp is lit\ncomments 1: Lamps only\n");
+}
+
+TEST(ReplaceHits, TakesAnyTextInCommentsAndLeavesNoneWhereNothingIsLeft) {
+    OpenedAdventure game;
+    test::PutEntry(*game, 1, 0, 255, 255, "MESSAGE 900");
+    test::PutEntry(*game, 2, 0, 255, 255, "MESSAGE 900");
+    SetComment(*game, TableNum::ProcessTables, "canum=1", "lamp");
+    SetComment(*game, TableNum::ProcessTables, "canum=2", "a lamp");
+    const auto replaced = [&](const Wanted& wanted) {
+        return ReplaceHits(*game, FindEverywhere(*game, wanted, {"comments"}, true)).records;
+    };
+    EXPECT_EQ(replaced({.text = "lamp", .replacement = "<not a tag>"}), 2);
+    EXPECT_EQ(game->OpenTable(TableNum::ProcessTables, "def", "canum=2").Text("comment"), "a <not a tag>");
+    EXPECT_EQ(replaced({.text = "<not a tag>", .replacement = ""}), 2);
+    EXPECT_TRUE(game->OpenTable(TableNum::ProcessTables, "def", "canum=1").IsNull("comment"));
+}
+
 TEST(FindEverywhere, LooksThroughTextsAndRules) {
     OpenedAdventure game;
     test::PutMessage(*game, 900, "A brass lamp and a Lamp.");

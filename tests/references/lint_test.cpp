@@ -264,6 +264,40 @@ TEST(Lint, AnAdventureCanKeepItsSwitches) {
     EXPECT_TRUE(StoredSwitches(*game).rules.contains("gap"));
 }
 
+LintSwitches Switches(std::initializer_list<const char*> lines) {
+    LintSwitches switches;
+    for (const char* line : lines)
+        EXPECT_TRUE(switches.Add(line)) << line;
+    return switches;
+}
+
+TEST(Lint, SwitchesCanBeKeptAndTakenBack) {
+    const auto game = test::Lighthouse();
+    SwitchOff(*game, Switches({"gap", "message-unused 7 40"}));
+    SwitchOff(*game, Switches({"message-unused 40 41"}));
+    EXPECT_EQ(StoredSwitches(*game).Lines(), (std::vector<std::string>{"gap", "message-unused 7 40 41"}));
+    EXPECT_EQ(game->OpenTable(TableNum::Header, "def", "hdrkey='lint off'").RecordCount(), 3)
+        << "what is off already is not kept twice";
+    SwitchOn(*game, Switches({"message-unused 7"}));
+    EXPECT_EQ(StoredSwitches(*game).Lines(), (std::vector<std::string>{"gap", "message-unused 40 41"}));
+    SwitchOn(*game, Switches({"message-unused", "gap"}));
+    EXPECT_EQ(StoredSwitches(*game).Lines(), (std::vector<std::string>{}));
+    EXPECT_GT(game->OpenTable(TableNum::Header, "def").RecordCount(), 0) << "other records stay";
+}
+
+TEST(Lint, ManyRecordsThatAreSwitchedOffStandOnSeveralLines) {
+    LintSwitches switches;
+    for (int record = 100; record < 400; ++record)
+        switches.records.insert({"message-unused", record});
+    LintSwitches again;
+    for (const std::string& line : switches.Lines()) {
+        EXPECT_LE(line.size(), 255U);
+        again.Add(line);
+    }
+    EXPECT_EQ(again.records, switches.records);
+    EXPECT_TRUE(again.rules.empty());
+}
+
 TEST(Lint, AnEntryBehindOneThatMayChangeTheGameIsNotCalledDead) {
     const auto game = test::Lighthouse();
     Entry(*game, "ZERO 200 DONE", "113 200 265", 9, 5000);

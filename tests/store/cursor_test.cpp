@@ -120,9 +120,10 @@ TEST_F(CursorTest, ColumnsReadByTheirPlaceInTheFieldList) {
 
 TEST_F(CursorTest, AStarNeverShowsTheStoresOwnKey) {
     const Cursor& messages = Messages();
-    ASSERT_EQ(messages.Fields().size(), 2u);
+    ASSERT_EQ(messages.Fields().size(), 3u);
     EXPECT_EQ(messages.Fields()[0].name, "msgnum");
     EXPECT_EQ(messages.Fields()[1].name, "msgmsg");
+    EXPECT_EQ(messages.Fields()[2].name, "comment");
 }
 
 TEST_F(CursorTest, FindMovesToTheFirstMatchBehindTheCurrentRecord) {

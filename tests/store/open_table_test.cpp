@@ -196,7 +196,7 @@ TEST_F(OpenTable, AFreeCursorWithoutAnOrderReadsInOrderOfCreation) {
 }
 
 TEST_F(OpenTable, AFreeCursorTakesDefForAllFields) {
-    EXPECT_EQ(adventure_->OpenTable(TableNum::Free22, "def from messages").Fields().size(), 2u);
+    EXPECT_EQ(adventure_->OpenTable(TableNum::Free22, "def from messages").Fields().size(), 3u);
 }
 
 TEST_F(OpenTable, AFreeCursorOnNoTableIsAnError) {

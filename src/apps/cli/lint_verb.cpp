@@ -26,6 +26,8 @@ struct Options {
     std::string file;
     std::string kind;
     std::vector<std::string> off;
+    std::vector<std::string> on;
+    bool keep = false;
     bool json = false;
     bool rules = false;
 };
@@ -41,9 +43,9 @@ bool IsAdventure(const std::string& file) {
     return text::EqualsNoCase(std::filesystem::path(file).extension().string(), ".fbd");
 }
 
-references::LintSwitches SwitchesOf(const Options& options) {
+references::LintSwitches SwitchesOf(const std::vector<std::string>& lines) {
     references::LintSwitches switches;
-    for (const std::string& line : options.off) {
+    for (const std::string& line : lines) {
         if (!switches.Add(line)) throw UsageError("there is no finding '" + line + "'; --rules shows them");
     }
     return switches;
@@ -57,17 +59,36 @@ void AddSwitchesOfSource(const std::string& source, references::LintSwitches& sw
     }
 }
 
+/// Writes the switches of the command into the adventure.
+void Keep(const Options& options) {
+    const references::LintSwitches off = SwitchesOf(options.off);
+    const references::LintSwitches on = SwitchesOf(options.on);
+    const auto adventure = OpenToChange(options.file);
+    store::Transaction transaction(*adventure);
+    references::SwitchOff(*adventure, off);
+    references::SwitchOn(*adventure, on);
+    transaction.Commit();
+}
+
+std::vector<Finding> LintAdventure(const Options& options) {
+    if (options.keep) Keep(options);
+    const auto adventure = OpenToRead(options.file);
+    references::LintSwitches switches = references::StoredSwitches(*adventure);
+    switches.rules.merge(SwitchesOf(options.off).rules);
+    switches.records.merge(SwitchesOf(options.off).records);
+    switches.Remove(SwitchesOf(options.on));
+    return references::Lint(*adventure, switches);
+}
+
 Result LintFile(const Options& options) {
-    references::LintSwitches switches = SwitchesOf(options);
     Result result;
     if (IsAdventure(options.file) && options.kind.empty()) {
-        const auto adventure = OpenToRead(options.file);
-        const references::LintSwitches stored = references::StoredSwitches(*adventure);
-        switches.rules.insert(stored.rules.begin(), stored.rules.end());
-        switches.records.insert(stored.records.begin(), stored.records.end());
-        result.findings = references::Lint(*adventure, switches);
+        result.findings = LintAdventure(options);
         return result;
     }
+    if (options.keep)
+        throw UsageError("only an adventure keeps switches; a source has them in its comments");
+    references::LintSwitches switches = SwitchesOf(options.off);
     const ScratchFolder folder;
     const std::filesystem::path file = folder.Path() / "lint.fbd";
     std::ostream quiet(nullptr);
@@ -78,6 +99,7 @@ Result LintFile(const Options& options) {
         std::cerr << text::SafeLines(fault.Line()) << "\n";
     if (!imported.done) throw Error("Could not read " + options.file + ".");
     AddSwitchesOfSource(options.file, switches);
+    switches.Remove(SwitchesOf(options.on));
     const auto adventure = OpenToRead(file.string());
     result.findings = references::Lint(*adventure, switches);
     result.places = std::move(imported.places);
@@ -148,14 +170,17 @@ void AddLintVerb(CLI::App& app, Chosen& chosen) {
         "lint", "Tells what a game has that can't be meant: unused, unreachable, contradictory, missing");
     verb->footer(
         "A finding is told with its code. A source switches findings off by a comment with the words\n"
-        "'lint off CODE', which may be followed by numbers of records and a reason. The status is 1 when\n"
-        "anything was found.");
+        "'lint off CODE', which may be followed by numbers of records and a reason. An adventure keeps "
+        "what\n"
+        "--off says with --keep, until --on takes it back. The status is 1 when anything was found.");
     verb->add_option("file", options->file, "The adventure, FILE.fbd, or a source");
     verb->add_option("--kind", options->kind,
                      "What the source is, where its name doesn't tell: " + ReadableKinds());
     verb->add_option(
         "--off", options->off,
         "A code that is not to be told; with numbers behind it for these records: \"gap 4 7\"");
+    verb->add_option("--on", options->on, "A code that is told although the file switches it off");
+    verb->add_flag("--keep", options->keep, "Write what --off and --on say into the adventure");
     verb->add_flag("--rules", options->rules, "Show all codes and what they mean");
     verb->add_flag("--json", options->json, "As a JSON array");
     Runs(*verb, chosen, options, Lint);

@@ -2,10 +2,12 @@
 #include <optional>
 
 #include "authoring/batch/batch_work.h"
+#include "authoring/fields/record_comment.h"
 #include "condacts/limits.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"
 #include "pictures/drawstring_check.h"
+#include "store/comments.h"
 #include "store/game_path.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -106,6 +108,8 @@ bool StorePicture(BatchWork& work, const BatchChange& change) {
         record.CancelUpdate();
         return false;
     }
+    if (const auto comment = change.Text(store::kCommentField))
+        record.SetField(store::kCommentField, RecordComment::ValueOf(*comment));
     record.Update();
     step.Commit();
     return true;

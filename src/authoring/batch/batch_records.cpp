@@ -10,6 +10,7 @@
 #include "condacts/places.h"
 #include "condacts/word_filters.h"
 #include "condacts/words.h"
+#include "store/comments.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -25,6 +26,10 @@ constexpr std::string_view kEmptyRecord = "The new record holds nothing.";
 
 void Put(std::optional<std::string> typed, std::string& field) {
     if (typed) field = std::move(*typed);
+}
+
+void PutComment(const BatchChange& change, RecordComment& comment) {
+    Put(change.Text(store::kCommentField), comment.text);
 }
 
 std::string Quoted(std::string_view text) {
@@ -112,6 +117,7 @@ bool StoreLocation(BatchWork& work, const BatchChange& change) {
     Put(change.Text("locdesc"), screen.description);
     Put(change.Text("locshortdesc"), screen.shortDescription);
     Put(change.Text("picloc"), screen.picture);
+    PutComment(change, *screen.Comment());
     if (change.key.isNew && !screen.Changed()) return change.Refuse("", kEmptyRecord);
     if (screen.Update()) return true;
     return change.RefuseAt(work.dialogs, screen.Refused(),
@@ -129,6 +135,7 @@ bool StoreObject(BatchWork& work, const BatchChange& change) {
     ObjectScreen screen(work.context, change.key);
     Put(change.Text("objdesc"), screen.description);
     Put(change.Text("objweight"), screen.weight);
+    PutComment(change, *screen.Comment());
     if (const auto place = change.Text("objloc")) ChoosePlace(*place, screen);
     if (!CheckMarloObject(change, screen) || !ChooseAttributes(change, screen) ||
         !ChooseWord(change, "objnoun", "noun", screen.noun) ||
@@ -145,8 +152,13 @@ bool StoreObject(BatchWork& work, const BatchChange& change) {
 }
 
 bool StoreWord(BatchWork& work, const BatchChange& change) {
-    if (!change.key.isNew) return change.Refuse("vocnum", "Vocabulary cannot be edited");
     WordScreen screen(work.context, change.key);
+    if (!change.key.isNew) {
+        PutComment(change, *screen.Comment());
+        const bool isCommentAlone = screen.Changed() && change.Changed().size() == 1;
+        if (!isCommentAlone) return change.Refuse("vocnum", "Vocabulary cannot be edited");
+        return screen.Update();
+    }
     const auto type = TypeNamed(text::TrimBlanks(change.Text("voctype").value_or("")));
     if (!type) return change.Refuse("voctype", "No value set for word type");
     if (!screen.ChoosesType() && type != screen.type)
@@ -154,6 +166,7 @@ bool StoreWord(BatchWork& work, const BatchChange& change) {
     screen.ClickType(*type);
     Put(change.Text("word"), screen.word);
     Put(change.Text("vocnum"), screen.number);
+    PutComment(change, *screen.Comment());
     if (screen.Update()) return true;
     return change.RefuseAt(work.dialogs, screen.Refused(),
                            {{"word", "word"}, {"number", "vocnum"}, {"type", "voctype"}});
@@ -163,6 +176,7 @@ bool StoreFlag(BatchWork& work, const BatchChange& change) {
     FlagScreen screen(work.context, change.key);
     if (const auto use = change.Text("flguse")) screen.use.ChooseText(std::string(text::TrimBlanks(*use)));
     Put(change.Text("flgdesc"), screen.description);
+    PutComment(change, *screen.Comment());
     if (screen.Update()) return true;
     return change.RefuseAt(work.dialogs, screen.Refused(), {{"use", "flguse"}, {"description", "flgdesc"}});
 }
@@ -173,7 +187,8 @@ bool StoreMessage(BatchWork& work, const BatchChange& change) {
                                    : table == TableNum::SystemMessages ? "smsgmsg"
                                                                        : "pmsgmsg";
     MessageScreen screen(work.context, change.key);
-    screen.TypeMessage(change.Text(field).value_or(""));
+    if (change.key.isNew || change.Has(field)) screen.TypeMessage(change.Text(field).value_or(""));
+    PutComment(change, screen.Comment());
     return screen.Update() || change.RefuseAt(work.dialogs, "text", {{"text", field}});
 }
 
@@ -185,6 +200,7 @@ bool StoreProcessEntry(BatchWork& work, const BatchChange& change) {
         {.screen = Screen::ProcessEntry, .key = change.key, .table = TableNum::ProcessTables});
     Put(change.Text("estype"), screen.process);
     Put(change.Words("condacts"), screen.line);
+    PutComment(change, *screen.Comment());
     if (!ChooseEntryWord(work, change, "w1", condacts::kVerb, screen.verb) ||
         !ChooseEntryWord(work, change, "w2", condacts::kNoun, screen.noun))
         return false;

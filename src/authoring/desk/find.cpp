@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "authoring/document/screen_context.h"
+#include "store/comments.h"
 #include "store/filter.h"
 #include "text/utf8.h"
 
@@ -64,7 +65,8 @@ void FindBox::SetUpFindComboBox(store::Adventure& adventure, TableNum table) {
         const auto column = schema.Find(name);
         if (!column || (rows.Text("search") != "Y" && !isProcess)) continue;
         const store::FieldType type = schema.fields[*column].type;
-        if (type == store::FieldType::LongVarWChar) longText = fields_.size();
+        const bool isComment = text::EqualsNoCase(name, store::kCommentField);
+        if (type == store::FieldType::LongVarWChar && !isComment) longText = fields_.size();
         if (name == before) chosen_ = fields_.size();
         const std::string_view other = rows.Text("altname");
         fields_.push_back({name, other.empty() ? name : std::string(other), IsNumber(type)});

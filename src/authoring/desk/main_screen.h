@@ -202,6 +202,10 @@ class MainScreen {
     bool NamesShown() const { return namesShown_; }
     void ShowNames(bool shown);
 
+    /// Whether tables show the author's comments as a column.
+    bool CommentsShown() const { return commentsShown_; }
+    void ShowComments(bool shown);
+
     /// How the rows of the process table in view are grouped. Each view keeps its own.
     Grouping RowGrouping() const { return grouping_; }
     void GroupRows(Grouping grouping);
@@ -300,6 +304,7 @@ class MainScreen {
     int changesBefore_ = 0;  ///< how many changes there were before the latest command
     bool running_ = false;
     bool namesShown_ = false;
+    bool commentsShown_ = false;
     std::optional<bool> charSetsLoaded_;  ///< by an adventure of this sitting; nullopt: there was none yet
     bool mustExit_ = false;
 };

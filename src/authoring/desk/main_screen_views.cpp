@@ -49,7 +49,7 @@ void MainScreen::SetupGrid(TableView view) {
     FindBox find = find_;
     find.SetUpFindComboBox(adventure, view.table);
     const PlaceInView kept = view == grid_.View() ? PlaceHere() : KeptPlaceOf(view);
-    grid_.SetupGrid(adventure, view, maintenance_, UsesIn(view.table));
+    grid_.SetupGrid(adventure, view, maintenance_, commentsShown_, UsesIn(view.table));
     rights_ = rights;
     find_ = std::move(find);
     grouping_ = kept.grouping;
@@ -161,6 +161,16 @@ void MainScreen::PutNames() {
 void MainScreen::ShowNames(bool shown) {
     namesShown_ = shown;
     Refresh();
+}
+
+void MainScreen::ShowComments(bool shown) {
+    commentsShown_ = shown;
+    if (!desk_ || running_) return;
+    Guard([&] {
+        KeepPlace();
+        SetupGrid(grid_.View());
+        GoToKeptPlace();
+    });
 }
 
 std::optional<ScreenRequest> MainScreen::RecordBeside() {

@@ -16,6 +16,11 @@ namespace {
 
 using store::TableNum;
 
+/// The values of `see` that make a field a column, by what the author wants to see.
+constexpr int kSeenAlways = 0;
+constexpr int kSeenInMaintenance = 2;
+constexpr int kSeenWithComments = 3;
+
 constexpr std::string_view kLineEndSign = "\u21B5";
 constexpr std::string_view kHardSpaceSign = "\u2423";
 constexpr std::string_view kCondActsField = "condacts";
@@ -84,11 +89,12 @@ bool LessValue(const text::Value& left, const text::Value& right) {
 
 }  // namespace
 
-void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance, UseCounter uses) {
+void TableGrid::SetupGrid(store::Adventure& adventure, TableView view, bool maintenance, bool comments,
+                          UseCounter uses) {
     TableGrid grid;
     grid.view_ = view;
     grid.uses_ = std::move(uses);
-    grid.ReadColumns(adventure, maintenance);
+    grid.ReadColumns(adventure, maintenance, comments);
     grid.ReadRecords(adventure);
     *this = std::move(grid);
 }
@@ -101,7 +107,7 @@ void TableGrid::Clear() {
     *this = TableGrid();
 }
 
-void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
+void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance, bool comments) {
     const store::TableSchema& schema = adventure.Schema(view_.table);
     std::vector<std::string> others;
     store::Cursor& rows =
@@ -112,8 +118,8 @@ void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance) {
         const auto place = schema.Find(field);
         if (!place || IsHidden(field, adventure)) continue;
         const auto see = rows.Number("see");
-        const bool shown = see == 0 && (maintenance || !IsSameInAll(field, view_));
-        if (shown || (maintenance && see == 2)) {
+        const bool shown = see == kSeenAlways && (maintenance || !IsSameInAll(field, view_));
+        if (shown || (maintenance && see == kSeenInMaintenance) || (comments && see == kSeenWithComments)) {
             const std::string_view other = rows.Text("altname");
             columns_.push_back({field,
                                 other.empty() ? field : std::string(text::Left(other, kLongestTitle)),

@@ -44,10 +44,11 @@ using UseCounter = std::function<std::vector<int>(store::TableNum table, const s
 /// table can stand in groups, each below a heading; the lines tell what stands where.
 class TableGrid {
   public:
-    /// Shows the records of a view, without filter, in the view's own order. With `uses` there is a column
-    /// that counts them. Throws fabula::Error when the file can't be read; what was shown before is then
-    /// still shown.
-    void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance, UseCounter uses = {});
+    /// Shows the records of a view, without filter, in the view's own order; with `maintenance` the fields
+    /// of the program, with `comments` the author's comments too, with `uses` a column that counts them.
+    /// Throws fabula::Error when the file can't be read; what was shown before is then still shown.
+    void SetupGrid(store::Adventure& adventure, TableView view, bool maintenance, bool comments = false,
+                   UseCounter uses = {});
     /// Reads the records again; columns, filter and order stay.
     void Refresh(store::Adventure& adventure);
     /// Shows nothing.
@@ -110,7 +111,7 @@ class TableGrid {
     static constexpr std::size_t kLongestTip = 4000;
 
   private:
-    void ReadColumns(store::Adventure& adventure, bool maintenance);
+    void ReadColumns(store::Adventure& adventure, bool maintenance, bool comments);
     void ReadRecords(store::Adventure& adventure);
     void CountUses();
     void NoteGroups();

@@ -158,11 +158,11 @@ std::vector<Glyph> CharacterEditor::Sample(std::string_view line) const {
     return glyphs;
 }
 
-bool CharacterEditor::Update() {
+bool CharacterEditor::UpdateFields() {
     if (!changed_) return true;
     ReDraw();
     authoring::Change change(context_.document, ChangeName());
-    store::Cursor& record = OpenRecord();
+    store::Cursor& record = RecordToStore();
     record.SetField("charvals", CharVals());
     record.Update();
     change.Commit();

@@ -46,7 +46,6 @@ class CharacterEditor final : public RecordScreen {
     const pictures::Glyph& Drawn() const { return drawn_; }
     /// The `charvals` of the character that was drawn last.
     std::string CharVals() const { return pictures::FormatCharVals(drawn_); }
-    bool Changed() const override { return changed_; }
 
     /// A click on a square toggles it; the samples wait for a ReDraw.
     void Click(int square);
@@ -75,7 +74,9 @@ class CharacterEditor final : public RecordScreen {
     /// blank.
     std::vector<pictures::Glyph> Sample(std::string_view line) const;
 
-    bool Update();
+  protected:
+    bool FieldsChanged() const override { return changed_; }
+    bool UpdateFields() override;
 
   private:
     struct State {

@@ -59,7 +59,7 @@ std::vector<std::string> PictureEditor::Typed() const {
             roomNumber, saveAsRoomPicture ? "room" : ""};
 }
 
-bool PictureEditor::Changed() const {
+bool PictureEditor::FieldsChanged() const {
     return image_ || Typed() != opened_;
 }
 

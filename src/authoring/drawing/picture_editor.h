@@ -53,9 +53,6 @@ class PictureEditor final : public RecordScreen {
     std::string roomNumber;
     std::string fileName;  ///< of the bitmap, relative to the game's folder; "" for none
 
-    /// The text, its colours, or what is to be saved of it.
-    bool Changed() const override;
-
     /// The picture's number and what it is: "12: Location The hall".
     const std::string& LocationLine() const { return locationLine_; }
     /// Attributes, cursor, defaults and the next command, in lines.
@@ -133,13 +130,17 @@ class PictureEditor final : public RecordScreen {
     /// Asks for the bitmap's file.
     bool Browse();
     bool LeaveRoomNumber();
-    /// Checks everything, stores the drawstring, and saves the bitmap when it has a name.
-    bool Update();
 
     /// Takes an image for the picture: as a drawstring that draws it, or as the bitmap that Update saves.
     void TakeImage(const pictures::CellImage& image, bool asDrawstring);
     /// The image that Update saves in place of what is drawn; nullopt for none.
     const std::optional<pictures::CellImage>& TakenImage() const { return image_; }
+
+  protected:
+    /// The text, its colours, or what is to be saved of it.
+    bool FieldsChanged() const override;
+    /// Checks everything, stores the drawstring, and saves the bitmap when it has a name.
+    bool UpdateFields() override;
 
   private:
     /// All that an operation may change besides the words.

@@ -56,7 +56,7 @@ bool PictureEditor::LeaveRoomNumber() {
     return known || RefuseField("RoomNumber", typed + " is not a valid room number");
 }
 
-bool PictureEditor::Update() {
+bool PictureEditor::UpdateFields() {
     if (!LeaveCommandLine() || !LeaveDrawstring() || !LeaveRoomNumber()) return false;
     const bool good = PictureIsGood();
     if (!good) {

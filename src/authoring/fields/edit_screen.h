@@ -6,6 +6,8 @@
 
 namespace fabula::authoring {
 
+class RecordComment;
+
 /// What the screens that edit something have in common: a check for each field that is left, which tells
 /// what is wrong with it and remembers which control that was.
 class EditScreen {
@@ -21,6 +23,9 @@ class EditScreen {
 
     /// Whether something differs from what the screen opened with.
     virtual bool Changed() const = 0;
+
+    /// The comment that the screen's record may have; nullptr where it has no record.
+    virtual RecordComment* Comment() { return nullptr; }
 
     store::Adventure& Adventure() const { return context_.document.Adventure(); }
 

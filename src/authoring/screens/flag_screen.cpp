@@ -48,7 +48,7 @@ std::vector<std::string> FlagScreen::Typed() const {
     return {std::to_string(type.index), std::to_string(use.index), description};
 }
 
-bool FlagScreen::Update() {
+bool FlagScreen::UpdateFields() {
     if (!Changed()) return true;
     if (!LeaveType() || !LeaveUse() || !LeaveDescription()) return false;
     Change change(context_.document, ChangeName());

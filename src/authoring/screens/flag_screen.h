@@ -21,10 +21,9 @@ class FlagScreen final : public RecordScreen {
     bool LeaveUse();
     bool LeaveDescription();
 
-    bool Changed() const override { return Typed() != opened_; }
-
-    /// True when the screen can close: what was changed is stored.
-    bool Update();
+  protected:
+    bool FieldsChanged() const override { return Typed() != opened_; }
+    bool UpdateFields() override;
 
   private:
     std::vector<std::string> Typed() const;

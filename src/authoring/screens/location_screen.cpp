@@ -383,7 +383,7 @@ std::vector<std::string> LocationScreen::Typed() const {
     return {description, shortDescription, exits, picture};
 }
 
-bool LocationScreen::Update() {
+bool LocationScreen::UpdateFields() {
     if (!Changed()) return true;
     if (!LeaveDescription() || !LeaveShortDescription() || !LeaveExits()) return false;
     if (HasPendingExit() && !Add()) return false;

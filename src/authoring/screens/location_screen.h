@@ -68,13 +68,13 @@ class LocationScreen final : public RecordScreen {
     std::optional<NamedRecord> NamedWordOf(std::string_view word) const;
     std::optional<NamedRecord> NamedInExits(std::size_t cursor) const;
 
-    bool Changed() const override { return Typed() != opened_ || HasPendingExit(); }
-
-    /// True when the screen can close: what was changed is stored, an exit that was not added yet too.
-    bool Update();
-
     static constexpr std::string_view kPictureTitle = "Load Room Picture";
     static constexpr std::size_t kLongestShortDesc = 255;
+
+  protected:
+    bool FieldsChanged() const override { return Typed() != opened_ || HasPendingExit(); }
+    /// True when the screen can close: what was changed is stored, an exit that was not added yet too.
+    bool UpdateFields() override;
 
   private:
     struct Exit {

@@ -43,7 +43,10 @@ const MessageScreen::Personality& MessageScreen::PersonalityOf(TableNum table) {
 }
 
 MessageScreen::MessageScreen(ScreenContext& context, ScreenKey key)
-    : context_(context), personality_(PersonalityOf(context.currentTable)), key_(key) {
+    : context_(context),
+      personality_(PersonalityOf(context.currentTable)),
+      key_(key),
+      comment_(Adventure(), personality_.table, key) {
     Read();
 }
 
@@ -78,6 +81,7 @@ void MessageScreen::Read() {
     const store::Cursor& record = OpenRecord();
     text_ = record.Eof() ? std::string() : ToEdited(record.Text(personality_.text));
     changed_ = false;
+    comment_ = RecordComment(Adventure(), personality_.table, key_);
 }
 
 void MessageScreen::TypeMessage(std::string text) {
@@ -113,11 +117,13 @@ void MessageScreen::Store() {
         record.AddNew();
         record.SetField(personality_.key, std::int64_t{key_.key});
     }
-    record.SetField(personality_.text, ToStored(text_));
+    if (changed_ || key_.isNew) record.SetField(personality_.text, ToStored(text_));
+    comment_.Put(record);
     record.Update();
     change.Commit();
     key_.isNew = false;
     changed_ = false;
+    comment_.Stored();
 }
 
 bool MessageScreen::Step(int step) {
@@ -129,7 +135,7 @@ bool MessageScreen::Step(int step) {
     const int number = static_cast<int>(neighbour.Number(0));
     neighbour.Reset();
     if (!LeaveText()) return false;
-    if (changed_) Store();
+    if (Changed()) Store();
     key_ = {number, false};
     context_.currentEntry = number;
     Read();
@@ -137,8 +143,8 @@ bool MessageScreen::Step(int step) {
 }
 
 bool MessageScreen::Update() {
-    if (!changed_) return true;
-    if (!LeaveText()) return false;
+    if (!Changed()) return true;
+    if (changed_ && !LeaveText()) return false;
     Store();
     return true;
 }

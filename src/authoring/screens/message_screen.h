@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "authoring/document/screen_context.h"
+#include "authoring/fields/record_comment.h"
 
 namespace fabula::authoring {
 
@@ -27,7 +28,9 @@ class MessageScreen {
     /// The text, with "\n" for line ends. Typing sets Changed, even if the text is then as it was.
     const std::string& Text() const { return text_; }
     void TypeMessage(std::string text);
-    bool Changed() const { return changed_; }
+    bool Changed() const { return changed_ || comment_.Changed(); }
+
+    RecordComment& Comment() { return comment_; }
 
     /// False when the text is refused; the author has been told why.
     bool LeaveText();
@@ -55,6 +58,7 @@ class MessageScreen {
     ScreenKey key_;
     std::string text_;
     bool changed_ = false;
+    RecordComment comment_;
 };
 
 }  // namespace fabula::authoring

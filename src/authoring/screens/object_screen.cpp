@@ -282,7 +282,7 @@ void ObjectScreen::StoreInside() {
              "Inside " + BriefText(description, "object " + std::to_string(Key().key)));
 }
 
-bool ObjectScreen::Update() {
+bool ObjectScreen::UpdateFields() {
     if (!Changed()) return true;
     if (!LeaveDescription() || !LeaveInitialPlace() || !LeaveRoom()) return false;
     if (HasAttributes() && (!CheckContainer() || !LeaveWeight())) return false;

@@ -46,12 +46,11 @@ class ObjectScreen final : public RecordScreen {
     std::string Inside() const;
     bool LeaveWeight();
 
-    bool Changed() const override { return Typed() != opened_; }
-
-    /// True when the screen can close: what was changed is stored.
-    bool Update();
-
     static constexpr int kHeaviest = condacts::limit::kHeaviestObject;
+
+  protected:
+    bool FieldsChanged() const override { return Typed() != opened_; }
+    bool UpdateFields() override;
 
   private:
     void ReadRecord();

@@ -267,7 +267,7 @@ std::vector<std::string> ProcessEntryScreen::Typed() const {
             std::string(text::TrimBlanks(parameter2.text))};
 }
 
-bool ProcessEntryScreen::Update() {
+bool ProcessEntryScreen::UpdateFields() {
     if (!LeaveProcess() || !LeaveCondAct() || !LeaveParameter1() || !LeaveParameter2() || !LeaveLine() ||
         !AddPending())
         return false;

@@ -56,18 +56,18 @@ class ProcessEntryScreen final : public RecordScreen {
     /// Adds what was put together to the line.
     bool Add();
 
-    /// A condition or action whose parameters are still empty was only looked at.
-    bool Changed() const override { return Typed() != opened_; }
-
-    /// True when the screen can close: the entry is stored, with what was put together and not added yet.
-    bool Update();
-
     const CondActHelp& Help() const { return help_; }
 
     static constexpr std::string_view kCaption = "Process Table Editor";
     static constexpr std::string_view kHelpLine =
         "Type your Conditions/Actions directly into the above fields and then click the Add to "
         "Conditions/Actions button. They will be checked for validity.";
+
+  protected:
+    /// A condition or action whose parameters are still empty was only looked at.
+    bool FieldsChanged() const override { return Typed() != opened_; }
+    /// True when the screen can close: the entry is stored, with what was put together and not added yet.
+    bool UpdateFields() override;
 
   private:
     struct VocabularyWord {

@@ -7,7 +7,7 @@ namespace fabula::authoring {
 
 RecordScreen::RecordScreen(ScreenContext& context, store::TableNum table, ScreenKey key,
                            std::string_view noun)
-    : EditScreen(context), table_(table), key_(key), noun_(noun) {
+    : EditScreen(context), table_(table), key_(key), noun_(noun), comment_(Adventure(), table, key) {
     if (!key_.isNew) OpenRecord();
 }
 
@@ -24,7 +24,11 @@ store::Cursor& RecordScreen::OpenRecord() const {
 }
 
 store::Cursor& RecordScreen::RecordToStore() const {
-    if (!key_.isNew) return OpenRecord();
+    if (!key_.isNew) {
+        store::Cursor& record = OpenRecord();
+        comment_.Put(record);
+        return record;
+    }
     if (HasRecord(Adventure(), table_, key_.key)) {
         throw Error("Could not add " + noun_ + " " + std::to_string(key_.key) +
                     ": another program has added it meanwhile.");
@@ -32,6 +36,7 @@ store::Cursor& RecordScreen::RecordToStore() const {
     store::Cursor& record = Adventure().OpenTable(table_, "def", Criterion());
     record.AddNew();
     record.SetField(store::FindTable(table_)->key, std::int64_t{key_.key});
+    comment_.Put(record);
     return record;
 }
 
@@ -41,6 +46,18 @@ store::Cursor& RecordScreen::RecordToStore(Change& change) {
         change.Rename(ChangeName());
     }
     return RecordToStore();
+}
+
+bool RecordScreen::Update() {
+    if (!key_.isNew && comment_.Changed() && !FieldsChanged()) {
+        Change change(context_.document, ChangeName());
+        RecordToStore().Update();
+        change.Commit();
+    } else if (!UpdateFields()) {
+        return false;
+    }
+    comment_.Stored();
+    return true;
 }
 
 std::string RecordScreen::ChangeName() const {

@@ -133,7 +133,7 @@ void WordScreen::Store(Change& change) {
     record.Update();
 }
 
-bool WordScreen::Update() {
+bool WordScreen::UpdateFields() {
     if (!Changed()) return true;
     if (!LeaveWord()) return false;
     if (!type) return RefuseField("type", "No value set for word type");

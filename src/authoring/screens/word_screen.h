@@ -37,13 +37,12 @@ class WordScreen final : public RecordScreen {
     bool LeaveWord();
     bool LeaveNumber();
 
-    bool Changed() const override { return Typed() != opened_; }
-
-    /// True when the screen can close: what was changed is stored.
-    bool Update();
-
     static constexpr int kLowestNumber = condacts::limit::kLowestWord;
     static constexpr int kHighestNumber = condacts::limit::kHighestWord;
+
+  protected:
+    bool FieldsChanged() const override { return Typed() != opened_; }
+    bool UpdateFields() override;
 
   private:
     void ReadRecord();

@@ -23,7 +23,8 @@ constexpr BatchTable kTables[] = {
     {TableNum::Locations, "/LOC", ""},
 };
 
-constexpr std::string_view kEndMarkers[] = {"", "ENDDESC", "ENDEXITS", "ENDCONDACTS", "ENDDRAWSTRING"};
+constexpr std::string_view kEndMarkers[] = {
+    "", "ENDDESC", "ENDEXITS", "ENDCONDACTS", "ENDDRAWSTRING", "ENDCOMMENT"};
 
 /// Whether a line is a field's end marker but for `blanks` or more blanks in front.
 bool ReadsLikeEnd(std::string_view line, BatchForm form, std::size_t blanks) {
@@ -65,13 +66,17 @@ std::vector<BatchField> BatchFields(store::Adventure& adventure, TableNum table)
         const std::string field(rows.Text(0));
         const auto index = schema.Find(field);
         const std::int64_t form = rows.Number(2);
-        if (!index || form > static_cast<int>(BatchForm::Drawstring)) continue;
+        if (!index || form > static_cast<int>(BatchForm::Comment)) continue;
         if (store::ClassOf(schema.fields[*index].type) == store::FieldClass::Binary) continue;
         const std::string_view other = text::TrimBlanks(rows.Text(1));
         fields.push_back({field, other.empty() ? field : std::string(other), static_cast<BatchForm>(form),
                           schema.fields[*index].type});
     }
     return fields;
+}
+
+bool IsWritten(const BatchField& field, const text::Value& value) {
+    return field.form != BatchForm::Comment || !text::IsNull(value);
 }
 
 std::string BatchValue(const BatchField& field, const text::Value& value) {

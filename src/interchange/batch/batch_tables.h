@@ -20,6 +20,7 @@ enum class BatchForm : int {
     Exits = 3,
     CondActs = 4,
     Drawstring = 5,
+    Comment = 6,  ///< left out of records that have none
 };
 
 /// What stands behind a field's lines: "ENDDESC"; "" for one of a single line.
@@ -49,6 +50,9 @@ const BatchTable* FindBatchTable(std::string_view marker);
 
 /// The fields of a table that travel, in the order of `tables`.
 std::vector<BatchField> BatchFields(store::Adventure& adventure, store::TableNum table);
+
+/// Whether a record's field stands in the file.
+bool IsWritten(const BatchField& field, const text::Value& value);
 
 /// A field's value as the file has it: "\n" for line ends in texts of several lines, "True" and "False",
 /// and nothing for a text that is not there yet.

@@ -20,7 +20,9 @@ void AddLine(std::string& file, std::string_view line) {
 
 void FbbExportRecord(const Cursor& record, const std::vector<BatchField>& fields, std::string& file) {
     for (const BatchField& field : fields) {
-        const std::string value = BatchValue(field, record.Field(field.field));
+        const text::Value stored = record.Field(field.field);
+        if (!IsWritten(field, stored)) continue;
+        const std::string value = BatchValue(field, stored);
         file.append(field.name).append("=");
         if (field.form == BatchForm::Line) {
             AddLine(file, value);

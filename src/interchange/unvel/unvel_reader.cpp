@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <iterator>
 #include <utility>
+#include <vector>
 
 #include "condacts/load.h"
+#include "interchange/pc_extras.h"
 #include "interchange/source_file.h"
 #include "interchange/unmarlo/command_entries.h"
 #include "interchange/unvel/unvel_general_data.h"
@@ -32,6 +34,7 @@ enum StageNumber : int {
     kCharacters = 301,
     kFlagNotes = 302,
     kProcessNotes = 303,
+    kComments = 304,
 };
 
 struct TitleRow {
@@ -54,6 +57,7 @@ constexpr TitleRow kTitles[] = {
     {"GRAPHICS DATA", kPictures},
     {"; FLAG DESCRIPTIONS", kFlagNotes},
     {"; PROCESS TABLE DESCRIPTIONS", kProcessNotes},
+    {"; COMMENTS", kComments},
 };
 constexpr std::string_view kTableTitle = "PROCESS";
 /// The characters begin at this line, whatever stands below it.
@@ -89,6 +93,8 @@ class Walk {
                 flagNotes_.Line(line);
             } else if (stage_ == kProcessNotes) {
                 processNotes_.Line(line);
+            } else if (stage_ == kComments) {
+                TakeComment(line);
             } else if (section_) {
                 section_->Line(line);
             }
@@ -107,6 +113,10 @@ class Walk {
     void StoreNotes() const {
         if (describesFlags_) StoreFlagNotes(job_.Adventure(), flagNotes_);
         StoreProcessNotes(job_.Adventure(), processNotes_);
+        for (const auto& [line, place] : comments_) {
+            const std::string fault = ApplyExtra(job_.Adventure(), line);
+            if (!fault.empty()) job_.listing.context.status.AddFault(fault, place);
+        }
     }
 
   private:
@@ -166,10 +176,18 @@ class Walk {
                 return UnVelCharacters(job_);
             case kFlagNotes:
             case kProcessNotes:
+            case kComments:
                 return nullptr;
             default:
                 return UnVelEntries(job_, stage - kResponses);
         }
+    }
+
+    /// A line "; ! Messages 7 comment Why it is so".
+    void TakeComment(std::string_view line) {
+        constexpr std::string_view kBegin = "; ";
+        if (!line.starts_with(kBegin)) return;
+        comments_.emplace_back(line.substr(kBegin.size()), job_.listing.lines.Place());
     }
 
     void EndSection() {
@@ -184,6 +202,7 @@ class Walk {
     bool describesFlags_ = false;
     UnVelNotes flagNotes_{kFlagNote};
     UnVelNotes processNotes_{kProcessNote};
+    std::vector<std::pair<std::string, SourcePlace>> comments_;
     std::unique_ptr<UnVelSection> section_;
 };
 

@@ -9,6 +9,7 @@
 #include "condacts/parser.h"
 #include "condacts/places.h"
 #include "interchange/export_fields.h"
+#include "interchange/pc_extras.h"
 #include "interchange/source_file.h"
 #include "interchange/unvel/unvel_file.h"
 #include "interchange/unvel/unvel_general_data.h"
@@ -80,6 +81,7 @@ class ExtractWriter {
                    "flgmod>0 and flgdesc<>''", "; Flag  !%s4");
         WriteNotes("PROCESS TABLE DESCRIPTIONS", "on the Processes", TableNum::ProcDesc, "pmsgnum",
                    "pmsgmsg", "pmsgnum>2", "; Process!%s4");
+        WriteCommentSection();
         file_.Finish();
     }
 
@@ -260,7 +262,8 @@ class ExtractWriter {
             Cursor& entries = Open(TableNum::ProcessTables, "canum", "estype=" + std::to_string(process));
             for (; !entries.Eof(); entries.MoveNext()) {
                 Record(TableNum::ProcessTables, entries.Number("canum"));
-                WriteEntry(entries.Text("w1"), entries.Text("w2"), entries.Text("condacts"));
+                if (WriteEntry(entries.Text("w1"), entries.Text("w2"), entries.Text("condacts")))
+                    written_.insert(entries.Number("canum"));
             }
         }
     }
@@ -287,7 +290,8 @@ class ExtractWriter {
         return written;
     }
 
-    void WriteEntry(std::string_view first, std::string_view second, std::string_view condActs) {
+    /// False for an entry of which nothing could be written.
+    bool WriteEntry(std::string_view first, std::string_view second, std::string_view condActs) {
         std::string w1 = EntryWord(first);
         std::string w2 = EntryWord(second);
         const condacts::ParsedLine parsed = condacts::ParseLine(condActs, catalogue_);
@@ -309,6 +313,7 @@ class ExtractWriter {
                        " is no condition or action.");
         if (parsed.statements.empty())
             file_.Loss("an entry without conditions and actions is not written.");
+        return !parsed.statements.empty();
     }
 
     void WriteNotes(const char* title, const char* of, TableNum table, std::string_view keyField,
@@ -323,9 +328,23 @@ class ExtractWriter {
         }
     }
 
+    /// The author's comments, where there are any.
+    void WriteCommentSection() {
+        bool begun = false;
+        const auto isWritten = [this](std::int64_t canum) { return written_.contains(canum); };
+        const auto write = [&](const std::string& record, const std::string& line) {
+            if (!begun) file_.UnVelHdr("COMMENTS", true, true);
+            begun = true;
+            file_.Record(record + ", comment");
+            file_.Line("; " + line);
+        };
+        WriteComments(context_.adventure, kLetters, isWritten, write);
+    }
+
     ExportContext& context_;
     std::string_view version_;
     bool isOldest_;
+    std::set<std::int64_t> written_;  ///< entries, by `canum`
     UnVelFile file_;
     condacts::Catalogue catalogue_;
     condacts::WordIndex words_;

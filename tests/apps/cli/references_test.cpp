@@ -92,6 +92,22 @@ TEST_F(LintVerb, SwitchesOffInTheFileAndOnTheLine) {
     EXPECT_EQ(Run({"lint", File("game.fbd"), "--off", "nonsense"}).status, 2);
 }
 
+TEST_F(LintVerb, KeepsSwitchesInTheAdventureUntilTheyAreTakenBack) {
+    const std::string game = File("game.fbd");
+    EXPECT_EQ(Run({"lint", game, "--keep", "--off", "message-unused 1", "--off", "word-unused", "--off",
+                   "flag-unread"})
+                  .output,
+              "");
+    EXPECT_EQ(Run({"lint", game}).output, "");
+    const std::string told = "No rule prints message 1. [message-unused]\n";
+    EXPECT_EQ(Run({"lint", game, "--on", "message-unused"}).output, told);
+    EXPECT_EQ(Run({"lint", game}).output, "") << "without --keep it is for once";
+    EXPECT_EQ(Run({"lint", game, "--on", "message-unused", "--keep"}).output, told);
+    EXPECT_EQ(Run({"lint", game}).output, told);
+    EXPECT_EQ(Run({"lint", game, "--keep", "--on", "nonsense"}).status, 2);
+    EXPECT_EQ(Run({"lint", "--kind", "ace", File("game.txt"), "--keep"}).status, 2);
+}
+
 TEST_F(LintVerb, WritesJson) {
     const Json list = Json::parse(Run({"lint", File("game.fbd"), "--json"}).output);
     ASSERT_EQ(list.size(), 3U);

@@ -69,6 +69,21 @@ class BatchImport : public testing::Test {
     test::Desk desk;
 };
 
+TEST_F(BatchImport, StoresCommentsAndWhatIsLeftOfThem) {
+    const Reading read = Read(
+        "/VOC\nNumber=200\nWord=LAMP\nType=Noun\nComment=\nIt glows.\nENDCOMMENT\nENDRECORD\n/END\n"
+        "/MSG\nMessage=0\nComment=\nIn the cellar.\n\nTwice.\nENDCOMMENT\nENDRECORD\n/END\n"
+        "/PRO\nEntry=0\nComment=\nWith the lamp.\nENDCOMMENT\nENDRECORD\n/END\n");
+    EXPECT_THAT(read.faults, IsEmpty());
+    EXPECT_THAT(desk.Rows(TableNum::Vocabulary, "comment", "word='LAMP'"), ElementsAre("It glows."));
+    EXPECT_THAT(desk.Rows(TableNum::Messages, "msgmsg, comment", "msgnum=0"),
+                ElementsAre("It is damp.|In the cellar.\u008C\u008CTwice."));
+    EXPECT_THAT(desk.Rows(TableNum::ProcessTables, "comment", "canum=0"), ElementsAre("With the lamp."));
+    EXPECT_THAT(Read(Written(desk)).faults, IsEmpty());
+    EXPECT_THAT(Read("/MSG\nMessage=0\nComment=\nENDCOMMENT\nENDRECORD\n/END\n").faults, IsEmpty());
+    EXPECT_TRUE(desk.Adventure().OpenTable(TableNum::Messages, "def", "msgnum=0").IsNull("comment"));
+}
+
 TEST_F(BatchImport, MadeTheGameOfItsTests) {
     EXPECT_THAT(desk.Rows(TableNum::Locations, "locnum,locdesc,exits,numericexits,numexits"),
                 ElementsAre("0|A cellar.|||0", "1|A hall.|N 0|2 0|2"));

@@ -70,12 +70,12 @@ class FindTest : public testing::Test {
 
 TEST_F(FindTest, OffersTheFieldsThatAreMarkedForIt) {
     Show({TableNum::Locations});
-    EXPECT_THAT(Fields(), ElementsAre("locnum", "exits", "picloc", "locshortdesc", "locdesc"));
+    EXPECT_THAT(Fields(), ElementsAre("locnum", "exits", "picloc", "locshortdesc", "locdesc", "comment"));
 }
 
 TEST_F(FindTest, OffersTheProcessToo) {
     Show({TableNum::ProcessTables, kOtherProcesses});
-    EXPECT_THAT(Fields(), ElementsAre("estype", "w1", "w2", "CondActs"));
+    EXPECT_THAT(Fields(), ElementsAre("estype", "w1", "w2", "CondActs", "comment"));
 }
 
 TEST_F(FindTest, ChoosesTheLongTextAtFirst) {

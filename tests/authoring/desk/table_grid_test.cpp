@@ -69,6 +69,20 @@ TEST(SetupGrid, ShowsTheFieldsThatAreToBeSeenInTheirOrder) {
                 ElementsAre("locnum", "exits", "picloc", "locshortdesc", "locdesc"));
 }
 
+TEST(SetupGrid, ShowsCommentsOnRequest) {
+    const test::OpenedAdventure adventure;
+    for (const TableNum table :
+         {TableNum::Locations, TableNum::Messages, TableNum::Objects, TableNum::ProcessTables,
+          TableNum::SystemMessages, TableNum::Vocabulary, TableNum::Flags, TableNum::ProcDesc,
+          TableNum::Characters, TableNum::Pictures}) {
+        TableGrid grid;
+        grid.SetupGrid(*adventure, {table}, false, true);
+        EXPECT_EQ(grid.Columns().back().title, "Comment") << static_cast<int>(table);
+        grid.SetupGrid(*adventure, {table}, true, false);
+        EXPECT_NE(grid.Columns().back().title, "Comment") << static_cast<int>(table);
+    }
+}
+
 TEST(SetupGrid, ShowsMoreFieldsInTheMaintenanceView) {
     const test::OpenedAdventure adventure;
     EXPECT_THAT(Fields(GridOf(*adventure, {TableNum::Locations}, true)),

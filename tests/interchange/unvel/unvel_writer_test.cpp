@@ -101,6 +101,37 @@ TEST(UnVelWriter, TheOldestFormHasTheSpellingsOfItsTime) {
     EXPECT_TRUE(Extract(*game, "2.1.0").Has("INITIALLY AT\r\n------------\r\n"));
 }
 
+TEST(UnVelWriter, CommentsStandAtTheEndAndComeBack) {
+    const test::OpenedAdventure game(AdventureKind::Vel);
+    EXPECT_FALSE(Extract(*game).Has("COMMENTS")) << "where there are none";
+    AddEntry(*game, 0, "_", "_", "");
+    AddEntry(*game, 1, "_", "_", "DESC");
+    AddEntry(*game, 0, "_", "_", "INVEN");
+    const auto comment = [&](TableNum table, const char* where, const char* text) {
+        store::Cursor& record = game->OpenTable(table, "def", std::string_view(where));
+        record.SetField("comment", std::string(text));
+        record.Update();
+    };
+    comment(TableNum::ProcessTables, "canum=1", "Every\u008Cturn");
+    comment(TableNum::ProcessTables, "canum=2", "What one has");
+    comment(TableNum::Locations, "locnum=0", "The hall");
+    comment(TableNum::Flags, "flgnum=60", "Oil");
+    const Extract extract(*game);
+    EXPECT_TRUE(
+        extract.Has("\r\n; COMMENTS\r\n; --------\r\n"
+                    "; ! Locations 0 comment The hall\r\n"
+                    "; ! Flags 60 comment Oil\r\n"
+                    "; ! ProcessTables 0 comment What one has\r\n"
+                    "; ! ProcessTables 1 comment Every<CR>turn\r\n"))
+        << extract.text;
+    const Reading again("unvel", extract.text);
+    EXPECT_EQ(again.Text(TableNum::ProcessTables, "condacts='INVEN'", "comment"), "What one has");
+    EXPECT_EQ(again.Text(TableNum::ProcessTables, "condacts='DESC'", "comment"), "Every\u008Cturn");
+    EXPECT_EQ(again.Text(TableNum::Locations, "locnum=0", "comment"), "The hall");
+    EXPECT_EQ(again.Text(TableNum::Flags, "flgnum=60", "comment"), "Oil");
+    EXPECT_EQ(again.faults, 0) << again.status;
+}
+
 TEST(UnVelWriter, ConnectionsStandInColumns) {
     const test::OpenedAdventure game(AdventureKind::Vel);
     store::Cursor& location = game->OpenTable(TableNum::Locations, "def");

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/leaving.h"
+#include "ide/editors/comment_edit.h"
 #include "ide/editors/layout.h"
 #include "ide/editors/leave_check.h"
 #include "ide/editors/markup_edit.h"
@@ -29,13 +30,15 @@ MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::
     text_->typed = [this](const std::string& text) { screen_.TypeMessage(text); };
     auto* top = new QHBoxLayout;
     AddMoves(*top);
-    auto* bottom = new QHBoxLayout;
-    AddButtons(*bottom);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(10);
     layout->addLayout(top);
     layout->addWidget(text_, 1);
+    comment_ = new CommentEdit(screen.Comment(), *this);
+    layout->addWidget(comment_);
+    auto* bottom = new QHBoxLayout;
+    AddButtons(*bottom);
     layout->addLayout(bottom);
     ShowRecord();
     resize(sizeHint().expandedTo({640, 480}));
@@ -101,6 +104,7 @@ void MessageDialog::AddButtons(QHBoxLayout& row) {
 void MessageDialog::ShowRecord() {
     number_->setText(QString("%1 %2").arg(qt::Translated(screen_.Label())).arg(screen_.Number()));
     text_->SetText(screen_.Text());
+    comment_->Show();
 }
 
 void MessageDialog::Move(int step) {

@@ -15,6 +15,7 @@ class QToolButton;
 
 namespace fabula::ide {
 
+class CommentEdit;
 class MarkupEdit;
 
 /// The dialog of a message, a system message or the description of a process table. Accepted by Update.
@@ -48,6 +49,7 @@ class MessageDialog final : public QDialog, public RecordEditor {
     QList<QToolButton*> moves_;
     QList<QShortcut*> moveKeys_;
     MarkupEdit* text_;
+    CommentEdit* comment_ = nullptr;
 };
 
 }  // namespace fabula::ide

@@ -19,6 +19,7 @@
 #include <utility>
 
 #include "ide/dialogs/leaving.h"
+#include "ide/editors/comment_edit.h"
 #include "ide/editors/cond_act_edit.h"
 #include "ide/editors/layout.h"
 #include "platform/error.h"
@@ -72,14 +73,17 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QW
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll, 1);
+    auto* comment = new CommentEdit(*screen.Comment(), *this);
+    comment->setContentsMargins(kMargin, 0, kMargin, kMargin / 2);
+    whole->addWidget(comment);
     QLayout* buttons = BuildButtons();
     whole->addLayout(buttons);
     Show();
     focus_ = connect(qApp, &QApplication::focusChanged, this,
                      [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
     const int moreLines = kMoreLines * line_->fontMetrics().lineSpacing();
-    const QSize wanted(kDefaultWidth,
-                       form->heightForWidth(kDefaultWidth) + buttons->sizeHint().height() + moreLines);
+    const QSize wanted(kDefaultWidth, form->heightForWidth(kDefaultWidth) + comment->sizeHint().height() +
+                                          buttons->sizeHint().height() + moreLines);
     resize(wanted.boundedTo(QWidget::screen()->availableSize() * 9 / 10));
 }
 

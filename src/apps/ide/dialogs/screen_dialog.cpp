@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/leaving.h"
+#include "ide/editors/comment_edit.h"
 #include "ide/editors/layout.h"
 #include "ide/editors/leave_check.h"
 #include "platform/error.h"
@@ -57,6 +58,7 @@ void ScreenDialog::setVisible(bool visible) {
     if (visible && !placed_) {
         placed_ = true;
         // Made last, they come last for the keyboard too.
+        AddComment();
         AddButtons();
         if (isWindow()) {
             resize(sizeHint());
@@ -74,6 +76,16 @@ void ScreenDialog::reject() {
 bool ScreenDialog::HasChanges() {
     Read();
     return edited_.Changed();
+}
+
+/// Above the buttons, where the screen has a record.
+void ScreenDialog::AddComment() {
+    authoring::RecordComment* comment = edited_.Comment();
+    if (comment == nullptr) return;
+    comment_ = new CommentEdit(*comment, *this);
+    comment_->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin / 2);
+    auto* rows = static_cast<QVBoxLayout*>(layout());
+    rows->insertWidget(rows->indexOf(buttons_), comment_);
 }
 
 void ScreenDialog::AddButtons() {
@@ -98,7 +110,9 @@ void ScreenDialog::FocusFirst() {
 }
 
 QSize ScreenDialog::SizeFor(const QSize& contents) const {
-    const QSize whole(contents.width(), contents.height() + buttons_->sizeHint().height() + kDialogMargin);
+    const int comment = comment_ == nullptr ? 0 : comment_->sizeHint().height();
+    const QSize whole(contents.width(),
+                      contents.height() + comment + buttons_->sizeHint().height() + kDialogMargin);
     return whole.boundedTo(screen()->availableSize() * 9 / 10);
 }
 

@@ -12,6 +12,8 @@ class QPushButton;
 
 namespace fabula::ide {
 
+class CommentEdit;
+
 /// What the dialogs that edit something share: Update (Ctrl+Return) and Exit (Esc), and checks of the
 /// fields that are left. A control that is refused gets the focus back.
 class ScreenDialog : public QDialog, public RecordEditor {
@@ -47,12 +49,14 @@ class ScreenDialog : public QDialog, public RecordEditor {
     virtual bool Update() = 0;
 
   private:
+    void AddComment();
     void AddButtons();
     void FocusFirst();
     void FocusRefused();
     void ClickUpdate();
 
     authoring::EditScreen& edited_;
+    CommentEdit* comment_ = nullptr;
     QHBoxLayout* buttons_;
     bool placed_ = false;  ///< it was shown before
     QPushButton* update_ = nullptr;

@@ -56,6 +56,7 @@ constexpr const char* kSplitter = "Desk/Splitter";
 constexpr const char* kUsesShown = "Desk/Uses";
 constexpr const char* kRecordBeside = "Desk/RecordBeside";
 constexpr const char* kWithNames = "Desk/WithNames";
+constexpr const char* kComments = "Desk/Comments";
 
 }  // namespace
 
@@ -239,6 +240,13 @@ void MainWindow::MakeViewSwitches(QMenu& view) {
     QObject::connect(names, &QAction::toggled, this, [this](bool on) {
         if (!LeaveRecord()) return;
         ide_.ShowNames(on);
+        ShowChanges();
+    });
+    QAction* comments = add("Comments", tr("&Comments"), {}, kComments);
+    ide_.ShowComments(comments->isChecked());
+    QObject::connect(comments, &QAction::toggled, this, [this](bool on) {
+        if (!LeaveRecord()) return;
+        ide_.ShowComments(on);
         ShowChanges();
     });
 }
