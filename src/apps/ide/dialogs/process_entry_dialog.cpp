@@ -21,6 +21,7 @@
 #include "ide/editors/cond_act_edit.h"
 #include "platform/error.h"
 #include "qt/strings.h"
+#include "qt/wrapped_label.h"
 
 namespace fabula::ide {
 namespace {
@@ -219,8 +220,7 @@ QLayout* ProcessEntryDialog::BuildLine() {
     fault_ = MakeNote("fault", tr("Fault"), this);
     line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
     line_->onFault = [this](const QString& fault) { fault_->setText(fault); };
-    auto* help = new QLabel(qt::Translated(authoring::ProcessEntryScreen::kHelpLine), this);
-    help->setWordWrap(true);
+    auto* help = new qt::WrappedLabel(qt::Translated(authoring::ProcessEntryScreen::kHelpLine), this);
     column->addWidget(label);
     column->addWidget(line_, 1);
     column->addWidget(explained_, 1);
