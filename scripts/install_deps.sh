@@ -7,7 +7,7 @@ packages=(g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev
           libpng-dev libpcre2-dev libturbojpeg0-dev libzip-dev libcli11-dev nlohmann-json3-dev libtinyxml2-dev libgtest-dev libgmock-dev libbenchmark-dev libdtl-dev
           python3 qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-wayland librtmidi-dev libfluidsynth-dev timgm6mb-soundfont)
 if [ "${1:-build}" = test ]; then
-    packages+=(git clang clang-format clang-tidy libclang-rt-14-dev libxml2-utils poppler-utils unzip)
+    packages+=(git clang clang-format clang-tidy libclang-rt-14-dev libxml2-utils poppler-utils qt6-l10n-tools unzip)
 elif [ "${1:-build}" = screenshots ]; then
     packages+=(xvfb xdotool imagemagick fonts-dejavu-core)
 fi

@@ -21,6 +21,7 @@
 #include "qt/qt_settings.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
+#include "qt/translator.h"
 
 namespace {
 
@@ -120,6 +121,7 @@ int Run(int argc, char** argv) {
     qt::QtDialogs dialogs;
     const auto environment = platform::Environment::OfTheProgram();
     const auto folders = platform::ProgramDataFolders(platform::RunningProgram(), environment);
+    const qt::Translations translations(folders, QLocale::system());
     const auto files = authoring::FindProgramFiles(settings, folders, dialogs);
     if (!files) return EXIT_FAILURE;
 

@@ -14,6 +14,7 @@
 #include "qt/qt_settings.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
+#include "qt/translator.h"
 
 namespace {
 
@@ -33,6 +34,9 @@ int Run(int argc, char** argv) {
     arguments.addPositionalArgument("file", "The adventure to play (*.fbd).", "[file]");
     arguments.process(app);
 
+    const auto folders =
+        platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());
+    const qt::Translations translations(folders, QLocale::system());
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, "Fabula", "Fabula");
     const auto dataFolder =
         qt::PathFromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
@@ -43,8 +47,6 @@ int Run(int argc, char** argv) {
     midi::Player sound(timers, midi::OpenOutput,
                        [&shown](const std::string& sentence) { shown->SoundFailed(sentence); });
 
-    const auto folders =
-        platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());
     qt::Help help(platform::FindFile(folders, "help/contents.html").value_or(""), dialogs);
     player::PlayerWindow window({.timers = timers,
                                  .dialogs = dialogs,

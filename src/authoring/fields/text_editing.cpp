@@ -42,14 +42,11 @@ void CountLine(const ShownLine& line, TextCounts& counts) {
     }
 }
 
-std::string Plural(int count, std::string_view thing) {
-    return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");
-}
-
 }  // namespace
 
 std::string CountsLine(const TextCounts& counts) {
-    return Plural(counts.words, "word") + ", " + Plural(counts.letters, "letter");
+    return std::to_string(counts.words) + (counts.words == 1 ? " word, " : " words, ") +
+           std::to_string(counts.letters) + (counts.letters == 1 ? " letter" : " letters");
 }
 
 TextEditing::TextEditing(store::Adventure& adventure)

@@ -10,8 +10,8 @@ namespace fabula::ide {
 FlagDialog::FlagDialog(authoring::FlagScreen& screen, QWidget* parent)
     : RecordDialog(screen, tr("Flag %1").arg(screen.Key().key), "frmflags.html", parent),
       screen_(screen),
-      type_(NewDropList(screen.type)),
-      use_(NewDropList(screen.use)),
+      type_(NewChoice(screen.type)),
+      use_(NewChoice(screen.use)),
       description_(NewTextEdit(screen.description)) {
     AddControl(tr("&Type:"), type_, "type");
     AddControl(tr("U&se:"), use_, "use");

@@ -146,7 +146,7 @@ void InterchangeDialog::AddEncodings(QFormLayout& form) {
     list->setObjectName("encoding");
     list->setAccessibleName(tr("Letters"));
     for (const auto& option : InterchangeScreen::Encodings())
-        list->addItem(qt::ToQt(option.name));
+        list->addItem(qt::Translated(option.name));
     auto* caption = new QLabel(tr("&Letters:"));
     caption->setBuddy(list);
     form.addRow(caption, list);

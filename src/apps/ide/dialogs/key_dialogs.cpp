@@ -14,6 +14,7 @@
 #include "platform/error.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
+#include "qt/wrapped_label.h"
 
 namespace fabula::ide {
 namespace {
@@ -21,9 +22,8 @@ namespace {
 constexpr QSize kKeysSize(620, 360);
 
 QLabel* Note(std::string_view text) {
-    auto* note = new QLabel(qt::Translated(text));
+    auto* note = new qt::WrappedLabel(qt::Translated(text));
     note->setObjectName("explanation");
-    note->setWordWrap(true);
     note->setVisible(!text.empty());
     return note;
 }

@@ -10,6 +10,7 @@
 #include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/strings.h"
+#include "qt/wrapped_label.h"
 
 namespace fabula::ide {
 namespace {
@@ -25,10 +26,9 @@ NewLocationsDialog::NewLocationsDialog(authoring::NewLocationsScreen& screen, pl
     setWindowTitle(qt::Translated(authoring::NewLocationsScreen::kTitle));
     setProperty("helpPage", "frmnewlocs.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    auto* told =
-        new QLabel(tr("Some of the pictures draw others by GOSUB. Which location does each go to? The "
-                      "GOSUBs follow. Exit leaves all as it was loaded."));
-    told->setWordWrap(true);
+    auto* told = new qt::WrappedLabel(
+        tr("Some of the pictures draw others by GOSUB. Which location does each go to? The "
+           "GOSUBs follow. Exit leaves all as it was loaded."));
     auto* scroll = new QScrollArea;
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);

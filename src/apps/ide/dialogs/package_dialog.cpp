@@ -14,6 +14,7 @@
 #include "ide/editors/layout.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
+#include "qt/wrapped_label.h"
 
 namespace fabula::ide {
 
@@ -103,8 +104,7 @@ void PackageDialog::AddList(QVBoxLayout& layout) {
 }
 
 void PackageDialog::AddReadMe(QVBoxLayout& layout) {
-    auto* label = new QLabel(qt::Translated(PackageScreen::kLabel));
-    label->setWordWrap(true);
+    auto* label = new qt::WrappedLabel(qt::Translated(PackageScreen::kLabel));
     label->setBuddy(readMe_);
     layout.addWidget(label);
     readMe_->setObjectName("readMe");

@@ -24,6 +24,7 @@
 #include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/strings.h"
+#include "qt/wrapped_label.h"
 
 namespace fabula::ide {
 namespace {
@@ -237,8 +238,7 @@ QLayout* ProcessEntryDialog::BuildLine() {
     line_->onMeaning = [this](const QString& meaning) { meaning_->setText(meaning); };
     line_->onFault = [this](const QString& fault) { fault_->setText(fault); };
     line_->onNewMessage = [this](const std::string& text) { return NewMessage(text); };
-    auto* help = new QLabel(qt::Translated(authoring::ProcessEntryScreen::kHelpLine), this);
-    help->setWordWrap(true);
+    auto* help = new qt::WrappedLabel(qt::Translated(authoring::ProcessEntryScreen::kHelpLine), this);
     column->addWidget(label);
     column->addWidget(line_, 1);
     column->addWidget(explained_, 1);

@@ -55,7 +55,7 @@ SettingsDialog::SettingsDialog(SettingsScreen& screen, engine::SoundPlayer& soun
                                      });
                                  })),
       soundPage_(new SettingsSoundPage(screen, sound)),
-      source_(NewDropList(screen.source)) {
+      source_(NewChoice(screen.source)) {
     pages_->setObjectName("pages");
     pages_->setDocumentMode(true);
     pages_->setAccessibleName(tr("Pages of the settings"));

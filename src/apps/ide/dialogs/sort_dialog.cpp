@@ -13,6 +13,7 @@
 #include "platform/error.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
+#include "qt/wrapped_label.h"
 
 namespace fabula::ide {
 
@@ -25,8 +26,7 @@ SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs
     lines_->setColumnStretch(1, 1);
     lines_->setHorizontalSpacing(8);
 
-    auto* told = new QLabel(tr("The adventure keeps this order. The first field counts most."));
-    told->setWordWrap(true);
+    auto* told = new qt::WrappedLabel(tr("The adventure keeps this order. The first field counts most."));
     auto* buttons = new QHBoxLayout;
     const auto add = [&](const QString& text, const char* name) {
         auto* button = new QPushButton(text);

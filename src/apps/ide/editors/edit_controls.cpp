@@ -59,6 +59,13 @@ QComboBox* NewDropList(const authoring::DropList& list) {
     return box;
 }
 
+QComboBox* NewChoice(const authoring::DropList& list) {
+    QComboBox* box = NewDropList(list);
+    for (int line = 0; line < box->count(); ++line)
+        box->setItemText(line, qt::Translated(list.items[static_cast<std::size_t>(line)].text));
+    return box;
+}
+
 QComboBox* NewLocationList(const authoring::ComboBox& box) {
     auto* list = new QComboBox;
     list->setEditable(true);

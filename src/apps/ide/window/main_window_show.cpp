@@ -155,6 +155,7 @@ void MainWindow::ShowStatus() {
     tableStatus_->setText(qt::Translated(ide_.TableStatus()));
     tableStatus_->setVisible(!tableStatus_->text().isEmpty());
     adventureStatus_->setText(qt::Translated(ide_.AdventureStatus()));
+    adventureStatus_->setToolTip(adventureStatus_->text());
     adventureStatus_->setVisible(!adventureStatus_->text().isEmpty());
 }
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <span>
+
+namespace fabula::qt {
+
+/// The sentences of the system that stand in the sources as plain strings, with "%1", "%2" ... for values.
+/// `scripts/sentences.py` makes the list when the program is built.
+std::span<const char* const> Sentences();
+
+}  // namespace fabula::qt
