@@ -250,7 +250,7 @@ void WriteExtras(Adventure& adventure, std::size_t letters, JobStatus& status,
 
 void WriteComments(Adventure& adventure, std::size_t letters,
                    const std::function<bool(std::int64_t)>& isWritten, const WriteExtraLine& writeLine) {
-    Writer writer(adventure, letters, writeLine);
+    ExtrasWriter writer(adventure, letters, writeLine);
     for (const auto& [table, keyField] : kCommented) {
         if (table != TableNum::ProcessTables) writer.WriteCommentsOf(table, keyField);
     }

@@ -167,9 +167,9 @@ void MainScreen::ShowComments(bool shown) {
     commentsShown_ = shown;
     if (!desk_ || running_) return;
     Guard([&] {
-        KeepPlace();
-        SetupGrid(grid_.View());
-        GoToKeptPlace();
+        const PlaceInView here = PlaceHere();
+        SetupGrid(here.view);
+        GoToPlace(here);
     });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <optional>
 
@@ -12,6 +13,7 @@ namespace fabula::ide {
 /// What uses a record that is about to be deleted. It is accepted when the author goes on with that; with a
 /// place to go to, the record stays.
 class DeletionDialog final : public QDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `uses` outlives the dialog.
     explicit DeletionDialog(const authoring::DeletionUses& uses, QWidget* parent = nullptr);

@@ -75,7 +75,7 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QW
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll, 1);
     auto* comment = new CommentEdit(*screen.Comment(), *this);
-    comment->setContentsMargins(kMargin, 0, kMargin, kMargin / 2);
+    comment->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin / 2);
     whole->addWidget(comment);
     QLayout* buttons = BuildButtons();
     whole->addLayout(buttons);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QTabBar>
 #include <functional>
 
@@ -8,6 +9,7 @@ namespace fabula::ide {
 /// The tabs of what is open, above the rows. It is hidden while there is one tab only. A middle click or
 /// the sign on a tab closes it; tabs can be dragged to another place.
 class TabStrip final : public QTabBar {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     struct Events {
         std::function<void(int tab)> chosen;
