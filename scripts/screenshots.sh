@@ -94,7 +94,7 @@ done <<'TABLE'
 desk-start-light none light 5
 desk-start-dark none dark 5
 desk-locations-light lighthouse light 1
-desk-processes-dark lighthouse dark 6 Fabula F8 ctrl+1 ctrl+k l a n t e r n Return Down Down Down Down Down
+desk-processes-dark lighthouse dark 6 Fabula F8
 desk-vocabulary-light lighthouse light 8
 desk-messages-dark signal_box dark 2
 desk-location-editor-light lighthouse light 1 Location Home Down Down Down Down Down Down Down Return
