@@ -228,7 +228,9 @@ TEST_P(References, ShiftF12InADialogListsTheUsesOfTheTokenAndStaysUntilOneIsChos
         InNextDialog("QuickListDialog", [](QDialog& uses) {
             QTest::keyClick(uses.findChild<QLineEdit*>("QuickLine"), Qt::Key_Return);
         });
-        QTest::keyClick(line, Qt::Key_F12, Qt::ShiftModifier);
+        QApplication::setActiveWindow(&dialog);
+        QApplication::processEvents();
+        QTest::keyClick(CursorInLine(dialog, 9), Qt::Key_F12, Qt::ShiftModifier);
         EXPECT_FALSE(dialog.isVisible());
     });
     Press(Qt::Key_Return);
