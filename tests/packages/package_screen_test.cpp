@@ -45,17 +45,6 @@ TEST_F(PackageScreenTest, OpensOnAnAdventureThatIsOpenToRead) {
                 ElementsAre("game.fbd", "The Lamp.ReadMe"));
 }
 
-TEST_F(PackageScreenTest, DoesNotOpenOnADatabaseWithoutThePackageTable) {
-    Adventure().DeleteFrom(store::TableNum::Tables, "tablenum=14 and fieldname='PkgPackage'");
-    document.SaveAs(Folder() / "old.fbd");
-    authoring::Document old(Folder() / "old.fbd", store::OpenMode::ReadOnly);
-    authoring::ScreenContext opened{old, dialogs};
-    EXPECT_EQ(PackageScreen::Open(opened, settings, {}), nullptr);
-    EXPECT_EQ(dialogs.Boxes().back().text,
-              "Cannot do Packaging yet. Database needs updated.\nReload using Load Database");
-    EXPECT_EQ(dialogs.Boxes().back().title, "Reload Database");
-}
-
 TEST_F(PackageScreenTest, MakesTheZipAndSaysSo) {
     Write("map.txt", "a map");
     const auto screen = Open();
