@@ -272,11 +272,11 @@ TEST(Trace, GivesEventsInPlaceOfLinesToWhoWantsThem) {
                           {.traceFile = true});
     played.Initialize();
     played.EnterLine("DO");
-    ASSERT_EQ(trace.entries.size(), 3U);
-    EXPECT_EQ(trace.entries[2].process, engine::ProcessNumber(4));
-    EXPECT_EQ(trace.entries[2].entry, 1);
-    EXPECT_EQ(trace.entries[2].record, 2);
-    EXPECT_EQ(trace.entries[2].by, engine::EntryMatched::By::NounWild);
+    ASSERT_EQ(trace.entries.size(), 2U);
+    EXPECT_EQ(trace.entries[1].process, engine::ProcessNumber(4));
+    EXPECT_EQ(trace.entries[1].entry, 0);
+    EXPECT_EQ(trace.entries[1].record, 2);
+    EXPECT_EQ(trace.entries[1].by, engine::EntryMatched::By::NounWild);
 }
 
 TEST(TraceFile, IsNamedByItsBegin) {

@@ -38,6 +38,7 @@ const Texts kOfTheGame = {"Fabula( IDE.*)?",
                           "<p style.*game.fbd</p>",
                           "Test \\(Version 1.0\\)",
                           "[a-z0-9]+",
+                          "Close Tab",  // said by Qt
                           "[A-Z]\\w+[A-Z]\\w+",
                           "\\[.*\\] \\(.*\\)"};
 

@@ -286,7 +286,7 @@ class UsesColumnTest : public Groups {
         return counts;
     }
 
-    Navigator navigator_{Main()};
+    std::optional<Navigator> navigator_{Main()};
 };
 
 TEST_F(UsesColumnTest, CountsTheUsesOfEachRecord) {
@@ -346,6 +346,7 @@ TEST_F(UsesColumnTest, IsNotSearchedByTheFilter) {
 }
 
 TEST_F(UsesColumnTest, IsRemembered) {
+    navigator_.reset();
     stand_.Restart();
     EXPECT_TRUE(Main().StateOf(Command::UsesColumn).checked);
 }

@@ -48,7 +48,8 @@ TEST_F(SortScreenTest, OffersTheFieldsOfTheTableByTheirOtherNames) {
     std::vector<std::string> titles;
     for (const SortField& field : screen.Fields())
         titles.push_back(field.title);
-    EXPECT_THAT(titles, ElementsAre("vocindex", "Number (vocnum)", "Word", "Type (voctype)", "voctypen"));
+    EXPECT_THAT(titles, ElementsAre("vocindex", "Number (vocnum)", "Word", "Type (voctype)", "voctypen",
+                                    "Comment"));
 }
 
 TEST_F(SortScreenTest, ShowsThePresentOrder) {

@@ -32,7 +32,7 @@ QComboBox* NewNounList(const authoring::DropList& list) {
     QComboBox* box = NewDropList(list);
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
-    box->lineEdit()->setPlaceholderText(QObject::tr("None"));
+    box->lineEdit()->setPlaceholderText(qt::Translated("None"));
     box->setEditText(TextOf(list.Chosen()));
     return box;
 }

@@ -17,7 +17,7 @@ std::optional<Jump> ChoosePlace(const QString& title, const std::vector<JumpLine
                                 QWidget* parent) {
     std::vector<JumpLine> fitting;
     QuickListDialog dialog(
-        title, QObject::tr("A part of its name"),
+        title, qt::Translated("A part of its name"),
         [&](const std::string& typed) {
             fitting.clear();
             std::vector<std::string> texts;
@@ -44,7 +44,7 @@ std::optional<Jump> FollowNamed(const authoring::NamedRecord& named, bool uses,
     }
     if (!uses) return jump;
     const std::vector<JumpLine> places = navigator.UsesOf(*jump);
-    if (!places.empty()) return ChoosePlace(QObject::tr("Uses of %1").arg(qt::ToQt(name)), places, parent);
+    if (!places.empty()) return ChoosePlace(qt::Translated("Uses of %1").arg(qt::ToQt(name)), places, parent);
     dialogs.Tell("Nothing uses " + name + ".", "Uses");
     return std::nullopt;
 }
@@ -72,7 +72,7 @@ std::optional<Jump> RecordJumps::Target(bool uses) {
         return FollowNamed({request_.table, context_.currentEntry}, true, navigator_, context_.dialogs,
                            dialog);
     const std::vector<JumpLine> names = navigator_.NamedBy(request_.table, context_.currentEntry);
-    if (!names.empty()) return ChoosePlace(QObject::tr("Go To What It Names"), names, dialog);
+    if (!names.empty()) return ChoosePlace(qt::Translated("Go To What It Names"), names, dialog);
     context_.dialogs.Tell("This record names no other.", "Go To");
     return std::nullopt;
 }

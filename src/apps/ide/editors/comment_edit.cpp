@@ -48,7 +48,8 @@ CommentEdit::CommentEdit(authoring::RecordComment& comment, const QWidget& windo
     edit_->setTabChangesFocus(true);
     edit_->setToolTip(tr("For yourself: the game never shows it"));
     const int frame = 2 * (edit_->frameWidth() + static_cast<int>(edit_->document()->documentMargin()));
-    edit_->setFixedHeight(kLines * edit_->fontMetrics().lineSpacing() + frame);
+    edit_->setMinimumHeight(edit_->fontMetrics().lineSpacing() + frame);
+    edit_->setMaximumHeight(kLines * edit_->fontMetrics().lineSpacing() + frame);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(12);

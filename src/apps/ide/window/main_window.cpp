@@ -242,7 +242,7 @@ void MainWindow::MakeViewSwitches(QMenu& view) {
         ide_.ShowNames(on);
         ShowChanges();
     });
-    QAction* comments = add("Comments", tr("&Comments"), {}, kComments);
+    QAction* comments = add("Comments", tr("Co&mments"), {}, kComments);
     ide_.ShowComments(comments->isChecked());
     QObject::connect(comments, &QAction::toggled, this, [this](bool on) {
         if (!LeaveRecord()) return;

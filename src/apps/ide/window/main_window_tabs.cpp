@@ -16,7 +16,7 @@ void MainWindow::ShowTabs() {
     QStringList titles;
     const bool open = ide_.GetState() != authoring::MainScreen::State::NoAdventure;
     for (int tab = 0; open && tab < ide_.Tabs().Count(); ++tab)
-        titles << qt::ToQt(ide_.TabTitle(tab));
+        titles << qt::Translated(ide_.TabTitle(tab));
     tabs_->Show(titles, ide_.Tabs().Current());
 }
 
