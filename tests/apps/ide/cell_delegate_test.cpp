@@ -75,6 +75,7 @@ QImage DrawnCondActs(const QStringList& condActs, int height, QStyle::State more
     model.appendRow(item);
     QStyleOptionViewItem option;
     option.rect = QRect(0, 0, kCell.width(), height);
+    option.showDecorationSelected = true;  // as in the grid: the text has the whole cell
     option.state = QStyle::State_Enabled | QStyle::State_Active | more;
     option.palette.setColor(QPalette::Text, Qt::black);
     option.palette.setColor(QPalette::Link, Qt::blue);
