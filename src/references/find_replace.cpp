@@ -110,7 +110,7 @@ std::string Replaced1(const std::string& text, const Match& match) {
 }
 
 /// In capitals, as entries are stored.
-std::string StoredForm(const SearchedField& field, std::string text) {
+std::string StoredForm(const SearchedField& field, const std::string& text) {
     return IsRules(field) ? text::StrEdit(text::UpperCase(text), "compress,trim") : text;
 }
 

@@ -24,7 +24,7 @@ WelcomePage::WelcomePage(std::function<void()> choose, Open open, QWidget* paren
     auto* load = new QPushButton(tr("Load a Game…"));
     load->setDefault(true);
     load->setMinimumHeight(load->sizeHint().height() * 5 / 4);
-    QObject::connect(load, &QPushButton::clicked, this, choose);
+    QObject::connect(load, &QPushButton::clicked, this, std::move(choose));
     setFocusProxy(load);
 
     column_ = new QVBoxLayout(page);
