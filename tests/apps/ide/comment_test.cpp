@@ -40,7 +40,7 @@ TEST_F(CommentTest, IsTypedInTheDialogOfARecord) {
     EXPECT_TRUE(window_.InDialog(Qt::Key_Return, Qt::NoModifier, {{"comment", "Where it begins"}}));
     EXPECT_EQ(window_.Stored(TableNum::Locations, "comment", "locnum=0"), "Where it begins");
     window_.GoToTable("Response (P0)");
-    window_.GoToRow("0");
+    window_.GoToRow("*");
     EXPECT_TRUE(window_.InDialog(Qt::Key_Return, Qt::NoModifier, {{"comment", "The lamp"}}));
     EXPECT_EQ(window_.Stored(TableNum::ProcessTables, "comment", "canum=0"), "The lamp");
 }

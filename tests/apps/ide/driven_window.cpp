@@ -61,7 +61,12 @@ void DoAll(QDialog& dialog, const std::vector<Step>& steps) {
 
 }  // namespace
 
+std::string AnyVerb(store::AdventureKind kind) {
+    return kind == store::AdventureKind::Marlo ? "_" : "*";
+}
+
 void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind) {
+    const std::string anyVerb = AnyVerb(kind);
     GameBuilder(kind)
         .Graphics()
         .SettingText("advname", "The Lighthouse")
@@ -73,15 +78,15 @@ void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind
         .Word("NORTH", 1, 2)
         .Word("LAMP", 60, 2)
         .Object(0, {.description = "a lamp", .place = 1, .noun = "LAMP"})
-        .Entry(0, "*", "_", "DESC")
-        .Entry(1, "*", "_", "DESC")
-        .Entry(2, "*", "_", "DESC")
-        .Entry(3, "*", "_", "DESC")
+        .Entry(0, anyVerb, "_", "DESC")
+        .Entry(1, anyVerb, "_", "DESC")
+        .Entry(2, anyVerb, "_", "DESC")
+        .Entry(3, anyVerb, "_", "DESC")
         .Write(file);
     const auto adventure = store::Adventure::Open(file, store::OpenMode::ReadWrite);
     store::Cursor& entries = adventure->OpenTable(TableNum::ProcessTables, "def");
     for (; !entries.Eof(); entries.MoveNext()) {
-        entries.SetField("w1", std::string("*"));
+        entries.SetField("w1", anyVerb);
         entries.SetField("w2", std::string("_"));
         entries.SetField("condacts", std::string("DESC"));
         entries.Update();

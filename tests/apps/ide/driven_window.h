@@ -17,6 +17,10 @@ struct Step {
     const char* typed = "";
 };
 
+/// What the entries of the small game stand for as their verb: "*", which Marlo's entries don't know, or
+/// "_".
+std::string AnyVerb(store::AdventureKind kind);
+
 /// A small game of a kind with a record of every table that can be edited.
 void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind);
 

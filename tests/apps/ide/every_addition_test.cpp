@@ -28,7 +28,7 @@ const std::vector<Addition>& Additions() {
         {"Object", "Objects", "1", {{"description", "a lamp"}, {"initialPlace2"}}, "object 1"},
         {"Message", "Messages", "2", {{"text", "It is cold."}}, "message 2"},
         {"SystemMessage", "System Messages", "54", {{"text", "Go on."}}, "system message 54"},
-        {"EntryOfResponse", "Response (P0)", "*", {{"line", "DONE"}}, "process entry 4"},
+        {"EntryOfResponse", "Response (P0)", "_", {{"line", "DONE"}}, "process entry 4"},
     };
     return kAdditions;
 }

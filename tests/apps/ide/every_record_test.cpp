@@ -30,7 +30,7 @@ constexpr NamedKind kKinds[] = {
 struct Edit {
     const char* name;
     const char* node;    ///< of the tree
-    const char* row;     ///< what its first cell shows
+    std::string row;     ///< what its first cell shows; "*" for the verb of any kind's entries
     const char* column;  ///< in which the change is seen
     std::string before;
     std::string after;
@@ -246,7 +246,9 @@ std::vector<Case> Cases() {
     std::vector<Case> cases;
     for (const NamedKind& kind : kKinds) {
         for (const Edit& edit : Edits()) {
-            if (kind.kind != AdventureKind::Marlo || edit.inMarlo) cases.push_back({kind, edit});
+            if (kind.kind == AdventureKind::Marlo && !edit.inMarlo) continue;
+            cases.push_back({kind, edit});
+            if (edit.row == "*") cases.back().edit.row = AnyVerb(kind.kind);
         }
     }
     return cases;

@@ -298,8 +298,9 @@ TEST(MainWindow, TellsWhereAnExportWent) {
     opened.Open(Game());
     WithNextDialog("InterchangeDialog", [&](QDialog& dialog) {
         dialog.findChild<QRadioButton*>("kindFabula")->click();
-        QTest::keyClicks(dialog.findChild<QLineEdit*>("source"),
-                         QString::fromStdString((opened.folder / "out").string()));
+        auto* target = dialog.findChild<QLineEdit*>("source");
+        target->clear();  // the name that is proposed
+        QTest::keyClicks(target, QString::fromStdString((opened.folder / "out").string()));
         dialog.findChild<QPushButton*>("start")->click();
         dialog.reject();
     });

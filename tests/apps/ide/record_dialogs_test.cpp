@@ -211,8 +211,10 @@ TEST_F(RecordDialogs, AnObjectIsAdded) {
     Find<QRadioButton>(dialog, "initialPlace3")->click();
     EXPECT_TRUE(Find<QComboBox>(dialog, "room")->isEnabled());
     Find<QComboBox>(dialog, "room")->setCurrentIndex(0);
+    boxes_.AnswerNext(true);
     Find<QPushButton>(dialog, "update")->click();
-    EXPECT_TRUE(boxes_.Boxes().empty());
+    ASSERT_EQ(boxes_.Boxes().size(), 1U);
+    EXPECT_EQ(boxes_.Boxes().front().text, "There is no noun LAMP. Make it?");
     EXPECT_EQ(Stored(TableNum::Objects, "objlocdesc", "objnum=1"), "In Room 0.");
 }
 

@@ -224,7 +224,7 @@ TEST_F(RecordPaneTest, ProcessTablesShowNamesByF8) {
 
 TEST_F(RecordPaneTest, ANewTextInALineBecomesAMessageWhenTheRowIsLeft) {
     window_.GoToTable("Response (P0)");
-    window_.GoToRow("0");
+    window_.GoToRow("*");
     window_.Part<QPlainTextEdit>("line").setFocus();
     Replace("MESSAGE \"It snows.");
     Press(Qt::Key_Tab);
@@ -240,7 +240,7 @@ TEST_F(RecordPaneTest, ANewTextInALineBecomesAMessageWhenTheRowIsLeft) {
 
 TEST_F(RecordPaneTest, EscapeTakesANewTextInALineBack) {
     window_.GoToTable("Response (P0)");
-    window_.GoToRow("0");
+    window_.GoToRow("*");
     auto* line = &window_.Part<QPlainTextEdit>("line");
     const QString before = line->toPlainText();
     line->setFocus();

@@ -1,6 +1,7 @@
 // The end of a trace, when the window of a test run closes.
 
 #include <QApplication>
+#include <chrono>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,7 @@ void Trace(OpenedWindow& opened) {
     opened.Action("Trace").trigger();
     opened.dialogs.AnswerNext(true);
     opened.Action("Run").trigger();
+    opened.timers.Advance(std::chrono::seconds(1));
 }
 
 /// Closes the window of the test; the boxes that this brought.
