@@ -45,7 +45,7 @@ int Wrapped(int value, int size) {
     return value >= size ? value - size : value;
 }
 
-std::string Word(int number) {
+std::string Spelled(int number) {
     return std::to_string(number);
 }
 
@@ -154,7 +154,7 @@ void PictureEditor::DragTo(pictures::Point point) {
 
 /// The trace goes on from the drawing cursor, so the key cursor is there while it is drawn.
 bool PictureEditor::RPlotPlot(int dx, int dy) {
-    return AddToDrawstring({"RPLOT", Digits(), Word(dx), Word(dy)}, KeyCursorGoes::WithTheDrawing);
+    return AddToDrawstring({"RPLOT", Digits(), Spelled(dx), Spelled(dy)}, KeyCursorGoes::WithTheDrawing);
 }
 
 std::optional<RubberLine> PictureEditor::Guide() const {
@@ -167,12 +167,12 @@ std::optional<RubberLine> PictureEditor::Guide() const {
 
 /// Over and inverse as a parameter holds them.
 std::string PictureEditor::Digits() const {
-    return Word(10 * (over_ ? 1 : 0) + (inverse_ ? 1 : 0));
+    return Spelled(10 * (over_ ? 1 : 0) + (inverse_ ? 1 : 0));
 }
 
 /// The way from the drawing cursor to the key cursor.
 WordList PictureEditor::Distance() const {
-    return {Word(cursor_.x - State().cursor.x), Word(cursor_.y - State().cursor.y)};
+    return {Spelled(cursor_.x - State().cursor.x), Spelled(cursor_.y - State().cursor.y)};
 }
 
 /// Puts a command in at the position and draws it. The position is behind it then.
@@ -186,11 +186,11 @@ bool PictureEditor::AddToDrawstring(WordList words, KeyCursorGoes goes) {
 }
 
 bool PictureEditor::CommAbsMove() {
-    return AddToDrawstring({"ABSMOVE", Word(cursor_.x), Word(cursor_.y)});
+    return AddToDrawstring({"ABSMOVE", Spelled(cursor_.x), Spelled(cursor_.y)});
 }
 
 bool PictureEditor::CommPlot() {
-    return AddToDrawstring({"PLOT", Digits(), Word(cursor_.x), Word(cursor_.y)});
+    return AddToDrawstring({"PLOT", Digits(), Spelled(cursor_.x), Spelled(cursor_.y)});
 }
 
 bool PictureEditor::CommRelMove() {
@@ -210,18 +210,19 @@ bool PictureEditor::CommFill(std::string_view word) {
 
 bool PictureEditor::CommShade(int first, int second) {
     const WordList way = Distance();
-    return AddToDrawstring({"SHADE", Digits(), way[0], way[1], Word(second * 16 + first)});
+    return AddToDrawstring({"SHADE", Digits(), way[0], way[1], Spelled(second * 16 + first)});
 }
 
 bool PictureEditor::CommQShade(std::string_view word, int shade) {
     const WordList way = Distance();
-    return AddToDrawstring({std::string(word), Digits(), way[0], way[1], Word(shade)});
+    return AddToDrawstring({std::string(word), Digits(), way[0], way[1], Spelled(shade)});
 }
 
 bool PictureEditor::CommText(int set, int character) {
     const int column = cursor_.x / pictures::kCellSize;
     const int row = pictures::LineOfY(cursor_.y) / pictures::kCellSize;
-    return AddToDrawstring({"TEXT", Digits(), Word(set), Word(character), Word(column), Word(row)});
+    return AddToDrawstring(
+        {"TEXT", Digits(), Spelled(set), Spelled(character), Spelled(column), Spelled(row)});
 }
 
 /// From the cell of the drawing cursor to that of the key cursor, the row and the column of the far corner
@@ -232,17 +233,17 @@ bool PictureEditor::CommBlock() {
     const int row = pictures::LineOfY(start.y) / pictures::kCellSize;
     const int otherColumn = cursor_.x / pictures::kCellSize;
     const int otherRow = pictures::LineOfY(cursor_.y) / pictures::kCellSize;
-    return AddToDrawstring({"BLOCK", Word(std::abs(row - otherRow) - 1),
-                            Word(std::abs(column - otherColumn) - 1), Word(std::min(column, otherColumn)),
-                            Word(std::min(row, otherRow))});
+    return AddToDrawstring({"BLOCK", Spelled(std::abs(row - otherRow) - 1),
+                            Spelled(std::abs(column - otherColumn) - 1),
+                            Spelled(std::min(column, otherColumn)), Spelled(std::min(row, otherRow))});
 }
 
 bool PictureEditor::CommAttribute(std::string_view word, int number) {
-    return AddToDrawstring({std::string(word), Word(number)});
+    return AddToDrawstring({std::string(word), Spelled(number)});
 }
 
 bool PictureEditor::CommGoSub(int scale, int picture) {
-    return AddToDrawstring({"GOSUB", "sc=" + Word(scale), Word(picture)});
+    return AddToDrawstring({"GOSUB", "sc=" + Spelled(scale), Spelled(picture)});
 }
 
 // --- Commands of the editor ---

@@ -39,7 +39,8 @@ std::optional<int> NumberOfNewNoun(Adventure& adventure) {
     const bool marlo = condacts::DialectOf(adventure.AdventureType()) == condacts::Dialect::Marlo;
     const int first = marlo ? kFirstMarloNoun : kFirstNounOfIt;
     std::set<int> taken;
-    for (const condacts::Word& word : condacts::LoadWords(adventure).All()) {
+    const condacts::WordIndex words = condacts::LoadWords(adventure);
+    for (const condacts::Word& word : words.All()) {
         if (word.type == condacts::kNoun && word.number <= condacts::limit::kHighestWord)
             taken.insert(word.number);
     }

@@ -8,7 +8,7 @@ namespace fabula::authoring {
 namespace {
 
 /// The window gets its turn when the bar has gone so far.
-constexpr std::int64_t kStepsAYield = 10;
+constexpr std::int64_t kVerifyStepsAYield = 10;
 
 /// Takes `word` off the front of `text`.
 bool Take(std::string_view& text, std::string_view word) {
@@ -88,8 +88,8 @@ void VerifyScreen::ProgressLine(std::string_view text) {
 }
 
 void VerifyScreen::Progress(std::int64_t value, std::int64_t) {
-    if (value / kStepsAYield == yielded_) return;
-    yielded_ = value / kStepsAYield;
+    if (value / kVerifyStepsAYield == yielded_) return;
+    yielded_ = value / kVerifyStepsAYield;
     Show();
 }
 
