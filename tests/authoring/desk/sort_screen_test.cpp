@@ -49,7 +49,7 @@ TEST_F(SortScreenTest, OffersTheFieldsOfTheTableByTheirOtherNames) {
     for (const SortField& field : screen.Fields())
         titles.push_back(field.title);
     EXPECT_THAT(titles, ElementsAre("vocindex", "Number (vocnum)", "Word", "Type (voctype)", "voctypen",
-                                    "Comment"));
+                                    "comment"));
 }
 
 TEST_F(SortScreenTest, ShowsThePresentOrder) {

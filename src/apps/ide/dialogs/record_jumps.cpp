@@ -44,7 +44,8 @@ std::optional<Jump> FollowNamed(const authoring::NamedRecord& named, bool uses,
     }
     if (!uses) return jump;
     const std::vector<JumpLine> places = navigator.UsesOf(*jump);
-    if (!places.empty()) return ChoosePlace(qt::Translated("Uses of %1").arg(qt::ToQt(name)), places, parent);
+    if (!places.empty())
+        return ChoosePlace(qt::Translated("Uses of %1").arg(qt::ToQt(name)), places, parent);
     dialogs.Tell("Nothing uses " + name + ".", "Uses");
     return std::nullopt;
 }

@@ -79,7 +79,7 @@ CharacterDialog::CharacterDialog(authoring::CharacterEditor& screen, QWidget* pa
     right->addStretch();
     auto* contents = new QWidget;
     auto* columns = new QHBoxLayout(contents);
-    columns->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
+    columns->setContentsMargins(kDialogMargin, kDialogMargin / 2, kDialogMargin, kDialogMargin / 2);
     columns->setSpacing(kDialogMargin);
     columns->addLayout(left, 1);
     columns->addLayout(right);
