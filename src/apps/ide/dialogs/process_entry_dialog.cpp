@@ -33,6 +33,7 @@ constexpr int kDefaultWidth = 720;
 constexpr int kFewestLines = 4;  ///< of the field of the whole entry
 constexpr int kMoreLines = 10;   ///< that it has room for at first
 constexpr int kLettersOfAName = 10;
+constexpr int kLettersOfANumber = 4;
 constexpr int kBelowLabel = 4;
 
 QLabel* MakeNote(const char* name, const QString& what, QWidget* parent) {
@@ -166,7 +167,7 @@ ProcessEntryDialog::ParameterWidgets ProcessEntryDialog::MakeParameter(const QSt
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
-    box->setMinimumContentsLength(10);
+    box->setMinimumContentsLength(kLettersOfANumber);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     auto* label = new QLabel(this);
     label->setBuddy(box);
