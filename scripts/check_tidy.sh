@@ -29,7 +29,12 @@ PYTHON
 if [ "${1:-}" = --all ]; then
     files=$(compiled | cut -d' ' -f1)
 else
-    changed=$(git diff --name-only --diff-filter=d "${1:-HEAD~1}" -- 'src/*.cpp' 'src/*.h' | sed 's/\.h$/.cpp/' | sort -u)
+    base=${1:-HEAD~1}
+    if ! git rev-parse --quiet --verify "$base^{commit}" >/dev/null; then
+        echo "clang-tidy: $base is not here to compare with"
+        exit 0
+    fi
+    changed=$(git diff --name-only --diff-filter=d "$base" -- 'src/*.cpp' 'src/*.h' | sed 's/\.h$/.cpp/' | sort -u)
     if [ -z "$changed" ]; then
         echo "clang-tidy: no source has changed"
         exit 0
