@@ -18,7 +18,7 @@ constexpr KindRow kKinds[] = {
     {TextRecord::Kind::Flag, "flag "},
 };
 
-std::string OrDash(std::string text) {
+std::string OrDash(const std::string& text) {
     return text.empty() ? "-" : text;
 }
 
