@@ -106,7 +106,8 @@ TEST(ShortcutsPage, HasNoKeyOfTheMainWindowThatDoesNothing) {
     const Keys keys = KeysOf(opened.Window());
     const Keys elsewhere = {"Enter", "Down", "Esc", "Left",
                             "Right", "-",    "+"};  // of the rows, their groups and the filter
-    for (const QString& key : KeysOfThePage().at("main"))
+    const std::map<QString, Keys> page = KeysOfThePage();
+    for (const QString& key : page.at("main"))
         EXPECT_TRUE(keys.contains(key) || elsewhere.contains(key)) << qt::FromQt(key);
 }
 
