@@ -15,7 +15,7 @@ stop() { if [ -n "$1" ]; then kill "$1" 2>/dev/null || true; wait "$1" 2>/dev/nu
 trap 'stop "$player"; stop "$server"; rm -rf "$work"' EXIT
 
 exec 3<>"$work/display"
-Xvfb -displayfd 3 -screen 0 1100x900x24 >/dev/null 2>&1 3>"$work/display" &
+Xvfb -displayfd 3 -screen 0 1400x900x24 >/dev/null 2>&1 3>"$work/display" &
 server=$!
 until [ -s "$work/display" ]; do sleep 0.1; done
 DISPLAY=:$(head -n 1 "$work/display")
@@ -61,7 +61,8 @@ desk() {
     window=$(xdotool search --sync --onlyvisible --pid "$player" --name "Fabula IDE" | head -n 1)
     sleep 2.5
     if [ -n "$title" ]; then
-        xdotool windowfocus "$window"
+        # In a wide window the record would open beside the rows.
+        xdotool windowsize --sync "$window" 1000 760 windowfocus "$window"
         xdotool key --delay 40 "${@:6}"
         window=$(xdotool search --sync --all --onlyvisible --pid "$player" --name "$title" | head -n 1)
         sleep 1
