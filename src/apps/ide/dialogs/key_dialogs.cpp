@@ -123,6 +123,11 @@ KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::D
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Finish(); });
 }
 
+/// A cell that is being edited is left when its table goes, and there is nobody to check it then.
+KeyChangeDialog::~KeyChangeDialog() {
+    rows_->disconnect(this);
+}
+
 void KeyChangeDialog::ShowRows() {
     showing_ = true;
     rows_->setRowCount(static_cast<int>(screen_.Rows().size()));

@@ -43,6 +43,7 @@ class KeyChangeDialog final : public QDialog {
     /// Both outlive the dialog. `dialogs` tells what could not be stored.
     KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::Dialogs& dialogs,
                     QWidget* parent = nullptr);
+    ~KeyChangeDialog() override;
 
   private:
     void ShowRows();
