@@ -227,6 +227,17 @@ TEST_F(MarkupEditTest, APreviewThatIsNarrowerThanTheGameWrapsItsLinesEarlier) {
     EXPECT_EQ(Preview()->horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(MarkupEditTest, APreviewScrollsNotSidewaysForWideLetters) {
+    SetNumber("defprintwidth", 80);
+    std::string text;
+    for (int word = 0; word < 40; ++word)
+        text += "MMMMM WWWW ";
+    Open(text);
+    window_->resize(300, 500);
+    QApplication::processEvents();
+    EXPECT_EQ(Preview()->horizontalScrollBar()->maximum(), 0);
+}
+
 TEST_F(MarkupEditTest, PreviewsWhileTyping) {
     Open("a");
     edit_->Field().moveCursor(QTextCursor::End);

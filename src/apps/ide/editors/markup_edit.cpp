@@ -125,7 +125,7 @@ void MarkupEdit::AddPreview(const QString& caption) {
     connect(field_, &QPlainTextEdit::updateRequest, this, [this](const QRect&, int scrolled) {
         if (scrolled != 0) ScrollPreview();
     });
-    preview_->setLineWrapMode(QTextEdit::NoWrap);
+    preview_->setLineWrapMode(QTextEdit::WidgetWidth);  // a line of wide letters too
     auto* label = new QLabel(caption);
     label->setBuddy(preview_);
     auto* column = static_cast<QVBoxLayout*>(layout());
