@@ -86,7 +86,7 @@ CharacterDialog::CharacterDialog(authoring::CharacterEditor& screen, QWidget* pa
     SetContents(contents);
     grid_->changed = [this] { Show(); };
     connect(sampleText_, &QLineEdit::textChanged, this, [this] { Show(); });
-    const auto onKey = [this](QKeySequence key, std::function<void()> work) {
+    const auto onKey = [this](const QKeySequence& key, std::function<void()> work) {
         auto* shortcut = new QShortcut(key, grid_);
         shortcut->setContext(Qt::WidgetShortcut);
         connect(shortcut, &QShortcut::activated, this, std::move(work));

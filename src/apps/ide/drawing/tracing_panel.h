@@ -24,7 +24,7 @@ class TracingPanel final : public QGroupBox {
     TracingPanel(platform::Settings& settings, std::filesystem::path adventure, int picture,
                  platform::Dialogs& dialogs, QWidget* parent = nullptr);
 
-    std::function<void(std::optional<Tracing>)> changed = [](std::optional<Tracing>) {};
+    std::function<void(std::optional<Tracing>)> changed = [](const std::optional<Tracing>&) {};
 
     /// Shows the one that is remembered. A file that has gone is passed over.
     void Begin();

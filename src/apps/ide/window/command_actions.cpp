@@ -29,7 +29,7 @@ QString ButtonText(std::string_view text) {
 
 }  // namespace
 
-CommandActions::CommandActions(QWidget* window, Run run) : QObject(window) {
+CommandActions::CommandActions(QWidget* window, const Run& run) : QObject(window) {
     for (const CommandEntry& entry : authoring::AllCommands()) {
         auto* action = new QAction(qt::IconOf(entry.icon), qt::Translated(entry.text), this);
         action->setObjectName(qt::ToQt(entry.key));

@@ -20,7 +20,7 @@ class CommandActions final : public QObject {
     using Run = std::function<void(authoring::Command command)>;
     using StateOf = std::function<authoring::ActionState(authoring::Command command)>;
 
-    CommandActions(QWidget* window, Run run);
+    CommandActions(QWidget* window, const Run& run);
 
     QAction* Of(authoring::Command command) const { return actions_.at(command); }
 

@@ -221,7 +221,8 @@ void MainWindow::MakeMenus() {
 }
 
 void MainWindow::MakeViewSwitches(QMenu& view) {
-    const auto add = [&](const char* name, const QString& text, QKeySequence key, const QString& kept) {
+    const auto add = [&](const char* name, const QString& text, const QKeySequence& key,
+                         const QString& kept) {
         QAction* action = view.addAction(text);
         action->setObjectName(name);
         action->setShortcut(key);
@@ -300,7 +301,7 @@ void MainWindow::MakeKeys() {
     tree_->setContextMenuPolicy(Qt::CustomContextMenu);
     QObject::connect(tree_, &QWidget::customContextMenuRequested, this,
                      [this](const QPoint& place) { AskTreeMenu(place); });
-    const auto add = [this](QKeySequence key, int direction) {
+    const auto add = [this](const QKeySequence& key, int direction) {
         auto* action = new QAction(this);
         action->setShortcut(key);
         QObject::connect(action, &QAction::triggered, this, [this, direction] { NextPane(direction); });

@@ -43,7 +43,7 @@ class RowsView final : public QTableView {
     /// A table calls its new cell the one with the keyboard. It is not while somebody walks in the tree.
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
         if (hasFocus()) return QTableView::currentChanged(current, previous);
-        QAbstractItemView::currentChanged(current, previous);
+        QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
     }
 };
 
