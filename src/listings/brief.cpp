@@ -30,11 +30,21 @@ constexpr std::array<BriefTable, 5> kTables = {{
 constexpr std::string_view kFormat = "!%A!%t10!%a";
 constexpr TextArea kArea{10, 70};
 
+constexpr std::string_view kUnknownUse = "Unknown";
+
+/// The use of a flag that nobody has described may say something.
 std::string_view FirstWithText(const store::PreparedQuery& rows, int texts) {
     for (int i = 1; i <= texts; ++i) {
-        if (!IsEmpty(rows.Text(i))) return rows.Text(i);
+        if (!IsEmpty(rows.Text(i)) && rows.Text(i) != kUnknownUse) return rows.Text(i);
     }
     return "";
+}
+
+/// The first line that is not blank.
+std::string FirstLine(std::string_view text) {
+    const std::vector<std::string> lines = WrappedText(text, kArea.width);
+    const auto first = std::ranges::find_if_not(lines, IsEmpty);
+    return first == lines.end() ? std::string() : *first;
 }
 
 }  // namespace
@@ -50,7 +60,7 @@ void WriteBrief(const Listing& listing, TableNum number) {
         const auto key = rows.Number(0);
         const Place place{number, static_cast<int>(key)};
         Record record(place);
-        record.Row(kFormat, {key, WrappedText(FirstWithText(rows, table->texts), kArea.width).front()});
+        record.Row(kFormat, {key, FirstLine(FirstWithText(rows, table->texts))});
         record.LinkTo(place, 0, std::to_string(key).size());
         listing.frame.Add(record.Take());
     }

@@ -26,10 +26,26 @@ constexpr std::size_t kPictureColumn = 6;
 constexpr std::size_t kNameColumns = 20;
 constexpr std::size_t kMostNameColumns = 255;
 
-/// Paper and ink take two digits where the headings leave room for three.
-std::string RecordFormat(std::size_t nameColumns) {
-    return "%s3!  !%a10!  !%s2!   !%s2!  !%a" + std::to_string(nameColumns) + "!   !%s3";
-}
+/// The columns of a picture's number; more for longer ones, in the whole listing.
+constexpr std::size_t kNumberColumns = 3;
+
+/// The columns that what is listed needs.
+struct Columns {
+    std::size_t number = kNumberColumns;
+    std::size_t name = kNameColumns;
+
+    /// Paper and ink take two digits where the headings leave room for three.
+    std::string Format() const {
+        return "%s" + std::to_string(number) + "!  !%a10!  !%s2!   !%s2!  !%a" + std::to_string(name) +
+               "!   !%s3";
+    }
+    std::vector<std::string> Headings() const {
+        return {
+            text::PadRight("Num", number) + "  Type       Paper Ink " +
+                text::PadRight("Picture Name", name) + " RoomNum",
+            std::string(number, '-') + "  ---------- ----- --- " + std::string(name, '-') + " --------"};
+    }
+};
 
 /// A command in a drawstring, by the number of its parameters.
 constexpr std::string_view kCommandFormats[] = {
@@ -46,7 +62,7 @@ std::size_t LastParameterColumn(std::size_t parameters) {
     return 10 + 7 * (parameters - 1);
 }
 
-void AddCommands(const Listing& listing, const pictures::CommandCatalogue& commands,
+void AddCommands(Record& record, const pictures::CommandCatalogue& commands,
                  const std::string& drawstring) {
     const std::vector<std::string> words = pictures::DrawstringWords(drawstring);
     for (std::size_t at = 0; at < words.size();) {
@@ -56,13 +72,11 @@ void AddCommands(const Listing& listing, const pictures::CommandCatalogue& comma
         std::vector<text::Value> values;
         for (std::size_t i = 0; i <= count; ++i)
             values.emplace_back(words[at + i]);
-        Record record;
         record.Row(kCommandFormats[count], std::move(values));
         const auto number = pictures::ParameterValue(words[at + count]);
         if (command && command->number == pictures::kGoSub && count == wanted && number)
             record.LinkTo({TableNum::Pictures, *number}, LastParameterColumn(count),
                           words[at + count].size());
-        listing.frame.Add(record.Take());
         at += 1 + count;
     }
 }
@@ -82,19 +96,19 @@ void AddDrawing(Record& record, const pictures::PictureBook& book, int number) {
     }
 }
 
-void AddPicture(const Listing& listing, const pictures::PictureBook& book, const std::string& format,
+void AddPicture(const Listing& listing, const pictures::PictureBook& book, const Columns& columns,
                 const store::PreparedQuery& row) {
     const int number = static_cast<int>(row.Number(0));
     const Place place{TableNum::Pictures, number};
     Record record(place);
-    record.Row(format, {row.Number(0), std::string(row.Text(1)), row.Number(2), row.Number(3),
-                        std::string(row.Text(4)), row.Number(5)});
+    record.Row(columns.Format(), {row.Number(0), std::string(row.Text(1)), row.Number(2), row.Number(3),
+                                  std::string(row.Text(4)), row.Number(5)});
     const std::string key = std::to_string(number);
-    record.LinkTo(place, key.size() < 3 ? 3 - key.size() : std::size_t{0}, key.size());
+    record.LinkTo(place, columns.number - key.size(), key.size());
     AddDrawing(record, book, number);
     record.Row("Graphics Picture Commands", {});
+    AddCommands(record, book.commands, std::string(row.Text(6)));
     listing.frame.Add(record.Take());
-    AddCommands(listing, book.commands, std::string(row.Text(6)));
 }
 
 bool IsAsked(const ReportRequest& request, std::int64_t number) {
@@ -102,27 +116,27 @@ bool IsAsked(const ReportRequest& request, std::int64_t number) {
     return !asked || std::ranges::find(*asked, number) != asked->end();
 }
 
-std::size_t NameColumns(store::Adventure& adventure, const ReportRequest& request) {
-    std::size_t columns = kNameColumns;
+Columns ColumnsFor(store::Adventure& adventure, const ReportRequest& request) {
+    Columns columns;
     store::PreparedQuery rows = adventure.Prepare(TableNum::Pictures, "locnum, picname", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        if (IsAsked(request, rows.Number(0))) columns = std::max(columns, text::Length(rows.Text(1)));
+        if (!IsAsked(request, rows.Number(0))) continue;
+        columns.number = std::max(columns.number, std::to_string(rows.Number(0)).size());
+        columns.name = std::max(columns.name, std::min(text::Length(rows.Text(1)), kMostNameColumns));
     }
-    return std::min(columns, kMostNameColumns);
+    return columns;
 }
 
 }  // namespace
 
 void WriteGraphics(const Listing& listing, const ReportRequest& request) {
     const pictures::PictureBook book = pictures::LoadPictureBook(listing.adventure);
-    const std::size_t names = NameColumns(listing.adventure, request);
-    listing.frame.Begin("Listing of Graphics Table",
-                        {"Num  Type       Paper Ink " + text::PadRight("Picture Name", names) + " RoomNum",
-                         "---  ---------- ----- --- " + std::string(names, '-') + " --------"});
+    const Columns columns = ColumnsFor(listing.adventure, request);
+    listing.frame.Begin("Listing of Graphics Table", columns.Headings());
     store::PreparedQuery rows = listing.adventure.Prepare(
         TableNum::Pictures, "locnum, loctype, locpaper, locink, picname, roompicnum, drawstring", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        if (IsAsked(request, rows.Number(0))) AddPicture(listing, book, RecordFormat(names), rows);
+        if (IsAsked(request, rows.Number(0))) AddPicture(listing, book, columns, rows);
     }
 }
 

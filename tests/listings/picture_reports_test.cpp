@@ -61,6 +61,29 @@ TEST_F(PictureReports, ColumnOfNamesIsAsWideAsTheLongest) {
               std::string::npos);
 }
 
+TEST_F(PictureReports, ColumnOfNumbersIsAsWideAsTheLongest) {
+    Picture(5, "END");
+    Picture(1000, "END");
+    const std::string listed = Listed(*adventure_, "graphics");
+    EXPECT_NE(listed.find("\nNum   Type       Paper"), std::string::npos) << listed;
+    EXPECT_NE(listed.find("\n   5  Picture "), std::string::npos) << listed;
+    EXPECT_NE(listed.find("\n1000  Picture "), std::string::npos) << listed;
+}
+
+TEST_F(PictureReports, APictureThatDoesNotFitBeginsOnANewPage) {
+    std::string commands;
+    for (int i = 0; i < 60; ++i)
+        commands += "INK 2 ";
+    Picture(5, "INK 2 END");
+    Picture(6, commands + "END");
+    const std::string listed = Listed(*adventure_, "graphics", {}, 60);
+    const std::size_t second = listed.find("  6  Picture");
+    ASSERT_NE(second, std::string::npos);
+    const std::size_t heading = listed.rfind("--- ----------", second);
+    ASSERT_NE(heading, std::string::npos) << listed;
+    EXPECT_GT(heading, listed.find("  5  Picture"));
+}
+
 TEST_F(PictureReports, PictureThatCannotBeDrawnTellsWhyAndListsItsCommands) {
     Picture(5, "GOSUB 0 99 END");
     const std::string listed = Listed(*adventure_, "graphics");

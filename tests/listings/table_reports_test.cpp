@@ -70,6 +70,22 @@ TEST_F(TableReports, BriefListingTellsTheFirstLineOfEachText) {
     EXPECT_EQ(Behind(listed, "------"), "1        First line.\n2        " + std::string(60, 'a') + "\n");
 }
 
+TEST_F(TableReports, BriefListingSkipsTheEmptyLinesThatATextBeginsWith) {
+    Empty(*adventure_, TableNum::Messages);
+    Message(1, "\u008C \u008CFirst words.\u008CSecond line.");
+    Message(2, "\u008C");
+    EXPECT_EQ(Behind(Listed(*adventure_, "messages", {.detail = Detail::Brief}), "------"),
+              "1        First words.\n2\n");
+}
+
+TEST_F(TableReports, BriefListingTellsTheUseOfAFlagOnlyWhereItIsKnown) {
+    Empty(*adventure_, TableNum::Flags);
+    Flag(7, "User", "Switch", " ");
+    Flag(8, "User", "Unknown", " ");
+    EXPECT_EQ(Behind(Listed(*adventure_, "flags", {.detail = Detail::Brief}), "------"),
+              "7        Switch\n8\n");
+}
+
 TEST_F(TableReports, BriefListingOfLocationsPrefersTheShortDescription) {
     Empty(*adventure_, TableNum::Locations);
     Location(1, "You are in a mill.", "", "", "Mill");
