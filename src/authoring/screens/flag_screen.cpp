@@ -20,6 +20,15 @@ std::vector<ListItem> Uses() {
 
 FlagScreen::FlagScreen(ScreenContext& context, ScreenKey key)
     : RecordScreen(context, store::TableNum::Flags, key, "flag"), type{Types()}, use{Uses()} {
+    ReadRecord();
+}
+
+void FlagScreen::GoTo(int key) {
+    SetKey(key);
+    ReadRecord();
+}
+
+void FlagScreen::ReadRecord() {
     const store::Cursor& record = OpenRecord();
     type.ChooseText(std::string(record.Text("flgtype")));
     use.ChooseText(std::string(record.Text("flguse")));

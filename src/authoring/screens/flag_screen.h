@@ -12,6 +12,9 @@ namespace fabula::authoring {
 class FlagScreen final : public RecordScreen {
   public:
     FlagScreen(ScreenContext& context, ScreenKey key);
+    /// Goes on to another record. For a screen in which nothing was typed, while the adventure is as it was
+    /// when the screen was made. Throws Error when the record is not there.
+    void GoTo(int key);
 
     DropList type;
     DropList use;
@@ -26,6 +29,7 @@ class FlagScreen final : public RecordScreen {
     bool UpdateFields() override;
 
   private:
+    void ReadRecord();
     std::vector<std::string> Typed() const;
 
     std::vector<std::string> opened_;  ///< what `Typed` gave at first

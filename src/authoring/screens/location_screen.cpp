@@ -89,9 +89,17 @@ LocationScreen::LocationScreen(ScreenContext& context, ScreenKey key)
         exitWord.items.begin(), exitWord.items.end(),
         [](const ListItem& a, const ListItem& b) { return ProbableRank(a) < ProbableRank(b); });
     exitPlace.items = LocationNames(Adventure());
-    ReadNeighbours();
-    if (!key.isNew) ReadRecord();
-    opened_ = Typed();
+    if (key.isNew) {
+        ReadNeighbours();
+        opened_ = Typed();
+    } else {
+        ReadRecord();
+    }
+}
+
+void LocationScreen::GoTo(int key) {
+    SetKey(key);
+    ReadRecord();
 }
 
 void LocationScreen::ReadRecord() {
@@ -100,9 +108,12 @@ void LocationScreen::ReadRecord() {
     shortDescription = ToEdited(record.Text("locshortdesc"));
     exits = record.Text("exits");
     picture = text::TrimBlanks(record.Text("picloc"));
+    ReadNeighbours();
+    opened_ = Typed();
 }
 
 void LocationScreen::ReadNeighbours() {
+    leadsHere_.clear();
     store::PreparedQuery rows =
         Adventure().Prepare(TableNum::Locations, "locnum, exits, numericexits", "numexits>0");
     const std::string here = std::to_string(Key().key);

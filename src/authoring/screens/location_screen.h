@@ -34,6 +34,9 @@ struct Neighbour {
 class LocationScreen final : public RecordScreen {
   public:
     LocationScreen(ScreenContext& context, ScreenKey key);
+    /// Goes on to another record. For a screen in which nothing was typed, while the adventure is as it was
+    /// when the screen was made. Throws Error when the record is not there.
+    void GoTo(int key);
 
     std::string description;  ///< with "\n" for line ends
     std::string shortDescription;
@@ -77,12 +80,12 @@ class LocationScreen final : public RecordScreen {
     bool UpdateFields() override;
 
   private:
+    void ReadRecord();
     struct Exit {
         const condacts::Word* word;  ///< the first of its number
         int location;
     };
 
-    void ReadRecord();
     void ReadNeighbours();
     bool HasPendingExit() const;
     void SplitTypedExit();

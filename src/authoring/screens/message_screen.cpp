@@ -84,6 +84,11 @@ void MessageScreen::Read() {
     comment_ = RecordComment(Adventure(), personality_.table, key_);
 }
 
+void MessageScreen::GoTo(int key) {
+    key_ = {.key = key};
+    Read();
+}
+
 void MessageScreen::TypeMessage(std::string text) {
     text_ = std::move(text);
     changed_ = true;

@@ -25,6 +25,9 @@ class MessageScreen {
     /// The record in the screen. One that is new is not in the table before it is stored.
     int Number() const { return key_.key; }
 
+    /// Goes on to another record of the table; for a screen in which nothing was typed.
+    void GoTo(int key);
+
     /// The text, with "\n" for line ends. Typing sets Changed, even if the text is then as it was.
     const std::string& Text() const { return text_; }
     void TypeMessage(std::string text);

@@ -77,8 +77,16 @@ ObjectScreen::ObjectScreen(ScreenContext& context, ScreenKey key)
     noun.ChooseNumber(condacts::kNoWordNumber);
     adjective.ChooseNumber(condacts::kNoWordNumber);
     room.items = LocationNames(Adventure());
-    if (!key.isNew) ReadRecord();
-    opened_ = Typed();
+    if (key.isNew) {
+        opened_ = Typed();
+    } else {
+        ReadRecord();
+    }
+}
+
+void ObjectScreen::GoTo(int key) {
+    SetKey(key);
+    ReadRecord();
 }
 
 void ObjectScreen::ReadRecord() {
@@ -91,9 +99,11 @@ void ObjectScreen::ReadRecord() {
     container = (attributes & kContainerBit) != 0;
     wearable = (attributes & kWearableBit) != 0;
     weight = std::to_string(record.Number("objweight"));
+    opened_ = Typed();
 }
 
 void ObjectScreen::ReadPlace(int place) {
+    room.text.clear();
     switch (place) {
         case place::kNotCreated.value:
             initialPlace = InitialPlace::NotCreated;

@@ -18,6 +18,9 @@ enum class InitialPlace { NotCreated, Worn, Carried, InRoom };
 class ObjectScreen final : public RecordScreen {
   public:
     ObjectScreen(ScreenContext& context, ScreenKey key);
+    /// Goes on to another record. For a screen in which nothing was typed, while the adventure is as it was
+    /// when the screen was made. Throws Error when the record is not there.
+    void GoTo(int key);
 
     std::string description;  ///< with "\n" for line ends
     DropList noun;            ///< nouns and reserved words, by number

@@ -29,16 +29,31 @@ std::string NumberText(std::int64_t number) {
 
 ProcessEntryScreen::ProcessEntryScreen(ScreenContext& context, const ScreenRequest& request)
     : RecordScreen(context, TableNum::ProcessTables, request.key, "process entry"), help_(Adventure()) {
-    recordKey = "Record Key: " + std::to_string(Key().key);
     ReadWords();
     for (const Completion& name : help_.Names())
         condAct.items.push_back({help_.Catalogue().Find(name.insert)->number, name.shown});
     OpenParameters(nullptr);
-    if (Key().isNew)
-        Propose(request);
-    else
-        ReadEntry(Key().key);
     help_.OfferNewMessage(NextMessage());
+    if (Key().isNew) {
+        Propose(request);
+        NoteOpened();
+    } else {
+        ReadRecord();
+    }
+}
+
+void ProcessEntryScreen::GoTo(int key) {
+    SetKey(key);
+    ReadRecord();
+}
+
+void ProcessEntryScreen::ReadRecord() {
+    ReadEntry(Key().key);
+    NoteOpened();
+}
+
+void ProcessEntryScreen::NoteOpened() {
+    recordKey = "Record Key: " + std::to_string(Key().key);
     openedType_ = process;
     opened_ = Typed();
 }

@@ -25,6 +25,9 @@ struct ParameterField {
 class ProcessEntryScreen final : public RecordScreen {
   public:
     ProcessEntryScreen(ScreenContext& context, const ScreenRequest& request);
+    /// Goes on to another record. For a screen in which nothing was typed, while the adventure is as it was
+    /// when the screen was made. Throws Error when the record is not there.
+    void GoTo(int key);
 
     std::string recordKey;  ///< "Record Key: 12"
     std::string process;    ///< the number of the process table
@@ -70,12 +73,14 @@ class ProcessEntryScreen final : public RecordScreen {
     bool UpdateFields() override;
 
   private:
+    void ReadRecord();
     struct VocabularyWord {
         int index;
         condacts::Word word;
     };
 
     std::vector<std::string> Typed() const;
+    void NoteOpened();
     void ReadWords();
     void ReadEntry(int canum);
     void Propose(const ScreenRequest& request);

@@ -11,6 +11,12 @@ RecordScreen::RecordScreen(ScreenContext& context, store::TableNum table, Screen
     if (!key_.isNew) OpenRecord();
 }
 
+void RecordScreen::SetKey(int key) {
+    key_ = {.key = key};
+    OpenRecord();
+    comment_ = RecordComment(Adventure(), table_, key_);
+}
+
 std::string RecordScreen::Criterion() const {
     return std::string(store::FindTable(table_)->key) + "=" + std::to_string(key_.key);
 }

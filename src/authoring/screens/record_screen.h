@@ -33,6 +33,9 @@ class RecordScreen : public EditScreen {
     RecordScreen(ScreenContext& context, store::TableNum table, ScreenKey key, std::string_view noun);
     ~RecordScreen() = default;
 
+    /// Another record of the table is the one that is edited from now on. Throws Error when it is not
+    /// there.
+    void SetKey(int key);
     /// The table's cursor on the record that is edited. Throws Error when it has gone.
     store::Cursor& OpenRecord() const;
     /// The table's cursor on the record that Update writes, with its comment: the same, or a new one with

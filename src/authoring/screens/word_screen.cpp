@@ -27,9 +27,17 @@ constexpr std::string_view kHelp =
 
 WordScreen::WordScreen(ScreenContext& context, ScreenKey key)
     : RecordScreen(context, TableNum::Vocabulary, key, "word") {
-    if (IsMarlo()) type = condacts::kNoun;
-    if (!key.isNew) ReadRecord();
-    opened_ = Typed();
+    if (key.isNew) {
+        if (IsMarlo()) type = condacts::kNoun;
+        opened_ = Typed();
+    } else {
+        ReadRecord();
+    }
+}
+
+void WordScreen::GoTo(int key) {
+    SetKey(key);
+    ReadRecord();
 }
 
 void WordScreen::ReadRecord() {
@@ -39,9 +47,12 @@ void WordScreen::ReadRecord() {
     number = std::to_string(record.Number("vocnum"));
     const std::int64_t stored = record.Number("voctypen");
     typeBefore_ = static_cast<int>(stored);
+    type.reset();
+    if (IsMarlo()) type = condacts::kNoun;
     if (stored >= condacts::kVerb && stored <= condacts::kPronoun) {
         type = static_cast<condacts::WordType>(stored);
     }
+    opened_ = Typed();
 }
 
 std::string_view WordScreen::Help() const {

@@ -16,6 +16,9 @@ class WordScreen final : public RecordScreen {
   public:
     /// A new word takes the context's `nextWord` for its key.
     WordScreen(ScreenContext& context, ScreenKey key);
+    /// Goes on to another record. For a screen in which nothing was typed, while the adventure is as it was
+    /// when the screen was made. Throws Error when the record is not there.
+    void GoTo(int key);
 
     std::string word;
     std::string number;

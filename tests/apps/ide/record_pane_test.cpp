@@ -1,8 +1,16 @@
+#include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTableView>
+#include <QTextEdit>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -184,6 +192,87 @@ TEST_F(RecordPaneTest, ARuleShowsOneConditionOrActionToALine) {
     EXPECT_EQ(qt::FromQt(explained.item(0)->text()), "AT 0    The hall");
     EXPECT_EQ(qt::FromQt(explained.item(1)->text()), "MESSAGE 1    \u201CIt is dark.\u201D");
     EXPECT_NE(explained.item(0)->foreground(), explained.item(1)->foreground());
+}
+
+/// What all the fields of the pane show, in their order.
+QStringList ShownIn(const QWidget& pane) {
+    QStringList shown;
+    for (const auto* part : pane.findChildren<QWidget*>()) {
+        if (part->window() != pane.window()) continue;  // a list that opens
+        if (const auto* window = qobject_cast<const QDialog*>(part)) shown << window->windowTitle();
+        if (const auto* label = qobject_cast<const QLabel*>(part)) shown << label->text();
+        if (const auto* line = qobject_cast<const QLineEdit*>(part)) shown << line->text();
+        if (const auto* text = qobject_cast<const QPlainTextEdit*>(part)) shown << text->toPlainText();
+        if (const auto* text = qobject_cast<const QTextEdit*>(part)) shown << text->toPlainText();
+        if (const auto* list = qobject_cast<const QComboBox*>(part)) shown << list->currentText();
+        if (const auto* tick = qobject_cast<const QAbstractButton*>(part))
+            shown << (tick->isChecked() ? "on" : "off");
+        if (const auto* view = qobject_cast<const QAbstractItemView*>(part)) {
+            for (int row = 0; view->model() && row < view->model()->rowCount(); ++row) {
+                for (int column = 0; column < view->model()->columnCount(); ++column)
+                    shown << view->model()->index(row, column).data().toString();
+            }
+        }
+        shown << (part->isEnabled() ? "+" : "-");
+    }
+    return shown;
+}
+
+TEST_F(RecordPaneTest, ShowsTheNextRecordAsIfItHadBeenMadeForIt) {
+    window_.Open(GameBuilder(AdventureKind::Fabula)
+                     .Graphics()
+                     .Word("NORTH", 2, 2)
+                     .Word("LAMP", 60, 2)
+                     .Word("BOX", 61, 2)
+                     .Word("RED", 40, 3)
+                     .Location(0, "The hall.\u008CIt is wide.", "Hall")
+                     .Location(1, std::string(300, 'x') + " <faulty")
+                     .Location(2, "The yard.", "Yard")
+                     .Exit(0, 2, 1)
+                     .Exit(1, 2, 2)
+                     .PictureOf(0, "hall.png")
+                     .Message(0, "The lamp is lit.")
+                     .Message(1, "It is\u008Cdark.")
+                     .SystemMessage(7, "What now?")
+                     .Object(0, {.description = "a red lamp", .place = 1, .noun = "LAMP"})
+                     .Object(1, {.description = "a box", .place = 254, .noun = "BOX"})
+                     .Object(2, {.description = "nothing", .place = 252})
+                     .Entry(0, "_", "_", "AT 0 MESSAGE 1")
+                     .Entry(0, "_", "LAMP", "DESC")
+                     .Entry(0, "NORTH", "BOX", "SET 62 LET 63 5"));
+    for (const char* table :
+         {"Locations", "Objects", "Messages", "System Messages", "Response (P0)", "Flags"}) {
+        window_.GoToTable(table);
+        if (table == std::string_view("Flags")) window_.GoToRow("62");
+        for (int pane = 0; pane < 4 && Focus() != "Grid"; ++pane)
+            Press(Qt::Key_F6);
+        auto& grid = window_.Part<QTableView>("Grid");
+        const int last = std::min(grid.model()->rowCount() - 1, grid.currentIndex().row() + 4);
+        EXPECT_GT(last, grid.currentIndex().row()) << table;
+        for (const int key : {Qt::Key_Down, Qt::Key_Up}) {
+            while (grid.currentIndex().row() != (key == Qt::Key_Down ? last : std::max(last - 4, 0))) {
+                const QDialog* const before = Pane().findChild<QDialog*>();
+                Press(key);
+                EXPECT_EQ(Pane().findChild<QDialog*>(), before) << table << grid.currentIndex().row();
+                const QStringList gone = ShownIn(Pane());
+                Press(Qt::Key_F9);
+                Press(Qt::Key_F9);
+                EXPECT_EQ(ShownIn(Pane()), gone) << table << grid.currentIndex().row();
+            }
+        }
+    }
+}
+
+TEST_F(RecordPaneTest, ARecordThatWasTouchedIsNotGoneOnWith) {
+    window_.GoToTable("Messages");
+    window_.GoToRow("0");
+    const QPointer<QDialog> touched = Pane().findChild<QDialog*>();
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Focus(), "Grid");
+    Press(Qt::Key_Down);
+    EXPECT_TRUE(touched.isNull());
+    EXPECT_EQ(Shown(), "It is dark.");
 }
 
 TEST_F(RecordPaneTest, StandsThereForPlacesObjectsAndFlagsToo) {

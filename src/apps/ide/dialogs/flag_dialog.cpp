@@ -21,6 +21,13 @@ FlagDialog::FlagDialog(authoring::FlagScreen& screen, QWidget* parent)
     CheckOnLeave(description_, [this] { return screen_.LeaveDescription(); });
 }
 
+void FlagDialog::ShowOpened() {
+    setWindowTitle(tr("Flag %1").arg(screen_.Key().key));
+    type_->setCurrentIndex(screen_.type.index);
+    use_->setCurrentIndex(screen_.use.index);
+    description_->setPlainText(qt::ToQt(screen_.description));
+}
+
 void FlagDialog::Read() {
     screen_.type.index = type_->currentIndex();
     screen_.use.index = use_->currentIndex();

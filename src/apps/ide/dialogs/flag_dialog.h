@@ -16,6 +16,7 @@ class FlagDialog final : public RecordDialog {
   protected:
     void Read() override;
     void Show() override {}
+    void ShowOpened() override;
     bool Update() override { return screen_.Update(); }
 
   private:

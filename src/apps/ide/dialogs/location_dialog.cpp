@@ -204,16 +204,21 @@ void LocationDialog::ShowPicture() {
 
 void LocationDialog::AddNeighbours() {
     auto* list = new QListWidget;
-    for (const authoring::Neighbour& from : screen_.LeadsHere()) {
-        list->addItem(
-            tr("%1 - %2, by %3").arg(from.location).arg(qt::ToQt(from.name), qt::ToQt(from.word)));
-    }
-    if (screen_.LeadsHere().empty()) list->addItem(tr("No exit leads here."));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
     list->setMaximumHeight(5 * list->fontMetrics().lineSpacing());
     AddControl(tr("Leads &here:"), list, "leadsHere");
     neighbours_ = list;
+    ShowNeighbours();
+}
+
+void LocationDialog::ShowNeighbours() {
+    neighbours_->clear();
+    for (const authoring::Neighbour& from : screen_.LeadsHere()) {
+        neighbours_->addItem(
+            tr("%1 - %2, by %3").arg(from.location).arg(qt::ToQt(from.name), qt::ToQt(from.word)));
+    }
+    if (screen_.LeadsHere().empty()) neighbours_->addItem(tr("No exit leads here."));
 }
 
 std::optional<authoring::NamedRecord> LocationDialog::NamedAtCursor() {
@@ -305,6 +310,16 @@ void LocationDialog::Read() {
     screen_.exitWord.text = qt::FromQt(word_->currentText());
     screen_.exitPlace.text = LocationTyped(*location_);
     screen_.andBack = andBack_->isChecked();
+}
+
+void LocationDialog::ShowOpened() {
+    setWindowTitle(tr("Location %1").arg(screen_.Key().key));
+    shortDescription_->SetText(screen_.shortDescription);
+    description_->SetText(screen_.description);
+    picture_->setText(qt::ToQt(screen_.picture));
+    pictureView_->Show(screen_.Adventure().GameDir(), screen_.picture);
+    ShowDrawing();
+    ShowNeighbours();
 }
 
 void LocationDialog::Show() {

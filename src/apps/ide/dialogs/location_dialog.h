@@ -28,12 +28,14 @@ class LocationDialog final : public RecordDialog {
     bool eventFilter(QObject* receiver, QEvent* event) override;
     void Read() override;
     void Show() override;
+    void ShowOpened() override;
     bool Update() override { return screen_.Update(); }
 
   private:
     void AddExits();
     void AddPicture();
     void AddNeighbours();
+    void ShowNeighbours();
     void ReadRows();
     void ShowPicture();
     void ShowDrawing();

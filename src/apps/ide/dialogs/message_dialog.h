@@ -34,6 +34,7 @@ class MessageDialog final : public QDialog, public RecordEditor {
     bool HasChanges() override { return screen_.Changed(); }
     void Store() override { ClickUpdate(); }
     void StandBeside() override;
+    void ShowRecord() override;
 
   private:
     void AddMoves(QHBoxLayout& row);
@@ -41,7 +42,6 @@ class MessageDialog final : public QDialog, public RecordEditor {
     void Move(int step);
     void Leave();
     void ClickUpdate();
-    void ShowRecord();
 
     authoring::MessageScreen& screen_;
     platform::Dialogs& dialogs_;

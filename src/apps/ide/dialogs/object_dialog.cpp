@@ -136,6 +136,14 @@ void ObjectDialog::ReadNoun() {
     if (screen_.noun.Chosen() == nullptr) screen_.newNoun = qt::FromQt(typed);
 }
 
+void ObjectDialog::ShowOpened() {
+    setWindowTitle(tr("Object %1").arg(screen_.Key().key));
+    description_->SetText(screen_.description);
+    noun_->setCurrentIndex(screen_.noun.index);
+    adjective_->setCurrentIndex(screen_.adjective.index);
+    ShowLocation(*room_, screen_.room.text);
+}
+
 void ObjectDialog::Show() {
     if (screen_.initialPlace) places_->button(static_cast<int>(*screen_.initialPlace))->setChecked(true);
     const QString word =

@@ -25,6 +25,7 @@ class ObjectDialog final : public RecordDialog {
   protected:
     void Read() override;
     void Show() override;
+    void ShowOpened() override;
     bool Update() override { return screen_.Update(); }
 
   private:

@@ -75,16 +75,16 @@ ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QW
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll, 1);
-    auto* comment = new CommentEdit(*screen.Comment(), *this);
-    comment->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin / 2);
-    whole->addWidget(comment);
+    comment_ = new CommentEdit(*screen.Comment(), *this);
+    comment_->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin / 2);
+    whole->addWidget(comment_);
     QLayout* buttons = BuildButtons();
     whole->addLayout(buttons);
     Show();
     focus_ = connect(qApp, &QApplication::focusChanged, this,
                      [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
     const int moreLines = kMoreLines * line_->fontMetrics().lineSpacing();
-    const QSize wanted(kDefaultWidth, form->heightForWidth(kDefaultWidth) + comment->sizeHint().height() +
+    const QSize wanted(kDefaultWidth, form->heightForWidth(kDefaultWidth) + comment_->sizeHint().height() +
                                           buttons->sizeHint().height() + moreLines);
     resize(wanted.boundedTo(QWidget::screen()->availableSize() * 9 / 10));
 }
@@ -146,9 +146,9 @@ QLayout* ProcessEntryDialog::BuildEntry() {
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(12);
     form->setVerticalSpacing(10);
-    auto* key = new QLabel(qt::Translated(screen_.recordKey), this);
-    key->setObjectName("recordKey");
-    form->addRow(key);
+    key_ = new QLabel(qt::Translated(screen_.recordKey), this);
+    key_->setObjectName("recordKey");
+    form->addRow(key_);
     type_ = new QLineEdit(this);
     type_->setObjectName("process");
     type_->setAccessibleName(tr("Process table number"));
@@ -292,6 +292,14 @@ void ProcessEntryDialog::Show() {
     if (line == line_->toPlainText()) return;
     line_->setPlainText(line);
     line_->moveCursor(QTextCursor::End);
+}
+
+void ProcessEntryDialog::ShowRecord() {
+    key_->setText(qt::Translated(screen_.recordKey));
+    word1_->setCurrentIndex(screen_.verb.index);
+    word2_->setCurrentIndex(screen_.noun.index);
+    Show();
+    comment_->Show();
 }
 
 /// One condition or action to a line, coloured by kind, with what it means.

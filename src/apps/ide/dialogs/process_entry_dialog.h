@@ -17,6 +17,7 @@ class QPushButton;
 
 namespace fabula::ide {
 
+class CommentEdit;
 class CondActEdit;
 
 /// The window of the process entry editor. It shows the fields of `screen`, gives them back when they are
@@ -35,6 +36,7 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     bool HasChanges() override;
     void Store() override { Update(); }
     bool CloseList() override;
+    void ShowRecord() override;
     std::optional<authoring::NamedRecord> NamedAtCursor() override;
 
   protected:
@@ -69,6 +71,7 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     void Update();
 
     authoring::ProcessEntryScreen& screen_;
+    QLabel* key_ = nullptr;
     QLineEdit* type_ = nullptr;
     QComboBox* word1_ = nullptr;
     QComboBox* word2_ = nullptr;
@@ -77,6 +80,7 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     ParameterWidgets param2_{};
     CondActEdit* line_ = nullptr;
     QListWidget* explained_ = nullptr;
+    CommentEdit* comment_ = nullptr;
     QLabel* meaning_ = nullptr;
     QLabel* fault_ = nullptr;
     QPushButton* add_ = nullptr;

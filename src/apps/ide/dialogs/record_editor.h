@@ -17,6 +17,8 @@ class RecordEditor {
     virtual bool CloseList() { return false; }
     /// The record that the token at the cursor names; nullopt where there is none.
     virtual std::optional<authoring::NamedRecord> NamedAtCursor() { return std::nullopt; }
+    /// Shows the record that its screen has gone on to, as if it had been made for it.
+    virtual void ShowRecord() = 0;
     /// It stands in a pane from now on: what goes to other records is the business of the rows.
     virtual void StandBeside() {}
 

@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -71,6 +72,14 @@ void ScreenDialog::setVisible(bool visible) {
 void ScreenDialog::reject() {
     Read();
     if (MayClose(edited_.Changed(), edited_.Dialogs(), [this] { ClickUpdate(); })) QDialog::reject();
+}
+
+void ScreenDialog::ShowRecord() {
+    ShowOpened();
+    Show();
+    if (comment_ != nullptr) comment_->Show();
+    for (const auto* scroll : findChildren<QScrollArea*>())
+        scroll->verticalScrollBar()->setValue(0);
 }
 
 bool ScreenDialog::HasChanges() {

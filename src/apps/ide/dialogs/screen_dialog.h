@@ -26,6 +26,7 @@ class ScreenDialog : public QDialog, public RecordEditor {
 
     bool HasChanges() override;
     void Store() override { ClickUpdate(); }
+    void ShowRecord() override;
 
   protected:
     /// `screen` outlives the dialog.
@@ -46,6 +47,8 @@ class ScreenDialog : public QDialog, public RecordEditor {
     virtual void Read() = 0;
     /// Shows what the screen changed by itself.
     virtual void Show() = 0;
+    /// Shows what stays while one record is edited: its texts, and what is said about it.
+    virtual void ShowOpened() {}
     virtual bool Update() = 0;
 
   private:

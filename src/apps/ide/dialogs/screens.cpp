@@ -36,6 +36,10 @@ class Record final : public OpenedRecord {
         : screen_(context, key), dialog_(screen_, parent) {}
     QDialog& Dialog() override { return dialog_; }
     RecordEditor& Editor() override { return dialog_; }
+    void GoTo(int key) override {
+        screen_.GoTo(key);
+        dialog_.ShowRecord();
+    }
 
   private:
     Logic screen_;
@@ -50,6 +54,10 @@ class TextRecord final : public OpenedRecord {
           dialog_(screen_, editing_, context.dialogs, parent) {}
     QDialog& Dialog() override { return dialog_; }
     RecordEditor& Editor() override { return dialog_; }
+    void GoTo(int key) override {
+        screen_.GoTo(key);
+        dialog_.ShowRecord();
+    }
 
   private:
     authoring::MessageScreen screen_;

@@ -29,6 +29,9 @@ class OpenedRecord {
     virtual ~OpenedRecord() = default;
     virtual QDialog& Dialog() = 0;
     virtual RecordEditor& Editor() = 0;
+    /// Goes on to another record of the same table: for a dialog that nobody has touched, while the
+    /// adventure is as it was. Throws fabula::Error when the record can't be read.
+    virtual void GoTo(int key) = 0;
 };
 
 /// Opens the screen of a record of which a pane is to show the dialog; nullptr for settings, pictures and

@@ -74,13 +74,17 @@ QComboBox* NewLocationList(const authoring::ComboBox& box) {
     list->setMinimumContentsLength(kShortestList);
     for (const authoring::ListItem& item : box.items)
         list->addItem(QString("%1 - %2").arg(item.number).arg(qt::ToQt(item.text)), item.number);
-    bool numeric = false;
-    const int number = qt::ToQt(box.text).toInt(&numeric);
-    const int index = numeric ? list->findData(number) : -1;
-    list->setCurrentIndex(index);
-    if (index < 0) list->setEditText(qt::ToQt(box.text));
-    list->lineEdit()->setCursorPosition(0);
+    ShowLocation(*list, box.text);
     return list;
+}
+
+void ShowLocation(QComboBox& list, const std::string& text) {
+    bool numeric = false;
+    const int number = qt::ToQt(text).toInt(&numeric);
+    const int index = numeric ? list.findData(number) : -1;
+    list.setCurrentIndex(index);
+    if (index < 0) list.setEditText(qt::ToQt(text));
+    list.lineEdit()->setCursorPosition(0);
 }
 
 std::string LocationTyped(const QComboBox& list) {

@@ -32,8 +32,9 @@ QComboBox* NewDropList(const authoring::DropList& list);
 QComboBox* NewChoice(const authoring::DropList& list);
 
 /// An editable list of locations, shown as "5 - The cellar"; `LocationTyped` gives the number of the line
-/// that is shown, or what was typed.
+/// that is shown, or what was typed. `ShowLocation` shows another one, given as the screen holds it.
 QComboBox* NewLocationList(const authoring::ComboBox& box);
+void ShowLocation(QComboBox& list, const std::string& text);
 std::string LocationTyped(const QComboBox& list);
 
 }  // namespace fabula::ide

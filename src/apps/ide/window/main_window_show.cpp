@@ -64,6 +64,7 @@ void MainWindow::ShowChanges() {
     tableMenu_->setEnabled(open);
     columns_->setEnabled(open);
     ShowRecent();
+    beside_->Outdate();
     ShowRow();
     if (ide_.MustExit()) close();
 }

@@ -52,6 +52,9 @@ RecordPane::RecordPane(Events events, QWidget* parent) : QWidget(parent), events
     setObjectName("RecordPane");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
+        if (now && isAncestorOf(now)) isTouched_ = true;
+    });
 }
 
 RecordPane::~RecordPane() = default;
@@ -62,17 +65,32 @@ QSize RecordPane::sizeHint() const {
 
 void RecordPane::Show(const std::optional<authoring::ScreenRequest>& request,
                       authoring::ScreenContext* context, bool keepsRoom) {
-    record_.reset();
+    const bool goesOn = GoesOnTo(request);
+    if (!goesOn) record_.reset();
     request_ = request;
     context_ = context;
     if (request_) {
         try {
-            record_ = OpenRecord(*request_, *context_);
+            goesOn ? record_->GoTo(request_->key.key) : Make();
         } catch (const Error& error) {
+            record_.reset();
             context_->dialogs.Tell(error.what(), "Error");
         }
     }
     setVisible(record_ != nullptr || (keepsRoom && isVisible()));
+}
+
+/// What somebody has touched may hold more than fields: a list that was begun, a check that is to come.
+bool RecordPane::GoesOnTo(const std::optional<authoring::ScreenRequest>& request) const {
+    if (!record_ || !request || isOutdated_ || isTouched_) return false;
+    return request->screen == request_->screen && request->table == request_->table &&
+           !record_->Editor().HasChanges();
+}
+
+void RecordPane::Make() {
+    record_ = OpenRecord(*request_, *context_);
+    isOutdated_ = false;
+    isTouched_ = false;
     if (record_) Settle();
 }
 

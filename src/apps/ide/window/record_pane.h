@@ -26,9 +26,12 @@ class RecordPane final : public QWidget {
     ~RecordPane() override;
 
     /// Shows a record as it is in the tables; nothing for nullopt. What was typed into the one before is
-    /// dropped. With `keepsRoom` it then stays where it is, empty.
+    /// dropped. With `keepsRoom` it then stays where it is, empty. A record that nobody has touched makes
+    /// way in its own dialog for the next one of its table, unless `Outdate` was called.
     void Show(const std::optional<authoring::ScreenRequest>& request, authoring::ScreenContext* context,
               bool keepsRoom = false);
+    /// The tables have changed, or are another adventure's: no dialog goes on with what it has read.
+    void Outdate() { isOutdated_ = true; }
     /// Whether it shows a record.
     bool HasRecord() const { return record_ != nullptr; }
     /// The record that the token at the cursor names, while the keyboard is in the pane.
@@ -47,6 +50,8 @@ class RecordPane final : public QWidget {
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
   private:
+    bool GoesOnTo(const std::optional<authoring::ScreenRequest>& request) const;
+    void Make();
     void Settle();
     void Escape();
     void Finished();
@@ -55,6 +60,8 @@ class RecordPane final : public QWidget {
     std::optional<authoring::ScreenRequest> request_;
     authoring::ScreenContext* context_ = nullptr;
     std::unique_ptr<OpenedRecord> record_;
+    bool isOutdated_ = true;
+    bool isTouched_ = false;  ///< the keyboard was in the record
     bool leaving_ = false;
     bool accepted_ = false;
 };
