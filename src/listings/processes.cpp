@@ -1,5 +1,6 @@
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "condacts/word_filters.h"
@@ -65,6 +66,8 @@ void AddEntry(const Listing& listing, const ConditionTexts& texts, const store::
     }
     listing.frame.Add(record.Take());
 }
+
+constexpr std::size_t kColumnHeadings = 2;  ///< the heads and the rule
 
 /// The description of a process table, in lines of the page.
 std::vector<std::string> DescriptionOf(store::Adventure& adventure, int process) {
@@ -145,8 +148,12 @@ void WriteVerbAndNoun(const Listing& listing, const ReportRequest& request) {
     const bool verbose = request.detail == Detail::Verbose;
     const ConditionTexts texts(listing.adventure, verbose);
     for (const int process : AskedTables(listing, request, words)) {
-        listing.frame.Begin("Listing of Specific Verb/Noun",
-                            HeadingsOf(listing.adventure, process, verbose));
+        std::vector<std::string> headings = HeadingsOf(listing.adventure, process, verbose);
+        // The title does not tell which table is listed, nor does a description that says nothing.
+        if (IsEmpty(headings.front())) headings.erase(headings.begin());
+        if (headings.size() == kColumnHeadings)
+            headings.insert(headings.begin(), "Process Table " + std::to_string(process));
+        listing.frame.Begin("Listing of Specific Verb/Noun", std::move(headings));
         WriteEntries(listing, texts, "estype=" + std::to_string(process) + words, verbose);
     }
 }

@@ -131,6 +131,18 @@ TEST_F(ProcessReports, SpecialListingTakesTheEntriesOfAVerbAndANoun) {
     EXPECT_EQ(listed.find("DONE"), std::string::npos);
 }
 
+TEST_F(ProcessReports, SpecialListingNamesATableThatHasNoDescription) {
+    Entry(0, "DESC");
+    AddRecord(*adventure_, TableNum::ProcDesc,
+              {{"pmsgnum", std::int64_t{7}}, {"pmsgmsg", std::string(" ")}});
+    Entry(7, "DONE");
+    Entry(9, "DONE");
+    const std::string listed = Listed(*adventure_, "verb-noun", {.verb = "get", .noun = "lamp"});
+    EXPECT_EQ(listed.find("Process Table 0"), std::string::npos) << listed;
+    EXPECT_NE(listed.find("\n\nProcess Table 7\nVerb "), std::string::npos) << listed;
+    EXPECT_NE(listed.find("\n\nProcess Table 9\nVerb "), std::string::npos) << listed;
+}
+
 TEST_F(ProcessReports, NounThatMeansAnyTakesTheEntriesOfBothSuchWords) {
     Entry(0, "DESC");
     Entry(0, "DONE", 20, 255, "_");
