@@ -7,7 +7,7 @@ namespace fabula::test {
 namespace {
 
 /// The player is at 1 with object 1 carried, 2 worn, 3 here, 4 at location 2 and 5 not created.
-GameBuilder World() {
+GameBuilder PlacesAndThings() {
     GameBuilder game;
     game.Setting("startloc", 1);
     game.Object(0, {.place = 252}).Object(1, {.place = 254}).Object(2, {.place = 253});
@@ -16,7 +16,7 @@ GameBuilder World() {
 }
 
 bool Holds(const std::string& conditions) {
-    return World().Holds(conditions);
+    return PlacesAndThings().Holds(conditions);
 }
 
 TEST(At, HoldsAtTheLocation) {

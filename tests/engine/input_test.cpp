@@ -11,7 +11,7 @@ using engine::Waiting;
 using std::chrono::milliseconds;
 using store::AdventureKind;
 
-GameBuilder World() {
+GameBuilder InputWorld() {
     GameBuilder game;
     game.Message(1, "Done.").Entry(0, "DO", "_", "MES 1");
     return game;
@@ -25,14 +25,14 @@ void Press(GameRun& run, std::string_view keys) {
 // Keys
 
 TEST(Key, IsShownInUpperCaseWithTheCursorBehind) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     Press(*run, "dO");
     EXPECT_EQ(run->window.typed, "DO");
     EXPECT_EQ(run->window.cursor, "_");
 }
 
 TEST(Key, EnterRunsTheLine) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->Said();
     Press(*run, "do");
     run->engine.Key(Engine::kEnter);
@@ -41,7 +41,7 @@ TEST(Key, EnterRunsTheLine) {
 }
 
 TEST(Key, EnterOnAnEmptyLineDoesNothing) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->Said();
     run->engine.Key(Engine::kEnter);
     EXPECT_EQ(run->Said(), "");
@@ -50,41 +50,41 @@ TEST(Key, EnterOnAnEmptyLineDoesNothing) {
 }
 
 TEST(Key, BackspaceTakesTheLastCharacterAway) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     Press(*run, "dox");
     run->engine.Key(Engine::kBackspace);
     EXPECT_EQ(run->window.typed, "DO");
 }
 
 TEST(Key, BackspaceTakesAWholeCharacterOfSeveralBytes) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->engine.Key(U'Ä');
     run->engine.Key(Engine::kBackspace);
     EXPECT_EQ(run->window.typed, "");
 }
 
 TEST(Key, BackspaceInAnEmptyLineChangesNothing) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->engine.Key(Engine::kBackspace);
     EXPECT_EQ(run->window.typed, "");
     EXPECT_EQ(run->Type("DO").substr(run->Said().size()), "Room 0?\nDone.");
 }
 
 TEST(Key, OnlyLettersAToZBecomeCapitals) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->engine.Key(U'ä');
     Press(*run, "z{");
     EXPECT_EQ(run->window.typed, "äZ{");
 }
 
 TEST(Key, ControlCharactersAreNoKeys) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     Press(*run, "\t\x1b");
     EXPECT_EQ(run->window.typed, "");
 }
 
 TEST(Key, ALineHasALimit) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     for (int i = 0; i < 10000; ++i)
         run->engine.Key(U'x');
     EXPECT_EQ(run->window.typed.size(), 4096U);
@@ -92,7 +92,7 @@ TEST(Key, ALineHasALimit) {
 
 TEST(Key, OfAnAnswerGoesToTheAnswer) {
     const auto run =
-        World().Message(2, "Sure?").Word("ASK", 101, 0).Entry(0, "ASK", "_", "YESNO 2 MES 1").Start();
+        InputWorld().Message(2, "Sure?").Word("ASK", 101, 0).Entry(0, "ASK", "_", "YESNO 2 MES 1").Start();
     run->Type("ASK");
     Press(*run, "y");
     EXPECT_EQ(run->window.typed, "Y");
@@ -109,7 +109,7 @@ TEST(Key, OfAMarloGameShowsNoCursor) {
 }
 
 TEST(Key, BeforeAGameRunsIsIgnored) {
-    const auto run = World().Do("END");
+    const auto run = InputWorld().Do("END");
     run->engine.EnterLine("N");
     run->engine.Key(U'x');
     run->engine.EnterLine("DO");
@@ -118,13 +118,13 @@ TEST(Key, BeforeAGameRunsIsIgnored) {
 }
 
 TEST(EnterLine, RunsALineAsIfItWereTyped) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->Said();
     EXPECT_EQ(run->Type("do"), "Done.");
 }
 
 TEST(EnterLine, TakesTheCharactersThatKeysCouldHaveTyped) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->Said();
     EXPECT_EQ(run->Type("d\x01o\t\r\n"), "Done.");
 }
@@ -133,7 +133,7 @@ TEST(EnterLine, TakesTheCharactersThatKeysCouldHaveTyped) {
 
 /// A game whose time-out is 2 units from the start, and which tells a turn that it brought.
 GameBuilder Timed() {
-    GameBuilder game = World();
+    GameBuilder game = InputWorld();
     game.Message(2, "You doze. ");
     game.Entry(1, "_", "_", "TIME 2 4").Entry(2, "_", "_", "TIMEOUT MES 2");
     return game;
@@ -190,7 +190,7 @@ TEST(TimeOutTick, StopsWhenALineIsEntered) {
 }
 
 TEST(TimeOutTick, WithoutARunningTimeOutIsIgnored) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->Said();
     run->engine.TimeOutTick();
     EXPECT_EQ(run->Said(), "");
@@ -224,7 +224,7 @@ TEST(TimeOutTick, AfterALineThatIsEnteredLaterTheAnswerIsNotMessage35) {
 }
 
 TEST(TimeOutTick, OfAStateLoadedWithoutTimeUsesFlag48) {
-    const auto run = World().Start();
+    const auto run = InputWorld().Start();
     run->SetFlag(48, 3);
     run->SetFlag(49, 4);
     run->Type("DO");

@@ -8,8 +8,8 @@ namespace {
 using store::AdventureKind;
 
 constexpr int kNotCreated = 252;
-constexpr int kWorn = 253;
-constexpr int kCarried = 254;
+constexpr int kWornPlace = 253;
+constexpr int kCarriedPlace = 254;
 
 /// A game with object 1 as given; object 0 is nowhere.
 GameBuilder With(ObjectSpec object, AdventureKind kind = AdventureKind::Fabula) {
@@ -25,7 +25,7 @@ GameBuilder With(ObjectSpec object, AdventureKind kind = AdventureKind::Fabula) 
 TEST(Get, CarriesAnObjectThatIsHere) {
     const auto run = With({.place = 0}).Do("GET 1");
     EXPECT_EQ(run->Said(), "(36)");
-    EXPECT_EQ(run->PlaceOf(1), kCarried);
+    EXPECT_EQ(run->PlaceOf(1), kCarriedPlace);
     EXPECT_EQ(run->Flag(1), 1);
 }
 
@@ -39,8 +39,8 @@ TEST(Get, TellsOfTheObjectInFlags51To57) {
 }
 
 TEST(Get, RefusesAnObjectInHand) {
-    EXPECT_EQ(With({.place = kCarried}).Do("GET 1")->Said(), "(25)");
-    EXPECT_EQ(With({.place = kWorn}).Do("GET 1")->Said(), "(25)");
+    EXPECT_EQ(With({.place = kCarriedPlace}).Do("GET 1")->Said(), "(25)");
+    EXPECT_EQ(With({.place = kWornPlace}).Do("GET 1")->Said(), "(25)");
 }
 
 TEST(Get, RefusesAnObjectElsewhere) {
@@ -49,21 +49,21 @@ TEST(Get, RefusesAnObjectElsewhere) {
 
 TEST(Get, RefusesWhatIsTooHeavyWithWhatIsCarriedAndWorn) {
     GameBuilder game = With({.place = 0, .weight = 5});
-    game.Object(2, {.place = kCarried, .weight = 3})
-        .Object(3, {.place = kWorn, .weight = 3})
+    game.Object(2, {.place = kCarriedPlace, .weight = 3})
+        .Object(3, {.place = kWornPlace, .weight = 3})
         .Setting("maxweight", 10);
     EXPECT_EQ(game.Do("GET 1")->Said(), "(43)");
 }
 
 TEST(Get, CarriesWhatIsJustNotTooHeavy) {
     GameBuilder game = With({.place = 0, .weight = 5});
-    game.Object(2, {.place = kCarried, .weight = 5}).Setting("maxweight", 10);
+    game.Object(2, {.place = kCarriedPlace, .weight = 5}).Setting("maxweight", 10);
     EXPECT_EQ(game.Do("GET 1")->Said(), "(36)");
 }
 
 TEST(Get, RefusesWhenTheHandsAreFull) {
     GameBuilder game = With({.place = 0});
-    game.Object(2, {.place = kCarried}).Setting("maxobj", 1);
+    game.Object(2, {.place = kCarriedPlace}).Setting("maxobj", 1);
     const auto run = game.Do("GET 1");
     EXPECT_EQ(run->Said(), "(27)");
     EXPECT_EQ(run->PlaceOf(1), 0);
@@ -84,12 +84,12 @@ TEST(Get, OfAMarloGameSaysNothingAndKnowsNoWeight) {
     const auto run =
         With({.place = 0, .weight = 60}, AdventureKind::Marlo).Setting("maxweight", 0).Do("GET 1");
     EXPECT_EQ(run->Said(), "");
-    EXPECT_EQ(run->PlaceOf(1), kCarried);
+    EXPECT_EQ(run->PlaceOf(1), kCarriedPlace);
 }
 
 TEST(Get, OfAMarloGameStillCountsWhatTheHandsHold) {
     GameBuilder game = With({.place = 0}, AdventureKind::Marlo);
-    game.Object(2, {.place = kCarried}).Setting("maxobj", 1);
+    game.Object(2, {.place = kCarriedPlace}).Setting("maxobj", 1);
     EXPECT_EQ(game.Do("GET 1")->Said(), "(27)");
 }
 
@@ -108,14 +108,14 @@ TEST(Get, OfTheObjectThatFillsTheHandsInsideDoallStopsTheWalkWithOneMessage) {
 // DROP
 
 TEST(Drop, LeavesACarriedObjectHere) {
-    const auto run = With({.place = kCarried}).Setting("startloc", 2).Do("DROP 1");
+    const auto run = With({.place = kCarriedPlace}).Setting("startloc", 2).Do("DROP 1");
     EXPECT_EQ(run->Said(), "(39)");
     EXPECT_EQ(run->PlaceOf(1), 2);
     EXPECT_EQ(run->Flag(1), 0);
 }
 
 TEST(Drop, RefusesAWornObject) {
-    EXPECT_EQ(With({.place = kWorn}).Do("DROP 1")->Said(), "(24)");
+    EXPECT_EQ(With({.place = kWornPlace}).Do("DROP 1")->Said(), "(24)");
 }
 
 TEST(Drop, RefusesAnObjectThatLiesHere) {
@@ -131,23 +131,23 @@ TEST(Drop, OfAMarloGameRefusesWhatLiesHereWithAnotherMessage) {
 }
 
 TEST(Drop, OfAMarloGameDropsAWornObjectWhileTheHandsAreNotFull) {
-    const auto run = With({.place = kWorn}, AdventureKind::Marlo).Setting("maxobj", 1).Do("DROP 1");
+    const auto run = With({.place = kWornPlace}, AdventureKind::Marlo).Setting("maxobj", 1).Do("DROP 1");
     EXPECT_EQ(run->Said(), "");
     EXPECT_EQ(run->PlaceOf(1), 0);
 }
 
 TEST(Drop, OfAMarloGameRefusesAWornObjectWhenTheHandsAreFull) {
-    GameBuilder game = With({.place = kWorn}, AdventureKind::Marlo);
-    game.Object(2, {.place = kCarried}).Setting("maxobj", 1);
+    GameBuilder game = With({.place = kWornPlace}, AdventureKind::Marlo);
+    game.Object(2, {.place = kCarriedPlace}).Setting("maxobj", 1);
     EXPECT_EQ(game.Do("DROP 1")->Said(), "(24)");
 }
 
 // WEAR
 
 TEST(Wear, PutsACarriedWearableObjectOn) {
-    const auto run = With({.place = kCarried, .wearable = true}).Do("WEAR 1");
+    const auto run = With({.place = kCarriedPlace, .wearable = true}).Do("WEAR 1");
     EXPECT_EQ(run->Said(), "(37)");
-    EXPECT_EQ(run->PlaceOf(1), kWorn);
+    EXPECT_EQ(run->PlaceOf(1), kWornPlace);
     EXPECT_EQ(run->Flag(1), 0);
 }
 
@@ -156,7 +156,7 @@ TEST(Wear, RefusesAnObjectThatLiesHere) {
 }
 
 TEST(Wear, RefusesAWornObject) {
-    EXPECT_EQ(With({.place = kWorn, .wearable = true}).Do("WEAR 1")->Said(), "(29)");
+    EXPECT_EQ(With({.place = kWornPlace, .wearable = true}).Do("WEAR 1")->Said(), "(29)");
 }
 
 TEST(Wear, RefusesAnObjectElsewhere) {
@@ -164,13 +164,13 @@ TEST(Wear, RefusesAnObjectElsewhere) {
 }
 
 TEST(Wear, RefusesAnObjectThatIsNotWearable) {
-    EXPECT_EQ(With({.place = kCarried}).Do("WEAR 1")->Said(), "(40)");
+    EXPECT_EQ(With({.place = kCarriedPlace}).Do("WEAR 1")->Said(), "(40)");
 }
 
 TEST(Wear, OfAMarloGameAsksOnlyThatTheObjectIsCarried) {
-    const auto run = With({.place = kCarried}, AdventureKind::Marlo).Do("WEAR 1");
+    const auto run = With({.place = kCarriedPlace}, AdventureKind::Marlo).Do("WEAR 1");
     EXPECT_EQ(run->Said(), "");
-    EXPECT_EQ(run->PlaceOf(1), kWorn);
+    EXPECT_EQ(run->PlaceOf(1), kWornPlace);
 }
 
 TEST(Wear, OfAMarloGameSaysOfWhatLiesHereThatItIsNotCarried) {
@@ -180,14 +180,14 @@ TEST(Wear, OfAMarloGameSaysOfWhatLiesHereThatItIsNotCarried) {
 // REMOVE
 
 TEST(Remove, CarriesAWornObject) {
-    const auto run = With({.place = kWorn, .wearable = true}).Do("REMOVE 1");
+    const auto run = With({.place = kWornPlace, .wearable = true}).Do("REMOVE 1");
     EXPECT_EQ(run->Said(), "(38)");
-    EXPECT_EQ(run->PlaceOf(1), kCarried);
+    EXPECT_EQ(run->PlaceOf(1), kCarriedPlace);
     EXPECT_EQ(run->Flag(1), 1);
 }
 
 TEST(Remove, RefusesAnObjectCarriedOrHere) {
-    EXPECT_EQ(With({.place = kCarried}).Do("REMOVE 1")->Said(), "(50)");
+    EXPECT_EQ(With({.place = kCarriedPlace}).Do("REMOVE 1")->Said(), "(50)");
     EXPECT_EQ(With({.place = 0}).Do("REMOVE 1")->Said(), "(50)");
 }
 
@@ -196,18 +196,18 @@ TEST(Remove, RefusesAnObjectElsewhere) {
 }
 
 TEST(Remove, RefusesAnObjectThatIsNotWearable) {
-    EXPECT_EQ(With({.place = kWorn}).Do("REMOVE 1")->Said(), "(41)");
+    EXPECT_EQ(With({.place = kWornPlace}).Do("REMOVE 1")->Said(), "(41)");
 }
 
 TEST(Remove, RefusesWhenTheHandsAreFull) {
-    GameBuilder game = With({.place = kWorn, .wearable = true});
-    game.Object(2, {.place = kCarried}).Setting("maxobj", 1);
+    GameBuilder game = With({.place = kWornPlace, .wearable = true});
+    game.Object(2, {.place = kCarriedPlace}).Setting("maxobj", 1);
     EXPECT_EQ(game.Do("REMOVE 1")->Said(), "(42)");
 }
 
 TEST(Remove, OfAMarloGameMindsNoFullHands) {
-    GameBuilder game = With({.place = kWorn}, AdventureKind::Marlo);
-    game.Object(2, {.place = kCarried}).Setting("maxobj", 1);
+    GameBuilder game = With({.place = kWornPlace}, AdventureKind::Marlo);
+    game.Object(2, {.place = kCarriedPlace}).Setting("maxobj", 1);
     const auto run = game.Do("REMOVE 1");
     EXPECT_EQ(run->Said(), "");
     EXPECT_EQ(run->Flag(1), 2);
@@ -221,7 +221,7 @@ TEST(Create, PutsAnObjectHere) {
 }
 
 TEST(Create, OfACarriedObjectTakesItOffTheCount) {
-    EXPECT_EQ(With({.place = kCarried}).Do("CREATE 1")->Flag(1), 0);
+    EXPECT_EQ(With({.place = kCarriedPlace}).Do("CREATE 1")->Flag(1), 0);
 }
 
 TEST(Destroy, PutsAnObjectNowhere) {
@@ -229,7 +229,7 @@ TEST(Destroy, PutsAnObjectNowhere) {
 }
 
 TEST(Destroy, OfACarriedObjectTakesItOffTheCount) {
-    EXPECT_EQ(With({.place = kCarried}).Do("DESTROY 1")->Flag(1), 0);
+    EXPECT_EQ(With({.place = kCarriedPlace}).Do("DESTROY 1")->Flag(1), 0);
 }
 
 TEST(Place, PutsAnObjectAtALocation) {
@@ -243,7 +243,7 @@ TEST(Place, HereIsThePlayersLocation) {
 TEST(Place, CountsCarriedObjectsAndNotWornOnes) {
     EXPECT_EQ(With({.place = 0}).Do("PLACE 1 CARRIED")->Flag(1), 1);
     EXPECT_EQ(With({.place = 0}).Do("PLACE 1 WORN")->Flag(1), 0);
-    EXPECT_EQ(With({.place = kCarried}).Do("PLACE 1 CARRIED")->Flag(1), 1);
+    EXPECT_EQ(With({.place = kCarriedPlace}).Do("PLACE 1 CARRIED")->Flag(1), 1);
 }
 
 TEST(PutO, PlacesTheObjectOfFlag51) {
@@ -265,74 +265,79 @@ TEST(Swap, ExchangesTwoPlacesAndTellsOfTheSecondObject) {
 }
 
 TEST(Swap, LeavesTheCountOfCarriedObjectsAlone) {
-    EXPECT_EQ(With({.place = kCarried}).Object(2, {.place = 2}).Do("SWAP 1 2")->Flag(1), 1);
+    EXPECT_EQ(With({.place = kCarriedPlace}).Object(2, {.place = 2}).Do("SWAP 1 2")->Flag(1), 1);
 }
 
 // PUTIN, TAKEOUT
 
 /// Object 1 as given, and object 2, a bag that has location 2 inside it, at `bag`.
-GameBuilder WithBag(ObjectSpec object, int bag = 0) {
+GameBuilder WithObjectAndBag(ObjectSpec object, int bag = 0) {
     GameBuilder game = With(std::move(object));
     game.Object(2, {.description = "a bag", .place = bag, .weight = 1, .container = true});
     return game;
 }
 
 TEST(PutIn, PutsACarriedObjectIntoTheContainer) {
-    const auto run = WithBag({.place = kCarried}).Do("PUTIN 1 2");
+    const auto run = WithObjectAndBag({.place = kCarriedPlace}).Do("PUTIN 1 2");
     EXPECT_EQ(run->Said(), "(44)a bag(51)");
     EXPECT_EQ(run->PlaceOf(1), 2);
     EXPECT_EQ(run->Flag(1), 0);
 }
 
 TEST(PutIn, RefusesAWornObject) {
-    EXPECT_EQ(WithBag({.place = kWorn}).Do("PUTIN 1 2")->Said(), "(24)");
+    EXPECT_EQ(WithObjectAndBag({.place = kWornPlace}).Do("PUTIN 1 2")->Said(), "(24)");
 }
 
 TEST(PutIn, RefusesAnObjectThatLiesHere) {
-    EXPECT_EQ(WithBag({.place = 0}).Do("PUTIN 1 2")->Said(), "(49)");
+    EXPECT_EQ(WithObjectAndBag({.place = 0}).Do("PUTIN 1 2")->Said(), "(49)");
 }
 
 TEST(PutIn, RefusesAnObjectElsewhere) {
-    EXPECT_EQ(WithBag({.place = 1}).Do("PUTIN 1 2")->Said(), "(28)");
+    EXPECT_EQ(WithObjectAndBag({.place = 1}).Do("PUTIN 1 2")->Said(), "(28)");
 }
 
 TEST(TakeOut, CarriesAnObjectOfTheContainer) {
-    const auto run = WithBag({.place = 2}).Do("TAKEOUT 1 2");
+    const auto run = WithObjectAndBag({.place = 2}).Do("TAKEOUT 1 2");
     EXPECT_EQ(run->Said(), "(36)");
-    EXPECT_EQ(run->PlaceOf(1), kCarried);
+    EXPECT_EQ(run->PlaceOf(1), kCarriedPlace);
 }
 
 TEST(TakeOut, RefusesAnObjectInHand) {
-    EXPECT_EQ(WithBag({.place = kWorn}).Do("TAKEOUT 1 2")->Said(), "(25)");
-    EXPECT_EQ(WithBag({.place = kCarried}).Do("TAKEOUT 1 2")->Said(), "(25)");
+    EXPECT_EQ(WithObjectAndBag({.place = kWornPlace}).Do("TAKEOUT 1 2")->Said(), "(25)");
+    EXPECT_EQ(WithObjectAndBag({.place = kCarriedPlace}).Do("TAKEOUT 1 2")->Said(), "(25)");
 }
 
 TEST(TakeOut, SaysOfAnObjectThatLiesHereThatItIsNotInside) {
-    const auto run = WithBag({.place = 0}).Do("TAKEOUT 1 2 SET 200");
+    const auto run = WithObjectAndBag({.place = 0}).Do("TAKEOUT 1 2 SET 200");
     EXPECT_EQ(run->Said(), "(45)a bag(51)");
     EXPECT_EQ(run->Flag(200), 0);
 }
 
 TEST(TakeOut, SaysOfAnObjectElsewhereThatTheContainerHoldsNoSuchThing) {
-    EXPECT_EQ(WithBag({.place = 1}).Do("TAKEOUT 1 2 SET 200")->Said(), "(52)a bag(51)");
+    EXPECT_EQ(WithObjectAndBag({.place = 1}).Do("TAKEOUT 1 2 SET 200")->Said(), "(52)a bag(51)");
 }
 
 TEST(TakeOut, RefusesWhatIsTooHeavyUnlessTheContainerIsInHand) {
-    EXPECT_EQ(WithBag({.place = 2, .weight = 5}).Setting("maxweight", 4).Do("TAKEOUT 1 2")->Said(), "(43)");
-    EXPECT_EQ(
-        WithBag({.place = 2, .weight = 5}, kCarried).Setting("maxweight", 4).Do("TAKEOUT 1 2")->Said(),
-        "(36)");
+    EXPECT_EQ(WithObjectAndBag({.place = 2, .weight = 5}).Setting("maxweight", 4).Do("TAKEOUT 1 2")->Said(),
+              "(43)");
+    EXPECT_EQ(WithObjectAndBag({.place = 2, .weight = 5}, kCarriedPlace)
+                  .Setting("maxweight", 4)
+                  .Do("TAKEOUT 1 2")
+                  ->Said(),
+              "(36)");
 }
 
 TEST(TakeOut, RefusesWhenTheHandsAreFull) {
-    GameBuilder game = WithBag({.place = 2});
-    game.Object(3, {.place = kCarried}).Setting("maxobj", 1);
+    GameBuilder game = WithObjectAndBag({.place = 2});
+    game.Object(3, {.place = kCarriedPlace}).Setting("maxobj", 1);
     EXPECT_EQ(game.Do("TAKEOUT 1 2")->Said(), "(27)");
 }
 
 TEST(DropAll, DropsWhatIsCarriedAndWorn) {
-    const auto run =
-        With({.place = kCarried}).Object(2, {.place = kWorn}).Object(3, {.place = 2}).Do("DROPALL");
+    const auto run = With({.place = kCarriedPlace})
+                         .Object(2, {.place = kWornPlace})
+                         .Object(3, {.place = 2})
+                         .Do("DROPALL");
     EXPECT_EQ(run->PlaceOf(1), 0);
     EXPECT_EQ(run->PlaceOf(2), 0);
     EXPECT_EQ(run->Flag(1), 0);
@@ -347,8 +352,8 @@ TEST(DropAll, LeavesEverythingElseWhereItIs) {
 // COPYOO, COPYOF, COPYFO
 
 TEST(CopyOO, PutsTheSecondObjectWhereTheFirstIs) {
-    const auto run = With({.place = kCarried}).Object(2, {.place = 2}).Do("COPYOO 1 2");
-    EXPECT_EQ(run->PlaceOf(2), kCarried);
+    const auto run = With({.place = kCarriedPlace}).Object(2, {.place = 2}).Do("COPYOO 1 2");
+    EXPECT_EQ(run->PlaceOf(2), kCarriedPlace);
     EXPECT_EQ(run->Flag(1), 2);
     EXPECT_EQ(run->Flag(51), 2);
 }
@@ -358,7 +363,7 @@ TEST(CopyOO, LeavesTheFirstObjectWhereItIs) {
 }
 
 TEST(CopyOF, CopiesTheLocationIntoAFlag) {
-    EXPECT_EQ(With({.place = kCarried}).Do("COPYOF 1 100")->Flag(100), 254);
+    EXPECT_EQ(With({.place = kCarriedPlace}).Do("COPYOF 1 100")->Flag(100), 254);
 }
 
 TEST(CopyOF, OfAnObjectThatDoesNotExistIsARunTimeFailure) {
@@ -372,7 +377,7 @@ TEST(CopyFO, CopiesAFlagIntoTheLocation) {
 }
 
 TEST(CopyFO, OfACarriedObjectLeavesTheCountTooHigh) {
-    EXPECT_EQ(With({.place = kCarried}).Do("LET 100 2 COPYFO 100 1")->Flag(1), 1);
+    EXPECT_EQ(With({.place = kCarriedPlace}).Do("LET 100 2 COPYFO 100 1")->Flag(1), 1);
 }
 
 // WEIGH, WEIGHT
@@ -417,20 +422,21 @@ TEST(Weigh, OfAContainerThatLiesInsideItselfIsARunTimeFailure) {
 }
 
 TEST(Weight, SumsWhatIsCarriedAndWorn) {
-    GameBuilder game = With({.place = kCarried, .weight = 7});
-    game.Object(2, {.place = kWorn, .weight = 5}).Object(3, {.place = 0, .weight = 60});
+    GameBuilder game = With({.place = kCarriedPlace, .weight = 7});
+    game.Object(2, {.place = kWornPlace, .weight = 5}).Object(3, {.place = 0, .weight = 60});
     EXPECT_EQ(game.Do("WEIGHT 100")->Flag(100), 12);
 }
 
 TEST(Weight, IsAtMost255) {
-    GameBuilder game = With({.place = kCarried, .weight = 63});
+    GameBuilder game = With({.place = kCarriedPlace, .weight = 63});
     for (int object = 2; object < 8; ++object)
-        game.Object(object, {.place = kCarried, .weight = 63});
+        game.Object(object, {.place = kCarriedPlace, .weight = 63});
     EXPECT_EQ(game.Do("WEIGHT 100")->Flag(100), 255);
 }
 
 TEST(Weight, OfAMarloGameIsNothing) {
-    EXPECT_EQ(With({.place = kCarried, .weight = 7}, AdventureKind::Marlo).Do("WEIGHT 30")->Flag(30), 0);
+    EXPECT_EQ(With({.place = kCarriedPlace, .weight = 7}, AdventureKind::Marlo).Do("WEIGHT 30")->Flag(30),
+              0);
 }
 
 // What flags 51 to 57 tell
@@ -454,7 +460,7 @@ TEST(ObjectFlags, OfAnObjectNumber255OrMorePlaceAndWeightAre0) {
     const auto run = game.Do("GET 300");
     EXPECT_EQ(run->Flag(51), 300);
     EXPECT_EQ(run->Flag(55), 0);
-    EXPECT_EQ(run->PlaceOf(300), kCarried);
+    EXPECT_EQ(run->PlaceOf(300), kCarriedPlace);
 }
 
 }  // namespace

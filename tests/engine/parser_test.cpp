@@ -40,7 +40,7 @@ TEST(SplitSentences, DropsPunctuationAtTheEnd) {
 
 // Words
 
-GameBuilder World(AdventureKind kind = AdventureKind::Fabula) {
+GameBuilder ParsedWorld(AdventureKind kind = AdventureKind::Fabula) {
     GameBuilder game(kind);
     game.Word("GET", 20, 0).Word("PUT", 21, 0).Word("EXAMINE", 22, 0);
     game.Word("SLOWLY", 40, 1).Word("SOFTLY", 41, 1);
@@ -72,145 +72,150 @@ std::vector<int> Parsed(const GameBuilder& game, const std::vector<std::string>&
 }
 
 std::vector<int> Parsed(const std::string& line) {
-    return Parsed(World(), {line});
+    return Parsed(ParsedWorld(), {line});
 }
 
-using Words = std::vector<int>;
+using ParsedWords = std::vector<int>;
 
 TEST(ParsePhrase, FindsVerbAdjectiveNounAndTheSecondPair) {
-    EXPECT_EQ(Parsed("PUT THE RED LAMP SLOWLY IN THE BLUE BOX"), (Words{21, 60, 30, 40, 50, 61, 31}));
+    EXPECT_EQ(Parsed("PUT THE RED LAMP SLOWLY IN THE BLUE BOX"), (ParsedWords{21, 60, 30, 40, 50, 61, 31}));
 }
 
 TEST(ParsePhrase, TakesKeysInUpperCase) {
-    EXPECT_EQ(Parsed("get lamp"), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("get lamp"), (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, PassesOverUnknownWords) {
-    EXPECT_EQ(Parsed("GET XYZZY LAMP PLUGH"), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("GET XYZZY LAMP PLUGH"), (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, ManyBlanksAreOne) {
-    EXPECT_EQ(Parsed("  GET    LAMP  "), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("  GET    LAMP  "), (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, OnlyTheFirstAdverbAndPrepositionCount) {
-    EXPECT_EQ(Parsed("GET SLOWLY SOFTLY LAMP ON IN"), (Words{20, 60, 255, 40, 51, 255, 255}));
+    EXPECT_EQ(Parsed("GET SLOWLY SOFTLY LAMP ON IN"), (ParsedWords{20, 60, 255, 40, 51, 255, 255}));
 }
 
 TEST(ParsePhrase, TwoDifferentNounsAreFirstAndSecond) {
-    EXPECT_EQ(Parsed("PUT LAMP BOX"), (Words{21, 60, 255, 255, 255, 61, 255}));
+    EXPECT_EQ(Parsed("PUT LAMP BOX"), (ParsedWords{21, 60, 255, 255, 255, 61, 255}));
 }
 
 TEST(ParsePhrase, AThirdNounIsPassedOver) {
-    EXPECT_EQ(Parsed("PUT LAMP BOX RED TABLE"), (Words{21, 60, 255, 255, 255, 61, 255}));
+    EXPECT_EQ(Parsed("PUT LAMP BOX RED TABLE"), (ParsedWords{21, 60, 255, 255, 255, 61, 255}));
 }
 
 TEST(ParsePhrase, OneNounTwiceIsOneThing) {
-    EXPECT_EQ(Parsed("GET LAMP LAMP"), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("GET LAMP LAMP"), (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, OneNounTwiceWithDifferentAdjectivesIsTwoThings) {
-    EXPECT_EQ(Parsed("GET RED LAMP BLUE LAMP"), (Words{20, 60, 30, 255, 255, 60, 31}));
+    EXPECT_EQ(Parsed("GET RED LAMP BLUE LAMP"), (ParsedWords{20, 60, 30, 255, 255, 60, 31}));
 }
 
 TEST(ParsePhrase, OneNounTwiceWithOneAdjectiveIsOneThing) {
-    EXPECT_EQ(Parsed("GET RED LAMP RED LAMP"), (Words{20, 60, 30, 255, 255, 255, 30}));
+    EXPECT_EQ(Parsed("GET RED LAMP RED LAMP"), (ParsedWords{20, 60, 30, 255, 255, 255, 30}));
 }
 
 TEST(ParsePhrase, AConjunctionSplitsFirst) {
-    EXPECT_EQ(Parsed("GET THE RED LAMP AND THE BLUE LAMP"), (Words{255, 60, 31, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("GET THE RED LAMP AND THE BLUE LAMP"), (ParsedWords{255, 60, 31, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, ASecondAdjectiveBeforeTheNounIsPassedOver) {
-    EXPECT_EQ(Parsed("GET RED BLUE LAMP"), (Words{20, 60, 30, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("GET RED BLUE LAMP"), (ParsedWords{20, 60, 30, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, AVerbThatIsANounTooIsThatNounTheSecondTime) {
-    EXPECT_EQ(Parsed(World().Word("GET", 70, 2), {"GET GET"}), (Words{20, 70, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed(ParsedWorld().Word("GET", 70, 2), {"GET GET"}),
+              (ParsedWords{20, 70, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, ASecondVerbIsPassedOverWithoutASecondRow) {
-    EXPECT_EQ(Parsed("GET PUT LAMP"), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("GET PUT LAMP"), (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, ASecondVerbIsPassedOverWithThreeRows) {
-    GameBuilder game = World();
+    GameBuilder game = ParsedWorld();
     game.Word("PUT", 70, 2).Word("PUT", 71, 3);
-    EXPECT_EQ(Parsed(game, {"GET PUT"}), (Words{20, 255, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed(game, {"GET PUT"}), (ParsedWords{20, 255, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, ADirectionNounAloneIsTheVerbToo) {
-    EXPECT_EQ(Parsed("NORTH"), (Words{5, 5, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("NORTH"), (ParsedWords{5, 5, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, ADirectionNounWithAVerbIsANoun) {
-    EXPECT_EQ(Parsed("EXAMINE NORTH"), (Words{22, 5, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("EXAMINE NORTH"), (ParsedWords{22, 5, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, APlainNounAloneIsNoVerb) {
-    EXPECT_EQ(Parsed("LAMP"), (Words{255, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("LAMP"), (ParsedWords{255, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, APronounStandsForTheLastNounWithItsAdjective) {
-    EXPECT_EQ(Parsed(World(), {"EXAMINE RED LAMP", "GET IT"}), (Words{20, 60, 30, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed(ParsedWorld(), {"EXAMINE RED LAMP", "GET IT"}),
+              (ParsedWords{20, 60, 30, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, APronounBehindANounIsTheSecondNoun) {
-    EXPECT_EQ(Parsed(World(), {"EXAMINE BLUE BOX", "PUT LAMP IN IT"}),
-              (Words{21, 60, 255, 255, 50, 61, 31}));
+    EXPECT_EQ(Parsed(ParsedWorld(), {"EXAMINE BLUE BOX", "PUT LAMP IN IT"}),
+              (ParsedWords{21, 60, 255, 255, 50, 61, 31}));
 }
 
 TEST(ParsePhrase, APronounWithNothingToStandForIsPassedOver) {
-    EXPECT_EQ(Parsed("GET IT"), (Words{20, 255, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("GET IT"), (ParsedWords{20, 255, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, OfTwoNounsThePronounRemembersTheFirst) {
-    EXPECT_EQ(Parsed(World(), {"PUT LAMP IN BOX", "GET IT"}), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed(ParsedWorld(), {"PUT LAMP IN BOX", "GET IT"}),
+              (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, ANounBelow50IsNeverRememberedForThePronoun) {
-    EXPECT_EQ(Parsed(World(), {"GET LAMP", "GET COIN", "EXAMINE IT"}),
-              (Words{22, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed(ParsedWorld(), {"GET LAMP", "GET COIN", "EXAMINE IT"}),
+              (ParsedWords{22, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, OfASecondNounThePronounRemembersItWhenTheFirstIsBelow50) {
-    EXPECT_EQ(Parsed(World(), {"PUT COIN IN BLUE BOX", "EXAMINE IT"}),
-              (Words{22, 61, 31, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed(ParsedWorld(), {"PUT COIN IN BLUE BOX", "EXAMINE IT"}),
+              (ParsedWords{22, 61, 31, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, TheWordsOfTheSentenceBeforeAreGone) {
-    EXPECT_EQ(Parsed(World(), {"PUT RED LAMP SLOWLY IN BLUE BOX", "GET"}),
-              (Words{20, 255, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed(ParsedWorld(), {"PUT RED LAMP SLOWLY IN BLUE BOX", "GET"}),
+              (ParsedWords{20, 255, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, AnAccentedWordIsKnown) {
-    EXPECT_EQ(Parsed(World().Word("TÜR", 80, 2), {"GET TÜR"}), (Words{20, 80, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed(ParsedWorld().Word("TÜR", 80, 2), {"GET TÜR"}),
+              (ParsedWords{20, 80, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, AQuoteInAWordIsHarmless) {
-    EXPECT_EQ(Parsed("GET THE 'RED' O'LAMP' OR '1'='1 LAMP"), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(Parsed("GET THE 'RED' O'LAMP' OR '1'='1 LAMP"),
+              (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, OfAFabulaGameLooksAtThirtyLetters) {
     const std::string word(31, 'A');
-    EXPECT_EQ(Parsed(World().Word(word.substr(1), 80, 2), {"GET " + word + "B"})[1], 80);
+    EXPECT_EQ(Parsed(ParsedWorld().Word(word.substr(1), 80, 2), {"GET " + word + "B"})[1], 80);
 }
 
 TEST(ParsePhrase, OfAVelGameLooksAtFiveLetters) {
-    GameBuilder game = World(AdventureKind::Vel);
+    GameBuilder game = ParsedWorld(AdventureKind::Vel);
     EXPECT_EQ(Parsed(game.Word("EXAMI", 23, 0), {"EXAMINATE LAMP"}),
-              (Words{23, 60, 255, 255, 255, 255, 255}));
+              (ParsedWords{23, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(ParsePhrase, ASentenceWithoutVerbAndNounFails) {
-    const auto run = World().Start();
+    const auto run = ParsedWorld().Start();
     run->Said();
     EXPECT_EQ(run->Type("SLOWLY"), "(6)");
     EXPECT_EQ(run->Flag(31), 0);
 }
 
 TEST(ParsePhrase, AFailedSentenceThrowsTheRestOfTheLineAway) {
-    const auto run = World().Start();
+    const auto run = ParsedWorld().Start();
     run->Said();
     EXPECT_EQ(run->Type("XYZZY. GET LAMP"), "(6)");
 }
@@ -225,23 +230,23 @@ std::vector<int> MarloParsed(const std::vector<std::string>& lines) {
 }
 
 TEST(MarloPhrase, TakesTwoWords) {
-    EXPECT_EQ(MarloParsed({"GET LAMP BOX"}), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(MarloParsed({"GET LAMP BOX"}), (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(MarloPhrase, LooksAtFourLetters) {
-    EXPECT_EQ(MarloParsed({"NORTHWARDS"}), (Words{5, 255, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(MarloParsed({"NORTHWARDS"}), (ParsedWords{5, 255, 255, 255, 255, 255, 255}));
 }
 
 TEST(MarloPhrase, KnowsVerbsAndNounsOnly) {
-    EXPECT_EQ(MarloParsed({"GET RED LAMP"}), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(MarloParsed({"GET RED LAMP"}), (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(MarloPhrase, ADirectionWordIsTheVerbByBeingTheFirst) {
-    EXPECT_EQ(MarloParsed({"NORTH"}), (Words{5, 255, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(MarloParsed({"NORTH"}), (ParsedWords{5, 255, 255, 255, 255, 255, 255}));
 }
 
 TEST(MarloPhrase, DropsAllFurtherSentences) {
-    EXPECT_EQ(MarloParsed({"GET LAMP. NORTH"}), (Words{20, 60, 255, 255, 255, 255, 255}));
+    EXPECT_EQ(MarloParsed({"GET LAMP. NORTH"}), (ParsedWords{20, 60, 255, 255, 255, 255, 255}));
 }
 
 TEST(MarloPhrase, RemembersANounAbove50ForThePronounFlag) {

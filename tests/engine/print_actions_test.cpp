@@ -20,7 +20,7 @@ std::string SaidBy(const std::string& condacts) {
     return Texts().Do(condacts)->Said();
 }
 
-std::string FailureOf(const std::string& condacts) {
+std::string FailureOfPrinting(const std::string& condacts) {
     return Texts().Do(condacts)->Box();
 }
 
@@ -31,7 +31,7 @@ TEST(Mes, PrintsAMessage) {
 }
 
 TEST(Mes, OfAMessageThatDoesNotExistIsARunTimeFailure) {
-    EXPECT_EQ(FailureOf("MES 412"),
+    EXPECT_EQ(FailureOfPrinting("MES 412"),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), MES 412: message 412 does "
               "not exist.");
 }
@@ -47,7 +47,7 @@ TEST(Message, PrintsAMessageAndALineEnd) {
 }
 
 TEST(Message, OfAMessageThatDoesNotExistIsARunTimeFailure) {
-    EXPECT_EQ(FailureOf("MESSAGE -1"),
+    EXPECT_EQ(FailureOfPrinting("MESSAGE -1"),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), MESSAGE -1: message -1 "
               "does not exist.");
 }
@@ -57,7 +57,7 @@ TEST(SysMess, PrintsASystemMessage) {
 }
 
 TEST(SysMess, OfAMessageThatDoesNotExistIsARunTimeFailure) {
-    EXPECT_EQ(FailureOf("SYSMESS 99"),
+    EXPECT_EQ(FailureOfPrinting("SYSMESS 99"),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), SYSMESS 99: system message "
               "99 does not "
               "exist.");
@@ -68,7 +68,7 @@ TEST(MesF, PrintsTheMessageThatAFlagNames) {
 }
 
 TEST(MesF, OfAMessageThatDoesNotExistIsARunTimeFailure) {
-    EXPECT_EQ(FailureOf("LET 100 9 MESF 100"),
+    EXPECT_EQ(FailureOfPrinting("LET 100 9 MESF 100"),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), MESF 100: message 9 does "
               "not exist.");
 }
@@ -78,7 +78,7 @@ TEST(MessgF, PrintsTheMessageThatAFlagNamesAndALineEnd) {
 }
 
 TEST(MessgF, OfAMessageThatDoesNotExistIsARunTimeFailure) {
-    EXPECT_EQ(FailureOf("LET 100 9 MESSGF 100"),
+    EXPECT_EQ(FailureOfPrinting("LET 100 9 MESSGF 100"),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), MESSGF 100: message 9 does "
               "not exist.");
 }
@@ -88,7 +88,7 @@ TEST(SysMsgF, PrintsTheSystemMessageThatAFlagNames) {
 }
 
 TEST(SysMsgF, OfAMessageThatDoesNotExistIsARunTimeFailure) {
-    EXPECT_EQ(FailureOf("LET 100 99 SYSMSGF 100"),
+    EXPECT_EQ(FailureOfPrinting("LET 100 99 SYSMSGF 100"),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), SYSMSGF 100: system "
               "message 99 does not "
               "exist.");
@@ -126,7 +126,7 @@ TEST(Print, WritesTheValueWithoutABlank) {
 }
 
 TEST(Print, OfAFlagThatDoesNotExistIsARunTimeFailure) {
-    EXPECT_EQ(FailureOf("PRINT 5000"),
+    EXPECT_EQ(FailureOfPrinting("PRINT 5000"),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), PRINT 5000: flag 5000 does "
               "not exist.");
 }
@@ -176,25 +176,25 @@ TEST(Cls, WithoutItTheTextStays) {
 
 // Lists
 
-GameBuilder Things() {
+GameBuilder PrintedThings() {
     GameBuilder game;
     game.Object(0, {.description = "a light", .place = 252});
     return game;
 }
 
 TEST(Inven, ListsWhatIsCarriedAndWornOneToALine) {
-    GameBuilder game = Things();
+    GameBuilder game = PrintedThings();
     game.Object(1, {.description = "a hat", .place = 253})
         .Object(2, {.description = "a pie", .place = 254});
     EXPECT_EQ(game.Do("INVEN")->Said(), "(9)\na hat(10)\na pie\n");
 }
 
 TEST(Inven, SaysMessage11WithEmptyHands) {
-    EXPECT_EQ(Things().Do("INVEN")->Said(), "(9)\n(11)");
+    EXPECT_EQ(PrintedThings().Do("INVEN")->Said(), "(9)\n(11)");
 }
 
 TEST(ListObj, ListsWhatIsHereOneToALine) {
-    GameBuilder game = Things();
+    GameBuilder game = PrintedThings();
     game.Object(1, {.description = "a hat", .place = 0}).Object(2, {.description = "a pie", .place = 0});
     const auto run = game.Do("LISTOBJ");
     EXPECT_EQ(run->Said(), "(1)\na hat\na pie\n");
@@ -202,13 +202,13 @@ TEST(ListObj, ListsWhatIsHereOneToALine) {
 }
 
 TEST(ListObj, SaysNothingWhereNothingIs) {
-    const auto run = Things().Do("LET 53 128 LISTOBJ");
+    const auto run = PrintedThings().Do("LET 53 128 LISTOBJ");
     EXPECT_EQ(run->Said(), "");
     EXPECT_EQ(run->Flag(53), 0);
 }
 
 TEST(ListObj, WithBit6OfFlag53RunsOnWithTheFirstOfTwoBeforeMessage47AndTheSecondBefore48) {
-    GameBuilder game = Things();
+    GameBuilder game = PrintedThings();
     game.Object(1, {.description = "a hat", .place = 0}).Object(2, {.description = "a pie", .place = 0});
     const auto run = game.Do("LET 53 64 LISTOBJ");
     EXPECT_EQ(run->Said(), "(1)a hat(47)a pie(48)");
@@ -216,19 +216,20 @@ TEST(ListObj, WithBit6OfFlag53RunsOnWithTheFirstOfTwoBeforeMessage47AndTheSecond
 }
 
 TEST(ListObj, WithBit6OfFlag53PutsMessage46BehindAllButTheLastTwo) {
-    GameBuilder game = Things();
+    GameBuilder game = PrintedThings();
     game.Object(1, {.description = "a", .place = 0}).Object(2, {.description = "b", .place = 0});
     game.Object(3, {.description = "c", .place = 0});
     EXPECT_EQ(game.Do("LET 53 64 LISTOBJ")->Said(), "(1)a(46)b(47)c(48)");
 }
 
 TEST(ListObj, WithBit6OfFlag53EndsOneObjectWithMessage48) {
-    EXPECT_EQ(Things().Object(1, {.description = "a hat", .place = 0}).Do("LET 53 64 LISTOBJ")->Said(),
-              "(1)a hat(48)");
+    EXPECT_EQ(
+        PrintedThings().Object(1, {.description = "a hat", .place = 0}).Do("LET 53 64 LISTOBJ")->Said(),
+        "(1)a hat(48)");
 }
 
 TEST(ListAt, ListsWhatIsAtALocation) {
-    GameBuilder game = Things();
+    GameBuilder game = PrintedThings();
     game.Object(1, {.description = "a hat", .place = 2});
     const auto run = game.Do("LISTAT 2");
     EXPECT_EQ(run->Said(), "\na hat\n");
@@ -236,24 +237,24 @@ TEST(ListAt, ListsWhatIsAtALocation) {
 }
 
 TEST(ListAt, SaysMessage53WhereNothingIs) {
-    const auto run = Things().Do("LISTAT 2");
+    const auto run = PrintedThings().Do("LISTAT 2");
     EXPECT_EQ(run->Said(), "(53)");
     EXPECT_EQ(run->Flag(53), 0);
 }
 
 TEST(ListAt, HereIsThePlayersLocation) {
-    EXPECT_EQ(Things().Object(1, {.description = "a hat", .place = 0}).Do("LISTAT HERE")->Said(),
+    EXPECT_EQ(PrintedThings().Object(1, {.description = "a hat", .place = 0}).Do("LISTAT HERE")->Said(),
               "\na hat\n");
 }
 
 TEST(ListAt, Above255IsALocationWhereThereIsOne) {
-    GameBuilder game = Things();
+    GameBuilder game = PrintedThings();
     game.Location(300, "Room 300").Object(1, {.description = "a hat", .place = 300});
     EXPECT_EQ(game.Do("LISTAT 300")->Said(), "\na hat\n");
 }
 
 TEST(ListAt, Above255IsHereWhereThereIsNoSuchLocation) {
-    EXPECT_EQ(Things().Object(1, {.description = "a hat", .place = 0}).Do("LISTAT 300")->Said(),
+    EXPECT_EQ(PrintedThings().Object(1, {.description = "a hat", .place = 0}).Do("LISTAT 300")->Said(),
               "\na hat\n");
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 using engine::RunState;
 
-GameBuilder World() {
+GameBuilder RunWorld() {
     GameBuilder game;
     game.Object(0, {.place = 1}).Object(1, {.place = 254});
     return game;
@@ -42,7 +42,7 @@ Model::Slot SlotOf(RunState& state, int slot) {
 }
 
 TEST(RunState, IsAHistoryOfElevenCopiesWhateverIsDoneToIt) {
-    const auto run = World().Start();
+    const auto run = RunWorld().Start();
     RunState& state = run->engine.Running()->state;
     Model model;
     for (int slot = 0; slot < RunState::kSlots; ++slot)
@@ -96,7 +96,7 @@ TEST(RunState, IsAHistoryOfElevenCopiesWhateverIsDoneToIt) {
 }
 
 TEST(RunState, AllSlotsHoldTheStartOfTheGame) {
-    const auto run = World().Entry(1, "_", "_", "SET 200").Start();
+    const auto run = RunWorld().Entry(1, "_", "_", "SET 200").Start();
     RunState& state = run->engine.Running()->state;
     EXPECT_EQ(state.Flags(0)[200], 255);
     for (int slot = 1; slot < RunState::kSlots; ++slot) {
@@ -108,7 +108,7 @@ TEST(RunState, AllSlotsHoldTheStartOfTheGame) {
 }
 
 TEST(RunState, EverySentenceMovesTheHistoryOn) {
-    const auto run = World().Entry(0, "DO", "_", "PLUS 200 1").Start();
+    const auto run = RunWorld().Entry(0, "DO", "_", "PLUS 200 1").Start();
     for (int turn = 0; turn < 4; ++turn)
         run->Type("DO");
     RunState& state = run->engine.Running()->state;
@@ -118,21 +118,21 @@ TEST(RunState, EverySentenceMovesTheHistoryOn) {
 }
 
 TEST(RunState, ASlotOutOfRangeIsARunTimeFailure) {
-    const auto run = World().Start();
+    const auto run = RunWorld().Start();
     EXPECT_THROW(run->engine.Running()->state.Flags(11), engine::RunFailure);
     EXPECT_THROW(run->engine.Running()->state.TakeSlot(-1), engine::RunFailure);
 }
 
 TEST(RunState, AnObjectsPlaceHas16Bits) {
-    const auto run = World().Start();
+    const auto run = RunWorld().Start();
     EXPECT_THROW(
         run->engine.Running()->state.SetObjectPlace(engine::ObjectNumber(0), engine::PlaceNumber(40000)),
         engine::RunFailure);
 }
 
 TEST(TwoGames, SideBySideDoNotNoticeEachOther) {
-    const auto one = World().Entry(0, "DO", "_", "SET 200").Start();
-    const auto two = World().Entry(0, "DO", "_", "SET 201").Start();
+    const auto one = RunWorld().Entry(0, "DO", "_", "SET 200").Start();
+    const auto two = RunWorld().Entry(0, "DO", "_", "SET 201").Start();
     one->Type("DO");
     two->Type("DO");
     EXPECT_EQ(one->Flag(200), 255);

@@ -22,7 +22,7 @@ void WriteFile(const std::filesystem::path& file, const std::string& content) {
 }
 
 /// WRITE, PLAY and CLOSE drive the scripts; SAY prints, ASK asks.
-GameBuilder World() {
+GameBuilder ScriptWorld() {
     GameBuilder game;
     game.Word("WRITE", 101, 0)
         .Word("PLAY", 102, 0)
@@ -41,14 +41,14 @@ std::string Status(GameRun& run) {
 }
 
 std::unique_ptr<GameRun> Writing() {
-    auto run = World().Start();
+    auto run = ScriptWorld().Start();
     run->window.AnswerFile(run->File("out.scr"));
     run->Type("WRITE");
     return run;
 }
 
 std::unique_ptr<GameRun> Loaded(const std::string& script) {
-    auto run = World().Start();
+    auto run = ScriptWorld().Start();
     WriteFile(run->File("in.scr"), script);
     run->window.AnswerFile(run->File("in.scr"));
     run->Type("PLAY");
@@ -56,7 +56,7 @@ std::unique_ptr<GameRun> Loaded(const std::string& script) {
 }
 
 TEST(ScriptAction, IsOffAtTheStart) {
-    const auto run = World().Start();
+    const auto run = ScriptWorld().Start();
     EXPECT_EQ(Status(*run), "Script Off");
     EXPECT_FALSE(run->window.nextEnabled);
     EXPECT_EQ(run->Flag(1001), 0);
@@ -94,7 +94,7 @@ TEST(ScriptAction, Of2WhileLoadedIsRefused) {
 }
 
 TEST(ScriptAction, OfAFileThatDoesNotExistIsToldAndEndsTheTable) {
-    const auto run = World().Start();
+    const auto run = ScriptWorld().Start();
     run->window.AnswerFile(run->File("none.scr"));
     run->Type("PLAY");
     EXPECT_EQ(run->oper.Boxes().size(), 1U);
@@ -103,7 +103,7 @@ TEST(ScriptAction, OfAFileThatDoesNotExistIsToldAndEndsTheTable) {
 }
 
 TEST(ScriptAction, CancelledChangesNothing) {
-    const auto run = World().Start();
+    const auto run = ScriptWorld().Start();
     run->window.AnswerFile(std::nullopt);
     run->Type("WRITE");
     EXPECT_EQ(Status(*run), "Script Off");
@@ -140,7 +140,7 @@ TEST(WrittenScript, MarksAnswersAtTheHeadOfTheirLine) {
 }
 
 TEST(WrittenScript, HasNoLooksAndIsNotWrapped) {
-    const auto run = World()
+    const auto run = ScriptWorld()
                          .Message(4, "<INK=2>red</BRIGHT> one two")
                          .Word("LOOK", 110, 0)
                          .Entry(0, "LOOK", "_", "MESSAGE 4")
@@ -154,7 +154,7 @@ TEST(WrittenScript, HasNoLooksAndIsNotWrapped) {
 }
 
 TEST(WrittenScript, ThatCantBeWrittenAnyLongerIsClosedAndToldOnce) {
-    auto run = World().Start();
+    auto run = ScriptWorld().Start();
     std::filesystem::create_symlink("/dev/full", run->File("out.scr"));
     run->window.AnswerFile(run->File("out.scr"));
     run->Type("WRITE");
@@ -216,7 +216,7 @@ TEST(DoNextScript, GoesOnBehindAPause) {
 }
 
 TEST(DoNextScript, WithoutAScriptDoesNothing) {
-    const auto run = World().Start();
+    const auto run = ScriptWorld().Start();
     run->Said();
     run->engine.DoNextScript();
     EXPECT_EQ(run->Said(), "");
@@ -236,7 +236,7 @@ TEST(DoNextScript, CutsALineThatIsTooLong) {
 }
 
 TEST(DoNextScript, EndsWithTheGame) {
-    const auto run = World().Word("STOP", 110, 0).Entry(0, "STOP", "_", "SET 5000").Start();
+    const auto run = ScriptWorld().Word("STOP", 110, 0).Entry(0, "STOP", "_", "SET 5000").Start();
     WriteFile(run->File("in.scr"), ">>STOP\n>>SAY\n");
     run->window.AnswerFile(run->File("in.scr"));
     run->Type("PLAY");

@@ -13,17 +13,17 @@ namespace {
 using engine::Waiting;
 using platform::ScriptedOperator;
 
-std::string ReadFile(const std::filesystem::path& file) {
+std::string ReadState(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
-void WriteFile(const std::filesystem::path& file, const std::string& content) {
+void WriteState(const std::filesystem::path& file, const std::string& content) {
     std::ofstream(file, std::ios::binary) << content;
 }
 
 /// SAVE, LOAD, RAM actions and OOPS as sentences; GO n moves and counts, and TAKE carries object 1.
-GameBuilder World() {
+GameBuilder SavedWorld() {
     GameBuilder game;
     game.Word("SAVE", 101, 0)
         .Word("LOAD", 102, 0)
@@ -42,7 +42,7 @@ GameBuilder World() {
 std::string Save(GameRun& run, const char* name = "one.sav") {
     run.window.AnswerFile(run.File(name));
     run.Type("SAVE");
-    return ReadFile(run.File(name));
+    return ReadState(run.File(name));
 }
 
 /// Loads a file; the text of the box, or "".
@@ -56,13 +56,13 @@ std::string Load(GameRun& run, const char* name = "one.sav") {
 // SAVE and LOAD
 
 TEST(Save, AsksForAFileByItsTitle) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     Save(*run);
     EXPECT_EQ(run->window.fileQuestions, std::vector<std::string>{"Save as a Fabula Save File"});
 }
 
 TEST(Save, WritesTheWholeHistory) {
-    GameBuilder game = World();
+    GameBuilder game = SavedWorld();
     game.FlagCount(1019);
     const auto run = game.Start();
     const std::string content = Save(*run);
@@ -82,7 +82,7 @@ TEST(Save, WritesTheWholeHistory) {
 }
 
 TEST(Save, DescribesThePlaceAndEndsTheTable) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->Said();
     run->window.AnswerFile(run->File("one.sav"));
     EXPECT_EQ(run->Type("SAVE"), "Room 0");
@@ -90,7 +90,7 @@ TEST(Save, DescribesThePlaceAndEndsTheTable) {
 }
 
 TEST(Save, CancelledChangesNothingAndGoesOn) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->Said();
     run->window.AnswerFile(std::nullopt);
     EXPECT_EQ(run->Type("SAVE"), "");
@@ -98,13 +98,13 @@ TEST(Save, CancelledChangesNothingAndGoesOn) {
 }
 
 TEST(Save, GivesANameWithoutAnExtensionTheOneOfSaves) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     Save(*run, "two");
     EXPECT_TRUE(std::filesystem::exists(run->File("two.sav")));
 }
 
 TEST(Save, ThatCantBeWrittenIsToldAndEndsTheTable) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->window.AnswerFile(run->File("no/such/folder.sav"));
     run->Said();
     EXPECT_EQ(run->Type("SAVE"), "");
@@ -114,16 +114,16 @@ TEST(Save, ThatCantBeWrittenIsToldAndEndsTheTable) {
 }
 
 TEST(Save, ThatCantBeWrittenLeavesAnOlderFileAsItWas) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     const std::string first = Save(*run);
     std::filesystem::create_directory(run->File("full"));
     run->window.AnswerFile(run->File("full"));  // a folder stands where the file would
     run->Type("SAVE");
-    EXPECT_EQ(ReadFile(run->File("one.sav")), first);
+    EXPECT_EQ(ReadState(run->File("one.sav")), first);
 }
 
 TEST(Load, BringsFlagsObjectsVisitsAndHistoryBack) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->Type("TAKE");
     Save(*run);
     run->Type("STEP");
@@ -137,7 +137,7 @@ TEST(Load, BringsFlagsObjectsVisitsAndHistoryBack) {
 }
 
 TEST(Load, DescribesThePlaceAndEndsTheTable) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     Save(*run);
     run->Said();
     run->window.AnswerFile(run->File("one.sav"));
@@ -146,7 +146,7 @@ TEST(Load, DescribesThePlaceAndEndsTheTable) {
 }
 
 TEST(Load, OfAStateWithTheTurnOfItsLineIsNotTakenForALineThatWasNotUnderstood) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     Save(*run);  // at turn 1, which is also the turn at which LOAD is typed
     run->window.AnswerFile(run->File("one.sav"));
     run->Said();
@@ -154,20 +154,20 @@ TEST(Load, OfAStateWithTheTurnOfItsLineIsNotTakenForALineThatWasNotUnderstood) {
 }
 
 TEST(Load, CancelledChangesNothingAndGoesOn) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->window.AnswerFile(std::nullopt);
     run->Type("LOAD");
     EXPECT_EQ(run->Flag(211), 255);
 }
 
 TEST(Load, LetsOopsReachBackBehindIt) {
-    GameBuilder game = World();
+    GameBuilder game = SavedWorld();
     game.Entry(0, "DO", "_", "OOPS 3");
     const auto run = game.Start();
     run->Type("STEP");  // the sentence before SAVE
     Save(*run);
     const auto other = game.Start();
-    WriteFile(other->File("one.sav"), ReadFile(run->File("one.sav")));
+    WriteState(other->File("one.sav"), ReadState(run->File("one.sav")));
     Load(*other);
     EXPECT_EQ(other->Flag(200), 1);
     other->Type("DO");  // slots: 1 before DO, 2 before SAVE, 3 before STEP
@@ -175,7 +175,7 @@ TEST(Load, LetsOopsReachBackBehindIt) {
 }
 
 TEST(Load, AFileOfOneBuildLoadsInTheNext) {
-    const auto run = World().FlagCount(1019).Start();
+    const auto run = SavedWorld().FlagCount(1019).Start();
     std::string content = "Fabula,test,10,10,1018\r\n10\r\n";
     for (int slot = 0; slot < 11; ++slot)
         content += "1,1,0\r\n";
@@ -186,7 +186,7 @@ TEST(Load, AFileOfOneBuildLoadsInTheNext) {
             content += (flag > 0 ? "," : "") + std::to_string(flag == 38 || flag == 51 ? 1 : flag % 7);
         content += "\r\n";
     }
-    WriteFile(run->File("one.sav"), content);
+    WriteState(run->File("one.sav"), content);
     EXPECT_EQ(Load(*run), "");
     EXPECT_EQ(run->PlaceOf(0), 253);
     EXPECT_EQ(run->Flag(38), 1);
@@ -194,17 +194,17 @@ TEST(Load, AFileOfOneBuildLoadsInTheNext) {
 }
 
 TEST(Load, RefusesASaveOfAnotherAdventureOfTheSameSizes) {
-    const auto other = World().SettingText("savename", "other").Start();
+    const auto other = SavedWorld().SettingText("savename", "other").Start();
     const std::string content = Save(*other);
-    const auto run = World().Start();
-    WriteFile(run->File("one.sav"), content);
+    const auto run = SavedWorld().Start();
+    WriteState(run->File("one.sav"), content);
     EXPECT_EQ(Load(*run), "Invalid Save File for this Adventure");
     EXPECT_EQ(run->oper.Boxes().back().title, "Error");
     EXPECT_EQ(run->Flag(211), 0);
 }
 
 TEST(Load, OfAFileThatDoesNotExistIsToldAndChangesNothing) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     EXPECT_NE(Load(*run, "none.sav"), "");
     EXPECT_EQ(run->Flag(211), 0);
     EXPECT_EQ(run->Waits(), Waiting::Sentence);
@@ -213,14 +213,14 @@ TEST(Load, OfAFileThatDoesNotExistIsToldAndChangesNothing) {
 /// What LOAD says of a save in which one text was replaced by another, after the state had moved on.
 class DamagedSave : public testing::Test {
   protected:
-    DamagedSave() : run_(World().FlagCount(1019).Start()), content_(Save(*run_)) {
+    DamagedSave() : run_(SavedWorld().FlagCount(1019).Start()), content_(Save(*run_)) {
         run_->Type("TAKE");
         run_->Type("STEP");
     }
 
     /// True when the file is refused and nothing has changed.
     bool IsRefused(const std::string& content) {
-        WriteFile(run_->File("two.sav"), content);
+        WriteState(run_->File("two.sav"), content);
         return Load(*run_, "two.sav") == "Invalid Save File for this Adventure" && run_->Flag(200) == 1 &&
                run_->Flag(38) == 1 && run_->PlaceOf(1) == 254;
     }
@@ -330,8 +330,8 @@ TEST_F(DamagedSave, WithTheMarksOfARunThatWaitsLoadsAndWaitsForASentence) {
     // The last five flags are 1014 to 1018.
     for (int i = 0; i < 5; ++i)
         flags.resize(flags.rfind(','));
-    WriteFile(run_->File("two.sav"),
-              content.substr(0, line) + flags + ",255,255,255,255,255" + content.substr(end));
+    WriteState(run_->File("two.sav"),
+               content.substr(0, line) + flags + ",255,255,255,255,255" + content.substr(end));
     EXPECT_EQ(Load(*run_, "two.sav"), "");
     EXPECT_EQ(run_->Waits(), Waiting::Sentence);
     run_->Type("STEP");
@@ -339,12 +339,12 @@ TEST_F(DamagedSave, WithTheMarksOfARunThatWaitsLoadsAndWaitsForASentence) {
 }
 
 TEST(SaveTo, AndLoadFromKeepASessionOverTheProgramsEnd) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->Type("TAKE");
     run->Type("STEP");
     run->engine.SaveTo(run->File("auto.sav"));
-    const auto later = World().Start();
-    WriteFile(later->File("auto.sav"), ReadFile(run->File("auto.sav")));
+    const auto later = SavedWorld().Start();
+    WriteState(later->File("auto.sav"), ReadState(run->File("auto.sav")));
     later->Said();
     EXPECT_TRUE(later->engine.LoadFrom(later->File("auto.sav")));
     EXPECT_EQ(later->Said(), "\nRoom 1");
@@ -354,8 +354,8 @@ TEST(SaveTo, AndLoadFromKeepASessionOverTheProgramsEnd) {
 }
 
 TEST(LoadFrom, RefusesWhatIsNoSaveAndChangesNothing) {
-    const auto run = World().Start();
-    WriteFile(run->File("auto.sav"), "something else");
+    const auto run = SavedWorld().Start();
+    WriteState(run->File("auto.sav"), "something else");
     run->Said();
     EXPECT_FALSE(run->engine.LoadFrom(run->File("auto.sav")));
     EXPECT_EQ(run->Said(), "");
@@ -363,7 +363,7 @@ TEST(LoadFrom, RefusesWhatIsNoSaveAndChangesNothing) {
 }
 
 TEST(LoadFrom, ForgetsTheLineThatWasHalfTyped) {
-    GameBuilder game = World();
+    GameBuilder game = SavedWorld();
     game.Entry(0, "DO", "_", "PLUS 200 1").Entry(1, "_", "_", "ANYKEY");
     const auto run = game.Start();
     run->engine.EnterLine("");
@@ -380,7 +380,7 @@ TEST(LoadFrom, ForgetsTheLineThatWasHalfTyped) {
 // RAMSAVE and RAMLOAD
 
 TEST(RamSave, KeepsTheStateForRamload) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->Type("KEEP");
     run->Type("TAKE");
     run->Type("STEP");
@@ -392,14 +392,14 @@ TEST(RamSave, KeepsTheStateForRamload) {
 }
 
 TEST(RamSave, ChangesNothing) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->Type("STEP");
     run->Type("KEEP");
     EXPECT_EQ(run->Flag(200), 1);
 }
 
 TEST(RamLoad, WithoutARamsaveGoesBackToTheStart) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->Type("TAKE");
     run->Type("STEP");
     run->Type("BACK");
@@ -408,7 +408,7 @@ TEST(RamLoad, WithoutARamsaveGoesBackToTheStart) {
 }
 
 TEST(RamLoad, Of255KeepsTheFlagsFrom256Up) {
-    const auto run = World().Start();
+    const auto run = SavedWorld().Start();
     run->Type("KEEP");
     run->Type("STEP");
     run->Type("BACK");
@@ -417,7 +417,7 @@ TEST(RamLoad, Of255KeepsTheFlagsFrom256Up) {
 }
 
 TEST(RamLoad, OfAFlagInTheMiddleKeepsTheFlagsAboveIt) {
-    GameBuilder game = World();
+    GameBuilder game = SavedWorld();
     game.Entry(0, "DO", "_", "RAMLOAD 199");
     const auto run = game.Start();
     run->Type("STEP");
@@ -427,7 +427,7 @@ TEST(RamLoad, OfAFlagInTheMiddleKeepsTheFlagsAboveIt) {
 }
 
 TEST(RamLoad, BeyondTheLastFlagTakesAll) {
-    GameBuilder game = World();
+    GameBuilder game = SavedWorld();
     game.Entry(0, "DO", "_", "RAMLOAD 5000");
     const auto run = game.Start();
     run->Type("STEP");

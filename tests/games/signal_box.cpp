@@ -4,12 +4,12 @@
 namespace fabula::test {
 namespace {
 
-enum Places { kPlatform, kSignalBox, kTunnel };
+enum BoxPlaces { kPlatform, kSignalBox, kTunnel };
 
 /// What lies in the satchel is at the location of its number.
 constexpr int kSatchel = 5;
 
-void AddWords(StarterGame& game) {
+void AddBoxWords(StarterGame& game) {
     game.Word("LIGHT", 40, condacts::kVerb);
     game.Word("PULL", 41, condacts::kVerb);
     game.Word("WAIT", 42, condacts::kVerb);
@@ -29,7 +29,7 @@ void AddWords(StarterGame& game) {
     game.Word("CAP", 200, condacts::kNoun);
 }
 
-void AddPlaces(StarterGame& game) {
+void AddBoxPlaces(StarterGame& game) {
     game.Location(kPlatform, "An empty platform. <#=143><#=140><#=143> The signal box is up.\u008C",
                   "The platform.\u008C", "UP 1");
     game.Location(kSignalBox, "The signal box: one lever, many brass plates.\u008C",
@@ -37,7 +37,7 @@ void AddPlaces(StarterGame& game) {
     game.Location(kTunnel, "The tunnel. Rails gleam.\u008C", "The tunnel.\u008C");
 }
 
-void AddThings(StarterGame& game) {
+void AddBoxThings(StarterGame& game) {
     game.Object(0, "a burning lamp", condacts::place::kNotCreated.value, "LAMP");
     game.Object(1, "a lamp", kSignalBox, "LAMP");
     game.Object(2, "a red flag", kPlatform, "FLAG");
@@ -48,7 +48,7 @@ void AddThings(StarterGame& game) {
     game.Setting("maxweight", 20);
 }
 
-void AddMessages(StarterGame& game) {
+void AddBoxMessages(StarterGame& game) {
     game.Message(10, "The lamp burns.");
     game.Message(11, "The lever moves; far away a wire sings. `5 for the one who greased it.");
     game.Message(12, "A train can be heard.");
@@ -83,10 +83,10 @@ void BuildSignalBox(const std::filesystem::path& file) {
     StarterGame game(file, store::AdventureKind::Marlo, true);
     game.Setting("advname", std::string("The Signal Box"));
     game.Setting("savename", std::string("signal"));
-    AddWords(game);
-    AddPlaces(game);
-    AddThings(game);
-    AddMessages(game);
+    AddBoxWords(game);
+    AddBoxPlaces(game);
+    AddBoxThings(game);
+    AddBoxMessages(game);
     AddEntries(game);
     game.Finish();
 }

@@ -9,7 +9,7 @@ namespace {
 
 using store::TableNum;
 
-constexpr const char* kWords = "GO 20 verb\nNORTH 2 noun\nLAMP 50 noun\n";
+constexpr const char* kHostileWords = "GO 20 verb\nNORTH 2 noun\nLAMP 50 noun\n";
 
 std::string Repeated(const std::string& text, int times) {
     std::string result;
@@ -20,23 +20,24 @@ std::string Repeated(const std::string& text, int times) {
 
 TEST(HostileSource, ALineOfAMegabyteIsAText) {
     const std::string line(1'000'000, 'x');
-    const Reading game("pcvel", PcSource(kWords, "/MTX\n/0\n" + line));
+    const Reading game("pcvel", PcSource(kHostileWords, "/MTX\n/0\n" + line));
     EXPECT_EQ(game.Text(TableNum::Messages, "msgnum=0", "msgmsg").size(), line.size());
 }
 
 TEST(HostileSource, AHundredThousandSectionsAreRead) {
-    const Reading game("pcvel", PcSource(kWords, Repeated("/MTX\n", 100'000) + "/7\nabc\n"));
+    const Reading game("pcvel", PcSource(kHostileWords, Repeated("/MTX\n", 100'000) + "/7\nabc\n"));
     EXPECT_TRUE(game.ok);
     EXPECT_EQ(game.Count(TableNum::Messages, "msgnum>=0"), 1);
 }
 
 TEST(HostileSource, ALongEntryIsAnEntry) {
-    const Reading game("ace", PcSource(kWords, "/PRO 0\nGO _ " + Repeated("SET 60 BELL ", 50'000) + "\n"));
+    const Reading game("ace",
+                       PcSource(kHostileWords, "/PRO 0\nGO _ " + Repeated("SET 60 BELL ", 50'000) + "\n"));
     EXPECT_EQ(game.Number(TableNum::ProcessTables, "canum=0", "numcas"), 250'000);
 }
 
 TEST(HostileSource, NulBytesAreBlanks) {
-    std::string source = PcSource(kWords, "/MTX\n/0\nabc\n");
+    std::string source = PcSource(kHostileWords, "/MTX\n/0\nabc\n");
     source.insert(source.find("abc") + 1, 1, '\0');
     EXPECT_EQ(Reading("pcvel", source).Text(TableNum::Messages, "msgnum=0", "msgmsg"), "a bc");
 }
@@ -46,8 +47,8 @@ TEST(HostileSource, NothingButNulBytesIsInvalid) {
 }
 
 TEST(HostileSource, BracketsWithoutEndAreText) {
-    const Reading game(
-        "ace", PcSource(kWords, "/MTX\n/0\n" + std::string(200'000, '<') + std::string(200'000, '&')));
+    const Reading game("ace", PcSource(kHostileWords, "/MTX\n/0\n" + std::string(200'000, '<') +
+                                                          std::string(200'000, '&')));
     EXPECT_EQ(game.Text(TableNum::Messages, "msgnum=0", "msgmsg").size(), 200'000U * 4 + 200'000U * 5);
 }
 

@@ -33,22 +33,22 @@ class PcLinesTest : public testing::Test {
     bool failed_ = false;
 };
 
-using Lines = std::vector<std::string>;
+using RawLines = std::vector<std::string>;
 
 TEST_F(PcLinesTest, CommentsAreCutOff) {
     Write("game.sce", "; all\na ; tail\n   ; indented\nb;c\n\nd\n");
-    EXPECT_EQ(Read(), Lines({"a", "b", "d"}));
+    EXPECT_EQ(Read(), RawLines({"a", "b", "d"}));
 }
 
 TEST_F(PcLinesTest, BlankLinesAreKeptWhenAsked) {
     Write("game.sce", "a\n\n ; comment\n  \nb\n");
-    EXPECT_EQ(Read(false), Lines({"a", "", "  ", "b"}));
+    EXPECT_EQ(Read(false), RawLines({"a", "", "  ", "b"}));
 }
 
 TEST_F(PcLinesTest, ALinkGoesOnWithTheFileItNames) {
     Write("game.sce", "a\n/LNK part2.sce\nnever read\n");
     Write("part2.sce", "b\n");
-    EXPECT_EQ(Read(), Lines({"a", "b"}));
+    EXPECT_EQ(Read(), RawLines({"a", "b"}));
     EXPECT_FALSE(failed_);
     EXPECT_EQ(status_.Text(), "Loading PCVEL Source " + (folder_ / "game.sce").string() + "\n" +
                                   (folder_ / "game.sce").string() +
@@ -60,18 +60,18 @@ TEST_F(PcLinesTest, ALinkGoesOnWithTheFileItNames) {
 TEST_F(PcLinesTest, ALinkWithoutAnExtensionTakesThatOfTheSource) {
     Write("game.sce", "/lnk   PART2\n");
     Write("PART2.sce", "b\n");
-    EXPECT_EQ(Read(), Lines({"b"}));
+    EXPECT_EQ(Read(), RawLines({"b"}));
 }
 
 TEST_F(PcLinesTest, ALinkMayNameAFileInAFolderBelow) {
     Write("game.sce", "/LNK parts\\two.sce\n");
     Write("parts/two.sce", "b\n");
-    EXPECT_EQ(Read(), Lines({"b"}));
+    EXPECT_EQ(Read(), RawLines({"b"}));
 }
 
 TEST_F(PcLinesTest, ALinkToItselfEndsTheReading) {
     Write("game.sce", "a\n/LNK game\n");
-    EXPECT_EQ(Read(), Lines({"a"}));
+    EXPECT_EQ(Read(), RawLines({"a"}));
     EXPECT_TRUE(failed_);
     EXPECT_NE(
         status_.Text().find("game.sce:2:1: fault: ERROR: The link goes back to a file that was read.\n"),
@@ -81,14 +81,14 @@ TEST_F(PcLinesTest, ALinkToItselfEndsTheReading) {
 TEST_F(PcLinesTest, ARingOfLinksEndsTheReading) {
     Write("game.sce", "/LNK b\n");
     Write("b.sce", "/LNK game\n");
-    EXPECT_EQ(Read(), Lines());
+    EXPECT_EQ(Read(), RawLines());
     EXPECT_TRUE(failed_);
 }
 
 TEST_F(PcLinesTest, ALinkOutOfTheFolderIsRefused) {
     for (const char* link : {"../secret.sce", "/etc/passwd.sce", "..\\secret.sce", "x/../../secret.sce"}) {
         Write("game.sce", std::string("/LNK ") + link + "\n");
-        EXPECT_EQ(Read(), Lines());
+        EXPECT_EQ(Read(), RawLines());
         EXPECT_TRUE(failed_) << link;
     }
     EXPECT_NE(status_.Text().find("ERROR: The link leaves the folder of the source."), std::string::npos);
@@ -99,25 +99,25 @@ TEST_F(PcLinesTest, ASymbolicLinkOutOfTheFolderIsRefused) {
     std::ofstream(elsewhere / "secret.sce") << "secret\n";
     std::filesystem::create_symlink(elsewhere / "secret.sce", folder_ / "inside.sce");
     Write("game.sce", "/LNK inside\n");
-    EXPECT_EQ(Read(), Lines());
+    EXPECT_EQ(Read(), RawLines());
     EXPECT_TRUE(failed_);
 }
 
 TEST_F(PcLinesTest, AMissingFileEndsTheReading) {
     Write("game.sce", "/LNK none\n");
-    EXPECT_EQ(Read(), Lines());
+    EXPECT_EQ(Read(), RawLines());
     EXPECT_TRUE(failed_);
 }
 
 TEST_F(PcLinesTest, ALinkWithoutANameEndsTheReading) {
     Write("game.sce", "/LNK\n");
-    EXPECT_EQ(Read(), Lines());
+    EXPECT_EQ(Read(), RawLines());
     EXPECT_TRUE(failed_);
 }
 
 TEST_F(PcLinesTest, AWordThatBeginsLikeALinkIsNone) {
     Write("game.sce", "/LNKS x\n");
-    EXPECT_EQ(Read(), Lines({"/LNKS x"}));
+    EXPECT_EQ(Read(), RawLines({"/LNKS x"}));
 }
 
 }  // namespace

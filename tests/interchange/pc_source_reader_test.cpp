@@ -7,16 +7,16 @@ namespace {
 
 using store::TableNum;
 
-constexpr const char* kWords =
+constexpr const char* kReadWords =
     "NORTH 2 noun\nSOUTH 3 noun\nGO 20 verb\nLIGHT 21 verb\nLAMP 50 noun\nLIGHT 51 noun\nRED 2 adjective\n"
     "UNDER 6 preposition\n";
-constexpr const char* kRooms = "/LTX\n/0\nHall.\n/1\nCellar.\n";
+constexpr const char* kReadRooms = "/LTX\n/0\nHall.\n/1\nCellar.\n";
 
 Reading PcGame(const std::string& sections) {
-    return Reading("pcvel", PcSource(kWords, sections));
+    return Reading("pcvel", PcSource(kReadWords, sections));
 }
 Reading AceGame(const std::string& sections) {
-    return Reading("ace", PcSource(kWords, sections));
+    return Reading("ace", PcSource(kReadWords, sections));
 }
 
 TEST(PcSource, TellsItsSteps) {
@@ -244,7 +244,7 @@ TEST(PcSourceTexts, ComeInAtTheNumbersGiven) {
 }
 
 TEST(PcSourceConnections, BecomeTheExitsOfTheirLocation) {
-    const Reading game = PcGame(std::string(kRooms) + "/CON\n/0\nnorth 1\nGO 0\n/1\nSOUTH 0 NORTH 1\n");
+    const Reading game = PcGame(std::string(kReadRooms) + "/CON\n/0\nnorth 1\nGO 0\n/1\nSOUTH 0 NORTH 1\n");
     EXPECT_EQ(game.Text(TableNum::Locations, "locnum=0", "exits"), "NORTH 1 GO 0");
     EXPECT_EQ(game.Text(TableNum::Locations, "locnum=0", "numericexits"), "2 1 20 0");
     EXPECT_EQ(game.Number(TableNum::Locations, "locnum=0", "numexits"), 4) << "tokens, two for each exit";
@@ -252,7 +252,7 @@ TEST(PcSourceConnections, BecomeTheExitsOfTheirLocation) {
 }
 
 TEST(PcSourceConnections, BadOnesAreToldAndDropped) {
-    const Reading game = PcGame(std::string(kRooms) +
+    const Reading game = PcGame(std::string(kReadRooms) +
                                 "/CON\n/0\nXYZ 1\nLAMP 1\nNORTH x\nNORTH 9\nNORTH\nSOUTH 1\n/7\nNORTH 0\n");
     EXPECT_TRUE(game.ToldAt(19, "XYZ is not a valid word"));
     EXPECT_TRUE(game.Told("LAMP is not a valid word")) << "a noun from 20 up is no movement word";

@@ -17,11 +17,11 @@ std::string Part(const std::string& source, const std::string& from, const std::
     return part;
 }
 
-constexpr const char* kWords =
+constexpr const char* kWrittenWords =
     "NORTH 2 noun\nGO 20 verb\nLAMP 50 noun\nRED 2 adjective\nUNDER 6 preposition\n";
 
 TEST(PcSourceWriter, BeginsWithItsOrigin) {
-    const Reading game("pcvel", PcSource(kWords, ""));
+    const Reading game("pcvel", PcSource(kWrittenWords, ""));
     const std::string source = Written(*game, "pcvel");
     EXPECT_TRUE(source.starts_with(
         "; Exported in PC VEL format by Fabula Export Version 4.0.0\r\n"
@@ -34,7 +34,7 @@ TEST(PcSourceWriter, BeginsWithItsOrigin) {
 }
 
 TEST(PcSourceWriter, WritesTheVocabularyWithoutReservedWords) {
-    const Reading game("ace", PcSource(kWords, ""));
+    const Reading game("ace", PcSource(kWrittenWords, ""));
     EXPECT_EQ(Part(Written(*game, "ace"), "/VOC", "#"),
               "/VOC\nGO       20   verb\nNORTH     2   noun\nLAMP     50   noun\nRED       2   adjective\n"
               "UNDER     6   preposition\n");
@@ -53,13 +53,13 @@ TEST(PcSourceWriter, CutsWordsToTheLettersThatCount) {
 }
 
 TEST(PcSourceWriter, WritesTexts) {
-    const Reading game("pcvel",
-                       PcSource(kWords, "/MTX\n/0\nOne & two.\n\nFour.\n/2\n/OTX\n/LTX\n/0\nHall.\n"));
+    const Reading game(
+        "pcvel", PcSource(kWrittenWords, "/MTX\n/0\nOne & two.\n\nFour.\n/2\n/OTX\n/LTX\n/0\nHall.\n"));
     EXPECT_EQ(Part(Written(*game, "pcvel"), "/MTX", ";"), "/MTX\n/0\nOne & two.\n\nFour.\n/2\n");
 }
 
 TEST(PcSourceWriter, NamesATextThatDoesNotComeBack) {
-    const Reading game("ace", PcSource(kWords, "/MTX\n/0\nStop; go.\n"));
+    const Reading game("ace", PcSource(kWrittenWords, "/MTX\n/0\nStop; go.\n"));
     std::string status;
     Written(*game, "pcvel", &status);
     EXPECT_NE(status.find("Messages 0, msgmsg: the text will not come back as it is."), std::string::npos)
@@ -68,7 +68,7 @@ TEST(PcSourceWriter, NamesATextThatDoesNotComeBack) {
 
 TEST(PcSourceWriter, WritesConnectionsAndObjects) {
     const Reading game("pcvel",
-                       PcSource(kWords,
+                       PcSource(kWrittenWords,
                                 "/OTX\n/0\nA lamp\n/LTX\n/0\nHall.\n/1\nCellar.\n/CON\n/0\nNORTH 1\nGO 0\n"
                                 "/OBJ\n/0 WORN 7 N Y LAMP RED\n"));
     const std::string source = Written(*game, "pcvel");
@@ -77,7 +77,7 @@ TEST(PcSourceWriter, WritesConnectionsAndObjects) {
 }
 
 TEST(PcSourceWriter, WritesEntriesInTheOrderOfTheirKeys) {
-    const Reading game("ace", PcSource(kWords,
+    const Reading game("ace", PcSource(kWrittenWords,
                                        "/PRO 0\nGO LAMP PREP UNDER PLACE 0 CARRIED\n_ _\n DONE\nGO _\n"
                                        "/PRO 1\n/PRO 2\n_ _ CLS\n"));
     const std::string source = Written(*game, "ace");
@@ -90,13 +90,15 @@ TEST(PcSourceWriter, WritesEntriesInTheOrderOfTheirKeys) {
 
 TEST(PcSourceWriter, WritesEmptyTablesSoThatNumbersStay) {
     const Reading game(
-        "ace", PcSource(kWords, "/PRO 0\n_ _ PROCESS 4\n/PRO 1\n/PRO 2\n/PRO 3\n/PRO 4\n_ _ DONE\n"));
+        "ace",
+        PcSource(kWrittenWords, "/PRO 0\n_ _ PROCESS 4\n/PRO 1\n/PRO 2\n/PRO 3\n/PRO 4\n_ _ DONE\n"));
     game->DeleteFrom(TableNum::ProcDesc, "pmsgnum=3");
     EXPECT_EQ(Part(Written(*game, "ace"), "/PRO 3", "#"), "/PRO 3\n");
 }
 
 TEST(PcSourceWriter, EndsWithDocumentationInComments) {
-    const Reading game("pcvel", PcSource(kWords, "/PRO 0\n_ _ SET 60\n/PRO 1\n/PRO 2\n/PRO 3\n_ _ DONE\n"));
+    const Reading game("pcvel",
+                       PcSource(kWrittenWords, "/PRO 0\n_ _ SET 60\n/PRO 1\n/PRO 2\n/PRO 3\n_ _ DONE\n"));
     const std::string source = Written(*game, "pcvel");
     EXPECT_EQ(Part(source, "; /FLG This is added to give documentation on the flags.", "; /PRD"),
               "; /FLG This is added to give documentation on the flags.\n; /28\n; In a Marlo adventure 1 "
@@ -110,7 +112,7 @@ TEST(PcSourceWriter, EndsWithDocumentationInComments) {
 }
 
 TEST(PcSourceWriter, RefusesWhatOnlyThisSystemHas) {
-    const Reading game("ace", PcSource(kWords, "/PRO 0\n_ _ OOPS 1 MESF 60\n"));
+    const Reading game("ace", PcSource(kWrittenWords, "/PRO 0\n_ _ OOPS 1 MESF 60\n"));
     std::string status;
     EXPECT_EQ(Written(*game, "pcvel", &status), "");
     EXPECT_EQ(status,
@@ -120,7 +122,7 @@ TEST(PcSourceWriter, RefusesWhatOnlyThisSystemHas) {
 }
 
 TEST(PcSourceWriter, ACharacterThatCannotBeWrittenFailsTheExport) {
-    const Reading game("ace", "\xEF\xBB\xBF" + PcSource(kWords, "/MTX\n/4\nSay 中.\n"));
+    const Reading game("ace", "\xEF\xBB\xBF" + PcSource(kWrittenWords, "/MTX\n/4\nSay 中.\n"));
     std::string status;
     EXPECT_EQ(Written(*game, "ace", &status), "");
     EXPECT_EQ(status, "ERROR: Messages 4, msgmsg: the character U+4E2D can't be written in this file.\n");

@@ -8,9 +8,9 @@
 namespace fabula::interchange {
 namespace {
 
-using Lines = std::vector<std::string>;
+using FormLines = std::vector<std::string>;
 
-const AceTags& Tags() {
+const AceTags& FormTags() {
     static const AceTags tags(*test::OpenedAdventure());
     return tags;
 }
@@ -20,7 +20,7 @@ PcTextForm Pc() {
 }
 
 PcTextForm Ace() {
-    return {kAceSource, store::LoadTagCatalogue(*test::OpenedAdventure()), &Tags()};
+    return {kAceSource, store::LoadTagCatalogue(*test::OpenedAdventure()), &FormTags()};
 }
 
 std::vector<std::string> Told(const std::vector<PcTextForm::BadTag>& tags) {
@@ -31,24 +31,24 @@ std::vector<std::string> Told(const std::vector<PcTextForm::BadTag>& tags) {
 }
 
 TEST(PcTextForm, WritesLines) {
-    EXPECT_EQ(Pc().ToSource("One.\u008CTwo.\u008C").lines, Lines({"One.", "Two.", ""}));
-    EXPECT_EQ(Pc().ToSource(" ").lines, Lines({" "}));
-    EXPECT_EQ(Pc().ToSource("").lines, Lines());
+    EXPECT_EQ(Pc().ToSource("One.\u008CTwo.\u008C").lines, FormLines({"One.", "Two.", ""}));
+    EXPECT_EQ(Pc().ToSource(" ").lines, FormLines({" "}));
+    EXPECT_EQ(Pc().ToSource("").lines, FormLines());
 }
 
 TEST(PcTextForm, WritesMarkupAsTheSourceHasIt) {
-    EXPECT_EQ(Pc().ToSource("Fish &amp; chips<tab>&lt;5 &gt;").lines, Lines({"Fish & chips<ht><5 >"}));
+    EXPECT_EQ(Pc().ToSource("Fish &amp; chips<tab>&lt;5 &gt;").lines, FormLines({"Fish & chips<ht><5 >"}));
     EXPECT_TRUE(Pc().ToSource("Fish &amp; chips<tab>&lt;5 &gt;").comesBack);
 }
 
 TEST(PcTextForm, WritesTheTagsOfAceSources) {
-    EXPECT_EQ(Ace().ToSource("<ink=10>Hot<#=96>").lines, Lines({"<color=bright red>Hot<chr=96>"}));
+    EXPECT_EQ(Ace().ToSource("<ink=10>Hot<#=96>").lines, FormLines({"<color=bright red>Hot<chr=96>"}));
     EXPECT_TRUE(Ace().ToSource("<ink=10>Hot<#=96>").comesBack);
 }
 
 TEST(PcTextForm, AnEntityThatWouldPassForATagIsWrittenAsAnEntity) {
     const PcTextForm::Written written = Ace().ToSource("&lt;flash&gt;");
-    EXPECT_EQ(written.lines, Lines({"&lt;flash&gt;"}));
+    EXPECT_EQ(written.lines, FormLines({"&lt;flash&gt;"}));
     EXPECT_FALSE(written.comesBack) << "it comes back as &amp;lt;flash&amp;gt;, which prints the same";
 }
 
@@ -61,21 +61,21 @@ TEST(PcTextForm, TellsWhatDoesNotComeBack) {
 }
 
 TEST(PcTextForm, ALineThatBeginsWithASlashGetsABlank) {
-    EXPECT_EQ(Pc().ToSource("a\u008C/PRO 0").lines, Lines({"a", " /PRO 0"}));
+    EXPECT_EQ(Pc().ToSource("a\u008C/PRO 0").lines, FormLines({"a", " /PRO 0"}));
 }
 
 TEST(PcTextForm, WhatIsNoKnownTagIsText) {
     EXPECT_EQ(Pc().FromSource("Press <enter> now"), "Press &lt;enter&gt; now");
     EXPECT_EQ(Ace().FromSource("<COLOR=reddish>Hot<ink=99>"), "&lt;COLOR=reddish&gt;Hot&lt;ink=99&gt;");
-    EXPECT_EQ(Ace().ToSource("Press &lt;enter&gt; now").lines, Lines({"Press <enter> now"}));
+    EXPECT_EQ(Ace().ToSource("Press &lt;enter&gt; now").lines, FormLines({"Press <enter> now"}));
 }
 
 TEST(PcTextForm, TellsWhatLooksLikeATagAndIsNone) {
     EXPECT_EQ(Told(Pc().FindBadTags("Press <enter> now, <flash>or</flash> 1<2")),
-              Lines({"6: Invalid Tag: <ENTER>"}));
-    EXPECT_EQ(
-        Told(Ace().FindBadTags("<COLOR=reddish>Hot<ink=99><color=bright red>")),
-        Lines({"0: Invalid color REDDISH for tag COLOR=REDDISH", "18: Invalid color 99 for tag INK=99"}));
+              FormLines({"6: Invalid Tag: <ENTER>"}));
+    EXPECT_EQ(Told(Ace().FindBadTags("<COLOR=reddish>Hot<ink=99><color=bright red>")),
+              FormLines({"0: Invalid color REDDISH for tag COLOR=REDDISH",
+                         "18: Invalid color 99 for tag INK=99"}));
 }
 
 TEST(PcTextForm, KnowsTagsFromBrackets) {

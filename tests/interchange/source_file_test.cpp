@@ -10,7 +10,7 @@
 namespace fabula::interchange {
 namespace {
 
-std::vector<std::string> LinesOf(const std::string& bytes) {
+std::vector<std::string> SourceLinesOf(const std::string& bytes) {
     const test::TempFolder folder;
     std::ofstream(folder / "source.txt", std::ios::binary) << bytes;
     SourceFile source(folder / "source.txt");
@@ -20,52 +20,53 @@ std::vector<std::string> LinesOf(const std::string& bytes) {
     return lines;
 }
 
-using Lines = std::vector<std::string>;
+using SourceLines = std::vector<std::string>;
 
 TEST(SourceFile, AnEmptyFileHasNoLines) {
-    EXPECT_EQ(LinesOf(""), Lines());
+    EXPECT_EQ(SourceLinesOf(""), SourceLines());
 }
 
 TEST(SourceFile, TheLastLineNeedsNoEnd) {
-    EXPECT_EQ(LinesOf("a\nb"), Lines({"a", "b"}));
+    EXPECT_EQ(SourceLinesOf("a\nb"), SourceLines({"a", "b"}));
 }
 
 TEST(SourceFile, ALastLineEndBeginsNoLine) {
-    EXPECT_EQ(LinesOf("a\n"), Lines({"a"}));
+    EXPECT_EQ(SourceLinesOf("a\n"), SourceLines({"a"}));
 }
 
 TEST(SourceFile, TakesMixedLineEnds) {
-    EXPECT_EQ(LinesOf("a\r\nb\nc\rd\r\n\r\ne\n\rf"), Lines({"a", "b", "c", "d", "", "e", "", "f"}));
+    EXPECT_EQ(SourceLinesOf("a\r\nb\nc\rd\r\n\r\ne\n\rf"),
+              SourceLines({"a", "b", "c", "d", "", "e", "", "f"}));
 }
 
 TEST(SourceFile, BytesAreWindows1252) {
-    EXPECT_EQ(LinesOf("caf\xE9 \x8C"), Lines({"café Œ"}));
+    EXPECT_EQ(SourceLinesOf("caf\xE9 \x8C"), SourceLines({"café Œ"}));
 }
 
 TEST(SourceFile, AByteOrderMarkMeansUtf8) {
-    EXPECT_EQ(LinesOf("\xEF\xBB\xBF"
-                      "café\n"),
-              Lines({"café"}));
+    EXPECT_EQ(SourceLinesOf("\xEF\xBB\xBF"
+                            "café\n"),
+              SourceLines({"café"}));
 }
 
 TEST(SourceFile, BytesThatAreNoUtf8AreReplacedInAMarkedFile) {
-    EXPECT_EQ(LinesOf("\xEF\xBB\xBF"
-                      "a\xFFz"),
-              Lines({"a\uFFFDz"}));
+    EXPECT_EQ(SourceLinesOf("\xEF\xBB\xBF"
+                            "a\xFFz"),
+              SourceLines({"a\uFFFDz"}));
 }
 
 TEST(SourceFile, NulBytesCountAsBlanks) {
-    EXPECT_EQ(LinesOf(std::string("a\0b", 3)), Lines({"a b"}));
+    EXPECT_EQ(SourceLinesOf(std::string("a\0b", 3)), SourceLines({"a b"}));
 }
 
 TEST(SourceFile, ALineMayBeLongerThanTheBuffer) {
     const std::string line(1'000'000, 'x');
-    EXPECT_EQ(LinesOf(line + "\r\n" + line), Lines({line, line}));
+    EXPECT_EQ(SourceLinesOf(line + "\r\n" + line), SourceLines({line, line}));
 }
 
 TEST(SourceFile, ALineEndMayBeSplitByTheBuffer) {
     const std::string line(65535, 'x');
-    EXPECT_EQ(LinesOf(line + "\r\nend"), Lines({line, "end"}));
+    EXPECT_EQ(SourceLinesOf(line + "\r\nend"), SourceLines({line, "end"}));
 }
 
 TEST(SourceFile, CountsLines) {

@@ -11,7 +11,7 @@ namespace fabula::listings {
 namespace {
 
 using store::TableNum;
-using Numbers = std::vector<int>;
+using RangeOf = std::vector<int>;
 
 /// Tables 0 to 9 but 7 have an entry, and pictures 0, 2 and 5 exist.
 class RangeText : public testing::Test {
@@ -27,7 +27,7 @@ class RangeText : public testing::Test {
             AddRecord(*adventure_, TableNum::Pictures, {{"locnum", std::int64_t{picture}}});
     }
 
-    Numbers Tables(const std::string& text) {
+    RangeOf Tables(const std::string& text) {
         const RangeCheck check = ValidateRange(text, TableNum::ProcessTables, *adventure_);
         EXPECT_EQ(check.fault, "");
         return check.numbers;
@@ -40,30 +40,30 @@ class RangeText : public testing::Test {
 };
 
 TEST_F(RangeText, NumbersAndRangesAreListedInTheirOrder) {
-    EXPECT_EQ(Tables("1,3-5,9"), (Numbers{1, 3, 4, 5, 9}));
-    EXPECT_EQ(Tables("9,1"), (Numbers{9, 1}));
+    EXPECT_EQ(Tables("1,3-5,9"), (RangeOf{1, 3, 4, 5, 9}));
+    EXPECT_EQ(Tables("9,1"), (RangeOf{9, 1}));
 }
 
 TEST_F(RangeText, OpenRangeReachesToTheHighestTable) {
-    EXPECT_EQ(Tables("3-"), (Numbers{3, 4, 5, 6, 8, 9}));
+    EXPECT_EQ(Tables("3-"), (RangeOf{3, 4, 5, 6, 8, 9}));
 }
 
 TEST_F(RangeText, AllIsEveryTableThatHasEntries) {
-    EXPECT_EQ(Tables("ALL"), (Numbers{0, 1, 2, 3, 4, 5, 6, 8, 9}));
-    EXPECT_EQ(Tables("all"), (Numbers{0, 1, 2, 3, 4, 5, 6, 8, 9}));
+    EXPECT_EQ(Tables("ALL"), (RangeOf{0, 1, 2, 3, 4, 5, 6, 8, 9}));
+    EXPECT_EQ(Tables("all"), (RangeOf{0, 1, 2, 3, 4, 5, 6, 8, 9}));
 }
 
 TEST_F(RangeText, BlanksDoNotCount) {
-    EXPECT_EQ(Tables(" 1 , 3 - 4 "), (Numbers{1, 3, 4}));
+    EXPECT_EQ(Tables(" 1 , 3 - 4 "), (RangeOf{1, 3, 4}));
 }
 
 TEST_F(RangeText, TableWithoutEntriesIsLeftOut) {
-    EXPECT_EQ(Tables("6-8"), (Numbers{6, 8}));
-    EXPECT_EQ(Tables("7"), Numbers{});
+    EXPECT_EQ(Tables("6-8"), (RangeOf{6, 8}));
+    EXPECT_EQ(Tables("7"), RangeOf{});
 }
 
 TEST_F(RangeText, TableThatIsNamedTwiceIsListedOnce) {
-    EXPECT_EQ(Tables("2,1-3"), (Numbers{2, 1, 3}));
+    EXPECT_EQ(Tables("2,1-3"), (RangeOf{2, 1, 3}));
 }
 
 TEST_F(RangeText, EmptyTextIsRefused) {
@@ -102,14 +102,14 @@ TEST_F(RangeText, SpecialListingTakesOneTable) {
     const std::string fault = "Cannot print more than one table when Special Listing is checked";
     EXPECT_EQ(ValidateRange("1,2", TableNum::ProcessTables, *adventure_, true).fault, fault);
     EXPECT_EQ(ValidateRange("1-2", TableNum::ProcessTables, *adventure_, true).fault, fault);
-    EXPECT_EQ(ValidateRange("2", TableNum::ProcessTables, *adventure_, true).numbers, Numbers{2});
+    EXPECT_EQ(ValidateRange("2", TableNum::ProcessTables, *adventure_, true).numbers, RangeOf{2});
 }
 
 TEST_F(RangeText, ExtraEntriesMayNotLeaveTheTable) {
-    EXPECT_EQ(ValidateRange("195", TableNum::Flags, *adventure_).numbers, Numbers{195});
+    EXPECT_EQ(ValidateRange("195", TableNum::Flags, *adventure_).numbers, RangeOf{195});
     EXPECT_EQ(FaultOf("196", TableNum::Flags), "196 extra entries would take it out of the table");
     EXPECT_EQ(FaultOf("x", TableNum::Flags), "x is not numeric");
-    EXPECT_EQ(ValidateRange("", TableNum::Flags, *adventure_).numbers, Numbers{});
+    EXPECT_EQ(ValidateRange("", TableNum::Flags, *adventure_).numbers, RangeOf{});
 }
 
 TEST_F(RangeText, ProcessDescriptionsAcceptAnyText) {
@@ -117,8 +117,8 @@ TEST_F(RangeText, ProcessDescriptionsAcceptAnyText) {
 }
 
 TEST_F(RangeText, PicturesAreListedByNumber) {
-    EXPECT_EQ(ValidateRange("0-2,5", TableNum::Pictures, *adventure_).numbers, (Numbers{0, 2, 5}));
-    EXPECT_EQ(ValidateRange("1-", TableNum::Pictures, *adventure_).numbers, (Numbers{2, 5}));
+    EXPECT_EQ(ValidateRange("0-2,5", TableNum::Pictures, *adventure_).numbers, (RangeOf{0, 2, 5}));
+    EXPECT_EQ(ValidateRange("1-", TableNum::Pictures, *adventure_).numbers, (RangeOf{2, 5}));
 }
 
 TEST_F(RangeText, PicturesHaveMessagesOfTheirOwn) {
@@ -144,7 +144,7 @@ TEST_F(RangeText, WordsAreListedByType) {
                {"vocnum", std::int64_t{20}},
                {"word", std::string("X")},
                {"voctypen", std::int64_t{2}}});
-    EXPECT_EQ(ValidateRange("2", TableNum::Vocabulary, *adventure_).numbers, Numbers{2});
+    EXPECT_EQ(ValidateRange("2", TableNum::Vocabulary, *adventure_).numbers, RangeOf{2});
     EXPECT_EQ(FaultOf("8", TableNum::Vocabulary), "8 is outside range of Word Types");
 }
 

@@ -13,9 +13,9 @@ namespace {
 using std::chrono::milliseconds;
 using Messages = std::vector<Message>;
 
-class Recorder final : public Output {
+class PlayedEvents final : public Output {
   public:
-    explicit Recorder(Messages& sent) : sent_(sent) {}
+    explicit PlayedEvents(Messages& sent) : sent_(sent) {}
     void Send(const Message& message) override { sent_.push_back(message); }
 
   private:
@@ -42,7 +42,7 @@ class PlayerTest : public testing::Test {
         return [this](const std::string& name, int device) -> std::unique_ptr<Output> {
             opened_.push_back(name + "#" + std::to_string(device));
             if (broken_) throw Error("There is no MIDI device.");
-            return std::make_unique<Recorder>(sent_);
+            return std::make_unique<PlayedEvents>(sent_);
         };
     }
 

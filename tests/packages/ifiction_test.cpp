@@ -8,7 +8,7 @@
 namespace fabula::packages {
 namespace {
 
-GameFacts Lamp() {
+GameFacts LampStory() {
     GameFacts facts;
     facts.name = "The Lamp & <the> \"Cellar\"";
     facts.author = " A.\tNother\x01 ";
@@ -19,7 +19,7 @@ GameFacts Lamp() {
 
 TEST(IFictionRecord, IdentifiesAndDescribesTheGame) {
     const Cover cover{"", "jpg", 400, 300};
-    EXPECT_EQ(IFictionRecord(Lamp(), &cover),
+    EXPECT_EQ(IFictionRecord(LampStory(), &cover),
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
               "<ifindex version=\"1.0\" xmlns=\"http://babel.ifarchive.org/protocol/iFiction/\">\n"
               "    <story>\n"
@@ -55,7 +55,7 @@ TEST(IFictionRecord, HasATitleAndAnAuthorForEveryGameAndIsWellFormed) {
 }
 
 TEST(IFictionRecord, NeedsAnIfid) {
-    GameFacts facts = Lamp();
+    GameFacts facts = LampStory();
     facts.ifid.clear();
     EXPECT_THROW(IFictionRecord(facts, nullptr), Error);
 }

@@ -5,7 +5,7 @@
 namespace fabula::pictures {
 namespace {
 
-constexpr Colour kRed = MakeColour(200, 0, 0);
+constexpr Colour kRedSheet = MakeColour(200, 0, 0);
 constexpr Colour kBlack = MakeColour(0, 0, 0);
 constexpr Colour kSheet = MakeColour(64, 64, 64);
 constexpr Colour kLabel = MakeColour(255, 255, 255);
@@ -15,29 +15,29 @@ NumberedPicture PictureOf(int number, Colour colour) {
 }
 
 TEST(ContactSheet, PutsPicturesOfHalfTheSizeSideBySideAndInRows) {
-    const Image sheet =
-        ContactSheet({PictureOf(1, kRed), PictureOf(2, kBlack), PictureOf(3, kRed)}, CharacterSets{}, 2);
+    const Image sheet = ContactSheet(
+        {PictureOf(1, kRedSheet), PictureOf(2, kBlack), PictureOf(3, kRedSheet)}, CharacterSets{}, 2);
     EXPECT_EQ(sheet.width, 8 + 2 * 136);
     EXPECT_EQ(sheet.height, 8 + 2 * 108);
     EXPECT_EQ(sheet.At(0, 0), kSheet);
-    EXPECT_EQ(sheet.At(8, 8), kRed);
-    EXPECT_EQ(sheet.At(135, 95), kRed);
+    EXPECT_EQ(sheet.At(8, 8), kRedSheet);
+    EXPECT_EQ(sheet.At(135, 95), kRedSheet);
     EXPECT_EQ(sheet.At(136, 8), kSheet);
     EXPECT_EQ(sheet.At(144, 8), kBlack);
-    EXPECT_EQ(sheet.At(8, 116), kRed);
+    EXPECT_EQ(sheet.At(8, 116), kRedSheet);
     EXPECT_EQ(sheet.At(144, 116), kSheet);
 }
 
 TEST(ContactSheet, ShowsTheMeanOfFourPixels) {
     NumberedPicture picture = PictureOf(1, kBlack);
-    picture.image.At(0, 0) = kRed;
+    picture.image.At(0, 0) = kRedSheet;
     EXPECT_EQ(ContactSheet({picture}, CharacterSets{}, 4).At(8, 8), MakeColour(50, 0, 0));
 }
 
 TEST(ContactSheet, WritesTheNumberBelowThePicture) {
     CharacterSets characters;
     characters.Add({0, '5', "Default", {128, 0, 0, 0, 0, 0, 0, 1}});
-    const Image sheet = ContactSheet({PictureOf(55, kRed)}, characters, 4);
+    const Image sheet = ContactSheet({PictureOf(55, kRedSheet)}, characters, 4);
     EXPECT_EQ(sheet.At(8, 98), kLabel);
     EXPECT_EQ(sheet.At(9, 98), kSheet);
     EXPECT_EQ(sheet.At(15, 105), kLabel);

@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 
 /// The sentence of the Error that drawing ends in.
-std::string FaultOf(const PictureBook& book, std::string_view drawstring) {
+std::string DrawingFault(const PictureBook& book, std::string_view drawstring) {
     try {
         Drawing drawing(book);
         Picture picture;
@@ -207,7 +207,7 @@ TEST(DrawCommand, StepByStepGivesThePictureOfOneDraw) {
 TEST(GoSub, ToItselfFailsAndNamesThePicture) {
     PictureBook book = TestBook();
     AddPicture(book, 12, "GOSUB sc=0 12 END");
-    EXPECT_EQ(FaultOf(book, "GOSUB sc=0 12 END"),
+    EXPECT_EQ(DrawingFault(book, "GOSUB sc=0 12 END"),
               "Picture 12 can't be drawn: its GOSUBs are nested over 64 deep, in picture 12.");
 }
 
@@ -216,7 +216,7 @@ TEST(GoSub, InARingFailsAndNamesAllPicturesOfTheRing) {
     AddPicture(book, 5, "GOSUB sc=0 6 END");
     AddPicture(book, 6, "GOSUB sc=0 7 END");
     AddPicture(book, 7, "GOSUB sc=0 5 END");
-    EXPECT_EQ(FaultOf(book, "GOSUB sc=0 5 END"),
+    EXPECT_EQ(DrawingFault(book, "GOSUB sc=0 5 END"),
               "Picture 12 can't be drawn: its GOSUBs are nested over 64 deep, in pictures 12, 5, 6 and 7.");
 }
 
@@ -239,9 +239,9 @@ TEST(GoSub, ThatMultipliesWithoutEndFails) {
         AddPicture(book, number, "GOSUB sc=0 " + next + " GOSUB sc=0 " + next + " END");
     }
     AddPicture(book, 160, "END");
-    const std::string drawn = FaultOf(book, "GOSUB sc=0 999 END");
+    const std::string drawn = DrawingFault(book, "GOSUB sc=0 999 END");
     EXPECT_EQ(
-        FaultOf(book, "GOSUB sc=0 100 END"),
+        DrawingFault(book, "GOSUB sc=0 100 END"),
         drawn.substr(0, drawn.find(':')) + ": with its subroutines it runs more than 50000 commands.");
 }
 
@@ -256,36 +256,36 @@ TEST(GoSub, ADrawAfterAFailureIsNotHarmed) {
 }
 
 TEST(StoredDrawstring, WithoutItsParametersFails) {
-    EXPECT_EQ(FaultOf(TestBook(), "LINE 0 5"),
+    EXPECT_EQ(DrawingFault(TestBook(), "LINE 0 5"),
               "Picture 12 can't be drawn: a parameter of LINE is missing or is no number.");
-    EXPECT_EQ(FaultOf(TestBook(), "LINE 0 5 END"),
+    EXPECT_EQ(DrawingFault(TestBook(), "LINE 0 5 END"),
               "Picture 12 can't be drawn: a parameter of LINE is missing or is no number.");
-    EXPECT_EQ(FaultOf(TestBook(), "GOSUB"),
+    EXPECT_EQ(DrawingFault(TestBook(), "GOSUB"),
               "Picture 12 can't be drawn: a parameter of GOSUB is missing or is no number.");
-    EXPECT_EQ(FaultOf(TestBook(), "GOSUB 3 5 END"),
+    EXPECT_EQ(DrawingFault(TestBook(), "GOSUB 3 5 END"),
               "Picture 12 can't be drawn: a parameter of GOSUB is missing or is no number.");
 }
 
 TEST(StoredDrawstring, NamesTheSubroutineThatFails) {
     PictureBook book = TestBook();
     AddPicture(book, 5, "LINE x 0 0 END");
-    EXPECT_EQ(FaultOf(book, "GOSUB sc=0 5 END"),
+    EXPECT_EQ(DrawingFault(book, "GOSUB sc=0 5 END"),
               "Picture 5 can't be drawn: a parameter of LINE is missing or is no number.");
 }
 
 TEST(StoredDrawstring, WithACharacterOrPictureThatIsGoneFails) {
-    EXPECT_EQ(FaultOf(TestBook(), "TEXT 0 0 200 1 1 END"),
+    EXPECT_EQ(DrawingFault(TestBook(), "TEXT 0 0 200 1 1 END"),
               "Picture 12 can't be drawn: character set 0 has no character 200.");
-    EXPECT_EQ(FaultOf(TestBook(), "SHADE 0 0 0 85 END"),
+    EXPECT_EQ(DrawingFault(TestBook(), "SHADE 0 0 0 85 END"),
               "Picture 12 can't be drawn: no character set has a character 5.");
-    EXPECT_EQ(FaultOf(TestBook(), "GOSUB sc=0 99 END"),
+    EXPECT_EQ(DrawingFault(TestBook(), "GOSUB sc=0 99 END"),
               "Picture 12 can't be drawn: there is no picture 99 for its GOSUB.");
 }
 
 TEST(StoredDrawstring, WithoutTheSolidCharacterCanNotFill) {
     PictureBook book = TestBook();
     book.characters = {};
-    EXPECT_EQ(FaultOf(book, "QFILL 0 0 END"),
+    EXPECT_EQ(DrawingFault(book, "QFILL 0 0 END"),
               "Picture 12 can't be drawn: no character set has a character 143.");
 }
 
@@ -293,7 +293,7 @@ TEST(StoredDrawstring, WithASolidCharacterThatHasGapsFailsInsteadOfFillingForEve
     PictureBook book = TestBook();
     book.characters = {};
     book.characters.Add({0, 143, "Default", {255, 255, 0, 0, 0, 0, 0, 0}});
-    EXPECT_EQ(FaultOf(book, "QFILL 50 50 END"),
+    EXPECT_EQ(DrawingFault(book, "QFILL 50 50 END"),
               "Picture 12 can't be drawn: a fill does not end, since character 143, which marks what is "
               "filled, has "
               "gaps.");
@@ -302,7 +302,7 @@ TEST(StoredDrawstring, WithASolidCharacterThatHasGapsFailsInsteadOfFillingForEve
 TEST(StoredDrawstring, ACatalogueThatGivesAWordTooFewParametersFails) {
     PictureBook book;
     book.commands.Add({304, "LINE", 0, 1, {}, {"IO"}});
-    EXPECT_EQ(FaultOf(book, "LINE 0 5 5 END"),
+    EXPECT_EQ(DrawingFault(book, "LINE 0 5 5 END"),
               "Picture 12 can't be drawn: a parameter of LINE is missing or is no number.");
 }
 

@@ -11,13 +11,13 @@
 namespace fabula::pictures {
 namespace {
 
-constexpr Colour kRed = MakeColour(230, 0, 0);
-constexpr Colour kBlue = MakeColour(0, 0, 230);
+constexpr Colour kRedPoint = MakeColour(230, 0, 0);
+constexpr Colour kBluePoint = MakeColour(0, 0, 230);
 
 /// Three pixels wide, so that a row of a bitmap has filling.
 Image SmallImage() {
-    Image image(3, 2, kRed);
-    image.At(0, 0) = kBlue;
+    Image image(3, 2, kRedPoint);
+    image.At(0, 0) = kBluePoint;
     image.At(2, 1) = MakeColour(1, 2, 3);
     return image;
 }
@@ -36,7 +36,7 @@ std::string JpegOf(int width, int height, unsigned char grey) {
     return text;
 }
 
-std::string MessageFor(const std::string& bytes) {
+std::string ReadingFault(const std::string& bytes) {
     try {
         DecodeImage(bytes, "x");
     } catch (const Error& error) {
@@ -70,37 +70,39 @@ TEST(DecodeImage, ReadsABitmapOfOneBitWithItsColoursFromTheTop) {
         "\x80\0\0\0",
         70);
     const Image image = DecodeImage(bytes, "x");
-    EXPECT_EQ(image.pixels, (std::vector<Colour>{kRed, kBlue, kRed, kBlue, kRed, kRed}));
+    EXPECT_EQ(image.pixels,
+              (std::vector<Colour>{kRedPoint, kBluePoint, kRedPoint, kBluePoint, kRedPoint, kRedPoint}));
 }
 
 TEST(DecodeImage, RefusesWhatIsNoImage) {
-    EXPECT_EQ(MessageFor("GIF89a"), "Could not read the image x: it is no PNG, JPEG or BMP file.");
-    EXPECT_EQ(MessageFor(""), "Could not read the image x: it is no PNG, JPEG or BMP file.");
+    EXPECT_EQ(ReadingFault("GIF89a"), "Could not read the image x: it is no PNG, JPEG or BMP file.");
+    EXPECT_EQ(ReadingFault(""), "Could not read the image x: it is no PNG, JPEG or BMP file.");
 }
 
 TEST(DecodeImage, RefusesImagesThatEndTooEarly) {
     const std::string bmp = EncodeBmp(SmallImage());
-    EXPECT_EQ(MessageFor(bmp.substr(0, bmp.size() - 1)), "Could not read the image x: it ends too early.");
-    EXPECT_EQ(MessageFor(bmp.substr(0, 20)), "Could not read the image x: it ends too early.");
-    const std::string png = EncodePng(Image(50, 50, kRed));
-    EXPECT_NE(MessageFor(png.substr(0, png.size() / 2)), "");
+    EXPECT_EQ(ReadingFault(bmp.substr(0, bmp.size() - 1)),
+              "Could not read the image x: it ends too early.");
+    EXPECT_EQ(ReadingFault(bmp.substr(0, 20)), "Could not read the image x: it ends too early.");
+    const std::string png = EncodePng(Image(50, 50, kRedPoint));
+    EXPECT_NE(ReadingFault(png.substr(0, png.size() / 2)), "");
     const std::string jpeg = JpegOf(64, 64, 9);
-    EXPECT_NE(MessageFor(jpeg.substr(0, jpeg.size() / 2)), "");
+    EXPECT_NE(ReadingFault(jpeg.substr(0, jpeg.size() / 2)), "");
 }
 
 TEST(DecodeImage, RefusesABitmapThatClaimsMorePixelsThanAreRead) {
     std::string bytes = EncodeBmp(SmallImage());
     bytes[18] = '\xFF';
     bytes[19] = '\xFF';
-    EXPECT_EQ(MessageFor(bytes), "Could not read the image x: it has too many pixels.");
+    EXPECT_EQ(ReadingFault(bytes), "Could not read the image x: it has too many pixels.");
     bytes[21] = '\x80';
-    EXPECT_EQ(MessageFor(bytes), "Could not read the image x: it has no pixels.");
+    EXPECT_EQ(ReadingFault(bytes), "Could not read the image x: it has no pixels.");
 }
 
 TEST(DecodeImage, RefusesABitmapThatIsCompressed) {
     std::string bytes = EncodeBmp(SmallImage());
     bytes[30] = 1;
-    EXPECT_EQ(MessageFor(bytes),
+    EXPECT_EQ(ReadingFault(bytes),
               "Could not read the image x: it is compressed, or of a kind that is not read.");
 }
 

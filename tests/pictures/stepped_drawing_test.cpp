@@ -12,10 +12,10 @@
 namespace fabula::pictures {
 namespace {
 
-using Words = std::vector<std::string>;
+using StepWords = std::vector<std::string>;
 
 /// The places where commands begin, the last word included.
-std::vector<std::size_t> CommandStarts(const PictureBook& book, const Words& words) {
+std::vector<std::size_t> CommandStarts(const PictureBook& book, const StepWords& words) {
     std::vector<std::size_t> starts;
     for (std::size_t i = 0; i < words.size();) {
         starts.push_back(i);
@@ -25,10 +25,10 @@ std::vector<std::size_t> CommandStarts(const PictureBook& book, const Words& wor
 }
 
 /// What drawing the words in front of `position` alone gives.
-Canvas DrawnUpTo(const PictureBook& book, const Words& words, std::size_t position) {
+Canvas DrawnUpTo(const PictureBook& book, const StepWords& words, std::size_t position) {
     Drawing drawing(book);
-    drawing.CommDraw(
-        Picture{}, JoinWords(Words(words.begin(), words.begin() + static_cast<std::ptrdiff_t>(position))));
+    drawing.CommDraw(Picture{}, JoinWords(StepWords(
+                                    words.begin(), words.begin() + static_cast<std::ptrdiff_t>(position))));
     return drawing.Planes();
 }
 
@@ -49,7 +49,7 @@ class SteppedDrawingTest : public testing::Test {
     }
 
     PictureBook book_ = TestBook();
-    Words words_;
+    StepWords words_;
     std::vector<std::size_t> starts_;
     SteppedDrawing stepped_{book_};
 };
@@ -74,7 +74,7 @@ TEST_F(SteppedDrawingTest, AnyPlaceReachedForwardsOrBackwardsHasWhatIsDrawnUpToT
 TEST_F(SteppedDrawingTest, AfterAChangeInTheMiddleTheNewWordsCount) {
     stepped_.GoTo(words_, words_.size() - 1);
     const std::size_t middle = starts_[starts_.size() / 2];
-    const Words inserted = {"INK", "3", "BLOCK", "20", "30", "0", "0", "FILL", "1", "1"};
+    const StepWords inserted = {"INK", "3", "BLOCK", "20", "30", "0", "0", "FILL", "1", "1"};
     words_.insert(words_.begin() + static_cast<std::ptrdiff_t>(middle), inserted.begin(), inserted.end());
     stepped_.Forget(middle);
     stepped_.GoTo(words_, words_.size() - 1);
@@ -83,7 +83,7 @@ TEST_F(SteppedDrawingTest, AfterAChangeInTheMiddleTheNewWordsCount) {
 
 TEST_F(SteppedDrawingTest, ADrawstringWithMoreCommandsThanItKeepsSnapshotsOfIsSteppedBackAllTheSame) {
     const int many = static_cast<int>(SteppedDrawing::kMostSnapshots) * SteppedDrawing::kInterval * 3;
-    Words words;
+    StepWords words;
     for (int i = 0; i < many; ++i) {
         words.push_back("RPLOT");
         words.push_back("0");
@@ -100,7 +100,7 @@ TEST_F(SteppedDrawingTest, ADrawstringWithMoreCommandsThanItKeepsSnapshotsOfIsSt
 
 TEST_F(SteppedDrawingTest, ACommandThatCannotBeDrawnLeavesItStandingBeforeIt) {
     AddPicture(book_, 5, "LINE 0 5 5 GOSUB sc=0 5 END");
-    const Words words = DrawstringWords("INK 2 ABSMOVE 9 9 GOSUB sc=0 5 END");
+    const StepWords words = DrawstringWords("INK 2 ABSMOVE 9 9 GOSUB sc=0 5 END");
     EXPECT_THROW(stepped_.GoTo(words, 8), Error);
     EXPECT_EQ(stepped_.Position(), 5U);
     ExpectSame(stepped_.Planes(), DrawnUpTo(book_, words, 5));
@@ -123,7 +123,7 @@ TEST_F(SteppedDrawingTest, StepsOfOneDrawShareItsMostCommands) {
     AddPicture(book, 5, many + "END");
     SteppedDrawing stepped(book);
     stepped.Start(Picture{});
-    const Words words = DrawstringWords("GOSUB sc=0 5 GOSUB sc=0 5 END");
+    const StepWords words = DrawstringWords("GOSUB sc=0 5 GOSUB sc=0 5 END");
     stepped.GoTo(words, 3);
     EXPECT_THROW(stepped.GoTo(words, 6), Error);
     EXPECT_EQ(stepped.Position(), 3U);

@@ -9,11 +9,11 @@
 namespace fabula::references {
 namespace {
 
-constexpr int kNone = 255;
+constexpr int kNoWord = 255;
 
 TEST(PlaceText, NamesRecordsAsAnAuthorDoes) {
     test::OpenedAdventure game;
-    test::PutEntry(*game, 12, 3, kNone, kNone, "SET 60");
+    test::PutEntry(*game, 12, 3, kNoWord, kNoWord, "SET 60");
     PlaceText places(*game);
     EXPECT_EQ(places.RecordName(store::TableNum::ProcessTables, 12), "process table 3, entry 12 (_ _)");
     EXPECT_EQ(places.RecordName(store::TableNum::Adventure, 0), "the settings");
@@ -23,7 +23,7 @@ TEST(PlaceText, NamesRecordsAsAnAuthorDoes) {
 
 TEST(PlaceText, ShowsTheConditionOrActionAroundAUse) {
     test::OpenedAdventure game;
-    test::PutEntry(*game, 12, 3, kNone, kNone, "ZERO 60 LET 60 4 PREP UNDER DONE",
+    test::PutEntry(*game, 12, 3, kNoWord, kNoWord, "ZERO 60 LET 60 4 PREP UNDER DONE",
                    "113 60 228 60 4 123 9 265");
     const Index index(*game);
     PlaceText places(*game);

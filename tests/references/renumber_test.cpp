@@ -17,7 +17,7 @@ namespace {
 using store::Adventure;
 using store::TableNum;
 
-constexpr int kNone = 255;
+constexpr int kAnyWord = 255;
 
 /// All records that a renumbering may touch, field by field.
 std::string Records(Adventure& game) {
@@ -54,7 +54,7 @@ void Do(Adventure& game, Kind kind, int from, int to) {
 TEST(Renumbering, GivesAMessageAFreeNumberAndItsUsesFollow) {
     test::OpenedAdventure game;
     test::PutMessage(*game, 7, "Seven");
-    test::PutEntry(*game, 1, 0, kNone, kNone, "AT 7 MESSAGE 7 SYSMESS 7", "101 7 250 7 251 7");
+    test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, "AT 7 MESSAGE 7 SYSMESS 7", "101 7 250 7 251 7");
     Do(*game, Kind::Message, 7, 70);
     EXPECT_EQ(Field(*game, TableNum::Messages, "msgnum=70", "msgmsg"), "Seven");
     EXPECT_EQ(Field(*game, TableNum::Messages, "msgnum=7", "msgmsg"), "(none)");
@@ -66,7 +66,7 @@ TEST(Renumbering, SwapsWithTheRecordThatHasTheNumber) {
     test::OpenedAdventure game;
     test::PutMessage(*game, 7, "Seven");
     test::PutMessage(*game, 8, "Eight");
-    test::PutEntry(*game, 1, 0, kNone, kNone, "MESSAGE 7 MES 8", "250 7 249 8");
+    test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, "MESSAGE 7 MES 8", "250 7 249 8");
     const RenumberPlan plan = PlanRenumbering(*game, {Kind::Message, 7}, 8);
     EXPECT_TRUE(plan.swaps);
     Renumber(*game, plan);
@@ -79,10 +79,10 @@ TEST(Renumbering, ALocationTakesExitsObjectsStartAndFlagsWithIt) {
     test::OpenedAdventure game;
     test::PutLocation(*game, 40, "N 41", "2 41");
     test::PutLocation(*game, 41, "S 40", "3 40");
-    test::PutObject(*game, 3, 40, kNone, kNone);
+    test::PutObject(*game, 3, 40, kAnyWord, kAnyWord);
     game->OpenTable(TableNum::Adventure, "startloc").SetField("startloc", std::int64_t{40});
     game->Table(TableNum::Adventure).Update();
-    test::PutEntry(*game, 1, 0, kNone, kNone, "EQ 38 40 COPYFF 38 90 EQ 90 40 EQ 91 40 PLACE 3 40");
+    test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, "EQ 38 40 COPYFF 38 90 EQ 90 40 EQ 91 40 PLACE 3 40");
     Do(*game, Kind::Location, 40, 50);
     EXPECT_EQ(Field(*game, TableNum::Locations, "locnum=41", "exits"), "S 50");
     EXPECT_EQ(Field(*game, TableNum::Locations, "locnum=41", "numericexits"), "3 50");
@@ -93,7 +93,7 @@ TEST(Renumbering, ALocationTakesExitsObjectsStartAndFlagsWithIt) {
 
 TEST(Renumbering, AFlagFollowsWhereItIsComparedByOrderToo) {
     test::OpenedAdventure game;
-    test::PutEntry(*game, 1, 0, kNone, kNone, "LT 71 4 GT 71 3 EQ 71 71 ADD 71 73");
+    test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, "LT 71 4 GT 71 3 EQ 71 71 ADD 71 73");
     Do(*game, Kind::Flag, 71, 73);
     EXPECT_EQ(LineOf(*game, 1), "LT 73 4 GT 73 3 EQ 73 71 ADD 73 71");
 }
@@ -101,9 +101,9 @@ TEST(Renumbering, AFlagFollowsWhereItIsComparedByOrderToo) {
 TEST(Renumbering, AContainerAndItsPlaceGoTogether) {
     test::OpenedAdventure game;
     test::PutLocation(*game, 30, "", "");
-    test::PutObject(*game, 30, 252, kNone, kNone, true);
-    test::PutObject(*game, 4, 30, kNone, kNone);
-    test::PutEntry(*game, 1, 0, kNone, kNone, "PUTIN 4 30 GET 30");
+    test::PutObject(*game, 30, 252, kAnyWord, kAnyWord, true);
+    test::PutObject(*game, 4, 30, kAnyWord, kAnyWord);
+    test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, "PUTIN 4 30 GET 30");
     Do(*game, Kind::Object, 30, 60);
     EXPECT_EQ(Field(*game, TableNum::Locations, "locnum=60", "locdesc"), "A place.");
     EXPECT_EQ(Field(*game, TableNum::Objects, "objnum=4", "objloc"), "60");
@@ -122,7 +122,7 @@ TEST(Renumbering, ADrawingFollowsThePictureThatItCalls) {
 TEST(Renumbering, RefusesWhatARuleComparesByItsOrder) {
     test::OpenedAdventure game;
     test::PutLocation(*game, 40, "", "");
-    test::PutEntry(*game, 1, 0, kNone, kNone, "ATGT 45 INVEN");
+    test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, "ATGT 45 INVEN");
     EXPECT_EQ(PlanRenumbering(*game, {Kind::Location, 40}, 50).refusal,
               "ATGT 45 in process table 0, entry 1 tells 40 and 50 apart by their order.");
     EXPECT_EQ(PlanRenumbering(*game, {Kind::Location, 40}, 45).refusal, "");
@@ -146,7 +146,7 @@ TEST(Renumbering, RefusesWhatTheEngineKnows) {
 TEST(Renumbering, WarnsOfMessagesThatAFlagCounts) {
     test::OpenedAdventure game;
     test::PutMessage(*game, 7, "Seven");
-    test::PutEntry(*game, 1, 0, kNone, kNone, "PLUS 70 1 MESSGF 70");
+    test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, "PLUS 70 1 MESSGF 70");
     const RenumberPlan plan = PlanRenumbering(*game, {Kind::Message, 7}, 70);
     ASSERT_EQ(plan.warnings.size(), 1U);
     EXPECT_EQ(

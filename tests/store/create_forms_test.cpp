@@ -7,11 +7,11 @@
 namespace fabula::store {
 namespace {
 
-using Lines = std::vector<std::string>;
+using LinesOfForms = std::vector<std::string>;
 
 /// Every value of every table, one a line.
-Lines Everything(Adventure& adventure) {
-    Lines values;
+LinesOfForms Everything(Adventure& adventure) {
+    LinesOfForms values;
     for (const TableEntry& table : AllTables()) {
         for (Cursor& cursor = adventure.OpenTable(table.number, "*"); !cursor.Eof(); cursor.MoveNext()) {
             for (const Field& field : cursor.Fields())
@@ -24,7 +24,7 @@ Lines Everything(Adventure& adventure) {
 
 TEST_F(Create, LinesMayEndInTheWayOfOtherSystems) {
     Make();
-    const Lines plain = Everything(*Open());
+    const LinesOfForms plain = Everything(*Open());
     for (std::string& line : lines_)
         line += '\r';
     Make({}, true);
@@ -40,7 +40,7 @@ class StoredLines : public Create, public testing::WithParamInterface<Marker> {}
 
 TEST_P(StoredLines, GiveTheSameAdventureAsThePlainFile) {
     Make();
-    const Lines plain = Everything(*Open());
+    const LinesOfForms plain = Everything(*Open());
     platform::SeededRandom random(1);
     const platform::FixedClock clock({2026, 3, 4, 5, 6, 7});
     lines_[0] = GetParam().marker;

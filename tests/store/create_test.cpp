@@ -9,7 +9,7 @@ namespace {
 
 using test::ReadBytes;
 using test::WriteBytes;
-using Lines = std::vector<std::string>;
+using CreatedLines = std::vector<std::string>;
 
 TEST_F(Create, MakesAFileThatOpens) {
     EXPECT_TRUE(MakeWith(test::DefaultData()));
@@ -73,7 +73,7 @@ TEST_P(EachType, ReadsItsOwnTypedSectionsAndTheCommonOnes) {
 }
 
 TEST_P(EachType, NeedsEveryOneOfItsTypedSections) {
-    const Lines complete = lines_;
+    const CreatedLines complete = lines_;
     for (const char* stem :
          {"LOCATIONS", "MESSAGES", "OBJECT", "ADVENTURE", "PROCESSTABLES", "SYSMESS", "VOCABULARY"}) {
         lines_ = complete;

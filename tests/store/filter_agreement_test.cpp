@@ -38,7 +38,7 @@ const std::vector<text::Value> kTexts = {
 };
 const std::vector<text::Value> kTruths = {text::Value(), 0, 1};
 
-const std::vector<TestField> kFields = {
+const std::vector<TestField> kTestFields = {
     {"sndnum", "adinteger", "INTEGER", {}},
     {"sndfreq", "adinteger", "INTEGER", {text::Value()}},
     {"low", "adsmallint", "INTEGER", {text::Value(), -5, -1, 0, 1, 2, 3, 100}},
@@ -135,7 +135,7 @@ void ReplaceTable(const std::filesystem::path& file) {
     const test::RawDatabase raw(file);
     std::string create = "DROP TABLE Sounds; CREATE TABLE Sounds (storekey INTEGER PRIMARY KEY";
     std::string insert = "DELETE FROM Tables WHERE tablenum=3;";
-    for (const TestField& field : kFields) {
+    for (const TestField& field : kTestFields) {
         create += ", " + field.name + " " + field.sqlType;
         insert += "INSERT INTO Tables (tablenum, fieldname, fieldtype, fieldsize) VALUES (3, '" +
                   field.name + "', '" + field.tag + "', 0);";
@@ -147,8 +147,8 @@ void FillTable(Cursor& records, FilterWriter& random) {
     for (int number = 0; number < 60; ++number) {
         records.AddNew();
         records.SetField("sndnum", number);
-        for (std::size_t i = 1; i < kFields.size(); ++i)
-            records.SetField(kFields[i].name, random.OneOf(kFields[i].values));
+        for (std::size_t i = 1; i < kTestFields.size(); ++i)
+            records.SetField(kTestFields[i].name, random.OneOf(kTestFields[i].values));
         records.Update();
     }
 }

@@ -8,7 +8,7 @@ namespace {
 const TableSchema kMessages{"Messages",
                             {{"msgnum", FieldType::SmallInt, 0}, {"msgmsg", FieldType::LongVarWChar, 0}}};
 
-std::string ErrorOf(const SelectionText& text) {
+std::string SelectionError(const SelectionText& text) {
     try {
         BuildSelection(kMessages, text);
     } catch (const FilterError& error) {
@@ -34,11 +34,11 @@ TEST(Selection, OrdersTextWithoutRegardToCaseAndEndsWithTheOrderOfCreation) {
 }
 
 TEST(Selection, BadListsAndOrdersTellThePlace) {
-    EXPECT_EQ(ErrorOf({"msgnum, text", "", ""}), "at 9: expected a field of Messages");
-    EXPECT_EQ(ErrorOf({"msgnum msgmsg", "", ""}), "at 8: expected ',' or the end");
-    EXPECT_EQ(ErrorOf({"*", "", "msgnum; drop table Messages"}),
+    EXPECT_EQ(SelectionError({"msgnum, text", "", ""}), "at 9: expected a field of Messages");
+    EXPECT_EQ(SelectionError({"msgnum msgmsg", "", ""}), "at 8: expected ',' or the end");
+    EXPECT_EQ(SelectionError({"*", "", "msgnum; drop table Messages"}),
               "at 7: expected a name, a number, a quoted text or a sign");
-    EXPECT_EQ(ErrorOf({"*", "", "msgnum down"}), "at 8: expected ',', 'desc' or the end");
+    EXPECT_EQ(SelectionError({"*", "", "msgnum down"}), "at 8: expected ',', 'desc' or the end");
 }
 
 TEST(FreeStatement, NamesFieldsAndTable) {

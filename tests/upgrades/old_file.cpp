@@ -39,7 +39,7 @@ constexpr OtherChange kOtherChanges[] = {
     {34, "UPDATE Tables SET fieldsize=5 WHERE tablenum=6 AND fieldname IN ('w1', 'w2')"},
 };
 
-std::string NameOf(store::TableNum table) {
+std::string NameOfField(store::TableNum table) {
     return std::string(store::FindTable(table)->name);
 }
 
@@ -48,11 +48,11 @@ std::string NumberOf(store::TableNum table) {
 }
 
 void DropTable(const RawDatabase& raw, store::TableNum table) {
-    raw.Run("DROP TABLE " + NameOf(table) + "; DELETE FROM Tables WHERE tablenum=" + NumberOf(table));
+    raw.Run("DROP TABLE " + NameOfField(table) + "; DELETE FROM Tables WHERE tablenum=" + NumberOf(table));
 }
 
 void DropField(const RawDatabase& raw, const store::LaterField& field) {
-    const std::string table = NameOf(field.table);
+    const std::string table = NameOfField(field.table);
     const std::string name(field.name);
     const std::string there = raw.Ask("SELECT count(*) FROM pragma_table_info('" + table +
                                       "') WHERE name='" + name + "' COLLATE NOCASE");

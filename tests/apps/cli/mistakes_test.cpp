@@ -12,7 +12,7 @@ namespace fabula::test {
 namespace {
 
 /// A game without a mistake; the numbers are those of its lines.
-constexpr const char* kGame[] = {
+constexpr const char* kGoodGame[] = {
     /* 1 */ "/CTL",
     /* 2 */ "_",
     /* 3 */ "/VOC",
@@ -147,9 +147,9 @@ constexpr Mistake kMistakes[] = {
 
 std::string SourceWith(const Mistake* mistake) {
     std::string source;
-    for (int line = 1; line <= static_cast<int>(std::size(kGame)); ++line) {
+    for (int line = 1; line <= static_cast<int>(std::size(kGoodGame)); ++line) {
         const bool isHere = mistake != nullptr && mistake->line == line;
-        if (!isHere || mistake->place == Behind) source.append(kGame[line - 1]).append("\n");
+        if (!isHere || mistake->place == Behind) source.append(kGoodGame[line - 1]).append("\n");
         if (isHere) source.append(mistake->text).append("\n");
     }
     return source;

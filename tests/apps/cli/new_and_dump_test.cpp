@@ -11,7 +11,7 @@ namespace fabula::test {
 namespace {
 
 /// A folder to make files in, and the program.
-class Program : public testing::Test {
+class NewAndDump : public testing::Test {
   protected:
     ProgramResult Run(const std::vector<std::string>& arguments) {
         return RunProgram(test::Program(), arguments);
@@ -21,10 +21,10 @@ class Program : public testing::Test {
     TempFolder folder_;
 };
 
-using NewVerb = Program;
-using DumpVerb = Program;
-using TablesVerb = Program;
-using CommandLine = Program;
+using NewVerb = NewAndDump;
+using DumpVerb = NewAndDump;
+using TablesVerb = NewAndDump;
+using CommandLine = NewAndDump;
 
 std::vector<nlohmann::json> Records(const std::string& output) {
     std::vector<nlohmann::json> records;

@@ -14,7 +14,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr const char* kGame =
+constexpr const char* kUsedGame =
     "/CTL\n_\n/VOC\nNORTH 2 noun\nSOUTH 3 noun\nLAMP 50 noun\nGET 20 verb\nXYZZY 60 "
     "verb\n/MTX\n/0\nHello.\n"
     "/1\nNever.\n/OTX\n/0\nA lamp\n/LTX\n/0\nHall.\n/1\nCellar.\n/CON\n/0\nNORTH 1\n/1\nSOUTH 0\n/OBJ\n"
@@ -23,7 +23,7 @@ constexpr const char* kGame =
 class References : public testing::Test {
   protected:
     References() {
-        Write(kGame);
+        Write(kUsedGame);
         EXPECT_EQ(Run({"import", "ace", File("game.txt"), File("game.fbd")}).status, 0);
     }
 
@@ -87,7 +87,7 @@ TEST_F(LintVerb, SwitchesOffInTheFileAndOnTheLine) {
     EXPECT_EQ(line.status, 0);
     Write(std::string(
               "# lint off message-unused 1 for the second part\n# lint off word-unused flag-unread\n") +
-          kGame);
+          kUsedGame);
     EXPECT_EQ(Run({"lint", "--kind", "ace", File("game.txt")}).output, "");
     EXPECT_EQ(Run({"lint", File("game.fbd"), "--off", "nonsense"}).status, 2);
 }

@@ -29,7 +29,7 @@ bool TabTo(QDialog& dialog, const QString& control) {
     return false;
 }
 
-void Click(const QDialog& dialog, const char* control) {
+void ClickOn(const QDialog& dialog, const char* control) {
     auto* button = dialog.findChild<QWidget*>(control);
     ASSERT_NE(button, nullptr) << control;
     // The mark of an option stands at its left.
@@ -38,7 +38,7 @@ void Click(const QDialog& dialog, const char* control) {
 }
 
 void Do(QDialog& dialog, const Step& step) {
-    if (*step.typed == '\0') return Click(dialog, step.control);
+    if (*step.typed == '\0') return ClickOn(dialog, step.control);
     ASSERT_TRUE(TabTo(dialog, step.control)) << step.control;
     // A list goes to the line that begins with what is typed.
     const auto* list = qobject_cast<QComboBox*>(QApplication::focusWidget());
@@ -52,7 +52,7 @@ void DoAll(QDialog& dialog, const std::vector<Step>& steps) {
     if (!QTest::qWaitForWindowActive(&dialog)) ADD_FAILURE() << "the dialog did not become active";
     for (const Step& step : steps)
         Do(dialog, step);
-    Click(dialog, "update");
+    ClickOn(dialog, "update");
     QApplication::processEvents();
     if (!dialog.isVisible()) return;
     ADD_FAILURE() << "the dialog did not close";

@@ -13,10 +13,10 @@
 namespace fabula::test {
 namespace {
 
-using Names = std::vector<std::string>;
+using NamesOf = std::vector<std::string>;
 
 /// What one letter means twice among these actions.
-void AddClashes(const QList<QAction*>& actions, const std::string& where, Names& clashes) {
+void AddClashes(const QList<QAction*>& actions, const std::string& where, NamesOf& clashes) {
     std::map<QString, QStringList> texts;
     for (const QAction* action : actions) {
         const QKeySequence key = QKeySequence::mnemonic(action->text());
@@ -31,21 +31,21 @@ class MainWindowAccess : public testing::Test {
   protected:
     ~MainWindowAccess() override { QApplication::setFont(font_); }
 
-    Names MenuClashes() {
-        Names clashes;
+    NamesOf MenuClashes() {
+        NamesOf clashes;
         AddClashes(window_.Window().menuBar()->actions(), "the bar", clashes);
         for (const QMenu* menu : window_.Window().menuBar()->findChildren<QMenu*>())
             AddClashes(menu->actions(), qt::FromQt(menu->title()), clashes);
         return clashes;
     }
     /// Keys that belong to more than one command.
-    Names KeysTwice() {
+    NamesOf KeysTwice() {
         std::map<QString, QStringList> texts;
         for (const QAction* action : window_.Window().findChildren<QAction*>()) {
             for (const QKeySequence& key : action->shortcuts())
                 texts[key.toString()] << action->text();
         }
-        Names twice;
+        NamesOf twice;
         for (const auto& [key, found] : texts) {
             if (found.size() > 1) twice.push_back(qt::FromQt(key + ": " + found.join(" / ")));
         }
@@ -57,13 +57,13 @@ class MainWindowAccess : public testing::Test {
 };
 
 TEST_F(MainWindowAccess, EveryControlHasAName) {
-    EXPECT_EQ(WidgetsWithoutName(window_.Window()), Names{});
+    EXPECT_EQ(WidgetsWithoutName(window_.Window()), NamesOf{});
 }
 
 TEST_F(MainWindowAccess, EveryControlOfTheFirstPageHasAName) {
     window_.Press(Qt::Key_W, Qt::ControlModifier);
     ASSERT_FALSE(window_.Action("Run").isEnabled());
-    EXPECT_EQ(WidgetsWithoutName(window_.Window()), Names{});
+    EXPECT_EQ(WidgetsWithoutName(window_.Window()), NamesOf{});
 }
 
 TEST_F(MainWindowAccess, EveryCommandOfTheToolBarHasANameAndATip) {
@@ -77,12 +77,12 @@ TEST_F(MainWindowAccess, EveryCommandOfTheToolBarHasANameAndATip) {
 TEST_F(MainWindowAccess, NoMnemonicMeansTwoThingsInAMenu) {
     for (const char* table : {"Locations", "Flags", "Response (P0)", "Messages", "Special Codes"}) {
         window_.GoToTable(table);
-        EXPECT_EQ(MenuClashes(), Names{}) << table;
+        EXPECT_EQ(MenuClashes(), NamesOf{}) << table;
     }
 }
 
 TEST_F(MainWindowAccess, NoKeyBelongsToTwoCommands) {
-    EXPECT_EQ(KeysTwice(), Names{});
+    EXPECT_EQ(KeysTwice(), NamesOf{});
 }
 
 TEST_F(MainWindowAccess, FitsASmallScreenWithLargeText) {

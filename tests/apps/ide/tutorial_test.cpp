@@ -37,8 +37,8 @@ using testing::StartsWith;
 // Columns of the table of locations.
 constexpr int kExits = 1;
 constexpr int kShortDescription = 3;
-constexpr QKeyCombination kAdd = Qt::CTRL | Qt::Key_N;
-constexpr QKeyCombination kUpdate = Qt::CTRL | Qt::Key_Return;
+constexpr QKeyCombination kAddRecord = Qt::CTRL | Qt::Key_N;
+constexpr QKeyCombination kStore = Qt::CTRL | Qt::Key_Return;
 
 std::string ReadFile(const std::filesystem::path& file) {
     std::ifstream in(file);
@@ -99,7 +99,7 @@ class Tutorial : public testing::Test {
         author_.Clicks("shortDescription");
         author_.Types(name);
         Replace("description", text);
-        author_.Presses(kUpdate);
+        author_.Presses(kStore);
     }
     void Replace(const char* field, const char* text) {
         author_.Clicks(field);
@@ -128,7 +128,7 @@ class Tutorial : public testing::Test {
         author_.Expects(title, [=, this] {
             author_.Clicks("exits");
             author_.Types(exits);
-            author_.Presses(kUpdate);
+            author_.Presses(kStore);
         });
         author_.DoubleClicksRow(row);
     }
@@ -147,9 +147,9 @@ class Tutorial : public testing::Test {
             author_.Types(word);
             author_.Clicks(type);
             if (number) Replace("number", number);
-            author_.Presses(kUpdate);
+            author_.Presses(kStore);
         });
-        author_.Presses(kAdd);
+        author_.Presses(kAddRecord);
     }
 
     void PlaceTheThings() {
@@ -166,9 +166,9 @@ class Tutorial : public testing::Test {
             Replace("room", room);
             EXPECT_EQ(author_.Front().findChild<QComboBox*>("noun")->currentText(), noun);
             author_.Expects("New word", [this] { author_.ClicksButton("Yes"); });
-            author_.Presses(kUpdate);
+            author_.Presses(kStore);
         });
-        author_.Presses(kAdd);
+        author_.Presses(kAddRecord);
     }
 
     void TakeAMistakeBack() {
@@ -190,7 +190,7 @@ class Tutorial : public testing::Test {
             Pick("use", "Switch");
             author_.Clicks("description");
             author_.Types("The pantry is open.");
-            author_.Presses(kUpdate);
+            author_.Presses(kStore);
         });
         author_.Presses(Qt::Key_Return);
     }
@@ -208,9 +208,9 @@ class Tutorial : public testing::Test {
             author_.Types("\"The pantry is locked. It has been locked since the business with the jam.");
             author_.Presses(Qt::Key_Tab);
             author_.Types("done");
-            author_.Presses(kUpdate);
+            author_.Presses(kStore);
         });
-        author_.Presses(kAdd);
+        author_.Presses(kAddRecord);
         AddRule("OPEN", "DOOR", {"at 0 notzero @pantry", "message \"It is open.", "done"});
         AddRule("OPEN", "DOOR",
                 {"at 0 notcarr @key", "message \"You have nothing to open it with.", "done"});
@@ -240,9 +240,9 @@ class Tutorial : public testing::Test {
                 if (part != line.front()) author_.Presses(Qt::Key_Tab);
                 author_.Types(part);
             }
-            author_.Presses(kUpdate);
+            author_.Presses(kStore);
         });
-        author_.Presses(kAdd);
+        author_.Presses(kAddRecord);
     }
     void Pick(const char* list, const char* item) {
         author_.Clicks(list);
@@ -262,7 +262,7 @@ class Tutorial : public testing::Test {
     void GiveItAName() {
         author_.Expects("Adventure Settings Editor", [&] {
             Replace("name", "The Last Slice");
-            author_.Presses(kUpdate);
+            author_.Presses(kStore);
         });
         author_.Chooses("Game > Adventure Settings");
     }

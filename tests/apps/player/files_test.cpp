@@ -39,7 +39,7 @@ TEST(FolderOfGame, EachAdventureFileHasAnAutosaveOfItsOwn) {
     EXPECT_NE(one, two);
 }
 
-std::string Contents(const std::filesystem::path& file) {
+std::string ContentsOf(const std::filesystem::path& file) {
     std::ostringstream text;
     text << std::ifstream(file).rdbuf();
     return text.str();
@@ -52,7 +52,7 @@ TEST(TranscriptFile, IsWrittenWhileItIsOpen) {
     transcript.Open(folder / "t.txt");
     transcript.Lines()->Typed("NORTH");
     EXPECT_EQ(transcript.Flush(), std::nullopt);
-    EXPECT_EQ(Contents(folder / "t.txt"), ">NORTH\n");
+    EXPECT_EQ(ContentsOf(folder / "t.txt"), ">NORTH\n");
     transcript.Close();
     EXPECT_EQ(transcript.Lines(), nullptr);
 }

@@ -21,7 +21,7 @@
 namespace fabula::test {
 namespace {
 
-GameBuilder Game() {
+GameBuilder AccessGame() {
     GameBuilder game;
     game.SystemMessage(34, "").SystemMessage(13, "Again?").Message(0, "Done it.");
     return game.Entry(0, "DO", "_", "MESSAGE 0 DONE");
@@ -56,7 +56,7 @@ const std::vector<std::string> kNone;
 
 TEST(WindowAccess, EveryControlOfTheFirstPageHasAName) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(AccessGame());
     played.Restart();
     EXPECT_EQ(Nameless(played.Window()), kNone);
 }
@@ -66,19 +66,19 @@ TEST(WindowAccess, EveryControlOfAGameHasAName) {
     QImage image(8, 4, QImage::Format_RGB32);
     image.fill(Qt::blue);
     image.save(qt::PathToQt(played.folder / "room.png"));
-    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    played.Load(AccessGame().Graphics().PictureOf(0, "room.png"));
     EXPECT_EQ(Nameless(played.Window()), kNone);
 }
 
 TEST(WindowAccess, EveryControlOfAGameWithCharacterSetsHasAName) {
     PlayedWindow played;
-    played.Load(Game().CharacterSets());
+    played.Load(AccessGame().CharacterSets());
     EXPECT_EQ(Nameless(played.Window()), kNone);
 }
 
 TEST(WindowAccess, EveryControlOfAGameThatEndedHasAName) {
     PlayedWindow played;
-    played.Load(Game().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END"));
+    played.Load(AccessGame().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END"));
     played.Type("stop\nn\n");
     ASSERT_TRUE(played.Window().findChild<QWidget*>("EndBar")->isVisible());
     EXPECT_EQ(Nameless(played.Window()), kNone);
@@ -86,7 +86,7 @@ TEST(WindowAccess, EveryControlOfAGameThatEndedHasAName) {
 
 TEST(WindowAccess, EveryControlOfDiagnosticsHasAName) {
     PlayedWindow played(true);
-    played.Load(Game());
+    played.Load(AccessGame());
     played.Action("Debug").trigger();
     EXPECT_EQ(Nameless(*played.Window().findChild<QWidget*>("diagnostics")), kNone);
 }
@@ -122,7 +122,7 @@ std::vector<std::string> WrongInTree(QWidget& window) {
 TEST(WindowAccess, TreeOfEachStateOfTheWindowTellsNamesAndValues) {
     PlayedWindow played;
     EXPECT_EQ(WrongInTree(played.Window()), kNone);
-    played.Load(Game().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END"));
+    played.Load(AccessGame().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END"));
     EXPECT_EQ(WrongInTree(played.Window()), kNone);
     played.Action("Find").trigger();
     EXPECT_EQ(WrongInTree(played.Window()), kNone);
@@ -135,7 +135,7 @@ TEST(WindowAccess, TreeOfEachStateOfTheWindowTellsNamesAndValues) {
 
 TEST(WindowAccess, TreeOfACharacterGameAndOfDiagnosticsTellsNamesAndValues) {
     PlayedWindow played(true);
-    played.Load(Game().CharacterSets());
+    played.Load(AccessGame().CharacterSets());
     EXPECT_EQ(WrongInTree(played.Window()), kNone);
     played.Action("Debug").trigger();
     EXPECT_EQ(WrongInTree(*played.Window().findChild<QWidget*>("diagnostics")), kNone);
@@ -155,7 +155,7 @@ TEST(WindowAccess, TreeOfTheSettingsTellsNamesAndValues) {
 
 TEST(WindowAccess, EveryControlOfAboutHasANameAndEscapeLeavesIt) {
     PlayedWindow played;
-    played.Load(Game().SettingText("advdesc", "A vault.").SettingText("advcontactinfo", "Write."));
+    played.Load(AccessGame().SettingText("advdesc", "A vault.").SettingText("advcontactinfo", "Write."));
     std::vector<std::string> nameless{"not looked at"};
     QTimer::singleShot(0, &played.Window(), [&] {
         QWidget* about = QApplication::activeModalWidget();
@@ -187,7 +187,7 @@ bool HasButton(const std::vector<QWidget*>& widgets, const QString& text) {
 
 TEST(WindowAccess, TabGoesFromTheTextToEveryButtonAndBack) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(AccessGame());
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
         const auto round = Round(played, key);
         EXPECT_EQ(round.back(), &played.Window().Screen().Text());
@@ -198,7 +198,7 @@ TEST(WindowAccess, TabGoesFromTheTextToEveryButtonAndBack) {
 
 TEST(WindowAccess, TabGoesFromTheCharactersToEveryButtonAndBack) {
     PlayedWindow played;
-    played.Load(Game().CharacterSets());
+    played.Load(AccessGame().CharacterSets());
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
         const auto round = Round(played, key);
         EXPECT_EQ(round.back(), &played.Window().Screen().Characters());
@@ -208,7 +208,7 @@ TEST(WindowAccess, TabGoesFromTheCharactersToEveryButtonAndBack) {
 
 TEST(WindowAccess, TabLeavesAPaneThatWaitsForAnyKeyAndIsNone) {
     PlayedWindow played;
-    played.Load(Game().Word("WAIT", 101, 0).Entry(0, "WAIT", "_", "ANYKEY DONE"));
+    played.Load(AccessGame().Word("WAIT", 101, 0).Entry(0, "WAIT", "_", "ANYKEY DONE"));
     played.Type("wait\n");
     played.Press(Qt::Key_Tab);
     EXPECT_NE(QApplication::focusWidget(), &played.Window().Screen().Text());
@@ -217,7 +217,7 @@ TEST(WindowAccess, TabLeavesAPaneThatWaitsForAnyKeyAndIsNone) {
 
 TEST(WindowAccess, GameCanBeLoadedPlayedAndPlayedAgainByKeysAlone) {
     PlayedWindow played;
-    played.dialogs.AnswerFile(played.Write(Game().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END")));
+    played.dialogs.AnswerFile(played.Write(AccessGame().Word("STOP", 101, 0).Entry(0, "STOP", "_", "END")));
     played.Press(Qt::Key_Space);
     played.Type("do\n");
     EXPECT_NE(played.Text().find("Done it."), std::string::npos);
@@ -230,7 +230,7 @@ TEST(WindowAccess, GameCanBeLoadedPlayedAndPlayedAgainByKeysAlone) {
 
 TEST(WindowAccess, ScreenReaderFindsTheWholeText) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(AccessGame());
     QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&played.Window().Screen().Text());
     ASSERT_NE(access->textInterface(), nullptr);
     EXPECT_EQ(access->textInterface()->text(0, access->textInterface()->characterCount()), "Room 0?\n>");

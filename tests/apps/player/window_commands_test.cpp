@@ -35,7 +35,7 @@ using engine::Waiting;
 using std::chrono::milliseconds;
 
 /// E and W walk between rooms 0 and 1, FAIL goes wrong, STOP ends, HOLD waits for a key.
-GameBuilder Game() {
+GameBuilder CommandsGame() {
     GameBuilder game;
     game.SystemMessage(34, "").SystemMessage(13, "Again?").SystemMessage(16, "Key.");
     game.Word("E", 102, 0).Word("W", 103, 0).Exit(0, 102, 1).Exit(1, 103, 0);
@@ -120,7 +120,7 @@ TEST(PreferredSound, GivesTheGamesSettingsWithTheDeviceAndTheVolumeOfThePlayer) 
 
 TEST(WindowCommands, SaveAndRestoreByTheirKeys) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     const auto file = played.folder / "here";
     played.dialogs.AnswerFile(file);
     played.Press(Qt::Key_S, Qt::ControlModifier);
@@ -136,7 +136,7 @@ TEST(WindowCommands, SaveAndRestoreByTheirKeys) {
 
 TEST(WindowCommands, RestoreOfSomethingElseIsToldAndTheGameGoesOn) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Type("e\n");
     std::ofstream(played.folder / "letter.sav") << "Dear reader,\n";
     played.dialogs.AnswerFile(played.folder / "letter.sav");
@@ -148,7 +148,7 @@ TEST(WindowCommands, RestoreOfSomethingElseIsToldAndTheGameGoesOn) {
 
 TEST(WindowCommands, SaveThatCantBeWrittenIsTold) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.dialogs.AnswerFile(played.folder / "no" / "folder" / "here.sav");
     played.Action("Save").trigger();
     ASSERT_FALSE(played.dialogs.Boxes().empty());
@@ -157,7 +157,7 @@ TEST(WindowCommands, SaveThatCantBeWrittenIsTold) {
 
 TEST(WindowCommands, UndoGoesBackLineByLine) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     EXPECT_FALSE(played.Action("Undo").isEnabled());
     played.Type("e\n");
     played.Type("w\n");
@@ -172,7 +172,7 @@ TEST(WindowCommands, UndoGoesBackLineByLine) {
 
 TEST(WindowCommands, UndoOfALineThatAsksTakesItBack) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Type("e\n");
     played.Type("hold\n");
     ASSERT_EQ(played.Window().Playing()->WaitingFor(), Waiting::AnyKey);
@@ -184,7 +184,7 @@ TEST(WindowCommands, UndoOfALineThatAsksTakesItBack) {
 
 TEST(WindowCommands, UndoGoesBackIntoAGameThatEnded) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Type("e\n");
     played.Type("stop\nn\n");
     ASSERT_EQ(played.Window().Playing()->WaitingFor(), Waiting::Nothing);
@@ -196,7 +196,7 @@ TEST(WindowCommands, UndoGoesBackIntoAGameThatEnded) {
 
 TEST(WindowCommands, GameThatGoesWrongCanBeGoneBackTo) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Type("e\n");
     played.Type("fail\n");
     ASSERT_EQ(played.Window().Playing()->WaitingFor(), Waiting::Nothing);
@@ -208,7 +208,7 @@ TEST(WindowCommands, GameThatGoesWrongCanBeGoneBackTo) {
 
 TEST(WindowCommands, StateBeforeAGameWentWrongIsOfferedAtTheNextStart) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Type("e\n");
     played.Type("fail\n");
     played.Restart();
@@ -220,7 +220,7 @@ TEST(WindowCommands, StateBeforeAGameWentWrongIsOfferedAtTheNextStart) {
 
 TEST(WindowCommands, StartAgainAsksAndCanBeTakenBack) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Type("e\n");
     played.dialogs.AnswerNext(false);
     played.Action("StartAgain").trigger();
@@ -238,7 +238,7 @@ TEST(WindowCommands, StartAgainAsksAndCanBeTakenBack) {
 
 TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenItIsClosed) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Window().Screen().Transcript().Open("/dev/full");
     played.Window().Screen().Transcript().Lines()->Write("not flushed yet");
     played.Action("Transcript").setChecked(true);
@@ -249,7 +249,7 @@ TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenItIsClosed) {
 
 TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenTheWindowCloses) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Window().Screen().Transcript().Open("/dev/full");
     played.Window().Screen().Transcript().Lines()->Write("not flushed yet");
     played.Window().close();
@@ -261,7 +261,7 @@ TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenTheWindowCloses) {
 
 TEST(WindowCommands, FindGoesUpThroughTheTextAndBackToTheGame) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Type("e\n");
     played.Type("w\n");
     played.Press(Qt::Key_F, Qt::ControlModifier);
@@ -279,7 +279,7 @@ TEST(WindowCommands, FindGoesUpThroughTheTextAndBackToTheGame) {
 
 TEST(WindowCommands, FindNextAndBeforeGoOnWithTheSameWords) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     played.Type("e\n");
     played.Type("w\n");
     played.Press(Qt::Key_F, Qt::ControlModifier);
@@ -304,7 +304,7 @@ TEST(WindowCommands, FullScreenGoesOnAndOff) {
 TEST(WindowCommands, CharactersAreTwoPointsWideWhereTheScreenHasRoom) {
     PlayedWindow played;
     played.Window().resize(330, 400);
-    played.Load(Game().CharacterSets());
+    played.Load(CommandsGame().CharacterSets());
     EXPECT_EQ(played.Window().Screen().Characters().Factor(), 2);
     EXPECT_GE(played.Window().width(), 512);
 }
@@ -324,7 +324,7 @@ void InSettings(PlayedWindow& played, Use use) {
 
 TEST(PlayerSettingsWindow, ShowsEachChangeInASampleAtOnce) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     InSettings(played, [](QWidget& dialog) {
         auto& sample = *dialog.findChild<player::TextPane*>("Sample");
         dialog.findChild<QSpinBox*>("FontSize")->setValue(30);
@@ -340,7 +340,7 @@ TEST(PlayerSettingsWindow, ShowsEachChangeInASampleAtOnce) {
 
 TEST(PlayerSettingsWindow, OkAppliesAndKeepsWhatWasChosen) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     InSettings(played, [](QWidget& dialog) {
         dialog.findChild<QSpinBox*>("FontSize")->setValue(20);
         dialog.findChild<QSpinBox*>("LineWidth")->setValue(40);
@@ -364,7 +364,7 @@ TEST(PlayerSettingsWindow, OkAppliesAndKeepsWhatWasChosen) {
 
 TEST(PlayerSettingsWindow, EscapeChangesNothing) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(CommandsGame());
     const double before = played.Window().Screen().Text().font().pointSizeF();
     InSettings(played, [](QWidget& dialog) { dialog.findChild<QSpinBox*>("FontSize")->setValue(50); });
     EXPECT_EQ(played.Window().Screen().Text().font().pointSizeF(), before);

@@ -27,7 +27,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-GameBuilder Game() {
+GameBuilder LookGame() {
     GameBuilder game;
     game.SystemMessage(34, "");
     return game;
@@ -42,7 +42,7 @@ void SaveImage(const std::filesystem::path& file) {
 TEST(WindowPictures, PictureOfThePlaceIsShownAboveTheText) {
     PlayedWindow played;
     SaveImage(played.folder / "room.png");
-    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    played.Load(LookGame().Graphics().PictureOf(0, "room.png"));
     EXPECT_TRUE(played.Window().Screen().Picture().isVisible());
     EXPECT_EQ(played.Window().Screen().Picture().Shown().size(), QSize(8, 4));
     EXPECT_EQ(played.Status("status"), "");
@@ -50,7 +50,7 @@ TEST(WindowPictures, PictureOfThePlaceIsShownAboveTheText) {
 
 TEST(WindowPictures, MissingPictureShowsNothingAndIsToldOnce) {
     PlayedWindow played;
-    played.Load(Game().Graphics().PictureOf(0, "room.png").Entry(0, "DO", "_", "PICTURE 0 DONE"));
+    played.Load(LookGame().Graphics().PictureOf(0, "room.png").Entry(0, "DO", "_", "PICTURE 0 DONE"));
     EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
     EXPECT_EQ(played.Status("status"), "The picture room.png is missing.");
     played.Window().Tell("");
@@ -64,7 +64,7 @@ TEST(WindowPictures, BrokenPictureShowsNothingAndIsTold) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("no picture");
     file.close();
-    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    played.Load(LookGame().Graphics().PictureOf(0, "room.png"));
     EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
     EXPECT_EQ(played.Status("status"), "The picture room.png can't be shown.");
 }
@@ -72,7 +72,7 @@ TEST(WindowPictures, BrokenPictureShowsNothingAndIsTold) {
 TEST(WindowPictures, PathThatLeavesTheGamesFolderIsRefused) {
     PlayedWindow played;
     SaveImage(played.folder.Path().parent_path() / "outside-of-the-game.png");
-    played.Load(Game().Graphics().PictureOf(0, "../outside-of-the-game.png"));
+    played.Load(LookGame().Graphics().PictureOf(0, "../outside-of-the-game.png"));
     std::filesystem::remove(played.folder.Path().parent_path() / "outside-of-the-game.png");
     EXPECT_FALSE(played.Window().Screen().Picture().isVisible());
     EXPECT_EQ(played.Status("status"),
@@ -82,7 +82,8 @@ TEST(WindowPictures, PathThatLeavesTheGamesFolderIsRefused) {
 TEST(WindowPictures, PictureKeptInTheAdventureFileIsShown) {
     PlayedWindow played;
     SaveImage(played.folder / "kept.png");
-    const auto file = played.Write(Game().Graphics().PictureOf(0, "room.png").Setting("graphicsindb", 1));
+    const auto file =
+        played.Write(LookGame().Graphics().PictureOf(0, "room.png").Setting("graphicsindb", 1));
     {
         const auto adventure = store::Adventure::Open(file);
         auto& room = adventure->OpenTable(store::TableNum::Locations, "*", "locnum=0");
@@ -95,7 +96,7 @@ TEST(WindowPictures, PictureKeptInTheAdventureFileIsShown) {
 
 TEST(WindowCharacters, GameWithCharacterSetsIsDrawnInTheCharacterPane) {
     PlayedWindow played;
-    played.Load(Game().CharacterSets());
+    played.Load(LookGame().CharacterSets());
     ASSERT_TRUE(played.Window().Screen().Characters().isVisible());
     EXPECT_EQ(QApplication::focusWidget(), &played.Window().Screen().Characters());
     EXPECT_EQ(played.Window().Screen().Characters().Screen().Text(), "Room 0?\n>\n");
@@ -107,14 +108,14 @@ TEST(WindowCharacters, GameWithCharacterSetsIsDrawnInTheCharacterPane) {
 
 TEST(WindowCharacters, LinesAreWrappedAtThirtyTwoCharacters) {
     PlayedWindow played;
-    played.Load(Game().CharacterSets().Location(0, "The quick brown fox jumps over the lazy dog. "));
+    played.Load(LookGame().CharacterSets().Location(0, "The quick brown fox jumps over the lazy dog. "));
     EXPECT_EQ(played.Window().Screen().Characters().Screen().Text(),
               "The quick brown fox jumps over\nthe lazy dog. ?\n>\n");
 }
 
 TEST(WindowCharacters, CharactersThatNoSetHasAreNotTyped) {
     PlayedWindow played;
-    played.Load(Game().CharacterSets());
+    played.Load(LookGame().CharacterSets());
     QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, "é");
     QApplication::sendEvent(QApplication::focusWidget(), &event);
     EXPECT_EQ(played.Window().Screen().Characters().Screen().Text(), "Room 0?\n>\n");
@@ -122,7 +123,7 @@ TEST(WindowCharacters, CharactersThatNoSetHasAreNotTyped) {
 
 TEST(WindowCharacters, GameCanBeReadAsPlainTextInstead) {
     PlayedWindow played;
-    played.Load(Game().CharacterSets().Location(0, "The quick brown fox jumps over the lazy dog. "));
+    played.Load(LookGame().CharacterSets().Location(0, "The quick brown fox jumps over the lazy dog. "));
     played.Action("PlainText").trigger();
     EXPECT_TRUE(played.Window().Screen().Text().isVisible());
     EXPECT_EQ(QApplication::focusWidget(), &played.Window().Screen().Text());
@@ -131,7 +132,7 @@ TEST(WindowCharacters, GameCanBeReadAsPlainTextInstead) {
 
 TEST(WindowLook, ZoomIsChangedByKeysAndRemembered) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(LookGame());
     const double before = played.Window().Screen().Text().font().pointSizeF();
     played.Press(Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_DOUBLE_EQ(played.Window().Screen().Text().font().pointSizeF(), before * 1.1);
@@ -144,7 +145,7 @@ TEST(WindowLook, ZoomIsChangedByKeysAndRemembered) {
 
 TEST(WindowLook, ZoomIsChangedByTheWheelWithCtrl) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(LookGame());
     QWidget& pane = *played.Window().Screen().Text().viewport();
     const double before = played.Window().Screen().Text().font().pointSizeF();
     QWheelEvent up(QPointF(9, 9), pane.mapToGlobal(QPointF(9, 9)), {}, QPoint(0, 120), Qt::NoButton,
@@ -162,7 +163,7 @@ TEST(WindowLook, ThemeIsRemembered) {
     EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 80);
     played.Restart();
     EXPECT_TRUE(played.Action("ThemeDark").isChecked());
-    played.Load(Game());
+    played.Load(LookGame());
     EXPECT_LT(played.Window().Screen().Text().palette().color(QPalette::Base).lightness(), 80);
     played.Action("ThemeSystem").trigger();
     EXPECT_EQ(played.Window().Screen().Text().palette().color(QPalette::Base), QColor(255, 255, 255));
@@ -177,7 +178,7 @@ TEST(WindowLook, SizeIsRemembered) {
 
 TEST(WindowLook, RecentGamesAreOfferedOnTheFirstPageAndInTheMenu) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(LookGame());
     played.Restart();
     QTest::keyClick(&played.Window(), Qt::Key_Tab);
     QWidget* recent = QApplication::focusWidget();
@@ -206,7 +207,7 @@ class ProgramFont {
 TEST(WindowLook, WindowMayBe480By320) {
     PlayedWindow played;
     SaveImage(played.folder / "room.png");
-    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    played.Load(LookGame().Graphics().PictureOf(0, "room.png"));
     played.Window().resize(480, 320);
     EXPECT_EQ(played.Window().size(), QSize(480, 320));
     QApplication::processEvents();
@@ -218,8 +219,11 @@ TEST(WindowLook, WindowMayBe480By320WithTextOfTwiceTheSize) {
     const ProgramFont large(2);
     PlayedWindow played;
     SaveImage(played.folder / "room.png");
-    played.Load(
-        Game().Graphics().PictureOf(0, "room.png").SystemMessage(13, "Again?").Entry(0, "DO", "_", "END"));
+    played.Load(LookGame()
+                    .Graphics()
+                    .PictureOf(0, "room.png")
+                    .SystemMessage(13, "Again?")
+                    .Entry(0, "DO", "_", "END"));
     played.Window().Tell("A sentence that is much too long for a status line of a window of this size.");
     for (const engine::StatusField field : {engine::StatusField::Command, engine::StatusField::Location})
         played.Window().Screen().ShowStatus(field, "A text of some length");
@@ -238,7 +242,7 @@ TEST(WindowLook, WindowMayBe480By320WithTextOfTwiceTheSize) {
 TEST(WindowLook, PictureGivesWayWhereFewLinesOfTextWouldBeLeft) {
     PlayedWindow played;
     SaveImage(played.folder / "room.png");
-    played.Load(Game().Graphics().PictureOf(0, "room.png"));
+    played.Load(LookGame().Graphics().PictureOf(0, "room.png"));
     played.Window().resize(480, 320);
     QApplication::processEvents();
     EXPECT_TRUE(played.Window().Screen().Picture().isVisible());
@@ -253,7 +257,7 @@ TEST(WindowLook, PictureGivesWayWhereFewLinesOfTextWouldBeLeft) {
 TEST(WindowLook, HeightThatThePlayerGaveToPicturesIsKept) {
     PlayedWindow played;
     SaveImage(played.folder / "room.png");
-    const auto game = Game().Graphics().PictureOf(0, "room.png").Word("E", 102, 0).Word("W", 103, 0);
+    const auto game = LookGame().Graphics().PictureOf(0, "room.png").Word("E", 102, 0).Word("W", 103, 0);
     played.Load(GameBuilder(game).Exit(0, 102, 1).Exit(1, 103, 0));
     QApplication::processEvents();
     auto* handle = played.Window().Screen().findChild<QSplitter*>()->handle(1);
@@ -271,7 +275,7 @@ TEST(WindowLook, HeightThatThePlayerGaveToPicturesIsKept) {
 
 TEST(WindowLook, ZoomKeepsTheLatestTurnInSight) {
     PlayedWindow played;
-    GameBuilder game = Game().Message(0, std::string(2000, 'x')).Entry(0, "DO", "_", "MESSAGE 0 DONE");
+    GameBuilder game = LookGame().Message(0, std::string(2000, 'x')).Entry(0, "DO", "_", "MESSAGE 0 DONE");
     played.Load(game);
     played.Type("do\n");
     played.Type("do nothing\n");
@@ -290,7 +294,7 @@ TEST(WindowLook, ZoomKeepsTheLatestTurnInSight) {
 
 TEST(WindowLook, ZoomKeepsThePlaceOfAReaderInTheText) {
     PlayedWindow played;
-    GameBuilder game = Game().Message(0, std::string(3000, 'x')).Entry(0, "DO", "_", "MESSAGE 0 DONE");
+    GameBuilder game = LookGame().Message(0, std::string(3000, 'x')).Entry(0, "DO", "_", "MESSAGE 0 DONE");
     played.Load(game);
     for (int turn = 0; turn < 5; ++turn)
         played.Type("do\n");
@@ -305,7 +309,7 @@ TEST(WindowLook, ZoomKeepsThePlaceOfAReaderInTheText) {
 
 TEST(WindowTestRun, DebugShowsAndChangesTheState) {
     PlayedWindow played(true);
-    played.Load(Game());
+    played.Load(LookGame());
     ASSERT_TRUE(played.Action("Debug").isEnabled());
     played.Action("Debug").trigger();
     auto* debug = played.Window().findChild<QWidget*>("diagnostics");
@@ -326,7 +330,7 @@ TEST(WindowTestRun, DebugShowsAndChangesTheState) {
 
 TEST(WindowHelp, F1TellsAboutTheGameWindowAndIsNoKeyOfTheGame) {
     PlayedWindow played;
-    played.Load(Game());
+    played.Load(LookGame());
     played.Said();
     played.Press(Qt::Key_F1);
     ASSERT_TRUE(played.asked);
@@ -344,7 +348,7 @@ TEST(WindowHelp, ContentsAreThereWithoutAGame) {
 
 TEST(WindowHelp, HInDiagnosticsTellsAboutThem) {
     PlayedWindow played(true);
-    played.Load(Game());
+    played.Load(LookGame());
     played.Action("Debug").trigger();
     auto* input = played.Window().findChild<QWidget*>("diagnostics")->findChild<QLineEdit*>("request");
     QTest::keyClicks(input, "h");
@@ -355,7 +359,7 @@ TEST(WindowHelp, HInDiagnosticsTellsAboutThem) {
 
 TEST(WindowTestRun, DebugFollowsTheGame) {
     PlayedWindow played(true);
-    played.Load(Game().Entry(0, "DO", "_", "LET 0 7 DONE"));
+    played.Load(LookGame().Entry(0, "DO", "_", "LET 0 7 DONE"));
     played.Action("Debug").trigger();
     auto* debug = played.Window().findChild<QWidget*>("diagnostics");
     QApplication::setActiveWindow(&played.Window());
@@ -366,7 +370,7 @@ TEST(WindowTestRun, DebugFollowsTheGame) {
 
 TEST(WindowTestRun, WindowClosesWhenTheGameEnds) {
     PlayedWindow played(true);
-    played.Load(Game().SystemMessage(13, "Again?").Entry(0, "DO", "_", "END"));
+    played.Load(LookGame().SystemMessage(13, "Again?").Entry(0, "DO", "_", "END"));
     played.Type("do\n");
     played.Type("n\n");
     EXPECT_TRUE(played.Window().isVisible());
@@ -376,7 +380,7 @@ TEST(WindowTestRun, WindowClosesWhenTheGameEnds) {
 
 TEST(WindowTestRun, NothingOfTheRunIsKept) {
     PlayedWindow played(true);
-    played.Load(Game().Entry(0, "DO", "_", "LET 0 7 DONE"));
+    played.Load(LookGame().Entry(0, "DO", "_", "LET 0 7 DONE"));
     played.Type("do\n");
     played.Pass(milliseconds(10'000));
     EXPECT_FALSE(std::filesystem::exists(played.folder / "data"));
@@ -384,8 +388,9 @@ TEST(WindowTestRun, NothingOfTheRunIsKept) {
 
 TEST(WindowBoxes, KeysAndTimesThatComeWhileABoxIsShownDoNotBreakIntoTheTurn) {
     PlayedWindow played;
-    played.Load(
-        Game().SystemMessage(35, "Time passes.").Entry(0, "DO", "_", "TIME 1 4 SCRIPT 2 SCRIPT 2 DONE"));
+    played.Load(LookGame()
+                    .SystemMessage(35, "Time passes.")
+                    .Entry(0, "DO", "_", "TIME 1 4 SCRIPT 2 SCRIPT 2 DONE"));
     QFile script(qt::PathToQt(played.folder / "s.scr"));
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
     script.close();

@@ -261,7 +261,7 @@ TEST(Window, SavedGamesGoToAFolderOfTheGame) {
     EXPECT_TRUE(std::filesystem::exists(file));
 }
 
-std::string Contents(const std::filesystem::path& file) {
+std::string Written(const std::filesystem::path& file) {
     std::ostringstream text;
     text << std::ifstream(file).rdbuf();
     return text.str();
@@ -275,11 +275,11 @@ TEST(Window, TranscriptTakesDownWhatIsShownAndTyped) {
     played.Action("Transcript").trigger();
     EXPECT_TRUE(played.Action("Transcript").isChecked());
     played.Type("do\n");
-    EXPECT_EQ(Contents(file), ">DO\nDone it.\n?\n");
+    EXPECT_EQ(Written(file), ">DO\nDone it.\n?\n");
     played.Action("Transcript").trigger();
     EXPECT_FALSE(played.Action("Transcript").isChecked());
     played.Type("do\n");
-    EXPECT_EQ(Contents(file), ">DO\nDone it.\n?\n");
+    EXPECT_EQ(Written(file), ">DO\nDone it.\n?\n");
 }
 
 TEST(Window, TranscriptThatIsNotNamedIsNotWritten) {

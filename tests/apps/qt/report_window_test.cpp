@@ -82,7 +82,7 @@ TEST(ReportWindow, TellsThatItCouldNotBeSaved) {
 }
 
 /// Clicks a button of the report that comes up.
-void Answer(QDialogButtonBox::StandardButton which) {
+void ReportAnswer(QDialogButtonBox::StandardButton which) {
     QTimer::singleShot(0, [which] {
         auto* window = dynamic_cast<ReportWindow*>(QApplication::activeModalWidget());
         if (window) window->findChild<QDialogButtonBox*>()->button(which)->click();
@@ -90,9 +90,9 @@ void Answer(QDialogButtonBox::StandardButton which) {
 }
 
 TEST(ReportWindow, TellsOkFromCancel) {
-    Answer(QDialogButtonBox::Ok);
+    ReportAnswer(QDialogButtonBox::Ok);
     EXPECT_TRUE(qt::QtDialogs().ProceedFromReport(kText, "Version 6 Flag Change"));
-    Answer(QDialogButtonBox::Cancel);
+    ReportAnswer(QDialogButtonBox::Cancel);
     EXPECT_FALSE(qt::QtDialogs().ProceedFromReport(kText, "Version 6 Flag Change"));
 }
 

@@ -31,7 +31,7 @@ namespace {
 using Texts = std::vector<std::string>;
 
 /// The name of the program, games and their files, tables and columns by their names in the file, and keys.
-const Texts kOfTheGame = {"Fabula( IDE.*)?",
+const Texts kInTheGame = {"Fabula( IDE.*)?",
                           "game",
                           "&1  game",
                           "/.*",
@@ -73,7 +73,7 @@ class TranslatedWindow : public testing::Test {
 
 TEST_F(TranslatedWindow, OfTheAuthoringToolWithoutAnAdventure) {
     OpenedWindow opened;
-    Check(opened.Window(), kOfTheGame);
+    Check(opened.Window(), kInTheGame);
 }
 
 TEST_F(TranslatedWindow, OfTheAuthoringToolAtEachTable) {
@@ -83,19 +83,19 @@ TEST_F(TranslatedWindow, OfTheAuthoringToolAtEachTable) {
     for (QTreeWidgetItemIterator node(&tree); *node; ++node) {
         SCOPED_TRACE(qt::FromQt((*node)->text(0)));
         tree.setCurrentItem(*node);
-        Check(opened.Window(), kOfTheGame);
+        Check(opened.Window(), kInTheGame);
     }
 }
 
 TEST_F(TranslatedWindow, OfThePlayerWithoutAGame) {
     PlayedWindow played;
-    Check(played.Window(), kOfTheGame);
+    Check(played.Window(), kInTheGame);
 }
 
 TEST_F(TranslatedWindow, OfThePlayerWithAGame) {
     PlayedWindow played;
     played.Load(Game());
-    Check(played.Window(), kOfTheGame);
+    Check(played.Window(), kInTheGame);
 }
 
 TEST_F(TranslatedWindow, OfDiagnostics) {

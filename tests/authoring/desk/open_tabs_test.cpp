@@ -12,7 +12,7 @@ OpenTab TabOf(TableNum table, int key) {
 }
 
 /// The keys of the tabs, the one that is shown in brackets.
-std::string Shown(const OpenTabs& tabs) {
+std::string ShownTabs(const OpenTabs& tabs) {
     std::string shown;
     for (int tab = 0; tab < tabs.Count(); ++tab) {
         const std::string key =
@@ -32,13 +32,13 @@ OpenTabs FourTabs() {
 }
 
 TEST(OpenTabs, BeginWithOne) {
-    EXPECT_EQ(Shown(OpenTabs()), "[0]");
+    EXPECT_EQ(ShownTabs(OpenTabs()), "[0]");
 }
 
 TEST(OpenTabs, OpenBehindTheOneThatIsShown) {
     OpenTabs tabs = FourTabs();
     EXPECT_TRUE(tabs.Open(TabOf(TableNum::Flags, 9)));
-    EXPECT_EQ(Shown(tabs), "0 1 [9] 2 3");
+    EXPECT_EQ(ShownTabs(tabs), "0 1 [9] 2 3");
 }
 
 TEST(OpenTabs, AreAtMostThirty) {
@@ -59,18 +59,18 @@ TEST(OpenTabs, FollowEachOtherRoundAndRound) {
 TEST(OpenTabs, ShowTheRightNeighbourOfOneThatIsClosed) {
     OpenTabs tabs = FourTabs();
     EXPECT_TRUE(tabs.Close(1));
-    EXPECT_EQ(Shown(tabs), "0 [2] 3");
+    EXPECT_EQ(ShownTabs(tabs), "0 [2] 3");
     tabs.GoTo(2);
     EXPECT_TRUE(tabs.Close(2));
-    EXPECT_EQ(Shown(tabs), "0 [2]");
+    EXPECT_EQ(ShownTabs(tabs), "0 [2]");
 }
 
 TEST(OpenTabs, ShowTheSameWhenAnotherIsClosed) {
     OpenTabs tabs = FourTabs();
     tabs.Close(0);
-    EXPECT_EQ(Shown(tabs), "[1] 2 3");
+    EXPECT_EQ(ShownTabs(tabs), "[1] 2 3");
     tabs.Close(2);
-    EXPECT_EQ(Shown(tabs), "[1] 2");
+    EXPECT_EQ(ShownTabs(tabs), "[1] 2");
 }
 
 TEST(OpenTabs, KeepTheLastOne) {
@@ -82,11 +82,11 @@ TEST(OpenTabs, KeepTheLastOne) {
 TEST(OpenTabs, ShowTheSameWhenTheyAreMoved) {
     OpenTabs tabs = FourTabs();
     tabs.Move(1, 3);
-    EXPECT_EQ(Shown(tabs), "0 2 3 [1]");
+    EXPECT_EQ(ShownTabs(tabs), "0 2 3 [1]");
     tabs.Move(0, 3);
-    EXPECT_EQ(Shown(tabs), "2 3 [1] 0");
+    EXPECT_EQ(ShownTabs(tabs), "2 3 [1] 0");
     tabs.Move(3, 0);
-    EXPECT_EQ(Shown(tabs), "0 2 3 [1]");
+    EXPECT_EQ(ShownTabs(tabs), "0 2 3 [1]");
 }
 
 TEST(OpenTabs, AreTheSameAfterStoring) {
@@ -111,7 +111,7 @@ TEST(OpenTabs, OfNonsenseAreTheOneAtFirst) {
 
 TEST(OpenTabs, LeaveOutLinesWithoutSense) {
     const OpenTabs tabs = OpenTabs::From("0\t2\t0\t4\t0\t0\t0\t\t\nhello\n1\t2\t0\t5\t0\t0\t0\t\t");
-    EXPECT_EQ(Shown(tabs), "4 [5]");
+    EXPECT_EQ(ShownTabs(tabs), "4 [5]");
 }
 
 }  // namespace

@@ -26,11 +26,11 @@ void AddLocation(Desk& desk, int number, const char* text, int exits = 0) {
                                    {"numexits", std::int64_t{exits}}});
 }
 
-void AddMessage(Desk& desk, int number, const char* text) {
+void PutMessage(Desk& desk, int number, const char* text) {
     desk.Add(TableNum::Messages, {{"msgnum", std::int64_t{number}}, {"msgmsg", std::string(text)}});
 }
 
-void AddObject(Desk& desk, int number, const char* text, int attributes = 0) {
+void PutObject(Desk& desk, int number, const char* text, int attributes = 0) {
     desk.Add(TableNum::Objects, {{"objnum", std::int64_t{number}},
                                  {"objdesc", std::string(text)},
                                  {"objattrn", std::int64_t{attributes}}});
@@ -43,11 +43,11 @@ class HelpOf {
         AddLocation(desk_, 1, "The <INK=2>cellar</INK>");
         AddLocation(desk_, 2, "The stairs", 2);
         AddLocation(desk_, 3, " ");
-        AddMessage(desk_, 0, "Welcome!");
-        AddMessage(desk_, 1, "It is too\u008cdark.");
-        AddMessage(desk_, 2, " ");
-        AddObject(desk_, 0, "a brass lamp");
-        AddObject(desk_, 1, "a box", 1);
+        PutMessage(desk_, 0, "Welcome!");
+        PutMessage(desk_, 1, "It is too\u008cdark.");
+        PutMessage(desk_, 2, " ");
+        PutObject(desk_, 0, "a brass lamp");
+        PutObject(desk_, 1, "a box", 1);
         help_ = std::make_unique<CondActHelp>(desk_.Adventure());
     }
 
@@ -133,7 +133,7 @@ TEST(Completing, FindsNumbersByTheWordsOfTheirTexts) {
 
 TEST(Completing, TakesDigitsForTheNumber) {
     HelpOf help;
-    AddMessage(help.GameDesk(), 3, "Room 1 is closed.");
+    PutMessage(help.GameDesk(), 3, "Room 1 is closed.");
     help.Reload();
     EXPECT_THAT(help.Offered("MESSAGE 1|"), ElementsAre("1  It is too dark."));
 }

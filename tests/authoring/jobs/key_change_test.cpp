@@ -8,7 +8,7 @@
 namespace fabula::authoring {
 namespace {
 
-using Shown = platform::ScriptedDialogs::Shown;
+using ShownChange = platform::ScriptedDialogs::Shown;
 using store::TableNum;
 
 class KeyChange : public testing::Test {
@@ -42,7 +42,7 @@ TEST_F(KeyChange, OffersTheTablesThatMayBeRepaired) {
 TEST_F(KeyChange, AsksForATable) {
     KeySelectScreen select(desk_.context);
     EXPECT_FALSE(select.Select());
-    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<Shown>{{"Must make a Table Selection", "Error"}}));
+    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<ShownChange>{{"Must make a Table Selection", "Error"}}));
 }
 
 TEST_F(KeyChange, SaysThatNoRecordHasTheKey) {
@@ -52,8 +52,8 @@ TEST_F(KeyChange, SaysThatNoRecordHasTheKey) {
     EXPECT_FALSE(select.Select());
     select.key = "x";
     EXPECT_FALSE(select.Select());
-    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<Shown>{{"There are no records with 77", "Error"},
-                                                         {"There are no records with x", "Error"}}));
+    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<ShownChange>{{"There are no records with 77", "Error"},
+                                                               {"There are no records with x", "Error"}}));
 }
 
 TEST_F(KeyChange, ExplainsTheKeysOfProcesses) {
@@ -125,7 +125,8 @@ TEST_F(KeyChange, RefusesAKeyThatARecordHas) {
     KeyChangeScreen screen = Open("Messages", "5");
     screen.SetKey(0, "6");
     EXPECT_FALSE(screen.Finish());
-    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<Shown>{{"Already a record with a key of 6", "Error"}}));
+    EXPECT_EQ(desk_.dialogs.Boxes(),
+              (std::vector<ShownChange>{{"Already a record with a key of 6", "Error"}}));
     EXPECT_EQ(desk_.Rows(TableNum::Messages, "msgnum"), (std::vector<std::string>{"5", "5", "6"}));
 }
 
@@ -137,7 +138,7 @@ TEST_F(KeyChange, RefusesOneKeyForTwoRecords) {
     screen.SetKey(0, "6");
     screen.SetKey(1, "6");
     EXPECT_FALSE(screen.Finish());
-    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<Shown>{{"More than 1 record in key 6", "Error"}}));
+    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<ShownChange>{{"More than 1 record in key 6", "Error"}}));
     EXPECT_EQ(desk_.Rows(TableNum::Messages, "msgnum"), (std::vector<std::string>{"5", "5"}));
 }
 
@@ -148,7 +149,7 @@ TEST_F(KeyChange, RefusesAKeyThatIsNoNumber) {
     EXPECT_FALSE(screen.SetKey(0, "x"));
     EXPECT_EQ(screen.Rows()[0].key, "5");
     EXPECT_EQ(desk_.dialogs.Boxes(),
-              (std::vector<Shown>{{"The value for msgnum is not numeric", "Error"}}));
+              (std::vector<ShownChange>{{"The value for msgnum is not numeric", "Error"}}));
 }
 
 TEST_F(KeyChange, ComparesAProcessKeyOverTheWholeTable) {
@@ -157,7 +158,7 @@ TEST_F(KeyChange, ComparesAProcessKeyOverTheWholeTable) {
     KeyChangeScreen screen = OpenEntries("0", "_", "_");
     EXPECT_FALSE(screen.Instruction().empty());
     EXPECT_FALSE(screen.SetKey(0, "2"));
-    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<Shown>{{"The value 2 is already used", "Error"}}));
+    EXPECT_EQ(desk_.dialogs.Boxes(), (std::vector<ShownChange>{{"The value 2 is already used", "Error"}}));
     EXPECT_EQ(screen.Rows()[0].key, "1");
 }
 
@@ -170,7 +171,7 @@ TEST_F(KeyChange, ListsTheFreeNumbersAtTheThirdTry) {
     EXPECT_TRUE(desk_.dialogs.Reports().empty());
     screen.SetKey(0, "3");
     EXPECT_EQ(desk_.dialogs.Reports(),
-              (std::vector<Shown>{
+              (std::vector<ShownChange>{
                   {"You have made 3 tries to find an unused CaNum.  Below are a list of UnUsed CaNums.\n"
                    "Keep in mind that most duplicate keys are caused by the first key on a view being "
                    "overwritten. A record's correct key should be low.\n1, 2, 4, 5",

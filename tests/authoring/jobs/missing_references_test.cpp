@@ -33,7 +33,8 @@ std::vector<std::string> Told(Desk& desk) {
     return told;
 }
 
-void AddLocation(Desk& desk, int number, const std::string& exits = "", const std::string& numbers = "") {
+void LocationWithExits(Desk& desk, int number, const std::string& exits = "",
+                       const std::string& numbers = "") {
     const auto tokens = std::count(numbers.begin(), numbers.end(), ' ') + (numbers.empty() ? 0 : 1);
     desk.Add(TableNum::Locations, {{"locnum", std::int64_t{number}},
                                    {"exits", exits},
@@ -60,7 +61,7 @@ class MissingReferences : public testing::Test {
   protected:
     MissingReferences() {
         desk_.Clear(TableNum::Locations);
-        AddLocation(desk_, 0);
+        LocationWithExits(desk_, 0);
     }
 
     Desk desk_;
@@ -77,21 +78,21 @@ TEST_F(MissingReferences, AreTheStart) {
 
 TEST_F(MissingReferences, AreTheDestinationsOfExits) {
     desk_.AddWord(500, "NORTH", 2, condacts::kNoun);
-    AddLocation(desk_, 3, "NORTH 9 NORTH 0", "2 9 2 0");
+    LocationWithExits(desk_, 3, "NORTH 9 NORTH 0", "2 9 2 0");
     EXPECT_THAT(Told(desk_),
                 ElementsAre("Location 3: There is not a location with a number of 9 for NORTH"));
 }
 
 TEST_F(MissingReferences, NoExitLeadsToAPlaceThatIsNoRoomWhateverRecordsThereAre) {
     desk_.AddWord(500, "NORTH", 2, condacts::kNoun);
-    AddLocation(desk_, 254);
-    AddLocation(desk_, 3, "NORTH 254", "2 254");
+    LocationWithExits(desk_, 254);
+    LocationWithExits(desk_, 3, "NORTH 254", "2 254");
     EXPECT_THAT(Told(desk_),
                 ElementsAre("Location 3: There is not a location with a number of 254 for NORTH"));
 }
 
 TEST_F(MissingReferences, AreTheWordsOfExits) {
-    AddLocation(desk_, 3, "NORTH 0", "15 0");
+    LocationWithExits(desk_, 3, "NORTH 0", "15 0");
     EXPECT_THAT(Told(desk_), ElementsAre("Location 3: NORTH is not a valid word"));
 }
 
@@ -118,7 +119,7 @@ TEST_F(MissingReferences, AreThePlacesInsideOfContainers) {
 
 TEST_F(MissingReferences, AContainerIsNotInsideItself) {
     for (const int place : {1, 2, 3})
-        AddLocation(desk_, place);
+        LocationWithExits(desk_, place);
     AddObject(desk_, 1, 2, 1);
     AddObject(desk_, 2, 1, 3);
     AddObject(desk_, 3, 1, 1);
@@ -250,7 +251,8 @@ class RandomGame {
         const auto exit = std::pair(2 + Below(12), Number());
         exits_[number] = exit;
         const std::string to = " " + std::to_string(exit.second);
-        AddLocation(desk_, number, "N" + std::to_string(exit.first) + to, std::to_string(exit.first) + to);
+        LocationWithExits(desk_, number, "N" + std::to_string(exit.first) + to,
+                          std::to_string(exit.first) + to);
     }
 
     void AddRandomObject(int number) {

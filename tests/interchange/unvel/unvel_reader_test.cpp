@@ -16,7 +16,7 @@ std::string Section(const std::string& title, const std::string& lines) {
 }
 
 /// The parts of a listing; a test changes what it is about.
-struct Parts {
+struct UnVelParts {
     std::string head = "VEL Database : The Mill\nExtracted by UnVELS v2.0\n";
     std::string general = "Default ink color                    6\n";
     std::string words =
@@ -43,7 +43,7 @@ struct Parts {
     }
 };
 
-Reading Read(const Parts& parts) {
+Reading ReadUnVel(const UnVelParts& parts) {
     return Reading("unvel", parts.Listing());
 }
 
@@ -52,7 +52,7 @@ std::string Box(const Reading& reading) {
 }
 
 TEST(UnVelReader, AListingBecomesAGame) {
-    const Reading game = Read({});
+    const Reading game = ReadUnVel({});
     ASSERT_TRUE(game.ok) << game.status;
     EXPECT_EQ(game.faults, 0) << game.status;
     EXPECT_EQ(game.Text(TableNum::Adventure, "", "advname"), "The Mill");
@@ -65,13 +65,13 @@ TEST(UnVelReader, AListingBecomesAGame) {
 }
 
 TEST(UnVelReader, CwIsStoredAsCwrWithThree) {
-    const Reading game = Read({});
+    const Reading game = ReadUnVel({});
     EXPECT_EQ(game.Text(TableNum::Objects, "objnum=0", "objattr"), "CWR");
     EXPECT_EQ(game.Number(TableNum::Objects, "objnum=0", "objattrn"), 3);
 }
 
 TEST(UnVelReader, EachSectionTellsThatItIsDone) {
-    const Reading game = Read({});
+    const Reading game = ReadUnVel({});
     for (const char* line :
          {"Loaded UnVel Vocabulary", "Loaded Vel Messages", "Loaded Vel System Messages",
           "Loaded Vel Locations", "Loaded UnVel Location Connections", "Loaded Vel Object Names",
@@ -90,9 +90,9 @@ TEST(UnVelReader, AFileWithoutADatabaseIsRefused) {
 }
 
 TEST(UnVelReader, AnUnknownVersionIsRefusedWithItsLine) {
-    Parts parts;
+    UnVelParts parts;
     parts.head = "VEL Database : The Mill\nExtracted by UnVELS v9.9\n";
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_FALSE(game.ok);
     EXPECT_EQ(
         Box(game),
@@ -100,9 +100,9 @@ TEST(UnVelReader, AnUnknownVersionIsRefusedWithItsLine) {
 }
 
 TEST(UnVelReader, AVelGameOfTheFirstVersionIsRefused) {
-    Parts parts;
+    UnVelParts parts;
     parts.head = "VEL Database : The Mill\nExtracted by UnVELS 0.1 Beta\n";
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_FALSE(game.ok);
     EXPECT_EQ(Box(game),
               "This version of UnVels is < 1.0. It is not compatible with Fabula 4.0 and Vel snapshots. It "
@@ -111,9 +111,9 @@ TEST(UnVelReader, AVelGameOfTheFirstVersionIsRefused) {
 }
 
 TEST(UnVelReader, AMarloGameOfAVersionBelowTwoIsRefused) {
-    Parts parts;
+    UnVelParts parts;
     parts.head = "Marlo Database : The Mill\nExtracted by UnVELS v1.1\n";
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_FALSE(game.ok);
     EXPECT_EQ(Box(game),
               "This version of UnVels is < 2.0. It is not compatible with Fabula 4.0 and Marlo snapshots. "
@@ -124,31 +124,31 @@ TEST(UnVelReader, AMarloGameOfAVersionBelowTwoIsRefused) {
 TEST(UnVelReader, EveryVersionOfTheTableIsTakenForVel) {
     for (const char* version : {"VELS 1.0", "on 2.1.0", "ELS v1.1", "S32 v1.1", "on 2.2.0", "on 4.0.0",
                                 "v2.0beta", "ELS v2.0", "S32 v2.0", "ELS v2.1", "S32 v2.1", "on 5.0.0"}) {
-        Parts parts;
+        UnVelParts parts;
         parts.head = std::string("VEL Database : The Mill\nExtracted with ") + version + "  \n";
-        EXPECT_TRUE(Read(parts).ok) << version;
+        EXPECT_TRUE(ReadUnVel(parts).ok) << version;
     }
 }
 
 TEST(UnVelReader, TheDatabaseLineNeedsNoBlank) {
-    Parts parts;
+    UnVelParts parts;
     parts.head = "VEL Database: The Mill\nExtracted by UnVELS v2.0\n";
-    EXPECT_EQ(Read(parts).Text(TableNum::Adventure, "", "advname"), "The Mill");
+    EXPECT_EQ(ReadUnVel(parts).Text(TableNum::Adventure, "", "advname"), "The Mill");
 }
 
 TEST(UnVelReader, TheSpellingsOfTheFirstVersionAreTaken) {
-    Parts parts;
+    UnVelParts parts;
     parts.general += "Ojects                               1\n";
     parts.places = Section("INITIALY AT", "Object   0  C\n");
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_EQ(game.Text(TableNum::Objects, "objnum=0", "objlocdesc"), "Carried.");
 }
 
 TEST(UnVelReader, PlacesHaveLettersOrNumbers) {
-    Parts parts;
+    UnVelParts parts;
     parts.objects = "Object   0\na\nObject   1\nb\nObject   2\nc\nObject   3\nd\n";
     parts.places = Section("INITIALLY AT", "Object   0  NC\nObject   1  W\nObject   2  C\nObject   3  1\n");
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_EQ(game.Text(TableNum::Objects, "objnum=0", "objlocdesc"), "Not created.");
     EXPECT_EQ(game.Number(TableNum::Objects, "objnum=1", "objloc"), 253);
     EXPECT_EQ(game.Number(TableNum::Objects, "objnum=2", "objloc"), 254);
@@ -156,14 +156,14 @@ TEST(UnVelReader, PlacesHaveLettersOrNumbers) {
 }
 
 TEST(UnVelReader, TypesOfWordsAreThoseOfTheListAndElseNouns) {
-    Parts parts;
+    UnVelParts parts;
     parts.words =
         "A        2Adverb\nB        3Adjective\nC        4Conj.\nD        5Conjunction\nE        "
         "6Conjugation\n"
         "F        7Pronoun\nG        8RESERVED\nH        9Thing\nI       10\n";
     parts.connections.clear();
     parts.tables = Section("RESPONSE TABLE", "");
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     const auto type = [&](const char* where) {
         return game.Number(TableNum::Vocabulary, where, "voctypen");
     };
@@ -180,7 +180,7 @@ TEST(UnVelReader, TypesOfWordsAreThoseOfTheListAndElseNouns) {
 }
 
 TEST(UnVelReader, TheGamesOwnWordsGoBeforeTheDefaultOnes) {
-    const Reading game = Read({});
+    const Reading game = ReadUnVel({});
     EXPECT_EQ(game.Count(TableNum::Vocabulary, "word='UNDER'"), 1);
     EXPECT_EQ(game.Number(TableNum::Vocabulary, "word='UNDER'", "vocnum"), 206);
     EXPECT_EQ(game.Count(TableNum::Vocabulary, "word='_'"), 1);
@@ -188,48 +188,48 @@ TEST(UnVelReader, TheGamesOwnWordsGoBeforeTheDefaultOnes) {
 }
 
 TEST(UnVelReader, NumbersOfWordConditionsBecomeWords) {
-    Parts parts;
+    UnVelParts parts;
     parts.tables = Section("RESPONSE TABLE",
                            "GET   LAMP       PREP         206\n                 NOUN2         50\n"
                            "                 ADJECT1      255\n                 OK\n");
-    EXPECT_EQ(Read(parts).Text(TableNum::ProcessTables, "canum=0", "condacts"),
+    EXPECT_EQ(ReadUnVel(parts).Text(TableNum::ProcessTables, "canum=0", "condacts"),
               "PREP UNDER NOUN2 LAMP ADJECT1 _ OK");
 }
 
 TEST(UnVelReader, AWordNumberThatIsNotThereIsReported) {
-    Parts parts;
+    UnVelParts parts;
     parts.tables = Section("RESPONSE TABLE", "GET   LAMP       PREP          99\n                 OK\n");
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_EQ(game.faults, 1);
     EXPECT_EQ(game.Text(TableNum::ProcessTables, "canum=0", "condacts"), "OK");
 }
 
 TEST(UnVelReader, ExternStaysAsItStands) {
-    Parts parts;
+    UnVelParts parts;
     parts.tables = Section("RESPONSE TABLE", "-     -          EXTERN         7\n");
-    EXPECT_EQ(Read(parts).Text(TableNum::ProcessTables, "canum=0", "condacts"), "EXTERN 7");
+    EXPECT_EQ(ReadUnVel(parts).Text(TableNum::ProcessTables, "canum=0", "condacts"), "EXTERN 7");
 }
 
 TEST(UnVelReader, ADashIsTheWordThatFitsAny) {
-    Parts parts;
+    UnVelParts parts;
     parts.tables = Section("RESPONSE TABLE", "-     LAMP       OK\n");
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_EQ(game.Text(TableNum::ProcessTables, "canum=0", "w1"), "_");
     EXPECT_EQ(game.Number(TableNum::ProcessTables, "canum=0", "w1num"), 255);
 }
 
 TEST(UnVelReader, ProcessTablesFromThreeUpGetADescription) {
-    Parts parts;
+    UnVelParts parts;
     parts.tables += Section("PROCESS   2", "") + Section("PROCESS   3", "-     -          OK\n") +
                     Section("PROCESS   5", "");
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_EQ(game.Count(TableNum::ProcDesc, "pmsgnum=3 or pmsgnum=5"), 2);
     EXPECT_EQ(game.Count(TableNum::ProcDesc, "pmsgnum=4"), 0);
     EXPECT_EQ(game.Number(TableNum::ProcessTables, "estype=3", "canum"), 1);
 }
 
 TEST(UnVelReader, AVelGameGetsTheCommandsOfTheScript) {
-    const Reading game = Read({});
+    const Reading game = ReadUnVel({});
     const auto script = game.Number(TableNum::Vocabulary, "word='SCRIP' and voctypen=2", "vocnum");
     EXPECT_EQ(game.Number(TableNum::ProcessTables, "condacts='PREP ON SCRIPT 1'", "w2num"), script);
     EXPECT_EQ(game.Number(TableNum::ProcessTables, "w1='LOAD' and w2='SCRIP'", "w2num"), script);
@@ -237,62 +237,63 @@ TEST(UnVelReader, AVelGameGetsTheCommandsOfTheScript) {
 }
 
 TEST(UnVelReader, EntriesOfTurnGraphAreRewritten) {
-    Parts parts;
+    UnVelParts parts;
     parts.words += "TURN    21Verb\nGRAPH   51Noun\nON     204Preposition\n";
     parts.tables =
         Section("RESPONSE TABLE", "TURN  GRAPH      PREP         204\n                 PICTURE        0\n");
-    EXPECT_EQ(Read(parts).Text(TableNum::ProcessTables, "canum=0", "condacts"), "PREP ON GRAPHIC 1 DESC");
+    EXPECT_EQ(ReadUnVel(parts).Text(TableNum::ProcessTables, "canum=0", "condacts"),
+              "PREP ON GRAPHIC 1 DESC");
 }
 
 TEST(UnVelReader, AListingWithoutPicturesAndCharactersIsRefused) {
-    Parts parts;
+    UnVelParts parts;
     parts.pictures.clear();
     parts.characters.clear();
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_FALSE(game.ok);
     EXPECT_TRUE(
         game.Told("Character sets and graphics not found. -C -G option not on UnVel\nLoad aborted"));
 }
 
 TEST(UnVelReader, AListingWithoutCharactersSaysSo) {
-    Parts parts;
+    UnVelParts parts;
     parts.characters.clear();
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_TRUE(game.ok);
     EXPECT_TRUE(game.Told("Character sets not found. -C option not on UnVel"));
 }
 
 TEST(UnVelReader, CharactersMayComeBeforePictures) {
-    Parts parts;
+    UnVelParts parts;
     std::swap(parts.pictures, parts.characters);
     parts.characters += "Location   0 graphics flags: Picture     Ink=1 Paper=2 Bit6=0\nEND\n";
-    EXPECT_EQ(Read(parts).Number(TableNum::Pictures, "locnum=0", "locpaper"), 2);
+    EXPECT_EQ(ReadUnVel(parts).Number(TableNum::Pictures, "locnum=0", "locpaper"), 2);
 }
 
 TEST(UnVelReader, ACommandThatIsNoneIsReported) {
-    Parts parts;
+    UnVelParts parts;
     parts.pictures +=
         "Location   0 graphics flags: Picture     Ink=1 Paper=2 Bit6=0\nSPLASH   001\n"
         "INVERSE   001\nINK  003\nEND\n";
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_TRUE(game.Told("Command SPLASH not found in Command Table")) << game.status;
     EXPECT_TRUE(game.Told("Command INVERSE not found in Command Table")) << game.status;
     EXPECT_EQ(game.Text(TableNum::Pictures, "locnum=0", "drawstring"), "INK 3 END");
 }
 
 TEST(UnVelReader, APictureWithoutALocationIsDropped) {
-    Parts parts;
+    UnVelParts parts;
     parts.pictures += "Location  77 graphics flags: Picture     Ink=1 Paper=2 Bit6=0\nEND\n";
-    EXPECT_EQ(Read(parts).Count(TableNum::Pictures, "locnum>=0"), 0);
+    EXPECT_EQ(ReadUnVel(parts).Count(TableNum::Pictures, "locnum>=0"), 0);
 }
 
 TEST(UnVelReader, SetsOfCharactersAreNamedAfterTheGame) {
-    Parts parts;
+    UnVelParts parts;
     parts.characters +=
         "static char font_bits_2[] = {\n 0x80, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00};\n"
         "static char shade_bits[] = {\n 0xff, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00};\n"
         "static char odd_bits[] = {\n 0xff};\n";
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_EQ(game.Text(TableNum::Characters, "charkey=2032", "charvals"), "1 0 0 0 0 0 0 0");
     EXPECT_EQ(game.Text(TableNum::Characters, "charkey=2032", "charset"), "SET 0002");
     EXPECT_TRUE(game.Text(TableNum::Characters, "charkey=2032", "charsetname").ends_with(" Set 2"));
@@ -301,23 +302,23 @@ TEST(UnVelReader, SetsOfCharactersAreNamedAfterTheGame) {
 }
 
 TEST(UnVelReader, ASectionThatComesTooLateIsPassedOver) {
-    Parts parts;
+    UnVelParts parts;
     parts.rest = Section("MESSAGES", "Message   0\nToo late.\n");
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_TRUE(game.ok);
     EXPECT_EQ(game.faults, 1);
     EXPECT_EQ(game.Text(TableNum::Messages, "msgnum=0", "msgmsg"), "Hello.");
 }
 
 TEST(UnVelReader, DescriptionsOfFlagsStandInPlaceOfTheMarks) {
-    Parts parts;
+    UnVelParts parts;
     parts.tables =
         Section("RESPONSE TABLE", "-     -          SET           60\n                 SET           61\n");
-    EXPECT_EQ(Read(parts).Text(TableNum::Flags, "flgnum=60", "flgdesc"), "Used by this Adventure.");
+    EXPECT_EQ(ReadUnVel(parts).Text(TableNum::Flags, "flgnum=60", "flgdesc"), "Used by this Adventure.");
     parts.rest =
         "\n; FLAG DESCRIPTIONS\n; -----------------\n; This section was added to give documentation on the "
         "Flags\n; Flag    60\n; The lamp is lit\n";
-    const Reading game = Read(parts);
+    const Reading game = ReadUnVel(parts);
     EXPECT_EQ(game.Text(TableNum::Flags, "flgnum=60", "flgdesc"), "The lamp is lit");
     EXPECT_EQ(game.Text(TableNum::Flags, "flgnum=61", "flgdesc"), "");
 }
@@ -334,10 +335,10 @@ TEST(UnVelReader, AListingCutAtAnyLineIsRefusedOrRead) {
 }
 
 TEST(UnVelReader, ALineOfTenMegabytesIsAText) {
-    Parts parts;
+    UnVelParts parts;
     parts.texts = Section("MESSAGES", "Message   0\n" + std::string(10'000'000, 'x') + "\n") +
                   Section("LOCATIONS", "Location   0\nA hall.\nLocation   1\nA cellar.\n");
-    EXPECT_EQ(Read(parts).Text(TableNum::Messages, "msgnum=0", "msgmsg").size(), 10'000'000U);
+    EXPECT_EQ(ReadUnVel(parts).Text(TableNum::Messages, "msgnum=0", "msgmsg").size(), 10'000'000U);
 }
 
 TEST(GetColor, FractionsAreSevenAboveSixAndElseZero) {

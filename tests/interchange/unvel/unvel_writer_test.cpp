@@ -14,8 +14,8 @@ using store::AdventureKind;
 using store::TableNum;
 
 /// What is written of an adventure, and what is told.
-struct Extract {
-    Extract(store::Adventure& adventure, const std::string& version = "") {
+struct WrittenExtract {
+    WrittenExtract(store::Adventure& adventure, const std::string& version = "") {
         const test::TempFolder folder;
         NoObserver nobody;
         JobStatus jobStatus(nobody);
@@ -68,42 +68,42 @@ void AddObject(store::Adventure& adventure, int number, int place) {
 
 TEST(UnVelWriter, TheHeadNamesGameProgramAndForm) {
     const test::OpenedAdventure vel(AdventureKind::Vel);
-    EXPECT_TRUE(
-        Extract(*vel).text.starts_with("VEL Database: New Adventure\r\n"
-                                       "Extracted in UnVels format by Fabula Extract Version 4.0.0\r\n"
-                                       "5.0.0\r\n\r\nGeneral data\r\n------------\r\n"));
+    EXPECT_TRUE(WrittenExtract(*vel).text.starts_with(
+        "VEL Database: New Adventure\r\n"
+        "Extracted in UnVels format by Fabula Extract Version 4.0.0\r\n"
+        "5.0.0\r\n\r\nGeneral data\r\n------------\r\n"));
     const test::OpenedAdventure marlo(AdventureKind::Marlo);
-    EXPECT_TRUE(Extract(*marlo).text.starts_with("Marlo Database: New Adventure\r\n"));
+    EXPECT_TRUE(WrittenExtract(*marlo).text.starts_with("Marlo Database: New Adventure\r\n"));
 }
 
 TEST(UnVelWriter, TheFormIsAskedForOrThatOfTheSettingsOrTheNewest) {
     const test::OpenedAdventure game(AdventureKind::Vel);
-    EXPECT_TRUE(Extract(*game).Has("\r\n5.0.0\r\n"));
+    EXPECT_TRUE(WrittenExtract(*game).Has("\r\n5.0.0\r\n"));
     store::Cursor& settings = game->OpenTable(TableNum::Adventure, "def");
     settings.SetField("version", std::string("2.2.0"));
     settings.Update();
-    EXPECT_TRUE(Extract(*game).Has("\r\n2.2.0\r\n"));
-    EXPECT_TRUE(Extract(*game, "2.1.0").Has("\r\n2.1.0\r\n"));
+    EXPECT_TRUE(WrittenExtract(*game).Has("\r\n2.2.0\r\n"));
+    EXPECT_TRUE(WrittenExtract(*game, "2.1.0").Has("\r\n2.1.0\r\n"));
 }
 
 TEST(UnVelWriter, AFormThatIsUnknownIsRefused) {
     const test::OpenedAdventure game(AdventureKind::Vel);
-    const Extract extract(*game, "3.0.0");
+    const WrittenExtract extract(*game, "3.0.0");
     EXPECT_FALSE(extract.ok);
     EXPECT_EQ(extract.status, "UnVel extracts have no version 3.0.0.\n");
 }
 
 TEST(UnVelWriter, TheOldestFormHasTheSpellingsOfItsTime) {
     const test::OpenedAdventure game(AdventureKind::Vel);
-    EXPECT_TRUE(Extract(*game, "2.0.0").Has("\r\nOjects  "));
-    EXPECT_TRUE(Extract(*game, "2.0.0").Has("INITIALY AT\r\n-----------\r\n"));
-    EXPECT_TRUE(Extract(*game, "2.1.0").Has("\r\nObjects  "));
-    EXPECT_TRUE(Extract(*game, "2.1.0").Has("INITIALLY AT\r\n------------\r\n"));
+    EXPECT_TRUE(WrittenExtract(*game, "2.0.0").Has("\r\nOjects  "));
+    EXPECT_TRUE(WrittenExtract(*game, "2.0.0").Has("INITIALY AT\r\n-----------\r\n"));
+    EXPECT_TRUE(WrittenExtract(*game, "2.1.0").Has("\r\nObjects  "));
+    EXPECT_TRUE(WrittenExtract(*game, "2.1.0").Has("INITIALLY AT\r\n------------\r\n"));
 }
 
 TEST(UnVelWriter, CommentsStandAtTheEndAndComeBack) {
     const test::OpenedAdventure game(AdventureKind::Vel);
-    EXPECT_FALSE(Extract(*game).Has("COMMENTS")) << "where there are none";
+    EXPECT_FALSE(WrittenExtract(*game).Has("COMMENTS")) << "where there are none";
     AddEntry(*game, 0, "_", "_", "");
     AddEntry(*game, 1, "_", "_", "DESC");
     AddEntry(*game, 0, "_", "_", "INVEN");
@@ -116,7 +116,7 @@ TEST(UnVelWriter, CommentsStandAtTheEndAndComeBack) {
     comment(TableNum::ProcessTables, "canum=2", "What one has");
     comment(TableNum::Locations, "locnum=0", "The hall");
     comment(TableNum::Flags, "flgnum=60", "Oil");
-    const Extract extract(*game);
+    const WrittenExtract extract(*game);
     EXPECT_TRUE(
         extract.Has("\r\n; COMMENTS\r\n; --------\r\n"
                     "; ! Locations 0 comment The hall\r\n"
@@ -138,15 +138,16 @@ TEST(UnVelWriter, ConnectionsStandInColumns) {
     location.SetField("exits", std::string("N 5 SOUTH 123"));
     location.SetField("numexits", std::int64_t{4});
     location.Update();
-    EXPECT_TRUE(Extract(*game).Has("Location   0:  N      5\r\n               SOUTH123\r\n"));
-    EXPECT_TRUE(Extract(*game, "2.0.0").Has("Location   0:  N      5\r\n                SOUTH123\r\n"));
+    EXPECT_TRUE(WrittenExtract(*game).Has("Location   0:  N      5\r\n               SOUTH123\r\n"));
+    EXPECT_TRUE(
+        WrittenExtract(*game, "2.0.0").Has("Location   0:  N      5\r\n                SOUTH123\r\n"));
 }
 
 TEST(UnVelWriter, ObjectsStandInFourSections) {
     const test::OpenedAdventure game(AdventureKind::Vel);
     AddObject(*game, 0, 252);
     AddObject(*game, 1, 7);
-    const Extract extract(*game);
+    const WrittenExtract extract(*game);
     EXPECT_TRUE(extract.Has("OBJECT NAMES\r\n------------\r\nObject   0\r\na lamp\r\n"));
     EXPECT_TRUE(extract.Has("OBJECT WORDS\r\n------------\r\nObject   0    LAMP _\r\n"));
     EXPECT_TRUE(extract.Has("INITIALLY AT\r\n------------\r\nObject   0  NC\r\nObject   1  7\r\n"));
@@ -157,16 +158,16 @@ TEST(UnVelWriter, EntriesStandInColumns) {
     const test::OpenedAdventure game(AdventureKind::Vel);
     AddEntry(*game, 0, "GET", "_", "EQ 11 5 PREP UNDER OK");
     EXPECT_TRUE(
-        Extract(*game).Has("RESPONSE TABLE\r\n--------------\r\n"
-                           "GET   -          EQ            11   5\r\n"
-                           "                 PREP         206\r\n"
-                           "                 OK\r\n"));
+        WrittenExtract(*game).Has("RESPONSE TABLE\r\n--------------\r\n"
+                                  "GET   -          EQ            11   5\r\n"
+                                  "                 PREP         206\r\n"
+                                  "                 OK\r\n"));
 }
 
 TEST(UnVelWriter, CondActsOfThisSystemAloneAreNamedAndNothingIsWritten) {
     const test::OpenedAdventure game;
     AddEntry(*game, 0, "_", "_", "SOUND 5 AGAIN");
-    const Extract extract(*game);
+    const WrittenExtract extract(*game);
     EXPECT_FALSE(extract.ok);
     EXPECT_EQ(extract.text, "");
     EXPECT_EQ(extract.status,
@@ -185,16 +186,16 @@ TEST(UnVelWriter, PicturesAreWrittenInTheColumnsOfTheirCommands) {
                 std::string("ABSMOVE 12 34 RELMOVE -12 7 LINE 11 0 -20 SHADE 1 2 3 35 TEXT 10 0 65 3 4 "
                             "BLOCK 1 2 3 4 GOSUB sc=4 12 INK 3 END")}});
     EXPECT_TRUE(
-        Extract(*game).Has("Location   0 graphics flags: Picture     Ink=1 Paper=7 Bit6=0\r\n"
-                           "ABS MOVE     012  034\r\n"
-                           "REL MOVE    -012  007\r\n"
-                           "LINE     oi  000 -020\r\n"
-                           "SHADE     i  002  003  035\r\n"
-                           "TEXT     o   000  065  003  004\r\n"
-                           "BLOCK        001  002  003  004\r\n"
-                           "GOSUB     sc=4  012\r\n"
-                           "INK          003\r\n"
-                           "END\r\n"));
+        WrittenExtract(*game).Has("Location   0 graphics flags: Picture     Ink=1 Paper=7 Bit6=0\r\n"
+                                  "ABS MOVE     012  034\r\n"
+                                  "REL MOVE    -012  007\r\n"
+                                  "LINE     oi  000 -020\r\n"
+                                  "SHADE     i  002  003  035\r\n"
+                                  "TEXT     o   000  065  003  004\r\n"
+                                  "BLOCK        001  002  003  004\r\n"
+                                  "GOSUB     sc=4  012\r\n"
+                                  "INK          003\r\n"
+                                  "END\r\n"));
 }
 
 TEST(UnVelWriter, WhatWillNotComeBackIsTold) {
@@ -203,7 +204,7 @@ TEST(UnVelWriter, WhatWillNotComeBackIsTold) {
     AddRecord(*game, TableNum::Messages,
               {{"msgnum", std::int64_t{1}}, {"msgmsg", std::string("Message   7")}});
     AddEntry(*game, 0, "_", "_", "");
-    const Extract extract(*game);
+    const WrittenExtract extract(*game);
     EXPECT_TRUE(extract.ok);
     EXPECT_EQ(extract.status,
               "Messages 0: the text will not come back as it is.\n"
@@ -213,7 +214,7 @@ TEST(UnVelWriter, WhatWillNotComeBackIsTold) {
 
 TEST(UnVelWriter, TheEndIsTold) {
     const test::OpenedAdventure game(AdventureKind::Vel);
-    const Extract extract(*game);
+    const WrittenExtract extract(*game);
     EXPECT_EQ(extract.person.Boxes().back().text, "UnVel Export completed");
 }
 
