@@ -4,14 +4,13 @@
 #include <optional>
 
 #include "condacts/limits.h"
+#include "condacts/object_attributes.h"
 #include "engine/game.h"
 
 namespace fabula::engine {
 
 namespace {
 
-constexpr int kContainerBit = 1;
-constexpr int kWearableBit = 2;
 constexpr WordNumber kFirstMarloWearable{200};
 
 const ObjectData& DataOf(const Game& game, ObjectNumber object) {
@@ -21,7 +20,7 @@ const ObjectData& DataOf(const Game& game, ObjectNumber object) {
 
 bool IsWearable(const Game& game, const ObjectData& object) {
     if (game.IsMarlo()) return object.noun >= kFirstMarloWearable;
-    return (object.attributes & kWearableBit) != 0;
+    return (object.attributes & condacts::attribute::kWearable) != 0;
 }
 
 bool IsNamed(const Game& game, const ObjectData& object) {
@@ -42,14 +41,14 @@ std::optional<ObjectNumber> FindNamed(const Game& game, PlaceNumber where) {
 
 bool IsContainer(const Game& game, ObjectNumber object) {
     return object.value < game.state.ObjectCount() &&
-           (DataOf(game, object).attributes & kContainerBit) != 0;
+           (DataOf(game, object).attributes & condacts::attribute::kContainer) != 0;
 }
 
 /// `left` counts down with each object: when more are weighed than there are, one lies inside itself.
 int Weigh(const Game& game, ObjectNumber object, int& left) {
     if (--left < 0) throw RunFailure("object " + std::to_string(object.value) + " lies inside itself");
     const ObjectData& data = DataOf(game, object);
-    const bool container = (data.attributes & kContainerBit) != 0;
+    const bool container = (data.attributes & condacts::attribute::kContainer) != 0;
     if (container && data.weight == 0) return 0;
     int weight = data.weight;
     if (!container) return weight;
@@ -73,7 +72,7 @@ void SetObjFlags(Game& game, ObjectNumber object) {
     const ObjectData& data = DataOf(game, object);
     game.SetFlag(flag::kObjectPlace, game.state.ObjectPlace(object).value);
     game.SetFlag(flag::kObjectWeight, data.weight);
-    if ((data.attributes & kContainerBit) != 0) game.SetFlag(flag::kIsContainer, 128);
+    if ((data.attributes & condacts::attribute::kContainer) != 0) game.SetFlag(flag::kIsContainer, 128);
     if (IsWearable(game, data)) game.SetFlag(flag::kIsWearable, 128);
 }
 

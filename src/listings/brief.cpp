@@ -28,7 +28,7 @@ constexpr std::array<BriefTable, 5> kTables = {{
 }};
 
 constexpr std::string_view kFormat = "!%A!%t10!%a";
-constexpr TextArea kArea{10, 70};
+constexpr TextArea kBriefArea{10, 70};
 
 constexpr std::string_view kUnknownUse = "Unknown";
 
@@ -42,7 +42,7 @@ std::string_view FirstWithText(const store::PreparedQuery& rows, int texts) {
 
 /// The first line that is not blank.
 std::string FirstLine(std::string_view text) {
-    const std::vector<std::string> lines = WrappedText(text, kArea.width);
+    const std::vector<std::string> lines = WrappedText(text, kBriefArea.width);
     const auto first = std::ranges::find_if_not(lines, IsEmpty);
     return first == lines.end() ? std::string() : *first;
 }

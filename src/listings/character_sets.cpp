@@ -54,7 +54,7 @@ std::shared_ptr<const pictures::Image> ImageOf(const Glyph& glyph) {
     return image;
 }
 
-std::string DescriptionOf(int number) {
+std::string CaptionOf(int number) {
     return "Character " + std::to_string(number);
 }
 
@@ -80,7 +80,7 @@ void AddGroup(const Listing& listing, const std::string& heading, const std::vec
                            .columns = kGlyphColumns,
                            .lines = kGlyphLines,
                            .image = ImageOf(each.glyph),
-                           .description = DescriptionOf(each.number),
+                           .description = CaptionOf(each.number),
                            .caption = std::to_string(each.number)});
     }
     record.Row("", {});
@@ -160,7 +160,7 @@ void WriteCharacterSetsInFull(const Listing& listing, const ReportRequest&) {
                                .columns = 2,
                                .lines = 1,
                                .image = ImageOf(character->glyph),
-                               .description = DescriptionOf(character->number)});
+                               .description = CaptionOf(character->number)});
             listing.frame.Add(record.Take());
         }
     }

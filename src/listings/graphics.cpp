@@ -96,8 +96,8 @@ void AddDrawing(Record& record, const pictures::PictureBook& book, int number) {
     }
 }
 
-void AddPicture(const Listing& listing, const pictures::PictureBook& book, const Columns& columns,
-                const store::PreparedQuery& row) {
+void AddPictureRecord(const Listing& listing, const pictures::PictureBook& book, const Columns& columns,
+                      const store::PreparedQuery& row) {
     const int number = static_cast<int>(row.Number(0));
     const Place place{TableNum::Pictures, number};
     Record record(place);
@@ -116,7 +116,7 @@ bool IsAsked(const ReportRequest& request, std::int64_t number) {
     return !asked || std::ranges::find(*asked, number) != asked->end();
 }
 
-Columns ColumnsFor(store::Adventure& adventure, const ReportRequest& request) {
+Columns PictureColumnsFor(store::Adventure& adventure, const ReportRequest& request) {
     Columns columns;
     store::PreparedQuery rows = adventure.Prepare(TableNum::Pictures, "locnum, picname", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
@@ -131,12 +131,12 @@ Columns ColumnsFor(store::Adventure& adventure, const ReportRequest& request) {
 
 void WriteGraphics(const Listing& listing, const ReportRequest& request) {
     const pictures::PictureBook book = pictures::LoadPictureBook(listing.adventure);
-    const Columns columns = ColumnsFor(listing.adventure, request);
+    const Columns columns = PictureColumnsFor(listing.adventure, request);
     listing.frame.Begin("Listing of Graphics Table", columns.Headings());
     store::PreparedQuery rows = listing.adventure.Prepare(
         TableNum::Pictures, "locnum, loctype, locpaper, locink, picname, roompicnum, drawstring", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        if (IsAsked(request, rows.Number(0))) AddPicture(listing, book, columns, rows);
+        if (IsAsked(request, rows.Number(0))) AddPictureRecord(listing, book, columns, rows);
     }
 }
 

@@ -81,7 +81,7 @@ Surroundings LoadSurroundings(store::Adventure& adventure) {
     return loaded;
 }
 
-ExitColumns ColumnsFor(store::Adventure& adventure, const Surroundings& around) {
+ExitColumns ExitColumnsFor(store::Adventure& adventure, const Surroundings& around) {
     ExitColumns columns;
     store::PreparedQuery rows = adventure.Prepare(TableNum::Locations, "exits, numericexits", "exits<>''");
     for (bool more = rows.First({}); more; more = rows.Next()) {
@@ -153,8 +153,8 @@ void Begin(const Listing& listing, bool verbose, bool complete) {
 }
 
 /// The numbers of exits and the picture of a location.
-void AddPicture(Record& record, std::size_t exits, std::string_view picture, std::string_view key,
-                bool verbose) {
+void AddPictureRow(Record& record, std::size_t exits, std::string_view picture, std::string_view key,
+                   bool verbose) {
     std::vector<text::Value> values{std::to_string(exits), std::string(picture)};
     if (verbose) values.emplace_back(std::string(key));
     record.Row(verbose ? kPictureAndKeyRow : kPictureRow, std::move(values));
@@ -167,7 +167,7 @@ void WriteLocations(const Listing& listing, const ReportRequest& request) {
     const bool verbose = request.detail == Detail::Verbose;
     Begin(listing, verbose, request.complete);
     const Surroundings around = request.complete ? LoadSurroundings(listing.adventure) : Surroundings();
-    const ExitColumns columns = ColumnsFor(listing.adventure, around);
+    const ExitColumns columns = ExitColumnsFor(listing.adventure, around);
     store::PreparedQuery rows = listing.adventure.Prepare(
         TableNum::Locations, "locnum, locdesc, exits, numericexits, picloc, pickey, comment", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
@@ -178,7 +178,7 @@ void WriteLocations(const Listing& listing, const ReportRequest& request) {
         Record record(place);
         record.Text(kDescriptionRow, {key}, rows.Text(1), kRoomText);
         record.LinkTo(place, key.size() < 3 ? 3 - key.size() : std::size_t{0}, key.size());
-        AddPicture(record, exits.size(), rows.Text(4), rows.Text(5), verbose);
+        AddPictureRow(record, exits.size(), rows.Text(4), rows.Text(5), verbose);
         for (const Exit& exit : exits)
             AddExit(record, columns, exit);
         AddSurroundings(record, columns, around, number);

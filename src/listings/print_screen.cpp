@@ -75,7 +75,7 @@ std::string WordTypesFilter(const std::vector<int>& types) {
     return filter;
 }
 
-std::vector<authoring::ListItem> Words(store::Adventure& adventure, const std::vector<int>& types) {
+std::vector<authoring::ListItem> WordItems(store::Adventure& adventure, const std::vector<int>& types) {
     store::PreparedQuery rows =
         adventure.Prepare(TableNum::Vocabulary, "vocnum, word", WordTypesFilter(types), "word, voctypen");
     std::vector<authoring::ListItem> words;
@@ -108,7 +108,7 @@ PrintScreen::PrintScreen(store::Adventure& adventure, TableNum table, int proces
     if (!HasSpecial()) return;
     for (const int type : kVerbTypes)
         wordType.items.push_back({type, std::string(condacts::WordTypeName(type))});
-    noun.items = Words(adventure, {condacts::kNoun, condacts::kReserved});
+    noun.items = WordItems(adventure, {condacts::kNoun, condacts::kReserved});
 }
 
 std::string PrintScreen::Title() const {
@@ -160,7 +160,7 @@ void PrintScreen::ClickSpecial(bool on) {
 void PrintScreen::ChooseWordType(int index) {
     wordType.index = index;
     const authoring::ListItem* const type = wordType.Chosen();
-    verb.items = type ? Words(adventure_, {type->number}) : std::vector<authoring::ListItem>();
+    verb.items = type ? WordItems(adventure_, {type->number}) : std::vector<authoring::ListItem>();
     verb.index = -1;
 }
 

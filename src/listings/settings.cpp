@@ -81,11 +81,11 @@ constexpr Setting kSettings[] = {
     {"advnum", "Record Number"},
 };
 
-constexpr std::string_view kRecord = "!%r30!: !%a";
-constexpr TextArea kArea{33, 48};
+constexpr std::string_view kSettingLine = "!%r30!: !%a";
+constexpr TextArea kValueArea{33, 48};
 
 /// The number of a colour and its name.
-std::string Numbered(std::int64_t number, std::string_view name) {
+std::string WithName(std::int64_t number, std::string_view name) {
     std::string text = std::to_string(number);
     if (!name.empty()) text.append(" ").append(name);
     return text;
@@ -117,12 +117,12 @@ std::string Told(store::Adventure& adventure, const store::Cursor& settings, con
         case As::Switch:
             return number != 0 ? "ON" : "OFF";
         case As::Colour:
-            return Numbered(number,
+            return WithName(number,
                             text::ColorName(condacts::FitsNumber(number) ? static_cast<int>(number) : -1));
         case As::Font:
-            return Numbered(number, FontName(adventure, number));
+            return WithName(number, FontName(adventure, number));
         case As::Voice:
-            return Numbered(number, Lookup(adventure, TableNum::Codes, "voicename",
+            return WithName(number, Lookup(adventure, TableNum::Codes, "voicename",
                                            "voicename <> '' and codenum=" + std::to_string(number)));
         case As::Bytes: {
             const auto* const bytes = std::get_if<text::Blob>(&value);
@@ -146,10 +146,10 @@ void WriteSettings(const Listing& listing, const ReportRequest&) {
         if (!listing.adventure.Schema(TableNum::Adventure).Find(setting.field)) continue;
         Record record;
         const std::string told = Told(listing.adventure, settings, setting);
-        record.Text(kRecord, {std::string(setting.label)}, told, kArea);
+        record.Text(kSettingLine, {std::string(setting.label)}, told, kValueArea);
         if (setting.as == As::Location) {
             record.LinkTo({TableNum::Locations, static_cast<int>(settings.Number(setting.field))},
-                          static_cast<std::size_t>(kArea.column) - 1, told.size());
+                          static_cast<std::size_t>(kValueArea.column) - 1, told.size());
         }
         listing.frame.Add(record.Take());
     }

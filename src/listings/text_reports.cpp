@@ -80,8 +80,8 @@ Place LinkOf(const TextTable& table, int number) {
     return {table.table == TableNum::ProcDesc ? TableNum::ProcessTables : table.table, number};
 }
 
-void Write(const Listing& listing, const TextTable& table, NoText noText = NoText::Shown,
-           std::string_view where = "") {
+void WriteTexts(const Listing& listing, const TextTable& table, NoText noText = NoText::Shown,
+                std::string_view where = "") {
     listing.frame.Begin(table.title, {Heading(table.headings[0]), Heading(table.headings[1])});
     store::PreparedQuery rows = listing.adventure.Prepare(table.table, table.fields, where);
     for (bool more = rows.First({}); more; more = rows.Next()) {
@@ -114,31 +114,31 @@ int LastUserFlag(store::Adventure& adventure) {
 
 void WriteMessages(const Listing& listing, const ReportRequest& request) {
     if (request.detail == Detail::Brief) return WriteBrief(listing, TableNum::Messages);
-    Write(listing, kMessages);
+    WriteTexts(listing, kMessages);
 }
 
 void WriteSystemMessages(const Listing& listing, const ReportRequest& request) {
     if (request.detail == Detail::Brief) return WriteBrief(listing, TableNum::SystemMessages);
-    Write(listing, kSystemMessages);
+    WriteTexts(listing, kSystemMessages);
 }
 
 void WriteFlags(const Listing& listing, const ReportRequest& request) {
     if (request.detail == Detail::Brief) return WriteBrief(listing, TableNum::Flags);
-    Write(listing, kFlags);
+    WriteTexts(listing, kFlags);
 }
 
 void WriteUserFlags(const Listing& listing, const ReportRequest& request) {
     int last = LastUserFlag(listing.adventure);
     if (request.extraEntries) last = std::min(last, kFirstExtraFlag - 1 + *request.extraEntries);
-    Write(listing, kUserFlags, NoText::ShownAsEmpty, "flgmod>0 and flgnum<=" + std::to_string(last));
+    WriteTexts(listing, kUserFlags, NoText::ShownAsEmpty, "flgmod>0 and flgnum<=" + std::to_string(last));
 }
 
 void WriteProcessDescriptions(const Listing& listing, const ReportRequest&) {
-    Write(listing, kProcessDescriptions);
+    WriteTexts(listing, kProcessDescriptions);
 }
 
 void WriteUserProcessDescriptions(const Listing& listing, const ReportRequest&) {
-    Write(listing, kUserProcessDescriptions, NoText::LeftOut);
+    WriteTexts(listing, kUserProcessDescriptions, NoText::LeftOut);
 }
 
 }  // namespace fabula::listings

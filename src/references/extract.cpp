@@ -5,12 +5,14 @@
 
 #include "condacts/flags.h"
 #include "condacts/load.h"
+#include "condacts/object_attributes.h"
 #include "condacts/parser.h"
 #include "condacts/places.h"
 #include "condacts/words.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"
 #include "references/condact_access.h"
+#include "store/character_key.h"
 #include "text/utf8.h"
 
 namespace fabula::references {
@@ -22,8 +24,6 @@ using store::TableNum;
 
 namespace flag = condacts::flag;
 
-constexpr int kContainerBit = 1;
-constexpr int kCharactersOfASet = 1000;
 constexpr int kNoRoom = -1;  ///< `roompicnum` of a picture that is no room's
 
 constexpr WordTypes kVerbOrNoun = TypeBit(condacts::kVerb) | TypeBit(condacts::kNoun);
@@ -163,7 +163,8 @@ class Extraction {
         }
         AddWord(row_.Number(2), TypeBit(condacts::kNoun), "objnoun", 0);
         AddWord(row_.Number(3), TypeBit(condacts::kAdjective), "objadject", 0);
-        if ((row_.Number(4) & kContainerBit) != 0) Add(Kind::Location, record_, "objattr", 0);
+        if ((row_.Number(4) & condacts::attribute::kContainer) != 0)
+            Add(Kind::Location, record_, "objattr", 0);
         ReadMarkup("objdesc", 5);
     }
 
@@ -268,7 +269,7 @@ class Extraction {
             if (code == "SE") Add(Kind::CharacterSet, *value, "drawstring", token);
             if (code == "CH") {
                 const auto set = pictures::ParameterValue(words[token - 1]).value_or(0);
-                Add(Kind::Character, set * kCharactersOfASet + *value, "drawstring", token);
+                Add(Kind::Character, set * store::kCharactersOfASet + *value, "drawstring", token);
             }
             if (code == "PA") ReadPattern(*value, token);
         }

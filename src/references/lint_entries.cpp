@@ -25,7 +25,7 @@ std::string TextOf(const LintEntry& entry, const condacts::Statement& statement)
     return text;
 }
 
-std::string Subject(const LintEntry& entry) {
+std::string EntrySubject(const LintEntry& entry) {
     std::string name = NameOf(entry);
     name[0] = 'P';
     return name;
@@ -33,7 +33,7 @@ std::string Subject(const LintEntry& entry) {
 
 void Add(Findings& findings, std::string_view code, const LintEntry& entry, const std::string& sentence,
          std::size_t token) {
-    findings.Add(code, TableNum::ProcessTables, entry.key, Subject(entry) + " " + sentence, "condacts",
+    findings.Add(code, TableNum::ProcessTables, entry.key, EntrySubject(entry) + " " + sentence, "condacts",
                  token);
 }
 

@@ -1,6 +1,7 @@
 #include "references/lint_game.h"
 
 #include "condacts/load.h"
+#include "condacts/object_attributes.h"
 #include "pictures/drawstring.h"
 #include "text/utf8.h"
 
@@ -9,8 +10,6 @@ namespace {
 
 using store::PreparedQuery;
 using store::TableNum;
-
-constexpr int kContainerBit = 1;
 
 int Int(const PreparedQuery& row, int column) {
     return static_cast<int>(row.Number(column));
@@ -70,7 +69,7 @@ void LintGame::Read(store::Adventure& adventure) {
     ForEachRow(adventure, TableNum::Objects, "objnum, objloc, objnumnoun, objnumadject, objattrn", "objnum",
                [&](const PreparedQuery& row) {
                    objects.push_back({row.Number(0), row.Number(1), Int(row, 2), Int(row, 3),
-                                      (row.Number(4) & kContainerBit) != 0});
+                                      (row.Number(4) & condacts::attribute::kContainer) != 0});
                });
     messages = Texts(adventure, TableNum::Messages, "msgnum, msgmsg", "msgnum");
     systemMessages = Texts(adventure, TableNum::SystemMessages, "smsgnum, smsgmsg", "smsgnum");

@@ -13,13 +13,13 @@
 #include "references/flag_contents.h"
 #include "references/lint_game.h"
 #include "references/place_text.h"
+#include "store/character_key.h"
 
 namespace fabula::references {
 namespace {
 
 using store::TableNum;
 
-constexpr int kCharactersOfASet = 1000;
 constexpr int kLastCharacterSet = 998;
 
 std::string Quoted(Kind kind, int number) {
@@ -289,7 +289,7 @@ class Planner {
             Change(TableNum::Characters, key, "charset", std::string(rows.Text(2)), "SET " + digits);
             Change(TableNum::Characters, key, "charsetnum", rows.Number(1), std::int64_t{*mapped});
             Change(TableNum::Characters, key, "charkey", key,
-                   std::int64_t{*mapped} * kCharactersOfASet + rows.Number(3));
+                   std::int64_t{*mapped} * store::kCharactersOfASet + rows.Number(3));
         }
     }
 

@@ -18,7 +18,7 @@ struct Bytes {
     void* data;
 };
 
-Bytes BytesOf(std::string_view changes) {
+Bytes ReadChanges(std::string_view changes) {
     return {static_cast<int>(changes.size()), const_cast<char*>(changes.data())};
 }
 
@@ -35,7 +35,7 @@ struct BufferCloser {
 using Buffer = std::unique_ptr<void, BufferCloser>;
 
 std::string Inverted(std::string_view changes) {
-    const Bytes bytes = BytesOf(changes);
+    const Bytes bytes = ReadChanges(changes);
     int size = 0;
     void* data = nullptr;
     const int result = sqlite3changeset_invert(bytes.size, bytes.data, &size, &data);
@@ -48,7 +48,7 @@ std::string Inverted(std::string_view changes) {
 template <typename Use>
 void ForEachRecord(std::string_view changes, Use use) {
     if (changes.empty()) return;
-    const Bytes bytes = BytesOf(changes);
+    const Bytes bytes = ReadChanges(changes);
     sqlite3_changeset_iter* iterator = nullptr;
     Check(sqlite3changeset_start(&iterator, bytes.size, bytes.data), "read a change");
     while (sqlite3changeset_next(iterator) == SQLITE_ROW) {
@@ -98,7 +98,7 @@ void DoAgain(Adventure& adventure, std::string_view changes) {
     if (adventure.connection_->HasMoved())
         throw Error("Could not change the records: its file is no longer where it was opened.");
     Transaction transaction(adventure);
-    const Bytes bytes = BytesOf(changes);
+    const Bytes bytes = ReadChanges(changes);
     const int result = sqlite3changeset_apply(adventure.connection_->Handle(), bytes.size, bytes.data,
                                               nullptr, RefuseConflict, nullptr);
     if (result == SQLITE_ABORT) {
@@ -113,8 +113,8 @@ void TakeBack(Adventure& adventure, std::string_view changes) {
 }
 
 std::string Joined(std::string_view first, std::string_view second) {
-    const Bytes before = BytesOf(first);
-    const Bytes after = BytesOf(second);
+    const Bytes before = ReadChanges(first);
+    const Bytes after = ReadChanges(second);
     int size = 0;
     void* data = nullptr;
     const int result =

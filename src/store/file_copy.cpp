@@ -14,6 +14,7 @@
 #include "store/change_lock.h"
 #include "store/connection.h"
 #include "store/file_check.h"
+#include "store/temporary_file.h"
 #include "text/utf8.h"
 
 namespace fabula::store {
@@ -39,11 +40,6 @@ void Flush(const std::filesystem::path& path, const std::filesystem::path& targe
     const int error = errno;
     close(handle);
     if (result != 0) Fail(target, error);
-}
-
-std::filesystem::path FolderOf(const std::filesystem::path& file) {
-    const auto parent = file.parent_path();
-    return parent.empty() ? std::filesystem::path(".") : parent;
 }
 
 std::filesystem::path JournalOf(const std::filesystem::path& file) {

@@ -11,14 +11,14 @@
 namespace fabula::store {
 namespace {
 
-constexpr const char* kDoing = "upgrade the adventure";
+constexpr const char* kUpgrading = "upgrade the adventure";
 
 bool HasColumn(Connection& connection, const std::string& table, const std::string& column) {
     const Statement query =
-        connection.Compile("SELECT 1 FROM pragma_table_xinfo(?) WHERE name=? COLLATE NOCASE", kDoing);
+        connection.Compile("SELECT 1 FROM pragma_table_xinfo(?) WHERE name=? COLLATE NOCASE", kUpgrading);
     Connection::Bind(query.get(), 1, table);
     Connection::Bind(query.get(), 2, column);
-    return connection.Step(query.get(), kDoing);
+    return connection.Step(query.get(), kUpgrading);
 }
 
 }  // namespace
@@ -28,7 +28,7 @@ SchemaChange::SchemaChange(Adventure& adventure)
 
 void SchemaChange::AddTable(TableNum table, const TableSchema& schema) {
     connection_.CheckMayChange();
-    connection_.Run(CreateTableSql(schema), kDoing);
+    connection_.Run(CreateTableSql(schema), kUpgrading);
     connection_.SchemaToChange(table) = schema;
 }
 
@@ -38,7 +38,7 @@ void SchemaChange::AddField(TableNum table, const Field& field) {
     if (!HasColumn(connection_, schema.name, field.name)) {
         connection_.Run("ALTER TABLE " + schema.name + " ADD COLUMN " + field.name + " " +
                             std::string(SqlTypeOf(field.type)),
-                        kDoing);
+                        kUpgrading);
     }
     schema.fields.push_back(field);
 }
@@ -53,18 +53,18 @@ void SchemaChange::Redefine(TableNum table, const TableSchema& schema, Convert c
         for (std::size_t i = 0; i < before.fields.size(); ++i)
             record.push_back(convert(before.fields[i], cursor.Field(i)));
     }
-    connection_.Run("DROP TABLE " + before.name, kDoing);
+    connection_.Run("DROP TABLE " + before.name, kUpgrading);
     AddTable(table, schema);
     std::string marks;
     for (std::size_t i = 0; i < schema.fields.size(); ++i)
         marks += ",?";
     const Statement insert =
-        connection_.Compile("INSERT INTO " + schema.name + " VALUES (NULL" + marks + ")", kDoing);
+        connection_.Compile("INSERT INTO " + schema.name + " VALUES (NULL" + marks + ")", kUpgrading);
     for (const std::vector<text::Value>& record : records) {
         const StatementUse use(insert.get());
         for (std::size_t i = 0; i < record.size(); ++i)
             Connection::Bind(insert.get(), static_cast<int>(i) + 1, record[i]);
-        connection_.Step(insert.get(), kDoing);
+        connection_.Step(insert.get(), kUpgrading);
     }
 }
 
@@ -82,16 +82,16 @@ void SchemaChange::Finish() {
     }
     for (const std::string& sql : CreateIndexSql()) {
         const Statement known =
-            connection_.Compile("SELECT 1 FROM sqlite_schema WHERE type='index' AND sql=?", kDoing);
+            connection_.Compile("SELECT 1 FROM sqlite_schema WHERE type='index' AND sql=?", kUpgrading);
         Connection::Bind(known.get(), 1, sql);
-        if (!connection_.Step(known.get(), kDoing)) connection_.Run(sql, kDoing);
+        if (!connection_.Step(known.get(), kUpgrading)) connection_.Run(sql, kUpgrading);
     }
-    connection_.Run("PRAGMA user_version=" + std::to_string(kFileVersion), kDoing);
+    connection_.Run("PRAGMA user_version=" + std::to_string(kFileVersion), kUpgrading);
 }
 
 int SchemaChange::FileNumber() const {
-    const Statement number = connection_.Compile("PRAGMA user_version", kDoing);
-    return connection_.Step(number.get(), kDoing) ? sqlite3_column_int(number.get(), 0) : 0;
+    const Statement number = connection_.Compile("PRAGMA user_version", kUpgrading);
+    return connection_.Step(number.get(), kUpgrading) ? sqlite3_column_int(number.get(), 0) : 0;
 }
 
 }  // namespace fabula::store

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "store/character_key.h"
 #include "store/record_check.h"
 #include "text/fields.h"
 #include "text/format.h"
@@ -16,8 +17,6 @@ namespace {
 
 constexpr std::size_t kCharacterColumns = 4;
 constexpr std::size_t kCharacterRows = 8;
-/// A character's key is its set's number times this, plus its own.
-constexpr std::int64_t kCharactersInSet = 1000;
 
 std::optional<bool> TruthValue(std::string_view text) {
     if (text::EqualsNoCase(text, "True")) return true;
@@ -219,7 +218,7 @@ std::vector<Record> ReadCharacters(const DefaultData& data, const std::string& s
         Record& record = records.emplace_back();
         SetValue(record, data, place, "charsetnum", set);
         SetValue(record, data, place, "charnum", number);
-        SetValue(record, data, place, "charkey", set * kCharactersInSet + number);
+        SetValue(record, data, place, "charkey", set * kCharactersOfASet + number);
         SetValue(record, data, place, "CharSet", text::FormatText("SET !%z4", {set}));
         SetValue(record, data, place, "charsetname", columns[2]);
         SetValue(record, data, place, "charvals", ReadCharacterValues(data, section, line, columns[3]));

@@ -25,10 +25,6 @@ constexpr std::string_view kJournal = "-journal";
 constexpr std::size_t kLongestStem = 200;
 constexpr int kMostLinks = 40;
 
-fs::path FolderOf(const fs::path& file) {
-    return file.has_parent_path() ? file.parent_path() : fs::path(".");
-}
-
 /// The beginning of a name, not cut within a character.
 std::string StemOf(const fs::path& target) {
     std::string stem = target.filename().string();
@@ -78,6 +74,10 @@ void Sweep(const fs::path& folder, const std::string& stem) {
 }
 
 }  // namespace
+
+fs::path FolderOf(const fs::path& file) {
+    return file.has_parent_path() ? file.parent_path() : fs::path(".");
+}
 
 bool IsStream(const fs::path& target) {
     struct stat facts {};

@@ -28,6 +28,9 @@ class TemporaryFile {
 /// or a pipe is its own place. Throws fabula::Error for links that lead in a ring.
 std::filesystem::path PlaceOf(const std::filesystem::path& target);
 
+/// The folder that a file lies in, "." for one without a path.
+std::filesystem::path FolderOf(const std::filesystem::path& file);
+
 /// Whether a target is written to and never replaced: a device, a pipe, a socket.
 bool IsStream(const std::filesystem::path& target);
 

@@ -5,6 +5,7 @@
 #include "pictures/bdf_font.h"
 #include "pictures/book_loader.h"
 #include "platform/whole_file.h"
+#include "store/character_key.h"
 
 namespace fabula::authoring {
 
@@ -12,13 +13,13 @@ using store::TableNum;
 
 namespace {
 
-constexpr int kCharactersOfASet = 1000;
 constexpr std::uintmax_t kLargestFont = 16 * 1024 * 1024;
 
 }  // namespace
 
 CharacterSetScreen::CharacterSetScreen(ScreenContext& context) : context_(context) {
-    if (context.currentTable == TableNum::Characters) set_ = context.currentEntry / kCharactersOfASet;
+    if (context.currentTable == TableNum::Characters)
+        set_ = context.currentEntry / store::kCharactersOfASet;
     const store::Cursor& colours =
         context.document.Adventure().OpenTable(TableNum::Adventure, "backcolor, textcolor");
     if (!colours.Eof()) {
@@ -26,7 +27,7 @@ CharacterSetScreen::CharacterSetScreen(ScreenContext& context) : context_(contex
         ink_ = static_cast<int>(colours.Number("textcolor"));
     }
     Read();
-    const int number = context.currentEntry % kCharactersOfASet;
+    const int number = context.currentEntry % store::kCharactersOfASet;
     const auto found = std::ranges::find(characters_, number, &pictures::Character::number);
     if (context.currentTable == TableNum::Characters && found != characters_.end())
         Choose(static_cast<std::size_t>(found - characters_.begin()));
@@ -69,7 +70,7 @@ std::optional<ScreenRequest> CharacterSetScreen::Open() {
         return std::nullopt;
     }
     return ScreenRequest{.screen = Screen::Character,
-                         .key = {.key = set_ * kCharactersOfASet + number},
+                         .key = {.key = set_ * store::kCharactersOfASet + number},
                          .table = TableNum::Characters};
 }
 

@@ -8,6 +8,7 @@
 
 #include "condacts/catalogue.h"
 #include "condacts/limits.h"
+#include "store/character_key.h"
 #include "store/new_flag.h"
 #include "text/format.h"
 #include "text/str_edit.h"
@@ -108,7 +109,7 @@ void AddCharacterSet(ScreenContext& context) {
     Cursor& characters = adventure.OpenTable(TableNum::Free22, "* from characters", "charkey<0");
     for (const ModelCharacter& model : font) {
         characters.AddNew();
-        characters.SetField("charkey", std::int64_t{set} * 1000 + model.number);
+        characters.SetField("charkey", std::int64_t{set} * store::kCharactersOfASet + model.number);
         characters.SetField("CharSet", text::FormatText("SET !%z4", {std::int64_t{set}}));
         characters.SetField("charsetnum", std::int64_t{set});
         characters.SetField("charsetname", *name);

@@ -9,6 +9,7 @@
 #include "condacts/catalogue.h"
 #include "condacts/limits.h"
 #include "condacts/words.h"
+#include "store/character_key.h"
 
 namespace fabula::authoring {
 namespace {
@@ -39,7 +40,6 @@ constexpr EntryTable kEntryTables[] = {
     {TableNum::Pictures, "picture", Screen::Picture, "", true},
 };
 
-constexpr int kCharactersOfASet = 1000;
 constexpr int kLastShade = 15;
 constexpr int kFirstUserGraphic = 144;
 constexpr int kUntouchableFlag = 0;  ///< `flgmod` of a flag that the author may not edit
@@ -182,9 +182,10 @@ bool MayEdit(ScreenContext& context) {
         case TableNum::ProcDesc:
             return MayChangeProcess(context, "edited");
         case TableNum::Characters:
-            if (IsEditableCharacter(key / kCharactersOfASet, key % kCharactersOfASet)) return true;
-            return Refuse(context.dialogs,
-                          "Character " + std::to_string(key % kCharactersOfASet) + " cannot be edited");
+            if (IsEditableCharacter(key / store::kCharactersOfASet, key % store::kCharactersOfASet))
+                return true;
+            return Refuse(context.dialogs, "Character " + std::to_string(key % store::kCharactersOfASet) +
+                                               " cannot be edited");
         default:
             return true;
     }

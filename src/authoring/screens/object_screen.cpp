@@ -9,6 +9,7 @@
 #include "authoring/fields/text_field.h"
 #include "condacts/limits.h"
 #include "condacts/load.h"
+#include "condacts/object_attributes.h"
 #include "condacts/places.h"
 #include "condacts/recompile.h"
 #include "condacts/words.h"
@@ -22,10 +23,6 @@ namespace {
 
 namespace place = condacts::place;
 using store::TableNum;
-
-// Bits of `objattrn`.
-constexpr int kContainerBit = 1;
-constexpr int kWearableBit = 2;
 
 constexpr const char* kUsualWeight = "1";
 
@@ -96,8 +93,8 @@ void ObjectScreen::ReadRecord() {
     ChooseWord(adjective, record.Text("objadject"), static_cast<int>(record.Number("objnumadject")));
     ReadPlace(static_cast<int>(record.Number("objloc")));
     const std::int64_t attributes = record.Number("objattrn");
-    container = (attributes & kContainerBit) != 0;
-    wearable = (attributes & kWearableBit) != 0;
+    container = (attributes & condacts::attribute::kContainer) != 0;
+    wearable = (attributes & condacts::attribute::kWearable) != 0;
     weight = std::to_string(record.Number("objweight"));
     opened_ = Typed();
 }
@@ -272,7 +269,8 @@ void ObjectScreen::StorePlace(store::Cursor& record) const {
 }
 
 void ObjectScreen::StoreAttributes(store::Cursor& record) const {
-    const int attributes = (container ? kContainerBit : 0) + (wearable ? kWearableBit : 0);
+    const int attributes =
+        (container ? condacts::attribute::kContainer : 0) + (wearable ? condacts::attribute::kWearable : 0);
     record.SetField("objattr", std::string(container ? "C" : "") + (wearable ? "WR" : ""));
     record.SetField("objattrn", std::int64_t{attributes});
     record.SetField("objweight", *text::WholeNumber(text::TrimBlanks(weight)));

@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "player/panes/flash_time.h"
 #include "qt/strings.h"
 #include "text/colours.h"
 
@@ -15,8 +16,6 @@ namespace fabula::player {
 
 namespace {
 
-/// 16 pictures of a display of 50 a second, as home computers had it.
-constexpr std::chrono::milliseconds kFlashTime{320};
 constexpr int kSize = CharacterScreen::kCharacterSize;
 /// The pane is scaled so that this many rows are in sight, when it is wide enough.
 constexpr int kWantedRows = 16;

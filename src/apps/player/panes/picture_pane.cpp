@@ -8,7 +8,7 @@ namespace fabula::player {
 
 namespace {
 
-constexpr int kMargin = 8;
+constexpr int kPictureMargin = 8;
 
 }  // namespace
 
@@ -36,8 +36,9 @@ int PicturePane::HeightIn(QSize column) const {
     if (image_.isNull()) return least;
     const double ratio = devicePixelRatioF();
     for (int factor = kLargestFactor; factor >= 1; --factor) {
-        const int whole = static_cast<int>(std::ceil(image_.height() * factor / ratio)) + 2 * kMargin;
-        const bool wide = image_.width() * factor / ratio + 2 * kMargin <= column.width();
+        const int whole =
+            static_cast<int>(std::ceil(image_.height() * factor / ratio)) + 2 * kPictureMargin;
+        const bool wide = image_.width() * factor / ratio + 2 * kPictureMargin <= column.width();
         if (wide && whole >= least && whole <= column.height() * 3 / 5) return whole;
     }
     return least;
@@ -46,7 +47,7 @@ int PicturePane::HeightIn(QSize column) const {
 QRect PicturePane::Place() const {
     if (image_.isNull()) return {};
     const QSize room = (QRectF(rect()).size() * devicePixelRatioF()).toSize();
-    const int margin = static_cast<int>(kMargin * devicePixelRatioF());
+    const int margin = static_cast<int>(kPictureMargin * devicePixelRatioF());
     const QSize largest = (room - QSize(2 * margin, 2 * margin)).expandedTo(QSize(1, 1));
     const QSize shown =
         image_.size().scaled(largest.boundedTo(image_.size() * kLargestFactor), Qt::KeepAspectRatio);

@@ -13,6 +13,7 @@
 #include <QTextFrame>
 #include <algorithm>
 
+#include "player/panes/flash_time.h"
 #include "qt/strings.h"
 
 namespace fabula::player {
@@ -23,7 +24,6 @@ constexpr int kStyleProperty = QTextFormat::UserProperty + 1;
 constexpr int kMargin = 18;
 constexpr int kMarkWidth = 3;
 constexpr int kDefaultPoints = 12;
-constexpr std::chrono::milliseconds kFlashTime{320};
 constexpr std::chrono::milliseconds kSoon{1};
 constexpr std::size_t kMostFlashing = 200;
 

@@ -34,7 +34,7 @@ namespace {
 constexpr QSize kDefaultSize(880, 780);
 constexpr QSize kSmallestSize(320, 240);
 /// How soon a window that can't close yet tries again.
-constexpr std::chrono::milliseconds kBusyDelay{50};
+constexpr std::chrono::milliseconds kClosingDelay{50};
 
 }  // namespace
 
@@ -327,7 +327,7 @@ void PlayerWindow::GrowForCharacters() {
 }
 
 void PlayerWindow::CloseAfterGame() {
-    if (!close()) closing_.Start(kBusyDelay);
+    if (!close()) closing_.Start(kClosingDelay);
 }
 
 void PlayerWindow::StartAgain() {
