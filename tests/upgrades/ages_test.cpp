@@ -53,11 +53,6 @@ class Ages : public testing::Test {
 };
 
 /// The steps from the latest down to `first` are taken back, as if they had not been written.
-void TakeBackTo(const std::filesystem::path& file, int first) {
-    for (int step = store::kLatestStep; step >= first; --step)
-        test::TakeBack(file, step);
-}
-
 /// The chain on a file that it has brought up to date shows no box and changes no byte.
 void ExpectDone(const std::filesystem::path& file) {
     const std::string once = test::ReadBytes(file);
@@ -101,8 +96,7 @@ class Age : public Ages, public testing::WithParamInterface<StepAndKind> {};
 
 TEST_P(Age, BecomesThePresent) {
     const auto [step, kind] = GetParam();
-    test::MakeGame(file_, kind);
-    TakeBackTo(file_, step);
+    test::MakeGameBefore(file_, kind, step);
     AnswerType(kind);
     ExpectSame(Upgraded(), Fresh(kind));
     ExpectDone(file_);
@@ -166,7 +160,7 @@ class AgeWithItsData : public Ages, public testing::WithParamInterface<int> {
         }
         test::RawDatabase(file_).Run("UPDATE System SET sysinidate='1999-01-01', sysexportversion='" +
                                      version + "'");
-        TakeBackTo(file_, step);
+        test::TakeBackTo(file_, step);
     }
 };
 

@@ -24,9 +24,7 @@ class Failures : public testing::Test {
   protected:
     /// The file as it was before every step, without free pages, whose bytes nobody restores.
     void MakeOldest() {
-        test::MakeGame(file_);
-        for (int step = store::kLatestStep; step >= 1; --step)
-            test::TakeBack(file_, step);
+        test::MakeGameBefore(file_, store::AdventureKind::Fabula, 1);
         test::RawDatabase(file_).Run("VACUUM");
     }
 

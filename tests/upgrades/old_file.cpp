@@ -6,6 +6,7 @@
 #include "store/file_forms.h"
 #include "support/places.h"
 #include "support/raw_database.h"
+#include "support/temp_folder.h"
 #include "support/template_adventure.h"
 #include "text/utf8.h"
 
@@ -87,7 +88,9 @@ std::filesystem::path DefaultDataFile() {
     return DefaultData();
 }
 
-void MakeGame(const std::filesystem::path& file, store::AdventureKind kind) {
+namespace {
+
+void WriteGame(const std::filesystem::path& file, store::AdventureKind kind) {
     store::AdventureSetup setup;
     setup.ChooseType(kind);
     MakeAdventure(file, setup);
@@ -105,8 +108,7 @@ void MakeGame(const std::filesystem::path& file, store::AdventureKind kind) {
         "(2,1,'_','_',255,255,2,'SET 30','224 30');");
 }
 
-void TakeBack(const std::filesystem::path& file, int step) {
-    const RawDatabase raw(file);
+void TakeBack(const RawDatabase& raw, int step) {
     for (const OtherChange& change : kOtherChanges) {
         if (change.step == step) raw.Run(change.sql);
     }
@@ -116,6 +118,40 @@ void TakeBack(const std::filesystem::path& file, int step) {
     for (const store::LaterField& field : store::LaterFields()) {
         if (field.step == step) DropField(raw, field);
     }
+}
+
+}  // namespace
+
+void MakeGame(const std::filesystem::path& file, store::AdventureKind kind) {
+    MakeGameBefore(file, kind, store::kLatestStep + 1);
+}
+
+/// Each is made once and copied: there are hundreds of tests that begin with one.
+void MakeGameBefore(const std::filesystem::path& file, store::AdventureKind kind, int step) {
+    static const TempFolder made;
+    const std::filesystem::path game =
+        made.Path() / (std::string(store::NameOf(kind)) + std::to_string(step));
+    if (!std::filesystem::exists(game)) {
+        if (step > store::kLatestStep) {
+            WriteGame(game, kind);
+        } else {
+            MakeGameBefore(game, kind, step + 1);
+            TakeBack(game, step);
+        }
+    }
+    std::filesystem::copy_file(game, file, std::filesystem::copy_options::overwrite_existing);
+}
+
+void TakeBack(const std::filesystem::path& file, int step) {
+    TakeBack(RawDatabase(file), step);
+}
+
+void TakeBackTo(const std::filesystem::path& file, int first) {
+    const RawDatabase raw(file);
+    raw.Run("BEGIN");
+    for (int step = store::kLatestStep; step >= first; --step)
+        TakeBack(raw, step);
+    raw.Run("COMMIT");
 }
 
 Contents ContentsOf(store::Adventure& adventure) {

@@ -18,8 +18,13 @@ std::filesystem::path DefaultDataFile();
 /// A fresh adventure of a kind with some records of every table that an author fills.
 void MakeGame(const std::filesystem::path& file, store::AdventureKind kind = store::AdventureKind::Fabula);
 
+/// The same game as it was before a step of the chain and all behind it.
+void MakeGameBefore(const std::filesystem::path& file, store::AdventureKind kind, int step);
+
 /// Makes the file one from before a step of the chain: what the step adds is gone.
 void TakeBack(const std::filesystem::path& file, int step);
+/// The same for the step and all behind it, from the latest on.
+void TakeBackTo(const std::filesystem::path& file, int first);
 
 /// Everything that a file holds, by table: a line for each record, in order, with every field and its
 /// value. The keys of `Tables`, which only number its rows, are left out.
