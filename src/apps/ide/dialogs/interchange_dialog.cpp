@@ -30,25 +30,8 @@ using authoring::JobMode;
 constexpr QSize kInterchangeSize(620, 540);
 constexpr int kSmallestStatusLines = 1;
 
-struct KindText {
-    std::string_view kind;
-    const char* about;
-};
-
-constexpr KindText kKindTexts[] = {
-    {"UnMarlo", "the listing of a Marlo game"},
-    {"UnVel", "the listing of a VEL game"},
-    {"PCVEL", "a source of the PC engine"},
-    {"Fabula", "an export file of this program"},
-    {"ACE", "an ACE source"},
-};
-
-QString TextOf(const InterchangeScreen::KindOption& option) {
-    const QString name = qt::ToQt(option.name);
-    for (const KindText& text : kKindTexts) {
-        if (text.kind == option.name) return name + ": " + qt::Translated(text.about);
-    }
-    return name;
+QString TextOf(const interchange::FileKind& kind) {
+    return qt::ToQt(kind.name) + ": " + qt::Translated(kind.about);
 }
 
 }  // namespace
@@ -123,13 +106,11 @@ void InterchangeDialog::AddKinds(QFormLayout& form) {
     list->setContentsMargins(0, 0, 0, 0);
     list->setSpacing(2);
     for (std::size_t i = 0; i < screen_.Kinds().size(); ++i) {
-        const auto& option = screen_.Kinds()[i];
-        auto* button = new QRadioButton(TextOf(option));
-        button->setObjectName("kind" + qt::ToQt(option.name));
+        const interchange::FileKind& kind = *screen_.Kinds()[i];
+        auto* button = new QRadioButton(TextOf(kind));
+        button->setObjectName("kind" + qt::ToQt(kind.name));
         button->setAccessibleName(button->text());
-        button->setToolTip(qt::Translated(option.why));
-        button->setAccessibleDescription(qt::Translated(option.why));
-        button->setChecked(option.kind && screen_.ChosenKind() == i);
+        button->setChecked(screen_.ChosenKind() == i);
         TabToChosen(*button);
         QObject::connect(button, &QRadioButton::clicked, this, [this, i] {
             screen_.ChooseKind(i);
@@ -238,8 +219,8 @@ void InterchangeDialog::reject() {
 void InterchangeDialog::Show() {
     const bool running = screen_.Running();
     for (std::size_t i = 0; i < kinds_.size(); ++i) {
-        kinds_[i]->setEnabled(!running && screen_.Kinds()[i].kind);
-        if (i == screen_.ChosenKind() && screen_.Kinds()[i].kind) kinds_[i]->setChecked(true);
+        kinds_[i]->setEnabled(!running);
+        if (i == screen_.ChosenKind()) kinds_[i]->setChecked(true);
     }
     for (QWidget* input : inputs_)
         input->setEnabled(!running);
