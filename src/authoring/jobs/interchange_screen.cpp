@@ -58,7 +58,7 @@ const FileKind& OwnKindOf(store::Adventure& adventure) {
 constexpr std::uintmax_t kBytesThatTell = 65536;
 
 /// "" for a file that can't be read, which the import tells.
-std::string StartOf(const path& file) {
+std::string BeginningOf(const path& file) {
     try {
         return platform::ReadStartOfFile(file, kBytesThatTell, "read the source");
     } catch (const Error&) {
@@ -105,7 +105,7 @@ void InterchangeScreen::Choose(const FileKind& kind) {
 
 /// Where sources of two kinds look alike, who has chosen one of them knows better.
 void InterchangeScreen::ChooseKindOf(const path& file) {
-    const FileKind* kind = interchange::KindThatBegins(StartOf(file), Kind());
+    const FileKind* kind = interchange::KindThatBegins(BeginningOf(file), Kind());
     if (kind != nullptr) Choose(*kind);
 }
 
