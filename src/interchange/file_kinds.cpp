@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "interchange/fabula_reader.h"
-#include "interchange/fabula_writer.h"
-#include "interchange/pc_source_reader.h"
-#include "interchange/pc_source_writer.h"
+#include "interchange/fabula/fabula_reader.h"
+#include "interchange/fabula/fabula_writer.h"
+#include "interchange/pc/pc_source_reader.h"
+#include "interchange/pc/pc_source_writer.h"
 #include "interchange/unmarlo/unmarlo_reader.h"
 #include "interchange/unvel/unvel_head.h"
 #include "interchange/unvel/unvel_reader.h"

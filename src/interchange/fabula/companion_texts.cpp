@@ -1,4 +1,4 @@
-#include "interchange/companion_texts.h"
+#include "interchange/fabula/companion_texts.h"
 
 #include <cstdint>
 #include <optional>

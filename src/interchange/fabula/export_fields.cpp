@@ -1,4 +1,4 @@
-#include "interchange/export_fields.h"
+#include "interchange/fabula/export_fields.h"
 
 #include <charconv>
 

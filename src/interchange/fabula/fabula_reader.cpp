@@ -1,4 +1,4 @@
-#include "interchange/fabula_reader.h"
+#include "interchange/fabula/fabula_reader.h"
 
 #include <array>
 #include <map>
@@ -12,8 +12,8 @@
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "condacts/word_filters.h"
-#include "interchange/companion_texts.h"
-#include "interchange/export_fields.h"
+#include "interchange/fabula/companion_texts.h"
+#include "interchange/fabula/export_fields.h"
 #include "interchange/keyed_table.h"
 #include "interchange/source_file.h"
 #include "platform/error.h"

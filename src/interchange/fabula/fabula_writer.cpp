@@ -1,9 +1,9 @@
-#include "interchange/fabula_writer.h"
+#include "interchange/fabula/fabula_writer.h"
 
 #include <string>
 #include <vector>
 
-#include "interchange/export_fields.h"
+#include "interchange/fabula/export_fields.h"
 #include "interchange/target_file.h"
 #include "text/format.h"
 #include "text/line_ends.h"

@@ -1,4 +1,4 @@
-#include "interchange/ace_tags.h"
+#include "interchange/pc/ace_tags.h"
 
 #include <optional>
 

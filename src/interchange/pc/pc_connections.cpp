@@ -1,4 +1,4 @@
-#include "interchange/pc_connections.h"
+#include "interchange/pc/pc_connections.h"
 
 #include "condacts/parser.h"
 #include "condacts/places.h"

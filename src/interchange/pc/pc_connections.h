@@ -7,7 +7,7 @@
 #include <string>
 
 #include "interchange/keyed_table.h"
-#include "interchange/pc_source_job.h"
+#include "interchange/pc/pc_source_job.h"
 
 namespace fabula::interchange {
 

@@ -1,10 +1,10 @@
-#include "interchange/pc_extras.h"
+#include "interchange/pc/pc_extras.h"
 
 #include <algorithm>
 #include <map>
 #include <utility>
 
-#include "interchange/export_fields.h"
+#include "interchange/fabula/export_fields.h"
 #include "interchange/source_file.h"
 #include "platform/error.h"
 #include "store/comments.h"

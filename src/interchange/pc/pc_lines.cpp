@@ -1,9 +1,9 @@
-#include "interchange/pc_lines.h"
+#include "interchange/pc/pc_lines.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "interchange/pc_extras.h"
+#include "interchange/pc/pc_extras.h"
 #include "platform/error.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"

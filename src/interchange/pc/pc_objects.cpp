@@ -1,4 +1,4 @@
-#include "interchange/pc_objects.h"
+#include "interchange/pc/pc_objects.h"
 
 #include <optional>
 #include <utility>

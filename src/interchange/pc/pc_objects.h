@@ -4,7 +4,7 @@
 #include <set>
 
 #include "interchange/keyed_table.h"
-#include "interchange/pc_source_job.h"
+#include "interchange/pc/pc_source_job.h"
 
 namespace fabula::interchange {
 

@@ -1,4 +1,4 @@
-#include "interchange/pc_processes.h"
+#include "interchange/pc/pc_processes.h"
 
 #include <optional>
 

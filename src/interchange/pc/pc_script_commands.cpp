@@ -1,4 +1,4 @@
-#include "interchange/pc_script_commands.h"
+#include "interchange/pc/pc_script_commands.h"
 
 #include <algorithm>
 #include <optional>

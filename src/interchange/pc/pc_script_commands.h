@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interchange/pc_source_job.h"
+#include "interchange/pc/pc_source_job.h"
 
 namespace fabula::interchange {
 

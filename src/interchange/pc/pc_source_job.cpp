@@ -1,4 +1,4 @@
-#include "interchange/pc_source_job.h"
+#include "interchange/pc/pc_source_job.h"
 
 #include <functional>
 

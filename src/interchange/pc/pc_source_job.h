@@ -8,12 +8,12 @@
 
 #include "condacts/catalogue.h"
 #include "condacts/words.h"
-#include "interchange/ace_tags.h"
 #include "interchange/flag_analysis.h"
 #include "interchange/job_host.h"
-#include "interchange/pc_dialect.h"
-#include "interchange/pc_lines.h"
-#include "interchange/pc_text_form.h"
+#include "interchange/pc/ace_tags.h"
+#include "interchange/pc/pc_dialect.h"
+#include "interchange/pc/pc_lines.h"
+#include "interchange/pc/pc_text_form.h"
 
 namespace fabula::interchange {
 

@@ -1,18 +1,18 @@
-#include "interchange/pc_source_reader.h"
+#include "interchange/pc/pc_source_reader.h"
 
 #include <array>
 #include <memory>
 #include <string>
 
 #include "condacts/load.h"
-#include "interchange/pc_connections.h"
-#include "interchange/pc_extras.h"
-#include "interchange/pc_objects.h"
-#include "interchange/pc_processes.h"
-#include "interchange/pc_script_commands.h"
-#include "interchange/pc_source_job.h"
-#include "interchange/pc_texts.h"
-#include "interchange/pc_vocabulary.h"
+#include "interchange/pc/pc_connections.h"
+#include "interchange/pc/pc_extras.h"
+#include "interchange/pc/pc_objects.h"
+#include "interchange/pc/pc_processes.h"
+#include "interchange/pc/pc_script_commands.h"
+#include "interchange/pc/pc_source_job.h"
+#include "interchange/pc/pc_texts.h"
+#include "interchange/pc/pc_vocabulary.h"
 #include "store/tags.h"
 #include "text/utf8.h"
 

@@ -1,4 +1,4 @@
-#include "interchange/pc_source_writer.h"
+#include "interchange/pc/pc_source_writer.h"
 
 #include <algorithm>
 #include <exception>
@@ -8,12 +8,12 @@
 
 #include "condacts/load.h"
 #include "condacts/parser.h"
-#include "interchange/ace_tags.h"
-#include "interchange/export_fields.h"
-#include "interchange/pc_extras.h"
-#include "interchange/pc_lines.h"
-#include "interchange/pc_source_job.h"
-#include "interchange/pc_texts.h"
+#include "interchange/fabula/export_fields.h"
+#include "interchange/pc/ace_tags.h"
+#include "interchange/pc/pc_extras.h"
+#include "interchange/pc/pc_lines.h"
+#include "interchange/pc/pc_source_job.h"
+#include "interchange/pc/pc_texts.h"
 #include "interchange/target_file.h"
 #include "store/comments.h"
 #include "store/tags.h"

@@ -1,8 +1,8 @@
-#include "interchange/pc_text_form.h"
+#include "interchange/pc/pc_text_form.h"
 
 #include <algorithm>
 
-#include "interchange/pc_lines.h"
+#include "interchange/pc/pc_lines.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/markup.h"

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "interchange/ace_tags.h"
-#include "interchange/pc_dialect.h"
+#include "interchange/pc/ace_tags.h"
+#include "interchange/pc/pc_dialect.h"
 #include "text/tag_catalogue.h"
 
 namespace fabula::interchange {

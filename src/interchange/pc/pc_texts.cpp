@@ -1,4 +1,4 @@
-#include "interchange/pc_texts.h"
+#include "interchange/pc/pc_texts.h"
 
 #include "condacts/places.h"
 #include "text/line_ends.h"

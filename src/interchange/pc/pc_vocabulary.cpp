@@ -1,4 +1,4 @@
-#include "interchange/pc_vocabulary.h"
+#include "interchange/pc/pc_vocabulary.h"
 
 #include <optional>
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "condacts/load.h"
-#include "interchange/pc_extras.h"
+#include "interchange/pc/pc_extras.h"
 #include "interchange/source_file.h"
 #include "interchange/unmarlo/command_entries.h"
 #include "interchange/unvel/unvel_general_data.h"

@@ -1,10 +1,10 @@
-#include "interchange/fabula_reader.h"
+#include "interchange/fabula/fabula_reader.h"
 
 #include <fstream>
 
 #include <gtest/gtest.h>
 
-#include "reading.h"
+#include "interchange/reading.h"
 
 namespace fabula::interchange {
 namespace {

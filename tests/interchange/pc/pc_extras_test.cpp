@@ -1,8 +1,8 @@
-#include "interchange/pc_extras.h"
+#include "interchange/pc/pc_extras.h"
 
 #include <gtest/gtest.h>
 
-#include "reading.h"
+#include "interchange/reading.h"
 
 namespace fabula::interchange {
 namespace {

@@ -1,4 +1,4 @@
-#include "interchange/pc_lines.h"
+#include "interchange/pc/pc_lines.h"
 
 #include <fstream>
 #include <vector>

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "reading.h"
+#include "interchange/reading.h"
 
 namespace fabula::interchange {
 namespace {

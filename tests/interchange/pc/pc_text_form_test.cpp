@@ -1,4 +1,4 @@
-#include "interchange/pc_text_form.h"
+#include "interchange/pc/pc_text_form.h"
 
 #include <gtest/gtest.h>
 
