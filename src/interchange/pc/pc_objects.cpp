@@ -16,20 +16,14 @@ using store::Cursor;
 
 constexpr std::size_t kTokensNeeded = 6;
 
-struct NamedPlace {
-    std::string_view word;
-    int number;
-    std::string_view description;
-};
-
-constexpr NamedPlace kPlaces[] = {
-    {"252", condacts::place::kNotCreated.value, "Not created."},
-    {"NOTCR", condacts::place::kNotCreated.value, "Not created."},
-    {"253", condacts::place::kWorn.value, "Worn."},
-    {"WORN", condacts::place::kWorn.value, "Worn."},
-    {"254", condacts::place::kCarried.value, "Carried."},
-    {"CARRIED", condacts::place::kCarried.value, "Carried."},
-};
+/// The place that is no room which a source names by its word or its number.
+std::optional<condacts::PlaceNumber> NamedPlace(std::string_view location) {
+    for (const auto& [word, place] : condacts::kLocationWords) {
+        if (place == condacts::place::kHere) continue;  // no object begins there
+        if (text::EqualsNoCase(word, location) || std::to_string(place.value) == location) return place;
+    }
+    return std::nullopt;
+}
 
 bool IsYes(std::string_view token) {
     return text::EqualsNoCase(token, "Y");
@@ -95,10 +89,9 @@ void PcObjects::Line(std::string_view) {
 }
 
 bool PcObjects::SetLocation(Cursor& object, std::string_view location) {
-    for (const NamedPlace& place : kPlaces) {
-        if (!text::EqualsNoCase(place.word, location)) continue;
-        object.SetField("objloc", std::int64_t{place.number});
-        object.SetField("objlocdesc", std::string(place.description));
+    if (const auto place = NamedPlace(location)) {
+        object.SetField("objloc", std::int64_t{place->value});
+        object.SetField("objlocdesc", condacts::DescriptionOfPlace(*place));
         return true;
     }
     const std::optional<int> number = condacts::WholeNumber(location);

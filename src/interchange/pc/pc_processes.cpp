@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "condacts/limits.h"
 #include "condacts/parser.h"
 #include "interchange/condact_text.h"
 #include "store/comments.h"
@@ -69,7 +70,7 @@ void PcProcesses::Begin(const std::vector<std::string_view>& words) {
         entries_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcessTables, "canum");
         descriptions_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcDesc, "pmsgnum");
     }
-    skipping_ = process_ >= kHighestProcess;
+    skipping_ = process_ >= condacts::limit::kHighestProcess;
     if (skipping_) {
         job_.Fault("ERROR: Too many process tables.");
         return;

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "condacts/limits.h"
 #include "condacts/parser.h"
 #include "text/utf8.h"
 
@@ -34,7 +35,7 @@ std::vector<std::string_view> SplitSlashLine(std::string_view line) {
 std::optional<std::int64_t> RecordNumber(const std::vector<std::string_view>& words) {
     if (words.empty()) return std::nullopt;
     const std::optional<int> number = condacts::WholeNumber(words[0]);
-    if (!number || *number > kHighestRecord) return std::nullopt;
+    if (!number || *number > condacts::limit::kHighestRecord) return std::nullopt;
     return *number;
 }
 

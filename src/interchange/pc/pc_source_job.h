@@ -17,10 +17,6 @@
 
 namespace fabula::interchange {
 
-/// The highest number of a location, object or message, and of a process table.
-inline constexpr std::int64_t kHighestRecord = 999;
-inline constexpr int kHighestProcess = 256;
-
 /// Told of a line that is not as it must be, and of what stands behind its last word.
 inline constexpr const char* kBadLine = "ERROR: This line can't be understood.";
 inline constexpr const char* kRestNotRead = "ERROR: The rest of this line is not read.";
@@ -59,7 +55,7 @@ struct PcSourceJob {
     bool IsNullWord(std::string_view word) const;
 };
 
-/// The number behind the "/" of a line "/n"; nullopt when it has none or one beyond kHighestRecord.
+/// The number behind the "/" of a line "/n"; nullopt when it has none or one beyond the highest.
 std::optional<std::int64_t> RecordNumber(const std::vector<std::string_view>& words);
 
 /// The words of a "/" line, the first without its "/".

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "interchange/fabula/export_fields.h"
@@ -233,7 +234,7 @@ class SourceWriter {
         store::PreparedQuery tables =
             context_.adventure.Prepare(TableNum::ProcDesc, "pmsgnum", "pmsgnum>=0", "pmsgnum desc");
         if (tables.First({})) highest = std::max(highest, tables.Number(0));
-        return std::min<std::int64_t>(highest, kHighestProcess);
+        return std::min<std::int64_t>(highest, condacts::limit::kHighestProcess);
     }
 
     void WriteEntry(std::string w1, std::string w2, std::string_view condActs) {

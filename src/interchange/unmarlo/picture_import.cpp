@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "condacts/limits.h"
 #include "interchange/keyed_table.h"
 #include "interchange/unmarlo/listing_lines.h"
 #include "interchange/unmarlo/picture_listing.h"
@@ -31,7 +32,7 @@ std::string AddPiece(std::string_view piece, std::vector<int>& numbers) {
     for (const std::string_view end : ends) {
         const auto number = pictures::ParameterValue(text::TrimBlanks(end));
         if (!number) return kNotNumeric;
-        if (*number > kHighestListedRecord)
+        if (*number > condacts::limit::kHighestRecord)
             return std::to_string(*number) + " is outside range of Graphics Table";
         range.push_back(*number);
     }
@@ -211,7 +212,7 @@ std::string CheckNewLocations(const LoadedPictures& loaded, const NewLocations& 
         if (text::TrimBlanks(place->second).empty()) return head + " is not filled in";
         const auto goesTo = PlaceOf(places, number);
         if (!goesTo) return head + " is not numeric";
-        if (*goesTo < 0 || *goesTo > kHighestListedRecord || !taken.insert(*goesTo).second)
+        if (*goesTo < 0 || *goesTo > condacts::limit::kHighestRecord || !taken.insert(*goesTo).second)
             return head + " is not a valid graphics location";
         if (!HasLocation(adventure, *goesTo))
             return std::to_string(*goesTo) + " is an invalid location for this database";
