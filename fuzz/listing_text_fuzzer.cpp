@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "interchange/pc_text_form.h"
+#include "interchange/pc/pc_text_form.h"
 #include "interchange/spectrum_text.h"
 
 using namespace fabula;

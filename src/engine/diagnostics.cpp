@@ -1,11 +1,10 @@
 #include "engine/diagnostics.h"
 
-#include <charconv>
-
 #include "condacts/limits.h"
 #include "engine/engine.h"
 #include "engine/game.h"
 #include "engine/objects.h"
+#include "text/numbers.h"
 #include "text/str_edit.h"
 
 namespace fabula::engine {
@@ -16,11 +15,9 @@ constexpr const char* kProtectedRefusal = "Cannot change that flag in Marlo";
 
 /// A whole number of 16 bits, with blanks around it.
 std::optional<int> NumberIn(std::string_view text) {
-    const std::string_view digits = text::TrimBlanks(text);
-    std::int16_t value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (error != std::errc{} || end != digits.data() + digits.size()) return std::nullopt;
-    return value;
+    const std::optional<int> value = text::SmallNumber(text::TrimBlanks(text));
+    const bool fits = value && *value == static_cast<std::int16_t>(*value);
+    return fits ? value : std::nullopt;
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "engine/printer.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 
 #include "condacts/limits.h"
@@ -9,6 +8,7 @@
 #include "engine/run_failure.h"
 #include "engine/script.h"
 #include "engine/shown_text.h"
+#include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -41,13 +41,6 @@ enum TagCode {
     kBlinkOn = 18,
     kBlinkOff = 19,
 };
-
-std::optional<int> ParseNumber(std::string_view text) {
-    int value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
-    return value;
-}
 
 }  // namespace
 
@@ -162,7 +155,7 @@ void Printer::RunTag(std::string_view tag, std::string_view rest) {
 }
 
 void Printer::RunValueTag(int code, std::string_view value) {
-    const std::optional<int> number = ParseNumber(value);
+    const std::optional<int> number = text::SmallNumber(value);
     if (!value.empty() && !number) return;
     switch (code) {
         case kPaperTag:

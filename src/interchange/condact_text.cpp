@@ -1,6 +1,7 @@
 #include "interchange/condact_text.h"
 
 #include "condacts/parser.h"
+#include "condacts/places.h"
 #include "text/utf8.h"
 
 namespace fabula::interchange {
@@ -11,23 +12,22 @@ using condacts::Converted;
 using condacts::ParsedLine;
 using condacts::Statement;
 
-struct SourceWord {
-    std::string_view word;
-    std::string_view number;
-};
-
-constexpr SourceWord kSourceWords[] = {{"_", "252"}, {"CARRIED", "254"}, {"HERE", "255"}, {"WORN", "253"}};
+/// The words of sources for places. "_" is the one of their own.
+constexpr condacts::LocationWord kSourceWords[] = {{condacts::kNoWord, condacts::place::kNotCreated},
+                                                   {"CARRIED", condacts::place::kCarried},
+                                                   {"HERE", condacts::place::kHere},
+                                                   {"WORN", condacts::place::kWorn}};
 
 void Append(std::string& line, std::string_view token) {
     if (!line.empty()) line += ' ';
     line += token;
 }
 
-std::string_view NumberOfSourceWord(std::string_view token) {
-    for (const SourceWord& entry : kSourceWords) {
-        if (text::EqualsNoCase(entry.word, token)) return entry.number;
+std::string NumberOfSourceWord(std::string_view token) {
+    for (const auto& [word, place] : kSourceWords) {
+        if (text::EqualsNoCase(word, token)) return std::to_string(place.value);
     }
-    return token;
+    return std::string(token);
 }
 
 void ReportUnknownName(Converted& converted, const ParsedLine& parsed) {
@@ -47,7 +47,7 @@ Converted ConvertCAs(std::string_view text, const Catalogue& catalogue) {
         const bool takesWord = condacts::FindWordCondition(statement.condAct->name) != nullptr;
         for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
             const std::string_view token = parsed.Param(statement, p);
-            Append(converted.line, takesWord ? token : NumberOfSourceWord(token));
+            Append(converted.line, takesWord ? std::string(token) : NumberOfSourceWord(token));
         }
     }
     ReportUnknownName(converted, parsed);

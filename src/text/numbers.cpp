@@ -53,4 +53,11 @@ std::optional<std::int64_t> WholeNumber(std::string_view text) {
     return Clamped<std::int64_t>(digits.magnitude, isNegative);
 }
 
+std::optional<int> SmallNumber(std::string_view text) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
 }  // namespace fabula::text

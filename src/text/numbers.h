@@ -15,4 +15,8 @@ std::int32_t HexToValue(std::string_view text);
 /// number beyond 64 bits gives the nearest one within.
 std::optional<std::int64_t> WholeNumber(std::string_view text);
 
+/// The same within 32 bits: decimal digits behind an optional minus. nullopt for anything else, and for a
+/// number beyond.
+std::optional<int> SmallNumber(std::string_view text);
+
 }  // namespace fabula::text

@@ -224,19 +224,5 @@ TEST_F(Jobs, ACancelledExportLeavesItsTargetAsItWas) {
     EXPECT_EQ(Files(), 1);
 }
 
-TEST(FileKinds, HaveTheTextsOfTheirDialogs) {
-    const FileKind& pc = *FindFileKind("PCVEL");
-    EXPECT_EQ(pc.importDialog.defaultName, "*.sce");
-    EXPECT_EQ(pc.importDialog.title, "Load an PC VEL source file");
-    EXPECT_EQ(pc.importDialog.filter, "PC VEL Sources (*.sce)|*.sce|All files|*.*");
-    EXPECT_EQ(pc.exportDialog.title, "Save as a PC VEL source");
-    EXPECT_EQ(FindFileKind("fabula")->importDialog.title, "Load an Fabula Exportfile");
-    EXPECT_EQ(FindFileKind("fabula")->exportDialog.filter, "FabuLA Extract (*.ext)|*.ext");
-    EXPECT_EQ(FindFileKind("ace")->importDialog.filter, "ACE Sources (*.*)|*.*|All files|*.*");
-    EXPECT_EQ(FindFileKind("ace")->exportDialog.title, "Save as an ACE source");
-    EXPECT_EQ(FindFileKind("ace")->exportDialog.filter, "ACE source(*.txt)|*.txt");
-    EXPECT_EQ(FindFileKind("word"), nullptr);
-}
-
 }  // namespace
 }  // namespace fabula::interchange

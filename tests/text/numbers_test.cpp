@@ -53,5 +53,24 @@ TEST(WholeNumber, ANumberBeyond64BitsGivesTheNearestWithin) {
     EXPECT_EQ(WholeNumber("-9223372036854775808"), INT64_MIN);
 }
 
+TEST(SmallNumber, IsDigitsBehindAnOptionalMinus) {
+    EXPECT_EQ(SmallNumber("0"), 0);
+    EXPECT_EQ(SmallNumber("007"), 7);
+    EXPECT_EQ(SmallNumber("-16"), -16);
+    EXPECT_EQ(SmallNumber("+16"), std::nullopt);
+    EXPECT_EQ(SmallNumber(""), std::nullopt);
+    EXPECT_EQ(SmallNumber("-"), std::nullopt);
+    EXPECT_EQ(SmallNumber("1x"), std::nullopt);
+    EXPECT_EQ(SmallNumber(" 1"), std::nullopt);
+    EXPECT_EQ(SmallNumber("1 "), std::nullopt);
+}
+
+TEST(SmallNumber, BeyondItsBitsIsNone) {
+    EXPECT_EQ(SmallNumber("2147483647"), 2147483647);
+    EXPECT_EQ(SmallNumber("-2147483648"), -2147483647 - 1);
+    EXPECT_EQ(SmallNumber("2147483648"), std::nullopt);
+    EXPECT_EQ(SmallNumber("-2147483649"), std::nullopt);
+}
+
 }  // namespace
 }  // namespace fabula::text

@@ -30,7 +30,7 @@ int Check(const Options& options) {
     status.Continue(imported.allFaults);
     if (imported.done) {
         const auto adventure = OpenToRead(file.string());
-        authoring::VerifyAdventure(*adventure, authoring::VerifyTarget::Play, status, &imported.places);
+        authoring::VerifyAdventure(*adventure, authoring::kForPlay, status, &imported.places);
     }
     if (options.json) PrintAsJson(status.AllFaults());
     if (status.Faults() > 0) status.AddToStatusCR(CountOf(status.AllFaults()));

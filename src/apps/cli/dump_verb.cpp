@@ -1,4 +1,3 @@
-#include <charconv>
 #include <cstdio>
 #include <iostream>
 
@@ -6,6 +5,7 @@
 
 #include "cli/verbs.h"
 #include "store/adventure.h"
+#include "text/numbers.h"
 #include "text/safe_text.h"
 #include "text/utf8.h"
 
@@ -24,11 +24,9 @@ struct Options {
 
 /// A table by its name or its number.
 const store::TableEntry& TableNamed(const std::string& text) {
-    int number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool isNumber = read.ec == std::errc{} && read.ptr == text.data() + text.size();
+    const std::optional<int> number = text::SmallNumber(text);
     const store::TableEntry* table =
-        isNumber ? store::FindTable(static_cast<store::TableNum>(number)) : store::FindTable(text);
+        number ? store::FindTable(static_cast<store::TableNum>(*number)) : store::FindTable(text);
     if (!table) throw UsageError("there is no table '" + text + "'; 'fabula tables' shows them");
     return *table;
 }

@@ -17,8 +17,7 @@ struct Options {
 
 bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,
             interchange::JobStatus& status) {
-    return authoring::VerifyAdventure(
-        adventure, authoring::VerifyTargetFrom(kind.word).value_or(authoring::VerifyTarget::Play), status);
+    return authoring::VerifyAdventure(adventure, &kind, status);
 }
 
 int Export(const Options& options) {

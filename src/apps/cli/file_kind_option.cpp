@@ -7,6 +7,8 @@ namespace {
 
 using interchange::FileKind;
 
+constexpr std::string_view kArgument = "the kind";
+
 std::string Words(bool (FileKind::*can)() const) {
     std::string words;
     for (const FileKind& kind : interchange::FileKinds()) {
@@ -17,10 +19,10 @@ std::string Words(bool (FileKind::*can)() const) {
     return words;
 }
 
-const FileKind& Find(const std::string& word, bool (FileKind::*can)() const) {
+const FileKind& Find(const std::string& word, std::string_view option, bool (FileKind::*can)() const) {
     const FileKind* kind = interchange::FindFileKind(word);
     if (kind != nullptr && (kind->*can)()) return *kind;
-    throw UsageError("the kind must be one of " + Words(can) + ", not '" + word + "'");
+    throw UsageError(std::string(option) + " must be one of " + Words(can) + ", not '" + word + "'");
 }
 
 }  // namespace
@@ -33,12 +35,20 @@ std::string WritableKinds() {
     return Words(&FileKind::CanWrite);
 }
 
-const FileKind& ReadableKind(const std::string& word) {
-    return Find(word, &FileKind::CanRead);
+std::string PictureKinds() {
+    return Words(&FileKind::CanLoadPictures);
 }
 
-const FileKind& WritableKind(const std::string& word) {
-    return Find(word, &FileKind::CanWrite);
+const FileKind& ReadableKind(const std::string& word) {
+    return Find(word, kArgument, &FileKind::CanRead);
+}
+
+const FileKind& WritableKind(const std::string& word, std::string_view option) {
+    return Find(word, option, &FileKind::CanWrite);
+}
+
+const FileKind& PictureKind(const std::string& word) {
+    return Find(word, kArgument, &FileKind::CanLoadPictures);
 }
 
 }  // namespace fabula::cli

@@ -1,6 +1,7 @@
 #include <optional>
 
 #include "cli/console.h"
+#include "cli/file_kind_option.h"
 #include "cli/verbs.h"
 #include "condacts/numbers.h"
 #include "interchange/unmarlo/picture_import.h"
@@ -34,14 +35,14 @@ interchange::NewLocations PlacesIn(const std::vector<std::string>& options) {
 
 /// Loading and moving are one step: what can't be moved is not loaded either.
 int ImportPicture(const Options& options) {
+    const interchange::FileKind& kind = PictureKind(options.kind);
     const interchange::NewLocations places = PlacesIn(options.goesTo);
     const auto adventure = OpenToChange(options.file);
     Console console(std::cerr);
     interchange::JobStatus status(console.Observer());
     store::Transaction transaction(*adventure);
-    const auto loaded = interchange::LoadGraphics(
-        {options.kind == "unvel", options.listing, options.records, options.record}, *adventure,
-        console.Person(), status);
+    const auto loaded = interchange::LoadGraphics({kind, options.listing, options.records, options.record},
+                                                  *adventure, console.Person(), status);
     if (loaded.pictures.empty()) return kFailed;
     if (!places.empty()) {
         const std::string fault = interchange::CheckNewLocations(loaded, places, *adventure);
@@ -61,9 +62,7 @@ void AddImportPictureVerb(CLI::App& app, Chosen& chosen) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb =
         app.add_subcommand("import-picture", "Takes pictures out of the listing of an older game");
-    verb->add_option("kind", options->kind, "The listing: unmarlo or unvel")
-        ->required()
-        ->check(CLI::IsMember({"unmarlo", "unvel"}));
+    verb->add_option("kind", options->kind, "The listing: " + PictureKinds())->required();
     verb->add_option("listing", options->listing, "The file that is read")->required();
     verb->add_option("records", options->records, "The pictures of the listing, as in 3,7-9")->required();
     AddAdventureOption(*verb, options->file)->required();

@@ -1,5 +1,6 @@
 #include "authoring/jobs/verify.h"
 #include "cli/fault_report.h"
+#include "cli/file_kind_option.h"
 #include "cli/job_terminal.h"
 #include "cli/verbs.h"
 
@@ -13,13 +14,8 @@ struct Options {
 };
 
 int Verify(const Options& options) {
-    authoring::VerifyTarget target = authoring::VerifyTarget::Play;
-    if (!options.target.empty()) {
-        const auto named = authoring::VerifyTargetFrom(options.target);
-        if (!named)
-            throw UsageError("--for must be unvel, pcvel, fabula or ace, not '" + options.target + "'");
-        target = *named;
-    }
+    const authoring::VerifyTarget target =
+        options.target.empty() ? authoring::kForPlay : &WritableKind(options.target, "--for");
     const auto adventure = OpenToRead(options.file);
     JobTerminal observer(options.json ? std::cerr : std::cout, ErrorsGoToTerminal());
     interchange::JobStatus status(observer);
@@ -34,7 +30,7 @@ void AddVerifyVerb(CLI::App& app, Chosen& chosen) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = app.add_subcommand("verify", "Checks an adventure against the rules of its type");
     AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("--for", options->target, "For an export: unvel, pcvel, fabula or ace");
+    verb->add_option("--for", options->target, "For an export: " + WritableKinds());
     AddJsonFlag(*verb, options->json);
     Runs(*verb, chosen, options, Verify);
 }

@@ -1,10 +1,10 @@
 #include "authoring/desk/open_tabs.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 #include "store/table_catalogue.h"
+#include "text/numbers.h"
 
 namespace fabula::authoring {
 namespace {
@@ -55,13 +55,6 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
     }
 }
 
-std::optional<int> NumberIn(std::string_view text) {
-    int number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) return std::nullopt;
-    return number;
-}
-
 std::string LineOf(const OpenTab& tab, bool shown) {
     const PlaceInView& place = tab.place;
     std::string line = shown ? "1" : "0";
@@ -79,9 +72,9 @@ std::string LineOf(const OpenTab& tab, bool shown) {
 
 std::optional<OpenTab> TabIn(const std::vector<std::string_view>& parts) {
     if (parts.size() < kFirstTitle) return std::nullopt;
-    const auto table = NumberIn(parts[kTable]);
-    const auto process = NumberIn(parts[kProcess]);
-    const auto grouping = NumberIn(parts[kGrouping]);
+    const auto table = text::SmallNumber(parts[kTable]);
+    const auto process = text::SmallNumber(parts[kProcess]);
+    const auto grouping = text::SmallNumber(parts[kGrouping]);
     if (!table || !process || !grouping) return std::nullopt;
     const auto known = static_cast<store::TableNum>(*table);
     const store::TableEntry* const entry = store::FindTable(known);
@@ -90,7 +83,7 @@ std::optional<OpenTab> TabIn(const std::vector<std::string_view>& parts) {
     if (*grouping < 0 || *grouping > static_cast<int>(Grouping::Object)) return std::nullopt;
     OpenTab tab;
     tab.place.view = {known, known == store::TableNum::ProcessTables ? *process : 0};
-    tab.place.key = NumberIn(parts[kKey]);
+    tab.place.key = text::SmallNumber(parts[kKey]);
     tab.place.sortsDown = parts[kDown] == "1";
     tab.place.grouping = static_cast<Grouping>(*grouping);
     tab.place.sortField = Unmasked(parts[kSortField]);

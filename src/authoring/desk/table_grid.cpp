@@ -43,7 +43,7 @@ bool IsSameInAll(const std::string& field, const TableView& view) {
 }
 
 bool IsHidden(const std::string& field, const store::Adventure& adventure) {
-    if (adventure.AdventureTypeLower() != "marlo") return false;
+    if (adventure.Kind() != store::AdventureKind::Marlo) return false;
     return std::ranges::any_of(kNotInMarlo,
                                [&](std::string_view each) { return text::EqualsNoCase(each, field); });
 }

@@ -6,6 +6,7 @@
 #include "authoring/fields/cond_act_place.h"
 #include "authoring/fields/flag_meaning.h"
 #include "condacts/convert.h"
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/places.h"
 #include "condacts/validate.h"
@@ -20,7 +21,6 @@ using condacts::ParamKind;
 using condacts::Token;
 using store::TableNum;
 
-constexpr int kHighestMarloFlag = 32;
 constexpr std::string_view kNoDescription = "no description";
 
 struct KindName {
@@ -56,32 +56,26 @@ constexpr WordField kWordFields[] = {
     {"ADJECT1", "Adject"}, {"ADJECT2", "Adject"}, {"ADVERB", "Adverb"}, {"PREP", "Prep"}, {"NOUN2", "Noun"},
 };
 
-struct LocationWord {
-    std::string_view word;
-    int number;
-    std::string_view meaning;
-};
-
-constexpr LocationWord kLocationWords[] = {
-    {"NOTCR", condacts::place::kNotCreated.value, "not created"},
-    {"WORN", condacts::place::kWorn.value, "worn by the player"},
-    {"CARRIED", condacts::place::kCarried.value, "carried by the player"},
-    {"HERE", condacts::place::kHere.value, "where the player is"},
-};
+/// What an author reads of a place that is no room.
+std::string_view MeaningOf(condacts::PlaceNumber place) {
+    if (place == condacts::place::kNotCreated) return "not created";
+    if (place == condacts::place::kWorn) return "worn by the player";
+    return place == condacts::place::kCarried ? "carried by the player" : "where the player is";
+}
 
 bool AdmitsLocationWords(const Parameter& parameter) {
     return parameter.kind == ParamKind::Location && parameter.maxValue == condacts::kLocationWordsAllowed;
 }
 
-const LocationWord* FindLocationWord(const Parameter& parameter, std::string_view token) {
+const condacts::LocationWord* FindLocationWord(const Parameter& parameter, std::string_view token) {
     if (parameter.kind != ParamKind::Location) return nullptr;
     const std::optional<int> number = condacts::WholeNumber(token);
     const bool words = AdmitsLocationWords(parameter);
     const auto* found =
-        std::find_if(std::begin(kLocationWords), std::end(kLocationWords), [&](const LocationWord& entry) {
-            return number == entry.number || (words && text::EqualsNoCase(entry.word, token));
+        std::ranges::find_if(condacts::kLocationWords, [&](const condacts::LocationWord& entry) {
+            return number == entry.number.value || (words && text::EqualsNoCase(entry.word, token));
         });
-    return found == std::end(kLocationWords) ? nullptr : found;
+    return found == std::end(condacts::kLocationWords) ? nullptr : found;
 }
 
 Completion Numbered(const ListItem& item) {
@@ -199,12 +193,13 @@ std::vector<Completion> CondActHelp::Parameters(const CondAct& condAct, std::siz
     const bool marloFlag = parameter.kind == ParamKind::Flag && facts_.dialect == condacts::Dialect::Marlo;
     std::vector<Completion> items;
     for (const ListItem& item : texts_.Of(parameter.kind)) {
-        if (!marloFlag || item.number <= kHighestMarloFlag) items.push_back(Numbered(item));
+        if (!marloFlag || item.number <= condacts::limit::kHighestMarloFlag)
+            items.push_back(Numbered(item));
     }
     if (!AdmitsLocationWords(parameter)) return items;
-    for (const LocationWord& entry : kLocationWords)
-        items.push_back(
-            {std::string(entry.word), std::string(entry.word).append("  ").append(entry.meaning)});
+    for (const condacts::LocationWord& entry : condacts::kLocationWords)
+        items.push_back({std::string(entry.word),
+                         std::string(entry.word).append("  ").append(MeaningOf(entry.number))});
     return items;
 }
 
@@ -266,7 +261,8 @@ std::optional<NamedRecord> CondActHelp::Named(store::Adventure& adventure, std::
 }
 
 std::string CondActHelp::MeaningOfNumber(const Parameter& parameter, std::string_view token) const {
-    if (const LocationWord* place = FindLocationWord(parameter, token)) return std::string(place->meaning);
+    if (const condacts::LocationWord* place = FindLocationWord(parameter, token))
+        return std::string(MeaningOf(place->number));
     const std::optional<int> number = condacts::WholeNumber(token);
     const KindName* name = NameOf(parameter.kind);
     if (!number || name == nullptr) return "";

@@ -33,7 +33,7 @@ class EditScreen {
     explicit EditScreen(ScreenContext& context) : context_(context) {}
     ~EditScreen() = default;
 
-    bool IsMarlo() const { return Adventure().AdventureTypeLower() == "marlo"; }
+    bool IsMarlo() const { return Adventure().Kind() == store::AdventureKind::Marlo; }
 
     /// Tells why `control`, a text constant, is refused. False, so that a check can end with it.
     bool RefuseField(std::string_view control, std::string_view message, std::string_view title = "Error");

@@ -10,10 +10,7 @@
 #include "authoring/jobs/status_text.h"
 #include "platform/error.h"
 #include "platform/whole_file.h"
-#include "text/fields.h"
-#include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {
@@ -24,81 +21,49 @@ using std::filesystem::path;
 
 constexpr std::int64_t kStepsAYield = 10;
 
-constexpr std::string_view kImportKinds[] = {"UnMarlo", "UnVel", "PCVEL", "Fabula", "ACE"};
-constexpr std::string_view kExportKinds[] = {"UnVel", "PCVEL", "Fabula"};
-/// The kind that is chosen at first, where a mode has it.
-constexpr std::string_view kUsualKind = "PCVEL";
-constexpr std::string_view kGraphicKinds[] = {"UnMarlo", "UnVel"};
-
 struct ModeRow {
     std::string_view title;
     std::string_view label;
     std::string_view button;
-    std::span<const std::string_view> kinds;
-    std::string_view verb;  ///< what the kinds that are missing can't do
 };
 
 const std::array<ModeRow, 3> kModes{{
-    {"Import of source file", "Import Status", "&Import", kImportKinds, "read"},
-    {"Export of Database", "Export Status", "&Export", kExportKinds, "write"},
-    {"Import of Graphic Record into record ", "Import Status", "&Load", kGraphicKinds, "read"},
+    {"Import of source file", "Import Status", "&Import"},
+    {"Export of Database", "Export Status", "&Export"},
+    {"Import of Graphic Record into record ", "Import Status", "&Load"},
 }};
 
 const ModeRow& RowOf(JobMode mode) {
     return kModes[static_cast<std::size_t>(mode)];
 }
 
-std::vector<InterchangeScreen::KindOption> KindsOf(JobMode mode) {
-    std::vector<InterchangeScreen::KindOption> kinds;
-    for (const std::string_view name : RowOf(mode).kinds) {
-        const FileKind* kind = interchange::FindFileKind(name);
-        const bool usable = kind && (mode == JobMode::Export ? kind->CanWrite() : kind->CanRead());
-        InterchangeScreen::KindOption option{name, usable ? kind : nullptr};
-        if (!usable)
-            option.why = "This version cannot yet " + std::string(RowOf(mode).verb) +
-                         " files of the kind " + std::string(name) + ".";
-        kinds.push_back(option);
+bool IsOffered(const FileKind& kind, JobMode mode) {
+    if (mode == JobMode::Export) return kind.isInExportDialog;
+    return mode == JobMode::Import ? kind.CanRead() : kind.CanLoadPictures();
+}
+
+std::vector<const FileKind*> KindsOf(JobMode mode) {
+    std::vector<const FileKind*> kinds;
+    for (const FileKind& kind : interchange::FileKinds()) {
+        if (IsOffered(kind, mode)) kinds.push_back(&kind);
     }
     return kinds;
 }
 
-/// What a game is exported as at first, by the `source` that it came from. Other games have the usual kind.
-struct OwnKind {
-    std::string_view source;
-    std::string_view kind;
-};
-
-constexpr OwnKind kOwnKinds[] = {
-    {"New", "Fabula"}, {"FabulaExp", "Fabula"}, {"UnVel", "UnVel"}, {"PCVel", "PCVEL"}, {"ACE", "PCVEL"},
-};
-
-std::string_view OwnKindOf(store::Adventure& adventure) {
-    const std::string source(adventure.OpenTable(store::TableNum::Adventure, "source").Text("source"));
-    for (const OwnKind& own : kOwnKinds) {
-        if (text::EqualsNoCase(own.source, source)) return own.kind;
-    }
-    return kUsualKind;
+const FileKind& OwnKindOf(store::Adventure& adventure) {
+    return interchange::FirstExportKind(
+        adventure.OpenTable(store::TableNum::Adventure, "source").Text("source"));
 }
 
 constexpr std::uintmax_t kBytesThatTell = 65536;
 
-/// The kind of a source, where its beginning tells it: an export file begins with its version and goes on
-/// with the fields of records; a PC source has a section /CTL. "" for any other, and for a file that can't
-/// be read, which the import tells.
-std::string_view KindOfSource(const path& file) {
-    std::string start;
+/// "" for a file that can't be read, which the import tells.
+std::string BeginningOf(const path& file) {
     try {
-        start = platform::ReadStartOfFile(file, kBytesThatTell, "read the source");
+        return platform::ReadStartOfFile(file, kBytesThatTell, "read the source");
     } catch (const Error&) {
         return "";
     }
-    const auto lines = text::Split(start, "\n");
-    if (lines.size() > 1 && text::Split(lines[0], ".").size() == 3 &&
-        text::WholeNumber(text::Split(lines[1], "|")[0]) && lines[1].find('|') != std::string_view::npos)
-        return "Fabula";
-    const bool isPcSource = std::ranges::any_of(
-        lines, [](std::string_view line) { return text::EqualsNoCase(line.substr(0, 4), "/CTL"); });
-    return isPcSource ? "PCVEL" : "";
 }
 
 bool IsSameFile(const path& left, const path& right) {
@@ -122,29 +87,26 @@ InterchangeScreen::InterchangeScreen(Document& document, const InterchangeHost& 
 
 InterchangeScreen::InterchangeScreen(JobMode mode, store::Adventure* adventure, const InterchangeHost& host)
     : mode_(mode), adventure_(adventure), host_(host), kinds_(KindsOf(mode)) {
-    while (chosen_ + 1 < kinds_.size() && !kinds_[chosen_].kind)
-        ++chosen_;
-    ChooseKindNamed(mode == JobMode::Export && adventure ? OwnKindOf(*adventure) : kUsualKind);
+    Choose(mode == JobMode::Export && adventure ? OwnKindOf(*adventure) : interchange::UsualFileKind());
     source = ProposedTarget();
 }
 
 /// The name of the adventure's export; "" for other jobs.
 std::string InterchangeScreen::ProposedTarget() const {
-    if (mode_ != JobMode::Export || !adventure_ || !Kind()) return "";
-    return adventure_->CurrentFile().stem().string() + std::string(Kind()->extension);
+    if (mode_ != JobMode::Export || !adventure_) return "";
+    return adventure_->CurrentFile().stem().string() + std::string(Kind().extension);
 }
 
-void InterchangeScreen::ChooseKindNamed(std::string_view name) {
-    for (std::size_t option = 0; option < kinds_.size(); ++option) {
-        if (kinds_[option].name == name && kinds_[option].kind) chosen_ = option;
-    }
+/// Nothing for a kind that is not offered.
+void InterchangeScreen::Choose(const FileKind& kind) {
+    const auto option = std::ranges::find(kinds_, &kind);
+    if (option != kinds_.end()) chosen_ = static_cast<std::size_t>(option - kinds_.begin());
 }
 
-/// An ACE source looks like a PC source: who has chosen that kind knows better.
+/// Where sources of two kinds look alike, who has chosen one of them knows better.
 void InterchangeScreen::ChooseKindOf(const path& file) {
-    const std::string_view kind = KindOfSource(file);
-    const bool isAce = kind == "PCVEL" && kinds_[chosen_].name == "ACE";
-    if (!kind.empty() && !isAce) ChooseKindNamed(kind);
+    const FileKind* kind = interchange::KindThatBegins(BeginningOf(file), Kind());
+    if (kind != nullptr) Choose(*kind);
 }
 
 std::string InterchangeScreen::Title() const {
@@ -176,7 +138,7 @@ std::span<const InterchangeScreen::EncodingOption> InterchangeScreen::Encodings(
 }
 
 bool InterchangeScreen::ChooseKind(std::size_t option) {
-    if (running_ || option >= kinds_.size() || !kinds_[option].kind) return false;
+    if (running_ || option >= kinds_.size()) return false;
     const bool proposed = source == ProposedTarget();
     chosen_ = option;
     if (proposed) source = ProposedTarget();
@@ -186,12 +148,10 @@ bool InterchangeScreen::ChooseKind(std::size_t option) {
 void InterchangeScreen::ChooseSource() {
     const bool writes = mode_ == JobMode::Export;
     interchange::DialogText shown{"", "Select Source File", "All Files|*.*"};
-    if (mode_ != JobMode::LoadGraphic && Kind())
-        shown = writes ? Kind()->exportDialog : Kind()->importDialog;
+    if (mode_ != JobMode::LoadGraphic) shown = writes ? Kind().exportDialog : Kind().importDialog;
     path start = Placed(source);
     if (start.empty() && adventure_) start = adventure_->GameDir() / ProposedTarget();
-    const std::string extension =
-        writes && Kind() ? ExtensionOf(shown.defaultName, Kind()->extension) : std::string();
+    const std::string extension = writes ? ExtensionOf(shown.defaultName, Kind().extension) : std::string();
     const auto file = host_.dialogs.ChooseFile(
         {std::string(shown.title), std::string(shown.filter), extension, writes, start});
     if (!file) return;
@@ -242,7 +202,7 @@ bool InterchangeScreen::ImportIt() {
         return Refuse(host_.dialogs, "The database cannot be the open adventure itself");
     if (!MayReplace(target)) return false;
     const bool imported =
-        Run([&] { return interchange::ImportIt(*Kind(), source, target, true, JobHost()).done; });
+        Run([&] { return interchange::ImportIt(Kind(), source, target, true, JobHost()).done; });
     if (!imported) return false;
     newFile_ = std::filesystem::absolute(target);
     host_.settings.Set(startup::kSection, startup::kFile, newFile_->string());
@@ -251,7 +211,7 @@ bool InterchangeScreen::ImportIt() {
 
 bool InterchangeScreen::ExportIt() {
     path target = source;
-    if (!target.has_extension()) target += std::string(Kind()->extension);
+    if (!target.has_extension()) target += std::string(Kind().extension);
     source = target.string();
     if (IsSameFile(target, adventure_->CurrentFile()))
         return Refuse(host_.dialogs, "The export cannot be written over the adventure itself");
@@ -261,7 +221,7 @@ bool InterchangeScreen::ExportIt() {
         return Verify(adventure, kind, status);
     };
     return Run(
-        [&] { return interchange::ExportIt(*Kind(), *adventure_, target, verifier, JobHost()).done; });
+        [&] { return interchange::ExportIt(Kind(), *adventure_, target, verifier, JobHost()).done; });
 }
 
 /// What was loaded is one step of Undo, and stays when nobody says where it is to go.
@@ -270,8 +230,7 @@ bool InterchangeScreen::LoadGraphics() {
     const bool done = Run([&] {
         Change change(*document_, "load pictures of a listing");
         interchange::JobStatus status(*this);
-        const bool isUnVel = Kind()->word == "unvel";
-        loaded = interchange::LoadGraphics({isUnVel, source, records, record_}, *adventure_, host_.dialogs,
+        loaded = interchange::LoadGraphics({Kind(), source, records, record_}, *adventure_, host_.dialogs,
                                            status);
         if (loaded.pictures.empty()) return false;
         change.Commit();
@@ -285,7 +244,7 @@ bool InterchangeScreen::LoadGraphics() {
 
 bool InterchangeScreen::Verify(store::Adventure& adventure, const FileKind& kind,
                                interchange::JobStatus& status) {
-    VerifyScreen verify(adventure, VerifyTargetFrom(kind.word).value_or(VerifyTarget::Play), host_.events);
+    VerifyScreen verify(adventure, &kind, host_.events);
     showVerify(verify);
     status.AddToStatus(verify.Status());
     return verify.Passed();

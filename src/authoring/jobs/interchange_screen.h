@@ -53,15 +53,10 @@ class InterchangeScreen final : private interchange::JobObserver {
     static constexpr std::string_view kPrintButton = "&Print Status";
     JobMode Mode() const { return mode_; }
 
-    /// A kind of file, in the order of the options.
-    struct KindOption {
-        std::string_view name;
-        const interchange::FileKind* kind = nullptr;  ///< nullptr when this version does not have it
-        std::string why = {};                         ///< then: a sentence
-    };
-    const std::vector<KindOption>& Kinds() const { return kinds_; }
+    /// The kinds of files that are offered, in the order of the options.
+    const std::vector<const interchange::FileKind*>& Kinds() const { return kinds_; }
     std::size_t ChosenKind() const { return chosen_; }
-    /// False, and nothing chosen, for a kind that this version does not have, and while a job runs.
+    /// False, and nothing chosen, for an option that is not there, and while a job runs.
     bool ChooseKind(std::size_t option);
 
     /// How the letters of a source are read, in the order of a list. Exports have no choice.
@@ -120,9 +115,9 @@ class InterchangeScreen final : private interchange::JobObserver {
     void Progress(std::int64_t value, std::int64_t maximum) override;
     bool CancelWanted() override { return cancel_; }
 
-    void ChooseKindNamed(std::string_view name);
+    void Choose(const interchange::FileKind& kind);
     void ChooseKindOf(const std::filesystem::path& file);
-    const interchange::FileKind* Kind() const { return kinds_[chosen_].kind; }
+    const interchange::FileKind& Kind() const { return *kinds_[chosen_]; }
     std::string ProposedTarget() const;
     std::string Placed(const std::string& typed) const;
     bool ImportIt();
@@ -140,7 +135,7 @@ class InterchangeScreen final : private interchange::JobObserver {
     Document* document_ = nullptr;  ///< of a load of pictures
     InterchangeHost host_;
     int record_ = 0;
-    std::vector<KindOption> kinds_;
+    std::vector<const interchange::FileKind*> kinds_;
     std::size_t chosen_ = 0;
     std::filesystem::path agreed_;  ///< a file that its dialog has asked about already
     std::string status_;

@@ -17,7 +17,6 @@ namespace fabula::authoring {
 namespace {
 
 using condacts::CondAct;
-using condacts::Dialect;
 using condacts::ParsedLine;
 using condacts::Statement;
 using interchange::JobStatus;
@@ -25,22 +24,6 @@ using interchange::SourceMap;
 using store::Adventure;
 using store::PreparedQuery;
 using store::TableNum;
-
-struct TargetRow {
-    VerifyTarget target;
-    std::string_view kind;
-    std::string_view word;  ///< in the messages
-    Dialect dialect;        ///< whose conditions and actions may be used
-    std::string_view
-        commands;  ///< the field of `Commands` that says whose graphics commands; "" for no check
-};
-
-constexpr TargetRow kTargets[] = {
-    {VerifyTarget::UnVel, "unvel", "Vel", Dialect::Vel, "vel"},
-    {VerifyTarget::PCVel, "pcvel", "PCVel", Dialect::PCVel, ""},
-    {VerifyTarget::Fabula, "fabula", "Fabula", Dialect::Fabula, "fabula"},
-    {VerifyTarget::Ace, "ace", "ACE", Dialect::Fabula, "fabula"},
-};
 
 struct LimitRow {
     std::string_view step;
@@ -76,9 +59,9 @@ int CountRecords(Adventure& adventure, TableNum table, const char* key, std::str
 /// One run of the check.
 class Verification {
   public:
-    Verification(Adventure& adventure, const TargetRow* target, JobStatus& status, const SourceMap* places)
+    Verification(Adventure& adventure, VerifyTarget target, JobStatus& status, const SourceMap* places)
         : adventure_(adventure),
-          target_(target),
+          rules_(target == kForPlay ? nullptr : &target->rules),
           status_(status),
           places_(places),
           catalogue_(condacts::LoadCatalogue(adventure)) {}
@@ -86,12 +69,12 @@ class Verification {
     bool Run() {
         CheckDefaultPicture();
         if (IsOwnMarlo()) CheckMarlo();
-        if (target_ == nullptr) CheckWhatIsPlayed();
+        if (rules_ == nullptr) CheckWhatIsPlayed();
         if (adventure_.AdventureTypeLower() != "fabula") CheckLimits();
-        if (target_ != nullptr) {
+        if (rules_ != nullptr) {
             CheckCondActsForExport();
-            if (!target_->commands.empty()) CheckPicturesForExport();
-            if (target_->target == VerifyTarget::UnVel) CheckCountsForUnVel();
+            if (!rules_->commands.empty()) CheckPicturesForExport();
+            if (rules_->pictureForEachLocation) CheckCountsOfPictures();
         }
         if (ok_ && status_.Faults() == 0) Step("No Errors Found");
         Step("Verify Completed");
@@ -248,31 +231,31 @@ class Verification {
     }
 
     void CheckCondActsForExport() {
-        Step("Verifying Process/Response Tables for " + std::string(target_->word) + " export");
+        Step("Verifying Process/Response Tables for " + std::string(rules_->name) + " export");
         std::set<int> refused;
         PreparedQuery rows = Entries();
         for (bool more = rows.First({}); more; more = rows.Next()) {
             status_.IncBar(1);
             for (const Statement& statement : condacts::ParseLine(rows.Text(4), catalogue_).statements) {
                 const CondAct& condAct = *statement.condAct;
-                if (condAct.fabula && !condAct.ExistsIn(target_->dialect)) refused.insert(condAct.number);
+                if (condAct.fabula && !condAct.ExistsIn(rules_->dialect)) refused.insert(condAct.number);
             }
         }
         for (const int number : refused) {
             Fail("Use of " + catalogue_.Find(number)->name + " Condition/Action. This is not a valid " +
-                 std::string(target_->word) + " Condition/Action.");
+                 std::string(rules_->name) + " Condition/Action.");
         }
     }
 
     void CheckPicturesForExport() {
-        Step("Verifying Graphics Tables for " + std::string(target_->word) + " export");
-        const std::string own = "fabula=true and " + std::string(target_->commands) + "=false";
+        Step("Verifying Graphics Tables for " + std::string(rules_->name) + " export");
+        const std::string own = "fabula=true and " + std::string(rules_->commands) + "=false";
         PreparedQuery commands = adventure_.Prepare(TableNum::Commands, "coname", own);
         const std::set<std::string> used = CommandsInUse();
         for (bool more = commands.First({}); more; more = commands.Next()) {
             if (!used.contains(text::UpperCase(commands.Text(0)))) continue;
             Fail("Use of " + std::string(commands.Text(0)) + " Graphics command. This is not a valid " +
-                 std::string(target_->word) + " Graphics command.");
+                 std::string(rules_->name) + " Graphics command.");
         }
     }
 
@@ -287,13 +270,13 @@ class Verification {
         return used;
     }
 
-    void CheckCountsForUnVel() {
+    void CheckCountsOfPictures() {
         if (CountRecords(adventure_, TableNum::Pictures, "locnum", "") !=
             CountRecords(adventure_, TableNum::Locations, "locnum", "")) {
             Fail(
                 "There are not the same number of Graphics records as Location records. This is not "
                 "allowed in " +
-                std::string(target_->word));
+                std::string(rules_->name));
         }
         if (CountRecords(adventure_, TableNum::Characters, "charnum", "charnum>143") >
             kMostGraphicCharacters) {
@@ -313,7 +296,7 @@ class Verification {
     }
 
     Adventure& adventure_;
-    const TargetRow* target_;  ///< nullptr for play
+    const interchange::ExportRules* rules_;  ///< nullptr for play
     JobStatus& status_;
     const SourceMap* places_;  ///< nullptr when the adventure does not come from a source
     condacts::Catalogue catalogue_;
@@ -322,21 +305,10 @@ class Verification {
 
 }  // namespace
 
-std::optional<VerifyTarget> VerifyTargetFrom(std::string_view kind) {
-    for (const TargetRow& row : kTargets) {
-        if (text::EqualsNoCase(row.kind, kind)) return row.target;
-    }
-    return std::nullopt;
-}
-
 bool VerifyAdventure(Adventure& adventure, VerifyTarget target, JobStatus& status,
                      const SourceMap* places) {
-    const TargetRow* row = nullptr;
-    for (const TargetRow& candidate : kTargets) {
-        if (candidate.target == target) row = &candidate;
-    }
     const store::ReadTransaction reading(adventure);
-    return Verification(adventure, row, status, places).Run();
+    return Verification(adventure, target, status, places).Run();
 }
 
 }  // namespace fabula::authoring

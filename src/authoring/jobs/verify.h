@@ -1,19 +1,16 @@
 #pragma once
 
-#include <optional>
-#include <string_view>
-
+#include "interchange/file_kinds.h"
 #include "interchange/job_status.h"
 #include "interchange/source_map.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {
 
-/// What an adventure is verified for: to be played, or to be exported to a kind of file.
-enum class VerifyTarget { Play, UnVel, PCVel, Fabula, Ace };
-
-/// The target that a kind of file names ("unvel", "pcvel", "fabula", "ace"), case ignored.
-std::optional<VerifyTarget> VerifyTargetFrom(std::string_view kind);
+/// What an adventure is verified for: to be exported to a kind of file that can be written, or to be
+/// played.
+using VerifyTarget = const interchange::FileKind*;
+inline constexpr VerifyTarget kForPlay = nullptr;
 
 /// Checks an adventure against the rules of its type, and of the kind of file it is to go to; for play also
 /// that everything is there that its records name. Writes each step and each error into the status, a line

@@ -30,7 +30,7 @@ VerifyScreen::VerifyScreen(store::Adventure& adventure, VerifyTarget target, pla
     : adventure_(adventure), target_(target), events_(events) {}
 
 std::string_view VerifyScreen::Title() const {
-    return target_ == VerifyTarget::Play ? "Verify Adventure" : "Verify for export";
+    return target_ == kForPlay ? "Verify Adventure" : "Verify for export";
 }
 
 void VerifyScreen::Run() {

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "condacts/limits.h"
+
 namespace fabula::authoring {
 
 /// The picker of one of the 16 colours, for ink or for paper.
@@ -23,8 +25,8 @@ class ColourScreen {
     /// Gives the number of the chosen colour to the calling screen. (Exit gives none.)
     int Update() const { return current_; }
 
-    static constexpr int kColors = 16;
-    static constexpr int kFirstBright = 8;
+    static constexpr int kColors = condacts::limit::kHighestColour + 1;
+    static constexpr int kFirstBright = condacts::limit::kFirstBrightColour;
     static constexpr std::string_view kNormalColors = "Normal Colors";
     static constexpr std::string_view kBrightColors = "Bright Colors";
 

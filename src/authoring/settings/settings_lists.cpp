@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "interchange/file_kinds.h"
 #include "store/setup.h"
 
 namespace fabula::authoring {
@@ -12,7 +13,7 @@ using store::TableNum;
 
 constexpr int kChannels = 16;
 constexpr int kUsualWidths[] = {32, 35, 40, 42, 51, 64, 72, 80, 100, 120, 132};
-constexpr const char* kSources[] = {"New", "UnVel", "UnMarlo", "PCVel", "ACE", "FabulaExp", "Unknown!"};
+constexpr const char* kUnknownSource = "Unknown!";
 
 bool IsMarlo(std::string_view type) {
     return store::AdventureKindFrom(type) == store::AdventureKind::Marlo;
@@ -80,9 +81,12 @@ std::vector<ListItem> PrintWidthItems(int present) {
 }
 
 std::vector<ListItem> SourceItems() {
-    std::vector<ListItem> items;
-    for (const char* source : kSources)
-        items.push_back({static_cast<int>(items.size()), source});
+    const auto kinds = interchange::FileKinds();
+    const int last = static_cast<int>(kinds.size()) + 1;
+    std::vector<ListItem> items{{0, std::string(interchange::kNewSource)}, {last, kUnknownSource}};
+    for (const interchange::FileKind& kind : kinds)
+        items.push_back({kind.settings.sourceRow, std::string(kind.settings.source)});
+    std::ranges::sort(items, {}, &ListItem::number);
     return items;
 }
 

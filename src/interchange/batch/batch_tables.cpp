@@ -1,6 +1,6 @@
 #include "interchange/batch/batch_tables.h"
 
-#include "interchange/export_fields.h"
+#include "interchange/fabula/export_fields.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"

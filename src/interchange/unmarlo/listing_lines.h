@@ -49,8 +49,4 @@ std::string_view CutTrimmed(std::string_view line, Columns columns);
 /// A number of digits alone, at most `highest`.
 std::optional<int> ListedNumber(std::string_view token, int highest);
 
-/// The highest number of a record in a listing, and of a process table.
-inline constexpr int kHighestListedRecord = 999;
-inline constexpr int kHighestListedTable = 256;
-
 }  // namespace fabula::interchange

@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <optional>
 
+#include "condacts/limits.h"
 #include "interchange/keyed_table.h"
 #include "interchange/unmarlo/listing_lines.h"
 #include "interchange/unmarlo/picture_listing.h"
-#include "interchange/unmarlo/unmarlo_reader.h"
-#include "interchange/unvel/unvel_head.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"
 #include "text/fields.h"
@@ -33,7 +32,7 @@ std::string AddPiece(std::string_view piece, std::vector<int>& numbers) {
     for (const std::string_view end : ends) {
         const auto number = pictures::ParameterValue(text::TrimBlanks(end));
         if (!number) return kNotNumeric;
-        if (*number > kHighestListedRecord)
+        if (*number > condacts::limit::kHighestRecord)
             return std::to_string(*number) + " is outside range of Graphics Table";
         range.push_back(*number);
     }
@@ -42,12 +41,6 @@ std::string AddPiece(std::string_view piece, std::vector<int>& numbers) {
         if (std::find(numbers.begin(), numbers.end(), number) == numbers.end()) numbers.push_back(number);
     }
     return "";
-}
-
-bool HasHead(const PictureImport& import, ListingLines& lines, platform::Operator& person,
-             JobStatus& status) {
-    return import.isUnVel ? ReadUnVelHead(lines, person).has_value()
-                          : ReadUnMarloHead(lines, status).has_value();
 }
 
 /// The pictures of the listing that are wanted, by number.
@@ -102,8 +95,8 @@ void TellEnd(const PictureImport& import, const LoadedPictures& loaded, JobStatu
     for (const LoadedPicture& picture : loaded.pictures)
         records += (records.empty() ? "" : ",") + std::to_string(picture.record);
     status.AddToStatusCR(std::to_string(loaded.pictures.size()) + " Source record(s) " +
-                         (import.isUnVel ? "UnVel" : "UnMarlo") +
-                         " loaded into corresponding Graphics Record(s) " + records);
+                         std::string(import.kind.name) + " loaded into corresponding Graphics Record(s) " +
+                         records);
 }
 
 std::optional<int> PlaceOf(const NewLocations& places, int number) {
@@ -151,13 +144,13 @@ LoadedPictures LoadGraphics(const PictureImport& import, store::Adventure& adven
         person.Tell(wanted.fault, "Error");
         return {};
     }
-    const std::string kind = import.isUnVel ? "UnVel" : "UnMarlo";
+    const std::string kind(import.kind.name);
     status.AddToStatusCR("Load Status of Graphics Records " + import.records + " from file " +
                          import.listing.filename().string());
     std::map<int, ListedPicture> found;
     try {
         ListingLines lines(import.listing, status);
-        if (!HasHead(import, lines, person, status)) return {};
+        if (!import.kind.readHead(lines, person, status)) return {};
         found = FindPictures(lines, wanted.numbers, pictures::LoadPictureBook(adventure).commands, status);
     } catch (const JobCancelled&) {
         status.AddToStatusCR("Load cancelled");
@@ -219,7 +212,7 @@ std::string CheckNewLocations(const LoadedPictures& loaded, const NewLocations& 
         if (text::TrimBlanks(place->second).empty()) return head + " is not filled in";
         const auto goesTo = PlaceOf(places, number);
         if (!goesTo) return head + " is not numeric";
-        if (*goesTo < 0 || *goesTo > kHighestListedRecord || !taken.insert(*goesTo).second)
+        if (*goesTo < 0 || *goesTo > condacts::limit::kHighestRecord || !taken.insert(*goesTo).second)
             return head + " is not a valid graphics location";
         if (!HasLocation(adventure, *goesTo))
             return std::to_string(*goesTo) + " is an invalid location for this database";

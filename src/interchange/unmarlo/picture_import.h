@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "interchange/file_kinds.h"
 #include "interchange/job_status.h"
 #include "platform/operator.h"
 #include "store/adventure.h"
@@ -35,7 +36,7 @@ struct LoadedPictures {
 };
 
 struct PictureImport {
-    bool isUnVel = false;  ///< else the listing is one of UnMarlo
+    const FileKind& kind;  ///< one that can load pictures
     std::filesystem::path listing;
     std::string records;  ///< a record list
     int target = 0;       ///< the record of the first; the others go into the records behind it

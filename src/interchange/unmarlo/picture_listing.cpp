@@ -104,14 +104,14 @@ std::optional<PictureHead> PictureHead::Read(std::string_view line) {
     if (flag == std::string_view::npos || place > flag) return std::nullopt;
     PictureHead head;
     const auto before = SplitWords(line.substr(place + kPlace.size(), flag - place - kPlace.size()));
-    if (!before.empty()) head.number = ListedNumber(before[0], kHighestListedRecord);
+    if (!before.empty()) head.number = ListedNumber(before[0], condacts::limit::kHighestRecord);
     const std::size_t colon = line.find(':', flag);
     if (colon == std::string_view::npos) return head;
     line.remove_prefix(colon + 1);
     const auto words = SplitWords(line);
     head.isSubroutine = !words.empty() && words[0] == "Not";
     if (const auto number = Assigned(line, kPlace);
-        number && *number >= 0 && *number <= kHighestListedRecord)
+        number && *number >= 0 && *number <= condacts::limit::kHighestRecord)
         head.number = number;
     head.ink = Colour(Assigned(line, "Ink"));
     head.paper = Colour(Assigned(line, "Paper"));

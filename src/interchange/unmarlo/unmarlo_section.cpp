@@ -1,5 +1,6 @@
 #include "interchange/unmarlo/unmarlo_section.h"
 
+#include "condacts/limits.h"
 #include "text/fields.h"
 
 namespace fabula::interchange {
@@ -18,7 +19,7 @@ std::optional<int> NumberBehind(std::string_view line, int labelWords) {
     const auto words = SplitWords(label);
     const auto index = static_cast<std::size_t>(labelWords);
     if (index >= words.size()) return std::nullopt;
-    return ListedNumber(words[index], kHighestListedRecord);
+    return ListedNumber(words[index], condacts::limit::kHighestRecord);
 }
 
 }  // namespace fabula::interchange

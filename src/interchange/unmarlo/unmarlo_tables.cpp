@@ -1,6 +1,7 @@
 // The sections of an UnMarlo listing that are tables of short lines: connections, vocabulary, and places
 // and words of objects.
 
+#include "condacts/limits.h"
 #include "condacts/places.h"
 #include "condacts/words.h"
 #include "interchange/source_file.h"
@@ -18,7 +19,7 @@ using store::TableNum;
 constexpr Columns kConnection{6, 12};  // 0A1F: NORTH to 5
 constexpr Columns kPlace{30, 8};       // 0A1F: Object   3 is initially in room 12.
 constexpr std::size_t kRoomToken = 7;
-constexpr std::size_t kLettersOfAWord = 4;
+constexpr std::size_t kLettersOfAWord = condacts::SignificantLetters(store::AdventureKind::Marlo);
 constexpr std::string_view kConnectionsFrom = "Connections from ";
 
 class Connections final : public UnMarloSection {
@@ -114,7 +115,7 @@ class ObjectPlaces final : public UnMarloSection {
         const auto tokens = SplitWords(line);
         if (tokens.size() <= kRoomToken) return condacts::place::kNotCreated;
         const std::string_view room = tokens[kRoomToken].substr(0, tokens[kRoomToken].find('.'));
-        const auto number = ListedNumber(room, kHighestListedRecord);
+        const auto number = ListedNumber(room, condacts::limit::kHighestRecord);
         return number ? condacts::PlaceNumber(*number) : condacts::place::kNotCreated;
     }
 

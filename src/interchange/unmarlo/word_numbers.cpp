@@ -1,5 +1,6 @@
 #include "interchange/unmarlo/word_numbers.h"
 
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "interchange/source_file.h"
@@ -33,7 +34,7 @@ void NumberExits(ListingJob& job, const WordIndex& words) {
         std::string numeric;
         for (std::size_t i = 0; i + 1 < tokens.size(); i += 2) {
             const auto number = NumberOf(words, tokens[i]);
-            if (!number || !ListedNumber(tokens[i + 1], kHighestListedRecord)) {
+            if (!number || !ListedNumber(tokens[i + 1], condacts::limit::kHighestRecord)) {
                 job.context.status.AddLoss("Location " + std::to_string(locations.Number("locnum")) +
                                            ": the exit " + std::string(tokens[i]) + " leads nowhere.");
                 continue;

@@ -1,3 +1,4 @@
+#include "condacts/limits.h"
 #include "condacts/parser.h"
 #include "interchange/unvel/unvel_section.h"
 #include "text/str_edit.h"
@@ -30,12 +31,12 @@ class Connections final : public UnVelSection {
         if (text::TrimBlanks(line).empty()) return;
         if (Cut(line, kLocationHead) == "Location") {
             Flush();
-            number_ = ListedNumber(CutTrimmed(line, kLocation), kHighestListedRecord);
+            number_ = ListedNumber(CutTrimmed(line, kLocation), condacts::limit::kHighestRecord);
         }
         const std::size_t first = Cut(line, {kWordColumn, 1}) == " " ? kWordColumn + 1 : kWordColumn;
         const std::string word(CutTrimmed(line, {first, kWordWidth}));
-        const auto destination =
-            ListedNumber(CutTrimmed(line, {first + kWordWidth, kDestinationWidth}), kHighestListedRecord);
+        const auto destination = ListedNumber(CutTrimmed(line, {first + kWordWidth, kDestinationWidth}),
+                                              condacts::limit::kHighestRecord);
         const Word* found = Find(word);
         if (!number_ || !destination || found == nullptr) {
             job_.Fault(kBadListingLine);

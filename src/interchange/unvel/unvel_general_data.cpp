@@ -42,7 +42,7 @@ void SetFont(ListingJob& job, std::string_view value, bool) {
 }
 
 void SetSets(ListingJob& job, std::string_view value, bool isMarlo) {
-    const auto count = ListedNumber(value, kHighestListedRecord);
+    const auto count = ListedNumber(value, condacts::limit::kHighestRecord);
     if (!isMarlo && count) SetSetting(job.Adventure(), "charsets", *count > 0 ? 1 : 0);
 }
 
@@ -52,7 +52,7 @@ void SetConveyable(ListingJob& job, std::string_view value, bool isMarlo) {
 }
 
 void SetPictures(ListingJob& job, std::string_view value, bool) {
-    const auto count = ListedNumber(value, kHighestListedRecord);
+    const auto count = ListedNumber(value, condacts::limit::kHighestRecord);
     if (count) SetSetting(job.Adventure(), "graphics", *count > 0 ? 1 : 0);
 }
 

@@ -1,5 +1,6 @@
 #include "interchange/unvel/unvel_notes.h"
 
+#include "condacts/limits.h"
 #include "interchange/keyed_table.h"
 #include "interchange/unmarlo/listing_job.h"
 #include "interchange/unvel/unvel_section.h"
@@ -41,7 +42,7 @@ void StoreFlagNotes(store::Adventure& adventure, const UnVelNotes& notes) {
 void StoreProcessNotes(store::Adventure& adventure, const UnVelNotes& notes) {
     KeyedTable tables(adventure, TableNum::ProcDesc, "pmsgnum");
     for (const auto& [number, text] : notes.All()) {
-        if (number > kLastDefaultTable && number <= kHighestListedTable)
+        if (number > kLastDefaultTable && number <= condacts::limit::kHighestProcess)
             StoreText(tables, "pmsgmsg", number, std::string(text::Left(text, kLongestTableText)));
     }
 }

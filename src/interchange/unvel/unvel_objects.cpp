@@ -1,5 +1,6 @@
 // What an UnVel listing tells of objects besides their names: words, places, and weights and types.
 
+#include "condacts/limits.h"
 #include "condacts/places.h"
 #include "interchange/source_file.h"
 #include "interchange/unvel/unvel_section.h"
@@ -48,7 +49,7 @@ class ObjectLines : public UnVelSection {
         if (text::TrimBlanks(line).empty()) return;
         std::string_view digits = CutTrimmed(line, kNumber);
         if (digits.ends_with(':')) digits.remove_suffix(1);
-        const auto number = ListedNumber(digits, kHighestListedRecord);
+        const auto number = ListedNumber(digits, condacts::limit::kHighestRecord);
         if (Cut(line, kObjectHead) != "Object" || !number) {
             job_.Fault(kBadListingLine);
             return;
@@ -113,7 +114,7 @@ class ObjectPlaces final : public ObjectLines {
             SetPlace(object, entry.place);
             return true;
         }
-        const auto room = ListedNumber(place, kHighestListedRecord);
+        const auto room = ListedNumber(place, condacts::limit::kHighestRecord);
         if (room) SetPlace(object, condacts::PlaceNumber(*room));
         return room.has_value();
     }

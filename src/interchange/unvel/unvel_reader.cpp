@@ -5,8 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "condacts/limits.h"
 #include "condacts/load.h"
-#include "interchange/pc_extras.h"
+#include "interchange/pc/pc_extras.h"
 #include "interchange/source_file.h"
 #include "interchange/unmarlo/command_entries.h"
 #include "interchange/unvel/unvel_general_data.h"
@@ -75,7 +76,7 @@ std::optional<int> StageOf(std::string_view title) {
         if (row.title == title) return row.stage;
     }
     const auto table = NumberAlone(title, kTableTitle);
-    if (!table || *table > kHighestListedTable) return std::nullopt;
+    if (!table || *table > condacts::limit::kHighestProcess) return std::nullopt;
     return kResponses + *table;
 }
 

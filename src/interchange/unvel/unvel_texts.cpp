@@ -1,3 +1,4 @@
+#include "condacts/limits.h"
 #include "interchange/unvel/unvel_section.h"
 #include "interchange/unvel/unvel_text.h"
 #include "text/str_edit.h"
@@ -99,7 +100,7 @@ std::optional<int> NumberAlone(std::string_view line, std::string_view label) {
     if (!line.starts_with(label)) return std::nullopt;
     line.remove_prefix(label.size());
     if (!line.starts_with(' ')) return std::nullopt;
-    return ListedNumber(text::TrimBlanks(line), kHighestListedRecord);
+    return ListedNumber(text::TrimBlanks(line), condacts::limit::kHighestRecord);
 }
 
 }  // namespace fabula::interchange

@@ -8,8 +8,8 @@
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "condacts/places.h"
-#include "interchange/export_fields.h"
-#include "interchange/pc_extras.h"
+#include "interchange/fabula/export_fields.h"
+#include "interchange/pc/pc_extras.h"
 #include "interchange/source_file.h"
 #include "interchange/unvel/unvel_file.h"
 #include "interchange/unvel/unvel_general_data.h"
@@ -251,7 +251,7 @@ class ExtractWriter {
             store::PreparedQuery rows = context_.adventure.Prepare(table, key, key + ">=0", key + " desc");
             if (rows.First({})) highest = std::max(highest, rows.Number(0));
         }
-        return std::min<std::int64_t>(highest, kHighestListedTable);
+        return std::min<std::int64_t>(highest, condacts::limit::kHighestProcess);
     }
 
     void WriteProcesses() {

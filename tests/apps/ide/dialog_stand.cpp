@@ -289,7 +289,7 @@ Opened OpenKeypad(Desk& desk) {
 Opened OpenVerify(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
-            : screen(of.Adventure(), authoring::VerifyTarget::Play, pump), dialog(screen, of.dialogs) {
+            : screen(of.Adventure(), authoring::kForPlay, pump), dialog(screen, of.dialogs) {
             dialog.goTo = [](const authoring::VerifyScreen::Entry&) {};
         }
         ScriptedPump pump;

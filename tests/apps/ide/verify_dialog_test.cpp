@@ -18,8 +18,8 @@
 namespace fabula::test {
 namespace {
 
+using authoring::kForPlay;
 using authoring::VerifyScreen;
-using authoring::VerifyTarget;
 
 class VerifyDialogTest : public testing::Test {
   protected:
@@ -50,7 +50,7 @@ class VerifyDialogTest : public testing::Test {
     OpenedAdventure adventure_;
     platform::ScriptedDialogs dialogs_;
     ScriptedPump pump_;
-    VerifyScreen verify_{*adventure_, VerifyTarget::Play, pump_};
+    VerifyScreen verify_{*adventure_, kForPlay, pump_};
     ide::VerifyDialog dialog_{verify_, dialogs_};
 };
 

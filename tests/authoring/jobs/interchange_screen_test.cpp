@@ -25,13 +25,13 @@ class InterchangeScreenTest : public testing::Test {
 
     std::vector<std::string> Names(const InterchangeScreen& screen) {
         std::vector<std::string> names;
-        for (const auto& option : screen.Kinds())
-            names.emplace_back(option.name);
+        for (const interchange::FileKind* kind : screen.Kinds())
+            names.emplace_back(kind->name);
         return names;
     }
     static std::size_t Option(const InterchangeScreen& screen, std::string_view name) {
         for (std::size_t i = 0; i < screen.Kinds().size(); ++i) {
-            if (screen.Kinds()[i].name == name) return i;
+            if (screen.Kinds()[i]->name == name) return i;
         }
         return screen.Kinds().size();
     }
@@ -81,7 +81,6 @@ TEST_F(InterchangeScreenTest, ExportHasItsTitleLabelsAndKinds) {
 TEST_F(InterchangeScreenTest, TheUsualKindIsChosenAtFirstAndEachCanBe) {
     InterchangeScreen screen = Screen(JobMode::Import);
     EXPECT_EQ(screen.ChosenKind(), 2U);
-    EXPECT_EQ(screen.Kinds()[0].why, "");
     EXPECT_TRUE(screen.ChooseKind(0));
     EXPECT_EQ(screen.ChosenKind(), 0U);
     EXPECT_TRUE(screen.ChooseKind(4));
@@ -96,7 +95,7 @@ TEST_F(InterchangeScreenTest, ASourceThatTellsItsKindChoosesIt) {
         screen.ChooseKind(Option(screen, before));
         dialogs_.AnswerFile(In(name));
         screen.ChooseSource();
-        return std::string(screen.Kinds()[screen.ChosenKind()].name);
+        return std::string(screen.Kinds()[screen.ChosenKind()]->name);
     };
     EXPECT_EQ(chosen("a.txt", "4.0.0\n5|advnum|1\n", "PCVEL"), "Fabula");
     EXPECT_EQ(chosen("b.txt", "; a game\n/CTL\n_\n", "Fabula"), "PCVEL");
@@ -111,12 +110,14 @@ TEST_F(InterchangeScreenTest, AnExportBeginsWithTheAdventuresOwnKind) {
         settings.SetField("source", std::string(source));
         settings.Update();
         const InterchangeScreen screen = Screen(JobMode::Export);
-        return std::string(screen.Kinds()[screen.ChosenKind()].name);
+        return std::string(screen.Kinds()[screen.ChosenKind()]->name);
     };
     EXPECT_EQ(chosen("New"), "Fabula");
     EXPECT_EQ(chosen("FabulaExp"), "Fabula");
     EXPECT_EQ(chosen("UnVel"), "UnVel");
     EXPECT_EQ(chosen("PCVel"), "PCVEL");
+    EXPECT_EQ(chosen("ACE"), "PCVEL") << "its own kind is not offered";
+    EXPECT_EQ(chosen("UnMarlo"), "PCVEL") << "its own kind can't be written";
     EXPECT_EQ(chosen("Unknown"), "PCVEL");
 }
 

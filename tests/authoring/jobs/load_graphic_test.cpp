@@ -59,8 +59,8 @@ TEST_F(LoadGraphicTest, HasItsTitleLabelsAndKinds) {
     EXPECT_EQ(screen.StatusCaption(), "Import Status");
     EXPECT_EQ(screen.MainButton(), "&Load");
     ASSERT_EQ(screen.Kinds().size(), 2U);
-    EXPECT_EQ(screen.Kinds()[0].name, "UnMarlo");
-    EXPECT_EQ(screen.Kinds()[1].name, "UnVel");
+    EXPECT_EQ(screen.Kinds()[0]->name, "UnMarlo");
+    EXPECT_EQ(screen.Kinds()[1]->name, "UnVel");
     EXPECT_TRUE(screen.CanRun());
 }
 

@@ -25,7 +25,7 @@ using testing::IsEmpty;
 std::vector<std::string> Told(Desk& desk) {
     interchange::NoObserver nobody;
     interchange::JobStatus status(nobody);
-    VerifyAdventure(desk.Adventure(), VerifyTarget::Play, status);
+    VerifyAdventure(desk.Adventure(), kForPlay, status);
     std::vector<std::string> told;
     for (const interchange::Fault& fault : status.AllFaults())
         told.push_back(fault.Line());

@@ -33,7 +33,7 @@ void AddEntries(store::Adventure& adventure, int count, const char* condacts, co
 TEST(VerifyScreen, PassesAnAdventureWithoutErrors) {
     const test::OpenedAdventure adventure;
     ScriptedPump pump;
-    VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    VerifyScreen verify(*adventure, kForPlay, pump);
     EXPECT_FALSE(verify.Finished());
     verify.Run();
     EXPECT_TRUE(verify.Finished());
@@ -45,7 +45,7 @@ TEST(VerifyScreen, DoesNotPassOneWithAnError) {
     const test::OpenedAdventure adventure;
     AddEntries(*adventure, 1, "FROB 3", "");
     ScriptedPump pump;
-    VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    VerifyScreen verify(*adventure, kForPlay, pump);
     verify.Run();
     EXPECT_TRUE(verify.Finished());
     EXPECT_FALSE(verify.Passed());
@@ -60,7 +60,7 @@ TEST(VerifyScreen, ShowsHowFarItIsEveryTenEntries) {
     const test::OpenedAdventure adventure;
     AddEntries(*adventure, 25, "DONE", "265");
     ScriptedPump pump;
-    VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    VerifyScreen verify(*adventure, kForPlay, pump);
     std::vector<std::string> shown;
     verify.changed = [&] {
         if (!verify.ProgressLine().empty()) shown.push_back(verify.ProgressLine());
@@ -76,7 +76,7 @@ TEST(VerifyScreen, OkEndsARunningCheckWhichHasNotPassed) {
     const test::OpenedAdventure adventure;
     AddEntries(*adventure, 100, "DONE", "265");
     ScriptedPump pump;
-    VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    VerifyScreen verify(*adventure, kForPlay, pump);
     pump.atTurn = [&] {
         if (pump.turns == 2) verify.Ok();
     };
@@ -89,7 +89,7 @@ TEST(VerifyScreen, OkEndsARunningCheckWhichHasNotPassed) {
 TEST(VerifyScreen, OkFinishesACheckThatWasNotBegun) {
     const test::OpenedAdventure adventure;
     ScriptedPump pump;
-    VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    VerifyScreen verify(*adventure, kForPlay, pump);
     verify.Ok();
     EXPECT_TRUE(verify.Finished());
     EXPECT_FALSE(verify.Passed());
@@ -99,7 +99,7 @@ TEST(VerifyScreen, IsNotStartedTwice) {
     const test::OpenedAdventure adventure;
     AddEntries(*adventure, 30, "DONE", "265");
     ScriptedPump pump;
-    VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    VerifyScreen verify(*adventure, kForPlay, pump);
     pump.atTurn = [&] { verify.Run(); };
     verify.Run();
     verify.Run();
@@ -109,7 +109,7 @@ TEST(VerifyScreen, IsNotStartedTwice) {
 TEST(VerifyScreen, StatusCanBeSaved) {
     const test::OpenedAdventure adventure;
     ScriptedPump pump;
-    VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    VerifyScreen verify(*adventure, kForPlay, pump);
     verify.Run();
     platform::ScriptedDialogs dialogs;
     dialogs.AnswerFile(adventure.Folder() / "status.txt");
@@ -126,7 +126,7 @@ TEST(VerifyScreen, StatusTakesThePlaceOfAnOlderFileAsAWhole) {
     std::ofstream(file) << "an older status";
     std::filesystem::create_hard_link(file, older);
     ScriptedPump pump;
-    VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    VerifyScreen verify(*adventure, kForPlay, pump);
     verify.Run();
     platform::ScriptedDialogs dialogs;
     dialogs.AnswerFile(file);
@@ -140,7 +140,7 @@ TEST(VerifyScreen, StatusTakesThePlaceOfAnOlderFileAsAWhole) {
 TEST(VerifyScreen, StatusThatCannotBeSavedIsTold) {
     const test::OpenedAdventure adventure;
     ScriptedPump pump;
-    const VerifyScreen verify(*adventure, VerifyTarget::Play, pump);
+    const VerifyScreen verify(*adventure, kForPlay, pump);
     platform::ScriptedDialogs dialogs;
     dialogs.AnswerFile("/nowhere/status.txt");
     EXPECT_FALSE(verify.SaveStatus(dialogs));

@@ -88,7 +88,7 @@ class Verified : public testing::Test {
     }
 
     /// The status text; `ok_` is the verdict.
-    std::string Verify(VerifyTarget target = VerifyTarget::Play) {
+    std::string Verify(VerifyTarget target = kForPlay) {
         interchange::JobStatus status(observer_);
         ok_ = VerifyAdventure(*adventure_, target, status);
         return status.Text();
@@ -184,7 +184,7 @@ TEST_F(Verified, AFaultOfASourceIsToldAtItsPlace) {
     interchange::SourceMap places;
     places.Set(TableNum::ProcessTables, 5, "condacts", 3, {"games/game.sce", 36, "", 14});
     interchange::JobStatus status(observer_);
-    EXPECT_FALSE(VerifyAdventure(*adventure_, VerifyTarget::Play, status, &places));
+    EXPECT_FALSE(VerifyAdventure(*adventure_, kForPlay, status, &places));
     EXPECT_EQ(status.Text(),
               "Verifying Process/Response Tables \n"
               "games/game.sce:36:14: fault: Process Table 0 Entry # 5 (_ _ AT 0 GOTO 9): GOTO 9 is an "
@@ -301,14 +301,14 @@ TEST_F(VerifiedMarlo, AGameOfADecompilerIsNotCheckedForWordsAndWeights) {
 
 TEST_F(Verified, AnExportChecksTheNamesAndNotTheEntries) {
     AddEntry(1, "_", "_", "MESSAGE 9 DONE");
-    EXPECT_EQ(Verify(VerifyTarget::PCVel),
+    EXPECT_EQ(Verify(interchange::FindFileKind("pcvel")),
               "Verifying Process/Response Tables for PCVel export\nNo Errors Found\nVerify Completed\n");
 }
 
 TEST_F(Verified, CondactsOfThisSystemAloneAreToldOnceForAnExport) {
     AddEntry(1, "_", "_", "OOPS 1 AGAIN");
     AddEntry(2, "_", "_", "AGAIN DONE");
-    EXPECT_EQ(Verify(VerifyTarget::PCVel),
+    EXPECT_EQ(Verify(interchange::FindFileKind("pcvel")),
               "Verifying Process/Response Tables for PCVel export\n"
               "Use of AGAIN Condition/Action. This is not a valid PCVel Condition/Action.\n"
               "Use of OOPS Condition/Action. This is not a valid PCVel Condition/Action.\n"
@@ -319,31 +319,31 @@ TEST_F(Verified, CondactsOfThisSystemAloneAreToldOnceForAnExport) {
 TEST_F(Verified, AWordThatLooksLikeACondactIsNone) {
     AddWord("OVER", 60, 4);
     AddEntry(1, "_", "_", "PREP OVER DONE");
-    Verify(VerifyTarget::PCVel);
+    Verify(interchange::FindFileKind("pcvel"));
     EXPECT_TRUE(ok_);
 }
 
 TEST_F(Verified, EverythingMayGoToAnExportFileAndAnAceSource) {
     AddEntry(1, "_", "_", "OOPS 1 AGAIN");
-    EXPECT_EQ(Verify(VerifyTarget::Fabula),
+    EXPECT_EQ(Verify(interchange::FindFileKind("fabula")),
               "Verifying Process/Response Tables for Fabula export\n"
               "Verifying Graphics Tables for Fabula export\n"
               "No Errors Found\nVerify Completed\n");
-    EXPECT_EQ(Verify(VerifyTarget::Ace),
+    EXPECT_EQ(Verify(interchange::FindFileKind("ace")),
               "Verifying Process/Response Tables for ACE export\n"
               "Verifying Graphics Tables for ACE export\n"
               "No Errors Found\nVerify Completed\n");
 }
 
 TEST_F(VerifiedVel, AnExtractNeedsAsManyPicturesAsLocations) {
-    EXPECT_NE(Verify(VerifyTarget::UnVel)
+    EXPECT_NE(Verify(interchange::FindFileKind("unvel"))
                   .find("There are not the same number of Graphics records as Location records. This is "
                         "not allowed in "
                         "Vel\n"),
               std::string::npos);
     EXPECT_FALSE(ok_);
     AddNumbered(TableNum::Pictures, "locnum", 0);
-    Verify(VerifyTarget::UnVel);
+    Verify(interchange::FindFileKind("unvel"));
     EXPECT_TRUE(ok_);
 }
 
@@ -353,9 +353,9 @@ TEST_F(VerifiedVel, AnExtractTellsOfFurtherUserGraphicsAndPasses) {
     const std::string message = "There are more than 19 UDGs. Only the first 19 will be exported.\n";
     for (int i = 0; i < 19; ++i)
         AddNumbered(TableNum::Characters, "charnum", 144 + i);
-    EXPECT_EQ(Verify(VerifyTarget::UnVel).find(message), std::string::npos);
+    EXPECT_EQ(Verify(interchange::FindFileKind("unvel")).find(message), std::string::npos);
     AddNumbered(TableNum::Characters, "charnum", 163);
-    EXPECT_NE(Verify(VerifyTarget::UnVel).find(message), std::string::npos);
+    EXPECT_NE(Verify(interchange::FindFileKind("unvel")).find(message), std::string::npos);
     EXPECT_TRUE(ok_);
 }
 
@@ -368,19 +368,11 @@ TEST_F(VerifiedVel, AGraphicsCommandOfThisSystemAloneIsTold) {
     pictures.SetField("locnum", std::int64_t{0});
     pictures.SetField("drawstring", std::string("PLOT 0 10 10 END"));
     pictures.Update();
-    EXPECT_NE(Verify(VerifyTarget::UnVel)
+    EXPECT_NE(Verify(interchange::FindFileKind("unvel"))
                   .find("Verifying Graphics Tables for Vel export\n"
                         "Use of PLOT Graphics command. This is not a valid Vel Graphics command.\n"),
               std::string::npos);
     EXPECT_FALSE(ok_);
-}
-
-TEST(VerifyTargets, AreNamedByTheKindsOfFiles) {
-    EXPECT_EQ(VerifyTargetFrom("PCVEL"), VerifyTarget::PCVel);
-    EXPECT_EQ(VerifyTargetFrom("unvel"), VerifyTarget::UnVel);
-    EXPECT_EQ(VerifyTargetFrom("Fabula"), VerifyTarget::Fabula);
-    EXPECT_EQ(VerifyTargetFrom("ace"), VerifyTarget::Ace);
-    EXPECT_EQ(VerifyTargetFrom("zip"), std::nullopt);
 }
 
 }  // namespace

@@ -34,12 +34,13 @@ class PictureImportTest : public testing::Test {
     }
 
     LoadedPictures Load(const std::string& listing, const std::string& records, int target,
-                        bool isUnVel = false) {
+                        const char* kind = "unmarlo") {
         const auto file = game_.Folder().Path() / "game.lst";
         std::ofstream(file, std::ios::binary) << listing;
         NoObserver nobody;
         JobStatus status(nobody);
-        const auto loaded = LoadGraphics({isUnVel, file, records, target}, *game_, person_, status);
+        const auto loaded =
+            LoadGraphics({*FindFileKind(kind), file, records, target}, *game_, person_, status);
         status_ = status.Text();
         return loaded;
     }
@@ -76,7 +77,7 @@ TEST_F(PictureImportTest, SeveralGoIntoTheRecordsBehindIt) {
 }
 
 TEST_F(PictureImportTest, AListingOfUnVelIsTakenToo) {
-    Load(kUnVel, "3", 0, true);
+    Load(kUnVel, "3", 0, "unvel");
     EXPECT_EQ(Drawing(0), "INK 3 END");
     EXPECT_NE(status_.find("UnVel Graphics Location 3 loaded into graphics location 0"), std::string::npos);
 }
@@ -93,7 +94,7 @@ TEST_F(PictureImportTest, ARecordWithoutALocationIsRefused) {
 }
 
 TEST_F(PictureImportTest, AFileThatIsNoListingIsRefusedInItsOwnWords) {
-    Load("nothing\n", "3", 0, true);
+    Load("nothing\n", "3", 0, "unvel");
     EXPECT_EQ(person_.Boxes().back().text, "Not an UnVEL file");
     Load("nothing\n", "3", 0);
     EXPECT_NE(status_.find("This may not be the proper version of an UnMarlo file."), std::string::npos);

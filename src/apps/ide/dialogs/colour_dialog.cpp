@@ -11,6 +11,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/layout.h"
 #include "qt/strings.h"
 #include "text/colours.h"
@@ -37,22 +38,14 @@ ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
         NewColors(authoring::ColourScreen::kFirstBright, authoring::ColourScreen::kBrightColors));
     current_->setObjectName("current");
     colors->setSpacing(16);
-    auto* update = new QPushButton(tr("&Update"));
-    update->setObjectName("update");
-    update->setDefault(true);
-    auto* exit = new QPushButton(tr("Exit"));
-    exit->setObjectName("exit");
-    exit->setAutoDefault(false);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(update);
-    buttons->addWidget(exit);
+    auto* row = new QHBoxLayout;
+    const auto [update, exit] = AddUpdateAndExit(*row);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(12);
     layout->addLayout(colors);
     layout->addWidget(current_);
-    layout->addLayout(buttons);
+    layout->addLayout(row);
     connect(update, &QPushButton::clicked, this, &QDialog::accept);
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     ShowCurrent();

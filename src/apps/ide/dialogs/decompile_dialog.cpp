@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/option_focus.h"
-#include "ide/editors/layout.h"
+#include "ide/editors/edit_controls.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -27,32 +27,21 @@ constexpr Decompiler kDecompilers[] = {Decompiler::UnMarlo, Decompiler::UnVel};
 }  // namespace
 
 DecompileDialog::DecompileDialog(DecompileScreen& screen, QWidget* parent)
-    : QDialog(parent),
+    : JobDialog({"DecompileScreen", qt::Translated(DecompileScreen::kTitle), "frmunmarlovel.html",
+                 NewButton(tr("&Run"), "run")},
+                parent),
       screen_(screen),
       passL_(new QCheckBox(tr("With the option -&L"))),
-      status_(new QPlainTextEdit),
-      progress_(new QLabel),
-      bar_(new QProgressBar),
-      run_(new QPushButton(tr("&Run"))),
-      exit_(new QPushButton) {
-    setObjectName("DecompileScreen");
-    setWindowTitle(qt::Translated(DecompileScreen::kTitle));
-    setProperty("helpPage", "frmunmarlovel.html");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    column->setSpacing(10);
-    auto* form = new QFormLayout;
-    form->setHorizontalSpacing(16);
-    form->setVerticalSpacing(8);
-    AddOptions(*form);
-    AddFiles(*form);
-    column->addLayout(form);
-    MakeStatus();
-    column->addWidget(status_, 1);
-    column->addWidget(progress_);
-    column->addWidget(bar_);
-    column->addWidget(MakeButtons());
+      progress_(new QLabel) {
+    AddOptions();
+    AddFiles();
+    AddStatus(
+        tr("Status"),
+        tr("The listing that the program writes is read by File, Import. What the program tells stands "
+           "here."),
+        kStatusLines);
+    AddProgress();
+    AddEnd();
     resize(kDecompileSize);
     screen_.changed = [this] { Show(); };
     Show();
@@ -63,7 +52,7 @@ DecompileDialog::~DecompileDialog() {
     screen_.changed = [] {};
 }
 
-void DecompileDialog::AddOptions(QFormLayout& form) {
+void DecompileDialog::AddOptions() {
     // Buttons that share a parent are one group.
     auto* group = new QWidget;
     group->setObjectName("program");
@@ -87,14 +76,14 @@ void DecompileDialog::AddOptions(QFormLayout& form) {
     row->addStretch(1);
     passL_->setObjectName("passL");
     passL_->setAccessibleName(tr("With the option -L"));
-    form.addRow(tr("Program:"), group);
+    Form().addRow(tr("Program:"), group);
 }
 
-void DecompileDialog::AddFiles(QFormLayout& form) {
-    programs_ = {AddFileRow(form, "unMarloProgram", tr("Un&Marlo is:"), "findUnMarlo"),
-                 AddFileRow(form, "unVelProgram", tr("UnV&els is:"), "findUnVel")};
-    input_ = AddFileRow(form, "input", tr("&Game file:"), "chooseInput");
-    output_ = AddFileRow(form, "output", tr("L&isting:"), "chooseOutput");
+void DecompileDialog::AddFiles() {
+    programs_ = {AddFileRow(Form(), "unMarloProgram", tr("Un&Marlo is:"), "findUnMarlo"),
+                 AddFileRow(Form(), "unVelProgram", tr("UnV&els is:"), "findUnVel")};
+    input_ = AddFileRow(Form(), "input", tr("&Game file:"), "chooseInput");
+    output_ = AddFileRow(Form(), "output", tr("L&isting:"), "chooseOutput");
     const auto connectRow = [this](const FileRow& row, const std::function<void()>& choose) {
         QObject::connect(row.field, &QLineEdit::textEdited, this, [this] { ReadFields(); });
         QObject::connect(row.button, &QPushButton::clicked, this, choose);
@@ -107,40 +96,12 @@ void DecompileDialog::AddFiles(QFormLayout& form) {
     QObject::connect(passL_, &QCheckBox::clicked, this, [this](bool on) { screen_.passL = on; });
 }
 
-void DecompileDialog::MakeStatus() {
-    status_->setObjectName("status");
-    status_->setAccessibleName(tr("Status"));
-    status_->setReadOnly(true);
-    status_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    status_->setTabChangesFocus(true);
-    status_->setPlaceholderText(
-        tr("The listing that the program writes is read by File, Import. What the program tells stands "
-           "here."));
-    status_->setMinimumHeight(fontMetrics().lineSpacing() * kStatusLines);
+void DecompileDialog::AddProgress() {
     progress_->setObjectName("progress");
     progress_->setAccessibleDescription(tr("Progress"));
     progress_->setTextFormat(Qt::PlainText);
-    bar_->setObjectName("barProgress");
-    bar_->setAccessibleName(tr("Progress"));
-    bar_->setTextVisible(false);
-}
-
-QWidget* DecompileDialog::MakeButtons() {
-    run_->setObjectName("run");
-    run_->setAccessibleName(tr("Run"));
-    run_->setDefault(true);
-    exit_->setObjectName("exit");
-    exit_->setAutoDefault(false);
-    QObject::connect(run_, &QPushButton::clicked, this, [this] { Run(); });
-    QObject::connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
-    auto* buttons = new QWidget;
-    auto* row = new QHBoxLayout(buttons);
-    row->setContentsMargins(0, 6, 0, 0);
-    row->setSpacing(8);
-    row->addStretch(1);
-    row->addWidget(run_);
-    row->addWidget(exit_);
-    return buttons;
+    Bar().setTextVisible(false);
+    Column().addWidget(progress_);
 }
 
 void DecompileDialog::ReadFields() {
@@ -150,15 +111,10 @@ void DecompileDialog::ReadFields() {
     screen_.output = qt::FromQt(output_.field->text());
 }
 
-void DecompileDialog::Run() {
+void DecompileDialog::Start() {
     const bool done = screen_.Run();
     Show();
-    (done ? exit_ : run_)->setFocus();
-}
-
-void DecompileDialog::reject() {
-    if (screen_.Running()) return screen_.Cancel();
-    QDialog::reject();
+    (done ? ExitButton() : StartButton()).setFocus();
 }
 
 void DecompileDialog::Show() {
@@ -176,16 +132,15 @@ void DecompileDialog::Show() {
     output_.SetEnabled(!running);
     output_.Show(qt::ToQt(screen_.output));
     passL_->setEnabled(!running && screen_.chosen == Decompiler::UnMarlo);
-    run_->setEnabled(!running);
-    exit_->setText(running ? tr("&Cancel") : tr("E&xit"));
-    exit_->setAccessibleName(exit_->text().remove('&'));
+    StartButton().setEnabled(!running);
+    ShowRunning(running);
     progress_->setText(qt::Translated(screen_.ProgressLine()));
     // How long a program will take is not known.
-    bar_->setRange(0, running ? 0 : 1);
+    Bar().setRange(0, running ? 0 : 1);
     const QString status = qt::Translated(screen_.Status());
-    if (status_->toPlainText() == status) return;
-    status_->setPlainText(status);
-    status_->moveCursor(QTextCursor::End);
+    if (Status().toPlainText() == status) return;
+    Status().setPlainText(status);
+    Status().moveCursor(QTextCursor::End);
 }
 
 }  // namespace fabula::ide

@@ -17,7 +17,7 @@
 #include "ide/dialogs/option_focus.h"
 #include "ide/dialogs/status_button.h"
 #include "ide/dialogs/verify_dialog.h"
-#include "ide/editors/layout.h"
+#include "ide/editors/edit_controls.h"
 #include "ide/printing/paper_output.h"
 #include "qt/strings.h"
 
@@ -30,69 +30,33 @@ using authoring::JobMode;
 constexpr QSize kInterchangeSize(620, 540);
 constexpr int kSmallestStatusLines = 1;
 
-struct KindText {
-    std::string_view kind;
-    const char* about;
-};
-
-constexpr KindText kKindTexts[] = {
-    {"UnMarlo", "the listing of a Marlo game"},
-    {"UnVel", "the listing of a VEL game"},
-    {"PCVEL", "a source of the PC engine"},
-    {"Fabula", "an export file of this program"},
-    {"ACE", "an ACE source"},
-};
-
-QString TextOf(const InterchangeScreen::KindOption& option) {
-    const QString name = qt::ToQt(option.name);
-    for (const KindText& text : kKindTexts) {
-        if (text.kind == option.name) return name + ": " + qt::Translated(text.about);
-    }
-    return name;
+QString TextOf(const interchange::FileKind& kind) {
+    return qt::ToQt(kind.name) + ": " + qt::Translated(kind.about);
 }
 
 }  // namespace
 
 InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent),
+    : JobDialog({"InterchangeScreen", qt::Translated(screen.Title()), "frmsrcimport.html",
+                 NewButton(qt::Translated(screen.MainButton()), "start")},
+                parent),
       screen_(screen),
       dialogs_(dialogs),
-      status_(new QPlainTextEdit),
-      bar_(new QProgressBar),
-      import_(new QPushButton(qt::Translated(screen.MainButton()))),
       print_(NewStatusButton(qt::Translated(InterchangeScreen::kPrintButton),
                              {[this] { return screen_.Status(); }, [this] { screen_.SaveStatus(); },
-                              [this] { PrintText(screen_.Status(), screen_.Title(), dialogs_, this); }})),
-      exit_(new QPushButton) {
-    setObjectName("InterchangeScreen");
-    setWindowTitle(qt::Translated(screen.Title()));
-    setProperty("helpPage", "frmsrcimport.html");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    column->setSpacing(10);
-    auto* form = new QFormLayout;
-    form->setHorizontalSpacing(16);
-    form->setVerticalSpacing(8);
-    AddKinds(*form);
-    source_ = AddFile(*form, "source",
-                      screen.Mode() == JobMode::Export ? tr("&Target file:") : tr("&Source file:"),
-                      "chooseSource", &InterchangeScreen::ChooseSource);
+                              [this] { PrintText(screen_.Status(), screen_.Title(), dialogs_, this); }})) {
+    AddKinds();
+    source_ =
+        AddFile("source", screen.Mode() == JobMode::Export ? tr("&Target file:") : tr("&Source file:"),
+                "chooseSource", &InterchangeScreen::ChooseSource);
     if (screen.Mode() == JobMode::Import)
-        database_ = AddFile(*form, "database", tr("&Database:"), "chooseDatabase",
-                            &InterchangeScreen::ChooseDatabase);
-    if (screen.Mode() == JobMode::Import) AddEncodings(*form);
-    if (screen.Mode() == JobMode::LoadGraphic) AddRecords(*form);
-    column->addLayout(form);
-    MakeStatus();
-    auto* label = new QLabel(qt::Translated(screen.StatusCaption()));
-    label->setObjectName("statusCaption");
-    label->setBuddy(status_);
-    column->addSpacing(6);
-    column->addWidget(label);
-    column->addWidget(status_, 1);
-    column->addWidget(bar_);
-    column->addWidget(MakeButtons());
+        database_ =
+            AddFile("database", tr("&Database:"), "chooseDatabase", &InterchangeScreen::ChooseDatabase);
+    if (screen.Mode() == JobMode::Import) AddEncodings();
+    if (screen.Mode() == JobMode::LoadGraphic) AddRecords();
+    AddStatusWithCaption();
+    StartButton().setToolTip(qt::Translated(screen.WhyNot()));
+    AddEnd(print_);
     resize(kInterchangeSize);
 
     screen_.changed = [this] { Show(); };
@@ -114,7 +78,7 @@ InterchangeDialog::~InterchangeDialog() {
     screen_.showNewLocations = [](authoring::NewLocationsScreen&) {};
 }
 
-void InterchangeDialog::AddKinds(QFormLayout& form) {
+void InterchangeDialog::AddKinds() {
     // Buttons that share a parent are one group.
     auto* group = new QWidget;
     group->setObjectName("kind");
@@ -123,13 +87,11 @@ void InterchangeDialog::AddKinds(QFormLayout& form) {
     list->setContentsMargins(0, 0, 0, 0);
     list->setSpacing(2);
     for (std::size_t i = 0; i < screen_.Kinds().size(); ++i) {
-        const auto& option = screen_.Kinds()[i];
-        auto* button = new QRadioButton(TextOf(option));
-        button->setObjectName("kind" + qt::ToQt(option.name));
+        const interchange::FileKind& kind = *screen_.Kinds()[i];
+        auto* button = new QRadioButton(TextOf(kind));
+        button->setObjectName("kind" + qt::ToQt(kind.name));
         button->setAccessibleName(button->text());
-        button->setToolTip(qt::Translated(option.why));
-        button->setAccessibleDescription(qt::Translated(option.why));
-        button->setChecked(option.kind && screen_.ChosenKind() == i);
+        button->setChecked(screen_.ChosenKind() == i);
         TabToChosen(*button);
         QObject::connect(button, &QRadioButton::clicked, this, [this, i] {
             screen_.ChooseKind(i);
@@ -138,10 +100,10 @@ void InterchangeDialog::AddKinds(QFormLayout& form) {
         list->addWidget(button);
         kinds_.push_back(button);
     }
-    form.addRow(tr("Kind:"), group);
+    Form().addRow(tr("Kind:"), group);
 }
 
-void InterchangeDialog::AddEncodings(QFormLayout& form) {
+void InterchangeDialog::AddEncodings() {
     auto* list = new QComboBox;
     list->setObjectName("encoding");
     list->setAccessibleName(tr("Letters"));
@@ -149,16 +111,16 @@ void InterchangeDialog::AddEncodings(QFormLayout& form) {
         list->addItem(qt::Translated(option.name));
     auto* caption = new QLabel(tr("&Letters:"));
     caption->setBuddy(list);
-    form.addRow(caption, list);
+    Form().addRow(caption, list);
     inputs_.push_back(list);
     QObject::connect(list, &QComboBox::currentIndexChanged, this, [this](int chosen) {
         screen_.encoding = InterchangeScreen::Encodings()[static_cast<std::size_t>(chosen)].encoding;
     });
 }
 
-QLineEdit* InterchangeDialog::AddFile(QFormLayout& form, const char* name, const QString& label,
-                                      const char* buttonName, void (InterchangeScreen::*choose)()) {
-    const FileRow row = AddFileRow(form, name, label, buttonName);
+QLineEdit* InterchangeDialog::AddFile(const char* name, const QString& label, const char* buttonName,
+                                      void (InterchangeScreen::*choose)()) {
+    const FileRow row = AddFileRow(Form(), name, label, buttonName);
     inputs_.push_back(row.field);
     inputs_.push_back(row.button);
     QObject::connect(row.field, &QLineEdit::textEdited, this, [this] { ReadFields(); });
@@ -169,48 +131,26 @@ QLineEdit* InterchangeDialog::AddFile(QFormLayout& form, const char* name, const
     return row.field;
 }
 
-void InterchangeDialog::AddRecords(QFormLayout& form) {
+void InterchangeDialog::AddRecords() {
     records_ = new QLineEdit;
     records_->setObjectName("records");
     records_->setAccessibleName(tr("Pictures of the listing"));
     records_->setPlaceholderText(tr("Their numbers, as in 3,7-9"));
     auto* caption = new QLabel(tr("Pict&ures:"));
     caption->setBuddy(records_);
-    form.addRow(caption, records_);
+    Form().addRow(caption, records_);
     inputs_.push_back(records_);
     QObject::connect(records_, &QLineEdit::textEdited, this, [this] { ReadFields(); });
 }
 
-void InterchangeDialog::MakeStatus() {
-    status_->setObjectName("status");
-    status_->setAccessibleName(qt::Translated(screen_.StatusCaption()));
-    status_->setReadOnly(true);
-    status_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    status_->setTabChangesFocus(true);
-    status_->setPlaceholderText(qt::Translated(screen_.WhyNot()));
-    status_->setMinimumHeight(fontMetrics().lineSpacing() * kSmallestStatusLines);
-    bar_->setObjectName("barProgress");
-    bar_->setAccessibleName(tr("Progress"));
-}
-
-QWidget* InterchangeDialog::MakeButtons() {
-    import_->setObjectName("start");
-    import_->setAccessibleName(import_->text().remove('&'));
-    import_->setToolTip(qt::Translated(screen_.WhyNot()));
-    import_->setDefault(true);
-    exit_->setObjectName("exit");
-    exit_->setAutoDefault(false);
-    QObject::connect(import_, &QPushButton::clicked, this, [this] { Import(); });
-    QObject::connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
-    auto* buttons = new QWidget;
-    auto* row = new QHBoxLayout(buttons);
-    row->setContentsMargins(0, 6, 0, 0);
-    row->setSpacing(8);
-    row->addWidget(print_);
-    row->addStretch(1);
-    row->addWidget(import_);
-    row->addWidget(exit_);
-    return buttons;
+void InterchangeDialog::AddStatusWithCaption() {
+    auto* caption = new QLabel(qt::Translated(screen_.StatusCaption()));
+    caption->setObjectName("statusCaption");
+    caption->setBuddy(&Status());
+    Column().addSpacing(6);
+    Column().addWidget(caption);
+    AddStatus(qt::Translated(screen_.StatusCaption()), qt::Translated(screen_.WhyNot()),
+              kSmallestStatusLines);
 }
 
 void InterchangeDialog::ReadFields() {
@@ -219,27 +159,22 @@ void InterchangeDialog::ReadFields() {
     if (records_) screen_.records = qt::FromQt(records_->text());
 }
 
-void InterchangeDialog::Import() {
+void InterchangeDialog::Start() {
     ReadFields();
     const bool done = screen_.RunJob();
     Show();
     if (done) {
-        exit_->setFocus();
-    } else if (import_->isEnabled()) {
+        ExitButton().setFocus();
+    } else if (StartButton().isEnabled()) {
         source_->setFocus();
     }
-}
-
-void InterchangeDialog::reject() {
-    if (screen_.Running()) return screen_.Cancel();
-    QDialog::reject();
 }
 
 void InterchangeDialog::Show() {
     const bool running = screen_.Running();
     for (std::size_t i = 0; i < kinds_.size(); ++i) {
-        kinds_[i]->setEnabled(!running && screen_.Kinds()[i].kind);
-        if (i == screen_.ChosenKind() && screen_.Kinds()[i].kind) kinds_[i]->setChecked(true);
+        kinds_[i]->setEnabled(!running);
+        if (i == screen_.ChosenKind()) kinds_[i]->setChecked(true);
     }
     for (QWidget* input : inputs_)
         input->setEnabled(!running);
@@ -248,33 +183,36 @@ void InterchangeDialog::Show() {
     };
     showText(source_, screen_.source);
     showText(database_, screen_.database);
-    import_->setEnabled(screen_.CanRun());
+    StartButton().setEnabled(screen_.CanRun());
     print_->setEnabled(screen_.CanPrint());
-    exit_->setText(running ? tr("&Cancel") : tr("E&xit"));
-    exit_->setAccessibleName(exit_->text().remove('&'));
+    ShowRunning(running);
     ShowStatus();
+    ShowBar(running);
+}
+
+void InterchangeDialog::ShowBar(bool running) {
     // Without an end the bar only tells that there is work.
     const bool knowsEnd = !running || screen_.BarMaximum() > 0;
-    bar_->setRange(0, knowsEnd ? 100 : 0);
+    Bar().setRange(0, knowsEnd ? 100 : 0);
     if (knowsEnd) {
         const bool finished = !running && !screen_.CanRun() && screen_.CanPrint();
         const auto percent = screen_.BarMaximum() > 0
                                  ? std::min<std::int64_t>(100, screen_.Bar() * 100 / screen_.BarMaximum())
                                  : 0;
-        bar_->setValue(finished ? 100 : static_cast<int>(percent));
+        Bar().setValue(finished ? 100 : static_cast<int>(percent));
     }
 }
 
 void InterchangeDialog::ShowStatus() {
     const std::string& text = screen_.Status();
     if (text.size() < shown_) {
-        status_->clear();
+        Status().clear();
         shown_ = 0;
     }
     if (text.size() == shown_) return;
-    status_->moveCursor(QTextCursor::End);
-    status_->insertPlainText(qt::Translated(std::string_view(text).substr(shown_)));
-    status_->moveCursor(QTextCursor::End);
+    Status().moveCursor(QTextCursor::End);
+    Status().insertPlainText(qt::Translated(std::string_view(text).substr(shown_)));
+    Status().moveCursor(QTextCursor::End);
     shown_ = text.size();
 }
 

@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/strings.h"
@@ -34,23 +35,15 @@ NewLocationsDialog::NewLocationsDialog(authoring::NewLocationsScreen& screen, pl
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(MakeLines());
-    auto* update = new QPushButton(tr("&Update"));
-    update->setObjectName("update");
-    update->setDefault(true);
-    auto* exit = new QPushButton(tr("E&xit"));
-    exit->setObjectName("exit");
-    exit->setAutoDefault(false);
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
-    buttons->addStretch(1);
-    buttons->addWidget(update);
-    buttons->addWidget(exit);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    const auto [update, exit] = AddUpdateAndExit(*row, "E&xit");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     column->setSpacing(10);
     column->addWidget(told);
     column->addWidget(scroll, 1);
-    column->addLayout(buttons);
+    column->addLayout(row);
     QObject::connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
     QObject::connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     if (!fields_.empty()) fields_.front()->setFocus();

@@ -11,6 +11,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "ide/editors/edit_controls.h"
 #include "ide/editors/layout.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
@@ -26,10 +27,7 @@ constexpr int kLettersOfTheList = 70;
 constexpr int kLinesOfTheReadMe = 5;
 
 QPushButton* AddButton(QHBoxLayout& row, const QString& text, const char* name) {
-    auto* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setAccessibleName(QString(text).remove('&'));
-    button->setAutoDefault(false);
+    auto* button = NewButton(text, name);
     row.addWidget(button);
     return button;
 }

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "ide/editors/edit_controls.h"
 #include "ide/printing/sheet_view.h"
 #include "platform/error.h"
 #include "qt/help_request.h"
@@ -69,9 +70,7 @@ PreviewDialog::PreviewDialog(listings::PrintPreview& preview, const PrintService
 
 QPushButton* PreviewDialog::AddButton(QHBoxLayout& buttons, const QString& text, const char* name,
                                       void (PreviewDialog::*click)()) {
-    auto* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
+    auto* button = NewButton(text, name);
     buttons.addWidget(button);
     connect(button, &QPushButton::clicked, this, [this, click] { (this->*click)(); });
     return button;

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/keypad_dialog.h"
+#include "ide/editors/edit_controls.h"
 #include "ide/editors/layout.h"
 #include "listings/outputs.h"
 #include "platform/error.h"
@@ -133,9 +134,7 @@ void PrintDialog::AddButtons(QVBoxLayout& column) {
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     const auto add = [&](const QString& text, const char* name) {
-        auto* button = new QPushButton(text);
-        button->setObjectName(name);
-        button->setAutoDefault(false);
+        auto* button = NewButton(text, name);
         buttons->addWidget(button);
         return button;
     };

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
 #include "qt/help_request.h"
@@ -32,21 +33,13 @@ RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* paren
     changes_->setAccessibleName(tr("What changes"));
     auto* form = new QFormLayout;
     form->addRow(tr("&New number of %1:").arg(qt::Translated(screen.Name())), number_);
-    auto* update = new QPushButton(tr("&Update"));
-    update->setObjectName("update");
-    update->setDefault(true);
-    auto* exit = new QPushButton(tr("Exit"));
-    exit->setObjectName("exit");
-    exit->setAutoDefault(false);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(update);
-    buttons->addWidget(exit);
+    auto* row = new QHBoxLayout;
+    const auto [update, exit] = AddUpdateAndExit(*row);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->addLayout(form);
     layout->addWidget(changes_);
-    layout->addLayout(buttons);
+    layout->addLayout(row);
     connect(number_, &QLineEdit::textChanged, this, [this] { ShowPreview(); });
     connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);

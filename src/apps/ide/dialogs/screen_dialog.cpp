@@ -98,17 +98,9 @@ void ScreenDialog::AddComment() {
 }
 
 void ScreenDialog::AddButtons() {
-    update_ = new QPushButton(tr("&Update"));
-    update_->setObjectName("update");
-    update_->setDefault(true);
-    exit_ = new QPushButton(tr("Exit"));
-    exit_->setObjectName("exit");
-    exit_->setAutoDefault(false);
-    buttons_->addStretch();
-    buttons_->addWidget(update_);
-    buttons_->addWidget(exit_);
-    connect(update_, &QPushButton::clicked, this, [this] { ClickUpdate(); });
-    connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
+    ends_ = AddUpdateAndExit(*buttons_);
+    connect(ends_.update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
+    connect(ends_.exit, &QPushButton::clicked, this, [this] { reject(); });
 }
 
 void ScreenDialog::FocusFirst() {

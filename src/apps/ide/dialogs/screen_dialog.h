@@ -6,9 +6,9 @@
 
 #include "authoring/fields/edit_screen.h"
 #include "ide/dialogs/record_editor.h"
+#include "ide/dialogs/update_and_exit.h"
 
 class QHBoxLayout;
-class QPushButton;
 
 namespace fabula::ide {
 
@@ -62,8 +62,7 @@ class ScreenDialog : public QDialog, public RecordEditor {
     CommentEdit* comment_ = nullptr;
     QHBoxLayout* buttons_;
     bool placed_ = false;  ///< it was shown before
-    QPushButton* update_ = nullptr;
-    QPushButton* exit_ = nullptr;
+    UpdateAndExit ends_;
 };
 
 }  // namespace fabula::ide

@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ide/dialogs/update_and_exit.h"
+#include "ide/editors/edit_controls.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
 #include "platform/error.h"
@@ -28,19 +30,10 @@ SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs
 
     auto* told = new qt::WrappedLabel(tr("The adventure keeps this order. The first field counts most."));
     auto* buttons = new QHBoxLayout;
-    const auto add = [&](const QString& text, const char* name) {
-        auto* button = new QPushButton(text);
-        button->setObjectName(name);
-        button->setAutoDefault(false);
-        buttons->addWidget(button);
-        return button;
-    };
-    auto* plain = add(tr("&Own Order"), "plain");
+    auto* plain = NewButton(tr("&Own Order"), "plain");
     plain->setToolTip(tr("The order that such a table has at first"));
-    buttons->addStretch();
-    auto* update = add(tr("&Update"), "update");
-    update->setDefault(true);
-    auto* exit = add(tr("Exit"), "exit");
+    buttons->addWidget(plain);
+    const auto [update, exit] = AddUpdateAndExit(*buttons);
 
     // Before the buttons join the dialog, so that the keyboard comes to the lines first.
     ShowLevels();

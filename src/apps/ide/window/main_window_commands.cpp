@@ -201,8 +201,7 @@ void MainWindow::Sort() {
 
 void MainWindow::Verify() {
     JobEvents events;
-    authoring::VerifyScreen verify(ide_.CurrentContext().document.Adventure(),
-                                   authoring::VerifyTarget::Play, events);
+    authoring::VerifyScreen verify(ide_.CurrentContext().document.Adventure(), authoring::kForPlay, events);
     VerifyDialog dialog(verify, services_.dialogs, this);
     dialog.goTo = [this](const authoring::VerifyScreen::Entry& entry) { GoTo(entry); };
     dialog.exec();

@@ -1,0 +1,103 @@
+#include "interchange/pc/pc_connections.h"
+
+#include "condacts/parser.h"
+#include "condacts/places.h"
+
+namespace fabula::interchange {
+namespace {
+
+void Append(std::string& list, const std::string& token) {
+    if (!list.empty()) list += ' ';
+    list += token;
+}
+
+}  // namespace
+
+void PcConnections::Begin(const std::vector<std::string_view>&) {
+    Flush();
+    if (locations_) return;
+    locations_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Locations, "locnum");
+}
+
+void PcConnections::Slash(std::string_view line) {
+    Flush();
+    const auto words = SplitSlashLine(line);
+    location_ = RecordNumber(words);
+    if (!location_ || !locations_->Has(*location_)) {
+        location_.reset();
+        job_.Fault(kBadLine);
+        return;
+    }
+    job_.FaultBehind(words, 1);
+    if (!seen_.insert(*location_).second)
+        job_.Fault("ERROR: Location " + std::string(words[0]) + " stands here twice. These exits count.");
+}
+
+void PcConnections::Line(std::string_view line) {
+    const auto tokens = SplitWords(line);
+    if (!location_ || tokens.size() % 2 != 0) {
+        job_.Fault(kBadLine);
+        return;
+    }
+    for (std::size_t i = 0; i < tokens.size(); i += 2)
+        AddExit(tokens[i], tokens[i + 1]);
+}
+
+void PcConnections::AddExit(std::string_view word, std::string_view destination) {
+    const std::string name = job_.Word(word);
+    const condacts::Word* found = job_.words.Find(name, condacts::IsMovementWord);
+    if (found == nullptr) {
+        job_.Fault(name + " is not a valid word", word);
+        return;
+    }
+    const std::optional<int> number = condacts::WholeNumber(destination);
+    if (!number) {
+        job_.Fault("TO location for " + name + "must be numeric", destination);
+        return;
+    }
+    if (!locations_->Has(*number) || condacts::IsSpecialPlace(*number)) {
+        job_.Fault("There is not a location with a number of " + std::string(destination) + " for " + name,
+                   destination);
+        return;
+    }
+    if (LeadsElsewhere(found->number, *number)) {
+        job_.Fault("ERROR: " + name + " leads elsewhere already.", word);
+    }
+    job_.Note(store::TableNum::Locations, *location_, "exits", static_cast<std::size_t>(tokens_),
+              job_.PlaceOf(word));
+    job_.Note(store::TableNum::Locations, *location_, "exits", static_cast<std::size_t>(tokens_) + 1,
+              job_.PlaceOf(destination));
+    Append(exits_, found->word);
+    Append(exits_, std::to_string(*number));
+    Append(numericExits_, std::to_string(found->number));
+    Append(numericExits_, std::to_string(*number));
+    destinations_.emplace(found->number, *number);
+    tokens_ += 2;
+}
+
+bool PcConnections::LeadsElsewhere(int word, int destination) const {
+    const auto found = destinations_.find(word);
+    return found != destinations_.end() && found->second != destination;
+}
+
+void PcConnections::Flush() {
+    if (location_) {
+        store::Cursor& record = locations_->GoTo(*location_);
+        record.SetField("exits", exits_);
+        record.SetField("numericexits", numericExits_);
+        record.SetField("numexits", tokens_);
+        locations_->Update();
+    }
+    location_.reset();
+    exits_.clear();
+    numericExits_.clear();
+    destinations_.clear();
+    tokens_ = 0;
+}
+
+void PcConnections::Finish() {
+    Flush();
+    job_.Status("Loaded Vel Source Location Connections");
+}
+
+}  // namespace fabula::interchange

@@ -1,0 +1,131 @@
+#include "interchange/pc/pc_script_commands.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "condacts/convert.h"
+#include "condacts/limits.h"
+#include "condacts/load.h"
+#include "condacts/parser.h"
+#include "interchange/keyed_table.h"
+
+namespace fabula::interchange {
+namespace {
+
+using condacts::Word;
+using store::Cursor;
+using store::TableNum;
+
+/// Numbers below are directions and conversion nouns.
+constexpr int kFirstFreeNumber = 20;
+
+struct NeededWord {
+    const char* word;
+    int type;
+};
+
+constexpr NeededWord kNeededWords[] = {
+    {"TURN", condacts::kVerb},
+    {"SCRIP", condacts::kNoun},
+    {"ON", condacts::kPreposition},
+    {"OFF", condacts::kPreposition},
+};
+
+struct ScriptCommand {
+    const char* verb;
+    const char* condActs;
+};
+
+constexpr const char* kCommandNoun = "SCRIP";
+constexpr ScriptCommand kCommands[] = {
+    {"TURN", "PREP OFF SCRIPT 0"},
+    {"TURN", "PREP ON SCRIPT 1"},
+    {"LOAD", "SCRIPT 2"},
+};
+
+/// The words of a vocabulary while some are added to it.
+class Vocabulary {
+  public:
+    explicit Vocabulary(store::Adventure& adventure)
+        : words_(condacts::LoadWords(adventure).All()),
+          table_(adventure, TableNum::Vocabulary, "vocindex") {}
+
+    void MakeSureOf(const NeededWord& needed) {
+        std::vector<Word> sameSpelling;
+        std::copy_if(words_.begin(), words_.end(), std::back_inserter(sameSpelling),
+                     [&](const Word& word) { return word.word == needed.word; });
+        if (std::any_of(sameSpelling.begin(), sameSpelling.end(),
+                        [&](const Word& word) { return word.type == needed.type; })) {
+            return;
+        }
+        const std::optional<int> number = FreeNumber(needed.type);
+        const Word word{needed.word, number.value_or(0), needed.type};
+        if (!number || condacts::Clashes(word, sameSpelling)) return;
+        words_.push_back(word);
+        Cursor& record = table_.Add(table_.HighestKey() + 1);
+        record.SetField("word", word.word);
+        record.SetField("vocnum", std::int64_t{word.number});
+        record.SetField("voctypen", std::int64_t{word.type});
+        record.SetField("voctype", std::string(condacts::WordTypeName(word.type)));
+        table_.Update();
+    }
+
+  private:
+    std::optional<int> FreeNumber(int type) const {
+        for (int number = kFirstFreeNumber; number <= condacts::limit::kHighestWord; ++number) {
+            const bool taken = std::any_of(words_.begin(), words_.end(), [&](const Word& word) {
+                return word.type == type && word.number == number;
+            });
+            if (!taken) return number;
+        }
+        return std::nullopt;
+    }
+
+    std::vector<Word> words_;
+    KeyedTable table_;
+};
+
+bool HasEntry(store::Adventure& adventure, const ScriptCommand& command) {
+    store::PreparedQuery entries =
+        adventure.Prepare(TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?");
+    return entries.First({command.verb, kCommandNoun, command.condActs});
+}
+
+void AddEntry(PcSourceJob& job, const ScriptCommand& command, const condacts::WordIndex& words) {
+    const Word* verb =
+        words.Find(command.verb, [](const Word& word) { return word.type == condacts::kVerb; });
+    const Word* noun =
+        words.Find(kCommandNoun, [](const Word& word) { return word.type == condacts::kNoun; });
+    const condacts::Converted numeric = condacts::CondActsToNumeric(command.condActs, job.catalogue, words);
+    if (verb == nullptr || noun == nullptr || !numeric.ok) return;
+    KeyedTable entries(job.context.adventure, TableNum::ProcessTables, "canum");
+    Cursor& record = entries.Add(entries.HighestKey() + 1);
+    record.SetField("estype", std::int64_t{0});
+    record.SetField("w1", verb->word);
+    record.SetField("w2", noun->word);
+    record.SetField("w1num", std::int64_t{verb->number});
+    record.SetField("w2num", std::int64_t{noun->number});
+    record.SetField("numcas", std::int64_t{condacts::CountTokens(command.condActs)});
+    record.SetField("condacts", std::string(command.condActs));
+    record.SetField("numericcondacts", numeric.line);
+    entries.Update();
+}
+
+}  // namespace
+
+void AddScriptCommands(PcSourceJob& job) {
+    store::Adventure& adventure = job.context.adventure;
+    {
+        Vocabulary vocabulary(adventure);
+        for (const NeededWord& needed : kNeededWords)
+            vocabulary.MakeSureOf(needed);
+    }
+    const condacts::WordIndex words = condacts::LoadWords(adventure);
+    for (const ScriptCommand& command : kCommands) {
+        if (!HasEntry(adventure, command)) AddEntry(job, command, words);
+    }
+}
+
+}  // namespace fabula::interchange

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "interchange/keyed_table.h"
+#include "interchange/pc/pc_source_job.h"
+
+namespace fabula::interchange {
+
+/// "/VOC": lines "word number type". A source is a whole game: the default words but the reserved ones go
+/// before it.
+class PcVocabulary final : public PcSection {
+  public:
+    explicit PcVocabulary(PcSourceJob& job) : job_(job) {}
+
+    void Begin(const std::vector<std::string_view>& words) override;
+    void Slash(std::string_view line) override;
+    void Line(std::string_view line) override;
+    void Finish() override;
+
+  private:
+    PcSourceJob& job_;
+    std::unique_ptr<KeyedTable> table_;
+    std::unordered_map<std::string, std::vector<condacts::Word>> bySpelling_;
+};
+
+/// The number of a type by its word in a source, case ignored; nullopt for any other text.
+std::optional<int> FindWordType(std::string_view type);
+
+/// The number of a type by its word in a source, case ignored; any other text is a reserved word.
+int WordTypeFromSource(std::string_view type);
+
+}  // namespace fabula::interchange
