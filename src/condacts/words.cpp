@@ -44,6 +44,10 @@ bool IsAdjectiveOrReserved(const Word& word) {
     return word.type == kAdjective || word.type == kReserved;
 }
 
+bool IsVerbOrNoun(const Word& word) {
+    return word.type == kVerb || word.type == kNoun;
+}
+
 bool IsMovementWord(const Word& word) {
     return word.type == kVerb || (word.type == kNoun && word.number < kFirstPlainNoun);
 }

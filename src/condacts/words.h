@@ -48,6 +48,7 @@ bool AnyWord(const Word& word);
 bool IsNounOrReserved(const Word& word);
 bool IsAdjectiveOrReserved(const Word& word);
 /// A verb, or a noun that may stand in for one.
+bool IsVerbOrNoun(const Word& word);
 bool IsMovementWord(const Word& word);
 bool IsMovementWordOrReserved(const Word& word);
 

@@ -65,7 +65,7 @@ void SavePictures(const std::filesystem::path& target, JobStatus& status) {
         status.AddLoss(fault);
 }
 
-bool IsBlank(const std::filesystem::path& path) {
+bool IsBlankPath(const std::filesystem::path& path) {
     return text::StrEdit(path.string(), "trim").empty();
 }
 
@@ -74,7 +74,7 @@ bool IsBlank(const std::filesystem::path& path) {
 JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
                    const std::filesystem::path& target, bool replace, const JobHost& host) {
     JobStatus status(host.observer);
-    if (IsBlank(source)) {
+    if (IsBlankPath(source)) {
         host.person.Tell("Source File not specified", "Error");
         return ResultOf(false, status);
     }
@@ -117,7 +117,7 @@ JobResult ExportIt(const FileKind& kind, Adventure& adventure, const std::filesy
                    const Verifier& verify, const JobHost& host, const std::string& version) {
     JobStatus status(host.observer);
     status.AddToStatus("CLS");
-    if (IsBlank(target)) {
+    if (IsBlankPath(target)) {
         host.person.Tell("Source File not specified", "Error");
         return ResultOf(false, status);
     }

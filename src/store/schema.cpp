@@ -72,4 +72,8 @@ FieldClass ClassOf(FieldType type) {
     return RowOf(type).fieldClass;
 }
 
+bool IsNumber(FieldType type) {
+    return ClassOf(type) == FieldClass::Number && type != FieldType::Date;
+}
+
 }  // namespace fabula::store

@@ -42,6 +42,8 @@ struct TableSchema {
 std::optional<FieldType> FieldTypeFromTag(std::string_view tag);
 std::string_view TagOf(FieldType type);
 FieldClass ClassOf(FieldType type);
+/// Whether a type holds numbers; a date is none.
+bool IsNumber(FieldType type);
 
 /// What a number of a file stands for: itself, or of those beyond 32 bits, which no field can hold and
 /// other programs may have put there, the nearest that it can.

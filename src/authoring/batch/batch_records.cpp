@@ -32,18 +32,19 @@ void PutComment(const BatchChange& change, RecordComment& comment) {
     Put(change.Text(store::kCommentField), comment.text);
 }
 
-std::string Quoted(std::string_view text) {
+std::string InQuotes(std::string_view text) {
     return "\"" + std::string(text) + "\"";
 }
 
 /// Chooses the word of an object; nothing stands for no word.
-bool ChooseWord(const BatchChange& change, std::string_view field, std::string_view what, DropList& list) {
+bool ChooseWordOf(const BatchChange& change, std::string_view field, std::string_view what,
+                  DropList& list) {
     const auto typed = change.Text(field);
     if (!typed) return true;
     const std::string word = text::UpperCase(text::TrimBlanks(*typed));
     list.ChooseText(word.empty() ? std::string(condacts::kNoWord) : word);
     if (list.Chosen() != nullptr) return true;
-    return change.Refuse(field, Quoted(word) + " is no " + std::string(what) + " of the vocabulary.");
+    return change.Refuse(field, InQuotes(word) + " is no " + std::string(what) + " of the vocabulary.");
 }
 
 void ChoosePlace(const std::string& typed, ObjectScreen& screen) {
@@ -138,8 +139,8 @@ bool StoreObject(BatchWork& work, const BatchChange& change) {
     PutComment(change, *screen.Comment());
     if (const auto place = change.Text("objloc")) ChoosePlace(*place, screen);
     if (!CheckMarloObject(change, screen) || !ChooseAttributes(change, screen) ||
-        !ChooseWord(change, "objnoun", "noun", screen.noun) ||
-        !ChooseWord(change, "objadject", "adjective", screen.adjective))
+        !ChooseWordOf(change, "objnoun", "noun", screen.noun) ||
+        !ChooseWordOf(change, "objadject", "adjective", screen.adjective))
         return false;
     if (change.key.isNew && !screen.Changed()) return change.Refuse("", kEmptyRecord);
     if (screen.Update()) return true;

@@ -15,7 +15,6 @@ namespace {
 using store::TableNum;
 
 constexpr std::string_view kWildCards = "*_%";
-constexpr std::string_view kProcessField = "estype";
 
 /// The number that the text consists of, blanks around it left out.
 std::optional<double> NumberIn(std::string_view text) {
@@ -27,10 +26,6 @@ std::optional<double> NumberIn(std::string_view text) {
     if (read.ec != std::errc() || read.ptr != text.data() + end || !std::isfinite(number))
         return std::nullopt;
     return number;
-}
-
-bool IsNumber(store::FieldType type) {
-    return store::ClassOf(type) == store::FieldClass::Number && type != store::FieldType::Date;
 }
 
 /// What a field is compared with: a number, or a text that it has to contain.
@@ -69,7 +64,7 @@ void FindBox::SetUpFindComboBox(store::Adventure& adventure, TableNum table) {
         if (type == store::FieldType::LongVarWChar && !isComment) longText = fields_.size();
         if (name == before) chosen_ = fields_.size();
         const std::string_view other = rows.Text("altname");
-        fields_.push_back({name, other.empty() ? name : std::string(other), IsNumber(type)});
+        fields_.push_back({name, other.empty() ? name : std::string(other), store::IsNumber(type)});
     }
     if (chosen_ || fields_.empty()) return;
     const auto firstText =

@@ -17,7 +17,7 @@ constexpr std::string_view kRecentSection = "MRUFiles";
 constexpr std::string_view kUsesColumn = "UsesColumn";
 constexpr std::string_view kTabsSection = "OpenTabs";
 
-int NumberOf(const platform::Settings& settings, std::string_view key) {
+int SettingNumber(const platform::Settings& settings, std::string_view key) {
     return text::HexToValue(settings.Get(startup::kSection, key));
 }
 
@@ -95,13 +95,13 @@ void SetUsesColumn(platform::Settings& settings, bool on) {
 
 LastView ReadLastView(const platform::Settings& settings) {
     LastView last;
-    const auto table = static_cast<store::TableNum>(NumberOf(settings, startup::kCurrentSet));
+    const auto table = static_cast<store::TableNum>(SettingNumber(settings, startup::kCurrentSet));
     const store::TableEntry* const entry = store::FindTable(table);
     if (!entry || entry->number != table) return last;
     last.view.table = table;
     if (table == store::TableNum::ProcessTables)
-        last.view.process = std::clamp(NumberOf(settings, startup::kCurrentESNum), 0, kOtherProcesses);
-    last.key = NumberOf(settings, kCurrentEntry);
+        last.view.process = std::clamp(SettingNumber(settings, startup::kCurrentESNum), 0, kOtherProcesses);
+    last.key = SettingNumber(settings, kCurrentEntry);
     return last;
 }
 

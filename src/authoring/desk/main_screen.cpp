@@ -14,6 +14,7 @@
 #include "interchange/starter.h"
 #include "platform/error.h"
 #include "store/create.h"
+#include "store/file_copy.h"
 #include "text/utf8.h"
 
 // The life of the window and of the adventure in it. What it shows is in main_screen_views.cpp, what it
@@ -33,11 +34,6 @@ platform::FileQuestion AdventureQuestion(std::string title, const std::filesyste
     question.extension = "fbd";
     question.start = folder;
     return question;
-}
-
-bool IsSameFile(const std::filesystem::path& left, const std::filesystem::path& right) {
-    std::error_code noSuchFile;
-    return std::filesystem::equivalent(left, right, noSuchFile);
 }
 
 /// What a new adventure says of itself, besides what the default data gives it.
@@ -137,7 +133,7 @@ std::optional<std::filesystem::path> MainScreen::AskNewFile() {
 
 bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup,
                               bool starter) {
-    const bool replacesOpenOne = desk_ && IsSameFile(file, desk_->document.File());
+    const bool replacesOpenOne = desk_ && store::IsSameFile(file, desk_->document.File());
     if (replacesOpenOne) Close();
     const store::CreationHost host{host_.dialogs, host_.clock, host_.events, paths_.defaultData};
     bool created = false;
@@ -165,7 +161,7 @@ bool MainScreen::Open() {
 }
 
 bool MainScreen::OpenFile(const std::filesystem::path& file) {
-    if (desk_ && IsSameFile(file, desk_->document.File())) return true;
+    if (desk_ && store::IsSameFile(file, desk_->document.File())) return true;
     RememberView();
     bool wanted = true;
     const bool opened = Guard([&] {

@@ -45,7 +45,7 @@ struct SearchedText {
     std::string_view key;
     std::string_view text;
 };
-constexpr SearchedText kTexts[] = {
+constexpr SearchedText kSearchedTexts[] = {
     {TableNum::Vocabulary, "vocindex", "word"},      {TableNum::Objects, "objnum", "objdesc"},
     {TableNum::Locations, "locnum", "locshortdesc"}, {TableNum::Locations, "locnum", "locdesc"},
     {TableNum::Flags, "flgnum", "flgdesc"},          {TableNum::ProcDesc, "pmsgnum", "pmsgmsg"},
@@ -58,9 +58,9 @@ std::string Plural(std::size_t count, std::string_view one) {
 
 /// The text that says most of a record of a table.
 const SearchedText* FindText(TableNum table) {
-    const auto* found = std::find_if(std::begin(kTexts), std::end(kTexts),
+    const auto* found = std::find_if(std::begin(kSearchedTexts), std::end(kSearchedTexts),
                                      [&](const SearchedText& entry) { return entry.table == table; });
-    return found == std::end(kTexts) ? nullptr : found;
+    return found == std::end(kSearchedTexts) ? nullptr : found;
 }
 
 }  // namespace
@@ -296,7 +296,7 @@ void Navigator::SearchEntries(std::string_view typed, std::vector<JumpLine>& fou
 void Navigator::SearchTexts(std::string_view typed, std::vector<JumpLine>& found) {
     const std::string wanted = text::LowerCase(typed);
     std::set<std::pair<TableNum, std::int64_t>> seen;
-    for (const SearchedText& searched : kTexts) {
+    for (const SearchedText& searched : kSearchedTexts) {
         const std::string fields = std::string(searched.key) + ", " + std::string(searched.text);
         PreparedQuery rows = followed_->adventure.Prepare(searched.table, fields, "", searched.key);
         for (bool more = rows.First({}); more && found.size() < kMostFound; more = rows.Next()) {

@@ -28,7 +28,6 @@ constexpr std::string_view kVerbField = "w1";
 constexpr std::string_view kNounField = "w2";
 constexpr std::string_view kCutSign = "\u2026";
 constexpr int kWidestColumn = 32767;
-constexpr std::string_view kProcessField = "estype";
 constexpr std::string_view kUsesTitle = "Uses";
 /// The title of a column is no longer, in characters.
 constexpr std::size_t kLongestTitle = 60;
@@ -50,10 +49,6 @@ bool IsHidden(const std::string& field, const store::Adventure& adventure) {
 
 std::string WhereTable(TableNum table) {
     return "tablenum=" + std::to_string(static_cast<int>(table));
-}
-
-bool IsNumber(store::FieldType type) {
-    return store::ClassOf(type) == store::FieldClass::Number && type != store::FieldType::Date;
 }
 
 text::Value Shown(const store::Cursor& records, std::size_t column) {
@@ -124,7 +119,7 @@ void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance, bool 
             columns_.push_back({field,
                                 other.empty() ? field : std::string(text::Left(other, kLongestTitle)),
                                 static_cast<int>(rows.Number("gridwidth")), rows.Text("expand") == "Y",
-                                IsNumber(schema.fields[*place].type)});
+                                store::IsNumber(schema.fields[*place].type)});
         } else if (rows.Text("search") == "Y" || text::EqualsNoCase(field, kProcessField) ||
                    text::EqualsNoCase(field, kHelpPageField)) {
             others.push_back(field);

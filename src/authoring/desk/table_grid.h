@@ -16,6 +16,9 @@
 
 namespace fabula::authoring {
 
+/// The field of an entry that holds the number of its process table.
+inline constexpr std::string_view kProcessField = "estype";
+
 class CondActHelp;
 struct ExplainedCondAct;
 

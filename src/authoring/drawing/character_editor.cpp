@@ -22,7 +22,7 @@ constexpr int kSquares = kSide * kSide;
 enum CharacterCommand : int { kReDraw = 401, kClearChr = 402 };
 constexpr int kFirstCharacterCommand = 401;
 
-Glyph Edited(const Glyph& glyph, CharacterEdit edit) {
+Glyph EditedValues(const Glyph& glyph, CharacterEdit edit) {
     switch (edit) {
         case CharacterEdit::Clear:
             return {};
@@ -112,7 +112,7 @@ void CharacterEditor::Change(const Glyph& squares) {
 }
 
 void CharacterEditor::Do(CharacterEdit edit) {
-    Change(Edited(squares_, edit));
+    Change(EditedValues(squares_, edit));
 }
 
 bool CharacterEditor::Paste(std::string_view text) {

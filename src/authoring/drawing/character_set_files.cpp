@@ -5,7 +5,7 @@
 namespace fabula::authoring {
 namespace {
 
-constexpr const char* kFilter = "Character Set File|*.chr";
+constexpr const char* kCharacterFilter = "Character Set File|*.chr";
 
 }  // namespace
 
@@ -20,7 +20,7 @@ bool CharacterSetFiles::Begin() {
     }
     platform::FileQuestion question;
     question.title = Title();
-    question.filter = kFilter;
+    question.filter = kCharacterFilter;
     question.start = adventure.GameDir();
     const auto file = context_.dialogs.ChooseFile(question);
     if (!file) return false;
@@ -49,7 +49,7 @@ bool CharacterSetFiles::Save() {
     if (selected.empty()) return Refuse(context_.dialogs, "No Set is selected");
     platform::FileQuestion question;
     question.title = "Save as a Character Set File";
-    question.filter = kFilter;
+    question.filter = kCharacterFilter;
     question.extension = "chr";
     question.forWriting = true;
     question.start = context_.document.Adventure().GameDir();

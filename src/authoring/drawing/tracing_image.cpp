@@ -9,14 +9,14 @@
 namespace fabula::authoring {
 namespace {
 
-constexpr std::string_view kSection = "Tracing";
+constexpr std::string_view kTracingSection = "Tracing";
 constexpr std::string_view kBar = "|";
 
 std::string KeyOf(const std::filesystem::path& adventure, int picture) {
     return platform::PlaceCode(adventure) + "-" + std::to_string(picture);
 }
 
-int NumberOf(std::string_view text, int lowest, int highest) {
+int NumberWithin(std::string_view text, int lowest, int highest) {
     return static_cast<int>(
         std::clamp<std::int64_t>(text::WholeNumber(text).value_or(lowest), lowest, highest));
 }
@@ -25,17 +25,17 @@ int NumberOf(std::string_view text, int lowest, int highest) {
 
 std::optional<TracingImage> FindTracing(const platform::Settings& settings,
                                         const std::filesystem::path& adventure, int picture) {
-    const std::string value = settings.Get(kSection, KeyOf(adventure, picture));
+    const std::string value = settings.Get(kTracingSection, KeyOf(adventure, picture));
     const auto pieces = text::Split(value, kBar);
     constexpr std::size_t kPieces = 5;
     if (pieces.size() < kPieces) return std::nullopt;
     // The name of a file may hold a bar itself, so it comes last.
     const std::size_t behindNumbers =
         pieces[0].size() + pieces[1].size() + pieces[2].size() + pieces[3].size() + 4 * kBar.size();
-    return TracingImage{value.substr(behindNumbers), NumberOf(pieces[0], 0, 100),
-                        NumberOf(pieces[1], -kWidestTracing, kWidestTracing),
-                        NumberOf(pieces[2], -kWidestTracing, kWidestTracing),
-                        NumberOf(pieces[3], kNarrowestTracing, kWidestTracing)};
+    return TracingImage{value.substr(behindNumbers), NumberWithin(pieces[0], 0, 100),
+                        NumberWithin(pieces[1], -kWidestTracing, kWidestTracing),
+                        NumberWithin(pieces[2], -kWidestTracing, kWidestTracing),
+                        NumberWithin(pieces[3], kNarrowestTracing, kWidestTracing)};
 }
 
 void KeepTracing(platform::Settings& settings, const std::filesystem::path& adventure, int picture,
@@ -46,7 +46,7 @@ void KeepTracing(platform::Settings& settings, const std::filesystem::path& adve
             value.append(std::to_string(number)).append(kBar);
         value += tracing->file.string();
     }
-    settings.Set(kSection, KeyOf(adventure, picture), value);
+    settings.Set(kTracingSection, KeyOf(adventure, picture), value);
 }
 
 }  // namespace fabula::authoring

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "condacts/load.h"
+#include "condacts/words.h"
 #include "text/fields.h"
 #include "text/utf8.h"
 
@@ -31,12 +32,8 @@ bool IsNoun(const Word& word) {
     return word.type == condacts::kNoun;
 }
 
-bool IsVerbOrNoun(const Word& word) {
-    return word.type == condacts::kVerb || word.type == condacts::kNoun;
-}
-
 constexpr WordFields kFields[] = {
-    {"processtables", "w1", "w1num", IsVerbOrNoun},
+    {"processtables", "w1", "w1num", condacts::IsVerbOrNoun},
     {"processtables", "w2", "w2num", IsNoun},
     {"objects", "objnoun", "objnumnoun", IsNoun},
     {"objects", "objadject", "objnumadject", IsAdjective},

@@ -109,7 +109,7 @@ std::string Quoted(ParamKind kind, const std::string& meaning) {
     return std::string("\u201C").append(meaning).append("\u201D");
 }
 
-bool IsLetter(char c) {
+bool IsLetterOfAText(char c) {
     return static_cast<unsigned char>(c) > ' ' &&
            std::string_view(".,;:!?\"'()-").find(c) == std::string_view::npos;
 }
@@ -119,7 +119,7 @@ bool BeginsWith(std::string_view text, std::string_view typed) {
 }
 
 /// What a number stands for is sought by its words, but not by digits: those are of the number.
-bool Matches(const Completion& completion, std::string_view typed) {
+bool BeginsOrHolds(const Completion& completion, std::string_view typed) {
     if (BeginsWith(completion.insert, typed)) return true;
     return !condacts::WholeNumber(typed) && HasWordWith(completion.shown, typed);
 }
@@ -131,7 +131,7 @@ bool HasWordWith(std::string_view text, std::string_view typed) {
     const std::string sought = text::LowerCase(typed);
     for (std::size_t at = lowered.find(sought); at != std::string::npos;
          at = lowered.find(sought, at + 1)) {
-        if (at == 0 || !IsLetter(lowered[at - 1])) return true;
+        if (at == 0 || !IsLetterOfAText(lowered[at - 1])) return true;
     }
     return false;
 }
@@ -233,7 +233,7 @@ Completions CondActHelp::Complete(std::string_view line, std::size_t cursor) con
         return found;
     }
     for (Completion& item : Parameters(*place.condAct, place.parameter)) {
-        if (Matches(item, typed) && Fits(place, item.insert)) found.items.push_back(std::move(item));
+        if (BeginsOrHolds(item, typed) && Fits(place, item.insert)) found.items.push_back(std::move(item));
     }
     return found;
 }

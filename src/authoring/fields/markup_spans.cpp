@@ -20,7 +20,7 @@ std::size_t SeparatorAt(std::string_view text, std::size_t at) {
     return rest.starts_with(text::kLineEndMarker) ? text::kLineEndMarker.size() : 0;
 }
 
-std::vector<Piece> WordsOf(std::string_view text) {
+std::vector<Piece> MarkupWords(std::string_view text) {
     std::vector<Piece> words;
     std::size_t begin = 0;
     for (std::size_t at = 0; at < text.size();) {
@@ -84,7 +84,7 @@ std::vector<MarkupSpan> MarkupSpans(std::string_view text, bool tagsAllowed,
     std::vector<MarkupSpan> spans;
     std::vector<MarkupSpan> faults;
     int wordNumber = 0;
-    for (const Piece& place : WordsOf(text)) {
+    for (const Piece& place : MarkupWords(text)) {
         const std::string_view word = text.substr(place.begin, place.size);
         for (const Piece& piece : PiecesOf(word))
             AddMarkup(word.substr(piece.begin, piece.size), place.begin + piece.begin, spans);
@@ -100,7 +100,7 @@ std::vector<MarkupSpan> MarkupSpans(std::string_view text, bool tagsAllowed,
 std::optional<DescriptionFault> FirstFault(std::string_view text, bool tagsAllowed,
                                            const text::TagCatalogue& tags) {
     int wordNumber = 0;
-    for (const Piece& place : WordsOf(text)) {
+    for (const Piece& place : MarkupWords(text)) {
         const std::string_view word = text.substr(place.begin, place.size);
         text::Verdict verdict = text::ValidateWord(word, ++wordNumber, tagsAllowed, tags);
         if (verdict.IsValid()) continue;

@@ -18,7 +18,7 @@ constexpr char kQuote = '"';
 constexpr char kAt = '@';
 
 /// The name that begins at a byte of the line.
-TypedName NameFrom(std::string_view line, std::size_t begin) {
+TypedName TypedNameFrom(std::string_view line, std::size_t begin) {
     TypedName name{.begin = begin, .end = line.size(), .text = "", .quoted = line[begin] == kQuote};
     const std::size_t close = line.find(name.quoted ? kQuote : ' ', begin + 1);
     const std::size_t end = std::min(close, line.size());
@@ -53,7 +53,7 @@ std::optional<TypedName> CondActHelp::FirstName(std::string_view line) const {
     const Place place = Find(line, token.position + token.text.size());
     if (!place.known || place.condAct == nullptr) return std::nullopt;
     if (place.condAct->params[place.parameter].kind == ParamKind::Value) return std::nullopt;
-    return NameFrom(line, token.position);
+    return TypedNameFrom(line, token.position);
 }
 
 /// The records that may stand at a place and have the text in theirs, those that are called just so first.

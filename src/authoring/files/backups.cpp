@@ -23,7 +23,7 @@ using std::filesystem::path;
 constexpr const char* kExtension = ".fbd";
 constexpr std::size_t kChunk = 65536;
 
-std::string NameOf(const path& adventure) {
+std::string NameOfCopy(const path& adventure) {
     return platform::SafeFileName(adventure.stem().string());
 }
 
@@ -83,7 +83,7 @@ void CopyWhileLocked(store::Adventure& adventure, const path& target) {
 
 /// The place of a copy in the order of making, from the number behind its date and time; the first has
 /// none.
-std::int64_t NumberOf(const std::string& name, const path& copy) {
+std::int64_t NumberOfCopy(const std::string& name, const path& copy) {
     const std::string stem = copy.stem().string();
     const std::size_t behindDate = name.size() + kForm.size() + 1;
     if (stem.size() <= behindDate) return 1;
@@ -123,11 +123,11 @@ std::vector<std::string> DaysUpTo(const platform::DateTime& last, int count) {
 Backups::Backups(path folder, const platform::Clock& clock) : folder_(std::move(folder)), clock_(clock) {}
 
 path Backups::FolderOf(const path& adventure) const {
-    return folder_ / (NameOf(adventure) + "-" + platform::PlaceCode(adventure));
+    return folder_ / (NameOfCopy(adventure) + "-" + platform::PlaceCode(adventure));
 }
 
 std::vector<path> Backups::Of(const path& adventure) const {
-    const std::string name = NameOf(adventure);
+    const std::string name = NameOfCopy(adventure);
     std::vector<path> copies;
     std::error_code error;  // without the folder there is no copy yet
     for (std::filesystem::directory_iterator entry(FolderOf(adventure), error), end; !error && entry != end;
@@ -136,8 +136,8 @@ std::vector<path> Backups::Of(const path& adventure) const {
     }
     // Copies of older programs have no numbers but for those of the same second; their dates tell.
     std::sort(copies.begin(), copies.end(), [&](const path& left, const path& right) {
-        return std::pair(NumberOf(name, right), right.stem().string()) <
-               std::pair(NumberOf(name, left), left.stem().string());
+        return std::pair(NumberOfCopy(name, right), right.stem().string()) <
+               std::pair(NumberOfCopy(name, left), left.stem().string());
     });
     return copies;
 }
@@ -147,7 +147,7 @@ std::vector<Backup> Backups::List(const path& adventure) const {
     for (const path& copy : Of(adventure)) {
         std::error_code error;  // a copy that goes meanwhile shows as empty
         const std::uintmax_t size = std::filesystem::file_size(copy, error);
-        backups.push_back({copy, TimeOf(NameOf(adventure), copy), error ? 0 : size});
+        backups.push_back({copy, TimeOf(NameOfCopy(adventure), copy), error ? 0 : size});
     }
     return backups;
 }
@@ -156,7 +156,7 @@ void Backups::DeleteOld(const path& adventure) const {
     const std::vector<path> copies = Of(adventure);
     std::vector<std::string> wanted = DaysUpTo(clock_.Now(), kDaysKept);
     for (std::size_t i = 0; i < copies.size(); ++i) {
-        const bool lastOfItsDay = std::erase(wanted, DayOf(NameOf(adventure), copies[i])) > 0;
+        const bool lastOfItsDay = std::erase(wanted, DayOf(NameOfCopy(adventure), copies[i])) > 0;
         if (i >= kMostBackups && !lastOfItsDay) std::filesystem::remove(copies[i]);
     }
 }
@@ -167,10 +167,10 @@ std::optional<path> Backups::Add(store::Adventure& adventure) {
     try {
         const path folder = FolderOf(source);
         std::filesystem::create_directories(folder);
-        const std::string name = NameOf(source);
+        const std::string name = NameOfCopy(source);
         const std::vector<path> before = Of(source);
         std::string stem = name + "_" + Stamp(clock_.Now());
-        if (!before.empty()) stem += "_" + std::to_string(NumberOf(name, before.front()) + 1);
+        if (!before.empty()) stem += "_" + std::to_string(NumberOfCopy(name, before.front()) + 1);
         const path target = folder / (stem + kExtension);
         const store::TemporaryFile making(target);
         CopyWhileLocked(adventure, making.Path());

@@ -10,7 +10,7 @@ namespace {
 
 using std::filesystem::path;
 
-bool IsPlainFile(const path& file) {
+bool IsFileThere(const path& file) {
     std::error_code missing;  // what can't be looked at counts as gone
     return std::filesystem::is_regular_file(file, missing);
 }
@@ -22,13 +22,13 @@ struct Wanted {
 };
 
 constexpr Wanted kDefaultData{startup::kDefaultName, "Fabula.ini", "Cannot find the Fabula.ini. Aborting"};
-constexpr Wanted kHelp{startup::kHelpName, "help/contents.html",
-                       "Cannot find the Fabula Help File. Aborting"};
+constexpr Wanted kWantedHelp{startup::kHelpName, "help/contents.html",
+                             "Cannot find the Fabula Help File. Aborting"};
 
 std::optional<path> Find(const Wanted& wanted, platform::Settings& settings,
                          const std::vector<path>& folders, platform::Operator& person) {
     const path remembered = settings.Get(startup::kSection, wanted.key);
-    if (IsPlainFile(remembered)) return remembered;
+    if (IsFileThere(remembered)) return remembered;
     auto found = platform::FindFile(folders, wanted.name);
     if (found) {
         settings.Set(startup::kSection, wanted.key, found->string());
@@ -44,14 +44,14 @@ std::optional<ProgramFiles> FindProgramFiles(platform::Settings& settings, const
                                              platform::Operator& person) {
     const auto defaultData = Find(kDefaultData, settings, folders, person);
     if (!defaultData) return std::nullopt;
-    const auto help = Find(kHelp, settings, folders, person);
+    const auto help = Find(kWantedHelp, settings, folders, person);
     if (!help) return std::nullopt;
     return ProgramFiles{*defaultData, *help};
 }
 
 path LastFile(const platform::Settings& settings) {
     const path file = settings.Get(startup::kSection, startup::kFile);
-    return IsPlainFile(file) ? file : path();
+    return IsFileThere(file) ? file : path();
 }
 
 }  // namespace fabula::authoring

@@ -29,7 +29,7 @@ constexpr std::array<ProgramRow, 2> kPrograms{{
     {"FabulaEngine", "engversion", "EngVersion"},
 }};
 
-const ProgramRow& RowOf(Program program) {
+const ProgramRow& ProgramRowOf(Program program) {
     return kPrograms[static_cast<std::size_t>(program)];
 }
 
@@ -82,11 +82,11 @@ std::string DateText(const platform::DateTime& date) {
 }  // namespace
 
 std::string_view NameOf(Program program) {
-    return RowOf(program).name;
+    return ProgramRowOf(program).name;
 }
 
 std::string NoteVersion(store::Adventure& adventure, Program program, std::string_view version) {
-    const ProgramRow& row = RowOf(program);
+    const ProgramRow& row = ProgramRowOf(program);
     store::PreparedQuery known =
         adventure.Prepare(store::TableNum::Tables, "fieldname", "tablenum=30 and fieldname='Engversion'");
     const bool isKnown = known.First({});
@@ -104,7 +104,7 @@ std::string NoteVersion(store::Adventure& adventure, Program program, std::strin
 
 std::string ListVersion(const std::vector<path>& folders, Program program, std::string_view version,
                         const platform::DateTime& today) {
-    const std::string_view name = RowOf(program).name;
+    const std::string_view name = ProgramRowOf(program).name;
     for (const path& folder : folders) {
         if (Lists(ReadStart(folder / kFileName), name, version)) return {};
     }

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 using platform::ProgramEnd;
 
-constexpr std::string_view kSection = "Decompile";
+constexpr std::string_view kDecompileSection = "Decompile";
 constexpr std::string_view kFolder = "QPLoc";
 /// A program has any name on this system, so that all files are shown first.
 constexpr const char* kExecutables = "All files|*.*|Executables|*.exe";
@@ -43,12 +43,12 @@ constexpr std::array<DecompilerRow, 2> kRows{{
      "Save as UnVeled File", "UnVeled File (*.unp)|*.unp", "unp"},
 }};
 
-std::size_t IndexOf(Decompiler decompiler) {
+std::size_t PlaceOfDecompiler(Decompiler decompiler) {
     return static_cast<std::size_t>(decompiler);
 }
 
-const DecompilerRow& RowOf(Decompiler decompiler) {
-    return kRows[IndexOf(decompiler)];
+const DecompilerRow& DecompilerRowOf(Decompiler decompiler) {
+    return kRows[PlaceOfDecompiler(decompiler)];
 }
 
 /// Small and capital letters count alike, as the programs' own names are written either way.
@@ -86,12 +86,12 @@ std::string WithCommas(std::uintmax_t number) {
 
 DecompileScreen::DecompileScreen(const DecompileHost& host) : host_(host) {
     for (std::size_t i = 0; i < kRows.size(); ++i)
-        programs[i] = host_.settings.Get(kSection, kRows[i].name);
+        programs[i] = host_.settings.Get(kDecompileSection, kRows[i].name);
 }
 
 void DecompileScreen::FindProgram(Decompiler decompiler) {
-    const DecompilerRow& row = RowOf(decompiler);
-    std::string& program = programs[IndexOf(decompiler)];
+    const DecompilerRow& row = DecompilerRowOf(decompiler);
+    std::string& program = programs[PlaceOfDecompiler(decompiler)];
     const auto file = host_.dialogs.ChooseFile(
         {std::string(row.findTitle), kExecutables, "", false, fs::path(text::Trimmed(program))});
     if (!file) return;
@@ -100,13 +100,13 @@ void DecompileScreen::FindProgram(Decompiler decompiler) {
         return;
     }
     program = file->string();
-    host_.settings.Set(kSection, row.name, program);
+    host_.settings.Set(kDecompileSection, row.name, program);
     changed();
 }
 
 void DecompileScreen::ChooseInput() {
     if (!chosen) return void(Refuse(host_.dialogs, "No Program Selected"));
-    const DecompilerRow& row = RowOf(*chosen);
+    const DecompilerRow& row = DecompilerRowOf(*chosen);
     const auto file = host_.dialogs.ChooseFile(
         {std::string(row.inputTitle), std::string(row.inputFilter), "", false, LastFolder()});
     if (!file) return;
@@ -119,7 +119,7 @@ void DecompileScreen::ChooseInput() {
 
 void DecompileScreen::ChooseOutput() {
     if (!chosen) return void(Refuse(host_.dialogs, "No Program Selected"));
-    const DecompilerRow& row = RowOf(*chosen);
+    const DecompilerRow& row = DecompilerRowOf(*chosen);
     const fs::path start = text::Trimmed(output).empty() ? LastFolder() : fs::path(text::Trimmed(output));
     const auto file = host_.dialogs.ChooseFile({std::string(row.outputTitle), std::string(row.outputFilter),
                                                 std::string(row.extension), true, start});
@@ -131,18 +131,18 @@ void DecompileScreen::ChooseOutput() {
 }
 
 fs::path DecompileScreen::LastFolder() const {
-    return host_.settings.Get(kSection, kFolder);
+    return host_.settings.Get(kDecompileSection, kFolder);
 }
 
 void DecompileScreen::RememberFolder(const fs::path& file) {
-    host_.settings.Set(kSection, kFolder, file.parent_path().string());
+    host_.settings.Set(kDecompileSection, kFolder, file.parent_path().string());
 }
 
 bool DecompileScreen::Run() {
     if (running_ || !MayRun()) return false;
-    const fs::path program = fs::absolute(text::Trimmed(programs[IndexOf(*chosen)]));
-    host_.settings.Set(kSection, RowOf(*chosen).name, program.string());
-    programs[IndexOf(*chosen)] = program.string();
+    const fs::path program = fs::absolute(text::Trimmed(programs[PlaceOfDecompiler(*chosen)]));
+    host_.settings.Set(kDecompileSection, DecompilerRowOf(*chosen).name, program.string());
+    programs[PlaceOfDecompiler(*chosen)] = program.string();
     input = fs::absolute(text::Trimmed(input)).string();
     output = Collapsed(fs::absolute(text::Trimmed(output))).string();
     for (const Step& step : Steps()) {
@@ -165,9 +165,9 @@ bool DecompileScreen::MayRun() {
 }
 
 bool DecompileScreen::HasProgram(Decompiler decompiler) {
-    const DecompilerRow& row = RowOf(decompiler);
+    const DecompilerRow& row = DecompilerRowOf(decompiler);
     const std::string name(row.name);
-    const std::string program = text::Trimmed(programs[IndexOf(decompiler)]);
+    const std::string program = text::Trimmed(programs[PlaceOfDecompiler(decompiler)]);
     if (program.empty()) return Refuse(host_.dialogs, "No Location for the " + name + " program");
     if (!IsFile(program))
         return Refuse(host_.dialogs, "The " + name + " program is no longer where you said it was.");
@@ -225,9 +225,9 @@ bool DecompileScreen::RunStep(const Step& step) {
     const store::TemporaryFile written(step.output);
     writing_ = step.output;
     bytes_ = 0;
-    Say("Running " + std::string(RowOf(*chosen).name) + " for " + step.output.string());
+    Say("Running " + std::string(DecompilerRowOf(*chosen).name) + " for " + step.output.string());
     const ProgramEnd end = host_.programs.Run(
-        {programs[IndexOf(*chosen)], step.arguments, written.Path(), step.output.parent_path()},
+        {programs[PlaceOfDecompiler(*chosen)], step.arguments, written.Path(), step.output.parent_path()},
         [&] { return GoesOn(written.Path()); });
     bytes_ = SizeOf(written.Path());
     return Keep(end, step, written.Path());
@@ -245,7 +245,7 @@ bool DecompileScreen::GoesOn(const fs::path& written) {
 /// Takes what the program has written, and tells how it ended. A program that exits with another status
 /// than 0 may have written all the same: what there is of a listing decides.
 bool DecompileScreen::Keep(const ProgramEnd& end, const Step& step, const fs::path& written) {
-    const std::string name(RowOf(*chosen).name);
+    const std::string name(DecompilerRowOf(*chosen).name);
     if (!end.errors.empty()) {
         Say(name + " tells:");
         Say(text::SafeLines(text::StrEdit(end.errors, "trim")));

@@ -10,6 +10,7 @@
 #include "authoring/jobs/status_text.h"
 #include "platform/error.h"
 #include "platform/whole_file.h"
+#include "store/file_copy.h"
 #include "text/str_edit.h"
 
 namespace fabula::authoring {
@@ -64,11 +65,6 @@ std::string BeginningOf(const path& file) {
     } catch (const Error&) {
         return "";
     }
-}
-
-bool IsSameFile(const path& left, const path& right) {
-    std::error_code missing;  // what is not there is no file
-    return std::filesystem::equivalent(left, right, missing);
 }
 
 /// "sce" of "*.sce".
@@ -196,9 +192,9 @@ bool InterchangeScreen::ImportIt() {
     path target = database;
     if (!target.has_extension()) target += ".fbd";
     database = target.string();
-    if (IsSameFile(source, target))
+    if (store::IsSameFile(source, target))
         return Refuse(host_.dialogs, "The database cannot be the source file itself");
-    if (adventure_ && IsSameFile(target, adventure_->CurrentFile()))
+    if (adventure_ && store::IsSameFile(target, adventure_->CurrentFile()))
         return Refuse(host_.dialogs, "The database cannot be the open adventure itself");
     if (!MayReplace(target)) return false;
     const bool imported =
@@ -213,7 +209,7 @@ bool InterchangeScreen::ExportIt() {
     path target = source;
     if (!target.has_extension()) target += std::string(Kind().extension);
     source = target.string();
-    if (IsSameFile(target, adventure_->CurrentFile()))
+    if (store::IsSameFile(target, adventure_->CurrentFile()))
         return Refuse(host_.dialogs, "The export cannot be written over the adventure itself");
     if (!MayReplace(target)) return false;
     const auto verifier = [this](store::Adventure& adventure, const FileKind& kind,

@@ -13,6 +13,7 @@
 #include "authoring/fields/text_field.h"
 #include "condacts/load.h"
 #include "condacts/places.h"
+#include "condacts/words.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -61,10 +62,6 @@ std::optional<int> LocationNumber(std::string_view typed) {
     if (!number) return std::nullopt;
     const bool possible = *number >= 0 && *number <= std::numeric_limits<int>::max();
     return possible ? static_cast<int>(*number) : -1;
-}
-
-bool IsVerbOrNoun(const condacts::Word& word) {
-    return word.type == condacts::kVerb || word.type == condacts::kNoun;
 }
 
 /// Directions come first, by their number: what is typed is completed by the first word that fits.
@@ -166,7 +163,7 @@ bool LocationScreen::CheckLocation(std::string_view control, std::string_view nu
 bool LocationScreen::CheckExit(std::string_view control, std::string_view word, std::string_view location) {
     const std::string typed(word);
     if (words_.Find(word) == nullptr) return RefuseField(control, typed + " is not a valid word");
-    if (words_.Find(word, IsVerbOrNoun) == nullptr) {
+    if (words_.Find(word, condacts::IsVerbOrNoun) == nullptr) {
         return RefuseField(control, typed + " is not a Verb or conversion Noun");
     }
     if (words_.Find(word, condacts::IsMovementWord) == nullptr) {

@@ -23,7 +23,7 @@ using store::TableNum;
 constexpr int kTestNote = 0;  ///< middle C
 constexpr std::chrono::milliseconds kTestLength(1000);
 
-int NumberOf(const Cursor& record, std::string_view field) {
+int NumberOfSetting(const Cursor& record, std::string_view field) {
     return static_cast<int>(record.Number(field));
 }
 
@@ -93,18 +93,18 @@ void SettingsScreen::ReadGame(const Cursor& record) {
 }
 
 void SettingsScreen::ReadLook(const Cursor& record) {
-    const int width = NumberOf(record, "defprintwidth");
+    const int width = NumberOfSetting(record, "defprintwidth");
     printWidth.items = PrintWidthItems(width);
     printWidth.ChooseNumber(width);
-    paper = NumberOf(record, "BackColor");
-    ink = NumberOf(record, "TextColor");
+    paper = NumberOfSetting(record, "BackColor");
+    ink = NumberOfSetting(record, "TextColor");
     charSets = record.Truth("charsets");
     graphics = record.Truth("graphics");
     graphicsInDb = record.Truth("graphicsindb");
     font.items = charSets ? CharSetItems(Adventure()) : FontItems(Adventure());
     otherFonts_.items = charSets ? FontItems(Adventure()) : CharSetItems(Adventure());
-    if (!record.IsNull("Font")) font.ChooseNumber(NumberOf(record, "Font"));
-    fontSize.ChooseNumber(NumberOf(record, "FontSize"));
+    if (!record.IsNull("Font")) font.ChooseNumber(NumberOfSetting(record, "Font"));
+    fontSize.ChooseNumber(NumberOfSetting(record, "FontSize"));
     defaultPicture = text::Trimmed(record.Text("defpicloc"));
 }
 
@@ -120,18 +120,18 @@ void SettingsScreen::ReadAbout(const Cursor& record) {
 
 void SettingsScreen::ReadSound(const Cursor& record, const std::vector<std::string>& devices) {
     sound = record.Truth("sound");
-    channel.ChooseNumber(NumberOf(record, "defsndchan"));
-    voice.ChooseNumber(NumberOf(record, "defsndvoice"));
-    volume = NumberOf(record, "defsndvol");
-    balance = NumberOf(record, "defsndbal");
-    bass = NumberOf(record, "defsndbass");
+    channel.ChooseNumber(NumberOfSetting(record, "defsndchan"));
+    voice.ChooseNumber(NumberOfSetting(record, "defsndvoice"));
+    volume = NumberOfSetting(record, "defsndvol");
+    balance = NumberOfSetting(record, "defsndbal");
+    bass = NumberOfSetting(record, "defsndbass");
     device.items = DeviceItems(devices);
     std::string wanted = text::Trimmed(record.Text("defsnddevname"));
     if (wanted.empty()) wanted = kMidiMapper;
     device.ChooseText(wanted);
     if (device.index >= 0) return;
     // The game was made on a system with another device.
-    device.items.push_back({NumberOf(record, "defsnddev"), wanted});
+    device.items.push_back({NumberOfSetting(record, "defsnddev"), wanted});
     device.ChooseText(wanted);
 }
 

@@ -6,6 +6,7 @@
 #include "condacts/convert.h"
 #include "condacts/parser.h"
 #include "condacts/places.h"
+#include "condacts/words.h"
 #include "interchange/source_file.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -57,12 +58,8 @@ const Companion* Find(std::string_view numericField) {
     return nullptr;
 }
 
-bool IsVerbOrNoun(const Word& word) {
-    return word.type == condacts::kVerb || word.type == condacts::kNoun;
-}
-
 bool IsFirstWord(const Word& word) {
-    return IsVerbOrNoun(word) || word.type == condacts::kReserved;
+    return condacts::IsVerbOrNoun(word) || word.type == condacts::kReserved;
 }
 
 std::string WordText(const WordIndex& words, std::int64_t number, condacts::WordTest test) {
@@ -135,7 +132,7 @@ std::string CompanionTexts::ExitsText(std::string_view numericExits) const {
     for (std::size_t i = 0; i + 1 < tokens.size(); i += 2) {
         const auto number = text::WholeNumber(tokens[i]);
         if (!text.empty()) text += ' ';
-        text += WordText(words_, number.value_or(-1), IsVerbOrNoun);
+        text += WordText(words_, number.value_or(-1), condacts::IsVerbOrNoun);
         text += ' ';
         text += tokens[i + 1];
     }

@@ -6,7 +6,7 @@
 namespace fabula::interchange {
 namespace {
 
-void Append(std::string& list, const std::string& token) {
+void AppendExit(std::string& list, const std::string& token) {
     if (!list.empty()) list += ' ';
     list += token;
 }
@@ -67,10 +67,10 @@ void PcConnections::AddExit(std::string_view word, std::string_view destination)
               job_.PlaceOf(word));
     job_.Note(store::TableNum::Locations, *location_, "exits", static_cast<std::size_t>(tokens_) + 1,
               job_.PlaceOf(destination));
-    Append(exits_, found->word);
-    Append(exits_, std::to_string(*number));
-    Append(numericExits_, std::to_string(found->number));
-    Append(numericExits_, std::to_string(*number));
+    AppendExit(exits_, found->word);
+    AppendExit(exits_, std::to_string(*number));
+    AppendExit(numericExits_, std::to_string(found->number));
+    AppendExit(numericExits_, std::to_string(*number));
     destinations_.emplace(found->number, *number);
     tokens_ += 2;
 }

@@ -39,7 +39,7 @@ std::string_view TextOf(const ParsedLine& parsed, const Statement& statement, st
     return line.substr(start, last.position + last.text.size() - start);
 }
 
-void Append(std::string& line, std::string_view more) {
+void AppendCondAct(std::string& line, std::string_view more) {
     if (!line.empty() && !more.empty()) line += ' ';
     line += more;
 }
@@ -49,11 +49,11 @@ std::string WithWordsCut(const std::string& line, const PcSourceJob& job) {
     const ParsedLine parsed = condacts::ParseLine(line, job.catalogue);
     std::string result;
     for (const Statement& statement : parsed.statements) {
-        Append(result, statement.condAct->name);
+        AppendCondAct(result, statement.condAct->name);
         const bool takesWord = condacts::FindWordCondition(statement.condAct->name) != nullptr;
         for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
             const std::string_view param = parsed.Param(statement, p);
-            Append(result, takesWord ? job.Word(param) : std::string(param));
+            AppendCondAct(result, takesWord ? job.Word(param) : std::string(param));
         }
     }
     return result;
@@ -159,8 +159,8 @@ void PcProcesses::AddCondActs(std::string_view line) {
         job_.analysis.CheckForFlags(TextOf(parsed, statement, condActs));
     }
     NotePlaces(given.tokens);
-    Append(entry_->condActs, condActs);
-    Append(entry_->numeric, numeric.line);
+    AppendCondAct(entry_->condActs, condActs);
+    AppendCondAct(entry_->numeric, numeric.line);
 }
 
 /// The columns are counted on from token to token: a line may hold very many.
@@ -186,7 +186,7 @@ PcProcesses::CondActLine PcProcesses::WithoutBells(std::string_view line) {
     CondActLine result;
     for (std::size_t i = 0; i < parsed.tokens.size(); ++i) {
         const bool isBell = bells.contains(i);
-        Append(result.text, isBell ? kInPlaceOfBell : parsed.tokens[i].text);
+        AppendCondAct(result.text, isBell ? kInPlaceOfBell : parsed.tokens[i].text);
         result.tokens.insert(result.tokens.end(), isBell ? kTokensInPlaceOfBell : 1, parsed.tokens[i].text);
     }
     return result;

@@ -46,9 +46,9 @@ constexpr ScriptCommand kCommands[] = {
 };
 
 /// The words of a vocabulary while some are added to it.
-class Vocabulary {
+class ScriptVocabulary {
   public:
-    explicit Vocabulary(store::Adventure& adventure)
+    explicit ScriptVocabulary(store::Adventure& adventure)
         : words_(condacts::LoadWords(adventure).All()),
           table_(adventure, TableNum::Vocabulary, "vocindex") {}
 
@@ -87,7 +87,7 @@ class Vocabulary {
     KeyedTable table_;
 };
 
-bool HasEntry(store::Adventure& adventure, const ScriptCommand& command) {
+bool HasScriptEntry(store::Adventure& adventure, const ScriptCommand& command) {
     store::PreparedQuery entries =
         adventure.Prepare(TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?");
     return entries.First({command.verb, kCommandNoun, command.condActs});
@@ -118,13 +118,13 @@ void AddEntry(PcSourceJob& job, const ScriptCommand& command, const condacts::Wo
 void AddScriptCommands(PcSourceJob& job) {
     store::Adventure& adventure = job.context.adventure;
     {
-        Vocabulary vocabulary(adventure);
+        ScriptVocabulary vocabulary(adventure);
         for (const NeededWord& needed : kNeededWords)
             vocabulary.MakeSureOf(needed);
     }
     const condacts::WordIndex words = condacts::LoadWords(adventure);
     for (const ScriptCommand& command : kCommands) {
-        if (!HasEntry(adventure, command)) AddEntry(job, command, words);
+        if (!HasScriptEntry(adventure, command)) AddEntry(job, command, words);
     }
 }
 

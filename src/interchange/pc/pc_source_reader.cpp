@@ -5,6 +5,7 @@
 #include <string>
 
 #include "condacts/load.h"
+#include "interchange/given_records.h"
 #include "interchange/pc/pc_connections.h"
 #include "interchange/pc/pc_extras.h"
 #include "interchange/pc/pc_objects.h"
@@ -146,14 +147,6 @@ class SourceReader {
     std::size_t current_ = 0;
 };
 
-void SetName(store::Adventure& adventure, const std::string& name) {
-    if (name.empty()) return;
-    constexpr std::size_t kLongestName = 255;
-    Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
-    settings.SetField("advname", std::string(text::Left(name, kLongestName)));
-    settings.Update();
-}
-
 bool Load(ImportContext& context, const PcDialect& dialect) {
     PcLines lines(context.source, dialect.comment, std::string(dialect.kind), context.status,
                   context.encoding);
@@ -173,7 +166,7 @@ bool Load(ImportContext& context, const PcDialect& dialect) {
         context.status.AddToStatusCR("No status records generated from file");
     }
     if (dialect.getsScriptCommands) AddScriptCommands(job);
-    SetName(context.adventure, lines.AdventureName());
+    NameGame(context.adventure, lines.AdventureName());
     job.analysis.PrintFlagAnal(context.adventure, context.status);
     for (const PcLines::Extra& extra : lines.Extras()) {
         const std::string fault = ApplyExtra(context.adventure, extra.text);

@@ -1,6 +1,7 @@
 #include "interchange/pc/pc_texts.h"
 
 #include "condacts/places.h"
+#include "interchange/given_records.h"
 #include "text/line_ends.h"
 
 namespace fabula::interchange {
@@ -9,7 +10,6 @@ namespace {
 using store::Cursor;
 using store::TableNum;
 
-constexpr std::string_view kScriptMessages[] = {"Script IS on.", "Script IS off."};
 constexpr std::string_view kNotKnownYet = " ";
 
 void SetLocationDefaults(Cursor& location) {

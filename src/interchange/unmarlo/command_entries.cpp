@@ -59,7 +59,7 @@ bool HasEntry(store::Adventure& adventure, const EntryCommand& command) {
 }
 
 /// A word of an entry is looked up as a verb or noun, verbs first.
-int NumberOf(const WordIndex& words, const char* word) {
+int EntryWordNumber(const WordIndex& words, const char* word) {
     for (const int type : {condacts::kVerb, condacts::kNoun}) {
         const condacts::Word* found = words.FindTyped(word, type);
         if (found != nullptr) return found->number;
@@ -73,8 +73,8 @@ void AddEntries(ListingJob& job, const EntryCommand (&commands)[count]) {
     for (const EntryCommand& command : commands) {
         if (HasEntry(job.Adventure(), command)) continue;
         ListedEntries(job.Adventure())
-            .Add({0, command.w1, command.w2, NumberOf(words, command.w1), NumberOf(words, command.w2),
-                  command.condActs},
+            .Add({0, command.w1, command.w2, EntryWordNumber(words, command.w1),
+                  EntryWordNumber(words, command.w2), command.condActs},
                  job.catalogue, words);
     }
 }

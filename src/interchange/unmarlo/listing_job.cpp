@@ -1,14 +1,13 @@
 #include "interchange/unmarlo/listing_job.h"
 
 #include "condacts/words.h"
+#include "interchange/given_records.h"
 
 namespace fabula::interchange {
 namespace {
 
 using store::Cursor;
 using store::TableNum;
-
-constexpr const char* kScriptMessages[] = {"Script IS on.", "Script IS off."};
 
 }  // namespace
 
@@ -46,7 +45,8 @@ void SetPlace(Cursor& object, condacts::PlaceNumber place) {
 }
 
 void AddScriptMessages(store::Adventure& adventure) {
-    for (const char* message : kScriptMessages) {
+    for (const std::string_view text : kScriptMessages) {
+        const std::string message(text);
         store::PreparedQuery there = adventure.Prepare(TableNum::SystemMessages, "smsgnum", "smsgmsg=?");
         if (there.First({message})) continue;
         there.Reset();

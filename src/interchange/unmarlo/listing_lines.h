@@ -10,6 +10,11 @@
 
 namespace fabula::interchange {
 
+/// The most objects that a listing can say the player carries.
+inline constexpr int kMostCarried = 255;
+/// What stands in an entry for any word.
+inline constexpr std::string_view kAnyWord = "-";
+
 /// The lines of a decompiler's listing, with a look at the line ahead. The bar of the job goes with the
 /// bytes that were read.
 class ListingLines {

@@ -12,7 +12,7 @@ namespace {
 
 using pictures::Command;
 
-constexpr std::string_view kPlace = "Location";
+constexpr std::string_view kPlaceHeading = "Location";
 constexpr std::string_view kFlag = "graphics flag";
 constexpr std::size_t kAddressLength = 5;
 constexpr int kColourOfTheAdventure = -1;
@@ -100,17 +100,18 @@ std::optional<std::string> ListedParameter(std::string_view word, std::string_vi
 
 std::optional<PictureHead> PictureHead::Read(std::string_view line) {
     const std::size_t flag = line.find(kFlag);
-    const std::size_t place = line.find(kPlace);
+    const std::size_t place = line.find(kPlaceHeading);
     if (flag == std::string_view::npos || place > flag) return std::nullopt;
     PictureHead head;
-    const auto before = SplitWords(line.substr(place + kPlace.size(), flag - place - kPlace.size()));
+    const auto before =
+        SplitWords(line.substr(place + kPlaceHeading.size(), flag - place - kPlaceHeading.size()));
     if (!before.empty()) head.number = ListedNumber(before[0], condacts::limit::kHighestRecord);
     const std::size_t colon = line.find(':', flag);
     if (colon == std::string_view::npos) return head;
     line.remove_prefix(colon + 1);
     const auto words = SplitWords(line);
     head.isSubroutine = !words.empty() && words[0] == "Not";
-    if (const auto number = Assigned(line, kPlace);
+    if (const auto number = Assigned(line, kPlaceHeading);
         number && *number >= 0 && *number <= condacts::limit::kHighestRecord)
         head.number = number;
     head.ink = Colour(Assigned(line, "Ink"));

@@ -1,4 +1,5 @@
 #include "interchange/unmarlo/listed_entries.h"
+#include "interchange/unmarlo/listing_lines.h"
 #include "interchange/unmarlo/unmarlo_section.h"
 #include "text/utf8.h"
 
@@ -12,13 +13,12 @@ constexpr Columns kSecondWord{11, 4};
 constexpr Columns kCondAct{20, 16};
 constexpr Columns kFirstLetter{6, 1};
 
-constexpr std::string_view kAnyWord = "-";
 constexpr const char* kLoaded[] = {"Loaded Marlo Response Table.\n", "Loaded Marlo Status Table.\n"};
 
 /// The response or the status table. The numbers of words are found when the vocabulary is known.
-class Entries final : public UnMarloSection {
+class MarloEntries final : public UnMarloSection {
   public:
-    Entries(ListingJob& job, int table) : job_(job), table_(table), entries_(job.Adventure()) {
+    MarloEntries(ListingJob& job, int table) : job_(job), table_(table), entries_(job.Adventure()) {
         pending_.table = table;
     }
 
@@ -61,7 +61,7 @@ class Entries final : public UnMarloSection {
 }  // namespace
 
 std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, int table) {
-    return std::make_unique<Entries>(job, table);
+    return std::make_unique<MarloEntries>(job, table);
 }
 
 }  // namespace fabula::interchange

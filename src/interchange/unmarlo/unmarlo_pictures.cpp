@@ -45,9 +45,9 @@ class CharacterArrays final : public UnMarloSection {
     BitArray array_;
 };
 
-class Pictures final : public UnMarloSection {
+class MarloPictures final : public UnMarloSection {
   public:
-    explicit Pictures(ListingJob& job) : job_(job), pictures_(job) {}
+    explicit MarloPictures(ListingJob& job) : job_(job), pictures_(job) {}
 
     void Line(std::string_view line) override {
         if (goesOn_) goesOn_ = pictures_.TakeLine(line);
@@ -72,7 +72,7 @@ std::unique_ptr<UnMarloSection> UnMarloCharacters(ListingJob& job) {
 }
 
 std::unique_ptr<UnMarloSection> UnMarloPictures(ListingJob& job) {
-    return std::make_unique<Pictures>(job);
+    return std::make_unique<MarloPictures>(job);
 }
 
 }  // namespace fabula::interchange

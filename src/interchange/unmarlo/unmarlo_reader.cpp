@@ -4,6 +4,7 @@
 
 #include "condacts/load.h"
 #include "interchange/source_file.h"
+#include "interchange/unmarlo/listing_lines.h"
 #include "interchange/unmarlo/unmarlo_section.h"
 #include "interchange/unmarlo/word_numbers.h"
 #include "text/str_edit.h"
@@ -17,7 +18,6 @@ constexpr std::size_t kToVersion = 8;  ///< from the start of the name to the ve
 constexpr std::string_view kCarry = "Player can carry ";
 constexpr std::string_view kCarriedObjects = " objects.";
 constexpr std::size_t kCarryCount = 3;
-constexpr int kMostCarried = 255;
 /// What stands behind these columns of a short line is a dump in hexadecimal.
 constexpr std::size_t kShortLine = 44;
 

@@ -22,9 +22,9 @@ constexpr std::size_t kRoomToken = 7;
 constexpr std::size_t kLettersOfAWord = condacts::SignificantLetters(store::AdventureKind::Marlo);
 constexpr std::string_view kConnectionsFrom = "Connections from ";
 
-class Connections final : public UnMarloSection {
+class MarloConnections final : public UnMarloSection {
   public:
-    explicit Connections(ListingJob& job)
+    explicit MarloConnections(ListingJob& job)
         : job_(job), locations_(job.Adventure(), TableNum::Locations, "locnum") {}
 
     void Line(std::string_view line) override {
@@ -61,9 +61,9 @@ class Connections final : public UnMarloSection {
 };
 
 /// A listing does not tell the types of words: all are nouns.
-class Vocabulary final : public UnMarloSection {
+class MarloVocabulary final : public UnMarloSection {
   public:
-    explicit Vocabulary(ListingJob& job) : job_(job), words_(job.Adventure()) {}
+    explicit MarloVocabulary(ListingJob& job) : job_(job), words_(job.Adventure()) {}
 
     void Line(std::string_view line) override {
         if (!HasMark(line, "Word ")) return;
@@ -89,9 +89,9 @@ class Vocabulary final : public UnMarloSection {
     GameWords words_;
 };
 
-class ObjectPlaces final : public UnMarloSection {
+class MarloObjectPlaces final : public UnMarloSection {
   public:
-    explicit ObjectPlaces(ListingJob& job)
+    explicit MarloObjectPlaces(ListingJob& job)
         : job_(job), objects_(job.Adventure(), TableNum::Objects, "objnum") {}
 
     void Line(std::string_view line) override {
@@ -123,9 +123,9 @@ class ObjectPlaces final : public UnMarloSection {
     KeyedTable objects_;
 };
 
-class ObjectWords final : public UnMarloSection {
+class MarloObjectWords final : public UnMarloSection {
   public:
-    explicit ObjectWords(ListingJob& job)
+    explicit MarloObjectWords(ListingJob& job)
         : job_(job), objects_(job.Adventure(), TableNum::Objects, "objnum") {}
 
     void Line(std::string_view line) override {
@@ -158,19 +158,19 @@ class ObjectWords final : public UnMarloSection {
 }  // namespace
 
 std::unique_ptr<UnMarloSection> UnMarloConnections(ListingJob& job) {
-    return std::make_unique<Connections>(job);
+    return std::make_unique<MarloConnections>(job);
 }
 
 std::unique_ptr<UnMarloSection> UnMarloVocabulary(ListingJob& job) {
-    return std::make_unique<Vocabulary>(job);
+    return std::make_unique<MarloVocabulary>(job);
 }
 
 std::unique_ptr<UnMarloSection> UnMarloObjectPlaces(ListingJob& job) {
-    return std::make_unique<ObjectPlaces>(job);
+    return std::make_unique<MarloObjectPlaces>(job);
 }
 
 std::unique_ptr<UnMarloSection> UnMarloObjectWords(ListingJob& job) {
-    return std::make_unique<ObjectWords>(job);
+    return std::make_unique<MarloObjectWords>(job);
 }
 
 }  // namespace fabula::interchange

@@ -1,5 +1,6 @@
 #include "condacts/limits.h"
 #include "condacts/parser.h"
+#include "condacts/words.h"
 #include "interchange/unvel/unvel_section.h"
 #include "text/str_edit.h"
 
@@ -17,10 +18,6 @@ constexpr Columns kLocation{8, 4};
 constexpr std::size_t kWordColumn = 15;
 constexpr std::size_t kWordWidth = 5;
 constexpr std::size_t kDestinationWidth = 3;
-
-bool IsVerbOrNoun(const Word& word) {
-    return word.type == condacts::kVerb || word.type == condacts::kNoun;
-}
 
 class Connections final : public UnVelSection {
   public:
@@ -55,7 +52,7 @@ class Connections final : public UnVelSection {
   private:
     /// In a game of the older engine the nouns below 20 are the movement words.
     const Word* Find(const std::string& word) const {
-        return job_.words.Find(word, job_.isMarlo ? condacts::IsMovementWord : IsVerbOrNoun);
+        return job_.words.Find(word, job_.isMarlo ? condacts::IsMovementWord : condacts::IsVerbOrNoun);
     }
 
     void Flush() {

@@ -1,4 +1,5 @@
 #include "interchange/unmarlo/listed_entries.h"
+#include "interchange/unmarlo/listing_lines.h"
 #include "interchange/unvel/unvel_section.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -11,10 +12,9 @@ using store::TableNum;
 
 // GET   LAMP       PRESENT        1
 //                  GET            1
-constexpr Columns kFirstWord{0, 6};
-constexpr Columns kSecondWord{6, 5};
-constexpr Columns kCondAct{17, 80};
-constexpr std::string_view kAnyWord = "-";
+constexpr Columns kFirstWordColumns{0, 6};
+constexpr Columns kSecondWordColumns{6, 5};
+constexpr Columns kCondActColumns{17, 80};
 
 bool IsVerbNounOrReserved(const Word& word) {
     return word.type == condacts::kVerb || word.type == condacts::kNoun || word.type == condacts::kReserved;
@@ -28,14 +28,14 @@ class Entries final : public UnVelSection {
 
     void Line(std::string_view line) override {
         if (text::TrimBlanks(line).empty()) return;
-        const std::string_view w1 = CutTrimmed(line, kFirstWord);
-        const std::string_view w2 = CutTrimmed(line, kSecondWord);
+        const std::string_view w1 = CutTrimmed(line, kFirstWordColumns);
+        const std::string_view w2 = CutTrimmed(line, kSecondWordColumns);
         if (!w1.empty() || !w2.empty()) {
             Flush();
             SetWord(w1, FirstWord(w1), entry_.w1, entry_.w1Number);
             SetWord(w2, job_.words.Find(w2, condacts::IsNounOrReserved), entry_.w2, entry_.w2Number);
         }
-        const std::string_view rest = CutTrimmed(line, kCondAct);
+        const std::string_view rest = CutTrimmed(line, kCondActColumns);
         if (rest.empty()) return;
         const auto condAct = TakeCondActs(job_.listing, rest, &job_.words);
         if (condAct) entry_.condActs += (entry_.condActs.empty() ? "" : " ") + *condAct;

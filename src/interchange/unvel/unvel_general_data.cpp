@@ -5,6 +5,7 @@
 #include "condacts/limits.h"
 #include "condacts/parser.h"
 #include "interchange/source_file.h"
+#include "interchange/unmarlo/listing_lines.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {
@@ -15,7 +16,6 @@ using store::TableNum;
 
 constexpr int kLastColourBeforeWhite = 6;
 constexpr int kWhite = 7;
-constexpr int kMostCarried = 255;
 
 bool IsFont(Adventure& adventure, int code) {
     store::PreparedQuery codes = adventure.Prepare(TableNum::Codes, "fontname", "codenum=?");

@@ -23,7 +23,7 @@ constexpr VersionRow kVersions[] = {
 constexpr std::size_t kEndingLength = 8;
 constexpr int kFirstForMarlo = 4;
 constexpr int kFirstForVel = 2;
-constexpr std::size_t kLongestShown = 200;
+constexpr std::size_t kLongestHeadShown = 200;
 
 constexpr const char* kTooOldForMarlo =
     "This version of UnVels is < 2.0. It is not compatible with Fabula 4.0 and Marlo snapshots. It does "
@@ -71,7 +71,7 @@ bool AcceptVersion(const std::string& line, bool isMarlo, ListingLines& lines, p
     const std::optional<int> versionClass = ClassOf(line);
     if (!versionClass) {
         person.Tell("Incorrect version of UnVels. Let the makers of Fabula know about '" +
-                        std::string(text::Left(line, kLongestShown)) + "'",
+                        std::string(text::Left(line, kLongestHeadShown)) + "'",
                     "Error");
         return false;
     }

@@ -18,9 +18,9 @@ using store::TableNum;
 // Object   3  NC
 // Object   3:  weights  5    CW
 constexpr Columns kObjectHead{0, 6};
-constexpr Columns kNumber{6, 5};  // the colon apart, wherever it stands
+constexpr Columns kObjectNumber{6, 5};  // the colon apart, wherever it stands
 constexpr Columns kWords{14, 80};
-constexpr Columns kPlace{10, 80};
+constexpr Columns kObjectPlace{10, 80};
 constexpr Columns kRest{12, 80};
 constexpr int kHeaviest = 99;
 
@@ -31,13 +31,13 @@ struct PlaceName {
 constexpr PlaceName kPlaceNames[] = {
     {"NC", condacts::place::kNotCreated}, {"W", condacts::place::kWorn}, {"C", condacts::place::kCarried}};
 
-struct TypeName {
+struct AttributeName {
     std::string_view name;
     const char* stored;
     int number;
 };
-constexpr TypeName kTypeNames[] = {{"", "", 0},     {"C", "C", 1},    {"W", "WR", 2},
-                                   {"WR", "WR", 2}, {"CW", "CWR", 3}, {"CWR", "CWR", 3}};
+constexpr AttributeName kAttributeNames[] = {{"", "", 0},     {"C", "C", 1},    {"W", "WR", 2},
+                                             {"WR", "WR", 2}, {"CW", "CWR", 3}, {"CWR", "CWR", 3}};
 
 /// Finds the record of each line and hands the line to `Set`.
 class ObjectLines : public UnVelSection {
@@ -47,7 +47,7 @@ class ObjectLines : public UnVelSection {
 
     void Line(std::string_view line) final {
         if (text::TrimBlanks(line).empty()) return;
-        std::string_view digits = CutTrimmed(line, kNumber);
+        std::string_view digits = CutTrimmed(line, kObjectNumber);
         if (digits.ends_with(':')) digits.remove_suffix(1);
         const auto number = ListedNumber(digits, condacts::limit::kHighestRecord);
         if (Cut(line, kObjectHead) != "Object" || !number) {
@@ -108,7 +108,7 @@ class ObjectPlaces final : public ObjectLines {
 
   private:
     bool Set(Cursor& object, std::string_view line) override {
-        const std::string_view place = CutTrimmed(line, kPlace);
+        const std::string_view place = CutTrimmed(line, kObjectPlace);
         for (const PlaceName& entry : kPlaceNames) {
             if (entry.name != place) continue;
             SetPlace(object, entry.place);
@@ -132,7 +132,7 @@ class ObjectWeights final : public ObjectLines {
         const std::string_view type = words.size() > 2 ? words[2] : std::string_view();
         if (!weight) return false;
         object.SetField("objweight", std::int64_t{*weight});
-        for (const TypeName& entry : kTypeNames) {
+        for (const AttributeName& entry : kAttributeNames) {
             if (entry.name != type) continue;
             object.SetField("objattr", std::string(entry.stored));
             object.SetField("objattrn", std::int64_t{entry.number});

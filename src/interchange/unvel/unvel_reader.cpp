@@ -7,6 +7,7 @@
 
 #include "condacts/limits.h"
 #include "condacts/load.h"
+#include "interchange/given_records.h"
 #include "interchange/pc/pc_extras.h"
 #include "interchange/source_file.h"
 #include "interchange/unmarlo/command_entries.h"
@@ -81,9 +82,9 @@ std::optional<int> StageOf(std::string_view title) {
 }
 
 /// The walk over the sections. Each is made when its title is met, so that it has its table alone.
-class Walk {
+class UnVelWalk {
   public:
-    explicit Walk(UnVelJob& job) : job_(job) {}
+    explicit UnVelWalk(UnVelJob& job) : job_(job) {}
 
     /// False when the listing ends without pictures and without characters.
     bool Run() {
@@ -207,15 +208,7 @@ class Walk {
     std::unique_ptr<UnVelSection> section_;
 };
 
-void SetName(store::Adventure& adventure, const std::string& name) {
-    constexpr std::size_t kLongestName = 255;
-    if (name.empty()) return;
-    store::Cursor& settings = adventure.OpenTable(store::TableNum::Adventure, "def");
-    settings.SetField("advname", std::string(text::Left(name, kLongestName)));
-    settings.Update();
-}
-
-bool HasPictures(store::Adventure& adventure) {
+bool DrawsPictures(store::Adventure& adventure) {
     store::PreparedQuery settings = adventure.Prepare(store::TableNum::Adventure, "graphics", "");
     return settings.First({}) && settings.Number(0) != 0;
 }
@@ -228,16 +221,16 @@ bool LoadUnVel(ImportContext& context) {
     ListingLines lines(context.source, context.status);
     const auto head = ReadUnVelHead(lines, context.person);
     if (!head) return false;
-    SetName(context.adventure, head->name);
+    NameGame(context.adventure, head->name);
     const condacts::Catalogue catalogue = condacts::LoadCatalogue(context.adventure);
     ListingJob listing{context, lines, catalogue, FlagAnalysis(context.adventure, catalogue)};
     const DefaultWords defaults(context.adventure);
     UnVelJob job{listing, head->isMarlo, defaults};
     ReadGeneralData(listing, head->isMarlo);
-    Walk walk(job);
+    UnVelWalk walk(job);
     if (!walk.Run()) return false;
     if (head->isMarlo) {
-        AddMarloCommands(listing, HasPictures(context.adventure));
+        AddMarloCommands(listing, DrawsPictures(context.adventure));
     } else {
         AddVelCommands(listing);
     }

@@ -12,16 +12,16 @@
 namespace fabula::interchange {
 namespace {
 
-struct Replacement {
+struct TextReplacement {
     std::string_view from;
     std::string_view to;
 };
 
 /// In this order: entities first, then tags, then the other codes.
-constexpr Replacement kPlain[] = {
+constexpr TextReplacement kPlain[] = {
     {"^{7}", "\n"}, {"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}, {"{13}", "\n"},
 };
-constexpr Replacement kPairs[] = {
+constexpr TextReplacement kPairs[] = {
     {"{18}{0}", "</FLASH>"},   {"{18}{1}", "<FLASH>"},   {"{19}{0}", "</BRIGHT>"}, {"{19}{1}", "<BRIGHT>"},
     {"{20}{0}", "</INVERSE>"}, {"{20}{1}", "<INVERSE>"}, {"{21}{0}", "</OVER>"},   {"{21}{1}", "<OVER>"},
 };
@@ -96,7 +96,7 @@ std::string PlainCode(int number) {
 /// What stands in a listing for a tag, brackets included.
 std::string CodesOf(std::string_view tag) {
     const std::string name = text::UpperCase(tag);
-    for (const Replacement& pair : kPairs) {
+    for (const TextReplacement& pair : kPairs) {
         // The first letters decide, as they do in the markup.
         constexpr std::size_t kDeciding = 5;
         if (name.substr(0, kDeciding) == pair.to.substr(0, kDeciding)) return std::string(pair.from);
@@ -119,9 +119,9 @@ std::string CodesOf(std::string_view tag) {
 
 std::string UnVelText(std::string_view text) {
     std::string result(text);
-    for (const Replacement& replacement : kPlain)
+    for (const TextReplacement& replacement : kPlain)
         result = text::ReplaceAll(result, replacement.from, replacement.to);
-    for (const Replacement& pair : kPairs)
+    for (const TextReplacement& pair : kPairs)
         result = text::ReplaceAll(result, pair.from, pair.to);
     return ReplaceCodes(text::NormalizeLineEnds(result, text::kLineEndMarker));
 }
@@ -142,9 +142,9 @@ WrittenUnVelText ToUnVelText(std::string_view text) {
         written.line += CodesOf(rest.substr(0, close + 1));
         rest.remove_prefix(close + 1);
     }
-    constexpr Replacement kBack[] = {
+    constexpr TextReplacement kBack[] = {
         {text::kLineEndMarker, "^{7}"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&amp;", "&"}};
-    for (const Replacement& replacement : kBack)
+    for (const TextReplacement& replacement : kBack)
         written.line = text::ReplaceAll(written.line, replacement.from, replacement.to);
     written.comesBack = text::EqualsNoCase(UnVelText(written.line), marked);
     return written;

@@ -16,7 +16,7 @@ struct TextRow {
     const char* keyField;
     const char* loaded;
 };
-constexpr TextRow kRows[] = {
+constexpr TextRow kTextRows[] = {
     {"Message", TableNum::Messages, "msgnum", "Messages"},
     {"System Message", TableNum::SystemMessages, "smsgnum", "System Messages"},
     {"Location", TableNum::Locations, "locnum", "Locations"},
@@ -29,7 +29,7 @@ class ListedTexts final : public UnVelSection {
     ListedTexts(UnVelJob& job, UnVelTextKind kind)
         : job_(job),
           kind_(kind),
-          row_(kRows[static_cast<std::size_t>(kind)]),
+          row_(kTextRows[static_cast<std::size_t>(kind)]),
           table_(job.Adventure(), row_.table, row_.keyField) {}
 
     void Line(std::string_view line) override {

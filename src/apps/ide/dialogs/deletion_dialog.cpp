@@ -14,7 +14,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kMargin = 16;
+constexpr int kDeletionMargin = 16;
 constexpr QSize kSize(640, 360);
 
 QLabel* NewSentence(const std::string& text, const char* name) {
@@ -48,7 +48,7 @@ DeletionDialog::DeletionDialog(const authoring::DeletionUses& uses, QWidget* par
     for (QPushButton* button : {go, remove, cancel})
         buttons->addWidget(button);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kDeletionMargin, kDeletionMargin, kDeletionMargin, kDeletionMargin);
     column->addWidget(NewSentence(uses.Title(), "deletionTitle"));
     column->addWidget(NewSentence(uses.Summary(), "deletionSummary"));
     column->addWidget(list_, 1);

@@ -30,7 +30,7 @@ using authoring::JobMode;
 constexpr QSize kInterchangeSize(620, 540);
 constexpr int kSmallestStatusLines = 1;
 
-QString TextOf(const interchange::FileKind& kind) {
+QString TextOfField(const interchange::FileKind& kind) {
     return qt::ToQt(kind.name) + ": " + qt::Translated(kind.about);
 }
 
@@ -88,7 +88,7 @@ void InterchangeDialog::AddKinds() {
     list->setSpacing(2);
     for (std::size_t i = 0; i < screen_.Kinds().size(); ++i) {
         const interchange::FileKind& kind = *screen_.Kinds()[i];
-        auto* button = new QRadioButton(TextOf(kind));
+        auto* button = new QRadioButton(TextOfField(kind));
         button->setObjectName("kind" + qt::ToQt(kind.name));
         button->setAccessibleName(button->text());
         button->setChecked(screen_.ChosenKind() == i);

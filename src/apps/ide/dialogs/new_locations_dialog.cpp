@@ -16,7 +16,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kLettersOfANumber = 10;
+constexpr int kLettersOfALocation = 10;
 
 }  // namespace
 
@@ -55,7 +55,7 @@ QWidget* NewLocationsDialog::MakeLines() {
     for (const auto& line : screen_.lines) {
         auto* field = new QLineEdit(qt::ToQt(line.goesTo));
         field->setObjectName(QString("goesTo%1").arg(line.number));
-        field->setMaximumWidth(fontMetrics().averageCharWidth() * kLettersOfANumber);
+        field->setMaximumWidth(fontMetrics().averageCharWidth() * kLettersOfALocation);
         const QString text =
             line.loaded ? tr("Picture %1 goes to:") : tr("Picture %1, drawn by GOSUB, goes to:");
         field->setAccessibleName(text.arg(line.number).remove(':'));

@@ -10,7 +10,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kGap = 28;  ///< between columns
+constexpr int kColumnGap = 28;  ///< between columns
 constexpr int kLettersOfAColumn = 74;
 constexpr int kLinesToGrow = 6;  ///< more than a text field needs at least
 
@@ -49,7 +49,7 @@ int RecordDialog::WidthOfColumns() const {
 void RecordDialog::Arrange() {
     const bool sideBySide = columns_->count() > 1 && width() >= WidthOfColumns();
     columns_->setDirection(sideBySide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    columns_->setSpacing(sideBySide ? kGap : form_->verticalSpacing());
+    columns_->setSpacing(sideBySide ? kColumnGap : form_->verticalSpacing());
 }
 
 void RecordDialog::resizeEvent(QResizeEvent* event) {

@@ -27,7 +27,8 @@ using authoring::SettingsScreen;
 namespace {
 
 constexpr int kBetweenColumns = 32;
-constexpr int kLettersOfAColumn = 40;  ///< below this width there is one column, and labels stand above
+constexpr int kLettersOfASettingsColumn =
+    40;  ///< below this width there is one column, and labels stand above
 
 QLineEdit* NewLine(const std::string& text) {
     auto* line = new QLineEdit(qt::ToQt(text));
@@ -278,8 +279,8 @@ void SettingsGamePage::Read() {
 }
 
 int SettingsGamePage::WidthOfColumn() const {
-    return std::max({kLettersOfAColumn * fontMetrics().averageCharWidth(), left_->minimumSizeHint().width(),
-                     right_->minimumSizeHint().width()});
+    return std::max({kLettersOfASettingsColumn * fontMetrics().averageCharWidth(),
+                     left_->minimumSizeHint().width(), right_->minimumSizeHint().width()});
 }
 
 QSize SettingsGamePage::sizeHint() const {
@@ -289,7 +290,8 @@ QSize SettingsGamePage::sizeHint() const {
 void SettingsGamePage::resizeEvent(QResizeEvent* event) {
     const bool both = width() >= sizeHint().width();
     columns_->setDirection(both ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    const bool narrow = width() < kLettersOfAColumn * fontMetrics().averageCharWidth() + 2 * kDialogMargin;
+    const bool narrow =
+        width() < kLettersOfASettingsColumn * fontMetrics().averageCharWidth() + 2 * kDialogMargin;
     for (QFormLayout* form : forms_)
         form->setRowWrapPolicy(narrow ? QFormLayout::WrapAllRows : QFormLayout::DontWrapRows);
     QWidget::resizeEvent(event);

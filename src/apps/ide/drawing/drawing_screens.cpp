@@ -7,7 +7,7 @@ namespace fabula::ide {
 namespace {
 
 /// A window of its own, such as the help, stays usable while the dialog is shown.
-bool Show(QDialog& dialog) {
+bool ShowDrawing(QDialog& dialog) {
     dialog.setWindowModality(Qt::WindowModal);
     dialog.exec();
     return true;
@@ -20,12 +20,12 @@ bool OpenDrawingScreen(const authoring::ScreenRequest& request, authoring::Scree
     if (request.screen == authoring::Screen::Picture) {
         authoring::PictureEditor screen(context, request.key);
         PictureDialog dialog(screen, settings, parent);
-        return Show(dialog);
+        return ShowDrawing(dialog);
     }
     if (request.screen == authoring::Screen::Character) {
         authoring::CharacterEditor screen(context, request.key);
         CharacterDialog dialog(screen, parent);
-        return Show(dialog);
+        return ShowDrawing(dialog);
     }
     return false;
 }

@@ -14,7 +14,6 @@
 namespace fabula::ide {
 namespace {
 
-constexpr const char* kFilter = "Images(png,bmp,jpg)|*.png;*.bmp;*.jpg;*.jpeg|All Files|*.*";
 constexpr int kPreviewScale = 2;
 
 QPixmap PixmapOf(const pictures::Image& image) {
@@ -72,7 +71,7 @@ std::optional<ImportedImage> AskImage(platform::Dialogs& dialogs, const std::fil
                                       QWidget* parent) {
     platform::FileQuestion question;
     question.title = "Import Image";
-    question.filter = kFilter;
+    question.filter = kImageFilter;
     question.start = folder;
     const auto file = dialogs.ChooseFile(question);
     if (!file) return std::nullopt;

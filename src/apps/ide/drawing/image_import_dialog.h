@@ -13,6 +13,9 @@ class QLabel;
 
 namespace fabula::ide {
 
+/// The images that can be drawn after or turned into commands, for the dialog that asks for a file.
+inline constexpr const char* kImageFilter = "Images(png,bmp,jpg)|*.png;*.bmp;*.jpg;*.jpeg|All Files|*.*";
+
 /// An image that was made a picture of, and how the picture takes it.
 struct ImportedImage {
     pictures::CellImage image;

@@ -26,7 +26,7 @@ constexpr int kColours = 8;
 constexpr int kTransparent = 8;
 constexpr int kShades = 16;
 constexpr QSize kThumbnail(64, 44);
-constexpr int kGap = 4;
+constexpr int kPaletteGap = 4;
 
 QIcon PatternIcon(const pictures::Glyph& glyph) {
     QImage image(16, 16, QImage::Format_RGB32);
@@ -79,8 +79,8 @@ PicturePalette::PicturePalette(const authoring::PictureEditor& editor, QWidget* 
 void PicturePalette::BeginPage(const QString& title) {
     auto* page = new QWidget;
     groups_ = new QVBoxLayout(page);
-    groups_->setContentsMargins(0, kGap, kGap, 0);
-    groups_->setSpacing(kGap);
+    groups_->setContentsMargins(0, kPaletteGap, kPaletteGap, 0);
+    groups_->setSpacing(kPaletteGap);
     title_ = title;
 }
 

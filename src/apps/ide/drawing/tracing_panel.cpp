@@ -7,14 +7,13 @@
 #include <QSlider>
 #include <QSpinBox>
 
+#include "ide/drawing/image_import_dialog.h"
 #include "ide/editors/edit_controls.h"
 #include "qt/game_image.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
 namespace {
-
-constexpr const char* kFilter = "Images(png,bmp,jpg)|*.png;*.bmp;*.jpg;*.jpeg|All Files|*.*";
 
 QSpinBox* NewNumber(const char* name, const QString& caption, int lowest, int highest) {
     auto* number = new QSpinBox;
@@ -80,7 +79,7 @@ bool TracingPanel::Load(const std::filesystem::path& file) {
 void TracingPanel::Choose() {
     platform::FileQuestion question;
     question.title = "Image to Trace";
-    question.filter = kFilter;
+    question.filter = kImageFilter;
     question.start = tracing_ ? tracing_->file : adventure_.parent_path();
     const auto file = dialogs_.ChooseFile(question);
     if (!file) return;

@@ -17,7 +17,7 @@ constexpr int kCell = 8;
 constexpr int kEnlarged = 2;  ///< characters of 8 pixels are small on the screens of today
 constexpr int kFontTestMargin = 12;
 
-QColor ToColour(int number) {
+QColor ColourOfNumber(int number) {
     const text::Rgb rgb = text::ColorRGB(number);
     return QColor(rgb.red, rgb.green, rgb.blue);
 }
@@ -55,13 +55,13 @@ FontTest::FontTest(store::Adventure& adventure, QWidget* parent) : QLabel(parent
 
 void FontTest::ShowSample(const authoring::FontSample& sample) {
     QPalette colours = palette();
-    colours.setColor(QPalette::Window, ToColour(sample.paper));
-    colours.setColor(QPalette::WindowText, ToColour(sample.ink));
+    colours.setColor(QPalette::Window, ColourOfNumber(sample.paper));
+    colours.setColor(QPalette::WindowText, ColourOfNumber(sample.ink));
     setPalette(colours);
     const QString text = QString("%1 %2").arg(kSampleLines[0], kSampleLines[1]);
     if (sample.charSet) {
         setAccessibleName(text);
-        setPixmap(Drawn(*sample.charSet, ToColour(sample.ink)));
+        setPixmap(Drawn(*sample.charSet, ColourOfNumber(sample.ink)));
         return;
     }
     QFont font(qt::ToQt(sample.fontName));

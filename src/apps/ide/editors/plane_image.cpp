@@ -7,14 +7,14 @@ using pictures::kCanvasWidth;
 
 namespace {
 
-QRgb RgbOf(pictures::Colour colour) {
+QRgb OpaqueOf(pictures::Colour colour) {
     return 0xFF000000U | static_cast<QRgb>(colour);
 }
 
 }  // namespace
 
 QColor ColorOf(pictures::Colour colour) {
-    return QColor::fromRgb(RgbOf(colour));
+    return QColor::fromRgb(OpaqueOf(colour));
 }
 
 QImage ImageOfPlane(const pictures::Plane& plane) {
@@ -22,7 +22,7 @@ QImage ImageOfPlane(const pictures::Plane& plane) {
     for (int line = 0; line < kCanvasHeight; ++line) {
         auto* row = reinterpret_cast<QRgb*>(image.scanLine(line));
         for (int x = 0; x < kCanvasWidth; ++x)
-            row[x] = RgbOf(plane.Pixel(x, line));
+            row[x] = OpaqueOf(plane.Pixel(x, line));
     }
     return image;
 }

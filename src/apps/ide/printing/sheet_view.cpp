@@ -12,7 +12,7 @@ namespace {
 
 /// A sheet of A4 in millimetres, and its margins.
 constexpr QSizeF kPaper(210, 297);
-constexpr qreal kMargin = 15;
+constexpr qreal kSheetMargin = 15;
 constexpr qreal kMillimetresPerInch = 25.4;
 
 }  // namespace
@@ -38,7 +38,7 @@ void SheetView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);  // paper, whatever the theme
     if (!sheet_) return;
-    const qreal margin = width() * kMargin / kPaper.width();
+    const qreal margin = width() * kSheetMargin / kPaper.width();
     painter.setRenderHint(QPainter::TextAntialiasing);
     PaintSheet(painter, *sheet_, columns_, QRectF(rect()).adjusted(margin, margin, -margin, -margin));
 }

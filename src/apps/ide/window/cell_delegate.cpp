@@ -38,7 +38,7 @@ QString Joined(const QStringList& condActs) {
 }
 
 /// Conditions have the colour of links; on a chosen row, whose ground is a colour, they are italic.
-QTextCharFormat FormatOf(QChar kind, const QStyleOptionViewItem& option) {
+QTextCharFormat FormatOfKind(QChar kind, const QStyleOptionViewItem& option) {
     QTextCharFormat format;
     if (kind == GridModel::kFault) format.setFontUnderline(true);
     if (kind != GridModel::kCondition) return format;
@@ -58,7 +58,7 @@ QList<QTextLayout::FormatRange> KindsOf(const QStringList& condActs, const QStyl
         QTextLayout::FormatRange range;
         range.start = at;
         range.length = static_cast<int>(each.size()) - 1;
-        range.format = FormatOf(each.front(), option);
+        range.format = FormatOfKind(each.front(), option);
         kinds.append(range);
         at += range.length + 5;
     }

@@ -18,7 +18,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr QSize kUsualSize(420, 300);
+constexpr QSize kPaneSize(420, 300);
 
 /// The letters behind Alt belong to the menus of the window that the dialog stands in now.
 void DropMnemonics(const QWidget& dialog) {
@@ -60,7 +60,7 @@ RecordPane::RecordPane(Events events, QWidget* parent) : QWidget(parent), events
 RecordPane::~RecordPane() = default;
 
 QSize RecordPane::sizeHint() const {
-    return kUsualSize;
+    return kPaneSize;
 }
 
 void RecordPane::Show(const std::optional<authoring::ScreenRequest>& request,
