@@ -17,15 +17,18 @@ bool AsksForWords(std::string_view line, const Catalogue& catalogue) {
     });
 }
 
-void SetWhereItDiffers(store::Cursor& entries, std::string_view field, const std::string& value) {
-    if (entries.Text(field) == value) return;
+/// Whether it did.
+bool SetWhereItDiffers(store::Cursor& entries, std::string_view field, const std::string& value) {
+    if (entries.Text(field) == value) return false;
     entries.SetField(field, value);
     entries.Update();
+    return true;
 }
 
 }  // namespace
 
-void RecompileEntries(store::Adventure& adventure) {
+int RecompileEntries(store::Adventure& adventure) {
+    int renamedTexts = 0;
     const Catalogue catalogue = LoadCatalogue(adventure);
     const WordIndex words = LoadWords(adventure);
     store::Cursor& entries = adventure.OpenTable(store::TableNum::Free22, "* from processtables");
@@ -39,9 +42,11 @@ void RecompileEntries(store::Adventure& adventure) {
             continue;
         }
         const Converted renamed = NumericToCondActs(entries.Text("numericcondacts"), catalogue, words);
-        if (renamed.ok)
-            SetWhereItDiffers(entries, "condacts", LocationWordsToNumbers(renamed.line, catalogue));
+        if (renamed.ok &&
+            SetWhereItDiffers(entries, "condacts", LocationWordsToNumbers(renamed.line, catalogue)))
+            ++renamedTexts;
     }
+    return renamedTexts;
 }
 
 }  // namespace fabula::condacts

@@ -134,6 +134,7 @@ constexpr Anchor kAnchors[] = {
     {"frmvellocation.html", "exit", "cmdexit"},
     {"frmvelobjects.html", "description", "txtdescription"},
     {"frmvelobjects.html", "noun", "cboobjword"},
+    {"frmvelobjects.html", "makeNoun", "chkmakenoun"},
     {"frmvelobjects.html", "adjective", "cboadjective"},
     {"frmvelobjects.html", "initialPlace", "optinitialloc"},
     {"frmvelobjects.html", "room", "cboinroom"},

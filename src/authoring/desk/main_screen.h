@@ -198,6 +198,15 @@ class MainScreen {
     /// ScreenClosed, as after a command.
     std::optional<ScreenRequest> RecordBeside();
 
+    /// The column of the grid into whose cells an author types: that of the words of the vocabulary, which
+    /// are corrected there; nullopt where none is.
+    std::optional<int> TypedColumn() const;
+    /// Whether the cell of a row in that column takes what is typed.
+    bool MayType(int row) const;
+    /// Stores what was typed into the cell of the current row, with the checks of its screen. False when it
+    /// was refused, and the author told.
+    bool StoreTyped(std::string_view text);
+
     /// Whether process tables show what the numbers in their lines stand for.
     bool NamesShown() const { return namesShown_; }
     void ShowNames(bool shown);

@@ -4,7 +4,10 @@
 #include "authoring/desk/renumber_screen.h"
 #include "authoring/entries/last_records.h"
 #include "authoring/fields/short_desc.h"
+#include "authoring/screens/word_screen.h"
+#include "condacts/words.h"
 #include "text/str_edit.h"
+#include "text/utf8.h"
 
 // What the commands do, and when they can be used.
 
@@ -208,6 +211,38 @@ void MainScreen::ScreenClosed(const ScreenRequest& request) {
         // Nothing was added that the filter could have hidden.
         if (!added) SetFilter(filter);
     });
+}
+
+std::optional<int> MainScreen::TypedColumn() const {
+    if (!desk_ || grid_.View().table != TableNum::Vocabulary) return std::nullopt;
+    for (int column = 0; column < static_cast<int>(grid_.Columns().size()); ++column) {
+        const std::string& field = grid_.Columns()[static_cast<std::size_t>(column)].field;
+        if (text::EqualsNoCase(field, "word")) return column;
+    }
+    return std::nullopt;
+}
+
+bool MainScreen::MayType(int row) const {
+    if (!TypedColumn() || running_ || !rights_.edit || desk_->document.IsReadOnly()) return false;
+    const std::string type = text::ToText(grid_.ValueOf(row, "voctype"));
+    return !text::EqualsNoCase(type, condacts::WordTypeName(condacts::kReserved));
+}
+
+bool MainScreen::StoreTyped(std::string_view text) {
+    const auto key = CurrentKey();
+    if (!key || !MayType(row_)) return false;
+    const ScreenRequest request{
+        .screen = Screen::Word, .key = {.key = *key}, .table = TableNum::Vocabulary};
+    message_.clear();
+    changesBefore_ = desk_->document.Changes();
+    bool stored = false;
+    Guard([&] {
+        WordScreen screen(desk_->context, request.key);
+        screen.word = text;
+        stored = screen.Update();
+    });
+    if (stored) ScreenClosed(request);
+    return stored;
 }
 
 /// Reads again what a command may have changed, and says what it was. `changed` is the table that the

@@ -21,6 +21,9 @@ struct ScreenContext {
     int currentESNum = 0;  ///< the process table in view, 0 to 2, or kOtherProcesses
     int nextEntry = 0;     ///< the next free `canum`
     int nextWord = 0;      ///< the next free `vocindex`
+
+    /// Whether a new exit gets its way back, as the author chose last.
+    bool exitsGoBack = true;
 };
 
 /// The number behind that of a record; the highest there is stays.

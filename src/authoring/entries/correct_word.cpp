@@ -46,8 +46,9 @@ bool IsLeft(const condacts::WordIndex& words, const Word& before, bool (*takes)(
     });
 }
 
-void CorrectField(Adventure& adventure, const WordFields& fields, const Word& before,
-                  const std::string& now) {
+int CorrectField(Adventure& adventure, const WordFields& fields, const Word& before,
+                 const std::string& now) {
+    int corrected = 0;
     for (Cursor& record = adventure.OpenTable(
              TableNum::Free22, "* from " + std::string(fields.table),
              std::string(fields.number) + "=" + std::to_string(before.number) + " and " +
@@ -55,7 +56,9 @@ void CorrectField(Adventure& adventure, const WordFields& fields, const Word& be
          !record.Eof(); record.MoveNext()) {
         record.SetField(fields.word, now);
         record.Update();
+        ++corrected;
     }
+    return corrected;
 }
 
 /// A line of exits with the new spelling; words and their numbers stand at the same places in both lines.
@@ -72,7 +75,8 @@ std::string Corrected(std::string_view exits, std::string_view numbers, const Wo
     return line;
 }
 
-void CorrectExits(Adventure& adventure, const Word& before, const std::string& now) {
+int CorrectExits(Adventure& adventure, const Word& before, const std::string& now) {
+    int locations = 0;
     for (Cursor& location = adventure.OpenTable(TableNum::Free22, "* from locations", "numexits>0");
          !location.Eof(); location.MoveNext()) {
         const std::string exits(location.Text("exits"));
@@ -80,19 +84,23 @@ void CorrectExits(Adventure& adventure, const Word& before, const std::string& n
         if (corrected == exits) continue;
         location.SetField("exits", std::move(corrected));
         location.Update();
+        ++locations;
     }
+    return locations;
 }
 
 }  // namespace
 
-void FollowCorrection(Adventure& adventure, const Word& before, const std::string& now) {
+int FollowCorrection(Adventure& adventure, const Word& before, const std::string& now) {
+    int followed = 0;
     const condacts::WordIndex words = condacts::LoadWords(adventure);
     for (const WordFields& fields : kFields) {
         if (fields.takes(before) && !IsLeft(words, before, fields.takes))
-            CorrectField(adventure, fields, before, now);
+            followed += CorrectField(adventure, fields, before, now);
     }
     if (condacts::IsMovementWord(before) && !IsLeft(words, before, condacts::IsMovementWord))
-        CorrectExits(adventure, before, now);
+        followed += CorrectExits(adventure, before, now);
+    return followed;
 }
 
 }  // namespace fabula::authoring

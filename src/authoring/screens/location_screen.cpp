@@ -11,6 +11,7 @@
 #include "authoring/fields/location_names.h"
 #include "authoring/fields/picture_choice.h"
 #include "authoring/fields/text_field.h"
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/places.h"
 #include "condacts/words.h"
@@ -67,6 +68,14 @@ std::optional<int> LocationNumber(std::string_view typed) {
 /// Directions come first, by their number: what is typed is completed by the first word that fits.
 int ProbableRank(const ListItem& word) {
     return std::min(word.number, kBehindDirections);
+}
+
+/// The end of a change's name: " with new location 3, the way back from location 7".
+std::string WithAll(const std::vector<std::string>& made) {
+    std::string with;
+    for (const std::string& each : made)
+        with.append(with.empty() ? " with " : ", ").append(each);
+    return with;
 }
 
 void AppendTo(std::string& line, std::string_view word, std::string_view location) {
@@ -146,29 +155,34 @@ bool LocationScreen::Exists(int location) const {
 }
 
 /// `word` is that of the exit; "" for the location alone.
-bool LocationScreen::CheckLocation(std::string_view control, std::string_view number,
-                                   std::string_view word) {
+std::string LocationScreen::FaultOfLocation(std::string_view number, std::string_view word) const {
     const std::string typed(number);
     const std::string of(word);
     const std::optional<int> location = LocationNumber(number);
-    if (!location) {
-        const std::string message = "TO location " + (of.empty() ? "" : "for " + of);
-        return RefuseField(control, message + "must be numeric");
-    }
-    if (Exists(*location)) return true;
+    if (!location) return "TO location " + (of.empty() ? "" : "for " + of) + "must be numeric";
+    if (Exists(*location)) return "";
     const std::string message = "There is not a location with a number of " + typed;
-    return RefuseField(control, of.empty() ? message : message + " for " + of);
+    return of.empty() ? message : message + " for " + of;
+}
+
+bool LocationScreen::CheckLocation(std::string_view control, std::string_view number,
+                                   std::string_view word) {
+    const std::string fault = FaultOfLocation(number, word);
+    return fault.empty() || RefuseField(control, fault);
+}
+
+std::string LocationScreen::FaultOfWord(std::string_view word) const {
+    const std::string typed(word);
+    if (words_.Find(word) == nullptr) return typed + " is not a valid word";
+    if (words_.Find(word, condacts::IsVerbOrNoun) == nullptr) return typed + " is not a Verb or conversion Noun";
+    if (words_.Find(word, condacts::IsMovementWord) == nullptr)
+        return typed + " is not identified as a movement word (value<20)";
+    return "";
 }
 
 bool LocationScreen::CheckExit(std::string_view control, std::string_view word, std::string_view location) {
-    const std::string typed(word);
-    if (words_.Find(word) == nullptr) return RefuseField(control, typed + " is not a valid word");
-    if (words_.Find(word, condacts::IsVerbOrNoun) == nullptr) {
-        return RefuseField(control, typed + " is not a Verb or conversion Noun");
-    }
-    if (words_.Find(word, condacts::IsMovementWord) == nullptr) {
-        return RefuseField(control, typed + " is not identified as a movement word (value<20)");
-    }
+    const std::string fault = FaultOfWord(word);
+    if (!fault.empty()) return RefuseField(control, fault);
     return CheckLocation(control, location, word);
 }
 
@@ -185,18 +199,21 @@ bool LocationScreen::LeaveExitPlace() {
     return CheckLocation("exitPlace", text::TrimBlanks(exitPlace.text), "");
 }
 
-void LocationScreen::SplitTypedExit() {
-    const std::string typed = Edited(exitWord.text);
-    const std::size_t blank = typed.find(' ');
-    if (blank == std::string::npos || !text::TrimBlanks(exitPlace.text).empty()) return;
-    exitWord.text = typed.substr(0, blank);
-    exitPlace.text = typed.substr(blank + 1);
+LocationScreen::TypedExit LocationScreen::SplitTypedExit() const {
+    const std::string word = Edited(exitWord.text);
+    const std::string place(text::TrimBlanks(exitPlace.text));
+    const std::size_t blank = word.find(' ');
+    if (blank == std::string::npos || !place.empty()) return {word, place};
+    return {word.substr(0, blank), word.substr(blank + 1)};
 }
 
-/// A place that is given by its name, or by what only one name begins with, becomes its number.
-bool LocationScreen::TakePlaceByName() {
-    const std::string typed(text::TrimBlanks(exitPlace.text));
-    if (typed.empty() || LocationNumber(typed)) return true;
+bool LocationScreen::IsNewPlace(int location) const {
+    return std::ranges::any_of(newPlaces_, [&](const ListItem& place) { return place.number == location; });
+}
+
+/// The location of a number, of a name, or of what only one name begins with; else a new one of that name.
+LocationScreen::MeantPlace LocationScreen::PlaceMeantBy(const std::string& typed) const {
+    if (const auto number = LocationNumber(typed)) return {.number = *number, .isNew = IsNewPlace(*number)};
     std::vector<int> same;
     std::vector<int> beginning;
     for (const ListItem& item : exitPlace.items) {
@@ -204,21 +221,31 @@ bool LocationScreen::TakePlaceByName() {
         if (text::EqualsNoCase(item.text.substr(0, typed.size()), typed)) beginning.push_back(item.number);
     }
     const std::vector<int>& found = same.empty() ? beginning : same;
-    if (found.empty()) return MakePlace(typed);
-    if (found.size() > 1) return RefuseField("exitPlace", "More than one location is called " + typed);
-    exitPlace.text = std::to_string(found.front());
-    return true;
-}
-
-bool LocationScreen::MakePlace(const std::string& name) {
-    if (!context_.dialogs.Confirm("There is no location called " + name + ". Make it?", "New location"))
-        return KeepFocus("exitPlace");
+    if (found.size() > 1) return {.fault = "More than one location is called " + typed};
+    if (!found.empty()) return {.number = found.front(), .isNew = IsNewPlace(found.front())};
     int number = 0;
     while (Exists(number) || condacts::IsSpecialPlace(number))
         ++number;
-    exitPlace.items.push_back({number, name});
-    newPlaces_.push_back({number, name});
-    exitPlace.text = std::to_string(number);
+    if (number > condacts::HighestRecord(Adventure().Kind()))
+        return {.fault = "There is no number left for a location"};
+    return {.number = number, .isNew = true};
+}
+
+/// A place that is given by its name becomes its number.
+bool LocationScreen::TakePlaceByName(const std::string& word) {
+    const std::string typed(text::TrimBlanks(exitPlace.text));
+    if (typed.empty() || LocationNumber(typed)) return true;
+    const MeantPlace meant = PlaceMeantBy(typed);
+    if (!meant.fault.empty()) return RefuseField("exitPlace", meant.fault);
+    if (!Exists(meant.number)) {
+        const std::string fault = FaultOfWord(word);
+        if (!fault.empty()) return RefuseField("exitWord", fault);
+        if (!CheckLength("exitPlace", typed, kLongestShortDesc) || !CheckText("exitPlace", typed, true))
+            return false;
+        exitPlace.items.push_back({meant.number, typed});
+        newPlaces_.push_back({meant.number, typed});
+    }
+    exitPlace.text = std::to_string(meant.number);
     return true;
 }
 
@@ -237,21 +264,58 @@ const condacts::Word* LocationScreen::OppositeOf(std::string_view word) const {
     return nullptr;
 }
 
-bool LocationScreen::NoteWayBack(const std::string& word) {
-    if (!andBack) return true;
+void LocationScreen::NoteWayBack(const std::string& word) {
+    const int location = LocationNumber(text::TrimBlanks(exitPlace.text)).value_or(-1);
     const condacts::Word* back = OppositeOf(word);
-    if (!back) return RefuseField("andBack", "There is no word for the way back of " + word);
-    waysBack_.push_back({words_.Find(word, condacts::IsMovementWord)->number,
-                         LocationNumber(text::TrimBlanks(exitPlace.text)).value_or(-1), back->number});
-    return true;
+    if (!AndBack() || !back || location == Key().key) return;
+    waysBack_.push_back({words_.Find(word, condacts::IsMovementWord)->number, location, back->number});
+}
+
+/// Where the exit of a location by a word leads to, as it is stored; nullopt when there is none.
+std::optional<int> LocationScreen::ExitOf(int location, int word) const {
+    store::PreparedQuery record = Adventure().Prepare(TableNum::Locations, "numericexits", "locnum=?");
+    if (!record.First({std::int64_t{location}})) return std::nullopt;
+    const std::string numbers = Edited(record.Text(0));
+    const auto tokens = Tokens(numbers);
+    for (std::size_t i = 0; i < tokens.size(); i += 2) {
+        if (tokens[i] == std::to_string(word)) return LocationNumber(TokenAt(tokens, i + 1)).value_or(-1);
+    }
+    return std::nullopt;
+}
+
+std::string LocationScreen::WhatOfWayBack(const std::string& word, int location) const {
+    if (!AndBack() || location == Key().key) return "";
+    const condacts::Word* back = OppositeOf(word);
+    if (!back) return "; no word leads back, as none is the opposite of " + word;
+    const std::optional<int> led = ExitOf(location, back->number);
+    if (!led) return ", with " + back->word + " back to here";
+    if (*led == Key().key) return ", from where " + back->word + " leads here";
+    return "; " + back->word + " leads from there to location " + std::to_string(*led) + " and stays so";
+}
+
+std::string LocationScreen::WhatAddDoes() const {
+    const auto [word, place] = SplitTypedExit();
+    if (word.empty() || place.empty()) return "";
+    if (std::string fault = FaultOfWord(word); !fault.empty()) return fault;
+    const MeantPlace meant = PlaceMeantBy(place);
+    if (!meant.fault.empty()) return meant.fault;
+    const bool isListed = Exists(meant.number);
+    if (!isListed && !meant.isNew) return FaultOfLocation(place, word);
+    const std::string name = isListed ? NameIn(exitPlace.items, meant.number) : place;
+    std::string told = meant.isNew ? "Makes location " : "Leads to location ";
+    told += std::to_string(meant.number);
+    if (!name.empty()) told += ", \u201C" + name + "\u201D";
+    return told + WhatOfWayBack(word, meant.number) + ".";
 }
 
 bool LocationScreen::Add() {
-    SplitTypedExit();
-    if (!TakePlaceByName() || !LeaveExitPlace()) return false;
-    const std::string word = Edited(exitWord.text);
+    const auto [word, place] = SplitTypedExit();
+    exitWord.text = word;
+    exitPlace.text = place;
+    if (!TakePlaceByName(word) || !LeaveExitPlace()) return false;
     const std::string location(text::TrimBlanks(exitPlace.text));
-    if (!CheckExit("exitWord", word, location) || !NoteWayBack(word)) return false;
+    if (!CheckExit("exitWord", word, location)) return false;
+    NoteWayBack(word);
     exits = Edited(exits);
     AppendTo(exits, word, location);
     exitWord.text.clear();
@@ -333,18 +397,19 @@ void LocationScreen::StoreExits(store::Cursor& record) const {
 }
 
 /// An exit to a new place may have been taken out of the line again.
-void LocationScreen::StoreNewPlaces() {
+void LocationScreen::StoreNewPlaces(std::vector<std::string>& made) {
     const std::vector<Exit> parsed = ParsedExits();
     for (const ListItem& place : newPlaces_) {
         const bool used =
             std::ranges::any_of(parsed, [&](const Exit& exit) { return exit.location == place.number; });
         if (!used || HasRecord(Adventure(), TableNum::Locations, place.number)) continue;
         AddPlace(Adventure(), place.number, place.text);
+        made.push_back("new location " + std::to_string(place.number));
     }
 }
 
 /// A location that has an exit in that direction keeps it.
-void LocationScreen::StoreWaysBack() {
+void LocationScreen::StoreWaysBack(std::vector<std::string>& made) {
     const std::vector<Exit> parsed = ParsedExits();
     for (const WayBack& way : waysBack_) {
         const bool used = std::ranges::any_of(parsed, [&](const Exit& exit) {
@@ -352,14 +417,9 @@ void LocationScreen::StoreWaysBack() {
         });
         store::Cursor& record = Adventure().OpenTable(TableNum::Free22, "* from locations",
                                                       "locnum=" + std::to_string(way.location));
-        if (!used || record.Eof()) continue;
-        std::string numbers = Edited(record.Text("numericexits"));
-        const auto known = Tokens(numbers);
-        bool taken = false;
-        for (std::size_t i = 0; i < known.size(); i += 2)
-            taken = taken || known[i] == std::to_string(way.wordBack);
-        if (taken) continue;
+        if (!used || record.Eof() || ExitOf(way.location, way.wordBack)) continue;
         std::string stored = Edited(record.Text("exits"));
+        std::string numbers = Edited(record.Text("numericexits"));
         const std::string here = std::to_string(Key().key);
         AppendTo(stored, words_.FindNumber(way.wordBack, condacts::IsMovementWord)->word, here);
         AppendTo(numbers, std::to_string(way.wordBack), here);
@@ -367,6 +427,8 @@ void LocationScreen::StoreWaysBack() {
         record.SetField("numericexits", numbers);
         record.SetField("numexits", record.Number("numexits") + 2);
         record.Update();
+        if (!IsNewPlace(way.location))
+            made.push_back("the way back from location " + std::to_string(way.location));
     }
 }
 
@@ -402,8 +464,10 @@ bool LocationScreen::UpdateFields() {
     StoreExits(record);
     StorePicture(record);
     record.Update();
-    StoreNewPlaces();
-    StoreWaysBack();
+    std::vector<std::string> made;
+    StoreNewPlaces(made);
+    StoreWaysBack(made);
+    change.Rename(ChangeName() + WithAll(made));
     change.Commit();
     return true;
 }

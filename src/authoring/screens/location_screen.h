@@ -50,12 +50,18 @@ class LocationScreen final : public RecordScreen {
     bool LeaveExits();
     bool LeaveExitPlace();
 
-    bool andBack = false;  ///< the exits that `Add` adds get their way back in the other location
+    /// Whether the exits that `Add` adds get their way back in the other location, where there is a word
+    /// for it and no exit by that word yet. What was chosen last holds for all locations.
+    bool AndBack() const { return context_.exitsGoBack; }
+    void SetAndBack(bool on) { context_.exitsGoBack = on; }
 
     /// Adds the exit of `exitWord` and `exitPlace` to the line, and empties both. The place may be given by
-    /// its name; one that does not exist is made, after a question, when the screen is stored. Both may be
-    /// typed as the word: "NORTH The attic".
+    /// its name; one that does not exist is made when the screen is stored. Both may be typed as the word:
+    /// "NORTH The attic".
     bool Add();
+    /// What becomes of the exit that is typed, or what is wrong with it: "Makes location 4, “The attic”,
+    /// with SOUTH back to here". "" until a place is typed.
+    std::string WhatAddDoes() const;
     void ChoosePicture();
     void ClearPicture() { picture.clear(); }
 
@@ -85,17 +91,32 @@ class LocationScreen final : public RecordScreen {
         const condacts::Word* word;  ///< the first of its number
         int location;
     };
+    struct TypedExit {
+        std::string word;
+        std::string place;
+    };
+    /// What is meant by a place that is typed.
+    struct MeantPlace {
+        int number = -1;     ///< of a location that need not exist
+        bool isNew = false;  ///< Update makes it
+        std::string fault = {};
+    };
 
     void ReadNeighbours();
     bool HasPendingExit() const;
-    void SplitTypedExit();
-    bool TakePlaceByName();
-    bool MakePlace(const std::string& name);
+    TypedExit SplitTypedExit() const;
+    bool IsNewPlace(int location) const;
+    MeantPlace PlaceMeantBy(const std::string& typed) const;
+    bool TakePlaceByName(const std::string& word);
     const condacts::Word* OppositeOf(std::string_view word) const;
-    bool NoteWayBack(const std::string& word);
-    void StoreNewPlaces();
-    void StoreWaysBack();
+    std::optional<int> ExitOf(int location, int word) const;
+    void NoteWayBack(const std::string& word);
+    std::string WhatOfWayBack(const std::string& word, int location) const;
+    void StoreNewPlaces(std::vector<std::string>& made);
+    void StoreWaysBack(std::vector<std::string>& made);
     bool Exists(int location) const;
+    std::string FaultOfWord(std::string_view word) const;
+    std::string FaultOfLocation(std::string_view number, std::string_view word) const;
     bool CheckLocation(std::string_view control, std::string_view number, std::string_view word);
     bool CheckExit(std::string_view control, std::string_view word, std::string_view location);
     std::vector<Exit> ParsedExits() const;

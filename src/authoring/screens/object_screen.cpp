@@ -1,5 +1,6 @@
 #include "authoring/screens/object_screen.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "authoring/entries/made_records.h"
@@ -120,21 +121,50 @@ void ObjectScreen::ReadPlace(int place) {
 bool ObjectScreen::LeaveDescription() {
     if (!CheckText("description", description, true)) return false;
     ProposeNoun();
+    hasProposed_ = !proposedNoun_.empty();
     return true;
 }
 
-/// The last word of the description that is a noun already, or else the last of all.
+/// As the vocabulary has it.
+std::string ObjectScreen::AsNoun(std::string_view typed) const {
+    return std::string(
+        text::Left(text::UpperCase(text::TrimBlanks(text::CollapseBlanks(typed))), LongestWord()));
+}
+
+/// "" for none.
+std::string ObjectScreen::ChosenNoun() const {
+    if (!newNoun.empty()) return AsNoun(newNoun);
+    const ListItem* chosen = noun.Chosen();
+    return chosen && chosen->number != condacts::kNoWordNumber ? chosen->text : "";
+}
+
 void ObjectScreen::ProposeNoun() {
-    const bool hasNoun = noun.Chosen() != nullptr && noun.Chosen()->number != condacts::kNoWordNumber;
-    if (!Key().isNew || proposed_ || hasNoun || !newNoun.empty()) return;
+    if (!Key().isNew || hasProposed_ || ChosenNoun() != proposedNoun_) return;
     const std::vector<std::string> words = WordsOf(description, LongestWord());
-    if (words.empty()) return;
-    proposed_ = true;
-    for (auto word = words.rbegin(); word != words.rend(); ++word) {
+    newNoun.clear();
+    noun.index = -1;
+    for (auto word = words.rbegin(); word != words.rend() && !noun.Chosen(); ++word)
         noun.ChooseText(*word);
-        if (noun.Chosen() != nullptr) return;
+    if (!noun.Chosen()) {
+        noun.ChooseNumber(condacts::kNoWordNumber);
+        if (!words.empty()) newNoun = words.back();
     }
-    newNoun = words.back();
+    proposedNoun_ = ChosenNoun();
+}
+
+std::string ObjectScreen::OfferedNoun() const {
+    if (!newNoun.empty()) return AsNoun(newNoun);
+    if (!ChosenNoun().empty()) return "";
+    const std::vector<std::string> words = WordsOf(description, LongestWord());
+    const bool isKnown = std::ranges::any_of(words, [&](const std::string& word) {
+        return std::ranges::any_of(noun.items, [&](const ListItem& item) { return item.text == word; });
+    });
+    return words.empty() || isKnown ? "" : words.back();
+}
+
+void ObjectScreen::ClickMakeNoun(bool make) {
+    newNoun = make ? OfferedNoun() : "";
+    noun.ChooseNumber(condacts::kNoWordNumber);
 }
 
 std::size_t ObjectScreen::LongestWord() const {
@@ -142,23 +172,16 @@ std::size_t ObjectScreen::LongestWord() const {
 }
 
 bool ObjectScreen::LeaveNoun() {
-    std::string typed = text::UpperCase(text::TrimBlanks(text::CollapseBlanks(newNoun)));
+    if (text::TrimBlanks(newNoun).find(' ') != std::string_view::npos)
+        return RefuseField("noun", "The word cannot hold spaces");
+    const std::string typed = AsNoun(newNoun);
     newNoun.clear();
     if (typed.empty()) return true;
-    if (typed.find(' ') != std::string::npos) return RefuseField("noun", "The word cannot hold spaces");
-    typed = std::string(text::Left(typed, LongestWord()));
     noun.ChooseText(typed);
     if (noun.Chosen() != nullptr) return true;
     newNoun = typed;
-    if (typed == agreedNoun_) return true;
-    if (!NumberOfNewNoun(Adventure())) return RefuseField("noun", "There is no number left for a noun");
-    if (!context_.dialogs.Confirm("There is no noun " + typed + ". Make it?", "New word")) {
-        newNoun.clear();
-        noun.ChooseNumber(condacts::kNoWordNumber);
-        return KeepFocus("noun");
-    }
-    agreedNoun_ = typed;
-    return true;
+    if (NumberOfNewNoun(Adventure())) return true;
+    return RefuseField("noun", "There is no number left for a noun");
 }
 
 bool ObjectScreen::LeaveInitialPlace() {

@@ -36,9 +36,17 @@ class ObjectScreen final : public RecordScreen {
     /// controls are off, and what the record holds of them stays.
     bool HasAttributes() const { return !IsMarlo(); }
 
-    /// Proposes a noun for a new object that has none: a word of the description.
+    /// Proposes a noun for a new object while its description is typed for the first time, as long as the
+    /// author chooses none: the last of its words that is a noun already, or else its last word, which is
+    /// made.
+    void ProposeNoun();
     bool LeaveDescription();
-    /// Checks a noun that is not there, after a question: Update makes it.
+    /// The noun that Update makes while `newNoun` holds it, and could make else, since the description
+    /// names it; "" when the object has a noun that is there.
+    std::string OfferedNoun() const;
+    /// Whether the offered noun is to be made. Without it the object has none.
+    void ClickMakeNoun(bool make);
+    /// Checks a noun that is not there: Update makes it.
     bool LeaveNoun();
     bool LeaveInitialPlace();
     bool LeaveRoom();
@@ -58,7 +66,8 @@ class ObjectScreen final : public RecordScreen {
   private:
     void ReadRecord();
     void ReadPlace(int place);
-    void ProposeNoun();
+    std::string AsNoun(std::string_view typed) const;
+    std::string ChosenNoun() const;
     std::size_t LongestWord() const;
     bool CheckContainer();
     bool MakesInside();
@@ -71,8 +80,8 @@ class ObjectScreen final : public RecordScreen {
     void StorePlace(store::Cursor& record) const;
     void StoreAttributes(store::Cursor& record) const;
 
-    std::string agreedNoun_;           ///< that the author wants to be made
-    bool proposed_ = false;            ///< a noun, which the author may have put back
+    std::string proposedNoun_;         ///< which the author may have put back
+    bool hasProposed_ = false;         ///< for good: the description was left
     bool makesInside_ = false;         ///< the author wants the location of the container to be made
     std::vector<std::string> opened_;  ///< what `Typed` gave at first
 };

@@ -149,12 +149,15 @@ bool WordScreen::UpdateFields() {
     if (!LeaveWord()) return false;
     if (!type) return RefuseField("type", "No value set for word type");
     if (!LeaveNumber()) return false;
-    Change change(context_.document, (Key().isNew ? "add word " : "edit word ") + word);
+    const std::string name = (Key().isNew ? "add word " : "edit word ") + word;
+    Change change(context_.document, name);
     const auto numbered = static_cast<int>(*text::WholeNumber(text::TrimBlanks(number)));
     Store(change);
+    int uses = 0;
     if (!Key().isNew && word != spelledBefore_)
-        FollowCorrection(Adventure(), {spelledBefore_, numbered, typeBefore_}, word);
-    condacts::RecompileEntries(Adventure());
+        uses = FollowCorrection(Adventure(), {spelledBefore_, numbered, typeBefore_}, word);
+    uses += condacts::RecompileEntries(Adventure());
+    if (uses > 0) change.Rename(name + " with " + std::to_string(uses) + (uses == 1 ? " use" : " uses"));
     change.Commit();
     if (Key().isNew) context_.nextWord = NumberAfter(Key().key);
     return true;

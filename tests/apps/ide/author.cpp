@@ -100,6 +100,8 @@ QWidget& Author::Front() const {
     if (!QApplication::activePopupWidget() && QGuiApplication::focusWindow() != front->windowHandle()) {
         front->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(front));
+        // The other windows hear of it before anything else happens.
+        QApplication::processEvents();
     }
     return *front;
 }
@@ -126,6 +128,15 @@ void Author::Clicks(const char* name) {
         return;
     }
     Click(*control);
+}
+
+bool Author::Sees(const char* name) const {
+    auto* control = Front().findChild<QWidget*>(name);
+    if (!control) return false;
+    const QPoint place = PlaceToClick(*control);
+    QWidget* under = control->childAt(place);
+    if (!under) under = control;
+    return under->visibleRegion().contains(under->mapFrom(control, place));
 }
 
 void Author::ClicksButton(const char* text) {

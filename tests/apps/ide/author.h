@@ -42,6 +42,8 @@ class Author {
 
     /// Clicks on the control of this name, of the window in front.
     void Clicks(const char* name);
+    /// Whether the place of that click is in sight, without scrolling.
+    bool Sees(const char* name) const;
     /// Clicks on a button of the window in front, by its words.
     void ClicksButton(const char* text);
     /// Clicks on the node of the tree.

@@ -322,7 +322,7 @@ TEST_P(EveryKind, AWordThatIsThereIsCorrected) {
     window_.GoToRow("60");
     EXPECT_TRUE(window_.InDialog(Qt::Key_Return, Qt::NoModifier, {Step{"word", "knob"}}));
     EXPECT_EQ(window_.CellOf("60", "Word"), "KNOB");
-    EXPECT_EQ(UndoText(), "&Undo edit word KNOB");
+    EXPECT_EQ(UndoText(), "&Undo edit word KNOB with 1 use");
 }
 
 TEST_P(EveryKind, APictureIsAdded) {

@@ -23,6 +23,7 @@
 #include "ide/dialogs/object_dialog.h"
 #include "ide/dialogs/word_dialog.h"
 #include "platform/scripted_dialogs.h"
+#include "qt/strings.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 
@@ -211,10 +212,8 @@ TEST_F(RecordDialogs, AnObjectIsAdded) {
     Find<QRadioButton>(dialog, "initialPlace3")->click();
     EXPECT_TRUE(Find<QComboBox>(dialog, "room")->isEnabled());
     Find<QComboBox>(dialog, "room")->setCurrentIndex(0);
-    boxes_.AnswerNext(true);
     Find<QPushButton>(dialog, "update")->click();
-    ASSERT_EQ(boxes_.Boxes().size(), 1U);
-    EXPECT_EQ(boxes_.Boxes().front().text, "There is no noun LAMP. Make it?");
+    EXPECT_TRUE(boxes_.Boxes().empty());
     EXPECT_EQ(Stored(TableNum::Objects, "objlocdesc", "objnum=1"), "In Room 0.");
 }
 
@@ -240,17 +239,69 @@ TEST_F(RecordDialogs, ANewObjectIsOfferedItsNounAndAWordThatIsNotThereIsMadeWith
     authoring::ObjectScreen screen(context_, {5, true});
     ObjectDialog dialog(screen);
     Open(dialog);
-    QTest::keyClicks(QApplication::focusWidget(), "a rusty trowel");
-    Find<QRadioButton>(dialog, "initialPlace2")->click();
-    Find<QRadioButton>(dialog, "initialPlace2")->setFocus();
-    QApplication::processEvents();
+    auto* offer = Find<QCheckBox>(dialog, "makeNoun");
+    EXPECT_FALSE(offer->isVisible());
+    QTest::keyClicks(QApplication::focusWidget(), "a rusty trow");
+    EXPECT_TRUE(offer->isVisible());
+    EXPECT_EQ(offer->text().remove('&'), "Make the noun TROW");
+    QTest::keyClicks(QApplication::focusWidget(), "el");
+    EXPECT_EQ(offer->text().remove('&'), "Make the noun TROWEL");
     EXPECT_EQ(Find<QComboBox>(dialog, "noun")->currentText(), "TROWEL");
-    EXPECT_TRUE(boxes_.Boxes().empty());
-    boxes_.AnswerNext(true);
+    EXPECT_TRUE(offer->isChecked());
+    Find<QRadioButton>(dialog, "initialPlace2")->click();
     Find<QPushButton>(dialog, "update")->click();
-    EXPECT_EQ(boxes_.Boxes().at(0).text, "There is no noun TROWEL. Make it?");
+    EXPECT_TRUE(boxes_.Boxes().empty());
     EXPECT_EQ(Stored(TableNum::Objects, "objnoun", "objnum=5"), "TROWEL");
     EXPECT_EQ(Stored(TableNum::Vocabulary, "voctype", "word='TROWEL'"), "Noun");
+}
+
+TEST_F(RecordDialogs, TheOfferedNounComesAndGoesWithItsTick) {
+    authoring::ObjectScreen screen(context_, {5, true});
+    ObjectDialog dialog(screen);
+    Open(dialog);
+    auto* noun = Find<QComboBox>(dialog, "noun");
+    auto* offer = Find<QCheckBox>(dialog, "makeNoun");
+    QTest::keyClicks(QApplication::focusWidget(), "a trowel");
+    offer->click();
+    EXPECT_EQ(noun->currentText(), "");
+    EXPECT_TRUE(offer->isVisible());
+    QTest::keyClicks(Find<QPlainTextEdit>(dialog, "description"), " of tin");
+    EXPECT_EQ(noun->currentText(), "") << "the author has decided";
+    EXPECT_EQ(offer->text().remove('&'), "Make the noun TIN");
+    offer->click();
+    EXPECT_EQ(noun->currentText(), "TIN");
+    noun->setFocus();
+    noun->lineEdit()->selectAll();
+    QTest::keyClicks(noun, "spade");
+    EXPECT_EQ(offer->text().remove('&'), "Make the noun SPADE");
+    EXPECT_TRUE(offer->isChecked());
+}
+
+TEST_F(RecordDialogs, WhatAnExitDoesIsToldWhileItIsTyped) {
+    authoring::LocationScreen screen(context_, {0, false});
+    LocationDialog dialog(screen);
+    Open(dialog);
+    auto* word = Find<QComboBox>(dialog, "exitWord");
+    const auto* told = Find<QLabel>(dialog, "whatAddDoes");
+    EXPECT_TRUE(Find<QCheckBox>(dialog, "andBack")->isChecked());
+    word->setFocus();
+    EXPECT_FALSE(told->isVisible());
+    QTest::keyClicks(word, "CLIMB The loft");
+    EXPECT_TRUE(told->isVisible());
+    EXPECT_EQ(
+        qt::FromQt(told->text()),
+        "Makes location 1, \u201CThe loft\u201D; no word leads back, as none is the opposite of CLIMB.");
+    EXPECT_EQ(word->accessibleDescription(), told->text());
+    Find<QCheckBox>(dialog, "andBack")->click();
+    EXPECT_EQ(qt::FromQt(told->text()), "Makes location 1, \u201CThe loft\u201D.");
+    QTest::keyClick(word, Qt::Key_Return);
+    EXPECT_EQ(told->text(), "");
+    EXPECT_EQ(Find<QLineEdit>(dialog, "exits")->text(), "CLIMB 1");
+    QTest::keyClicks(word, "CLIMB");
+    QTest::keyClick(word, Qt::Key_Tab);
+    QTest::keyClicks(dialog.focusWidget(), "7");
+    EXPECT_EQ(told->text(), "There is not a location with a number of 7 for CLIMB");
+    EXPECT_TRUE(boxes_.Boxes().empty());
 }
 
 TEST_F(RecordDialogs, AWordIsAddedWithTheNumberThatItsTypeProposes) {

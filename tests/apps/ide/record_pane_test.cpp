@@ -162,6 +162,28 @@ TEST_F(RecordPaneTest, EscapeTakesBackWhatWasTypedAndThenGoesBackToTheRow) {
     EXPECT_EQ(UndoText(), "&Undo");
 }
 
+TEST_F(RecordPaneTest, EscapeTakesBackAnExitThatIsTyped) {
+    window_.GoToTable("Locations");
+    window_.Part<QComboBox>("exitWord").setFocus();
+    window_.Type("NORTH The loft");
+    EXPECT_NE(window_.Part<QLabel>("whatAddDoes").text(), "");
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(window_.Part<QComboBox>("exitWord").currentText(), "");
+    EXPECT_EQ(window_.Part<QLabel>("whatAddDoes").text(), "");
+    window_.GoToTable("Messages");
+    EXPECT_EQ(UndoText(), "&Undo");
+}
+
+TEST_F(RecordPaneTest, AnotherRowStoresAnExitThatIsTypedWithThePlaceThatItMakes) {
+    window_.GoToTable("Locations");
+    window_.Part<QComboBox>("exitWord").setFocus();
+    window_.Type("NORTH The loft");
+    window_.GoToRow("1");
+    EXPECT_EQ(window_.Stored(TableNum::Locations, "exits", "locnum=0"), "NORTH 3");
+    EXPECT_EQ(window_.Stored(TableNum::Locations, "locshortdesc", "locnum=3"), "The loft");
+    EXPECT_EQ(UndoText(), "&Undo edit location 0 with new location 3");
+}
+
 TEST_F(RecordPaneTest, AFaultKeepsTheKeyboardAndTheRow) {
     window_.GoToTable("Response (P0)");
     window_.GoToRow("*");

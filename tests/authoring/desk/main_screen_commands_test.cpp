@@ -52,6 +52,31 @@ TEST_F(CommandsTest, AreOffAgainWhenTheAdventureIsClosed) {
     EXPECT_EQ(Enabled(*main), before);
 }
 
+TEST_F(CommandsTest, AWordIsTypedIntoItsCell) {
+    EXPECT_EQ(main->TypedColumn(), std::nullopt);
+    OpenNew();
+    main->Show({TableNum::Messages});
+    EXPECT_EQ(main->TypedColumn(), std::nullopt);
+    EXPECT_FALSE(main->MayType(0));
+    main->Show({TableNum::Vocabulary});
+    ASSERT_TRUE(main->TypedColumn());
+    const int column = *main->TypedColumn();
+    EXPECT_EQ(main->Grid().Columns()[static_cast<std::size_t>(column)].field, "Word");
+    for (int row = 0; row < main->Grid().RowCount(); ++row) {
+        const bool isReserved = main->Grid().CellText(row, column + 1) == "RESERVED";
+        EXPECT_EQ(main->MayType(row), !isReserved) << main->Grid().CellText(row, column);
+        if (!isReserved) main->SelectRow(row);
+    }
+    const int key = main->Grid().KeyOf(main->CurrentRow());
+    EXPECT_TRUE(main->StoreTyped("shout"));
+    EXPECT_EQ(main->Grid().KeyOf(main->CurrentRow()), key);
+    EXPECT_EQ(main->Grid().CellText(main->CurrentRow(), column), "SHOUT");
+    EXPECT_EQ(main->Message().substr(0, 21), "Done: edit word SHOUT");
+    EXPECT_FALSE(main->StoreTyped("two words"));
+    EXPECT_EQ(dialogs.Boxes().back().text, "The word cannot hold spaces");
+    EXPECT_EQ(main->Grid().CellText(main->CurrentRow(), column), "SHOUT");
+}
+
 TEST_F(CommandsTest, FollowTheTableInTheGrid) {
     OpenNew();
     main->Show({TableNum::Locations});

@@ -194,12 +194,57 @@ TEST_F(ObjectScreenTest, ProposesTheLastWordOfTheDescriptionWhereThereIsNoSuchNo
     EXPECT_EQ(screen.newNoun, "KEY");
 }
 
-TEST_F(ObjectScreenTest, ProposesNothingForAnObjectThatIsThere) {
+TEST_F(ObjectScreenTest, FollowsTheDescriptionWhileItIsTypedForTheFirstTime) {
+    ObjectScreen screen = OpenNew();
+    for (const auto& [typed, offered] : {std::pair("a", ""),
+                                         {"a lon", "LON"},
+                                         {"a long ladder", "LADDER"},
+                                         {"", ""},
+                                         {"a rope", "ROPE"}}) {
+        screen.description = typed;
+        screen.ProposeNoun();
+        EXPECT_EQ(screen.OfferedNoun(), offered);
+        EXPECT_EQ(screen.newNoun, offered);
+    }
+    EXPECT_TRUE(screen.LeaveDescription());
+    screen.description = "a rope of silk";
+    screen.ProposeNoun();
+    EXPECT_EQ(screen.newNoun, "ROPE");
+}
+
+TEST_F(ObjectScreenTest, ANounThatTheAuthorChoseStays) {
+    ObjectScreen screen = OpenNew();
+    screen.description = "a long";
+    screen.ProposeNoun();
+    screen.newNoun = "steps";
+    screen.description = "a long ladder";
+    screen.ProposeNoun();
+    EXPECT_EQ(screen.newNoun, "steps");
+    EXPECT_EQ(screen.OfferedNoun(), "STEPS") << "as the vocabulary will have it";
+}
+
+TEST_F(ObjectScreenTest, OffersAnObjectThatIsThereANounAndMakesItOnlyWhenItIsTicked) {
     ObjectScreen screen = Open();
     screen.noun.ChooseText("_");
     screen.description = "a key";
     EXPECT_TRUE(screen.LeaveDescription());
+    EXPECT_EQ(screen.OfferedNoun(), "KEY");
     EXPECT_EQ(screen.newNoun, "");
+    screen.ClickMakeNoun(true);
+    EXPECT_EQ(screen.newNoun, "KEY");
+    EXPECT_TRUE(screen.Update());
+    EXPECT_EQ(Stored(3, "objnoun, objnumnoun"), "KEY|51");
+    EXPECT_EQ(desk_.document.UndoName(), "edit object 3 with word KEY");
+    EXPECT_THAT(desk_.Boxes(), IsEmpty());
+}
+
+TEST_F(ObjectScreenTest, OffersNoNounWhereOneIsChosenOrTheDescriptionNamesOne) {
+    ObjectScreen screen = Open();
+    screen.description = "a key";
+    EXPECT_EQ(screen.OfferedNoun(), "") << "it is a LAMP";
+    screen.noun.ChooseText("_");
+    screen.description = "a lamp of copper";
+    EXPECT_EQ(screen.OfferedNoun(), "");
 }
 
 TEST_F(ObjectScreenTest, ANewNounIsMadeWithItsObjectInOneStepOfUndo) {
@@ -207,9 +252,8 @@ TEST_F(ObjectScreenTest, ANewNounIsMadeWithItsObjectInOneStepOfUndo) {
     ObjectScreen screen = OpenNew();
     screen.description = "a key";
     screen.initialPlace = InitialPlace::Carried;
-    desk_.dialogs.AnswerNext(true);
     EXPECT_TRUE(screen.Update());
-    EXPECT_THAT(desk_.Boxes(), ElementsAre("There is no noun KEY. Make it?"));
+    EXPECT_THAT(desk_.Boxes(), IsEmpty());
     EXPECT_EQ(Stored(4, "objnoun, objnumnoun"), "KEY|51");
     EXPECT_THAT(desk_.Rows(TableNum::Vocabulary, "word, vocnum, voctypen, voctype", "word='KEY'"),
                 ElementsAre("KEY|51|2|Noun"));
@@ -222,12 +266,13 @@ TEST_F(ObjectScreenTest, ANounThatIsNotToBeMadeLeavesTheObjectWithoutOne) {
     ObjectScreen screen = OpenNew();
     screen.description = "a key";
     screen.initialPlace = InitialPlace::Carried;
-    desk_.dialogs.AnswerNext(false);
-    EXPECT_FALSE(screen.Update());
-    EXPECT_EQ(screen.Refused(), "noun");
+    EXPECT_TRUE(screen.LeaveDescription());
+    screen.ClickMakeNoun(false);
+    EXPECT_EQ(screen.OfferedNoun(), "KEY") << "it can be ticked again";
     EXPECT_TRUE(screen.Update());
     EXPECT_EQ(Stored(4, "objnoun, objnumnoun"), "_|255");
-    EXPECT_EQ(desk_.Boxes().size(), 1U);
+    EXPECT_THAT(desk_.Rows(TableNum::Vocabulary, "word", "word='KEY'"), IsEmpty());
+    EXPECT_THAT(desk_.Boxes(), IsEmpty());
 }
 
 TEST_F(ObjectScreenTest, ANewNounIsCheckedLikeAnyWord) {
@@ -235,16 +280,17 @@ TEST_F(ObjectScreenTest, ANewNounIsCheckedLikeAnyWord) {
     screen.newNoun = "tin box";
     EXPECT_FALSE(screen.LeaveNoun());
     EXPECT_THAT(desk_.Boxes(), ElementsAre("The word cannot hold spaces"));
+    EXPECT_EQ(screen.newNoun, "tin box") << "what was typed stays";
     screen.newNoun = " lamp ";
     EXPECT_TRUE(screen.LeaveNoun());
     EXPECT_EQ(screen.noun.Chosen()->text, "LAMP");
+    EXPECT_EQ(screen.newNoun, "");
     EXPECT_EQ(desk_.Boxes().size(), 1U);
 }
 
 TEST_F(MarloObjectScreenTest, ANewNounHasFourLettersAndNoNumberOfADirection) {
     ObjectScreen screen = OpenNew();
     screen.newNoun = "lantern";
-    desk_.dialogs.AnswerNext(true);
     EXPECT_TRUE(screen.LeaveNoun());
     EXPECT_EQ(screen.newNoun, "LANT");
 }
@@ -311,9 +357,10 @@ TEST_F(ObjectScreenTest, UpdateChecksTheFieldsInTheirOrder) {
     screen.Update();
     EXPECT_EQ(screen.Refused(), "weight");
     screen.weight = "3";
-    desk_.dialogs.AnswerNext(false);
+    screen.newNoun = "tin box";
     screen.Update();
     EXPECT_EQ(screen.Refused(), "noun");
+    screen.newNoun = "";
     EXPECT_TRUE(screen.Update());
 }
 

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -18,6 +19,7 @@
 #include "ide/editors/picture_view.h"
 #include "ide/editors/record_picture.h"
 #include "qt/strings.h"
+#include "qt/wrapped_label.h"
 
 namespace fabula::ide {
 namespace {
@@ -87,6 +89,7 @@ LocationDialog::LocationDialog(authoring::LocationScreen& screen, QWidget* paren
       word_(NewWordList(screen.exitWord)),
       location_(NewLocationList(screen.exitPlace)),
       andBack_(new QCheckBox(tr("and &back"))),
+      whatAddDoes_(new qt::WrappedLabel(QString())),
       exits_(new QLineEdit),
       picture_(new QLineEdit),
       pictureView_(new PictureView) {
@@ -105,6 +108,7 @@ LocationDialog::LocationDialog(authoring::LocationScreen& screen, QWidget* paren
 }
 
 void LocationDialog::AddExits() {
+    AddNewExit();
     rows_->setHorizontalHeaderLabels({tr("Exit"), tr("To"), tr("Leads to")});
     rows_->verticalHeader()->hide();
     const int letter = rows_->fontMetrics().averageCharWidth();
@@ -128,7 +132,15 @@ void LocationDialog::AddExits() {
                                              this));
     connect(rows_, &QTableWidget::cellChanged, this, [this] { ReadRows(); });
     AddControl(tr("&Exits:"), rows_, "exitRows");
+    AddControl(tr("As one &line:"), exits_, "exits");
+    connect(exits_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        screen_.exits = qt::FromQt(text);
+        ShowRows();
+    });
+}
 
+/// Above the others: in a pane it is in sight without scrolling.
+void LocationDialog::AddNewExit() {
     Name(word_, "exitWord", tr("Exit word"));
     Name(location_, "exitPlace", tr("Location that the exit leads to"));
     Name(andBack_, "andBack", tr("and back"));
@@ -148,14 +160,38 @@ void LocationDialog::AddExits() {
     adding->addWidget(add, 1, 0);
     adding->addWidget(remove, 1, 1);
     adding->addWidget(andBack_, 1, 2);
+    adding->addWidget(whatAddDoes_, 2, 0, 1, 4);
     adding->setColumnStretch(3, 1);
-    form_->addRow("", adding);
+    form_->addRow(tr("New exit:"), adding);
 
-    AddControl(tr("As one &line:"), exits_, "exits");
-    connect(exits_, &QLineEdit::textEdited, this, [this](const QString& text) {
-        screen_.exits = qt::FromQt(text);
-        ShowRows();
+    whatAddDoes_->setObjectName("whatAddDoes");
+    whatAddDoes_->setAccessibleDescription(tr("What becomes of the exit that is typed"));
+    whatAddDoes_->setTextFormat(Qt::PlainText);
+    for (const QComboBox* box : {word_, location_})
+        connect(box, &QComboBox::editTextChanged, this, [this] { ReadNewExit(); });
+    connect(andBack_, &QCheckBox::clicked, this, [this](bool on) {
+        screen_.SetAndBack(on);
+        ShowNewExit();
     });
+}
+
+void LocationDialog::ReadNewExit() {
+    if (showing_) return;
+    screen_.exitWord.text = qt::FromQt(word_->currentText());
+    screen_.exitPlace.text = LocationTyped(*location_);
+    ShowNewExit();
+}
+
+/// What is told of the exit is told of the fields that it is typed into, for who listens to them.
+void LocationDialog::ShowNewExit() {
+    andBack_->setChecked(screen_.AndBack());
+    const QString told = qt::ToQt(screen_.WhatAddDoes());
+    whatAddDoes_->setText(told);
+    whatAddDoes_->setVisible(!told.isEmpty());
+    for (QComboBox* box : {word_, location_}) {
+        box->setAccessibleDescription(told);
+        box->lineEdit()->setAccessibleDescription(told);
+    }
 }
 
 void LocationDialog::AddPicture() {
@@ -309,7 +345,6 @@ void LocationDialog::Read() {
     screen_.exits = qt::FromQt(exits_->text());
     screen_.exitWord.text = qt::FromQt(word_->currentText());
     screen_.exitPlace.text = LocationTyped(*location_);
-    screen_.andBack = andBack_->isChecked();
 }
 
 void LocationDialog::ShowOpened() {
@@ -323,6 +358,7 @@ void LocationDialog::ShowOpened() {
 }
 
 void LocationDialog::Show() {
+    showing_ = true;
     exits_->setText(qt::ToQt(screen_.exits));
     if (screen_.exitWord.text.empty()) word_->clearEditText();
     if (screen_.exitPlace.text.empty()) location_->clearEditText();
@@ -331,6 +367,8 @@ void LocationDialog::Show() {
         const authoring::ListItem& made = screen_.exitPlace.items[static_cast<std::size_t>(item)];
         location_->addItem(QString("%1 - %2").arg(made.number).arg(qt::ToQt(made.text)), made.number);
     }
+    showing_ = false;
+    ShowNewExit();
     ShowPicture();
     ShowRows();
 }

@@ -8,6 +8,7 @@
 #include "ide/editors/markup_edit.h"
 
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QTableWidget;
@@ -33,6 +34,9 @@ class LocationDialog final : public RecordDialog {
 
   private:
     void AddExits();
+    void AddNewExit();
+    void ReadNewExit();
+    void ShowNewExit();
     void AddPicture();
     void AddNeighbours();
     void ShowNeighbours();
@@ -52,10 +56,11 @@ class LocationDialog final : public RecordDialog {
     QComboBox* word_;
     QComboBox* location_;
     QCheckBox* andBack_;
+    QLabel* whatAddDoes_;
     QLineEdit* exits_;
     QLineEdit* picture_;
     PictureView* pictureView_;
-    bool showing_ = false;  ///< the rows are being filled and not edited
+    bool showing_ = false;  ///< fields are being filled and not edited
 };
 
 }  // namespace fabula::ide

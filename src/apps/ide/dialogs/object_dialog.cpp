@@ -45,6 +45,7 @@ ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
       editing_(screen.Adventure()),
       description_(new MarkupEdit(editing_, {tr("&Description:"), "", true}, "description")),
       noun_(NewNounList(screen.noun)),
+      makeNoun_(new QCheckBox),
       adjective_(NewDropList(screen.adjective)),
       places_(new QButtonGroup(this)),
       room_(NewLocationList(screen.room)),
@@ -55,6 +56,7 @@ ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
     form_->addRow(description_);
     description_->SetText(screen_.description);
     AddControl(tr("N&oun:"), noun_, "noun");
+    AddNounOffer();
     AddControl(tr("Ad&jective:"), adjective_, "adjective");
     AddControl(tr("Initial location:"), NewPlaces(), "initialPlace");
     AddControl(tr("Roo&m:"), room_, "room");
@@ -82,6 +84,31 @@ ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
     CheckOnLeave(room_, [this] { return screen_.LeaveRoom(); });
     CheckOnLeave(weight_, [this] { return screen_.LeaveWeight(); });
     Show();
+}
+
+/// Below the noun: a tick for a noun that is not there yet, as soon as it is named.
+void ObjectDialog::AddNounOffer() {
+    makeNoun_->setObjectName("makeNoun");
+    makeNoun_->setToolTip(tr("Update adds the word to the vocabulary"));
+    form_->addRow("", makeNoun_);
+    connect(makeNoun_, &QCheckBox::clicked, this, [this](bool make) {
+        ReadNoun();
+        screen_.ClickMakeNoun(make);
+        ShowNoun();
+    });
+    connect(&description_->Field(), &QPlainTextEdit::textChanged, this, [this] {
+        screen_.description = description_->Text();
+        screen_.ProposeNoun();
+        ShowNoun();
+    });
+    connect(noun_->lineEdit(), &QLineEdit::textEdited, this, [this] {
+        ReadNoun();
+        ShowNounOffer();
+    });
+    connect(noun_, &QComboBox::activated, this, [this] {
+        ReadNoun();
+        ShowNounOffer();
+    });
 }
 
 QWidget* ObjectDialog::NewPlaces() {
@@ -144,11 +171,26 @@ void ObjectDialog::ShowOpened() {
     ShowLocation(*room_, screen_.room.text);
 }
 
-void ObjectDialog::Show() {
-    if (screen_.initialPlace) places_->button(static_cast<int>(*screen_.initialPlace))->setChecked(true);
+void ObjectDialog::ShowNoun() {
     const QString word =
         screen_.newNoun.empty() ? TextOf(screen_.noun.Chosen()) : qt::ToQt(screen_.newNoun);
     if (noun_->currentText() != word) noun_->setEditText(word);
+    ShowNounOffer();
+}
+
+void ObjectDialog::ShowNounOffer() {
+    const QString word = qt::ToQt(screen_.OfferedNoun()).replace('&', "&&");
+    QString caption = tr("Ma&ke the noun %1");
+    // In a pane the letters behind Alt belong to the menus.
+    if (!isWindow()) caption.remove('&');
+    makeNoun_->setText(caption.arg(word));
+    makeNoun_->setChecked(!screen_.newNoun.empty());
+    makeNoun_->setVisible(!word.isEmpty());
+}
+
+void ObjectDialog::Show() {
+    if (screen_.initialPlace) places_->button(static_cast<int>(*screen_.initialPlace))->setChecked(true);
+    ShowNoun();
     inside_->setText(qt::ToQt(screen_.Inside()));
     inside_->setVisible(screen_.container);
     room_->setEnabled(screen_.initialPlace == InitialPlace::InRoom);

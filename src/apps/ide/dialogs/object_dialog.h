@@ -30,12 +30,16 @@ class ObjectDialog final : public RecordDialog {
 
   private:
     QWidget* NewPlaces();
+    void AddNounOffer();
     void ReadNoun();
+    void ShowNoun();
+    void ShowNounOffer();
 
     authoring::ObjectScreen& screen_;
     authoring::TextEditing editing_;
     MarkupEdit* description_;
     QComboBox* noun_;
+    QCheckBox* makeNoun_;
     QComboBox* adjective_;
     QButtonGroup* places_;
     QComboBox* room_;

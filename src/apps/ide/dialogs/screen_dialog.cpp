@@ -1,6 +1,7 @@
 #include "ide/dialogs/screen_dialog.h"
 
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -127,6 +128,7 @@ void ScreenDialog::CheckOnLeave(QWidget* control, std::function<bool()> check) {
 }
 
 bool ScreenDialog::Guarded(const std::function<bool()>& work) {
+    const QScopedValueRollback atWork(atWork_, true);
     try {
         return work();
     } catch (const Error& error) {
@@ -143,6 +145,8 @@ void ScreenDialog::FocusRefused() {
 }
 
 void ScreenDialog::ClickUpdate() {
+    // A question that is not answered yet may have taken the keyboard from the window.
+    if (atWork_) return;
     Read();
     bool failed = false;
     const bool stored = Guarded([this, &failed] {

@@ -62,6 +62,7 @@ class ScreenDialog : public QDialog, public RecordEditor {
     CommentEdit* comment_ = nullptr;
     QHBoxLayout* buttons_;
     bool placed_ = false;  ///< it was shown before
+    bool atWork_ = false;  ///< a check or an update is under way
     UpdateAndExit ends_;
 };
 

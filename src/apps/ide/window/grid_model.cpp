@@ -9,8 +9,8 @@ namespace fabula::ide {
 
 using authoring::GridLine;
 
-GridModel::GridModel(const authoring::TableGrid& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(grid) {}
+GridModel::GridModel(const authoring::TableGrid& grid, MayType mayType, QObject* parent)
+    : QAbstractTableModel(parent), grid_(grid), mayType_(std::move(mayType)) {}
 
 void GridModel::Reset() {
     beginResetModel();
@@ -75,6 +75,11 @@ QVariant GridModel::CondActsOf(int row) const {
         lines << kind + qt::ToQt(each.text) + meaning;
     }
     return lines.isEmpty() ? QVariant() : QVariant(lines);
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return mayType_(index) ? flags | Qt::ItemIsEditable : flags;
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {

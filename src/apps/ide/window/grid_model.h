@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <functional>
 
 #include "authoring/desk/table_grid.h"
 
@@ -10,7 +11,10 @@ namespace fabula::ide {
 /// Cells are asked for when they are shown.
 class GridModel final : public QAbstractTableModel {
   public:
-    explicit GridModel(const authoring::TableGrid& grid, QObject* parent = nullptr);
+    /// Whether the author may type into a cell.
+    using MayType = std::function<bool(const QModelIndex& cell)>;
+
+    GridModel(const authoring::TableGrid& grid, MayType mayType, QObject* parent = nullptr);
 
     /// The role of the conditions and actions of a line, where names are shown: a list of texts, in front
     /// of each a sign of its kind.
@@ -25,6 +29,7 @@ class GridModel final : public QAbstractTableModel {
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
@@ -32,6 +37,7 @@ class GridModel final : public QAbstractTableModel {
     QVariant CondActsOf(int row) const;
 
     const authoring::TableGrid& grid_;
+    MayType mayType_;
 };
 
 }  // namespace fabula::ide

@@ -104,7 +104,11 @@ MainWindow::MainWindow(const Services& services, Places places)
                },
            .menuAsked = [this](const QPoint& place) { AskEntryMenu(place); },
            .folded = [this](int group, bool folded) { FoldGroup(group, folded); },
-           .openedInTab = [this] { Do(Command::OpenInTab); }})),
+           .openedInTab = [this] { Do(Command::OpenInTab); },
+           .typedColumn = [this] { return ide_.TypedColumn(); },
+           .mayType = [this](int row) { return ide_.MayType(row); },
+           .typed = [this](const std::string& text) { return StoreTyped(text); },
+           .cellLeft = [this] { LeaveRecord(); }})),
       beside_(new RecordPane({.stored =
                                   [this](const authoring::ScreenRequest& request) {
                                       ide_.ScreenClosed(request);

@@ -112,6 +112,7 @@ class MainWindow final : public QMainWindow {
     void FoldGroup(int group, bool folded);
     void ChooseNode(int sort);
     bool LeaveRecord();
+    bool StoreTyped(const std::string& text);
     void StoreBeside();
     void ShowTabs();
     void OpenInTab();

@@ -122,16 +122,23 @@ void MainWindow::ChooseNode(int sort) {
     ShowChanges();
 }
 
-/// Stores what was typed beside the rows. When that is refused, the author stays at the record.
+/// What was typed into a cell of the rows.
+bool MainWindow::StoreTyped(const std::string& text) {
+    if (!ide_.StoreTyped(text)) return false;
+    ShowChanges();
+    return true;
+}
+
+/// Stores what was typed beside the rows and in them. When that is refused, the author stays at the record.
 bool MainWindow::LeaveRecord() {
-    if (beside_->Leave()) return true;
+    if (records_->LeaveCell() && beside_->Leave()) return true;
     // Once the rows have taken what the author did.
     QMetaObject::invokeMethod(
         this,
         [this] {
             QWidget* const focus = QApplication::focusWidget();
             records_->ChooseLine(ide_.CurrentLine());
-            if (focus && beside_->isAncestorOf(focus)) focus->setFocus();
+            if (focus && focus != &records_->Grid()) focus->setFocus();
         },
         Qt::QueuedConnection);
     return false;

@@ -4,6 +4,7 @@
 
 #include "ide/window/main_window.h"
 #include "ide/window/record_pane.h"
+#include "ide/window/record_panel.h"
 #include "ide/window/tab_strip.h"
 #include "ide/window/tree_panel.h"
 #include "qt/strings.h"
@@ -55,7 +56,7 @@ void MainWindow::StoreBeside() {
     for (const QWidget* window = QApplication::activeWindow(); window; window = window->parentWidget()) {
         if (window == this) return;
     }
-    beside_->Store();
+    if (records_->LeaveCell()) beside_->Store();
 }
 
 }  // namespace fabula::ide

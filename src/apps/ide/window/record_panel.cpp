@@ -12,8 +12,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ide/editors/leave_check.h"
 #include "ide/editors/picture_view.h"
 #include "ide/window/cell_delegate.h"
+#include "ide/window/cell_edit.h"
 #include "ide/window/grid_model.h"
 #include "ide/window/pane_focus.h"
 #include "qt/icons.h"
@@ -56,7 +58,8 @@ RecordPanel::RecordPanel(const authoring::TableGrid& grid, platform::Timers& tim
       events_(std::move(events)),
       resized_(timers,
                [this] { events_.columnResized(resizedColumn_, view_->columnWidth(resizedColumn_)); }),
-      model_(new GridModel(grid, this)),
+      model_(new GridModel(
+          grid, [this](const QModelIndex& cell) { return TypesInto(cell); }, this)),
       view_(new RowsView),
       filter_(new QLineEdit),
       count_(new QLabel),
@@ -155,6 +158,7 @@ void RecordPanel::ShowTable(const QString& name) {
 }
 
 void RecordPanel::ShowRecords() {
+    CloseCell();
     placing_ = true;
     if (const QString filter = qt::ToQt(grid_.Filter()); filter_->text() != filter)
         filter_->setText(filter);
@@ -267,7 +271,7 @@ int RecordPanel::WidthOf(int column) const {
 
 void RecordPanel::ChooseLine(int line) {
     placing_ = true;
-    const QModelIndex index = model_->index(line, 0);
+    const QModelIndex index = model_->index(line, events_.typedColumn().value_or(0));
     if (index.isValid()) {
         const int across = view_->horizontalScrollBar()->value();
         view_->setCurrentIndex(index);
@@ -302,7 +306,84 @@ bool RecordPanel::FoldBy(int key) {
     return true;
 }
 
+bool RecordPanel::TypesInto(const QModelIndex& cell) const {
+    // As in data(), the row may have gone.
+    if (cell.row() < 0 || cell.row() >= model_->rowCount()) return false;
+    if (cell.column() != events_.typedColumn()) return false;
+    const authoring::GridLine line = grid_.Lines().At(cell.row());
+    return !line.IsHeading() && events_.mayType(line.row);
+}
+
+/// Whether what came to the rows begins a text in the current cell.
+bool RecordPanel::BeginCell(QEvent& event) {
+    if (cell_ || !TypesInto(view_->currentIndex())) return false;
+    // Letters that are made of several keys come without a key.
+    if (event.type() == QEvent::InputMethod) {
+        OpenCell({});
+        cell_->setModified(true);
+        QCoreApplication::sendEvent(cell_, &event);
+        return true;
+    }
+    if (event.type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<QKeyEvent&>(event);
+    const bool isLetter = !key.text().isEmpty() && key.text().front().isPrint() &&
+                          !key.text().front().isSpace() &&
+                          !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    if (!isLetter && key.key() != Qt::Key_F2) return false;
+    OpenCell(isLetter ? key.text() : view_->currentIndex().data().toString());
+    cell_->setModified(isLetter);
+    if (!isLetter) cell_->selectAll();
+    return true;
+}
+
+void RecordPanel::OpenCell(const QString& text) {
+    const QModelIndex at = view_->currentIndex();
+    cellAt_ = at;
+    cell_ = new CellEdit(text,
+                         {.stored = [this] { events_.cellLeft(); }, .takenBack = [this] { CloseCell(); }});
+    cell_->setAccessibleName(model_->headerData(at.column(), Qt::Horizontal, Qt::DisplayRole).toString());
+    cell_->setAccessibleDescription(tr("Enter stores it, Esc takes it back"));
+    view_->scrollTo(at);
+    view_->setIndexWidget(at, cell_);
+    cell_->setFocus();
+    new LeaveCheck(*cell_, [this] { events_.cellLeft(); });
+}
+
+/// The keyboard goes back to the rows, unless it has gone elsewhere.
+void RecordPanel::CloseCell() {
+    if (!cell_) return;
+    CellEdit* const cell = cell_;
+    cell_.clear();
+    if (window()->focusWidget() == cell) view_->setFocus();
+    cell->hide();
+    // Which deletes it, once it is no longer at work.
+    view_->setIndexWidget(cellAt_, nullptr);
+}
+
+bool RecordPanel::LeaveCell() {
+    if (!cell_) return true;
+    if (leavingCell_) return false;
+    const QPointer<CellEdit> cell = cell_;
+    if (!cell->isModified()) {
+        CloseCell();
+        return true;
+    }
+    leavingCell_ = true;
+    const bool stored = events_.typed(qt::FromQt(cell->text()));
+    leavingCell_ = false;
+    if (stored) {
+        CloseCell();
+    } else if (cell) {
+        // Which takes the rows back to it.
+        placing_ = true;
+        cell->setFocus();
+        placing_ = false;
+    }
+    return stored;
+}
+
 bool RecordPanel::eventFilter(QObject* receiver, QEvent* event) {
+    if (receiver == view_ && BeginCell(*event)) return true;
     if (receiver == view_->viewport() && event->type() == QEvent::Resize) {
         const auto* resized = static_cast<QResizeEvent*>(event);
         PlaceColumns();

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QPersistentModelIndex>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "authoring/desk/table_grid.h"
@@ -11,10 +14,12 @@
 
 class QLabel;
 class QLineEdit;
+class QModelIndex;
 class QTableView;
 
 namespace fabula::ide {
 
+class CellEdit;
 class GridModel;
 class PictureView;
 
@@ -28,11 +33,19 @@ struct RecordEvents {
     std::function<void(const QPoint& place)> menuAsked;  ///< `place` on the screen
     std::function<void(int group, bool folded)> folded;  ///< a group is to be folded or unfolded
     std::function<void()> openedInTab;                   ///< a click with Ctrl
+    std::function<std::optional<int>()> typedColumn;     ///< into whose cells the author types
+    std::function<bool(int row)> mayType;                ///< into the cell of a row there
+    /// The cell of the current row is to take a text; false when that was refused.
+    std::function<bool(const std::string& text)> typed;
+    std::function<void()> cellLeft;  ///< for another part of the window
 };
 
 /// The records of the table in view, with the line that filters them above. The window tells what is to be
 /// shown; the panel only shows it and tells what the author does. Its parts are found by the names "Grid",
 /// "FilterLine" and "Count".
+///
+/// In the column into which the author types, a letter begins a text in place of that of the cell, and F2
+/// begins with that. Enter stores it, Esc takes it back; elsewhere letters find rows.
 class RecordPanel final : public QWidget {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
@@ -46,6 +59,9 @@ class RecordPanel final : public QWidget {
 
     /// Chooses a line of the grid and brings it in sight; -1 chooses none.
     void ChooseLine(int line);
+
+    /// Stores what was typed into a cell. False when it was refused: the cell keeps it and the keyboard.
+    bool LeaveCell();
 
     QTableView& Grid() { return *view_; }
     QLineEdit& FilterLine() { return *filter_; }
@@ -69,6 +85,10 @@ class RecordPanel final : public QWidget {
     void ShowHeadings();
     void OpenRow(int line);
     bool FoldBy(int key);
+    bool TypesInto(const QModelIndex& cell) const;
+    bool BeginCell(QEvent& event);
+    void OpenCell(const QString& text);
+    void CloseCell();
 
     const authoring::TableGrid& grid_;
     RecordEvents events_;
@@ -76,7 +96,10 @@ class RecordPanel final : public QWidget {
     int resizedColumn_ = -1;
     std::vector<ColumnWish> wishes_;  ///< of the columns
     bool placing_ = false;            ///< the panel moves columns and rows itself
-    int openLine_ = -1;               ///< the line whose conditions and actions stand one below the other
+    QPointer<CellEdit> cell_;         ///< the cell that is typed into
+    QPersistentModelIndex cellAt_;
+    bool leavingCell_ = false;
+    int openLine_ = -1;  ///< the line whose conditions and actions stand one below the other
     GridModel* model_;
     QTableView* view_;
     QLineEdit* filter_;
