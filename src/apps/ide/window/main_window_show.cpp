@@ -16,6 +16,7 @@
 #include "ide/window/command_actions.h"
 #include "ide/window/empty_page.h"
 #include "ide/window/find_bar.h"
+#include "ide/window/findings_pane.h"
 #include "ide/window/main_window.h"
 #include "ide/window/record_pane.h"
 #include "ide/window/record_panel.h"
@@ -76,6 +77,7 @@ void MainWindow::ShowRow() {
     records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
     ShowPicture();
     ShowUses();
+    findings_->Follow();
     ShowBeside();
     ShowTabs();
     ShowActions();
@@ -211,8 +213,8 @@ void MainWindow::ShowRecent() {
 }
 
 void MainWindow::NextPane(int direction) {
-    const std::vector<QWidget*> panes = {tree_, &records_->FilterLine(), &records_->Grid(), beside_, uses_,
-                                         find_};
+    const std::vector<QWidget*> panes = {
+        tree_, &records_->FilterLine(), &records_->Grid(), beside_, uses_, findings_, find_};
     const int count = static_cast<int>(panes.size());
     int at = 0;
     while (at < count && !panes[static_cast<std::size_t>(at)]->isAncestorOf(QApplication::focusWidget()) &&
@@ -223,6 +225,7 @@ void MainWindow::NextPane(int direction) {
         if (!pane->isVisible()) continue;
         if (pane == find_) return find_->Ask();
         if (pane == uses_) return uses_->Focus();
+        if (pane == findings_) return findings_->Focus();
         if (pane == beside_) return void(beside_->Enter());
         return pane->setFocus(Qt::TabFocusReason);
     }
