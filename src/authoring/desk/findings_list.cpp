@@ -54,15 +54,20 @@ std::optional<std::string> AskReason(platform::Dialogs& dialogs, const std::stri
 
 }  // namespace
 
-FindingLine FindingsList::LineOf(const Finding& finding, bool off) {
+FindingLine FindingsList::LineOf(const Finding& finding, const std::vector<LintLine>& stored) {
     store::Adventure& adventure = main_.CurrentContext().document.Adventure();
     JumpLine place = navigator_.LineTo(finding.table, ShownRecord(adventure, finding));
-    return {.code = finding.code,
-            .where = std::move(place.text),
-            .text = finding.message,
-            .jump = place.jump,
-            .record = finding.record,
-            .off = off};
+    FindingLine line{.code = finding.code,
+                     .where = std::move(place.text),
+                     .text = finding.message,
+                     .jump = place.jump,
+                     .record = finding.record};
+    for (const LintLine& kept : stored) {
+        if (!kept.switches.Hides(finding)) continue;
+        line.off = true;
+        if (line.reason.empty()) line.reason = kept.reason;
+    }
+    return line;
 }
 
 void FindingsList::Read() {
@@ -73,10 +78,10 @@ void FindingsList::Read() {
     if (edition_ != 0) {
         Document& document = main_.CurrentContext().document;
         file_ = document.File();
-        const LintSwitches switches = references::StoredSwitches(document.Adventure());
+        const std::vector<LintLine> stored = references::StoredLines(document.Adventure());
         for (const Finding& finding : references::Lint(document.Adventure()))
-            all_.push_back(LineOf(finding, switches.Hides(finding)));
-        ReadKinds(references::StoredLines(document.Adventure()));
+            all_.push_back(LineOf(finding, stored));
+        ReadKinds(stored);
     }
     Choose(chosen_);
 }

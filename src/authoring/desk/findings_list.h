@@ -19,7 +19,8 @@ struct FindingLine {
     std::string text;   ///< a sentence that names the record
     Jump jump;          ///< to the record
     std::int64_t record = 0;
-    bool off = false;  ///< the adventure has it switched off
+    bool off = false;         ///< the adventure has it switched off
+    std::string reason = {};  ///< why it is
 };
 
 /// A kind of finding that the adventure has, or has switched off.
@@ -76,7 +77,7 @@ class FindingsList {
     bool IsOff(std::string_view code) const;
 
   private:
-    FindingLine LineOf(const references::Finding& finding, bool off);
+    FindingLine LineOf(const references::Finding& finding, const std::vector<references::LintLine>& stored);
     void ReadKinds(const std::vector<references::LintLine>& stored);
     void Put(std::string_view code, std::optional<std::int64_t> record, std::optional<std::string> reason);
 

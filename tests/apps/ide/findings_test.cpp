@@ -162,6 +162,7 @@ TEST_P(Findings, AKindIsSwitchedOffAndOnAgain) {
     EXPECT_EQ(Remark(), "no rule prints a message - switched off: they come later");
     EXPECT_EQ(Kinds().currentText(), "message-unused (switched off)");
     EXPECT_EQ(Cell(0, 0), "message-unused (switched off)");
+    EXPECT_EQ(Cell(0, 2), "No rule prints message 1. (they come later)");
     EXPECT_TRUE(List().model()->index(0, 0).data(Qt::FontRole).value<QFont>().italic());
     EXPECT_FALSE(InMenu("Switch Off This Kind in This Adventure...").isEnabled());
     ChooseKind("All kinds");

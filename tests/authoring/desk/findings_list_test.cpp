@@ -168,6 +168,8 @@ TEST_F(FindingsListTest, OneRecordAloneCanBeSwitchedOffAndOn) {
     EXPECT_FALSE(list.IsOff("message-unused"));
     EXPECT_EQ(list.Lines().size(), 3U);
     EXPECT_TRUE(list.Lines()[1].off);
+    EXPECT_EQ(list.Lines()[1].reason, "for the second part");
+    EXPECT_EQ(list.Lines()[2].reason, "");
     list.SwitchOn("message-unused", 1);
     EXPECT_THAT(HeaderLines(), IsEmpty());
 }

@@ -49,6 +49,8 @@ class FindingsModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    static QString TextOf(const FindingLine& line, int column);
+
     const authoring::FindingsList& list_;
     int rowHeight_ = 0;
 };
@@ -63,11 +65,18 @@ QVariant FindingsModel::data(const QModelIndex& index, int role) const {
     }
     if (role == Qt::SizeHintRole) return QSize(0, rowHeight_);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
-    const QString code = qt::ToQt(line.code);
-    const QString text = index.column() == kKind    ? line.off ? tr("%1 (switched off)").arg(code) : code
-                         : index.column() == kWhere ? qt::ToQt(line.where)
-                                                    : qt::Translated(line.text);
+    const QString text = TextOf(line, index.column());
     return role == Qt::ToolTipRole ? qt::TipOf(text) : text;
+}
+
+QString FindingsModel::TextOf(const FindingLine& line, int column) {
+    if (column == kWhere) return qt::ToQt(line.where);
+    if (column == kKind) {
+        const QString code = qt::ToQt(line.code);
+        return line.off ? tr("%1 (switched off)").arg(code) : code;
+    }
+    const QString sentence = qt::Translated(line.text);
+    return line.reason.empty() ? sentence : QString("%1 (%2)").arg(sentence, qt::ToQt(line.reason));
 }
 
 QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -82,7 +91,7 @@ constexpr int kFewestLinesOfPane = 8;
 constexpr int kRowsThatTellWidths = 300;
 constexpr int kWidestPlace = 44;  ///< in letters
 constexpr int kMarginOfCell = 16;
-constexpr int kLettersOfKind = 16;
+constexpr int kLettersOfKind = 20;
 
 /// How a kind is offered: "gap (3)", "gap (3, 1 switched off)", "gap (switched off)".
 QString CaptionOf(const FindingKind& kind) {

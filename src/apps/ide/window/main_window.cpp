@@ -49,6 +49,7 @@ constexpr int kSmallestIcon = 22;
 constexpr int kTreeWidth = 250;
 constexpr int kShareOfRows = 600;  ///< of the room that they share with the record
 constexpr int kShareOfRecord = 400;
+constexpr int kFewestRows = 8;         ///< above a record that stands below them
 constexpr int kWidthForBeside = 1200;  ///< of a window in which the record has room beside the rows
 
 // Where the window's look is kept.
@@ -370,7 +371,9 @@ void MainWindow::ArrangePanes() {
     if (work_->orientation() != wanted) {
         work_->setOrientation(wanted);
         work_->setSizes({kShareOfRows, kShareOfRecord});
+        ShowPicture();
     }
+    records_->KeepRoomFor(wide ? 0 : kFewestRows, pages_->height() / 2);
     // Until the author chooses, the room decides whether it is shown.
     if (services_.store.contains(kRecordBeside) || showBeside_->isChecked() == wide || !LeaveRecord())
         return;

@@ -75,7 +75,6 @@ void MainWindow::ShowRow() {
     if (qt::HelpBook(places_.help).FileOf(topic.page).empty()) topic.page = HelpPageOf(ide_.Grid().View());
     records_->setProperty(qt::kHelpPage, topic.page);
     records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
-    ShowPicture();
     ShowUses();
     findings_->Follow();
     ShowBeside();
@@ -91,6 +90,7 @@ void MainWindow::ShowBeside() {
     // On the way over a heading the rows stay where they are.
     const bool atHeading = wanted && ide_.CurrentRow() < 0 && ide_.CurrentLine() >= 0;
     beside_->Show(request, request ? &ide_.CurrentContext() : nullptr, atHeading);
+    ShowPicture();
 }
 
 /// The author goes to another line: what was typed beside the rows is stored first, which may move them.
@@ -138,8 +138,11 @@ bool MainWindow::LeaveRecord() {
     return false;
 }
 
+/// Where a record stands below the rows and has its picture itself, they don't give their room for it.
 void MainWindow::ShowPicture() {
-    const bool shown = ide_.GetState() == authoring::MainScreen::State::Open && ide_.CurrentRow() >= 0;
+    const bool isBelow = work_->orientation() == Qt::Vertical && beside_->findChild<QLabel*>("imgPicture");
+    const bool shown =
+        ide_.GetState() == authoring::MainScreen::State::Open && ide_.CurrentRow() >= 0 && !isBelow;
     records_->Picture().Show(shown ? PictureOfRecord(ide_.CurrentContext().document.Adventure(),
                                                      ide_.Grid().View().table,
                                                      ide_.Grid().KeyOf(ide_.CurrentRow()))
