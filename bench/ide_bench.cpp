@@ -5,6 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "authoring/desk/findings_list.h"
 #include "authoring/desk/main_screen.h"
 #include "bench_games.h"
 #include "platform/scripted_dialogs.h"
@@ -143,6 +144,17 @@ void ShowWhatAScreenStored(benchmark::State& state) {
         main.ScreenClosed(*request);
 }
 BENCHMARK(ShowWhatAScreenStored)->Unit(benchmark::kMillisecond);
+
+/// The list of findings, made anew after a change.
+void ReadTheFindings(benchmark::State& state) {
+    MainScreen& main = TheTool().main;
+    Navigator navigator(main);
+    FindingsList list(main, navigator);
+    for (auto _ : state)
+        list.Read();
+    state.counters["findings"] = static_cast<double>(list.Lines().size());
+}
+BENCHMARK(ReadTheFindings)->Unit(benchmark::kMillisecond)->MinTime(1);
 
 }  // namespace
 }  // namespace fabula::authoring

@@ -1,9 +1,12 @@
 #include "references/lint.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "condacts/parser.h"
 #include "references/lint_game.h"
+#include "text/line_ends.h"
+#include "text/str_edit.h"
 #include "text/utf8.h"
 
 namespace fabula::references {
@@ -69,17 +72,40 @@ bool IsRule(std::string_view code) {
     return OrderOf(code) < std::size(kRules);
 }
 
-/// A line that an adventure keeps, in characters.
-constexpr std::size_t kLongestLine = 255;
+/// What a line of switches takes besides its reason, in characters; with it at most as many as a header.
+constexpr std::size_t kLongestLine = 255 - kLongestReason - 1;
 
-void AddLines(store::Adventure& adventure, const LintSwitches& switches) {
+void AddLines(store::Adventure& adventure, const LintLine& added) {
     store::Cursor& headers = adventure.OpenTable(store::TableNum::Header, "def");
-    for (const std::string& line : switches.Lines()) {
+    for (std::string line : added.switches.Lines()) {
+        if (!added.reason.empty()) line.append(" ").append(added.reason);
         headers.AddNew();
         headers.SetField("hdrkey", std::string(kLintHeader));
-        headers.SetField("hdrmess", line);
+        headers.SetField("hdrmess", std::move(line));
         headers.Update();
     }
+}
+
+/// Reads a line; nullopt when it begins with no code.
+std::optional<LintLine> ReadLine(std::string_view line) {
+    const auto tokens = condacts::SplitLine(line);
+    if (tokens.empty() || !IsRule(tokens[0].text)) return std::nullopt;
+    LintLine read;
+    std::size_t i = 0;
+    while (i < tokens.size() && IsRule(tokens[i].text)) {
+        const std::string code(tokens[i].text);
+        std::size_t next = i + 1;
+        for (; next < tokens.size(); ++next) {
+            const auto number = condacts::WholeNumber(tokens[next].text);
+            if (!number) break;
+            read.switches.records.insert({code, *number});
+        }
+        if (next == i + 1) read.switches.rules.insert(code);
+        i = next;
+    }
+    const condacts::Token& last = tokens[i - 1];
+    read.reason = text::TrimBlanks(line.substr(last.position + last.text.size()));
+    return read;
 }
 
 }  // namespace
@@ -89,19 +115,10 @@ std::span<const LintRule> AllLintRules() {
 }
 
 bool LintSwitches::Add(std::string_view line) {
-    const auto tokens = condacts::SplitLine(line);
-    if (tokens.empty() || !IsRule(tokens[0].text)) return false;
-    for (std::size_t i = 0; i < tokens.size() && IsRule(tokens[i].text);) {
-        const std::string code(tokens[i].text);
-        std::size_t next = i + 1;
-        for (; next < tokens.size(); ++next) {
-            const auto number = condacts::WholeNumber(tokens[next].text);
-            if (!number) break;
-            records.insert({code, *number});
-        }
-        if (next == i + 1) rules.insert(code);
-        i = next;
-    }
+    const auto read = ReadLine(line);
+    if (!read) return false;
+    rules.insert(read->switches.rules.begin(), read->switches.rules.end());
+    records.insert(read->switches.records.begin(), read->switches.records.end());
     return true;
 }
 
@@ -133,36 +150,55 @@ bool LintSwitches::Hides(const Finding& finding) const {
     return rules.contains(finding.code) || records.contains({std::string(finding.code), finding.record});
 }
 
-LintSwitches StoredSwitches(store::Adventure& adventure) {
-    LintSwitches switches;
+std::vector<LintLine> StoredLines(store::Adventure& adventure) {
+    std::vector<LintLine> lines;
     store::PreparedQuery rows = adventure.Prepare(store::TableNum::Header, "hdrkey, hdrmess", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        if (text::EqualsNoCase(rows.Text(0), kLintHeader)) switches.Add(rows.Text(1));
+        if (!text::EqualsNoCase(rows.Text(0), kLintHeader)) continue;
+        if (auto line = ReadLine(rows.Text(1))) lines.push_back(std::move(*line));
+    }
+    return lines;
+}
+
+LintSwitches StoredSwitches(store::Adventure& adventure) {
+    LintSwitches switches;
+    for (LintLine& line : StoredLines(adventure)) {
+        switches.rules.merge(line.switches.rules);
+        switches.records.merge(line.switches.records);
     }
     return switches;
 }
 
-void SwitchOff(store::Adventure& adventure, const LintSwitches& switches) {
+std::string ReasonOf(std::string_view typed) {
+    const std::string line =
+        text::NormalizeLineEnds(text::ReplaceAll(typed, text::kLineEndMarker, " "), " ");
+    const auto tokens = condacts::SplitLine(line);
+    const bool misleads =
+        !tokens.empty() && (IsRule(tokens[0].text) || condacts::WholeNumber(tokens[0].text));
+    return (misleads ? "- " : "") + std::string(text::TrimBlanks(line));
+}
+
+void SwitchOff(store::Adventure& adventure, const LintSwitches& switches, std::string_view reason) {
     LintSwitches missing = switches;
     missing.Remove(StoredSwitches(adventure));
-    AddLines(adventure, missing);
+    AddLines(adventure, {missing, std::string(reason)});
 }
 
 void SwitchOn(store::Adventure& adventure, const LintSwitches& switches) {
-    LintSwitches kept;
+    std::vector<LintLine> kept;
     store::Cursor& headers = adventure.OpenTable(store::TableNum::Header, "def");
     for (; !headers.Eof(); headers.MoveNext()) {
-        LintSwitches line;
-        if (!text::EqualsNoCase(headers.Text("hdrkey"), kLintHeader) || !line.Add(headers.Text("hdrmess")))
-            continue;
-        const LintSwitches before = line;
-        line.Remove(switches);
-        if (line.rules == before.rules && line.records == before.records) continue;
-        kept.rules.merge(line.rules);
-        kept.records.merge(line.records);
+        if (!text::EqualsNoCase(headers.Text("hdrkey"), kLintHeader)) continue;
+        auto line = ReadLine(headers.Text("hdrmess"));
+        if (!line) continue;
+        const LintSwitches before = line->switches;
+        line->switches.Remove(switches);
+        if (line->switches.rules == before.rules && line->switches.records == before.records) continue;
+        kept.push_back(std::move(*line));
         headers.Delete();
     }
-    AddLines(adventure, kept);
+    for (const LintLine& line : kept)
+        AddLines(adventure, line);
 }
 
 std::vector<Finding> Lint(store::Adventure& adventure, const LintSwitches& switches) {

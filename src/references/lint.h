@@ -48,14 +48,28 @@ struct LintSwitches {
     bool Hides(const Finding& finding) const;
 };
 
-/// The switches that an adventure keeps for itself: the texts of `Header` whose key is kLintHeader.
+/// A line that an adventure keeps: what it switches off, and the words behind that, which say why.
+struct LintLine {
+    LintSwitches switches;
+    std::string reason;
+};
+
+/// The lines that an adventure keeps for itself: the texts of `Header` whose key is kLintHeader.
+std::vector<LintLine> StoredLines(store::Adventure& adventure);
+/// What they switch off together.
 LintSwitches StoredSwitches(store::Adventure& adventure);
 inline constexpr std::string_view kLintHeader = "lint off";
 
 /// Switches findings off, or on again, in the adventure itself: `switches` are added to those it keeps, or
-/// taken out of them. Lines that are kept and not touched stay as they are. Belongs into one transaction.
-void SwitchOff(store::Adventure& adventure, const LintSwitches& switches);
+/// taken out of them. The reason stands behind each line that is added; it begins with a word that is
+/// neither a code nor a number, and is at most kLongestReason characters long. What other lines switch off
+/// keeps its reason. Belongs into one transaction.
+void SwitchOff(store::Adventure& adventure, const LintSwitches& switches, std::string_view reason = {});
 void SwitchOn(store::Adventure& adventure, const LintSwitches& switches);
+inline constexpr int kLongestReason = 120;
+
+/// A reason as the author typed it, on one line and so that it is not taken for a part of what it explains.
+std::string ReasonOf(std::string_view typed);
 
 /// Looks through a whole game. The findings come in the order of the rules, then of the records.
 std::vector<Finding> Lint(store::Adventure& adventure, const LintSwitches& switches = {});

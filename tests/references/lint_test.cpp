@@ -285,6 +285,47 @@ TEST(Lint, SwitchesCanBeKeptAndTakenBack) {
     EXPECT_GT(game->OpenTable(TableNum::Header, "def").RecordCount(), 0) << "other records stay";
 }
 
+std::vector<std::string> Headers(Adventure& game) {
+    std::vector<std::string> lines;
+    Cursor& headers = game.OpenTable(TableNum::Header, "def", "hdrkey='lint off'");
+    for (; !headers.Eof(); headers.MoveNext())
+        lines.emplace_back(headers.Text("hdrmess"));
+    return lines;
+}
+
+TEST(Lint, AReasonIsKeptBehindWhatItExplains) {
+    const auto game = test::Lighthouse();
+    SwitchOff(*game, Switches({"gap", "message-unused 7"}), "für später");
+    EXPECT_EQ(Headers(*game), (std::vector<std::string>{"gap für später", "message-unused 7 für später"}));
+    const auto lines = StoredLines(*game);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_TRUE(lines[0].switches.rules.contains("gap"));
+    EXPECT_EQ(lines[0].reason, "für später");
+    EXPECT_EQ(lines[1].reason, "für später");
+}
+
+TEST(Lint, ALineOfWhichAPartIsSwitchedOnKeepsItsReason) {
+    const auto game = test::Lighthouse();
+    SwitchOff(*game, Switches({"message-unused 7 40"}), "they come later");
+    SwitchOff(*game, Switches({"gap"}), "kept free");
+    SwitchOn(*game, Switches({"message-unused 7"}));
+    EXPECT_EQ(Headers(*game),
+              (std::vector<std::string>{"gap kept free", "message-unused 40 they come later"}));
+}
+
+TEST(Lint, AReasonIsNeverTakenForCodesOrNumbers) {
+    EXPECT_EQ(ReasonOf("  kept for later\n"), "kept for later");
+    EXPECT_EQ(ReasonOf("two\nlines"), "two lines");
+    EXPECT_EQ(ReasonOf("4 of them come later"), "- 4 of them come later");
+    EXPECT_EQ(ReasonOf("gap or not"), "- gap or not");
+    EXPECT_EQ(ReasonOf("ä 4"), "- ä 4");
+    EXPECT_EQ(ReasonOf(""), "");
+    const auto game = test::Lighthouse();
+    SwitchOff(*game, Switches({"message-unused"}), ReasonOf("4 of them come later"));
+    EXPECT_TRUE(StoredSwitches(*game).rules.contains("message-unused"));
+    EXPECT_TRUE(StoredSwitches(*game).records.empty());
+}
+
 TEST(Lint, ManyRecordsThatAreSwitchedOffStandOnSeveralLines) {
     LintSwitches switches;
     for (int record = 100; record < 400; ++record)

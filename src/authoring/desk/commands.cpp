@@ -98,6 +98,8 @@ constexpr CommandEntry kCommands[] = {
      "Write down every step of a test run", Use::Switch},
     {Command::Verify, "Verify", Menu::Game, 1, "&Verify...", "F7", "verify",
      "Check that the adventure holds together", Use::ToolBar},
+    {Command::Findings, "Findings", Menu::Game, 1, "&Findings", "Shift+F7", "list",
+     "List what the adventure has that can't be meant: unused, unreachable, missing"},
     {Command::Settings, "Settings", Menu::Game, 2, "Adventure &Settings...", "F4", "settings",
      "Title, type, colours, font and sound of the adventure"},
 

@@ -60,6 +60,7 @@ enum class Command {
     Run,
     Trace,  ///< whether a test is traced; switched on and off
     Verify,
+    Findings,
     Settings,
     // Tools
     CharacterTable,  ///< a whole character set at a glance

@@ -107,11 +107,13 @@ Document* Navigator::OpenDocument() {
     // A document that was opened since, or goes on with a copy, is not followed yet.
     if (!followed_ || !document.onChange || &followed_->adventure != &document.Adventure()) {
         followed_ = std::make_shared<Followed>(document.Adventure());
-        document.onChange = [known = std::weak_ptr(followed_), &document](std::string_view changes) {
+        ++edition_;
+        document.onChange = [this, known = std::weak_ptr(followed_), &document](std::string_view changes) {
             const auto followed = known.lock();
             if (!followed || &followed->adventure != &document.Adventure()) return;
             followed->index.Update(followed->adventure, changes);
             followed->places.reset();
+            ++edition_;
         };
     }
     return &document;
@@ -120,6 +122,10 @@ Document* Navigator::OpenDocument() {
 const references::Index& Navigator::Index() {
     OpenDocument();
     return followed_->index;
+}
+
+int Navigator::Edition() {
+    return OpenDocument() == nullptr ? 0 : edition_;
 }
 
 references::PlaceText& Navigator::Places() {
@@ -233,10 +239,15 @@ std::optional<JumpLine> Navigator::LineOf(const Target& target, references::Word
         if (!found) return std::nullopt;
     }
     if (target.kind == Kind::CharacterSet) return std::nullopt;
-    JumpLine line{JumpTo(kind.table, key), Places().RecordName(kind.table, key)};
-    if (const SearchedText* shown = FindText(kind.table); shown != nullptr && target.kind != Kind::Word) {
+    return LineTo(kind.table, key);
+}
+
+JumpLine Navigator::LineTo(TableNum table, std::int64_t key) {
+    OpenDocument();
+    JumpLine line{JumpTo(table, key), Places().RecordName(table, key)};
+    if (const SearchedText* shown = FindText(table); shown != nullptr && table != TableNum::Vocabulary) {
         PreparedQuery row =
-            followed_->adventure.Prepare(kind.table, shown->text, std::string(shown->key) + "=?");
+            followed_->adventure.Prepare(table, shown->text, std::string(shown->key) + "=?");
         if (row.First({key})) {
             const std::string text = BriefText(row.Text(0));
             if (!text.empty()) line.text.append(": ").append(text);
@@ -248,6 +259,8 @@ std::optional<JumpLine> Navigator::LineOf(const Target& target, references::Word
 Jump Navigator::JumpTo(TableNum table, std::int64_t key) {
     OpenDocument();
     Jump jump{{table, 0}, static_cast<int>(key)};
+    // Rows of a table whose key is a text are counted.
+    if (table == TableNum::Adventure) jump.key = 1;
     if (table == TableNum::ProcessTables) {
         PreparedQuery row = followed_->adventure.Prepare(table, "estype", "canum=?");
         if (row.First({key}))

@@ -69,6 +69,9 @@ class Navigator {
     /// Where a record is shown; nullopt when it is not there.
     std::optional<Jump> Find(const NamedRecord& record);
 
+    /// The record, with the beginning of its text; only while an adventure is open. "message 7: It is
+    /// dark."
+    JumpLine LineTo(store::TableNum table, std::int64_t key);
     /// Where a record is shown; only while an adventure is open.
     Jump JumpTo(store::TableNum table, std::int64_t key);
 
@@ -77,6 +80,10 @@ class Navigator {
 
     /// Of the open adventure; only while one is open.
     const references::Index& Index();
+
+    /// Another number after each change of the open adventure, and for each adventure; 0 while none is
+    /// open.
+    int Edition();
 
   private:
     struct Followed;
@@ -93,6 +100,7 @@ class Navigator {
 
     MainScreen& main_;
     std::shared_ptr<Followed> followed_;
+    int edition_ = 0;
     std::vector<Jump> back_;
     std::vector<Jump> forward_;
 };

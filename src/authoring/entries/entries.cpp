@@ -139,12 +139,18 @@ bool MayEditFlag(ScreenContext& context) {
     return false;
 }
 
-/// What the game itself asks for by its spelling stays as it is.
-bool MayEditWord(ScreenContext& context) {
+/// What the game itself asks for by its spelling stays as it is. nullopt for a word that is not there.
+std::optional<bool> IsEditableWord(ScreenContext& context) {
     store::PreparedQuery word =
         context.document.Adventure().Prepare(TableNum::Vocabulary, "voctypen", "vocindex=?");
-    if (!word.First({std::int64_t{context.currentEntry}})) return false;
-    if (word.Number(0) != condacts::kReserved) return true;
+    if (!word.First({std::int64_t{context.currentEntry}})) return std::nullopt;
+    return word.Number(0) != condacts::kReserved;
+}
+
+bool MayEditWord(ScreenContext& context) {
+    const auto editable = IsEditableWord(context);
+    if (!editable) return false;
+    if (*editable) return true;
     return Refuse(context.dialogs, "Words of type RESERVED cannot be edited");
 }
 
@@ -159,10 +165,11 @@ bool MayChangeProcess(ScreenContext& context, std::string_view deed) {
 bool StandsBeside(ScreenContext& context) {
     switch (context.currentTable) {
         case TableNum::Adventure:
-        case TableNum::Vocabulary:
         case TableNum::Characters:
         case TableNum::Pictures:
             return false;
+        case TableNum::Vocabulary:
+            return IsEditableWord(context).value_or(false);
         case TableNum::Flags:
             return IsEditableFlag(context).value_or(false);
         case TableNum::ProcDesc:

@@ -78,6 +78,17 @@ TEST_P(References, ShiftF12ListsTheUsesAndEnterGoesThereAndAltLeftBack) {
     EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::ProcessTables);
 }
 
+TEST_P(References, WhatWasTypedBesideTheRowsIsStoredBeforeTheJumpToAUse) {
+    Press(Qt::Key_F9);
+    Press(Qt::Key_F12, Qt::ShiftModifier);
+    window_.Part<QPlainTextEdit>("text").setPlainText("You raise the wick.");
+    Uses().setFocus();
+    window_.Press(Qt::Key_Return);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::ProcessTables);
+    window_.ChooseNode("Messages");
+    EXPECT_EQ(window_.Cell(0, 1), "You raise the wick.");
+}
+
 TEST_P(References, ControlPGoesToARecordByItsNumber) {
     QTimer::singleShot(0, [] {
         auto* dialog = dynamic_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTableView>
 #include <QTest>
 #include <array>
@@ -37,6 +38,7 @@ class Rows : public testing::TestWithParam<qt::Theme> {
         GameBuilder game;
         game.Location(0, "You are in the hall.", "The hall").Word("GET", 30, 0).Word("DROP", 31, 0);
         game.Message(0, "You lower the wick.").Message(1, "It is dark.");
+        game.Object(0, {.description = "a lamp", .place = 0});
         for (const auto& [verb, line] : kEntries)
             game.Entry(0, verb, "_", line);
         game.Write(file);
@@ -211,6 +213,76 @@ TEST_P(Rows, HaveTheirRecordBesideThemWhereTheWindowIsWideUntilTheAuthorChooses)
     window_.Window().resize(1310, 700);
     QApplication::processEvents();
     EXPECT_FALSE(Pane().isVisible());
+}
+
+TEST_P(Rows, KeepEightLinesAboveARecordOnASmallScreen) {
+    window_.Window().resize(800, 600);
+    for (const char* table : {"Locations", "Objects", "Messages", "Response (P0)"}) {
+        window_.ChooseNode(table);
+        Grid().setFocus();
+        if (!Pane().isVisible()) Press(Qt::Key_F9);
+        QApplication::processEvents();
+        ASSERT_TRUE(Pane().isVisible()) << table;
+        EXPECT_GE(Grid().viewport()->height(), 8 * Grid().verticalHeader()->defaultSectionSize()) << table;
+        EXPECT_LE(Grid().height(), 300) << table;
+    }
+}
+
+TEST_P(Rows, LeaveThePictureToARecordBelowThemThatShowsItItself) {
+    QImage image(64, 44, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    ASSERT_TRUE(image.save(qt::PathToQt(window_.folder / "hall.png")));
+    GameBuilder game;
+    window_.Open(game.Graphics().Location(0, "You are in the hall.", "The hall").PictureOf(0, "hall.png"));
+    window_.Window().resize(800, 600);
+    window_.ChooseNode("Locations");
+    const auto& picture = *Grid().parentWidget()->findChild<QLabel*>("imgPicture");
+    EXPECT_TRUE(picture.isVisible());
+    Grid().setFocus();
+    Press(Qt::Key_F9);
+    EXPECT_TRUE(Pane().findChild<QLabel*>("imgPicture")->isVisible());
+    EXPECT_FALSE(picture.isVisible());
+    window_.Window().resize(1300, 600);
+    QApplication::processEvents();
+    EXPECT_TRUE(picture.isVisible());
+    Press(Qt::Key_F9);
+    window_.Window().resize(800, 600);
+    EXPECT_TRUE(picture.isVisible());
+}
+
+TEST_P(Rows, GiveTheRecordHalfOfAScreenThatIsTooSmallForEightLines) {
+    window_.Window().resize(800, 360);
+    window_.ChooseNode("Messages");
+    Press(Qt::Key_F9);
+    QApplication::processEvents();
+    const int both = Pane().parentWidget()->height();
+    EXPECT_LE(Grid().height(), both / 2);
+    EXPECT_GE(Grid().height(), both / 2 - 8);
+}
+
+TEST_P(Rows, EveryFieldOfARecordBelowThemCanBeSeenWhenItHasTheKeyboard) {
+    window_.Window().resize(800, 600);
+    for (const char* table : {"Locations", "Objects", "Messages", "Response (P0)"}) {
+        window_.ChooseNode(table);
+        Grid().setFocus();
+        if (!Pane().isVisible()) Press(Qt::Key_F9);
+        Press(Qt::Key_Return);
+        QApplication::processEvents();
+        const QWidget* const first = QApplication::focusWidget();
+        ASSERT_TRUE(Pane().isAncestorOf(first)) << table;
+        int fields = 0;
+        do {
+            const QWidget* const field = QApplication::focusWidget();
+            const QRect seen = field->visibleRegion().boundingRect();
+            EXPECT_GT(seen.height(), field->fontMetrics().height())
+                << table << ": " << field->objectName().toStdString();
+            ++fields;
+            Press(Qt::Key_Tab);
+            QApplication::processEvents();
+        } while (Pane().isAncestorOf(QApplication::focusWidget()) && QApplication::focusWidget() != first &&
+                 fields < 50);
+        EXPECT_GT(fields, 2) << table;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, Rows, testing::Values(qt::Theme::Light, qt::Theme::Dark));

@@ -86,8 +86,8 @@ TEST_F(CommandsTest, FollowTheTableInTheGrid) {
                     "BatImp", "BatExp", "Print", "Preview", "Package", "Exit", "NewTab", "Edit", "Delete",
                     "Find", "FindNext", "Filter", "Replace", "GoToAnything", "GoToNamed", "Uses", "GoBack",
                     "GoForward", "Renumber", "UsesColumn", "OpenInTab", "Run", "Trace", "Verify",
-                    "Settings", "CharTable", "LstRecs", "ShortDesc", "KeyChange", "TravelTable", "Palette",
-                    "Help", "HelpContents", "AboutAdventure", "About"));
+                    "Findings", "Settings", "CharTable", "LstRecs", "ShortDesc", "KeyChange", "TravelTable",
+                    "Palette", "Help", "HelpContents", "AboutAdventure", "About"));
     main->Show({TableNum::Vocabulary});
     EXPECT_TRUE(IsEnabled(Command::Sort));
     EXPECT_TRUE(IsEnabled(Command::Edit));

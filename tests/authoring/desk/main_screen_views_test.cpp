@@ -144,10 +144,30 @@ TEST_F(ViewsTest, OfTextsAndEntriesHaveARecordBesideTheRows) {
     EXPECT_EQ(main->RecordBeside()->screen, Screen::Location);
 }
 
+TEST_F(ViewsTest, OfWordsHaveARecordBesideTheRowsUnlessTheyAreReserved) {
+    OpenNew();
+    store::Cursor& words = Adventure().OpenTable(TableNum::Vocabulary, "def");
+    for (const auto& [key, type] : {std::pair(9000, 2), std::pair(9001, 7)}) {
+        words.AddNew();
+        words.SetField("vocindex", std::int64_t{key});
+        words.SetField("word", "W" + std::to_string(key));
+        words.SetField("vocnum", std::int64_t{99});
+        words.SetField("voctypen", std::int64_t{type});
+        words.Update();
+    }
+    main->Show({TableNum::Vocabulary});
+    main->SelectRow(main->Grid().RowOf(9000).value());
+    ASSERT_TRUE(main->RecordBeside().has_value());
+    EXPECT_EQ(main->RecordBeside()->screen, Screen::Word);
+    main->SelectRow(main->Grid().RowOf(9001).value());
+    EXPECT_FALSE(main->RecordBeside().has_value());
+    EXPECT_TRUE(Boxes().empty());
+}
+
 TEST_F(ViewsTest, WhoseRecordsCannotBeEditedHaveNoneBesideTheRowsAndSayNothing) {
     OpenNew();
-    for (const TableNum table : {TableNum::Vocabulary, TableNum::Adventure, TableNum::CondActs,
-                                 TableNum::ProcDesc, TableNum::Messages}) {
+    for (const TableNum table :
+         {TableNum::Adventure, TableNum::CondActs, TableNum::ProcDesc, TableNum::Messages}) {
         main->Show({table});
         EXPECT_FALSE(main->RecordBeside().has_value()) << static_cast<int>(table);
     }

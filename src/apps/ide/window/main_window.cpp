@@ -26,6 +26,7 @@
 #include "ide/window/command_actions.h"
 #include "ide/window/empty_page.h"
 #include "ide/window/find_bar.h"
+#include "ide/window/findings_pane.h"
 #include "ide/window/game_test.h"
 #include "ide/window/record_pane.h"
 #include "ide/window/record_panel.h"
@@ -48,12 +49,14 @@ constexpr int kSmallestIcon = 22;
 constexpr int kTreeWidth = 250;
 constexpr int kShareOfRows = 600;  ///< of the room that they share with the record
 constexpr int kShareOfRecord = 400;
+constexpr int kFewestRows = 8;         ///< above a record that stands below them
 constexpr int kWidthForBeside = 1200;  ///< of a window in which the record has room beside the rows
 
 // Where the window's look is kept.
 constexpr const char* kGeometry = "Desk/Geometry";
 constexpr const char* kSplitter = "Desk/Splitter";
 constexpr const char* kUsesShown = "Desk/Uses";
+constexpr const char* kFindingsShown = "Desk/Findings";
 constexpr const char* kRecordBeside = "Desk/RecordBeside";
 constexpr const char* kWithNames = "Desk/WithNames";
 constexpr const char* kComments = "Desk/Comments";
@@ -65,6 +68,7 @@ MainWindow::MainWindow(const Services& services, Places places)
       places_(std::move(places)),
       ide_({services.dialogs, services.settings, services.clock, services.events}, places_.desk),
       navigator_(ide_),
+      findingsList_(ide_, navigator_),
       help_(places_.help, services.dialogs),
       pages_(new QStackedWidget),
       empty_(new EmptyPage({.create = [this] { Do(Command::New); },
@@ -126,7 +130,17 @@ MainWindow::MainWindow(const Services& services, Places places)
                                  find_->hide();
                                  records_->Grid().setFocus();
                              }})),
-      uses_(new UsesPane([this](const authoring::Jump& jump) { Jump(jump); })),
+      uses_(new UsesPane([this](const authoring::Jump& jump) {
+          if (LeaveRecord()) Jump(jump);
+      })),
+      findings_(new FindingsPane(findingsList_, services.timers, services.dialogs,
+                                 {.chosen =
+                                      [this](const authoring::Jump& jump) {
+                                          if (LeaveRecord()) Jump(jump);
+                                      },
+                                  .leaves = [this] { return LeaveRecord(); },
+                                  .switched = [this] { ShowChanges(); },
+                                  .left = [this] { records_->Grid().setFocus(); }})),
       actions_(new CommandActions(this, [this](Command command) { Do(command); })),
       message_(new QLabel),
       tableStatus_(new QLabel),
@@ -160,9 +174,11 @@ void MainWindow::MakePages() {
     column->addWidget(tabs_);
     column->addWidget(records_, 1);
     column->addWidget(uses_);
+    column->addWidget(findings_);
     column->addWidget(find_);
     find_->hide();
     uses_->setVisible(services_.store.value(kUsesShown, false).toBool());
+    findings_->setVisible(services_.store.value(kFindingsShown, false).toBool());
     desk_->setChildrenCollapsible(false);
     desk_->setHandleWidth(1);
     desk_->addWidget(tree_);
@@ -214,14 +230,16 @@ void MainWindow::MakeMenus() {
     }
     view->addSeparator();
     view->addAction(bar->toggleViewAction());
-    QAction* uses = view->addAction(tr("&Uses"), this, [this](bool shown) {
-        uses_->setVisible(shown);
-        ShowUses();
-    });
-    uses->setObjectName("UsesShown");
-    uses->setCheckable(true);
-    QObject::connect(view, &QMenu::aboutToShow, this,
-                     [this, uses] { uses->setChecked(uses_->isVisibleTo(desk_)); });
+    const auto addPane = [this, view](const QString& text, const char* name, QWidget* pane) {
+        QAction* action =
+            view->addAction(text, this, [this, pane] { ShowBelow(pane, !pane->isVisibleTo(desk_)); });
+        action->setObjectName(name);
+        action->setCheckable(true);
+        QObject::connect(view, &QMenu::aboutToShow, this,
+                         [this, action, pane] { action->setChecked(pane->isVisibleTo(desk_)); });
+    };
+    addPane(tr("&Uses"), "UsesShown", uses_);
+    addPane(tr("F&indings"), "FindingsShown", findings_);
 }
 
 void MainWindow::MakeViewSwitches(QMenu& view) {
@@ -338,6 +356,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     services_.store.setValue(kGeometry, saveGeometry());
     services_.store.setValue(kSplitter, desk_->saveState());
     services_.store.setValue(kUsesShown, uses_->isVisibleTo(desk_));
+    services_.store.setValue(kFindingsShown, findings_->isVisibleTo(desk_));
     ide_.End();
     help_.Close();
     event->accept();
@@ -356,7 +375,9 @@ void MainWindow::ArrangePanes() {
     if (work_->orientation() != wanted) {
         work_->setOrientation(wanted);
         work_->setSizes({kShareOfRows, kShareOfRecord});
+        ShowPicture();
     }
+    records_->KeepRoomFor(wide ? 0 : kFewestRows, pages_->height() / 2);
     // Until the author chooses, the room decides whether it is shown.
     if (services_.store.contains(kRecordBeside) || showBeside_->isChecked() == wide || !LeaveRecord())
         return;

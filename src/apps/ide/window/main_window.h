@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "authoring/desk/findings_list.h"
 #include "authoring/desk/main_screen.h"
 #include "authoring/desk/navigator.h"
 #include "authoring/drawing/character_set_files.h"
@@ -34,6 +35,7 @@ namespace fabula::ide {
 class CommandActions;
 class EmptyPage;
 class FindBar;
+class FindingsPane;
 class GameTest;
 class RecordPane;
 class RecordPanel;
@@ -127,6 +129,7 @@ class MainWindow final : public QMainWindow {
     void ShowRecent();
     void NextPane(int direction);
     void ShowUses();
+    void ShowBelow(QWidget* pane, bool shown);
 
     void DoJump(authoring::Command command);
     void RunJump(authoring::Command command);
@@ -171,6 +174,7 @@ class MainWindow final : public QMainWindow {
     Places places_;
     authoring::MainScreen ide_;
     authoring::Navigator navigator_;
+    authoring::FindingsList findingsList_;
     std::optional<authoring::Jump> leftFor_;  ///< where the author went from a box or a dialog
     std::string afterDelete_;                 ///< to be told when the record has gone
     qt::Help help_;
@@ -189,6 +193,7 @@ class MainWindow final : public QMainWindow {
     QAction* showBeside_ = nullptr;
     FindBar* find_;
     UsesPane* uses_;
+    FindingsPane* findings_;
     CommandActions* actions_;
     std::unique_ptr<QProgressDialog> upgrade_;  ///< while the steps of an upgrade run
     QMenu* tableMenu_ = nullptr;

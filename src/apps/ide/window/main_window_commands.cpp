@@ -80,6 +80,7 @@ void MainWindow::Do(Command command) {
         case Command::TravelTable:
             return ConvertTravelTable();
         case Command::Uses:
+        case Command::Findings:
         case Command::GoToNamed:
         case Command::GoToAnything:
         case Command::Back:

@@ -7,6 +7,7 @@
 #include "ide/dialogs/renumber_dialog.h"
 #include "ide/dialogs/replace_dialog.h"
 #include "ide/window/command_actions.h"
+#include "ide/window/findings_pane.h"
 #include "ide/window/main_window.h"
 #include "ide/window/record_pane.h"
 #include "ide/window/record_panel.h"
@@ -45,9 +46,11 @@ void MainWindow::DoJump(Command command) {
 void MainWindow::RunJump(Command command) {
     switch (command) {
         case Command::Uses:
-            uses_->show();
-            ShowUses();
+            ShowBelow(uses_, true);
             return uses_->Focus();
+        case Command::Findings:
+            ShowBelow(findings_, true);
+            return findings_->Focus();
         case Command::GoToNamed:
             return GoToNamed();
         case Command::GoToAnything:
@@ -76,6 +79,14 @@ void MainWindow::ShowUses() {
     } catch (const Error& error) {
         uses_->Show(error.what(), {});
     }
+}
+
+/// One pane at a time stands below the rows.
+void MainWindow::ShowBelow(QWidget* pane, bool shown) {
+    uses_->setVisible(shown && pane == uses_);
+    findings_->setVisible(shown && pane == findings_);
+    ShowUses();
+    if (shown && pane == findings_) findings_->Open();
 }
 
 void MainWindow::Jump(const authoring::Jump& jump) {

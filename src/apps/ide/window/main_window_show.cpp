@@ -16,6 +16,7 @@
 #include "ide/window/command_actions.h"
 #include "ide/window/empty_page.h"
 #include "ide/window/find_bar.h"
+#include "ide/window/findings_pane.h"
 #include "ide/window/main_window.h"
 #include "ide/window/record_pane.h"
 #include "ide/window/record_panel.h"
@@ -75,8 +76,8 @@ void MainWindow::ShowRow() {
     if (qt::HelpBook(places_.help).FileOf(topic.page).empty()) topic.page = HelpPageOf(ide_.Grid().View());
     records_->setProperty(qt::kHelpPage, topic.page);
     records_->setProperty(qt::kHelpAnchor, topic.anchors.value(0));
-    ShowPicture();
     ShowUses();
+    findings_->Follow();
     ShowBeside();
     ShowTabs();
     ShowActions();
@@ -90,6 +91,7 @@ void MainWindow::ShowBeside() {
     // On the way over a heading the rows stay where they are.
     const bool atHeading = wanted && ide_.CurrentRow() < 0 && ide_.CurrentLine() >= 0;
     beside_->Show(request, request ? &ide_.CurrentContext() : nullptr, atHeading);
+    ShowPicture();
 }
 
 /// The author goes to another line: what was typed beside the rows is stored first, which may move them.
@@ -144,8 +146,11 @@ bool MainWindow::LeaveRecord() {
     return false;
 }
 
+/// Where a record stands below the rows and has its picture itself, they don't give their room for it.
 void MainWindow::ShowPicture() {
-    const bool shown = ide_.GetState() == authoring::MainScreen::State::Open && ide_.CurrentRow() >= 0;
+    const bool isBelow = work_->orientation() == Qt::Vertical && beside_->findChild<QLabel*>("imgPicture");
+    const bool shown =
+        ide_.GetState() == authoring::MainScreen::State::Open && ide_.CurrentRow() >= 0 && !isBelow;
     records_->Picture().Show(shown ? PictureOfRecord(ide_.CurrentContext().document.Adventure(),
                                                      ide_.Grid().View().table,
                                                      ide_.Grid().KeyOf(ide_.CurrentRow()))
@@ -219,8 +224,8 @@ void MainWindow::ShowRecent() {
 }
 
 void MainWindow::NextPane(int direction) {
-    const std::vector<QWidget*> panes = {tree_, &records_->FilterLine(), &records_->Grid(), beside_, uses_,
-                                         find_};
+    const std::vector<QWidget*> panes = {
+        tree_, &records_->FilterLine(), &records_->Grid(), beside_, uses_, findings_, find_};
     const int count = static_cast<int>(panes.size());
     int at = 0;
     while (at < count && !panes[static_cast<std::size_t>(at)]->isAncestorOf(QApplication::focusWidget()) &&
@@ -231,6 +236,7 @@ void MainWindow::NextPane(int direction) {
         if (!pane->isVisible()) continue;
         if (pane == find_) return find_->Ask();
         if (pane == uses_) return uses_->Focus();
+        if (pane == findings_) return findings_->Focus();
         if (pane == beside_) return void(beside_->Enter());
         return pane->setFocus(Qt::TabFocusReason);
     }

@@ -33,7 +33,8 @@ constexpr int kRowsForLast = 100;
 constexpr int kWidestColumn = 160;
 constexpr int kNarrowestColumn = 10;  ///< of those that need more
 constexpr int kCellMargin = 20;
-constexpr int kTitleMargin = 4;  ///< besides the one that it brings
+constexpr int kRowsOfHeading = 2;  ///< that the headings need the height of, at most
+constexpr int kTitleMargin = 4;    ///< besides the one that it brings
 
 /// The table of the rows.
 class RowsView final : public QTableView {
@@ -215,6 +216,11 @@ void RecordPanel::FitRows() {
     view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view_->verticalHeader()->setMinimumSectionSize(1);
     view_->verticalHeader()->setDefaultSectionSize(view_->fontMetrics().height() * 3 / 2);
+}
+
+void RecordPanel::KeepRoomFor(int rows, int mostHeight) {
+    const int height = view_->verticalHeader()->defaultSectionSize() * (rows + kRowsOfHeading);
+    view_->setMinimumHeight(std::min(height, mostHeight));
 }
 
 void RecordPanel::MeasureColumns() {

@@ -57,6 +57,9 @@ class RecordPanel final : public QWidget {
     /// The records, their order or the filter are other ones.
     void ShowRecords();
 
+    /// Keeps room for some rows and their headings, but no more than `mostHeight`.
+    void KeepRoomFor(int rows, int mostHeight);
+
     /// Chooses a line of the grid and brings it in sight; -1 chooses none.
     void ChooseLine(int line);
 
