@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <array>
 
 #include "authoring/jobs/decompile_screen.h"
@@ -14,6 +15,7 @@ namespace fabula::ide {
 
 /// The dialog of `DecompileScreen`.
 class DecompileDialog final : public JobDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `events` of the screen should be JobEvents, so that a program can be ended.
     explicit DecompileDialog(authoring::DecompileScreen& screen, QWidget* parent = nullptr);

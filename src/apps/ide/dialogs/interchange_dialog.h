@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <vector>
 
 #include "authoring/jobs/interchange_screen.h"
@@ -13,6 +14,7 @@ namespace fabula::ide {
 /// The dialog of `InterchangeScreen`. When it has closed, the window opens the screen's `NewFile`, if there
 /// is one.
 class InterchangeDialog final : public JobDialog {
+    Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `events` of the screen should be JobEvents, so that a job can be cancelled.
     InterchangeDialog(authoring::InterchangeScreen& screen, platform::Dialogs& dialogs,
