@@ -5,7 +5,7 @@
 #include "bench_games.h"
 #include "engine/engine.h"
 #include "engine/origin.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "support/temp_folder.h"
 
@@ -65,7 +65,7 @@ class BenchGame {
     explicit BenchGame(void (*build)(const std::filesystem::path&), const Listeners& listeners = {}) {
         build(folder_ / "game.fbd");
         adventure_ = store::Adventure::Open(folder_ / "game.fbd", store::OpenMode::ReadOnly);
-        engine::Host host{window_, oper_, random_, sound_, listeners.trace};
+        engine::Host host{window_, person_, random_, sound_, listeners.trace};
         host.parts.origins = listeners.origins;
         engine::Options options;
         options.traceFile = listeners.trace != nullptr;
@@ -74,13 +74,13 @@ class BenchGame {
 
     engine::Engine& Engine() { return *engine_; }
     const NoWindow& Window() const { return window_; }
-    bool HasFailed() const { return !oper_.Boxes().empty(); }
+    bool HasFailed() const { return !person_.Boxes().empty(); }
 
   private:
     test::TempFolder folder_;
     std::unique_ptr<store::Adventure> adventure_;
     NoWindow window_;
-    platform::ScriptedOperator oper_;
+    platform::ScriptedPerson person_;
     platform::SeededRandom random_{1};
     engine::SilentPlayer sound_;
     std::unique_ptr<engine::Engine> engine_;

@@ -7,7 +7,7 @@
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "store/create.h"
 #include "support/places.h"
@@ -36,7 +36,7 @@ class Folder {
 };
 
 void Create(const std::filesystem::path& file) {
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     const platform::SystemClock clock;
     platform::NoEvents events;
     CreateAdventure(true, file, {}, {person, clock, events, test::DefaultData()});

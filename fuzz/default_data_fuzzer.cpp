@@ -8,7 +8,7 @@
 #include <unistd.h>
 
 #include "platform/error.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/create.h"
 
 using namespace fabula;
@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto file = folder / "Fabula.ini";
     std::ofstream(file, std::ios::binary)
         .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
     platform::NoEvents events;
     try {

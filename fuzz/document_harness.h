@@ -11,7 +11,7 @@
 #include "authoring/document/document.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/create.h"
 #include "support/places.h"
 
@@ -24,7 +24,7 @@ class DocumentHarness {
         : folder(std::filesystem::temp_directory_path() / ("fuzz-" + std::to_string(getpid()))),
           source(folder / "source.txt") {
         std::filesystem::create_directories(folder);
-        platform::ScriptedOperator person;
+        platform::ScriptedPerson person;
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
         store::CreateAdventure(true, folder / "game.fbd", store::AdventureSetup(),

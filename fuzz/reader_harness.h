@@ -13,7 +13,7 @@
 #include "platform/clock.h"
 #include "platform/error.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "store/create.h"
 #include "support/places.h"
@@ -30,7 +30,7 @@ class ReaderHarness {
         std::filesystem::create_directories(folder_);
         store::AdventureSetup setup;
         setup.ChooseType(type);
-        platform::ScriptedOperator person;
+        platform::ScriptedPerson person;
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
         store::CreateAdventure(true, folder_ / "game.fbd", setup,
@@ -48,7 +48,7 @@ class ReaderHarness {
     void Read(const std::uint8_t* data, std::size_t size) {
         std::ofstream(source_, std::ios::binary)
             .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-        platform::ScriptedOperator person;
+        platform::ScriptedPerson person;
         interchange::NoObserver nobody;
         interchange::JobStatus status(nobody);
         interchange::ImportContext context{source_, *adventure_, person, status};

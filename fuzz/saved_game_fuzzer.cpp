@@ -11,7 +11,7 @@
 #include "engine/engine.h"
 #include "engine/recording_window.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/create.h"
 #include "support/places.h"
 
@@ -46,7 +46,7 @@ class GameHarness {
   private:
     const std::filesystem::path folder_ =
         std::filesystem::temp_directory_path() / ("fuzz-" + std::to_string(getpid()));
-    platform::ScriptedOperator person_;
+    platform::ScriptedPerson person_;
     platform::SeededRandom random_{1};
     engine::RecordingWindow window_;
     engine::SilentPlayer sound_;

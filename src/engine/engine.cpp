@@ -47,7 +47,7 @@ void RemoveLast(std::string& line) {
 }  // namespace
 
 Engine::Engine(store::Adventure& adventure, const Host& host, const Options& options)
-    : adventure_(adventure), session_(std::make_unique<Session>(host, options)) {}
+    : adventure_(adventure), sitting_(std::make_unique<Sitting>(host, options)) {}
 
 Engine::~Engine() = default;
 
@@ -59,7 +59,7 @@ void Engine::Guard(Step step) {
     } catch (const RunFailure& failure) {
         Fail(failure.what());
     } catch (const Error& error) {
-        session_->host.oper.Tell(error.what(), kFailureTitle);
+        sitting_->host.person.Tell(error.what(), kFailureTitle);
         failed_ = true;
         EndGame();
     }
@@ -67,7 +67,7 @@ void Engine::Guard(Step step) {
 
 void Engine::Fail(const std::string& what) {
     const std::string where = game_ ? TextOf(game_->runner.Place()) : "";
-    session_->host.oper.Tell(
+    sitting_->host.person.Tell(
         "The game has gone wrong and ends. " + (where.empty() ? "" : where + ": ") + what + ".",
         kFailureTitle);
     failed_ = true;
@@ -75,12 +75,12 @@ void Engine::Fail(const std::string& what) {
 }
 
 void Engine::EndGame() {
-    if (game_ && game_->timeOutRunning) session_->parts.timers.StopTimeOut();
+    if (game_ && game_->timeOutRunning) sitting_->parts.timers.StopTimeOut();
     waiting_ = Waiting::Nothing;
     tickPending_ = false;
     scriptPlaying_ = false;
     game_.reset();
-    session_->parts.events.EndGame();
+    sitting_->parts.events.EndGame();
 }
 
 void Engine::Initialize() {
@@ -89,7 +89,7 @@ void Engine::Initialize() {
 }
 
 void Engine::Start() {
-    if (game_ && game_->timeOutRunning) session_->parts.timers.StopTimeOut();
+    if (game_ && game_->timeOutRunning) sitting_->parts.timers.StopTimeOut();
     tickPending_ = false;
     failed_ = false;
     game_.reset();
@@ -97,20 +97,20 @@ void Engine::Start() {
     Guard([this] {
         if (restarts_ > kMostRestarts)
             throw RunFailure("the game starts again and again without asking the player");
-        game_ = std::make_unique<Game>(adventure_, *session_);
-        if (!session_->begun) session_->soundOn = game_->data.sound;
-        session_->begun = true;
-        session_->host.sound.Configure(game_->data.soundSettings);
+        game_ = std::make_unique<Game>(adventure_, *sitting_);
+        if (!sitting_->begun) sitting_->soundOn = game_->data.sound;
+        sitting_->begun = true;
+        sitting_->host.sound.Configure(game_->data.soundSettings);
         ShowStatus();
     });
     if (game_) RunLoop(&ProcessLoop::Start);
 }
 
 void Engine::ShowStatus() {
-    StatusLine& status = session_->parts.status;
-    status.ShowStatus(StatusField::Script, session_->script.StatusText());
-    status.ShowStatus(StatusField::Sound, session_->soundOn ? "Sound ON" : "Sound OFF");
-    status.EnableNext(session_->script.Loaded());
+    StatusLine& status = sitting_->parts.status;
+    status.ShowStatus(StatusField::Script, sitting_->script.StatusText());
+    status.ShowStatus(StatusField::Sound, sitting_->soundOn ? "Sound ON" : "Sound OFF");
+    status.EnableNext(sitting_->script.Loaded());
 }
 
 /// Enters the turn cycle and deals with what it came to.
@@ -154,10 +154,10 @@ void Engine::PlayerIsBack() {
 }
 
 void Engine::TellScriptFailure() {
-    const std::string failure = session_->script.TakeFailure();
+    const std::string failure = sitting_->script.TakeFailure();
     if (failure.empty()) return;
-    session_->host.oper.Tell(failure, "Error");
-    if (game_) game_->SetFlag(flag::kScript, session_->script.State());
+    sitting_->host.person.Tell(failure, "Error");
+    if (game_) game_->SetFlag(flag::kScript, sitting_->script.State());
     ShowStatus();
 }
 
@@ -189,7 +189,7 @@ void Engine::EnterLine(std::string_view line) {
 void Engine::PressEnter() {
     Game& game = *game_;
     const bool asking = game.Flag(flag::kAsking) != 0;
-    session_->parts.input.EndInput(asking ? game.answer : game.command);
+    sitting_->parts.input.EndInput(asking ? game.answer : game.command);
     game.printer.AtLineStart();
     ProcessInput(false);
 }
@@ -198,7 +198,7 @@ void Engine::PressEnter() {
 /// line that is no answer does nothing.
 void Engine::ProcessInput(bool played) {
     Game& game = *game_;
-    Script& script = session_->script;
+    Script& script = sitting_->script;
     const bool asking = game.Flag(flag::kAsking) != 0;
     const std::string line = asking ? game.answer : game.command;
     if (!asking && line.empty()) return Guard([&] { ShowTyped(game); });
@@ -216,12 +216,12 @@ void Engine::TimeOutTick() {
     Game& game = *game_;
     const bool asking = game.Flag(flag::kAsking) != 0;
     game.timeOutRunning = false;
-    session_->parts.timers.StopTimeOut();
+    sitting_->parts.timers.StopTimeOut();
     if (!game.state.FlagBitSet(flag::kTimeOutOptions, 7)) {
         game.SetFlag(flag::kTimeOutOptions, game.Flag(flag::kTimeOutOptions) + 128);
     }
     if (game.trace.On()) game.trace.Tell(TimeRanOut{});
-    session_->parts.input.EndInput(asking ? game.answer : game.command);
+    sitting_->parts.input.EndInput(asking ? game.answer : game.command);
     game.printer.AtLineStart();
     game.command.clear();
     tickPending_ = true;
@@ -293,7 +293,7 @@ void Engine::StopTurn(std::string_view state) {
 }
 
 void Engine::DoNextScript() {
-    if (!TakesInput() || !session_->script.Loaded()) return;
+    if (!TakesInput() || !sitting_->script.Loaded()) return;
     if (PlayScriptLine()) PlayScript();
 }
 
@@ -302,8 +302,8 @@ void Engine::PlayScript() {
     constexpr int kLinesOfASlice = 20;
     scriptPlaying_ = true;
     int lines = 0;
-    while (waiting_ == Waiting::Sentence && session_->script.Loaded() && PlayScriptLine()) {
-        if (session_->options.slice == 0 || ++lines < kLinesOfASlice) continue;
+    while (waiting_ == Waiting::Sentence && sitting_->script.Loaded() && PlayScriptLine()) {
+        if (sitting_->options.slice == 0 || ++lines < kLinesOfASlice) continue;
         if (waiting_ == Waiting::Sentence) waiting_ = Waiting::Turn;
     }
     if (waiting_ != Waiting::Pause && waiting_ != Waiting::File && waiting_ != Waiting::Turn)
@@ -312,30 +312,30 @@ void Engine::PlayScript() {
 
 /// False at the end of the script.
 bool Engine::PlayScriptLine() {
-    const std::optional<std::string> line = session_->script.NextInput();
+    const std::optional<std::string> line = sitting_->script.NextInput();
     if (!line) {
-        session_->script.CloseInput();
-        session_->host.oper.Tell("End-of-file reached.", "Script");
-        game_->SetFlag(flag::kScript, session_->script.State());
+        sitting_->script.CloseInput();
+        sitting_->host.person.Tell("End-of-file reached.", "Script");
+        game_->SetFlag(flag::kScript, sitting_->script.State());
         ShowStatus();
         return false;
     }
     const bool asking = game_->Flag(flag::kAsking) != 0;
     std::string& input = asking ? game_->answer : game_->command;
     input = AsTyped(*line);
-    session_->parts.input.EndInput(input);
+    sitting_->parts.input.EndInput(input);
     game_->printer.AtLineStart();
     ProcessInput(true);
     return true;
 }
 
 void Engine::ToggleSound() {
-    session_->soundOn = !session_->soundOn;
+    sitting_->soundOn = !sitting_->soundOn;
     ShowStatus();
 }
 
 bool Engine::SoundOn() const {
-    return session_->soundOn;
+    return sitting_->soundOn;
 }
 
 void Engine::SaveTo(const std::filesystem::path& file) {

@@ -11,19 +11,19 @@
 #include "engine/process_loop.h"
 #include "engine/sound_player.h"
 #include "engine/trace_sink.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "platform/random_source.h"
 #include "store/adventure.h"
 
 namespace fabula::engine {
 
 class Game;
-struct Session;
+struct Sitting;
 
 /// What a running game asks of its host. All of it must outlive the engine.
 struct Host {
     GameWindow& window;
-    platform::Operator& oper;  ///< boxes: refused files, run-time failures
+    platform::Person& person;  ///< boxes: refused files, run-time failures
     platform::RandomSource& random;
     SoundPlayer& sound;
     TraceSink* trace = nullptr;  ///< nullptr: nothing is traced
@@ -116,7 +116,7 @@ class Engine {
     /// Whether "Next" goes on when the pause or the question for a file is over.
     bool PlaysScript() const { return scriptPlaying_; }
 
-    /// The sound switch of the session. Tells the new state to the status.
+    /// The sound switch of the sitting. Tells the new state to the status.
     void ToggleSound();
     bool SoundOn() const;
 
@@ -162,7 +162,7 @@ class Engine {
     void ShowStatus();
 
     store::Adventure& adventure_;
-    std::unique_ptr<Session> session_;
+    std::unique_ptr<Sitting> sitting_;
     std::unique_ptr<Game> game_;
     Waiting waiting_ = Waiting::Nothing;
     bool failed_ = false;

@@ -9,7 +9,7 @@ namespace {
 constexpr int kDefaultBeepPause = 12;
 
 void SetStartFlags(Game& game) {
-    const Options& options = game.session.options;
+    const Options& options = game.sitting.options;
     game.SetFlag(flag::kBeepPause, kDefaultBeepPause);
     if (options.traceRequested) game.SetFlag(flag::kTrace, kSet);
     if (options.traceFile) game.SetFlag(flag::kTraceFile, kSet);
@@ -21,7 +21,7 @@ void SetStartFlags(Game& game) {
     game.SetFlag(flag::kMaxObjects, game.data.maxObjects);
     game.SetFlag(flag::kMaxWeight, game.data.maxWeight);
     game.SetFlag(flag::kLocation, game.data.startLocation.value);
-    game.SetFlag(flag::kScript, game.session.script.State());
+    game.SetFlag(flag::kScript, game.sitting.script.State());
     game.SetFlag(flag::kDescribe, kSet);
 }
 
@@ -45,17 +45,17 @@ GameLook LookOf(const Game& game) {
 
 }  // namespace
 
-Game::Game(store::Adventure& adventure, Session& theSession)
-    : session(theSession),
-      host(theSession.host),
-      parts(theSession.parts),
+Game::Game(store::Adventure& adventure, Sitting& theSitting)
+    : sitting(theSitting),
+      host(theSitting.host),
+      parts(theSitting.parts),
       reading_(adventure),
       data(adventure),
       texts(adventure, data.type),
       state(data),
-      printer(host.window, data, session.script),
+      printer(host.window, data, sitting.script),
       trace(host.trace, state),
-      runner(*this, session.options.condactLimit, session.options.slice),
+      runner(*this, sitting.options.condactLimit, sitting.options.slice),
       loop(*this) {
     printer.TellOrigins(host.parts.origins, runner);
     SetStartFlags(*this);

@@ -25,9 +25,9 @@ struct Tone {
     bool ofSeries = false;  ///< the pause behind it is plain, whatever flag 28 says
 };
 
-/// What outlives a restart of the game.
-struct Session {
-    Session(const Host& theHost, const Options& theOptions)
+/// What outlives a restart of the game: all that is so from the start of the program to its end.
+struct Sitting {
+    Sitting(const Host& theHost, const Options& theOptions)
         : host(theHost), parts(theHost.parts), options(theOptions) {}
 
     const Host host;
@@ -44,11 +44,11 @@ class Game {
   public:
     /// Loads everything, gives the window its look and clears it; the loop's Start goes on from there.
     /// Throws fabula::Error or RunFailure when the adventure can't be played.
-    Game(store::Adventure& adventure, Session& session);
+    Game(store::Adventure& adventure, Sitting& sitting);
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
 
-    Session& session;
+    Sitting& sitting;
     const Host& host;
     HostParts& parts;
 

@@ -39,7 +39,7 @@ void ProvidePrompt(Game& game) {
 }
 
 void AskForInput(Game& game) {
-    game.session.script.WriteAnswerMark();
+    game.sitting.script.WriteAnswerMark();
     game.answer.clear();
     OpenInput(game);
 }

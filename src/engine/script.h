@@ -8,7 +8,7 @@
 
 namespace fabula::engine {
 
-/// The two files of a session's scripts: one that is written, one that is played. Typed lines are marked
+/// The two files of a sitting's scripts: one that is written, one that is played. Typed lines are marked
 /// with ">>" at the head of their line, everything else is what the game printed, without its looks and its
 /// wrapping.
 ///

@@ -133,7 +133,7 @@ bool PlayTones(Game& game) {
         const Tone tone = game.tones.front();
         game.tones.pop_front();
         const milliseconds length(tone.duration > 0 ? tone.duration * 10 : 0);
-        const bool sounds = game.session.soundOn && game.host.sound.PlayTone(NoteOf(tone.pitch), length);
+        const bool sounds = game.sitting.soundOn && game.host.sound.PlayTone(NoteOf(tone.pitch), length);
         const milliseconds wait = (sounds ? length : milliseconds(0)) + PauseBehind(game, tone);
         if (wait.count() == 0) continue;
         game.runner.Wait(wait);

@@ -20,20 +20,20 @@ constexpr FileRequest kWriteScriptRequest = {"Output SCRIPT Name", "Fabula Scrip
 constexpr FileRequest kReadScriptRequest = {"Input SCRIPT Name", "Fabula Script|*.scr", "scr", false};
 
 bool Fail(Game& game, std::string_view message) {
-    game.host.oper.Tell(message, kErrorTitle);
+    game.host.person.Tell(message, kErrorTitle);
     game.done = true;
     return true;
 }
 
-/// Flags that tell of this session, not of the game, and so outlive a return to an earlier state.
-struct SessionFlags {
-    explicit SessionFlags(const Game& game)
+/// Flags that tell of this sitting, not of the game, and so outlive a return to an earlier state.
+struct SittingFlags {
+    explicit SittingFlags(const Game& game)
         : traceFile(game.Flag(flag::kTraceFile)), trace(game.Flag(flag::kTrace)) {}
 
     void PutBack(Game& game) const {
         game.SetFlag(flag::kTraceFile, traceFile);
         game.SetFlag(flag::kTrace, trace);
-        game.SetFlag(flag::kScript, game.session.script.State());
+        game.SetFlag(flag::kScript, game.sitting.script.State());
         // The action that went back is still running: it acted, and it waits for nothing.
         game.SetFlag(flag::kActed, kSet);
         game.SetFlag(flag::kEnded, 0);
@@ -47,14 +47,14 @@ struct SessionFlags {
 };
 
 void ShowScriptState(Game& game) {
-    game.SetFlag(flag::kScript, game.session.script.State());
-    game.parts.status.ShowStatus(StatusField::Script, game.session.script.StatusText());
-    game.parts.status.EnableNext(game.session.script.Loaded());
+    game.SetFlag(flag::kScript, game.sitting.script.State());
+    game.parts.status.ShowStatus(StatusField::Script, game.sitting.script.StatusText());
+    game.parts.status.EnableNext(game.sitting.script.Loaded());
 }
 
 bool StartScript(Game& game, const std::filesystem::path& file) {
     try {
-        game.session.script.StartWriting(file);
+        game.sitting.script.StartWriting(file);
     } catch (const Error& error) {
         return Fail(game, error.what());
     }
@@ -64,7 +64,7 @@ bool StartScript(Game& game, const std::filesystem::path& file) {
 
 bool LoadScript(Game& game, const std::filesystem::path& file) {
     try {
-        game.session.script.Load(file);
+        game.sitting.script.Load(file);
     } catch (const Error& error) {
         return Fail(game, error.what());
     }
@@ -139,10 +139,10 @@ bool Save(Game& game) {
 }
 
 bool RestoreFrom(Game& game, std::string_view savedGame) {
-    const SessionFlags session(game);
+    const SittingFlags sitting(game);
     const auto fits = [&game](std::span<const std::int16_t> flags) { return NameWhatIsThere(game, flags); };
     if (!TakeSavedGame(savedGame, game.data, game.state, fits)) return false;
-    session.PutBack(game);
+    sitting.PutBack(game);
     return true;
 }
 
@@ -157,21 +157,21 @@ bool RamSave(Game& game) {
 }
 
 bool RamLoad(Game& game, FlagNumber lastFlag) {
-    const SessionFlags session(game);
+    const SittingFlags sitting(game);
     game.state.RamLoad(lastFlag);
-    session.PutBack(game);
+    sitting.PutBack(game);
     return true;
 }
 
 /// Score and the low turn count survive.
 bool Oops(Game& game, int slot) {
-    const SessionFlags session(game);
+    const SittingFlags sitting(game);
     const int score = game.Flag(flag::kScore);
     const int turn = game.Flag(flag::kTurnLow);
     game.state.TakeSlot(slot);
     game.SetFlag(flag::kScore, score);
     game.SetFlag(flag::kTurnLow, turn);
-    session.PutBack(game);
+    sitting.PutBack(game);
     game.printer.PrintText("OOPS restored from previous turn " + std::to_string(slot), false, true);
     game.printer.EndLine();
     return true;
@@ -194,7 +194,7 @@ bool Again(Game& game) {
 }
 
 bool ScriptAction(Game& game, int value) {
-    Script& script = game.session.script;
+    Script& script = game.sitting.script;
     if (value == 0) {
         script.CloseAll();
         ShowScriptState(game);

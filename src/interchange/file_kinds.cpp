@@ -30,11 +30,11 @@ store::AdventureSetup SetupOfAceSource(const std::filesystem::path&) {
     return {};
 }
 
-bool ReadHeadOfUnMarlo(ListingLines& lines, platform::Operator&, JobStatus& status) {
+bool ReadHeadOfUnMarlo(ListingLines& lines, platform::Person&, JobStatus& status) {
     return ReadUnMarloHead(lines, status).has_value();
 }
 
-bool ReadHeadOfUnVel(ListingLines& lines, platform::Operator& person, JobStatus&) {
+bool ReadHeadOfUnVel(ListingLines& lines, platform::Person& person, JobStatus&) {
     return ReadUnVelHead(lines, person).has_value();
 }
 

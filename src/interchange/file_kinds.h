@@ -56,7 +56,7 @@ struct FileKind {
     bool isInExportDialog = false;  ///< the job dialog offers to write it
     bool savesPictures = false;     ///< pictures that come in as drawings are saved as bitmaps, too
     /// Of a listing whose pictures can be loaded by themselves: reads its head, false when that is refused.
-    bool (*readHead)(ListingLines& lines, platform::Operator& person, JobStatus& status) = nullptr;
+    bool (*readHead)(ListingLines& lines, platform::Person& person, JobStatus& status) = nullptr;
     /// Whether a file that begins so is of this kind; nullptr where the beginning does not tell.
     bool (*beginsLike)(std::string_view start) = nullptr;
 

@@ -6,7 +6,7 @@
 #include "interchange/job_status.h"
 #include "interchange/source_file.h"
 #include "interchange/source_map.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/adventure.h"
 
 namespace fabula::interchange {
@@ -16,7 +16,7 @@ namespace fabula::interchange {
 struct ImportContext {
     std::filesystem::path source;
     store::Adventure& adventure;
-    platform::Operator& person;
+    platform::Person& person;
     JobStatus& status;
     Encoding encoding = Encoding::Detect;
     SourceMap* places = nullptr;  ///< where the records come from is noted here, if given
@@ -26,7 +26,7 @@ struct ImportContext {
 struct ExportContext {
     store::Adventure& adventure;
     std::filesystem::path target;
-    platform::Operator& person;
+    platform::Person& person;
     JobStatus& status;
     std::string version = {};  ///< the form of the file, for kinds that have several; "" for the usual one
 };

@@ -10,14 +10,14 @@
 #include "interchange/source_map.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/adventure.h"
 
 namespace fabula::interchange {
 
 /// What jobs need of their surroundings.
 struct JobHost {
-    platform::Operator& person;
+    platform::Person& person;
     const platform::Clock& clock;
     platform::EventPump& events;
     JobObserver& observer;

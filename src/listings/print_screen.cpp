@@ -218,10 +218,10 @@ std::optional<PrintJob> PrintScreen::CheckTable() {
     return job;
 }
 
-std::optional<std::string> TemplateOfSize(std::size_t size, platform::Operator& author) {
+std::optional<std::string> TemplateOfSize(std::size_t size, platform::Person& person) {
     const KeypadSize& chosen = kKeypadSizes[std::min(size, std::size(kKeypadSizes) - 1)];
     if (!chosen.templateName.empty()) return std::string(chosen.templateName);
-    author.Tell("That size is not made up.\nWrite to the support address of Fabula and tell your size.",
+    person.Tell("That size is not made up.\nWrite to the support address of Fabula and tell your size.",
                 "Error");
     return std::nullopt;
 }

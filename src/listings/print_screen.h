@@ -104,6 +104,6 @@ inline constexpr KeypadSize kKeypadSizes[] = {
 
 /// The template of a size, by its place in kKeypadSizes; nullopt for another size, which the author is
 /// told.
-std::optional<std::string> TemplateOfSize(std::size_t size, platform::Operator& author);
+std::optional<std::string> TemplateOfSize(std::size_t size, platform::Person& person);
 
 }  // namespace fabula::listings

@@ -36,7 +36,7 @@ void WriteText(const std::filesystem::path& file, const std::string& text) {
 }
 
 /// The sets of a file; of one of another kind none, which the person is told.
-CharacterFile ReadSets(const std::filesystem::path& file, platform::Operator& person) {
+CharacterFile ReadSets(const std::filesystem::path& file, platform::Person& person) {
     CharacterFile content = ReadCharacterFile(ReadText(file), file.string());
     if (!content.isCharacterFile) person.Tell(file.string() + " is not a Character Set File", kErrorTitle);
     return content;
@@ -91,7 +91,7 @@ std::vector<std::string> ListSets(store::Adventure& adventure) {
     return lines;
 }
 
-std::vector<std::string> ListSetsInFile(const std::filesystem::path& file, platform::Operator& person) {
+std::vector<std::string> ListSetsInFile(const std::filesystem::path& file, platform::Person& person) {
     const CharacterFile content = ReadSets(file, person);
     std::vector<std::string> lines;
     for (const CharacterFileSet& set : content.sets) {
@@ -101,7 +101,7 @@ std::vector<std::string> ListSetsInFile(const std::filesystem::path& file, platf
 }
 
 bool SaveSets(store::Adventure& adventure, const std::vector<std::string>& selected,
-              const std::filesystem::path& file, platform::Operator& person) {
+              const std::filesystem::path& file, platform::Person& person) {
     if (selected.empty()) {
         person.Tell("No Set is selected", kErrorTitle);
         return false;
@@ -117,7 +117,7 @@ bool SaveSets(store::Adventure& adventure, const std::vector<std::string>& selec
 }
 
 bool LoadSet(store::Adventure& adventure, const std::filesystem::path& file,
-             const std::vector<std::string>& selected, int target, platform::Operator& person) {
+             const std::vector<std::string>& selected, int target, platform::Person& person) {
     if (selected.size() != 1) {
         person.Tell(selected.empty() ? "No Set is selected" : "Only one Set can be selected", kErrorTitle);
         return false;

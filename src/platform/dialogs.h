@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/operator.h"
+#include "platform/person.h"
 
 namespace fabula::platform {
 
@@ -30,7 +30,7 @@ struct TextQuestion {
 enum class Leaving { KeepEditing, Discard, Store };
 
 /// What a program with windows tells and asks in boxes of their own.
-class Dialogs : public Operator {
+class Dialogs : public Person {
   public:
     /// The file that was named, or nullopt. Before a file is overwritten the person is asked,
     /// unless the question leaves that to the caller.

@@ -6,14 +6,14 @@
 #include <vector>
 
 #include "platform/dialogs.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 
 namespace fabula::platform {
 
 /// Boxes that a test answers beforehand. A question without an answer throws std::logic_error.
 class ScriptedDialogs final : public Dialogs {
   public:
-    using Shown = ScriptedOperator::Shown;
+    using Shown = ScriptedPerson::Shown;
 
     /// Answers Yes and No, and OK and Cancel.
     void AnswerNext(bool yes) { person_.AnswerNext(yes); }
@@ -41,7 +41,7 @@ class ScriptedDialogs final : public Dialogs {
     bool ProceedFromReport(std::string_view text, std::string_view title) override;
 
   private:
-    ScriptedOperator person_;
+    ScriptedPerson person_;
     std::deque<std::optional<std::filesystem::path>> files_;
     std::deque<std::optional<std::string>> texts_;
     std::deque<Leaving> leavings_;

@@ -67,15 +67,15 @@ int RefuseConflict(void*, int, sqlite3_changeset_iter*) {
 
 }  // namespace
 
-struct ChangeRecorder::Session {
-    ~Session() { sqlite3session_delete(session); }
+struct ChangeRecorder::Recording {
+    ~Recording() { sqlite3session_delete(session); }
     sqlite3_session* session = nullptr;
 };
 
-ChangeRecorder::ChangeRecorder(Adventure& adventure) : session_(std::make_unique<Session>()) {
-    Check(sqlite3session_create(adventure.connection_->Handle(), "main", &session_->session),
+ChangeRecorder::ChangeRecorder(Adventure& adventure) : recording_(std::make_unique<Recording>()) {
+    Check(sqlite3session_create(adventure.connection_->Handle(), "main", &recording_->session),
           "record changes");
-    Check(sqlite3session_attach(session_->session, nullptr), "record changes");
+    Check(sqlite3session_attach(recording_->session, nullptr), "record changes");
 }
 
 ChangeRecorder::~ChangeRecorder() = default;
@@ -87,7 +87,7 @@ Connection& ChangeRecorder::ConnectionOf(Adventure& adventure) {
 std::string ChangeRecorder::Changes() const {
     int size = 0;
     void* data = nullptr;
-    const int result = sqlite3session_changeset(session_->session, &size, &data);
+    const int result = sqlite3session_changeset(recording_->session, &size, &data);
     const Buffer buffer(data);
     Check(result, "record changes");
     if (size == 0) return {};

@@ -31,8 +31,8 @@ class ChangeRecorder {
     friend class KeyedRows;
     static Connection& ConnectionOf(Adventure& adventure);
 
-    struct Session;
-    std::unique_ptr<Session> session_;
+    struct Recording;
+    std::unique_ptr<Recording> recording_;
 };
 
 // Both run as one transaction. They fit a file in which the records concerned stand as the change set left

@@ -5,7 +5,7 @@
 
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/ifid.h"
 #include "store/setup.h"
 
@@ -15,7 +15,7 @@ class Adventure;
 
 /// What the creation of an adventure needs of its surroundings.
 struct CreationHost {
-    platform::Operator& person;
+    platform::Person& person;
     const platform::Clock& clock;
     platform::EventPump& events;
     std::filesystem::path
@@ -24,8 +24,8 @@ struct CreationHost {
 };
 
 /// Creates the adventure file `path` from the default data, with the type and switches of `setup`. An
-/// existing file is replaced after the operator has agreed, or at once with `replace`; it stays as it was
-/// until the new one is complete. Returns false when the operator did not agree.
+/// existing file is replaced after the person has agreed, or at once with `replace`; it stays as it was
+/// until the new one is complete. Returns false when the person did not agree.
 ///
 /// Throws fabula::Error when the default data is incomplete (with section and line) or a file can't be
 /// written; no half-made file is left.

@@ -14,7 +14,7 @@ namespace {
 
 /// The largest keypad template that is taken over, in bytes.
 constexpr std::uintmax_t kLargestTemplate = 1024 * 1024;
-/// The template that only the maintenance of the system loads.
+/// The template that only the maintenance of Fabula loads.
 constexpr std::string_view kMaintenanceTemplate = "else";
 
 /// The lines of a keypad template, comments left out, joined by blanks.
@@ -56,8 +56,7 @@ std::string DataSection(const TableEntry& table, std::string_view adventureType)
     return prefix + std::string(table.sectionStem);
 }
 
-TableSchema ReadSchemaSection(const DefaultData& data, const TableEntry& table,
-                              platform::Operator* person) {
+TableSchema ReadSchemaSection(const DefaultData& data, const TableEntry& table, platform::Person* person) {
     TableSchema schema{std::string(table.name), {}};
     const std::string section = SchemaSection(table);
     for (const DefaultData::Line& line : data.Lines(section)) {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/default_data.h"
 #include "store/schema.h"
 #include "store/section_reader.h"
@@ -19,7 +19,7 @@ std::string DataSection(const TableEntry& table, std::string_view adventureType)
 /// The fields of a table as the default data declares them. A field with an unknown type is told to
 /// `person`, when there is one, and left out. Throws fabula::Error when the section is missing or
 /// malformed.
-TableSchema ReadSchemaSection(const DefaultData& data, const TableEntry& table, platform::Operator* person);
+TableSchema ReadSchemaSection(const DefaultData& data, const TableEntry& table, platform::Person* person);
 
 /// The records of `Tables` that stand for a table's fields, but for their keys. `tables` is the schema of
 /// `Tables` itself. Columns that a row leaves out are "N", 0 or empty.

@@ -129,7 +129,7 @@ std::string Verdict::BoxText() const {
 }
 
 Verdict ValidateDescription(std::string_view text, bool tagsAllowed, const TagCatalogue& tags,
-                            platform::Operator* author) {
+                            platform::Person* author) {
     const std::string words = ReplaceAll(NormalizeLineEnds(text, " "), kLineEndMarker, " ");
     int wordNumber = 0;
     for (const std::string_view word : Split(words, " ")) {
@@ -140,7 +140,7 @@ Verdict ValidateDescription(std::string_view text, bool tagsAllowed, const TagCa
 }
 
 Verdict ValidateWord(std::string_view word, int wordNumber, bool tagsAllowed, const TagCatalogue& tags,
-                     platform::Operator* author) {
+                     platform::Person* author) {
     std::string fault = FaultOfWord(word, tagsAllowed, tags);
     if (fault.empty()) return {};
     Verdict verdict{std::move(fault), wordNumber};

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "text/tag_catalogue.h"
 
 namespace fabula::text {
@@ -32,11 +32,11 @@ struct Verdict {
 
 /// Checks a whole description. A failure is shown to `author` in a box, when one is given.
 Verdict ValidateDescription(std::string_view text, bool tagsAllowed, const TagCatalogue& tags,
-                            platform::Operator* author = nullptr);
+                            platform::Person* author = nullptr);
 
 /// Checks one word, the `wordNumber`th of its text.
 Verdict ValidateWord(std::string_view word, int wordNumber, bool tagsAllowed, const TagCatalogue& tags,
-                     platform::Operator* author = nullptr);
+                     platform::Person* author = nullptr);
 
 /// Checks one tag, name and value, without its brackets. Messages repeat the tag as it is given here;
 /// ValidateWord gives the name in upper case.

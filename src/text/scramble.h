@@ -12,7 +12,7 @@ namespace fabula::text {
 // anybody who looks for it; it only keeps readers from stumbling over texts. The two substitution tables
 // belong to the files written with them: to change a table is to make those files unreadable.
 
-/// The tiers of ScrambleText, numbered as the system numbers them. Mode 4 is its overload with a Shift.
+/// The tiers of ScrambleText, numbered as files number them. Mode 4 is its overload with a Shift.
 enum class ScrambleMode {
     kEncode = 0,
     kDecode = 1,

@@ -6,7 +6,7 @@
 
 namespace fabula::text {
 
-// Every text of the system is UTF-8 in a std::string. The routines below count, cut, pad and compare by
+// Every text is UTF-8 in a std::string. The routines below count, cut, pad and compare by
 // code point. Nothing is ever lost: a byte that is no part of valid UTF-8 (an overlong form, a surrogate, a
 // number above U+10FFFF or a sequence cut short included) counts as one code point of its own and comes out
 // again as it went in.

@@ -129,10 +129,10 @@ TEST(ShowRoomPicture, APathWithoutAPictureKeyIsNoPicture) {
     row.SetField("pickey", std::string(" "));
     row.Update();
     engine::RecordingWindow window;
-    platform::ScriptedOperator oper;
+    platform::ScriptedPerson person;
     QueuedRandom random;
     engine::SilentPlayer sound;
-    engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
+    engine::Engine engine(*adventure, {window, person, random, sound, nullptr, window.Parts()});
     engine.Initialize();
     EXPECT_EQ(window.pictures, (Pictures{Picture{"any.bmp", -1}}));
 }

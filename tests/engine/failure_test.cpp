@@ -16,11 +16,11 @@ TEST(RunTimeFailure, NamesProcessEntryCondactAndNumbers) {
         .Entry(4, "_", "_", "SET 100 COPYFF 100 3000");
     const auto run = game.Start();
     run->Type("DO");
-    EXPECT_EQ(run->oper.Boxes().back(),
-              (platform::ScriptedOperator::Shown{"The game has gone wrong and ends. Process 4, entry 0 "
-                                                 "(record 2), COPYFF 100 3000: flag 3000 does not "
-                                                 "exist.",
-                                                 "Run-time failure"}));
+    EXPECT_EQ(run->person.Boxes().back(),
+              (platform::ScriptedPerson::Shown{"The game has gone wrong and ends. Process 4, entry 0 "
+                                               "(record 2), COPYFF 100 3000: flag 3000 does not "
+                                               "exist.",
+                                               "Run-time failure"}));
 }
 
 TEST(RunTimeFailure, EndsTheGameThroughTheWindowAndLeavesTheProgramRunning) {
@@ -162,12 +162,12 @@ std::string BoxOf(const GameBuilder& game, Change change) {
     const auto adventure = store::Adventure::Open(folder / "game.fbd");
     change(*adventure);
     engine::RecordingWindow window;
-    platform::ScriptedOperator oper;
+    platform::ScriptedPerson person;
     QueuedRandom random;
     engine::SilentPlayer sound;
-    engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
+    engine::Engine engine(*adventure, {window, person, random, sound, nullptr, window.Parts()});
     engine.Initialize();
-    return oper.Boxes().empty() ? "" : oper.Boxes().back().text;
+    return person.Boxes().empty() ? "" : person.Boxes().back().text;
 }
 
 TEST(DamagedGame, ANumberOutOf16BitsIsToldWithItsRecord) {
@@ -228,10 +228,10 @@ TEST(OldGame, WithoutNumericListsIsCompiledFromTheText) {
     row.SetField("CondActs", std::string("ADJECT1 RED LET 200 7"));
     row.Update();
     engine::RecordingWindow window;
-    platform::ScriptedOperator oper;
+    platform::ScriptedPerson person;
     QueuedRandom random;
     engine::SilentPlayer sound;
-    engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
+    engine::Engine engine(*adventure, {window, person, random, sound, nullptr, window.Parts()});
     engine.Initialize();
     engine.EnterLine("DO LAMP");
     EXPECT_EQ(engine.Running()->Flag(engine::FlagNumber(200)), 0);

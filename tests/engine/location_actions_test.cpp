@@ -150,10 +150,10 @@ TEST(SearchConnections, ALocationWithNumexits0HasNoExitsWhateverItsListHolds) {
     }
     const auto adventure = store::Adventure::Open(folder / "game.fbd");
     engine::RecordingWindow window;
-    platform::ScriptedOperator oper;
+    platform::ScriptedPerson person;
     QueuedRandom random;
     engine::SilentPlayer sound;
-    engine::Engine engine(*adventure, {window, oper, random, sound, nullptr, window.Parts()});
+    engine::Engine engine(*adventure, {window, person, random, sound, nullptr, window.Parts()});
     engine.Initialize();
     window.TakeText();
     engine.EnterLine("DO");

@@ -74,8 +74,8 @@ TEST(ScriptAction, Of1WhileWritingIsRefused) {
     const auto run = Writing();
     run->SetFlag(200, 0);
     run->Type("WRITE");
-    EXPECT_EQ(run->oper.Boxes().back(),
-              (platform::ScriptedOperator::Shown{"Script is already on!", "Error"}));
+    EXPECT_EQ(run->person.Boxes().back(),
+              (platform::ScriptedPerson::Shown{"Script is already on!", "Error"}));
     EXPECT_EQ(run->Flag(200), 0);
 }
 
@@ -97,7 +97,7 @@ TEST(ScriptAction, OfAFileThatDoesNotExistIsToldAndEndsTheTable) {
     const auto run = ScriptWorld().Start();
     run->window.AnswerFile(run->File("none.scr"));
     run->Type("PLAY");
-    EXPECT_EQ(run->oper.Boxes().size(), 1U);
+    EXPECT_EQ(run->person.Boxes().size(), 1U);
     EXPECT_EQ(run->Flag(201), 0);
     EXPECT_EQ(run->Flag(1001), 0);
 }
@@ -160,7 +160,7 @@ TEST(WrittenScript, ThatCantBeWrittenAnyLongerIsClosedAndToldOnce) {
     run->Type("WRITE");
     for (int i = 0; i < 3; ++i)
         run->Type("SAY");
-    EXPECT_EQ(run->oper.Boxes().size(), 1U);
+    EXPECT_EQ(run->person.Boxes().size(), 1U);
     EXPECT_EQ(Status(*run), "Script Off");
     EXPECT_EQ(run->Flag(1001), 0);
     EXPECT_EQ(run->Waits(), Waiting::Sentence);
@@ -220,7 +220,7 @@ TEST(DoNextScript, WithoutAScriptDoesNothing) {
     run->Said();
     run->engine.DoNextScript();
     EXPECT_EQ(run->Said(), "");
-    EXPECT_TRUE(run->oper.Boxes().empty());
+    EXPECT_TRUE(run->person.Boxes().empty());
 }
 
 TEST(DoNextScript, PassesOverAnEmptyLine) {

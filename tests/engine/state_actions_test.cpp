@@ -11,7 +11,7 @@ namespace fabula::test {
 namespace {
 
 using engine::Waiting;
-using platform::ScriptedOperator;
+using platform::ScriptedPerson;
 
 std::string ReadState(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
@@ -47,10 +47,10 @@ std::string Save(GameRun& run, const char* name = "one.sav") {
 
 /// Loads a file; the text of the box, or "".
 std::string Load(GameRun& run, const char* name = "one.sav") {
-    const std::size_t boxes = run.oper.Boxes().size();
+    const std::size_t boxes = run.person.Boxes().size();
     run.window.AnswerFile(run.File(name));
     run.Type("LOAD");
-    return run.oper.Boxes().size() > boxes ? run.Box() : "";
+    return run.person.Boxes().size() > boxes ? run.Box() : "";
 }
 
 // SAVE and LOAD
@@ -109,7 +109,7 @@ TEST(Save, ThatCantBeWrittenIsToldAndEndsTheTable) {
     run->Said();
     EXPECT_EQ(run->Type("SAVE"), "");
     EXPECT_EQ(run->Flag(210), 0);
-    EXPECT_EQ(run->oper.Boxes().size(), 1U);
+    EXPECT_EQ(run->person.Boxes().size(), 1U);
     EXPECT_EQ(run->Waits(), Waiting::Sentence);
 }
 
@@ -199,7 +199,7 @@ TEST(Load, RefusesASaveOfAnotherAdventureOfTheSameSizes) {
     const auto run = SavedWorld().Start();
     WriteState(run->File("one.sav"), content);
     EXPECT_EQ(Load(*run), "Invalid Save File for this Adventure");
-    EXPECT_EQ(run->oper.Boxes().back().title, "Error");
+    EXPECT_EQ(run->person.Boxes().back().title, "Error");
     EXPECT_EQ(run->Flag(211), 0);
 }
 
@@ -359,7 +359,7 @@ TEST(LoadFrom, RefusesWhatIsNoSaveAndChangesNothing) {
     run->Said();
     EXPECT_FALSE(run->engine.LoadFrom(run->File("auto.sav")));
     EXPECT_EQ(run->Said(), "");
-    EXPECT_TRUE(run->oper.Boxes().empty());
+    EXPECT_TRUE(run->person.Boxes().empty());
 }
 
 TEST(LoadFrom, ForgetsTheLineThatWasHalfTyped) {

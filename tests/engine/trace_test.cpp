@@ -264,11 +264,11 @@ TEST(Trace, GivesEventsInPlaceOfLinesToWhoWantsThem) {
     game.Write(folder / "game.fbd");
     const auto adventure = store::Adventure::Open(folder / "game.fbd", store::OpenMode::ReadOnly);
     engine::RecordingWindow window;
-    platform::ScriptedOperator oper;
+    platform::ScriptedPerson person;
     QueuedRandom random;
     RecordingSound sound;
     Matches trace;
-    engine::Engine played(*adventure, {window, oper, random, sound, &trace, window.Parts()},
+    engine::Engine played(*adventure, {window, person, random, sound, &trace, window.Parts()},
                           {.traceFile = true});
     played.Initialize();
     played.EnterLine("DO");

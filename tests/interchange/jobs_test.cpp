@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "reading.h"
 #include "support/places.h"
 #include "support/temp_folder.h"
@@ -15,7 +15,7 @@ namespace fabula::interchange {
 namespace {
 
 using store::TableNum;
-using Shown = platform::ScriptedOperator::Shown;
+using Shown = platform::ScriptedPerson::Shown;
 
 class CancelsAfter final : public JobObserver {
   public:
@@ -56,7 +56,7 @@ class Jobs : public testing::Test {
     }
 
     test::TempFolder folder_;
-    platform::ScriptedOperator person_;
+    platform::ScriptedPerson person_;
     platform::FixedClock clock_{{2026, 11, 21, 12, 0, 0}};
     platform::NoEvents events_;
     NoObserver nobody_;
@@ -130,7 +130,7 @@ TEST_F(Jobs, AFailedImportLeavesAnExistingTargetAsItWas) {
     EXPECT_EQ(Files(), 2);
 }
 
-TEST_F(Jobs, AnExistingTargetIsReplacedOnlyWhenTheOperatorAgrees) {
+TEST_F(Jobs, AnExistingTargetIsReplacedOnlyWhenThePersonAgrees) {
     Write("new.fbd", "precious");
     const auto source = Write("old.sce", PcSource("", ""));
     person_.AnswerNext(false);

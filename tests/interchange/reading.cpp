@@ -19,7 +19,7 @@ store::AdventureKind KindFor(std::string_view kind, const std::string& source) {
 
 bool ReadInto(store::Adventure& adventure, std::string_view kind, const std::filesystem::path& source,
               JobStatus& status) {
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     ImportContext context{source, adventure, person, status};
     store::Transaction transaction(adventure);
     const bool ok = FindFileKind(kind)->read(context);
@@ -82,7 +82,7 @@ bool Reading::ToldAt(int line, std::string_view message) const {
 
 std::string Written(store::Adventure& adventure, std::string_view kind, std::string* status) {
     const test::TempFolder folder;
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     NoObserver nobody;
     JobStatus jobStatus(nobody);
     ExportContext context{adventure, folder / "out", person, jobStatus};

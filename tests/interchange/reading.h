@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "interchange/file_kinds.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "support/template_adventure.h"
 
@@ -22,7 +22,7 @@ class Reading {
     bool ok = false;
     std::string status;
     int faults = 0;
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
 
     store::Adventure& operator*() const { return *adventure_; }
     store::Adventure* operator->() const { return &*adventure_; }

@@ -49,9 +49,9 @@ std::vector<Sent> MessagesOf(const std::string& condacts, AdventureKind kind = A
         timers, [&](const std::string&, int) { return std::make_unique<Recorder>(sent, now); },
         [](const auto&) {});
     engine::RecordingWindow window;
-    platform::ScriptedOperator oper;
+    platform::ScriptedPerson person;
     test::QueuedRandom random;
-    engine::Engine engine(*adventure, {window, oper, random, player, nullptr, window.Parts()});
+    engine::Engine engine(*adventure, {window, person, random, player, nullptr, window.Parts()});
     engine.Initialize();
     engine.EnterLine("DO");
     for (std::size_t pauses = 0; pauses < window.waits.size(); ++pauses) {

@@ -73,9 +73,9 @@ std::vector<double> RenderBeep(const std::string& beep) {
     Player player(
         timers, [&](const std::string&, int) { return std::move(synth); }, [](const auto&) {});
     engine::RecordingWindow window;
-    platform::ScriptedOperator oper;
+    platform::ScriptedPerson person;
     test::QueuedRandom random;
-    engine::Engine engine(*adventure, {window, oper, random, player, nullptr, window.Parts()});
+    engine::Engine engine(*adventure, {window, person, random, player, nullptr, window.Parts()});
     engine.Initialize();
     for (int step = 0; step < 90; ++step) {
         rendered.Render(milliseconds(10));

@@ -7,14 +7,14 @@
 
 #include "pictures/book_loader.h"
 #include "platform/error.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "support/template_adventure.h"
 
 namespace fabula::pictures {
 namespace {
 
-using platform::ScriptedOperator;
-using Box = ScriptedOperator::Shown;
+using platform::ScriptedPerson;
+using Box = ScriptedPerson::Shown;
 using Lines = std::vector<std::string>;
 using store::TableNum;
 
@@ -55,7 +55,7 @@ class CharacterStore : public testing::Test {
     }
 
     test::OpenedAdventure adventure_;
-    ScriptedOperator person_;
+    ScriptedPerson person_;
 };
 
 TEST_F(CharacterStore, ListsItsSets) {

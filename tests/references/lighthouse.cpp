@@ -4,7 +4,7 @@
 #include "interchange/jobs.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "support/places.h"
 #include "support/temp_folder.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 std::unique_ptr<store::Adventure> Import() {
     const TempFolder folder;
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     platform::SystemClock clock;
     platform::NoEvents events;
     interchange::NoObserver observer;

@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "store/create.h"
 #include "support/places.h"
@@ -117,7 +117,7 @@ class Create : public testing::Test {
     test::TempFolder folder_;
     const std::filesystem::path file_ = folder_ / "games/island.fbd";
     std::vector<std::string> lines_;
-    platform::ScriptedOperator person_;
+    platform::ScriptedPerson person_;
 };
 
 }  // namespace fabula::store

@@ -86,7 +86,7 @@ bool RecordingTrace::Has(std::string_view line) const {
 GameRun::GameRun(std::unique_ptr<TempFolder> folder, const engine::Options& options, bool traced)
     : folder_(std::move(folder)),
       adventure_(store::Adventure::Open(*folder_ / "game.fbd", store::OpenMode::ReadOnly)),
-      engine(*adventure_, {window, oper, random, sound, traced ? &trace : nullptr, window.Parts()},
+      engine(*adventure_, {window, person, random, sound, traced ? &trace : nullptr, window.Parts()},
              options) {}
 
 std::string GameRun::Type(std::string_view line) {
@@ -105,7 +105,7 @@ std::string GameRun::Said() {
 }
 
 std::string GameRun::Box() const {
-    return oper.Boxes().empty() ? "" : oper.Boxes().back().text;
+    return person.Boxes().empty() ? "" : person.Boxes().back().text;
 }
 
 int GameRun::Flag(int flag) {

@@ -12,7 +12,7 @@
 #include "engine/engine.h"
 #include "engine/recording_window.h"
 #include "platform/random_source.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "store/setup.h"
 #include "support/temp_folder.h"
@@ -88,7 +88,7 @@ class GameRun {
 
   public:
     engine::RecordingWindow window;
-    platform::ScriptedOperator oper;
+    platform::ScriptedPerson person;
     QueuedRandom random;
     RecordingSound sound;
     RecordingTrace trace;

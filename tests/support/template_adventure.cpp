@@ -5,7 +5,7 @@
 
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "store/create.h"
 #include "support/places.h"
 
@@ -13,7 +13,7 @@ namespace fabula::test {
 namespace {
 
 void Create(const std::filesystem::path& file, const store::AdventureSetup& setup) {
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
     platform::NoEvents events;
     store::CreateAdventure(true, file, setup,

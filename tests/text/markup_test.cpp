@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 #include "random_text.h"
 #include "text/utf8.h"
 
 namespace fabula::text {
 namespace {
 
-using Boxes = std::vector<platform::ScriptedOperator::Shown>;
+using Boxes = std::vector<platform::ScriptedPerson::Shown>;
 
 constexpr const char* kLoneAmpersand =
     "Cannot use & by itself. Use the &amp; or 'and' (no quotes) format instead. ";
@@ -149,14 +149,14 @@ TEST(ValidateDescription, EmptyTextsAndWordsPass) {
 }
 
 TEST(ValidateDescription, StopsAtTheFirstFailure) {
-    platform::ScriptedOperator author;
+    platform::ScriptedPerson author;
     const Verdict verdict = ValidateDescription("a & b<c", true, kTags, &author);
     EXPECT_EQ(verdict, (Verdict{kLoneAmpersand, 2}));
     EXPECT_EQ(author.Boxes(), (Boxes{{"Word: 2 " + std::string(kLoneAmpersand), "Error"}}));
 }
 
 TEST(ValidateDescription, ShowsNothingWhenValid) {
-    platform::ScriptedOperator author;
+    platform::ScriptedPerson author;
     EXPECT_TRUE(ValidateDescription("Fish &amp; chips", true, kTags, &author).IsValid());
     EXPECT_EQ(author.Boxes(), Boxes{});
 }
@@ -187,7 +187,7 @@ TEST(ValidateDescription, AMegabyteIsChecked) {
 }
 
 TEST(ValidateWord, ShowsItsWordNumber) {
-    platform::ScriptedOperator author;
+    platform::ScriptedPerson author;
     EXPECT_FALSE(ValidateWord("a>", 17, true, kTags, &author).IsValid());
     EXPECT_EQ(author.Boxes(), (Boxes{{"Word: 17 " + std::string(kLoneClosing), "Error"}}));
 }

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "cli/target.h"
-#include "cli/terminal_operator.h"
+#include "cli/terminal_person.h"
 #include "cli/verbs.h"
 #include "pictures/character_store.h"
 #include "store/adventure.h"
@@ -24,7 +24,7 @@ struct Options {
 };
 
 int List(const Options& options) {
-    TerminalOperator terminal;
+    TerminalPerson terminal;
     const bool isSetFile =
         text::EqualsNoCase(std::filesystem::path(options.file).extension().string(), ".chr");
     const std::vector<std::string> lines = isSetFile ? pictures::ListSetsInFile(options.file, terminal)
@@ -36,7 +36,7 @@ int List(const Options& options) {
 }
 
 int Save(const Options& options) {
-    TerminalOperator terminal;
+    TerminalPerson terminal;
     CheckTarget({options.setFile, store::Content::Text, ".chr", options.file, options.force}, terminal);
     const auto adventure = OpenToRead(options.file);
     std::vector<std::string> selected;
@@ -47,7 +47,7 @@ int Save(const Options& options) {
 }
 
 int Load(const Options& options) {
-    TerminalOperator terminal;
+    TerminalPerson terminal;
     const auto adventure = OpenToChange(options.file);
     const std::string selected = text::FormatText("SET!%z4", {std::int64_t{options.set}});
     return pictures::LoadSet(*adventure, options.setFile, {selected}, options.target, terminal) ? kDone

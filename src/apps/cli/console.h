@@ -4,7 +4,7 @@
 #include <iostream>
 
 #include "cli/job_terminal.h"
-#include "cli/terminal_operator.h"
+#include "cli/terminal_person.h"
 #include "interchange/jobs.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
@@ -18,13 +18,13 @@ class Console {
 
     /// Throws fabula::Error when there is no default data.
     interchange::JobHost JobHost();
-    platform::Operator& Person() { return person_; }
+    platform::Person& Person() { return person_; }
     platform::Clock& Clock() { return clock_; }
     platform::EventPump& Events() { return events_; }
     interchange::JobObserver& Observer() { return observer_; }
 
   private:
-    TerminalOperator person_;
+    TerminalPerson person_;
     platform::SystemClock clock_;
     platform::NoEvents events_;
     JobTerminal observer_;

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "cli/target.h"
-#include "cli/terminal_operator.h"
+#include "cli/terminal_person.h"
 #include "cli/verbs.h"
 #include "pictures/book_loader.h"
 #include "pictures/cell_image.h"
@@ -75,7 +75,7 @@ int DrawOne(const Options& options) {
     if (options.file.empty() || !options.picture || options.output.empty()) {
         throw UsageError("draw needs FILE.fbd PICTURE OUT.bmp or OUT.png");
     }
-    TerminalOperator person;
+    TerminalPerson person;
     CheckTarget({options.output, store::Content::Text, {}, options.file, options.force}, person);
     const pictures::PictureBook book = Load(options.file);
     const pictures::Canvas canvas =
@@ -93,7 +93,7 @@ int DrawAll(const Options& options) {
     std::error_code error;
     std::filesystem::create_directories(folder, error);
     if (error) throw Error("Could not make the folder " + folder.string() + ": " + error.message() + ".");
-    TerminalOperator person;
+    TerminalPerson person;
     CheckTarget({folder / kIndex, store::Content::Text, {}, {}, options.force}, person);
     std::vector<pictures::NumberedPicture> drawn;
     int status = kDone;
@@ -129,7 +129,7 @@ int FromImage(const Options& options) {
     const auto dithering = options.dither ? pictures::Dithering::On : pictures::Dithering::Off;
     const pictures::CellImage picture = FitToCells(pictures::ReadImage(options.image), dithering);
     if (!target.empty()) {
-        TerminalOperator person;
+        TerminalPerson person;
         CheckTarget({target, store::Content::Text, {}, options.image, options.force}, person);
         pictures::WriteImage(target, picture.ToImage());
     }

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "cli/target.h"
-#include "cli/terminal_operator.h"
+#include "cli/terminal_person.h"
 #include "cli/verbs.h"
 #include "listings/outputs.h"
 #include "listings/report_options.h"
@@ -36,7 +36,7 @@ listings::ReportRequest RequestOf(const listings::Report& report, const Options&
 
 int List(const Options& options) {
     const listings::Report& report = ReportNamed(options.report);
-    TerminalOperator person;
+    TerminalPerson person;
     CheckTarget({options.output, store::Content::Text, {}, options.file, options.force}, person);
     const auto adventure = OpenToRead(options.file);
     const listings::ReportRequest request = RequestOf(report, options, *adventure);

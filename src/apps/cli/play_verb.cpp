@@ -3,7 +3,7 @@
 #include <unistd.h>
 
 #include "cli/target.h"
-#include "cli/terminal_operator.h"
+#include "cli/terminal_person.h"
 #include "cli/verbs.h"
 #include "engine/trace_file.h"
 #include "platform/clock.h"
@@ -56,7 +56,7 @@ std::string TraceHeader(const Options& options) {
 /// A text that is written as the game runs, when the command line names a file for it.
 class Record {
   public:
-    Record(const std::string& file, const Options& options, platform::Operator& person) : file_(file) {
+    Record(const std::string& file, const Options& options, platform::Person& person) : file_(file) {
         if (file.empty()) return;
         CheckTarget({file, store::Content::Text, {}, options.file, options.force}, person);
         stream_.open(file, std::ios::binary);
@@ -80,7 +80,7 @@ class Record {
 int Play(const Options& options) {
     const auto adventure = OpenToRead(options.file);
     const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
-    TerminalOperator person;
+    TerminalPerson person;
     Record transcriptFile(options.transcript, options, person);
     std::optional<engine::Transcript> transcript;
     if (transcriptFile.IsWanted()) transcript.emplace(transcriptFile.Stream());

@@ -6,7 +6,7 @@
 
 namespace fabula::cli {
 
-void CheckTarget(const Target& target, platform::Operator& person) {
+void CheckTarget(const Target& target, platform::Person& person) {
     const std::string name = target.file.string();
     if (store::IsSameFile(target.file, target.source))
         throw Error("Could not write " + name + ": it is the source itself.");

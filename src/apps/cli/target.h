@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/file_copy.h"
 
 namespace fabula::cli {
@@ -21,6 +21,6 @@ struct Target {
 /// Makes sure that the file may be written: that it is not its own source and that store::CheckTarget has
 /// nothing against it; and when there is a file already, that it was to be replaced (--force) or that the
 /// person agrees. Throws fabula::Error otherwise.
-void CheckTarget(const Target& target, platform::Operator& person);
+void CheckTarget(const Target& target, platform::Person& person);
 
 }  // namespace fabula::cli

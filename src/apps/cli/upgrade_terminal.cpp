@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "authoring/files/backups.h"
-#include "cli/terminal_operator.h"
+#include "cli/terminal_person.h"
 #include "platform/clock.h"
 #include "platform/user_folders.h"
 #include "text/safe_text.h"
@@ -25,7 +25,7 @@ void UpgradeTerminal::BeforeChange(store::Adventure& adventure) {
     const auto state = platform::UserStateFolder(platform::Environment::OfTheProgram());
     if (state.empty()) return;
     const platform::SystemClock clock;
-    TerminalOperator person;
+    TerminalPerson person;
     authoring::Backups backups(state / "backups", clock);
     authoring::BackUpAtOpening(backups, adventure, person);
 }

@@ -1,7 +1,7 @@
 #include "cli/verb.h"
 
 #include "cli/installation.h"
-#include "cli/terminal_operator.h"
+#include "cli/terminal_person.h"
 #include "cli/upgrade_terminal.h"
 #include "upgrades/upgrade.h"
 
@@ -16,7 +16,7 @@ CLI::Option* AddForceFlag(CLI::App& verb, bool& force) {
 }
 
 std::unique_ptr<store::Adventure> OpenToRead(const std::string& file) {
-    TerminalOperator person;
+    TerminalPerson person;
     return upgrades::OpenForReading(file, FindDefaultData(),
                                     [&](std::string_view sentence) { person.Tell(sentence, ""); });
 }

@@ -8,7 +8,7 @@
 
 namespace fabula::qt {
 
-// Texts of the system are UTF-8, those of Qt UTF-16. They are converted here and nowhere else.
+// Texts of the libraries are UTF-8, those of Qt UTF-16. They are converted here and nowhere else.
 
 inline QString ToQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -27,7 +27,7 @@ inline std::filesystem::path PathFromQt(const QString& text) {
 /// The context of all texts of the windows in files of translations.
 constexpr const char* kTranslations = "Fabula";
 
-/// A sentence of the system in the language of the windows. What libraries say comes through here on its
+/// A sentence of the libraries in the language of the windows. What libraries say comes through here on its
 /// way to a widget or a box; what records hold does not (`ToQt`).
 inline QString Translated(std::string_view sentence) {
     return QCoreApplication::translate(kTranslations, std::string(sentence).c_str());

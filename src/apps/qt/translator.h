@@ -17,7 +17,7 @@ namespace fabula::qt {
 ///
 /// A text of several lines is translated line by line. A value that is itself a sentence or a word of the
 /// system, such as a reason or the name of a kind of record, is translated too; all others stay. So a name
-/// that an author chose stays, except in a message where it is spelled as a word of the system.
+/// that an author chose stays, except in a message where it is spelled as a word of Fabula.
 class Translator final : public QTranslator {
   public:
     /// `sentences` has the patterns and outlives this.

@@ -7,7 +7,7 @@
 
 namespace fabula::terminal {
 
-/// How a character looks in a terminal. Colours are numbers of the system, 0 to 15.
+/// How a character looks in a terminal. Colours are numbered as in text/colours.h, 0 to 15.
 struct Attributes {
     static constexpr std::int8_t kOwn = -1;  ///< the colour that the terminal has of its own
 

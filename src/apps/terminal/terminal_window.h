@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "engine/game_window.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "terminal/player_files.h"
 #include "terminal/screen.h"
 
@@ -15,7 +15,7 @@ namespace fabula::terminal {
 
 /// The window of a game on a screen of text, and its boxes. Pictures and status are not shown. Lines break
 /// at the screen's width, not at the game's.
-class TerminalWindow final : public engine::WholeWindow, public platform::Operator {
+class TerminalWindow final : public engine::WholeWindow, public platform::Person {
   public:
     TerminalWindow(Screen& screen, const PlayerFiles& files) : screen_(screen), files_(files) {}
 

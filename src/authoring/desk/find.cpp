@@ -74,7 +74,7 @@ void FindBox::SetUpFindComboBox(store::Adventure& adventure, TableNum table) {
 }
 
 std::optional<int> FindBox::Find(const TableGrid& grid, int row, std::string_view caption,
-                                 platform::Operator& person) const {
+                                 platform::Person& person) const {
     const auto refuse = [&](const std::string& message) {
         Refuse(person, message);
         return std::nullopt;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "authoring/desk/table_grid.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {
@@ -35,7 +35,7 @@ class FindBox {
     /// The first row behind `row` (-1 for none) that matches, or else the first of all. Tells in a box why
     /// nothing was looked for or found. `caption` names the table.
     std::optional<int> Find(const TableGrid& grid, int row, std::string_view caption,
-                            platform::Operator& person) const;
+                            platform::Person& person) const;
 
   private:
     std::vector<FindField> fields_;

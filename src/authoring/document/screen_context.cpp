@@ -24,7 +24,7 @@ void ReadNextKeys(ScreenContext& context) {
     context.nextWord = NextFree(adventure, store::TableNum::Vocabulary, "vocindex");
 }
 
-bool Refuse(platform::Operator& person, std::string_view message) {
+bool Refuse(platform::Person& person, std::string_view message) {
     person.Tell(message, "Error");
     return false;
 }

@@ -39,6 +39,6 @@ struct ScreenKey {
 };
 
 /// Tells why an input is refused, in a box titled "Error". False, so that a check can end with it.
-bool Refuse(platform::Operator& person, std::string_view message);
+bool Refuse(platform::Person& person, std::string_view message);
 
 }  // namespace fabula::authoring

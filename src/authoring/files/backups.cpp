@@ -202,7 +202,7 @@ void RestoreBackup(const path& backup, const path& target) {
     store::Adventure::Open(backup, store::OpenMode::ReadOnly, store::Ages::Any)->SaveCopy(target);
 }
 
-void BackUpAtOpening(Backups& backups, store::Adventure& adventure, platform::Operator& person) {
+void BackUpAtOpening(Backups& backups, store::Adventure& adventure, platform::Person& person) {
     try {
         backups.Add(adventure);
     } catch (const Error& error) {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/clock.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {
@@ -64,6 +64,6 @@ void RestoreBackup(const std::filesystem::path& backup, const std::filesystem::p
 
 /// Makes the backup copy of an adventure that was just opened. When that fails the person is told, and work
 /// goes on.
-void BackUpAtOpening(Backups& backups, store::Adventure& adventure, platform::Operator& person);
+void BackUpAtOpening(Backups& backups, store::Adventure& adventure, platform::Person& person);
 
 }  // namespace fabula::authoring

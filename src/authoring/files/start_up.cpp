@@ -26,7 +26,7 @@ constexpr Wanted kWantedHelp{startup::kHelpName, "help/contents.html",
                              "Cannot find the Fabula Help File. Aborting"};
 
 std::optional<path> Find(const Wanted& wanted, platform::Settings& settings,
-                         const std::vector<path>& folders, platform::Operator& person) {
+                         const std::vector<path>& folders, platform::Person& person) {
     const path remembered = settings.Get(startup::kSection, wanted.key);
     if (IsFileThere(remembered)) return remembered;
     auto found = platform::FindFile(folders, wanted.name);
@@ -41,7 +41,7 @@ std::optional<path> Find(const Wanted& wanted, platform::Settings& settings,
 }  // namespace
 
 std::optional<ProgramFiles> FindProgramFiles(platform::Settings& settings, const std::vector<path>& folders,
-                                             platform::Operator& person) {
+                                             platform::Person& person) {
     const auto defaultData = Find(kDefaultData, settings, folders, person);
     if (!defaultData) return std::nullopt;
     const auto help = Find(kWantedHelp, settings, folders, person);

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "platform/settings.h"
 
 namespace fabula::authoring {
@@ -30,7 +30,7 @@ struct ProgramFiles {
 /// that in the settings. nullopt when one is nowhere: the person has been told, and the program ends.
 std::optional<ProgramFiles> FindProgramFiles(platform::Settings& settings,
                                              const std::vector<std::filesystem::path>& folders,
-                                             platform::Operator& person);
+                                             platform::Person& person);
 
 /// The adventure that was last open; empty when there was none or its file is gone.
 std::filesystem::path LastFile(const platform::Settings& settings);

@@ -7,7 +7,7 @@
 namespace fabula::authoring {
 
 NewLocationsScreen::NewLocationsScreen(Document& document, interchange::LoadedPictures loaded,
-                                       platform::Operator& person)
+                                       platform::Person& person)
     : document_(document), loaded_(std::move(loaded)), person_(person) {
     for (const int number : interchange::NumbersToPlace(loaded_)) {
         Line line{number, false, ""};

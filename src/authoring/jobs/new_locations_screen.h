@@ -23,7 +23,7 @@ class NewLocationsScreen {
 
     /// Right after the load, whose step of Undo the move becomes a part of. A picture that was loaded
     /// proposes the record that it is in.
-    NewLocationsScreen(Document& document, interchange::LoadedPictures loaded, platform::Operator& person);
+    NewLocationsScreen(Document& document, interchange::LoadedPictures loaded, platform::Person& person);
 
     std::vector<Line> lines;
 
@@ -34,7 +34,7 @@ class NewLocationsScreen {
   private:
     Document& document_;
     interchange::LoadedPictures loaded_;
-    platform::Operator& person_;
+    platform::Person& person_;
 };
 
 }  // namespace fabula::authoring

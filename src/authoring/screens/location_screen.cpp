@@ -174,7 +174,8 @@ bool LocationScreen::CheckLocation(std::string_view control, std::string_view nu
 std::string LocationScreen::FaultOfWord(std::string_view word) const {
     const std::string typed(word);
     if (words_.Find(word) == nullptr) return typed + " is not a valid word";
-    if (words_.Find(word, condacts::IsVerbOrNoun) == nullptr) return typed + " is not a Verb or conversion Noun";
+    if (words_.Find(word, condacts::IsVerbOrNoun) == nullptr)
+        return typed + " is not a Verb or conversion Noun";
     if (words_.Find(word, condacts::IsMovementWord) == nullptr)
         return typed + " is not identified as a movement word (value<20)";
     return "";

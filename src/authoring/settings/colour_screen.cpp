@@ -7,14 +7,14 @@
 namespace fabula::authoring {
 namespace {
 
-bool IsColor(int number) {
-    return number >= 0 && number < ColourScreen::kColors;
+bool IsColour(int number) {
+    return number >= 0 && number < ColourScreen::kColours;
 }
 
 }  // namespace
 
 ColourScreen::ColourScreen(Purpose purpose, int current)
-    : purpose_(purpose), current_(IsColor(current) ? current : 0) {}
+    : purpose_(purpose), current_(IsColour(current) ? current : 0) {}
 
 std::string_view ColourScreen::Caption() const {
     return purpose_ == Purpose::Ink ? "Set Color for Ink" : "Set Color for Paper";
@@ -25,7 +25,7 @@ std::string ColourScreen::CurrentLine() const {
 }
 
 void ColourScreen::Click(int color) {
-    if (!IsColor(color)) throw std::invalid_argument("there is no such colour");
+    if (!IsColour(color)) throw std::invalid_argument("there is no such colour");
     current_ = color;
 }
 

@@ -25,10 +25,10 @@ class ColourScreen {
     /// Gives the number of the chosen colour to the calling screen. (Exit gives none.)
     int Update() const { return current_; }
 
-    static constexpr int kColors = condacts::limit::kHighestColour + 1;
+    static constexpr int kColours = condacts::limit::kHighestColour + 1;
     static constexpr int kFirstBright = condacts::limit::kFirstBrightColour;
-    static constexpr std::string_view kNormalColors = "Normal Colors";
-    static constexpr std::string_view kBrightColors = "Bright Colors";
+    static constexpr std::string_view kNormalColours = "Normal Colors";
+    static constexpr std::string_view kBrightColours = "Bright Colors";
 
   private:
     Purpose purpose_;

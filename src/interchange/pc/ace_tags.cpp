@@ -10,17 +10,17 @@
 namespace fabula::interchange {
 namespace {
 
-bool IsColorNumber(std::string_view value) {
+bool IsColourNumber(std::string_view value) {
     const auto number = text::WholeNumber(value);
     return number && *number >= 0 && *number <= condacts::limit::kHighestColour;
 }
 
-std::string ColorFromAce(std::string_view value) {
-    return IsColorNumber(value) ? std::string(value) : std::to_string(ConvertACEColors(value));
+std::string ColourFromAce(std::string_view value) {
+    return IsColourNumber(value) ? std::string(value) : std::to_string(ConvertACEColors(value));
 }
 
-std::string ColorToAce(std::string_view value) {
-    if (!IsColorNumber(value)) return std::string(value);
+std::string ColourToAce(std::string_view value) {
+    if (!IsColourNumber(value)) return std::string(value);
     return text::LowerCase(text::ColorName(static_cast<int>(*text::WholeNumber(value))));
 }
 
@@ -53,9 +53,9 @@ AceTags::AceTags(store::Adventure& adventure) {
     for (bool more = codes.First({}); more; more = codes.Next()) {
         const std::string ace = text::LowerCase(codes.Text(0));
         const std::string own = text::LowerCase(codes.Text(1));
-        const bool isColor = codes.Text(2) == "CO";
-        if (fromAce_.try_emplace(ace, Partner{std::string(codes.Text(1)), isColor}).second) {
-            toAce_.try_emplace(own, Partner{ace, isColor});
+        const bool isColour = codes.Text(2) == "CO";
+        if (fromAce_.try_emplace(ace, Partner{std::string(codes.Text(1)), isColour}).second) {
+            toAce_.try_emplace(own, Partner{ace, isColour});
         }
     }
 }
@@ -68,7 +68,7 @@ std::string AceTags::ConvertACETags(std::string_view text) const {
                            if (found == fromAce_.end()) return std::string(inside);
                            if (!value) return found->second.name;
                            return found->second.name + "=" +
-                                  (found->second.isColor ? ColorFromAce(*value) : std::string(*value));
+                                  (found->second.isColour ? ColourFromAce(*value) : std::string(*value));
                        });
 }
 
@@ -80,7 +80,7 @@ std::string AceTags::ToACETags(std::string_view text) const {
                            if (found == toAce_.end()) return std::string(inside);
                            if (!value) return found->second.name;
                            return found->second.name + "=" +
-                                  (found->second.isColor ? ColorToAce(*value) : std::string(*value));
+                                  (found->second.isColour ? ColourToAce(*value) : std::string(*value));
                        });
 }
 

@@ -23,7 +23,7 @@ class AceTags {
   private:
     struct Partner {
         std::string name;
-        bool isColor = false;
+        bool isColour = false;
     };
     using Partners = std::unordered_map<std::string, Partner>;
 

@@ -138,7 +138,7 @@ RecordList ParseRecordList(std::string_view list) {
 }
 
 LoadedPictures LoadGraphics(const PictureImport& import, store::Adventure& adventure,
-                            platform::Operator& person, JobStatus& status) {
+                            platform::Person& person, JobStatus& status) {
     const RecordList wanted = ParseRecordList(import.records);
     if (!wanted.fault.empty()) {
         person.Tell(wanted.fault, "Error");

@@ -9,7 +9,7 @@
 
 #include "interchange/file_kinds.h"
 #include "interchange/job_status.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/adventure.h"
 
 namespace fabula::interchange {
@@ -46,7 +46,7 @@ struct PictureImport {
 /// the status; a list or listing that can't be taken is refused with its own message, and nothing is
 /// changed. Throws fabula::Error when the listing can't be read.
 LoadedPictures LoadGraphics(const PictureImport& import, store::Adventure& adventure,
-                            platform::Operator& person, JobStatus& status);
+                            platform::Person& person, JobStatus& status);
 
 /// Where pictures of a listing are to go: by their number in the listing, what was typed for it.
 using NewLocations = std::map<int, std::string>;

@@ -62,7 +62,7 @@ bool IsVersionLine(const std::string* line) {
 
 /// Refuses what was extracted by a program that is unknown or too old. What this system has written it can
 /// read, whatever form it was written in.
-bool AcceptVersion(const std::string& line, bool isMarlo, ListingLines& lines, platform::Operator& person) {
+bool AcceptVersion(const std::string& line, bool isMarlo, ListingLines& lines, platform::Person& person) {
     if (line.starts_with(kOwnExtract) && IsVersionLine(lines.Peek())) {
         std::string version;
         lines.Next(version);
@@ -82,7 +82,7 @@ bool AcceptVersion(const std::string& line, bool isMarlo, ListingLines& lines, p
 
 }  // namespace
 
-std::optional<UnVelHead> ReadUnVelHead(ListingLines& lines, platform::Operator& person) {
+std::optional<UnVelHead> ReadUnVelHead(ListingLines& lines, platform::Person& person) {
     std::optional<UnVelHead> head;
     std::string line;
     while (!head && lines.Next(line))

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "interchange/unmarlo/listing_lines.h"
-#include "platform/operator.h"
+#include "platform/person.h"
 #include "store/setup.h"
 
 namespace fabula::interchange {
@@ -19,7 +19,7 @@ struct UnVelHead {
 
 /// Reads the head, the version lines included. Nothing when the listing is none, or of a version that can't
 /// be read; `person` is then told why.
-std::optional<UnVelHead> ReadUnVelHead(ListingLines& lines, platform::Operator& person);
+std::optional<UnVelHead> ReadUnVelHead(ListingLines& lines, platform::Person& person);
 
 /// The adventure of an UnVel listing: type VEL or Marlo, as its head says.
 store::AdventureSetup SetupOfUnVel(const std::filesystem::path& listing);

@@ -124,12 +124,12 @@ TEST(ExportFabula, AFieldOfAnUnknownTypeIsToldAndLeftOut) {
     field.Update();
     SetMessage(*adventure, 5, "x");
     const test::TempFolder folder;
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     NoObserver nobody;
     JobStatus status(nobody);
     ExportContext context{*adventure, folder / "out", person, status};
     EXPECT_TRUE(FindFileKind("fabula")->write(context));
-    using Shown = platform::ScriptedOperator::Shown;
+    using Shown = platform::ScriptedPerson::Shown;
     EXPECT_EQ(person.Boxes(), (std::vector<Shown>{{"invalid field name adbstr", "Error"},
                                                   {"Fabula Export completed", "Fabula"}}));
 }

@@ -52,7 +52,7 @@ class PictureImportTest : public testing::Test {
     }
 
     test::OpenedAdventure game_;
-    platform::ScriptedOperator person_;
+    platform::ScriptedPerson person_;
     std::string status_;
 };
 

@@ -49,7 +49,7 @@ class BadListing : public testing::TestWithParam<const char*> {
     std::string Trouble(const Lines& lines) {
         const test::TempFolder folder;
         std::ofstream(folder / "listing", std::ios::binary) << Joined(lines);
-        platform::ScriptedOperator person;
+        platform::ScriptedPerson person;
         const platform::FixedClock clock{{2026, 3, 9, 8, 5, 7}};
         platform::NoEvents events;
         NoObserver nobody;

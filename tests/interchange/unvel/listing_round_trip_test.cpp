@@ -39,7 +39,7 @@ class Reader {
     std::vector<std::string> Read(const std::string& listing, const ListedGame& game) {
         const std::filesystem::path file = adventure_.Folder().Path() / "listing.txt";
         std::ofstream(file, std::ios::binary | std::ios::trunc) << listing;
-        platform::ScriptedOperator person;
+        platform::ScriptedPerson person;
         NoObserver nobody;
         JobStatus status(nobody);
         ImportContext context{file, *adventure_, person, status};
@@ -110,7 +110,7 @@ std::vector<std::string> Carried(store::Adventure& adventure) {
 
 std::string Extract(store::Adventure& adventure, std::string_view version, std::string& told) {
     const test::TempFolder folder;
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     NoObserver nobody;
     JobStatus status(nobody);
     ExportContext context{adventure, folder / "out.pex", person, status, std::string(version)};

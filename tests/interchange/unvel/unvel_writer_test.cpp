@@ -28,7 +28,7 @@ struct WrittenExtract {
 
     bool Has(const std::string& lines) const { return text.find(lines) != std::string::npos; }
 
-    platform::ScriptedOperator person;
+    platform::ScriptedPerson person;
     bool ok = false;
     std::string status;
     std::string text;

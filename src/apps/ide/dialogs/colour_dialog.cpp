@@ -19,7 +19,7 @@
 namespace fabula::ide {
 
 /// Framed, so that it can be told from any window.
-QIcon ColorSwatch(int number, int height) {
+QIcon ColourSwatch(int number, int height) {
     const text::Rgb color = text::ColorRGB(number);
     QPixmap patch(2 * height, height);
     patch.fill(Qt::gray);
@@ -33,9 +33,9 @@ ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
     setWindowTitle(qt::Translated(screen.Caption()));
     setProperty("helpPage", "frmcolors.html");
     auto* colors = new QHBoxLayout;
-    colors->addWidget(NewColors(0, authoring::ColourScreen::kNormalColors));
+    colors->addWidget(NewColours(0, authoring::ColourScreen::kNormalColours));
     colors->addWidget(
-        NewColors(authoring::ColourScreen::kFirstBright, authoring::ColourScreen::kBrightColors));
+        NewColours(authoring::ColourScreen::kFirstBright, authoring::ColourScreen::kBrightColours));
     current_->setObjectName("current");
     colors->setSpacing(16);
     auto* row = new QHBoxLayout;
@@ -52,7 +52,7 @@ ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
     chosen_->button(screen_.Current())->setFocus();
 }
 
-QWidget* ColourDialog::NewColors(int first, std::string_view caption) {
+QWidget* ColourDialog::NewColours(int first, std::string_view caption) {
     auto* group = new QGroupBox(qt::Translated(caption));
     auto* layout = new QVBoxLayout(group);
     layout->setSpacing(4);
@@ -63,7 +63,7 @@ QWidget* ColourDialog::NewColors(int first, std::string_view caption) {
         color->setObjectName(QString("colour%1").arg(number));
         color->setAccessibleName(color->text());
         color->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        color->setIcon(ColorSwatch(number, size));
+        color->setIcon(ColourSwatch(number, size));
         color->setIconSize({2 * size, size});
         color->setAutoRaise(true);
         color->setCheckable(true);

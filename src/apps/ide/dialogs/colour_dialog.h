@@ -12,7 +12,7 @@ class QLabel;
 namespace fabula::ide {
 
 /// A patch of a colour by its number, `height` pixels high and twice as wide.
-QIcon ColorSwatch(int number, int height);
+QIcon ColourSwatch(int number, int height);
 
 /// The dialog that picks one of the 16 colours. Accepted by Update or a double click on a colour; `screen`
 /// then has the number.
@@ -25,7 +25,7 @@ class ColourDialog final : public QDialog {
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
   private:
-    QWidget* NewColors(int first, std::string_view caption);
+    QWidget* NewColours(int first, std::string_view caption);
     void ShowCurrent();
 
     authoring::ColourScreen& screen_;

@@ -12,7 +12,7 @@
 
 namespace fabula::ide {
 
-KeypadDialog::KeypadDialog(platform::Operator& author, QWidget* parent) : QDialog(parent), author_(author) {
+KeypadDialog::KeypadDialog(platform::Person& person, QWidget* parent) : QDialog(parent), person_(person) {
     setObjectName("KeypadSize");
     setWindowTitle(qt::Translated(listings::kKeypadTitle));
     setProperty(qt::kHelpPage, "frmtempsize.html");
@@ -43,7 +43,7 @@ void KeypadDialog::ClickContinue() {
     std::size_t chosen = 0;
     while (chosen + 1 < sizes_.size() && !sizes_[chosen]->isChecked())
         ++chosen;
-    const auto name = listings::TemplateOfSize(chosen, author_);
+    const auto name = listings::TemplateOfSize(chosen, person_);
     if (!name) return reject();
     templateName_ = *name;
     accept();

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/operator.h"
+#include "platform/person.h"
 
 class QRadioButton;
 
@@ -16,7 +16,7 @@ namespace fabula::ide {
 class KeypadDialog final : public QDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
-    explicit KeypadDialog(platform::Operator& author, QWidget* parent = nullptr);
+    explicit KeypadDialog(platform::Person& person, QWidget* parent = nullptr);
 
     /// The template of the size, once the window has closed with Continue.
     const std::string& TemplateName() const { return templateName_; }
@@ -24,7 +24,7 @@ class KeypadDialog final : public QDialog {
   private:
     void ClickContinue();
 
-    platform::Operator& author_;
+    platform::Person& person_;
     std::string templateName_;
     std::vector<QRadioButton*> sizes_;
 };

@@ -181,7 +181,7 @@ void SettingsGamePage::AddColour(QFormLayout& form, const QString& label, const 
         const QString chosen = qt::Translated(text::ColorName(screen_.*colour));
         button->setText(" " + chosen);
         button->setAccessibleName(caption + ": " + chosen);
-        button->setIcon(ColorSwatch(screen_.*colour, size));
+        button->setIcon(ColourSwatch(screen_.*colour, size));
         button->setIconSize({2 * size, size});
     };
     show();

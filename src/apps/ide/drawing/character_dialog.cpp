@@ -32,7 +32,7 @@ constexpr const char* kSample = "The quick brown fox jumps";
 QColor ColourOfSettings(authoring::CharacterEditor& screen, const char* field) {
     const store::Cursor& settings = screen.Adventure().OpenTable(store::TableNum::Adventure, field);
     const int number = settings.Eof() ? 0 : static_cast<int>(settings.Number(field));
-    return ColorOf(pictures::IndexToColour(number));
+    return ColourOf(pictures::IndexToColour(number));
 }
 
 /// The character 8 by 8 times, so that a pattern shows how it joins.

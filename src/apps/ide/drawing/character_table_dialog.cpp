@@ -100,8 +100,8 @@ bool CharacterTableDialog::eventFilter(QObject* receiver, QEvent* event) {
 void CharacterTableDialog::Show() {
     showing_ = true;
     table_->clear();
-    const QColor ink = ColorOf(pictures::IndexToColour(screen_.Ink()));
-    const QColor paper = ColorOf(pictures::IndexToColour(screen_.Paper()));
+    const QColor ink = ColourOf(pictures::IndexToColour(screen_.Ink()));
+    const QColor paper = ColourOf(pictures::IndexToColour(screen_.Paper()));
     for (const pictures::Character& character : screen_.Characters()) {
         const QPixmap picture = QPixmap::fromImage(ImageOfGlyph(character.glyph, ink, paper, kScale));
         // The icon stays as it is when its line is the current one.

@@ -127,7 +127,7 @@ void PictureCanvas::paintEvent(QPaintEvent*) {
 
 /// Through the paper, that is where nothing was drawn in another colour.
 void PictureCanvas::PaintTracing(QPainter& painter, const QRect& picture) {
-    const QRgb paper = ColorOf(editor_.Planes().colour.Background()).rgb();
+    const QRgb paper = ColourOf(editor_.Planes().colour.Background()).rgb();
     const int alpha = 255 - 255 * tracing_->strength / 100;
     QImage above = image_;
     for (int line = 0; line < above.height(); ++line) {

@@ -175,7 +175,7 @@ void PicturePalette::AddColourRow(QGridLayout& grid, const char* word, const QSt
         if (number == kTransparent)
             button->setText("8");
         else
-            button->setIcon(ColorSwatch(number, 12));
+            button->setIcon(ColourSwatch(number, 12));
         button->setIconSize({16, 12});
         button->setCheckable(true);
         button->setAutoRaise(true);

@@ -28,7 +28,7 @@ QPlainTextEdit* NewTextEdit(const std::string& text);
 /// A list of which one line is chosen.
 QComboBox* NewDropList(const authoring::DropList& list);
 
-/// The same for lines that are words of the system, in the language of the windows.
+/// The same for lines that are words of Fabula, in the language of the windows.
 QComboBox* NewChoice(const authoring::DropList& list);
 
 /// An editable list of locations, shown as "5 - The cellar"; `LocationTyped` gives the number of the line

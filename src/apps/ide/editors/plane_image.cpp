@@ -13,7 +13,7 @@ QRgb OpaqueOf(pictures::Colour colour) {
 
 }  // namespace
 
-QColor ColorOf(pictures::Colour colour) {
+QColor ColourOf(pictures::Colour colour) {
     return QColor::fromRgb(OpaqueOf(colour));
 }
 

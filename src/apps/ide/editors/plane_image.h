@@ -12,6 +12,6 @@ namespace fabula::ide {
 QImage ImageOfPlane(const pictures::Plane& plane);
 /// A character in two colours, every pixel `scale` wide.
 QImage ImageOfGlyph(const pictures::Glyph& glyph, QColor ink, QColor paper, int scale);
-QColor ColorOf(pictures::Colour colour);
+QColor ColourOf(pictures::Colour colour);
 
 }  // namespace fabula::ide

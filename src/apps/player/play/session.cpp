@@ -30,12 +30,12 @@ std::string SaveNameOf(store::Adventure& adventure) {
 
 /// A game of an older version is upgraded in memory, and the player told so. Where the default data is not
 /// installed, only games of the present form can be played.
-std::unique_ptr<store::Adventure> OpenGame(const std::filesystem::path& file, platform::Operator& player) {
+std::unique_ptr<store::Adventure> OpenGame(const std::filesystem::path& file, platform::Person& person) {
     const auto folders =
         platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());
     const auto data = platform::FindFile(folders, "Fabula.ini").value_or(std::filesystem::path());
     return upgrades::OpenForReading(file, data,
-                                    [&](std::string_view sentence) { player.Tell(sentence, "Fabula"); });
+                                    [&](std::string_view sentence) { person.Tell(sentence, "Fabula"); });
 }
 
 /// Set while it lives.
@@ -55,10 +55,10 @@ class Mark {
 Session::Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
                  const engine::Host& host, platform::Timers& timers, Autosave autosave,
                  const engine::Options& options)
-    : adventure_(OpenGame(file, host.oper)),
+    : adventure_(OpenGame(file, host.person)),
       folder_(FolderOfGame(dataFolder, SaveNameOf(*adventure_), file)),
       engine_(*adventure_, host, InSlices(options)),
-      oper_(host.oper),
+      person_(host.person),
       keeps_(autosave == Autosave::On),
       autosave_(timers, [this] { WriteAutosave(); }) {}
 
@@ -148,9 +148,9 @@ bool Session::Resume() {
     return Run([this] {
         try {
             if (engine_.LoadFrom(folder_.autosave)) return;
-            oper_.Tell("The last session can't be resumed: the adventure has changed since.", "Error");
+            person_.Tell("The last session can't be resumed: the adventure has changed since.", "Error");
         } catch (const Error& error) {
-            oper_.Tell(error.what(), "Error");
+            person_.Tell(error.what(), "Error");
         }
     });
 }

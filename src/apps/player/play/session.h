@@ -53,7 +53,7 @@ class Session {
     bool Start();
     /// Whether there is a state of an earlier session to go on from.
     bool CanResume() const;
-    /// Goes on from it. When that is not possible the game goes on as it is, and the operator is told.
+    /// Goes on from it. When that is not possible the game goes on as it is, and the person is told.
     bool Resume();
 
     /// The game goes on with a long turn.
@@ -108,7 +108,7 @@ class Session {
     std::unique_ptr<store::Adventure> adventure_;
     GameFolder folder_;
     engine::Engine engine_;
-    platform::Operator& oper_;
+    platform::Person& person_;
     FileAsker askForFile_;
     bool keeps_;
     platform::Alarm autosave_;

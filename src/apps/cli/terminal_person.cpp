@@ -1,4 +1,4 @@
-#include "cli/terminal_operator.h"
+#include "cli/terminal_person.h"
 
 #include <iostream>
 #include <string>
@@ -9,11 +9,11 @@
 
 namespace fabula::cli {
 
-void TerminalOperator::Tell(std::string_view text, std::string_view) {
+void TerminalPerson::Tell(std::string_view text, std::string_view) {
     std::cerr << text::SafeLines(text) << "\n";
 }
 
-bool TerminalOperator::Confirm(std::string_view text, std::string_view) {
+bool TerminalPerson::Confirm(std::string_view text, std::string_view) {
     if (isatty(STDIN_FILENO) == 0 || isatty(STDERR_FILENO) == 0) return false;
     std::cerr << text::SafeLines(text) << " (Y/N) " << std::flush;
     std::string answer;

@@ -1,4 +1,4 @@
-#include "platform/scripted_operator.h"
+#include "platform/scripted_person.h"
 
 #include <stdexcept>
 
@@ -7,17 +7,17 @@
 namespace fabula::platform {
 namespace {
 
-TEST(ScriptedOperator, KeepsWhatWasShownInOrder) {
-    ScriptedOperator person;
+TEST(ScriptedPerson, KeepsWhatWasShownInOrder) {
+    ScriptedPerson person;
     person.AnswerNext(true);
     person.Tell("Saved.", "Done");
     EXPECT_TRUE(person.Confirm("Go on?", "Question"));
     EXPECT_EQ(person.Boxes(),
-              (std::vector<ScriptedOperator::Shown>{{"Saved.", "Done"}, {"Go on?", "Question"}}));
+              (std::vector<ScriptedPerson::Shown>{{"Saved.", "Done"}, {"Go on?", "Question"}}));
 }
 
-TEST(ScriptedOperator, AQuestionWithoutAPreparedAnswerIsAnErrorOfTheTest) {
-    ScriptedOperator person;
+TEST(ScriptedPerson, AQuestionWithoutAPreparedAnswerIsAnErrorOfTheTest) {
+    ScriptedPerson person;
     EXPECT_THROW(person.Confirm("Go on?", "Question"), std::logic_error);
 }
 

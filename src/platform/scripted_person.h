@@ -4,12 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "platform/operator.h"
+#include "platform/person.h"
 
 namespace fabula::platform {
 
-/// An Operator for tests: answers what it was told to answer, and keeps what it was shown.
-class ScriptedOperator final : public Operator {
+/// An Person for tests: answers what it was told to answer, and keeps what it was shown.
+class ScriptedPerson final : public Person {
   public:
     struct Shown {
         std::string text;
