@@ -32,8 +32,6 @@ update() { keys ctrl+Return; back; }
 place() { types "$1"; keys alt+d ctrl+a; types "$2"; }
 word() { opens ctrl+n "Vocabulary Editor"; types "$1"; keys "alt+$2"; }
 thing() { opens ctrl+n "Object $1"; types "$2"; keys alt+r alt+m ctrl+a; types "$3"; }
-# The word that comes with a thing is asked about.
-make_word() { keys ctrl+Return; at "New word"; keys Return; back; }
 rule() { opens ctrl+n "Process Table Editor"; keys alt+v; types "$1"; keys alt+n; types "$2"; keys alt+b; types "$3"; shift 3; local part; for part; do keys Tab; types "$part"; done; update; }
 
 tutorial() {
@@ -51,6 +49,8 @@ tutorial() {
         at "Fabula IDE"
     fi
     desk_window=$window
+    # In a wide window records would open beside the rows, and there would be no windows to picture.
+    xdotool windowsize --sync "$window" 1000 760 windowfocus "$window"
 
     opens ctrl+shift+n "Create a Fabula Database"
     types "$work/games/cake.fbd"
@@ -112,8 +112,8 @@ tutorial() {
     table obj
     thing 0 "a small brass key" 1
     take object
-    make_word
-    thing 1 "the last slice of cake" 2; make_word
+    update
+    thing 1 "the last slice of cake" 2; update
 
     table fl
     keys ctrl+k
