@@ -133,6 +133,7 @@ void SettingsGamePage::AddGame(QFormLayout& form) {
         // It is there to be read and copied.
         auto* ifid = new QLineEdit(qt::ToQt(screen_.Ifid()));
         ifid->setReadOnly(true);
+        ifid->setCursorPosition(0);  // its beginning, where it is wider than the field
         AddToForm(form, tr("IFID:"), ifid, "ifid");
     }
     AddToForm(form, tr("T&ype:"), type_, "type");
