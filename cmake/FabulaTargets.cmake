@@ -79,10 +79,6 @@ function(fabula_test name library)
         target_precompile_headers(${name} REUSE_FROM test_headers)
     endif()
     add_test(NAME ${name} COMMAND ${name})
-    # LeakSanitizer's own look at the threads of the windows' libraries ends in a fault now and then.
-    if(arg_WINDOWS)
-        set_tests_properties(${name} PROPERTIES ENVIRONMENT "ASAN_OPTIONS=detect_leaks=0")
-    endif()
 endfunction()
 
 # fabula_fuzzer(NAME LIBRARY SOURCES file... [SEEDS file...] [OPTIONS option...])

@@ -21,6 +21,7 @@
 #include "ide/editors/picture_view.h"
 #include "platform/settings.h"
 #include "qt/strings.h"
+#include "support/active_window.h"
 
 namespace fabula::test {
 namespace {
@@ -45,7 +46,7 @@ TEST_P(AccessibleDialog, TellsItsContentByNamesAndValues) {
 TEST_P(AccessibleDialog, TellsFaultsAsTheyStand) {
     const std::shared_ptr<QDialog> dialog = GetParam().open(desk_);
     dialog->show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    EXPECT_TRUE(test::BecomesActive(dialog.get()));
     if (QWidget* field = QApplication::focusWidget()) QTest::keyClicks(field, "<zz> qq 9");
     QApplication::processEvents();
     EXPECT_EQ(WrongInAccessibleTree(*dialog), Wrong{});

@@ -21,6 +21,7 @@
 
 #include "ide/window/game_test.h"
 #include "qt/strings.h"
+#include "support/active_window.h"
 
 namespace fabula::test {
 namespace {
@@ -99,7 +100,7 @@ QWidget& Author::Front() const {
     if (!front) front = &desk_->Window();
     if (!QApplication::activePopupWidget() && QGuiApplication::focusWindow() != front->windowHandle()) {
         front->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(front));
+        EXPECT_TRUE(test::BecomesActive(front));
         // The other windows hear of it before anything else happens.
         QApplication::processEvents();
     }

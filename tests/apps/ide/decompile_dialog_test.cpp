@@ -16,6 +16,7 @@
 #include "ide/window/job_events.h"
 #include "platform/scripted_dialogs.h"
 #include "qt/qt_programs.h"
+#include "support/active_window.h"
 #include "support/places.h"
 #include "support/temp_folder.h"
 
@@ -56,7 +57,7 @@ class DecompileDialogTest : public testing::Test {
     DecompileDialogTest() {
         std::ofstream(In("game; rm -rf $HOME.sna")) << "x";
         dialog_.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+        EXPECT_TRUE(test::BecomesActive(&dialog_));
     }
 
     path In(const std::string& name) const { return folder_.Path() / name; }

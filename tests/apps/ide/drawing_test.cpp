@@ -24,6 +24,7 @@
 #include "pictures/picture_folder.h"
 #include "platform/settings.h"
 #include "qt/strings.h"
+#include "support/active_window.h"
 #include "support/places.h"
 
 // The dialogs of drawing, by keys and clicks alone.
@@ -40,7 +41,7 @@ class Drawer {
     Drawer(Desk& desk, int number, bool isNew)
         : editor_(desk.context, {.key = number, .isNew = isNew}), dialog_(editor_, settings_) {
         dialog_.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+        EXPECT_TRUE(test::BecomesActive(&dialog_));
     }
 
     template <typename Widget>
@@ -341,7 +342,7 @@ class CharacterDialogTest : public testing::Test {
   protected:
     CharacterDialogTest() {
         dialog_.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+        EXPECT_TRUE(test::BecomesActive(&dialog_));
         Click("Clear");
     }
     ide::CharacterGrid& Grid() {
@@ -396,7 +397,7 @@ TEST(CharacterTableDialog, EnterOpensTheEditorOfTheChosenCharacter) {
         opened.push_back(request.key.key);
     });
     dialog.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    ASSERT_TRUE(test::BecomesActive(&dialog));
     auto& table = *dialog.findChild<QListWidget*>("Characters");
     EXPECT_EQ(table.count(), static_cast<int>(screen.Characters().size()));
     table.setCurrentRow(2);

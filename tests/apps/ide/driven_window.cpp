@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "qt/strings.h"
+#include "support/active_window.h"
 
 namespace fabula::test {
 namespace {
@@ -49,7 +50,7 @@ void Do(QDialog& dialog, const Step& step) {
 
 /// An update closes the dialog; one that is refused has told so.
 void DoAll(QDialog& dialog, const std::vector<Step>& steps) {
-    if (!QTest::qWaitForWindowActive(&dialog)) ADD_FAILURE() << "the dialog did not become active";
+    if (!test::BecomesActive(&dialog)) ADD_FAILURE() << "the dialog did not become active";
     for (const Step& step : steps)
         Do(dialog, step);
     ClickOn(dialog, "update");

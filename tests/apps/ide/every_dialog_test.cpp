@@ -7,6 +7,7 @@
 #include "ide/dialog_stand.h"
 #include "qt/strings.h"
 #include "qt/theme.h"
+#include "support/active_window.h"
 
 namespace fabula::test {
 namespace {
@@ -28,7 +29,7 @@ class EveryDialogTest : public testing::TestWithParam<DialogStand> {
     std::shared_ptr<QDialog> Open() {
         std::shared_ptr<QDialog> dialog = GetParam().open(desk_);
         dialog->show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+        EXPECT_TRUE(test::BecomesActive(dialog.get()));
         QApplication::processEvents();
         return dialog;
     }

@@ -10,6 +10,7 @@
 
 #include "ide/dialog_stand.h"
 #include "qt/strings.h"
+#include "support/active_window.h"
 
 namespace fabula::test {
 namespace {
@@ -32,7 +33,7 @@ class FailingUpdate : public testing::TestWithParam<Typed> {
             if (std::string(stand.name) != GetParam().dialog) continue;
             std::shared_ptr<QDialog> dialog = stand.open(desk_);
             dialog->show();
-            EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+            EXPECT_TRUE(test::BecomesActive(dialog.get()));
             return dialog;
         }
         return nullptr;

@@ -17,6 +17,7 @@
 
 #include "ide/dialog_checks.h"
 #include "platform/scripted_dialogs.h"
+#include "support/active_window.h"
 #include "support/places.h"
 #include "support/scripted_pump.h"
 #include "support/template_adventure.h"
@@ -34,7 +35,7 @@ class InterchangeDialogTest : public testing::Test {
         screen_ = std::make_unique<InterchangeScreen>(mode, &*adventure_, host_);
         dialog_ = std::make_unique<ide::InterchangeDialog>(*screen_, dialogs_);
         dialog_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+        ASSERT_TRUE(test::BecomesActive(dialog_.get()));
     }
     ~InterchangeDialogTest() override { dialog_.reset(); }
 

@@ -29,6 +29,7 @@
 #include "qt/help_window.h"
 #include "qt/icons.h"
 #include "qt/strings.h"
+#include "support/active_window.h"
 #include "support/child_process.h"
 #include "support/raw_database.h"
 
@@ -251,7 +252,8 @@ TEST(MainWindow, TellsHowAVerifyEnded) {
     OpenedWindow opened;
     opened.Open(Game());
     WithNextDialog("VerifyDialog", [](QDialog& dialog) {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.findChild<QPushButton*>("print")->isEnabled(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.findChild<QPushButton*>("print")->isEnabled(); },
+                                    test::kLongestWait));
         dialog.accept();
     });
     opened.Action("Verify").trigger();
@@ -283,7 +285,8 @@ TEST(MainWindow, PreviewOpensBehindItsSetup) {
     WithNextDialog("PrintDialog", [&](QDialog& dialog) {
         WithNextDialog("PreviewDialog", [&](QDialog& preview) {
             auto* label = preview.findChild<QLabel*>("place");
-            EXPECT_TRUE(QTest::qWaitFor([&] { return label->text().startsWith("Page"); }));
+            EXPECT_TRUE(
+                QTest::qWaitFor([&] { return label->text().startsWith("Page"); }, test::kLongestWait));
             place = label->text();
             preview.reject();
         });

@@ -16,6 +16,7 @@
 
 #include "player/panes/text_colours.h"
 #include "qt/theme.h"
+#include "support/active_window.h"
 #include "support/template_adventure.h"
 
 namespace fabula::test {
@@ -46,7 +47,7 @@ class MarkupEditTest : public testing::Test {
         layout->addWidget(next);
         window_->show();
         window_->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        EXPECT_TRUE(test::BecomesActive(window_.get()));
         edit_->setFocus();
         return *edit_;
     }

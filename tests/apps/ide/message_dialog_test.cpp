@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/scripted_dialogs.h"
+#include "support/active_window.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 
@@ -31,7 +32,7 @@ class MessageDialogTest : public testing::Test {
         dialog_.emplace(*screen_, *editing_, dialogs_);
         dialog_->show();
         dialog_->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&*dialog_));
+        EXPECT_TRUE(test::BecomesActive(&*dialog_));
     }
 
     void Type(const char* text) {

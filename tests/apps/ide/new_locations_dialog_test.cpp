@@ -13,6 +13,7 @@
 #include "authoring/desk.h"
 #include "ide/dialogs/interchange_dialog.h"
 #include "ide/opened_window.h"
+#include "support/active_window.h"
 #include "support/places.h"
 #include "support/scripted_pump.h"
 
@@ -35,7 +36,7 @@ class LoadPicturesTest : public testing::Test {
         listing_ = desk_.Adventure().GameDir() / "game.unq";
         std::ofstream(listing_) << kListing;
         dialog_.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+        EXPECT_TRUE(test::BecomesActive(&dialog_));
     }
 
     void Type(const char* field, const std::string& text) {

@@ -24,6 +24,7 @@
 #include "ide/dialogs/word_dialog.h"
 #include "platform/scripted_dialogs.h"
 #include "qt/strings.h"
+#include "support/active_window.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 
@@ -54,7 +55,7 @@ class RecordDialogs : public testing::Test {
 
     static void Open(QDialog& dialog) {
         dialog.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        ASSERT_TRUE(test::BecomesActive(&dialog));
     }
     template <typename Control>
     static Control* Find(QDialog& dialog, const char* name) {

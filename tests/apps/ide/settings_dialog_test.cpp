@@ -19,6 +19,7 @@
 #include "authoring/desk.h"
 #include "ide/dialog_checks.h"
 #include "qt/strings.h"
+#include "support/active_window.h"
 #include "support/game_builder.h"
 
 namespace fabula::ide {
@@ -40,7 +41,7 @@ class SettingsDialogTest : public testing::Test {
                                                               std::vector<std::string>{"USB keys"});
         dialog_ = std::make_unique<SettingsDialog>(*screen_, sound_);
         dialog_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+        ASSERT_TRUE(test::BecomesActive(dialog_.get()));
     }
     template <typename Control>
     Control& Part(const char* name) {

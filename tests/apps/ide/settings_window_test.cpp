@@ -14,6 +14,7 @@
 
 #include "ide/opened_window.h"
 #include "qt/help_window.h"
+#include "support/active_window.h"
 
 // The settings from the window's commands to the adventure and back.
 
@@ -30,7 +31,7 @@ class SettingsInTheWindow : public testing::Test {
         QTimer::singleShot(0, [&] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
-            ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+            ASSERT_TRUE(test::BecomesActive(dialog));
             shown = dialog->windowTitle() == "Adventure Settings Editor";
             act(*dialog);
             if (dialog->isVisible()) dialog->reject();

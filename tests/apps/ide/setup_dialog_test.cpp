@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/active_window.h"
+
 namespace fabula::test {
 namespace {
 
@@ -17,7 +19,7 @@ class SetupDialogTest : public testing::Test {
   protected:
     void SetUp() override {
         dialog_.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+        ASSERT_TRUE(test::BecomesActive(&dialog_));
     }
     QRadioButton& Option(const char* name) { return *dialog_.findChild<QRadioButton*>(name); }
     QString Explanation() { return dialog_.findChild<QLabel*>("explanation")->text(); }

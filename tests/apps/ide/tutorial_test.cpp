@@ -23,6 +23,7 @@
 #include "qt/help_window.h"
 #include "qt/strings.h"
 #include "store/adventure.h"
+#include "support/active_window.h"
 #include "support/places.h"
 
 /// The game of docs/tutorial.md, made as the tutorial tells: one step here for each of its headings.
@@ -270,7 +271,8 @@ class Tutorial : public testing::Test {
 
     void CheckIt() {
         author_.Expects("Verify Adventure", [&] {
-            EXPECT_TRUE(QTest::qWaitFor([&] { return Told("progress") == "The adventure has passed."; }));
+            EXPECT_TRUE(QTest::qWaitFor([&] { return Told("progress") == "The adventure has passed."; },
+                                        test::kLongestWait));
             const auto& lines = *author_.Front().findChild<QListWidget*>("status");
             EXPECT_EQ(lines.item(1)->text(), "No Errors Found");
             author_.Clicks("ok");
