@@ -24,7 +24,7 @@ namespace fabula::interchange {
 namespace {
 
 constexpr int kRecords = 999;
-constexpr int kObjects = 500;
+constexpr int kSourceObjects = 500;
 constexpr int kEntries = 5000;
 constexpr int kWords = 200;
 
@@ -54,7 +54,7 @@ void WriteSource(const std::filesystem::path& file) {
     for (int i = 0; i < kRecords; ++i)
         source << "/" << i << "\n" << Sentence(i);
     source << "/OTX\n";
-    for (int i = 0; i < kObjects; ++i)
+    for (int i = 0; i < kSourceObjects; ++i)
         source << "/" << i << "\nthing number " << i << "\n";
     source << "/LTX\n";
     for (int i = 0; i < kRecords; ++i)
@@ -65,14 +65,15 @@ void WriteSource(const std::filesystem::path& file) {
                << (i + kRecords - 1) % kRecords << "\n";
     }
     source << "/OBJ\n";
-    for (int i = 0; i < kObjects; ++i) {
+    for (int i = 0; i < kSourceObjects; ++i) {
         source << "/" << i << " " << i % 250 << " 1 N N " << Word('N', i % kWords) << " _\n";
     }
     source << "/PRO 0\n";
     for (int i = 0; i < kEntries; ++i) {
         source << Word('V', i % kWords) << " " << Word('N', i / kWords) << " AT " << i % kRecords
-               << "\n PRESENT " << i % kObjects << "\n ZERO " << 60 + i % 100 << "\n SET " << 60 + i % 100
-               << "\n PLACE " << i % kObjects << " CARRIED\n MESSAGE " << i % kRecords << "\n DONE\n";
+               << "\n PRESENT " << i % kSourceObjects << "\n ZERO " << 60 + i % 100 << "\n SET "
+               << 60 + i % 100 << "\n PLACE " << i % kSourceObjects << " CARRIED\n MESSAGE " << i % kRecords
+               << "\n DONE\n";
     }
 }
 

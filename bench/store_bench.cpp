@@ -16,7 +16,7 @@ namespace fabula::store {
 namespace {
 
 constexpr int kTexts = 1000;
-constexpr int kEntries = 10000;
+constexpr int kStoreEntries = 10000;
 
 /// A folder that is there while the program runs.
 class Folder {
@@ -61,9 +61,9 @@ void AddTexts(Adventure& adventure) {
     }
 }
 
-void AddEntries(Adventure& adventure) {
+void AddStoreEntries(Adventure& adventure) {
     Cursor& entries = adventure.OpenTable(TableNum::ProcessTables, "*");
-    for (int number = 1; number <= kEntries; ++number) {
+    for (int number = 1; number <= kStoreEntries; ++number) {
         entries.AddNew();
         entries.SetField("canum", number);
         entries.SetField("estype", number % 10);
@@ -87,7 +87,7 @@ class Game {
         Transaction transaction(*adventure_);
         adventure_->DeleteFrom(TableNum::Locations);
         AddTexts(*adventure_);
-        AddEntries(*adventure_);
+        AddStoreEntries(*adventure_);
         transaction.Commit();
         if (sqlite3_open(file_.c_str(), &raw_) != SQLITE_OK) std::abort();
     }
@@ -112,7 +112,7 @@ class Game {
     sqlite3* raw_ = nullptr;
 };
 
-const Game& TheGame() {
+const Game& StoreGame() {
     static const Game game;
     return game;
 }
@@ -133,13 +133,13 @@ constexpr Load kLoads[] = {
     {TableNum::ProcessTables,
      "SELECT storekey,canum,estype,w1,w2,w1num,w2num,numcas,CondActs,numericcondacts FROM ProcessTables "
      "ORDER BY estype, w1num, w2num, canum, storekey",
-     kEntries},
+     kStoreEntries},
 };
 
 /// Opens the whole table and reads every field of every record.
 void LoadThroughCursor(benchmark::State& state) {
     const Load& load = kLoads[state.range(0)];
-    Adventure& adventure = TheGame().Store();
+    Adventure& adventure = StoreGame().Store();
     std::size_t bytes = 0;
     for (auto _ : state) {
         Cursor& cursor = adventure.OpenTable(load.table, "*");
@@ -165,7 +165,7 @@ void LoadThroughCursor(benchmark::State& state) {
 /// The same query through the database alone, its statement prepared beforehand.
 void LoadRaw(benchmark::State& state) {
     const Load& load = kLoads[state.range(0)];
-    sqlite3_stmt* statement = TheGame().Prepare(load.sql);
+    sqlite3_stmt* statement = StoreGame().Prepare(load.sql);
     std::size_t bytes = 0;
     for (auto _ : state) {
         while (sqlite3_step(statement) == SQLITE_ROW) {
@@ -192,7 +192,7 @@ void LoadRaw(benchmark::State& state) {
 
 /// One record by its key through OpenTable, with a new filter each time.
 void LookUpThroughOpenTable(benchmark::State& state) {
-    Adventure& adventure = TheGame().Store();
+    Adventure& adventure = StoreGame().Store();
     const ReadTransaction reading(adventure);
     std::size_t bytes = 0;
     int number = 0;
@@ -207,7 +207,7 @@ void LookUpThroughOpenTable(benchmark::State& state) {
 }
 
 void LookUpThroughPreparedQuery(benchmark::State& state) {
-    Adventure& adventure = TheGame().Store();
+    Adventure& adventure = StoreGame().Store();
     const ReadTransaction reading(adventure);
     PreparedQuery query = adventure.Prepare(TableNum::Messages, "msgmsg", "msgnum=?");
     std::size_t bytes = 0;
@@ -222,7 +222,7 @@ void LookUpThroughPreparedQuery(benchmark::State& state) {
 }
 
 void LookUpRaw(benchmark::State& state) {
-    const Game& game = TheGame();
+    const Game& game = StoreGame();
     game.Run("BEGIN");
     sqlite3_stmt* statement =
         game.Prepare("SELECT storekey,msgmsg FROM Messages WHERE msgnum=? ORDER BY msgnum, storekey");
@@ -262,7 +262,7 @@ void MeasureEach(benchmark::State& state, Work work) {
 
 /// One field of one record, changed, written and on the disk.
 void EditThroughCursor(benchmark::State& state) {
-    Adventure& adventure = TheGame().Store();
+    Adventure& adventure = StoreGame().Store();
     int number = 0;
     MeasureEach(state, [&] {
         number = (number + 7) % kTexts;
@@ -273,7 +273,7 @@ void EditThroughCursor(benchmark::State& state) {
 }
 
 void EditRaw(benchmark::State& state) {
-    const Game& game = TheGame();
+    const Game& game = StoreGame();
     game.Run("PRAGMA synchronous=EXTRA");
     sqlite3_stmt* statement = game.Prepare("UPDATE Messages SET msgmsg='An edited text.' WHERE msgnum=?");
     int number = 0;

@@ -39,7 +39,7 @@ endfunction()
 # whole build. So a name in an unnamed namespace is never used twice in a library or a test program
 # (scripts/check_names.py). The preset quick compiles each source alone.
 function(fabula_together name)
-    set_target_properties(${name} PROPERTIES UNITY_BUILD ${FABULA_TOGETHER} UNITY_BUILD_BATCH_SIZE 8)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ${FABULA_TOGETHER} UNITY_BUILD_BATCH_SIZE 40)
 endfunction()
 
 # fabula_library(NAME SOURCES file... [USES target...] [PRIVATE target...])

@@ -6,12 +6,12 @@ namespace fabula::interchange {
 namespace {
 
 /// A text behind its line number, of a version that keeps its layout.
-std::string Converted(const std::string& text) {
+std::string FromSpectrum(const std::string& text) {
     return ConvertUnMarloDesc("1234: " + text, "0.9");
 }
 
 TEST(ConvertUnMarloDesc, DropsTheLineNumber) {
-    EXPECT_EQ(Converted("A damp cellar."), "A damp cellar.");
+    EXPECT_EQ(FromSpectrum("A damp cellar."), "A damp cellar.");
 }
 
 TEST(ConvertUnMarloDesc, ATextOfSixCharactersKeepsThem) {
@@ -19,59 +19,59 @@ TEST(ConvertUnMarloDesc, ATextOfSixCharactersKeepsThem) {
 }
 
 TEST(ConvertUnMarloDesc, TurnsPoundAndCopyrightIntoCharactersByNumber) {
-    EXPECT_EQ(Converted("&pound;5 &copy;"), "<#=96>5 <#=127>");
+    EXPECT_EQ(FromSpectrum("&pound;5 &copy;"), "<#=96>5 <#=127>");
 }
 
 TEST(ConvertUnMarloDesc, EveryOtherAmpersandIsOneOfTheGamesText) {
-    EXPECT_EQ(Converted("Fish & chips &amp; peas"), "Fish &amp; chips &amp;amp; peas");
+    EXPECT_EQ(FromSpectrum("Fish & chips &amp; peas"), "Fish &amp; chips &amp;amp; peas");
 }
 
 TEST(ConvertUnMarloDesc, BreaksAreLineEnds) {
-    EXPECT_EQ(Converted("a<BR>b"),
+    EXPECT_EQ(FromSpectrum("a<BR>b"),
               "a\u008C"
               "b");
 }
 
 TEST(ConvertUnMarloDesc, BlinkIsFlash) {
-    EXPECT_EQ(Converted("<BLINK>a</BLINK>"), "<FLASH>a</FLASH>");
+    EXPECT_EQ(FromSpectrum("<BLINK>a</BLINK>"), "<FLASH>a</FLASH>");
 }
 
 TEST(ConvertUnMarloDesc, EscapedPercentSignsGo) {
-    EXPECT_EQ(Converted("a%%25;b%25;c"), "abc");
+    EXPECT_EQ(FromSpectrum("a%%25;b%25;c"), "abc");
 }
 
 TEST(ConvertUnMarloDesc, ATabIsAsManyBlanks) {
-    EXPECT_EQ(Converted("a<TAB3>b"), "a   b");
+    EXPECT_EQ(FromSpectrum("a<TAB3>b"), "a   b");
 }
 
 TEST(ConvertUnMarloDesc, ATagBeforeATabIsTakenForTheTabOnPurpose) {
-    EXPECT_EQ(Converted("<FLASH>a<TAB3>b"), "a   b");
-    EXPECT_EQ(Converted("<#=127>a<TAB1>b"), std::string(27, ' ') + "a b");
+    EXPECT_EQ(FromSpectrum("<FLASH>a<TAB3>b"), "a   b");
+    EXPECT_EQ(FromSpectrum("<#=127>a<TAB1>b"), std::string(27, ' ') + "a b");
 }
 
 TEST(ConvertUnMarloDesc, ATagBehindTheLastTabStays) {
-    EXPECT_EQ(Converted("<TAB2>a<FLASH>"), "  a<FLASH>");
+    EXPECT_EQ(FromSpectrum("<TAB2>a<FLASH>"), "  a<FLASH>");
 }
 
 TEST(ConvertUnMarloDesc, AnEndlessTabIsCut) {
-    EXPECT_EQ(Converted("<TAB99999>"), std::string(255, ' '));
+    EXPECT_EQ(FromSpectrum("<TAB99999>"), std::string(255, ' '));
 }
 
 TEST(ConvertUnMarloDesc, ATabWithoutEndStays) {
-    EXPECT_EQ(Converted("a<TAB3"), "a<TAB3");
+    EXPECT_EQ(FromSpectrum("a<TAB3"), "a<TAB3");
 }
 
 TEST(ConvertUnMarloDesc, ACommaInBracketsIsATab) {
-    EXPECT_EQ(Converted("a<,>b"), "a<TAB>b");
+    EXPECT_EQ(FromSpectrum("a<,>b"), "a<TAB>b");
 }
 
 TEST(ConvertUnMarloDesc, HexadecimalEscapesAreCharactersByNumber) {
-    EXPECT_EQ(Converted("a%90;b"), "a<#=144>b");
+    EXPECT_EQ(FromSpectrum("a%90;b"), "a<#=144>b");
 }
 
 TEST(ConvertUnMarloDesc, APercentSignWithoutItsEndStays) {
-    EXPECT_EQ(Converted("100% sure; really"), "100% sure; really");
-    EXPECT_EQ(Converted("50%"), "50%");
+    EXPECT_EQ(FromSpectrum("100% sure; really"), "100% sure; really");
+    EXPECT_EQ(FromSpectrum("50%"), "50%");
 }
 
 TEST(ConvertUnMarloDesc, OnlyVersion082IsSetAnew) {

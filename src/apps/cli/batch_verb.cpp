@@ -13,7 +13,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct BatchOptions {
     std::string file;
     std::string target;
     std::string read;
@@ -42,7 +42,7 @@ std::set<int> Records(const std::string& list) {
     return records;
 }
 
-interchange::BatchSelection SelectionOf(const Options& options) {
+interchange::BatchSelection SelectionOf(const BatchOptions& options) {
     interchange::BatchSelection selection;
     selection.processes = options.processes;
     if (!options.table.empty()) {
@@ -58,7 +58,7 @@ interchange::BatchSelection SelectionOf(const Options& options) {
     return selection;
 }
 
-int Write(const Options& options) {
+int Write(const BatchOptions& options) {
     const interchange::BatchSelection selection = SelectionOf(options);
     Console console(std::cerr);
     CheckTarget({options.target, store::Content::Text, ".fbb", options.file, options.force},
@@ -70,7 +70,7 @@ int Write(const Options& options) {
     return kDone;
 }
 
-int Read(const Options& options) {
+int Read(const BatchOptions& options) {
     Console console(std::cerr);
     authoring::Document document(options.file);
     interchange::JobStatus status(console.Observer());
@@ -84,7 +84,7 @@ int Read(const Options& options) {
     return kDone;
 }
 
-int Batch(const Options& options) {
+int Batch(const BatchOptions& options) {
     if (options.read.empty() == options.target.empty())
         throw UsageError("name a file to write, or one to read with --read");
     return options.read.empty() ? Write(options) : Read(options);
@@ -93,7 +93,7 @@ int Batch(const Options& options) {
 }  // namespace
 
 void AddBatchVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<BatchOptions>();
     CLI::App* verb =
         app.add_subcommand("batch", "Writes tables as text to be edited outside, or reads them back");
     AddAdventureOption(*verb, options->file)->required();

@@ -14,7 +14,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct CharsetOptions {
     std::string file;
     std::string setFile;
     std::vector<int> sets;
@@ -23,7 +23,7 @@ struct Options {
     bool force = false;
 };
 
-int List(const Options& options) {
+int ListSets(const CharsetOptions& options) {
     TerminalPerson terminal;
     const bool isSetFile =
         text::EqualsNoCase(std::filesystem::path(options.file).extension().string(), ".chr");
@@ -35,7 +35,7 @@ int List(const Options& options) {
     return lines.empty() ? kFailed : kDone;
 }
 
-int Save(const Options& options) {
+int Save(const CharsetOptions& options) {
     TerminalPerson terminal;
     CheckTarget({options.setFile, store::Content::Text, ".chr", options.file, options.force}, terminal);
     const auto adventure = OpenToRead(options.file);
@@ -46,7 +46,7 @@ int Save(const Options& options) {
     return pictures::SaveSets(*adventure, selected, options.setFile, terminal) ? kDone : kFailed;
 }
 
-int Load(const Options& options) {
+int LoadSet(const CharsetOptions& options) {
     TerminalPerson terminal;
     const auto adventure = OpenToChange(options.file);
     const std::string selected = text::FormatText("SET!%z4", {std::int64_t{options.set}});
@@ -57,7 +57,7 @@ int Load(const Options& options) {
 }  // namespace
 
 void AddCharsetVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CharsetOptions>();
     const CLI::Range setNumbers(0, 999);
     CLI::App* verb = app.add_subcommand("charset", "Carries character sets between adventures");
     verb->require_subcommand(1);
@@ -65,7 +65,7 @@ void AddCharsetVerb(CLI::App& app, Chosen& chosen) {
     CLI::App* list =
         verb->add_subcommand("list", "Shows the sets of an adventure or of a character set file");
     list->add_option("file", options->file, "FILE.fbd or FILE.chr")->required();
-    Runs(*list, chosen, options, List);
+    Runs(*list, chosen, options, ListSets);
 
     CLI::App* save = verb->add_subcommand("save", "Writes sets of an adventure to a character set file");
     AddAdventureOption(*save, options->file)->required();
@@ -83,7 +83,7 @@ void AddCharsetVerb(CLI::App& app, Chosen& chosen) {
     load->add_option("target", options->target, "The number of the set in the adventure")
         ->required()
         ->check(setNumbers);
-    Runs(*load, chosen, options, Load);
+    Runs(*load, chosen, options, LoadSet);
 }
 
 }  // namespace fabula::cli

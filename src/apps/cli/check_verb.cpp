@@ -11,14 +11,14 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct CheckOptions {
     std::string source;
     std::string kind;
     interchange::Encoding encoding = interchange::Encoding::Detect;
     bool json = false;
 };
 
-int Check(const Options& options) {
+int Check(const CheckOptions& options) {
     const interchange::FileKind& kind = KindOfSource(options.source, options.kind);
     const ScratchFolder folder;
     const std::filesystem::path file = folder.Path() / "check.fbd";
@@ -40,7 +40,7 @@ int Check(const Options& options) {
 }  // namespace
 
 void AddCheckVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CheckOptions>();
     CLI::App* verb =
         app.add_subcommand("check", "Reads a source into a temporary adventure and verifies it");
     verb->add_option("source", options->source, "The file that is read")->required();

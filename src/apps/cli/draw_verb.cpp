@@ -22,7 +22,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct DrawOptions {
     std::string file;
     std::optional<int> picture;
     std::string output;
@@ -45,12 +45,12 @@ constexpr const char* kIndex = "index.png";
 /// The default paper of a drawing that is made of an image.
 constexpr int kPaperOfImages = 7;
 
-pictures::PictureBook Load(const std::string& file) {
+pictures::PictureBook OpenBook(const std::string& file) {
     const auto adventure = OpenToRead(file);
     return pictures::LoadPictureBook(*adventure);
 }
 
-pictures::Image ChosenPlane(const pictures::Canvas& canvas, const Options& options) {
+pictures::Image ChosenPlane(const pictures::Canvas& canvas, const DrawOptions& options) {
     return pictures::ImageOf(options.plane == "pixel" ? canvas.pixel : canvas.colour, options.scale);
 }
 
@@ -61,23 +61,23 @@ std::string FileNameOf(int number) {
     return "Picture" + digits + ".png";
 }
 
-int Check(const Options& options) {
+int CheckDrawing(const DrawOptions& options) {
     if (options.checkedIn.empty()) throw UsageError("--check needs the adventure: --in FILE.fbd");
     const auto kind = options.subroutine ? pictures::PictureKind::Subroutine : pictures::PictureKind::Room;
-    const pictures::PictureBook book = Load(options.checkedIn);
+    const pictures::PictureBook book = OpenBook(options.checkedIn);
     const auto check = pictures::ValidateDrawString(book, *options.drawstring, kind);
     if (!check.Passed()) throw Error(check.fault);
     std::cout << text::SafeLines(pictures::JoinWords(check.words)) << "\n";
     return kDone;
 }
 
-int DrawOne(const Options& options) {
+int DrawOne(const DrawOptions& options) {
     if (options.file.empty() || !options.picture || options.output.empty()) {
         throw UsageError("draw needs FILE.fbd PICTURE OUT.bmp or OUT.png");
     }
     TerminalPerson person;
     CheckTarget({options.output, store::Content::Text, {}, options.file, options.force}, person);
-    const pictures::PictureBook book = Load(options.file);
+    const pictures::PictureBook book = OpenBook(options.file);
     const pictures::Canvas canvas =
         pictures::DrawPicture(book, *options.picture, options.upTo.value_or(pictures::kWholeDrawstring));
     pictures::WriteImage(options.output, ChosenPlane(canvas, options));
@@ -85,10 +85,10 @@ int DrawOne(const Options& options) {
 }
 
 /// Draws every picture that can be drawn, and tells of the others.
-int DrawAll(const Options& options) {
+int DrawAll(const DrawOptions& options) {
     if (options.file.empty()) throw UsageError("draw --all needs the adventure, FILE.fbd");
     if (options.picture || options.upTo) throw UsageError("--all draws whole pictures, and all of them");
-    const pictures::PictureBook book = Load(options.file);
+    const pictures::PictureBook book = OpenBook(options.file);
     const std::filesystem::path folder = options.folder;
     std::error_code error;
     std::filesystem::create_directories(folder, error);
@@ -112,7 +112,7 @@ int DrawAll(const Options& options) {
     return status;
 }
 
-int AddFolder(const Options& options) {
+int AddFolder(const DrawOptions& options) {
     if (options.file.empty()) throw UsageError("draw --add needs the adventure, FILE.fbd");
     if (options.picture) throw UsageError("--add takes all drawings of its folder");
     const auto adventure = OpenToChange(options.file);
@@ -121,7 +121,7 @@ int AddFolder(const Options& options) {
 }
 
 /// Makes a picture of an image: as an image file, as a drawing in the form of N.draw, or as both.
-int FromImage(const Options& options) {
+int FromImage(const DrawOptions& options) {
     const std::string& target = options.file;
     if (target.empty() && !options.asDrawstring)
         throw UsageError("--from-image needs OUT.bmp or OUT.png, or --as-drawstring");
@@ -139,17 +139,17 @@ int FromImage(const Options& options) {
     return kDone;
 }
 
-int Draw(const Options& options) {
+int Draw(const DrawOptions& options) {
     if (!options.image.empty()) return FromImage(options);
     if (!options.drawings.empty()) return AddFolder(options);
-    if (options.drawstring) return Check(options);
+    if (options.drawstring) return CheckDrawing(options);
     return options.folder.empty() ? DrawOne(options) : DrawAll(options);
 }
 
 }  // namespace
 
 void AddDrawVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<DrawOptions>();
     CLI::App* verb =
         app.add_subcommand("draw", "Draws the pictures of an adventure, or checks a drawstring");
     AddAdventureOption(*verb, options->file);

@@ -1,8 +1,7 @@
 #include <cstdio>
 #include <iostream>
 
-#include <nlohmann/json.hpp>
-
+#include "cli/json.h"
 #include "cli/verbs.h"
 #include "store/adventure.h"
 #include "text/numbers.h"
@@ -12,9 +11,7 @@
 namespace fabula::cli {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-struct Options {
+struct DumpOptions {
     std::string file;
     std::string table;
     std::string fields = "*";
@@ -31,7 +28,7 @@ const store::TableEntry& TableNamed(const std::string& text) {
     return *table;
 }
 
-Json JsonOf(const text::Value& value, store::FieldClass fieldClass) {
+Json JsonOfValue(const text::Value& value, store::FieldClass fieldClass) {
     if (const auto* number = std::get_if<std::int64_t>(&value)) {
         return fieldClass == store::FieldClass::Truth ? Json(*number != 0) : Json(*number);
     }
@@ -57,7 +54,7 @@ void AppendEscaped(const std::string& json, std::string& line) {
     }
 }
 
-int Dump(const Options& options) {
+int Dump(const DumpOptions& options) {
     const store::TableEntry& table = TableNamed(options.table);
     const auto adventure = OpenToRead(options.file);
     std::optional<std::string_view> order;
@@ -67,7 +64,7 @@ int Dump(const Options& options) {
         Json record = Json::object();
         for (std::size_t i = 0; i < cursor.Fields().size(); ++i) {
             const store::Field& field = cursor.Fields()[i];
-            record[field.name] = JsonOf(cursor.Field(i), store::ClassOf(field.type));
+            record[field.name] = JsonOfValue(cursor.Field(i), store::ClassOf(field.type));
         }
         std::string line;
         AppendEscaped(record.dump(-1, ' ', false, Json::error_handler_t::replace), line);
@@ -79,7 +76,7 @@ int Dump(const Options& options) {
 }  // namespace
 
 void AddDumpVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<DumpOptions>();
     CLI::App* verb = app.add_subcommand("dump", "Shows the records of a table, one JSON object a line");
     verb->footer(
         "A binary field shows as {\"bytes\": N}. FILTER compares fields with values or each other by = <> "

@@ -7,7 +7,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct ExportOptions {
     std::string kind;
     std::string file;
     std::string target;
@@ -15,26 +15,26 @@ struct Options {
     std::string version;
 };
 
-bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,
-            interchange::JobStatus& status) {
+bool VerifyFirst(store::Adventure& adventure, const interchange::FileKind& kind,
+                 interchange::JobStatus& status) {
     return authoring::VerifyAdventure(adventure, &kind, status);
 }
 
-int Export(const Options& options) {
+int Export(const ExportOptions& options) {
     const interchange::FileKind& kind = WritableKind(options.kind);
     Console console(std::cerr);
     CheckTarget({options.target, store::Content::Text, kind.extension, options.file, options.force},
                 console.Person());
     const auto adventure = OpenToRead(options.file);
-    const interchange::JobResult result =
-        interchange::ExportIt(kind, *adventure, options.target, Verify, console.JobHost(), options.version);
+    const interchange::JobResult result = interchange::ExportIt(
+        kind, *adventure, options.target, VerifyFirst, console.JobHost(), options.version);
     return result.done ? kDone : kFailed;
 }
 
 }  // namespace
 
 void AddExportVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ExportOptions>();
     CLI::App* verb = app.add_subcommand("export", "Writes an adventure as a source or an export file");
     verb->add_option("kind", options->kind, "What is written: " + WritableKinds())->required();
     AddAdventureOption(*verb, options->file)->required();

@@ -1,15 +1,11 @@
 #include "cli/fault_report.h"
 
-#include <iostream>
-
-#include <nlohmann/json.hpp>
+#include "cli/json.h"
 
 namespace fabula::cli {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json JsonOf(const interchange::Fault& fault) {
+Json JsonOfFault(const interchange::Fault& fault) {
     Json object = Json::object();
     if (fault.place) {
         object["file"] = fault.place->file.string();
@@ -34,8 +30,8 @@ void AddJsonFlag(CLI::App& verb, bool& json) {
 void PrintAsJson(const std::vector<interchange::Fault>& faults) {
     Json list = Json::array();
     for (const interchange::Fault& fault : faults)
-        list.push_back(JsonOf(fault));
-    std::cout << list.dump(2, ' ', true, Json::error_handler_t::replace) << "\n";
+        list.push_back(JsonOfFault(fault));
+    PrintList(list);
 }
 
 }  // namespace fabula::cli

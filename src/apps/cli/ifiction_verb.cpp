@@ -7,11 +7,11 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct IfictionOptions {
     std::string file;
 };
 
-int Print(const Options& options) {
+int PrintRecord(const IfictionOptions& options) {
     const auto adventure = OpenToRead(options.file);
     const packages::GameFacts facts = packages::ReadFacts(*adventure);
     const packages::CoverSearch search = packages::FindCover(*adventure, facts);
@@ -23,11 +23,11 @@ int Print(const Options& options) {
 }  // namespace
 
 void AddIfictionVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<IfictionOptions>();
     CLI::App* verb =
         app.add_subcommand("ifiction", "Prints the iFiction record by which libraries know a game");
     AddAdventureOption(*verb, options->file)->required();
-    Runs(*verb, chosen, options, Print);
+    Runs(*verb, chosen, options, PrintRecord);
 }
 
 }  // namespace fabula::cli

@@ -11,7 +11,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct ImportPictureOptions {
     std::string kind;
     std::string listing;
     std::string file;
@@ -34,7 +34,7 @@ interchange::NewLocations PlacesIn(const std::vector<std::string>& options) {
 }
 
 /// Loading and moving are one step: what can't be moved is not loaded either.
-int ImportPicture(const Options& options) {
+int ImportPicture(const ImportPictureOptions& options) {
     const interchange::FileKind& kind = PictureKind(options.kind);
     const interchange::NewLocations places = PlacesIn(options.goesTo);
     const auto adventure = OpenToChange(options.file);
@@ -59,7 +59,7 @@ int ImportPicture(const Options& options) {
 }  // namespace
 
 void AddImportPictureVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ImportPictureOptions>();
     CLI::App* verb =
         app.add_subcommand("import-picture", "Takes pictures out of the listing of an older game");
     verb->add_option("kind", options->kind, "The listing: " + PictureKinds())->required();

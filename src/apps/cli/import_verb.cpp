@@ -8,7 +8,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct ImportOptions {
     std::string kind;
     std::string source;
     std::string file;
@@ -17,7 +17,7 @@ struct Options {
     bool json = false;
 };
 
-int Import(const Options& options) {
+int Import(const ImportOptions& options) {
     const interchange::FileKind& kind = ReadableKind(options.kind);
     Console console(std::cerr);
     CheckTarget({options.file, store::Content::Adventure, {}, options.source, options.force},
@@ -34,7 +34,7 @@ int Import(const Options& options) {
 }  // namespace
 
 void AddImportVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ImportOptions>();
     CLI::App* verb =
         app.add_subcommand("import", "Makes an adventure file from a source or an export file");
     verb->add_option("kind", options->kind, "What is read: " + ReadableKinds())->required();

@@ -2,9 +2,8 @@
 #include <iostream>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include "cli/file_kind_option.h"
+#include "cli/json.h"
 #include "cli/source_adventure.h"
 #include "cli/verbs.h"
 #include "platform/error.h"
@@ -16,13 +15,12 @@
 namespace fabula::cli {
 namespace {
 
-using Json = nlohmann::ordered_json;
 using references::Finding;
 
 /// In a source, a comment with these words switches findings off.
 constexpr std::string_view kDirective = "lint off ";
 
-struct Options {
+struct LintOptions {
     std::string file;
     std::string kind;
     std::vector<std::string> off;
@@ -60,7 +58,7 @@ void AddSwitchesOfSource(const std::string& source, references::LintSwitches& sw
 }
 
 /// Writes the switches of the command into the adventure.
-void Keep(const Options& options) {
+void Keep(const LintOptions& options) {
     const references::LintSwitches off = SwitchesOf(options.off);
     const references::LintSwitches on = SwitchesOf(options.on);
     const auto adventure = OpenToChange(options.file);
@@ -70,7 +68,7 @@ void Keep(const Options& options) {
     transaction.Commit();
 }
 
-std::vector<Finding> LintAdventure(const Options& options) {
+std::vector<Finding> LintAdventure(const LintOptions& options) {
     if (options.keep) Keep(options);
     const auto adventure = OpenToRead(options.file);
     references::LintSwitches switches = references::StoredSwitches(*adventure);
@@ -80,7 +78,7 @@ std::vector<Finding> LintAdventure(const Options& options) {
     return references::Lint(*adventure, switches);
 }
 
-Result LintFile(const Options& options) {
+Result LintFile(const LintOptions& options) {
     Result result;
     if (IsAdventure(options.file) && options.kind.empty()) {
         result.findings = LintAdventure(options);
@@ -111,7 +109,7 @@ const interchange::SourcePlace* PlaceOf(const Result& result, const Finding& fin
     return result.places.Find(finding.table, finding.record, finding.field, finding.token);
 }
 
-Json JsonOf(const Result& result, const Finding& finding) {
+Json JsonOfFinding(const Result& result, const Finding& finding) {
     Json object = Json::object();
     if (const auto* place = PlaceOf(result, finding)) {
         object["file"] = place->file.string();
@@ -127,7 +125,7 @@ Json JsonOf(const Result& result, const Finding& finding) {
     return object;
 }
 
-void Print(const Options& options, const Result& result, const Finding& finding) {
+void PrintFinding(const LintOptions& options, const Result& result, const Finding& finding) {
     std::string line;
     if (const auto* place = PlaceOf(result, finding)) {
         line = place->file.string();
@@ -146,18 +144,18 @@ int ShowRules() {
     return kDone;
 }
 
-int Lint(const Options& options) {
+int Lint(const LintOptions& options) {
     if (options.rules) return ShowRules();
     if (options.file.empty()) throw UsageError("which file is to be looked through?");
     const Result result = LintFile(options);
     if (options.json) {
         Json list = Json::array();
         for (const Finding& finding : result.findings)
-            list.push_back(JsonOf(result, finding));
-        std::cout << list.dump(2, ' ', true, Json::error_handler_t::replace) << "\n";
+            list.push_back(JsonOfFinding(result, finding));
+        PrintList(list);
     } else {
         for (const Finding& finding : result.findings)
-            Print(options, result, finding);
+            PrintFinding(options, result, finding);
     }
     return result.findings.empty() ? kDone : kFailed;
 }
@@ -165,7 +163,7 @@ int Lint(const Options& options) {
 }  // namespace
 
 void AddLintVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<LintOptions>();
     CLI::App* verb = app.add_subcommand(
         "lint", "Tells what a game has that can't be meant: unused, unreachable, contradictory, missing");
     verb->footer(

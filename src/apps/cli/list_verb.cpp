@@ -13,7 +13,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct ListOptions {
     std::string file;
     std::string report;
     listings::ReportOptions asked;
@@ -27,14 +27,14 @@ const listings::Report& ReportNamed(const std::string& name) {
     throw UsageError("there is no report '" + name + "'; 'fabula list --help' shows them");
 }
 
-listings::ReportRequest RequestOf(const listings::Report& report, const Options& options,
+listings::ReportRequest RequestOf(const listings::Report& report, const ListOptions& options,
                                   store::Adventure& adventure) {
     if (options.asked.range && report.range == listings::RangeOf::Nothing)
         throw UsageError("the report '" + std::string(report.name) + "' takes no range");
     return listings::RequestOf(report, options.asked, adventure);
 }
 
-int List(const Options& options) {
+int MakeListing(const ListOptions& options) {
     const listings::Report& report = ReportNamed(options.report);
     TerminalPerson person;
     CheckTarget({options.output, store::Content::Text, {}, options.file, options.force}, person);
@@ -58,7 +58,7 @@ std::string ReportNames() {
 }  // namespace
 
 void AddListVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ListOptions>();
     CLI::App* verb = app.add_subcommand("list", "Lists the records of an adventure as they are printed");
     verb->footer(ReportNames());
     AddAdventureOption(*verb, options->file)->required();
@@ -77,7 +77,7 @@ void AddListVerb(CLI::App& app, Chosen& chosen) {
                      "The file to write, *.txt or *.html; - is standard output, as text")
         ->capture_default_str();
     AddForceFlag(*verb, options->force);
-    Runs(*verb, chosen, options, List);
+    Runs(*verb, chosen, options, MakeListing);
 }
 
 }  // namespace fabula::cli

@@ -9,7 +9,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct NewOptions {
     std::string file;
     std::string type = "fabula";
     bool graphics = false;
@@ -23,7 +23,7 @@ void AddStarterTo(store::Adventure& adventure) {
     interchange::AddStarter(adventure, DefaultDataFile().parent_path() / "starters" / name);
 }
 
-int Create(const Options& options) {
+int Create(const NewOptions& options) {
     const auto kind = store::AdventureKindFrom(options.type);
     if (!kind) throw UsageError("--type must be fabula, vel or marlo, not '" + options.type + "'");
     store::AdventureSetup setup;
@@ -43,7 +43,7 @@ int Create(const Options& options) {
 }  // namespace
 
 void AddNewVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<NewOptions>();
     CLI::App* verb = app.add_subcommand("new", "Creates an adventure file");
     AddAdventureOption(*verb, options->file)->required();
     verb->add_option("--type", options->type, "fabula, vel or marlo")->capture_default_str();

@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Options {
+struct PackageOptions {
     std::string file;
     std::string target;
     std::string version;
@@ -34,7 +34,7 @@ void AddFile(const store::Adventure& adventure, packages::PackageList& list, con
     list.Add(packages::package_type::kFile, *name);
 }
 
-int Pack(const Options& options) {
+int Pack(const PackageOptions& options) {
     if (text::TrimBlanks(options.version).empty()) throw UsageError("Version is not filled in.");
     Console console(std::cerr);
     CheckTarget({options.target, store::Content::Text, ".zip", options.file, options.force},
@@ -63,7 +63,7 @@ int Pack(const Options& options) {
 }  // namespace
 
 void AddPackageVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<PackageOptions>();
     CLI::App* verb = app.add_subcommand("package", "Packs an adventure with its files as a zip for others");
     AddAdventureOption(*verb, options->file)->required();
     verb->add_option("target", options->target, "The zip that is written")->required();

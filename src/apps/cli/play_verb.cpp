@@ -17,7 +17,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct PlayOptions {
     std::string file;
     std::string script;
     std::string transcript;
@@ -31,7 +31,7 @@ struct Options {
     bool force = false;
 };
 
-std::unique_ptr<terminal::LineSource> OpenInput(const Options& options) {
+std::unique_ptr<terminal::LineSource> OpenInput(const PlayOptions& options) {
     std::unique_ptr<terminal::LineSource> typed;
     if (terminal::IsInteractive()) {
         typed = std::make_unique<terminal::LineEditor>();
@@ -44,7 +44,7 @@ std::unique_ptr<terminal::LineSource> OpenInput(const Options& options) {
 }
 
 /// "game.fbd 2026-01-31 23:59:59 COMPUTER"
-std::string TraceHeader(const Options& options) {
+std::string TraceHeader(const PlayOptions& options) {
     const platform::DateTime now = platform::SystemClock().Now();
     std::string header =
         options.file + text::FormatText(" !%z4!-!%z2!-!%z2! !%z2!:!%z2!:!%z2",
@@ -56,7 +56,7 @@ std::string TraceHeader(const Options& options) {
 /// A text that is written as the game runs, when the command line names a file for it.
 class Record {
   public:
-    Record(const std::string& file, const Options& options, platform::Person& person) : file_(file) {
+    Record(const std::string& file, const PlayOptions& options, platform::Person& person) : file_(file) {
         if (file.empty()) return;
         CheckTarget({file, store::Content::Text, {}, options.file, options.force}, person);
         stream_.open(file, std::ios::binary);
@@ -77,7 +77,7 @@ class Record {
     std::ofstream stream_;
 };
 
-int Play(const Options& options) {
+int Play(const PlayOptions& options) {
     const auto adventure = OpenToRead(options.file);
     const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
     TerminalPerson person;
@@ -114,7 +114,7 @@ int Play(const Options& options) {
 }  // namespace
 
 void AddPlayVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<PlayOptions>();
     CLI::App* verb = app.add_subcommand("play", "Plays an adventure");
     verb->footer(
         "In a terminal lines are edited and remembered, and time passes as in the game's own window.\n"

@@ -9,7 +9,7 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct RenumberOptions {
     std::string file;
     std::string kind;
     int from = 0;
@@ -28,7 +28,7 @@ void Show(const references::RenumberPlan& plan, references::PlaceText& places) {
         std::cerr << "warning: " << text::SafeLines(warning) << "\n";
 }
 
-int RenumberVerb(const Options& options) {
+int RenumberVerb(const RenumberOptions& options) {
     const auto kind = references::KindFrom(options.kind);
     if (!kind) throw UsageError("there is no '" + options.kind + "' that bears a number");
     const auto adventure = options.dryRun ? OpenToRead(options.file) : OpenToChange(options.file);
@@ -47,7 +47,7 @@ int RenumberVerb(const Options& options) {
 }  // namespace
 
 void AddRenumberVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<RenumberOptions>();
     CLI::App* verb = app.add_subcommand(
         "renumber", "Gives a record another number, or swaps it with the one that has it; all uses follow");
     verb->footer("What changes is shown, and what can't be followed is warned of.");

@@ -5,11 +5,11 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct TablesOptions {
     std::string file;
 };
 
-int ShowTables(const Options& options) {
+int ShowTables(const TablesOptions& options) {
     const auto adventure = OpenToRead(options.file);
     for (int number = 1; number <= store::kHighestTable; ++number) {
         const auto tableNum = static_cast<store::TableNum>(number);
@@ -26,7 +26,7 @@ int ShowTables(const Options& options) {
 }  // namespace
 
 void AddTablesVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<TablesOptions>();
     CLI::App* verb =
         app.add_subcommand("tables", "Shows the tables of an adventure, with their numbers and sizes");
     AddAdventureOption(*verb, options->file)->required();

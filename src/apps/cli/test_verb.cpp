@@ -18,7 +18,7 @@ namespace {
 /// The largest transcript that is compared, in bytes.
 constexpr std::uintmax_t kLargestTranscript = 256 * 1024 * 1024;
 
-struct Options {
+struct TestOptions {
     std::string file;
     std::string script;
     std::string transcript;
@@ -48,7 +48,7 @@ std::unique_ptr<terminal::LineSource> LinesOf(const std::filesystem::path& file)
     return std::make_unique<terminal::LineReader>(file);
 }
 
-std::string PlayScript(const Options& options) {
+std::string PlayScript(const TestOptions& options) {
     const auto adventure = OpenToRead(options.file);
     const auto script = LinesOf(options.script);
     const terminal::ScratchFiles files(std::filesystem::path(options.script).parent_path());
@@ -61,7 +61,7 @@ std::string PlayScript(const Options& options) {
     return played.str();
 }
 
-std::filesystem::path ExpectedFile(const Options& options) {
+std::filesystem::path ExpectedFile(const TestOptions& options) {
     std::filesystem::path file = options.transcript;
     if (file.empty()) file = std::filesystem::path(options.script).replace_extension("transcript");
     if (file == options.script || store::IsSameFile(file, options.script))
@@ -81,7 +81,7 @@ void WriteExpected(const std::filesystem::path& file, const std::string& transcr
     store::WriteFile(file, transcript);
 }
 
-int Test(const Options& options) {
+int Test(const TestOptions& options) {
     const std::filesystem::path expectedFile = ExpectedFile(options);
     const std::string played = PlayScript(options);
     if (options.update) {
@@ -97,7 +97,7 @@ int Test(const Options& options) {
 }  // namespace
 
 void AddTestVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<TestOptions>();
     CLI::App* verb = app.add_subcommand("test", "Plays a script and compares what is shown");
     verb->footer(
         "Shows nothing and ends with 0 when the transcript is the expected one, else shows the difference\n"

@@ -9,14 +9,14 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct TravelOptions {
     std::string file;
     std::string data = packages::kTravelData;
     std::string report = packages::kTravelReport;
     bool force = false;
 };
 
-int Convert(const Options& options) {
+int Convert(const TravelOptions& options) {
     Console console(std::cerr);
     CheckTarget({options.report, store::Content::Text, ".lis", options.data, options.force},
                 console.Person());
@@ -36,7 +36,7 @@ int Convert(const Options& options) {
 }  // namespace
 
 void AddTravelVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<TravelOptions>();
     CLI::App* verb = app.add_subcommand(
         "travel", "Writes a report of a classic travel table and adds its verbs to an adventure");
     AddAdventureOption(*verb, options->file)->required();

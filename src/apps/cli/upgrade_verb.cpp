@@ -9,12 +9,12 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct UpgradeOptions {
     std::string file;
     bool check = false;
 };
 
-int Upgrade(const Options& options) {
+int Upgrade(const UpgradeOptions& options) {
     const auto defaultData = DefaultDataFile();
     if (!options.check) {
         OpenToChange(options.file);
@@ -31,7 +31,7 @@ int Upgrade(const Options& options) {
 }  // namespace
 
 void AddUpgradeVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<UpgradeOptions>();
     CLI::App* verb = app.add_subcommand(
         "upgrade", "Brings an adventure of an older version up to date, and mends its records");
     AddAdventureOption(*verb, options->file)->required();

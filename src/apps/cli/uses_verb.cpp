@@ -1,8 +1,7 @@
 #include <iostream>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
+#include "cli/json.h"
 #include "cli/verbs.h"
 #include "condacts/words.h"
 #include "platform/error.h"
@@ -15,11 +14,10 @@
 namespace fabula::cli {
 namespace {
 
-using Json = nlohmann::ordered_json;
 using references::Kind;
 using references::Target;
 
-struct Options {
+struct UsesOptions {
     std::string file;
     std::string kind;
     std::string what;
@@ -62,7 +60,7 @@ std::vector<Question> QuestionsAbout(store::Adventure& adventure, Kind kind, con
     return questions;
 }
 
-Json JsonOf(const references::Use& use, references::PlaceText& places) {
+Json JsonOfUse(const references::Use& use, references::PlaceText& places) {
     Json object = Json::object();
     object["table"] = std::string(store::FindTable(use.table)->name);
     object["record"] = use.record;
@@ -75,14 +73,14 @@ Json JsonOf(const references::Use& use, references::PlaceText& places) {
     return object;
 }
 
-void Print(const references::Use& use, references::PlaceText& places) {
+void PrintUse(const references::Use& use, references::PlaceText& places) {
     std::string line = "  " + places.RecordName(use.table, use.record);
     line.append(use.possible ? ": possibly " : ": ").append(references::NameOf(use.access));
     line.append(" in ").append(use.field).append(": ").append(places.Around(use));
     std::cout << text::SafeLines(line) << "\n";
 }
 
-int Uses(const Options& options) {
+int Uses(const UsesOptions& options) {
     const Kind kind = KindNamed(options.kind);
     const auto adventure = OpenToRead(options.file);
     const references::Index index(*adventure);
@@ -99,19 +97,19 @@ int Uses(const Options& options) {
         }
         for (const references::Use& use : uses) {
             if (options.json)
-                list.push_back(JsonOf(use, places));
+                list.push_back(JsonOfUse(use, places));
             else
-                Print(use, places);
+                PrintUse(use, places);
         }
     }
-    if (options.json) std::cout << list.dump(2, ' ', true, Json::error_handler_t::replace) << "\n";
+    if (options.json) PrintList(list);
     return kDone;
 }
 
 }  // namespace
 
 void AddUsesVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<UsesOptions>();
     CLI::App* verb =
         app.add_subcommand("uses", "Shows what uses a flag, an object, a place, a text, a word ...");
     verb->footer("Places where a flag holds the number, or decides it, are shown as possible.");

@@ -7,13 +7,13 @@
 namespace fabula::cli {
 namespace {
 
-struct Options {
+struct VerifyOptions {
     std::string file;
     std::string target;
     bool json = false;
 };
 
-int Verify(const Options& options) {
+int Verify(const VerifyOptions& options) {
     const authoring::VerifyTarget target =
         options.target.empty() ? authoring::kForPlay : &WritableKind(options.target, "--for");
     const auto adventure = OpenToRead(options.file);
@@ -27,7 +27,7 @@ int Verify(const Options& options) {
 }  // namespace
 
 void AddVerifyVerb(CLI::App& app, Chosen& chosen) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<VerifyOptions>();
     CLI::App* verb = app.add_subcommand("verify", "Checks an adventure against the rules of its type");
     AddAdventureOption(*verb, options->file)->required();
     verb->add_option("--for", options->target, "For an export: " + WritableKinds());

@@ -13,7 +13,6 @@ namespace fabula::authoring {
 
 using references::Kind;
 using references::Target;
-using references::Use;
 using store::PreparedQuery;
 using store::TableNum;
 
@@ -178,7 +177,7 @@ std::vector<JumpLine> Navigator::UsesOf(const Jump& record) {
     std::vector<JumpLine> lines;
     const auto target = TargetOf(followed_->adventure, record);
     if (!target) return lines;
-    for (const Use& use : followed_->index.UsesOf(target->first, target->second))
+    for (const references::Use& use : followed_->index.UsesOf(target->first, target->second))
         lines.push_back(LineFor(use));
     return lines;
 }
@@ -204,7 +203,7 @@ std::vector<JumpLine> Navigator::NamedBy(TableNum table, std::int64_t key) {
     OpenDocument();
     std::vector<JumpLine> lines;
     std::set<std::pair<Target, references::WordTypes>> seen;
-    for (const Use& use : followed_->index.UsesBy(table, key)) {
+    for (const references::Use& use : followed_->index.UsesBy(table, key)) {
         if (use.possible || use.field == "estype" || !seen.insert({use.target, use.wordTypes}).second)
             continue;
         if (auto line = LineOf(use.target, use.wordTypes)) lines.push_back(std::move(*line));
@@ -212,7 +211,7 @@ std::vector<JumpLine> Navigator::NamedBy(TableNum table, std::int64_t key) {
     return lines;
 }
 
-JumpLine Navigator::LineFor(const Use& use) {
+JumpLine Navigator::LineFor(const references::Use& use) {
     JumpLine line;
     line.jump = JumpTo(use.table, use.record);
     line.possible = use.possible;

@@ -8,6 +8,9 @@
 
 namespace fabula::interchange {
 
+/// The most that an object weighs in a listing: its weight has two digits.
+inline constexpr int kHeaviestListed = 99;
+
 /// The file of an extract while it is written, and the losses that go with its records.
 class UnVelFile {
   public:

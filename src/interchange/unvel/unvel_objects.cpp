@@ -3,6 +3,7 @@
 #include "condacts/limits.h"
 #include "condacts/places.h"
 #include "interchange/source_file.h"
+#include "interchange/unvel/unvel_file.h"
 #include "interchange/unvel/unvel_section.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -22,7 +23,6 @@ constexpr Columns kObjectNumber{6, 5};  // the colon apart, wherever it stands
 constexpr Columns kWords{14, 80};
 constexpr Columns kObjectPlace{10, 80};
 constexpr Columns kRest{12, 80};
-constexpr int kHeaviest = 99;
 
 struct PlaceName {
     std::string_view name;
@@ -128,7 +128,7 @@ class ObjectWeights final : public ObjectLines {
     bool Set(Cursor& object, std::string_view line) override {
         const auto words = SplitWords(Cut(line, kRest));
         if (words.size() < 2) return false;
-        const auto weight = ListedNumber(words[1], kHeaviest);
+        const auto weight = ListedNumber(words[1], kHeaviestListed);
         const std::string_view type = words.size() > 2 ? words[2] : std::string_view();
         if (!weight) return false;
         object.SetField("objweight", std::int64_t{*weight});

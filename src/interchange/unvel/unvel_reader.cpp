@@ -22,21 +22,21 @@ namespace {
 
 /// The stages of a listing, in their order.
 enum StageNumber : int {
-    kVocabulary = 1,
-    kMessages = 2,
-    kSystemMessages = 3,
-    kLocations = 4,
-    kConnections = 5,
-    kObjectNames = 6,
-    kObjectWords = 7,
-    kObjectPlaces = 8,
-    kObjectWeights = 9,
-    kResponses = 10,  ///< and one for each process table behind it
-    kPictures = 300,
-    kCharacters = 301,
-    kFlagNotes = 302,
-    kProcessNotes = 303,
-    kComments = 304,
+    kVocabularyStage = 1,
+    kMessagesStage = 2,
+    kSystemMessagesStage = 3,
+    kLocationsStage = 4,
+    kConnectionsStage = 5,
+    kObjectNamesStage = 6,
+    kObjectWordsStage = 7,
+    kObjectPlacesStage = 8,
+    kObjectWeightsStage = 9,
+    kResponsesStage = 10,  ///< and one for each process table behind it
+    kPicturesStage = 300,
+    kCharactersStage = 301,
+    kFlagNotesStage = 302,
+    kProcessNotesStage = 303,
+    kCommentsStage = 304,
 };
 
 struct TitleRow {
@@ -44,22 +44,22 @@ struct TitleRow {
     int stage;
 };
 constexpr TitleRow kTitles[] = {
-    {"Vocabulary", kVocabulary},
-    {"MESSAGES", kMessages},
-    {"SYSTEM MESSAGES", kSystemMessages},
-    {"LOCATIONS", kLocations},
-    {"CONNECTIONS", kConnections},
-    {"OBJECT NAMES", kObjectNames},
-    {"OBJECT WORDS", kObjectWords},
-    {"INITIALLY AT", kObjectPlaces},
-    {"INITIALY AT", kObjectPlaces},
-    {"OBJECT WEIGHT AND TYPE", kObjectWeights},
-    {"RESPONSE TABLE", kResponses},
-    {"PROCESS TABLE", kResponses + 1},
-    {"GRAPHICS DATA", kPictures},
-    {"; FLAG DESCRIPTIONS", kFlagNotes},
-    {"; PROCESS TABLE DESCRIPTIONS", kProcessNotes},
-    {"; COMMENTS", kComments},
+    {"Vocabulary", kVocabularyStage},
+    {"MESSAGES", kMessagesStage},
+    {"SYSTEM MESSAGES", kSystemMessagesStage},
+    {"LOCATIONS", kLocationsStage},
+    {"CONNECTIONS", kConnectionsStage},
+    {"OBJECT NAMES", kObjectNamesStage},
+    {"OBJECT WORDS", kObjectWordsStage},
+    {"INITIALLY AT", kObjectPlacesStage},
+    {"INITIALY AT", kObjectPlacesStage},
+    {"OBJECT WEIGHT AND TYPE", kObjectWeightsStage},
+    {"RESPONSE TABLE", kResponsesStage},
+    {"PROCESS TABLE", kResponsesStage + 1},
+    {"GRAPHICS DATA", kPicturesStage},
+    {"; FLAG DESCRIPTIONS", kFlagNotesStage},
+    {"; PROCESS TABLE DESCRIPTIONS", kProcessNotesStage},
+    {"; COMMENTS", kCommentsStage},
 };
 constexpr std::string_view kTableTitle = "PROCESS";
 /// The characters begin at this line, whatever stands below it.
@@ -78,7 +78,7 @@ std::optional<int> StageOf(std::string_view title) {
     }
     const auto table = NumberAlone(title, kTableTitle);
     if (!table || *table > condacts::limit::kHighestProcess) return std::nullopt;
-    return kResponses + *table;
+    return kResponsesStage + *table;
 }
 
 /// The walk over the sections. Each is made when its title is met, so that it has its table alone.
@@ -91,11 +91,11 @@ class UnVelWalk {
         std::string line;
         while (job_.listing.lines.Next(line)) {
             if (Begins(line)) continue;
-            if (stage_ == kFlagNotes) {
+            if (stage_ == kFlagNotesStage) {
                 flagNotes_.Line(line);
-            } else if (stage_ == kProcessNotes) {
+            } else if (stage_ == kProcessNotesStage) {
                 processNotes_.Line(line);
-            } else if (stage_ == kComments) {
+            } else if (stage_ == kCommentsStage) {
                 TakeComment(line);
             } else if (section_) {
                 section_->Line(line);
@@ -128,7 +128,7 @@ class UnVelWalk {
         std::optional<int> stage;
         const bool hasDashes = IsDashes(job_.listing.lines.Peek());
         if (hasDashes) stage = StageOf(title);
-        if (title == kCharactersTitle && stage_ >= kResponses) stage = kCharacters;
+        if (title == kCharactersTitle && stage_ >= kResponsesStage) stage = kCharactersStage;
         if (!stage) return false;
         if (hasDashes) {
             std::string dashes;
@@ -141,47 +141,47 @@ class UnVelWalk {
     void Begin(int stage) {
         EndSection();
         // Pictures and characters come in either order.
-        if (stage <= stage_ && !(stage == kPictures && stage_ == kCharacters)) {
+        if (stage <= stage_ && !(stage == kPicturesStage && stage_ == kCharactersStage)) {
             job_.Fault("ERROR: The section stands behind one that must follow it.");
             return;
         }
         stage_ = stage;
-        hasPictures_ = hasPictures_ || stage == kPictures;
-        hasCharacters_ = hasCharacters_ || stage == kCharacters;
-        describesFlags_ = describesFlags_ || stage == kFlagNotes;
+        hasPictures_ = hasPictures_ || stage == kPicturesStage;
+        hasCharacters_ = hasCharacters_ || stage == kCharactersStage;
+        describesFlags_ = describesFlags_ || stage == kFlagNotesStage;
         section_ = SectionOf(stage);
     }
 
     std::unique_ptr<UnVelSection> SectionOf(int stage) {
         switch (stage) {
-            case kVocabulary:
+            case kVocabularyStage:
                 return UnVelVocabulary(job_);
-            case kMessages:
+            case kMessagesStage:
                 return UnVelTexts(job_, UnVelTextKind::Messages);
-            case kSystemMessages:
+            case kSystemMessagesStage:
                 return UnVelTexts(job_, UnVelTextKind::SystemMessages);
-            case kLocations:
+            case kLocationsStage:
                 return UnVelTexts(job_, UnVelTextKind::Locations);
-            case kConnections:
+            case kConnectionsStage:
                 return UnVelConnections(job_);
-            case kObjectNames:
+            case kObjectNamesStage:
                 return UnVelTexts(job_, UnVelTextKind::ObjectNames);
-            case kObjectWords:
+            case kObjectWordsStage:
                 return UnVelObjectWords(job_);
-            case kObjectPlaces:
+            case kObjectPlacesStage:
                 return UnVelObjectPlaces(job_);
-            case kObjectWeights:
+            case kObjectWeightsStage:
                 return UnVelObjectWeights(job_);
-            case kPictures:
+            case kPicturesStage:
                 return UnVelPictures(job_);
-            case kCharacters:
+            case kCharactersStage:
                 return UnVelCharacters(job_);
-            case kFlagNotes:
-            case kProcessNotes:
-            case kComments:
+            case kFlagNotesStage:
+            case kProcessNotesStage:
+            case kCommentsStage:
                 return nullptr;
             default:
-                return UnVelEntries(job_, stage - kResponses);
+                return UnVelEntries(job_, stage - kResponsesStage);
         }
     }
 

@@ -229,17 +229,16 @@ class ExtractWriter {
 
     void WriteObjectWeights() {
         constexpr const char* kTypes[] = {"", "C", "W", "CW"};
-        constexpr std::int64_t kHeaviest = 99;
         file_.UnVelHdr("OBJECT WEIGHT AND TYPE", true);
         Cursor& objects = Open(TableNum::Objects, "objnum");
         for (; !objects.Eof(); objects.MoveNext()) {
             Record(TableNum::Objects, objects.Number("objnum"));
             const std::int64_t weight = objects.Number("objweight");
-            if (weight < 0 || weight > kHeaviest) file_.Loss("the weight can't be written.");
+            if (weight < 0 || weight > kHeaviestListed) file_.Loss("the weight can't be written.");
             const std::string type = kTypes[objects.Number("objattrn") & 3];
             file_.Line(std::string(TrimRight(text::FormatText(
                 "Object !%s3!:  weights !%s2!    !%a",
-                {objects.Field("objnum"), std::clamp<std::int64_t>(weight, 0, kHeaviest), type}))));
+                {objects.Field("objnum"), std::clamp<std::int64_t>(weight, 0, kHeaviestListed), type}))));
         }
     }
 

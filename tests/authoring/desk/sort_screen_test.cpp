@@ -25,7 +25,7 @@ std::vector<std::string> Levels(const SortScreen& screen) {
     return texts;
 }
 
-std::size_t Field(const SortScreen& screen, const std::string& name) {
+std::size_t FieldNamed(const SortScreen& screen, const std::string& name) {
     for (std::size_t place = 0; place < screen.Fields().size(); ++place) {
         if (screen.Fields()[place].name == name) return place;
     }
@@ -72,7 +72,7 @@ TEST_F(SortScreenTest, ShowsAProposalInPlaceOfThePresentOrder) {
 
 TEST_F(SortScreenTest, StoresTheOrderAsOneStepOfUndo) {
     SortScreen screen(desk_.context, TableNum::Vocabulary, "Vocabulary");
-    screen.levels = {{Field(screen, "word"), true}, {std::nullopt}, {Field(screen, "vocnum")}};
+    screen.levels = {{FieldNamed(screen, "word"), true}, {std::nullopt}, {FieldNamed(screen, "vocnum")}};
     EXPECT_TRUE(screen.Update());
     EXPECT_EQ(Stored(TableNum::Vocabulary), "word desc, vocnum");
     EXPECT_EQ(desk_.document.UndoName(), "sort Vocabulary by word desc, vocnum");
@@ -99,7 +99,8 @@ TEST_F(SortScreenTest, StoresAProposalThatIsAgreedTo) {
 
 TEST_F(SortScreenTest, RefusesAFieldThatStandsTwice) {
     SortScreen screen(desk_.context, TableNum::Vocabulary, "Vocabulary");
-    screen.levels = {{Field(screen, "vocnum")}, {Field(screen, "word")}, {Field(screen, "vocnum"), true}};
+    screen.levels = {
+        {FieldNamed(screen, "vocnum")}, {FieldNamed(screen, "word")}, {FieldNamed(screen, "vocnum"), true}};
     EXPECT_FALSE(screen.Update());
     EXPECT_THAT(desk_.Boxes(), ElementsAre("The field Number (vocnum) stands twice in the order."));
     EXPECT_EQ(Stored(TableNum::Vocabulary), "voctypen, vocnum, word");

@@ -36,7 +36,7 @@ constexpr const char* kCascade =
     " Deleting any movements using this word.";
 
 /// Deletes the word with the key kKey, through the command of the main window, with these answers.
-bool Delete(Desk& desk, std::vector<bool> answers) {
+bool DeleteWord(Desk& desk, std::vector<bool> answers) {
     for (const bool answer : answers)
         desk.dialogs.AnswerNext(answer);
     desk.context.currentTable = TableNum::Vocabulary;
@@ -73,7 +73,7 @@ TEST(DeleteWord, StopsWhenTheAuthorSaysNo) {
     Desk desk;
     desk.AddWord(kKey, "LAMP", 50, kNoun);
     const auto before = desk.Everything();
-    EXPECT_FALSE(Delete(desk, {false}));
+    EXPECT_FALSE(DeleteWord(desk, {false}));
     EXPECT_THAT(desk.Boxes(), ElementsAre("Are you sure you want to delete word LAMP?"));
     EXPECT_EQ(desk.Everything(), before);
     EXPECT_EQ(desk.document.UndoName(), std::nullopt);
@@ -84,7 +84,7 @@ TEST(DeleteWord, LowersTheNextKeyWithTheHighest) {
     desk.AddWord(kKey - 10, "BOX", 51, kNoun);
     desk.AddWord(kKey, "LAMP", 50, kNoun);
     ReadNextKeys(desk.context);
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_EQ(desk.context.nextWord, kKey - 9);
 }
 
@@ -96,7 +96,7 @@ TEST(DeleteWord, OfAVerbWithASynonymLeftChangesNothingElse) {
         desk.AddEntry(1, 0, {"GET", 20}, kAny, "DONE");
         AddExits(desk, 1, "GET 0", "20 0", 2);
         const auto before = desk.Everything();
-        EXPECT_TRUE(Delete(desk, {true}));
+        EXPECT_TRUE(DeleteWord(desk, {true}));
         EXPECT_THAT(desk.Boxes(), ElementsAre("Are you sure you want to delete word GET?"));
         auto after = desk.Everything();
         EXPECT_EQ(after.tables.at("Vocabulary").size(), before.tables.at("Vocabulary").size() - 1);
@@ -110,7 +110,7 @@ TEST(DeleteWord, AWordOfTheSameNumberAndAnotherTypeIsNoSynonym) {
     Desk desk;
     desk.AddWord(kKey, "LAMP", 50, kNoun);
     desk.AddWord(kKey + 1, "RED", 50, kAdjective);
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_EQ(desk.Boxes().at(1), kCascade);
 }
 
@@ -118,7 +118,7 @@ TEST(DeleteWord, WithCancelTakesTheWordAndLeavesTheRest) {
     Desk desk;
     desk.AddWord(kKey, "LAMP", 50, kNoun);
     desk.AddEntry(1, 0, kAny, {"LAMP", 50}, "DONE");
-    EXPECT_TRUE(Delete(desk, {true, false}));
+    EXPECT_TRUE(DeleteWord(desk, {true, false}));
     EXPECT_THAT(desk.Boxes(), ElementsAre("Are you sure you want to delete word LAMP?", kCascade));
     EXPECT_THAT(desk.Rows(TableNum::Vocabulary, "word", "word='LAMP'"), IsEmpty());
     EXPECT_THAT(EntryKeys(desk), ElementsAre("1"));
@@ -128,7 +128,7 @@ TEST(DeleteWord, WithCancelTakesTheWordAndLeavesTheRest) {
 TEST(DeleteWord, ReportsThatTheWordWentAndNothingElse) {
     Desk desk;
     desk.AddWord(kKey, "LAMP", 50, kNoun);
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_EQ(desk.Boxes().back(), "The word was deleted. No other record used it.");
 }
 
@@ -159,7 +159,7 @@ TEST_P(WordCascade, OfANounTakesObjectsEntriesAndMovements) {
     AddExits(desk, 2, "LAMP 1", "15 1", 2);
     const auto before = desk.Everything();
 
-    EXPECT_TRUE(Delete(desk, {true, true}));
+    EXPECT_TRUE(DeleteWord(desk, {true, true}));
     EXPECT_THAT(desk.Boxes(), ElementsAre("Are you sure you want to delete word LAMP?", kCascade,
                                           "1 Object record(s) had an object word set to _\n"
                                           "2 Event/Status Table records were deleted.\n"
@@ -188,7 +188,7 @@ TEST_P(WordCascade, OfAVerbTakesItsEntriesAndMovements) {
     desk.AddEntry(3, 0, kAny, {"THING", 20}, "DONE");
     AddExits(desk, 1, "LAMP 0", "20 0", 2);
     const auto before = desk.Everything();
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_EQ(desk.Boxes().back(),
               "2 Event/Status Table records were deleted.\n"
               "1 Movements were deleted in the Locations Table.");
@@ -205,7 +205,7 @@ TEST_P(WordCascade, OfAConjunctionOrPronounTakesNothing) {
         desk.AddWord(kKey, "LAMP", 50, type);
         desk.AddEntry(1, 0, {"LAMP", 50}, {"LAMP", 50}, "DONE");
         AddExits(desk, 1, "LAMP 0", "50 0", 2);
-        Delete(desk, {true, true});
+        DeleteWord(desk, {true, true});
         EXPECT_EQ(desk.Boxes().back(), "The word was deleted. No other record used it.");
         EXPECT_THAT(EntryKeys(desk), ElementsAre("1"));
         EXPECT_THAT(ExitsOf(desk, 1), ElementsAre("LAMP 0|50 0|2"));
@@ -224,7 +224,7 @@ class WordConditionCascade : public testing::TestWithParam<AdventureKind> {
         for (const std::string& line : lines)
             desk.AddEntry(key++, 0, kAny, kAny, line);
         const auto before = desk.Everything();
-        Delete(desk, {true, true});
+        DeleteWord(desk, {true, true});
         report = desk.Boxes().back();
         const std::vector<std::string> left = EntryKeys(desk);
         desk.document.Undo();
@@ -270,7 +270,7 @@ TEST(DeleteWord, TakesObjectsOfAnAdjective) {
                                  {"objnumnoun", std::int64_t{50}},
                                  {"objadject", std::string("LAMP")},
                                  {"objnumadject", std::int64_t{50}}});
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_THAT(desk.Rows(TableNum::Objects, "objnoun, objnumnoun, objadject, objnumadject"),
                 ElementsAre("BOX|50|_|255"));
     EXPECT_EQ(desk.Boxes().back(), "1 Object record(s) had an object word set to _");
@@ -282,7 +282,7 @@ TEST(DeleteWord, LeavesTheEntriesOfAVerbOfTheSameSpelling) {
     desk.AddWord(kKey + 1, "LIGHT", 30, kVerb);
     desk.AddEntry(1, 0, {"LIGHT", 30}, {"LIGHT", 80}, "DONE");
     desk.AddEntry(2, 0, {"LIGHT", 30}, kAny, "DONE");
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_THAT(EntryKeys(desk), ElementsAre("2"));
 }
 
@@ -292,7 +292,7 @@ TEST(DeleteWord, OfANounTakesEntriesBesideAVerbOfTheSameSpellingAndNumber) {
     desk.AddWord(kKey + 1, "LIGHT", 80, kVerb);
     desk.AddEntry(1, 0, {"LIGHT", 80}, {"LIGHT", 80}, "DONE");
     desk.AddEntry(2, 0, {"LIGHT", 80}, kAny, "DONE");
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_THAT(EntryKeys(desk), ElementsAre("2"));
 }
 
@@ -302,7 +302,7 @@ TEST(DeleteWord, OfAVerbTakesEntriesBesideAPlainNounOfTheSameSpellingAndNumber) 
     desk.AddWord(kKey + 1, "LIGHT", 80, kNoun);
     desk.AddEntry(1, 0, {"LIGHT", 80}, kAny, "DONE");
     desk.AddEntry(2, 0, kAny, {"LIGHT", 80}, "DONE");
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_THAT(EntryKeys(desk), ElementsAre("2"));
 }
 
@@ -313,7 +313,7 @@ TEST(DeleteWord, LeavesEntriesAndExitsOfAMovementNounOfTheSameNumber) {
     desk.AddEntry(1, 0, {"IN", 10}, kAny, "DONE");
     desk.AddEntry(2, 0, {"ENTER", 10}, kAny, "DONE");
     AddExits(desk, 1, "IN 0 ENTER 2", "10 0 10 2", 4);
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_THAT(EntryKeys(desk), ElementsAre("1"));
     EXPECT_THAT(ExitsOf(desk, 1), ElementsAre("IN 0|10 0|2"));
 }
@@ -324,7 +324,7 @@ TEST(DeleteWord, TakesWhatStillBearsASynonymThatWentBefore) {
     desk.AddWord(kKey, "LAMP", 50, kNoun);
     desk.AddEntry(1, 0, kAny, {"LAMP", 50}, "DONE");
     desk.AddEntry(2, 0, kAny, kAny, "NOUN2 LAMP DONE");
-    Delete(desk, {true});
+    DeleteWord(desk, {true});
     desk.context.currentEntry = kKey + 1;
     desk.dialogs.AnswerNext(true);
     desk.dialogs.AnswerNext(true);
@@ -340,7 +340,7 @@ TEST(DeleteWord, OfANounLeavesTheEntriesOfAVerbThatShareItsNumberAfterASynonymWe
     desk.AddEntry(100, 0, {"GET", 60}, kAny, "DONE");
     desk.AddEntry(101, 0, {"GET", 60}, {"SWORD", 60}, "DONE");
     desk.AddEntry(102, 0, {"TAKE", 60}, kAny, "DONE");
-    Delete(desk, {true});
+    DeleteWord(desk, {true});
     desk.context.currentEntry = kKey + 2;
     desk.dialogs.AnswerNext(true);
     desk.dialogs.AnswerNext(true);
@@ -356,7 +356,7 @@ TEST(DeleteWord, RenumbersNothing) {
     desk.AddEntry(2, 0, kAny, kAny, "DONE");
     AddExits(desk, 1, "LAMP 0", "15 0", 2);
     AddExits(desk, 2, "", "", 0);
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_THAT(EntryKeys(desk), ElementsAre("2"));
     EXPECT_THAT(desk.Rows(TableNum::Locations, "locnum", "", "locnum"), ElementsAre("0", "1", "2"));
 }
@@ -366,7 +366,7 @@ TEST(DeleteWord, KeepsExitsWhoseWordsAreNotAscii) {
     desk.AddWord(kKey, "LAMP", 15, kNoun);
     desk.AddWord(kKey + 1, "TÜR", 16, kNoun);
     AddExits(desk, 1, "LAMP 0 TÜR 2", "15 0 16 2", 4);
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_THAT(ExitsOf(desk, 1), ElementsAre("TÜR 2|16 2|2"));
 }
 
@@ -374,7 +374,7 @@ TEST(DeleteWord, TakesExitsWhoseTextWasLost) {
     Desk desk;
     desk.AddWord(kKey, "LAMP", 15, kNoun);
     AddExits(desk, 1, "", "15 0 16 2", 4);
-    Delete(desk, {true, true});
+    DeleteWord(desk, {true, true});
     EXPECT_THAT(ExitsOf(desk, 1), ElementsAre("|16 2|2"));
 }
 
@@ -383,7 +383,7 @@ TEST(DeleteWord, AnEntryThatAskedForItAsksForItsSynonym) {
     desk.AddWord(kKey, "BENEATH", 60, kPreposition);
     desk.AddWord(kKey + 1, "UNDER", 60, kPreposition);
     desk.AddEntry(1, 0, kAny, kAny, "PREP BENEATH PLACE 0 254");
-    Delete(desk, {true});
+    DeleteWord(desk, {true});
     EXPECT_THAT(desk.Rows(TableNum::ProcessTables, "condacts, numericcondacts, numcas"),
                 ElementsAre("PREP UNDER PLACE 0 254|123 60 208 0 254|5"));
 }
@@ -394,7 +394,7 @@ TEST(DeleteWord, AnEntryThatAskedForItAsksForItsSynonymAndNotForAWordOfItsFirstL
     desk.AddWord(kKey + 1, "BENEATH", 60, kPreposition);
     desk.AddWord(kKey + 2, "UNDER", 61, kPreposition);
     desk.AddEntry(1, 0, kAny, kAny, "PREP UNDERNEATH DONE");
-    Delete(desk, {true});
+    DeleteWord(desk, {true});
     EXPECT_THAT(desk.Rows(TableNum::ProcessTables, "condacts, numericcondacts"),
                 ElementsAre("PREP BENEATH DONE|123 60 265"));
 }

@@ -12,7 +12,7 @@ namespace {
 
 /// In two lines, since characters of a set are wide.
 constexpr const char* kSampleLines[] = {"You are in a", "dark cave. 123"};
-constexpr int kColumns = 14;
+constexpr int kSampleColumns = 14;
 constexpr int kCell = 8;
 constexpr int kEnlarged = 2;  ///< characters of 8 pixels are small on the screens of today
 constexpr int kFontTestMargin = 12;
@@ -73,7 +73,7 @@ void FontTest::ShowSample(const authoring::FontSample& sample) {
 
 QPixmap FontTest::Drawn(int charSet, const QColor& ink) const {
     const std::map<int, pictures::Glyph> glyphs = GlyphsOf(adventure_, charSet);
-    QImage lines(kCell * kColumns, kCell * static_cast<int>(std::size(kSampleLines)),
+    QImage lines(kCell * kSampleColumns, kCell * static_cast<int>(std::size(kSampleLines)),
                  QImage::Format_ARGB32);
     lines.fill(Qt::transparent);
     int top = 0;
