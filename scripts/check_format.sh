@@ -7,8 +7,6 @@ if [ "${1:-}" = --fix ]; then
     clang-format -i "${files[@]}"
     exit
 fi
-wrong=0
-for file in "${files[@]}"; do
-    clang-format --dry-run --Werror "$file" 2>/dev/null || { echo "not formatted: $file"; wrong=1; }
-done
-exit $wrong
+wrong=$(printf '%s\0' "${files[@]}" | xargs -0 -P "$(nproc)" -n 200 clang-format --dry-run 2>&1 |
+        sed -n 's/^\([^:]*\):[0-9].*clang-format-violations.*/not formatted: \1/p' | sort -u)
+[ -z "$wrong" ] || { echo "$wrong"; exit 1; }
