@@ -3,7 +3,7 @@
 # usage: scripts/install_deps.sh [build|test|screenshots]
 set -euo pipefail
 
-packages=(g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libedit-dev
+packages=(g++ lld cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libedit-dev
           libpng-dev libpcre2-dev libturbojpeg0-dev libzip-dev libcli11-dev nlohmann-json3-dev libtinyxml2-dev libgtest-dev libgmock-dev libbenchmark-dev libdtl-dev
           python3 qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-wayland librtmidi-dev libfluidsynth-dev timgm6mb-soundfont)
 if [ "${1:-build}" = test ]; then
