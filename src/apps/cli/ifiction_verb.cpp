@@ -22,12 +22,10 @@ int Print(const Options& options) {
 
 }  // namespace
 
-void AddIfictionVerb(CLI::App& app, Chosen& chosen) {
+void AddIfictionVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb =
-        app.add_subcommand("ifiction", "Prints the iFiction record by which libraries know a game");
-    AddAdventureOption(*verb, options->file)->required();
-    Runs(*verb, chosen, options, Print);
+    AddAdventureOption(verb, options->file)->required();
+    Runs(verb, chosen, options, Print);
 }
 
 }  // namespace fabula::cli
