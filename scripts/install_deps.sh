@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(g++ lld cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libedit-dev
-          libpng-dev libpcre2-dev libturbojpeg0-dev libzip-dev libcli11-dev nlohmann-json3-dev libtinyxml2-dev libgtest-dev libgmock-dev libbenchmark-dev libdtl-dev
+          libpng-dev libpcre2-dev libturbojpeg0-dev zlib1g-dev libminizip-dev libcli11-dev nlohmann-json3-dev libtinyxml2-dev libzip-dev libgtest-dev libgmock-dev libbenchmark-dev libdtl-dev
           python3 qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-wayland librtmidi-dev libfluidsynth-dev timgm6mb-soundfont)
 if [ "${1:-build}" = test ]; then
     packages+=(git clang clang-format clang-tidy libclang-rt-14-dev libxml2-utils poppler-utils qt6-l10n-tools unzip)

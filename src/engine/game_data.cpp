@@ -24,9 +24,26 @@ constexpr int kHighestCondAct = 999;
     throw Error("The game can't be played: " + what + ".");
 }
 
-std::int16_t Number16(std::int64_t value, const std::string& what) {
+/// Where a number was read; put into words only for one that is refused.
+struct Source {
+    std::string_view kind;  ///< "object", "entry"; the name of a setting
+    std::optional<std::int64_t> number = {};
+    std::optional<std::size_t> process = {};  ///< of an entry
+    std::string_view field = {};
+};
+
+/// "entry 12 of process 3, w1num"
+std::string NameOf(const Source& source) {
+    std::string name(source.kind);
+    if (source.number) name += " " + std::to_string(*source.number);
+    if (source.process) name += " of process " + std::to_string(*source.process);
+    if (!source.field.empty()) name.append(", ").append(source.field);
+    return name;
+}
+
+std::int16_t Number16(std::int64_t value, const Source& source) {
     if (!condacts::FitsNumber(value)) {
-        Refuse(what + " is " + std::to_string(value) + ", which is out of range");
+        Refuse(NameOf(source) + " is " + std::to_string(value) + ", which is out of range");
     }
     return static_cast<std::int16_t>(value);
 }
@@ -40,7 +57,7 @@ std::size_t RecordNumber(std::int64_t value, const char* kind) {
 
 /// Appends the numbers of a text of blank-separated numbers, at most `most` of them. Returns how many.
 std::uint32_t AppendNumbers(std::string_view text, std::int64_t most, std::vector<std::int16_t>& numbers,
-                            const std::string& what) {
+                            const Source& source) {
     std::uint32_t count = 0;
     std::size_t at = 0;
     while (count < most) {
@@ -51,9 +68,9 @@ std::uint32_t AppendNumbers(std::string_view text, std::int64_t most, std::vecto
         const auto [end, error] = std::from_chars(text.data() + at, text.data() + text.size(), value);
         const auto next = static_cast<std::size_t>(end - text.data());
         if (error != std::errc{} || (next < text.size() && static_cast<unsigned char>(text[next]) > ' ')) {
-            Refuse(what + " holds something that is no number");
+            Refuse(NameOf(source) + " holds something that is no number");
         }
-        numbers.push_back(Number16(value, what));
+        numbers.push_back(Number16(value, source));
         at = next;
         ++count;
     }
@@ -90,9 +107,9 @@ void GameData::ReadSettings(store::Adventure& adventure) {
     title = std::string(row.Text(0)) + " (Version " + std::string(row.Text(1)) + ")";
     if (const std::string author = Filled(row.Text(2)); !author.empty()) title += " by " + author;
     saveName = text::CollapseBlanks(row.Text(3));  // a line of saved games
-    startLocation = PlaceNumber(Number16(row.Number(4), "startloc"));
-    maxObjects = Number16(row.Number(5), "maxobj");
-    maxWeight = Number16(row.Number(6), "maxweight");
+    startLocation = PlaceNumber(Number16(row.Number(4), {"startloc"}));
+    maxObjects = Number16(row.Number(5), {"maxobj"});
+    maxWeight = Number16(row.Number(6), {"maxweight"});
     CheckTextSettings();
     if (!Filled(row.Text(7)).empty()) defaultPicture = Filled(row.Text(8));
     graphics = row.Number(9) != 0;
@@ -110,25 +127,25 @@ void GameData::ReadSoundSettings(store::Adventure& adventure) {
         "defsndchan, defsnddev, defsndvoice, defsndvol, defsndbal, defsndbass, defsnddevname", "");
     row.First({});
     soundSettings = {
-        .channel = Number16(row.Number(0), "defsndchan"),
-        .device = Number16(row.Number(1), "defsnddev"),
+        .channel = Number16(row.Number(0), {"defsndchan"}),
+        .device = Number16(row.Number(1), {"defsnddev"}),
         .deviceName = std::string(row.Text(6)),
-        .voice = Number16(row.Number(2), "defsndvoice"),
-        .volume = Number16(row.Number(3), "defsndvol"),
-        .balance = Number16(row.Number(4), "defsndbal"),
-        .bass = Number16(row.Number(5), "defsndbass"),
+        .voice = Number16(row.Number(2), {"defsndvoice"}),
+        .volume = Number16(row.Number(3), {"defsndvol"}),
+        .balance = Number16(row.Number(4), {"defsndbal"}),
+        .bass = Number16(row.Number(5), {"defsndbass"}),
     };
 }
 
 void GameData::CheckTextSettings() const {
-    Number16(font, "Font");
-    Number16(fontSize, "FontSize");
-    Number16(backColor, "BackColor");
-    Number16(textColor, "textcolor");
-    Number16(printWidth, "defprintwidth");
+    Number16(font, {"Font"});
+    Number16(fontSize, {"FontSize"});
+    Number16(backColor, {"BackColor"});
+    Number16(textColor, {"textcolor"});
+    Number16(printWidth, {"defprintwidth"});
     for (const auto& [code, points] : fontSizes) {
-        Number16(code, "codenum");
-        Number16(points, "FontSize of code " + std::to_string(code));
+        Number16(code, {"codenum"});
+        Number16(points, {"FontSize of code", code});
     }
 }
 
@@ -160,15 +177,17 @@ void GameData::ReadObjects(store::Adventure& adventure) {
         TableNum::Objects, "objnum, objloc, objweight, objattrn, objnumnoun, objnumadject", "", "objnum");
     for (bool more = row.First({}); more; more = row.Next()) {
         const std::size_t number = RecordNumber(row.Number(0), "an object");
-        const std::string what = "object " + std::to_string(number) + ", ";
+        const auto number16 = [&](int column, std::string_view field) {
+            return Number16(row.Number(column), {"object", static_cast<std::int64_t>(number), {}, field});
+        };
         // Object numbers that are left out are objects that are nowhere and that no word names.
         if (objects.size() <= number) objects.resize(number + 1, {place::kNotCreated, 0, 0, {}, {}});
         objects[number] = {
-            .startPlace = PlaceNumber(Number16(row.Number(1), what + "objloc")),
-            .weight = Number16(row.Number(2), what + "objweight"),
-            .attributes = Number16(row.Number(3), what + "objattrn"),
-            .noun = WordNumber(Number16(row.Number(4), what + "objnumnoun")),
-            .adjective = WordNumber(Number16(row.Number(5), what + "objnumadject")),
+            .startPlace = PlaceNumber(number16(1, "objloc")),
+            .weight = number16(2, "objweight"),
+            .attributes = number16(3, "objattrn"),
+            .noun = WordNumber(number16(4, "objnumnoun")),
+            .adjective = WordNumber(number16(5, "objnumadject")),
         };
     }
 }
@@ -186,7 +205,7 @@ void GameData::ReadLocations(store::Adventure& adventure) {
         location = {.exists = true, .first = static_cast<std::uint32_t>(exits_.size()), .length = 0};
         if (const std::int64_t tokens = row.Number(1); tokens > 0) {
             location.length = AppendNumbers(row.Text(2), tokens, exits_,
-                                            "the exits of location " + std::to_string(number));
+                                            {"the exits of location", static_cast<std::int64_t>(number)});
         }
         pictures[number] = Filled(row.Text(3)).empty() ? "" : Filled(row.Text(4));
     }
@@ -206,11 +225,13 @@ void GameData::ReadProcesses(store::Adventure& adventure) {
         if (row.Number(0) > condacts::limit::kHighestProcess) break;
         const auto process = static_cast<std::size_t>(row.Number(0));
         if (processes.size() <= process) processes.resize(process + 1);
-        const std::string what =
-            "entry " + std::to_string(row.Number(1)) + " of process " + std::to_string(process);
+        const Source source{"entry", row.Number(1), process};
+        const auto word = [&](int column, std::string_view field) {
+            return WordNumber(Number16(row.Number(column), {"entry", source.number, process, field}));
+        };
         ProcessEntry entry{
-            .verb = WordNumber(Number16(row.Number(2), what + ", w1num")),
-            .noun = WordNumber(Number16(row.Number(3), what + ", w2num")),
+            .verb = word(2, "w1num"),
+            .noun = word(3, "w2num"),
             .record = static_cast<std::int32_t>(row.Number(1)),
             .first = static_cast<std::uint32_t>(condActs_.size()),
         };
@@ -222,11 +243,11 @@ void GameData::ReadProcesses(store::Adventure& adventure) {
             if (!words) words = condacts::LoadWords(adventure);
             const condacts::Converted converted =
                 condacts::CondActsToNumeric(row.Text(4), *catalogue, *words);
-            if (!converted.ok) Refuse(what + ": " + converted.errors);
+            if (!converted.ok) Refuse(NameOf(source) + ": " + converted.errors);
             compiled = converted.line;
             numeric = compiled;
         }
-        entry.length = AppendNumbers(numeric, condacts::kHighestNumber, condActs_, what);
+        entry.length = AppendNumbers(numeric, condacts::kHighestNumber, condActs_, source);
         processes[process].Add(entry);
     }
     for (ProcessTable& table : processes)

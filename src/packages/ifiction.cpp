@@ -1,16 +1,13 @@
 #include "packages/ifiction.h"
 
-#include <tinyxml2.h>
-
 #include "platform/error.h"
 #include "text/fields.h"
+#include "text/markup.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
 namespace fabula::packages {
 namespace {
-
-using tinyxml2::XMLPrinter;
 
 /// A text in one line, without what XML can't hold.
 std::string OneLine(std::string_view text) {
@@ -25,36 +22,31 @@ std::string OneLine(std::string_view text) {
     return std::string(text::TrimBlanks(text::CollapseBlanks(line)));
 }
 
-void AddElement(XMLPrinter& xml, const char* name, const std::string& text) {
-    xml.OpenElement(name);
-    xml.PushText(text.c_str());
-    xml.CloseElement();
+/// `name` is one word of the format; `indent` the blanks before it.
+std::string Element(std::size_t indent, std::string_view name, std::string_view content) {
+    std::string element(indent, ' ');
+    element.append("<").append(name).append(">").append(content);
+    return element.append("</").append(name).append(">\n");
 }
 
 /// Lines are parted by <br/>.
-void AddDescription(XMLPrinter& xml, const std::string& description) {
-    if (OneLine(description).empty()) return;
-    xml.OpenElement("description");
-    bool first = true;
+std::string DescriptionElement(const std::string& description) {
+    std::string content;
     for (const std::string_view line : text::Split(description, "\n")) {
         const std::string shown = OneLine(line);
         if (shown.empty()) continue;
-        if (!first) {
-            xml.OpenElement("br", true);
-            xml.CloseElement(true);
-        }
-        xml.PushText(shown.c_str());
-        first = false;
+        if (!content.empty()) content += "<br/>";
+        content += text::EscapeMarkup(shown);
     }
-    xml.CloseElement();
+    return content.empty() ? std::string() : Element(12, "description", content);
 }
 
-void AddCover(XMLPrinter& xml, const Cover& cover) {
-    xml.OpenElement("cover");
-    AddElement(xml, "format", std::string(cover.format));
-    AddElement(xml, "height", std::to_string(cover.height));
-    AddElement(xml, "width", std::to_string(cover.width));
-    xml.CloseElement();
+std::string CoverElement(const Cover& cover) {
+    std::string element = "        <cover>\n";
+    element += Element(12, "format", cover.format);
+    element += Element(12, "height", std::to_string(cover.height));
+    element += Element(12, "width", std::to_string(cover.width));
+    return element.append("        </cover>\n");
 }
 
 }  // namespace
@@ -63,27 +55,22 @@ std::string IFictionRecord(const GameFacts& facts, const Cover* cover) {
     if (facts.ifid.empty()) {
         throw Error("The adventure has no IFID. Files of older versions get one when they are upgraded.");
     }
-    XMLPrinter xml;
-    xml.PushDeclaration("xml version=\"1.0\" encoding=\"UTF-8\"");
-    xml.OpenElement("ifindex");
-    xml.PushAttribute("version", "1.0");
-    xml.PushAttribute("xmlns", "http://babel.ifarchive.org/protocol/iFiction/");
-    xml.OpenElement("story");
-    xml.OpenElement("identification");
-    AddElement(xml, "ifid", facts.ifid);
-    AddElement(xml, "format", "fabula");
-    xml.CloseElement();
-    xml.OpenElement("bibliographic");
     const std::string title = OneLine(facts.Title());
     const std::string author = OneLine(facts.author);
-    AddElement(xml, "title", title.empty() ? "Untitled" : title);
-    AddElement(xml, "author", author.empty() ? "Anonymous" : author);
-    AddDescription(xml, facts.description);
-    xml.CloseElement();
-    if (cover != nullptr) AddCover(xml, *cover);
-    xml.CloseElement();
-    xml.CloseElement();
-    return xml.CStr();
+    std::string record =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<ifindex version=\"1.0\" xmlns=\"http://babel.ifarchive.org/protocol/iFiction/\">\n"
+        "    <story>\n"
+        "        <identification>\n";
+    record += Element(12, "ifid", text::EscapeMarkup(facts.ifid));
+    record += Element(12, "format", "fabula");
+    record += "        </identification>\n        <bibliographic>\n";
+    record += Element(12, "title", title.empty() ? "Untitled" : text::EscapeMarkup(title));
+    record += Element(12, "author", author.empty() ? "Anonymous" : text::EscapeMarkup(author));
+    record += DescriptionElement(facts.description);
+    record += "        </bibliographic>\n";
+    if (cover != nullptr) record += CoverElement(*cover);
+    return record.append("    </story>\n</ifindex>\n");
 }
 
 }  // namespace fabula::packages

@@ -1,8 +1,10 @@
 #include "packages/zip_file.h"
 
-#include <memory>
+#include <limits>
+#include <utility>
 
-#include <zip.h>
+#include <minizip/zip.h>
+#include <zlib.h>
 
 #include "store/file_copy.h"
 #include "store/temporary_file.h"
@@ -40,21 +42,19 @@ struct LibraryError {
     int code;
 };
 constexpr LibraryError kErrors[] = {
-    {ZIP_ER_MEMORY, zip_code::kMemory},         {ZIP_ER_WRITE, zip_code::kWrite},
-    {ZIP_ER_CLOSE, zip_code::kWrite},           {ZIP_ER_OPEN, zip_code::kOpenToWrite},
-    {ZIP_ER_READ, zip_code::kReadOrSeek},       {ZIP_ER_SEEK, zip_code::kReadOrSeek},
-    {ZIP_ER_TMPOPEN, zip_code::kTemporaryFile}, {ZIP_ER_RENAME, zip_code::kTemporaryFile},
-    {ZIP_ER_REMOVE, zip_code::kTemporaryFile},  {ZIP_ER_NOZIP, zip_code::kStructure},
-    {ZIP_ER_INCONS, zip_code::kStructure},
+    {ZIP_ERRNO, zip_code::kWrite},
+    {ZIP_BADZIPFILE, zip_code::kStructure},
+    {Z_MEM_ERROR, zip_code::kMemory},
 };
 
-constexpr zip_uint32_t kLevel = 6;
-// The first moment that a zip can hold: nothing in a package tells when it was made.
-constexpr zip_uint16_t kTime = 0;
-constexpr zip_uint16_t kDate = (1 << 5) | 1;  ///< 1 January 1980
-constexpr zip_uint32_t kFileMode = 0100644;
-constexpr zip_uint32_t kProgramMode = 0100755;
+constexpr int kLevel = 6;
+// The first moment that a zip can hold, 1 January 1980: nothing in a package tells when it was made.
+constexpr uLong kDate = ((1 << 5) | 1) << 16;
+constexpr uLong kFileMode = 0100644;
+constexpr uLong kProgramMode = 0100755;
 constexpr int kModeShift = 16;
+constexpr uLong kMadeByUnix = (3 << 8) | 20;
+constexpr uLong kNameIsUtf8 = 1 << 11;
 
 int CodeOf(int libraryError) {
     for (const LibraryError& each : kErrors) {
@@ -63,48 +63,39 @@ int CodeOf(int libraryError) {
     return zip_code::kInternal;
 }
 
-/// A zip in the making; without Close nothing is written.
+/// A zip in the making. Only Close tells that all of it was written.
 class Archive {
   public:
-    explicit Archive(const std::filesystem::path& file) {
-        int error = 0;
-        archive_ = zip_open(file.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &error);
-        if (archive_ == nullptr) throw ZipFailure(CodeOf(error));
+    explicit Archive(const std::filesystem::path& file)
+        : archive_(zipOpen64(file.c_str(), APPEND_STATUS_CREATE)) {
+        if (archive_ == nullptr) throw ZipFailure(zip_code::kOpenToWrite);
     }
     Archive(const Archive&) = delete;
     Archive& operator=(const Archive&) = delete;
     ~Archive() {
-        if (archive_ != nullptr) zip_discard(archive_);
+        if (archive_ != nullptr) zipClose(archive_, nullptr);
     }
 
-    /// The bytes of `file` must stay until Close.
     void Add(const PackedFile& file) {
-        zip_source_t* source = zip_source_buffer(archive_, file.bytes.data(), file.bytes.size(), 0);
-        if (source == nullptr) Fail();
-        const zip_int64_t added = zip_file_add(archive_, file.name.c_str(), source, ZIP_FL_ENC_UTF_8);
-        if (added < 0) {
-            zip_source_free(source);
-            Fail();
-        }
-        const auto index = static_cast<zip_uint64_t>(added);
-        const zip_uint32_t mode = file.runs ? kProgramMode : kFileMode;
-        Check(zip_set_file_compression(archive_, index, ZIP_CM_DEFLATE, kLevel));
-        Check(zip_file_set_dostime(archive_, index, kTime, kDate, 0));
-        Check(zip_file_set_external_attributes(archive_, index, 0, ZIP_OPSYS_UNIX, mode << kModeShift));
+        if (file.bytes.size() > std::numeric_limits<unsigned>::max()) throw ZipFailure(zip_code::kTooLarge);
+        zip_fileinfo facts{};
+        facts.dosDate = kDate;
+        facts.external_fa = (file.runs ? kProgramMode : kFileMode) << kModeShift;
+        Check(zipOpenNewFileInZip4_64(archive_, file.name.c_str(), &facts, nullptr, 0, nullptr, 0, nullptr,
+                                      Z_DEFLATED, kLevel, 0, -MAX_WBITS, DEF_MEM_LEVEL, Z_DEFAULT_STRATEGY,
+                                      nullptr, 0, kMadeByUnix, kNameIsUtf8, 0));
+        Check(zipWriteInFileInZip(archive_, file.bytes.data(), static_cast<unsigned>(file.bytes.size())));
+        Check(zipCloseFileInZip(archive_));
     }
 
-    void Close() {
-        Check(zip_close(archive_));
-        archive_ = nullptr;
-    }
+    void Close() { Check(zipClose(std::exchange(archive_, nullptr), nullptr)); }
 
   private:
-    void Check(int result) {
-        if (result != 0) Fail();
+    static void Check(int result) {
+        if (result != ZIP_OK) throw ZipFailure(CodeOf(result));
     }
-    [[noreturn]] void Fail() { throw ZipFailure(CodeOf(zip_error_code_zip(zip_get_error(archive_)))); }
 
-    zip_t* archive_ = nullptr;
+    zipFile archive_;
 };
 
 }  // namespace

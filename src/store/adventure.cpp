@@ -1,5 +1,8 @@
 #include "store/adventure.h"
 
+#include <algorithm>
+#include <array>
+
 #include <sqlite3.h>
 
 #include "store/change_lock.h"
@@ -112,24 +115,34 @@ Adventure::Adventure(std::filesystem::path file, std::unique_ptr<Connection> con
 Adventure::~Adventure() = default;
 
 void Adventure::ReadSettings() {
-    const auto read = [&](std::string_view field, auto use) {
-        if (!Schema(TableNum::Adventure).Find(field)) return;
-        PreparedQuery settings = Prepare(TableNum::Adventure, field, "");
-        if (settings.First({})) use(settings);
-    };
-    const SortOrders own;
     type_.clear();
+    typeLower_.clear();
     graphics_ = charSets_ = false;
-    read("adventype", [&](const PreparedQuery& settings) { type_ = settings.Text(0); });
+    sorts_ = {};
+    // A file of an older version lacks some of the fields: those have no column.
+    std::string fields;
+    int columns = 0;
+    const auto ask = [&](std::string_view field) -> std::optional<int> {
+        if (!Schema(TableNum::Adventure).Find(field)) return std::nullopt;
+        fields.append(fields.empty() ? "" : ",").append(field);
+        return columns++;
+    };
+    const auto type = ask("adventype");
+    const auto graphics = ask("graphics");
+    const auto charSets = ask("charsets");
+    std::array<std::optional<int>, std::size(kSorts)> orders;
+    std::ranges::transform(kSorts, orders.begin(), ask, &SortRow::field);
+    if (fields.empty()) return;
+    PreparedQuery settings = Prepare(TableNum::Adventure, fields, "");
+    if (!settings.First({})) return;
+    if (type) type_ = settings.Text(*type);
     typeLower_ = text::LowerCase(type_);
-    read("graphics", [&](const PreparedQuery& settings) { graphics_ = settings.Number(0) != 0; });
-    read("charsets", [&](const PreparedQuery& settings) { charSets_ = settings.Number(0) != 0; });
-    for (const SortRow& sort : kSorts) {
-        sorts_.*sort.order = own.*sort.order;
-        read(sort.field, [&](const PreparedQuery& settings) {
-            const std::string order(settings.Text(0));
-            if (IsOrderOf(Schema(sort.table), order)) sorts_.*sort.order = order;
-        });
+    if (graphics) graphics_ = settings.Number(*graphics) != 0;
+    if (charSets) charSets_ = settings.Number(*charSets) != 0;
+    for (std::size_t i = 0; i < orders.size(); ++i) {
+        const std::string order(orders[i] ? settings.Text(*orders[i]) : "");
+        const SortRow& sort = kSorts[i];
+        if (orders[i] && IsOrderOf(Schema(sort.table), order)) sorts_.*sort.order = order;
     }
 }
 

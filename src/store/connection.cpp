@@ -207,11 +207,9 @@ int Connection::ChangedRows() const {
 void Connection::LoadSchema() {
     for (const TableEntry& table : AllTables())
         schemas_[table.number] = {std::string(table.name), {}};
-    const auto hasKey =
-        Compile("SELECT 1 FROM pragma_table_xinfo('Tables') WHERE name='tablekey' COLLATE NOCASE",
-                "read the list of fields");
-    const std::string order =
-        Step(hasKey.get(), "read the list of fields") ? "tablekey" : std::string(kStoreKey);
+    const bool hasKey = sqlite3_table_column_metadata(handle_, "main", "Tables", "tablekey", nullptr,
+                                                      nullptr, nullptr, nullptr, nullptr) == SQLITE_OK;
+    const std::string order = hasKey ? "tablekey" : std::string(kStoreKey);
     const auto statement =
         Compile("SELECT tablenum, fieldname, fieldtype, fieldsize FROM Tables ORDER BY tablenum, " + order +
                     " LIMIT " + std::to_string(kMostColumns * AllTables().size()),

@@ -1,5 +1,7 @@
 #include "store/default_data.h"
 
+#include <algorithm>
+
 #include "platform/error.h"
 #include "platform/whole_file.h"
 #include "text/fields.h"
@@ -33,18 +35,13 @@ std::string ReadBytes(const std::filesystem::path& file) {
     return platform::ReadWholeFile(file, kLargestDefaultData, "read the default data " + file.string());
 }
 
-std::vector<DefaultData::Line> ReadLines(const std::filesystem::path& file) {
-    const std::string bytes = ReadBytes(file);
-    std::vector<DefaultData::Line> lines;
-    std::string_view edit;
-    for (std::string_view line : text::Split(bytes, "\n")) {
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        const int number = static_cast<int>(lines.size()) + 1;
-        if (number == 1) edit = EditFor(text::StrEdit(line, "trim"));
-        const bool decode = number > 1 && !edit.empty();
-        lines.push_back({number, decode ? text::StrEdit(line, edit) : std::string(line)});
-    }
-    return lines;
+/// Takes the next line off `rest`, with its end, and gives it without.
+std::string_view TakeLine(std::string_view& rest) {
+    const std::size_t end = std::min(rest.find('\n'), rest.size());
+    std::string_view line = rest.substr(0, end);
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
 }
 
 }  // namespace
@@ -54,8 +51,13 @@ DefaultData DefaultData::Read(const std::filesystem::path& file) {
     data.file_ = file;
     Section* section = nullptr;
     std::string name;
-    for (Line& line : ReadLines(file)) {
-        const bool isMark = line.number > 1 && line.text.starts_with("::");
+    const std::string bytes = ReadBytes(file);
+    std::string_view rest = bytes;
+    const std::string_view edit = EditFor(text::StrEdit(TakeLine(rest), "trim"));
+    for (int number = 2; !rest.empty(); ++number) {
+        const std::string_view stored = TakeLine(rest);
+        Line line{number, edit.empty() ? std::string(stored) : text::StrEdit(stored, edit)};
+        const bool isMark = line.text.starts_with("::");
         if (!section) {
             if (!isMark) continue;
             name = line.text.substr(2);

@@ -13,7 +13,7 @@
 
 #include "platform/whole_file.h"
 #include "store/connection.h"
-#include "text/utf8.h"
+#include "text/fields.h"
 
 namespace fabula::store {
 namespace {
@@ -105,6 +105,18 @@ std::string TextColumn(sqlite3_stmt* statement, int column) {
     return text ? text : "";
 }
 
+constexpr std::string_view kTableTail = ") STRICT";
+constexpr std::string_view kColumnSeparator = ", ";
+
+/// What the statement that makes a table begins with, its key included.
+std::string TableHead(const std::string& table) {
+    return "CREATE TABLE " + table + " (" + std::string(kStoreKey) + " INTEGER PRIMARY KEY";
+}
+
+bool IsColumnType(std::string_view type) {
+    return type == "INTEGER" || type == "REAL" || type == "TEXT" || type == "BLOB";
+}
+
 struct Column {
     std::string name;
     std::string type;
@@ -113,34 +125,28 @@ struct Column {
 /// The columns of each table behind its key.
 using ColumnsByTable = std::map<std::string, std::vector<Column>>;
 
-/// `query` gives name and type of each column of the table that is bound to it.
-std::vector<Column> ReadColumns(Connection& connection, sqlite3_stmt* query, const std::string& table) {
-    const StatementUse use(query);
-    Connection::Bind(query, 1, table);
+/// The columns of a table as the statement that made it declares them; nullopt for a statement that
+/// declares anything but a name and a type for each.
+std::optional<std::vector<Column>> PlainColumns(const std::string& table, std::string_view sql) {
+    const std::string head = TableHead(table);
+    if (!sql.starts_with(head) || !sql.substr(head.size()).ends_with(kTableTail)) return std::nullopt;
+    sql = sql.substr(head.size(), sql.size() - head.size() - kTableTail.size());
+    const std::vector<std::string_view> declared = text::Split(sql, kColumnSeparator);
+    if (!declared.front().empty()) return std::nullopt;  // what stands behind the key
     std::vector<Column> columns;
-    if (!connection.Step(query, "check the file")) return columns;
-    while (connection.Step(query, "check the file"))
-        columns.push_back({TextColumn(query, 0), TextColumn(query, 1)});
-    return columns;
-}
-
-/// Whether each column of a table is declared, with its type and nothing more, in the statement that made
-/// it.
-bool IsPlainTable(const std::string& name, const std::string& sql, const std::vector<Column>& columns) {
-    std::string expected = "CREATE TABLE " + name + " (" + std::string(kStoreKey) + " INTEGER PRIMARY KEY";
-    for (const Column& column : columns) {
-        if (!IsFieldName(column.name)) return false;
-        expected += ", " + column.name + " " + column.type;
+    for (std::size_t i = 1; i < declared.size(); ++i) {
+        const std::string_view name = declared[i].substr(0, declared[i].find(' '));
+        const std::string_view type = declared[i].substr(std::min(name.size() + 1, declared[i].size()));
+        if (!IsFieldName(name) || !IsColumnType(type)) return std::nullopt;
+        columns.push_back({std::string(name), std::string(type)});
     }
-    return sql == expected + ") STRICT";
+    return columns;
 }
 
 /// Whether there are the tables and indexes of an adventure and nothing else; `columns` takes what the
 /// tables hold.
 bool IsPlainSchema(Connection& connection, ColumnsByTable& columns) {
     const std::vector<std::string> indexes = CreateIndexSql();
-    const Statement columnQuery =
-        connection.Compile("SELECT name, type FROM pragma_table_xinfo(?)", "check the file");
     const Statement entries =
         connection.Compile("SELECT type, name, sql FROM sqlite_schema", "check the file");
     while (connection.Step(entries.get(), "check the file")) {
@@ -150,8 +156,9 @@ bool IsPlainSchema(Connection& connection, ColumnsByTable& columns) {
         if (type == "table") {
             const TableEntry* table = FindTable(name);
             if (!table || table->name != name) return false;
-            columns[name] = ReadColumns(connection, columnQuery.get(), name);
-            if (!IsPlainTable(name, sql, columns[name])) return false;
+            auto declared = PlainColumns(name, sql);
+            if (!declared) return false;
+            columns[name] = std::move(*declared);
         } else if (type != "index" || std::find(indexes.begin(), indexes.end(), sql) == indexes.end()) {
             return false;
         }
@@ -325,11 +332,10 @@ void CheckCanBeWritten(const std::filesystem::path& file) {
 }
 
 std::string CreateTableSql(const TableSchema& schema) {
-    std::string sql =
-        "CREATE TABLE " + schema.name + " (" + std::string(kStoreKey) + " INTEGER PRIMARY KEY";
+    std::string sql = TableHead(schema.name);
     for (const Field& field : schema.fields)
-        sql += ", " + field.name + " " + std::string(SqlTypeOf(field.type));
-    return sql + ") STRICT";
+        sql.append(kColumnSeparator).append(field.name).append(" ").append(SqlTypeOf(field.type));
+    return sql.append(kTableTail);
 }
 
 std::vector<std::string> CreateIndexSql() {

@@ -53,6 +53,15 @@ class SectionReader {
         return std::move(records_);
     }
 
+    std::optional<Record> Find(std::string_view field, std::string_view value) const {
+        const auto column = static_cast<std::size_t>(std::ranges::find(columns_, field) - columns_.begin());
+        for (const DefaultData::Line& line : data_.Lines(section_)) {
+            if (line.text.find(value) == std::string::npos) continue;
+            if (data_.Columns(section_, line, columns_.size()).at(column) == value) return ReadRow(line, 0);
+        }
+        return std::nullopt;
+    }
+
   private:
     Record ReadRow(const DefaultData::Line& line, std::int64_t number) const {
         Record record;
@@ -205,6 +214,12 @@ std::vector<Record> ReadSection(const DefaultData& data, const std::string& sect
                                 const SectionForm& form, const TableSchema& schema,
                                 platform::EventPump& events) {
     return SectionReader(data, section, form, schema, events).Read();
+}
+
+std::optional<Record> FindRow(const DefaultData& data, const std::string& section, const SectionForm& form,
+                              const TableSchema& schema, std::string_view field, std::string_view value) {
+    platform::NoEvents events;
+    return SectionReader(data, section, form, schema, events).Find(field, value);
 }
 
 std::vector<Record> ReadCharacters(const DefaultData& data, const std::string& section,

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,6 +43,11 @@ void SetText(Record& record, const DefaultData& data, const Place& place, std::s
 std::vector<Record> ReadSection(const DefaultData& data, const std::string& section,
                                 const SectionForm& form, const TableSchema& schema,
                                 platform::EventPump& events);
+
+/// The first record of a section of plain rows in whose column `field` stands `value`; nullopt when there
+/// is none. The other rows are not read, so that what is wrong in them stays unsaid.
+std::optional<Record> FindRow(const DefaultData& data, const std::string& section, const SectionForm& form,
+                              const TableSchema& schema, std::string_view field, std::string_view value);
 
 /// The records of the section of characters: rows of set number, character number, name of the set, and
 /// eight values separated by blanks, decimal or behind "&h".

@@ -63,9 +63,10 @@ const std::vector<Record>& Defaults::Records(TableNum table) {
 const Record& Defaults::CondAct(std::string_view name) {
     const auto known = condActs_.find(name);
     if (known != condActs_.end()) return known->second;
-    for (const Record& record : Records(TableNum::CondActs)) {
-        if (TextOf(record, "caname") == name) return condActs_[std::string(name)] = record;
-    }
+    const std::string section = store::DataSection(*store::FindTable(TableNum::CondActs), kTypeForRecords);
+    auto found = store::FindRow(data_, section, *FormFor(TableNum::CondActs), Schema(TableNum::CondActs),
+                                "caname", name);
+    if (found) return condActs_[std::string(name)] = std::move(*found);
     throw Error("The default data " + file_.string() + " has no " + std::string(name) +
                 " in section ::VELCONDACT.");
 }

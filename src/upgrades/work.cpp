@@ -155,8 +155,9 @@ void FillFromDefaults(Work& work, TableNum table, const std::vector<std::string_
 
 bool Finds(Work& work, TableNum table, std::string_view filter) {
     try {
-        return work.HasTable(table) &&
-               work.adventure.Prepare(table, "*", filter, std::string_view()).First({});
+        if (!work.HasTable(table)) return false;
+        const std::string& anyField = work.adventure.Schema(table).fields.front().name;
+        return work.adventure.Prepare(table, anyField, filter, std::string_view()).First({});
     } catch (const store::FilterError&) {
         return false;
     }

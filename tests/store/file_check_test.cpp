@@ -224,7 +224,9 @@ INSTANTIATE_TEST_SUITE_P(Definitions, ForeignColumn,
                                          "sndfreq INTEGER REFERENCES Flags(flgnum)", "sndfreq TEXT",
                                          "sndfreq ANY", "sndfreq INT", "\"sndfreq\" INTEGER",
                                          "sndfreq INTEGER, more INTEGER", "sndfreq INTEGER, CHECK (1)",
-                                         "sndfreq INTEGER COLLATE fabula_nocase"));
+                                         "sndfreq INTEGER, comment TEXT DEFAULT (abs(random()))",
+                                         "sndfreq INTEGER, comment ANY", "sndfreq INTEGER,comment TEXT",
+                                         "sndfreq  INTEGER", "sndfreq INTEGER COLLATE fabula_nocase"));
 
 TEST_F(ForeignColumn, WithTheRightDefinitionIsOpened) {
     Replace("sndfreq INTEGER");

@@ -92,24 +92,22 @@ int Batch(const BatchOptions& options) {
 
 }  // namespace
 
-void AddBatchVerb(CLI::App& app, Chosen& chosen) {
+void AddBatchVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<BatchOptions>();
-    CLI::App* verb =
-        app.add_subcommand("batch", "Writes tables as text to be edited outside, or reads them back");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("target", options->target, "The batch file that is written; - is standard output");
-    verb->add_option("--read", options->read, "Read this batch file into the adventure instead");
-    verb->add_option("--table", options->table, "Write this table only: Locations, Messages, ...");
-    verb->add_option("--records", options->records, "Of that table only the records 1,3-5");
-    verb->add_option("--processes", options->processes,
-                     "Which process tables: (M-N,ALL,comma separated list)");
-    AddForceFlag(*verb, options->force);
-    AddJsonFlag(*verb, options->json);
-    verb->footer(
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("target", options->target, "The batch file that is written; - is standard output");
+    verb.add_option("--read", options->read, "Read this batch file into the adventure instead");
+    verb.add_option("--table", options->table, "Write this table only: Locations, Messages, ...");
+    verb.add_option("--records", options->records, "Of that table only the records 1,3-5");
+    verb.add_option("--processes", options->processes,
+                    "Which process tables: (M-N,ALL,comma separated list)");
+    AddForceFlag(verb, options->force);
+    AddJsonFlag(verb, options->json);
+    verb.footer(
         "What is read is checked as the screens check it. With a fault nothing is changed and the status "
         "is "
         "1.");
-    Runs(*verb, chosen, options, Batch);
+    Runs(verb, chosen, options, Batch);
 }
 
 }  // namespace fabula::cli

@@ -56,25 +56,24 @@ int LoadSet(const CharsetOptions& options) {
 
 }  // namespace
 
-void AddCharsetVerb(CLI::App& app, Chosen& chosen) {
+void AddCharsetVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<CharsetOptions>();
     const CLI::Range setNumbers(0, 999);
-    CLI::App* verb = app.add_subcommand("charset", "Carries character sets between adventures");
-    verb->require_subcommand(1);
+    verb.require_subcommand(1);
 
     CLI::App* list =
-        verb->add_subcommand("list", "Shows the sets of an adventure or of a character set file");
+        verb.add_subcommand("list", "Shows the sets of an adventure or of a character set file");
     list->add_option("file", options->file, "FILE.fbd or FILE.chr")->required();
     Runs(*list, chosen, options, ListSets);
 
-    CLI::App* save = verb->add_subcommand("save", "Writes sets of an adventure to a character set file");
+    CLI::App* save = verb.add_subcommand("save", "Writes sets of an adventure to a character set file");
     AddAdventureOption(*save, options->file)->required();
     save->add_option("output", options->setFile, "The file to write, FILE.chr")->required();
     save->add_option("sets", options->sets, "The numbers of the sets")->required()->check(setNumbers);
     AddForceFlag(*save, options->force);
     Runs(*save, chosen, options, Save);
 
-    CLI::App* load = verb->add_subcommand("load", "Puts a set of a file over a set of an adventure");
+    CLI::App* load = verb.add_subcommand("load", "Puts a set of a file over a set of an adventure");
     AddAdventureOption(*load, options->file)->required();
     load->add_option("input", options->setFile, "The file to read, FILE.chr")->required();
     load->add_option("set", options->set, "The number of the set in the file")

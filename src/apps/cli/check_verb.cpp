@@ -39,16 +39,13 @@ int Check(const CheckOptions& options) {
 
 }  // namespace
 
-void AddCheckVerb(CLI::App& app, Chosen& chosen) {
+void AddCheckVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<CheckOptions>();
-    CLI::App* verb =
-        app.add_subcommand("check", "Reads a source into a temporary adventure and verifies it");
-    verb->add_option("source", options->source, "The file that is read")->required();
-    verb->add_option("--kind", options->kind,
-                     "What it is, where its name doesn't tell: " + ReadableKinds());
-    AddJsonFlag(*verb, options->json);
-    AddEncodingOption(*verb, options->encoding);
-    Runs(*verb, chosen, options, Check);
+    verb.add_option("source", options->source, "The file that is read")->required();
+    verb.add_option("--kind", options->kind, "What it is, where its name doesn't tell: " + ReadableKinds());
+    AddJsonFlag(verb, options->json);
+    AddEncodingOption(verb, options->encoding);
+    Runs(verb, chosen, options, Check);
 }
 
 }  // namespace fabula::cli

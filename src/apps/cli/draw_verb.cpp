@@ -148,34 +148,32 @@ int Draw(const DrawOptions& options) {
 
 }  // namespace
 
-void AddDrawVerb(CLI::App& app, Chosen& chosen) {
+void AddDrawVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<DrawOptions>();
-    CLI::App* verb =
-        app.add_subcommand("draw", "Draws the pictures of an adventure, or checks a drawstring");
-    AddAdventureOption(*verb, options->file);
-    verb->add_option("picture", options->picture, "The number of a picture");
-    verb->add_option("output", options->output, "The image to write, *.bmp or *.png");
-    verb->add_option("--scale", options->scale, "The size of a pixel")
+    AddAdventureOption(verb, options->file);
+    verb.add_option("picture", options->picture, "The number of a picture");
+    verb.add_option("output", options->output, "The image to write, *.bmp or *.png");
+    verb.add_option("--scale", options->scale, "The size of a pixel")
         ->check(CLI::Range(1, pictures::kLargestScale))
         ->capture_default_str();
-    verb->add_option("--plane", options->plane, "colour, or pixel for what counts as drawn")
+    verb.add_option("--plane", options->plane, "colour, or pixel for what counts as drawn")
         ->check(CLI::IsMember({"colour", "pixel"}))
         ->capture_default_str();
-    verb->add_option("--upto", options->upTo, "Draw up to this word, counted from 0")
+    verb.add_option("--upto", options->upTo, "Draw up to this word, counted from 0")
         ->check(CLI::NonNegativeNumber);
-    verb->add_option("--all", options->folder,
-                     "Draw all pictures into a folder, with an index of small ones");
-    verb->add_option("--add", options->drawings,
-                     "Put the drawings N.draw of a folder into the adventure, as pictures of its rooms");
-    verb->add_option("--check", options->drawstring, "Check a drawstring and show its words");
-    verb->add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use");
-    verb->add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine");
-    verb->add_option("--from-image", options->image,
-                     "Make a picture of an image (PNG, JPEG or BMP) and write it to the file that follows");
-    verb->add_flag("--dither", options->dither, "Mix the colours that the palette lacks");
-    verb->add_flag("--as-drawstring", options->asDrawstring, "Write a drawing that draws the image");
-    AddForceFlag(*verb, options->force);
-    Runs(*verb, chosen, options, Draw);
+    verb.add_option("--all", options->folder,
+                    "Draw all pictures into a folder, with an index of small ones");
+    verb.add_option("--add", options->drawings,
+                    "Put the drawings N.draw of a folder into the adventure, as pictures of its rooms");
+    verb.add_option("--check", options->drawstring, "Check a drawstring and show its words");
+    verb.add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use");
+    verb.add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine");
+    verb.add_option("--from-image", options->image,
+                    "Make a picture of an image (PNG, JPEG or BMP) and write it to the file that follows");
+    verb.add_flag("--dither", options->dither, "Mix the colours that the palette lacks");
+    verb.add_flag("--as-drawstring", options->asDrawstring, "Write a drawing that draws the image");
+    AddForceFlag(verb, options->force);
+    Runs(verb, chosen, options, Draw);
 }
 
 }  // namespace fabula::cli

@@ -75,19 +75,18 @@ int Dump(const DumpOptions& options) {
 
 }  // namespace
 
-void AddDumpVerb(CLI::App& app, Chosen& chosen) {
+void AddDumpVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<DumpOptions>();
-    CLI::App* verb = app.add_subcommand("dump", "Shows the records of a table, one JSON object a line");
-    verb->footer(
+    verb.footer(
         "A binary field shows as {\"bytes\": N}. FILTER compares fields with values or each other by = <> "
         "< > <= >=\n"
         "and like, joined by and, or and parentheses: --where \"vocnum=5 or word like 'L%'\".");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("table", options->table, "The table, by its name or number")->required();
-    verb->add_option("--fields", options->fields, "Only these fields, a,b,...");
-    verb->add_option("--where", options->where, "Only the records that match this filter");
-    verb->add_option("--order", options->order, "In this order: fields, each optionally with desc");
-    Runs(*verb, chosen, options, Dump);
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("table", options->table, "The table, by its name or number")->required();
+    verb.add_option("--fields", options->fields, "Only these fields, a,b,...");
+    verb.add_option("--where", options->where, "Only the records that match this filter");
+    verb.add_option("--order", options->order, "In this order: fields, each optionally with desc");
+    Runs(verb, chosen, options, Dump);
 }
 
 }  // namespace fabula::cli

@@ -33,17 +33,16 @@ int Export(const ExportOptions& options) {
 
 }  // namespace
 
-void AddExportVerb(CLI::App& app, Chosen& chosen) {
+void AddExportVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<ExportOptions>();
-    CLI::App* verb = app.add_subcommand("export", "Writes an adventure as a source or an export file");
-    verb->add_option("kind", options->kind, "What is written: " + WritableKinds())->required();
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("target", options->target, "The file that is written; - is standard output")
+    verb.add_option("kind", options->kind, "What is written: " + WritableKinds())->required();
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("target", options->target, "The file that is written; - is standard output")
         ->required();
-    AddForceFlag(*verb, options->force);
-    verb->add_option("--version", options->version,
-                     "The form of an UnVel extract: 2.0.0, 2.1.0, 2.2.0, 4.0.0 or 5.0.0");
-    Runs(*verb, chosen, options, Export);
+    AddForceFlag(verb, options->force);
+    verb.add_option("--version", options->version,
+                    "The form of an UnVel extract: 2.0.0, 2.1.0, 2.2.0, 4.0.0 or 5.0.0");
+    Runs(verb, chosen, options, Export);
 }
 
 }  // namespace fabula::cli

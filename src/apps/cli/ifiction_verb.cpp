@@ -22,12 +22,10 @@ int PrintRecord(const IfictionOptions& options) {
 
 }  // namespace
 
-void AddIfictionVerb(CLI::App& app, Chosen& chosen) {
+void AddIfictionVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<IfictionOptions>();
-    CLI::App* verb =
-        app.add_subcommand("ifiction", "Prints the iFiction record by which libraries know a game");
-    AddAdventureOption(*verb, options->file)->required();
-    Runs(*verb, chosen, options, PrintRecord);
+    AddAdventureOption(verb, options->file)->required();
+    Runs(verb, chosen, options, PrintRecord);
 }
 
 }  // namespace fabula::cli

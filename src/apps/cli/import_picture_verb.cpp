@@ -58,20 +58,18 @@ int ImportPicture(const ImportPictureOptions& options) {
 
 }  // namespace
 
-void AddImportPictureVerb(CLI::App& app, Chosen& chosen) {
+void AddImportPictureVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<ImportPictureOptions>();
-    CLI::App* verb =
-        app.add_subcommand("import-picture", "Takes pictures out of the listing of an older game");
-    verb->add_option("kind", options->kind, "The listing: " + PictureKinds())->required();
-    verb->add_option("listing", options->listing, "The file that is read")->required();
-    verb->add_option("records", options->records, "The pictures of the listing, as in 3,7-9")->required();
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("record", options->record, "The picture they replace, and those behind it")
+    verb.add_option("kind", options->kind, "The listing: " + PictureKinds())->required();
+    verb.add_option("listing", options->listing, "The file that is read")->required();
+    verb.add_option("records", options->records, "The pictures of the listing, as in 3,7-9")->required();
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("record", options->record, "The picture they replace, and those behind it")
         ->required()
         ->check(CLI::Range(0, 999));
-    verb->add_option("--goes-to", options->goesTo,
-                     "N=M: picture N of the listing goes to M, and GOSUBs to it follow");
-    Runs(*verb, chosen, options, ImportPicture);
+    verb.add_option("--goes-to", options->goesTo,
+                    "N=M: picture N of the listing goes to M, and GOSUBs to it follow");
+    Runs(verb, chosen, options, ImportPicture);
 }
 
 }  // namespace fabula::cli

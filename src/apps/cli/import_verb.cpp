@@ -33,20 +33,18 @@ int Import(const ImportOptions& options) {
 
 }  // namespace
 
-void AddImportVerb(CLI::App& app, Chosen& chosen) {
+void AddImportVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<ImportOptions>();
-    CLI::App* verb =
-        app.add_subcommand("import", "Makes an adventure file from a source or an export file");
-    verb->add_option("kind", options->kind, "What is read: " + ReadableKinds())->required();
-    verb->add_option("source", options->source, "The file that is read")->required();
-    AddAdventureOption(*verb, options->file)->required();
-    AddForceFlag(*verb, options->force);
-    AddJsonFlag(*verb, options->json);
-    AddEncodingOption(*verb, options->encoding);
-    verb->footer(
+    verb.add_option("kind", options->kind, "What is read: " + ReadableKinds())->required();
+    verb.add_option("source", options->source, "The file that is read")->required();
+    AddAdventureOption(verb, options->file)->required();
+    AddForceFlag(verb, options->force);
+    AddJsonFlag(verb, options->json);
+    AddEncodingOption(verb, options->encoding);
+    verb.footer(
         "What can't be read is left out and told. The status is 1 then, though the file was made of the "
         "rest.");
-    Runs(*verb, chosen, options, Import);
+    Runs(verb, chosen, options, Import);
 }
 
 }  // namespace fabula::cli

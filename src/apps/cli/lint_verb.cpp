@@ -162,26 +162,23 @@ int Lint(const LintOptions& options) {
 
 }  // namespace
 
-void AddLintVerb(CLI::App& app, Chosen& chosen) {
+void AddLintVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<LintOptions>();
-    CLI::App* verb = app.add_subcommand(
-        "lint", "Tells what a game has that can't be meant: unused, unreachable, contradictory, missing");
-    verb->footer(
+    verb.footer(
         "A finding is told with its code. A source switches findings off by a comment with the words\n"
         "'lint off CODE', which may be followed by numbers of records and a reason. An adventure keeps "
         "what\n"
         "--off says with --keep, until --on takes it back. The status is 1 when anything was found.");
-    verb->add_option("file", options->file, "The adventure, FILE.fbd, or a source");
-    verb->add_option("--kind", options->kind,
-                     "What the source is, where its name doesn't tell: " + ReadableKinds());
-    verb->add_option(
-        "--off", options->off,
-        "A code that is not to be told; with numbers behind it for these records: \"gap 4 7\"");
-    verb->add_option("--on", options->on, "A code that is told although the file switches it off");
-    verb->add_flag("--keep", options->keep, "Write what --off and --on say into the adventure");
-    verb->add_flag("--rules", options->rules, "Show all codes and what they mean");
-    verb->add_flag("--json", options->json, "As a JSON array");
-    Runs(*verb, chosen, options, Lint);
+    verb.add_option("file", options->file, "The adventure, FILE.fbd, or a source");
+    verb.add_option("--kind", options->kind,
+                    "What the source is, where its name doesn't tell: " + ReadableKinds());
+    verb.add_option("--off", options->off,
+                    "A code that is not to be told; with numbers behind it for these records: \"gap 4 7\"");
+    verb.add_option("--on", options->on, "A code that is told although the file switches it off");
+    verb.add_flag("--keep", options->keep, "Write what --off and --on say into the adventure");
+    verb.add_flag("--rules", options->rules, "Show all codes and what they mean");
+    verb.add_flag("--json", options->json, "As a JSON array");
+    Runs(verb, chosen, options, Lint);
 }
 
 }  // namespace fabula::cli

@@ -57,27 +57,26 @@ std::string ReportNames() {
 
 }  // namespace
 
-void AddListVerb(CLI::App& app, Chosen& chosen) {
+void AddListVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<ListOptions>();
-    CLI::App* verb = app.add_subcommand("list", "Lists the records of an adventure as they are printed");
-    verb->footer(ReportNames());
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("report", options->report, "The report")->required();
-    verb->add_option("--range", options->asked.range,
-                     "Of process tables and pictures which, \"1,3-5,9\", \"3-\" or ALL; of user-flags how "
-                     "many behind 60; of templates their names, or files *.tpl");
+    verb.footer(ReportNames());
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("report", options->report, "The report")->required();
+    verb.add_option("--range", options->asked.range,
+                    "Of process tables and pictures which, \"1,3-5,9\", \"3-\" or ALL; of user-flags how "
+                    "many behind 60; of templates their names, or files *.tpl");
     CLI::Option* verbose =
-        verb->add_flag("--verbose", options->asked.verbose, "Tell more beside each record");
-    verb->add_flag("--complete", options->asked.complete,
-                   "List locations with their conditional exits and the objects that are present");
-    verb->add_flag("--brief", options->asked.brief, "One line for each record")->excludes(verbose);
-    verb->add_option("--verb", options->asked.verb, "The verb of verb-noun");
-    verb->add_option("--noun", options->asked.noun, "The noun of verb-noun");
-    verb->add_option("--output", options->output,
-                     "The file to write, *.txt or *.html; - is standard output, as text")
+        verb.add_flag("--verbose", options->asked.verbose, "Tell more beside each record");
+    verb.add_flag("--complete", options->asked.complete,
+                  "List locations with their conditional exits and the objects that are present");
+    verb.add_flag("--brief", options->asked.brief, "One line for each record")->excludes(verbose);
+    verb.add_option("--verb", options->asked.verb, "The verb of verb-noun");
+    verb.add_option("--noun", options->asked.noun, "The noun of verb-noun");
+    verb.add_option("--output", options->output,
+                    "The file to write, *.txt or *.html; - is standard output, as text")
         ->capture_default_str();
-    AddForceFlag(*verb, options->force);
-    Runs(*verb, chosen, options, MakeListing);
+    AddForceFlag(verb, options->force);
+    Runs(verb, chosen, options, MakeListing);
 }
 
 }  // namespace fabula::cli

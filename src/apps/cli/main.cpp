@@ -1,5 +1,8 @@
+#include <algorithm>
 #include <exception>
 #include <iostream>
+#include <span>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 
@@ -34,6 +37,16 @@ int RunChosen(const cli::Chosen& chosen) {
     }
 }
 
+/// Adds the verb that the first word of the command line names, or all of them when it names none: making
+/// the options of all takes longer than many a verb.
+void AddVerbs(CLI::App& app, std::string_view first, cli::Chosen& chosen) {
+    const auto named = std::ranges::find(cli::kVerbs, first, &cli::Verb::name);
+    std::span<const cli::Verb> added = cli::kVerbs;
+    if (named != std::end(cli::kVerbs)) added = {named, 1};
+    for (const cli::Verb& verb : added)
+        verb.add(*app.add_subcommand(verb.name, verb.does), chosen);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -41,8 +54,7 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "fabula " FABULA_VERSION);
     app.require_subcommand(1);
     cli::Chosen chosen;
-    for (const auto add : cli::kVerbs)
-        add(app, chosen);
+    AddVerbs(app, argc > 1 ? argv[1] : "", chosen);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

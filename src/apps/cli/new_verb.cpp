@@ -42,18 +42,17 @@ int Create(const NewOptions& options) {
 
 }  // namespace
 
-void AddNewVerb(CLI::App& app, Chosen& chosen) {
+void AddNewVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<NewOptions>();
-    CLI::App* verb = app.add_subcommand("new", "Creates an adventure file");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("--type", options->type, "fabula, vel or marlo")->capture_default_str();
-    verb->add_flag("--graphics", options->graphics, "The game has drawn pictures");
-    verb->add_flag("--charsets", options->charSets,
-                   "The game writes with character sets (marlo always does)");
-    verb->add_flag("--starter", options->starter,
-                   "With directions, the usual verbs and their process entries");
-    AddForceFlag(*verb, options->force);
-    Runs(*verb, chosen, options, Create);
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("--type", options->type, "fabula, vel or marlo")->capture_default_str();
+    verb.add_flag("--graphics", options->graphics, "The game has drawn pictures");
+    verb.add_flag("--charsets", options->charSets,
+                  "The game writes with character sets (marlo always does)");
+    verb.add_flag("--starter", options->starter,
+                  "With directions, the usual verbs and their process entries");
+    AddForceFlag(verb, options->force);
+    Runs(verb, chosen, options, Create);
 }
 
 }  // namespace fabula::cli

@@ -62,21 +62,19 @@ int Pack(const PackageOptions& options) {
 
 }  // namespace
 
-void AddPackageVerb(CLI::App& app, Chosen& chosen) {
+void AddPackageVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<PackageOptions>();
-    CLI::App* verb = app.add_subcommand("package", "Packs an adventure with its files as a zip for others");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("target", options->target, "The zip that is written")->required();
-    verb->add_option("--version", options->version, "The version of the game, for its ReadMe")->required();
-    verb->add_flag("--engine", options->engine, "Pack the engine too");
-    verb->add_option("--file", options->files,
-                     "Pack this file of the game's folder too; as often as needed")
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("target", options->target, "The zip that is written")->required();
+    verb.add_option("--version", options->version, "The version of the game, for its ReadMe")->required();
+    verb.add_flag("--engine", options->engine, "Pack the engine too");
+    verb.add_option("--file", options->files, "Pack this file of the game's folder too; as often as needed")
         ->allow_extra_args(false);
-    verb->add_option("--readme-text", options->readMeText,
-                     "What the ReadMe says before the list of the files");
-    verb->add_option("--product-page", options->productPage, "Where the ReadMe says the engine is found");
-    AddForceFlag(*verb, options->force);
-    Runs(*verb, chosen, options, Pack);
+    verb.add_option("--readme-text", options->readMeText,
+                    "What the ReadMe says before the list of the files");
+    verb.add_option("--product-page", options->productPage, "Where the ReadMe says the engine is found");
+    AddForceFlag(verb, options->force);
+    Runs(verb, chosen, options, Pack);
 }
 
 }  // namespace fabula::cli

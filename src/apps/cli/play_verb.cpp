@@ -113,31 +113,30 @@ int Play(const PlayOptions& options) {
 
 }  // namespace
 
-void AddPlayVerb(CLI::App& app, Chosen& chosen) {
+void AddPlayVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<PlayOptions>();
-    CLI::App* verb = app.add_subcommand("play", "Plays an adventure");
-    verb->footer(
+    verb.footer(
         "In a terminal lines are edited and remembered, and time passes as in the game's own window.\n"
         "From a pipe or a file nothing is echoed, pauses pass at once, and an empty line stands for a\n"
         "time-out when the game waits with one. Before each line is read a \">\" stands at the head of a\n"
         "line as the last character of the output. The end of the input ends the game.");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("--script", options->script, "Take commands from this file first");
-    verb->add_option("--transcript", options->transcript, "Write all that is shown and typed to this file");
-    verb->add_option("--trace", options->trace, "Write what the engine does to this file");
-    verb->add_option("--origins", options->origins,
-                     "Write where each text came from to this file: the entry and action, the record, and "
-                     "the text, with tabs between them");
-    verb->add_option("--seed", options->seed, "Draw the random numbers of this seed");
-    verb->add_option("--width", options->width, "Break lines at this many columns")
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("--script", options->script, "Take commands from this file first");
+    verb.add_option("--transcript", options->transcript, "Write all that is shown and typed to this file");
+    verb.add_option("--trace", options->trace, "Write what the engine does to this file");
+    verb.add_option("--origins", options->origins,
+                    "Write where each text came from to this file: the entry and action, the record, and "
+                    "the text, with tabs between them");
+    verb.add_option("--seed", options->seed, "Draw the random numbers of this seed");
+    verb.add_option("--width", options->width, "Break lines at this many columns")
         ->check(CLI::Range(10, 10000));
-    verb->add_flag("--plain", options->plain, "No colours and looks");
-    verb->add_flag("--real-time", options->realTime,
-                   "Let pauses and time-outs take their time in a pipe, too");
-    verb->add_flag("--debug", options->debug,
-                   "Lines that begin with \":\" look into the game: \":F38\", \":=5\"");
-    AddForceFlag(*verb, options->force);
-    Runs(*verb, chosen, options, Play);
+    verb.add_flag("--plain", options->plain, "No colours and looks");
+    verb.add_flag("--real-time", options->realTime,
+                  "Let pauses and time-outs take their time in a pipe, too");
+    verb.add_flag("--debug", options->debug,
+                  "Lines that begin with \":\" look into the game: \":F38\", \":=5\"");
+    AddForceFlag(verb, options->force);
+    Runs(verb, chosen, options, Play);
 }
 
 }  // namespace fabula::cli

@@ -46,19 +46,17 @@ int RenumberVerb(const RenumberOptions& options) {
 
 }  // namespace
 
-void AddRenumberVerb(CLI::App& app, Chosen& chosen) {
+void AddRenumberVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<RenumberOptions>();
-    CLI::App* verb = app.add_subcommand(
-        "renumber", "Gives a record another number, or swaps it with the one that has it; all uses follow");
-    verb->footer("What changes is shown, and what can't be followed is warned of.");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("kind", options->kind,
-                     "flag, object, location, message, sysmess, process, picture, set")
+    verb.footer("What changes is shown, and what can't be followed is warned of.");
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("kind", options->kind,
+                    "flag, object, location, message, sysmess, process, picture, set")
         ->required();
-    verb->add_option("from", options->from, "Its number")->required();
-    verb->add_option("to", options->to, "Its new number")->required();
-    verb->add_flag("--dry-run", options->dryRun, "Only show what would change");
-    Runs(*verb, chosen, options, RenumberVerb);
+    verb.add_option("from", options->from, "Its number")->required();
+    verb.add_option("to", options->to, "Its new number")->required();
+    verb.add_flag("--dry-run", options->dryRun, "Only show what would change");
+    Runs(verb, chosen, options, RenumberVerb);
 }
 
 }  // namespace fabula::cli

@@ -25,12 +25,10 @@ int ShowTables(const TablesOptions& options) {
 
 }  // namespace
 
-void AddTablesVerb(CLI::App& app, Chosen& chosen) {
+void AddTablesVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<TablesOptions>();
-    CLI::App* verb =
-        app.add_subcommand("tables", "Shows the tables of an adventure, with their numbers and sizes");
-    AddAdventureOption(*verb, options->file)->required();
-    Runs(*verb, chosen, options, ShowTables);
+    AddAdventureOption(verb, options->file)->required();
+    Runs(verb, chosen, options, ShowTables);
 }
 
 }  // namespace fabula::cli

@@ -96,23 +96,21 @@ int Test(const TestOptions& options) {
 
 }  // namespace
 
-void AddTestVerb(CLI::App& app, Chosen& chosen) {
+void AddTestVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<TestOptions>();
-    CLI::App* verb = app.add_subcommand("test", "Plays a script and compares what is shown");
-    verb->footer(
+    verb.footer(
         "Shows nothing and ends with 0 when the transcript is the expected one, else shows the difference\n"
         "and ends with 1. SCRIPT has one command a line, as 'fabula play' reads them from a pipe; a\n"
         "script that a game has recorded will do, of which the lines that begin with >> are played. Files "
         "that\n"
         "the game saves live as long as the test.");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("script", options->script, "The commands")->required();
-    verb->add_option("--transcript", options->transcript,
-                     "The expected transcript; else SCRIPT with the extension .transcript");
-    verb->add_option("--seed", options->seed, "Draw the random numbers of this seed")
-        ->capture_default_str();
-    verb->add_flag("--update", options->update, "Write the transcript instead of comparing it");
-    Runs(*verb, chosen, options, Test);
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("script", options->script, "The commands")->required();
+    verb.add_option("--transcript", options->transcript,
+                    "The expected transcript; else SCRIPT with the extension .transcript");
+    verb.add_option("--seed", options->seed, "Draw the random numbers of this seed")->capture_default_str();
+    verb.add_flag("--update", options->update, "Write the transcript instead of comparing it");
+    Runs(verb, chosen, options, Test);
 }
 
 }  // namespace fabula::cli

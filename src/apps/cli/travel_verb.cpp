@@ -35,15 +35,13 @@ int Convert(const TravelOptions& options) {
 
 }  // namespace
 
-void AddTravelVerb(CLI::App& app, Chosen& chosen) {
+void AddTravelVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<TravelOptions>();
-    CLI::App* verb = app.add_subcommand(
-        "travel", "Writes a report of a classic travel table and adds its verbs to an adventure");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("data", options->data, "The data file that is read; advent-comm.dat");
-    verb->add_option("report", options->report, "The report that is written; Advent.lis");
-    AddForceFlag(*verb, options->force);
-    Runs(*verb, chosen, options, Convert);
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("data", options->data, "The data file that is read; advent-comm.dat");
+    verb.add_option("report", options->report, "The report that is written; Advent.lis");
+    AddForceFlag(verb, options->force);
+    Runs(verb, chosen, options, Convert);
 }
 
 }  // namespace fabula::cli

@@ -30,14 +30,12 @@ int Upgrade(const UpgradeOptions& options) {
 
 }  // namespace
 
-void AddUpgradeVerb(CLI::App& app, Chosen& chosen) {
+void AddUpgradeVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<UpgradeOptions>();
-    CLI::App* verb = app.add_subcommand(
-        "upgrade", "Brings an adventure of an older version up to date, and mends its records");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_flag("--check", options->check,
-                   "Only say what is needed: status 1 when something is, and no change");
-    Runs(*verb, chosen, options, Upgrade);
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_flag("--check", options->check,
+                  "Only say what is needed: status 1 when something is, and no change");
+    Runs(verb, chosen, options, Upgrade);
 }
 
 }  // namespace fabula::cli

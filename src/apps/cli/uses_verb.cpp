@@ -108,18 +108,16 @@ int Uses(const UsesOptions& options) {
 
 }  // namespace
 
-void AddUsesVerb(CLI::App& app, Chosen& chosen) {
+void AddUsesVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<UsesOptions>();
-    CLI::App* verb =
-        app.add_subcommand("uses", "Shows what uses a flag, an object, a place, a text, a word ...");
-    verb->footer("Places where a flag holds the number, or decides it, are shown as possible.");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("kind", options->kind,
-                     "flag, object, location, message, sysmess, word, process, picture, set, character")
+    verb.footer("Places where a flag holds the number, or decides it, are shown as possible.");
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("kind", options->kind,
+                    "flag, object, location, message, sysmess, word, process, picture, set, character")
         ->required();
-    verb->add_option("what", options->what, "Its number; a word also by its letters")->required();
-    verb->add_flag("--json", options->json, "As a JSON array");
-    Runs(*verb, chosen, options, Uses);
+    verb.add_option("what", options->what, "Its number; a word also by its letters")->required();
+    verb.add_flag("--json", options->json, "As a JSON array");
+    Runs(verb, chosen, options, Uses);
 }
 
 }  // namespace fabula::cli

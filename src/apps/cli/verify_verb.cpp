@@ -26,13 +26,12 @@ int Verify(const VerifyOptions& options) {
 
 }  // namespace
 
-void AddVerifyVerb(CLI::App& app, Chosen& chosen) {
+void AddVerifyVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<VerifyOptions>();
-    CLI::App* verb = app.add_subcommand("verify", "Checks an adventure against the rules of its type");
-    AddAdventureOption(*verb, options->file)->required();
-    verb->add_option("--for", options->target, "For an export: " + WritableKinds());
-    AddJsonFlag(*verb, options->json);
-    Runs(*verb, chosen, options, Verify);
+    AddAdventureOption(verb, options->file)->required();
+    verb.add_option("--for", options->target, "For an export: " + WritableKinds());
+    AddJsonFlag(verb, options->json);
+    Runs(verb, chosen, options, Verify);
 }
 
 }  // namespace fabula::cli

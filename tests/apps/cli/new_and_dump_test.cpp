@@ -1,4 +1,5 @@
 #include <fstream>
+#include <sstream>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -143,14 +144,29 @@ TEST_F(TablesVerb, ShowsEveryTableWithItsNumberAndSize) {
 }
 
 TEST_F(CommandLine, HelpIsThereForTheProgramAndEveryVerb) {
-    for (const std::vector<std::string>& line : {std::vector<std::string>{"--help"},
-                                                 {"new", "--help"},
-                                                 {"tables", "--help"},
-                                                 {"dump", "--help"}}) {
-        const ProgramResult result = Run(line);
-        EXPECT_EQ(result.status, 0);
-        EXPECT_NE(result.output.find("Usage:"), std::string::npos);
+    std::istringstream help(Run({"--help"}).output);
+    int verbs = 0;
+    bool isListed = false;
+    for (std::string line; std::getline(help, line);) {
+        if (isListed && line.starts_with("  ") && line[2] != ' ') {
+            const std::string verb = line.substr(2, line.find(' ', 2) - 2);
+            const std::string does = line.substr(line.find_first_not_of(' ', 2 + verb.size()));
+            const ProgramResult result = Run({verb, "--help"});
+            EXPECT_EQ(result.status, 0);
+            EXPECT_EQ(result.output.rfind(does, 0), 0u) << result.output;
+            EXPECT_NE(result.output.find("Usage: fabula " + verb), std::string::npos) << result.output;
+            ++verbs;
+        }
+        isListed = isListed || line == "Subcommands:";
     }
+    EXPECT_EQ(verbs, 21);
+}
+
+TEST_F(CommandLine, AnOptionBeforeTheVerbIsNotTakenForTheVerbs) {
+    const ProgramResult result = Run({"--force", "new", File()});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_NE(result.errors.find("--force"), std::string::npos) << result.errors;
+    EXPECT_FALSE(std::filesystem::exists(File()));
 }
 
 TEST_F(CommandLine, NoVerbOrAnUnknownOneIsWrongUsage) {
