@@ -27,6 +27,7 @@ enum class ParamKind : int {
     Value = 10,
 };
 
+/// What one parameter of a condition or action takes.
 struct Parameter {
     ParamKind kind = ParamKind::None;
     /// The bound of the parameter, for the kinds that use one. A location with the bound 255 may be given

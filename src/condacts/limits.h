@@ -2,8 +2,11 @@
 
 #include <chrono>
 #include <cstddef>
+#include <string_view>
 
 #include "store/adventure_kind.h"
+#include "store/record_limits.h"
+#include "text/colours.h"
 
 namespace fabula::condacts {
 
@@ -11,10 +14,11 @@ namespace fabula::condacts {
 namespace limit {
 
 /// Locations, objects, messages and system messages of "Fabula", and of sources of whatever type.
-inline constexpr int kHighestRecord = 999;
-/// The same of the other types, but for objects, of which 255 stands for none.
+using store::kHighestRecord;
+/// The same of the other types, but for objects, of which kNoObject stands for none.
 inline constexpr int kHighestRecordOfOthers = 255;
-inline constexpr int kHighestObjectOfOthers = 254;
+inline constexpr int kNoObject = 255;
+inline constexpr int kHighestObjectOfOthers = kNoObject - 1;
 
 inline constexpr int kHighestProcess = 256;
 /// Tables 0 to 2 are there in every game. Those of "Marlo" have 0 and 1 only.
@@ -34,14 +38,18 @@ inline constexpr int kHighestSystemFlag = 1024;
 inline constexpr int kHeaviestObject = 63;
 inline constexpr int kHeaviestLoad = 255;
 
-/// Ink, paper and border: 0 to 7 and the same bright.
-inline constexpr int kHighestColour = 15;
-inline constexpr int kFirstBrightColour = 8;
+/// Of ink, paper and border.
+using text::kFirstBrightColour;
+using text::kHighestColour;
 
 /// The unit of TIME.
 inline constexpr std::chrono::milliseconds kTimeOutUnit{1280};
 
 }  // namespace limit
+
+// What is told of a number beyond these limits.
+inline constexpr std::string_view kWordNumberFault = "Word # must be from 2 to 254 inclusive";
+inline constexpr std::string_view kWeightFault = "Weight must be from 0 to 63";
 
 /// How many letters of a word count.
 constexpr int SignificantLetters(store::AdventureKind kind) {

@@ -31,6 +31,7 @@ struct Statement {
     std::size_t paramsGiven = 0;  ///< fewer than it takes only at the end of the line
 };
 
+/// A line of conditions and actions in its parts, which look into the text that was parsed.
 struct ParsedLine {
     std::vector<Token> tokens;
     std::vector<Statement> statements;

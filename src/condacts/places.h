@@ -30,6 +30,7 @@ constexpr bool IsSpecialPlace(std::int64_t number) {
     return number >= place::kFirstSpecial.value && number <= place::kLastSpecial.value;
 }
 
+/// A word in capitals and the place it stands for.
 struct LocationWord {
     std::string_view word;
     PlaceNumber number;

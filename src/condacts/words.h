@@ -28,6 +28,8 @@ std::string_view WordTypeName(int wordType);
 /// The word that stands for "no word", and the number that goes with it.
 inline constexpr std::string_view kNoWord = "_";
 inline constexpr int kNoWordNumber = 255;
+/// The number of the other word that stands for any word in an entry; not in games of type "Marlo".
+inline constexpr int kAnyWordNumber = 1;
 
 /// How many letters of a word count in the older games.
 inline constexpr std::size_t kOlderLetters = 5;
@@ -35,6 +37,7 @@ inline constexpr std::size_t kOlderLetters = 5;
 /// Nouns below this number may stand in for a verb and name a direction.
 inline constexpr int kFirstPlainNoun = 20;
 
+/// A row of the vocabulary. One spelling may have several, with other numbers or types.
 struct Word {
     std::string word;
     int number = 0;  ///< `vocnum`; synonyms share it

@@ -30,6 +30,7 @@ struct Host {
     WindowParts parts = {};
 };
 
+/// How the engine runs a game.
 struct Options {
     bool traceFile = false;       ///< flag 1004 starts at 255: everything is traced from the start
     bool traceRequested = false;  ///< flag 1005 starts at 255

@@ -16,6 +16,7 @@
 
 namespace fabula::engine {
 
+/// An object as its record has it at the start of a game.
 struct ObjectData {
     PlaceNumber startPlace;
     std::int16_t weight = 0;

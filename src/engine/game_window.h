@@ -29,6 +29,7 @@ enum class TextRole {
     Prompt,  ///< system message 33 (">") in front of the input
 };
 
+/// Why a line ends.
 enum class LineEnd {
     Hard,     ///< the text ends its line here
     Wrapped,  ///< the print width was reached; a window that wraps for itself, or a transcript, leaves it
@@ -54,6 +55,7 @@ struct Picture {
     friend bool operator==(const Picture&, const Picture&) = default;
 };
 
+/// The fields of the status line.
 enum class StatusField {
     Script,    ///< `Status1`: "Script Off" and the like
     Sound,     ///< `Status2`: "Sound ON", "Sound OFF"

@@ -47,6 +47,7 @@ struct RunPlace {
     std::array<int, 2> params{};
 };
 
+/// Where a run of text comes from: what ran, and the record that it stands in.
 struct Origin {
     RunPlace place;
     TextRecord record;

@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "platform/whole_file.h"
+#include "store/extensions.h"
 #include "store/file_copy.h"
 
 namespace fabula::engine {
 
 namespace {
 
-constexpr std::string_view kSavedGameExtension = ".sav";
 constexpr int kHeaderLines = 2;
 constexpr int kLines = kHeaderLines + 3 * RunState::kSlots;
 
@@ -93,7 +93,7 @@ std::string SavedGameText(const GameData& data, RunState& state) {
 }
 
 void WriteSavedGame(const std::filesystem::path& file, std::string_view text) {
-    store::CheckTarget(file, store::Content::Text, kSavedGameExtension);
+    store::CheckTarget(file, store::Content::Text, store::extension::kSavedGame);
     store::WriteFile(file, text);
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/error.h"
 #include "platform/whole_file.h"
+#include "store/extensions.h"
 #include "store/file_copy.h"
 #include "text/byte_order_mark.h"
 
@@ -30,7 +31,7 @@ std::string_view Script::StatusText() const {
 }
 
 void Script::StartWriting(const std::filesystem::path& file) {
-    store::CheckTarget(file, store::Content::Text, ".scr");
+    store::CheckTarget(file, store::Content::Text, store::extension::kScript);
     output_.clear();
     output_.open(file, std::ios::binary | std::ios::trunc);
     if (!output_) throw Error("Could not write the script " + file.string() + ".");

@@ -107,18 +107,18 @@ bool NameWhatIsThere(Game& game, std::span<const std::int16_t> flags) {
 
 struct NumberedWords {
     FlagNumber flag;
-    std::string_view typeName;
+    int type;
 };
 
 /// The words that AGAIN tells, in their order.
 constexpr NumberedWords kToldWords[] = {
-    {flag::kAdverb, "Adverb"},
-    {flag::kVerb, "Verb"},
-    {flag::kAdjective, "Adjective"},
-    {flag::kNoun, "Noun"},
-    {flag::kPreposition, "Preposition"},
-    {flag::kAdjective2, "Adjective"},
-    {flag::kNoun2, "Noun"},
+    {flag::kAdverb, condacts::kAdverb},
+    {flag::kVerb, condacts::kVerb},
+    {flag::kAdjective, condacts::kAdjective},
+    {flag::kNoun, condacts::kNoun},
+    {flag::kPreposition, condacts::kPreposition},
+    {flag::kAdjective2, condacts::kAdjective},
+    {flag::kNoun2, condacts::kNoun},
 };
 
 constexpr FlagNumber kRepeatedFlags[] = {flag::kVerb,        flag::kNoun,        flag::kAdjective,
@@ -185,7 +185,7 @@ bool Again(Game& game) {
     std::string told = "Re-executing ";
     for (const NumberedWords& kind : kToldWords) {
         if (game.Flag(kind.flag) == kNoWord) continue;
-        const std::string word = game.texts.WordOf(game.Word(kind.flag), kind.typeName);
+        const std::string word = game.texts.WordOf(game.Word(kind.flag), condacts::WordTypeName(kind.type));
         if (!word.empty()) told += text::EscapeMarkup(word) + " ";
     }
     game.printer.PrintText(told, false, true);

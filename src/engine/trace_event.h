@@ -115,6 +115,7 @@ struct TurnCounted {
     int location = 0;
 };
 
+/// The steps of the turn cycle of type "Marlo", in the order of a turn.
 enum class CycleStep {
     BeginDescribed,
     RunDescribed,

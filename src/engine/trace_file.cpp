@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "platform/error.h"
+#include "store/extensions.h"
 #include "store/file_copy.h"
 
 namespace fabula::engine {
@@ -15,7 +16,7 @@ std::string TraceFileName(const platform::DateTime& begun) {
 }
 
 TraceFile::TraceFile(const std::filesystem::path& file, std::string_view header) {
-    store::CheckTarget(file, store::Content::Text, ".trc");
+    store::CheckTarget(file, store::Content::Text, store::extension::kTrace);
     stream_.open(file, std::ios::binary | std::ios::trunc);
     WriteLine(header);
     if (!stream_.flush()) throw Error("Could not write the trace " + file.string() + ".");

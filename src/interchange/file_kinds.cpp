@@ -10,6 +10,7 @@
 #include "interchange/unvel/unvel_head.h"
 #include "interchange/unvel/unvel_reader.h"
 #include "interchange/unvel/unvel_writer.h"
+#include "store/extensions.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
@@ -88,7 +89,7 @@ const FileKind kKinds[] = {
     {.word = "pcvel",
      .name = "PCVEL",
      .about = "a source of the PC engine",
-     .extension = ".sce",
+     .extension = store::extension::kPcSource,
      .importDialog = {"*.sce", "Load an PC VEL source file", "PC VEL Sources (*.sce)|*.sce|All files|*.*"},
      .exportDialog = {"*.sce", "Save as a PC VEL source", "PC VEL source (*.sce)|*.sce"},
      .setup = SetupOfPcSource,
@@ -101,7 +102,7 @@ const FileKind kKinds[] = {
     {.word = "fabula",
      .name = "Fabula",
      .about = "an export file of this program",
-     .extension = ".ext",
+     .extension = store::extension::kExport,
      .importDialog = {"", "Load an Fabula Exportfile", "Fabula Export (*.ext)|*.ext|All files|*.*"},
      .exportDialog = {"*.ext", "Save as an FabuLA Extract", "FabuLA Extract (*.ext)|*.ext"},
      .setup = SetupOfExport,

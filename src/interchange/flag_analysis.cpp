@@ -21,13 +21,6 @@ bool HasText(std::string_view description) {
     return !text::TrimBlanks(description).empty();
 }
 
-void AddFlag(KeyedTable& flags, int number) {
-    Cursor& flag = flags.Add(number);
-    for (const auto& [field, value] : store::FieldsOfNewFlag(number, ""))
-        flag.SetField(field, value);
-    flags.Update();
-}
-
 void MarkAsUsed(KeyedTable& flags, int number) {
     if (!flags.Has(number)) return;
     Cursor& flag = flags.GoTo(number);
@@ -50,7 +43,7 @@ FlagAnalysis::FlagAnalysis(store::Adventure& adventure, const condacts::Catalogu
     for (bool more = flags.First({}); more; more = flags.Next()) {
         const int number = static_cast<int>(flags.Number(0));
         highestRecord_ = std::max(highestRecord_, number);
-        if (text::EqualsNoCase(flags.Text(1), "user")) userFlags_.insert(number);
+        if (text::EqualsNoCase(flags.Text(1), store::kUserFlagType)) userFlags_.insert(number);
     }
 }
 
@@ -87,8 +80,10 @@ void FlagAnalysis::PrintFlagAnal(store::Adventure& adventure, JobStatus& status)
             line += " " + users_[user].name;
         status.AddToStatusCR(line);
     }
-    for (int flag = highestRecord_ + 1; flag <= highest; ++flag)
-        AddFlag(flags, flag);
+    for (int flag = highestRecord_ + 1; flag <= highest; ++flag) {
+        store::FillNewFlag(flags.Add(flag), flag, "");
+        flags.Update();
+    }
     for (const auto& [flag, users] : uses_) {
         if (IsUserFlag(flag)) MarkAsUsed(flags, flag);
     }

@@ -25,6 +25,7 @@ struct JobHost {
     Encoding encoding = Encoding::Detect;  ///< of sources
 };
 
+/// What an import or export came to.
 struct JobResult {
     bool done = false;
     int faults = 0;  ///< lines of the source that were left out

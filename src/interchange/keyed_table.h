@@ -19,7 +19,6 @@ class KeyedTable {
     bool Has(std::int64_t key) const { return positions_.contains(key); }
     /// The highest number; -1 when the table is empty.
     std::int64_t HighestKey() const { return positions_.empty() ? -1 : positions_.rbegin()->first; }
-    const std::map<std::int64_t, int>& Positions() const { return positions_; }
 
     /// Stands on the record of this number, which must exist.
     store::Cursor& GoTo(std::int64_t key);

@@ -7,6 +7,7 @@
 
 #include "text/fields.h"
 #include "text/line_ends.h"
+#include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -45,9 +46,7 @@ constexpr std::string_view kKeptTags[] = {"<BRI", "<CHA", "<FNT", "<INK", "</BR"
 /// The number behind "<TAB" of a tag, as read from any tag.
 int TabLength(std::string_view tag) {
     tag.remove_prefix(std::min(tag.size(), kTabTag.size()));
-    int length = 0;
-    std::from_chars(tag.data(), tag.data() + tag.size(), length);
-    return std::clamp(length, 0, kLongestTab);
+    return std::clamp(text::TakeNumber(tag).value_or(0), 0, kLongestTab);
 }
 
 /// Every tag up to the last tab is taken for a tab.

@@ -5,6 +5,7 @@
 
 #include "listings/record.h"
 #include "listings/reports.h"
+#include "store/new_flag.h"
 
 namespace fabula::listings {
 namespace {
@@ -30,12 +31,10 @@ constexpr std::array<BriefTable, 5> kTables = {{
 constexpr std::string_view kFormat = "!%A!%t10!%a";
 constexpr TextArea kBriefArea{10, 70};
 
-constexpr std::string_view kUnknownUse = "Unknown";
-
 /// The use of a flag that nobody has described may say something.
 std::string_view FirstWithText(const store::PreparedQuery& rows, int texts) {
     for (int i = 1; i <= texts; ++i) {
-        if (!IsEmpty(rows.Text(i)) && rows.Text(i) != kUnknownUse) return rows.Text(i);
+        if (!IsEmpty(rows.Text(i)) && rows.Text(i) != store::kUnknownFlagUse) return rows.Text(i);
     }
     return "";
 }

@@ -124,8 +124,10 @@ std::string FilterOfWords(store::Adventure& adventure, const ReportRequest& requ
     const int verb = WordNumber(adventure, request.verb, condacts::OfEntryVerbs());
     const int noun =
         WordNumber(adventure, request.noun, condacts::OfWordTypes({condacts::kNoun, condacts::kReserved}));
-    const bool any = noun == 1 || noun == condacts::kNoWordNumber;
-    const std::string nouns = any ? "(w2num=1 or w2num=255)" : "w2num=" + std::to_string(noun);
+    const auto is = [](int word) { return "w2num=" + std::to_string(word); };
+    const bool any = noun == condacts::kAnyWordNumber || noun == condacts::kNoWordNumber;
+    const std::string nouns =
+        any ? "(" + is(condacts::kAnyWordNumber) + " or " + is(condacts::kNoWordNumber) + ")" : is(noun);
     return " and w1num=" + std::to_string(verb) + " and " + nouns;
 }
 

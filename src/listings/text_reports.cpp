@@ -5,6 +5,7 @@
 
 #include "listings/record.h"
 #include "listings/reports.h"
+#include "store/new_flag.h"
 
 namespace fabula::listings {
 namespace {
@@ -61,11 +62,14 @@ constexpr TextTable kFlags = {
     {30, 50},
     {"", "", "", "Not Described"},
     4};
-constexpr TextTable kUserFlags = {
-    "Listing of User Flags",   TableNum::Flags,
-    "flgnum, flguse, flgdesc", {"!Number!%T10!Use!%T20!Description", "!%C6-!%T10!%c9-!%T20!%C60-"},
-    "!%a!%T10!%A!%t20!%a",     {20, 60},
-    {"", "Unknown", ""},       3};
+constexpr TextTable kUserFlags = {"Listing of User Flags",
+                                  TableNum::Flags,
+                                  "flgnum, flguse, flgdesc",
+                                  {"!Number!%T10!Use!%T20!Description", "!%C6-!%T10!%c9-!%T20!%C60-"},
+                                  "!%a!%T10!%A!%t20!%a",
+                                  {20, 60},
+                                  {"", store::kUnknownFlagUse, ""},
+                                  3};
 
 /// The flags that every game has had since the older engines, which extra entries follow.
 constexpr int kFirstExtraFlag = 60;
@@ -106,7 +110,7 @@ void WriteTexts(const Listing& listing, const TextTable& table, NoText noText = 
 /// The highest number of a flag of the user; -1 when there is none.
 int LastUserFlag(store::Adventure& adventure) {
     store::PreparedQuery flags =
-        adventure.Prepare(TableNum::Flags, "flgnum", "flgtype='User'", "flgnum desc");
+        adventure.Prepare(TableNum::Flags, "flgnum", store::kUserFlags, "flgnum desc");
     return flags.First({}) ? static_cast<int>(flags.Number(0)) : -1;
 }
 

@@ -20,6 +20,7 @@ inline constexpr std::string_view kFile = "File";
 inline constexpr std::string_view kReadMe = "ReadMe";
 }  // namespace package_type
 
+/// A file that may go into a package.
 struct PackageRow {
     std::string type;
     std::string name;  ///< relative to the game's folder

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "authoring/document/screen_context.h"
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/recompile.h"
 #include "condacts/words.h"
@@ -22,8 +23,8 @@ namespace {
 using store::TableNum;
 
 constexpr std::string_view kTitle = "Adventure Travel Table converted to Actions & Travel Verbs";
-constexpr int kLowestWord = 2;
-constexpr int kHighestWord = 254;
+using condacts::limit::kHighestWord;
+using condacts::limit::kLowestWord;
 constexpr int kFirstObjectWord = 1000;
 
 /// The verbs of the travel rows in the adventure's vocabulary.

@@ -11,6 +11,7 @@ namespace fabula::packages {
 inline constexpr const char* kTravelData = "advent-comm.dat";
 inline constexpr const char* kTravelReport = "Advent.lis";
 
+/// What the conversion of a travel table came to: whether it was done, and what the table held.
 struct TravelResult {
     bool done = false;
     int rooms = 0;

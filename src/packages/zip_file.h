@@ -33,9 +33,9 @@ inline constexpr int kReadOrSeek = 11;
 inline constexpr int kNothingToDo = 12;
 inline constexpr int kWrite = 14;
 inline constexpr int kOpenToWrite = 15;
-inline constexpr int kOpenToRead = 18;
 }  // namespace zip_code
 
+/// A file to be put into a zip.
 struct PackedFile {
     std::string name;  ///< relative, with "/" between folders, in UTF-8
     std::string bytes;

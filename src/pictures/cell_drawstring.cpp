@@ -4,13 +4,14 @@
 #include <vector>
 
 #include "pictures/cell_image.h"
+#include "text/colours.h"
 
 // The drawstring of an image: the larger part of each cell first, then the rest.
 
 namespace fabula::pictures {
 namespace {
 
-constexpr int kFirstBright = 8;
+using text::kFirstBrightColour;
 
 class CellDrawer {
   public:
@@ -21,16 +22,16 @@ class CellDrawer {
     }
 
     std::string Draw() {
-        for (int colour = 0; colour < kFirstBright; ++colour)
+        for (int colour = 0; colour < kFirstBrightColour; ++colour)
             DrawBlocks(colour);
-        for (int colour = 0; colour < 2 * kFirstBright; ++colour)
+        for (int colour = 0; colour <= text::kHighestColour; ++colour)
             DrawRuns(colour);
         return text_ + "END";
     }
 
   private:
     int MostFrequent(int column, int row) const {
-        std::array<int, 16> counts{};
+        std::array<int, text::kHighestColour + 1> counts{};
         for (int i = 0; i < kCellSize * kCellSize; ++i)
             ++counts[image_.At(column * kCellSize + i % kCellSize, row * kCellSize + i / kCellSize)];
         return static_cast<int>(std::ranges::max_element(counts) - counts.begin());
@@ -111,8 +112,8 @@ class CellDrawer {
     }
 
     void AddInk(int colour) {
-        Add({"INK", colour % kFirstBright});
-        if (colour >= kFirstBright) Add({"BRIGHT", 1});
+        Add({"INK", colour % kFirstBrightColour});
+        if (colour >= kFirstBrightColour) Add({"BRIGHT", 1});
     }
 
     struct CommandText {

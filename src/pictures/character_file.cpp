@@ -5,6 +5,7 @@
 
 #include "pictures/drawstring.h"
 #include "platform/error.h"
+#include "store/character_key.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
@@ -20,7 +21,7 @@ constexpr std::string_view kDelimiter = "|";
 constexpr std::string_view kSetLine = "SET";
 constexpr std::string_view kEndOfSet = "ENDSET";
 constexpr std::size_t kLongestSetName = 20;
-constexpr std::int64_t kHighestCharacter = 999;
+constexpr std::int64_t kHighestCharacter = store::kCharactersOfASet - 1;
 
 /// Walks the lines of a file and tells faults with the line's number.
 class Lines {

@@ -26,6 +26,7 @@ struct CharacterFileSet {
     std::vector<Character> characters;  ///< of set 0 and without a name
 };
 
+/// All that a character set file holds.
 struct CharacterFile {
     std::vector<CharacterFileSet> sets;
     bool isCharacterFile = true;  ///< false when the first line is another; nothing more is read then

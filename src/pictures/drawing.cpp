@@ -5,6 +5,7 @@
 #include "pictures/cells.h"
 #include "pictures/drawstring.h"
 #include "platform/error.h"
+#include "text/colours.h"
 
 namespace fabula::pictures {
 namespace {
@@ -134,12 +135,12 @@ void Drawing::DrawBlock(int height, int width, int column, int row) {
 }
 
 void Drawing::DrawInk(int number) {
-    constexpr int kBrightBlack = 16;  // since 8 is taken
+    constexpr int kBrightBlack = text::kHighestColour + 1;  // since 8 is taken
     state_.ink = number == kBrightBlack ? 0 : number;
     if (number == kTransparent) {
         state_.inkColour = IndexToColour(state_.defaultInk);
     } else if (number == kBrightBlack) {
-        state_.inkColour = IndexToColour(8);
+        state_.inkColour = IndexToColour(text::kFirstBrightColour);
     } else {
         state_.inkColour = IndexToColour(number);
     }
@@ -153,8 +154,9 @@ void Drawing::DrawPaper(int number) {
 void Drawing::DrawBright(int on) {
     state_.bright = on;
     const int number = ColourToIndex(state_.inkColour);
-    if (on != 0 && number < 8) state_.inkColour = IndexToColour(number + 8);
-    if (on == 0 && number >= 8) state_.inkColour = IndexToColour(number - 8);
+    const bool isBright = number >= text::kFirstBrightColour;
+    if (on != 0 && !isBright) state_.inkColour = IndexToColour(number + text::kFirstBrightColour);
+    if (on == 0 && isBright) state_.inkColour = IndexToColour(number - text::kFirstBrightColour);
 }
 
 void Drawing::DrawFlash(int on) {

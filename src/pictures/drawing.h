@@ -66,9 +66,6 @@ class Drawing {
     void CommDraw(const Picture& picture, std::string_view drawstring,
                   std::size_t lastWord = kWholeDrawstring);
 
-    /// Draws on what is there, as a subroutine does; distances are scaled when `scale` is above 0.
-    void CommDrawMore(std::string_view drawstring, int scale = 0);
-
     /// Runs the one command at `index` of a drawstring's words, as CommDraw would; gives the index of the
     /// word behind its parameters. A row of these after `CommDraw` is one draw, and has its limit.
     std::size_t DrawCommand(const std::vector<std::string>& words, std::size_t index);

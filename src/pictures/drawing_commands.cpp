@@ -91,12 +91,6 @@ void Drawing::CommDraw(const Picture& picture, std::string_view drawstring, std:
     DrawWords(DrawstringWords(drawstring), 0, lastWord);
 }
 
-void Drawing::CommDrawMore(std::string_view drawstring, int scale) {
-    callees_.clear();
-    commandsLeft_ = kMostCommands;
-    DrawWords(DrawstringWords(drawstring), scale, kWholeDrawstring);
-}
-
 std::size_t Drawing::DrawCommand(const std::vector<std::string>& words, std::size_t index) {
     callees_.clear();
     return RunCommand(words, index, 0);

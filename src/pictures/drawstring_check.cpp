@@ -4,6 +4,7 @@
 #include <array>
 #include <span>
 
+#include "pictures/drawing.h"
 #include "pictures/drawstring.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -107,7 +108,9 @@ std::string CheckParameter(const Parameter& p) {
                    : std::string(p.NameInMessages()) + " must have a value of 0 or 1";
     }
     if (p.code == "CO") {
-        return p.value >= 0 && p.value <= 8 ? "" : p.Say(" is an invalid color for ", p.NameInMessages());
+        return p.value >= 0 && p.value <= kTransparent
+                   ? ""
+                   : p.Say(" is an invalid color for ", p.NameInMessages());
     }
     if (p.code == "IO") {
         const bool known = std::ranges::find(kOverAndInverse, p.value) != kOverAndInverse.end();

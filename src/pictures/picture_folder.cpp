@@ -14,6 +14,8 @@
 #include "platform/error.h"
 #include "platform/whole_file.h"
 #include "store/adventure.h"
+#include "store/record_limits.h"
+#include "text/colours.h"
 
 namespace fabula::pictures {
 namespace {
@@ -21,11 +23,9 @@ namespace {
 using store::Cursor;
 using store::TableNum;
 
-constexpr int kHighestPictureNumber = 999;
 /// No location will ever have it.
-constexpr int kDefaultPictureNumber = kHighestPictureNumber + 1;
+constexpr int kDefaultPictureNumber = store::kHighestRecord + 1;
 constexpr int kNoRoom = -1;  ///< `roompicnum` of a picture that is no room's
-constexpr int kHighestColour = 15;
 
 /// The words of a drawing without its remarks.
 std::vector<std::string> ReadWords(const std::filesystem::path& file) {
@@ -43,7 +43,7 @@ void TakeColour(std::vector<std::string>& words, const std::string& word, int& c
                 const std::filesystem::path& file) {
     if (words.size() < 2 || words[0] != word) return;
     const std::optional<int> number = ParameterValue(words[1]);
-    if (!number || *number < 0 || *number > kHighestColour) {
+    if (!number || *number < 0 || *number > text::kHighestColour) {
         throw Error(file.string() + ": " + words[1] + " is no colour for " + word + ".");
     }
     colour = *number;
@@ -83,7 +83,7 @@ std::vector<DrawingFile> FindDrawings(const std::filesystem::path& folder) {
             continue;
         }
         const std::optional<int> number = ParameterValue(file.stem().string());
-        if (!number || *number < 0 || *number > kHighestPictureNumber) {
+        if (!number || *number < 0 || *number > store::kHighestRecord) {
             throw Error(file.string() + " is named after no picture.");
         }
         found.push_back({file, *number, false});

@@ -49,6 +49,7 @@ using SearchScope = std::set<std::string, std::less<>>;
 std::vector<Hit> FindEverywhere(store::Adventure& adventure, const Wanted& wanted, const SearchScope& scope,
                                 bool replacing);
 
+/// What a replacement came to.
 struct Replaced {
     int places = 0;
     int records = 0;

@@ -25,6 +25,7 @@ enum class Kind : std::uint8_t {
     Character,
 };
 
+/// What is known of a kind of things that are used.
 struct KindEntry {
     Kind kind;
     std::string_view name;      ///< as it is told and typed: "system message"

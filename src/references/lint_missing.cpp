@@ -72,8 +72,7 @@ bool Exists(const LintGame& game, const Use& use) {
         case Kind::Process:
             return game.facts.processes.contains(number);
         case Kind::Word:
-            // 1 is wild in entries, as 255 is.
-            return number <= 1 || HasWord(game, use);
+            return number <= condacts::kAnyWordNumber || HasWord(game, use);
         case Kind::Picture:
             return std::any_of(game.pictures.begin(), game.pictures.end(),
                                [&](const LintPicture& picture) { return picture.number == number; });

@@ -17,7 +17,7 @@ constexpr std::string_view kUnsteady[] = {"CHANCE", "YESNO", "QUIT", "TIMEOUT"};
 constexpr std::size_t kFarthest = 200;
 
 bool IsWild(int word) {
-    return word == condacts::kNoWordNumber || word == 1;
+    return word == condacts::kNoWordNumber || word == condacts::kAnyWordNumber;
 }
 
 /// What an entry asks for in front of its first action, and whether it ends its table once it has got that

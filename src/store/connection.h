@@ -28,6 +28,7 @@ inline constexpr std::int64_t kMostMemory = std::int64_t{2} * 1024 * 1024 * 1024
 inline constexpr std::uint32_t kApplicationId = 0x46414255;
 inline constexpr std::uint32_t kFileVersion = kLatestStep;
 
+/// Ends a prepared statement; takes nullptr too.
 struct StatementCloser {
     void operator()(sqlite3_stmt* statement) const;
 };

@@ -13,16 +13,13 @@
 #include "platform/error.h"
 #include "store/change_lock.h"
 #include "store/connection.h"
+#include "store/extensions.h"
 #include "store/file_check.h"
 #include "store/temporary_file.h"
 #include "text/utf8.h"
 
 namespace fabula::store {
 namespace {
-
-/// The extensions of the files that this program makes. One kind is never written over another.
-constexpr std::string_view kOwnExtensions[] = {".fbd", ".sav", ".scr", ".trc",
-                                               ".chr", ".ext", ".sce", ".fbb"};
 
 [[noreturn]] void Refuse(const std::filesystem::path& target, const std::string& reason) {
     throw Error("Could not write " + target.string() + ": " + reason + ".");
@@ -135,8 +132,9 @@ void CheckTarget(const std::filesystem::path& target, Content content, std::stri
     if ((facts.st_mode & 0222) == 0 || faccessat(AT_FDCWD, place.c_str(), W_OK, AT_EACCESS) != 0)
         Refuse(target, "it is read-only");
     const std::string present = text::LowerCase(place.extension().string());
-    const bool own = std::ranges::find(kOwnExtensions, present) != std::end(kOwnExtensions);
-    const std::string_view wanted = content == Content::Adventure ? std::string_view(".fbd") : extension;
+    // One kind of this program's files is never written over another.
+    const bool own = std::ranges::find(extension::kAll, present) != std::end(extension::kAll);
+    const std::string_view wanted = content == Content::Adventure ? extension::kAdventure : extension;
     if (IsAdventureFile(place)) {
         if (content == Content::Text) Refuse(target, "it is an adventure");
         if (ChangeLock::IsHeld(place)) Refuse(target, "it is open for change in another program");

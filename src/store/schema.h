@@ -24,12 +24,14 @@ enum class FieldType : std::uint8_t {
 /// What a field may be compared with.
 enum class FieldClass : std::uint8_t { Number, Text, Truth, Binary };
 
+/// A field of a table.
 struct Field {
     std::string name;  ///< as declared; compared without regard to case
     FieldType type = FieldType::Integer;
     int size = 0;  ///< of `advarwchar`, in characters; 0 for the others
 };
 
+/// A table as a file has it, which need not be as this program would make it.
 struct TableSchema {
     std::string name;
     std::vector<Field> fields;  ///< in the order of declaration

@@ -1,18 +1,14 @@
 #pragma once
 
-#include <string_view>
-
 #include "store/adventure_kind.h"
 
 namespace fabula::store {
 
 class Adventure;
 
-/// The screen "Choose Type of Adventure" without its window: three choices and the rules between them.
+/// What the type of an adventure is chosen from: three choices and the rules between them.
 class AdventureSetup {
   public:
-    static constexpr std::string_view kTitle = "Choose Type of Adventure";
-
     /// For a new adventure: type Fabula, no graphics, the system's fonts.
     AdventureSetup() = default;
     /// For an existing one: what its settings say. A type that is not known yet is Marlo when the game came
@@ -28,11 +24,6 @@ class AdventureSetup {
     AdventureKind Type() const { return type_; }
     bool Graphics() const { return graphics_; }
     bool CharSets() const { return charSets_; }
-
-    /// What the explanation box says of a choice.
-    static std::string_view ExplainType(AdventureKind kind);
-    static std::string_view ExplainGraphics(bool on);
-    static std::string_view ExplainCharSets(bool on);
 
   private:
     AdventureKind type_ = AdventureKind::Fabula;

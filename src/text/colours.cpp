@@ -8,7 +8,7 @@ struct Colour {
     Rgb rgb;
 };
 
-constexpr std::array<Colour, 16> kColours = {{
+constexpr std::array<Colour, kHighestColour + 1> kColours = {{
     {"Black", {0, 0, 0}},
     {"Blue", {0, 0, 230}},
     {"Red", {230, 0, 0}},

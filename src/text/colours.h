@@ -6,6 +6,7 @@
 
 namespace fabula::text {
 
+/// A colour by its parts, each from 0 to 255.
 struct Rgb {
     std::uint8_t red = 0;
     std::uint8_t green = 0;
@@ -14,8 +15,12 @@ struct Rgb {
     friend bool operator==(const Rgb&, const Rgb&) = default;
 };
 
-/// 16 colours by number, such as an adventure may bring for itself.
-using Palette = std::array<Rgb, 16>;
+/// Colours are numbered from 0: eight, and the same bright.
+inline constexpr int kHighestColour = 15;
+inline constexpr int kFirstBrightColour = 8;
+
+/// A colour for each number, such as an adventure may bring for itself.
+using Palette = std::array<Rgb, kHighestColour + 1>;
 
 /// "Black" for 0 to "Bright White" for 15; empty for any other number.
 std::string_view ColorName(int number);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "text/colours.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
@@ -113,7 +114,7 @@ std::string FaultOfTagValue(std::string_view tag, std::string_view value, std::s
     const std::string valueText(value);
     if (!number) return "Value is not numeric for " + tagText;
     if (kind == "SE" && !tags.HasCharacterSet(*number)) return "Invalid Character Set " + valueText;
-    if (kind == "CO" && (*number < 0 || *number > 15))
+    if (kind == "CO" && (*number < 0 || *number > kHighestColour))
         return "Invalid color " + valueText + " for tag " + tagText;
     if (kind == "FO" && !tags.HasCode(*number))
         return "Invalid fontsize of " + valueText + " for tag " + tagText;

@@ -54,9 +54,15 @@ std::optional<std::int64_t> WholeNumber(std::string_view text) {
 }
 
 std::optional<int> SmallNumber(std::string_view text) {
+    const std::optional<int> number = TakeNumber(text);
+    return text.empty() ? number : std::nullopt;
+}
+
+std::optional<int> TakeNumber(std::string_view& text) {
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    if (error != std::errc()) return std::nullopt;
+    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return number;
 }
 

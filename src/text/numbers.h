@@ -19,4 +19,8 @@ std::optional<std::int64_t> WholeNumber(std::string_view text);
 /// number beyond.
 std::optional<int> SmallNumber(std::string_view text);
 
+/// Takes the decimal digits, behind an optional minus, at the head of `text` off it and gives their number.
+/// nullopt, and `text` as it was, where there are none or the number is beyond 32 bits.
+std::optional<int> TakeNumber(std::string_view& text);
+
 }  // namespace fabula::text

@@ -168,13 +168,6 @@ std::string PadRight(std::string_view text, std::size_t width) {
     return padded;
 }
 
-std::string PadLeft(std::string_view text, std::size_t width) {
-    const std::size_t length = Length(text);
-    std::string padded(length < width ? width - length : 0, ' ');
-    padded += text;
-    return padded;
-}
-
 std::string LowerCase(std::string_view text) {
     return MapEach(text, AsciiLower, Lower);
 }

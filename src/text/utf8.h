@@ -14,6 +14,7 @@ namespace fabula::text {
 /// A byte `b` that is no part of valid UTF-8 decodes to `kBadByte + b`, above every real code point.
 inline constexpr char32_t kBadByte = 0x110000;
 
+/// A character as it stands in a text.
 struct CodePoint {
     char32_t value;    ///< a Unicode scalar value, or kBadByte plus the byte
     std::size_t size;  ///< the bytes it takes in the text, 1 to 4
@@ -43,10 +44,8 @@ std::size_t OffsetOf(std::string_view text, std::size_t index);
 std::string_view Left(std::string_view text, std::size_t count);
 std::string_view Right(std::string_view text, std::size_t count);
 
-/// The text with blanks added behind it, or in front, until it is `width` code points long. A longer text
-/// is not cut.
+/// The text with blanks added behind it until it is `width` code points long. A longer text is not cut.
 std::string PadRight(std::string_view text, std::size_t width);
-std::string PadLeft(std::string_view text, std::size_t width);
 
 /// Lower and upper case, one code point for one, in every script that has them.
 std::string LowerCase(std::string_view text);

@@ -15,6 +15,7 @@ namespace fabula::text {
 /// Every byte string is a text in Windows-1252.
 std::string FromWindows1252(std::string_view bytes);
 
+/// A text as bytes of one each, as far as it can be written so.
 struct Windows1252 {
     std::string bytes;  ///< what comes before the first character that can't be written
     std::optional<std::size_t>

@@ -4,6 +4,7 @@
 
 #include "platform/error.h"
 #include "platform/event_pump.h"
+#include "store/adventure_kind.h"
 #include "store/schema_section.h"
 #include "text/fields.h"
 #include "text/utf8.h"
@@ -13,8 +14,6 @@ namespace {
 
 using store::Record;
 using store::TableNum;
-
-constexpr std::string_view kTypeForRecords = "Fabula";
 
 const store::SectionForm* FormFor(TableNum table) {
     for (const store::SectionForm& form : store::SectionForms()) {
@@ -51,7 +50,8 @@ const Record* Defaults::FieldRecord(TableNum table, std::string_view field) {
 const std::vector<Record>& Defaults::Records(TableNum table) {
     const auto known = records_.find(table);
     if (known != records_.end()) return known->second;
-    const std::string section = store::DataSection(*store::FindTable(table), kTypeForRecords);
+    const std::string section =
+        store::DataSection(*store::FindTable(table), store::NameOf(store::AdventureKind::Fabula));
     platform::NoEvents events;
     const store::SectionForm* form = FormFor(table);
     if (form) return records_[table] = store::ReadSection(data_, section, *form, Schema(table), events);

@@ -1,10 +1,11 @@
 #include "upgrades/refresh.h"
 
 #include <array>
-#include <charconv>
 
+#include "store/new_flag.h"
 #include "text/fields.h"
 #include "text/markup.h"
+#include "text/numbers.h"
 #include "text/str_edit.h"
 #include "upgrades/descriptions.h"
 
@@ -22,9 +23,9 @@ constexpr std::array kFirstWithMarkup = {2, 0, 0};
 std::array<int, 3> NumbersOf(std::string_view version) {
     std::array<int, 3> numbers{};
     std::size_t i = 0;
-    for (const std::string_view part : text::Split(version, ".")) {
+    for (std::string_view part : text::Split(version, ".")) {
         if (i == numbers.size()) break;
-        std::from_chars(part.data(), part.data() + part.size(), numbers[i++]);
+        numbers[i++] = text::TakeNumber(part).value_or(0);
     }
     return numbers;
 }
@@ -73,10 +74,9 @@ void RefreshFields(Work& work) {
 
 void RefreshSystemFlags(Work& work) {
     for (const Record& known : work.defaults.Records(TableNum::Flags)) {
-        Cursor& flag = work.adventure.OpenTable(
-            TableNum::Flags, "flgdesc, flgchg",
-            "flgtype='System' and flgnum=" + std::to_string(NumberOf(known, "flgnum")));
-        if (flag.Eof() || TextOf(known, "flgtype") != "System") continue;
+        Cursor& flag = work.adventure.OpenTable(TableNum::Flags, "flgdesc, flgchg",
+                                                store::SystemFlag(NumberOf(known, "flgnum")));
+        if (flag.Eof() || TextOf(known, "flgtype") != store::kSystemFlagType) continue;
         flag.SetField("flgdesc", TextOf(known, "flgdesc"));
         flag.SetField("flgchg", NumberOf(known, "flgchg"));
         flag.Update();

@@ -10,6 +10,7 @@
 #include "store/comments.h"
 #include "store/file_forms.h"
 #include "store/ifid.h"
+#include "store/new_flag.h"
 #include "store/schema_change.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -315,9 +316,8 @@ void AddFlgChg(Work& work, const Step& step) {
     AddFields(work, step, "");
     work.FillField(TableNum::Flags, "flgchg", std::int64_t{1});
     for (const Record& known : work.defaults.Records(TableNum::Flags)) {
-        Cursor& flag = work.adventure.OpenTable(
-            TableNum::Flags, "flgchg",
-            "flgtype='System' and flgnum=" + std::to_string(NumberOf(known, "flgnum")));
+        Cursor& flag = work.adventure.OpenTable(TableNum::Flags, "flgchg",
+                                                store::SystemFlag(NumberOf(known, "flgnum")));
         if (flag.Eof() || NumberOf(known, "flgchg") != 0) continue;
         flag.SetField("flgchg", std::int64_t{0});
         flag.Update();

@@ -164,14 +164,6 @@ TEST(CommDraw, StopsBehindTheCommandThatHoldsTheLastWord) {
     EXPECT_EQ(drawing.State().ink, 2);
 }
 
-TEST(CommDrawMore, DrawsOnWhatIsThere) {
-    const PictureBook book = TestBook();
-    Drawing drawing(book);
-    drawing.CommDraw(Picture{}, "INK 2 ABSMOVE 3 3 END");
-    drawing.CommDrawMore("LINE 0 8 0 END", 4);
-    EXPECT_EQ(ColourRows(drawing.Planes(), {2, 8, 3, 3}), ".22222.\n");
-}
-
 TEST(DrawCommand, RunsOneCommandAndGivesTheIndexOfTheNext) {
     const PictureBook book = TestBook();
     const std::vector<std::string> words = DrawstringWords("INK 2 GOSUB sc=0 5 END");

@@ -70,24 +70,6 @@ TEST(Setup, AFileNotYetClassifiedIsMarloFromADecompilerAndElseFabula) {
     EXPECT_EQ(AdventureSetup(*adventure).Type(), AdventureKind::Marlo);
 }
 
-TEST(Setup, ExplainsEveryChoiceInTheSystemsWords) {
-    EXPECT_EQ(AdventureSetup::kTitle, "Choose Type of Adventure");
-    EXPECT_EQ(AdventureSetup::ExplainType(AdventureKind::Fabula),
-              "Fabula: Takes all Fabula constructs, including extra Conditions && Actions.");
-    EXPECT_EQ(
-        AdventureSetup::ExplainType(AdventureKind::Vel),
-        "VEL: Only original VEL constructs (Conditions, Actions, && Graphics Commands) are available.");
-    EXPECT_EQ(
-        AdventureSetup::ExplainType(AdventureKind::Marlo),
-        "Marlo: Only original Marlo/Mender/Limner constructs are available. Graphics Editor is included "
-        "if Graphic selected below.");
-    EXPECT_EQ(AdventureSetup::ExplainGraphics(true),
-              "Graphic: Graphics Editor is included && used in game.");
-    EXPECT_EQ(AdventureSetup::ExplainGraphics(false), "Non-Graphic: Graphic Editor is NOT included.");
-    EXPECT_EQ(AdventureSetup::ExplainCharSets(true), "Yes - Marlo && VEL character sets used");
-    EXPECT_EQ(AdventureSetup::ExplainCharSets(false), "No - Windows Fonts used (Saves memory)");
-}
-
 TEST(AdventureKind, IsNamedAsInTheSettings) {
     EXPECT_EQ(NameOf(AdventureKind::Fabula), "Fabula");
     EXPECT_EQ(NameOf(AdventureKind::Vel), "VEL");

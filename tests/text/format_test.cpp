@@ -221,7 +221,8 @@ TEST(FormatText, AlignedTextIsExactlyAsWideAsItsWidth) {
         EXPECT_EQ(Length(left), columns);
         EXPECT_EQ(Length(right), columns);
         EXPECT_EQ(left, PadRight(Left(text, columns), columns));
-        EXPECT_EQ(right, PadLeft(Right(text, columns), columns));
+        const std::string end(Right(text, columns));
+        EXPECT_EQ(right, Repeated(" ", static_cast<int>(columns - Length(end))) + end);
     }
 }
 

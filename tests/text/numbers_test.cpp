@@ -72,5 +72,22 @@ TEST(SmallNumber, BeyondItsBitsIsNone) {
     EXPECT_EQ(SmallNumber("-2147483649"), std::nullopt);
 }
 
+TEST(TakeNumber, TakesTheDigitsAtTheHeadAndLeavesTheRest) {
+    std::string_view text = "12 (-7";
+    EXPECT_EQ(TakeNumber(text), 12);
+    EXPECT_EQ(text, " (-7");
+    text = "-7.5";
+    EXPECT_EQ(TakeNumber(text), -7);
+    EXPECT_EQ(text, ".5");
+}
+
+TEST(TakeNumber, LeavesATextThatDoesNotBeginWithANumber) {
+    for (const std::string_view other : {"", "-", " 1", "+1", "x1", "2147483648"}) {
+        std::string_view text = other;
+        EXPECT_EQ(TakeNumber(text), std::nullopt) << other;
+        EXPECT_EQ(text, other);
+    }
+}
+
 }  // namespace
 }  // namespace fabula::text

@@ -6,7 +6,9 @@
 #include "cli/target.h"
 #include "cli/verbs.h"
 #include "interchange/batch/batch_writer.h"
+#include "store/extensions.h"
 #include "store/file_copy.h"
+#include "store/record_limits.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 
@@ -24,8 +26,6 @@ struct BatchOptions {
     bool json = false;
 };
 
-constexpr int kHighestRecord = 999'999;
-
 /// "1,3-5"
 std::set<int> Records(const std::string& list) {
     std::set<int> records;
@@ -34,7 +34,7 @@ std::set<int> Records(const std::string& list) {
         const auto first = text::WholeNumber(piece.substr(0, dash));
         const auto last =
             dash == std::string_view::npos ? first : text::WholeNumber(piece.substr(dash + 1));
-        if (!first || !last || *first < 0 || *last < *first || *last > kHighestRecord)
+        if (!first || !last || *first < 0 || *last < *first || *last > store::kHighestKey)
             throw UsageError("--records takes numbers and ranges of numbers, such as 1,3-5");
         for (std::int64_t record = *first; record <= *last; ++record)
             records.insert(static_cast<int>(record));
@@ -61,8 +61,9 @@ interchange::BatchSelection SelectionOf(const BatchOptions& options) {
 int Write(const BatchOptions& options) {
     const interchange::BatchSelection selection = SelectionOf(options);
     Console console(std::cerr);
-    CheckTarget({options.target, store::Content::Text, ".fbb", options.file, options.force},
-                console.Person());
+    CheckTarget(
+        {options.target, store::Content::Text, store::extension::kBatch, options.file, options.force},
+        console.Person());
     const auto adventure = OpenToRead(options.file);
     if (!interchange::ParseProcessList(*adventure, selection.processes))
         throw UsageError("--processes takes ALL or numbers and ranges of numbers, such as 0,3-5");

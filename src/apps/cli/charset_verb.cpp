@@ -7,6 +7,8 @@
 #include "cli/verbs.h"
 #include "pictures/character_store.h"
 #include "store/adventure.h"
+#include "store/character_key.h"
+#include "store/extensions.h"
 #include "text/format.h"
 #include "text/safe_text.h"
 #include "text/utf8.h"
@@ -25,8 +27,8 @@ struct CharsetOptions {
 
 int ListSets(const CharsetOptions& options) {
     TerminalPerson terminal;
-    const bool isSetFile =
-        text::EqualsNoCase(std::filesystem::path(options.file).extension().string(), ".chr");
+    const bool isSetFile = text::EqualsNoCase(std::filesystem::path(options.file).extension().string(),
+                                              store::extension::kCharacterSets);
     const std::vector<std::string> lines = isSetFile ? pictures::ListSetsInFile(options.file, terminal)
                                                      : pictures::ListSets(*OpenToRead(options.file));
     for (const std::string& line : lines) {
@@ -37,7 +39,9 @@ int ListSets(const CharsetOptions& options) {
 
 int Save(const CharsetOptions& options) {
     TerminalPerson terminal;
-    CheckTarget({options.setFile, store::Content::Text, ".chr", options.file, options.force}, terminal);
+    CheckTarget({options.setFile, store::Content::Text, store::extension::kCharacterSets, options.file,
+                 options.force},
+                terminal);
     const auto adventure = OpenToRead(options.file);
     std::vector<std::string> selected;
     for (const int set : options.sets) {
@@ -58,7 +62,7 @@ int LoadSet(const CharsetOptions& options) {
 
 void AddCharsetVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<CharsetOptions>();
-    const CLI::Range setNumbers(0, 999);
+    const CLI::Range setNumbers(0, store::kHighestCharacterSet);
     verb.require_subcommand(1);
 
     CLI::App* list =

@@ -5,6 +5,7 @@
 #include "cli/verbs.h"
 #include "condacts/numbers.h"
 #include "interchange/unmarlo/picture_import.h"
+#include "store/record_limits.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 
@@ -66,7 +67,7 @@ void AddImportPictureVerb(CLI::App& verb, Chosen& chosen) {
     AddAdventureOption(verb, options->file)->required();
     verb.add_option("record", options->record, "The picture they replace, and those behind it")
         ->required()
-        ->check(CLI::Range(0, 999));
+        ->check(CLI::Range(0, store::kHighestRecord));
     verb.add_option("--goes-to", options->goesTo,
                     "N=M: picture N of the listing goes to M, and GOSUBs to it follow");
     Runs(verb, chosen, options, ImportPicture);

@@ -1,4 +1,3 @@
-#include <fstream>
 #include <iostream>
 #include <vector>
 
@@ -6,9 +5,11 @@
 #include "cli/json.h"
 #include "cli/source_adventure.h"
 #include "cli/verbs.h"
+#include "interchange/source_file.h"
 #include "platform/error.h"
 #include "references/lint.h"
 #include "references/place_text.h"
+#include "store/extensions.h"
 #include "text/safe_text.h"
 #include "text/utf8.h"
 
@@ -38,7 +39,8 @@ struct Result {
 };
 
 bool IsAdventure(const std::string& file) {
-    return text::EqualsNoCase(std::filesystem::path(file).extension().string(), ".fbd");
+    return text::EqualsNoCase(std::filesystem::path(file).extension().string(),
+                              store::extension::kAdventure);
 }
 
 references::LintSwitches SwitchesOf(const std::vector<std::string>& lines) {
@@ -50,8 +52,8 @@ references::LintSwitches SwitchesOf(const std::vector<std::string>& lines) {
 }
 
 void AddSwitchesOfSource(const std::string& source, references::LintSwitches& switches) {
-    std::ifstream file(source);
-    for (std::string line; std::getline(file, line);) {
+    interchange::SourceFile file(source);
+    for (std::string line; file.Next(line);) {
         const std::size_t at = line.find(kDirective);
         if (at != std::string::npos) switches.Add(std::string_view(line).substr(at + kDirective.size()));
     }

@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <exception>
 #include <iostream>
+#include <new>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include <CLI/CLI.hpp>
@@ -15,25 +17,40 @@ namespace {
 
 using namespace fabula;
 
-int Fail(const std::exception& error, int status) {
-    std::cerr << "fabula: " << text::SafeLines(error.what()) << "\n";
+int Fail(const std::string& sentence, int status) {
+    std::cerr << "fabula: " << text::SafeLines(sentence) << "\n";
     return status;
 }
 
-int RunChosen(const cli::Chosen& chosen) {
+/// Tells in one sentence what is being caught. What has no sentence of its own is told with what was being
+/// done ("'fabula uses' ran").
+int FailWithCaught(const std::string& doing) {
+    const std::string failed = "Something failed while " + doing + ": ";
+    try {
+        throw;
+    } catch (const cli::UsageError& error) {
+        return Fail(error.what(), cli::kWrongUsage);
+    } catch (const store::FilterError& error) {
+        return Fail(error.what(), cli::kWrongUsage);
+    } catch (const Error& error) {
+        return Fail(error.what(), cli::kFailed);
+    } catch (const std::bad_alloc&) {
+        return Fail("There is not enough memory for this.", cli::kFailed);
+    } catch (const std::exception& error) {
+        return Fail(failed + error.what(), cli::kFailed);
+    } catch (...) {
+        return Fail(failed + "a fault without a name.", cli::kFailed);
+    }
+}
+
+int RunChosen(const cli::Chosen& chosen, const std::string& verb) {
     try {
         const int status = chosen.body();
         std::cout.flush();
         if (!std::cout) throw Error("Could not write the output.");
         return status;
-    } catch (const cli::UsageError& error) {
-        return Fail(error, cli::kWrongUsage);
-    } catch (const store::FilterError& error) {
-        return Fail(error, cli::kWrongUsage);
-    } catch (const std::bad_alloc&) {
-        return Fail(Error("There is not enough memory for this."), cli::kFailed);
-    } catch (const std::exception& error) {
-        return Fail(error, cli::kFailed);
+    } catch (...) {
+        return FailWithCaught("'fabula " + verb + "' ran");
     }
 }
 
@@ -49,7 +66,7 @@ void AddVerbs(CLI::App& app, std::string_view first, cli::Chosen& chosen) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
     CLI::App app("Makes and plays text adventures.", "fabula");
     app.set_version_flag("--version", "fabula " FABULA_VERSION);
     app.require_subcommand(1);
@@ -60,5 +77,7 @@ int main(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? cli::kDone : cli::kWrongUsage;
     }
-    return RunChosen(chosen);
+    return RunChosen(chosen, app.get_subcommands().front()->get_name());
+} catch (...) {
+    return FailWithCaught("the command line was read");
 }

@@ -8,6 +8,7 @@
 #include "engine/trace_file.h"
 #include "platform/clock.h"
 #include "platform/error.h"
+#include "store/extensions.h"
 #include "terminal/line_editor.h"
 #include "terminal/line_reader.h"
 #include "terminal/session.h"
@@ -89,7 +90,9 @@ int Play(const PlayOptions& options) {
     if (originsFile.IsWanted()) origins.emplace(originsFile.Stream());
     std::optional<engine::TraceFile> trace;
     if (!options.trace.empty()) {
-        CheckTarget({options.trace, store::Content::Text, ".trc", options.file, options.force}, person);
+        CheckTarget(
+            {options.trace, store::Content::Text, store::extension::kTrace, options.file, options.force},
+            person);
         trace.emplace(options.trace, TraceHeader(options));
     }
 

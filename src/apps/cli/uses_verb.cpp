@@ -7,6 +7,7 @@
 #include "platform/error.h"
 #include "references/index.h"
 #include "references/place_text.h"
+#include "store/record_limits.h"
 #include "text/numbers.h"
 #include "text/safe_text.h"
 #include "text/utf8.h"
@@ -42,7 +43,8 @@ Kind KindNamed(const std::string& name) {
 std::vector<Question> QuestionsAbout(store::Adventure& adventure, Kind kind, const std::string& what) {
     const std::string name = std::string(references::EntryOf(kind).name) + " " + what;
     if (const auto number = text::WholeNumber(what)) {
-        if (*number < 0 || *number > 999'999) throw UsageError("'" + what + "' is no number of a record");
+        if (*number < 0 || *number > store::kHighestKey)
+            throw UsageError("'" + what + "' is no number of a record");
         return {{{kind, static_cast<int>(*number)}, references::kAnyType, name}};
     }
     if (kind != Kind::Word) throw UsageError("'" + what + "' is no number of a record");

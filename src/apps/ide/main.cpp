@@ -9,6 +9,7 @@
 #include "authoring/files/start_up.h"
 #include "ide/printing/print_to.h"
 #include "ide/window/main_window.h"
+#include "ide/window/typed_texts.h"
 #include "midi/device_output.h"
 #include "midi/player.h"
 #include "platform/error.h"
@@ -138,11 +139,14 @@ int Run(int argc, char** argv) {
         FindPlaces(*files, environment, folders));
     shown = &window;
     qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
-    border.SetKeep([&window] { return window.Logic().KeepACopy(); });
+    border.SetKeep([&window] { return window.Logic().KeepACopy(ide::TypedTexts()); });
     window.show();
-    window.Start(arguments.positionalArguments().isEmpty()
-                     ? std::filesystem::path()
-                     : qt::PathFromQt(arguments.positionalArguments().first()));
+    const auto start = [&] {
+        const QStringList files = arguments.positionalArguments();
+        window.Start(files.isEmpty() ? std::filesystem::path() : qt::PathFromQt(files.first()));
+        return true;
+    };
+    border.Run(start, [] { return std::string("the program began"); });
     return app.Run(border);
 }
 

@@ -61,7 +61,11 @@ int Run(int argc, char** argv) {
     // What a game has come to lies in the autosave after each turn.
     qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
     const QStringList files = arguments.positionalArguments();
-    if (!files.isEmpty()) window.OpenAtStart(qt::PathFromQt(files.first()));
+    const auto start = [&] {
+        if (!files.isEmpty()) window.OpenAtStart(qt::PathFromQt(files.first()));
+        return true;
+    };
+    border.Run(start, [] { return std::string("the program began"); });
     window.show();
     if (const std::string notKept = qt::WhyNotKept(settings); !notKept.empty()) window.Tell(notKept);
     return app.Run(border);

@@ -1,11 +1,13 @@
 #include "qt/game_image.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImageReader>
 #include <array>
+#include <cstdint>
+#include <string>
 
-#include "qt/strings.h"
+#include "platform/error.h"
+#include "platform/whole_file.h"
 
 namespace fabula::qt {
 
@@ -48,9 +50,13 @@ QImage DecodeImage(const QByteArray& bytes) {
 }
 
 QImage ReadImage(const std::filesystem::path& path) {
-    QFile file(PathToQt(path));
-    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestImageFile) return {};
-    return DecodeImage(file.read(kLargestImageFile));
+    try {
+        const std::string bytes =
+            platform::ReadWholeFile(path, std::uintmax_t{kLargestImageFile}, "read an image");
+        return DecodeImage(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    } catch (const Error&) {
+        return {};  // it is shown as no image, whatever the reason
+    }
 }
 
 }  // namespace fabula::qt

@@ -1,28 +1,32 @@
 #include "qt/help_book.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextList>
 #include <algorithm>
+#include <cstdint>
 
+#include "platform/error.h"
+#include "platform/whole_file.h"
 #include "qt/strings.h"
 
 namespace fabula::qt {
 namespace {
 
 /// No page of the help is longer; more of a file is not read.
-constexpr qint64 kLongestPage = 4 * 1024 * 1024;
+constexpr std::uintmax_t kLongestPage = 4 * 1024 * 1024;
 constexpr qsizetype kExcerptBefore = 40;
 constexpr qsizetype kExcerptLength = 140;
 
 QString ReadFile(const std::filesystem::path& path) {
     if (path.empty()) return {};
-    QFile file(PathToQt(path));
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    return QString::fromUtf8(file.read(kLongestPage));
+    try {
+        return ToQt(platform::ReadStartOfFile(path, kLongestPage, "read a page of the help"));
+    } catch (const Error&) {
+        return {};  // a page that can't be read is shown as empty
+    }
 }
 
 QString LinkOf(const QTextBlock& block) {

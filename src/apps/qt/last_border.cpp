@@ -13,6 +13,9 @@
 namespace fabula::qt {
 namespace {
 
+/// For what is thrown and is no exception.
+constexpr const char* kNameless = "A fault without a name.";
+
 /// What an exception says of itself, in words.
 std::string WordsOf(const std::exception& error) {
     if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr)
@@ -58,7 +61,7 @@ std::optional<bool> LastBorder::Run(const std::function<bool()>& work,
     } catch (const std::exception& error) {
         Tell(WordsOf(error), doing);
     } catch (...) {
-        Tell("A fault without a name.", doing);
+        Tell(kNameless, doing);
     }
     return std::nullopt;
 }
@@ -75,17 +78,25 @@ void LastBorder::Tell(const std::string& what, const std::function<std::string()
             "Something failed while " + doing() + ": " + what + (kept.empty() ? "" : "\n\n" + kept),
             "Error");
     } catch (const std::exception& error) {
-        std::fputs((what + "\nThis could not be shown: " + error.what() + "\n").c_str(), stderr);
-        end_(EXIT_FAILURE);
+        EndUntold(what, WordsOf(error));
+    } catch (...) {
+        EndUntold(what, kNameless);
     }
     telling_ = false;
+}
+
+void LastBorder::EndUntold(const std::string& what, const std::string& why) {
+    std::fputs((what + "\nThis could not be shown: " + why + "\n").c_str(), stderr);
+    end_(EXIT_FAILURE);
 }
 
 std::string LastBorder::Kept() {
     try {
         return keep_();
     } catch (const std::exception& error) {
-        return std::string("A copy of the work could not be kept: ") + error.what();
+        return "A copy of the work could not be kept: " + WordsOf(error);
+    } catch (...) {
+        return std::string("A copy of the work could not be kept: ") + kNameless;
     }
 }
 

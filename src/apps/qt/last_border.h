@@ -32,6 +32,7 @@ class LastBorder {
 
   private:
     void Tell(const std::string& what, const std::function<std::string()>& doing);
+    void EndUntold(const std::string& what, const std::string& why);
     std::string Kept();
 
     platform::Dialogs& dialogs_;

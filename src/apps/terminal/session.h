@@ -10,6 +10,7 @@
 
 namespace fabula::terminal {
 
+/// How a session plays its game; as it stands no time passes and nothing is traced.
 struct SessionOptions {
     std::optional<std::uint32_t> seed;  ///< for random numbers that can be drawn again
     bool realTime = false;              ///< time-outs run out and pauses last

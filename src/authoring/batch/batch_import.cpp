@@ -9,6 +9,7 @@
 #include "authoring/batch/batch_work.h"
 #include "authoring/entries/entries.h"
 #include "platform/error.h"
+#include "store/record_limits.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -140,7 +141,7 @@ class Importer {
         const std::string_view key = store::FindTable(record.table->number)->key;
         const auto* entry = EntryOf(record, key);
         const auto number = entry ? text::WholeNumber(text::TrimBlanks(entry->value)) : std::nullopt;
-        if (number && *number >= 0 && *number <= kHighestKey)
+        if (number && *number >= 0 && *number <= store::kHighestKey)
             return Found{&record, std::to_string(*number), static_cast<int>(*number)};
         if (quietly) return std::nullopt;
         return Reject(record, "The record has no number that is valid.");
@@ -202,7 +203,6 @@ class Importer {
         int key = 0;
         std::vector<std::string> values;
     };
-    static constexpr std::int64_t kHighestKey = 999'999;
 
     const std::filesystem::path file_;
     interchange::JobStatus& status_;

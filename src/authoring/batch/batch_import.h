@@ -7,6 +7,7 @@
 
 namespace fabula::authoring {
 
+/// What an import of a batch file came to; what it could not do stands in the status.
 struct BatchImportResult {
     bool done = false;
     int changed = 0;        ///< records that were edited or added

@@ -2,6 +2,7 @@
 
 #include "authoring/batch/batch_import.h"
 #include "interchange/batch/batch_writer.h"
+#include "store/extensions.h"
 #include "store/file_copy.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -72,7 +73,7 @@ std::optional<std::string> ExportBatchFile(ScreenContext& context, const TableVi
     const auto file = context.dialogs.ChooseFile(question);
     if (!file) return std::nullopt;
     const std::string text = interchange::ExportTable(context.document.Adventure(), *selection);
-    store::CheckTarget(*file, store::Content::Text, ".fbb");
+    store::CheckTarget(*file, store::Content::Text, store::extension::kBatch);
     store::WriteFile(*file, text);
     return "Written to " + file->filename().string() + ".";
 }

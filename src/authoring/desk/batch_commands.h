@@ -16,6 +16,7 @@ namespace fabula::authoring {
 std::optional<std::string> ExportBatchFile(ScreenContext& context, const TableView& view,
                                            std::optional<int> key);
 
+/// What became of a batch file that was chosen.
 struct BatchFileRead {
     std::string message;  ///< what was done, in a sentence
     bool mustExit = false;

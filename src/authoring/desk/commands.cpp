@@ -145,11 +145,4 @@ const CommandEntry& EntryOf(Command command) {
     return *entry;
 }
 
-std::optional<Command> FindCommand(std::string_view key) {
-    for (const CommandEntry& entry : kCommands) {
-        if (entry.key == key) return entry.id;
-    }
-    return std::nullopt;
-}
-
 }  // namespace fabula::authoring

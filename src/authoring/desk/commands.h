@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -107,9 +106,6 @@ struct CommandEntry {
 std::span<const CommandEntry> AllCommands();
 
 const CommandEntry& EntryOf(Command command);
-
-/// The command with this key; nullopt for any other text.
-std::optional<Command> FindCommand(std::string_view key);
 
 /// How a command stands at the moment.
 struct ActionState {

@@ -285,11 +285,22 @@ std::filesystem::path MainScreen::BackupFolder() const {
     return paths_.state / "backups";
 }
 
-std::string MainScreen::KeepACopy() {
+std::string MainScreen::KeepACopy(std::string_view typed) {
     if (!desk_ || paths_.state.empty()) return "";
-    Backups backups(paths_.state / "backups", host_.clock);
-    const auto copy = backups.Add(desk_->document.Adventure());
-    return copy ? "A copy of the adventure is at " + copy->string() + "." : "";
+    Backups backups(BackupFolder(), host_.clock);
+    std::string told;
+    // First the typed texts: they are nowhere else.
+    if (!typed.empty()) {
+        const auto kept = backups.KeepTyped(desk_->document.File(), typed);
+        told = "What stood in the fields of open windows is at " + kept.string() + ".";
+    }
+    if (const auto copy = backups.Add(desk_->document.Adventure())) {
+        told.append(told.empty() ? "" : "\n")
+            .append("A copy of the adventure is at ")
+            .append(copy->string())
+            .append(".");
+    }
+    return told;
 }
 
 void MainScreen::Close() {

@@ -115,10 +115,11 @@ class MainScreen {
     /// Puts a backup in the place of the open adventure, after a question, and opens it. The adventure as
     /// it was is added to the backups. When that fails it is as it was, and open again.
     bool Restore(const Backup& copy);
-    /// After a fault that nobody expected: adds a copy of the open adventure to its backups, and gives a
-    /// sentence that tells where it is; "" when no adventure is open or the latest backup holds all of it.
-    /// Throws fabula::Error.
-    std::string KeepACopy();
+    /// After a fault that nobody expected: adds a copy of the open adventure to its backups, and keeps
+    /// `typed`, what stands in the fields of open screens and is in no file yet, in a text of its own; ""
+    /// when there is nothing such. Gives a sentence for each that tells where it is; "" when there is
+    /// nothing to keep or no adventure is open. Throws fabula::Error.
+    std::string KeepACopy(std::string_view typed = "");
 
     /// The adventures that were opened last, the latest first.
     const std::vector<std::filesystem::path>& RecentFiles() const { return recent_.Files(); }
@@ -208,11 +209,9 @@ class MainScreen {
     bool StoreTyped(std::string_view text);
 
     /// Whether process tables show what the numbers in their lines stand for.
-    bool NamesShown() const { return namesShown_; }
     void ShowNames(bool shown);
 
     /// Whether tables show the author's comments as a column.
-    bool CommentsShown() const { return commentsShown_; }
     void ShowComments(bool shown);
 
     /// How the rows of the process table in view are grouped. Each view keeps its own.

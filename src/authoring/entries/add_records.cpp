@@ -33,13 +33,6 @@ int Highest(store::Adventure& adventure, TableNum table, const std::string& fiel
     return query.First({}) ? std::max(static_cast<int>(query.Number(0)), -1) : -1;
 }
 
-void AddFlag(Cursor& flags, int number) {
-    flags.AddNew();
-    for (const auto& [field, value] : store::FieldsOfNewFlag(number, " "))
-        flags.SetField(field, value);
-    flags.Update();
-}
-
 /// Asks until the name will do; nullopt when the author gives up.
 std::optional<std::string> AskSetName(platform::Dialogs& dialogs, int set) {
     while (true) {
@@ -89,8 +82,11 @@ void AddFlags(ScreenContext& context) {
     // Asked again, since the question may have stood for long.
     const int last = Highest(adventure, TableNum::Flags, "flgnum");
     Cursor& flags = adventure.OpenTable(TableNum::Free22, "* from flags", "flgnum<0");
-    for (int n = 1; n <= kFlagsAtATime; ++n)
-        AddFlag(flags, last + n);
+    for (int n = 1; n <= kFlagsAtATime; ++n) {
+        flags.AddNew();
+        store::FillNewFlag(flags, last + n, " ");
+        flags.Update();
+    }
     change.Commit();
 }
 

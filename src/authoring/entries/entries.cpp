@@ -58,12 +58,10 @@ std::string KeyIs(TableNum table, int key) {
     return std::string(store::FindTable(table)->key) + "=" + std::to_string(key);
 }
 
-/// Beyond 255 the older types can't count, and 255 itself is no object there.
 bool IsFull(Adventure& adventure, TableNum table, int key) {
     const int wanted = table == TableNum::Locations ? key : CountRecords(adventure, table);
-    if (IsFabula(adventure)) return wanted > condacts::limit::kHighestRecord;
-    return wanted > (table == TableNum::Objects ? condacts::limit::kHighestRecordOfOthers - 1
-                                                : condacts::limit::kHighestRecordOfOthers);
+    return wanted > (table == TableNum::Objects ? condacts::HighestObject(adventure.Kind())
+                                                : condacts::HighestRecord(adventure.Kind()));
 }
 
 /// The message for objects names 999 in every type.

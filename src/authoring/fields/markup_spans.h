@@ -12,6 +12,7 @@ namespace fabula::authoring {
 // What an editor of texts marks in them. Places and sizes are bytes of the text that was given, which may
 // be a whole description or one line of it: a word never goes over a line end.
 
+/// What a part of a text is to its markup.
 enum class MarkupKind {
     Tag,     ///< brackets, name and "=" of a tag
     Value,   ///< what stands behind the "="
@@ -19,6 +20,7 @@ enum class MarkupKind {
     Fault,   ///< what ValidateDescription would refuse; lies over the others
 };
 
+/// A part of a text, in bytes from its start.
 struct MarkupSpan {
     MarkupKind kind = MarkupKind::Tag;
     std::size_t begin = 0;

@@ -4,6 +4,7 @@
 
 #include "authoring/fields/brief_text.h"
 #include "authoring/fields/location_names.h"
+#include "store/new_flag.h"
 
 namespace fabula::authoring {
 namespace {
@@ -25,7 +26,7 @@ std::vector<ListItem> LoadFlags(Adventure& adventure) {
     PreparedQuery rows = adventure.Prepare(TableNum::Flags, "flgnum, flgdesc, flguse", "", "flgnum");
     std::vector<ListItem> items;
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        const std::string_view use = rows.Text(2) == "Unknown" ? "" : rows.Text(2);
+        const std::string_view use = rows.Text(2) == store::kUnknownFlagUse ? "" : rows.Text(2);
         items.push_back({static_cast<int>(rows.Number(0)), BriefText(rows.Text(1), use)});
     }
     return items;

@@ -20,6 +20,7 @@ struct ShownRun {
 };
 using ShownLine = std::vector<ShownRun>;  ///< one without runs is an empty line
 
+/// A text as the game will show it.
 struct ShownText {
     std::vector<ShownLine> lines;  ///< at least one
     bool complete = true;          ///< false when the text was longer than kLongestPreview

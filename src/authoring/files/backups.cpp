@@ -12,6 +12,7 @@
 
 #include "platform/error.h"
 #include "platform/file_names.h"
+#include "store/extensions.h"
 #include "store/file_copy.h"
 #include "text/numbers.h"
 
@@ -20,7 +21,6 @@ namespace {
 
 using std::filesystem::path;
 
-constexpr const char* kExtension = ".fbd";
 constexpr std::size_t kChunk = 65536;
 
 std::string NameOfCopy(const path& adventure) {
@@ -41,7 +41,7 @@ constexpr std::string_view kForm = "_dddddddd_dddddd";
 /// count.
 bool IsCopyOf(const std::string& name, const path& file) {
     const std::string stem = file.stem().string();
-    if (file.extension() != kExtension || !stem.starts_with(name + "_")) return false;
+    if (file.extension() != store::extension::kAdventure || !stem.starts_with(name + "_")) return false;
     const std::string_view rest = std::string_view(stem).substr(name.size());
     if (rest.size() < kForm.size()) return false;
     for (std::size_t i = 0; i < rest.size(); ++i) {
@@ -171,7 +171,7 @@ std::optional<path> Backups::Add(store::Adventure& adventure) {
         const std::vector<path> before = Of(source);
         std::string stem = name + "_" + Stamp(clock_.Now());
         if (!before.empty()) stem += "_" + std::to_string(NumberOfCopy(name, before.front()) + 1);
-        const path target = folder / (stem + kExtension);
+        const path target = folder / stem.append(store::extension::kAdventure);
         const store::TemporaryFile making(target);
         CopyWhileLocked(adventure, making.Path());
         if (!before.empty() && SameBytes(making.Path(), before.front())) return std::nullopt;
@@ -181,6 +181,16 @@ std::optional<path> Backups::Add(store::Adventure& adventure) {
     } catch (const std::filesystem::filesystem_error& error) {
         throw Error(doing + error.code().message() + ".");
     }
+}
+
+path Backups::KeepTyped(const path& adventure, std::string_view text) const {
+    const path folder = FolderOf(adventure);
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error) throw Error("Could not make the folder " + folder.string() + ": " + error.message() + ".");
+    const path file = folder / (NameOfCopy(adventure) + "_typed.txt");
+    store::WriteFile(file, text);
+    return file;
 }
 
 std::vector<CountDifference> CompareCounts(store::Adventure& backup, store::Adventure& now) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/clock.h"
@@ -34,6 +35,10 @@ class Backups {
     /// The copies of an adventure file, the latest first, in the order of their making.
     std::vector<std::filesystem::path> Of(const std::filesystem::path& adventure) const;
     std::vector<Backup> List(const std::filesystem::path& adventure) const;
+
+    /// Writes a text that is in no adventure yet beside the copies, in place of one from before, and gives
+    /// its file. Throws fabula::Error.
+    std::filesystem::path KeepTyped(const std::filesystem::path& adventure, std::string_view text) const;
 
     static constexpr std::size_t kMostBackups = 10;
     static constexpr int kDaysKept = 7;

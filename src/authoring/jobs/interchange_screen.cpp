@@ -10,6 +10,7 @@
 #include "authoring/jobs/status_text.h"
 #include "platform/error.h"
 #include "platform/whole_file.h"
+#include "store/extensions.h"
 #include "store/file_copy.h"
 #include "text/str_edit.h"
 
@@ -155,7 +156,7 @@ void InterchangeScreen::ChooseSource() {
     if (writes) agreed_ = *file;
     if (mode_ == JobMode::Import) ChooseKindOf(*file);
     if (mode_ == JobMode::Import && text::Trimmed(database).empty())
-        database = path(*file).replace_extension(".fbd").string();
+        database = path(*file).replace_extension(store::extension::kAdventure).string();
     Show();
 }
 
@@ -190,7 +191,7 @@ bool InterchangeScreen::ImportIt() {
     if (database.empty()) ChooseDatabase();
     if (database.empty()) return false;
     path target = database;
-    if (!target.has_extension()) target += ".fbd";
+    if (!target.has_extension()) target += store::extension::kAdventure;
     database = target.string();
     if (store::IsSameFile(source, target))
         return Refuse(host_.dialogs, "The database cannot be the source file itself");

@@ -33,6 +33,7 @@ struct LimitRow {
     std::int64_t highest;
 };
 
+/// Object 255, which can't be added any more, is let pass: it is told as one beyond 255 only.
 constexpr LimitRow kLimits[] = {
     {"Verifying Locations", "location", TableNum::Locations, "locnum",
      condacts::limit::kHighestRecordOfOthers},
@@ -70,7 +71,7 @@ class Verification {
         CheckDefaultPicture();
         if (IsOwnMarlo()) CheckMarlo();
         if (rules_ == nullptr) CheckWhatIsPlayed();
-        if (adventure_.AdventureTypeLower() != "fabula") CheckLimits();
+        if (adventure_.Kind() != store::AdventureKind::Fabula) CheckLimits();
         if (rules_ != nullptr) {
             CheckCondActsForExport();
             if (!rules_->commands.empty()) CheckPicturesForExport();
@@ -110,7 +111,8 @@ class Verification {
     bool IsOwnMarlo() {
         PreparedQuery settings = adventure_.Prepare(TableNum::Adventure, "unmarloed, adventype", "");
         settings.First({});
-        return settings.Number(0) == 0 && settings.Text(1) == "Marlo";
+        return settings.Number(0) == 0 &&
+               store::AdventureKindOf(settings.Text(1)) == store::AdventureKind::Marlo;
     }
 
     void CheckMarlo() {

@@ -1,8 +1,7 @@
 #include "authoring/jobs/verify_screen.h"
 
-#include <charconv>
-
 #include "authoring/jobs/status_text.h"
+#include "text/numbers.h"
 
 namespace fabula::authoring {
 namespace {
@@ -14,13 +13,6 @@ constexpr std::int64_t kVerifyStepsAYield = 10;
 bool Take(std::string_view& text, std::string_view word) {
     if (!text.starts_with(word)) return false;
     text.remove_prefix(word.size());
-    return true;
-}
-
-bool TakeNumber(std::string_view& text, int& number) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc()) return false;
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return true;
 }
 
@@ -66,11 +58,12 @@ bool VerifyScreen::SaveStatus(platform::Dialogs& dialogs) const {
 }
 
 std::optional<VerifyScreen::Entry> VerifyScreen::EntryOf(std::string_view line) {
-    Entry entry;
-    if (Take(line, "Process Table ") && TakeNumber(line, entry.estype) && Take(line, " Entry # ") &&
-        TakeNumber(line, entry.canum) && Take(line, " ("))
-        return entry;
-    return std::nullopt;
+    if (!Take(line, "Process Table ")) return std::nullopt;
+    const std::optional<int> table = text::TakeNumber(line);
+    if (!table || !Take(line, " Entry # ")) return std::nullopt;
+    const std::optional<int> entry = text::TakeNumber(line);
+    if (!entry || !Take(line, " (")) return std::nullopt;
+    return Entry{*table, *entry};
 }
 
 void VerifyScreen::StatusAdded(std::string_view text) {

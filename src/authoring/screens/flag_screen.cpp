@@ -1,19 +1,26 @@
 #include "authoring/screens/flag_screen.h"
 
 #include "authoring/fields/text_field.h"
+#include "store/new_flag.h"
 
 namespace fabula::authoring {
 namespace {
 
-constexpr const char* kUnknown = "Unknown";
-
 std::vector<ListItem> Types() {
-    return {{0, "System"}, {1, "User"}};
+    return {{0, std::string(store::kSystemFlagType)}, {1, std::string(store::kUserFlagType)}};
 }
 
 std::vector<ListItem> Uses() {
-    return {{0, kUnknown},  {1, "Counter"}, {2, "Location"}, {3, "Object"}, {4, "Score"},
-            {5, "Setting"}, {6, "Switch"},  {7, "Timer"},    {8, "Word"},   {9, "Work"}};
+    return {{0, std::string(store::kUnknownFlagUse)},
+            {1, "Counter"},
+            {2, "Location"},
+            {3, "Object"},
+            {4, "Score"},
+            {5, "Setting"},
+            {6, "Switch"},
+            {7, "Timer"},
+            {8, "Word"},
+            {9, "Work"}};
 }
 
 }  // namespace
@@ -45,7 +52,7 @@ bool FlagScreen::LeaveUse() {
     const ListItem* chosen = use.Chosen();
     // The quote in the title is the system's own.
     if (chosen == nullptr) return RefuseField("use", "Must choose a Value for Use", "Error'");
-    if (chosen->text != kUnknown) return true;
+    if (chosen->text != store::kUnknownFlagUse) return true;
     return RefuseField("use", "Cannot use Unknown as a Usage");
 }
 

@@ -244,7 +244,7 @@ bool ObjectScreen::LeaveWeight() {
     if (!HasAttributes()) return true;
     const auto number = text::WholeNumber(text::TrimBlanks(weight));
     if (number && *number >= 0 && *number <= kHeaviest) return true;
-    return RefuseField("weight", "Weight must be from 0 to 63");
+    return RefuseField("weight", condacts::kWeightFault);
 }
 
 int ObjectScreen::Place() const {

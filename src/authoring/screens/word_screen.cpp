@@ -96,7 +96,7 @@ bool WordScreen::LeaveNumber() {
     const auto typed = text::WholeNumber(text::TrimBlanks(number));
     if (!typed) return RefuseField("number", "The Word # is not numeric");
     if (*typed < kLowestNumber || *typed > kHighestNumber) {
-        return RefuseField("number", "Word # must be from 2 to 254 inclusive");
+        return RefuseField("number", condacts::kWordNumberFault);
     }
     return CheckClash(static_cast<int>(*typed));
 }

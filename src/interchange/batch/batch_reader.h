@@ -18,6 +18,7 @@ struct BatchEntry {
     std::string text = {};  ///< of that line
 };
 
+/// A record of a batch file: the fields that stand there, which need not be all.
 struct BatchRecord {
     const BatchTable* table = nullptr;
     std::int64_t line = 0;  ///< of its first field

@@ -1,6 +1,7 @@
 #include "interchange/batch/batch_tables.h"
 
 #include "interchange/fabula/export_fields.h"
+#include "store/new_flag.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -13,7 +14,7 @@ using store::TableNum;
 constexpr BatchTable kTables[] = {
     {TableNum::Pictures, "/GRA", ""},
     {TableNum::ProcDesc, "/PRD", "pmsgnum>2"},
-    {TableNum::Flags, "/FLG", "flgtype='user'"},
+    {TableNum::Flags, "/FLG", store::kUserFlags},
     {TableNum::Vocabulary, "/VOC", "voctypen<>7"},
     {TableNum::SystemMessages, "/SMS", ""},
     {TableNum::ProcessTables, "/PRO", ""},

@@ -26,6 +26,7 @@ enum class BatchForm : int {
 /// What stands behind a field's lines: "ENDDESC"; "" for one of a single line.
 std::string_view EndMarkerOf(BatchForm form);
 
+/// A field that travels in batch files.
 struct BatchField {
     std::string field;  ///< in the table
     std::string name;   ///< in the file
@@ -33,6 +34,7 @@ struct BatchField {
     store::FieldType type = store::FieldType::VarWChar;
 };
 
+/// A table whose records travel in batch files.
 struct BatchTable {
     store::TableNum number;
     std::string_view marker;  ///< "/LOC"

@@ -26,6 +26,7 @@ constexpr bool KeepsLineEnds(ExportUse use) {
     return use == ExportUse::LongText || use == ExportUse::Comment;
 }
 
+/// A field that travels in export files.
 struct ExportField {
     std::string name;
     std::string type;  ///< its type tag

@@ -9,6 +9,7 @@
 #include "platform/error.h"
 #include "store/comments.h"
 #include "store/filter.h"
+#include "store/new_flag.h"
 #include "store/record_check.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
@@ -48,7 +49,7 @@ const std::vector<ExtraTable>& ExtraTables() {
         {TableNum::Adventure, "", "", false, false, {}},
         {TableNum::Locations, "locnum", "", false, false, {"locshortdesc", "picloc", "pickey"}},
         {TableNum::ProcDesc, "pmsgnum", "", false, false, {"pmsgmsg"}},
-        {TableNum::Flags, "flgnum", "flgmod>0 and flgtype='User'", false, false, {"flguse", "flgdesc"}},
+        {TableNum::Flags, "flgnum", store::kEditableUserFlags, false, false, {"flguse", "flgdesc"}},
         {TableNum::Characters, "charkey", "", true, true, {}},
         {TableNum::Pictures, "locnum", "", false, true, {}},
     };
@@ -74,7 +75,7 @@ std::vector<ExportField> FieldsOf(Adventure& adventure, const ExtraTable& table)
 }
 
 bool SaysNothing(std::string_view value) {
-    return text::TrimBlanks(value).empty() || value == "Unknown";
+    return text::TrimBlanks(value).empty() || value == store::kUnknownFlagUse;
 }
 
 /// The tables whose records may have a comment, by the field that numbers them.

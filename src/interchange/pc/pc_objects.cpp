@@ -54,7 +54,7 @@ void PcObjects::Slash(std::string_view line) {
     }
     const std::optional<int> weight = condacts::WholeNumber(tokens[2]);
     if (!weight || *weight > condacts::limit::kHeaviestObject) {
-        job_.Fault("Weight must be from 0 to 63", tokens[2]);
+        job_.Fault(std::string(condacts::kWeightFault), tokens[2]);
         return;
     }
     Cursor& object = objects_->GoTo(*number);

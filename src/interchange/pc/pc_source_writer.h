@@ -9,7 +9,9 @@ namespace fabula::interchange {
 // would come back otherwise than it is (a comment character in a text, a line that begins with "/", a word
 // of more letters than count) is named in the status, record by record, and the export goes on.
 
+/// A source of the PC engine.
 bool ExportPCVel(ExportContext& context);
+/// The same dialect with the names and tags of ACE.
 bool ExportAce(ExportContext& context);
 
 }  // namespace fabula::interchange

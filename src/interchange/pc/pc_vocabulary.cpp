@@ -14,10 +14,8 @@ namespace {
 using condacts::Word;
 using store::TableNum;
 
-constexpr int kHighestReservedWord = 255;
-
 bool IsWordNumber(int number, int type) {
-    if (type == condacts::kReserved) return number <= kHighestReservedWord;
+    if (type == condacts::kReserved) return number <= condacts::kNoWordNumber;
     return number >= condacts::limit::kLowestWord && number <= condacts::limit::kHighestWord;
 }
 
@@ -63,7 +61,7 @@ void PcVocabulary::Line(std::string_view line) {
     job_.FaultBehind(tokens, 3);
     const Word word{job_.Word(tokens[0]), *number, WordTypeFromSource(tokens[2])};
     if (!IsWordNumber(word.number, word.type)) {
-        job_.Fault("Word # must be from 2 to 254 inclusive", tokens[1]);
+        job_.Fault(std::string(condacts::kWordNumberFault), tokens[1]);
         return;
     }
     auto& sameSpelling = bySpelling_[text::LowerCase(word.word)];

@@ -29,12 +29,14 @@ struct LoadedPicture {
     int record = 0;
 };
 
+/// What came out of a listing.
 struct LoadedPictures {
     std::vector<LoadedPicture> pictures;
     /// The numbers that their GOSUBs name, as in the listing: these pictures are not loaded with them.
     std::set<int> subroutines;
 };
 
+/// Which pictures are taken out of a listing, and where they go.
 struct PictureImport {
     const FileKind& kind;  ///< one that can load pictures
     std::filesystem::path listing;

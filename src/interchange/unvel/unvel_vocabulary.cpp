@@ -11,8 +11,6 @@ constexpr Columns kWord{0, 6};
 constexpr Columns kNumber{6, 4};
 constexpr Columns kType{10, 80};
 
-constexpr int kHighestWord = 255;
-
 struct TypeName {
     std::string_view name;
     int type;
@@ -46,7 +44,7 @@ class Vocabulary final : public UnVelSection {
     void Line(std::string_view line) override {
         if (text::TrimBlanks(line).empty()) return;
         const std::string word = text::UpperCase(CutTrimmed(line, kWord));
-        const auto number = ListedNumber(CutTrimmed(line, kNumber), kHighestWord);
+        const auto number = ListedNumber(CutTrimmed(line, kNumber), condacts::kNoWordNumber);
         const int type = TypeFrom(CutTrimmed(line, kType));
         const bool isWord = !word.empty() && word.find(' ') == std::string::npos;
         if (!isWord || !number || words_.Has(word, type)) {

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "ide/dialog_stand.h"
+#include "ide/window/typed_texts.h"
 #include "qt/strings.h"
 #include "support/active_window.h"
 
@@ -66,6 +67,20 @@ TEST_P(FailingUpdate, KeepsTheDialogWithItsText) {
     ASSERT_FALSE(desk_.Boxes().empty());
     EXPECT_TRUE(desk_.Boxes().back().ends_with("its file is no longer where it was opened."))
         << desk_.Boxes().back();
+}
+
+TEST_P(FailingUpdate, AFaultFindsWhatTheDialogHolds) {
+    const auto dialog = Open();
+    dialog->findChild<QWidget*>(GetParam().field)->setFocus();
+    QWidget* field = QApplication::focusWidget();
+    QTest::keyClick(field, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClicks(field, " DONE");
+    const std::string title = qt::FromQt(dialog->windowTitle());
+    const std::string texts = ide::TypedTexts();
+    EXPECT_NE(texts.find("[" + title + ": "), std::string::npos) << texts;
+    EXPECT_NE(texts.find("]\n" + TextOf(*field) + "\n"), std::string::npos) << texts;
+    dialog->hide();
+    EXPECT_EQ(ide::TypedTexts().find(" DONE"), std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, FailingUpdate,

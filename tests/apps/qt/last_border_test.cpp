@@ -79,6 +79,24 @@ TEST_F(LastBorderTest, TellsTheFaultAlsoWhenNothingCouldBeKept) {
                             "full."));
 }
 
+TEST_F(LastBorderTest, TellsTheFaultAlsoWhenKeepingFailsWithoutAnException) {
+    border_.SetKeep([]() -> std::string { throw 5; });
+    Fail();
+    EXPECT_THAT(Boxes(),
+                ElementsAre("Error: Something failed while a key was pressed in \"Locations\": The "
+                            "file is gone.\n\nA copy of the work could not be kept: A fault without a "
+                            "name."));
+}
+
+TEST_F(LastBorderTest, EndsTheProgramWhenTheBoxFailsWithoutAnException) {
+    dialogs_.whileTelling = [] { throw 5; };
+    testing::internal::CaptureStderr();
+    Fail();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "The file is gone.\nThis could not be shown: A fault without a name.\n");
+    EXPECT_THAT(ends_, ElementsAre(EXIT_FAILURE));
+}
+
 TEST_F(LastBorderTest, EndsTheProgramAtTheFourthFaultInARow) {
     for (int i = 0; i < 3; ++i)
         Fail();

@@ -8,6 +8,7 @@
 #include "authoring/files/backups.h"
 #include "authoring/main_screen_stand.h"
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "support/template_adventure.h"
 
 namespace fabula::authoring {
@@ -314,6 +315,15 @@ TEST_F(MainWindowTest, KeepsACopyOfWhatWasChangedSinceTheLatestBackup) {
     EXPECT_EQ(
         Document(copies[0]).Adventure().OpenTable(TableNum::Messages, "def", "msgnum=0").Text("msgmsg"),
         "A draught comes in.");
+}
+
+TEST_F(MainWindowTest, KeepsWhatIsTypedBesideTheBackups) {
+    OpenNew();
+    const std::string told = main->KeepACopy("[Message 0: Text]\nA draught");
+    const auto file =
+        Backups(paths.state / "backups", clock).Of(folder / "game.fbd")[0].parent_path() / "game_typed.txt";
+    EXPECT_EQ(told, "What stood in the fields of open windows is at " + file.string() + ".");
+    EXPECT_EQ(platform::ReadWholeFile(file, 1000, "read it"), "[Message 0: Text]\nA draught");
 }
 
 TEST_F(MainWindowTest, EndsWhenAProgramUsesCharacterSetsAndTheOneBeforeDidNot) {

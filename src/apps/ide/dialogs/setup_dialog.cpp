@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "authoring/settings/setup_texts.h"
 #include "ide/dialogs/option_focus.h"
 #include "qt/strings.h"
 
@@ -33,11 +34,6 @@ constexpr KindOption kKinds[] = {
     {AdventureKind::Marlo, "marlo", "&Marlo"},
 };
 
-/// The explanations are written for captions, in which an ampersand is doubled.
-QString Plain(std::string_view explanation) {
-    return qt::Translated(explanation).replace("&&", "&");
-}
-
 }  // namespace
 
 SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
@@ -46,7 +42,7 @@ SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
       explanation_(new QLabel),
       starter_(new QCheckBox(tr("&Begin with the words and entries that most games have"))) {
     setObjectName("adventureSetup");
-    setWindowTitle(qt::Translated(AdventureSetup::kTitle));
+    setWindowTitle(qt::Translated(authoring::kSetupTitle));
     setProperty("helpPage", "frmsetup.html");
     setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* column = new QVBoxLayout(this);
@@ -121,8 +117,8 @@ QRadioButton* SetupDialog::AddOption(QBoxLayout& row, const char* name, const QS
     auto* button = new QRadioButton(text);
     button->setObjectName(name);
     button->setAccessibleName(group + ": " + QString(text).remove('&'));
-    button->setAccessibleDescription(Plain(explanation));
-    button->setToolTip(Plain(explanation));
+    button->setAccessibleDescription(qt::Translated(explanation));
+    button->setToolTip(qt::Translated(explanation));
     button->installEventFilter(this);
     row.addWidget(button);
     options_.push_back({button, explanation});
@@ -133,7 +129,7 @@ void SetupDialog::AddTypes(QBoxLayout& column) {
     QBoxLayout* row = AddGroup(column, tr("Adventure Type"));
     for (const KindOption& option : kKinds) {
         auto* button = AddOption(*row, option.name, tr(option.text), tr("Adventure Type"),
-                                 AdventureSetup::ExplainType(option.kind));
+                                 authoring::ExplainType(option.kind));
         button->setChecked(setup_.Type() == option.kind);
         QObject::connect(button, &QRadioButton::clicked, this, [this, kind = option.kind] {
             setup_.ChooseType(kind);
@@ -145,10 +141,10 @@ void SetupDialog::AddTypes(QBoxLayout& column) {
 
 void SetupDialog::AddGraphics(QBoxLayout& column) {
     QBoxLayout* row = AddGroup(column, tr("Graphics Type"));
-    auto* on = AddOption(*row, "graphic", tr("&Graphic"), tr("Graphics Type"),
-                         AdventureSetup::ExplainGraphics(true));
+    auto* on =
+        AddOption(*row, "graphic", tr("&Graphic"), tr("Graphics Type"), authoring::ExplainGraphics(true));
     auto* off = AddOption(*row, "nonGraphic", tr("N&on-Graphic"), tr("Graphics Type"),
-                          AdventureSetup::ExplainGraphics(false));
+                          authoring::ExplainGraphics(false));
     (setup_.Graphics() ? on : off)->setChecked(true);
     QObject::connect(on, &QRadioButton::clicked, this, [this] { setup_.ChooseGraphics(true); });
     QObject::connect(off, &QRadioButton::clicked, this, [this] { setup_.ChooseGraphics(false); });
@@ -158,9 +154,9 @@ void SetupDialog::AddGraphics(QBoxLayout& column) {
 void SetupDialog::AddCharSets(QBoxLayout& column) {
     QBoxLayout* row = AddGroup(column, tr("Use Character Sets:"));
     charSetsYes_ = AddOption(*row, "charSetsYes", tr("&Yes"), tr("Use Character Sets"),
-                             AdventureSetup::ExplainCharSets(true));
+                             authoring::ExplainCharSets(true));
     charSetsNo_ = AddOption(*row, "charSetsNo", tr("&No"), tr("Use Character Sets"),
-                            AdventureSetup::ExplainCharSets(false));
+                            authoring::ExplainCharSets(false));
     QObject::connect(charSetsYes_, &QRadioButton::clicked, this, [this] { setup_.ChooseCharSets(true); });
     QObject::connect(charSetsNo_, &QRadioButton::clicked, this, [this] { setup_.ChooseCharSets(false); });
     row->addStretch(1);
@@ -180,7 +176,7 @@ bool SetupDialog::eventFilter(QObject* receiver, QEvent* event) {
 
 void SetupDialog::Explain(const QObject* option) {
     for (const Option& known : options_) {
-        if (known.button == option) explanation_->setText(Plain(known.explanation));
+        if (known.button == option) explanation_->setText(qt::Translated(known.explanation));
     }
 }
 

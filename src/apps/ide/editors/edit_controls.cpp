@@ -8,6 +8,8 @@
 #include <QPushButton>
 
 #include "qt/strings.h"
+#include "text/numbers.h"
+#include "text/str_edit.h"
 
 namespace fabula::ide {
 namespace {
@@ -79,9 +81,8 @@ QComboBox* NewLocationList(const authoring::ComboBox& box) {
 }
 
 void ShowLocation(QComboBox& list, const std::string& text) {
-    bool numeric = false;
-    const int number = qt::ToQt(text).toInt(&numeric);
-    const int index = numeric ? list.findData(number) : -1;
+    const std::optional<int> number = text::SmallNumber(text::TrimBlanks(text));
+    const int index = number ? list.findData(*number) : -1;
     list.setCurrentIndex(index);
     if (index < 0) list.setEditText(qt::ToQt(text));
     list.lineEdit()->setCursorPosition(0);

@@ -31,7 +31,6 @@ class CharacterPane final : public QAbstractScrollArea {
     /// enough, unless the player wants less.
     int Factor() const;
     static constexpr int kLeastFactor = 2;
-    bool FlashIsOn() const { return flashOn_; }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -16,6 +16,7 @@
 #include "player/play/game_pictures.h"
 #include "player/play/session.h"
 #include "qt/strings.h"
+#include "store/extensions.h"
 #include "text/colours.h"
 #include "text/safe_text.h"
 #include "text/utf8.h"
@@ -310,7 +311,7 @@ std::optional<std::filesystem::path> GameScreen::AskForFile(const engine::FileRe
 
 std::optional<std::filesystem::path> GameScreen::AskForSavedGame(bool forWriting) {
     auto file = AskForFile(engine::SavedGameRequest(forWriting));
-    if (file && !file->has_extension()) *file += ".sav";
+    if (file && !file->has_extension()) *file += store::extension::kSavedGame;
     return file;
 }
 

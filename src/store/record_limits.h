@@ -1,0 +1,12 @@
+#pragma once
+
+namespace fabula::store {
+
+/// The highest number of a location, an object, a message, a system message and a picture that any type of
+/// adventure has.
+inline constexpr int kHighestRecord = 999;
+
+/// The highest number by which a person may ask for a record, of whatever table.
+inline constexpr int kHighestKey = 999'999;
+
+}  // namespace fabula::store
