@@ -34,6 +34,8 @@ class Plane {
 
     /// The pixel at a point that `Contains` says is there.
     Colour Pixel(int x, int line) const { return pixels_[IndexOf(x, line)]; }
+    /// All pixels, line by line from the top.
+    const std::vector<Colour>& Pixels() const { return pixels_; }
 
     /// Writes one pixel, by the writing mode.
     void Plot(int x, int line, Colour colour);

@@ -5,6 +5,7 @@
 #include "engine/condact_table.h"
 #include "engine/game.h"
 #include "support/game_builder.h"
+#include "support/trials.h"
 
 namespace fabula::test {
 namespace {
@@ -133,15 +134,19 @@ std::vector<std::int16_t> StateOf(GameRun& run) {
     return all;
 }
 
+std::uint32_t Games() {
+    return static_cast<std::uint32_t>(Trials("FABULA_GAMES", 40));
+}
+
 TEST(RandomGames, ComeBackWhateverTheyDo) {
-    for (std::uint32_t seed = 0; seed < 100; ++seed)
+    for (std::uint32_t seed = 0; seed < Games(); ++seed)
         Play(seed, false);
 }
 
 /// A traced game looks at each condition of an entry by itself, another passes over the entries whose first
 /// conditions fail.
 TEST(RandomGames, RunTheSameWhetherTheyAreTracedOrNot) {
-    for (std::uint32_t seed = 0; seed < 100; ++seed) {
+    for (std::uint32_t seed = 0; seed < Games(); ++seed) {
         const std::unique_ptr<GameRun> plain = Play(seed, false);
         const std::unique_ptr<GameRun> traced = Play(seed, true);
         ASSERT_EQ(plain->window.Screen(), traced->window.Screen()) << seed;

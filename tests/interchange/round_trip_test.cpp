@@ -10,6 +10,7 @@
 #include "condacts/load.h"
 #include "random_adventure.h"
 #include "reading.h"
+#include "support/trials.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {
@@ -17,9 +18,13 @@ namespace {
 
 using store::AdventureKind;
 
-constexpr std::uint32_t kSeeds = 12;
+constexpr int kAdventures = 4;
 constexpr const char* kInComments =
     "The source form has no place for these; they stand in comments that only Fabula reads:";
+
+std::uint32_t Adventures() {
+    return static_cast<std::uint32_t>(test::Trials("FABULA_GAMES", kAdventures));
+}
 
 /// Writes `from` as a kind of file and reads it into `to`; nothing may be told as lost or wrong.
 void Carry(store::Adventure& from, store::Adventure& to, std::string_view kind) {
@@ -47,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(AllKinds, RoundTrip,
                          [](const auto& kind) { return std::string(store::NameOf(kind.param)); });
 
 TEST_P(RoundTrip, AnExportFileCarriesEveryFieldThatTravels) {
-    for (std::uint32_t seed = 1; seed <= kSeeds; ++seed) {
+    for (std::uint32_t seed = 1; seed <= Adventures(); ++seed) {
         const test::OpenedAdventure before(GetParam());
         FillAtRandom(*before, seed, Letters());
         const test::OpenedAdventure after(GetParam());
@@ -83,7 +88,7 @@ TEST(RoundTripOfTexts, TheTextFormOfEntriesComesBackWithItsNumbersForPlaces) {
 }
 
 TEST(RoundTripOfSources, AnAceSourceCarriesItsContents) {
-    for (std::uint32_t seed = 1; seed <= kSeeds; ++seed) {
+    for (std::uint32_t seed = 1; seed <= Adventures(); ++seed) {
         const test::OpenedAdventure before;
         before->DeleteFrom(store::TableNum::Vocabulary, "voctypen<7");
         FillAtRandom(*before, seed, 12);
@@ -94,7 +99,7 @@ TEST(RoundTripOfSources, AnAceSourceCarriesItsContents) {
 }
 
 TEST(RoundTripOfSources, APcSourceCarriesItsContents) {
-    for (std::uint32_t seed = 1; seed <= kSeeds; ++seed) {
+    for (std::uint32_t seed = 1; seed <= Adventures(); ++seed) {
         // A game that was imported once has the words and entries that control scripts.
         const Reading before("pcvel", PcSource("LOAD 219 verb\n", "/PRO 0\n_ _ DONE\n"));
         FillAtRandom(*before, seed, 5);
@@ -129,7 +134,7 @@ std::vector<std::string> WhatExtrasCarry(store::Adventure& adventure) {
 }
 
 TEST(RoundTripOfSources, CommentsCarryWhatTheSectionsDoNot) {
-    for (std::uint32_t seed = 1; seed <= kSeeds; ++seed) {
+    for (std::uint32_t seed = 1; seed <= Adventures(); ++seed) {
         const test::OpenedAdventure before;
         FillAtRandom(*before, seed, 12);
         const test::OpenedAdventure after;

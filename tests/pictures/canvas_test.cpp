@@ -18,9 +18,11 @@ using Pixels = std::set<std::pair<int, int>>;
 
 Pixels PixelsOf(const Plane& plane) {
     Pixels pixels;
-    for (int line = 0; line < kCanvasHeight; ++line) {
+    const Colour background = plane.Background();
+    const Colour* row = plane.Pixels().data();
+    for (int line = 0; line < kCanvasHeight; ++line, row += kCanvasWidth) {
         for (int x = 0; x < kCanvasWidth; ++x) {
-            if (plane.Pixel(x, line) != plane.Background()) pixels.insert({x, line});
+            if (row[x] != background) pixels.insert({x, line});
         }
     }
     return pixels;

@@ -4,6 +4,7 @@
 #include "pictures/drawing.h"
 #include "pictures/drawstring_check.h"
 #include "platform/error.h"
+#include "support/trials.h"
 #include "test_book.h"
 
 // Whatever drawstring passes the check is drawn: no failure, nothing beyond the planes (the sanitizers
@@ -13,8 +14,9 @@ namespace fabula::pictures {
 namespace {
 
 TEST(AnyDrawstringThatPasses, IsDrawn) {
+    const int drawstrings = test::Trials("FABULA_DRAWSTRINGS", 150);
     DrawstringMaker maker(21);
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < drawstrings; ++i) {
         PictureBook book = TestBook();
         AddPicture(book, 7, "END");
         AddPicture(book, 6, "LINE 0 20 3 QFILL 1 1 END");
@@ -27,12 +29,13 @@ TEST(AnyDrawstringThatPasses, IsDrawn) {
 }
 
 TEST(AnyDrawstringThatPasses, WithoutOverHasOnlyColoursOfThePalette) {
+    const int drawstrings = test::Trials("FABULA_DRAWSTRINGS", 50);
     DrawstringMaker maker(22);
     PictureBook book = TestBook();
     for (const int number : {5, 6, 7}) {
         AddPicture(book, number, "END");
     }
-    for (int i = 0; i < 100; ++i) {
+    for (int i = 0; i < drawstrings; ++i) {
         std::string drawstring = maker.Make(book.commands, 60);
         for (const char* over : {" 10 ", " 11 "}) {
             for (std::size_t at = drawstring.find(over); at != std::string::npos;
@@ -46,13 +49,14 @@ TEST(AnyDrawstringThatPasses, WithoutOverHasOnlyColoursOfThePalette) {
 }
 
 TEST(AnyTextAtAll, IsRefusedOrDrawnOrFailsWithASentence) {
+    const int drawstrings = test::Trials("FABULA_DRAWSTRINGS", 400);
     DrawstringMaker maker(23);
     PictureBook book = TestBook();
     for (const int number : {5, 6, 7}) {
         AddPicture(book, number, "GOSUB sc=0 6 END");
     }
     int drawn = 0;
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < drawstrings; ++i) {
         std::string text = maker.Make(book.commands, 12);
         for (int cut = 0; cut < 3; ++cut) {
             text.erase(static_cast<std::size_t>(maker.Between(0, static_cast<int>(text.size()) - 1)), 1);

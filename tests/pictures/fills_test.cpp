@@ -1,5 +1,6 @@
 #include "pictures/fills.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <random>
@@ -16,10 +17,12 @@ namespace {
 class ModelFill {
   public:
     explicit ModelFill(const Plane& pixels, bool swapped) : swapped_(swapped) {
-        for (int line = 0; line < kCanvasHeight; ++line) {
-            for (int x = 0; x < kCanvasWidth; ++x) {
-                Mark(swapped ? line : x, swapped ? x : line) = pixels.Pixel(x, line) != pixels.Background();
-            }
+        const Colour background = pixels.Background();
+        const Colour* row = pixels.Pixels().data();
+        bool* mark = marks_.data();
+        for (int line = 0; line < kCanvasHeight; ++line, row += kCanvasWidth) {
+            for (int x = 0; x < kCanvasWidth; ++x)
+                mark[swapped ? line * kSide + x : x * kSide + line] = row[x] != background;
         }
     }
 
@@ -45,11 +48,13 @@ class ModelFill {
 
     /// Whether every mark stands where the plane is drawn, and nowhere else.
     bool Equals(const Plane& pixels) const {
-        for (int line = 0; line < kCanvasHeight; ++line) {
+        const Colour background = pixels.Background();
+        const Colour* row = pixels.Pixels().data();
+        const bool* mark = marks_.data();
+        for (int line = 0; line < kCanvasHeight; ++line, row += kCanvasWidth) {
             for (int x = 0; x < kCanvasWidth; ++x) {
-                const bool mark = marks_[static_cast<std::size_t>(swapped_ ? line : x)]
-                                        [static_cast<std::size_t>(swapped_ ? x : line)];
-                if (mark != (pixels.Pixel(x, line) != pixels.Background())) return false;
+                if (mark[swapped_ ? line * kSide + x : x * kSide + line] != (row[x] != background))
+                    return false;
             }
         }
         return true;
@@ -58,7 +63,7 @@ class ModelFill {
   private:
     int Width() const { return swapped_ ? kCanvasHeight : kCanvasWidth; }
     int Height() const { return swapped_ ? kCanvasWidth : kCanvasHeight; }
-    bool& Mark(int x, int y) { return marks_[static_cast<std::size_t>(x)][static_cast<std::size_t>(y)]; }
+    bool& Mark(int x, int y) { return marks_[static_cast<std::size_t>(x * kSide + y)]; }
 
     bool CheckForLine(int x, int y) {
         return x < 0 || x >= Width() || y < 0 || y >= Height() || Mark(x, y);
@@ -99,8 +104,10 @@ class ModelFill {
         }
     }
 
+    static constexpr int kSide = 256;
+
     bool swapped_;
-    std::array<std::array<bool, 256>, 256> marks_{};
+    std::array<bool, kSide * kSide> marks_{};  ///< one behind another that lies on its right
 };
 
 /// A canvas whose pixel plane is drawn all over but for a rectangle, and in that with the given share.
@@ -111,10 +118,10 @@ Canvas RandomCanvas(std::mt19937& random, double share) {
     const int left = corner(random);
     const int top = corner(random);
     std::bernoulli_distribution isDrawn(share);
-    for (int line = 0; line < kCanvasHeight; ++line) {
-        for (int x = 0; x < kCanvasWidth; ++x) {
-            const bool inside = x >= left && x < left + 60 && line >= top && line < top + 50;
-            if (!inside || isDrawn(random)) canvas.pixel.Plot(x, line, drawn);
+    canvas.pixel.PlotRectangle(0, 0, kCanvasWidth - 1, kCanvasHeight - 1, drawn);
+    for (int line = top; line < std::min(top + 50, kCanvasHeight); ++line) {
+        for (int x = left; x < std::min(left + 60, kCanvasWidth); ++x) {
+            if (!isDrawn(random)) canvas.pixel.Plot(x, line, canvas.pixel.Background());
         }
     }
     return canvas;
@@ -183,7 +190,7 @@ TEST(Fill, DoQFillReachesAllOfARegionThatTouchesNeitherFirstNorLastLine) {
         const PatternInk ink = SolidInk(kPixelPlaneForeground);
         Fill(canvas, ink, ink, nullptr).DoQFill(x, line);
         Flood(flooded, x, line);
-        ASSERT_EQ(PixelRows(canvas, {}), PixelRows(flooded, {})) << "case " << i;
+        ASSERT_TRUE(SamePixels(canvas.pixel, flooded.pixel)) << "case " << i;
     }
 }
 

@@ -33,8 +33,8 @@ Canvas DrawnUpTo(const PictureBook& book, const StepWords& words, std::size_t po
 }
 
 void ExpectSame(const Canvas& a, const Canvas& b) {
-    EXPECT_TRUE(ColourRows(a, {}) == ColourRows(b, {}));
-    EXPECT_TRUE(PixelRows(a, {}) == PixelRows(b, {}));
+    EXPECT_TRUE(SamePixels(a.colour, b.colour));
+    EXPECT_TRUE(SamePixels(a.pixel, b.pixel));
 }
 
 /// A book in which pictures 5 to 7 can be called, and a long random drawstring.

@@ -1,6 +1,7 @@
 #include "test_book.h"
 
 #include <array>
+#include <cstring>
 
 #include "pictures/drawstring.h"
 
@@ -87,10 +88,10 @@ std::string Rows(const Window& window, Symbol symbol) {
 
 int CountOf(const Plane& plane) {
     int count = 0;
-    for (int line = 0; line < kCanvasHeight; ++line) {
-        for (int x = 0; x < kCanvasWidth; ++x) {
-            if (plane.Pixel(x, line) != plane.Background()) ++count;
-        }
+    const Colour background = plane.Background();
+    const Colour* pixels = plane.Pixels().data();
+    for (int i = 0; i < kCanvasWidth * kCanvasHeight; ++i) {
+        if (pixels[i] != background) ++count;
     }
     return count;
 }
@@ -146,6 +147,10 @@ int CountColoured(const Canvas& canvas) {
 
 int CountDrawn(const Canvas& canvas) {
     return CountOf(canvas.pixel);
+}
+
+bool SamePixels(const Plane& a, const Plane& b) {
+    return std::memcmp(a.Pixels().data(), b.Pixels().data(), a.Pixels().size() * sizeof(Colour)) == 0;
 }
 
 int ColourAt(const Canvas& canvas, int x, int y) {

@@ -41,6 +41,9 @@ std::string PixelRows(const Canvas& canvas, const Window& window);
 int CountColoured(const Canvas& canvas);
 int CountDrawn(const Canvas& canvas);
 
+/// Whether two planes show the same.
+bool SamePixels(const Plane& a, const Plane& b);
+
 /// The palette number of a pixel of the colour plane, and whether it counts as drawn, in the language's
 /// coordinates.
 int ColourAt(const Canvas& canvas, int x, int y);

@@ -12,11 +12,12 @@
 #include "support/child_process.h"
 #include "support/raw_database.h"
 #include "support/template_adventure.h"
+#include "support/trials.h"
 
 namespace fabula::store {
 namespace {
 
-constexpr int kKills = 200;
+constexpr int kKills = 50;
 /// How many of the latest records the writer keeps.
 constexpr int kKept = 20;
 
@@ -83,7 +84,8 @@ TEST(KilledWriter, LeavesEveryCommittedStepAndNoHalfOne) {
     std::mt19937 random(1);
     int number = 0;
     int journalsLeft = 0;
-    for (int round = 0; round < kKills; ++round) {
+    const int kills = test::Trials("FABULA_KILLS", kKills);
+    for (int round = 0; round < kills; ++round) {
         const Moment moment{static_cast<int>(random() % 4), static_cast<unsigned>(random() % 6000)};
         const int told = number + StepsUntilKilled(file, number, moment);
         journalsLeft += std::filesystem::exists(file.string() + "-journal");

@@ -13,6 +13,7 @@
 #include "support/child_process.h"
 #include "support/raw_database.h"
 #include "support/template_adventure.h"
+#include "support/trials.h"
 
 namespace fabula::store {
 namespace {
@@ -547,7 +548,8 @@ TEST_P(RandomDamage, IsRefusedOrOpensCleanly) {
     std::mt19937 random(GetParam());
     int opened = 0;
     int refused = 0;
-    for (int round = 0; round < 150; ++round) {
+    const int rounds = test::Trials("FABULA_DAMAGES", 40);
+    for (int round = 0; round < rounds; ++round) {
         std::string bytes = whole;
         for (std::size_t flips = 1 + random() % 8; flips > 0; --flips) {
             // Every other byte is in the schema, where damage does most.

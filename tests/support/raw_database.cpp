@@ -1,7 +1,6 @@
 #include "support/raw_database.h"
 
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include <sqlite3.h>
@@ -55,7 +54,10 @@ std::string RawDatabase::Ask(const std::string& sql) const {
 std::string ReadBytes(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     if (!stream) throw std::runtime_error("could not read " + file.string());
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    std::string bytes(std::filesystem::file_size(file), '\0');
+    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (!stream) throw std::runtime_error("could not read " + file.string());
+    return bytes;
 }
 
 void WriteBytes(const std::filesystem::path& file, const std::string& bytes) {

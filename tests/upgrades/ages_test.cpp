@@ -52,7 +52,6 @@ class Ages : public testing::Test {
     test::RecordingHost host_;
 };
 
-/// The steps from the latest down to `first` are taken back, as if they had not been written.
 /// The chain on a file that it has brought up to date shows no box and changes no byte.
 void ExpectDone(const std::filesystem::path& file) {
     const std::string once = test::ReadBytes(file);
@@ -110,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(BeforeStep, Age,
 struct OldData {
     const char* old;
     const char* present;
-    int since = 0;  ///< the step that made it possible
+    int since = 0;  ///< the step that made it possible; 0 for every file
 };
 
 constexpr OldData kOldData[] = {
@@ -143,38 +142,87 @@ constexpr OldData kOldData[] = {
     {"UPDATE Tables SET tablename='Messages' WHERE tablenum=15", ""},
 };
 
+/// Whether texts were written before there was markup.
+enum class Texts { BeforeMarkup, WithMarkup };
+
+/// A game with what the corrections are to make of the records of old, and all that it holds.
+struct PresentGame {
+    std::filesystem::path file;
+    Contents contents;
+};
+
 /// A file of an age with records of its age, from before the markup or from its first versions, of each
 /// kind in turn.
 class AgeWithItsData : public Ages, public testing::WithParamInterface<int> {
   protected:
-    void MakePresent(AdventureKind kind) {
-        test::MakeGame(file_, kind);
-        for (const OldData& data : kOldData)
-            test::RawDatabase(file_).Run(data.present);
-        test::RawDatabase(file_).Run(
-            "UPDATE Locations SET locdesc='&lt;Fish&gt; &amp; chips' WHERE locnum=1");
+    void MakeOld(AdventureKind kind, Texts texts, int step) {
+        std::filesystem::copy_file(OldGame(kind, texts, step), file_);
     }
-    void MakeOld(int step, const std::string& version) {
-        for (const OldData& data : kOldData) {
-            if (step > data.since) test::RawDatabase(file_).Run(data.old);
+
+    static const PresentGame& PresentOf(AdventureKind kind) {
+        static std::map<AdventureKind, PresentGame> made;
+        PresentGame& game = made[kind];
+        if (!game.file.empty()) return game;
+        game.file = Made() / (std::string(store::NameOf(kind)) + ".fbd");
+        test::MakeGame(game.file, kind);
+        const test::RawDatabase raw(game.file);
+        for (const OldData& data : kOldData)
+            raw.Run(data.present);
+        raw.Run("UPDATE Locations SET locdesc='&lt;Fish&gt; &amp; chips' WHERE locnum=1");
+        game.contents = test::ContentsOf(game.file);
+        return game;
+    }
+
+  private:
+    static std::filesystem::path Made() {
+        static const test::TempFolder made;
+        return made.Path();
+    }
+
+    /// Each is made once, from the one a step later, and copied.
+    static std::filesystem::path OldGame(AdventureKind kind, Texts texts, int step) {
+        const std::filesystem::path game =
+            Made() / (std::string(store::NameOf(kind)) + (texts == Texts::WithMarkup ? "-markup" : "") +
+                      std::to_string(step));
+        if (std::filesystem::exists(game)) return game;
+        if (step > store::kLatestStep) {
+            std::filesystem::copy_file(PresentOf(kind).file, game);
+            WriteOldData(game, texts);
+        } else {
+            std::filesystem::copy_file(OldGame(kind, texts, step + 1), game);
+            WriteWhatOnlyLaterFilesHave(game, step);
+            test::TakeBack(game, step);
         }
-        test::RawDatabase(file_).Run("UPDATE System SET sysinidate='1999-01-01', sysexportversion='" +
-                                     version + "'");
-        test::TakeBackTo(file_, step);
+        return game;
+    }
+
+    static void WriteOldData(const std::filesystem::path& game, Texts texts) {
+        const test::RawDatabase raw(game);
+        if (texts == Texts::BeforeMarkup) {
+            raw.Run(
+                "UPDATE Locations SET locdesc='<Fish> & chips' WHERE locnum=1;"
+                "UPDATE SystemMessages SET smsgmsg='>' WHERE smsgnum=33");
+        }
+        for (const OldData& data : kOldData)
+            raw.Run(data.old);
+        raw.Run(std::string("UPDATE System SET sysinidate='1999-01-01', sysexportversion=") +
+                (texts == Texts::BeforeMarkup ? "'1.9.9'" : "'2.0.5'"));
+    }
+
+    /// In a file from before the step that made it possible, such data is as it is today.
+    static void WriteWhatOnlyLaterFilesHave(const std::filesystem::path& game, int step) {
+        for (const OldData& data : kOldData) {
+            if (data.since == step) test::RawDatabase(game).Run(data.present);
+        }
     }
 };
 
 TEST_P(AgeWithItsData, FromBeforeTheMarkupBecomesThePresent) {
     const int step = GetParam();
     const auto kind = static_cast<AdventureKind>(step % 3);
-    MakePresent(kind);
-    const Contents before = test::ContentsOf(file_);
-    test::RawDatabase(file_).Run(
-        "UPDATE Locations SET locdesc='<Fish> & chips' WHERE locnum=1;"
-        "UPDATE SystemMessages SET smsgmsg='>' WHERE smsgnum=33");
-    MakeOld(step, "1.9.9");
+    MakeOld(kind, Texts::BeforeMarkup, step);
     AnswerType(kind);
-    ExpectSame(Upgraded(), before);
+    ExpectSame(Upgraded(), PresentOf(kind).contents);
     ExpectDone(file_);
 }
 
@@ -186,11 +234,9 @@ class AgeWithMarkup : public AgeWithItsData {};
 TEST_P(AgeWithMarkup, BecomesThePresentAndKeepsItsTexts) {
     const int step = GetParam();
     const auto kind = static_cast<AdventureKind>(step % 3);
-    MakePresent(kind);
-    const Contents before = test::ContentsOf(file_);
-    MakeOld(step, "2.0.5");
+    MakeOld(kind, Texts::WithMarkup, step);
     AnswerType(kind);
-    ExpectSame(Upgraded(), before);
+    ExpectSame(Upgraded(), PresentOf(kind).contents);
     ExpectDone(file_);
 }
 

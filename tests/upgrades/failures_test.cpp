@@ -1,7 +1,6 @@
 // What goes wrong while a file is upgraded leaves it as it was.
 
 #include <chrono>
-#include <cstdlib>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -16,6 +15,7 @@
 #include "support/child_process.h"
 #include "support/raw_database.h"
 #include "support/temp_folder.h"
+#include "support/trials.h"
 
 namespace fabula::upgrades {
 namespace {
@@ -109,11 +109,7 @@ TEST_F(Failures, AFullDiskLeavesTheOldFile) {
     EXPECT_GT(failed, 2);
 }
 
-/// How often an upgrade is killed: FABULA_KILLS, or a few times.
-int Kills() {
-    const char* wanted = std::getenv("FABULA_KILLS");
-    return wanted != nullptr ? std::atoi(wanted) : 25;
-}
+constexpr int kKills = 25;
 
 TEST_F(Failures, AKilledUpgradeLeavesTheOldFileOrTheNewOne) {
     MakeOldest();
@@ -131,7 +127,8 @@ TEST_F(Failures, AKilledUpgradeLeavesTheOldFileOrTheNewOne) {
     const test::Contents wholeNew = test::ContentsOf(file_);
     std::mt19937 random(3);
     int oldOnes = 0;
-    for (int round = 0; round < Kills(); ++round) {
+    const int kills = test::Trials("FABULA_KILLS", kKills);
+    for (int round = 0; round < kills; ++round) {
         test::WriteBytes(file_, old);
         const pid_t child = test::StartChild(upgrade);
         // The first is killed before it can have begun, the others up to a quarter behind their end.

@@ -69,16 +69,27 @@ std::string ShownValue(const text::Value& value) {
     return bytes ? std::to_string(bytes->size()) + " bytes" : text::ToText(value);
 }
 
-std::string LineOf(const store::Cursor& record) {
-    std::vector<std::string> fields;
-    for (const store::Field& field : record.Fields()) {
-        const std::string name = text::LowerCase(field.name);
-        if (name != "tablekey") fields.push_back(name + "=" + ShownValue(record.Field(field.name)));
+/// A column of a table's records, and its name in small letters.
+struct NamedColumn {
+    std::string name;
+    std::size_t column;
+};
+
+/// The columns in the order of their names, whatever order a file has them in.
+std::vector<NamedColumn> ColumnsOf(const store::Cursor& records) {
+    std::vector<NamedColumn> columns;
+    for (std::size_t i = 0; i < records.Fields().size(); ++i) {
+        const std::string name = text::LowerCase(records.Fields()[i].name);
+        if (name != "tablekey") columns.push_back({name, i});
     }
-    std::sort(fields.begin(), fields.end());
+    std::ranges::sort(columns, {}, &NamedColumn::name);
+    return columns;
+}
+
+std::string LineOf(const store::Cursor& record, const std::vector<NamedColumn>& columns) {
     std::string line;
-    for (const std::string& field : fields)
-        line += field + "|";
+    for (const NamedColumn& named : columns)
+        line.append(named.name).append("=").append(ShownValue(record.Field(named.column))).append("|");
     return line;
 }
 
@@ -146,21 +157,14 @@ void TakeBack(const std::filesystem::path& file, int step) {
     TakeBack(RawDatabase(file), step);
 }
 
-void TakeBackTo(const std::filesystem::path& file, int first) {
-    const RawDatabase raw(file);
-    raw.Run("BEGIN");
-    for (int step = store::kLatestStep; step >= first; --step)
-        TakeBack(raw, step);
-    raw.Run("COMMIT");
-}
-
 Contents ContentsOf(store::Adventure& adventure) {
     Contents contents;
     for (const store::TableEntry& table : store::AllTables()) {
         std::vector<std::string>& lines = contents[std::string(table.name)];
-        for (store::Cursor& record = adventure.OpenTable(table.number, "*"); !record.Eof();
-             record.MoveNext())
-            lines.push_back(LineOf(record));
+        store::Cursor& record = adventure.OpenTable(table.number, "*");
+        const std::vector<NamedColumn> columns = ColumnsOf(record);
+        for (; !record.Eof(); record.MoveNext())
+            lines.push_back(LineOf(record, columns));
         std::sort(lines.begin(), lines.end());
     }
     return contents;

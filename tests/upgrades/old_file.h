@@ -23,8 +23,6 @@ void MakeGameBefore(const std::filesystem::path& file, store::AdventureKind kind
 
 /// Makes the file one from before a step of the chain: what the step adds is gone.
 void TakeBack(const std::filesystem::path& file, int step);
-/// The same for the step and all behind it, from the latest on.
-void TakeBackTo(const std::filesystem::path& file, int first);
 
 /// Everything that a file holds, by table: a line for each record, in order, with every field and its
 /// value. The keys of `Tables`, which only number its rows, are left out.

@@ -52,13 +52,8 @@ std::string Easel::Stored(std::string_view field, int number) {
 std::string PlanesAsText(const pictures::Canvas& canvas) {
     std::string text;
     for (const pictures::Plane* plane : {&canvas.colour, &canvas.pixel}) {
-        for (int line = 0; line < pictures::kCanvasHeight; ++line) {
-            for (int x = 0; x < pictures::kCanvasWidth; ++x) {
-                const auto colour = static_cast<std::uint32_t>(plane->Pixel(x, line));
-                for (const int shift : {16, 8, 0})
-                    text += static_cast<char>(colour >> shift & 0xFF);
-            }
-        }
+        const std::vector<pictures::Colour>& pixels = plane->Pixels();
+        text.append(reinterpret_cast<const char*>(pixels.data()), pixels.size() * sizeof(pictures::Colour));
     }
     return text;
 }

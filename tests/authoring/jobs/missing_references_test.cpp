@@ -1,7 +1,6 @@
 #include "authoring/jobs/missing_references.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 #include <random>
 #include <set>
@@ -12,6 +11,7 @@
 #include "authoring/desk.h"
 #include "authoring/jobs/verify.h"
 #include "condacts/load.h"
+#include "support/trials.h"
 
 namespace fabula::authoring {
 namespace {
@@ -359,10 +359,8 @@ class RandomGame {
     std::map<int, Action> actions_;
 };
 
-/// FABULA_EDITS asks for another number of edits.
 TEST(VerifyOfARandomGame, TellsWhatAnIndependentListHasAfterEachEdit) {
-    const char* asked = std::getenv("FABULA_EDITS");
-    const int edits = asked == nullptr ? 200 : std::atoi(asked);
+    const int edits = test::Trials("FABULA_EDITS", 100);
     RandomGame game(20261122);
     for (int i = 0; i < edits; ++i) {
         game.Edit();

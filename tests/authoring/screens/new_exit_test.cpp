@@ -94,9 +94,11 @@ TEST_F(NewExitTest, TheNameOfANewPlaceIsCheckedAsAShortDescription) {
 }
 
 TEST_F(NewExitTest, WhereNoNumberIsLeftNoPlaceIsMade) {
+    store::Transaction filling(desk_.Adventure());
     desk_.Clear(TableNum::Locations);
     for (int number = 0; number < 1000; ++number)
         AddLocation(number);
+    filling.Commit();
     LocationScreen screen = Open(3);
     screen.exitWord.text = "NORTH The mill";
     EXPECT_FALSE(screen.Add()) << "252 to 255 are there in this file, and no places";

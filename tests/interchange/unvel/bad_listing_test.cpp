@@ -12,6 +12,7 @@
 #include "interchange/reading.h"
 #include "support/listing_writers.h"
 #include "support/places.h"
+#include "support/trials.h"
 
 namespace fabula::interchange {
 namespace {
@@ -34,6 +35,11 @@ std::string Joined(const Lines& lines) {
     for (const std::string& line : lines)
         text += line + "\n";
     return text;
+}
+
+/// How many listings are changed at random in each of the ways below. Each is a whole import.
+int Listings() {
+    return test::Trials("FABULA_LISTINGS", 4);
 }
 
 class BadListing : public testing::TestWithParam<const char*> {
@@ -83,7 +89,7 @@ TEST_P(BadListing, CutAtALineLeavesAGameOrNothing) {
 
 TEST_P(BadListing, CutWithinALineLeavesAGameOrNothing) {
     std::mt19937 random(1);
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < Listings(); ++i) {
         Lines cut = lines_;
         cut.resize(random() % cut.size() + 1);
         cut.back().resize(random() % (cut.back().size() + 1));
@@ -93,7 +99,7 @@ TEST_P(BadListing, CutWithinALineLeavesAGameOrNothing) {
 
 TEST_P(BadListing, WithSectionsOutOfOrderLeavesAGameOrNothing) {
     std::mt19937 random(2);
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < Listings(); ++i) {
         Lines moved = lines_;
         const auto middle = static_cast<std::ptrdiff_t>(random() % moved.size());
         std::rotate(moved.begin() + 2, moved.begin() + std::max<std::ptrdiff_t>(middle, 2), moved.end());
@@ -103,7 +109,7 @@ TEST_P(BadListing, WithSectionsOutOfOrderLeavesAGameOrNothing) {
 
 TEST_P(BadListing, WithRepeatedPartsLeavesAGameOrNothing) {
     std::mt19937 random(3);
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < Listings(); ++i) {
         Lines twice = lines_;
         const auto from = static_cast<std::ptrdiff_t>(random() % lines_.size());
         const auto to =
@@ -116,7 +122,7 @@ TEST_P(BadListing, WithRepeatedPartsLeavesAGameOrNothing) {
 TEST_P(BadListing, WithNumbersThatAreNoneOrTooLargeLeavesAGameOrNothing) {
     std::mt19937 random(4);
     constexpr const char* kNumbers[] = {"x", "-1", "99999999999999999999", "1000", "", "0x", "256"};
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < Listings(); ++i) {
         Lines wrong = lines_;
         for (std::string& line : wrong) {
             const std::size_t digit = line.find_first_of("0123456789", 5);

@@ -1,7 +1,6 @@
 // Games made at random, written as their decompilers would and read back, and games that go out as extracts
 // and come in again. The writers of the listings are independent of the readers (tests/support).
 
-#include <cstdlib>
 #include <fstream>
 
 #include <gtest/gtest.h>
@@ -11,6 +10,7 @@
 #include "interchange/unvel/unvel_head.h"
 #include "interchange/unvel/unvel_writer.h"
 #include "support/listing_writers.h"
+#include "support/trials.h"
 #include "text/value.h"
 
 namespace fabula::interchange {
@@ -20,14 +20,12 @@ using store::AdventureKind;
 using store::TableNum;
 using test::ListedGame;
 
-constexpr int kGames = 60;
+constexpr int kGames = 30;
 constexpr int kExtracts = 2;
 constexpr std::size_t kCarriedUserGraphics = 19;  ///< an extract has no room for more
 
-/// How many games are made. FABULA_GAMES asks for another number.
 std::uint32_t Games(int usual) {
-    const char* asked = std::getenv("FABULA_GAMES");
-    return static_cast<std::uint32_t>(asked == nullptr ? usual : std::atoi(asked));
+    return static_cast<std::uint32_t>(test::Trials("FABULA_GAMES", usual));
 }
 
 /// One new adventure into which game after game is read; each reading is undone.
