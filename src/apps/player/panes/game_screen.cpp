@@ -114,7 +114,7 @@ void GameScreen::ChoosePane() {
 void GameScreen::ColourPicture() {
     QPalette surroundings = text_->palette();
     if (ShowsCharacters()) {
-        const text::Rgb paper = text::ColorRGB(game_.style.paper);
+        const text::Rgb paper = text::ColourRGB(game_.style.paper);
         surroundings.setColor(QPalette::Base, QColor(paper.red, paper.green, paper.blue));
     }
     picture_->setPalette(surroundings);
