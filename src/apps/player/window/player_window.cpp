@@ -118,7 +118,7 @@ constexpr std::array<PlayerWindow::Routine, kCommandCount> PlayerWindow::kRoutin
     {Command::Sound, [](PlayerWindow& window) { window.ToggleSound(); }},
     {Command::Transcript, [](PlayerWindow& window) { window.ToggleTranscript(); }},
     {Command::Debug, [](PlayerWindow& window) { window.ShowDiagnostics(); }},
-    {Command::Find, [](PlayerWindow& window) { window.findBar_->Open(); }},
+    {Command::Find, [](PlayerWindow& window) { window.findBar_->Ask(); }},
     {Command::FindNext, [](PlayerWindow& window) { window.findBar_->Find(false); }},
     {Command::FindBefore, [](PlayerWindow& window) { window.findBar_->Find(true); }},
     {Command::ZoomIn, [](PlayerWindow& window) { window.Zoom(1); }},
