@@ -16,7 +16,7 @@
 #include "platform/scripted_dialogs.h"
 #include "player/panes/game_screen.h"
 #include "player/panes/text_pane.h"
-#include "player/play/session.h"
+#include "player/play/played_game.h"
 #include "player/window/player_window.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"

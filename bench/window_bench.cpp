@@ -16,7 +16,7 @@
 #include "platform/manual_timers.h"
 #include "platform/random_source.h"
 #include "player/panes/game_screen.h"
-#include "player/play/session.h"
+#include "player/play/played_game.h"
 #include "player/window/player_window.h"
 #include "qt/qt_dialogs.h"
 #include "qt/strings.h"

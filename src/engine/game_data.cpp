@@ -140,8 +140,8 @@ void GameData::ReadSoundSettings(store::Adventure& adventure) {
 void GameData::CheckTextSettings() const {
     Number16(font, {"Font"});
     Number16(fontSize, {"FontSize"});
-    Number16(backColor, {"BackColor"});
-    Number16(textColor, {"textcolor"});
+    Number16(backColour, {"BackColor"});
+    Number16(textColour, {"textcolor"});
     Number16(printWidth, {"defprintwidth"});
     for (const auto& [code, points] : fontSizes) {
         Number16(code, {"codenum"});

@@ -286,7 +286,7 @@ void Printer::AtLineStart() {
 void Printer::Clear() {
     Flush();
     if (CharacterPane()) ResetColours();
-    window_.Clear(settings_.backColor, style_.ink);
+    window_.Clear(settings_.backColour, style_.ink);
     AtLineStart();
 }
 
@@ -336,10 +336,10 @@ void Printer::FontSize(int code) {
 }
 
 void Printer::ResetColours() {
-    if (style_.ink == settings_.textColor && style_.paper == settings_.backColor) return;
+    if (style_.ink == settings_.textColour && style_.paper == settings_.backColour) return;
     Flush();
-    style_.ink = settings_.textColor;
-    style_.paper = settings_.backColor;
+    style_.ink = settings_.textColour;
+    style_.paper = settings_.backColour;
 }
 
 std::string Printer::WithoutMarkup(std::string_view text) const {

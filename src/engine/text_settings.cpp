@@ -30,8 +30,8 @@ TextSettings ReadTextSettings(store::Adventure& adventure) {
     if (row.First({})) {
         settings.font = static_cast<int>(row.Number(0));
         settings.fontSize = static_cast<int>(row.Number(1));
-        settings.backColor = static_cast<int>(row.Number(2));
-        settings.textColor = static_cast<int>(row.Number(3));
+        settings.backColour = static_cast<int>(row.Number(2));
+        settings.textColour = static_cast<int>(row.Number(3));
         settings.printWidth = static_cast<int>(row.Number(4));
         settings.characterSets = row.Number(5) != 0;
     }

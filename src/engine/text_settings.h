@@ -21,8 +21,8 @@ struct TextSettings {
     bool characterSets = false;
     int font = 0;
     int fontSize = 0;  ///< a code; `fontSizes` has its points
-    int backColor = 0;
-    int textColor = 0;
+    int backColour = 0;
+    int textColour = 0;
     int printWidth = 0;  ///< in columns
 
     std::vector<Tag> tags;

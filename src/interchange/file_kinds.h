@@ -12,7 +12,7 @@ namespace fabula::interchange {
 
 class ListingLines;
 
-/// What a file dialog shows; empty where the system names nothing.
+/// What a file dialog shows; empty where nothing is named.
 struct DialogText {
     std::string_view defaultName;
     std::string_view title;
@@ -26,8 +26,8 @@ struct ImportedSettings {
     bool flagChange = false;  ///< `flagchange`
     bool setsLook =
         false;  ///< type, graphics and character sets are those of the new adventure; the rest applies
-    int backColor = 0;
-    int textColor = 0;
+    int backColour = 0;
+    int textColour = 0;
     int printWidth = 80;
 };
 

@@ -13,7 +13,7 @@
 namespace fabula::interchange {
 
 /// Tells an author which flags an imported game uses, and by which conditions and actions, and marks these
-/// flags as used. Flags of the system are not told. Flags from 1000 up belong to the system and are not
+/// flags as used. Built-in flags are not told. Flags from 1000 up are all built in and are not
 /// counted.
 class FlagAnalysis {
   public:

@@ -37,7 +37,7 @@ struct JobResult {
 
 /// Reads `source` into a new adventure file. It is made beside `target` and takes its place when all is
 /// well; else nothing is left of it, and `target` is as it was. An existing target is replaced after the
-/// operator agreed, or at once with `replace`. What is open elsewhere stays open.
+/// person agreed, or at once with `replace`. What is open elsewhere stays open.
 ///
 /// A failing machine is thrown as fabula::Error; nothing is left then either.
 JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,

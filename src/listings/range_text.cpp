@@ -14,7 +14,7 @@ namespace {
 
 using store::TableNum;
 
-/// Flags of the system that every table has, and the most that it holds beside them.
+/// Built-in flags that every table has, and the most that it holds beside them.
 constexpr std::int64_t kFixedEntries = 60;
 constexpr std::int64_t kHighestEntry = 255;
 

@@ -118,7 +118,7 @@ std::string Told(store::Adventure& adventure, const store::Cursor& settings, con
             return number != 0 ? "ON" : "OFF";
         case As::Colour:
             return WithName(number,
-                            text::ColorName(condacts::FitsNumber(number) ? static_cast<int>(number) : -1));
+                            text::ColourName(condacts::FitsNumber(number) ? static_cast<int>(number) : -1));
         case As::Font:
             return WithName(number, FontName(adventure, number));
         case As::Voice:

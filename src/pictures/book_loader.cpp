@@ -55,8 +55,8 @@ PictureBook LoadPictureBook(store::Adventure& adventure) {
     book.locations = LoadLocations(adventure);
     const Cursor& settings = adventure.OpenTable(TableNum::Adventure, "backcolor, textcolor");
     if (!settings.Eof()) {
-        book.backColor = IndexToColour(Number(settings, "backcolor"));
-        book.textColor = IndexToColour(Number(settings, "textcolor"));
+        book.backColour = IndexToColour(Number(settings, "backcolor"));
+        book.textColour = IndexToColour(Number(settings, "textcolor"));
     }
     return book;
 }

@@ -221,8 +221,8 @@ void Drawing::RunFill(void (Fill::*fill)(int, int), Point target, const Glyph& p
 
 void Drawing::DrawClear(const Picture& picture) {
     const Colour background =
-        picture.paper == kColourOfTheAdventure ? book_.backColor : IndexToColour(picture.paper);
-    const Colour pen = picture.ink == kColourOfTheAdventure ? book_.textColor : IndexToColour(picture.ink);
+        picture.paper == kColourOfTheAdventure ? book_.backColour : IndexToColour(picture.paper);
+    const Colour pen = picture.ink == kColourOfTheAdventure ? book_.textColour : IndexToColour(picture.ink);
     picture_ = picture.number;
     state_.defaultPaper = ColourToIndex(background);
     state_.defaultInk = ColourToIndex(pen);

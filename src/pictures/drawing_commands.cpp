@@ -77,8 +77,8 @@ std::span<const Drawing::Routine> Drawing::Routines() {
 }
 
 Drawing::Drawing(const PictureBook& book, DrawWatcher* watcher) : book_(book), watcher_(watcher) {
-    state_.inkColour = book.textColor;
-    state_.paperColour = book.backColor;
+    state_.inkColour = book.textColour;
+    state_.paperColour = book.backColour;
 }
 
 void Drawing::CommDraw(const Picture& picture, std::string_view drawstring, std::size_t lastWord) {

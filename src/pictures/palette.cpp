@@ -14,7 +14,7 @@ const Palette& Entries() {
     static const Palette kEntries = [] {
         Palette entries{};
         for (std::size_t number = 0; number < entries.size(); ++number) {
-            const text::Rgb rgb = text::ColorRGB(static_cast<int>(number));
+            const text::Rgb rgb = text::ColourRGB(static_cast<int>(number));
             entries[number] = MakeColour(rgb.red, rgb.green, rgb.blue);
         }
         return entries;

@@ -32,8 +32,8 @@ struct PictureBook {
     CharacterSets characters;
     std::map<int, Picture> pictures;  ///< by number
     std::set<int> locations;          ///< the numbers of the adventure's locations
-    Colour backColor = IndexToColour(7);
-    Colour textColor = IndexToColour(0);
+    Colour backColour = IndexToColour(7);
+    Colour textColour = IndexToColour(0);
 
     /// The picture of that number, or nullptr.
     const Picture* FindPicture(int number) const {

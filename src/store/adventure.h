@@ -70,7 +70,7 @@ struct SortOrders {
 };
 
 /// One open adventure file: its connection, one long-lived cursor for each table number, and the settings
-/// that belong to the session. Two adventures may be open side by side; an Adventure belongs to one thread.
+/// that are in force. Two adventures may be open side by side; an Adventure belongs to one thread.
 ///
 /// Closing is destruction: pending edits are dropped, and the file is then one file, free to be moved.
 class Adventure {

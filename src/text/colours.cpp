@@ -33,18 +33,18 @@ bool IsColour(int number) {
 
 }  // namespace
 
-std::string_view ColorName(int number) {
+std::string_view ColourName(int number) {
     return IsColour(number) ? kColours[number].name : std::string_view();
 }
 
-Rgb ColorRGB(int number) {
+Rgb ColourRGB(int number) {
     return IsColour(number) ? kColours[number].rgb : Rgb{};
 }
 
-int ColorIndex(Rgb colour, int fallback, const Palette* sessionPalette) {
+int ColourIndex(Rgb colour, int fallback, const Palette* ownPalette) {
     for (int number = 0; number < static_cast<int>(kColours.size()); ++number) {
         if (kColours[number].rgb == colour) return number;
-        if (sessionPalette != nullptr && (*sessionPalette)[number] == colour) return number;
+        if (ownPalette != nullptr && (*ownPalette)[number] == colour) return number;
     }
     return fallback == 1 ? 0 : 7;
 }

@@ -23,13 +23,13 @@ inline constexpr int kFirstBrightColour = 8;
 using Palette = std::array<Rgb, kHighestColour + 1>;
 
 /// "Black" for 0 to "Bright White" for 15; empty for any other number.
-std::string_view ColorName(int number);
+std::string_view ColourName(int number);
 
 /// The colour of a number from 0 to 15; black for any other.
-Rgb ColorRGB(int number);
+Rgb ColourRGB(int number);
 
-/// The lowest number whose ColorRGB, or whose entry in the session's own palette, is `colour`. A colour
+/// The lowest number whose ColourRGB, or whose entry in the adventure's own palette, is `colour`. A colour
 /// that is in neither gives 0 when `fallback` is 1, and else 7.
-int ColorIndex(Rgb colour, int fallback, const Palette* sessionPalette = nullptr);
+int ColourIndex(Rgb colour, int fallback, const Palette* ownPalette = nullptr);
 
 }  // namespace fabula::text

@@ -4,13 +4,13 @@
 
 namespace fabula::upgrades {
 
-// Corrections of flags and of their uses. The system's flags once had the numbers 256 to 275.
+// Corrections of flags and of their uses. The built-in flags once had the numbers 256 to 275.
 
 bool LacksFlag275(Work& work);
 /// Adds them under their old numbers, from where they are moved on.
 void AddOldFlags(Work& work, const Step& step);
 bool HasSystemFlag260(Work& work);
-/// Moves those that are the system's, with their uses in rules, and adds what then is missing up to 1024.
+/// Moves those that are built in, with their uses in rules, and adds what then is missing up to 1024.
 /// Records that an author made under these numbers stay.
 void MoveFlags(Work& work, const Step& step);
 bool HasSystemFlag28Or255(Work& work);

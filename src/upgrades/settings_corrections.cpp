@@ -17,7 +17,7 @@ bool IsColour(std::int64_t number) {
 /// The number of a colour that was stored as the screen's: red in the lowest byte, then green and blue.
 int NumberOfScreenColour(std::int64_t colour, int fallback) {
     const auto part = [&](int shift) { return static_cast<std::uint8_t>(colour >> shift & 0xff); };
-    return text::ColorIndex({part(0), part(8), part(16)}, fallback);
+    return text::ColourIndex({part(0), part(8), part(16)}, fallback);
 }
 
 /// A game that writes through character sets has one of those for its font.

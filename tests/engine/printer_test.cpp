@@ -24,8 +24,8 @@ class PrinterTest : public testing::Test {
     }
 
     void UseData() {
-        settings_.textColor = 7;
-        settings_.backColor = 0;
+        settings_.textColour = 7;
+        settings_.backColour = 0;
         settings_.font = 0;
         settings_.fontSize = 12;
         settings_.printWidth = 40;

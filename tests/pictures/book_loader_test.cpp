@@ -45,8 +45,8 @@ TEST(LoadPictureBook, ReadsTheColoursOfTheAdventureByTheirNumbers) {
     settings.SetField("textcolor", 10);
     settings.Update();
     const PictureBook book = LoadPictureBook(*adventure);
-    EXPECT_EQ(book.backColor, IndexToColour(5));
-    EXPECT_EQ(book.textColor, IndexToColour(10));
+    EXPECT_EQ(book.backColour, IndexToColour(5));
+    EXPECT_EQ(book.textColour, IndexToColour(10));
 }
 
 TEST(LoadPictureBook, ReadsTheNumbersOfLocations) {

@@ -52,8 +52,8 @@ TEST(DrawClear, TakesTheColoursOfThePicture) {
 
 TEST(DrawClear, TakesTheColoursOfTheAdventureWhereThePictureHasNone) {
     PictureBook book = TestBook();
-    book.backColor = IndexToColour(5);
-    book.textColor = IndexToColour(2);
+    book.backColour = IndexToColour(5);
+    book.textColour = IndexToColour(2);
     Drawing drawing(book);
     drawing.DrawClear(Picture{});
     EXPECT_EQ(drawing.Planes().colour.Background(), IndexToColour(5));
@@ -63,7 +63,7 @@ TEST(DrawClear, TakesTheColoursOfTheAdventureWhereThePictureHasNone) {
 
 TEST(DrawClear, ABackgroundOfNoPaletteCountsAsWhitePaper) {
     PictureBook book = TestBook();
-    book.backColor = MakeColour(1, 2, 3);
+    book.backColour = MakeColour(1, 2, 3);
     Drawing drawing(book);
     drawing.DrawClear(Picture{});
     EXPECT_EQ(drawing.Planes().colour.Background(), MakeColour(1, 2, 3));
@@ -91,7 +91,7 @@ TEST(Paper, EightKeepsThePaperColour) {
 
 TEST(Paper, OfAPictureWhoseDefaultIsEightBeginsInTheColourOfTheAdventure) {
     PictureBook book = TestBook();
-    book.backColor = IndexToColour(5);
+    book.backColour = IndexToColour(5);
     Picture picture;
     picture.paper = 8;
     Drawing drawing(book);

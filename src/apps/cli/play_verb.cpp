@@ -11,7 +11,7 @@
 #include "store/extensions.h"
 #include "terminal/line_editor.h"
 #include "terminal/line_reader.h"
-#include "terminal/session.h"
+#include "terminal/terminal_game.h"
 #include "terminal/tty.h"
 #include "text/format.h"
 
@@ -105,9 +105,10 @@ int Play(const PlayOptions& options) {
     terminal::Screen screen(style, output, *input, transcript ? &*transcript : nullptr);
     const terminal::NamedFiles files;
     terminal::TerminalWindow window(screen, files);
-    const bool ended = terminal::PlaySession(*adventure, window, screen,
-                                             {options.seed, interactive || options.realTime, options.debug,
-                                              trace ? &*trace : nullptr, origins ? &*origins : nullptr});
+    const bool ended =
+        terminal::PlayInTerminal(*adventure, window, screen,
+                                 {options.seed, interactive || options.realTime, options.debug,
+                                  trace ? &*trace : nullptr, origins ? &*origins : nullptr});
     transcriptFile.Finish("transcript");
     originsFile.Finish("list of origins");
     if (trace && !trace->Finish()) throw Error("Could not write all of the trace " + options.trace + ".");

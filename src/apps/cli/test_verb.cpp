@@ -8,7 +8,7 @@
 #include "store/file_copy.h"
 #include "terminal/line_reader.h"
 #include "terminal/player_files.h"
-#include "terminal/session.h"
+#include "terminal/terminal_game.h"
 #include "terminal/unified_diff.h"
 #include "text/safe_text.h"
 
@@ -57,7 +57,7 @@ std::string PlayScript(const TestOptions& options) {
     terminal::Output nowhere(terminal::Output::kNowhere);
     terminal::Screen screen({}, nowhere, *script, &transcript);
     terminal::TerminalWindow window(screen, files);
-    terminal::PlaySession(*adventure, window, screen, {.seed = options.seed});
+    terminal::PlayInTerminal(*adventure, window, screen, {.seed = options.seed});
     return played.str();
 }
 

@@ -2,6 +2,8 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QString>
+#include <QWidget>
 
 namespace fabula::qt {
 namespace {
@@ -19,6 +21,13 @@ QAccessibleInterface* Describe(const QString&, QObject* object) {
 void ActAsPicture(QWidget& widget) {
     widget.setProperty(kIsPicture, true);
     QAccessible::installFactory(Describe);
+}
+
+void TellAsDescription(QWidget& widget, const QString& text) {
+    if (text == widget.accessibleDescription()) return;
+    widget.setAccessibleDescription(text);
+    QAccessibleEvent changed(&widget, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&changed);
 }
 
 }  // namespace fabula::qt

@@ -7,7 +7,7 @@ struct history;
 
 namespace fabula::terminal {
 
-/// Lines typed in the terminal that standard input and output are, with editing, a history of the session
+/// Lines typed in the terminal that standard input and output are, with editing, a history of the game
 /// and the key bindings that ~/.editrc asks for.
 class LineEditor final : public LineSource {
   public:

@@ -12,7 +12,7 @@ namespace fabula::authoring {
 /// The picture of a whole character set, from which a character is opened.
 class CharacterSetScreen {
   public:
-    /// Shows the set that the session stands on when that is in the table of characters, and else set 0.
+    /// Shows the set that the author stands on when that is in the table of characters, and else set 0.
     explicit CharacterSetScreen(ScreenContext& context);
 
     /// The sets of the adventure, as "3 - Runes", in order; the one that is shown.

@@ -47,7 +47,7 @@ std::string Mode(int digits) {
 
 std::string Colour(std::string_view what, int number) {
     const std::string name =
-        number == pictures::kTransparent ? "transparent" : std::string(text::ColorName(number));
+        number == pictures::kTransparent ? "transparent" : std::string(text::ColourName(number));
     return std::string(what) + " " + Text(number) + (name.empty() ? "" : ", " + name);
 }
 

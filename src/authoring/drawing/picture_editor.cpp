@@ -69,8 +69,8 @@ void PictureEditor::Load() {
         const bool isRoom = book_.locations.contains(Key().key);
         picture_.kind = isRoom ? PictureKind::Room : PictureKind::Subroutine;
         kind_ = isRoom ? "Picture" : "Subroutine";
-        picture_.paper = pictures::ColourToIndex(book_.backColor);
-        picture_.ink = pictures::ColourToIndex(book_.textColor);
+        picture_.paper = pictures::ColourToIndex(book_.backColour);
+        picture_.ink = pictures::ColourToIndex(book_.textColour);
         roomNumber = isRoom ? room : "";
         return;
     }

@@ -50,8 +50,8 @@ class TextEditing {
     /// is "" where the game writes through character sets, or the codes don't know the font.
     std::string FontName() const { return NameOfFont(settings_.font); }
     int FontPoints() const;  ///< kDefaultPoints where the codes have no size
-    int Paper() const { return settings_.backColor; }
-    int Ink() const { return settings_.textColor; }
+    int Paper() const { return settings_.backColour; }
+    int Ink() const { return settings_.textColour; }
 
     /// The width of a preview in columns: the game's, but at most kWidestPreview. 0 where there is none,
     /// since the game writes through character sets.

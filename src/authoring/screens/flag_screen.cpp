@@ -50,7 +50,7 @@ bool FlagScreen::LeaveType() {
 
 bool FlagScreen::LeaveUse() {
     const ListItem* chosen = use.Chosen();
-    // The quote in the title is the system's own.
+    // The quote in the title stands there on purpose.
     if (chosen == nullptr) return RefuseField("use", "Must choose a Value for Use", "Error'");
     if (chosen->text != store::kUnknownFlagUse) return true;
     return RefuseField("use", "Cannot use Unknown as a Usage");

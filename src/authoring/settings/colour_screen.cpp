@@ -21,12 +21,12 @@ std::string_view ColourScreen::Caption() const {
 }
 
 std::string ColourScreen::CurrentLine() const {
-    return "Current Color is " + std::string(text::ColorName(current_)) + "\nClick the Color to Change";
+    return "Current Color is " + std::string(text::ColourName(current_)) + "\nClick the Color to Change";
 }
 
-void ColourScreen::Click(int color) {
-    if (!IsColour(color)) throw std::invalid_argument("there is no such colour");
-    current_ = color;
+void ColourScreen::Click(int colour) {
+    if (!IsColour(colour)) throw std::invalid_argument("there is no such colour");
+    current_ = colour;
 }
 
 }  // namespace fabula::authoring

@@ -21,7 +21,7 @@ class ColourScreen {
     int Current() const { return current_; }
 
     /// Chooses the colour of a label, 0 to 15.
-    void Click(int color);
+    void Click(int colour);
     /// Gives the number of the chosen colour to the calling screen. (Exit gives none.)
     int Update() const { return current_; }
 

@@ -21,7 +21,7 @@ std::string ColourFromAce(std::string_view value) {
 
 std::string ColourToAce(std::string_view value) {
     if (!IsColourNumber(value)) return std::string(value);
-    return text::LowerCase(text::ColorName(static_cast<int>(*text::WholeNumber(value))));
+    return text::LowerCase(text::ColourName(static_cast<int>(*text::WholeNumber(value))));
 }
 
 /// Replaces the inside of each tag by what `convert` makes of its name and value; the value is nothing
@@ -86,7 +86,7 @@ std::string AceTags::ToACETags(std::string_view text) const {
 
 int ConvertACEColors(std::string_view name) {
     for (int number = 0; number <= condacts::limit::kHighestColour; ++number) {
-        if (text::EqualsNoCase(text::ColorName(number), name)) return number;
+        if (text::EqualsNoCase(text::ColourName(number), name)) return number;
     }
     return -1;
 }

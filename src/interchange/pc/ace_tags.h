@@ -8,12 +8,12 @@
 
 namespace fabula::interchange {
 
-/// The tags of ACE sources and those of this system, as the adventure's `codes` pair them.
+/// The tags of ACE sources and those of Fabula, as the adventure's `codes` pair them.
 class AceTags {
   public:
     explicit AceTags(store::Adventure& adventure);
 
-    /// A text of a source with this system's tags: "<COLOR=bright red>" becomes "<ink=10>". Tags that
+    /// A text of a source with Fabula's tags: "<COLOR=bright red>" becomes "<ink=10>". Tags that
     /// `codes` does not pair stay as they are.
     std::string ConvertACETags(std::string_view text) const;
 

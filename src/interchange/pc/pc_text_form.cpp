@@ -50,7 +50,7 @@ std::string PcTextForm::Convert(std::string_view tag) const {
     return tags_ == nullptr ? std::string(tag) : tags_->ConvertACETags(tag);
 }
 
-/// Why a tag of the source is none of this system's; "" for one that is.
+/// Why a tag of the source is none of Fabula's; "" for one that is.
 std::string PcTextForm::FaultOf(std::string_view tag) const {
     const std::string own = Convert(tag);
     const std::string inside = text::UpperCase(std::string_view(own).substr(1, own.size() - 2));

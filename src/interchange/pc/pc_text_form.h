@@ -13,7 +13,7 @@ namespace fabula::interchange {
 
 /// How texts stand in PC and ACE sources: "&" for itself, "<ht>" for a tab, and in ACE sources the tags of
 /// that form. A "<" or ">" that belongs to no tag stands for itself too, and so does what looks like a tag
-/// and is none of this system's, or has a value that its tag can't have.
+/// and is none of Fabula's, or has a value that its tag can't have.
 class PcTextForm {
   public:
     /// `known` are the tags of the adventure; `tags` is nullptr for sources without tags of their own.

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "player/play/session.h"
+#include "player/play/played_game.h"
 #include "player/played_window.h"
 #include "support/places.h"
 

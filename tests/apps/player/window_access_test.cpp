@@ -14,7 +14,7 @@
 #include "player/panes/character_pane.h"
 #include "player/panes/game_screen.h"
 #include "player/panes/text_pane.h"
-#include "player/play/session.h"
+#include "player/play/played_game.h"
 #include "player/played_window.h"
 #include "qt/strings.h"
 

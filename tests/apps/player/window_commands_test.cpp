@@ -21,8 +21,8 @@
 #include "player/panes/game_screen.h"
 #include "player/panes/text_pane.h"
 #include "player/play/commands.h"
+#include "player/play/played_game.h"
 #include "player/play/preferred_sound.h"
-#include "player/play/session.h"
 #include "player/played_window.h"
 #include "qt/icons.h"
 #include "qt/strings.h"
@@ -239,8 +239,8 @@ TEST(WindowCommands, StartAgainAsksAndCanBeTakenBack) {
 TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenItIsClosed) {
     PlayedWindow played;
     played.Load(CommandsGame());
-    played.Window().Screen().Transcript().Open("/dev/full");
-    played.Window().Screen().Transcript().Lines()->Write("not flushed yet");
+    played.Window().Playing()->Transcript().Open("/dev/full");
+    played.Window().Playing()->Transcript().Lines()->Write("not flushed yet");
     played.Action("Transcript").setChecked(true);
     played.Action("Transcript").trigger();
     ASSERT_EQ(played.dialogs.Boxes().size(), 1U);
@@ -250,8 +250,8 @@ TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenItIsClosed) {
 TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenTheWindowCloses) {
     PlayedWindow played;
     played.Load(CommandsGame());
-    played.Window().Screen().Transcript().Open("/dev/full");
-    played.Window().Screen().Transcript().Lines()->Write("not flushed yet");
+    played.Window().Playing()->Transcript().Open("/dev/full");
+    played.Window().Playing()->Transcript().Lines()->Write("not flushed yet");
     played.Window().close();
     ASSERT_EQ(played.dialogs.Boxes().size(), 1U);
     EXPECT_EQ(played.dialogs.Boxes()[0].text, "Could not write the transcript /dev/full. It is closed.");

@@ -9,7 +9,7 @@
 
 #include "player/panes/game_screen.h"
 #include "player/panes/text_pane.h"
-#include "player/play/session.h"
+#include "player/play/played_game.h"
 #include "player/played_window.h"
 
 namespace fabula::test {

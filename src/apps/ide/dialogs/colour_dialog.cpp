@@ -20,11 +20,11 @@ namespace fabula::ide {
 
 /// Framed, so that it can be told from any window.
 QIcon ColourSwatch(int number, int height) {
-    const text::Rgb color = text::ColorRGB(number);
+    const text::Rgb colour = text::ColourRGB(number);
     QPixmap patch(2 * height, height);
     patch.fill(Qt::gray);
     QPainter(&patch).fillRect(patch.rect().adjusted(1, 1, -1, -1),
-                              QColor(color.red, color.green, color.blue));
+                              QColor(colour.red, colour.green, colour.blue));
     return patch;
 }
 
@@ -32,18 +32,18 @@ ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
     : QDialog(parent), screen_(screen), chosen_(new QButtonGroup(this)), current_(new QLabel) {
     setWindowTitle(qt::Translated(screen.Caption()));
     setProperty("helpPage", "frmcolors.html");
-    auto* colors = new QHBoxLayout;
-    colors->addWidget(NewColours(0, authoring::ColourScreen::kNormalColours));
-    colors->addWidget(
+    auto* colours = new QHBoxLayout;
+    colours->addWidget(NewColours(0, authoring::ColourScreen::kNormalColours));
+    colours->addWidget(
         NewColours(authoring::ColourScreen::kFirstBright, authoring::ColourScreen::kBrightColours));
     current_->setObjectName("current");
-    colors->setSpacing(16);
+    colours->setSpacing(16);
     auto* row = new QHBoxLayout;
     const auto [update, exit] = AddUpdateAndExit(*row);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     layout->setSpacing(12);
-    layout->addLayout(colors);
+    layout->addLayout(colours);
     layout->addWidget(current_);
     layout->addLayout(row);
     connect(update, &QPushButton::clicked, this, &QDialog::accept);
@@ -58,21 +58,21 @@ QWidget* ColourDialog::NewColours(int first, std::string_view caption) {
     layout->setSpacing(4);
     const int size = fontMetrics().height();
     for (int number = first; number < first + authoring::ColourScreen::kFirstBright; ++number) {
-        auto* color = new QToolButton;
-        color->setText(qt::Translated(text::ColorName(number)));
-        color->setObjectName(QString("colour%1").arg(number));
-        color->setAccessibleName(color->text());
-        color->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        color->setIcon(ColourSwatch(number, size));
-        color->setIconSize({2 * size, size});
-        color->setAutoRaise(true);
-        color->setCheckable(true);
-        color->setFocusPolicy(Qt::StrongFocus);
-        color->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        color->installEventFilter(this);
-        layout->addWidget(color);
-        chosen_->addButton(color, number);
-        connect(color, &QToolButton::clicked, this, [this, number] {
+        auto* colour = new QToolButton;
+        colour->setText(qt::Translated(text::ColourName(number)));
+        colour->setObjectName(QString("colour%1").arg(number));
+        colour->setAccessibleName(colour->text());
+        colour->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        colour->setIcon(ColourSwatch(number, size));
+        colour->setIconSize({2 * size, size});
+        colour->setAutoRaise(true);
+        colour->setCheckable(true);
+        colour->setFocusPolicy(Qt::StrongFocus);
+        colour->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        colour->installEventFilter(this);
+        layout->addWidget(colour);
+        chosen_->addButton(colour, number);
+        connect(colour, &QToolButton::clicked, this, [this, number] {
             screen_.Click(number);
             ShowCurrent();
         });

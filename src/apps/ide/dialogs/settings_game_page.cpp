@@ -179,7 +179,7 @@ void SettingsGamePage::AddColour(QFormLayout& form, const QString& label, const 
     auto* button = NewButton("", name);
     const auto show = [this, button, colour, caption = PlainLabel(label)] {
         const int size = button->fontMetrics().height();
-        const QString chosen = qt::Translated(text::ColorName(screen_.*colour));
+        const QString chosen = qt::Translated(text::ColourName(screen_.*colour));
         button->setText(" " + chosen);
         button->setAccessibleName(caption + ": " + chosen);
         button->setIcon(ColourSwatch(screen_.*colour, size));
@@ -187,13 +187,13 @@ void SettingsGamePage::AddColour(QFormLayout& form, const QString& label, const 
     };
     show();
     connect(button, &QPushButton::clicked, this, [this, colour, ink, show] {
-        authoring::ColourScreen colors(
+        authoring::ColourScreen colours(
             ink ? authoring::ColourScreen::Purpose::Ink : authoring::ColourScreen::Purpose::Paper,
             screen_.*colour);
-        ColourDialog dialog(colors, this);
+        ColourDialog dialog(colours, this);
         dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
         if (dialog.exec() != QDialog::Accepted) return;
-        screen_.*colour = colors.Update();
+        screen_.*colour = colours.Update();
         show();
         ShowSample();
     });

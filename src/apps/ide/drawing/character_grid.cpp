@@ -1,6 +1,5 @@
 #include "ide/drawing/character_grid.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
@@ -56,11 +55,7 @@ void CharacterGrid::Show() {
                              .arg(square / kSquares + 1)
                              .arg(square % kSquares + 1)
                              .arg(editor_.Square(square) ? tr("ink") : tr("paper"));
-    if (told != accessibleDescription()) {
-        setAccessibleDescription(told);
-        QAccessibleEvent event(this, QAccessible::DescriptionChanged);
-        QAccessible::updateAccessibility(&event);
-    }
+    qt::TellAsDescription(*this, told);
     update();
 }
 

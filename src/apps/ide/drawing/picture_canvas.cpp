@@ -1,6 +1,5 @@
 #include "ide/drawing/picture_canvas.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
@@ -85,12 +84,7 @@ std::optional<pictures::Point> PictureCanvas::PointAt(QPoint place) const {
 
 void PictureCanvas::Show() {
     image_ = ImageOfPlane(editor_.Planes().colour);
-    const QString status = qt::Translated(editor_.Status());
-    if (status != accessibleDescription()) {
-        setAccessibleDescription(status);
-        QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
-        QAccessible::updateAccessibility(&changed);
-    }
+    qt::TellAsDescription(*this, qt::Translated(editor_.Status()));
     update();
 }
 

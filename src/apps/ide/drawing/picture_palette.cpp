@@ -168,7 +168,7 @@ void PicturePalette::AddColourRow(QGridLayout& grid, const char* word, const QSt
     for (int number = 0; number <= kTransparent; ++number) {
         auto* button = new QToolButton;
         const QString name =
-            number == kTransparent ? tr("transparent") : qt::Translated(text::ColorName(number));
+            number == kTransparent ? tr("transparent") : qt::Translated(text::ColourName(number));
         button->setObjectName(QString("%1%2").arg(word).arg(number));
         button->setAccessibleName(QString("%1 %2").arg(label, name));
         button->setToolTip(QString("%1 %2: %3").arg(word).arg(number).arg(name));

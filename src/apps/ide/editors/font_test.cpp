@@ -18,7 +18,7 @@ constexpr int kEnlarged = 2;  ///< characters of 8 pixels are small on the scree
 constexpr int kFontTestMargin = 12;
 
 QColor ColourOfNumber(int number) {
-    const text::Rgb rgb = text::ColorRGB(number);
+    const text::Rgb rgb = text::ColourRGB(number);
     return QColor(rgb.red, rgb.green, rgb.blue);
 }
 

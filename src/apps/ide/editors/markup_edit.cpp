@@ -152,8 +152,8 @@ void MarkupEdit::SetLines(QAbstractScrollArea& area, const QFontMetrics& metrics
 void MarkupEdit::FitLook() {
     const QFont font = GameFont(editing_.FontName(), editing_.FontPoints() * Zoom(editing_));
     const QFontMetrics metrics(font);
-    const text::Rgb paper = text::ColorRGB(editing_.Paper());
-    const text::Rgb ink = text::ColorRGB(editing_.Ink());
+    const text::Rgb paper = text::ColourRGB(editing_.Paper());
+    const text::Rgb ink = text::ColourRGB(editing_.Ink());
     QPalette game = QApplication::palette();
     if (player::Contrast(paper, ink) >= kVisible) {
         game.setColor(QPalette::Base, ToColour(paper));

@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
@@ -13,12 +12,11 @@
 namespace fabula::ide {
 
 FindBar::FindBar(Events events, QWidget* parent)
-    : QWidget(parent), events_(std::move(events)), text_(new QLineEdit), fields_(new QComboBox) {
-    setObjectName("FindBar");
-    text_->setObjectName("FindBox");
-    text_->setAccessibleName(tr("Text to find"));
-    text_->setPlaceholderText(tr("Find"));
-    text_->setClearButtonEnabled(true);
+    : qt::FindBar(events.closed, parent), events_(std::move(events)), fields_(new QComboBox) {
+    Wanted().setObjectName("FindBox");
+    Wanted().setAccessibleName(tr("Text to find"));
+    Wanted().setPlaceholderText(tr("Find"));
+    Wanted().setClearButtonEnabled(true);
     fields_->setObjectName("ComboBox");
     fields_->setAccessibleName(tr("Field to find in"));
     fields_->setAccessibleDescription(fields_->accessibleName());  // no label tells it
@@ -37,25 +35,23 @@ FindBar::FindBar(Events events, QWidget* parent)
     auto* next = button("FindNextButton", "find-next", tr("Find next"));
     auto* leave = button("FindClose", "close", tr("Close the find bar"));
 
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(8, 6, 8, 6);
-    row->addWidget(text_, 1);
-    row->addWidget(in);
-    row->addWidget(fields_);
-    row->addWidget(next);
-    row->addWidget(leave);
+    Row().setContentsMargins(8, 6, 8, 6);
+    Row().addWidget(in);
+    Row().addWidget(fields_);
+    Row().addWidget(next);
+    Row().addWidget(leave);
 
-    QObject::connect(text_, &QLineEdit::textChanged, this, [this] { Tell(); });
-    QObject::connect(text_, &QLineEdit::returnPressed, this, [this] { events_.find(); });
+    QObject::connect(&Wanted(), &QLineEdit::textChanged, this, [this] { Tell(); });
+    QObject::connect(&Wanted(), &QLineEdit::returnPressed, this, [this] { events_.find(); });
     QObject::connect(fields_, &QComboBox::currentIndexChanged, this, [this] { Tell(); });
     QObject::connect(next, &QToolButton::clicked, this, [this] { events_.find(); });
-    QObject::connect(leave, &QToolButton::clicked, this, [this] { events_.closed(); });
+    QObject::connect(leave, &QToolButton::clicked, this, [this] { Close(); });
 }
 
 void FindBar::Tell() {
     if (filling_) return;
     const int field = fields_->currentIndex();
-    events_.changed(qt::FromQt(text_->text()),
+    events_.changed(qt::FromQt(Wanted().text()),
                     field < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(field)));
 }
 
@@ -65,19 +61,8 @@ void FindBar::ShowFields(const authoring::FindBox& box) {
     for (const authoring::FindField& field : box.Fields())
         fields_->addItem(qt::Translated(field.title));
     fields_->setCurrentIndex(box.Chosen() ? static_cast<int>(*box.Chosen()) : -1);
-    text_->setText(qt::ToQt(box.text));
+    Wanted().setText(qt::ToQt(box.text));
     filling_ = false;
-}
-
-void FindBar::Ask() {
-    show();
-    text_->setFocus();
-    text_->selectAll();
-}
-
-void FindBar::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) return events_.closed();
-    QWidget::keyPressEvent(event);
 }
 
 }  // namespace fabula::ide

@@ -1,21 +1,20 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QWidget>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "authoring/desk/find.h"
+#include "qt/find_bar.h"
 
 class QComboBox;
-class QLineEdit;
 
 namespace fabula::ide {
 
 /// The line below the grid in which the author types what to look for and chooses where. Its parts are
 /// found by the names "FindBox", "ComboBox" and "FindNextButton".
-class FindBar final : public QWidget {
+class FindBar final : public qt::FindBar {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     struct Events {
@@ -28,18 +27,12 @@ class FindBar final : public QWidget {
 
     /// Offers the fields of the table in view.
     void ShowFields(const authoring::FindBox& box);
-    /// Shows the bar with the keyboard in its box.
-    void Ask();
-
-  protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void Tell();
 
     Events events_;
     bool filling_ = false;
-    QLineEdit* text_;
     QComboBox* fields_;
 };
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -98,6 +99,12 @@ class MainWindow final : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    struct Routine {
+        authoring::Command command;
+        void (*run)(MainWindow& window);
+    };
+    static std::span<const Routine> Routines();
+
     void MakePages();
     void MakeMenus();
     void MakeThemeMenu(QMenu& view);

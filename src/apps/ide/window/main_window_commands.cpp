@@ -5,6 +5,7 @@
 #include <QProgressDialog>
 #include <QTableView>
 #include <QUrl>
+#include <array>
 
 #include "authoring/drawing/character_set_screen.h"
 #include "ide/dialogs/decompile_dialog.h"
@@ -42,71 +43,56 @@ void MainWindow::Do(Command command) {
     if (!state.enabled) return message_->setText(qt::Translated(state.why));
     if (FollowFromPane(command)) return;
     if (command != Command::Help && !LeaveRecord()) return;
-    switch (command) {
-        case Command::New:
-            return New();
-        case Command::Exit:
-            return void(close());
-        case Command::Run:
-            return StartTest();
-        case Command::Import:
-            return ImportOrExport(authoring::JobMode::Import);
-        case Command::Export:
-            return ImportOrExport(authoring::JobMode::Export);
-        case Command::ImportGraphic:
-            return ImportGraphic();
-        case Command::Decompile:
-            return Decompile();
-        case Command::Sort:
-            return Sort();
-        case Command::Verify:
-            return Verify();
-        case Command::Print:
-            return Print(listings::PrintScreen::Purpose::Print);
-        case Command::Preview:
-            return Print(listings::PrintScreen::Purpose::Preview);
-        case Command::CharacterTable:
-            return ShowCharacterTable();
-        case Command::Load:
-            return LoadOrSaveSets(authoring::CharacterSetFiles::Purpose::Load);
-        case Command::Save:
-            return LoadOrSaveSets(authoring::CharacterSetFiles::Purpose::Save);
-        case Command::Restore:
-            return Restore();
-        case Command::KeyChange:
-            return KeyChange();
-        case Command::Package:
-            return Package();
-        case Command::TravelTable:
-            return ConvertTravelTable();
-        case Command::Uses:
-        case Command::Findings:
-        case Command::GoToNamed:
-        case Command::GoToAnything:
-        case Command::Back:
-        case Command::Forward:
-        case Command::Replace:
-        case Command::Renumber:
-        case Command::Palette:
-            return DoJump(command);
-        case Command::OpenInTab:
-            return OpenInTab();
-        case Command::Filter:
-            return records_->FilterLine().setFocus();
-        case Command::Find:
-        case Command::FindNext:
-            return FindOrAsk(command);
-        case Command::Help:
-            return help_.Show(qt::TopicOf(QApplication::focusWidget()));
-        case Command::HelpContents:
-            return help_.Show({});
-        case Command::AboutAdventure:
-            return AboutAdventure();
-        case Command::About:
-            return About();
-        default:
-            return DoInLogic(command);
+    for (const Routine& each : Routines()) {
+        if (each.command == command) return each.run(*this);
     }
+    DoInLogic(command);
+}
+
+/// What the commands do that need the window; the others are the logic's.
+std::span<const MainWindow::Routine> MainWindow::Routines() {
+    using authoring::JobMode;
+    using Purpose = listings::PrintScreen::Purpose;
+    using SetFiles = authoring::CharacterSetFiles::Purpose;
+    static constexpr std::array kRoutines = {
+        Routine{Command::New, [](MainWindow& window) { window.New(); }},
+        Routine{Command::Exit, [](MainWindow& window) { window.close(); }},
+        Routine{Command::Run, [](MainWindow& window) { window.StartTest(); }},
+        Routine{Command::Import, [](MainWindow& window) { window.ImportOrExport(JobMode::Import); }},
+        Routine{Command::Export, [](MainWindow& window) { window.ImportOrExport(JobMode::Export); }},
+        Routine{Command::ImportGraphic, [](MainWindow& window) { window.ImportGraphic(); }},
+        Routine{Command::Decompile, [](MainWindow& window) { window.Decompile(); }},
+        Routine{Command::Sort, [](MainWindow& window) { window.Sort(); }},
+        Routine{Command::Verify, [](MainWindow& window) { window.Verify(); }},
+        Routine{Command::Print, [](MainWindow& window) { window.Print(Purpose::Print); }},
+        Routine{Command::Preview, [](MainWindow& window) { window.Print(Purpose::Preview); }},
+        Routine{Command::CharacterTable, [](MainWindow& window) { window.ShowCharacterTable(); }},
+        Routine{Command::Load, [](MainWindow& window) { window.LoadOrSaveSets(SetFiles::Load); }},
+        Routine{Command::Save, [](MainWindow& window) { window.LoadOrSaveSets(SetFiles::Save); }},
+        Routine{Command::Restore, [](MainWindow& window) { window.Restore(); }},
+        Routine{Command::KeyChange, [](MainWindow& window) { window.KeyChange(); }},
+        Routine{Command::Package, [](MainWindow& window) { window.Package(); }},
+        Routine{Command::TravelTable, [](MainWindow& window) { window.ConvertTravelTable(); }},
+        Routine{Command::Uses, [](MainWindow& window) { window.DoJump(Command::Uses); }},
+        Routine{Command::Findings, [](MainWindow& window) { window.DoJump(Command::Findings); }},
+        Routine{Command::GoToNamed, [](MainWindow& window) { window.DoJump(Command::GoToNamed); }},
+        Routine{Command::GoToAnything, [](MainWindow& window) { window.DoJump(Command::GoToAnything); }},
+        Routine{Command::Back, [](MainWindow& window) { window.DoJump(Command::Back); }},
+        Routine{Command::Forward, [](MainWindow& window) { window.DoJump(Command::Forward); }},
+        Routine{Command::Replace, [](MainWindow& window) { window.DoJump(Command::Replace); }},
+        Routine{Command::Renumber, [](MainWindow& window) { window.DoJump(Command::Renumber); }},
+        Routine{Command::Palette, [](MainWindow& window) { window.DoJump(Command::Palette); }},
+        Routine{Command::OpenInTab, [](MainWindow& window) { window.OpenInTab(); }},
+        Routine{Command::Filter, [](MainWindow& window) { window.records_->FilterLine().setFocus(); }},
+        Routine{Command::Find, [](MainWindow& window) { window.FindOrAsk(Command::Find); }},
+        Routine{Command::FindNext, [](MainWindow& window) { window.FindOrAsk(Command::FindNext); }},
+        Routine{Command::Help,
+                [](MainWindow& window) { window.help_.Show(qt::TopicOf(QApplication::focusWidget())); }},
+        Routine{Command::HelpContents, [](MainWindow& window) { window.help_.Show({}); }},
+        Routine{Command::AboutAdventure, [](MainWindow& window) { window.AboutAdventure(); }},
+        Routine{Command::About, [](MainWindow& window) { window.About(); }},
+    };
+    return kRoutines;
 }
 
 void MainWindow::DoInLogic(Command command) {

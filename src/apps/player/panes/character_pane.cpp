@@ -21,7 +21,7 @@ constexpr int kSize = CharacterScreen::kCharacterSize;
 constexpr int kWantedRows = 16;
 
 QRgb ToRgb(int number) {
-    const text::Rgb colour = text::ColorRGB(number);
+    const text::Rgb colour = text::ColourRGB(number);
     return qRgb(colour.red, colour.green, colour.blue);
 }
 

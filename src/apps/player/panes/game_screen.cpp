@@ -8,15 +8,13 @@
 #include <utility>
 
 #include "engine/engine.h"
-#include "engine/state_actions.h"
 #include "pictures/book_loader.h"
 #include "player/panes/character_pane.h"
 #include "player/panes/picture_pane.h"
 #include "player/panes/text_pane.h"
 #include "player/play/game_pictures.h"
-#include "player/play/session.h"
+#include "player/play/played_game.h"
 #include "qt/strings.h"
-#include "store/extensions.h"
 #include "text/colours.h"
 #include "text/safe_text.h"
 #include "text/utf8.h"
@@ -40,9 +38,8 @@ constexpr int kLeastRows = 10;
 
 }  // namespace
 
-GameScreen::GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, ScreenEvents events)
-    : dialogs_(dialogs),
-      events_(std::move(events)),
+GameScreen::GameScreen(platform::Timers& timers, ScreenEvents events)
+    : events_(std::move(events)),
       timeOut_(timers, [this] { TimeOutTick(); }),
       wait_(timers, [this] { WaitTick(); }),
       more_(timers, [this] { GoOn(); }),
@@ -76,15 +73,14 @@ void GameScreen::StopAlarms() {
     more_.Stop();
 }
 
-void GameScreen::Attach(Session* session) {
+void GameScreen::Attach(PlayedGame* game) {
     StopAlarms();
     history_ = {};
     typed_.clear();
-    session_ = session;
+    played_ = game;
     pictures_.reset();
-    if (session_ == nullptr) return;
-    session_->AskForFilesBy([this](const engine::FileRequest& request) { return AskForFile(request); });
-    pictures_ = std::make_unique<GamePictures>(session_->Adventure(), events_.notice);
+    if (played_ == nullptr) return;
+    pictures_ = std::make_unique<GamePictures>(played_->Adventure(), events_.notice);
 }
 
 void GameScreen::SetLook(const ScreenLook& look) {
@@ -118,7 +114,7 @@ void GameScreen::ChoosePane() {
 void GameScreen::ColourPicture() {
     QPalette surroundings = text_->palette();
     if (ShowsCharacters()) {
-        const text::Rgb paper = text::ColorRGB(game_.style.paper);
+        const text::Rgb paper = text::ColourRGB(game_.style.paper);
         surroundings.setColor(QPalette::Base, QColor(paper.red, paper.green, paper.blue));
     }
     picture_->setPalette(surroundings);
@@ -133,10 +129,10 @@ void GameScreen::StartGame(const engine::GameLook& look) {
     game_ = look;
     HidePicture();
     TextLook textLook{.style = look.style, .columns = look.printWidth, .page = look_.page};
-    if (!look.characterSets) textLook.family = qt::ToQt(session_->FontName(look.style.font));
+    if (!look.characterSets) textLook.family = qt::ToQt(played_->FontName(look.style.font));
     text_->StartGame(textLook);
     pictures::CharacterSets sets;
-    if (look.characterSets) sets = pictures::LoadCharacterSets(session_->Adventure());
+    if (look.characterSets) sets = pictures::LoadCharacterSets(played_->Adventure());
     characters_->StartGame(CharacterScreen(std::move(sets)));
     characters_->Screen().Clear(look.style.paper, look.style.ink);
     characters_->Screen().Keep(static_cast<std::size_t>(look_.text.lines));
@@ -178,9 +174,14 @@ void GameScreen::Write(std::string_view run, const engine::TextStyle& style, eng
 
 void GameScreen::WriteUnwrapped(const std::string& shown, const engine::TextStyle& style,
                                 engine::TextRole role) {
-    if (transcript_.IsOpen() && role == engine::TextRole::Game) transcript_.Lines()->Write(shown);
-    const QString family = game_.characterSets ? QString() : qt::ToQt(session_->FontName(style.font));
+    if (auto* lines = Transcript(); lines != nullptr && role == engine::TextRole::Game) lines->Write(shown);
+    const QString family = game_.characterSets ? QString() : qt::ToQt(played_->FontName(style.font));
     text_->Write(qt::ToQt(shown), style, family);
+}
+
+/// Where what is shown is written too; nullptr where it is not.
+engine::Transcript* GameScreen::Transcript() const {
+    return played_ == nullptr ? nullptr : played_->Transcript().Lines();
 }
 
 void GameScreen::EndLine(engine::LineEnd kind) {
@@ -191,12 +192,12 @@ void GameScreen::EndLine(engine::LineEnd kind) {
         if (blankBreak) WriteUnwrapped(" ", style_, engine::TextRole::Game);
         return;
     }
-    if (transcript_.IsOpen()) transcript_.Lines()->EndLine();
+    if (auto* lines = Transcript()) lines->EndLine();
     text_->EndLine();
 }
 
 void GameScreen::Clear(int paper, int ink) {
-    if (transcript_.IsOpen()) transcript_.Lines()->NewPage();
+    if (auto* lines = Transcript()) lines->NewPage();
     text_->ClearPage(paper, ink);
     if (game_.characterSets) characters_->Screen().Clear(paper, ink);
 }
@@ -210,7 +211,7 @@ void GameScreen::ShowInput(std::string_view typed, std::string_view cursor) {
 void GameScreen::EndInput(std::string_view typed) {
     typed_.clear();
     history_.Add(typed);
-    if (transcript_.IsOpen()) transcript_.Lines()->Typed(Shown(typed));
+    if (auto* lines = Transcript()) lines->Typed(Shown(typed));
     text_->EndInput(qt::ToQt(Shown(typed)));
     if (game_.characterSets) characters_->Screen().EndInput(typed);
     turnMade_ = true;
@@ -273,54 +274,38 @@ void GameScreen::StartWait(std::chrono::milliseconds length) {
 }
 
 void GameScreen::TimeOutTick() {
-    if (session_ == nullptr) return;
-    if (!session_->TimeOutTick()) return timeOut_.Start(kBusyDelay);
+    if (played_ == nullptr) return;
+    if (!played_->TimeOutTick()) return timeOut_.Start(kBusyDelay);
     turnMade_ = true;
     ShowStep();
 }
 
 void GameScreen::WaitTick() {
-    if (session_ == nullptr) return;
-    if (!session_->WaitTick()) return wait_.Start(kBusyDelay);
+    if (played_ == nullptr) return;
+    if (!played_->WaitTick()) return wait_.Start(kBusyDelay);
     ShowStep();
 }
 
 void GameScreen::GoOn() {
-    if (session_ == nullptr) return;
-    if (!session_->GoOn()) return more_.Start(kBusyDelay);
+    if (played_ == nullptr) return;
+    if (!played_->GoOn()) return more_.Start(kBusyDelay);
     ShowStep();
 }
 
 void GameScreen::StopTurn() {
-    if (session_ == nullptr || !session_->StopTurn()) return;
+    if (played_ == nullptr || !played_->StopTurn()) return;
     wait_.Stop();
     more_.Stop();
     turnMade_ = true;
     ShowStep();
 }
 
-std::optional<std::filesystem::path> GameScreen::AskForFile(const engine::FileRequest& request) {
-    std::error_code ignored;
-    std::filesystem::create_directories(session_->SaveFolder(), ignored);
-    return dialogs_.ChooseFile({.title = std::string(request.title),
-                                .filter = std::string(request.filter),
-                                .extension = std::string(request.extension),
-                                .forWriting = request.forWriting,
-                                .start = session_->SaveFolder()});
-}
-
-std::optional<std::filesystem::path> GameScreen::AskForSavedGame(bool forWriting) {
-    auto file = AskForFile(engine::SavedGameRequest(forWriting));
-    if (file && !file->has_extension()) *file += store::extension::kSavedGame;
-    return file;
-}
-
 void GameScreen::Send(char32_t key) {
-    session_->Key(key);
+    played_->Key(key);
 }
 
 void GameScreen::Type(const std::string& typed) {
-    if (session_ == nullptr) return;
+    if (played_ == nullptr) return;
     for (const char32_t point : text::Decode(typed)) {
         if (point >= text::kBadByte || (game_.characterSets && point > kLastTyped)) continue;
         Send(point);
@@ -329,9 +314,9 @@ void GameScreen::Type(const std::string& typed) {
 }
 
 void GameScreen::Press(PaneKey key) {
-    if (session_ == nullptr) return;
-    if (key == PaneKey::EraseLine && session_->WaitingFor() == Waiting::Turn) return StopTurn();
-    if (!session_->TakesLine()) {
+    if (played_ == nullptr) return;
+    if (key == PaneKey::EraseLine && played_->WaitingFor() == Waiting::Turn) return StopTurn();
+    if (!played_->TakesLine()) {
         Send(Engine::kEnter);
         return ShowStep();
     }
@@ -368,10 +353,10 @@ void GameScreen::ShowStep() {
     if (game_.characterSets) characters_->ShowChanges();
     if (std::exchange(turnMade_, false)) text_->ShowTurn();
     events_.stepped();
-    if (const auto failure = transcript_.Flush()) events_.notice(*failure);
-    if (session_ == nullptr) return;
-    if (session_->WaitingFor() == Waiting::Turn) more_.Start(kNextSlice);
-    if (const std::string failure = session_->TakeFailure(); !failure.empty()) events_.notice(failure);
+    if (played_ == nullptr) return;
+    if (const auto failure = played_->Transcript().Flush()) events_.notice(*failure);
+    if (played_->WaitingFor() == Waiting::Turn) more_.Start(kNextSlice);
+    if (const std::string failure = played_->TakeFailure(); !failure.empty()) events_.notice(failure);
 }
 
 }  // namespace fabula::player

@@ -7,23 +7,25 @@
 #include <string>
 
 #include "engine/game_window.h"
-#include "platform/dialogs.h"
 #include "platform/timers.h"
 #include "player/panes/history.h"
 #include "player/panes/pane_keys.h"
 #include "player/panes/text_colours.h"
 #include "player/panes/text_pane.h"
-#include "player/play/transcript_file.h"
 
 class QSplitter;
 class QStackedWidget;
+
+namespace fabula::engine {
+class Transcript;
+}
 
 namespace fabula::player {
 
 class CharacterPane;
 class GamePictures;
 class PicturePane;
-class Session;
+class PlayedGame;
 
 /// What a game tells the window around its screen.
 struct ScreenEvents {
@@ -46,28 +48,23 @@ struct ScreenLook {
 };
 
 /// The panes of a game: picture, text and characters. It draws what the engine tells, and brings the
-/// player's keys and the passing of time to the session.
+/// player's keys and the passing of time to it.
 class GameScreen final : public QWidget, public engine::WholeWindow {
   public:
-    GameScreen(platform::Timers& timers, platform::Dialogs& dialogs, ScreenEvents events);
+    GameScreen(platform::Timers& timers, ScreenEvents events);
     ~GameScreen() override;
 
-    /// The session whose game is shown. It must be detached (nullptr) before it ends.
-    void Attach(Session* session);
+    /// The game that is shown. It must be detached (nullptr) before it ends.
+    void Attach(PlayedGame* game);
 
     void SetLook(const ScreenLook& look);
-    /// The transcript, to be opened and closed.
-    TranscriptFile& Transcript() { return transcript_; }
 
     /// Gives up the turn that goes on or pauses.
     void StopTurn();
 
-    /// Asks for the file of a saved game as SAVE and LOAD do.
-    std::optional<std::filesystem::path> AskForSavedGame(bool forWriting);
-
     /// Gives the keyboard to the pane that takes it.
     void FocusInput();
-    /// To be called after each call of the session that may have made a turn.
+    /// To be called after each call of the game that may have made a turn.
     void ShowStep();
 
     TextPane& Text() { return *text_; }
@@ -104,19 +101,17 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     void WaitTick();
     void GoOn();
     void StopAlarms();
-    std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request);
     void ChoosePane();
     void ColourPicture();
     void FitPicture();
     int LeastTextHeight() const;
     void WriteUnwrapped(const std::string& shown, const engine::TextStyle& style, engine::TextRole role);
     std::string Shown(std::string_view run) const;
+    engine::Transcript* Transcript() const;
 
-    platform::Dialogs& dialogs_;
     ScreenEvents events_;
-    Session* session_ = nullptr;
+    PlayedGame* played_ = nullptr;
     std::unique_ptr<GamePictures> pictures_;
-    TranscriptFile transcript_;
     History history_;
     engine::GameLook game_;
     ScreenLook look_;

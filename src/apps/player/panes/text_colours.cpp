@@ -55,7 +55,7 @@ text::Rgb TextColours::Base() const {
         case Page::OfTheGame:
             break;
     }
-    return text::ColorRGB(paper_);
+    return text::ColourRGB(paper_);
 }
 
 text::Rgb TextColours::Text() const {
@@ -67,12 +67,12 @@ text::Rgb TextColours::Text() const {
         case Page::OfTheGame:
             break;
     }
-    return text::ColorRGB(ink_);
+    return text::ColourRGB(ink_);
 }
 
 TextColours::Run TextColours::Of(const engine::TextStyle& style) const {
-    text::Rgb ink = style.ink == ink_ ? Text() : text::ColorRGB(style.ink);
-    text::Rgb paper = style.paper == paper_ ? Base() : text::ColorRGB(style.paper);
+    text::Rgb ink = style.ink == ink_ ? Text() : text::ColourRGB(style.ink);
+    text::Rgb paper = style.paper == paper_ ? Base() : text::ColourRGB(style.paper);
     if (style.inverse) std::swap(ink, paper);
     if (page_ != Page::OfTheGame) ink = Readable(ink, paper);
     if (paper == Base()) return {ink, std::nullopt};

@@ -1,16 +1,9 @@
 #include "player/panes/text_pane.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QApplication>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QMenu>
-#include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextDocumentFragment>
-#include <QTextFrame>
 #include <algorithm>
 
 #include "player/panes/flash_time.h"
@@ -21,8 +14,6 @@ namespace fabula::player {
 namespace {
 
 constexpr int kStyleProperty = QTextFormat::UserProperty + 1;
-constexpr int kMargin = 18;
-constexpr int kMarkWidth = 3;
 constexpr int kDefaultPoints = 12;
 constexpr std::chrono::milliseconds kSoon{1};
 constexpr std::size_t kMostFlashing = 200;
@@ -388,75 +379,6 @@ void TextPane::EndInput(const QString& typed) {
     EndLine();
 }
 
-int TextPane::BlockTop(int position) const {
-    const QTextBlock block = document()->findBlock(position);
-    return static_cast<int>(document()->documentLayout()->blockBoundingRect(block).top());
-}
-
-void TextPane::KeepPage() {
-    // A page that does not fill the pane begins at its top all the same, with empty space below.
-    QScrollBar& bar = *verticalScrollBar();
-    const int page = pageStart_.position();
-    if (page > 0) bar.setMaximum(std::max(bar.maximum(), BlockTop(page) - kMargin / 2));
-}
-
-int TextPane::TurnScroll() const {
-    return std::min(verticalScrollBar()->maximum(), BlockTop(turnStart_.position()) - kMargin / 2);
-}
-
-void TextPane::ShowTurn() {
-    Settle();
-    KeepPage();
-    verticalScrollBar()->setValue(TurnScroll());
-    viewport()->update();
-}
-
-TextPane::Reading TextPane::Place() const {
-    return {verticalScrollBar()->value() >= TurnScroll(), cursorForPosition(QPoint(0, 0))};
-}
-
-void TextPane::Return(const Reading& place) {
-    if (place.latest) return ShowTurn();
-    KeepPage();
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(place.top).top());
-}
-
-void TextPane::FitMargins() {
-    int side = kMargin;
-    const int columns = choice_.columns > 0 ? choice_.columns : look_.columns;
-    if (columns > 0) {
-        const int widest = QFontMetrics(font()).averageCharWidth() * columns;
-        side = std::max(side, (viewport()->width() - widest) / 2);
-    }
-    QTextFrameFormat frame = document()->rootFrame()->frameFormat();
-    if (frame.leftMargin() == side && frame.topMargin() == kMargin) return;
-    frame.setMargin(kMargin);
-    frame.setLeftMargin(side);
-    frame.setRightMargin(side);
-    document()->rootFrame()->setFrameFormat(frame);
-}
-
-void TextPane::resizeEvent(QResizeEvent* event) {
-    const Reading place = Place();
-    QTextEdit::resizeEvent(event);
-    FitMargins();
-    Return(place);
-}
-
-void TextPane::paintEvent(QPaintEvent* event) {
-    QTextEdit::paintEvent(event);
-    if (TurnStart() == 0) return;
-    const int scrolled = verticalScrollBar()->value();
-    const int top = BlockTop(TurnStart()) - scrolled;
-    const QRectF end = document()->documentLayout()->blockBoundingRect(document()->lastBlock());
-    const int bottom = static_cast<int>(end.bottom()) - scrolled;
-    const int side = static_cast<int>(document()->rootFrame()->frameFormat().leftMargin());
-    QPainter painter(viewport());
-    QColor mark = palette().color(QPalette::Highlight);
-    mark.setAlpha(150);
-    painter.fillRect(side - kMarkWidth * 3, top, kMarkWidth, bottom - top, mark);
-}
-
 void TextPane::ToggleFlash() {
     flashOn_ = !flashOn_;
     QList<ExtraSelection> selections;
@@ -469,107 +391,6 @@ void TextPane::ToggleFlash() {
     }
     setExtraSelections(selections);
     if (!flashing_.empty()) flash_.Start(kFlashTime);
-}
-
-void TextPane::BackToInput() {
-    QTextCursor caret = End();
-    if (!shownCursor_.isEmpty())
-        caret.movePosition(QTextCursor::Left, QTextCursor::MoveAnchor,
-                           static_cast<int>(shownCursor_.size()));
-    setTextCursor(caret);
-    ensureCursorVisible();
-}
-
-bool TextPane::FindText(const QString& text, bool backwards) {
-    Settle();
-    return find(text, backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags());
-}
-
-bool TextPane::event(QEvent* event) {
-    Settle();
-    // What is no key of the pane stays a key of the window, such as that of Undo.
-    if (event->type() == QEvent::ShortcutOverride &&
-        MeaningOf(*static_cast<QKeyEvent*>(event)) == PaneKey::Other) {
-        event->ignore();
-        return true;
-    }
-    return QTextEdit::event(event);
-}
-
-bool TextPane::viewportEvent(QEvent* event) {
-    Settle();
-    return QTextEdit::viewportEvent(event);
-}
-
-void TextPane::keyPressEvent(QKeyEvent* event) {
-    const PaneKey key = MeaningOf(*event);
-    const bool inText = !textCursor().atEnd() && textCursor().position() < inputStart_.position();
-    switch (key) {
-        case PaneKey::Text:
-            BackToInput();
-            return handlers_.type(qt::FromQt(event->text()));
-        case PaneKey::Older:
-        case PaneKey::Newer:
-            if (inText) return QTextEdit::keyPressEvent(event);
-            [[fallthrough]];
-        case PaneKey::Enter:
-        case PaneKey::Backspace:
-        case PaneKey::EraseLine:
-            BackToInput();
-            return handlers_.press(key);
-        case PaneKey::Copy:
-            return Copy();
-        case PaneKey::Paste:
-            return Paste();
-        case PaneKey::SelectAll:
-            return selectAll();
-        case PaneKey::Move:
-            return QTextEdit::keyPressEvent(event);
-        case PaneKey::Other:
-            return event->ignore();
-    }
-}
-
-void TextPane::inputMethodEvent(QInputMethodEvent* event) {
-    const QString committed = event->commitString();
-    event->setCommitString({});
-    BackToInput();
-    QTextEdit::inputMethodEvent(event);
-    if (!committed.isEmpty()) handlers_.type(qt::FromQt(committed));
-}
-
-void TextPane::mousePressEvent(QMouseEvent* event) {
-    // A press on a selection would begin to drag it, and a drag may take the text away.
-    if (event->button() == Qt::LeftButton && (event->modifiers() & Qt::ShiftModifier) == 0)
-        setTextCursor(cursorForPosition(event->pos()));
-    QTextEdit::mousePressEvent(event);
-}
-
-void TextPane::wheelEvent(QWheelEvent* event) {
-    // With Ctrl the window zooms.
-    if ((event->modifiers() & Qt::ControlModifier) != 0) return event->ignore();
-    QTextEdit::wheelEvent(event);
-}
-
-void TextPane::contextMenuEvent(QContextMenuEvent* event) {
-    QMenu menu(this);
-    QAction* copying = menu.addAction(tr("&Copy"), this, [this] { Copy(); });
-    copying->setEnabled(textCursor().hasSelection());
-    menu.addAction(tr("&Paste"), this, [this] { Paste(); });
-    menu.addAction(tr("Select &All"), this, [this] { selectAll(); });
-    menu.exec(event->globalPos());
-}
-
-void TextPane::Copy() {
-    if (textCursor().hasSelection())
-        QApplication::clipboard()->setText(textCursor().selection().toPlainText());
-}
-
-void TextPane::Paste() {
-    const QString pasted = QApplication::clipboard()->text().section('\n', 0, 0).simplified();
-    if (pasted.isEmpty()) return;
-    BackToInput();
-    handlers_.type(qt::FromQt(pasted));
 }
 
 }  // namespace fabula::player

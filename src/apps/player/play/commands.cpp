@@ -4,7 +4,7 @@
 #include <array>
 #include <stdexcept>
 
-#include "player/play/session.h"
+#include "player/play/played_game.h"
 
 namespace fabula::player {
 
@@ -76,7 +76,7 @@ constexpr std::array kCommands = {
 };
 
 bool IsPlaying(const PlayState& state) {
-    return state.session != nullptr && state.session->WaitingFor() != engine::Waiting::Nothing;
+    return state.game != nullptr && state.game->WaitingFor() != engine::Waiting::Nothing;
 }
 
 }  // namespace
@@ -109,20 +109,20 @@ const CommandEntry& EntryOf(Command command) {
 }
 
 ActionState StateOf(Command command, const PlayState& state) {
-    const Session* session = state.session;
+    const PlayedGame* game = state.game;
     switch (command) {
         case Command::Save:
-            return {.enabled = session != nullptr && session->CanSave()};
+            return {.enabled = game != nullptr && game->CanSave()};
         case Command::Restore:
-            return {.enabled = session != nullptr && session->CanRestore()};
+            return {.enabled = game != nullptr && game->CanRestore()};
         case Command::Undo:
-            return {.enabled = session != nullptr && session->CanUndo()};
+            return {.enabled = game != nullptr && game->CanUndo()};
         case Command::Stop: {
-            const bool can = session != nullptr && session->CanStop();
+            const bool can = game != nullptr && game->CanStop();
             return {.enabled = can, .visible = can};
         }
         case Command::StartAgain:
-            return {.enabled = session != nullptr};
+            return {.enabled = game != nullptr};
         case Command::Transcript:
             return {.enabled = IsPlaying(state)};
         case Command::Next:
@@ -132,7 +132,7 @@ ActionState StateOf(Command command, const PlayState& state) {
         case Command::Find:
         case Command::FindNext:
         case Command::FindBefore:
-            return {.enabled = session != nullptr && !state.characters};
+            return {.enabled = game != nullptr && !state.characters};
         default:
             return {};
     }

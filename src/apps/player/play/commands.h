@@ -1,11 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string_view>
 
 namespace fabula::player {
 
-class Session;
+class PlayedGame;
 
 /// What a player can tell the window to do, beside playing. Menus, tool bar and keys all lead here.
 enum class Command {
@@ -37,6 +38,7 @@ enum class Command {
     HelpContents,
     About,
 };
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(Command::About) + 1;
 
 /// The menus in the order of the menu bar. Theme is a menu in View.
 enum class Menu { File, Game, View, Theme, Help };
@@ -69,7 +71,7 @@ const CommandEntry& EntryOf(Command command);
 
 /// What the window is about.
 struct PlayState {
-    const Session* session = nullptr;  ///< the game, or nullptr
+    const PlayedGame* game = nullptr;  ///< the game, or nullptr
     bool scriptLoaded = false;
     bool testRun = false;     ///< the authoring tool shows the window
     bool characters = false;  ///< the game is shown in the pane of characters

@@ -1,17 +1,17 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QWidget>
 #include <functional>
 
+#include "qt/find_bar.h"
+
 class QLabel;
-class QLineEdit;
 
 namespace fabula::player {
 
 /// The line below a game in which the player looks for words in its text. Enter goes up, to what was
-/// written before; Escape closes it.
-class FindBar final : public QWidget {
+/// written before.
+class FindBar final : public qt::FindBar {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     struct Handlers {
@@ -20,18 +20,10 @@ class FindBar final : public QWidget {
     };
     explicit FindBar(Handlers handlers, QWidget* parent = nullptr);
 
-    /// Shows the line and gives it the keyboard.
-    void Open();
     void Find(bool backwards);
 
-  protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
   private:
-    void Close();
-
     Handlers handlers_;
-    QLineEdit* wanted_;
     QLabel* answer_;
 };
 

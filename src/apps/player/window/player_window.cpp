@@ -12,14 +12,13 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QWheelEvent>
+#include <algorithm>
 
-#include "platform/error.h"
 #include "player/panes/character_pane.h"
 #include "player/panes/game_screen.h"
 #include "player/panes/status_pane.h"
 #include "player/panes/text_access.h"
 #include "player/panes/text_pane.h"
-#include "player/play/session.h"
 #include "player/window/about_adventure.h"
 #include "player/window/diagnostics_window.h"
 #include "player/window/find_bar.h"
@@ -47,7 +46,7 @@ PlayerWindow::PlayerWindow(const WindowServices& services)
       closing_(services.timers, [this] { CloseAfterGame(); }),
       pages_(new QStackedWidget),
       welcome_(new WelcomePage([this] { AskForGame(); }, [this](const auto& file) { Load(file); })),
-      screen_(new GameScreen(services.timers, services.dialogs,
+      screen_(new GameScreen(services.timers,
                              {.started = [this](const engine::GameLook& look) { GameStarted(look); },
                               .ended = [this] { GameEnded(); },
                               .status = [this](engine::StatusField field,
@@ -59,6 +58,19 @@ PlayerWindow::PlayerWindow(const WindowServices& services)
                                   },
                               .stepped = [this] { Follow(); },
                               .notice = [this](const std::string& sentence) { Tell(sentence); }})),
+      logic_({.timers = services.timers,
+              .dialogs = services.dialogs,
+              .sound = sound_,
+              .random = services.random,
+              .recent = settings_.recent,
+              .dataFolder = services.dataFolder,
+              .testRun = services.testRun,
+              .trace = services.trace,
+              .options = services.options},
+             {.window = *screen_,
+              .parts = screen_->Parts(),
+              .attach = [this](PlayedGame* game) { Attach(game); },
+              .say = [this](const std::string& sentence) { Tell(sentence); }}),
       findBar_(new FindBar(
           {.find = [this](const QString& text, bool up) { return screen_->Text().FindText(text, up); },
            .closed = [this] { screen_->FocusInput(); }})),
@@ -91,103 +103,72 @@ PlayerWindow::PlayerWindow(const WindowServices& services)
 }
 
 PlayerWindow::~PlayerWindow() {
-    EndSession();
+    logic_.End();
 }
 
+constexpr std::array<PlayerWindow::Routine, kCommandCount> PlayerWindow::kRoutines{{
+    {Command::Open, [](PlayerWindow& window) { window.AskForGame(); }},
+    {Command::Save, [](PlayerWindow& window) { window.logic_.Save(); }},
+    {Command::Restore, [](PlayerWindow& window) { window.Step(&PlayerScreen::Restore); }},
+    {Command::Exit, [](PlayerWindow& window) { window.close(); }},
+    {Command::Undo, [](PlayerWindow& window) { window.Step(&PlayerScreen::Undo); }},
+    {Command::Stop, [](PlayerWindow& window) { window.screen_->StopTurn(); }},
+    {Command::StartAgain, [](PlayerWindow& window) { window.Step(&PlayerScreen::StartAgain); }},
+    {Command::Next, [](PlayerWindow& window) { window.Step(&PlayerScreen::Next); }},
+    {Command::Sound, [](PlayerWindow& window) { window.ToggleSound(); }},
+    {Command::Transcript, [](PlayerWindow& window) { window.ToggleTranscript(); }},
+    {Command::Debug, [](PlayerWindow& window) { window.ShowDiagnostics(); }},
+    {Command::Find, [](PlayerWindow& window) { window.findBar_->Ask(); }},
+    {Command::FindNext, [](PlayerWindow& window) { window.findBar_->Find(false); }},
+    {Command::FindBefore, [](PlayerWindow& window) { window.findBar_->Find(true); }},
+    {Command::ZoomIn, [](PlayerWindow& window) { window.Zoom(1); }},
+    {Command::ZoomOut, [](PlayerWindow& window) { window.Zoom(-1); }},
+    {Command::ZoomNormal, [](PlayerWindow& window) { window.Zoom(0); }},
+    {Command::FullScreen, [](PlayerWindow& window) { window.ToggleFullScreen(); }},
+    {Command::ThemeSystem, [](PlayerWindow& window) { window.ChooseTheme(qt::Theme::System); }},
+    {Command::ThemeLight, [](PlayerWindow& window) { window.ChooseTheme(qt::Theme::Light); }},
+    {Command::ThemeDark, [](PlayerWindow& window) { window.ChooseTheme(qt::Theme::Dark); }},
+    {Command::Flashing, [](PlayerWindow& window) { window.ChooseFlashing(); }},
+    {Command::PlainText, [](PlayerWindow& window) { window.ChoosePlainText(); }},
+    {Command::Settings, [](PlayerWindow& window) { window.ChangeSettings(); }},
+    {Command::Help,
+     [](PlayerWindow& window) { window.services_.help(qt::TopicOf(QApplication::focusWidget())); }},
+    {Command::HelpContents, [](PlayerWindow& window) { window.services_.help({}); }},
+    {Command::About, [](PlayerWindow& window) { window.About(); }},
+}};
+
 void PlayerWindow::Do(Command command) {
-    switch (command) {
-        case Command::Open:
-            return AskForGame();
-        case Command::Save:
-            return SaveGame();
-        case Command::Restore:
-            return RestoreGame();
-        case Command::Exit:
-            close();
-            return;
-        case Command::Undo:
-            return Step(&Session::Undo);
-        case Command::Stop:
-            return screen_->StopTurn();
-        case Command::StartAgain:
-            return StartAgain();
-        case Command::Next:
-            return Step(&Session::Next);
-        case Command::Sound:
-            return ToggleSound();
-        case Command::Transcript:
-            return ToggleTranscript(actions_.Of(command).isChecked());
-        case Command::Debug:
-            return ShowDiagnostics();
-        case Command::Find:
-            return findBar_->Open();
-        case Command::FindNext:
-            return findBar_->Find(false);
-        case Command::FindBefore:
-            return findBar_->Find(true);
-        case Command::ZoomIn:
-            return Zoom(1);
-        case Command::ZoomOut:
-            return Zoom(-1);
-        case Command::ZoomNormal:
-            return Zoom(0);
-        case Command::FullScreen:
-            return ToggleFullScreen();
-        case Command::ThemeSystem:
-            return ChooseTheme(qt::Theme::System);
-        case Command::ThemeLight:
-            return ChooseTheme(qt::Theme::Light);
-        case Command::ThemeDark:
-            return ChooseTheme(qt::Theme::Dark);
-        case Command::Flashing:
-            settings_.flashing = actions_.Of(command).isChecked();
-            return ApplySettings();
-        case Command::PlainText:
-            settings_.plainText = actions_.Of(command).isChecked();
-            return ApplySettings();
-        case Command::Settings:
-            return ChangeSettings();
-        case Command::Help:
-            return services_.help(qt::TopicOf(QApplication::focusWidget()));
-        case Command::HelpContents:
-            return services_.help({});
-        case Command::About:
-            return About();
-    }
+    static_assert(std::ranges::all_of(kRoutines,
+                                      [](const Routine& each) {
+                                          return static_cast<std::size_t>(each.command) ==
+                                                 static_cast<std::size_t>(&each - kRoutines.data());
+                                      }),
+                  "each command has its routine, in the order of the commands");
+    kRoutines[static_cast<std::size_t>(command)].run(*this);
 }
 
 /// A step of the game that a command takes.
-void PlayerWindow::Step(bool (Session::*step)()) {
-    if (!session_ || !(session_.get()->*step)()) return;
-    ShowCommandedStep();
-}
-
-void PlayerWindow::ShowCommandedStep() {
-    const bool over = session_->WaitingFor() == engine::Waiting::Nothing;
-    endBar_->setVisible(over);
+void PlayerWindow::Step(bool (PlayerScreen::*step)()) {
+    if (!(logic_.*step)()) return;
+    endBar_->setVisible(!logic_.IsRunning());
     screen_->ShowStep();
-    if (!over) screen_->FocusInput();
+    if (logic_.IsRunning()) screen_->FocusInput();
 }
 
 /// Shows what can be done now, and what the game waits for.
 void PlayerWindow::Follow() {
     if (debugWindow_) debugWindow_->Follow();
-    actions_.Follow({.session = session_.get(),
+    actions_.Follow({.game = logic_.Playing(),
                      .scriptLoaded = scriptLoaded_,
                      .testRun = services_.testRun,
-                     .characters = session_ && screen_->ShowsCharacters()});
-    TellWait();
+                     .characters = logic_.Playing() && screen_->ShowsCharacters()});
+    ShowSwitches();
+    logic_.FollowWait();
 }
 
-void PlayerWindow::TellWait() {
-    constexpr int kLongTurn = 20;
-    const auto waiting = session_ ? session_->WaitingFor() : engine::Waiting::Nothing;
-    slices_ = waiting == engine::Waiting::Turn ? slices_ + 1 : 0;
-    std::string sentence;
-    if (waiting == engine::Waiting::AnyKey) sentence = "The game waits for a key.";
-    if (slices_ >= kLongTurn) sentence = "The game is busy. Esc stops the turn.";
-    if (!sentence.empty() || waitTold_) status_->Tell(sentence);
-    waitTold_ = !sentence.empty();
+void PlayerWindow::ShowSwitches() {
+    actions_.Of(Command::Sound).setChecked(logic_.SoundOn());
+    actions_.Of(Command::Transcript).setChecked(logic_.WritesTranscript());
 }
 
 void PlayerWindow::MakeRecentMenu() {
@@ -213,8 +194,8 @@ void PlayerWindow::MakeEndBar() {
     load->setAccessibleName(tr("Load a Game"));
     ending_ = new QLabel;
     ending_->setObjectName("Ending");
-    QObject::connect(again, &QPushButton::clicked, this, [this] { StartAgain(); });
-    QObject::connect(back, &QPushButton::clicked, this, [this] { Step(&Session::Undo); });
+    QObject::connect(again, &QPushButton::clicked, this, [this] { Step(&PlayerScreen::StartAgain); });
+    QObject::connect(back, &QPushButton::clicked, this, [this] { Step(&PlayerScreen::Undo); });
     QObject::connect(load, &QPushButton::clicked, this, [this] { AskForGame(); });
     ending_->setWordWrap(true);
     rows->addWidget(ending_);
@@ -240,42 +221,24 @@ void PlayerWindow::OpenAtStart(const std::filesystem::path& file) {
 }
 
 void PlayerWindow::AskForGame() {
-    const auto& recent = settings_.recent.Files();
-    const auto start = recent.empty() ? std::filesystem::current_path() : recent.front().parent_path();
-    const auto file = services_.dialogs.ChooseFile(
-        {.title = "Open VEL Database", .filter = "VEL Database|*.fbd", .extension = "fbd", .start = start});
-    if (file) Load(*file);
+    ShowLoaded(logic_.Open());
 }
 
 void PlayerWindow::Load(const std::filesystem::path& file) {
-    if (session_ && session_->IsBusy()) return;
-    std::unique_ptr<Session> opened;
-    try {
-        opened = std::make_unique<Session>(
-            file, services_.dataFolder,
-            engine::Host{*screen_, services_.dialogs, services_.random, sound_, services_.trace,
-                         screen_->Parts()},
-            services_.timers, services_.testRun ? Autosave::Off : Autosave::On, services_.options);
-    } catch (const Error& error) {
-        services_.dialogs.Tell(error.what(), "Error");
-        settings_.recent.Remove(file);
-        ShowRecent();
-        if (!session_) pages_->setCurrentIndex(0);
-        return;
-    }
-    EndSession();
-    session_ = std::move(opened);
-    screen_->Attach(session_.get());
-    if (!services_.testRun) settings_.recent.AddMRUItem(std::filesystem::absolute(file));
+    ShowLoaded(logic_.Load(file));
+}
+
+void PlayerWindow::Attach(PlayedGame* game) {
+    debugWindow_.reset();
+    screen_->Attach(game);
+    scriptLoaded_ = false;
+    if (game != nullptr) pages_->setCurrentIndex(1);
+}
+
+void PlayerWindow::ShowLoaded(bool loaded) {
     ShowRecent();
-    pages_->setCurrentIndex(1);
-    const bool resume =
-        session_->CanResume() &&
-        services_.dialogs.Confirm("Go on where the last session of this game stopped?", "Resume");
-    session_->Start();
-    if (resume && session_->WaitingFor() != engine::Waiting::Nothing) session_->Resume();
-    actions_.Of(Command::Sound).setChecked(session_->SoundOn());
-    screen_->ShowStep();
+    if (loaded) screen_->ShowStep();
+    if (logic_.Playing() == nullptr) pages_->setCurrentIndex(0);
 }
 
 void PlayerWindow::Tell(const std::string& sentence) {
@@ -288,17 +251,9 @@ void PlayerWindow::SoundFailed(const std::string& sentence) {
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (session_ && session_->SoundOn()) ToggleSound();
+            if (logic_.SoundOn()) ToggleSound();
         },
         Qt::QueuedConnection);
-}
-
-void PlayerWindow::EndSession() {
-    debugWindow_.reset();
-    CloseTranscript();
-    screen_->Attach(nullptr);
-    session_.reset();
-    scriptLoaded_ = false;
 }
 
 void PlayerWindow::GameStarted(const engine::GameLook& look) {
@@ -312,7 +267,7 @@ void PlayerWindow::GameStarted(const engine::GameLook& look) {
 void PlayerWindow::GameEnded() {
     // The engine is still at work: a window that closes lets it finish first.
     if (services_.testRun) return closing_.Start(std::chrono::milliseconds(0));
-    const bool failed = session_ && session_->HasFailed();
+    const bool failed = logic_.Playing() && logic_.Playing()->HasFailed();
     ending_->setText(failed ? tr("The game went wrong. Undo goes back to before.") : tr("The end."));
     endBar_->show();
     endBar_->setFocus();
@@ -328,41 +283,6 @@ void PlayerWindow::GrowForCharacters() {
 
 void PlayerWindow::CloseAfterGame() {
     if (!close()) closing_.Start(kClosingDelay);
-}
-
-void PlayerWindow::StartAgain() {
-    if (!session_ || session_->IsBusy()) return;
-    const bool running = session_->WaitingFor() != engine::Waiting::Nothing;
-    if (running && session_->CanUndo() &&
-        !services_.dialogs.Confirm("Leave the game as it stands and start it from its beginning?",
-                                   "Start Again"))
-        return;
-    Step(&Session::Start);
-}
-
-void PlayerWindow::SaveGame() {
-    if (!session_ || !session_->CanSave()) return;
-    const auto file = screen_->AskForSavedGame(true);
-    if (!file) return;
-    try {
-        session_->SaveTo(*file);
-        Tell("Saved as " + file->filename().string() + ".");
-    } catch (const Error& error) {
-        services_.dialogs.Tell(error.what(), "Error");
-    }
-}
-
-void PlayerWindow::RestoreGame() {
-    if (!session_ || !session_->CanRestore()) return;
-    const auto file = screen_->AskForSavedGame(false);
-    if (!file) return;
-    try {
-        if (!session_->RestoreFrom(*file))
-            services_.dialogs.Tell("Invalid Save File for this Adventure", "Error");
-    } catch (const Error& error) {
-        services_.dialogs.Tell(error.what(), "Error");
-    }
-    ShowCommandedStep();
 }
 
 void PlayerWindow::ToggleFullScreen() {
@@ -382,44 +302,36 @@ void PlayerWindow::ChooseTheme(qt::Theme theme) {
     ApplySettings();
 }
 
+void PlayerWindow::ChooseFlashing() {
+    settings_.flashing = actions_.Of(Command::Flashing).isChecked();
+    ApplySettings();
+}
+
+void PlayerWindow::ChoosePlainText() {
+    settings_.plainText = actions_.Of(Command::PlainText).isChecked();
+    ApplySettings();
+}
+
 void PlayerWindow::ToggleSound() {
-    if (session_) session_->ToggleSound();
-    actions_.Of(Command::Sound).setChecked(session_ && session_->SoundOn());
+    logic_.ToggleSound();
+    ShowSwitches();
 }
 
-void PlayerWindow::CloseTranscript() {
-    actions_.Of(Command::Transcript).setChecked(false);
-    if (const auto failure = screen_->Transcript().Close()) services_.dialogs.Tell(*failure, "Error");
-}
-
-void PlayerWindow::ToggleTranscript(bool on) {
-    if (!on) return CloseTranscript();
-    actions_.Of(Command::Transcript).setChecked(false);
-    if (!session_) return;
-    const auto start = std::filesystem::is_directory(session_->SaveFolder()) ? session_->SaveFolder()
-                                                                             : services_.dataFolder;
-    const auto file = services_.dialogs.ChooseFile({.title = "Write a Transcript",
-                                                    .filter = "Text|*.txt",
-                                                    .extension = "txt",
-                                                    .forWriting = true,
-                                                    .start = start / "transcript.txt"});
-    if (!file) return;
-    try {
-        screen_->Transcript().Open(*file);
-        actions_.Of(Command::Transcript).setChecked(true);
-    } catch (const Error& error) {
-        services_.dialogs.Tell(error.what(), "Error");
-    }
+void PlayerWindow::ToggleTranscript() {
+    logic_.WriteTranscript(actions_.Of(Command::Transcript).isChecked());
+    ShowSwitches();
 }
 
 void PlayerWindow::About() {
-    ShowAbout(AboutAdventure::Of(session_ ? &session_->Adventure() : nullptr), this);
+    PlayedGame* const game = logic_.Playing();
+    ShowAbout(AboutAdventure::Of(game ? &game->Adventure() : nullptr), this);
 }
 
 void PlayerWindow::ShowDiagnostics() {
-    if (!session_) return;
+    if (logic_.Playing() == nullptr) return;
     const auto help = [this] { services_.help(qt::TopicOf(debugWindow_.get())); };
-    if (!debugWindow_) debugWindow_ = std::make_unique<DiagnosticsWindow>(session_->Engine(), help, this);
+    if (!debugWindow_)
+        debugWindow_ = std::make_unique<DiagnosticsWindow>(logic_.Playing()->Engine(), help, this);
     debugWindow_->show();
     debugWindow_->activateWindow();
 }
@@ -458,8 +370,7 @@ void PlayerWindow::ShowRecent() {
 }
 
 void PlayerWindow::closeEvent(QCloseEvent* event) {
-    if (session_ && session_->IsBusy()) return event->ignore();
-    CloseTranscript();
+    if (!logic_.Close()) return event->ignore();
     settings_.geometry = saveGeometry();
     settings_.Save(services_.settings);
     event->accept();

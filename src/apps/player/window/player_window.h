@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QMainWindow>
+#include <array>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -11,6 +12,7 @@
 #include "platform/dialogs.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
+#include "player/play/player_screen.h"
 #include "player/play/preferred_sound.h"
 #include "player/window/player_actions.h"
 #include "player/window/player_settings.h"
@@ -25,7 +27,6 @@ namespace fabula::player {
 class DiagnosticsWindow;
 class FindBar;
 class GameScreen;
-class Session;
 class StatusPane;
 class WelcomePage;
 
@@ -48,7 +49,9 @@ struct WindowServices {
     std::function<void(const qt::HelpTopic& topic)> help = [](const qt::HelpTopic&) {};
 };
 
-/// The engine's window: one adventure, loaded and played.
+/// The engine's window: menus, tool bar, panes and status line around `PlayerScreen`, which decides
+/// everything about the game and its files. The window only shows what that tells and hands on what the
+/// player does.
 class PlayerWindow final : public QMainWindow {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
@@ -70,7 +73,7 @@ class PlayerWindow final : public QMainWindow {
     void SoundFailed(const std::string& sentence);
 
     /// The game being played, or nullptr.
-    Session* Playing() { return session_.get(); }
+    PlayedGame* Playing() { return logic_.Playing(); }
     GameScreen& Screen() { return *screen_; }
 
   protected:
@@ -81,10 +84,18 @@ class PlayerWindow final : public QMainWindow {
 
   private:
     void Do(Command command);
-    void Step(bool (Session::*step)());
-    void ShowCommandedStep();
+    /// What a command does.
+    struct Routine {
+        Command command;
+        void (*run)(PlayerWindow& window);
+    };
+    static const std::array<Routine, kCommandCount> kRoutines;
+
+    void Attach(PlayedGame* game);
+    void ShowLoaded(bool loaded);
+    void Step(bool (PlayerScreen::*step)());
     void Follow();
-    void TellWait();
+    void ShowSwitches();
     void MakeRecentMenu();
     void MakeEndBar();
     void PlaceWindow();
@@ -92,17 +103,14 @@ class PlayerWindow final : public QMainWindow {
     void GameStarted(const engine::GameLook& look);
     void GameEnded();
     void CloseAfterGame();
-    void StartAgain();
-    void SaveGame();
-    void RestoreGame();
     void GrowForCharacters();
     void ToggleFullScreen();
     void ChangeSettings();
     void ChooseTheme(qt::Theme theme);
-    void CloseTranscript();
-    void EndSession();
+    void ChooseFlashing();
+    void ChoosePlainText();
     void ToggleSound();
-    void ToggleTranscript(bool on);
+    void ToggleTranscript();
     void About();
     void ShowDiagnostics();
     void Zoom(int direction);
@@ -116,20 +124,18 @@ class PlayerWindow final : public QMainWindow {
     platform::Alarm opening_;
     platform::Alarm closing_;
     std::filesystem::path openAtStart_;
-    std::unique_ptr<Session> session_;
     std::unique_ptr<DiagnosticsWindow> debugWindow_;
 
     QStackedWidget* pages_;
     WelcomePage* welcome_;
     GameScreen* screen_;
+    PlayerScreen logic_;
     FindBar* findBar_;
     QWidget* endBar_;
     QLabel* ending_;
     StatusPane* status_;
     QMenu* recentMenu_;
     bool scriptLoaded_ = false;
-    bool waitTold_ = false;  ///< the status line tells what the game waits for
-    int slices_ = 0;         ///< of the turn that goes on
 };
 
 }  // namespace fabula::player

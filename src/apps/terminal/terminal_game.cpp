@@ -1,4 +1,4 @@
-#include "terminal/session.h"
+#include "terminal/terminal_game.h"
 
 #include <thread>
 
@@ -16,16 +16,16 @@ const std::string kDebugHelp =
     "to 0; "
     ":=5 gives it a value, or the object a location.";
 
-engine::WindowParts PartsOf(TerminalWindow& window, const SessionOptions& options) {
+engine::WindowParts PartsOf(TerminalWindow& window, const PlayOptions& options) {
     engine::WindowParts parts = window.Parts();
     parts.origins = options.origins;
     return parts;
 }
 
-class Session {
+class TerminalGame {
   public:
-    Session(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
-            const SessionOptions& options)
+    TerminalGame(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
+                 const PlayOptions& options)
         : window_(window),
           screen_(screen),
           options_(options),
@@ -124,7 +124,7 @@ class Session {
 
     TerminalWindow& window_;
     Screen& screen_;
-    const SessionOptions& options_;
+    const PlayOptions& options_;
     platform::SeededRandom random_;
     engine::SilentPlayer sound_;
     engine::Engine engine_;
@@ -134,9 +134,9 @@ class Session {
 
 }  // namespace
 
-bool PlaySession(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
-                 const SessionOptions& options) {
-    return Session(adventure, window, screen, options).Play();
+bool PlayInTerminal(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
+                    const PlayOptions& options) {
+    return TerminalGame(adventure, window, screen, options).Play();
 }
 
 }  // namespace fabula::terminal

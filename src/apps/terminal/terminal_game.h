@@ -10,8 +10,8 @@
 
 namespace fabula::terminal {
 
-/// How a session plays its game; as it stands no time passes and nothing is traced.
-struct SessionOptions {
+/// How a game is played; as it stands no time passes and nothing is traced.
+struct PlayOptions {
     std::optional<std::uint32_t> seed;  ///< for random numbers that can be drawn again
     bool realTime = false;              ///< time-outs run out and pauses last
     bool debug = false;                 ///< a line that begins with ":" is a request to Diagnostics
@@ -27,7 +27,7 @@ struct SessionOptions {
 /// line plays it, up to the next question.
 ///
 /// Throws fabula::Error when the input ends with a failure or something can't be written.
-bool PlaySession(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
-                 const SessionOptions& options);
+bool PlayInTerminal(store::Adventure& adventure, TerminalWindow& window, Screen& screen,
+                    const PlayOptions& options);
 
 }  // namespace fabula::terminal

@@ -12,6 +12,7 @@
 #include "engine/engine.h"
 #include "platform/timers.h"
 #include "player/play/game_folder.h"
+#include "player/play/transcript_file.h"
 #include "store/adventure.h"
 
 namespace fabula::player {
@@ -30,15 +31,15 @@ enum class Autosave { On, Off };
 ///
 /// A long turn is played in slices, so that the window stays awake: while the game is in the midst of one
 /// (Waiting::Turn) GoOn is due.
-class Session {
+class PlayedGame {
   public:
     /// Opens the file. Throws store::OpenError when it is refused, and fabula::Error when it can't be read.
-    Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
-            const engine::Host& host, platform::Timers& timers, Autosave autosave = Autosave::On,
-            const engine::Options& options = {});
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
-    ~Session();
+    PlayedGame(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
+               const engine::Host& host, platform::Timers& timers, Autosave autosave = Autosave::On,
+               const engine::Options& options = {});
+    PlayedGame(const PlayedGame&) = delete;
+    PlayedGame& operator=(const PlayedGame&) = delete;
+    ~PlayedGame();
 
     const std::filesystem::path& File() const { return adventure_->CurrentFile(); }
     const std::filesystem::path& SaveFolder() const { return folder_.folder; }
@@ -51,7 +52,7 @@ class Session {
 
     /// Starts the game. The states before stay for Undo.
     bool Start();
-    /// Whether there is a state of an earlier session to go on from.
+    /// Whether there is a state of an earlier time to go on from.
     bool CanResume() const;
     /// Goes on from it. When that is not possible the game goes on as it is, and the person is told.
     bool Resume();
@@ -91,6 +92,9 @@ class Session {
     std::string FontName(int number) const { return engine_.FontName(number); }
     bool IsBusy() const { return busy_; }
 
+    /// What the player has written of this game.
+    TranscriptFile& Transcript() { return transcript_; }
+
     /// For the diagnostics window; a game is played by the members above.
     engine::Engine& Engine() { return engine_; }
 
@@ -110,6 +114,7 @@ class Session {
     engine::Engine engine_;
     platform::Person& person_;
     FileAsker askForFile_;
+    TranscriptFile transcript_;
     bool keeps_;
     platform::Alarm autosave_;
     /// What the game was when it waited for a line, the latest at the end.

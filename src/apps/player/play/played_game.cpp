@@ -1,4 +1,4 @@
-#include "player/play/session.h"
+#include "player/play/played_game.h"
 
 #include <utility>
 
@@ -52,9 +52,9 @@ class Mark {
 
 }  // namespace
 
-Session::Session(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
-                 const engine::Host& host, platform::Timers& timers, Autosave autosave,
-                 const engine::Options& options)
+PlayedGame::PlayedGame(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
+                       const engine::Host& host, platform::Timers& timers, Autosave autosave,
+                       const engine::Options& options)
     : adventure_(OpenGame(file, host.person)),
       folder_(FolderOfGame(dataFolder, SaveNameOf(*adventure_), file)),
       engine_(*adventure_, host, InSlices(options)),
@@ -62,12 +62,12 @@ Session::Session(const std::filesystem::path& file, const std::filesystem::path&
       keeps_(autosave == Autosave::On),
       autosave_(timers, [this] { WriteAutosave(); }) {}
 
-Session::~Session() {
+PlayedGame::~PlayedGame() {
     if (autosave_.IsRunning()) WriteAutosave();
 }
 
 template <typename Step>
-bool Session::Run(Step step) {
+bool PlayedGame::Run(Step step) {
     if (busy_) return false;
     const Mark busy(busy_);
     step();
@@ -76,40 +76,40 @@ bool Session::Run(Step step) {
 }
 
 /// The question for a file is a box too.
-void Session::GiveFiles() {
+void PlayedGame::GiveFiles() {
     while (WaitingFor() == Waiting::File)
         engine_.GiveFile(askForFile_ ? askForFile_(engine_.FileAsked()) : std::nullopt);
 }
 
-bool Session::Start() {
+bool PlayedGame::Start() {
     if (!Run([this] { engine_.Initialize(); })) return false;
     Remember();
     return true;
 }
 
-bool Session::GoOn() {
+bool PlayedGame::GoOn() {
     if (!Run([this] { engine_.GoOn(); })) return false;
     AfterTurn();
     return true;
 }
 
-bool Session::CanStop() const {
+bool PlayedGame::CanStop() const {
     return WaitingFor() == Waiting::Turn || WaitingFor() == Waiting::Pause;
 }
 
-bool Session::StopTurn() {
+bool PlayedGame::StopTurn() {
     return CanStop() && Run([this] { engine_.StopTurn(states_.empty() ? "" : states_.back()); });
 }
 
-bool Session::CanRestore() const {
+bool PlayedGame::CanRestore() const {
     return !CanStop() && WaitingFor() != Waiting::File;
 }
 
-void Session::SaveTo(const std::filesystem::path& file) {
+void PlayedGame::SaveTo(const std::filesystem::path& file) {
     if (CanSave()) engine_.SaveTo(file);
 }
 
-bool Session::RestoreFrom(const std::filesystem::path& file) {
+bool PlayedGame::RestoreFrom(const std::filesystem::path& file) {
     bool taken = false;
     if (!CanRestore()) return false;
     const auto take = [&] {
@@ -121,12 +121,12 @@ bool Session::RestoreFrom(const std::filesystem::path& file) {
     return taken;
 }
 
-bool Session::CanUndo() const {
+bool PlayedGame::CanUndo() const {
     if (CanSave()) return states_.size() > 1;
     return !CanStop() && !states_.empty();
 }
 
-bool Session::Undo() {
+bool PlayedGame::Undo() {
     if (!CanUndo() || busy_) return false;
     // In the midst of a turn the latest state is the one before it.
     if (CanSave()) states_.pop_back();
@@ -139,12 +139,12 @@ bool Session::Undo() {
     return taken;
 }
 
-bool Session::CanResume() const {
+bool PlayedGame::CanResume() const {
     std::error_code error;
     return keeps_ && std::filesystem::is_regular_file(folder_.autosave, error);
 }
 
-bool Session::Resume() {
+bool PlayedGame::Resume() {
     return Run([this] {
         try {
             if (engine_.LoadFrom(folder_.autosave)) return;
@@ -155,46 +155,46 @@ bool Session::Resume() {
     });
 }
 
-bool Session::Key(char32_t key) {
+bool PlayedGame::Key(char32_t key) {
     const bool typing = TakesLine() && key != engine::Engine::kEnter;
     if (!Run([&] { engine_.Key(key); })) return false;
     if (!typing) AfterTurn();
     return true;
 }
 
-bool Session::EnterLine(std::string_view line) {
+bool PlayedGame::EnterLine(std::string_view line) {
     if (!Run([&] { engine_.EnterLine(line); })) return false;
     AfterTurn();
     return true;
 }
 
-bool Session::TimeOutTick() {
+bool PlayedGame::TimeOutTick() {
     if (!Run([this] { engine_.TimeOutTick(); })) return false;
     AfterTurn();
     return true;
 }
 
-bool Session::WaitTick() {
+bool PlayedGame::WaitTick() {
     if (!Run([this] { engine_.WaitTick(); })) return false;
     AfterTurn();
     return true;
 }
 
-bool Session::Next() {
+bool PlayedGame::Next() {
     if (!Run([this] { engine_.DoNextScript(); })) return false;
     AfterTurn();
     return true;
 }
 
-bool Session::ToggleSound() {
+bool PlayedGame::ToggleSound() {
     return Run([this] { engine_.ToggleSound(); });
 }
 
-bool Session::TakesLine() const {
+bool PlayedGame::TakesLine() const {
     return WaitingFor() == Waiting::Sentence || WaitingFor() == Waiting::Answer;
 }
 
-void Session::AfterTurn() {
+void PlayedGame::AfterTurn() {
     Remember();
     if (!keeps_) return;
     if (WaitingFor() == Waiting::Sentence) autosave_.Start(kAutosaveDelay);
@@ -205,7 +205,7 @@ void Session::AfterTurn() {
     std::filesystem::remove(folder_.autosave, ignored);
 }
 
-void Session::Remember() {
+void PlayedGame::Remember() {
     if (!CanSave()) return;
     std::string state = engine_.SavedState();
     if (!states_.empty() && states_.back() == state) return;
@@ -213,7 +213,7 @@ void Session::Remember() {
     if (states_.size() > kMostStates) states_.erase(states_.begin());
 }
 
-void Session::WriteAutosave() {
+void PlayedGame::WriteAutosave() {
     autosave_.Stop();
     if (states_.empty()) return;
     try {
@@ -224,7 +224,7 @@ void Session::WriteAutosave() {
     }
 }
 
-std::string Session::TakeFailure() {
+std::string PlayedGame::TakeFailure() {
     return std::exchange(failure_, {});
 }
 
