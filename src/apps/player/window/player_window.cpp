@@ -333,7 +333,7 @@ void PlayerWindow::CloseAfterGame() {
 void PlayerWindow::StartAgain() {
     if (!session_ || session_->IsBusy()) return;
     const bool running = session_->WaitingFor() != engine::Waiting::Nothing;
-    if (running && session_->CanUndo() &&
+    if (running && session_->HasProgress() &&
         !services_.dialogs.Confirm("Leave the game as it stands and start it from its beginning?",
                                    "Start Again"))
         return;
