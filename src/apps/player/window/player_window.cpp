@@ -41,6 +41,7 @@ constexpr std::chrono::milliseconds kClosingDelay{50};
 PlayerWindow::PlayerWindow(const WindowServices& services)
     : services_(services),
       settings_(PlayerSettings::Load(services.settings)),
+      kept_(settings_),
       sound_(services.sound),
       actions_(*this, [this](Command command) { Do(command); }),
       opening_(services.timers, [this] { Load(openAtStart_); }),
@@ -435,6 +436,7 @@ void PlayerWindow::Zoom(int direction) {
 }
 
 void PlayerWindow::ApplySettings() {
+    settings_.KeepChanges(services_.settings, kept_);
     qt::ApplyTheme(settings_.theme);
     actions_.Of(Command::Flashing).setChecked(settings_.flashing);
     actions_.Of(Command::PlainText).setChecked(settings_.plainText);
@@ -446,6 +448,7 @@ void PlayerWindow::ApplySettings() {
 }
 
 void PlayerWindow::ShowRecent() {
+    settings_.KeepChanges(services_.settings, kept_);
     const auto& files = settings_.recent.Files();
     recentMenu_->clear();
     recentMenu_->setEnabled(!files.empty());
@@ -461,7 +464,7 @@ void PlayerWindow::closeEvent(QCloseEvent* event) {
     if (session_ && session_->IsBusy()) return event->ignore();
     CloseTranscript();
     settings_.geometry = saveGeometry();
-    settings_.Save(services_.settings);
+    settings_.KeepChanges(services_.settings, kept_);
     event->accept();
 }
 
