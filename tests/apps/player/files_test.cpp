@@ -82,8 +82,9 @@ TEST(PlayerSettings, ComeBackAsTheyWere) {
     settings.characterZoom = -2;
     settings.flashing = false;
     settings.plainText = true;
-    settings.recent = platform::RecentFiles({"/g/a.fbd", "/g/b.fbd"});
-    settings.Save(store);
+    settings.recent = platform::RecentFiles({"/g/a.fbd"});
+    PlayerSettings kept;
+    settings.KeepChanges(store, kept);
     const PlayerSettings read = PlayerSettings::Load(store);
     EXPECT_EQ(read.geometry, "where");
     EXPECT_EQ(read.theme, qt::Theme::Dark);
@@ -91,7 +92,45 @@ TEST(PlayerSettings, ComeBackAsTheyWere) {
     EXPECT_EQ(read.characterZoom, -2);
     EXPECT_FALSE(read.flashing);
     EXPECT_TRUE(read.plainText);
-    EXPECT_EQ(read.recent.Files(), (std::vector<std::filesystem::path>{"/g/a.fbd", "/g/b.fbd"}));
+    EXPECT_EQ(read.recent.Files(), (std::vector<std::filesystem::path>{"/g/a.fbd"}));
+}
+
+TEST(PlayerSettings, OfTwoWindowsEachKeepsWhatItChangedAlone) {
+    const test::TempFolder folder;
+    QSettings store(qt::PathToQt(folder / "s.ini"), QSettings::IniFormat);
+    PlayerSettings first = PlayerSettings::Load(store);
+    PlayerSettings keptByFirst = first;
+    PlayerSettings second = PlayerSettings::Load(store);
+    PlayerSettings keptBySecond = second;
+    first.recent.AddMRUItem("/g/first.fbd");
+    first.KeepChanges(store, keptByFirst);
+    second.zoom = 200;
+    second.recent.AddMRUItem("/g/second.fbd");
+    second.KeepChanges(store, keptBySecond);
+    first.theme = qt::Theme::Dark;
+    first.geometry = "where";
+    first.KeepChanges(store, keptByFirst);
+    const PlayerSettings read = PlayerSettings::Load(store);
+    EXPECT_EQ(read.zoom, 200);
+    EXPECT_EQ(read.theme, qt::Theme::Dark);
+    EXPECT_EQ(read.recent.Files(), (std::vector<std::filesystem::path>{"/g/second.fbd", "/g/first.fbd"}));
+}
+
+TEST(PlayerSettings, AGameThatIsGoneLeavesTheRecentOnesOfAnotherWindowAlone) {
+    const test::TempFolder folder;
+    QSettings store(qt::PathToQt(folder / "s.ini"), QSettings::IniFormat);
+    store.setValue("PlayedFiles/1", "/g/old.fbd");
+    store.setValue("PlayedFiles/2", "/g/gone.fbd");
+    PlayerSettings first = PlayerSettings::Load(store);
+    PlayerSettings keptByFirst = first;
+    PlayerSettings second = first;
+    PlayerSettings keptBySecond = first;
+    second.recent.AddMRUItem("/g/new.fbd");
+    second.KeepChanges(store, keptBySecond);
+    first.recent.Remove("/g/gone.fbd");
+    first.KeepChanges(store, keptByFirst);
+    EXPECT_EQ(PlayerSettings::Load(store).recent.Files(),
+              (std::vector<std::filesystem::path>{"/g/new.fbd", "/g/old.fbd"}));
 }
 
 TEST(PlayerSettings, ValuesThatMakeNoSenseCountAsNotSet) {
@@ -113,12 +152,13 @@ TEST(PlayerSettings, TheRecentGamesStandBesideTheAdventuresOfTheAuthoringTool) {
     PlayerSettings settings = PlayerSettings::Load(store);
     EXPECT_EQ(settings.recent.Files(), (std::vector<std::filesystem::path>{"/plays/draft.fbd"}))
         << "programs of before kept the games there";
-    settings.recent = platform::RecentFiles({"/games/cake.fbd"});
-    settings.Save(store);
+    PlayerSettings kept = settings;
+    settings.recent.AddMRUItem("/games/cake.fbd");
+    settings.KeepChanges(store, kept);
     EXPECT_EQ(store.value("MRUFiles/1").toString(), "/plays/draft.fbd");
     store.setValue("MRUFiles/1", "/plays/other.fbd");
     EXPECT_EQ(PlayerSettings::Load(store).recent.Files(),
-              (std::vector<std::filesystem::path>{"/games/cake.fbd"}));
+              (std::vector<std::filesystem::path>{"/games/cake.fbd", "/plays/draft.fbd"}));
 }
 
 TEST(NextZoom, GoesInStepsAndStopsAtTheEnds) {

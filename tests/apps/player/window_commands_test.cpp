@@ -218,6 +218,52 @@ TEST(WindowCommands, StateBeforeAGameWentWrongIsOfferedAtTheNextStart) {
     EXPECT_TRUE(played.Text().ends_with("Room 1?\n>")) << played.Text();
 }
 
+/// A step to the east in an earlier session, which is gone on with.
+void ResumeInRoom1(PlayedWindow& played) {
+    played.Load(CommandsGame());
+    played.Type("e\n");
+    played.Restart();
+    played.dialogs.AnswerNext(true);
+    played.Window().Load(played.folder / "game.fbd");
+    ASSERT_TRUE(played.Text().ends_with("Room 1?\n>")) << played.Text();
+}
+
+TEST(WindowCommands, UndoAfterResumeGoesBackToWhereTheSessionWasResumedAndNoFurther) {
+    PlayedWindow played;
+    ResumeInRoom1(played);
+    EXPECT_FALSE(played.Action("Undo").isEnabled());
+    played.Type("w\n");
+    ASSERT_TRUE(played.Action("Undo").isEnabled());
+    played.Action("Undo").trigger();
+    EXPECT_TRUE(played.Text().ends_with("Room 1?\n>")) << played.Text();
+    EXPECT_FALSE(played.Action("Undo").isEnabled());
+}
+
+TEST(WindowCommands, UndoWhileAResumedGameWaitsForAKeyDoesNotGoBackToItsStart) {
+    PlayedWindow played;
+    played.Load(CommandsGame().Entry(1, "_", "_", "AT 1 ANYKEY"));
+    played.Type("e\n");
+    played.Type("x");
+    played.Restart();
+    played.dialogs.AnswerNext(true);
+    played.Window().Load(played.folder / "game.fbd");
+    ASSERT_EQ(played.Window().Playing()->WaitingFor(), Waiting::AnyKey);
+    played.Said();
+    played.Action("Undo").trigger();
+    EXPECT_EQ(played.Window().Playing()->WaitingFor(), Waiting::AnyKey);
+    EXPECT_EQ(played.Said().find("Room 0"), std::string::npos);
+}
+
+TEST(WindowCommands, StartAgainAsksInASessionThatWasResumed) {
+    PlayedWindow played;
+    ResumeInRoom1(played);
+    played.dialogs.AnswerNext(false);
+    played.Action("StartAgain").trigger();
+    EXPECT_EQ(played.dialogs.Boxes().back().text,
+              "Leave the game as it stands and start it from its beginning?");
+    EXPECT_TRUE(played.Text().ends_with("Room 1?\n>")) << played.Text();
+}
+
 TEST(WindowCommands, StartAgainAsksAndCanBeTakenBack) {
     PlayedWindow played;
     played.Load(CommandsGame());

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "engine/game.h"
 #include "engine/saved_game.h"
 #include "platform/error.h"
 #include "platform/user_folders.h"
@@ -145,14 +146,27 @@ bool PlayedGame::CanResume() const {
 }
 
 bool PlayedGame::Resume() {
-    return Run([this] {
+    const engine::Game* const game = engine_.Running();
+    if (game == nullptr) return false;
+    bool taken = false;
+    const bool ran = Run([&] {
         try {
-            if (engine_.LoadFrom(folder_.autosave)) return;
-            person_.Tell("The last session can't be resumed: the adventure has changed since.", "Error");
+            std::string state = engine::ReadSavedGame(folder_.autosave, game->state);
+            taken = engine_.TakeState(state);
+            if (!taken)
+                return person_.Tell("The last session can't be resumed: the adventure has changed since.",
+                                    "Error");
+            states_.assign(1, std::move(state));
         } catch (const Error& error) {
             person_.Tell(error.what(), "Error");
         }
     });
+    if (!taken) return ran;
+    resumed_ = true;
+    // In the midst of a turn that file is the state before it; else the game as it stands is the first one.
+    if (CanSave()) states_.clear();
+    AfterTurn();
+    return ran;
 }
 
 bool PlayedGame::Key(char32_t key) {

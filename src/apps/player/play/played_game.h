@@ -54,7 +54,8 @@ class PlayedGame {
     bool Start();
     /// Whether there is a state of an earlier time to go on from.
     bool CanResume() const;
-    /// Goes on from it. When that is not possible the game goes on as it is, and the person is told.
+    /// Goes on from it, and Undo never goes back before it. When that is not possible the game goes on as it
+    /// is, and the person is told.
     bool Resume();
 
     /// The game goes on with a long turn.
@@ -74,6 +75,8 @@ class PlayedGame {
     /// Goes back by one line that the player entered, also when the game has ended or gone wrong since.
     bool CanUndo() const;
     bool Undo();
+    /// Whether a new start would leave something that was played, in this session or in the one before it.
+    bool HasProgress() const { return resumed_ || CanUndo(); }
     static constexpr std::size_t kMostStates = 100;
 
     bool Key(char32_t key);
@@ -120,6 +123,7 @@ class PlayedGame {
     /// What the game was when it waited for a line, the latest at the end.
     std::vector<std::string> states_;
     bool busy_ = false;
+    bool resumed_ = false;  ///< it goes on from an earlier session
     bool failureTold_ = false;
     std::string failure_;
 };

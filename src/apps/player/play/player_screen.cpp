@@ -69,7 +69,7 @@ bool PlayerScreen::Next() {
 
 bool PlayerScreen::StartAgain() {
     if (!game_ || game_->IsBusy()) return false;
-    if (IsRunning() && game_->CanUndo() &&
+    if (IsRunning() && game_->HasProgress() &&
         !host_.dialogs.Confirm("Leave the game as it stands and start it from its beginning?",
                                "Start Again"))
         return false;

@@ -1,8 +1,10 @@
 #include "player/window/player_settings.h"
 
 #include <QSettings>
+#include <QVariant>
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "qt/strings.h"
 
@@ -30,6 +32,55 @@ constexpr const char* kRecentOfBefore = "MRUFiles";
 
 QString RecentKey(const char* section, std::size_t place) {
     return QStringLiteral("%1/%2").arg(section).arg(place + 1);
+}
+
+platform::RecentFiles ReadRecent(const QSettings& store) {
+    const bool isKept = store.childGroups().contains(kRecent);
+    std::vector<std::filesystem::path> recent;
+    for (std::size_t place = 0; place < platform::RecentFiles::kMostFiles; ++place) {
+        const QString file = store.value(RecentKey(isKept ? kRecent : kRecentOfBefore, place)).toString();
+        if (!file.isEmpty()) recent.push_back(qt::PathFromQt(file));
+    }
+    return platform::RecentFiles(recent);
+}
+
+/// What one window has done to its list, `before`, is done to the list as others have left it: one game
+/// came to the top, or some were taken out.
+platform::RecentFiles Merged(platform::RecentFiles others, const platform::RecentFiles& before,
+                             const platform::RecentFiles& now) {
+    const auto& files = now.Files();
+    if (files.size() >= before.Files().size()) {
+        others.AddMRUItem(files.front());
+        return others;
+    }
+    for (const std::filesystem::path& file : before.Files()) {
+        if (std::find(files.begin(), files.end(), file) == files.end()) others.Remove(file);
+    }
+    return others;
+}
+
+struct KeptValue {
+    const char* key;
+    QVariant value;
+};
+
+/// All but the recent games.
+std::vector<KeptValue> ValuesOf(const PlayerSettings& settings) {
+    return {
+        {"Startup/Geometry", settings.geometry},
+        {"Startup/Theme", QString::fromUtf8(NameOf(settings.theme))},
+        {"Startup/Zoom", settings.zoom},
+        {"Startup/CharacterZoom", settings.characterZoom},
+        {"Startup/Flashing", settings.flashing},
+        {"Startup/PlainText", settings.plainText},
+        {"Startup/Font", settings.text.family},
+        {"Startup/FontSize", settings.text.points},
+        {"Startup/LineWidth", settings.text.columns},
+        {"Startup/KeptLines", settings.text.lines},
+        {"Startup/Colours", static_cast<int>(settings.colours)},
+        {"Startup/SoundDevice", qt::ToQt(settings.sound.device)},
+        {"Startup/Volume", settings.sound.volume},
+    };
 }
 
 }  // namespace
@@ -65,33 +116,24 @@ PlayerSettings PlayerSettings::Load(const QSettings& store) {
         static_cast<Colours>(Number(store, "Startup/Colours", 0, static_cast<int>(Colours::Dark), 0));
     settings.sound.device = qt::FromQt(store.value("Startup/SoundDevice").toString());
     settings.sound.volume = Number(store, "Startup/Volume", 0, 100, settings.sound.volume);
-    const bool isKept = store.childGroups().contains(kRecent);
-    std::vector<std::filesystem::path> recent;
-    for (std::size_t place = 0; place < platform::RecentFiles::kMostFiles; ++place) {
-        const QString file = store.value(RecentKey(isKept ? kRecent : kRecentOfBefore, place)).toString();
-        if (!file.isEmpty()) recent.push_back(qt::PathFromQt(file));
-    }
-    settings.recent = platform::RecentFiles(recent);
+    settings.recent = ReadRecent(store);
     return settings;
 }
 
-void PlayerSettings::Save(QSettings& store) const {
-    store.setValue("Startup/Geometry", geometry);
-    store.setValue("Startup/Theme", QString::fromUtf8(NameOf(theme)));
-    store.setValue("Startup/Zoom", zoom);
-    store.setValue("Startup/CharacterZoom", characterZoom);
-    store.setValue("Startup/Flashing", flashing);
-    store.setValue("Startup/PlainText", plainText);
-    store.setValue("Startup/Font", text.family);
-    store.setValue("Startup/FontSize", text.points);
-    store.setValue("Startup/LineWidth", text.columns);
-    store.setValue("Startup/KeptLines", text.lines);
-    store.setValue("Startup/Colours", static_cast<int>(colours));
-    store.setValue("Startup/SoundDevice", qt::ToQt(sound.device));
-    store.setValue("Startup/Volume", sound.volume);
-    store.remove(kRecent);
-    for (std::size_t place = 0; place < recent.Files().size(); ++place)
-        store.setValue(RecentKey(kRecent, place), qt::PathToQt(recent.Files()[place]));
+void PlayerSettings::KeepChanges(QSettings& store, PlayerSettings& kept) {
+    const std::vector<KeptValue> before = ValuesOf(kept);
+    const std::vector<KeptValue> now = ValuesOf(*this);
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        if (now[i].value != before[i].value) store.setValue(now[i].key, now[i].value);
+    }
+    if (recent.Files() != kept.recent.Files()) {
+        store.sync();  // reads what another program has written
+        recent = Merged(ReadRecent(store), kept.recent, recent);
+        store.remove(kRecent);
+        for (std::size_t place = 0; place < recent.Files().size(); ++place)
+            store.setValue(RecentKey(kRecent, place), qt::PathToQt(recent.Files()[place]));
+    }
+    kept = *this;
 }
 
 int NextZoom(int percent, int direction) {

@@ -41,7 +41,9 @@ struct PlayerSettings {
 
     /// Values out of their range count as not set.
     static PlayerSettings Load(const QSettings& store);
-    void Save(QSettings& store) const;
+    /// Writes what differs from `kept`, which is what was read or written the last time, and makes it the
+    /// same: what another window has written since stays. The games that are recent there become so here.
+    void KeepChanges(QSettings& store, PlayerSettings& kept);
 };
 
 /// The next larger (`direction` 1) or smaller (-1) size of text; at the ends the same.

@@ -40,6 +40,7 @@ constexpr std::chrono::milliseconds kClosingDelay{50};
 PlayerWindow::PlayerWindow(const WindowServices& services)
     : services_(services),
       settings_(PlayerSettings::Load(services.settings)),
+      kept_(settings_),
       sound_(services.sound),
       actions_(*this, [this](Command command) { Do(command); }),
       opening_(services.timers, [this] { Load(openAtStart_); }),
@@ -347,6 +348,7 @@ void PlayerWindow::Zoom(int direction) {
 }
 
 void PlayerWindow::ApplySettings() {
+    settings_.KeepChanges(services_.settings, kept_);
     qt::ApplyTheme(settings_.theme);
     actions_.Of(Command::Flashing).setChecked(settings_.flashing);
     actions_.Of(Command::PlainText).setChecked(settings_.plainText);
@@ -358,6 +360,7 @@ void PlayerWindow::ApplySettings() {
 }
 
 void PlayerWindow::ShowRecent() {
+    settings_.KeepChanges(services_.settings, kept_);
     const auto& files = settings_.recent.Files();
     recentMenu_->clear();
     recentMenu_->setEnabled(!files.empty());
@@ -372,7 +375,7 @@ void PlayerWindow::ShowRecent() {
 void PlayerWindow::closeEvent(QCloseEvent* event) {
     if (!logic_.Close()) return event->ignore();
     settings_.geometry = saveGeometry();
-    settings_.Save(services_.settings);
+    settings_.KeepChanges(services_.settings, kept_);
     event->accept();
 }
 

@@ -119,6 +119,7 @@ class PlayerWindow final : public QMainWindow {
 
     WindowServices services_;
     PlayerSettings settings_;
+    PlayerSettings kept_;  ///< as they were read or written the last time
     PreferredSound sound_;
     PlayerActions actions_;
     platform::Alarm opening_;
