@@ -218,8 +218,8 @@ void CondActRunner::TraceMatch(const Frame& frame, const ProcessEntry& entry, bo
                                   .record = entry.record,
                                   .verb = entry.verb,
                                   .noun = entry.noun,
-                                  .saidVerb = game_.Flag(flag::kVerb),
-                                  .saidNoun = game_.Flag(flag::kNoun),
+                                  .saidVerb = game_.Word(flag::kVerb),
+                                  .saidNoun = game_.Word(flag::kNoun),
                                   .isMarlo = game_.IsMarlo()});
 }
 
@@ -412,7 +412,7 @@ RunPlace CondActRunner::Place() const {
     RunPlace place;
     if (frames_.empty()) return place;
     const Frame& frame = frames_.back();
-    place.process = frame.process.value;
+    place.process = frame.process;
     const ProcessTable* table = Table(frame.process);
     if (!table || frame.entry < 0 || frame.entry >= table->Count()) return place;
     const ProcessEntry& entry = (*table)[frame.entry];

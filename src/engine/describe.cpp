@@ -68,9 +68,9 @@ void ShowPictureOf(Game& game, PlaceNumber location) {
     const std::string& own = game.data.pictures.at(static_cast<std::size_t>(location.value));
     const bool isLast = location == game.data.LastLocation();
     if (!own.empty() && !(isLast && own == game.data.defaultPicture)) {
-        game.parts.pictures.ShowPicture({own, location.value});
+        game.parts.pictures.ShowPicture({own, location});
     } else if (!game.data.defaultPicture.empty()) {
-        game.parts.pictures.ShowPicture({game.data.defaultPicture, -1});
+        game.parts.pictures.ShowPicture({game.data.defaultPicture, Picture::kOfTheGame});
     } else {
         game.parts.pictures.HidePicture();
     }

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/numbers.h"
 #include "store/adventure_kind.h"
 
 namespace fabula::engine {
@@ -50,7 +51,9 @@ struct GameLook {
 /// A picture to show: an image in a file of the game's folder, or kept in the adventure file.
 struct Picture {
     std::string path;  ///< as stored: relative to the game's folder. Not checked: it is the author's text
-    int location = 0;  ///< the record of `locations` that holds it (`picgraphic`); -1: the default picture
+    PlaceNumber location;  ///< the record of `locations` that holds it (`picgraphic`), or kOfTheGame
+    /// The default picture of the game.
+    static constexpr PlaceNumber kOfTheGame{-1};
 
     friend bool operator==(const Picture&, const Picture&) = default;
 };

@@ -34,7 +34,8 @@ ProcessLoop::Label ProcessLoop::MarloProcessLoop(Label label) {
 
         case Label::StartProc0:
             if (game_.trace.On())
-                game_.trace.Tell(TurnCounted{game_.Flag(flag::kTurnLow), game_.Flag(flag::kLocation)});
+                game_.trace.Tell(
+                    TurnCounted{game_.Flag(flag::kTurnLow), PlaceNumber(game_.Flag(flag::kLocation))});
             TraceStep(CycleStep::BeginResponses);
             StartProcess(kResponses);
             return MarloExits();

@@ -25,8 +25,8 @@ std::string OrDash(const std::string& text) {
 }  // namespace
 
 std::string TextOf(const RunPlace& place) {
-    if (place.process == RunPlace::kNone) return {};
-    std::string text = "Process " + std::to_string(place.process);
+    if (place.process == RunPlace::kNoProcess) return {};
+    std::string text = "Process " + std::to_string(place.process.value);
     if (place.entry == RunPlace::kNone) return text;
     text += ", entry " + std::to_string(place.entry) + " (record " + std::to_string(place.record) + ")";
     if (place.name.empty()) return text;

@@ -38,8 +38,9 @@ struct TextRecord {
 /// itself) there is no process; within one there may be no entry, and in an entry no condition or action.
 struct RunPlace {
     static constexpr int kNone = -1;
+    static constexpr ProcessNumber kNoProcess{kNone};
 
-    int process = kNone;
+    ProcessNumber process = kNoProcess;
     int entry = kNone;           ///< its place in the table, counted from 0
     int record = kNone;          ///< its record key (`canum`)
     std::string_view name = {};  ///< of the condition or action, "" for none

@@ -32,16 +32,16 @@ ProcessLoop::Outcome ProcessLoop::Enter() {
 }
 
 ProcessLoop::Outcome ProcessLoop::Resume() {
-    const int process = game_.currentProc.value;
+    const ProcessNumber process = game_.currentProc;
     turnAtInput_ = kTurnOfAnswer;  // the answer was this line's input
     exits_ = ExitSearch::Moved;    // and no direction, so that no message tells of an exit
     game_.parentProcNum = game_.savedParentProcNum;
     unwinding_ = false;
     if (game_.IsMarlo() && game_.trace.On())
         game_.trace.Tell(CycleEntered{true, process, game_.startX, game_.startY});
-    if (process == 1) return Run(Label::Proc1);
-    if (game_.IsMarlo()) return Run(process == 0 ? Label::Proc0 : Label::Top);
-    return Run(process == 2 ? Label::Proc2 : Label::Proc0);
+    if (process == kDescribed) return Run(Label::Proc1);
+    if (game_.IsMarlo()) return Run(process == kResponses ? Label::Proc0 : Label::Top);
+    return Run(process == kEachTurn ? Label::Proc2 : Label::Proc0);
 }
 
 ProcessLoop::Outcome ProcessLoop::Continue() {

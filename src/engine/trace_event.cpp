@@ -103,8 +103,8 @@ Lines Tell(const EntryMatched& event) {
     for (const HowRow& row : kHow) {
         if (row.by == event.by) how = event.isMarlo ? row.ofMarlo : row.text;
     }
-    return {Line("word1=", event.verb.value, ", word2=", event.noun.value, ",verb=", event.saidVerb,
-                 ", noun=", event.saidNoun, ". Matched using ", how)};
+    return {Line("word1=", event.verb.value, ", word2=", event.noun.value, ",verb=", event.saidVerb.value,
+                 ", noun=", event.saidNoun.value, ". Matched using ", how)};
 }
 
 Lines Tell(const CondActBegun& event) {
@@ -146,10 +146,12 @@ Lines Tell(const CarriedChanged& event) {
 }
 
 Lines Tell(const CycleEntered& event) {
-    Lines lines = {Line("Executing MarloProcessLoop ", event.process, " ", event.entry, " ", event.cell)};
+    Lines lines = {
+        Line("Executing MarloProcessLoop ", event.process.value, " ", event.entry, " ", event.cell)};
     if (!event.isAnswer) return lines;
-    lines.push_back(event.process <= 1 ? Line("Back to Process ", event.process, " after ending procedure")
-                                       : Line("Trying to skip to ", event.process, " in a Marlo game"));
+    lines.push_back(event.process.value <= 1
+                        ? Line("Back to Process ", event.process.value, " after ending procedure")
+                        : Line("Trying to skip to ", event.process.value, " in a Marlo game"));
     return lines;
 }
 
@@ -159,7 +161,7 @@ Lines Tell(const CallTakenUp& event) {
 }
 
 Lines Tell(const TurnCounted& event) {
-    return {Line("Incrementing turn to ", event.turn), Line("Current location is ", event.location)};
+    return {Line("Incrementing turn to ", event.turn), Line("Current location is ", event.location.value)};
 }
 
 Lines Tell(CycleStep step) {

@@ -57,8 +57,8 @@ struct EntryMatched {
     int record = 0;   ///< its record key
     WordNumber verb;  ///< of the entry
     WordNumber noun;
-    int saidVerb = 0;  ///< of the sentence
-    int saidNoun = 0;
+    WordNumber saidVerb;  ///< of the sentence
+    WordNumber saidNoun;
     bool isMarlo = false;
 };
 
@@ -98,7 +98,7 @@ struct CarriedChanged {
 /// It is entered with a line, or goes on at a place behind an answer.
 struct CycleEntered {
     bool isAnswer = false;
-    int process = -1;
+    ProcessNumber process{-1};
     int entry = -1;
     int cell = -1;
 };
@@ -112,7 +112,7 @@ struct CallTakenUp {
 /// A turn is counted.
 struct TurnCounted {
     int turn = 0;
-    int location = 0;
+    PlaceNumber location;
 };
 
 /// The steps of the turn cycle of type "Marlo", in the order of a turn.

@@ -6,6 +6,7 @@ namespace fabula::test {
 namespace {
 
 using engine::Picture;
+using engine::PlaceNumber;
 using store::AdventureKind;
 using Pictures = std::vector<std::optional<Picture>>;
 
@@ -102,12 +103,12 @@ GameBuilder Pictured() {
 }
 
 TEST(ShowRoomPicture, ShowsTheLocationsPictureAtTheFirstVisit) {
-    EXPECT_EQ(Pictured().Start()->window.pictures, (Pictures{Picture{"hall.bmp", 0}}));
+    EXPECT_EQ(Pictured().Start()->window.pictures, (Pictures{Picture{"hall.bmp", PlaceNumber(0)}}));
 }
 
 TEST(ShowRoomPicture, ShowsTheDefaultPictureWhereThereIsNone) {
     EXPECT_EQ(Pictured().Setting("startloc", 2).Start()->window.pictures,
-              (Pictures{Picture{"any.bmp", -1}}));
+              (Pictures{Picture{"any.bmp", Picture::kOfTheGame}}));
 }
 
 TEST(ShowRoomPicture, ShowsNoneWhereThereIsNoneAndNoDefault) {
@@ -134,7 +135,7 @@ TEST(ShowRoomPicture, APathWithoutAPictureKeyIsNoPicture) {
     engine::SilentPlayer sound;
     engine::Engine engine(*adventure, {window, person, random, sound, nullptr, window.Parts()});
     engine.Initialize();
-    EXPECT_EQ(window.pictures, (Pictures{Picture{"any.bmp", -1}}));
+    EXPECT_EQ(window.pictures, (Pictures{Picture{"any.bmp", Picture::kOfTheGame}}));
 }
 
 /// The pictures of a second description, with a graphics mode in flag 29.
@@ -151,11 +152,11 @@ TEST(ShowRoomPicture, IsHeldBackAtLaterVisits) {
 }
 
 TEST(ShowRoomPicture, IsShownAtEveryVisitWithGraphic1) {
-    EXPECT_EQ(SecondTime(32), (Pictures{Picture{"hall.bmp", 0}}));
+    EXPECT_EQ(SecondTime(32), (Pictures{Picture{"hall.bmp", PlaceNumber(0)}}));
 }
 
 TEST(ShowRoomPicture, IsShownWithTheLongTextThatBit7AsksFor) {
-    EXPECT_EQ(SecondTime(128), (Pictures{Picture{"hall.bmp", 0}}));
+    EXPECT_EQ(SecondTime(128), (Pictures{Picture{"hall.bmp", PlaceNumber(0)}}));
 }
 
 TEST(ShowRoomPicture, IsNeverShownWithGraphic2Or3) {
@@ -169,7 +170,7 @@ TEST(ShowRoomPicture, IsNeverShownWithGraphic2Or3) {
 TEST(ShowRoomPicture, InTheDarkShowsThatOfTheLastLocation) {
     GameBuilder game = Pictured();
     game.Object(0, {.place = 252}).Entry(1, "_", "_", "ZERO 200 SET 200 SET 0 GOTO 1 DESC");
-    EXPECT_EQ(game.Start()->window.pictures.back(), (Picture{"any.bmp", -1}));
+    EXPECT_EQ(game.Start()->window.pictures.back(), (Picture{"any.bmp", Picture::kOfTheGame}));
 }
 
 TEST(ShowRoomPicture, OfAMarloGameGoesByFlag1013) {
@@ -178,7 +179,7 @@ TEST(ShowRoomPicture, OfAMarloGameGoesByFlag1013) {
     const auto run = game.Start();
     run->SetFlag(1013, 32);
     run->Type("DO");
-    EXPECT_EQ(run->window.pictures.back(), (Picture{"hall.bmp", 0}));
+    EXPECT_EQ(run->window.pictures.back(), (Picture{"hall.bmp", PlaceNumber(0)}));
 }
 
 }  // namespace

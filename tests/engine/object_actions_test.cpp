@@ -1,3 +1,7 @@
+#include "engine/object_actions.h"
+
+#include <type_traits>
+
 #include <gtest/gtest.h>
 
 #include "support/game_builder.h"
@@ -6,6 +10,12 @@ namespace fabula::test {
 namespace {
 
 using store::AdventureKind;
+
+// An object is put to a place and weighed into a flag, and not the other way round.
+using PlaceAction = decltype(&engine::Place);
+static_assert(std::is_invocable_v<PlaceAction, engine::Game&, engine::ObjectNumber, engine::PlaceNumber>);
+static_assert(!std::is_invocable_v<PlaceAction, engine::Game&, engine::PlaceNumber, engine::ObjectNumber>);
+static_assert(!std::is_invocable_v<PlaceAction, engine::Game&, engine::ObjectNumber, engine::FlagNumber>);
 
 constexpr int kNotCreated = 252;
 constexpr int kWornPlace = 253;

@@ -105,11 +105,13 @@ TEST(Origin, OfTheDescriptionBehindAStateThatWasTakenInAPauseIsNoEntry) {
 TEST(OriginLog, HasALineForEachRunWithTabsBetweenItsColumns) {
     std::ostringstream out;
     engine::OriginLog log(out);
-    log.Printing(
-        "Taken.",
-        {.place =
-             {.process = 0, .entry = 3, .record = 57, .name = "LET", .paramCount = 2, .params = {5, -1}},
-         .record = engine::TextRecord::Of(engine::MessageNumber(12))});
+    log.Printing("Taken.", {.place = {.process = engine::kResponses,
+                                      .entry = 3,
+                                      .record = 57,
+                                      .name = "LET",
+                                      .paramCount = 2,
+                                      .params = {5, -1}},
+                            .record = engine::TextRecord::Of(engine::MessageNumber(12))});
     log.Printing("?", {});
     EXPECT_EQ(out.str(), "Process 0, entry 3 (record 57), LET 5 -1\tmessage 12\tTaken.\n-\t-\t?\n");
 }

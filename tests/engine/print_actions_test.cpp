@@ -6,6 +6,7 @@ namespace fabula::test {
 namespace {
 
 using engine::Picture;
+using engine::PlaceNumber;
 using store::AdventureKind;
 
 GameBuilder Texts() {
@@ -263,7 +264,7 @@ TEST(ListAt, Above255IsHereWhereThereIsNoSuchLocation) {
 TEST(PictureAction, ShowsThePictureOfALocation) {
     GameBuilder game;
     const auto run = game.Graphics().PictureOf(1, "cave.bmp").Do("PICTURE 1");
-    EXPECT_EQ(run->window.pictures.back(), (Picture{"cave.bmp", 1}));
+    EXPECT_EQ(run->window.pictures.back(), (Picture{"cave.bmp", PlaceNumber(1)}));
 }
 
 TEST(PictureAction, DoesNothingInAGameWithoutPictures) {

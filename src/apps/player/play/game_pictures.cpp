@@ -32,14 +32,14 @@ QImage GamePictures::Load(const engine::Picture& picture) {
     return image;
 }
 
-QImage GamePictures::FromStore(int location) {
+QImage GamePictures::FromStore(engine::PlaceNumber location) {
     try {
-        if (location < 0) {
+        if (location == engine::Picture::kOfTheGame) {
             const auto& settings = adventure_.OpenTable(TableNum::Adventure, "defpicgraphic");
             return settings.Eof() ? QImage() : qt::DecodeImage(BytesOf(settings.Field("defpicgraphic")));
         }
         const auto& room = adventure_.OpenTable(TableNum::LocationsWalk, "picgraphic",
-                                                "locnum=" + std::to_string(location));
+                                                "locnum=" + std::to_string(location.value));
         return room.Eof() ? QImage() : qt::DecodeImage(BytesOf(room.Field("picgraphic")));
     } catch (const Error& error) {
         Fail("", error.what());

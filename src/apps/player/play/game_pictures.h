@@ -27,7 +27,7 @@ class GamePictures {
 
   private:
     QImage FromFile(const std::string& path);
-    QImage FromStore(int location);
+    QImage FromStore(engine::PlaceNumber location);
     void Fail(const std::string& path, const std::string& sentence);
 
     store::Adventure& adventure_;
