@@ -92,6 +92,10 @@ void Adventure::ForbidChanges() {
     connection_->Run("PRAGMA query_only=ON", "open the adventure");
 }
 
+void Adventure::WaitForOthers(std::chrono::milliseconds most) {
+    connection_->WaitForOthers(most);
+}
+
 std::unique_ptr<Adventure> Adventure::OpenForChange(const std::filesystem::path& file, Ages ages) {
     CheckCanBeWritten(file);
     auto lock = ChangeLock::Take(file);

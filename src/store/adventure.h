@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -84,6 +85,8 @@ class Adventure {
     std::unique_ptr<Adventure> CopyInMemory() const;
     /// From here on every change is refused with an Error.
     void ForbidChanges();
+    /// How long to wait from here on for another program that has the file locked; two seconds at first.
+    void WaitForOthers(std::chrono::milliseconds most);
 
     /// Opens a file to be worked on: it is marked as open for change as long as this lives, so that a
     /// second opening for change is refused (OpenForChange), and so is a file or folder that can only be

@@ -43,8 +43,8 @@ constexpr Limit kLimits[] = {
     {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
 };
 
-/// How long to wait for another program that has the file locked, in milliseconds.
-constexpr int kPatience = 2000;
+/// How long to wait for another program that has the file locked.
+constexpr std::chrono::milliseconds kPatience(2000);
 
 /// After how many steps they are counted.
 constexpr int kStepsAtOnce = 1000;
@@ -71,7 +71,7 @@ Connection::Connection(const std::filesystem::path& file, int openFlags, const s
         throw Error("Could not " + (doing.empty() ? "open " + file.string() : doing) + ": " + why + ".");
     }
     sqlite3_extended_result_codes(handle_, 1);
-    sqlite3_busy_timeout(handle_, kPatience);
+    WaitForOthers(kPatience);
     sqlite3_progress_handler(handle_, kStepsAtOnce, CountSteps, this);
     sqlite3_trace_v2(handle_, SQLITE_TRACE_STMT, BeginSteps, this);
     if (sqlite3_hard_heap_limit64(-1) == 0) sqlite3_hard_heap_limit64(kMostMemory);
@@ -101,6 +101,10 @@ int Connection::CountSteps(void* connection) {
 int Connection::BeginSteps(unsigned, void* connection, void*, void*) {
     static_cast<Connection*>(connection)->steps_ = 0;
     return 0;
+}
+
+void Connection::WaitForOthers(std::chrono::milliseconds most) {
+    sqlite3_busy_timeout(handle_, static_cast<int>(most.count()));
 }
 
 bool Connection::HasMoved() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <list>
@@ -40,7 +41,8 @@ using Statement = std::unique_ptr<sqlite3_stmt, StatementCloser>;
 ///
 /// No statement runs for more than kMostSteps steps of the database's machine, and the database takes no
 /// more memory than kMostMemory in the whole program: a file that was made to hang the program is refused
-/// or ends in an Error. What another program has locked is waited for, at most two seconds.
+/// or ends in an Error. What another program has locked is waited for, at most two seconds unless
+/// `WaitForOthers` says otherwise.
 class Connection {
   public:
     /// Opens the file as SQLite sees it, with everything switched off that an adventure does not need.
@@ -52,6 +54,9 @@ class Connection {
     ~Connection();
 
     sqlite3* Handle() const { return handle_; }
+
+    /// How long to wait from here on for another program that has the file locked.
+    void WaitForOthers(std::chrono::milliseconds most);
 
     /// Runs statements that return nothing. `doing` completes "Could not ...".
     void Run(const std::string& sql, const char* doing);

@@ -127,6 +127,7 @@ TEST_F(Limits, ASecondWriterWaitsForItsTurn) {
 
 TEST_F(Limits, AWriterThatWaitsInVainIsToldWhy) {
     const auto adventure = Adventure::Open(file_);
+    adventure->WaitForOthers(std::chrono::milliseconds(50));
     const test::RawDatabase raw(file_);
     raw.Run("BEGIN IMMEDIATE; DELETE FROM Messages");
     EXPECT_EQ(ErrorOf([&] { adventure->DeleteFrom(TableNum::Messages); }),

@@ -129,6 +129,7 @@ TEST_F(PreparedQueryTest, MayBeMoved) {
 
 TEST_F(PreparedQueryTest, AnotherProgramMayWriteOnceTheLookUpIsReset) {
     const auto other = Adventure::Open(adventure_.File());
+    other->WaitForOthers(std::chrono::milliseconds(50));
     PreparedQuery query = adventure_->Prepare(TableNum::Messages, "msgmsg", "msgnum=?");
     ASSERT_TRUE(query.First({1}));
     EXPECT_THROW(other->DeleteFrom(TableNum::Messages, "msgnum=3"), Error);

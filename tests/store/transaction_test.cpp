@@ -11,6 +11,8 @@ namespace {
 
 using test::OpenedAdventure;
 
+constexpr std::chrono::milliseconds kNotLong(50);
+
 class TransactionTest : public testing::Test {
   protected:
     static void Add(Adventure& adventure, int number, const std::string& text = "text") {
@@ -143,6 +145,7 @@ TEST_F(TransactionTest, AnotherProgramSeesNothingBeforeTheCommit) {
 
 TEST_F(TransactionTest, TwoProgramsDoNotWriteAtOnce) {
     const auto other = Adventure::Open(adventure_.File());
+    other->WaitForOthers(kNotLong);
     Transaction transaction(*adventure_);
     try {
         const Transaction second(*other);
@@ -161,6 +164,7 @@ TEST_F(TransactionTest, AReaderCannotBeginOne) {
 
 TEST_F(TransactionTest, AFailureToCommitUndoesTheWork) {
     const auto other = Adventure::Open(adventure_.File());
+    adventure_->WaitForOthers(kNotLong);
     {
         PreparedQuery reading = other->Prepare(TableNum::Flags, "flgnum", "");
         ASSERT_TRUE(reading.First({}));
@@ -203,6 +207,7 @@ TEST_F(TransactionTest, NothingIsKeptOfAStepThatAFullDiskHasUndone) {
 
 TEST_F(TransactionTest, AReadTransactionSeesOneStateOfTheFile) {
     const auto other = Adventure::Open(adventure_.File());
+    adventure_->WaitForOthers(kNotLong);
     Add(1);
     const ReadTransaction reading(*other);
     EXPECT_EQ(other->OpenTable(TableNum::Messages, "*").RecordCount(), 1);

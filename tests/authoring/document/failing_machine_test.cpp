@@ -23,6 +23,8 @@ using test::RawDatabase;
 
 constexpr const char* kLocked = "Could not write to the adventure: it is in use by another program.";
 
+constexpr std::chrono::milliseconds kNotLong(50);
+
 class FailingMachine : public testing::Test {
   protected:
     FailingMachine() {
@@ -58,6 +60,7 @@ TEST_F(FailingMachine, ALockedFileRefusesUndoAndUndoesLater) {
     {
         const RawDatabase other(file_);
         other.Run("BEGIN IMMEDIATE");
+        window_.Adventure().WaitForOthers(kNotLong);
         Main().Run(Command::Undo);
         EXPECT_EQ(LastBox(), kLocked);
         EXPECT_EQ(Messages(), (std::vector<std::string>{"first", "second"}));
@@ -72,6 +75,7 @@ TEST_F(FailingMachine, ALockedFileRefusesADeletionAndKeepsTheRow) {
     window_.dialogs.AnswerNext(true);
     const RawDatabase other(file_);
     other.Run("BEGIN IMMEDIATE");
+    window_.Adventure().WaitForOthers(kNotLong);
     Main().Run(Command::Delete);
     EXPECT_EQ(LastBox(), kLocked);
     EXPECT_EQ(Main().Grid().RowCount(), 2);
@@ -83,6 +87,7 @@ TEST_F(FailingMachine, AFileLockedForReadingTooLeavesTheViewAsItIs) {
     {
         const RawDatabase other(file_);
         other.Run("BEGIN EXCLUSIVE");
+        window_.Adventure().WaitForOthers(kNotLong);
         Main().Show({TableNum::Flags});
         EXPECT_EQ(LastBox(), "Could not read the adventure: it is in use by another program.");
     }
