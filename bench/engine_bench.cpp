@@ -5,8 +5,8 @@
 #include "bench_games.h"
 #include "engine/engine.h"
 #include "engine/origin.h"
-#include "platform/scripted_person.h"
 #include "store/adventure.h"
+#include "support/scripted_person.h"
 #include "support/temp_folder.h"
 
 namespace fabula::bench {

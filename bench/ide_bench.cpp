@@ -8,8 +8,8 @@
 #include "authoring/desk/findings_list.h"
 #include "authoring/desk/main_screen.h"
 #include "bench_games.h"
-#include "platform/scripted_dialogs.h"
 #include "support/places.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::authoring {

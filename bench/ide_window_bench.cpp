@@ -17,13 +17,13 @@
 #include "ide/dialogs/location_dialog.h"
 #include "ide/dialogs/process_entry_dialog.h"
 #include "ide/window/main_window.h"
-#include "platform/manual_timers.h"
 #include "platform/random_source.h"
-#include "platform/scripted_dialogs.h"
 #include "qt/qt_programs.h"
 #include "qt/qt_settings.h"
 #include "qt/strings.h"
+#include "support/manual_timers.h"
 #include "support/places.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace {

@@ -13,7 +13,6 @@
 
 #include "engine/sound_player.h"
 #include "platform/random_source.h"
-#include "platform/scripted_dialogs.h"
 #include "player/panes/game_screen.h"
 #include "player/panes/text_pane.h"
 #include "player/play/played_game.h"
@@ -21,6 +20,7 @@
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
 #include "support/game_builder.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace {

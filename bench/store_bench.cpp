@@ -7,10 +7,10 @@
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
-#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "store/create.h"
 #include "support/places.h"
+#include "support/scripted_person.h"
 
 namespace fabula::store {
 namespace {

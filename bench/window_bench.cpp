@@ -13,7 +13,6 @@
 
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/manual_timers.h"
 #include "platform/random_source.h"
 #include "player/panes/game_screen.h"
 #include "player/play/played_game.h"
@@ -21,6 +20,7 @@
 #include "qt/qt_dialogs.h"
 #include "qt/strings.h"
 #include "store/create.h"
+#include "support/manual_timers.h"
 #include "support/places.h"
 
 namespace {

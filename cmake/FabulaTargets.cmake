@@ -73,7 +73,7 @@ endfunction()
 function(fabula_test name library)
     cmake_parse_arguments(arg "WINDOWS" "" "SOURCES;USES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE ${library} ${arg_USES} places_support fabula_flags
+    target_link_libraries(${name} PRIVATE ${library} ${arg_USES} platform_doubles places_support fabula_flags
                                           GTest::gtest_main GTest::gmock)
     # Tests are compiled more often than they run; optimising them takes a third of their compiling.
     target_compile_options(${name} PRIVATE -O0)
@@ -95,7 +95,7 @@ endfunction()
 function(fabula_fuzzer name library)
     cmake_parse_arguments(arg "" "" "SOURCES;SEEDS;OPTIONS" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE ${library} fabula_flags)
+    target_link_libraries(${name} PRIVATE ${library} platform_doubles fabula_flags)
     target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
     string(REPLACE _fuzzer "" reader ${name})

@@ -8,8 +8,8 @@
 #include <unistd.h>
 
 #include "platform/error.h"
-#include "platform/scripted_person.h"
 #include "store/create.h"
+#include "support/scripted_person.h"
 
 using namespace fabula;
 

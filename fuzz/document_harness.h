@@ -11,9 +11,9 @@
 #include "authoring/document/document.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_person.h"
 #include "store/create.h"
 #include "support/places.h"
+#include "support/scripted_person.h"
 
 namespace fabula::fuzz {
 

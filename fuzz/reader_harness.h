@@ -13,10 +13,10 @@
 #include "platform/clock.h"
 #include "platform/error.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "store/create.h"
 #include "support/places.h"
+#include "support/scripted_person.h"
 
 namespace fabula::fuzz {
 

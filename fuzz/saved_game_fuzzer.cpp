@@ -9,11 +9,11 @@
 #include <unistd.h>
 
 #include "engine/engine.h"
-#include "engine/recording_window.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_person.h"
 #include "store/create.h"
 #include "support/places.h"
+#include "support/recording_window.h"
+#include "support/scripted_person.h"
 
 using namespace fabula;
 

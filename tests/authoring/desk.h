@@ -10,8 +10,8 @@
 
 #include "authoring/document/document.h"
 #include "authoring/document/screen_context.h"
-#include "platform/scripted_dialogs.h"
 #include "store/setup.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 #include "text/value.h"
 

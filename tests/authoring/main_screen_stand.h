@@ -8,9 +8,9 @@
 #include "authoring/desk/main_screen.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_dialogs.h"
 #include "platform/settings.h"
 #include "store/setup.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/recording_window.h"
 #include "engine/run_failure.h"
 #include "engine/script.h"
+#include "support/recording_window.h"
 #include "support/template_adventure.h"
 
 namespace fabula::test {

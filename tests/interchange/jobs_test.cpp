@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
-#include "platform/scripted_person.h"
 #include "reading.h"
 #include "support/places.h"
+#include "support/scripted_person.h"
 #include "support/temp_folder.h"
 
 namespace fabula::interchange {

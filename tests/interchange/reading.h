@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "interchange/file_kinds.h"
-#include "platform/scripted_person.h"
 #include "store/adventure.h"
+#include "support/scripted_person.h"
 #include "support/template_adventure.h"
 
 namespace fabula::interchange {

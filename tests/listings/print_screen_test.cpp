@@ -6,7 +6,7 @@
 
 #include "authoring/document/screen_context.h"
 #include "listed_adventure.h"
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 
 namespace fabula::listings {
 namespace {

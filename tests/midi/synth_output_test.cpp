@@ -8,8 +8,8 @@
 
 #include "midi/player.h"
 #include "platform/error.h"
-#include "platform/manual_timers.h"
 #include "support/game_builder.h"
+#include "support/manual_timers.h"
 
 namespace fabula::midi {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "pictures/book_loader.h"
 #include "platform/error.h"
-#include "platform/scripted_person.h"
+#include "support/scripted_person.h"
 #include "support/template_adventure.h"
 
 namespace fabula::pictures {

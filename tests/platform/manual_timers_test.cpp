@@ -1,4 +1,4 @@
-#include "platform/manual_timers.h"
+#include "support/manual_timers.h"
 
 #include <string>
 

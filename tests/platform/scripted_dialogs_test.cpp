@@ -1,4 +1,4 @@
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 
 #include <stdexcept>
 

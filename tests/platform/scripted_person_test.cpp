@@ -1,4 +1,4 @@
-#include "platform/scripted_person.h"
+#include "support/scripted_person.h"
 
 #include <stdexcept>
 

@@ -10,11 +10,11 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "store/create.h"
 #include "support/places.h"
 #include "support/raw_database.h"
+#include "support/scripted_person.h"
 #include "support/temp_folder.h"
 #include "text/fields.h"
 

@@ -5,7 +5,6 @@
 #include <map>
 #include <set>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "store/default_data.h"
@@ -17,7 +16,6 @@
 namespace fabula::store {
 namespace {
 
-using testing::IsEmpty;
 using Names = std::set<std::string>;
 
 constexpr const char* kTypesOfAdventures[] = {"Fabula", "VEL", "Marlo"};
@@ -30,6 +28,16 @@ struct Unfilled {
 };
 constexpr Unfilled kUnfilled[] = {
     {TableNum::Locations, "picgraphic oldpicloc comment"},
+    {TableNum::Messages, "comment"},
+    {TableNum::Objects, "comment"},
+    {TableNum::Adventure,
+     "advnum savename datecreated unmarloed advcontactinfo graphics sound charsets advpicgraphic "
+     "defpicgraphic graphicsindb graphicsadded oldadvpicloc olddefpicloc source"},
+    {TableNum::ProcessTables, "numericcondacts comment"},
+    {TableNum::SystemMessages, "comment"},
+    {TableNum::Vocabulary, "comment"},
+    {TableNum::Flags, "comment"},
+    {TableNum::ProcDesc, "comment"},
 };
 
 Names Lower(std::string_view names) {

@@ -10,11 +10,11 @@
 #include <vector>
 
 #include "engine/engine.h"
-#include "engine/recording_window.h"
 #include "platform/random_source.h"
-#include "platform/scripted_person.h"
 #include "store/adventure.h"
 #include "store/setup.h"
+#include "support/recording_window.h"
+#include "support/scripted_person.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

@@ -5,9 +5,9 @@
 
 #include "platform/clock.h"
 #include "platform/event_pump.h"
-#include "platform/scripted_person.h"
 #include "store/create.h"
 #include "support/places.h"
+#include "support/scripted_person.h"
 
 namespace fabula::test {
 namespace {

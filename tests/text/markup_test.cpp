@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_person.h"
 #include "random_text.h"
+#include "support/scripted_person.h"
 #include "text/utf8.h"
 
 namespace fabula::text {

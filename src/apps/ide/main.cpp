@@ -142,8 +142,8 @@ int Run(int argc, char** argv) {
     border.SetKeep([&window] { return window.Logic().KeepACopy(ide::TypedTexts()); });
     window.show();
     const auto start = [&] {
-        const QStringList files = arguments.positionalArguments();
-        window.Start(files.isEmpty() ? std::filesystem::path() : qt::PathFromQt(files.first()));
+        const QStringList named = arguments.positionalArguments();
+        window.Start(named.isEmpty() ? std::filesystem::path() : qt::PathFromQt(named.first()));
         return true;
     };
     border.Run(start, [] { return std::string("the program began"); });

@@ -14,10 +14,10 @@
 #include <gtest/gtest.h>
 
 #include "ide/window/job_events.h"
-#include "platform/scripted_dialogs.h"
 #include "qt/qt_programs.h"
 #include "support/active_window.h"
 #include "support/places.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

@@ -9,8 +9,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_dialogs.h"
 #include "support/active_window.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 

@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "ide/window/main_window.h"
-#include "platform/manual_timers.h"
 #include "platform/random_source.h"
-#include "platform/scripted_dialogs.h"
 #include "qt/help_folder.h"
 #include "qt/qt_programs.h"
 #include "qt/qt_settings.h"
 #include "support/game_builder.h"
+#include "support/manual_timers.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

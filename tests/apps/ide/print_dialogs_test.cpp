@@ -20,8 +20,8 @@
 #include "ide/dialogs/preview_dialog.h"
 #include "ide/dialogs/print_dialog.h"
 #include "platform/error.h"
-#include "platform/scripted_dialogs.h"
 #include "support/places.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

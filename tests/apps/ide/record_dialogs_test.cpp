@@ -22,9 +22,9 @@
 #include "ide/dialogs/location_dialog.h"
 #include "ide/dialogs/object_dialog.h"
 #include "ide/dialogs/word_dialog.h"
-#include "platform/scripted_dialogs.h"
 #include "qt/strings.h"
 #include "support/active_window.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 

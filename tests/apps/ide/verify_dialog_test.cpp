@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "ide/dialog_checks.h"
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "support/scripted_pump.h"
 #include "support/template_adventure.h"
 

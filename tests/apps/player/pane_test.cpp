@@ -6,11 +6,11 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/manual_timers.h"
 #include "player/panes/character_pane.h"
 #include "player/panes/pane_keys.h"
 #include "player/panes/picture_pane.h"
 #include "player/panes/text_pane.h"
+#include "support/manual_timers.h"
 
 namespace fabula::player {
 namespace {

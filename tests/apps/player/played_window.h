@@ -6,10 +6,10 @@
 #include <optional>
 #include <string>
 
-#include "platform/manual_timers.h"
-#include "platform/scripted_dialogs.h"
 #include "player/window/player_window.h"
 #include "support/game_builder.h"
+#include "support/manual_timers.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

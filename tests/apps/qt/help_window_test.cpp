@@ -12,9 +12,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_dialogs.h"
 #include "qt/help.h"
 #include "qt/help_folder.h"
+#include "support/scripted_dialogs.h"
 
 namespace fabula::test {
 namespace {

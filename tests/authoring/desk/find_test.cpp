@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "support/template_adventure.h"
 
 namespace fabula::authoring {

@@ -7,8 +7,8 @@
 
 #include "authoring/document/screen_context.h"
 #include "platform/error.h"
-#include "platform/scripted_dialogs.h"
 #include "support/child_process.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 

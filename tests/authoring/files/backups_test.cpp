@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "support/template_adventure.h"
 
 namespace fabula::authoring {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::authoring {

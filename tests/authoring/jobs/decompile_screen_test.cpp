@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "support/scripted_pump.h"
 #include "support/temp_folder.h"
 

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "authoring/document/document.h"
-#include "platform/scripted_dialogs.h"
 #include "support/places.h"
 #include "support/raw_database.h"
+#include "support/scripted_dialogs.h"
 #include "support/scripted_pump.h"
 #include "support/template_adventure.h"
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "support/scripted_pump.h"
 #include "support/template_adventure.h"
 

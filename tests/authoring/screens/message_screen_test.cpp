@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 #include "support/template_adventure.h"
 

@@ -1,4 +1,4 @@
-#include "engine/recording_window.h"
+#include "support/recording_window.h"
 
 #include <stdexcept>
 

@@ -8,7 +8,7 @@
 
 namespace fabula::platform {
 
-/// An Person for tests: answers what it was told to answer, and keeps what it was shown.
+/// A Person for tests: answers what it was told to answer, and keeps what it was shown.
 class ScriptedPerson final : public Person {
   public:
     struct Shown {

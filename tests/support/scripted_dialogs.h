@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/dialogs.h"
-#include "platform/scripted_person.h"
+#include "support/scripted_person.h"
 
 namespace fabula::platform {
 
