@@ -5,6 +5,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 #include "qt/strings.h"
@@ -45,37 +46,53 @@ QColor AccentColour(QIcon::Mode mode) {
 /// Paints a drawing in the colours that the windows have at that moment.
 class ThemedDrawing final : public QIconEngine {
   public:
-    explicit ThemedDrawing(const QByteArray& drawing) : drawing_(drawing) {}
+    ThemedDrawing(std::string_view name, const QByteArray& drawing)
+        : name_(ToQt(name)), drawing_(drawing) {}
 
-    void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State) override {
-        if (drawing_.isEmpty()) return;
-        QByteArray coloured = drawing_;
-        // The accent first: the lines may be drawn in the very colour that stands for it.
-        coloured.replace(kAccent, "accent").replace(kLines, LineColour(mode).name().toLatin1());
-        coloured.replace("accent", AccentColour(mode).name().toLatin1());
-        QSvgRenderer renderer(coloured);
-        renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-        renderer.render(painter, area);
+    void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
+        const qreal ratio = painter->device()->devicePixelRatio();
+        painter->drawPixmap(area, pixmap((QSizeF(area.size()) * ratio).toSize(), mode, state));
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap made(size);
-        made.fill(Qt::transparent);
-        QPainter painter(&made);
-        paint(&painter, made.rect(), mode, state);
-        return made;
+    /// Windows ask for the same few again and again, so they are kept.
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+        const QString lines = LineColour(mode).name();
+        const QString accent = AccentColour(mode).name();
+        const QString key =
+            QString("fabula/%1/%2x%3").arg(name_).arg(size.width()).arg(size.height()) + lines + accent;
+        QPixmap kept;
+        if (QPixmapCache::find(key, &kept)) return kept;
+        kept = Drawn(size, lines, accent);
+        QPixmapCache::insert(key, kept);
+        return kept;
     }
 
     QIconEngine* clone() const override { return new ThemedDrawing(*this); }
 
   private:
+    QPixmap Drawn(const QSize& size, const QString& lines, const QString& accent) const {
+        QPixmap made(size);
+        made.fill(Qt::transparent);
+        if (drawing_.isEmpty() || size.isEmpty()) return made;
+        QByteArray coloured = drawing_;
+        // The accent first: the lines may be drawn in the very colour that stands for it.
+        coloured.replace(kAccent, "accent").replace(kLines, lines.toLatin1());
+        coloured.replace("accent", accent.toLatin1());
+        QSvgRenderer renderer(coloured);
+        renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+        QPainter painter(&made);
+        renderer.render(&painter, made.rect());
+        return made;
+    }
+
+    QString name_;
     QByteArray drawing_;
 };
 
 }  // namespace
 
 QIcon IconOf(std::string_view name) {
-    return QIcon(new ThemedDrawing(DrawingOf(name)));
+    return QIcon(new ThemedDrawing(name, DrawingOf(name)));
 }
 
 bool HasIcon(std::string_view name) {

@@ -5,11 +5,13 @@
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
+#include <map>
 
 #include <gtest/gtest.h>
 
 #include "qt/strings.h"
 #include "support/active_window.h"
+#include "support/raw_database.h"
 
 namespace fabula::test {
 namespace {
@@ -66,7 +68,9 @@ std::string AnyVerb(store::AdventureKind kind) {
     return kind == store::AdventureKind::Marlo ? "_" : "*";
 }
 
-void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind) {
+namespace {
+
+void MakeSmallGame(const std::filesystem::path& file, store::AdventureKind kind) {
     const std::string anyVerb = AnyVerb(kind);
     GameBuilder(kind)
         .Graphics()
@@ -98,6 +102,18 @@ void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind
     descriptions.SetField("pmsgnum", std::int64_t{3});
     descriptions.SetField("pmsgmsg", std::string("What the keeper does"));
     descriptions.Update();
+}
+
+}  // namespace
+
+void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind) {
+    static std::map<store::AdventureKind, std::string> games;
+    std::string& game = games[kind];
+    if (game.empty()) {
+        MakeSmallGame(file, kind);
+        game = ReadBytes(file);
+    }
+    WriteBytes(file, game);
 }
 
 DrivenWindow::DrivenWindow(store::AdventureKind kind) {

@@ -21,7 +21,8 @@ struct Step {
 /// "_".
 std::string AnyVerb(store::AdventureKind kind);
 
-/// A small game of a kind with a record of every table that can be edited.
+/// A small game of a kind with a record of every table that can be edited. The first of a kind is made, the
+/// others are copies of its file.
 void WriteSmallGame(const std::filesystem::path& file, store::AdventureKind kind);
 
 /// The window of the authoring tool on that game, driven by keys and the mouse alone.

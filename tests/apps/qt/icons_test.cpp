@@ -52,5 +52,19 @@ TEST(Icons, DrawingsTakeTheColoursOfTheWindows) {
     EXPECT_EQ(image.pixelColor(182, 182), QColor("#c02040"));
 }
 
+TEST(Icons, OfAThemeThatHasGoneAreDrawnAnewInTheOther) {
+    const QPalette before = QGuiApplication::palette();
+    const QIcon icon = qt::IconOf("find");
+    const QImage usual = icon.pixmap(24, 24).toImage();
+    QPalette palette = before;
+    palette.setColor(QPalette::WindowText, QColor("#20c040"));
+    QGuiApplication::setPalette(palette);
+    const QImage green = icon.pixmap(24, 24).toImage();
+    QGuiApplication::setPalette(before);
+    EXPECT_NE(green, usual);
+    EXPECT_EQ(icon.pixmap(24, 24).toImage(), usual);
+    EXPECT_NE(icon.pixmap(24, 24, QIcon::Disabled).toImage(), usual);
+}
+
 }  // namespace
 }  // namespace fabula::test

@@ -155,6 +155,7 @@ void RecordPanel::ShowTable(const QString& name) {
     resized_.Stop();
     view_->setAccessibleName(name);
     wishes_.clear();
+    widths_.clear();
     ShowRecords();
 }
 
@@ -265,14 +266,20 @@ void RecordPanel::PlaceColumns() {
     placing_ = false;
 }
 
-int RecordPanel::WidthOf(int column) const {
-    const QFontMetrics metrics = view_->fontMetrics();
+int RecordPanel::WidthOfText(const QString& text) {
+    const auto known = widths_.constFind(text);
+    if (known != widths_.constEnd()) return *known;
+    const int width = view_->fontMetrics().horizontalAdvance(text);
+    widths_.insert(text, width);
+    return width;
+}
+
+int RecordPanel::WidthOf(int column) {
     int width = view_->horizontalHeader()->sectionSizeHint(column) + kTitleMargin;
     const int rows = column == model_->columnCount() - 1 ? kRowsForLast : kRowsForWidth;
     for (int row = 0; row < std::min(grid_.RowCount(), rows); ++row)
-        width =
-            std::max(width, metrics.horizontalAdvance(qt::ToQt(grid_.CellText(row, column))) + kCellMargin);
-    return std::min(width, metrics.averageCharWidth() * kWidestColumn);
+        width = std::max(width, WidthOfText(qt::ToQt(grid_.CellText(row, column))) + kCellMargin);
+    return std::min(width, view_->fontMetrics().averageCharWidth() * kWidestColumn);
 }
 
 void RecordPanel::ChooseLine(int line) {
@@ -426,6 +433,7 @@ bool RecordPanel::eventFilter(QObject* receiver, QEvent* event) {
 void RecordPanel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) {
         FitRows();
+        widths_.clear();
         MeasureColumns();
         PlaceColumns();
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QWidget>
@@ -82,7 +83,8 @@ class RecordPanel final : public QWidget {
     void MeasureColumns();
     void WidenColumns();
     void PlaceColumns();
-    int WidthOf(int column) const;
+    int WidthOf(int column);
+    int WidthOfText(const QString& text);
     void ShowOrder();
     void ShowCount();
     void ShowHeadings();
@@ -98,6 +100,7 @@ class RecordPanel final : public QWidget {
     platform::Alarm resized_;
     int resizedColumn_ = -1;
     std::vector<ColumnWish> wishes_;  ///< of the columns
+    QHash<QString, int> widths_;      ///< of texts of the table in view, which are measured once
     bool placing_ = false;            ///< the panel moves columns and rows itself
     QPointer<CellEdit> cell_;         ///< the cell that is typed into
     QPersistentModelIndex cellAt_;
