@@ -52,7 +52,7 @@ const Missing& FindMissing(const Use& use) {
 bool HasWord(const LintGame& game, const Use& use) {
     const WordTypes types = use.wordTypes | TypeBit(condacts::kReserved);
     return std::any_of(game.words.begin(), game.words.end(), [&](const LintWord& word) {
-        return word.word.number == use.target.number && (TypeBit(word.word.type) & types) != 0;
+        return word.word.number.value == use.target.number && (TypeBit(word.word.type) & types) != 0;
     });
 }
 
@@ -60,17 +60,18 @@ bool Exists(const LintGame& game, const Use& use) {
     const int number = use.target.number;
     switch (use.target.kind) {
         case Kind::Flag:
-            return game.facts.flags.contains(number);
+            return game.facts.flags.contains(condacts::FlagNumber(number));
         case Kind::Object:
-            return game.facts.objects.contains(number);
+            return game.facts.objects.contains(condacts::ObjectNumber(number));
         case Kind::Location:
-            return game.facts.locations.contains(number) && !condacts::IsSpecialPlace(number);
+            return game.facts.locations.contains(condacts::PlaceNumber(number)) &&
+                   !condacts::IsSpecialPlace(condacts::PlaceNumber(number));
         case Kind::Message:
-            return game.facts.messages.contains(number);
+            return game.facts.messages.contains(condacts::MessageNumber(number));
         case Kind::SystemMessage:
-            return game.facts.systemMessages.contains(number);
+            return game.facts.systemMessages.contains(condacts::SystemMessageNumber(number));
         case Kind::Process:
-            return game.facts.processes.contains(number);
+            return game.facts.processes.contains(condacts::ProcessNumber(number));
         case Kind::Word:
             // 1 is wild in entries, as 255 is.
             return number <= 1 || HasWord(game, use);

@@ -16,8 +16,8 @@ constexpr std::string_view kUnsteady[] = {"CHANCE", "YESNO", "QUIT", "TIMEOUT"};
 /// How far behind an entry those that it may hide are looked for.
 constexpr std::size_t kFarthest = 200;
 
-bool IsWild(int word) {
-    return word == condacts::kNoWordNumber || word == 1;
+bool IsWild(condacts::WordNumber word) {
+    return word == condacts::kNoWordNumber || word.value == 1;
 }
 
 /// What an entry asks for in front of its first action, and whether it ends its table once it has got that

@@ -15,7 +15,7 @@ constexpr int kHighestWord = 255;
 
 struct TypeName {
     std::string_view name;
-    int type;
+    condacts::WordType type;
 };
 /// Anything else is a noun.
 constexpr TypeName kTypeNames[] = {
@@ -32,7 +32,7 @@ constexpr TypeName kTypeNames[] = {
     {"RESERVED", condacts::kReserved},
 };
 
-int TypeFrom(std::string_view name) {
+condacts::WordType TypeFrom(std::string_view name) {
     for (const TypeName& entry : kTypeNames) {
         if (text::EqualsNoCase(entry.name, name)) return entry.type;
     }
@@ -47,13 +47,14 @@ class Vocabulary final : public UnVelSection {
         if (text::TrimBlanks(line).empty()) return;
         const std::string word = text::UpperCase(CutTrimmed(line, kWord));
         const auto number = ListedNumber(CutTrimmed(line, kNumber), kHighestWord);
-        const int type = TypeFrom(CutTrimmed(line, kType));
+        const condacts::WordType type = TypeFrom(CutTrimmed(line, kType));
         const bool isWord = !word.empty() && word.find(' ') == std::string::npos;
         if (!isWord || !number || words_.Has(word, type)) {
             job_.Fault(kBadListingLine);
             return;
         }
-        if (!words_.Add({word, *number, type})) job_.Fault("ERROR: There are too many words.");
+        if (!words_.Add({word, condacts::WordNumber(*number), type}))
+            job_.Fault("ERROR: There are too many words.");
     }
 
     /// The default words follow at once, since entries are looked up in the whole vocabulary.
