@@ -10,6 +10,7 @@
 
 #include "condacts/places.h"
 #include "condacts/system_messages.h"
+#include "condacts/words.h"
 #include "store/adventure_kind.h"
 
 namespace fabula::condacts {
@@ -85,7 +86,7 @@ class Catalogue {
 /// A condition whose parameter is a word, and the type of word that it asks.
 struct WordCondition {
     std::string_view name;
-    int wordType;             ///< `voctypen`
+    WordType wordType;
     std::string_view phrase;  ///< "an adjective"
 };
 

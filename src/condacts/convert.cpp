@@ -15,9 +15,9 @@ bool AdmitsLocationWords(const Parameter& param) {
     return param.kind == ParamKind::Location && param.maxValue == kLocationWordsAllowed;
 }
 
-std::optional<int> LocationNumber(std::string_view token) {
+std::optional<PlaceNumber> LocationNumber(std::string_view token) {
     for (const LocationWord& entry : kLocationWords) {
-        if (text::EqualsNoCase(entry.word, token)) return entry.number.value;
+        if (text::EqualsNoCase(entry.word, token)) return entry.number;
     }
     return std::nullopt;
 }
@@ -61,7 +61,7 @@ std::string_view WordOfNumber(const CondAct& condAct, std::string_view token, co
     const WordCondition* condition = FindWordCondition(condAct.name);
     const std::optional<int> number = WholeNumber(token);
     if (condition == nullptr || !number) return "";
-    const Word* word = words.FindNumberTyped(*number, condition->wordType);
+    const Word* word = words.FindNumberTyped(WordNumber(*number), condition->wordType);
     return word == nullptr ? std::string_view() : std::string_view(word->word);
 }
 
@@ -87,7 +87,8 @@ std::string LocationWordsToNumbers(std::string_view line, const Catalogue& catal
         for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
             if (!AdmitsLocationWords(statement.condAct->params[p])) continue;
             std::string& token = tokens[statement.name + 1 + p];
-            if (const std::optional<int> number = LocationNumber(token)) token = std::to_string(*number);
+            if (const std::optional<PlaceNumber> number = LocationNumber(token))
+                token = std::to_string(number->value);
         }
     }
     std::string result;
@@ -110,7 +111,7 @@ Converted CondActsToNumeric(std::string_view line, const Catalogue& catalogue, c
                 if (!IsNumber(token))
                     AddError(converted, "Invalid number for parameter " + std::to_string(p + 1), place);
             } else if (const Word* word = WordAsked(condAct, token, words)) {
-                Append(converted.line, std::to_string(word->number));
+                Append(converted.line, std::to_string(word->number.value));
             } else {
                 AddError(converted, WrongType(token, condAct), place);
             }

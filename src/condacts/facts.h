@@ -4,6 +4,7 @@
 #include <set>
 
 #include "condacts/catalogue.h"
+#include "condacts/numbers.h"
 #include "condacts/words.h"
 
 namespace fabula::condacts {
@@ -20,14 +21,14 @@ struct Facts {
     Dialect dialect = Dialect::Fabula;
 
     // The numbers of the records that exist; there may be gaps.
-    std::set<int> locations;
-    std::set<int> messages;
-    std::set<int> systemMessages;
-    std::set<int> processes;
-    std::map<int, Flag> flags;
-    std::map<int, int> objects;  ///< `objattrn` by object
+    std::set<PlaceNumber> locations;
+    std::set<MessageNumber> messages;
+    std::set<SystemMessageNumber> systemMessages;
+    std::set<ProcessNumber> processes;
+    std::map<FlagNumber, Flag> flags;
+    std::map<ObjectNumber, int> objects;  ///< `objattrn` by object
 
-    std::set<int> locationsWithExits;
+    std::set<PlaceNumber> locationsWithExits;
     WordIndex words;
 };
 

@@ -26,9 +26,11 @@ void ForEachRow(Adventure& adventure, TableNum table, std::string_view fields, U
         use(rows);
 }
 
-std::set<int> Numbers(Adventure& adventure, TableNum table, std::string_view key) {
-    std::set<int> numbers;
-    ForEachRow(adventure, table, key, [&](const PreparedQuery& row) { numbers.insert(Int(row, 0)); });
+template <typename Number>
+std::set<Number> Numbers(Adventure& adventure, TableNum table, std::string_view key) {
+    std::set<Number> numbers;
+    ForEachRow(adventure, table, key,
+               [&](const PreparedQuery& row) { numbers.insert(Number(Int(row, 0))); });
     return numbers;
 }
 
@@ -50,21 +52,23 @@ void ReadDialects(const PreparedQuery& row, CondAct& condAct) {
 }
 
 void LoadObjects(Adventure& adventure, Facts& facts) {
-    ForEachRow(adventure, TableNum::Objects, "objnum, objattrn",
-               [&](const PreparedQuery& row) { facts.objects.try_emplace(Int(row, 0), Int(row, 1)); });
+    ForEachRow(adventure, TableNum::Objects, "objnum, objattrn", [&](const PreparedQuery& row) {
+        facts.objects.try_emplace(ObjectNumber(Int(row, 0)), Int(row, 1));
+    });
 }
 
 void LoadLocations(Adventure& adventure, Facts& facts) {
     ForEachRow(adventure, TableNum::Locations, "locnum, numexits", [&](const PreparedQuery& row) {
-        facts.locations.insert(Int(row, 0));
-        if (Int(row, 1) > 0) facts.locationsWithExits.insert(Int(row, 0));
+        const PlaceNumber location(Int(row, 0));
+        facts.locations.insert(location);
+        if (Int(row, 1) > 0) facts.locationsWithExits.insert(location);
     });
 }
 
 void LoadFlags(Adventure& adventure, Facts& facts) {
     ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgchg", [&](const PreparedQuery& row) {
         const bool system = text::EqualsNoCase(row.Text(1), "system");
-        facts.flags.try_emplace(Int(row, 0), Facts::Flag{system, Int(row, 2) != 0});
+        facts.flags.try_emplace(FlagNumber(Int(row, 0)), Facts::Flag{system, Int(row, 2) != 0});
     });
 }
 
@@ -91,7 +95,8 @@ Catalogue LoadCatalogue(Adventure& adventure) {
 WordIndex LoadWords(Adventure& adventure) {
     std::vector<Word> words;
     ForEachRow(adventure, TableNum::Vocabulary, "word, vocnum, voctypen", [&](const PreparedQuery& row) {
-        words.push_back({std::string(row.Text(0)), Int(row, 1), Int(row, 2)});
+        words.push_back(
+            {std::string(row.Text(0)), WordNumber(Int(row, 1)), static_cast<WordType>(Int(row, 2))});
     });
     return WordIndex(std::move(words));
 }
@@ -100,9 +105,9 @@ Facts LoadFacts(Adventure& adventure) {
     const store::ReadTransaction reading(adventure);
     Facts facts;
     facts.dialect = DialectOf(adventure.Kind());
-    facts.messages = Numbers(adventure, TableNum::Messages, "msgnum");
-    facts.systemMessages = Numbers(adventure, TableNum::SystemMessages, "smsgnum");
-    facts.processes = Numbers(adventure, TableNum::ProcDesc, "pmsgnum");
+    facts.messages = Numbers<MessageNumber>(adventure, TableNum::Messages, "msgnum");
+    facts.systemMessages = Numbers<SystemMessageNumber>(adventure, TableNum::SystemMessages, "smsgnum");
+    facts.processes = Numbers<ProcessNumber>(adventure, TableNum::ProcDesc, "pmsgnum");
     LoadLocations(adventure, facts);
     LoadObjects(adventure, facts);
     LoadFlags(adventure, facts);

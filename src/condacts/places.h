@@ -30,6 +30,11 @@ constexpr bool IsSpecialPlace(std::int64_t number) {
     return number >= place::kFirstSpecial.value && number <= place::kLastSpecial.value;
 }
 
+/// The place that a container is for what lies in it.
+constexpr PlaceNumber Inside(ObjectNumber container) {
+    return PlaceNumber(container.value);
+}
+
 /// A word in capitals and the place it stands for.
 struct LocationWord {
     std::string_view word;

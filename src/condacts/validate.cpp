@@ -41,12 +41,12 @@ bool IsNegativeNumber(std::string_view token) {
 
 Message CheckContainer(const Given& given, const Facts& facts) {
     const std::string location = "Location " + std::to_string(given.number);
-    const auto object = facts.objects.find(given.number);
-    const bool container = !IsSpecialPlace(given.number) && object != facts.objects.end() &&
-                           object->second != 0 && object->second != 2;
+    const PlaceNumber place(given.number);
+    const auto object = facts.objects.find(ObjectNumber(given.number));
+    const bool container = !IsSpecialPlace(place) && object != facts.objects.end() && object->second != 0 &&
+                           object->second != 2;
     if (!container) return location + " is not a container";
-    if (facts.locationsWithExits.contains(given.number))
-        return location + " cannot be a container. It has exits.";
+    if (facts.locationsWithExits.contains(place)) return location + " cannot be a container. It has exits.";
     return std::nullopt;
 }
 
@@ -63,22 +63,23 @@ Message CheckSystemMessage(const Given& given, const Facts& facts) {
     const bool fits =
         given.param.maxValue == kSystemMessagesTwoToFive
             ? given.number >= message::kFirstPrompt.value && given.number <= message::kLastPrompt.value
-            : facts.systemMessages.contains(given.number) || IsSpecialPlace(given.number);
+            : facts.systemMessages.contains(SystemMessageNumber(given.number)) ||
+                  IsSpecialPlace(given.number);
     return fits ? Message() : InvalidNumber(given);
 }
 
 Message CheckFlag(const Given& given, const Facts& facts) {
-    const int n = given.number;
-    const auto record = facts.flags.find(n);
-    if (record == facts.flags.end() || (facts.dialect == Dialect::Marlo && n > limit::kHighestMarloFlag))
+    const FlagNumber flag(given.number);
+    const auto record = facts.flags.find(flag);
+    if (record == facts.flags.end() ||
+        (facts.dialect == Dialect::Marlo && flag.value > limit::kHighestMarloFlag))
         return InvalidNumber(given);
-    if (n == flag::kTraceFile.value)
-        return "Flag 1004 cannot be modified or checked using conditions/actions";
-    if (n == flag::kTrace.value && !given.CondActIs("SET") && !given.CondActIs("CLEAR")) {
+    if (flag == flag::kTraceFile) return "Flag 1004 cannot be modified or checked using conditions/actions";
+    if (flag == flag::kTrace && !given.CondActIs("SET") && !given.CondActIs("CLEAR")) {
         return "Flag 1005 can only be SET or CLEAR";
     }
     if (record->second.system && (given.CondActIs("AUTOINC") || given.CondActIs("AUTODEC"))) {
-        return "Flag " + std::to_string(n) + " cannot be set With " + given.condAct.name;
+        return "Flag " + std::to_string(flag.value) + " cannot be set With " + given.condAct.name;
     }
     if (!record->second.actionsMayChange && given.condAct.isAction) {
         return "This flag cannot be used in an Action, only a Condition";
@@ -102,14 +103,15 @@ Message CheckWord(const Given& given, const Facts& facts) {
 Message CheckNumber(const Given& given, const Facts& facts) {
     switch (given.param.kind) {
         case ParamKind::Location:
-            return CheckPlaceOrObject(given, facts, facts.locations.contains(given.number));
+            return CheckPlaceOrObject(given, facts, facts.locations.contains(PlaceNumber(given.number)));
         case ParamKind::Object:
-            return CheckPlaceOrObject(given, facts, facts.objects.contains(given.number));
+            return CheckPlaceOrObject(given, facts, facts.objects.contains(ObjectNumber(given.number)));
         case ParamKind::Message:
-            return facts.messages.contains(given.number) ? Message() : InvalidNumber(given);
+            return facts.messages.contains(MessageNumber(given.number)) ? Message() : InvalidNumber(given);
         case ParamKind::Process:
-            return facts.processes.contains(given.number) ? Message()
-                                                          : "There is not a Process table with that number";
+            return facts.processes.contains(ProcessNumber(given.number))
+                       ? Message()
+                       : "There is not a Process table with that number";
         case ParamKind::SystemMessage:
             return CheckSystemMessage(given, facts);
         case ParamKind::Flag:

@@ -66,7 +66,7 @@ bool Clashes(const Word& word, std::span<const Word> sameSpelling) {
 WordIndex::WordIndex(std::vector<Word> words) : words_(std::move(words)) {
     for (std::size_t i = 0; i < words_.size(); ++i) {
         bySpelling_[text::LowerCase(words_[i].word)].push_back(i);
-        byNumber_[words_[i].number].push_back(i);
+        byNumber_[words_[i].number.value].push_back(i);
     }
 }
 
@@ -74,13 +74,13 @@ const Word* WordIndex::Find(std::string_view spelling, WordTest test) const {
     return FirstFitting(words_, bySpelling_, text::LowerCase(spelling), test);
 }
 
-const Word* WordIndex::FindTyped(std::string_view spelling, int wordType) const {
+const Word* WordIndex::FindTyped(std::string_view spelling, WordType wordType) const {
     return FirstFitting(words_, bySpelling_, text::LowerCase(spelling), [wordType](const Word& word) {
         return word.type == wordType || word.type == kReserved;
     });
 }
 
-const Word* WordIndex::FindAsked(std::string_view spelling, int wordType) const {
+const Word* WordIndex::FindAsked(std::string_view spelling, WordType wordType) const {
     if (Has(spelling)) return FindTyped(spelling, wordType);
     const std::string_view cut = spelling.substr(0, kOlderLetters);
     const Word* found = FindTyped(cut, wordType);
@@ -93,12 +93,12 @@ const Word* WordIndex::FindAsked(std::string_view spelling, int wordType) const 
     return std::any_of(same.begin(), same.end(), otherwise) ? nullptr : found;
 }
 
-const Word* WordIndex::FindNumber(int number, WordTest test) const {
-    return FirstFitting(words_, byNumber_, number, test);
+const Word* WordIndex::FindNumber(WordNumber number, WordTest test) const {
+    return FirstFitting(words_, byNumber_, number.value, test);
 }
 
-const Word* WordIndex::FindNumberTyped(int number, int wordType) const {
-    return FirstFitting(words_, byNumber_, number, [wordType](const Word& word) {
+const Word* WordIndex::FindNumberTyped(WordNumber number, WordType wordType) const {
+    return FirstFitting(words_, byNumber_, number.value, [wordType](const Word& word) {
         return word.type == wordType || word.type == kReserved;
     });
 }

@@ -7,9 +7,12 @@
 #include <unordered_map>
 #include <vector>
 
+#include "condacts/numbers.h"
+
 namespace fabula::condacts {
 
-/// The types of words, as `voctypen` numbers them. Reserved words stand in for every type.
+/// The types of words, as `voctypen` numbers them. Reserved words stand in for every type. What a file
+/// holds may be none of them.
 enum WordType : int {
     kVerb = 0,
     kAdverb = 1,
@@ -27,21 +30,21 @@ std::string_view WordTypeName(int wordType);
 
 /// The word that stands for "no word", and the number that goes with it.
 inline constexpr std::string_view kNoWord = "_";
-inline constexpr int kNoWordNumber = 255;
+inline constexpr WordNumber kNoWordNumber{255};
 /// The number of the other word that stands for any word in an entry; not in games of type "Marlo".
-inline constexpr int kAnyWordNumber = 1;
+inline constexpr WordNumber kAnyWordNumber{1};
 
 /// How many letters of a word count in the older games.
 inline constexpr std::size_t kOlderLetters = 5;
 
 /// Nouns below this number may stand in for a verb and name a direction.
-inline constexpr int kFirstPlainNoun = 20;
+inline constexpr WordNumber kFirstPlainNoun{20};
 
 /// A row of the vocabulary. One spelling may have several, with other numbers or types.
 struct Word {
     std::string word;
-    int number = 0;  ///< `vocnum`; synonyms share it
-    int type = 0;    ///< `voctypen`
+    WordNumber number;      ///< `vocnum`; synonyms share it
+    WordType type = kVerb;  ///< `voctypen`
 };
 
 /// Which words a look-up takes.
@@ -69,17 +72,17 @@ class WordIndex {
     /// The first word of this spelling that passes `test`; nullptr when there is none.
     const Word* Find(std::string_view spelling, WordTest test = AnyWord) const;
     /// The first word of this spelling that is of type `wordType` or reserved.
-    const Word* FindTyped(std::string_view spelling, int wordType) const;
+    const Word* FindTyped(std::string_view spelling, WordType wordType) const;
     /// The word that a condition on words of `wordType` names, of that type or reserved. The whole spelling
     /// counts first. Only one that no word has, of whatever type, is cut to its first five letters, as
     /// older games write their words; nullptr then, too, where words of different numbers fit.
-    const Word* FindAsked(std::string_view spelling, int wordType) const;
+    const Word* FindAsked(std::string_view spelling, WordType wordType) const;
     /// Whether any word has this spelling.
     bool Has(std::string_view spelling) const { return Find(spelling) != nullptr; }
     /// The first word of this number that passes `test`.
-    const Word* FindNumber(int number, WordTest test) const;
+    const Word* FindNumber(WordNumber number, WordTest test) const;
     /// The first word of this number that is of type `wordType` or reserved.
-    const Word* FindNumberTyped(int number, int wordType) const;
+    const Word* FindNumberTyped(WordNumber number, WordType wordType) const;
 
     const std::vector<Word>& All() const { return words_; }
 

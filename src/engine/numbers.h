@@ -23,10 +23,11 @@ using condacts::ProcessNumber;
 using condacts::SystemMessageNumber;
 using condacts::WordNumber;
 
+using condacts::Inside;
 using condacts::kSet;
 
 /// What a flag of a word holds when there is none.
-inline constexpr int kNoWord = condacts::kNoWordNumber;
+inline constexpr int kNoWord = condacts::kNoWordNumber.value;
 
 /// The object that lights the dark.
 inline constexpr ObjectNumber kLight{0};
@@ -35,11 +36,6 @@ inline constexpr ObjectNumber kLight{0};
 inline constexpr ProcessNumber kResponses{0};  ///< for each sentence
 inline constexpr ProcessNumber kDescribed{1};  ///< behind each description
 inline constexpr ProcessNumber kEachTurn{2};   ///< before each sentence; not in "marlo"
-
-/// The place that a container is for what lies in it.
-constexpr PlaceNumber Inside(ObjectNumber container) {
-    return PlaceNumber(container.value);
-}
 
 /// All objects of a game, by number: for (const ObjectNumber object : game.state.Objects()).
 class ObjectNumbers {

@@ -33,7 +33,7 @@ class ProcessTable {
     int FindMatch(int from, WordNumber verb, WordNumber noun) const;
 
     static constexpr bool IsWild(WordNumber word, bool oneIsWild) {
-        return word.value == kNoWord || (oneIsWild && word.value == condacts::kAnyWordNumber);
+        return word.value == kNoWord || (oneIsWild && word.value == condacts::kAnyWordNumber.value);
     }
 
   private:

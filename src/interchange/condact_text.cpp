@@ -68,7 +68,8 @@ Converted ConvertUnVelCAs(std::string_view text, const Catalogue& catalogue,
                 Append(converted.line, token);
                 continue;
             }
-            const std::optional<std::string> word = ConvExtLogs(condition->wordType, *number, words);
+            const std::optional<std::string> word =
+                ConvExtLogs(condition->wordType, condacts::WordNumber(*number), words);
             if (!word) {
                 converted.ok = false;
                 converted.faultyToken = statement.name + 1 + p;
@@ -83,7 +84,8 @@ Converted ConvertUnVelCAs(std::string_view text, const Catalogue& catalogue,
     return converted;
 }
 
-std::optional<std::string> ConvExtLogs(int wordType, int number, const condacts::WordIndex& words) {
+std::optional<std::string> ConvExtLogs(condacts::WordType wordType, condacts::WordNumber number,
+                                       const condacts::WordIndex& words) {
     if (number == condacts::kNoWordNumber) return std::string(condacts::kNoWord);
     for (const condacts::Word& word : words.All()) {
         if (word.number == number && word.type == wordType) return word.word;

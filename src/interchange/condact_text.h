@@ -20,6 +20,7 @@ condacts::Converted ConvertUnVelCAs(std::string_view text, const condacts::Catal
                                     const condacts::WordIndex& words);
 
 /// The word of a number: "_" for 255, nothing when the vocabulary has none of the type.
-std::optional<std::string> ConvExtLogs(int wordType, int number, const condacts::WordIndex& words);
+std::optional<std::string> ConvExtLogs(condacts::WordType wordType, condacts::WordNumber number,
+                                       const condacts::WordIndex& words);
 
 }  // namespace fabula::interchange

@@ -104,7 +104,8 @@ ShownParameter ConditionTexts::Parameter(const condacts::CondAct& condAct, std::
     if (!number) return shown;
     if (parameter.kind == ParamKind::Word) {
         const condacts::WordCondition* const asks = condacts::FindWordCondition(condAct.name);
-        const condacts::Word* const word = asks ? words_.FindNumberTyped(*number, asks->wordType) : nullptr;
+        const condacts::Word* const word =
+            asks ? words_.FindNumberTyped(condacts::WordNumber(*number), asks->wordType) : nullptr;
         if (word) shown.text = word->word;
         return shown;
     }

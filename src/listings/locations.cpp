@@ -14,6 +14,8 @@
 namespace fabula::listings {
 namespace {
 
+using condacts::ObjectNumber;
+using condacts::PlaceNumber;
 using store::TableNum;
 
 constexpr TextArea kRoomText{12, 60};
@@ -60,14 +62,14 @@ struct ExitColumns {
 };
 
 struct ObjectHere {
-    int number = 0;
+    ObjectNumber number;
     std::string description;
 };
 
 /// What a complete listing tells beside the locations themselves.
 struct Surroundings {
-    std::map<int, std::vector<ConditionalExit>> exits;
-    std::map<int, std::vector<ObjectHere>> objects;
+    std::map<PlaceNumber, std::vector<ConditionalExit>> exits;
+    std::map<PlaceNumber, std::vector<ObjectHere>> objects;
 };
 
 Surroundings LoadSurroundings(store::Adventure& adventure) {
@@ -75,8 +77,9 @@ Surroundings LoadSurroundings(store::Adventure& adventure) {
     loaded.exits = LoadConditionalExits(adventure, ConditionTexts(adventure, false));
     store::PreparedQuery rows = adventure.Prepare(TableNum::Objects, "objnum, objdesc, objloc", "");
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        loaded.objects[static_cast<int>(rows.Number(2))].push_back(
-            {static_cast<int>(rows.Number(0)), std::string(rows.Text(1))});
+        const PlaceNumber place(static_cast<int>(rows.Number(2)));
+        loaded.objects[place].push_back(
+            {ObjectNumber(static_cast<int>(rows.Number(0))), std::string(rows.Text(1))});
     }
     return loaded;
 }
@@ -90,7 +93,7 @@ ExitColumns ExitColumnsFor(store::Adventure& adventure, const Surroundings& arou
     }
     for (const auto& [location, exits] : around.exits) {
         for (const ConditionalExit& exit : exits)
-            columns.MakeRoomFor(std::to_string(exit.wordNumber), exit.words);
+            columns.MakeRoomFor(std::to_string(exit.verb.value), exit.words);
     }
     return columns;
 }
@@ -113,11 +116,11 @@ void AddConditionalExit(Record& record, const ExitColumns& columns, const Condit
     const std::string format = "%a! !!%a!%t" + std::to_string(columns.to) + "!%a2!%t" +
                                std::to_string(columns.destination) + "!%a!%t" +
                                std::to_string(columns.condition) + "!%e! !%a";
-    const std::string destination = std::to_string(exit.destination);
+    const std::string destination = std::to_string(exit.destination.value);
     const int column = columns.condition + 2;
     // Words of an entry may be longer than those of any exit.
     const TextArea area{column, std::max(static_cast<int>(kColumns) - column + 1, 20)};
-    record.Text(format, {std::int64_t{exit.wordNumber}, exit.words, "To", destination}, exit.condition,
+    record.Text(format, {std::int64_t{exit.verb.value}, exit.words, "To", destination}, exit.condition,
                 area);
     LinkDestination(record, columns, destination);
 }
@@ -125,14 +128,15 @@ void AddConditionalExit(Record& record, const ExitColumns& columns, const Condit
 void AddObjects(Record& record, const std::vector<ObjectHere>& objects) {
     record.Row("!%t10!Objects Present", {});
     for (const ObjectHere& object : objects) {
-        record.Text("!%t10!%r3!%t15!%a", {std::int64_t{object.number}}, object.description, kObject);
-        const std::string number = std::to_string(object.number);
-        record.LinkTo({TableNum::Objects, object.number},
+        record.Text("!%t10!%r3!%t15!%a", {std::int64_t{object.number.value}}, object.description, kObject);
+        const std::string number = std::to_string(object.number.value);
+        record.LinkTo({TableNum::Objects, object.number.value},
                       number.size() < 3 ? 12 - number.size() : std::size_t{9}, number.size());
     }
 }
 
-void AddSurroundings(Record& record, const ExitColumns& columns, const Surroundings& around, int location) {
+void AddSurroundings(Record& record, const ExitColumns& columns, const Surroundings& around,
+                     PlaceNumber location) {
     if (const auto exits = around.exits.find(location); exits != around.exits.end()) {
         for (const ConditionalExit& exit : exits->second)
             AddConditionalExit(record, columns, exit);
@@ -181,7 +185,7 @@ void WriteLocations(const Listing& listing, const ReportRequest& request) {
         AddPictureRow(record, exits.size(), rows.Text(4), rows.Text(5), verbose);
         for (const Exit& exit : exits)
             AddExit(record, columns, exit);
-        AddSurroundings(record, columns, around, number);
+        AddSurroundings(record, columns, around, PlaceNumber(number));
         if (verbose) AddComment(record, rows.Text(6));
         listing.frame.Add(record.Take());
     }

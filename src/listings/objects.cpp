@@ -42,11 +42,11 @@ void WriteObjects(const Listing& listing, const ReportRequest& request) {
         const std::string initially(rows.Text(6));
         std::vector<text::Value> words{std::string(rows.Text(2)), std::string(rows.Text(3)), rows.Number(4),
                                        std::string(rows.Text(5)), initially};
-        const std::int64_t at = rows.Number(7);
+        const condacts::PlaceNumber at(static_cast<int>(rows.Number(7)));
         record.Row(kWords, std::move(words));
         if (!condacts::IsSpecialPlace(at))
-            record.LinkTo({TableNum::Locations, static_cast<int>(at)}, kPlaceColumn, initially.size());
-        if (verbose) record.Aside(authoring::NameIn(rooms, static_cast<int>(at)), kRoom);
+            record.LinkTo({TableNum::Locations, at.value}, kPlaceColumn, initially.size());
+        if (verbose) record.Aside(authoring::NameIn(rooms, at), kRoom);
         if (verbose) AddComment(record, rows.Text(8));
         listing.frame.Add(record.Take());
     }

@@ -111,24 +111,25 @@ void WriteEntries(const Listing& listing, const ConditionTexts& texts, const std
 
 /// The number of a word of the vocabulary that the special listing looks for. Throws fabula::Error when
 /// there is none.
-int WordNumber(store::Adventure& adventure, const std::string& word, const std::string& types) {
+condacts::WordNumber WordNumber(store::Adventure& adventure, const std::string& word,
+                                const std::string& types) {
     store::PreparedQuery row =
         adventure.Prepare(TableNum::Vocabulary, "vocnum", "word=? and " + types, "voctypen, vocnum, word");
     if (!row.First({std::string_view(word)}))
         throw Error("The vocabulary has no such word for this listing: " + word + ".");
-    return static_cast<int>(row.Number(0));
+    return condacts::WordNumber(static_cast<int>(row.Number(0)));
 }
 
 /// A noun that stands for any noun asks for the entries of both such words.
 std::string FilterOfWords(store::Adventure& adventure, const ReportRequest& request) {
-    const int verb = WordNumber(adventure, request.verb, condacts::OfEntryVerbs());
-    const int noun =
+    const condacts::WordNumber verb = WordNumber(adventure, request.verb, condacts::OfEntryVerbs());
+    const condacts::WordNumber noun =
         WordNumber(adventure, request.noun, condacts::OfWordTypes({condacts::kNoun, condacts::kReserved}));
-    const auto is = [](int word) { return "w2num=" + std::to_string(word); };
+    const auto is = [](condacts::WordNumber word) { return "w2num=" + std::to_string(word.value); };
     const bool any = noun == condacts::kAnyWordNumber || noun == condacts::kNoWordNumber;
     const std::string nouns =
         any ? "(" + is(condacts::kAnyWordNumber) + " or " + is(condacts::kNoWordNumber) + ")" : is(noun);
-    return " and w1num=" + std::to_string(verb) + " and " + nouns;
+    return " and w1num=" + std::to_string(verb.value) + " and " + nouns;
 }
 
 }  // namespace

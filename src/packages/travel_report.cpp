@@ -130,7 +130,7 @@ std::optional<std::string> NumericExits(std::string_view exits, const condacts::
         if (i % 2 == 0) {
             const condacts::Word* word = words.Find(tokens[i], condacts::IsMovementWord);
             if (word == nullptr) return std::nullopt;
-            token = std::to_string(word->number);
+            token = std::to_string(word->number.value);
         }
         if (!numeric.empty()) numeric += ' ';
         numeric += token;

@@ -29,26 +29,26 @@ constexpr int kNoRoom = -1;  ///< `roompicnum` of a picture that is no room's
 constexpr WordTypes kVerbOrNoun = TypeBit(condacts::kVerb) | TypeBit(condacts::kNoun);
 
 constexpr FlagMeaning kFlagMeanings[] = {
-    {flag::kVerb.value, Kind::Word, kVerbOrNoun},
-    {flag::kNoun.value, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kAdjective.value, Kind::Word, TypeBit(condacts::kAdjective)},
-    {flag::kAdverb.value, Kind::Word, TypeBit(condacts::kAdverb)},
-    {flag::kLocation.value, Kind::Location},
-    {flag::kPrompt.value, Kind::SystemMessage},
-    {flag::kPreposition.value, Kind::Word, TypeBit(condacts::kPreposition)},
-    {flag::kNoun2.value, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kAdjective2.value, Kind::Word, TypeBit(condacts::kAdjective)},
-    {flag::kPronounNoun.value, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kPronounAdjective.value, Kind::Word, TypeBit(condacts::kAdjective)},
-    {flag::kDoAllPlace.value, Kind::Location},
-    {flag::kObject.value, Kind::Object},
-    {flag::kObjectPlace.value, Kind::Location},
-    {flag::kKeptVerb.value, Kind::Word, kVerbOrNoun},
-    {flag::kKeptAdverb.value, Kind::Word, TypeBit(condacts::kAdverb)},
-    {flag::kKeptNoun.value, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kKeptAdjective.value, Kind::Word, TypeBit(condacts::kAdjective)},
-    {flag::kKeptPronounNoun.value, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kKeptPronounAdjective.value, Kind::Word, TypeBit(condacts::kAdjective)},
+    {flag::kVerb, Kind::Word, kVerbOrNoun},
+    {flag::kNoun, Kind::Word, TypeBit(condacts::kNoun)},
+    {flag::kAdjective, Kind::Word, TypeBit(condacts::kAdjective)},
+    {flag::kAdverb, Kind::Word, TypeBit(condacts::kAdverb)},
+    {flag::kLocation, Kind::Location},
+    {flag::kPrompt, Kind::SystemMessage},
+    {flag::kPreposition, Kind::Word, TypeBit(condacts::kPreposition)},
+    {flag::kNoun2, Kind::Word, TypeBit(condacts::kNoun)},
+    {flag::kAdjective2, Kind::Word, TypeBit(condacts::kAdjective)},
+    {flag::kPronounNoun, Kind::Word, TypeBit(condacts::kNoun)},
+    {flag::kPronounAdjective, Kind::Word, TypeBit(condacts::kAdjective)},
+    {flag::kDoAllPlace, Kind::Location},
+    {flag::kObject, Kind::Object},
+    {flag::kObjectPlace, Kind::Location},
+    {flag::kKeptVerb, Kind::Word, kVerbOrNoun},
+    {flag::kKeptAdverb, Kind::Word, TypeBit(condacts::kAdverb)},
+    {flag::kKeptNoun, Kind::Word, TypeBit(condacts::kNoun)},
+    {flag::kKeptAdjective, Kind::Word, TypeBit(condacts::kAdjective)},
+    {flag::kKeptPronounNoun, Kind::Word, TypeBit(condacts::kNoun)},
+    {flag::kKeptPronounAdjective, Kind::Word, TypeBit(condacts::kAdjective)},
 };
 
 /// Names whose second parameter is a number that the flag is compared with or given.
@@ -85,7 +85,7 @@ std::optional<Kind> KindOfParameter(ParamKind kind) {
 }
 
 bool IsNoWord(std::int64_t number) {
-    return number == condacts::kNoWordNumber;
+    return number == condacts::kNoWordNumber.value;
 }
 
 /// The reading of one record.
@@ -233,7 +233,7 @@ class Extraction {
 
     /// The number that a flag is compared with or given, and what it means where the engine says so.
     void ReadValue(const condacts::Statement& statement, KeptUse& kept) {
-        const int flagNumber = kept.use.target.number;
+        const condacts::FlagNumber flagNumber(kept.use.target.number);
         if (statement.paramsGiven < 2 || !Holds(kWithValue, statement.condAct->name)) return;
         kept.value = condacts::WholeNumber(line_.Param(statement, 1));
         const FlagMeaning* meaning = FindFlagMeaning(flagNumber);
@@ -364,7 +364,7 @@ std::vector<KeptUse> UsesIn(const KeyedRows& row, const SourceTable& table, cons
     return Extraction(row, table.table, language).Run();
 }
 
-const FlagMeaning* FindFlagMeaning(int flag) {
+const FlagMeaning* FindFlagMeaning(condacts::FlagNumber flag) {
     const auto* found = std::find_if(std::begin(kFlagMeanings), std::end(kFlagMeanings),
                                      [&](const FlagMeaning& meaning) { return meaning.flag == flag; });
     return found == std::end(kFlagMeanings) ? nullptr : found;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "condacts/catalogue.h"
+#include "condacts/numbers.h"
 #include "pictures/command_catalogue.h"
 #include "references/use.h"
 #include "store/adventure.h"
@@ -43,11 +44,11 @@ std::vector<KeptUse> UsesIn(const store::KeyedRows& row, const SourceTable& tabl
 /// The kind of what the value of a flag stands for where the engine gives it a meaning: flag 38 is a
 /// location. Of words also their types.
 struct FlagMeaning {
-    int flag;
+    condacts::FlagNumber flag;
     Kind kind;
     WordTypes wordTypes = kAnyType;
 };
-const FlagMeaning* FindFlagMeaning(int flag);
+const FlagMeaning* FindFlagMeaning(condacts::FlagNumber flag);
 
 /// Whether a condition or action takes the number that it names for a border between others ("ATLT 19"): it
 /// is no name then that could follow a new number.

@@ -10,6 +10,8 @@
 namespace fabula::references {
 namespace {
 
+using condacts::FlagNumber;
+
 /// Two flags of which each holds what the other one may.
 constexpr std::string_view kLinks[] = {"COPYFF", "SAME", "NOTSAME"};
 constexpr std::string_view kCounts[] = {"PLUS", "MINUS", "ADD", "SUB", "RANDOM", "AUTOINC", "AUTODEC"};
@@ -20,12 +22,12 @@ bool Has(const std::string_view (&names)[Size], std::string_view name) {
 }
 
 /// The flags that a statement names.
-std::vector<int> FlagsOf(const LintEntry& entry, const condacts::Statement& statement) {
-    std::vector<int> flags;
+std::vector<FlagNumber> FlagsOf(const LintEntry& entry, const condacts::Statement& statement) {
+    std::vector<FlagNumber> flags;
     for (std::size_t i = 0; i < statement.paramsGiven; ++i) {
         if (statement.condAct->params[i].kind != condacts::ParamKind::Flag) continue;
         if (const auto number = condacts::WholeNumber(entry.line.Param(statement, i)))
-            flags.push_back(*number);
+            flags.emplace_back(*number);
     }
     return flags;
 }
@@ -33,13 +35,13 @@ std::vector<int> FlagsOf(const LintEntry& entry, const condacts::Statement& stat
 }  // namespace
 
 FlagContents::FlagContents(const LintGame& game) {
-    std::vector<std::pair<int, int>> links;
+    std::vector<std::pair<FlagNumber, FlagNumber>> links;
     for (const auto& entry : game.entries) {
         for (const condacts::Statement& statement : entry->line.statements) {
-            const std::vector<int> flags = FlagsOf(*entry, statement);
+            const std::vector<FlagNumber> flags = FlagsOf(*entry, statement);
             if (flags.empty()) continue;
             const std::string& name = statement.condAct->name;
-            for (const int flag : flags) {
+            for (const FlagNumber flag : flags) {
                 if (const FlagMeaning* meaning = FindFlagMeaning(flag)) kinds_[flag].insert(meaning->kind);
             }
             const CondActAccess* access = FindCondActAccess(name);
@@ -61,12 +63,12 @@ FlagContents::FlagContents(const LintGame& game) {
     }
 }
 
-bool FlagContents::Holds(int flag, Kind kind) const {
+bool FlagContents::Holds(FlagNumber flag, Kind kind) const {
     const auto found = kinds_.find(flag);
     return found != kinds_.end() && found->second.contains(kind);
 }
 
-bool FlagContents::IsMixed(int flag) const {
+bool FlagContents::IsMixed(FlagNumber flag) const {
     const auto found = kinds_.find(flag);
     return found != kinds_.end() && found->second.size() > 1;
 }

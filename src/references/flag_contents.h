@@ -3,6 +3,7 @@
 #include <map>
 #include <set>
 
+#include "condacts/numbers.h"
 #include "references/lint_game.h"
 
 namespace fabula::references {
@@ -14,15 +15,15 @@ class FlagContents {
     explicit FlagContents(const LintGame& game);
 
     /// Whether a flag holds numbers of this kind.
-    bool Holds(int flag, Kind kind) const;
+    bool Holds(condacts::FlagNumber flag, Kind kind) const;
     /// Whether it also holds numbers of other kinds.
-    bool IsMixed(int flag) const;
+    bool IsMixed(condacts::FlagNumber flag) const;
     /// Whether it is counted or drawn, so that it holds numbers that stand nowhere.
-    bool IsCounted(int flag) const { return counted_.contains(flag); }
+    bool IsCounted(condacts::FlagNumber flag) const { return counted_.contains(flag); }
 
   private:
-    std::map<int, std::set<Kind>> kinds_;
-    std::set<int> counted_;
+    std::map<condacts::FlagNumber, std::set<Kind>> kinds_;
+    std::set<condacts::FlagNumber> counted_;
 };
 
 }  // namespace fabula::references

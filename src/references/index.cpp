@@ -9,6 +9,7 @@
 namespace fabula::references {
 namespace {
 
+using condacts::FlagNumber;
 using store::TableNum;
 
 auto PlaceOf(const Use& use) {
@@ -89,7 +90,7 @@ void Index::Take(const Record& record) {
 
 void Index::Count(const KeptUse& kept, int difference) {
     if (!kept.carries) return;
-    const std::pair key(*kept.carries, kept.use.target.number);
+    const std::pair key(*kept.carries, FlagNumber(kept.use.target.number));
     if ((carriers_[key] += difference) == 0) carriers_.erase(key);
 }
 
@@ -117,11 +118,11 @@ std::vector<Use> Index::UsesOf(const Target& target, WordTypes types) const {
 
 /// Numbers that flags are given or compared with, where they are later taken for what is sought.
 void Index::AppendValues(const Target& target, std::vector<Use>& found) const {
-    for (auto carrier = carriers_.lower_bound({target.kind, 0});
+    for (auto carrier = carriers_.lower_bound({target.kind, FlagNumber(0)});
          carrier != carriers_.end() && carrier->first.first == target.kind; ++carrier) {
-        const int flag = carrier->first.second;
+        const FlagNumber flag = carrier->first.second;
         if (FindFlagMeaning(flag) != nullptr) continue;
-        ForEachUse({Kind::Flag, flag}, [&](const KeptUse& kept) {
+        ForEachUse(Target::Of(flag), [&](const KeptUse& kept) {
             if (kept.value != target.number) return;
             Use use = kept.use;
             use.target = target;
@@ -135,11 +136,11 @@ void Index::AppendValues(const Target& target, std::vector<Use>& found) const {
 
 /// The places that take the number from a flag which may hold any.
 void Index::AppendCarriers(const Target& target, std::vector<Use>& found) const {
-    for (auto carrier = carriers_.lower_bound({target.kind, 0});
+    for (auto carrier = carriers_.lower_bound({target.kind, FlagNumber(0)});
          carrier != carriers_.end() && carrier->first.first == target.kind; ++carrier) {
-        const int flag = carrier->first.second;
+        const FlagNumber flag = carrier->first.second;
         if (FindFlagMeaning(flag) != nullptr || !IsComputed(flag)) continue;
-        ForEachUse({Kind::Flag, flag}, [&](const KeptUse& kept) {
+        ForEachUse(Target::Of(flag), [&](const KeptUse& kept) {
             if (kept.carries != target.kind || kept.computes) return;
             Use use = kept.use;
             use.target = target;
@@ -150,13 +151,13 @@ void Index::AppendCarriers(const Target& target, std::vector<Use>& found) const 
     }
 }
 
-bool Index::IsComputed(int flag) const {
+bool Index::IsComputed(FlagNumber flag) const {
     bool computed = false;
-    ForEachUse({Kind::Flag, flag}, [&](const KeptUse& kept) { computed = computed || kept.computes; });
+    ForEachUse(Target::Of(flag), [&](const KeptUse& kept) { computed = computed || kept.computes; });
     return computed;
 }
 
-bool Index::Carries(int flag, Kind kind) const {
+bool Index::Carries(FlagNumber flag, Kind kind) const {
     return carriers_.contains({kind, flag});
 }
 

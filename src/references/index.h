@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "condacts/numbers.h"
 #include "references/extract.h"
 #include "references/use.h"
 #include "store/adventure.h"
@@ -44,7 +45,7 @@ class Index {
     std::map<Target, std::vector<KeptUse>> AllUses() const;
 
     /// Whether the numbers that a flag holds are taken for something of this kind.
-    bool Carries(int flag, Kind kind) const;
+    bool Carries(condacts::FlagNumber flag, Kind kind) const;
 
     friend bool operator==(const Index& a, const Index& b);
 
@@ -57,14 +58,15 @@ class Index {
     void Count(const KeptUse& kept, int difference);
     void AppendValues(const Target& target, std::vector<Use>& found) const;
     void AppendCarriers(const Target& target, std::vector<Use>& found) const;
-    bool IsComputed(int flag) const;
+    bool IsComputed(condacts::FlagNumber flag) const;
     template <typename Visit>
     void ForEachUse(const Target& target, Visit visit) const;
 
     Language language_;
     std::map<Record, std::vector<KeptUse>> byRecord_;
     std::map<Target, std::set<Record>> byTarget_;
-    std::map<std::pair<Kind, int>, int> carriers_;  ///< how often a flag is taken for a kind
+    std::map<std::pair<Kind, condacts::FlagNumber>, int>
+        carriers_;  ///< how often a flag is taken for a kind
 };
 
 }  // namespace fabula::references

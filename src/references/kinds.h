@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "condacts/numbers.h"
 #include "store/table_catalogue.h"
 
 namespace fabula::references {
@@ -41,10 +42,13 @@ std::optional<Kind> KindFrom(std::string_view name);
 /// The kind that the records of a table are; nullopt for tables that nothing is named from.
 std::optional<Kind> KindOf(store::TableNum table);
 
-/// Something that can be named: "flag 60".
+/// Something that can be named: "flag 60". What is asked of all kinds alike goes by this plain number.
 struct Target {
     Kind kind = Kind::Flag;
     int number = 0;
+
+    static constexpr Target Of(condacts::FlagNumber flag) { return {Kind::Flag, flag.value}; }
+    static constexpr Target Of(condacts::ObjectNumber object) { return {Kind::Object, object.value}; }
 
     friend auto operator<=>(const Target&, const Target&) = default;
 };

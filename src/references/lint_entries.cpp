@@ -166,9 +166,9 @@ void CheckActions(const LintEntry& entry, Findings& findings) {
 }
 
 /// The numbers that a flag can hold, when all that set it say which.
-std::optional<std::set<int>> ValuesOf(const LintGame& game, int flag) {
+std::optional<std::set<int>> ValuesOf(const LintGame& game, condacts::FlagNumber flag) {
     std::set<int> values{0};
-    for (const KeptUse& kept : game.UsesOf({Kind::Flag, flag})) {
+    for (const KeptUse& kept : game.UsesOf(Target::Of(flag))) {
         if (kept.use.table != TableNum::ProcessTables) continue;
         if (kept.use.access == Access::Names || kept.use.access == Access::Both || kept.computes)
             return std::nullopt;
@@ -189,8 +189,8 @@ std::optional<std::set<int>> ValuesOf(const LintGame& game, int flag) {
 void CheckValues(const LintGame& game, Findings& findings) {
     for (const LintFlag& flag : game.flags) {
         if (flag.system) continue;
-        const auto& uses = game.UsesOf({Kind::Flag, static_cast<int>(flag.number)});
-        const auto values = ValuesOf(game, static_cast<int>(flag.number));
+        const auto& uses = game.UsesOf(Target::Of(flag.number));
+        const auto values = ValuesOf(game, flag.number);
         // A flag that is never set is told as such.
         if (!values || values->size() == 1) continue;
         for (const KeptUse& kept : uses) {
@@ -198,8 +198,8 @@ void CheckValues(const LintGame& game, Findings& findings) {
             const LintEntry& entry = game.EntryOf(kept.use.record);
             if (entry.line.tokens[kept.use.token - 1].text != "EQ") continue;
             Add(findings, "value-never", entry,
-                "asks for " + std::to_string(*kept.value) + " in flag " + std::to_string(flag.number) +
-                    ", which it is never given.",
+                "asks for " + std::to_string(*kept.value) + " in flag " +
+                    std::to_string(flag.number.value) + ", which it is never given.",
                 kept.use.token);
         }
     }

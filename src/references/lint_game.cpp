@@ -8,6 +8,9 @@
 namespace fabula::references {
 namespace {
 
+using condacts::ObjectNumber;
+using condacts::PlaceNumber;
+using condacts::WordNumber;
 using store::PreparedQuery;
 using store::TableNum;
 
@@ -45,9 +48,9 @@ LintGame::LintGame(store::Adventure& adventure)
                "estype, w1num, w2num, canum", [&](const PreparedQuery& row) {
                    auto entry = std::make_unique<LintEntry>();
                    entry->key = row.Number(0);
-                   entry->process = Int(row, 1);
-                   entry->verb = Int(row, 2);
-                   entry->noun = Int(row, 3);
+                   entry->process = condacts::ProcessNumber(Int(row, 1));
+                   entry->verb = WordNumber(Int(row, 2));
+                   entry->noun = WordNumber(Int(row, 3));
                    entry->text = row.Text(4);
                    entry->numbers = row.Text(5);
                    entry->line = condacts::ParseLine(entry->text, catalogue);
@@ -60,28 +63,31 @@ void LintGame::Read(store::Adventure& adventure) {
     characterSets = adventure.CharSetsOn();
     draws = adventure.GraphicsOn() || characterSets;
     ForEachRow(adventure, TableNum::Adventure, "startloc", "",
-               [&](const PreparedQuery& row) { start = row.Number(0); });
+               [&](const PreparedQuery& row) { start = PlaceNumber(Int(row, 0)); });
     ForEachRow(adventure, TableNum::Locations, "locnum, exits, numericexits", "locnum",
                [&](const PreparedQuery& row) {
-                   locations.push_back({row.Number(0), pictures::DrawstringWords(row.Text(1)),
+                   locations.push_back({PlaceNumber(Int(row, 0)), pictures::DrawstringWords(row.Text(1)),
                                         pictures::DrawstringWords(row.Text(2))});
                });
     ForEachRow(adventure, TableNum::Objects, "objnum, objloc, objnumnoun, objnumadject, objattrn", "objnum",
                [&](const PreparedQuery& row) {
-                   objects.push_back({row.Number(0), row.Number(1), Int(row, 2), Int(row, 3),
+                   objects.push_back({ObjectNumber(Int(row, 0)), PlaceNumber(Int(row, 1)),
+                                      WordNumber(Int(row, 2)), WordNumber(Int(row, 3)),
                                       (row.Number(4) & condacts::attribute::kContainer) != 0});
                });
     messages = Texts(adventure, TableNum::Messages, "msgnum, msgmsg", "msgnum");
     systemMessages = Texts(adventure, TableNum::SystemMessages, "smsgnum, smsgmsg", "smsgnum");
     processes = Texts(adventure, TableNum::ProcDesc, "pmsgnum, pmsgmsg", "pmsgnum");
-    ForEachRow(
-        adventure, TableNum::Flags, "flgnum, flgtype, flgdesc", "flgnum", [&](const PreparedQuery& row) {
-            flags.push_back(
-                {row.Number(0), text::EqualsNoCase(row.Text(1), "system"), std::string(row.Text(2))});
-        });
+    ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgdesc", "flgnum",
+               [&](const PreparedQuery& row) {
+                   flags.push_back({condacts::FlagNumber(Int(row, 0)),
+                                    text::EqualsNoCase(row.Text(1), "system"), std::string(row.Text(2))});
+               });
     ForEachRow(adventure, TableNum::Vocabulary, "vocindex, word, vocnum, voctypen", "vocindex",
                [&](const PreparedQuery& row) {
-                   words.push_back({row.Number(0), {std::string(row.Text(1)), Int(row, 2), Int(row, 3)}});
+                   words.push_back({row.Number(0),
+                                    {std::string(row.Text(1)), WordNumber(Int(row, 2)),
+                                     static_cast<condacts::WordType>(Int(row, 3))}});
                });
     ForEachRow(adventure, TableNum::Pictures, "locnum, loctype", "locnum", [&](const PreparedQuery& row) {
         pictures.push_back({row.Number(0), text::EqualsNoCase(row.Text(1), "subroutine")});
@@ -104,7 +110,7 @@ const std::vector<KeptUse>& LintGame::UsesOf(const Target& target) const {
 }
 
 std::string NameOf(const LintEntry& entry) {
-    return "process table " + std::to_string(entry.process) + ", entry " + std::to_string(entry.key);
+    return "process table " + std::to_string(entry.process.value) + ", entry " + std::to_string(entry.key);
 }
 
 }  // namespace fabula::references

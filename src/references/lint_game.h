@@ -12,6 +12,7 @@
 
 #include "condacts/catalogue.h"
 #include "condacts/facts.h"
+#include "condacts/numbers.h"
 #include "condacts/parser.h"
 #include "references/index.h"
 #include "references/lint.h"
@@ -22,25 +23,25 @@ namespace fabula::references {
 /// An entry of a process table.
 struct LintEntry {
     std::int64_t key = 0;  ///< `canum`
-    int process = 0;
-    int verb = 0;
-    int noun = 0;
+    condacts::ProcessNumber process;
+    condacts::WordNumber verb;
+    condacts::WordNumber noun;
     std::string text;
     std::string numbers;
     condacts::ParsedLine line;  ///< its tokens look into `text`
 };
 
 struct LintLocation {
-    std::int64_t number = 0;
+    condacts::PlaceNumber number;
     std::vector<std::string> exits;    ///< words and numbers as they are written
     std::vector<std::string> numbers;  ///< the same as they are compiled
 };
 
 struct LintObject {
-    std::int64_t number = 0;
-    std::int64_t place = 0;
-    int noun = 0;
-    int adjective = 0;
+    condacts::ObjectNumber number;
+    condacts::PlaceNumber place;
+    condacts::WordNumber noun;
+    condacts::WordNumber adjective;
     bool container = false;
 };
 
@@ -50,13 +51,14 @@ bool Holds(const std::string_view (&names)[Size], std::string_view name) {
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
+/// Of a message, a system message or a process table.
 struct LintText {
     std::int64_t number = 0;
     std::string text;
 };
 
 struct LintFlag {
-    std::int64_t number = 0;
+    condacts::FlagNumber number;
     bool system = false;
     std::string description;
 };
@@ -81,7 +83,7 @@ struct LintGame {
     condacts::Facts facts;
     bool draws = false;  ///< it has pictures or character sets of its own
     bool characterSets = false;
-    std::int64_t start = 0;
+    condacts::PlaceNumber start;
     std::vector<std::unique_ptr<LintEntry>> entries;
     std::vector<LintLocation> locations;
     std::vector<LintObject> objects;

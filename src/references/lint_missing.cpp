@@ -52,7 +52,7 @@ const Missing& FindMissing(const Use& use) {
 bool HasWord(const LintGame& game, const Use& use) {
     const WordTypes types = use.wordTypes | TypeBit(condacts::kReserved);
     return std::any_of(game.words.begin(), game.words.end(), [&](const LintWord& word) {
-        return word.word.number == use.target.number && (TypeBit(word.word.type) & types) != 0;
+        return word.word.number.value == use.target.number && (TypeBit(word.word.type) & types) != 0;
     });
 }
 
@@ -60,19 +60,20 @@ bool Exists(const LintGame& game, const Use& use) {
     const int number = use.target.number;
     switch (use.target.kind) {
         case Kind::Flag:
-            return game.facts.flags.contains(number);
+            return game.facts.flags.contains(condacts::FlagNumber(number));
         case Kind::Object:
-            return game.facts.objects.contains(number);
+            return game.facts.objects.contains(condacts::ObjectNumber(number));
         case Kind::Location:
-            return game.facts.locations.contains(number) && !condacts::IsSpecialPlace(number);
+            return game.facts.locations.contains(condacts::PlaceNumber(number)) &&
+                   !condacts::IsSpecialPlace(condacts::PlaceNumber(number));
         case Kind::Message:
-            return game.facts.messages.contains(number);
+            return game.facts.messages.contains(condacts::MessageNumber(number));
         case Kind::SystemMessage:
-            return game.facts.systemMessages.contains(number);
+            return game.facts.systemMessages.contains(condacts::SystemMessageNumber(number));
         case Kind::Process:
-            return game.facts.processes.contains(number);
+            return game.facts.processes.contains(condacts::ProcessNumber(number));
         case Kind::Word:
-            return number <= condacts::kAnyWordNumber || HasWord(game, use);
+            return number <= condacts::kAnyWordNumber.value || HasWord(game, use);
         case Kind::Picture:
             return std::any_of(game.pictures.begin(), game.pictures.end(),
                                [&](const LintPicture& picture) { return picture.number == number; });

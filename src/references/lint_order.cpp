@@ -16,7 +16,7 @@ constexpr std::string_view kUnsteady[] = {"CHANCE", "YESNO", "QUIT", "TIMEOUT"};
 /// How far behind an entry those that it may hide are looked for.
 constexpr std::size_t kFarthest = 200;
 
-bool IsWild(int word) {
+bool IsWild(condacts::WordNumber word) {
     return word == condacts::kNoWordNumber || word == condacts::kAnyWordNumber;
 }
 

@@ -10,9 +10,10 @@
 namespace fabula::references {
 namespace {
 
+using condacts::FlagNumber;
+using condacts::PlaceNumber;
 using store::TableNum;
 
-constexpr int kPlayersPlace = condacts::flag::kLocation.value;
 /// Actions behind which the player is at the location that they name.
 constexpr std::string_view kGoing[] = {"GOTO", "RESET"};
 /// Actions that give their first or second flag a number that does not stand there.
@@ -29,11 +30,11 @@ class Reach {
   public:
     explicit Reach(const LintGame& game) : game_(game) {
         Visit(game.start);
-        const std::set<int> flags = FlagsOfPlace();
+        const std::set<FlagNumber> flags = FlagsOfPlace();
         for (const auto& entry : game.entries)
             ReadEntry(*entry, flags);
         while (!waiting_.empty()) {
-            const std::int64_t place = waiting_.back();
+            const PlaceNumber place = waiting_.back();
             waiting_.pop_back();
             for (const LintLocation& location : game.locations) {
                 if (location.number == place) FollowExits(location);
@@ -43,23 +44,23 @@ class Reach {
 
     /// The player may be sent anywhere by a number that no rule states.
     bool IsOpen() const { return open_; }
-    bool Has(std::int64_t place) const { return reached_.contains(place); }
+    bool Has(PlaceNumber place) const { return reached_.contains(place); }
 
   private:
-    void Visit(std::int64_t place) {
+    void Visit(PlaceNumber place) {
         if (reached_.insert(place).second) waiting_.push_back(place);
     }
 
     void FollowExits(const LintLocation& location) {
         for (std::size_t i = 1; i < location.numbers.size(); i += 2) {
-            if (const auto to = condacts::WholeNumber(location.numbers[i])) Visit(*to);
+            if (const auto to = condacts::WholeNumber(location.numbers[i])) Visit(PlaceNumber(*to));
         }
     }
 
     /// The flags whose numbers come to be the player's place: its own flag, and what is copied to one of
     /// them.
-    std::set<int> FlagsOfPlace() const {
-        std::set<int> flags{kPlayersPlace};
+    std::set<FlagNumber> FlagsOfPlace() const {
+        std::set<FlagNumber> flags{condacts::flag::kLocation};
         for (std::size_t before = 0; before != flags.size();) {
             before = flags.size();
             for (const auto& entry : game_.entries) {
@@ -67,30 +68,30 @@ class Reach {
                     if (statement.condAct->name != "COPYFF") continue;
                     const auto from = NumberAt(*entry, statement, 0);
                     const auto to = NumberAt(*entry, statement, 1);
-                    if (from && to && flags.contains(*to)) flags.insert(*from);
+                    if (from && to && flags.contains(FlagNumber(*to))) flags.insert(FlagNumber(*from));
                 }
             }
         }
         return flags;
     }
 
-    void ReadEntry(const LintEntry& entry, const std::set<int>& flags) {
+    void ReadEntry(const LintEntry& entry, const std::set<FlagNumber>& flags) {
         for (const condacts::Statement& statement : entry.line.statements) {
             const std::string& name = statement.condAct->name;
             const auto first = NumberAt(entry, statement, 0);
             const auto second = NumberAt(entry, statement, 1);
-            if (Holds(kGoing, name) && first) Visit(*first);
-            const bool inFirst = first && flags.contains(*first);
-            const bool inSecond = second && flags.contains(*second);
-            if (name == "LET" && inFirst && second) Visit(*second);
+            if (Holds(kGoing, name) && first) Visit(PlaceNumber(*first));
+            const bool inFirst = first && flags.contains(FlagNumber(*first));
+            const bool inSecond = second && flags.contains(FlagNumber(*second));
+            if (name == "LET" && inFirst && second) Visit(PlaceNumber(*second));
             open_ = open_ || (Holds(kComputedSecond, name) && inSecond) ||
                     (Holds(kComputedFirst, name) && inFirst);
         }
     }
 
     const LintGame& game_;
-    std::set<std::int64_t> reached_;
-    std::vector<std::int64_t> waiting_;
+    std::set<PlaceNumber> reached_;
+    std::vector<PlaceNumber> waiting_;
     bool open_ = false;
 };
 
@@ -99,15 +100,16 @@ class Reach {
 void CheckReach(const LintGame& game, Findings& findings) {
     const Reach reach(game);
     if (reach.IsOpen()) return;
-    std::set<std::int64_t> containers;
+    std::set<PlaceNumber> containers;
     for (const LintObject& object : game.objects) {
-        if (object.container) containers.insert(object.number);
+        if (object.container) containers.insert(condacts::Inside(object.number));
     }
     for (const LintLocation& location : game.locations) {
         const bool special = condacts::IsSpecialPlace(location.number);
         if (special || reach.Has(location.number) || containers.contains(location.number)) continue;
-        findings.Add("location-unreachable", TableNum::Locations, location.number,
-                     "No exit and no rule leads to location " + std::to_string(location.number) + ".");
+        findings.Add(
+            "location-unreachable", TableNum::Locations, location.number.value,
+            "No exit and no rule leads to location " + std::to_string(location.number.value) + ".");
     }
 }
 

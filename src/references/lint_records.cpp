@@ -14,6 +14,9 @@
 namespace fabula::references {
 namespace {
 
+using condacts::ObjectNumber;
+using condacts::PlaceNumber;
+using condacts::WordNumber;
 using store::TableNum;
 
 void CheckExits(const LintGame& game, Findings& findings) {
@@ -22,16 +25,16 @@ void CheckExits(const LintGame& game, Findings& findings) {
         for (std::size_t i = 0; i < location.numbers.size(); i += 2) {
             if (seen.insert(location.numbers[i]).second) continue;
             const std::string word = i < location.exits.size() ? location.exits[i] : location.numbers[i];
-            findings.Add("exit-twice", TableNum::Locations, location.number,
-                         "Location " + std::to_string(location.number) + " has two exits for " + word +
-                             "; the second is never taken.",
+            findings.Add("exit-twice", TableNum::Locations, location.number.value,
+                         "Location " + std::to_string(location.number.value) + " has two exits for " +
+                             word + "; the second is never taken.",
                          "exits", i);
         }
     }
 }
 
 void CheckVocabulary(const LintGame& game, Findings& findings) {
-    std::set<std::pair<std::string, int>> seen;
+    std::set<std::pair<std::string, condacts::WordType>> seen;
     for (const LintWord& entry : game.words) {
         if (seen.insert({text::LowerCase(entry.word.word), entry.word.type}).second) continue;
         findings.Add("word-twice", TableNum::Vocabulary, entry.index,
@@ -41,28 +44,30 @@ void CheckVocabulary(const LintGame& game, Findings& findings) {
 }
 
 void CheckObjects(const LintGame& game, Findings& findings) {
-    std::map<std::int64_t, std::int64_t> inside;
+    std::map<PlaceNumber, PlaceNumber> inside;  ///< of containers, as places: where each is
     for (const LintObject& object : game.objects) {
-        if (object.container) inside[object.number] = object.place;
+        if (object.container) inside[condacts::Inside(object.number)] = object.place;
     }
     for (const auto& [container, place] : inside) {
-        std::set<std::int64_t> passed;
+        std::set<PlaceNumber> passed;
         auto at = inside.find(container);
         while (at != inside.end() && passed.insert(at->first).second && at->second != container)
             at = inside.find(at->second);
         if (at == inside.end() || at->second != container) continue;
-        findings.Add("object-inside-itself", TableNum::Objects, container,
-                     "Object " + std::to_string(container) + " is a container inside itself.", "objloc");
+        findings.Add("object-inside-itself", TableNum::Objects, container.value,
+                     "Object " + std::to_string(container.value) + " is a container inside itself.",
+                     "objloc");
     }
-    std::map<std::tuple<std::int64_t, int, int>, std::int64_t> names;
+    std::map<std::tuple<PlaceNumber, WordNumber, WordNumber>, ObjectNumber> names;
     for (const LintObject& object : game.objects) {
-        if (object.noun == condacts::kNoWordNumber || object.place == condacts::place::kNotCreated.value)
+        if (object.noun == condacts::kNoWordNumber || object.place == condacts::place::kNotCreated)
             continue;
         const auto [first, added] =
             names.try_emplace({object.place, object.noun, object.adjective}, object.number);
         if (added) continue;
-        findings.Add("object-twin", TableNum::Objects, object.number,
-                     "Objects " + std::to_string(first->second) + " and " + std::to_string(object.number) +
+        findings.Add("object-twin", TableNum::Objects, object.number.value,
+                     "Objects " + std::to_string(first->second.value) + " and " +
+                         std::to_string(object.number.value) +
                          " begin at one place with one name; a player can't tell them apart.");
     }
 }
@@ -83,13 +88,22 @@ void CheckTexts(const LintGame& game, Findings& findings) {
     }
 }
 
+std::int64_t Plain(std::int64_t number) {
+    return number;
+}
+
+template <class Kind>
+std::int64_t Plain(condacts::Numbered<Kind> number) {
+    return number.value;
+}
+
 /// Numbers of a table, in their order, where none should be twice or missing.
 template <typename Records>
 void CheckNumbers(const Records& records, TableNum table, bool gaps, Findings& findings) {
     const std::string one(EntryOf(*KindOf(table)).name);
     std::int64_t last = -1;
     for (const auto& record : records) {
-        const std::int64_t number = record.number;
+        const std::int64_t number = Plain(record.number);
         const std::string name = std::to_string(number);
         if (number == last)
             findings.Add("number-twice", table, number,

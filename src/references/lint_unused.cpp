@@ -26,24 +26,26 @@ bool IsUsed(const LintGame& game, Kind kind, std::int64_t number, WordTypes type
 
 void CheckFlags(const LintGame& game, Findings& findings) {
     for (const LintFlag& flag : game.flags) {
-        if (flag.system || flag.number == condacts::flag::kPauseFunction.value) continue;
-        const std::string name = "Flag " + std::to_string(flag.number);
+        if (flag.system || flag.number == condacts::flag::kPauseFunction) continue;
+        const std::string name = "Flag " + std::to_string(flag.number.value);
         bool reads = false;
         bool sets = false;
         bool named = false;
-        for (const KeptUse& kept : game.UsesOf({Kind::Flag, static_cast<int>(flag.number)})) {
+        for (const KeptUse& kept : game.UsesOf(Target::Of(flag.number))) {
             reads = reads || kept.use.access == Access::Reads;
             sets = sets || kept.use.access == Access::Sets || kept.use.access == Access::Both;
             named = true;
         }
         const std::string_view description = text::TrimBlanks(flag.description);
         if (!named && !description.empty() && description != kImportedDescription)
-            findings.Add("flag-unused", TableNum::Flags, flag.number,
+            findings.Add("flag-unused", TableNum::Flags, flag.number.value,
                          name + " is described and never used.");
         if (reads && !sets)
-            findings.Add("flag-unset", TableNum::Flags, flag.number, name + " is read but never set.");
+            findings.Add("flag-unset", TableNum::Flags, flag.number.value,
+                         name + " is read but never set.");
         if (sets && !reads)
-            findings.Add("flag-unread", TableNum::Flags, flag.number, name + " is set but never read.");
+            findings.Add("flag-unread", TableNum::Flags, flag.number.value,
+                         name + " is set but never read.");
     }
 }
 
@@ -51,14 +53,14 @@ void CheckFlags(const LintGame& game, Findings& findings) {
 /// from a flag.
 void CheckUnusedObjects(const LintGame& game, Findings& findings) {
     for (const LintObject& object : game.objects) {
-        if (object.place != condacts::place::kNotCreated.value) continue;
-        const auto uses = game.index.UsesOf({Kind::Object, static_cast<int>(object.number)});
+        if (object.place != condacts::place::kNotCreated) continue;
+        const auto uses = game.index.UsesOf(Target::Of(object.number));
         const bool brought = std::any_of(uses.begin(), uses.end(), [](const Use& use) {
             return use.possible || use.access == Access::Sets || use.access == Access::Both;
         });
         if (!brought)
-            findings.Add("object-nowhere", TableNum::Objects, object.number,
-                         "Object " + std::to_string(object.number) +
+            findings.Add("object-nowhere", TableNum::Objects, object.number.value,
+                         "Object " + std::to_string(object.number.value) +
                              " is not created at first, and no rule brings it.");
     }
 }
@@ -86,19 +88,19 @@ bool IsForRules(const condacts::Word& word) {
 }
 
 void CheckWords(const LintGame& game, Findings& findings) {
-    std::set<std::pair<int, int>> told;
+    std::set<std::pair<condacts::WordType, condacts::WordNumber>> told;
     for (const LintWord& entry : game.words) {
         const condacts::Word& word = entry.word;
-        if (!IsForRules(word) || IsUsed(game, Kind::Word, word.number, TypeBit(word.type))) continue;
+        if (!IsForRules(word) || IsUsed(game, Kind::Word, word.number.value, TypeBit(word.type))) continue;
         if (!told.insert({word.type, word.number}).second) continue;
         findings.Add("word-unused", TableNum::Vocabulary, entry.index,
                      "Nothing uses the " + std::string(condacts::WordTypeName(word.type)) + " " +
-                         word.word + " (" + std::to_string(word.number) + ").");
+                         word.word + " (" + std::to_string(word.number.value) + ").");
     }
 }
 
 void CheckProcesses(const LintGame& game, Findings& findings) {
-    std::set<int> withEntries;
+    std::set<condacts::ProcessNumber> withEntries;
     for (const auto& entry : game.entries)
         withEntries.insert(entry->process);
     for (const LintText& process : game.processes) {
@@ -109,7 +111,7 @@ void CheckProcesses(const LintGame& game, Findings& findings) {
         if (!called && process.number > condacts::limit::kLastFixedProcess)
             findings.Add("process-unused", TableNum::ProcDesc, process.number,
                          "No rule calls process table " + name + ".");
-        if (called && !withEntries.contains(static_cast<int>(process.number)))
+        if (called && !withEntries.contains(condacts::ProcessNumber(static_cast<int>(process.number))))
             findings.Add("process-empty", TableNum::ProcDesc, process.number,
                          "Process table " + name + " is called and has no entries.");
     }
@@ -119,7 +121,7 @@ void CheckPictures(const LintGame& game, Findings& findings) {
     if (!game.draws) return;
     for (const LintPicture& picture : game.pictures) {
         if (!picture.subroutine || IsUsed(game, Kind::Picture, picture.number) ||
-            game.facts.locations.contains(static_cast<int>(picture.number)))
+            game.facts.locations.contains(condacts::PlaceNumber(static_cast<int>(picture.number))))
             continue;
         findings.Add("picture-unused", TableNum::Pictures, picture.number,
                      "No drawing calls picture " + std::to_string(picture.number) + ".");

@@ -18,6 +18,7 @@
 namespace fabula::references {
 namespace {
 
+using condacts::FlagNumber;
 using store::TableNum;
 
 constexpr int kLastCharacterSet = 998;
@@ -85,7 +86,7 @@ class Planner {
   private:
     bool IsContainer(int number) const {
         return std::any_of(game_.objects.begin(), game_.objects.end(), [&](const LintObject& object) {
-            return object.container && object.number == number;
+            return object.container && object.number.value == number;
         });
     }
 
@@ -95,7 +96,7 @@ class Planner {
         return adventure_.Prepare(entry.table, entry.keyField, where).First({});
     }
 
-    bool IsSystemFlag(int number) const {
+    bool IsSystemFlag(FlagNumber number) const {
         const auto flag = game_.facts.flags.find(number);
         return flag == game_.facts.flags.end() || flag->second.system;
     }
@@ -138,7 +139,7 @@ class Planner {
     bool BelongsToEngine(int number) const {
         switch (kind_) {
             case Kind::Flag:
-                return IsSystemFlag(number);
+                return IsSystemFlag(FlagNumber(number));
             case Kind::Object:
             case Kind::CharacterSet:
                 return number == 0;
@@ -186,9 +187,9 @@ class Planner {
             if (condacts::SplitLine(entry->numbers).size() == entry->line.tokens.size())
                 Change(TableNum::ProcessTables, entry->key, "numericcondacts", entry->numbers,
                        WithWords(entry->numbers, changed));
-            if (kind_ == Kind::Process && Mapped(entry->process))
-                Change(TableNum::ProcessTables, entry->key, "estype", std::int64_t{entry->process},
-                       std::int64_t{*Mapped(entry->process)});
+            if (kind_ == Kind::Process && Mapped(entry->process.value))
+                Change(TableNum::ProcessTables, entry->key, "estype", std::int64_t{entry->process.value},
+                       std::int64_t{*Mapped(entry->process.value)});
         }
     }
 
@@ -209,18 +210,19 @@ class Planner {
         if (name == "ATLT" && Follows(Kind::Location)) return CheckOrder(entry, statement, *first, 0);
         if (name == "RAMLOAD" && Follows(Kind::Flag)) return CheckOrder(entry, statement, *first, 1);
         if (statement.condAct->params[0].kind != condacts::ParamKind::Flag) return;
+        const FlagNumber flag(*first);
         for (const Kind kind : kinds_) {
-            if (contents_.Holds(*first, kind)) ReadFlag(entry, statement, *first, words);
+            if (contents_.Holds(flag, kind)) ReadFlag(entry, statement, flag, words);
         }
     }
 
-    void ReadFlag(const LintEntry& entry, const condacts::Statement& statement, int flag,
+    void ReadFlag(const LintEntry& entry, const condacts::Statement& statement, FlagNumber flag,
                   std::map<std::size_t, std::string>& words) {
         const std::string& name = statement.condAct->name;
         const bool known = FindFlagMeaning(flag) != nullptr;
         if (!known && contents_.IsCounted(flag) && name != "EQ" && name != "LET") {
             if (countedFlags_.insert(flag).second)
-                plan_.warnings.push_back("Flag " + std::to_string(flag) +
+                plan_.warnings.push_back("Flag " + std::to_string(flag.value) +
                                          " is counted, and what it holds is taken for a " +
                                          std::string(EntryOf(kind_).name) + ": see " + NameOf(entry) + ".");
             return;
@@ -233,7 +235,7 @@ class Planner {
         if (name == "LT") return CheckOrder(entry, statement, *value, 0);
         if (!Mapped(*value) || name == "PLUS" || name == "MINUS") return;
         if (!known && (contents_.IsMixed(flag) || contents_.IsCounted(flag))) {
-            plan_.warnings.push_back("Whether " + name + " " + std::to_string(flag) + " " +
+            plan_.warnings.push_back("Whether " + name + " " + std::to_string(flag.value) + " " +
                                      std::to_string(*value) + " in " + NameOf(entry) +
                                      " means it can't be told; it stays as it is.");
             return;
@@ -340,8 +342,9 @@ class Planner {
                 Change(TableNum::Pictures, pictures.Number(0), "roompicnum", pictures.Number(1),
                        std::int64_t{*mapped});
         }
-        if (const auto mapped = Mapped(static_cast<int>(game_.start)))
-            Change(TableNum::Adventure, 0, "startloc", game_.start, std::int64_t{*mapped});
+        if (const auto mapped = Mapped(game_.start.value))
+            Change(TableNum::Adventure, 0, "startloc", std::int64_t{game_.start.value},
+                   std::int64_t{*mapped});
     }
 
     void ReadDrawings() {
@@ -400,7 +403,7 @@ class Planner {
         const auto [low, high] = std::minmax(from_, to_);
         const bool passes = std::any_of(game_.objects.begin(), game_.objects.end(),
                                         [&, low = low, high = high](const LintObject& object) {
-                                            return object.number > low && object.number < high;
+                                            return object.number.value > low && object.number.value < high;
                                         });
         if (passes || plan_.swaps)
             plan_.warnings.push_back(
@@ -414,7 +417,7 @@ class Planner {
     int from_;
     int to_;
     std::vector<Kind> kinds_;
-    std::set<int> countedFlags_;
+    std::set<FlagNumber> countedFlags_;
     RenumberPlan plan_;
 };
 

@@ -84,13 +84,14 @@ TEST(CondActsToNumeric, AWordIsLookedUpByItsFirstFiveLettersOnPurpose) {
 TEST(CondActsToNumeric, TheWholeWordCountsBeforeItsFirstFiveLetters) {
     EXPECT_EQ(ToNumeric("NOUN2 SATCHEL PRESENT 6").line, "124 52 105 6");
     EXPECT_EQ(CondActsToNumeric("PREP UNDERNEATH", SampleCatalogue(),
-                                WordIndex({{"UNDER", 6, kPreposition}, {"UNDERNEATH", 7, kPreposition}}))
+                                WordIndex({{"UNDER", WordNumber(6), kPreposition},
+                                           {"UNDERNEATH", WordNumber(7), kPreposition}}))
                   .line,
               "123 7");
 }
 
 TEST(CondActsToNumeric, AWordOfAnotherTypeIsNotCut) {
-    const WordIndex words({{"UNDER", 6, kPreposition}, {"UNDERNEATH", 7, kAdverb}});
+    const WordIndex words({{"UNDER", WordNumber(6), kPreposition}, {"UNDERNEATH", WordNumber(7), kAdverb}});
     const Converted converted = CondActsToNumeric("PREP UNDERNEATH", SampleCatalogue(), words);
     EXPECT_FALSE(converted.ok);
     EXPECT_EQ(converted.errors, "word UNDERNEATH Type doesn't agree with PREP");

@@ -31,6 +31,13 @@ TEST(Places, HaveTheirWordsInConditionsAndActions) {
     EXPECT_EQ(kLocationWords[3].number.value, 255);
 }
 
+TEST(Places, InsideAnObjectAreOfObjectsOnly) {
+    EXPECT_EQ(Inside(ObjectNumber(7)), PlaceNumber(7));
+    static_assert(!std::is_invocable_v<decltype(&Inside), FlagNumber>);
+    static_assert(!std::is_invocable_v<decltype(&Inside), PlaceNumber>);
+    static_assert(!std::is_invocable_v<decltype(&Inside), int>);
+}
+
 TEST(Numbers, OfOneKindAreNoneOfAnother) {
     static_assert(!std::is_convertible_v<FlagNumber, PlaceNumber>);
     static_assert(!std::is_constructible_v<PlaceNumber, FlagNumber>);

@@ -17,10 +17,11 @@ CondAct Row(int number, bool isAction, const char* name, int paramCount, Paramet
     return condAct;
 }
 
-std::set<int> NumbersBelow(int end) {
-    std::set<int> numbers;
+template <typename Number>
+std::set<Number> NumbersBelow(int end) {
+    std::set<Number> numbers;
     for (int number = 0; number < end; ++number)
-        numbers.insert(number);
+        numbers.insert(Number(number));
     return numbers;
 }
 
@@ -64,29 +65,33 @@ Catalogue SampleCatalogue() {
 
 Facts SampleFacts() {
     Facts facts;
-    facts.locations = NumbersBelow(5);
-    facts.messages = NumbersBelow(6);
-    facts.systemMessages = NumbersBelow(54);
-    facts.processes = {0, 1, 2, 3};
-    for (const int flag : NumbersBelow(1025))
+    facts.locations = NumbersBelow<PlaceNumber>(5);
+    facts.messages = NumbersBelow<MessageNumber>(6);
+    facts.systemMessages = NumbersBelow<SystemMessageNumber>(54);
+    facts.processes = NumbersBelow<ProcessNumber>(4);
+    for (const FlagNumber flag : NumbersBelow<FlagNumber>(1025))
         facts.flags[flag] = {false, true};
-    facts.flags[28] = {true, true};
-    facts.flags[38] = {true, false};
-    facts.objects = {{0, 1}, {1, 2}, {2, 0}, {3, 0}, {4, 1}};
-    facts.locationsWithExits = {0, 1, 2, 3};
+    facts.flags[FlagNumber(28)] = {true, true};
+    facts.flags[FlagNumber(38)] = {true, false};
+    facts.objects = {{ObjectNumber(0), 1},
+                     {ObjectNumber(1), 2},
+                     {ObjectNumber(2), 0},
+                     {ObjectNumber(3), 0},
+                     {ObjectNumber(4), 1}};
+    facts.locationsWithExits = NumbersBelow<PlaceNumber>(4);
     facts.words = WordIndex({
-        {"LIGHT", 30, kVerb},
-        {"SLOWL", 5, kAdverb},
-        {"LAMP", 50, kNoun},
-        {"LIGHT", 51, kNoun},
-        {"RED", 2, kAdjective},
-        {"THROUGH", 4, kPreposition},
-        {"UNDER", 6, kPreposition},
-        {"SATCHEL", 52, kNoun},
-        {"LAMPS", 53, kNoun},
-        {"LAMPS", 54, kNoun},
-        {"*", 1, kReserved},
-        {"_", 255, kReserved},
+        {"LIGHT", WordNumber(30), kVerb},
+        {"SLOWL", WordNumber(5), kAdverb},
+        {"LAMP", WordNumber(50), kNoun},
+        {"LIGHT", WordNumber(51), kNoun},
+        {"RED", WordNumber(2), kAdjective},
+        {"THROUGH", WordNumber(4), kPreposition},
+        {"UNDER", WordNumber(6), kPreposition},
+        {"SATCHEL", WordNumber(52), kNoun},
+        {"LAMPS", WordNumber(53), kNoun},
+        {"LAMPS", WordNumber(54), kNoun},
+        {"*", WordNumber(1), kReserved},
+        {"_", WordNumber(255), kReserved},
     });
     return facts;
 }

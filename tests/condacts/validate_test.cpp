@@ -124,11 +124,11 @@ TEST(ValidateCondAct, OnlyTheFourNumbersOfPlacesThatAreNoRoomAreSpecial) {
 
 TEST(ValidateCondAct, ANumberThatHasARecordPassesBehindAGap) {
     Facts facts = SampleFacts();
-    facts.locations = {0, 7, 300};
-    facts.objects = {{3, 0}, {300, 0}};
-    facts.messages = {12};
-    facts.systemMessages = {80};
-    facts.flags = {{2000, {false, true}}};
+    facts.locations = {PlaceNumber(0), PlaceNumber(7), PlaceNumber(300)};
+    facts.objects = {{ObjectNumber(3), 0}, {ObjectNumber(300), 0}};
+    facts.messages = {MessageNumber(12)};
+    facts.systemMessages = {SystemMessageNumber(80)};
+    facts.flags = {{FlagNumber(2000), {false, true}}};
     for (const char* line : {"AT 7", "AT 300", "GOTO 300", "PRESENT 3", "CARRIED 300", "MESSAGE 12",
                              "SYSMESS 80", "ZERO 2000"}) {
         EXPECT_EQ(ValidateCondAct(line, SampleCatalogue(), facts), kValid) << line;
@@ -137,11 +137,11 @@ TEST(ValidateCondAct, ANumberThatHasARecordPassesBehindAGap) {
 
 TEST(ValidateCondAct, ANumberInAGapFailsThoughThereAreAsManyRecords) {
     Facts facts = SampleFacts();
-    facts.locations = {0, 7, 300};
-    facts.objects = {{3, 0}, {300, 0}};
-    facts.messages = {12};
-    facts.systemMessages = {80};
-    facts.flags = {{2000, {false, true}}};
+    facts.locations = {PlaceNumber(0), PlaceNumber(7), PlaceNumber(300)};
+    facts.objects = {{ObjectNumber(3), 0}, {ObjectNumber(300), 0}};
+    facts.messages = {MessageNumber(12)};
+    facts.systemMessages = {SystemMessageNumber(80)};
+    facts.flags = {{FlagNumber(2000), {false, true}}};
     for (const char* line :
          {"AT 1", "GOTO 2", "PRESENT 0", "CARRIED 1", "MESSAGE 0", "SYSMESS 0", "ZERO 0"}) {
         EXPECT_EQ(ValidateCondAct(line, SampleCatalogue(), facts),
@@ -209,7 +209,7 @@ TEST(ValidateCondAct, ASpecialLocationIsNoContainer) {
 
 TEST(ValidateCondAct, ALocationWithoutAnObjectOfItsNumberIsNoContainer) {
     Facts facts = SampleFacts();
-    facts.objects.erase(4);
+    facts.objects.erase(ObjectNumber(4));
     EXPECT_EQ(ValidateCondAct("PUTIN 1 4", SampleCatalogue(), facts),
               FaultAt(2, "Location 4 is not a container"));
 }
@@ -276,7 +276,7 @@ TEST(ValidateCondAct, AFlagOfAMarloAdventureIsAtMost32) {
 TEST(ValidateCondAct, AFlagOfAMarloAdventureMustAlsoHaveARecord) {
     Facts facts = SampleFacts();
     facts.dialect = Dialect::Marlo;
-    facts.flags.erase(30);
+    facts.flags.erase(FlagNumber(30));
     EXPECT_EQ(ValidateCondAct("ZERO 30", SampleCatalogue(), facts),
               FaultAt(1, "Invalid number for parameter 1"));
 }

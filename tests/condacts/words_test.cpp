@@ -1,45 +1,55 @@
 #include "condacts/words.h"
 
+#include <type_traits>
+
 #include <gtest/gtest.h>
 
 namespace fabula::condacts {
 namespace {
 
 TEST(WordIndex, FindsTheFirstWordOfASpellingInAnyCase) {
-    const WordIndex words({{"LIGHT", 30, kVerb}, {"LIGHT", 51, kNoun}});
+    const WordIndex words({{"LIGHT", WordNumber(30), kVerb}, {"LIGHT", WordNumber(51), kNoun}});
     ASSERT_NE(words.Find("light"), nullptr);
-    EXPECT_EQ(words.Find("light")->number, 30);
+    EXPECT_EQ(words.Find("light")->number, WordNumber(30));
 }
 
 TEST(WordIndex, FindsTheFirstWordThatPassesTheTest) {
-    const WordIndex words({{"LIGHT", 30, kVerb}, {"LIGHT", 51, kNoun}});
-    EXPECT_EQ(words.Find("LIGHT", IsNounOrReserved)->number, 51);
+    const WordIndex words({{"LIGHT", WordNumber(30), kVerb}, {"LIGHT", WordNumber(51), kNoun}});
+    EXPECT_EQ(words.Find("LIGHT", IsNounOrReserved)->number, WordNumber(51));
 }
 
 TEST(WordIndex, AReservedWordStandsInForEveryType) {
-    const WordIndex words({{"_", 255, kReserved}});
-    EXPECT_EQ(words.FindTyped("_", kPreposition)->number, 255);
-    EXPECT_EQ(words.FindNumberTyped(255, kAdverb)->word, "_");
+    const WordIndex words({{"_", WordNumber(255), kReserved}});
+    EXPECT_EQ(words.FindTyped("_", kPreposition)->number, WordNumber(255));
+    EXPECT_EQ(words.FindNumberTyped(WordNumber(255), kAdverb)->word, "_");
 }
 
 TEST(WordIndex, GivesNothingForAnUnknownSpellingOrNumber) {
-    const WordIndex words({{"LAMP", 50, kNoun}});
+    const WordIndex words({{"LAMP", WordNumber(50), kNoun}});
     EXPECT_EQ(words.Find("TORCH"), nullptr);
     EXPECT_EQ(words.FindTyped("LAMP", kVerb), nullptr);
-    EXPECT_EQ(words.FindNumber(51, AnyWord), nullptr);
+    EXPECT_EQ(words.FindNumber(WordNumber(51), AnyWord), nullptr);
 }
 
 TEST(WordIndex, ComparesLettersOfEveryScriptWithoutCase) {
-    const WordIndex words({{"ÉCOUTE", 40, kVerb}});
+    const WordIndex words({{"ÉCOUTE", WordNumber(40), kVerb}});
     EXPECT_NE(words.Find("écoute"), nullptr);
 }
 
+TEST(WordIndex, TakesNoFlagAndNoPlainNumberForAWord) {
+    using Find = decltype(&WordIndex::FindNumberTyped);
+    static_assert(std::is_invocable_v<Find, const WordIndex&, WordNumber, WordType>);
+    static_assert(!std::is_invocable_v<Find, const WordIndex&, FlagNumber, WordType>);
+    static_assert(!std::is_invocable_v<Find, const WordIndex&, int, WordType>);
+    static_assert(!std::is_invocable_v<Find, const WordIndex&, WordNumber, int>);
+}
+
 TEST(MovementWords, AreVerbsAndNounsBelowTwenty) {
-    EXPECT_TRUE(IsMovementWord({"GO", 100, kVerb}));
-    EXPECT_TRUE(IsMovementWord({"NORTH", 19, kNoun}));
-    EXPECT_FALSE(IsMovementWord({"LAMP", 20, kNoun}));
-    EXPECT_FALSE(IsMovementWord({"_", 255, kReserved}));
-    EXPECT_TRUE(IsMovementWordOrReserved({"_", 255, kReserved}));
+    EXPECT_TRUE(IsMovementWord({"GO", WordNumber(100), kVerb}));
+    EXPECT_TRUE(IsMovementWord({"NORTH", WordNumber(19), kNoun}));
+    EXPECT_FALSE(IsMovementWord({"LAMP", WordNumber(20), kNoun}));
+    EXPECT_FALSE(IsMovementWord({"_", WordNumber(255), kReserved}));
+    EXPECT_TRUE(IsMovementWordOrReserved({"_", WordNumber(255), kReserved}));
 }
 
 TEST(WordTypeName, NamesTheEightTypes) {

@@ -10,6 +10,7 @@ namespace {
 
 using condacts::Converted;
 using condacts::WordIndex;
+using condacts::WordNumber;
 
 const condacts::Catalogue& Names() {
     static const condacts::Catalogue catalogue = condacts::LoadCatalogue(*test::OpenedAdventure());
@@ -54,11 +55,11 @@ TEST(ConvertCAs, AnUnknownNameFails) {
     EXPECT_EQ(converted.errors, "XYZ is an invalid Condition/Action");
 }
 
-const WordIndex kWords({{"SLOWL", 5, condacts::kAdverb},
-                        {"LAMP", 50, condacts::kNoun},
-                        {"RED", 2, condacts::kAdjective},
-                        {"UNDER", 6, condacts::kPreposition},
-                        {"UNDO", 6, condacts::kVerb}});
+const WordIndex kWords({{"SLOWL", WordNumber(5), condacts::kAdverb},
+                        {"LAMP", WordNumber(50), condacts::kNoun},
+                        {"RED", WordNumber(2), condacts::kAdjective},
+                        {"UNDER", WordNumber(6), condacts::kPreposition},
+                        {"UNDO", WordNumber(6), condacts::kVerb}});
 
 TEST(ConvertUnVelCAs, TurnsTheNumbersOfWordsIntoWords) {
     EXPECT_EQ(ConvertUnVelCAs("ADJECT1 2 ADVERB 5 NOUN2 50 PREP 6 ADJECT2 2", Names(), kWords).line,
@@ -80,17 +81,18 @@ TEST(ConvertUnVelCAs, AnUnknownNameFails) {
 }
 
 TEST(ConvExtLogs, Number255IsTheUnderline) {
-    EXPECT_EQ(ConvExtLogs(condacts::kNoun, 255, kWords), "_");
+    EXPECT_EQ(ConvExtLogs(condacts::kNoun, WordNumber(255), kWords), "_");
 }
 
 TEST(ConvExtLogs, TakesOnlyTheTypeAsked) {
-    EXPECT_EQ(ConvExtLogs(condacts::kPreposition, 6, kWords), "UNDER");
-    EXPECT_EQ(ConvExtLogs(condacts::kNoun, 6, kWords), std::nullopt);
+    EXPECT_EQ(ConvExtLogs(condacts::kPreposition, WordNumber(6), kWords), "UNDER");
+    EXPECT_EQ(ConvExtLogs(condacts::kNoun, WordNumber(6), kWords), std::nullopt);
 }
 
 TEST(ConvExtLogs, TakesAWordOfTheTypeThoughAReservedOneHasItsNumber) {
-    const condacts::WordIndex words({{"*", 6, condacts::kReserved}, {"UNDER", 6, condacts::kPreposition}});
-    EXPECT_EQ(ConvExtLogs(condacts::kPreposition, 6, words), "UNDER");
+    const condacts::WordIndex words(
+        {{"*", WordNumber(6), condacts::kReserved}, {"UNDER", WordNumber(6), condacts::kPreposition}});
+    EXPECT_EQ(ConvExtLogs(condacts::kPreposition, WordNumber(6), words), "UNDER");
 }
 
 }  // namespace

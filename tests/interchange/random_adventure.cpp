@@ -94,9 +94,9 @@ class Filler {
     condacts::Word RandomWord(bool (*test)(const condacts::Word&)) {
         std::vector<condacts::Word> fitting;
         for (const condacts::Word& word : words_) {
-            if (test(word) && word.number != 1) fitting.push_back(word);
+            if (test(word) && word.number.value != 1) fitting.push_back(word);
         }
-        return fitting.empty() ? condacts::Word{"_", 255, condacts::kReserved}
+        return fitting.empty() ? condacts::Word{"_", condacts::kNoWordNumber, condacts::kReserved}
                                : fitting[Below(static_cast<int>(fitting.size()))];
     }
 
@@ -110,10 +110,12 @@ class Filler {
             std::set<int> directions;
             for (int i = 0; i < count; ++i) {
                 const condacts::Word word = RandomWord(condacts::IsMovementWord);
-                if (word.type == condacts::kReserved || !directions.insert(word.number).second) continue;
+                if (word.type == condacts::kReserved || !directions.insert(word.number.value).second)
+                    continue;
                 const std::string destination = std::to_string(Below(locations_));
                 exits += (exits.empty() ? "" : " ") + word.word + " " + destination;
-                numeric += (numeric.empty() ? "" : " ") + std::to_string(word.number) + " " + destination;
+                numeric +=
+                    (numeric.empty() ? "" : " ") + std::to_string(word.number.value) + " " + destination;
             }
             locations.SetField("locnum", std::int64_t{number});
             locations.SetField("locdesc", RandomText());
@@ -138,9 +140,9 @@ class Filler {
             objects.SetField("objnum", std::int64_t{number});
             objects.SetField("objdesc", RandomText());
             objects.SetField("objnoun", noun.word);
-            objects.SetField("objnumnoun", std::int64_t{noun.number});
+            objects.SetField("objnumnoun", std::int64_t{noun.number.value});
             objects.SetField("objadject", adjective.word);
-            objects.SetField("objnumadject", std::int64_t{adjective.number});
+            objects.SetField("objnumadject", std::int64_t{adjective.number.value});
             objects.SetField("objloc", std::int64_t{Below(2) != 0 ? 251 + UpTo(3) : Below(locations_)});
             objects.SetField("objlocdesc", std::string("Somewhere."));
             objects.SetField("objweight", std::int64_t{Below(64)});
@@ -241,9 +243,9 @@ class Filler {
             entries.SetField("canum", ++key);
             entries.SetField("estype", std::int64_t{Below(4)});
             entries.SetField("w1", verb.word);
-            entries.SetField("w1num", std::int64_t{verb.number});
+            entries.SetField("w1num", std::int64_t{verb.number.value});
             entries.SetField("w2", noun.word);
-            entries.SetField("w2num", std::int64_t{noun.number});
+            entries.SetField("w2num", std::int64_t{noun.number.value});
             entries.SetField("condacts", line);
             entries.SetField("numericcondacts", condacts::CondActsToNumeric(line, catalogue, index).line);
             entries.SetField("numcas", std::int64_t{condacts::CountTokens(line)});

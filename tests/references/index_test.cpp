@@ -1,5 +1,7 @@
 #include "references/index.h"
 
+#include <type_traits>
+
 #include <gtest/gtest.h>
 
 #include "condacts/words.h"
@@ -11,6 +13,12 @@ namespace {
 
 using test::OpenedAdventure;
 using test::UsesOf;
+
+// What carries numbers is a flag and nothing else.
+using Carries = decltype(&Index::Carries);
+static_assert(std::is_invocable_v<Carries, const Index&, condacts::FlagNumber, Kind>);
+static_assert(!std::is_invocable_v<Carries, const Index&, condacts::PlaceNumber, Kind>);
+static_assert(!std::is_invocable_v<Carries, const Index&, int, Kind>);
 
 constexpr int kNone = 255;
 

@@ -83,7 +83,7 @@ int StarterGame::NumberOf(std::string_view word, bool verb) {
     const condacts::Word* found =
         words_.Find(cut, verb ? condacts::IsMovementWordOrReserved : condacts::IsNounOrReserved);
     if (!found) throw std::logic_error("the game has no word " + cut + " of the type that is asked");
-    return found->number;
+    return found->number.value;
 }
 
 void StarterGame::Location(int number, std::string_view text, std::string_view shortText,
@@ -122,7 +122,7 @@ void StarterGame::Object(int number, std::string_view text, int place, std::stri
     row.SetField("objnoun", Cut(noun));
     row.SetField("objnumnoun", std::int64_t{nounNumber});
     row.SetField("objadject", Cut(adjective));
-    row.SetField("objnumadject", std::int64_t{found->number});
+    row.SetField("objnumadject", std::int64_t{found->number.value});
     row.SetField("objloc", std::int64_t{place});
     row.SetField("objweight", std::int64_t{thing.weight});
     row.SetField("objattrn", std::int64_t{(thing.container ? 1 : 0) + (thing.wearable ? 2 : 0)});

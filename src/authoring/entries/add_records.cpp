@@ -117,10 +117,10 @@ void AddCharacterSet(ScreenContext& context) {
     context.dialogs.Tell("Character Set " + std::to_string(set) + " added.", "Character Sets");
 }
 
-void AddPictureOf(ScreenContext& context, int location) {
+void AddPictureOf(ScreenContext& context, condacts::PlaceNumber location) {
     store::Adventure& adventure = context.document.Adventure();
     if (!adventure.GraphicsOn()) return;
-    const std::string key = "locnum=" + std::to_string(location);
+    const std::string key = "locnum=" + std::to_string(location.value);
     if (adventure.OpenTable(TableNum::Free22, "locnum from locations", key).Eof()) return;
     store::PreparedQuery colours = adventure.Prepare(TableNum::Adventure, "BackColor, textcolor", "");
     if (!colours.First({})) return;
@@ -131,7 +131,7 @@ void AddPictureOf(ScreenContext& context, int location) {
     if (!pictures.Eof()) return;
     Change change(context.document, Change::WithLatest{});
     pictures.AddNew();
-    pictures.SetField("locnum", std::int64_t{location});
+    pictures.SetField("locnum", std::int64_t{location.value});
     pictures.SetField("locpaper", paper);
     pictures.SetField("locink", ink);
     pictures.SetField("loctype", std::string("Subroutine"));

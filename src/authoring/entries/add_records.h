@@ -1,6 +1,7 @@
 #pragma once
 
 #include "authoring/document/screen_context.h"
+#include "condacts/numbers.h"
 
 namespace fabula::authoring {
 
@@ -15,6 +16,6 @@ void AddCharacterSet(ScreenContext& context);
 
 /// Adds the picture of a location, empty as yet, as part of the latest change. Nothing happens without
 /// graphics, without the location, or when it has a picture.
-void AddPictureOf(ScreenContext& context, int location);
+void AddPictureOf(ScreenContext& context, condacts::PlaceNumber location);
 
 }  // namespace fabula::authoring

@@ -51,7 +51,7 @@ int CorrectField(Adventure& adventure, const WordFields& fields, const Word& bef
     int corrected = 0;
     for (Cursor& record = adventure.OpenTable(
              TableNum::Free22, "* from " + std::string(fields.table),
-             std::string(fields.number) + "=" + std::to_string(before.number) + " and " +
+             std::string(fields.number) + "=" + std::to_string(before.number.value) + " and " +
                  std::string(fields.word) + "=" + store::QuoteText(before.word));
          !record.Eof(); record.MoveNext()) {
         record.SetField(fields.word, now);
@@ -68,7 +68,8 @@ std::string Corrected(std::string_view exits, std::string_view numbers, const Wo
     const auto known = text::Split(numbers, " ");
     std::string line;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        const bool uses = i % 2 == 0 && i < known.size() && known[i] == std::to_string(before.number) &&
+        const bool uses = i % 2 == 0 && i < known.size() &&
+                          known[i] == std::to_string(before.number.value) &&
                           text::EqualsNoCase(words[i], before.word);
         line.append(i == 0 ? "" : " ").append(uses ? std::string_view(now) : words[i]);
     }

@@ -30,7 +30,8 @@ std::optional<Word> ReadWord(Adventure& adventure, int vocindex) {
     store::PreparedQuery row =
         adventure.Prepare(TableNum::Vocabulary, "word, vocnum, voctypen", "vocindex=?");
     if (!row.First({std::int64_t{vocindex}})) return std::nullopt;
-    return Word{std::string(row.Text(0)), static_cast<int>(row.Number(1)), static_cast<int>(row.Number(2))};
+    return Word{std::string(row.Text(0)), condacts::WordNumber(static_cast<int>(row.Number(1))),
+                static_cast<condacts::WordType>(row.Number(2))};
 }
 
 /// Another word of the same number and type; "" when there is none.
@@ -38,7 +39,7 @@ std::string SynonymOf(Adventure& adventure, const Word& word, int vocindex) {
     store::PreparedQuery row =
         adventure.Prepare(TableNum::Vocabulary, "word", "vocnum=? and voctypen=? and vocindex<>?");
     const bool found =
-        row.First({std::int64_t{word.number}, std::int64_t{word.type}, std::int64_t{vocindex}});
+        row.First({std::int64_t{word.number.value}, std::int64_t{word.type}, std::int64_t{vocindex}});
     return found ? std::string(row.Text(0)) : std::string();
 }
 
@@ -72,7 +73,7 @@ bool MayNameObjects(const Word& word) {
 Cursor& ObjectsOf(Adventure& adventure, const Word& word) {
     const std::string numberField = word.type == condacts::kNoun ? "objnumnoun" : "objnumadject";
     return adventure.OpenTable(TableNum::Free22, "* from objects",
-                               numberField + "=" + std::to_string(word.number));
+                               numberField + "=" + std::to_string(word.number.value));
 }
 
 int DetachObjects(Adventure& adventure, const Word& word) {
@@ -83,14 +84,14 @@ int DetachObjects(Adventure& adventure, const Word& word) {
     Cursor& objects = ObjectsOf(adventure, word);
     for (; !objects.Eof(); objects.MoveNext()) {
         objects.SetField(wordField, std::string(condacts::kNoWord));
-        objects.SetField(numberField, std::int64_t{condacts::kNoWordNumber});
+        objects.SetField(numberField, std::int64_t{condacts::kNoWordNumber.value});
         objects.Update();
     }
     return objects.RecordCount();
 }
 
 /// Whether a line asks, in a condition on words of this type, for the word as `parameter` writes it.
-bool Asks(const condacts::ParsedLine& line, int wordType, std::string_view parameter) {
+bool Asks(const condacts::ParsedLine& line, condacts::WordType wordType, std::string_view parameter) {
     return std::any_of(
         line.statements.begin(), line.statements.end(), [&](const condacts::Statement& statement) {
             const condacts::WordCondition* condition = condacts::FindWordCondition(statement.condAct->name);
@@ -113,17 +114,18 @@ class EntryTest {
         if ((verb || noun) && HasLost(entry, "w1", "w1num")) return true;
         if (noun && HasLost(entry, "w2", "w2num")) return true;
         // A verb can't stand in for the noun of an entry, even one of the same spelling and number.
-        if (noun && entry.Number("w2num") == word_.number &&
+        if (noun && entry.Number("w2num") == word_.number.value &&
             text::EqualsNoCase(entry.Text("w2"), word_.word))
             return true;
         return Asks(condacts::ParseLine(entry.Text("condacts"), catalogue_), word_.type, word_.word) ||
                Asks(condacts::ParseNumericLine(entry.Text("numericcondacts"), catalogue_), word_.type,
-                    std::to_string(word_.number));
+                    std::to_string(word_.number.value));
     }
 
   private:
     bool HasLost(const Cursor& entry, std::string_view wordField, std::string_view numberField) const {
-        return entry.Number(numberField) == word_.number && HasGone(words_, word_, entry.Text(wordField));
+        return entry.Number(numberField) == word_.number.value &&
+               HasGone(words_, word_, entry.Text(wordField));
     }
 
     Word word_;
@@ -170,8 +172,8 @@ Exits Without(const Word& word, const condacts::WordIndex& words, std::string_vi
     Exits kept;
     for (std::size_t i = 0; i + 1 < numbers.size(); i += 2) {
         const bool named = i + 1 < texts.size();
-        const bool uses =
-            condacts::WholeNumber(numbers[i]) == word.number && !(named && !HasGone(words, word, texts[i]));
+        const bool uses = condacts::WholeNumber(numbers[i]) == word.number.value &&
+                          !(named && !HasGone(words, word, texts[i]));
         if (uses) {
             ++kept.deleted;
             continue;

@@ -291,7 +291,8 @@ std::optional<ScreenRequest> Entries::RecordBeside() {
 }
 
 bool Entries::AfterScreen(const ScreenRequest& request) {
-    if (request.screen == Screen::Location && request.key.isNew) AddPictureOf(context_, request.key.key);
+    if (request.screen == Screen::Location && request.key.isNew)
+        AddPictureOf(context_, condacts::PlaceNumber(request.key.key));
     if (request.before) MoveBehindNewEntry(context_, request);
     return request.screen != Screen::Settings || FollowSettings(context_, request.settings);
 }

@@ -22,10 +22,10 @@ constexpr int kFirstMarloNoun = 13;
 
 }  // namespace
 
-void AddPlace(Adventure& adventure, int number, const std::string& name) {
+void AddPlace(Adventure& adventure, condacts::PlaceNumber number, const std::string& name) {
     store::Cursor& record = adventure.OpenTable(TableNum::Free22, "* from locations", "locnum<0");
     record.AddNew();
-    record.SetField("locnum", std::int64_t{number});
+    record.SetField("locnum", std::int64_t{number.value});
     record.SetField("locdesc", std::string(" "));
     record.SetField("locshortdesc", name);
     for (const char* field : {"exits", "numericexits", "picloc", "pickey"})
@@ -35,30 +35,30 @@ void AddPlace(Adventure& adventure, int number, const std::string& name) {
     record.Update();
 }
 
-std::optional<int> NumberOfNewNoun(Adventure& adventure) {
+std::optional<condacts::WordNumber> NumberOfNewNoun(Adventure& adventure) {
     const bool marlo = condacts::DialectOf(adventure.AdventureType()) == condacts::Dialect::Marlo;
     const int first = marlo ? kFirstMarloNoun : kFirstNounOfIt;
     std::set<int> taken;
     const condacts::WordIndex words = condacts::LoadWords(adventure);
     for (const condacts::Word& word : words.All()) {
-        if (word.type == condacts::kNoun && word.number <= condacts::limit::kHighestWord)
-            taken.insert(word.number);
+        if (word.type == condacts::kNoun && word.number.value <= condacts::limit::kHighestWord)
+            taken.insert(word.number.value);
     }
     const int next = taken.empty() ? first : std::max(first, *taken.rbegin() + 1);
-    if (next <= condacts::limit::kHighestWord) return next;
+    if (next <= condacts::limit::kHighestWord) return condacts::WordNumber(next);
     for (int number = first; number <= condacts::limit::kHighestWord; ++number) {
-        if (!taken.contains(number)) return number;
+        if (!taken.contains(number)) return condacts::WordNumber(number);
     }
     return std::nullopt;
 }
 
-void AddNoun(Adventure& adventure, const std::string& word, int number) {
+void AddNoun(Adventure& adventure, const std::string& word, condacts::WordNumber number) {
     const std::optional<int> key = NextKey(adventure, TableNum::Vocabulary);
     store::Cursor& record = adventure.OpenTable(TableNum::Free22, "* from vocabulary", "vocindex<0");
     record.AddNew();
     record.SetField("vocindex", std::int64_t{*key});
     record.SetField("word", word);
-    record.SetField("vocnum", std::int64_t{number});
+    record.SetField("vocnum", std::int64_t{number.value});
     record.SetField("voctypen", std::int64_t{condacts::kNoun});
     record.SetField("voctype", std::string(condacts::WordTypeName(condacts::kNoun)));
     record.Update();

@@ -182,7 +182,7 @@ std::vector<Completion> CondActHelp::Words(const CondAct& condAct) const {
     if (condition == nullptr) return words;
     for (const condacts::Word& word : facts_.words.All()) {
         if (word.type == condition->wordType)
-            words.push_back({word.word, word.word + "  " + std::to_string(word.number)});
+            words.push_back({word.word, word.word + "  " + std::to_string(word.number.value)});
     }
     return words;
 }
@@ -282,7 +282,7 @@ std::string CondActHelp::MeaningOfParameter(const CondAct& condAct, std::size_t 
     const condacts::Word* word =
         condition == nullptr ? nullptr : facts_.words.FindTyped(token, condition->wordType);
     if (word == nullptr) return "";
-    return text::LowerCase(condacts::WordTypeName(word->type)) + " " + std::to_string(word->number);
+    return text::LowerCase(condacts::WordTypeName(word->type)) + " " + std::to_string(word->number.value);
 }
 
 std::string CondActHelp::Meaning(std::string_view line, std::size_t cursor) const {
@@ -312,7 +312,7 @@ std::string CondActHelp::NameIn(const CondAct& condAct, std::size_t place, std::
     const auto flag =
         std::ranges::find_if(texts_.flags, [&](const ListItem& item) { return item.number == *number; });
     if (flag == texts_.flags.end()) return MeaningOfNumber(parameter, token);
-    return FlagName(*number, flag->text);
+    return FlagName(condacts::FlagNumber(*number), flag->text);
 }
 
 /// What a value stands for that is compared with a flag or put into it.
@@ -320,13 +320,15 @@ std::string CondActHelp::MeaningOfValue(const CondAct& condAct, std::string_view
                                         std::string_view token) const {
     const auto flag = condacts::WholeNumber(flagToken);
     const auto number = condacts::WholeNumber(token);
-    const HeldNumbers* const held =
-        flag && number && TakesWhatFlagHolds(condAct) ? FindHeldNumbers(*flag) : nullptr;
+    const HeldNumbers* const held = flag && number && TakesWhatFlagHolds(condAct)
+                                        ? FindHeldNumbers(condacts::FlagNumber(*flag))
+                                        : nullptr;
     if (held == nullptr) return "";
     if (held->kind != ParamKind::Word)
         return Quoted(held->kind, MeaningOfNumber({.kind = held->kind}, token));
-    if (*number == condacts::kNoWordNumber) return "none";
-    const condacts::Word* const word = facts_.words.FindNumberTyped(*number, held->wordType);
+    const condacts::WordNumber asked(*number);
+    if (asked == condacts::kNoWordNumber) return "none";
+    const condacts::Word* const word = facts_.words.FindNumberTyped(asked, held->wordType);
     return word ? word->word : "";
 }
 

@@ -98,9 +98,9 @@ class CondActHelp {
     std::string PhraseFor(std::string_view line, const TypedName& name) const;
 
     /// The number that a message would get that is added; nullopt offers none.
-    void OfferNewMessage(std::optional<int> number) { newMessage_ = number; }
+    void OfferNewMessage(std::optional<condacts::MessageNumber> number) { newMessage_ = number; }
     /// From now on there is a message of this number and text.
-    void AddMessage(int number, std::string_view text);
+    void AddMessage(condacts::MessageNumber number, std::string_view text);
 
     /// The record that the token at the cursor names; words are looked up in the adventure.
     std::optional<NamedRecord> Named(store::Adventure& adventure, std::string_view line,
@@ -141,7 +141,7 @@ class CondActHelp {
     condacts::Catalogue catalogue_;
     condacts::Facts facts_;
     RecordTexts texts_;
-    std::optional<int> newMessage_;
+    std::optional<condacts::MessageNumber> newMessage_;
     std::map<int, std::string> pages_;  ///< by the number of the condition or action
 };
 

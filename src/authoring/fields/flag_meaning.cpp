@@ -12,19 +12,19 @@ namespace flag = condacts::flag;
 using condacts::ParamKind;
 
 constexpr HeldNumbers kHeld[] = {
-    {flag::kVerb.value, "verb", ParamKind::Word, condacts::kVerb},
-    {flag::kNoun.value, "noun", ParamKind::Word, condacts::kNoun},
-    {flag::kAdjective.value, "adjective", ParamKind::Word, condacts::kAdjective},
-    {flag::kAdverb.value, "adverb", ParamKind::Word, condacts::kAdverb},
-    {flag::kLocation.value, "place of the player", ParamKind::Location},
-    {flag::kPrompt.value, "prompt", ParamKind::SystemMessage},
-    {flag::kPreposition.value, "preposition", ParamKind::Word, condacts::kPreposition},
-    {flag::kNoun2.value, "second noun", ParamKind::Word, condacts::kNoun},
-    {flag::kAdjective2.value, "second adjective", ParamKind::Word, condacts::kAdjective},
-    {flag::kPronounNoun.value, "noun of the pronoun", ParamKind::Word, condacts::kNoun},
-    {flag::kPronounAdjective.value, "adjective of the pronoun", ParamKind::Word, condacts::kAdjective},
-    {flag::kObject.value, "object last referred to", ParamKind::Object},
-    {flag::kObjectPlace.value, "place of that object", ParamKind::Location},
+    {flag::kVerb, "verb", ParamKind::Word, condacts::kVerb},
+    {flag::kNoun, "noun", ParamKind::Word, condacts::kNoun},
+    {flag::kAdjective, "adjective", ParamKind::Word, condacts::kAdjective},
+    {flag::kAdverb, "adverb", ParamKind::Word, condacts::kAdverb},
+    {flag::kLocation, "place of the player", ParamKind::Location},
+    {flag::kPrompt, "prompt", ParamKind::SystemMessage},
+    {flag::kPreposition, "preposition", ParamKind::Word, condacts::kPreposition},
+    {flag::kNoun2, "second noun", ParamKind::Word, condacts::kNoun},
+    {flag::kAdjective2, "second adjective", ParamKind::Word, condacts::kAdjective},
+    {flag::kPronounNoun, "noun of the pronoun", ParamKind::Word, condacts::kNoun},
+    {flag::kPronounAdjective, "adjective of the pronoun", ParamKind::Word, condacts::kAdjective},
+    {flag::kObject, "object last referred to", ParamKind::Object},
+    {flag::kObjectPlace, "place of that object", ParamKind::Location},
 };
 
 /// What an import writes into flags that a game uses.
@@ -34,13 +34,13 @@ constexpr std::string_view kWithValue[] = {"EQ", "NOTEQ", "LET"};
 
 }  // namespace
 
-const HeldNumbers* FindHeldNumbers(int flag) {
+const HeldNumbers* FindHeldNumbers(condacts::FlagNumber flag) {
     const auto* const found =
         std::ranges::find_if(kHeld, [flag](const HeldNumbers& held) { return held.flag == flag; });
     return found == std::end(kHeld) ? nullptr : found;
 }
 
-std::string FlagName(int flag, std::string_view description) {
+std::string FlagName(condacts::FlagNumber flag, std::string_view description) {
     if (const HeldNumbers* const held = FindHeldNumbers(flag)) return std::string(held->name);
     std::size_t end = description.size();
     for (const std::string_view stop : {". ", ", ", "; ", " ("})

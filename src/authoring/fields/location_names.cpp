@@ -36,9 +36,9 @@ std::vector<ListItem> LocationNames(store::Adventure& adventure) {
     return locations;
 }
 
-std::string NameIn(const std::vector<ListItem>& locations, int number) {
+std::string NameIn(const std::vector<ListItem>& locations, condacts::PlaceNumber number) {
     const auto found = std::find_if(locations.begin(), locations.end(),
-                                    [number](const ListItem& item) { return item.number == number; });
+                                    [number](const ListItem& item) { return item.number == number.value; });
     return found == locations.end() ? "" : found->text;
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "authoring/fields/controls.h"
+#include "condacts/numbers.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {
@@ -13,6 +14,6 @@ namespace fabula::authoring {
 std::vector<ListItem> LocationNames(store::Adventure& adventure);
 
 /// The name in such a list; "" for a number that is not in it.
-std::string NameIn(const std::vector<ListItem>& locations, int number);
+std::string NameIn(const std::vector<ListItem>& locations, condacts::PlaceNumber number);
 
 }  // namespace fabula::authoring

@@ -13,10 +13,11 @@ std::optional<NamedRecord> NamedByNumber(store::TableNum table, std::string_view
     return NamedRecord{table, *number};
 }
 
-std::optional<NamedRecord> NamedWord(store::Adventure& adventure, std::string_view word, int number) {
+std::optional<NamedRecord> NamedWord(store::Adventure& adventure, std::string_view word,
+                                     condacts::WordNumber number) {
     store::PreparedQuery row =
         adventure.Prepare(store::TableNum::Vocabulary, "vocindex", "word=? and vocnum=?", "vocindex");
-    if (!row.First({word, std::int64_t{number}})) return std::nullopt;
+    if (!row.First({word, std::int64_t{number.value}})) return std::nullopt;
     return NamedRecord{store::TableNum::Vocabulary, static_cast<int>(row.Number(0))};
 }
 

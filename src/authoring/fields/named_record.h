@@ -3,6 +3,7 @@
 #include <optional>
 #include <string_view>
 
+#include "condacts/numbers.h"
 #include "store/adventure.h"
 #include "store/table_catalogue.h"
 
@@ -20,6 +21,7 @@ struct NamedRecord {
 std::optional<NamedRecord> NamedByNumber(store::TableNum table, std::string_view typed);
 
 /// The first word of this spelling and number; nullopt when there is none.
-std::optional<NamedRecord> NamedWord(store::Adventure& adventure, std::string_view word, int number);
+std::optional<NamedRecord> NamedWord(store::Adventure& adventure, std::string_view word,
+                                     condacts::WordNumber number);
 
 }  // namespace fabula::authoring

@@ -78,7 +78,7 @@ Completions CondActHelp::CompleteName(std::string_view line, std::size_t cursor,
     found.items = Fitting(place, text);
     const bool there = !found.items.empty() && Says(found.items.front(), text);
     if (text.empty() || there || !newMessage_ || !name.quoted || !IsMessage(line, name)) return found;
-    const std::string number = std::to_string(*newMessage_);
+    const std::string number = std::to_string(newMessage_->value);
     found.items.push_back(
         {number,
          std::string("Add message ").append(number).append(": \u201C").append(text).append("\u201D"),
@@ -100,9 +100,9 @@ bool CondActHelp::IsMessage(std::string_view line, const TypedName& name) const 
     return place.condAct->params[place.parameter].kind == ParamKind::Message;
 }
 
-void CondActHelp::AddMessage(int number, std::string_view text) {
+void CondActHelp::AddMessage(condacts::MessageNumber number, std::string_view text) {
     facts_.messages.insert(number);
-    texts_.messages.push_back({number, BriefText(text)});
+    texts_.messages.push_back({number.value, BriefText(text)});
 }
 
 }  // namespace fabula::authoring

@@ -13,12 +13,23 @@ namespace fabula::authoring {
 namespace {
 
 using condacts::Facts;
+using condacts::ObjectNumber;
+using condacts::PlaceNumber;
 using condacts::Word;
+using condacts::WordNumber;
 using store::Adventure;
 using store::PreparedQuery;
 using store::TableNum;
 
 constexpr std::int64_t kContainer = 1;
+
+PlaceNumber PlaceIn(const PreparedQuery& row, int column) {
+    return PlaceNumber(static_cast<int>(row.Number(column)));
+}
+
+WordNumber WordIn(const PreparedQuery& row, int column) {
+    return WordNumber(static_cast<int>(row.Number(column)));
+}
 
 bool IsEntryWord(const Word& word) {
     return word.type == condacts::kVerb || word.type == condacts::kNoun || word.type == condacts::kReserved;
@@ -44,17 +55,17 @@ class Search {
         found_.push_back({table, key, std::move(field), place, std::move(message)});
     }
 
-    bool IsRoom(std::int64_t number) const {
-        return !condacts::IsSpecialPlace(number) && facts_.locations.contains(static_cast<int>(number));
+    bool IsRoom(PlaceNumber place) const {
+        return !condacts::IsSpecialPlace(place) && facts_.locations.contains(place);
     }
 
-    bool HasWord(std::int64_t number, condacts::WordTest test) const {
-        return facts_.words.FindNumber(static_cast<int>(number), test) != nullptr;
+    bool HasWord(WordNumber number, condacts::WordTest test) const {
+        return facts_.words.FindNumber(number, test) != nullptr;
     }
 
     void CheckStart() {
         PreparedQuery settings = adventure_.Prepare(TableNum::Adventure, "startloc", "");
-        if (!settings.First({}) || IsRoom(settings.Number(0))) return;
+        if (!settings.First({}) || IsRoom(PlaceIn(settings, 0))) return;
         Add(TableNum::Adventure, 0, "startloc",
             "There is not a location with a number of " + std::to_string(settings.Number(0)));
     }
@@ -67,58 +78,61 @@ class Search {
             const auto numbers = condacts::SplitLine(rows.Text(2));
             for (std::size_t i = 0; i < numbers.size(); i += 2) {
                 const std::string word(i < words.size() ? words[i].text : numbers[i].text);
-                CheckExit(rows.Number(0), i, word, numbers);
+                CheckExit(PlaceIn(rows, 0), i, word, numbers);
             }
         }
     }
 
-    void CheckExit(std::int64_t room, std::size_t i, const std::string& word,
+    void CheckExit(PlaceNumber room, std::size_t i, const std::string& word,
                    const std::vector<condacts::Token>& numbers) {
         const auto number = condacts::WholeNumber(numbers[i].text);
-        if (!number || !HasWord(*number, condacts::IsMovementWord))
-            Add(TableNum::Locations, room, "exits", word + " is not a valid word", i);
+        if (!number || !HasWord(WordNumber(*number), condacts::IsMovementWord))
+            Add(TableNum::Locations, room.value, "exits", word + " is not a valid word", i);
         const std::string_view to = i + 1 < numbers.size() ? numbers[i + 1].text : std::string_view();
         const auto destination = condacts::WholeNumber(to);
-        if (destination && IsRoom(*destination)) return;
-        Add(TableNum::Locations, room, "exits",
+        if (destination && IsRoom(PlaceNumber(*destination))) return;
+        Add(TableNum::Locations, room.value, "exits",
             "There is not a location with a number of " + std::string(to) + " for " + word, i + 1);
     }
 
     void CheckObjects() {
-        std::map<std::int64_t, std::int64_t> inside;  // containers and the places they are at
+        std::map<PlaceNumber, PlaceNumber> inside;  // of containers, as places: where each is
         PreparedQuery containers = adventure_.Prepare(TableNum::Objects, "objnum, objloc, objattrn", "");
         for (bool more = containers.First({}); more; more = containers.Next()) {
             if ((containers.Number(2) & kContainer) != 0)
-                inside.try_emplace(containers.Number(0), containers.Number(1));
+                inside.try_emplace(PlaceIn(containers, 0), PlaceIn(containers, 1));
         }
         PreparedQuery rows = adventure_.Prepare(
             TableNum::Objects, "objnum, objloc, objnumnoun, objnumadject, objattrn", "", "objnum");
         for (bool more = rows.First({}); more; more = rows.Next()) {
-            const std::int64_t object = rows.Number(0);
-            const std::int64_t place = rows.Number(1);
+            const ObjectNumber object(static_cast<int>(rows.Number(0)));
+            const PlaceNumber place = PlaceIn(rows, 1);
             const bool isPlace =
-                IsRoom(place) || (condacts::IsSpecialPlace(place) && place != condacts::place::kHere.value);
-            if (!isPlace) Add(TableNum::Objects, object, "objloc", "Invalid location");
-            CheckObjectWords(object, rows.Number(2), rows.Number(3));
+                IsRoom(place) || (condacts::IsSpecialPlace(place) && place != condacts::place::kHere);
+            if (!isPlace) Add(TableNum::Objects, object.value, "objloc", "Invalid location");
+            CheckObjectWords(object, WordIn(rows, 2), WordIn(rows, 3));
             if ((rows.Number(4) & kContainer) == 0) continue;
-            if (!IsRoom(object))
-                Add(TableNum::Objects, object, "objattr", "There is no location with this object number");
-            if (IsInsideItself(object, inside))
-                Add(TableNum::Objects, object, "objloc", "A container cannot be inside itself.");
+            const PlaceNumber within = condacts::Inside(object);
+            if (!IsRoom(within))
+                Add(TableNum::Objects, object.value, "objattr",
+                    "There is no location with this object number");
+            if (IsInsideItself(within, inside))
+                Add(TableNum::Objects, object.value, "objloc", "A container cannot be inside itself.");
         }
     }
 
-    void CheckObjectWords(std::int64_t object, std::int64_t noun, std::int64_t adjective) {
-        const std::string shown = " shown for object " + std::to_string(object);
+    void CheckObjectWords(ObjectNumber object, WordNumber noun, WordNumber adjective) {
+        const std::string shown = " shown for object " + std::to_string(object.value);
         if (noun != condacts::kNoWordNumber && !HasWord(noun, condacts::IsNounOrReserved))
-            Add(TableNum::Objects, object, "objnoun", "Noun" + shown + " is not a Noun.");
+            Add(TableNum::Objects, object.value, "objnoun", "Noun" + shown + " is not a Noun.");
         if (adjective != condacts::kNoWordNumber && !HasWord(adjective, condacts::IsAdjectiveOrReserved))
-            Add(TableNum::Objects, object, "objadject", "Adjective" + shown + " is not an Adjective.");
+            Add(TableNum::Objects, object.value, "objadject",
+                "Adjective" + shown + " is not an Adjective.");
     }
 
     /// Whether the way out of a container, through the containers around it, comes back to it.
-    static bool IsInsideItself(std::int64_t container, const std::map<std::int64_t, std::int64_t>& inside) {
-        std::set<std::int64_t> passed;
+    static bool IsInsideItself(PlaceNumber container, const std::map<PlaceNumber, PlaceNumber>& inside) {
+        std::set<PlaceNumber> passed;
         auto at = inside.find(container);
         while (at != inside.end() && !condacts::IsSpecialPlace(at->second) &&
                passed.insert(at->first).second) {
@@ -132,8 +146,8 @@ class Search {
         PreparedQuery rows = adventure_.Prepare(TableNum::ProcessTables, "canum, w1, w1num, w2, w2num", "");
         for (bool more = rows.First({}); more; more = rows.Next()) {
             const auto isThere = [&](int column) {
-                return rows.Number(column) == condacts::kNoWordNumber ||
-                       HasWord(rows.Number(column), IsEntryWord);
+                const WordNumber word = WordIn(rows, column);
+                return word == condacts::kNoWordNumber || HasWord(word, IsEntryWord);
             };
             if (!isThere(2)) {
                 Add(TableNum::ProcessTables, rows.Number(0), "w1",

@@ -23,9 +23,14 @@
 namespace fabula::authoring {
 namespace {
 
+using condacts::PlaceNumber;
+using condacts::WordNumber;
 using store::TableNum;
 
 constexpr int kBehindDirections = 14;
+
+/// What was typed for a location and can't be any.
+constexpr PlaceNumber kNoPlace{-1};
 
 /// Directions and their opposites. Synonyms are found by their numbers.
 constexpr std::pair<std::string_view, std::string_view> kOpposites[] = {
@@ -57,12 +62,13 @@ std::string_view TokenAt(const std::vector<std::string_view>& tokens, std::size_
     return index < tokens.size() ? tokens[index] : std::string_view();
 }
 
-/// The number that was typed for a location, -1 for one that can't be any; nullopt when it is no number.
-std::optional<int> LocationNumber(std::string_view typed) {
+/// The number that was typed for a location, kNoPlace for one that can't be any; nullopt when it is no
+/// number.
+std::optional<PlaceNumber> LocationNumber(std::string_view typed) {
     const std::optional<std::int64_t> number = text::WholeNumber(typed);
     if (!number) return std::nullopt;
     const bool possible = *number >= 0 && *number <= std::numeric_limits<int>::max();
-    return possible ? static_cast<int>(*number) : -1;
+    return possible ? PlaceNumber(static_cast<int>(*number)) : kNoPlace;
 }
 
 /// Directions come first, by their number: what is typed is completed by the first word that fits.
@@ -89,7 +95,7 @@ LocationScreen::LocationScreen(ScreenContext& context, ScreenKey key)
     : RecordScreen(context, TableNum::Locations, key, "location"),
       words_(condacts::LoadWords(context.document.Adventure())) {
     for (const condacts::Word& word : words_.All()) {
-        if (condacts::IsMovementWord(word)) exitWord.items.push_back({word.number, word.word});
+        if (condacts::IsMovementWord(word)) exitWord.items.push_back({word.number.value, word.word});
     }
     std::stable_sort(
         exitWord.items.begin(), exitWord.items.end(),
@@ -126,7 +132,7 @@ void LocationScreen::ReadNeighbours() {
     for (bool more = rows.First({}); more; more = rows.Next()) {
         const auto words = text::Split(rows.Text(1), " ");
         const auto numbers = text::Split(rows.Text(2), " ");
-        const int location = static_cast<int>(rows.Number(0));
+        const PlaceNumber location(static_cast<int>(rows.Number(0)));
         for (std::size_t i = 1; i < numbers.size(); i += 2) {
             if (numbers[i] != here) continue;
             leadsHere_.push_back(
@@ -145,11 +151,11 @@ bool LocationScreen::LeaveShortDescription() {
 }
 
 /// A location that is being added may lead to itself. No exit leads to a place that is no room.
-bool LocationScreen::Exists(int location) const {
+bool LocationScreen::Exists(PlaceNumber location) const {
     if (condacts::IsSpecialPlace(location)) return false;
-    if (location == Key().key) return true;
+    if (location == Here()) return true;
     for (const ListItem& item : exitPlace.items) {
-        if (item.number == location) return true;
+        if (item.number == location.value) return true;
     }
     return false;
 }
@@ -158,7 +164,7 @@ bool LocationScreen::Exists(int location) const {
 std::string LocationScreen::FaultOfLocation(std::string_view number, std::string_view word) const {
     const std::string typed(number);
     const std::string of(word);
-    const std::optional<int> location = LocationNumber(number);
+    const std::optional<PlaceNumber> location = LocationNumber(number);
     if (!location) return "TO location " + (of.empty() ? "" : "for " + of) + "must be numeric";
     if (Exists(*location)) return "";
     const std::string message = "There is not a location with a number of " + typed;
@@ -208,26 +214,28 @@ LocationScreen::TypedExit LocationScreen::SplitTypedExit() const {
     return {word.substr(0, blank), word.substr(blank + 1)};
 }
 
-bool LocationScreen::IsNewPlace(int location) const {
-    return std::ranges::any_of(newPlaces_, [&](const ListItem& place) { return place.number == location; });
+bool LocationScreen::IsNewPlace(PlaceNumber location) const {
+    return std::ranges::any_of(newPlaces_,
+                               [&](const ListItem& place) { return place.number == location.value; });
 }
 
 /// The location of a number, of a name, or of what only one name begins with; else a new one of that name.
 LocationScreen::MeantPlace LocationScreen::PlaceMeantBy(const std::string& typed) const {
     if (const auto number = LocationNumber(typed)) return {.number = *number, .isNew = IsNewPlace(*number)};
-    std::vector<int> same;
-    std::vector<int> beginning;
+    std::vector<PlaceNumber> same;
+    std::vector<PlaceNumber> beginning;
     for (const ListItem& item : exitPlace.items) {
-        if (text::EqualsNoCase(item.text, typed)) same.push_back(item.number);
-        if (text::EqualsNoCase(item.text.substr(0, typed.size()), typed)) beginning.push_back(item.number);
+        if (text::EqualsNoCase(item.text, typed)) same.emplace_back(item.number);
+        if (text::EqualsNoCase(item.text.substr(0, typed.size()), typed))
+            beginning.emplace_back(item.number);
     }
-    const std::vector<int>& found = same.empty() ? beginning : same;
+    const std::vector<PlaceNumber>& found = same.empty() ? beginning : same;
     if (found.size() > 1) return {.fault = "More than one location is called " + typed};
     if (!found.empty()) return {.number = found.front(), .isNew = IsNewPlace(found.front())};
-    int number = 0;
+    PlaceNumber number;
     while (Exists(number) || condacts::IsSpecialPlace(number))
-        ++number;
-    if (number > condacts::HighestRecord(Adventure().Kind()))
+        ++number.value;
+    if (number.value > condacts::HighestRecord(Adventure().Kind()))
         return {.fault = "There is no number left for a location"};
     return {.number = number, .isNew = true};
 }
@@ -243,10 +251,10 @@ bool LocationScreen::TakePlaceByName(const std::string& word) {
         if (!fault.empty()) return RefuseField("exitWord", fault);
         if (!CheckLength("exitPlace", typed, kLongestShortDesc) || !CheckText("exitPlace", typed, true))
             return false;
-        exitPlace.items.push_back({meant.number, typed});
-        newPlaces_.push_back({meant.number, typed});
+        exitPlace.items.push_back({meant.number.value, typed});
+        newPlaces_.push_back({meant.number.value, typed});
     }
-    exitPlace.text = std::to_string(meant.number);
+    exitPlace.text = std::to_string(meant.number.value);
     return true;
 }
 
@@ -266,32 +274,34 @@ const condacts::Word* LocationScreen::OppositeOf(std::string_view word) const {
 }
 
 void LocationScreen::NoteWayBack(const std::string& word) {
-    const int location = LocationNumber(text::TrimBlanks(exitPlace.text)).value_or(-1);
+    const PlaceNumber location = LocationNumber(text::TrimBlanks(exitPlace.text)).value_or(kNoPlace);
     const condacts::Word* back = OppositeOf(word);
-    if (!AndBack() || !back || location == Key().key) return;
+    if (!AndBack() || !back || location == Here()) return;
     waysBack_.push_back({words_.Find(word, condacts::IsMovementWord)->number, location, back->number});
 }
 
 /// Where the exit of a location by a word leads to, as it is stored; nullopt when there is none.
-std::optional<int> LocationScreen::ExitOf(int location, int word) const {
+std::optional<PlaceNumber> LocationScreen::ExitOf(PlaceNumber location, WordNumber word) const {
     store::PreparedQuery record = Adventure().Prepare(TableNum::Locations, "numericexits", "locnum=?");
-    if (!record.First({std::int64_t{location}})) return std::nullopt;
+    if (!record.First({std::int64_t{location.value}})) return std::nullopt;
     const std::string numbers = Edited(record.Text(0));
     const auto tokens = Tokens(numbers);
     for (std::size_t i = 0; i < tokens.size(); i += 2) {
-        if (tokens[i] == std::to_string(word)) return LocationNumber(TokenAt(tokens, i + 1)).value_or(-1);
+        if (tokens[i] == std::to_string(word.value))
+            return LocationNumber(TokenAt(tokens, i + 1)).value_or(kNoPlace);
     }
     return std::nullopt;
 }
 
-std::string LocationScreen::WhatOfWayBack(const std::string& word, int location) const {
-    if (!AndBack() || location == Key().key) return "";
+std::string LocationScreen::WhatOfWayBack(const std::string& word, PlaceNumber location) const {
+    if (!AndBack() || location == Here()) return "";
     const condacts::Word* back = OppositeOf(word);
     if (!back) return "; no word leads back, as none is the opposite of " + word;
-    const std::optional<int> led = ExitOf(location, back->number);
+    const std::optional<PlaceNumber> led = ExitOf(location, back->number);
     if (!led) return ", with " + back->word + " back to here";
-    if (*led == Key().key) return ", from where " + back->word + " leads here";
-    return "; " + back->word + " leads from there to location " + std::to_string(*led) + " and stays so";
+    if (*led == Here()) return ", from where " + back->word + " leads here";
+    return "; " + back->word + " leads from there to location " + std::to_string(led->value) +
+           " and stays so";
 }
 
 std::string LocationScreen::WhatAddDoes() const {
@@ -304,7 +314,7 @@ std::string LocationScreen::WhatAddDoes() const {
     if (!isListed && !meant.isNew) return FaultOfLocation(place, word);
     const std::string name = isListed ? NameIn(exitPlace.items, meant.number) : place;
     std::string told = meant.isNew ? "Makes location " : "Leads to location ";
-    told += std::to_string(meant.number);
+    told += std::to_string(meant.number.value);
     if (!name.empty()) told += ", \u201C" + name + "\u201D";
     return told + WhatOfWayBack(word, meant.number) + ".";
 }
@@ -340,7 +350,7 @@ std::vector<ExitRow> LocationScreen::Exits() const {
     for (std::size_t i = 0; i < tokens.size(); i += 2) {
         const std::string_view location = TokenAt(tokens, i + 1);
         rows.push_back({std::string(tokens[i]), std::string(location),
-                        NameIn(exitPlace.items, LocationNumber(location).value_or(-1))});
+                        NameIn(exitPlace.items, LocationNumber(location).value_or(kNoPlace))});
     }
     return rows;
 }
@@ -378,7 +388,7 @@ std::vector<LocationScreen::Exit> LocationScreen::ParsedExits() const {
     for (std::size_t i = 0; i + 1 < tokens.size(); i += 2) {
         const condacts::Word* typed = words_.Find(tokens[i], condacts::IsMovementWord);
         parsed.push_back({words_.FindNumber(typed->number, condacts::IsMovementWord),
-                          LocationNumber(tokens[i + 1]).value_or(-1)});
+                          LocationNumber(tokens[i + 1]).value_or(kNoPlace)});
     }
     return parsed;
 }
@@ -388,9 +398,9 @@ void LocationScreen::StoreExits(store::Cursor& record) const {
     std::string stored;
     std::string numericExits;
     for (const Exit& exit : parsed) {
-        const std::string location = std::to_string(exit.location);
+        const std::string location = std::to_string(exit.location.value);
         AppendTo(stored, exit.word->word, location);
-        AppendTo(numericExits, std::to_string(exit.word->number), location);
+        AppendTo(numericExits, std::to_string(exit.word->number.value), location);
     }
     record.SetField("exits", stored);
     record.SetField("numericexits", numericExits);
@@ -401,10 +411,11 @@ void LocationScreen::StoreExits(store::Cursor& record) const {
 void LocationScreen::StoreNewPlaces(std::vector<std::string>& made) {
     const std::vector<Exit> parsed = ParsedExits();
     for (const ListItem& place : newPlaces_) {
+        const PlaceNumber number(place.number);
         const bool used =
-            std::ranges::any_of(parsed, [&](const Exit& exit) { return exit.location == place.number; });
+            std::ranges::any_of(parsed, [&](const Exit& exit) { return exit.location == number; });
         if (!used || HasRecord(Adventure(), TableNum::Locations, place.number)) continue;
-        AddPlace(Adventure(), place.number, place.text);
+        AddPlace(Adventure(), number, place.text);
         made.push_back("new location " + std::to_string(place.number));
     }
 }
@@ -417,19 +428,19 @@ void LocationScreen::StoreWaysBack(std::vector<std::string>& made) {
             return exit.location == way.location && exit.word->number == way.word;
         });
         store::Cursor& record = Adventure().OpenTable(TableNum::Free22, "* from locations",
-                                                      "locnum=" + std::to_string(way.location));
+                                                      "locnum=" + std::to_string(way.location.value));
         if (!used || record.Eof() || ExitOf(way.location, way.wordBack)) continue;
         std::string stored = Edited(record.Text("exits"));
         std::string numbers = Edited(record.Text("numericexits"));
         const std::string here = std::to_string(Key().key);
         AppendTo(stored, words_.FindNumber(way.wordBack, condacts::IsMovementWord)->word, here);
-        AppendTo(numbers, std::to_string(way.wordBack), here);
+        AppendTo(numbers, std::to_string(way.wordBack.value), here);
         record.SetField("exits", stored);
         record.SetField("numericexits", numbers);
         record.SetField("numexits", record.Number("numexits") + 2);
         record.Update();
         if (!IsNewPlace(way.location))
-            made.push_back("the way back from location " + std::to_string(way.location));
+            made.push_back("the way back from location " + std::to_string(way.location.value));
     }
 }
 

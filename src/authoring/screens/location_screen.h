@@ -8,6 +8,7 @@
 #include "authoring/fields/controls.h"
 #include "authoring/fields/named_record.h"
 #include "authoring/screens/record_screen.h"
+#include "condacts/numbers.h"
 #include "condacts/words.h"
 
 namespace fabula::authoring {
@@ -23,7 +24,7 @@ struct ExitRow {
 
 /// A location with an exit that leads here.
 struct Neighbour {
-    int location = 0;
+    condacts::PlaceNumber location;
     std::string name;
     std::string word;
 
@@ -89,7 +90,7 @@ class LocationScreen final : public RecordScreen {
     void ReadRecord();
     struct Exit {
         const condacts::Word* word;  ///< the first of its number
-        int location;
+        condacts::PlaceNumber location;
     };
     struct TypedExit {
         std::string word;
@@ -97,24 +98,27 @@ class LocationScreen final : public RecordScreen {
     };
     /// What is meant by a place that is typed.
     struct MeantPlace {
-        int number = -1;     ///< of a location that need not exist
-        bool isNew = false;  ///< Update makes it
+        condacts::PlaceNumber number{-1};  ///< of a location that need not exist
+        bool isNew = false;                ///< Update makes it
         std::string fault = {};
     };
 
     void ReadNeighbours();
     bool HasPendingExit() const;
     TypedExit SplitTypedExit() const;
-    bool IsNewPlace(int location) const;
+    bool IsNewPlace(condacts::PlaceNumber location) const;
     MeantPlace PlaceMeantBy(const std::string& typed) const;
     bool TakePlaceByName(const std::string& word);
     const condacts::Word* OppositeOf(std::string_view word) const;
-    std::optional<int> ExitOf(int location, int word) const;
+    std::optional<condacts::PlaceNumber> ExitOf(condacts::PlaceNumber location,
+                                                condacts::WordNumber word) const;
     void NoteWayBack(const std::string& word);
-    std::string WhatOfWayBack(const std::string& word, int location) const;
+    std::string WhatOfWayBack(const std::string& word, condacts::PlaceNumber location) const;
     void StoreNewPlaces(std::vector<std::string>& made);
     void StoreWaysBack(std::vector<std::string>& made);
-    bool Exists(int location) const;
+    /// The location in the screen.
+    condacts::PlaceNumber Here() const { return condacts::PlaceNumber(Key().key); }
+    bool Exists(condacts::PlaceNumber location) const;
     std::string FaultOfWord(std::string_view word) const;
     std::string FaultOfLocation(std::string_view number, std::string_view word) const;
     bool CheckLocation(std::string_view control, std::string_view number, std::string_view word);
@@ -127,9 +131,9 @@ class LocationScreen final : public RecordScreen {
     condacts::WordIndex words_;
     /// An exit that is to get its way back, by the number of the word there.
     struct WayBack {
-        int word;
-        int location;
-        int wordBack;
+        condacts::WordNumber word;
+        condacts::PlaceNumber location;
+        condacts::WordNumber wordBack;
     };
 
     std::vector<Neighbour> leadsHere_;

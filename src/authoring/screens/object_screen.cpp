@@ -23,6 +23,8 @@ namespace fabula::authoring {
 namespace {
 
 namespace place = condacts::place;
+using condacts::PlaceNumber;
+using condacts::WordNumber;
 using store::TableNum;
 
 constexpr const char* kUsualWeight = "1";
@@ -33,7 +35,7 @@ constexpr std::size_t kShortestProposal = 2;
 std::vector<ListItem> WordItems(const condacts::WordIndex& words, condacts::WordTest test) {
     std::vector<ListItem> items;
     for (const condacts::Word& word : words.All()) {
-        if (test(word)) items.push_back({word.number, word.word});
+        if (test(word)) items.push_back({word.number.value, word.word});
     }
     return items;
 }
@@ -60,9 +62,9 @@ std::vector<std::string> WordsOf(std::string_view description, std::size_t longe
 }
 
 /// Chooses a record's word; where synonyms share its number, the one that is written in the record.
-void ChooseWord(DropList& list, std::string_view word, int number) {
+void ChooseWord(DropList& list, std::string_view word, WordNumber number) {
     list.ChooseText(std::string(word));
-    if (list.Chosen() == nullptr || list.Chosen()->number != number) list.ChooseNumber(number);
+    if (list.Chosen() == nullptr || list.Chosen()->number != number.value) list.ChooseNumber(number.value);
 }
 
 }  // namespace
@@ -72,8 +74,8 @@ ObjectScreen::ObjectScreen(ScreenContext& context, ScreenKey key)
     const condacts::WordIndex words = condacts::LoadWords(Adventure());
     noun.items = WordItems(words, condacts::IsNounOrReserved);
     adjective.items = WordItems(words, condacts::IsAdjectiveOrReserved);
-    noun.ChooseNumber(condacts::kNoWordNumber);
-    adjective.ChooseNumber(condacts::kNoWordNumber);
+    noun.ChooseNumber(condacts::kNoWordNumber.value);
+    adjective.ChooseNumber(condacts::kNoWordNumber.value);
     room.items = LocationNames(Adventure());
     if (key.isNew) {
         opened_ = Typed();
@@ -90,9 +92,10 @@ void ObjectScreen::GoTo(int key) {
 void ObjectScreen::ReadRecord() {
     const store::Cursor& record = OpenRecord();
     description = ToEdited(record.Text("objdesc"));
-    ChooseWord(noun, record.Text("objnoun"), static_cast<int>(record.Number("objnumnoun")));
-    ChooseWord(adjective, record.Text("objadject"), static_cast<int>(record.Number("objnumadject")));
-    ReadPlace(static_cast<int>(record.Number("objloc")));
+    ChooseWord(noun, record.Text("objnoun"), WordNumber(static_cast<int>(record.Number("objnumnoun"))));
+    ChooseWord(adjective, record.Text("objadject"),
+               WordNumber(static_cast<int>(record.Number("objnumadject"))));
+    ReadPlace(PlaceNumber(static_cast<int>(record.Number("objloc"))));
     const std::int64_t attributes = record.Number("objattrn");
     container = (attributes & condacts::attribute::kContainer) != 0;
     wearable = (attributes & condacts::attribute::kWearable) != 0;
@@ -100,9 +103,9 @@ void ObjectScreen::ReadRecord() {
     opened_ = Typed();
 }
 
-void ObjectScreen::ReadPlace(int place) {
+void ObjectScreen::ReadPlace(PlaceNumber place) {
     room.text.clear();
-    switch (place) {
+    switch (place.value) {
         case place::kNotCreated.value:
             initialPlace = InitialPlace::NotCreated;
             return;
@@ -114,7 +117,7 @@ void ObjectScreen::ReadPlace(int place) {
             return;
         default:
             initialPlace = InitialPlace::InRoom;
-            room.text = std::to_string(place);
+            room.text = std::to_string(place.value);
     }
 }
 
@@ -135,7 +138,7 @@ std::string ObjectScreen::AsNoun(std::string_view typed) const {
 std::string ObjectScreen::ChosenNoun() const {
     if (!newNoun.empty()) return AsNoun(newNoun);
     const ListItem* chosen = noun.Chosen();
-    return chosen && chosen->number != condacts::kNoWordNumber ? chosen->text : "";
+    return chosen && chosen->number != condacts::kNoWordNumber.value ? chosen->text : "";
 }
 
 void ObjectScreen::ProposeNoun() {
@@ -146,7 +149,7 @@ void ObjectScreen::ProposeNoun() {
     for (auto word = words.rbegin(); word != words.rend() && !noun.Chosen(); ++word)
         noun.ChooseText(*word);
     if (!noun.Chosen()) {
-        noun.ChooseNumber(condacts::kNoWordNumber);
+        noun.ChooseNumber(condacts::kNoWordNumber.value);
         if (!words.empty()) newNoun = words.back();
     }
     proposedNoun_ = ChosenNoun();
@@ -164,7 +167,7 @@ std::string ObjectScreen::OfferedNoun() const {
 
 void ObjectScreen::ClickMakeNoun(bool make) {
     newNoun = make ? OfferedNoun() : "";
-    noun.ChooseNumber(condacts::kNoWordNumber);
+    noun.ChooseNumber(condacts::kNoWordNumber.value);
 }
 
 std::size_t ObjectScreen::LongestWord() const {
@@ -247,18 +250,18 @@ bool ObjectScreen::LeaveWeight() {
     return RefuseField("weight", condacts::kWeightFault);
 }
 
-int ObjectScreen::Place() const {
+PlaceNumber ObjectScreen::Place() const {
     switch (*initialPlace) {
         case InitialPlace::NotCreated:
-            return place::kNotCreated.value;
+            return place::kNotCreated;
         case InitialPlace::Worn:
-            return place::kWorn.value;
+            return place::kWorn;
         case InitialPlace::Carried:
-            return place::kCarried.value;
+            return place::kCarried;
         case InitialPlace::InRoom:
             break;
     }
-    return static_cast<int>(*text::WholeNumber(text::TrimBlanks(room.text)));
+    return PlaceNumber(static_cast<int>(*text::WholeNumber(text::TrimBlanks(room.text))));
 }
 
 std::vector<std::string> ObjectScreen::Typed() const {
@@ -275,20 +278,20 @@ std::vector<std::string> ObjectScreen::Typed() const {
 }
 
 /// A list without a chosen item, as for a word that the vocabulary has lost, stores "no word".
-void ObjectScreen::StoreWord(store::Cursor& record, const DropList& list, int wordType,
+void ObjectScreen::StoreWord(store::Cursor& record, const DropList& list, condacts::WordType wordType,
                              const char* wordField, const char* numberField) const {
     const condacts::WordIndex words = condacts::LoadWords(Adventure());
     const ListItem* chosen = list.Chosen();
-    const int number = chosen ? chosen->number : condacts::kNoWordNumber;
+    const WordNumber number = chosen ? WordNumber(chosen->number) : condacts::kNoWordNumber;
     const condacts::Word* first = words.FindNumberTyped(number, wordType);
-    record.SetField(numberField, std::int64_t{number});
+    record.SetField(numberField, std::int64_t{number.value});
     record.SetField(wordField, first ? first->word : std::string(condacts::kNoWord));
 }
 
 void ObjectScreen::StorePlace(store::Cursor& record) const {
-    const int place = Place();
-    record.SetField("objloc", std::int64_t{place});
-    record.SetField("objlocdesc", condacts::DescriptionOfPlace(condacts::PlaceNumber(place)));
+    const PlaceNumber place = Place();
+    record.SetField("objloc", std::int64_t{place.value});
+    record.SetField("objlocdesc", condacts::DescriptionOfPlace(place));
 }
 
 void ObjectScreen::StoreAttributes(store::Cursor& record) const {
@@ -300,8 +303,8 @@ void ObjectScreen::StoreAttributes(store::Cursor& record) const {
 }
 
 void ObjectScreen::StoreNewNoun(store::Cursor& record) {
-    const int number = NumberOfNewNoun(Adventure()).value_or(condacts::kNoWordNumber);
-    record.SetField("objnumnoun", std::int64_t{number});
+    const WordNumber number = NumberOfNewNoun(Adventure()).value_or(condacts::kNoWordNumber);
+    record.SetField("objnumnoun", std::int64_t{number.value});
     record.SetField("objnoun", newNoun);
     AddNoun(Adventure(), newNoun, number);
     condacts::RecompileEntries(Adventure());
@@ -309,7 +312,7 @@ void ObjectScreen::StoreNewNoun(store::Cursor& record) {
 
 void ObjectScreen::StoreInside() {
     if (!container || !makesInside_ || HasRecord(Adventure(), TableNum::Locations, Key().key)) return;
-    AddPlace(Adventure(), Key().key,
+    AddPlace(Adventure(), condacts::Inside(condacts::ObjectNumber(Key().key)),
              "Inside " + BriefText(description, "object " + std::to_string(Key().key)));
 }
 

@@ -8,6 +8,8 @@
 #include "authoring/fields/controls.h"
 #include "authoring/screens/record_screen.h"
 #include "condacts/limits.h"
+#include "condacts/numbers.h"
+#include "condacts/words.h"
 
 namespace fabula::authoring {
 
@@ -65,7 +67,7 @@ class ObjectScreen final : public RecordScreen {
 
   private:
     void ReadRecord();
-    void ReadPlace(int place);
+    void ReadPlace(condacts::PlaceNumber place);
     std::string AsNoun(std::string_view typed) const;
     std::string ChosenNoun() const;
     std::size_t LongestWord() const;
@@ -73,10 +75,10 @@ class ObjectScreen final : public RecordScreen {
     bool MakesInside();
     void StoreNewNoun(store::Cursor& record);
     void StoreInside();
-    int Place() const;
+    condacts::PlaceNumber Place() const;
     std::vector<std::string> Typed() const;
-    void StoreWord(store::Cursor& record, const DropList& list, int wordType, const char* wordField,
-                   const char* numberField) const;
+    void StoreWord(store::Cursor& record, const DropList& list, condacts::WordType wordType,
+                   const char* wordField, const char* numberField) const;
     void StorePlace(store::Cursor& record) const;
     void StoreAttributes(store::Cursor& record) const;
 

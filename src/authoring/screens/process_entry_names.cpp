@@ -16,6 +16,7 @@
 namespace fabula::authoring {
 namespace {
 
+using condacts::MessageNumber;
 using store::TableNum;
 
 int HighestMessage(const store::Adventure& adventure) {
@@ -26,7 +27,7 @@ int HighestMessage(const store::Adventure& adventure) {
 
 /// The number of the message that would be added next, after those that will be; nullopt when there is no
 /// room for it.
-std::optional<int> ProcessEntryScreen::NextMessage() const {
+std::optional<MessageNumber> ProcessEntryScreen::NextMessage() const {
     int number = *NextKey(Adventure(), TableNum::Messages);
     const auto taken = [&] {
         return HasRecord(Adventure(), TableNum::Messages, number) ||
@@ -35,18 +36,18 @@ std::optional<int> ProcessEntryScreen::NextMessage() const {
     };
     while (taken())
         ++number;
-    return number > HighestMessage(Adventure()) ? std::nullopt : std::optional(number);
+    return number > HighestMessage(Adventure()) ? std::nullopt : std::optional(MessageNumber(number));
 }
 
-std::optional<int> ProcessEntryScreen::AddMessage(const std::string& text) {
-    const std::optional<int> number = NextMessage();
+std::optional<MessageNumber> ProcessEntryScreen::AddMessage(const std::string& text) {
+    const std::optional<MessageNumber> number = NextMessage();
     if (!number) {
         RefuseField("line", "You have reached the maximum of " +
                                 std::to_string(HighestMessage(Adventure())) + " messages");
         return std::nullopt;
     }
     if (!CheckText("line", text, true)) return std::nullopt;
-    newMessages_.push_back({*number, text});
+    newMessages_.push_back({number->value, text});
     help_.AddMessage(*number, text);
     help_.OfferNewMessage(NextMessage());
     return number;
@@ -71,8 +72,8 @@ std::optional<std::string> ProcessEntryScreen::NumberOf(const TypedName& name) {
         KeepFocus("line");
         return std::nullopt;
     }
-    const std::optional<int> number = AddMessage(text);
-    return number ? std::optional(std::to_string(*number)) : std::nullopt;
+    const std::optional<MessageNumber> number = AddMessage(text);
+    return number ? std::optional(std::to_string(number->value)) : std::nullopt;
 }
 
 bool ProcessEntryScreen::TakeNames() {
@@ -84,12 +85,13 @@ bool ProcessEntryScreen::TakeNames() {
     return true;
 }
 
-bool ProcessEntryScreen::Prints(int message) const {
+bool ProcessEntryScreen::Prints(MessageNumber message) const {
     const condacts::ParsedLine parsed = condacts::ParseLine(line, help_.Catalogue(), help_.Facts().dialect);
     return std::ranges::any_of(parsed.statements, [&](const condacts::Statement& statement) {
         for (std::size_t place = 0; place < statement.paramsGiven; ++place) {
             const bool names = statement.condAct->params[place].kind == condacts::ParamKind::Message;
-            if (names && condacts::WholeNumber(parsed.Param(statement, place)) == message) return true;
+            if (names && condacts::WholeNumber(parsed.Param(statement, place)) == message.value)
+                return true;
         }
         return false;
     });
@@ -97,7 +99,7 @@ bool ProcessEntryScreen::Prints(int message) const {
 
 void ProcessEntryScreen::StoreNewMessages() {
     for (const ListItem& message : newMessages_) {
-        if (!Prints(message.number)) continue;
+        if (!Prints(MessageNumber(message.number))) continue;
         store::Cursor& record = Adventure().OpenTable(TableNum::Free22, "* from messages",
                                                       "msgnum=" + std::to_string(message.number));
         if (!record.Eof()) {

@@ -15,7 +15,9 @@ namespace fabula::authoring {
 namespace {
 
 using condacts::CondAct;
+using condacts::ProcessNumber;
 using condacts::Word;
+using condacts::WordNumber;
 using store::TableNum;
 
 /// The tables below this number are there in every game.
@@ -62,8 +64,8 @@ void ProcessEntryScreen::ReadWords() {
     store::PreparedQuery rows = Adventure().Prepare(
         TableNum::Vocabulary, "vocindex, word, vocnum, voctypen", condacts::OfEntryVerbs());
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        const Word word{std::string(rows.Text(1)), static_cast<int>(rows.Number(2)),
-                        static_cast<int>(rows.Number(3))};
+        const Word word{std::string(rows.Text(1)), WordNumber(static_cast<int>(rows.Number(2))),
+                        static_cast<condacts::WordType>(rows.Number(3))};
         if (IsMarlo() && word.type == condacts::kReserved && word.word == "*") continue;
         words_.push_back({static_cast<int>(rows.Number(0)), word});
     }
@@ -79,7 +81,7 @@ void ProcessEntryScreen::ReadWords() {
 }
 
 /// Chooses the word of an entry: of its spelling and number, or else of its number.
-void ProcessEntryScreen::Choose(DropList& list, std::string_view spelling, int number,
+void ProcessEntryScreen::Choose(DropList& list, std::string_view spelling, WordNumber number,
                                 condacts::WordType preferred) const {
     int best = 0;
     list.index = -1;
@@ -98,8 +100,8 @@ void ProcessEntryScreen::ReadEntry(int canum) {
         Adventure().Prepare(TableNum::ProcessTables, "estype, w1, w1num, w2, w2num, condacts", "canum=?");
     if (!entry.First({std::int64_t{canum}})) return;
     process = NumberText(entry.Number(0));
-    Choose(verb, entry.Text(1), static_cast<int>(entry.Number(2)), condacts::kVerb);
-    Choose(noun, entry.Text(3), static_cast<int>(entry.Number(4)), condacts::kNoun);
+    Choose(verb, entry.Text(1), WordNumber(static_cast<int>(entry.Number(2))), condacts::kVerb);
+    Choose(noun, entry.Text(3), WordNumber(static_cast<int>(entry.Number(4))), condacts::kNoun);
     line = entry.Text(5);
 }
 
@@ -121,30 +123,31 @@ void ProcessEntryScreen::Propose(const ScreenRequest& request) {
     process = NumberText(table);
 }
 
-int ProcessEntryScreen::NextProcess() const {
+ProcessNumber ProcessEntryScreen::NextProcess() const {
     store::PreparedQuery highest =
         Adventure().Prepare(TableNum::ProcessTables, "estype", "", "estype desc");
     const int next = highest.First({}) ? NumberAfter(highest.Number(0)) : 0;
-    return std::max(next, kFirstNewProcess);
+    return ProcessNumber(std::max(next, kFirstNewProcess));
 }
 
 bool ProcessEntryScreen::LeaveProcess() {
     if (process == openedType_) return true;
     const auto number = text::WholeNumber(text::TrimBlanks(process));
     if (!number) return RefuseField("process", "Process Table # is not numeric");
-    const auto table = static_cast<int>(std::clamp<std::int64_t>(*number, -1, condacts::kBeyondNumbers));
+    const ProcessNumber table(
+        static_cast<int>(std::clamp<std::int64_t>(*number, -1, condacts::kBeyondNumbers)));
     return help_.Facts().processes.contains(table) || ConfirmsProcess(table);
 }
 
-bool ProcessEntryScreen::ConfirmsProcess(int table) {
-    const int next = NextProcess();
+bool ProcessEntryScreen::ConfirmsProcess(ProcessNumber table) {
+    const ProcessNumber next = NextProcess();
     if (table != next)
-        return RefuseField("process", "The new Process Table number must be " + std::to_string(next));
+        return RefuseField("process", "The new Process Table number must be " + std::to_string(next.value));
     if (IsMarlo()) {
         return RefuseField("process", "You cannot change the Process Table number when using the Marlo");
     }
     if (confirmedProcess_ == table) return true;
-    const std::string question = "Confirm Creation of Process table " + std::to_string(table);
+    const std::string question = "Confirm Creation of Process table " + std::to_string(table.value);
     if (!context_.dialogs.Confirm(question, "Confirm")) return KeepFocus("process");
     confirmedProcess_ = table;
     return true;
@@ -225,12 +228,12 @@ bool ProcessEntryScreen::LeaveLine() {
 }
 
 /// A record of the descriptions is what makes a process table exist.
-void ProcessEntryScreen::AddDescription(int table) {
-    store::Cursor& descriptions =
-        Adventure().OpenTable(TableNum::Free22, "* from procdesc", "pmsgnum=" + std::to_string(table));
+void ProcessEntryScreen::AddDescription(ProcessNumber table) {
+    store::Cursor& descriptions = Adventure().OpenTable(TableNum::Free22, "* from procdesc",
+                                                        "pmsgnum=" + std::to_string(table.value));
     if (!descriptions.Eof()) return;
     descriptions.AddNew();
-    descriptions.SetField("pmsgnum", std::int64_t{table});
+    descriptions.SetField("pmsgnum", std::int64_t{table.value});
     descriptions.SetField("pmsgmsg", std::string(" "));
     descriptions.Update();
 }
@@ -245,12 +248,12 @@ void ProcessEntryScreen::StoreWord(store::Cursor& record, const DropList& list, 
         return entry.word.number == word.number && entry.word.type == word.type;
     });
     record.SetField(wordField, first->word.word);
-    record.SetField(numberField, std::int64_t{word.number});
+    record.SetField(numberField, std::int64_t{word.number.value});
 }
 
 void ProcessEntryScreen::Store(Change& change) {
     const auto table = text::WholeNumber(text::TrimBlanks(process)).value_or(0);
-    AddDescription(static_cast<int>(table));
+    AddDescription(ProcessNumber(static_cast<int>(table)));
     StoreNewMessages();
     store::Cursor& record = RecordToStore(change);
     record.SetField("estype", table);

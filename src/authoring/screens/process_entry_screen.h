@@ -9,6 +9,7 @@
 #include "authoring/fields/cond_act_help.h"
 #include "authoring/fields/controls.h"
 #include "authoring/screens/record_screen.h"
+#include "condacts/numbers.h"
 
 namespace fabula::authoring {
 
@@ -49,7 +50,7 @@ class ProcessEntryScreen final : public RecordScreen {
 
     /// A message that a name of the line is to be: from now on the line may print it, and Update adds it
     /// if it does. The number that it will have; nullopt when it is refused.
-    std::optional<int> AddMessage(const std::string& text);
+    std::optional<condacts::MessageNumber> AddMessage(const std::string& text);
 
     /// The record that a token of the line, or of the fields above it, names: at a place in bytes.
     std::optional<NamedRecord> NamedInLine(std::size_t cursor) const;
@@ -84,21 +85,22 @@ class ProcessEntryScreen final : public RecordScreen {
     void ReadWords();
     void ReadEntry(int canum);
     void Propose(const ScreenRequest& request);
-    void Choose(DropList& list, std::string_view spelling, int number, condacts::WordType preferred) const;
-    int NextProcess() const;
-    bool ConfirmsProcess(int process);
+    void Choose(DropList& list, std::string_view spelling, condacts::WordNumber number,
+                condacts::WordType preferred) const;
+    condacts::ProcessNumber NextProcess() const;
+    bool ConfirmsProcess(condacts::ProcessNumber process);
     const condacts::CondAct* ChosenCondAct() const;
     void OpenParameters(const condacts::CondAct* condAct);
     std::string PutTogether() const;
     bool Check(std::string_view control, std::string_view condAct);
     bool AddPending();
-    std::optional<int> NextMessage() const;
+    std::optional<condacts::MessageNumber> NextMessage() const;
     bool TakeNames();
     std::optional<std::string> NumberOf(const TypedName& name);
-    bool Prints(int message) const;
+    bool Prints(condacts::MessageNumber message) const;
     void StoreNewMessages();
     void Append(std::string_view condAct);
-    void AddDescription(int process);
+    void AddDescription(condacts::ProcessNumber process);
     void StoreWord(store::Cursor& record, const DropList& list, std::string_view wordField,
                    std::string_view numberField) const;
     void Store(Change& change);
@@ -108,8 +110,9 @@ class ProcessEntryScreen final : public RecordScreen {
     std::vector<VocabularyWord> words_;  ///< those that an entry may stand with
     std::vector<std::string> opened_;    ///< what `Typed` gave at first
     std::string openedType_;
-    std::string openedFor_;                ///< the name whose parameters are open; "" for none
-    std::optional<int> confirmedProcess_;  ///< that the author agreed to create
+    std::string openedFor_;  ///< the name whose parameters are open; "" for none
+    /// That the author agreed to create.
+    std::optional<condacts::ProcessNumber> confirmedProcess_;
 };
 
 }  // namespace fabula::authoring

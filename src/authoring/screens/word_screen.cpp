@@ -46,7 +46,7 @@ void WordScreen::ReadRecord() {
     spelledBefore_ = word;
     number = std::to_string(record.Number("vocnum"));
     const std::int64_t stored = record.Number("voctypen");
-    typeBefore_ = static_cast<int>(stored);
+    typeBefore_ = static_cast<condacts::WordType>(stored);
     type.reset();
     if (IsMarlo()) type = condacts::kNoun;
     if (stored >= condacts::kVerb && stored <= condacts::kPronoun) {
@@ -65,16 +65,16 @@ std::size_t WordScreen::LongestWord() const {
 
 /// One above the highest number of the type. Below the lowest that a word may have there is nothing to
 /// propose.
-int WordScreen::NextNumber(condacts::WordType wordType) const {
+condacts::WordNumber WordScreen::NextNumber(condacts::WordType wordType) const {
     store::PreparedQuery highest =
         Adventure().Prepare(TableNum::VocabularyWalk, "vocnum", "voctypen=?", "vocnum desc");
-    if (!highest.First({std::int64_t{wordType}})) return kLowestNumber;
-    return std::max(NumberAfter(highest.Number(0)), kLowestNumber);
+    if (!highest.First({std::int64_t{wordType}})) return condacts::WordNumber(kLowestNumber);
+    return condacts::WordNumber(std::max(NumberAfter(highest.Number(0)), kLowestNumber));
 }
 
 void WordScreen::ClickType(condacts::WordType chosen) {
     type = chosen;
-    if (EditsNumber()) number = std::to_string(NextNumber(chosen));
+    if (EditsNumber()) number = std::to_string(NextNumber(chosen).value);
 }
 
 bool WordScreen::LeaveWord() {
@@ -87,7 +87,7 @@ bool WordScreen::LeaveWord() {
     }
     word = text::Left(typed, LongestWord());
     if (IsMarlo() && text::TrimBlanks(number).empty()) {
-        number = std::to_string(NextNumber(condacts::kNoun));
+        number = std::to_string(NextNumber(condacts::kNoun).value);
     }
     return true;
 }
@@ -98,7 +98,7 @@ bool WordScreen::LeaveNumber() {
     if (*typed < kLowestNumber || *typed > kHighestNumber) {
         return RefuseField("number", condacts::kWordNumberFault);
     }
-    return CheckClash(static_cast<int>(*typed));
+    return CheckClash(condacts::WordNumber(static_cast<int>(*typed)));
 }
 
 std::vector<condacts::Word> WordScreen::SameSpelling() const {
@@ -107,15 +107,15 @@ std::vector<condacts::Word> WordScreen::SameSpelling() const {
     std::vector<condacts::Word> words;
     const int key = Key().isNew ? -1 : Key().key;
     for (bool more = rows.First({std::string_view(word), std::int64_t{key}}); more; more = rows.Next()) {
-        words.push_back({std::string(rows.Text(0)), static_cast<int>(rows.Number(1)),
-                         static_cast<int>(rows.Number(2))});
+        words.push_back({std::string(rows.Text(0)), condacts::WordNumber(static_cast<int>(rows.Number(1))),
+                         static_cast<condacts::WordType>(rows.Number(2))});
     }
     return words;
 }
 
 /// Without a type there is nothing to clash with yet. A reserved word stands in for every type, so that it
 /// clashes with all.
-bool WordScreen::CheckClash(int typed) {
+bool WordScreen::CheckClash(condacts::WordNumber typed) {
     if (!type) return true;
     const std::vector<condacts::Word> same = SameSpelling();
     const bool reserved = std::any_of(same.begin(), same.end(), [](const condacts::Word& each) {
@@ -151,7 +151,7 @@ bool WordScreen::UpdateFields() {
     if (!LeaveNumber()) return false;
     const std::string name = (Key().isNew ? "add word " : "edit word ") + word;
     Change change(context_.document, name);
-    const auto numbered = static_cast<int>(*text::WholeNumber(text::TrimBlanks(number)));
+    const condacts::WordNumber numbered(static_cast<int>(*text::WholeNumber(text::TrimBlanks(number))));
     Store(change);
     int uses = 0;
     if (!Key().isNew && word != spelledBefore_)

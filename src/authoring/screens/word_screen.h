@@ -49,13 +49,13 @@ class WordScreen final : public RecordScreen {
 
   private:
     void ReadRecord();
-    int NextNumber(condacts::WordType type) const;
+    condacts::WordNumber NextNumber(condacts::WordType type) const;
     std::vector<condacts::Word> SameSpelling() const;
-    bool CheckClash(int number);
+    bool CheckClash(condacts::WordNumber typed);
     std::vector<std::string> Typed() const;
     void Store(Change& change);
 
-    int typeBefore_ = 0;
+    condacts::WordType typeBefore_ = condacts::kVerb;
     std::string spelledBefore_;        ///< of a word that is there already
     std::vector<std::string> opened_;  ///< what `Typed` gave at first
 };

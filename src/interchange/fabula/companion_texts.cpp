@@ -64,7 +64,7 @@ bool IsFirstWord(const Word& word) {
 
 std::string WordText(const WordIndex& words, std::int64_t number, condacts::WordTest test) {
     if (number < 0 || number >= condacts::kBeyondNumbers) return "";
-    const Word* word = words.FindNumber(static_cast<int>(number), test);
+    const Word* word = words.FindNumber(condacts::WordNumber(static_cast<int>(number)), test);
     return word == nullptr ? "" : word->word;
 }
 

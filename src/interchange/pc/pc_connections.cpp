@@ -60,7 +60,8 @@ void PcConnections::AddExit(std::string_view word, std::string_view destination)
                    destination);
         return;
     }
-    if (LeadsElsewhere(found->number, *number)) {
+    const condacts::PlaceNumber to(*number);
+    if (LeadsElsewhere(found->number, to)) {
         job_.Fault("ERROR: " + name + " leads elsewhere already.", word);
     }
     job_.Note(store::TableNum::Locations, *location_, "exits", static_cast<std::size_t>(tokens_),
@@ -69,13 +70,13 @@ void PcConnections::AddExit(std::string_view word, std::string_view destination)
               job_.PlaceOf(destination));
     AppendExit(exits_, found->word);
     AppendExit(exits_, std::to_string(*number));
-    AppendExit(numericExits_, std::to_string(found->number));
+    AppendExit(numericExits_, std::to_string(found->number.value));
     AppendExit(numericExits_, std::to_string(*number));
-    destinations_.emplace(found->number, *number);
+    destinations_.emplace(found->number, to);
     tokens_ += 2;
 }
 
-bool PcConnections::LeadsElsewhere(int word, int destination) const {
+bool PcConnections::LeadsElsewhere(condacts::WordNumber word, condacts::PlaceNumber destination) const {
     const auto found = destinations_.find(word);
     return found != destinations_.end() && found->second != destination;
 }

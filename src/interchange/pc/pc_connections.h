@@ -23,7 +23,7 @@ class PcConnections final : public PcSection {
 
   private:
     void AddExit(std::string_view word, std::string_view destination);
-    bool LeadsElsewhere(int word, int destination) const;
+    bool LeadsElsewhere(condacts::WordNumber word, condacts::PlaceNumber destination) const;
     void Flush();
 
     PcSourceJob& job_;
@@ -32,7 +32,8 @@ class PcConnections final : public PcSection {
     std::set<std::int64_t> seen_;
     std::string exits_;
     std::string numericExits_;
-    std::map<int, int> destinations_;  ///< of the location at hand, by word number
+    /// Of the location at hand, by the word.
+    std::map<condacts::WordNumber, condacts::PlaceNumber> destinations_;
     std::int64_t tokens_ = 0;
 };
 

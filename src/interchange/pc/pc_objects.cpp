@@ -31,7 +31,8 @@ bool IsYes(std::string_view token) {
 
 void SetWord(Cursor& object, const char* textField, const char* numberField, const Word* word) {
     object.SetField(textField, word == nullptr ? std::string(condacts::kNoWord) : word->word);
-    object.SetField(numberField, std::int64_t{word == nullptr ? condacts::kNoWordNumber : word->number});
+    object.SetField(numberField,
+                    std::int64_t{(word == nullptr ? condacts::kNoWordNumber : word->number).value});
 }
 
 }  // namespace

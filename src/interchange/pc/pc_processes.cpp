@@ -219,8 +219,8 @@ void PcProcesses::Store() {
     record.SetField("estype", std::int64_t{process_});
     record.SetField("w1", entry_->w1);
     record.SetField("w2", entry_->w2);
-    record.SetField("w1num", std::int64_t{entry_->w1Number});
-    record.SetField("w2num", std::int64_t{entry_->w2Number});
+    record.SetField("w1num", std::int64_t{entry_->w1Number.value});
+    record.SetField("w2num", std::int64_t{entry_->w2Number.value});
     record.SetField("numcas", std::int64_t{condacts::CountTokens(entry_->condActs)});
     record.SetField("condacts", entry_->condActs);
     record.SetField("numericcondacts", entry_->numeric);

@@ -25,8 +25,8 @@ class PcProcesses final : public PcSection {
     struct Entry {
         std::string w1;
         std::string w2;
-        int w1Number = 0;
-        int w2Number = 0;
+        condacts::WordNumber w1Number;
+        condacts::WordNumber w2Number;
         SourcePlace place;
         std::vector<SourcePlace> words;  ///< places of w1 and w2
         std::string condActs;

@@ -23,7 +23,7 @@ constexpr int kFirstFreeNumber = 20;
 
 struct NeededWord {
     const char* word;
-    int type;
+    condacts::WordType type;
 };
 
 constexpr NeededWord kNeededWords[] = {
@@ -60,21 +60,22 @@ class ScriptVocabulary {
                         [&](const Word& word) { return word.type == needed.type; })) {
             return;
         }
-        const std::optional<int> number = FreeNumber(needed.type);
-        const Word word{needed.word, number.value_or(0), needed.type};
+        const std::optional<condacts::WordNumber> number = FreeNumber(needed.type);
+        const Word word{needed.word, number.value_or(condacts::WordNumber(0)), needed.type};
         if (!number || condacts::Clashes(word, sameSpelling)) return;
         words_.push_back(word);
         Cursor& record = table_.Add(table_.HighestKey() + 1);
         record.SetField("word", word.word);
-        record.SetField("vocnum", std::int64_t{word.number});
+        record.SetField("vocnum", std::int64_t{word.number.value});
         record.SetField("voctypen", std::int64_t{word.type});
         record.SetField("voctype", std::string(condacts::WordTypeName(word.type)));
         table_.Update();
     }
 
   private:
-    std::optional<int> FreeNumber(int type) const {
-        for (int number = kFirstFreeNumber; number <= condacts::limit::kHighestWord; ++number) {
+    std::optional<condacts::WordNumber> FreeNumber(condacts::WordType type) const {
+        for (int i = kFirstFreeNumber; i <= condacts::limit::kHighestWord; ++i) {
+            const condacts::WordNumber number(i);
             const bool taken = std::any_of(words_.begin(), words_.end(), [&](const Word& word) {
                 return word.type == type && word.number == number;
             });
@@ -105,8 +106,8 @@ void AddEntry(PcSourceJob& job, const ScriptCommand& command, const condacts::Wo
     record.SetField("estype", std::int64_t{0});
     record.SetField("w1", verb->word);
     record.SetField("w2", noun->word);
-    record.SetField("w1num", std::int64_t{verb->number});
-    record.SetField("w2num", std::int64_t{noun->number});
+    record.SetField("w1num", std::int64_t{verb->number.value});
+    record.SetField("w2num", std::int64_t{noun->number.value});
     record.SetField("numcas", std::int64_t{condacts::CountTokens(command.condActs)});
     record.SetField("condacts", std::string(command.condActs));
     record.SetField("numericcondacts", numeric.line);

@@ -24,7 +24,7 @@ void SetObjectDefaults(Cursor& object) {
     for (const char* field : {"objnoun", "objadject"})
         object.SetField(field, std::string(condacts::kNoWord));
     for (const char* field : {"objnumnoun", "objnumadject"}) {
-        object.SetField(field, std::int64_t{condacts::kNoWordNumber});
+        object.SetField(field, std::int64_t{condacts::kNoWordNumber.value});
     }
     object.SetField("objloc", std::int64_t{condacts::place::kNotCreated.value});
     object.SetField("objlocdesc", std::string("Not Created"));

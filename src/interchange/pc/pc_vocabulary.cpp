@@ -14,23 +14,25 @@ namespace {
 using condacts::Word;
 using store::TableNum;
 
-bool IsWordNumber(int number, int type) {
-    if (type == condacts::kReserved) return number <= condacts::kNoWordNumber;
+bool IsWordNumber(condacts::WordNumber word, condacts::WordType type) {
+    const int number = word.value;
+    if (type == condacts::kReserved) return word <= condacts::kNoWordNumber;
     return number >= condacts::limit::kLowestWord && number <= condacts::limit::kHighestWord;
 }
 
 }  // namespace
 
-std::optional<int> FindWordType(std::string_view type) {
+std::optional<condacts::WordType> FindWordType(std::string_view type) {
     // The word that this system has for conjunctions is not the one that people write.
     if (text::EqualsNoCase(type, "conjunction")) return condacts::kConjunction;
     for (int number = condacts::kVerb; number <= condacts::kReserved; ++number) {
-        if (text::EqualsNoCase(condacts::WordTypeName(number), type)) return number;
+        if (text::EqualsNoCase(condacts::WordTypeName(number), type))
+            return static_cast<condacts::WordType>(number);
     }
     return std::nullopt;
 }
 
-int WordTypeFromSource(std::string_view type) {
+condacts::WordType WordTypeFromSource(std::string_view type) {
     return FindWordType(type).value_or(condacts::kReserved);
 }
 
@@ -59,7 +61,7 @@ void PcVocabulary::Line(std::string_view line) {
     if (!FindWordType(tokens[2]))
         job_.Fault("ERROR: " + std::string(tokens[2]) + " is no word type. RESERVED is taken.", tokens[2]);
     job_.FaultBehind(tokens, 3);
-    const Word word{job_.Word(tokens[0]), *number, WordTypeFromSource(tokens[2])};
+    const Word word{job_.Word(tokens[0]), condacts::WordNumber(*number), WordTypeFromSource(tokens[2])};
     if (!IsWordNumber(word.number, word.type)) {
         job_.Fault(std::string(condacts::kWordNumberFault), tokens[1]);
         return;
@@ -71,7 +73,7 @@ void PcVocabulary::Line(std::string_view line) {
     }
     sameSpelling.push_back(word);
     store::Cursor& record = table_->Add(table_->HighestKey() + 1);
-    record.SetField("vocnum", std::int64_t{word.number});
+    record.SetField("vocnum", std::int64_t{word.number.value});
     record.SetField("word", word.word);
     record.SetField("voctypen", std::int64_t{word.type});
     record.SetField("voctype", std::string(condacts::WordTypeName(word.type)));

@@ -28,10 +28,10 @@ class PcVocabulary final : public PcSection {
     std::unordered_map<std::string, std::vector<condacts::Word>> bySpelling_;
 };
 
-/// The number of a type by its word in a source, case ignored; nullopt for any other text.
-std::optional<int> FindWordType(std::string_view type);
+/// A type by its word in a source, case ignored; nullopt for any other text.
+std::optional<condacts::WordType> FindWordType(std::string_view type);
 
-/// The number of a type by its word in a source, case ignored; any other text is a reserved word.
-int WordTypeFromSource(std::string_view type);
+/// A type by its word in a source, case ignored; any other text is a reserved word.
+condacts::WordType WordTypeFromSource(std::string_view type);
 
 }  // namespace fabula::interchange

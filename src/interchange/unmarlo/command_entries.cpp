@@ -59,8 +59,8 @@ bool HasEntry(store::Adventure& adventure, const EntryCommand& command) {
 }
 
 /// A word of an entry is looked up as a verb or noun, verbs first.
-int EntryWordNumber(const WordIndex& words, const char* word) {
-    for (const int type : {condacts::kVerb, condacts::kNoun}) {
+condacts::WordNumber EntryWordNumber(const WordIndex& words, const char* word) {
+    for (const condacts::WordType type : {condacts::kVerb, condacts::kNoun}) {
         const condacts::Word* found = words.FindTyped(word, type);
         if (found != nullptr) return found->number;
     }

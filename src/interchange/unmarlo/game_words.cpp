@@ -10,12 +10,14 @@ namespace fabula::interchange {
 namespace {
 
 using condacts::Word;
+using condacts::WordNumber;
+using condacts::WordType;
 using store::Cursor;
 using store::TableNum;
 
 constexpr std::int64_t kHighestIndex = std::numeric_limits<std::int16_t>::max();
 
-bool IsFixedKind(int type) {
+bool IsFixedKind(WordType type) {
     return type == condacts::kVerb || type == condacts::kNoun || type == condacts::kAdjective;
 }
 
@@ -27,11 +29,11 @@ GameWords::GameWords(store::Adventure& adventure)
         bySpelling_[word.word].push_back(word);
 }
 
-bool GameWords::Has(const std::string& word, int type) const {
+bool GameWords::Has(const std::string& word, WordType type) const {
     return NumberOf(word, type).has_value();
 }
 
-std::optional<int> GameWords::NumberOf(const std::string& word, int type) const {
+std::optional<WordNumber> GameWords::NumberOf(const std::string& word, WordType type) const {
     const auto found = bySpelling_.find(word);
     if (found == bySpelling_.end()) return std::nullopt;
     for (const Word& candidate : found->second) {
@@ -44,7 +46,7 @@ bool GameWords::Add(const Word& word) {
     if (table_.HighestKey() >= kHighestIndex) return false;
     Cursor& record = table_.Add(table_.HighestKey() + 1);
     record.SetField("word", word.word);
-    record.SetField("vocnum", std::int64_t{word.number});
+    record.SetField("vocnum", std::int64_t{word.number.value});
     record.SetField("voctypen", std::int64_t{word.type});
     record.SetField("voctype", std::string(condacts::WordTypeName(word.type)));
     table_.Update();
@@ -53,10 +55,11 @@ bool GameWords::Add(const Word& word) {
     return true;
 }
 
-void GameWords::MakeSureOf(const std::string& word, int type, std::vector<int> types) {
+void GameWords::MakeSureOf(const std::string& word, WordType type, std::vector<WordType> types) {
     if (Has(word, type)) return;
     types.push_back(type);
-    for (int number = condacts::kFirstPlainNoun; number <= condacts::limit::kHighestWord; ++number) {
+    for (int i = condacts::kFirstPlainNoun.value; i <= condacts::limit::kHighestWord; ++i) {
+        const WordNumber number(i);
         const bool taken = std::any_of(words_.begin(), words_.end(), [&](const Word& other) {
             return other.number == number &&
                    std::find(types.begin(), types.end(), other.type) != types.end();
@@ -71,8 +74,8 @@ DefaultWords::DefaultWords(store::Adventure& adventure) {
     store::PreparedQuery rows =
         adventure.Prepare(TableNum::Vocabulary, "word, vocnum, voctypen", "", "vocindex");
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        words_.push_back({std::string(rows.Text(0)), static_cast<int>(rows.Number(1)),
-                          static_cast<int>(rows.Number(2))});
+        words_.push_back({std::string(rows.Text(0)), WordNumber(static_cast<int>(rows.Number(1))),
+                          static_cast<WordType>(rows.Number(2))});
     }
     rows.Reset();
     adventure.DeleteFrom(TableNum::Vocabulary);

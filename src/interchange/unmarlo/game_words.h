@@ -16,15 +16,16 @@ class GameWords {
     explicit GameWords(store::Adventure& adventure);
 
     bool Has(const std::string& word) const { return bySpelling_.contains(word); }
-    bool Has(const std::string& word, int type) const;
+    bool Has(const std::string& word, condacts::WordType type) const;
     /// The number of the first word of that spelling and type; nothing when there is none.
-    std::optional<int> NumberOf(const std::string& word, int type) const;
+    std::optional<condacts::WordNumber> NumberOf(const std::string& word, condacts::WordType type) const;
 
     /// Adds a word at the next key. False, and nothing added, when there is no key left.
     bool Add(const condacts::Word& word);
     /// Adds a word of that spelling and type at the lowest number that no word in `types` has, from 20 up,
     /// unless there is one already. Directions and conversion nouns have the numbers below.
-    void MakeSureOf(const std::string& word, int type, std::vector<int> types = {});
+    void MakeSureOf(const std::string& word, condacts::WordType type,
+                    std::vector<condacts::WordType> types = {});
 
   private:
     KeyedTable table_;

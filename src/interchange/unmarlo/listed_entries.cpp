@@ -38,8 +38,8 @@ void ListedEntries::Add(const ListedEntry& entry, const condacts::Catalogue& cat
     record.SetField("estype", std::int64_t{entry.table});
     record.SetField("w1", entry.w1);
     record.SetField("w2", entry.w2);
-    record.SetField("w1num", std::int64_t{entry.w1Number});
-    record.SetField("w2num", std::int64_t{entry.w2Number});
+    record.SetField("w1num", std::int64_t{entry.w1Number.value});
+    record.SetField("w2num", std::int64_t{entry.w2Number.value});
     record.SetField("condacts", entry.condActs);
     record.SetField("numericcondacts", condacts::CondActsToNumeric(entry.condActs, catalogue, words).line);
     record.SetField("numcas", std::int64_t{condacts::CountTokens(entry.condActs)});

@@ -14,8 +14,8 @@ struct ListedEntry {
     int table = 0;  ///< `estype`
     std::string w1;
     std::string w2;
-    int w1Number = condacts::kNoWordNumber;
-    int w2Number = condacts::kNoWordNumber;
+    condacts::WordNumber w1Number = condacts::kNoWordNumber;
+    condacts::WordNumber w2Number = condacts::kNoWordNumber;
     std::string condActs;
 
     bool IsEmpty() const { return condActs.empty(); }

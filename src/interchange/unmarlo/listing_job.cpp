@@ -26,7 +26,7 @@ void StoreObject(KeyedTable& objects, std::int64_t number, const std::string& te
     for (const char* field : {"objnoun", "objadject"})
         record.SetField(field, std::string(condacts::kNoWord));
     for (const char* field : {"objnumnoun", "objnumadject"})
-        record.SetField(field, std::int64_t{condacts::kNoWordNumber});
+        record.SetField(field, std::int64_t{condacts::kNoWordNumber.value});
     SetPlace(record, condacts::place::kNotCreated);
     record.SetField("objweight", std::int64_t{1});
     record.SetField("objattr", std::string());

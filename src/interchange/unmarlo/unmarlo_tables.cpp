@@ -76,7 +76,8 @@ class MarloVocabulary final : public UnMarloSection {
             job_.Fault(kBadListingLine);
             return;
         }
-        if (!words_.Add({word, *number, condacts::kNoun})) job_.Fault("ERROR: There are too many words.");
+        if (!words_.Add({word, condacts::WordNumber(*number), condacts::kNoun}))
+            job_.Fault("ERROR: There are too many words.");
     }
 
     void Finish() override {

@@ -14,9 +14,9 @@ using condacts::WordIndex;
 using store::Cursor;
 using store::TableNum;
 
-std::optional<int> NumberOf(const WordIndex& words, std::string_view word) {
+std::optional<condacts::WordNumber> NumberOf(const WordIndex& words, std::string_view word) {
     const condacts::Word* found = words.Find(word);
-    return found == nullptr ? std::nullopt : std::optional<int>(found->number);
+    return found == nullptr ? std::nullopt : std::optional(found->number);
 }
 
 void TellCount(const ListingJob& job, int count, const char* what) {
@@ -41,7 +41,7 @@ void NumberExits(ListingJob& job, const WordIndex& words) {
             }
             const std::string separator = exits.empty() ? "" : " ";
             exits += separator + std::string(tokens[i]) + " " + std::string(tokens[i + 1]);
-            numeric += separator + std::to_string(*number) + " " + std::string(tokens[i + 1]);
+            numeric += separator + std::to_string(number->value) + " " + std::string(tokens[i + 1]);
             ++count;
         }
         locations.SetField("exits", exits);
@@ -58,7 +58,7 @@ void NumberObjects(ListingJob& job, const WordIndex& words) {
     for (; !objects.Eof(); objects.MoveNext()) {
         if (objects.Text("objnoun") == condacts::kNoWord) continue;
         const auto number = NumberOf(words, objects.Text("objnoun"));
-        objects.SetField("objnumnoun", std::int64_t{number.value_or(condacts::kNoWordNumber)});
+        objects.SetField("objnumnoun", std::int64_t{number.value_or(condacts::kNoWordNumber).value});
         if (!number) objects.SetField("objnoun", std::string(condacts::kNoWord));
         objects.Update();
         if (number) ++count;
@@ -74,8 +74,8 @@ void NumberEntries(ListingJob& job, const WordIndex& words) {
     for (; !entries.Eof(); entries.MoveNext()) {
         const auto first = NumberOf(words, entries.Text(w1));
         const auto second = NumberOf(words, entries.Text(w2));
-        entries.SetField("w1num", std::int64_t{first.value_or(condacts::kNoWordNumber)});
-        entries.SetField("w2num", std::int64_t{second.value_or(condacts::kNoWordNumber)});
+        entries.SetField("w1num", std::int64_t{first.value_or(condacts::kNoWordNumber).value});
+        entries.SetField("w2num", std::int64_t{second.value_or(condacts::kNoWordNumber).value});
         entries.Update();
         count += (first ? 1 : 0) + (second ? 1 : 0);
     }

@@ -41,7 +41,8 @@ class Connections final : public UnVelSection {
         }
         const std::string separator = exits_.empty() ? "" : " ";
         exits_ += separator + found->word + " " + std::to_string(*destination);
-        numericExits_ += separator + std::to_string(found->number) + " " + std::to_string(*destination);
+        numericExits_ +=
+            separator + std::to_string(found->number.value) + " " + std::to_string(*destination);
     }
 
     void Finish() override {

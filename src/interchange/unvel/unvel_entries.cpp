@@ -57,7 +57,8 @@ class Entries final : public UnVelSection {
     }
 
     /// A word that the vocabulary does not have stays, as one that fits any.
-    static void SetWord(std::string_view listed, const Word* found, std::string& word, int& number) {
+    static void SetWord(std::string_view listed, const Word* found, std::string& word,
+                        condacts::WordNumber& number) {
         number = found != nullptr ? found->number : condacts::kNoWordNumber;
         if (listed.empty() || listed == kAnyWord) {
             word = std::string(condacts::kNoWord);

@@ -94,7 +94,8 @@ class ObjectWords final : public ObjectLines {
             const Word* found = job_.words.Find(words[index], test);
             known = known && found != nullptr;
             object.SetField(field, found ? found->word : std::string(condacts::kNoWord));
-            object.SetField(numberField, std::int64_t{found ? found->number : condacts::kNoWordNumber});
+            object.SetField(numberField,
+                            std::int64_t{(found ? found->number : condacts::kNoWordNumber).value});
         };
         set(0, condacts::IsNounOrReserved, "objnoun", "objnumnoun");
         set(1, condacts::IsAdjectiveOrReserved, "objadject", "objnumadject");

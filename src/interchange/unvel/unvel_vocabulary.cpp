@@ -13,7 +13,7 @@ constexpr Columns kType{10, 80};
 
 struct TypeName {
     std::string_view name;
-    int type;
+    condacts::WordType type;
 };
 /// Anything else is a noun.
 constexpr TypeName kTypeNames[] = {
@@ -30,7 +30,7 @@ constexpr TypeName kTypeNames[] = {
     {"RESERVED", condacts::kReserved},
 };
 
-int TypeFrom(std::string_view name) {
+condacts::WordType TypeFrom(std::string_view name) {
     for (const TypeName& entry : kTypeNames) {
         if (text::EqualsNoCase(entry.name, name)) return entry.type;
     }
@@ -44,14 +44,15 @@ class Vocabulary final : public UnVelSection {
     void Line(std::string_view line) override {
         if (text::TrimBlanks(line).empty()) return;
         const std::string word = text::UpperCase(CutTrimmed(line, kWord));
-        const auto number = ListedNumber(CutTrimmed(line, kNumber), condacts::kNoWordNumber);
-        const int type = TypeFrom(CutTrimmed(line, kType));
+        const auto number = ListedNumber(CutTrimmed(line, kNumber), condacts::kNoWordNumber.value);
+        const condacts::WordType type = TypeFrom(CutTrimmed(line, kType));
         const bool isWord = !word.empty() && word.find(' ') == std::string::npos;
         if (!isWord || !number || words_.Has(word, type)) {
             job_.Fault(kBadListingLine);
             return;
         }
-        if (!words_.Add({word, *number, type})) job_.Fault("ERROR: There are too many words.");
+        if (!words_.Add({word, condacts::WordNumber(*number), type}))
+            job_.Fault("ERROR: There are too many words.");
     }
 
     /// The default words follow at once, since entries are looked up in the whole vocabulary.

@@ -199,7 +199,7 @@ class ExtractWriter {
         for (; !objects.Eof(); objects.MoveNext()) {
             Record(TableNum::Objects, objects.Number("objnum"));
             const auto word = [&](const char* field, const char* numberField) {
-                if (objects.Number(numberField) == condacts::kNoWordNumber)
+                if (objects.Number(numberField) == condacts::kNoWordNumber.value)
                     return std::string(condacts::kNoWord);
                 return file_.Word(objects.Text(field), kLetters);
             };
@@ -279,7 +279,7 @@ class ExtractWriter {
         const condacts::WordCondition* condition = condacts::FindWordCondition(statement.condAct->name);
         if (condition != nullptr) {
             const condacts::Word* word = words_.FindTyped(token, condition->wordType);
-            written = std::to_string(word == nullptr ? condacts::kNoWordNumber : word->number);
+            written = std::to_string((word == nullptr ? condacts::kNoWordNumber : word->number).value);
             const condacts::Word* back =
                 word == nullptr ? nullptr : words_.FindNumberTyped(word->number, condition->wordType);
             if (token != condacts::kNoWord && (back == nullptr || back->word != token))

@@ -411,7 +411,7 @@ TEST(TypedNames, OfferFlagsAndProcessTablesByTheirDescriptions) {
 TEST(TypedNames, OfferToAddAMessageThatIsNotThere) {
     HelpOf help;
     EXPECT_THAT(help.Offered("MESSAGE \"It snows|"), IsEmpty());
-    help->OfferNewMessage(3);
+    help->OfferNewMessage(condacts::MessageNumber(3));
     EXPECT_THAT(help.Offered("MESSAGE \"It snows|"), ElementsAre("Add message 3: \u201CIt snows\u201D"));
     EXPECT_THAT(help.Offered("MESSAGE \"It|"),
                 ElementsAre("1  It is too dark.", "Add message 3: \u201CIt\u201D"));

@@ -49,7 +49,7 @@ class Verified : public testing::Test {
         const condacts::WordIndex words = condacts::LoadWords(*adventure_);
         const auto numberOf = [&](const char* word) {
             const condacts::Word* found = words.Find(word);
-            return std::int64_t{found == nullptr ? condacts::kNoWordNumber : found->number};
+            return std::int64_t{found == nullptr ? condacts::kNoWordNumber.value : found->number.value};
         };
         const std::string numbers =
             condacts::CondActsToNumeric(condActs, condacts::LoadCatalogue(*adventure_), words).line;
@@ -71,8 +71,8 @@ class Verified : public testing::Test {
         records.AddNew();
         records.SetField(key, number);
         if (table == TableNum::Objects) {
-            records.SetField("objnumnoun", std::int64_t{condacts::kNoWordNumber});
-            records.SetField("objnumadject", std::int64_t{condacts::kNoWordNumber});
+            records.SetField("objnumnoun", std::int64_t{condacts::kNoWordNumber.value});
+            records.SetField("objnumadject", std::int64_t{condacts::kNoWordNumber.value});
         }
         records.Update();
     }

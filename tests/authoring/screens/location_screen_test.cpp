@@ -194,8 +194,8 @@ TEST_F(LocationScreenTest, ShowsWhichLocationsLeadHere) {
         screen.exits = "NORTH 3 CLIMB " + std::to_string(from);
         EXPECT_TRUE(screen.Update());
     }
-    EXPECT_THAT(Open(3).LeadsHere(),
-                ElementsAre(Neighbour{1, "Room 1", "NORD"}, Neighbour{5, "Room 5", "NORD"}));
+    EXPECT_THAT(Open(3).LeadsHere(), ElementsAre(Neighbour{condacts::PlaceNumber(1), "Room 1", "NORD"},
+                                                 Neighbour{condacts::PlaceNumber(5), "Room 5", "NORD"}));
 }
 
 TEST_F(LocationScreenTest, StoresWordsByTheFirstOfTheirNumber) {

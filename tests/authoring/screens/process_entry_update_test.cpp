@@ -240,8 +240,8 @@ TEST(NewMessage, ComesWithItsEntryInOneStepOfUndo) {
     CondActScreen game;
     const auto before = game.desk.Everything();
     ProcessEntryScreen screen(game.desk.context, New(game.desk));
-    EXPECT_EQ(screen.AddMessage("It snows."), 3);
-    EXPECT_EQ(screen.AddMessage("It thaws."), 4);
+    EXPECT_EQ(screen.AddMessage("It snows."), condacts::MessageNumber(3));
+    EXPECT_EQ(screen.AddMessage("It thaws."), condacts::MessageNumber(4));
     screen.line = "MESSAGE 3 MESSAGE 4 DONE";
     EXPECT_EQ(game.desk.Everything(), before);
     EXPECT_TRUE(screen.Update());
@@ -255,7 +255,7 @@ TEST(NewMessage, ComesWithItsEntryInOneStepOfUndo) {
 TEST(NewMessage, ThatTheLineDoesNotPrintInTheEndIsNotAdded) {
     CondActScreen game;
     ProcessEntryScreen screen(game.desk.context, New(game.desk));
-    EXPECT_EQ(screen.AddMessage("It snows."), 3);
+    EXPECT_EQ(screen.AddMessage("It snows."), condacts::MessageNumber(3));
     screen.line = "DONE";
     EXPECT_TRUE(screen.Update());
     EXPECT_THAT(Messages(game), IsEmpty());

@@ -252,7 +252,7 @@ void LocationDialog::ShowNeighbours() {
     neighbours_->clear();
     for (const authoring::Neighbour& from : screen_.LeadsHere()) {
         neighbours_->addItem(
-            tr("%1 - %2, by %3").arg(from.location).arg(qt::ToQt(from.name), qt::ToQt(from.word)));
+            tr("%1 - %2, by %3").arg(from.location.value).arg(qt::ToQt(from.name), qt::ToQt(from.word)));
     }
     if (screen_.LeadsHere().empty()) neighbours_->addItem(tr("No exit leads here."));
 }
@@ -269,7 +269,7 @@ std::optional<authoring::NamedRecord> LocationDialog::NamedAtCursor() {
         const int row = neighbours_->currentRow();
         if (row < 0 || row >= static_cast<int>(screen_.LeadsHere().size())) return std::nullopt;
         return authoring::NamedRecord{store::TableNum::Locations,
-                                      screen_.LeadsHere()[static_cast<std::size_t>(row)].location};
+                                      screen_.LeadsHere()[static_cast<std::size_t>(row)].location.value};
     }
     const QTableWidgetItem* cell = at == rows_ ? rows_->currentItem() : nullptr;
     if (cell == nullptr) return std::nullopt;

@@ -23,7 +23,7 @@ constexpr const char* kPlaces[] = {"&Not created", "&Worn", "&Carried", "In a &r
 
 /// What the field of the noun shows.
 QString TextOf(const authoring::ListItem* word) {
-    const bool none = word == nullptr || word->number == condacts::kNoWordNumber;
+    const bool none = word == nullptr || word->number == condacts::kNoWordNumber.value;
     return none ? QString() : qt::ToQt(word->text);
 }
 
@@ -137,8 +137,8 @@ std::optional<authoring::NamedRecord> ObjectDialog::NamedAtCursor() {
     const authoring::ListItem* word = nullptr;
     if (at == noun_) word = screen_.noun.Chosen();
     if (at == adjective_) word = screen_.adjective.Chosen();
-    if (word == nullptr || word->number == condacts::kNoWordNumber) return std::nullopt;
-    return authoring::NamedWord(screen_.Adventure(), word->text, word->number);
+    if (word == nullptr || word->number == condacts::kNoWordNumber.value) return std::nullopt;
+    return authoring::NamedWord(screen_.Adventure(), word->text, condacts::WordNumber(word->number));
 }
 
 void ObjectDialog::Read() {
@@ -159,7 +159,7 @@ void ObjectDialog::ReadNoun() {
     screen_.newNoun.clear();
     if (typed == TextOf(chosen)) return;
     screen_.noun.index = noun_->findText(typed, Qt::MatchFixedString);
-    if (typed.isEmpty()) screen_.noun.ChooseNumber(condacts::kNoWordNumber);
+    if (typed.isEmpty()) screen_.noun.ChooseNumber(condacts::kNoWordNumber.value);
     if (screen_.noun.Chosen() == nullptr) screen_.newNoun = qt::FromQt(typed);
 }
 

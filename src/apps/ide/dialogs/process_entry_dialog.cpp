@@ -328,9 +328,9 @@ void ProcessEntryDialog::Take() {
 }
 
 /// A box that tells why it is refused must not set off the check of the line.
-std::optional<int> ProcessEntryDialog::NewMessage(const std::string& text) {
+std::optional<condacts::MessageNumber> ProcessEntryDialog::NewMessage(const std::string& text) {
     const bool wasChecking = std::exchange(checking_, true);
-    std::optional<int> number;
+    std::optional<condacts::MessageNumber> number;
     Guarded([&] {
         number = screen_.AddMessage(text);
         return number.has_value();

@@ -60,7 +60,7 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     void Take();
     void ShowParameter(const ParameterWidgets& widgets, const authoring::ParameterField& field);
     void FocusChanged(QWidget* left, QWidget* now);
-    std::optional<int> NewMessage(const std::string& text);
+    std::optional<condacts::MessageNumber> NewMessage(const std::string& text);
     bool Guarded(const std::function<bool()>& work);
     bool Leave(const QWidget* field);
     void CheckLeft(QWidget* field);

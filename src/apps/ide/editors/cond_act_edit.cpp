@@ -112,9 +112,9 @@ void CondActEdit::Insert(int item) {
     const authoring::Completion& taken = offered_.items[static_cast<std::size_t>(item)];
     std::string insert = taken.insert;
     if (!taken.newText.empty()) {
-        const std::optional<int> number = onNewMessage(taken.newText);
+        const std::optional<condacts::MessageNumber> number = onNewMessage(taken.newText);
         if (!number) return;
-        insert = std::to_string(*number);
+        insert = std::to_string(number->value);
     }
     const std::string line = Read().line;
     QTextCursor cursor = textCursor();

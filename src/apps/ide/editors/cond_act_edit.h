@@ -30,8 +30,8 @@ class CondActEdit final : public QPlainTextEdit {
     std::function<void(const QString& meaning)> onMeaning = [](const QString&) {};
     std::function<void(const QString& fault)> onFault = [](const QString&) {};
     /// Asked for the number of a message that is to be added; nullopt when it is refused.
-    std::function<std::optional<int>(const std::string& text)> onNewMessage =
-        [](const std::string&) -> std::optional<int> { return std::nullopt; };
+    std::function<std::optional<condacts::MessageNumber>(const std::string& text)> onNewMessage =
+        [](const std::string&) -> std::optional<condacts::MessageNumber> { return std::nullopt; };
 
     /// The place of the cursor, in bytes.
     std::size_t CursorByte() const { return Read().cursor; }
