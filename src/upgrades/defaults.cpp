@@ -22,6 +22,11 @@ const store::SectionForm* FormFor(TableNum table) {
     return nullptr;
 }
 
+/// Old files hold what games of all types have in common, so that the section of one type does.
+std::string SectionOf(TableNum table) {
+    return store::DataSection(*store::FindTable(table), store::NameOf(store::AdventureKind::Fabula));
+}
+
 }  // namespace
 
 Defaults::Defaults(std::filesystem::path file)
@@ -50,8 +55,7 @@ const Record* Defaults::FieldRecord(TableNum table, std::string_view field) {
 const std::vector<Record>& Defaults::Records(TableNum table) {
     const auto known = records_.find(table);
     if (known != records_.end()) return known->second;
-    const std::string section =
-        store::DataSection(*store::FindTable(table), store::NameOf(store::AdventureKind::Fabula));
+    const std::string section = SectionOf(table);
     platform::NoEvents events;
     const store::SectionForm* form = FormFor(table);
     if (form) return records_[table] = store::ReadSection(data_, section, *form, Schema(table), events);
@@ -63,7 +67,7 @@ const std::vector<Record>& Defaults::Records(TableNum table) {
 const Record& Defaults::CondAct(std::string_view name) {
     const auto known = condActs_.find(name);
     if (known != condActs_.end()) return known->second;
-    const std::string section = store::DataSection(*store::FindTable(TableNum::CondActs), kTypeForRecords);
+    const std::string section = SectionOf(TableNum::CondActs);
     auto found = store::FindRow(data_, section, *FormFor(TableNum::CondActs), Schema(TableNum::CondActs),
                                 "caname", name);
     if (found) return condActs_[std::string(name)] = std::move(*found);
