@@ -22,7 +22,7 @@ const store::SectionForm* FormFor(TableNum table) {
     return nullptr;
 }
 
-/// Old files hold what games of all types have in common, so that the section of one type does.
+/// Records come from the sections of the type Fabula, whatever the type of the file.
 std::string SectionOf(TableNum table) {
     return store::DataSection(*store::FindTable(table), store::NameOf(store::AdventureKind::Fabula));
 }

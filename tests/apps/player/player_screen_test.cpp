@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/manual_timers.h"
-#include "platform/scripted_dialogs.h"
 #include "support/game_builder.h"
+#include "support/manual_timers.h"
 #include "support/recording_window.h"
+#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {
