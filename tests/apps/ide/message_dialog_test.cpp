@@ -28,8 +28,7 @@ class MessageDialogTest : public testing::Test {
         session_.emplace(authoring::ScreenContext{*document_, dialogs_});
         session_->currentTable = TableNum::SystemMessages;
         screen_.emplace(*session_, authoring::ScreenKey{.key = 7});
-        editing_.emplace(document_->Adventure());
-        dialog_.emplace(*screen_, *editing_, dialogs_);
+        dialog_.emplace(*screen_);
         dialog_->show();
         dialog_->activateWindow();
         EXPECT_TRUE(test::BecomesActive(&*dialog_));
@@ -56,7 +55,6 @@ class MessageDialogTest : public testing::Test {
     std::optional<Document> document_;
     std::optional<authoring::ScreenContext> session_;
     std::optional<authoring::MessageScreen> screen_;
-    std::optional<authoring::TextEditing> editing_;
     std::optional<ide::MessageDialog> dialog_;
 };
 
