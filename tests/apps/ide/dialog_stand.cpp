@@ -50,7 +50,7 @@ Opened Keep(std::shared_ptr<Parts> parts) {
 template <typename Dialog, typename Screen>
 Opened OpenRecord(Desk& desk, ScreenKey key) {
     struct Parts {
-        Parts(authoring::ScreenContext& session, ScreenKey of) : screen(session, of), dialog(screen) {}
+        Parts(authoring::ScreenContext& context, ScreenKey of) : screen(context, of), dialog(screen) {}
         Screen screen;
         Dialog dialog;
     };
