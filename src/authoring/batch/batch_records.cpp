@@ -189,7 +189,7 @@ bool StoreMessage(BatchWork& work, const BatchChange& change) {
                                                                        : "pmsgmsg";
     MessageScreen screen(work.context, change.key);
     if (change.key.isNew || change.Has(field)) screen.TypeMessage(change.Text(field).value_or(""));
-    PutComment(change, screen.Comment());
+    PutComment(change, *screen.Comment());
     return screen.Update() || change.RefuseAt(work.dialogs, "text", {{"text", field}});
 }
 

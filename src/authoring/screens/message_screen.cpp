@@ -6,9 +6,6 @@
 
 #include "authoring/entries/record_keys.h"
 #include "authoring/fields/text_field.h"
-#include "store/tags.h"
-#include "text/markup.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 
@@ -43,7 +40,7 @@ const MessageScreen::Personality& MessageScreen::PersonalityOf(TableNum table) {
 }
 
 MessageScreen::MessageScreen(ScreenContext& context, ScreenKey key)
-    : context_(context),
+    : EditScreen(context),
       personality_(PersonalityOf(context.currentTable)),
       key_(key),
       comment_(Adventure(), personality_.table, key) {
@@ -95,14 +92,9 @@ void MessageScreen::TypeMessage(std::string text) {
 }
 
 bool MessageScreen::LeaveText() {
-    const text::TagCatalogue tags = store::LoadTagCatalogue(Adventure());
-    if (!text::ValidateDescription(text_, personality_.tagsAllowed, tags, &context_.dialogs).IsValid())
-        return false;
+    if (!CheckText("text", text_, personality_.tagsAllowed)) return false;
     const std::size_t most = MostCharacters();
-    const std::size_t length = text::Length(ToStored(text_));
-    if (most == 0 || length <= most) return true;
-    return Refuse(context_.dialogs, "A maximum of " + std::to_string(most) +
-                                        " characters is allowed.\nYou have " + std::to_string(length));
+    return most == 0 || CheckLength("text", ToStored(text_), most);
 }
 
 std::string MessageScreen::ChangeName() const {

@@ -4,14 +4,14 @@
 #include <string>
 #include <string_view>
 
-#include "authoring/document/screen_context.h"
+#include "authoring/fields/edit_screen.h"
 #include "authoring/fields/record_comment.h"
 
 namespace fabula::authoring {
 
 /// The screen of a message, a system message or the description of a process table, by the context's
 /// current table; another one throws std::logic_error.
-class MessageScreen {
+class MessageScreen final : public EditScreen {
   public:
     MessageScreen(ScreenContext& context, ScreenKey key);
 
@@ -31,9 +31,9 @@ class MessageScreen {
     /// The text, with "\n" for line ends. Typing sets Changed, even if the text is then as it was.
     const std::string& Text() const { return text_; }
     void TypeMessage(std::string text);
-    bool Changed() const { return changed_ || comment_.Changed(); }
+    bool Changed() const override { return changed_ || comment_.Changed(); }
 
-    RecordComment& Comment() { return comment_; }
+    RecordComment* Comment() override { return &comment_; }
 
     /// False when the text is refused; the author has been told why.
     bool LeaveText();
@@ -50,13 +50,11 @@ class MessageScreen {
     struct Personality;
     static const Personality& PersonalityOf(store::TableNum table);
 
-    store::Adventure& Adventure() const { return context_.document.Adventure(); }
     store::Cursor& OpenRecord() const;
     void Read();
     std::string ChangeName() const;
     void Store();
 
-    ScreenContext& context_;
     const Personality& personality_;
     ScreenKey key_;
     std::string text_;

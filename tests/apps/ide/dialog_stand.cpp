@@ -2,7 +2,6 @@
 
 #include <ostream>
 
-#include "authoring/fields/text_editing.h"
 #include "authoring/screens/message_screen.h"
 #include "ide/dialogs/colour_dialog.h"
 #include "ide/dialogs/decompile_dialog.h"
@@ -51,7 +50,7 @@ Opened Keep(std::shared_ptr<Parts> parts) {
 template <typename Dialog, typename Screen>
 Opened OpenRecord(Desk& desk, ScreenKey key) {
     struct Parts {
-        Parts(authoring::ScreenContext& session, ScreenKey of) : screen(session, of), dialog(screen) {}
+        Parts(authoring::ScreenContext& context, ScreenKey of) : screen(context, of), dialog(screen) {}
         Screen screen;
         Dialog dialog;
     };
@@ -74,17 +73,8 @@ Opened OpenNewWord(Desk& desk) {
 }
 
 Opened OpenText(Desk& desk, TableNum table, int key) {
-    struct Parts {
-        Parts(Desk& of, int number)
-            : screen(of.context, {.key = number}),
-              editing(of.Adventure()),
-              dialog(screen, editing, of.dialogs) {}
-        authoring::MessageScreen screen;
-        authoring::TextEditing editing;
-        ide::MessageDialog dialog;
-    };
     desk.context.currentTable = table;
-    return Keep<ide::MessageDialog>(std::make_shared<Parts>(desk, key));
+    return OpenRecord<ide::MessageDialog, authoring::MessageScreen>(desk, {.key = key});
 }
 
 Opened OpenProcessEntry(Desk& desk) {

@@ -50,6 +50,10 @@ TEST_P(EveryDialogTest, OpensWithItsTitleAndAPageOfTheHelp) {
     EXPECT_FALSE(dialog->property("helpPage").toString().isEmpty());
 }
 
+TEST_P(EveryDialogTest, LeavesTheHelpUsableBesideIt) {
+    EXPECT_EQ(GetParam().open(desk_)->windowModality(), Qt::WindowModal);
+}
+
 TEST_P(EveryDialogTest, GivesTheKeyboardToItsFirstField) {
     const auto dialog = Open();
     ASSERT_NE(QApplication::focusWidget(), nullptr);

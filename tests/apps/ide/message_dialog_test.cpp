@@ -25,11 +25,10 @@ class MessageDialogTest : public testing::Test {
     MessageDialogTest() {
         MakeAdventure(folder_ / "game.fbd");
         document_.emplace(folder_ / "game.fbd");
-        session_.emplace(authoring::ScreenContext{*document_, dialogs_});
-        session_->currentTable = TableNum::SystemMessages;
-        screen_.emplace(*session_, authoring::ScreenKey{.key = 7});
-        editing_.emplace(document_->Adventure());
-        dialog_.emplace(*screen_, *editing_, dialogs_);
+        context_.emplace(authoring::ScreenContext{*document_, dialogs_});
+        context_->currentTable = TableNum::SystemMessages;
+        screen_.emplace(*context_, authoring::ScreenKey{.key = 7});
+        dialog_.emplace(*screen_);
         dialog_->show();
         dialog_->activateWindow();
         EXPECT_TRUE(test::BecomesActive(&*dialog_));
@@ -54,9 +53,8 @@ class MessageDialogTest : public testing::Test {
     TempFolder folder_;
     platform::ScriptedDialogs dialogs_;
     std::optional<Document> document_;
-    std::optional<authoring::ScreenContext> session_;
+    std::optional<authoring::ScreenContext> context_;
     std::optional<authoring::MessageScreen> screen_;
-    std::optional<authoring::TextEditing> editing_;
     std::optional<ide::MessageDialog> dialog_;
 };
 

@@ -90,14 +90,14 @@ TEST_F(RecordCommentTest, IsStoredByEveryScreenOfARecordWithoutACheck) {
 TEST_F(RecordCommentTest, OfATextIsStoredAloneAndWithTheText) {
     desk_.context.currentTable = TableNum::Messages;
     MessageScreen alone(desk_.context, {7});
-    alone.Comment().text = "Unlucky?";
+    alone.Comment()->text = "Unlucky?";
     EXPECT_TRUE(alone.Update());
     EXPECT_THAT(desk_.Rows(TableNum::Messages, "msgmsg, comment", "msgnum=7"),
                 ElementsAre("Seven|Unlucky?"));
     MessageScreen both(desk_.context, {7});
-    EXPECT_EQ(both.Comment().text, "Unlucky?");
+    EXPECT_EQ(both.Comment()->text, "Unlucky?");
     both.TypeMessage("Lucky seven");
-    both.Comment().text = "Lucky";
+    both.Comment()->text = "Lucky";
     EXPECT_TRUE(both.Update());
     EXPECT_THAT(desk_.Rows(TableNum::Messages, "msgmsg, comment", "msgnum=7"),
                 ElementsAre("Lucky seven|Lucky"));
@@ -107,9 +107,9 @@ TEST_F(RecordCommentTest, OfATextIsStoredOnTheWayToTheNext) {
     desk_.Add(TableNum::Messages, {{"msgnum", std::int64_t{8}}, {"msgmsg", std::string("Eight")}});
     desk_.context.currentTable = TableNum::Messages;
     MessageScreen screen(desk_.context, {7});
-    screen.Comment().text = "Unlucky?";
+    screen.Comment()->text = "Unlucky?";
     EXPECT_TRUE(screen.Step(1));
-    EXPECT_EQ(screen.Comment().text, "");
+    EXPECT_EQ(screen.Comment()->text, "");
     EXPECT_EQ(Comment(TableNum::Messages, "msgnum=7"), "Unlucky?");
 }
 
@@ -148,7 +148,7 @@ TEST_F(RecordCommentTest, ThatIsEmptiedIsNone) {
 TEST_F(RecordCommentTest, FollowsItsRecordToAnotherNumber) {
     desk_.context.currentTable = TableNum::Messages;
     MessageScreen screen(desk_.context, {7});
-    screen.Comment().text = "Unlucky?";
+    screen.Comment()->text = "Unlucky?";
     EXPECT_TRUE(screen.Update());
     desk_.Add(TableNum::Messages, {{"msgnum", std::int64_t{8}}, {"msgmsg", std::string("Eight")}});
     references::Renumber(desk_.Adventure(),

@@ -29,9 +29,10 @@ QIcon ColourSwatch(int number, int height) {
 }
 
 ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
-    : QDialog(parent), screen_(screen), chosen_(new QButtonGroup(this)), current_(new QLabel) {
-    setWindowTitle(qt::Translated(screen.Caption()));
-    setProperty("helpPage", "frmcolors.html");
+    : ColumnDialog({"", qt::Translated(screen.Caption()), "frmcolors.html"}, parent),
+      screen_(screen),
+      chosen_(new QButtonGroup(this)),
+      current_(new QLabel) {
     auto* colours = new QHBoxLayout;
     colours->addWidget(NewColours(0, authoring::ColourScreen::kNormalColours));
     colours->addWidget(
@@ -40,12 +41,10 @@ ColourDialog::ColourDialog(authoring::ColourScreen& screen, QWidget* parent)
     colours->setSpacing(16);
     auto* row = new QHBoxLayout;
     const auto [update, exit] = AddUpdateAndExit(*row);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    layout->setSpacing(12);
-    layout->addLayout(colours);
-    layout->addWidget(current_);
-    layout->addLayout(row);
+    Column().setSpacing(12);
+    Column().addLayout(colours);
+    Column().addWidget(current_);
+    Column().addLayout(row);
     connect(update, &QPushButton::clicked, this, &QDialog::accept);
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     ShowCurrent();

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <QIcon>
 
 #include "authoring/settings/colour_screen.h"
+#include "ide/dialogs/column_dialog.h"
 
 class QButtonGroup;
 class QLabel;
@@ -16,7 +16,7 @@ QIcon ColourSwatch(int number, int height);
 
 /// The dialog that picks one of the 16 colours. Accepted by Update or a double click on a colour; `screen`
 /// then has the number.
-class ColourDialog final : public QDialog {
+class ColourDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ColourDialog(authoring::ColourScreen& screen, QWidget* parent = nullptr);

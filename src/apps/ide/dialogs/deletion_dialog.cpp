@@ -14,7 +14,6 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kDeletionMargin = 16;
 constexpr QSize kSize(640, 360);
 
 QLabel* NewSentence(const std::string& text, const char* name) {
@@ -28,10 +27,9 @@ QLabel* NewSentence(const std::string& text, const char* name) {
 }  // namespace
 
 DeletionDialog::DeletionDialog(const authoring::DeletionUses& uses, QWidget* parent)
-    : QDialog(parent), uses_(uses), list_(new QListWidget) {
-    setObjectName("DeletionDialog");
-    setWindowTitle(tr("Delete"));
-    setProperty(qt::kHelpPage, kUsesPage);
+    : ColumnDialog({"DeletionDialog", tr("Delete"), kUsesPage}, parent),
+      uses_(uses),
+      list_(new QListWidget) {
     resize(kSize);
     list_->setObjectName("deletionUses");
     list_->setAccessibleName(tr("Uses of what is to be deleted"));
@@ -47,12 +45,10 @@ DeletionDialog::DeletionDialog(const authoring::DeletionUses& uses, QWidget* par
     buttons->addStretch();
     for (QPushButton* button : {go, remove, cancel})
         buttons->addWidget(button);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kDeletionMargin, kDeletionMargin, kDeletionMargin, kDeletionMargin);
-    column->addWidget(NewSentence(uses.Title(), "deletionTitle"));
-    column->addWidget(NewSentence(uses.Summary(), "deletionSummary"));
-    column->addWidget(list_, 1);
-    column->addLayout(buttons);
+    Column().addWidget(NewSentence(uses.Title(), "deletionTitle"));
+    Column().addWidget(NewSentence(uses.Summary(), "deletionSummary"));
+    Column().addWidget(list_, 1);
+    Column().addLayout(buttons);
     connect(remove, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(go, &QPushButton::clicked, this, [this] { Go(); });

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <optional>
 
 #include "authoring/desk/deletion_uses.h"
+#include "ide/dialogs/column_dialog.h"
 
 class QListWidget;
 
@@ -12,7 +12,7 @@ namespace fabula::ide {
 
 /// What uses a record that is about to be deleted. It is accepted when the author goes on with that; with a
 /// place to go to, the record stays.
-class DeletionDialog final : public QDialog {
+class DeletionDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `uses` outlives the dialog.

@@ -8,7 +8,7 @@
 namespace fabula::ide {
 
 FlagDialog::FlagDialog(authoring::FlagScreen& screen, QWidget* parent)
-    : RecordDialog(screen, tr("Flag %1").arg(screen.Key().key), "frmflags.html", parent),
+    : RecordDialog(screen, {}, "frmflags.html", parent),
       screen_(screen),
       type_(NewChoice(screen.type)),
       use_(NewChoice(screen.use)),
@@ -19,6 +19,7 @@ FlagDialog::FlagDialog(authoring::FlagScreen& screen, QWidget* parent)
     CheckOnLeave(type_, [this] { return screen_.LeaveType(); });
     CheckOnLeave(use_, [this] { return screen_.LeaveUse(); });
     CheckOnLeave(description_, [this] { return screen_.LeaveDescription(); });
+    ShowRecord();
 }
 
 void FlagDialog::ShowOpened() {

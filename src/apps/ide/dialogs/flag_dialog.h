@@ -17,7 +17,6 @@ class FlagDialog final : public RecordDialog {
     void Read() override;
     void Show() override {}
     void ShowOpened() override;
-    bool Update() override { return screen_.Update(); }
 
   private:
     authoring::FlagScreen& screen_;

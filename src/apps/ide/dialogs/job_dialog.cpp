@@ -7,27 +7,20 @@
 #include <QVBoxLayout>
 
 #include "ide/editors/edit_controls.h"
-#include "ide/editors/layout.h"
 
 namespace fabula::ide {
 
 JobDialog::JobDialog(const JobWindow& window, QWidget* parent)
-    : QDialog(parent),
-      column_(new QVBoxLayout(this)),
+    : ColumnDialog({window.name, window.title, window.helpPage}, parent),
       form_(new QFormLayout),
       status_(new QPlainTextEdit),
       bar_(new QProgressBar),
       start_(window.start),
       exit_(NewButton(tr("E&xit"), "exit")) {
-    setObjectName(window.name);
-    setWindowTitle(window.title);
-    setProperty("helpPage", window.helpPage);
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    column_->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    column_->setSpacing(10);
+    Column().setSpacing(10);
     form_->setHorizontalSpacing(16);
     form_->setVerticalSpacing(8);
-    column_->addLayout(form_);
+    Column().addLayout(form_);
     start_->setDefault(true);
     connect(start_, &QPushButton::clicked, this, [this] { Start(); });
     connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
@@ -41,7 +34,7 @@ void JobDialog::AddStatus(const QString& name, const QString& hint, int lines) {
     status_->setTabChangesFocus(true);
     status_->setPlaceholderText(hint);
     status_->setMinimumHeight(fontMetrics().lineSpacing() * lines);
-    column_->addWidget(status_, 1);
+    Column().addWidget(status_, 1);
 }
 
 void JobDialog::AddEnd(QPushButton* other) {
@@ -55,8 +48,8 @@ void JobDialog::AddEnd(QPushButton* other) {
     row->addStretch(1);
     row->addWidget(start_);
     row->addWidget(exit_);
-    column_->addWidget(bar_);
-    column_->addWidget(buttons);
+    Column().addWidget(bar_);
+    Column().addWidget(buttons);
 }
 
 void JobDialog::ShowRunning(bool running) {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
+
+#include "ide/dialogs/column_dialog.h"
 
 class QFormLayout;
 class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
-class QVBoxLayout;
 
 namespace fabula::ide {
 
@@ -23,7 +23,7 @@ struct JobWindow {
 /// ("barProgress"), and the buttons that start ("start" or what the window calls it) and leave ("exit").
 /// While a job runs, Exit is Cancel. The window of a job puts its rows into the form, then calls
 /// `AddStatus` and `AddEnd`.
-class JobDialog : public QDialog {
+class JobDialog : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// Ends a job that runs; without one, closes.
@@ -44,7 +44,6 @@ class JobDialog : public QDialog {
     /// Exit or Cancel.
     void ShowRunning(bool running);
 
-    QVBoxLayout& Column() { return *column_; }
     QFormLayout& Form() { return *form_; }
     QPlainTextEdit& Status() { return *status_; }
     QProgressBar& Bar() { return *bar_; }
@@ -52,7 +51,6 @@ class JobDialog : public QDialog {
     QPushButton& ExitButton() { return *exit_; }
 
   private:
-    QVBoxLayout* column_;
     QFormLayout* form_;
     QPlainTextEdit* status_;
     QProgressBar* bar_;

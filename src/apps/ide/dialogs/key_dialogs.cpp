@@ -10,9 +10,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-#include "ide/editors/layout.h"
 #include "platform/error.h"
-#include "qt/help_request.h"
 #include "qt/strings.h"
 #include "qt/wrapped_label.h"
 
@@ -20,6 +18,8 @@ namespace fabula::ide {
 namespace {
 
 constexpr QSize kKeysSize(620, 360);
+constexpr int kKeysSpacing = 12;
+constexpr const char* kKeysPage = "frmkeychange.html";
 
 QLabel* Note(std::string_view text) {
     auto* note = new qt::WrappedLabel(qt::Translated(text));
@@ -39,22 +39,14 @@ QDialogButtonBox* Buttons(QDialog& dialog, const QString& accept, const char* na
     return box;
 }
 
-QVBoxLayout* Prepare(QDialog& dialog, const char* name, std::string_view title) {
-    dialog.setObjectName(name);
-    dialog.setWindowTitle(qt::Translated(title));
-    dialog.setProperty(qt::kHelpPage, "frmkeychange.html");
-    dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    layout->setSpacing(12);
-    return layout;
-}
-
 }  // namespace
 
 KeySelectDialog::KeySelectDialog(authoring::KeySelectScreen& screen, QWidget* parent)
-    : QDialog(parent), screen_(screen), table_(new QComboBox), explanation_(Note("")) {
-    auto* layout = Prepare(*this, "keySelect", authoring::KeySelectScreen::kTitle);
+    : ColumnDialog({"keySelect", qt::Translated(authoring::KeySelectScreen::kTitle), kKeysPage}, parent),
+      screen_(screen),
+      table_(new QComboBox),
+      explanation_(Note("")) {
+    Column().setSpacing(kKeysSpacing);
     auto* form = new QFormLayout;
     table_->setObjectName("table");
     table_->addItem("");
@@ -66,10 +58,10 @@ KeySelectDialog::KeySelectDialog(authoring::KeySelectScreen& screen, QWidget* pa
     w1_ = AddLine(*form, "w1", tr("&Verb"));
     w2_ = AddLine(*form, "w2", tr("&Noun"));
     auto* buttons = Buttons(*this, tr("&Select"), "select");
-    layout->addLayout(form);
-    layout->addWidget(explanation_);
-    layout->addStretch();
-    layout->addWidget(buttons);
+    Column().addLayout(form);
+    Column().addWidget(explanation_);
+    Column().addStretch();
+    Column().addWidget(buttons);
     connect(table_, &QComboBox::currentIndexChanged, this, [this] { ShowTable(); });
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Select(); });
     ShowTable();
@@ -103,8 +95,11 @@ void KeySelectDialog::Select() {
 
 KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::Dialogs& dialogs,
                                  QWidget* parent)
-    : QDialog(parent), screen_(screen), dialogs_(dialogs), rows_(new QTableWidget) {
-    auto* layout = Prepare(*this, "keyChange", authoring::KeyChangeScreen::kTitle);
+    : ColumnDialog({"keyChange", qt::Translated(authoring::KeyChangeScreen::kTitle), kKeysPage}, parent),
+      screen_(screen),
+      dialogs_(dialogs),
+      rows_(new QTableWidget) {
+    Column().setSpacing(kKeysSpacing);
     rows_->setObjectName("rows");
     rows_->setAccessibleName(tr("Records"));
     rows_->setTabKeyNavigation(false);
@@ -114,9 +109,9 @@ KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::D
     rows_->horizontalHeader()->setStretchLastSection(true);
     rows_->verticalHeader()->hide();
     auto* buttons = Buttons(*this, tr("&Finish"), "finish");
-    layout->addWidget(Note(screen.Instruction()));
-    layout->addWidget(rows_);
-    layout->addWidget(buttons);
+    Column().addWidget(Note(screen.Instruction()));
+    Column().addWidget(rows_);
+    Column().addWidget(buttons);
     resize(kKeysSize);
     ShowRows();
     connect(rows_, &QTableWidget::cellChanged, this, [this](int row, int) { Leave(row); });

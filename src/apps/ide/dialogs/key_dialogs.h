@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 
 #include "authoring/jobs/key_change.h"
+#include "ide/dialogs/column_dialog.h"
 
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QTableWidget;
@@ -13,7 +14,7 @@ class QTableWidget;
 namespace fabula::ide {
 
 /// The dialog of KeySelectScreen. Accepted when records were found; `Selection` tells which.
-class KeySelectDialog final : public QDialog {
+class KeySelectDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// The screen outlives the dialog.
@@ -22,7 +23,7 @@ class KeySelectDialog final : public QDialog {
     const std::optional<authoring::KeySelection>& Selection() const { return selection_; }
 
   private:
-    QLineEdit* AddLine(class QFormLayout& form, const char* name, const QString& label);
+    QLineEdit* AddLine(QFormLayout& form, const char* name, const QString& label);
     void ShowTable();
     void Select();
 
@@ -37,7 +38,7 @@ class KeySelectDialog final : public QDialog {
 };
 
 /// The dialog of KeyChangeScreen: the records, of which only the keys can be edited. Accepted by Finish.
-class KeyChangeDialog final : public QDialog {
+class KeyChangeDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// Both outlive the dialog. `dialogs` tells what could not be stored.

@@ -12,12 +12,9 @@
 
 namespace fabula::ide {
 
-KeypadDialog::KeypadDialog(platform::Person& person, QWidget* parent) : QDialog(parent), person_(person) {
-    setObjectName("KeypadSize");
-    setWindowTitle(qt::Translated(listings::kKeypadTitle));
-    setProperty(qt::kHelpPage, "frmtempsize.html");
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
+KeypadDialog::KeypadDialog(platform::Person& person, QWidget* parent)
+    : ColumnDialog({"KeypadSize", qt::Translated(listings::kKeypadTitle), "frmtempsize.html"}, parent),
+      person_(person) {
     auto* frame = new QGroupBox(qt::Translated(listings::kKeypadFrame));
     auto* sizes = new QVBoxLayout(frame);
     for (const listings::KeypadSize& size : listings::kKeypadSizes) {
@@ -27,14 +24,14 @@ KeypadDialog::KeypadDialog(platform::Person& person, QWidget* parent) : QDialog(
         sizes_.push_back(button);
     }
     sizes_.front()->setChecked(true);
-    column->addWidget(frame);
+    Column().addWidget(frame);
     auto* go = new QPushButton(tr("&Continue"));
     go->setObjectName("continue");
     go->setDefault(true);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(go);
-    column->addLayout(buttons);
+    Column().addLayout(buttons);
     connect(go, &QPushButton::clicked, this, [this] { ClickContinue(); });
     sizes_.front()->setFocus();
 }

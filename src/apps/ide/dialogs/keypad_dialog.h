@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <string>
 #include <vector>
 
+#include "ide/dialogs/column_dialog.h"
 #include "platform/person.h"
 
 class QRadioButton;
@@ -13,7 +13,7 @@ namespace fabula::ide {
 
 /// The choice of the size of the keypad that a template is printed for. Another size than those that there
 /// are is told of when it is chosen.
-class KeypadDialog final : public QDialog {
+class KeypadDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit KeypadDialog(platform::Person& person, QWidget* parent = nullptr);

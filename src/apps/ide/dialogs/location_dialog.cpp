@@ -77,7 +77,7 @@ void Name(QWidget* control, const char* name, const QString& accessibleName) {
 }  // namespace
 
 LocationDialog::LocationDialog(authoring::LocationScreen& screen, QWidget* parent)
-    : RecordDialog(screen, tr("Location %1").arg(screen.Key().key), "frmvellocation.html", parent),
+    : RecordDialog(screen, {}, "frmvellocation.html", parent),
       screen_(screen),
       editing_(screen.Adventure()),
       shortDescription_(new MarkupEdit(
@@ -95,8 +95,6 @@ LocationDialog::LocationDialog(authoring::LocationScreen& screen, QWidget* paren
       pictureView_(new PictureView) {
     form_->addRow(shortDescription_);
     form_->addRow(description_);
-    shortDescription_->SetText(screen_.shortDescription);
-    description_->SetText(screen_.description);
     BeginColumn();
     AddExits();
     AddPicture();
@@ -104,7 +102,7 @@ LocationDialog::LocationDialog(authoring::LocationScreen& screen, QWidget* paren
     CheckOnLeave(&shortDescription_->Field(), [this] { return screen_.LeaveShortDescription(); });
     CheckOnLeave(&description_->Field(), [this] { return screen_.LeaveDescription(); });
     CheckOnLeave(exits_, [this] { return screen_.LeaveExits(); });
-    Show();
+    ShowRecord();
 }
 
 void LocationDialog::AddExits() {
@@ -199,7 +197,6 @@ void LocationDialog::AddPicture() {
     auto* clear = NewButton(tr("&No picture"), "clearPicture");
     picture_->setReadOnly(true);
     AddControl(tr("&Picture:"), picture_, "picture");
-    ShowDrawing();
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(kGap);
     buttons->addWidget(choose);
@@ -245,7 +242,6 @@ void LocationDialog::AddNeighbours() {
     list->setMaximumHeight(5 * list->fontMetrics().lineSpacing());
     AddControl(tr("Leads &here:"), list, "leadsHere");
     neighbours_ = list;
-    ShowNeighbours();
 }
 
 void LocationDialog::ShowNeighbours() {

@@ -30,7 +30,6 @@ class LocationDialog final : public RecordDialog {
     void Read() override;
     void Show() override;
     void ShowOpened() override;
-    bool Update() override { return screen_.Update(); }
 
   private:
     void AddExits();

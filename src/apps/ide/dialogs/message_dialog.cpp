@@ -3,45 +3,36 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "ide/dialogs/leaving.h"
-#include "ide/editors/comment_edit.h"
 #include "ide/editors/layout.h"
-#include "ide/editors/leave_check.h"
 #include "ide/editors/markup_edit.h"
-#include "platform/error.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
 
-MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::TextEditing& editing,
-                             platform::Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent), screen_(screen), dialogs_(dialogs), number_(new QLabel) {
-    setWindowTitle(qt::Translated(screen.Caption()));
-    setProperty("helpPage", "frmbothmessages.html");
-    setSizeGripEnabled(true);
+MessageDialog::MessageDialog(authoring::MessageScreen& screen, QWidget* parent)
+    : ScreenDialog(screen, qt::Translated(screen.Caption()), "frmbothmessages.html", parent),
+      screen_(screen),
+      editing_(screen.Adventure()),
+      number_(new QLabel) {
     number_->setObjectName("number");
     text_ = new MarkupEdit(
-        editing, {tr("&Text:"), qt::Translated(screen.PreviewCaption()), screen.TagsAllowed()}, "text");
+        editing_, {tr("&Text:"), qt::Translated(screen.PreviewCaption()), screen.TagsAllowed()}, "text");
     text_->typed = [this](const std::string& text) { screen_.TypeMessage(text); };
+    auto* contents = new QWidget;
+    auto* rows = new QVBoxLayout(contents);
+    rows->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
+    rows->setSpacing(10);
     auto* top = new QHBoxLayout;
     AddMoves(*top);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    layout->setSpacing(10);
-    layout->addLayout(top);
-    layout->addWidget(text_, 1);
-    comment_ = new CommentEdit(screen.Comment(), *this);
-    layout->addWidget(comment_);
-    auto* bottom = new QHBoxLayout;
-    AddButtons(*bottom);
-    layout->addLayout(bottom);
+    rows->addLayout(top);
+    rows->addWidget(text_, 1);
+    SetContents(contents);
+    CheckOnLeave(&text_->Field(), [this] { return StaysWithFault(screen_.LeaveText()); });
     ShowRecord();
-    resize(sizeHint().expandedTo({640, 480}));
 }
 
 void MessageDialog::AddMoves(QHBoxLayout& row) {
@@ -68,9 +59,13 @@ void MessageDialog::AddMoves(QHBoxLayout& row) {
     row.addStretch(1);
 }
 
+QSize MessageDialog::sizeHint() const {
+    return ScreenDialog::sizeHint().expandedTo({640, 480});
+}
+
 void MessageDialog::setVisible(bool visible) {
     if (visible && isWindow()) text_->setFocus();
-    QDialog::setVisible(visible);
+    ScreenDialog::setVisible(visible);
 }
 
 void MessageDialog::StandBeside() {
@@ -80,59 +75,22 @@ void MessageDialog::StandBeside() {
         key->setEnabled(false);
 }
 
-void MessageDialog::AddButtons(QHBoxLayout& row) {
-    row.addStretch(1);
-    auto* update = new QPushButton(tr("&Update"));
-    update->setObjectName("update");
-    update->setAccessibleName(tr("Update"));
-    update->setDefault(true);
-    auto* exit = new QPushButton(tr("Exit"));
-    exit->setObjectName("exit");
-    exit->setAccessibleName(tr("Exit"));
-    exit->setAutoDefault(false);
-    row.addWidget(update);
-    row.addWidget(exit);
-    new LeaveCheck(text_->Field(), [this] { Leave(); });
-    connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
-    connect(exit, &QPushButton::clicked, this, [this] { reject(); });
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
-        connect(shortcut, &QShortcut::activated, this, [this] { ClickUpdate(); });
-    }
-}
-
-void MessageDialog::ShowRecord() {
+void MessageDialog::ShowOpened() {
     number_->setText(QString("%1 %2").arg(qt::Translated(screen_.Label())).arg(screen_.Number()));
     text_->SetText(screen_.Text());
-    comment_->Show();
 }
 
 void MessageDialog::Move(int step) {
     const int before = screen_.Number();
-    try {
-        screen_.Step(step);
-    } catch (const Error& error) {
-        dialogs_.Tell(error.what(), "Error");
-    }
+    const bool moved = Guarded([this, step] { return screen_.Step(step); });
     if (screen_.Number() != before) return ShowRecord();
-    text_->ShowFault();
+    StaysWithFault(moved);
 }
 
-void MessageDialog::reject() {
-    if (MayClose(screen_.Changed(), dialogs_, [this] { ClickUpdate(); })) QDialog::reject();
-}
-
-void MessageDialog::Leave() {
-    if (!screen_.LeaveText()) text_->ShowFault();
-}
-
-void MessageDialog::ClickUpdate() {
-    try {
-        if (screen_.Update()) return accept();
-    } catch (const Error& error) {
-        dialogs_.Tell(error.what(), "Error");
-    }
-    text_->ShowFault();
+/// A text that does not fit keeps the keyboard, with its fault chosen.
+bool MessageDialog::StaysWithFault(bool fits) {
+    if (!fits) text_->ShowFault();
+    return fits;
 }
 
 }  // namespace fabula::ide

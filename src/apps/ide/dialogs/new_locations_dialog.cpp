@@ -22,11 +22,11 @@ constexpr int kLettersOfALocation = 10;
 
 NewLocationsDialog::NewLocationsDialog(authoring::NewLocationsScreen& screen, platform::Dialogs& dialogs,
                                        QWidget* parent)
-    : QDialog(parent), screen_(screen), dialogs_(dialogs) {
-    setObjectName("NewLocationsScreen");
-    setWindowTitle(qt::Translated(authoring::NewLocationsScreen::kTitle));
-    setProperty("helpPage", "frmnewlocs.html");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
+    : ColumnDialog(
+          {"NewLocationsScreen", qt::Translated(authoring::NewLocationsScreen::kTitle), "frmnewlocs.html"},
+          parent),
+      screen_(screen),
+      dialogs_(dialogs) {
     auto* told = new qt::WrappedLabel(
         tr("Some of the pictures draw others by GOSUB. Which location does each go to? The "
            "GOSUBs follow. Exit leaves all as it was loaded."));
@@ -38,12 +38,10 @@ NewLocationsDialog::NewLocationsDialog(authoring::NewLocationsScreen& screen, pl
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
     const auto [update, exit] = AddUpdateAndExit(*row, "E&xit");
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    column->setSpacing(10);
-    column->addWidget(told);
-    column->addWidget(scroll, 1);
-    column->addLayout(row);
+    Column().setSpacing(10);
+    Column().addWidget(told);
+    Column().addWidget(scroll, 1);
+    Column().addLayout(row);
     QObject::connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
     QObject::connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     if (!fields_.empty()) fields_.front()->setFocus();

@@ -40,7 +40,7 @@ QComboBox* NewNounList(const authoring::DropList& list) {
 }  // namespace
 
 ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
-    : RecordDialog(screen, tr("Object %1").arg(screen.Key().key), "frmvelobjects.html", parent),
+    : RecordDialog(screen, {}, "frmvelobjects.html", parent),
       screen_(screen),
       editing_(screen.Adventure()),
       description_(new MarkupEdit(editing_, {tr("&Description:"), "", true}, "description")),
@@ -54,7 +54,6 @@ ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
       inside_(new QLabel),
       weight_(new QLineEdit) {
     form_->addRow(description_);
-    description_->SetText(screen_.description);
     AddControl(tr("N&oun:"), noun_, "noun");
     AddNounOffer();
     AddControl(tr("Ad&jective:"), adjective_, "adjective");
@@ -83,7 +82,7 @@ ObjectDialog::ObjectDialog(authoring::ObjectScreen& screen, QWidget* parent)
     CheckOnLeave(noun_, [this] { return screen_.LeaveNoun(); });
     CheckOnLeave(room_, [this] { return screen_.LeaveRoom(); });
     CheckOnLeave(weight_, [this] { return screen_.LeaveWeight(); });
-    Show();
+    ShowRecord();
 }
 
 /// Below the noun: a tick for a noun that is not there yet, as soon as it is named.

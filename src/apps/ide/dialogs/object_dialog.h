@@ -26,7 +26,6 @@ class ObjectDialog final : public RecordDialog {
     void Read() override;
     void Show() override;
     void ShowOpened() override;
-    bool Update() override { return screen_.Update(); }
 
   private:
     QWidget* NewPlaces();

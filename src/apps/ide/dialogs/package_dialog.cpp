@@ -42,28 +42,22 @@ QCheckBox* NewBox(std::string_view text, const char* name) {
 }  // namespace
 
 PackageDialog::PackageDialog(PackageScreen& screen, QWidget* parent)
-    : QDialog(parent),
+    : ColumnDialog({"package", qt::Translated(PackageScreen::kTitle), "frmpackage.html"}, parent),
       screen_(screen),
       version_(new QLineEdit(qt::ToQt(screen.version))),
       engine_(NewBox(PackageScreen::kIncludeEngine, "includeEngine")),
       files_(new QTableWidget(0, 2)),
       readMe_(new QPlainTextEdit),
       look_(NewBox(PackageScreen::kLookAtReadMe, "lookAtReadMe")) {
-    setObjectName("package");
-    setWindowTitle(qt::Translated(PackageScreen::kTitle));
-    setProperty(qt::kHelpPage, "frmpackage.html");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    layout->setSpacing(10);
+    Column().setSpacing(10);
     auto* form = new QFormLayout;
     version_->setObjectName("version");
     version_->setAccessibleName(tr("Version"));
     form->addRow(tr("&Version:"), version_);
-    layout->addLayout(form);
-    AddList(*layout);
-    AddReadMe(*layout);
-    AddButtons(*layout);
+    Column().addLayout(form);
+    AddList(Column());
+    AddReadMe(Column());
+    AddButtons(Column());
     Show();
     version_->setFocus();
 }

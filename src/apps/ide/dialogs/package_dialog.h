@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 
+#include "ide/dialogs/column_dialog.h"
 #include "packages/package_screen.h"
 
 class QCheckBox;
@@ -15,7 +15,7 @@ namespace fabula::ide {
 
 /// The window of `PackageScreen`: the files in a list, what goes into the ReadMe, and the button that
 /// packs.
-class PackageDialog final : public QDialog {
+class PackageDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit PackageDialog(packages::PackageScreen& screen, QWidget* parent = nullptr);

@@ -26,16 +26,12 @@ constexpr QSize kPreviewSize(860, 700);
 
 PreviewDialog::PreviewDialog(listings::PrintPreview& preview, const PrintServices& services,
                              QWidget* parent)
-    : QDialog(parent),
+    : ColumnDialog({"PrintPreview", qt::Translated(preview.Title()), "frmprintpreview.html"}, parent),
       preview_(preview),
       services_(services),
       place_(new QLabel(tr("Making the pages…"))),
       scroll_(new QScrollArea),
       sheet_(new SheetView) {
-    setObjectName("PrintPreview");
-    setWindowTitle(qt::Translated(preview.Title()));
-    setProperty(qt::kHelpPage, "frmprintpreview.html");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
     auto* moves = new QHBoxLayout;
     first_ = AddButton(*moves, tr("&First"), "first", &PreviewDialog::First);
     previous_ = AddButton(*moves, tr("P&rev"), "previous", &PreviewDialog::Previous);
@@ -58,11 +54,10 @@ PreviewDialog::PreviewDialog(listings::PrintPreview& preview, const PrintService
     scroll_->setAlignment(Qt::AlignHCenter);
     scroll_->setBackgroundRole(QPalette::Dark);
     scroll_->installEventFilter(this);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kPreviewMargin, kPreviewMargin, kPreviewMargin, kPreviewMargin);
-    column->addLayout(moves);
-    column->addLayout(others);
-    column->addWidget(scroll_, 1);
+    Column().setContentsMargins(kPreviewMargin, kPreviewMargin, kPreviewMargin, kPreviewMargin);
+    Column().addLayout(moves);
+    Column().addLayout(others);
+    Column().addWidget(scroll_, 1);
     resize(kPreviewSize);
     ShowPage();
     scroll_->setFocus();

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 
+#include "ide/dialogs/column_dialog.h"
 #include "ide/dialogs/print_dialog.h"
 #include "listings/print_preview.h"
 
@@ -16,7 +16,7 @@ namespace fabula::ide {
 class SheetView;
 
 /// The window of a `PrintPreview`. The pages are made once it is on the screen.
-class PreviewDialog final : public QDialog {
+class PreviewDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     PreviewDialog(listings::PrintPreview& preview, const PrintServices& services,

@@ -32,25 +32,22 @@ void Fill(QComboBox& list, const authoring::DropList& items) {
 }  // namespace
 
 PrintDialog::PrintDialog(PrintScreen& screen, const PrintServices& services, QWidget* parent)
-    : QDialog(parent), screen_(screen), services_(services), status_(new QLabel) {
-    setObjectName("PrintScreen");
-    setWindowTitle(qt::Translated(screen.Title()));
-    setProperty(qt::kHelpPage, "frmprint.html");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    column->setSpacing(6);
+    : ColumnDialog({"PrintScreen", qt::Translated(screen.Title()), "frmprint.html"}, parent),
+      screen_(screen),
+      services_(services),
+      status_(new QLabel) {
+    Column().setSpacing(6);
     auto* form = new QFormLayout;
     form->setVerticalSpacing(6);
     AddForm(*form);
     if (screen.HasSpecial()) AddSpecial(*form);
-    column->addLayout(form);
-    AddComplete(*column);
+    Column().addLayout(form);
+    AddComplete(Column());
     status_->setObjectName("status");
     status_->setAccessibleDescription(tr("Status"));
-    column->addWidget(status_);
-    column->addStretch();
-    AddButtons(*column);
+    Column().addWidget(status_);
+    Column().addStretch();
+    AddButtons(Column());
     ShowState();
     if (form_->count() > 1) {
         form_->setFocus();

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <filesystem>
 #include <optional>
 #include <vector>
 
+#include "ide/dialogs/column_dialog.h"
 #include "ide/printing/paper_output.h"
 #include "listings/print_screen.h"
 
@@ -28,7 +28,7 @@ struct PrintServices {
 
 /// The window of a `PrintScreen`. To print, it prints or saves the listing and stays open when that was not
 /// to be; to preview, it closes with the job.
-class PrintDialog final : public QDialog {
+class PrintDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     PrintDialog(listings::PrintScreen& screen, const PrintServices& services, QWidget* parent = nullptr);

@@ -1,28 +1,21 @@
 #include "ide/dialogs/process_entry_dialog.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
 #include <QFormLayout>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QStyle>
-#include <utility>
+#include <QVBoxLayout>
 
-#include "ide/dialogs/leaving.h"
-#include "ide/editors/comment_edit.h"
 #include "ide/editors/cond_act_edit.h"
 #include "ide/editors/layout.h"
-#include "platform/error.h"
 #include "qt/strings.h"
 #include "qt/wrapped_label.h"
 
@@ -56,49 +49,39 @@ bool IsPlainEnter(const QEvent& event) {
 }  // namespace
 
 ProcessEntryDialog::ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QWidget* parent)
-    : QDialog(parent), screen_(screen) {
+    : ScreenDialog(screen, qt::Translated(authoring::ProcessEntryScreen::kCaption), "frmvelcondact.html",
+                   parent),
+      screen_(screen),
+      contents_(new QWidget) {
     setObjectName("ProcessEntryScreen");
-    setProperty("helpPage", "frmvelcondact.html");
-    setWindowTitle(qt::Translated(authoring::ProcessEntryScreen::kCaption));
-    auto* form = new QWidget;
-    auto* column = new QVBoxLayout(form);
+    auto* column = new QVBoxLayout(contents_);
     column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     column->setSpacing(12);
     column->addLayout(BuildEntry());
     column->addLayout(BuildCondAct());
     column->addLayout(BuildLine(), 1);
     auto* scroll = new QScrollArea;
-    scroll->setWidget(form);
+    scroll->setWidget(contents_);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
-    auto* whole = new QVBoxLayout(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(scroll, 1);
-    comment_ = new CommentEdit(*screen.Comment(), *this);
-    comment_->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin / 2);
-    whole->addWidget(comment_);
-    QLayout* buttons = BuildButtons();
-    whole->addLayout(buttons);
-    Show();
-    focus_ = connect(qApp, &QApplication::focusChanged, this,
-                     [this](QWidget* left, QWidget* now) { FocusChanged(left, now); });
-    const int moreLines = kMoreLines * line_->fontMetrics().lineSpacing();
-    const QSize wanted(kDefaultWidth, form->heightForWidth(kDefaultWidth) + comment_->sizeHint().height() +
-                                          buttons->sizeHint().height() + moreLines);
-    resize(wanted.boundedTo(QWidget::screen()->availableSize() * 9 / 10));
+    SetContents(scroll);
+    CheckFields();
+    ShowRecord();
 }
 
-/// The focus moves once more while the fields go, which must not reach a window that is half gone.
+/// The line tells of its meaning and faults until it goes; what shows them must not have gone before.
 ProcessEntryDialog::~ProcessEntryDialog() {
-    disconnect(focus_);
     delete line_;
 }
 
+QSize ProcessEntryDialog::sizeHint() const {
+    const int moreLines = kMoreLines * line_->fontMetrics().lineSpacing();
+    return SizeFor({kDefaultWidth, contents_->heightForWidth(kDefaultWidth) + moreLines});
+}
+
 void ProcessEntryDialog::reject() {
-    if (line_->HideOffers()) return;
-    Take();
-    if (MayClose(screen_.Changed(), screen_.Dialogs(), [this] { Update(); })) QDialog::reject();
+    if (!line_->HideOffers()) ScreenDialog::reject();
 }
 
 void ProcessEntryDialog::setVisible(bool visible) {
@@ -107,12 +90,7 @@ void ProcessEntryDialog::setVisible(bool visible) {
         QWidget* const first = screen_.Key().isNew ? static_cast<QWidget*>(word1_) : line_;
         first->setFocus();
     }
-    QDialog::setVisible(visible);
-}
-
-bool ProcessEntryDialog::HasChanges() {
-    Take();
-    return screen_.Changed();
+    ScreenDialog::setVisible(visible);
 }
 
 bool ProcessEntryDialog::CloseList() {
@@ -120,7 +98,7 @@ bool ProcessEntryDialog::CloseList() {
 }
 
 std::optional<authoring::NamedRecord> ProcessEntryDialog::NamedAtCursor() {
-    Take();
+    Read();
     const QWidget* const at = focusWidget();
     if (at == line_) return screen_.NamedInLine(line_->CursorByte());
     if (at == word1_) return screen_.NamedByWord(screen_.verb);
@@ -250,26 +228,6 @@ QLayout* ProcessEntryDialog::BuildLine() {
     return column;
 }
 
-QLayout* ProcessEntryDialog::BuildButtons() {
-    auto* row = new QHBoxLayout;
-    auto* update = new QPushButton(tr("&Update"), this);
-    update->setObjectName("update");
-    update->setDefault(true);
-    exit_ = new QPushButton(tr("E&xit"), this);
-    exit_->setObjectName("exit");
-    exit_->setAutoDefault(false);
-    connect(update, &QPushButton::clicked, this, &ProcessEntryDialog::Update);
-    connect(exit_, &QPushButton::clicked, this, [this] { reject(); });
-    connect(new QShortcut(Qt::CTRL | Qt::Key_Return, this), &QShortcut::activated, this,
-            &ProcessEntryDialog::Update);
-    row->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin);
-    row->setSpacing(8);
-    row->addStretch();
-    row->addWidget(update);
-    row->addWidget(exit_);
-    return row;
-}
-
 void ProcessEntryDialog::ShowParameter(const ParameterWidgets& widgets,
                                        const authoring::ParameterField& field) {
     widgets.label->setText(qt::Translated(field.label));
@@ -294,12 +252,10 @@ void ProcessEntryDialog::Show() {
     line_->moveCursor(QTextCursor::End);
 }
 
-void ProcessEntryDialog::ShowRecord() {
+void ProcessEntryDialog::ShowOpened() {
     key_->setText(qt::Translated(screen_.recordKey));
     word1_->setCurrentIndex(screen_.verb.index);
     word2_->setCurrentIndex(screen_.noun.index);
-    Show();
-    comment_->Show();
 }
 
 /// One condition or action to a line, coloured by kind, with what it means.
@@ -317,7 +273,7 @@ void ProcessEntryDialog::Explain() {
     }
 }
 
-void ProcessEntryDialog::Take() {
+void ProcessEntryDialog::Read() {
     screen_.process = qt::FromQt(type_->text());
     screen_.verb.index = word1_->currentIndex();
     screen_.noun.index = word2_->currentIndex();
@@ -327,40 +283,42 @@ void ProcessEntryDialog::Take() {
     screen_.line = qt::FromQt(line_->toPlainText());
 }
 
-/// A box that tells why it is refused must not set off the check of the line.
 std::optional<condacts::MessageNumber> ProcessEntryDialog::NewMessage(const std::string& text) {
-    const bool wasChecking = std::exchange(checking_, true);
     std::optional<condacts::MessageNumber> number;
     Guarded([&] {
         number = screen_.AddMessage(text);
         return number.has_value();
     });
-    checking_ = wasChecking;
     return number;
 }
 
-/// A failing machine is told, and what was typed stays.
-bool ProcessEntryDialog::Guarded(const std::function<bool()>& work) {
-    try {
-        return work();
-    } catch (const Error& error) {
-        screen_.Dialogs().Tell(error.what(), "Error");
-        return false;
-    }
+void ProcessEntryDialog::CheckFields() {
+    CheckInside(type_, [this] { return screen_.LeaveProcess(); });
+    CheckInside(condAct_, [this] { return LeaveCondAct(); });
+    CheckInside(param1_.box, [this] { return screen_.LeaveParameter1(); });
+    CheckInside(param2_.box, [this] { return screen_.LeaveParameter2(); });
+    CheckInside(line_, [this] { return screen_.LeaveLine(); });
 }
 
-bool ProcessEntryDialog::Leave(const QWidget* field) {
-    if (field == type_) return screen_.LeaveProcess();
-    if (field == condAct_) return screen_.LeaveCondAct();
-    if (field == param1_.box) return screen_.LeaveParameter1();
-    if (field == param2_.box) return screen_.LeaveParameter2();
-    if (field == line_) return screen_.LeaveLine();
+/// Beside the rows the focus may leave for something else than a field: an entry that is begun can wait.
+void ProcessEntryDialog::CheckInside(QWidget* field, const std::function<bool()>& check) {
+    CheckOnLeave(field, [this, check] { return !isAncestorOf(window()->focusWidget()) || check(); });
+}
+
+/// The fields of parameters open only now: Tab has passed over them.
+bool ProcessEntryDialog::LeaveCondAct() {
+    if (!screen_.LeaveCondAct()) return false;
+    Show();
+    if (add_->hasFocus() && param1_.box->isEnabled()) param1_.box->setFocus();
     return true;
 }
 
 /// A name that opens parameters hands on to the first.
 void ProcessEntryDialog::ChooseCondAct() {
-    CheckLeft(condAct_);
+    Read();
+    const bool fits = Guarded([this] { return screen_.LeaveCondAct(); });
+    Show();
+    if (!fits) condAct_->setFocus();
     if (param1_.box->isEnabled()) param1_.box->setFocus();
 }
 
@@ -403,54 +361,11 @@ bool ProcessEntryDialog::eventFilter(QObject* receiver, QEvent* event) {
     return true;
 }
 
-/// Checks once the new field has the focus: a box that is shown while it changes would confuse it.
-void ProcessEntryDialog::FocusChanged(QWidget* left, QWidget* now) {
-    if (checking_ || left == nullptr || now == nullptr || now == exit_) return;
-    if (!isAncestorOf(left) || !isAncestorOf(now)) return;
-    QMetaObject::invokeMethod(
-        this, [this, left] { CheckLeft(left); }, Qt::QueuedConnection);
-}
-
-void ProcessEntryDialog::CheckLeft(QWidget* field) {
-    if (checking_ || !isVisible()) return;
-    checking_ = true;
-    Take();
-    const bool fits = Guarded([this, field] { return Leave(field); });
-    Show();
-    if (!fits) field->setFocus();
-    // The fields of parameters open only now: Tab has passed over them.
-    if (fits && field == condAct_ && add_->hasFocus() && param1_.box->isEnabled()) param1_.box->setFocus();
-    checking_ = false;
-}
-
 void ProcessEntryDialog::Add() {
-    checking_ = true;
-    Take();
+    Read();
     const bool added = Guarded([this] { return screen_.Add(); });
     Show();
     if (added) condAct_->setFocus();
-    checking_ = false;
-}
-
-void ProcessEntryDialog::Update() {
-    if (checking_) return;
-    checking_ = true;
-    Take();
-    bool failed = true;
-    const bool stored = Guarded([this, &failed] {
-        const bool done = screen_.Update();
-        failed = false;
-        return done;
-    });
-    if (stored) {
-        checking_ = false;
-        return accept();
-    }
-    Show();
-    // The focus goes back without another check of the field that it leaves.
-    QWidget* refused = failed ? nullptr : findChild<QWidget*>(qt::ToQt(screen_.Refused()));
-    if (refused) refused->setFocus();
-    checking_ = false;
 }
 
 }  // namespace fabula::ide

@@ -1,13 +1,12 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <functional>
 #include <optional>
 #include <string>
 
 #include "authoring/screens/process_entry_screen.h"
-#include "ide/dialogs/record_editor.h"
+#include "ide/dialogs/screen_dialog.h"
 
 class QComboBox;
 class QLabel;
@@ -17,12 +16,10 @@ class QPushButton;
 
 namespace fabula::ide {
 
-class CommentEdit;
 class CondActEdit;
 
-/// The window of the process entry editor. It shows the fields of `screen`, gives them back when they are
-/// left, and keeps the focus in one that is refused.
-class ProcessEntryDialog final : public QDialog, public RecordEditor {
+/// The window of the process entry editor.
+class ProcessEntryDialog final : public ScreenDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ProcessEntryDialog(authoring::ProcessEntryScreen& screen, QWidget* parent = nullptr);
@@ -32,15 +29,17 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     /// changed.
     void reject() override;
     void setVisible(bool visible) override;
+    QSize sizeHint() const override;
 
-    bool HasChanges() override;
-    void Store() override { Update(); }
     bool CloseList() override;
-    void ShowRecord() override;
     std::optional<authoring::NamedRecord> NamedAtCursor() override;
 
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
+    void Read() override;
+    void Show() override;
+    void ShowOpened() override;
+    bool Update() override { return screen_.Update(); }
 
   private:
     struct ParameterWidgets {
@@ -51,24 +50,19 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     QLayout* BuildEntry();
     QLayout* BuildCondAct();
     QLayout* BuildLine();
-    QLayout* BuildButtons();
     ParameterWidgets MakeParameter(const QString& name);
     QComboBox* MakeWords(const QString& name, const QString& what, const authoring::DropList& list);
 
-    void Show();
     void Explain();
-    void Take();
     void ShowParameter(const ParameterWidgets& widgets, const authoring::ParameterField& field);
-    void FocusChanged(QWidget* left, QWidget* now);
     std::optional<condacts::MessageNumber> NewMessage(const std::string& text);
-    bool Guarded(const std::function<bool()>& work);
-    bool Leave(const QWidget* field);
-    void CheckLeft(QWidget* field);
+    void CheckFields();
+    void CheckInside(QWidget* field, const std::function<bool()>& check);
+    bool LeaveCondAct();
     void ChooseCondAct();
     bool CompleteCondAct();
     bool Enter(const QObject* field);
     void Add();
-    void Update();
 
     authoring::ProcessEntryScreen& screen_;
     QLabel* key_ = nullptr;
@@ -80,13 +74,10 @@ class ProcessEntryDialog final : public QDialog, public RecordEditor {
     ParameterWidgets param2_{};
     CondActEdit* line_ = nullptr;
     QListWidget* explained_ = nullptr;
-    CommentEdit* comment_ = nullptr;
     QLabel* meaning_ = nullptr;
     QLabel* fault_ = nullptr;
     QPushButton* add_ = nullptr;
-    QPushButton* exit_ = nullptr;
-    QMetaObject::Connection focus_;
-    bool checking_ = false;
+    QWidget* contents_;
 };
 
 }  // namespace fabula::ide

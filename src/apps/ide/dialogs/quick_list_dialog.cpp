@@ -23,10 +23,10 @@ bool GoesThroughLines(int key) {
 }  // namespace
 
 QuickListDialog::QuickListDialog(const QString& title, const QString& hint, Search search, QWidget* parent)
-    : QDialog(parent), search_(std::move(search)), typed_(new QLineEdit), list_(new QListWidget) {
-    setObjectName("QuickListDialog");
-    setWindowTitle(title);
-    setProperty(qt::kHelpPage, kMainWindowPage);
+    : ColumnDialog({"QuickListDialog", title, kMainWindowPage}, parent),
+      search_(std::move(search)),
+      typed_(new QLineEdit),
+      list_(new QListWidget) {
     resize(kQuickListSize);
     typed_->setObjectName("QuickLine");
     typed_->setPlaceholderText(hint);
@@ -35,10 +35,9 @@ QuickListDialog::QuickListDialog(const QString& title, const QString& hint, Sear
     list_->setObjectName("QuickList");
     list_->setAccessibleName(tr("What fits"));
     list_->setUniformItemSizes(true);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kQuickListMargin, kQuickListMargin, kQuickListMargin, kQuickListMargin);
-    column->addWidget(typed_);
-    column->addWidget(list_);
+    Column().setContentsMargins(kQuickListMargin, kQuickListMargin, kQuickListMargin, kQuickListMargin);
+    Column().addWidget(typed_);
+    Column().addWidget(list_);
     connect(typed_, &QLineEdit::textChanged, this, [this] { Fill(); });
     connect(typed_, &QLineEdit::returnPressed, this, [this] {
         if (list_->currentRow() >= 0) accept();

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "ide/dialogs/column_dialog.h"
 
 class QLineEdit;
 class QListWidget;
@@ -15,7 +16,7 @@ namespace fabula::ide {
 /// A line to type in with the lines below that fit it; one is chosen by Enter or a double click. Arrows and
 /// page keys go through the lines while the keyboard stays in the line. Its parts are found by the names
 /// "QuickLine" and "QuickList".
-class QuickListDialog final : public QDialog {
+class QuickListDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// Gives the lines that fit what was typed; asked after each letter.

@@ -18,7 +18,7 @@ constexpr int kLinesToGrow = 6;  ///< more than a text field needs at least
 
 RecordDialog::RecordDialog(authoring::RecordScreen& screen, const QString& title, const char* helpPage,
                            QWidget* parent)
-    : ScreenDialog(screen, title, helpPage, parent), columns_(nullptr) {
+    : ScreenDialog(screen, title, helpPage, parent), record_(screen), columns_(nullptr) {
     auto* page = new QWidget;
     columns_ = new QBoxLayout(QBoxLayout::TopToBottom, page);
     columns_->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);

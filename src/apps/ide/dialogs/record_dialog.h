@@ -26,6 +26,7 @@ class RecordDialog : public ScreenDialog {
     /// Adds a control, found by `name`; the label holds its mnemonic and is its accessible name too.
     void AddControl(const QString& label, QWidget* control, const char* name);
 
+    bool Update() override { return record_.Update(); }
     void resizeEvent(QResizeEvent* event) override;
 
     QFormLayout* form_ = nullptr;  ///< the column to which controls are added
@@ -34,6 +35,7 @@ class RecordDialog : public ScreenDialog {
     int WidthOfColumns() const;
     void Arrange();
 
+    authoring::RecordScreen& record_;
     QBoxLayout* columns_;
 };
 

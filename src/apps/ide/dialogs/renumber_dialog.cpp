@@ -21,10 +21,11 @@ constexpr QSize kRenumberSize(640, 400);
 }  // namespace
 
 RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* parent)
-    : QDialog(parent), screen_(screen), number_(new QLineEdit), changes_(new QListWidget) {
-    setObjectName("RenumberDialog");
-    setWindowTitle(qt::Translated(authoring::RenumberScreen::kCaption));
-    setProperty(qt::kHelpPage, kMainWindowPage);
+    : ColumnDialog({"RenumberDialog", qt::Translated(authoring::RenumberScreen::kCaption), kMainWindowPage},
+                   parent),
+      screen_(screen),
+      number_(new QLineEdit),
+      changes_(new QListWidget) {
     resize(kRenumberSize);
     number_->setObjectName("number");
     number_->setText(qt::ToQt(screen.number));
@@ -35,11 +36,9 @@ RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* paren
     form->addRow(tr("&New number of %1:").arg(qt::Translated(screen.Name())), number_);
     auto* row = new QHBoxLayout;
     const auto [update, exit] = AddUpdateAndExit(*row);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    layout->addLayout(form);
-    layout->addWidget(changes_);
-    layout->addLayout(row);
+    Column().addLayout(form);
+    Column().addWidget(changes_);
+    Column().addLayout(row);
     connect(number_, &QLineEdit::textChanged, this, [this] { ShowPreview(); });
     connect(update, &QPushButton::clicked, this, [this] { ClickUpdate(); });
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 
 #include "authoring/desk/renumber_screen.h"
+#include "ide/dialogs/column_dialog.h"
 
 class QLineEdit;
 class QListWidget;
@@ -12,7 +12,7 @@ namespace fabula::ide {
 
 /// The dialog of the command Change Number: the new number, and what it would change. Accepted by Update.
 /// Its parts are found by the names "number", "changes", "update" and "exit".
-class RenumberDialog final : public QDialog {
+class RenumberDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit RenumberDialog(authoring::RenumberScreen& screen, QWidget* parent = nullptr);

@@ -31,7 +31,8 @@ Widget* Named(Widget* widget, const char* name) {
 }  // namespace
 
 ReplaceDialog::ReplaceDialog(authoring::ReplaceScreen& screen, QWidget* parent)
-    : QDialog(parent),
+    : ColumnDialog({"ReplaceDialog", qt::Translated(authoring::ReplaceScreen::kCaption), kMainWindowPage},
+                   parent),
       screen_(screen),
       what_(Named(new QLineEdit, "what")),
       with_(Named(new QLineEdit, "with")),
@@ -42,14 +43,9 @@ ReplaceDialog::ReplaceDialog(authoring::ReplaceScreen& screen, QWidget* parent)
       found_(Named(new QTreeWidget, "found")),
       status_(Named(new QLabel, "replaceStatus")),
       replace_(Named(new QPushButton(tr("&Replace")), "replace")) {
-    setObjectName("ReplaceDialog");
-    setWindowTitle(qt::Translated(authoring::ReplaceScreen::kCaption));
-    setProperty(qt::kHelpPage, kMainWindowPage);
     resize(kReplaceSize);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    MakeLines(*layout);
-    MakeList(*layout);
+    MakeLines(Column());
+    MakeList(Column());
     what_->setFocus();
 }
 

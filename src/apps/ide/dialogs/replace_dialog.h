@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 
 #include "authoring/desk/replace_screen.h"
+#include "ide/dialogs/column_dialog.h"
 
 class QCheckBox;
 class QComboBox;
@@ -19,7 +19,7 @@ namespace fabula::ide {
 /// tick, the line it stands in and what would become of it. A double click on a place goes there. Its parts
 /// are found by the names "what", "with", "scope", "matchCase", "wholeWords", "expression", "find",
 /// "found", "replace", "replaceStatus" and "exit".
-class ReplaceDialog final : public QDialog {
+class ReplaceDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ReplaceDialog(authoring::ReplaceScreen& screen, QWidget* parent = nullptr);

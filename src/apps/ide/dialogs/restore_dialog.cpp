@@ -22,12 +22,11 @@ constexpr QSize kRestoreSize(560, 440);
 }  // namespace
 
 RestoreDialog::RestoreDialog(const authoring::RestoreScreen& screen, QWidget* parent)
-    : QDialog(parent), screen_(screen), copies_(new QTableWidget), comparison_(new QPlainTextEdit) {
-    setObjectName("restore");
-    setWindowTitle(qt::Translated(authoring::RestoreScreen::kTitle));
-    setProperty(qt::kHelpPage, kMainWindowPage);
+    : ColumnDialog({"restore", qt::Translated(authoring::RestoreScreen::kTitle), kMainWindowPage}, parent),
+      screen_(screen),
+      copies_(new QTableWidget),
+      comparison_(new QPlainTextEdit) {
     setProperty(qt::kHelpAnchor, "restore");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
     copies_->setObjectName("copies");
     copies_->setAccessibleName(tr("Backup copies"));
     copies_->setColumnCount(2);
@@ -57,13 +56,11 @@ RestoreDialog::RestoreDialog(const authoring::RestoreScreen& screen, QWidget* pa
     restore->setDefault(true);
     buttons->addButton(tr("Exit"), QDialogButtonBox::RejectRole)->setObjectName("exit");
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    layout->setSpacing(10);
-    layout->addWidget(copies_, 2);
-    layout->addWidget(caption);
-    layout->addWidget(comparison_, 1);
-    layout->addWidget(buttons);
+    Column().setSpacing(10);
+    Column().addWidget(copies_, 2);
+    Column().addWidget(caption);
+    Column().addWidget(comparison_, 1);
+    Column().addWidget(buttons);
     resize(kRestoreSize);
     connect(copies_, &QTableWidget::currentCellChanged, this, [this] { ShowComparison(); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <cstddef>
 
 #include "authoring/files/restore_screen.h"
+#include "ide/dialogs/column_dialog.h"
 
 class QPlainTextEdit;
 class QTableWidget;
@@ -12,7 +12,7 @@ class QTableWidget;
 namespace fabula::ide {
 
 /// The dialog of RestoreScreen. Accepted when a copy was chosen to be restored.
-class RestoreDialog final : public QDialog {
+class RestoreDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// The screen outlives the dialog and has at least one copy.

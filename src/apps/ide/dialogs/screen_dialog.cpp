@@ -37,13 +37,11 @@ void BringIntoView(QWidget* control) {
 
 ScreenDialog::ScreenDialog(authoring::EditScreen& screen, const QString& title, const char* helpPage,
                            QWidget* parent)
-    : QDialog(parent), edited_(screen), buttons_(new QHBoxLayout) {
-    setWindowTitle(title);
-    setProperty("helpPage", helpPage);
+    : ColumnDialog({"", title, helpPage}, parent), edited_(screen), buttons_(new QHBoxLayout) {
     setSizeGripEnabled(true);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(buttons_);
+    // Contents that scroll do so from edge to edge.
+    Column().setContentsMargins(0, 0, 0, 0);
+    Column().addLayout(buttons_);
     buttons_->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin);
     buttons_->setSpacing(8);
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -53,7 +51,7 @@ ScreenDialog::ScreenDialog(authoring::EditScreen& screen, const QString& title, 
 }
 
 void ScreenDialog::SetContents(QWidget* contents) {
-    static_cast<QVBoxLayout*>(layout())->insertWidget(0, contents, 1);
+    Column().insertWidget(0, contents, 1);
 }
 
 void ScreenDialog::setVisible(bool visible) {
@@ -94,8 +92,7 @@ void ScreenDialog::AddComment() {
     if (comment == nullptr) return;
     comment_ = new CommentEdit(*comment, *this);
     comment_->setContentsMargins(kDialogMargin, 0, kDialogMargin, kDialogMargin / 2);
-    auto* rows = static_cast<QVBoxLayout*>(layout());
-    rows->insertWidget(rows->indexOf(buttons_), comment_);
+    Column().insertWidget(Column().indexOf(buttons_), comment_);
 }
 
 void ScreenDialog::AddButtons() {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <functional>
 
 #include "authoring/fields/edit_screen.h"
+#include "ide/dialogs/column_dialog.h"
 #include "ide/dialogs/record_editor.h"
 #include "ide/dialogs/update_and_exit.h"
 
@@ -16,7 +16,7 @@ class CommentEdit;
 
 /// What the dialogs that edit something share: Update (Ctrl+Return) and Exit (Esc), and checks of the
 /// fields that are left. A control that is refused gets the focus back.
-class ScreenDialog : public QDialog, public RecordEditor {
+class ScreenDialog : public ColumnDialog, public RecordEditor {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// The first time, as a window: in its size, with the keyboard in the first field.
@@ -26,10 +26,10 @@ class ScreenDialog : public QDialog, public RecordEditor {
 
     bool HasChanges() override;
     void Store() override { ClickUpdate(); }
-    void ShowRecord() override;
+    void ShowRecord() final;
 
   protected:
-    /// `screen` outlives the dialog.
+    /// `screen` outlives the dialog. A title that is another one for each record is set by ShowOpened.
     ScreenDialog(authoring::EditScreen& screen, const QString& title, const char* helpPage,
                  QWidget* parent);
 

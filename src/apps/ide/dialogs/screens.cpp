@@ -21,12 +21,6 @@ namespace {
 
 using authoring::Screen;
 
-/// A window of its own, such as the help, stays usable while the dialog is shown.
-void Show(QDialog& dialog) {
-    dialog.setWindowModality(Qt::WindowModal);
-    dialog.exec();
-}
-
 /// A screen with the dialog on it.
 template <typename EditedDialog, typename Logic>
 class Record final : public OpenedRecord {
@@ -46,25 +40,6 @@ class Record final : public OpenedRecord {
     EditedDialog dialog_;
 };
 
-class TextRecord final : public OpenedRecord {
-  public:
-    TextRecord(authoring::ScreenContext& context, authoring::ScreenKey key, QWidget* parent)
-        : screen_(context, key),
-          editing_(context.document.Adventure()),
-          dialog_(screen_, editing_, context.dialogs, parent) {}
-    QDialog& Dialog() override { return dialog_; }
-    RecordEditor& Editor() override { return dialog_; }
-    void GoTo(int key) override {
-        screen_.GoTo(key);
-        dialog_.ShowRecord();
-    }
-
-  private:
-    authoring::MessageScreen screen_;
-    authoring::TextEditing editing_;
-    MessageDialog dialog_;
-};
-
 std::unique_ptr<OpenedRecord> Opened(const authoring::ScreenRequest& request,
                                      authoring::ScreenContext& context, QWidget* parent) {
     using namespace authoring;
@@ -79,7 +54,7 @@ std::unique_ptr<OpenedRecord> Opened(const authoring::ScreenRequest& request,
         case Screen::Flag:
             return std::make_unique<Record<FlagDialog, FlagScreen>>(context, key, parent);
         case Screen::Text:
-            return std::make_unique<TextRecord>(context, key, parent);
+            return std::make_unique<Record<MessageDialog, MessageScreen>>(context, key, parent);
         case Screen::ProcessEntry:
             return std::make_unique<Record<ProcessEntryDialog, ProcessEntryScreen>>(context, request,
                                                                                     parent);
@@ -94,7 +69,7 @@ std::unique_ptr<OpenedRecord> Opened(const authoring::ScreenRequest& request,
 void ShowSettings(authoring::ScreenContext& context, const SoundTest& sound, QWidget* parent) {
     authoring::SettingsScreen screen(context, sound.devices());
     SettingsDialog dialog(screen, sound.player, parent);
-    Show(dialog);
+    dialog.exec();
 }
 
 }  // namespace
@@ -114,7 +89,7 @@ std::optional<authoring::Jump> OpenScreen(const authoring::ScreenRequest& reques
     const auto record = Opened(request, context, parent);
     if (!record) return std::nullopt;
     const RecordJumps jumps(*record, request, context, navigator);
-    Show(record->Dialog());
+    record->Dialog().exec();
     return jumps.Wanted();
 }
 

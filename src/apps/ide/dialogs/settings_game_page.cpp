@@ -191,7 +191,6 @@ void SettingsGamePage::AddColour(QFormLayout& form, const QString& label, const 
             ink ? authoring::ColourScreen::Purpose::Ink : authoring::ColourScreen::Purpose::Paper,
             screen_.*colour);
         ColourDialog dialog(colours, this);
-        dialog.setWindowModality(Qt::WindowModal);  // the help can be read beside it
         if (dialog.exec() != QDialog::Accepted) return;
         screen_.*colour = colours.Update();
         show();

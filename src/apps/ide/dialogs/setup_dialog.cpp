@@ -37,20 +37,15 @@ constexpr KindOption kKinds[] = {
 }  // namespace
 
 SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
-    : QDialog(parent),
+    : ColumnDialog({"adventureSetup", qt::Translated(AdventureSetup::kTitle), "frmsetup.html"}, parent),
       setup_(setup),
       explanation_(new QLabel),
       starter_(new QCheckBox(tr("&Begin with the words and entries that most games have"))) {
-    setObjectName("adventureSetup");
-    setWindowTitle(qt::Translated(authoring::kSetupTitle));
-    setProperty("helpPage", "frmsetup.html");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kSetupMargin, kSetupMargin, kSetupMargin, kSetupMargin);
-    column->setSpacing(6);
-    AddTypes(*column);
-    AddGraphics(*column);
-    AddCharSets(*column);
+    Column().setContentsMargins(kSetupMargin, kSetupMargin, kSetupMargin, kSetupMargin);
+    Column().setSpacing(6);
+    AddTypes(Column());
+    AddGraphics(Column());
+    AddCharSets(Column());
 
     explanation_->setObjectName("explanation");
     explanation_->setAccessibleDescription(tr("Explanation"));
@@ -61,12 +56,12 @@ SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
     explanation_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     explanation_->setMinimumWidth(fontMetrics().averageCharWidth() * kLettersOfALine);
     explanation_->setMinimumHeight(fontMetrics().lineSpacing() * kLinesOfAnExplanation + 2 * 10);
-    column->addWidget(explanation_, 1);
+    Column().addWidget(explanation_, 1);
     starter_->setObjectName("starter");
     starter_->setAccessibleName(starter_->text().remove('&'));
     starter_->setChecked(true);
-    column->addSpacing(6);
-    column->addWidget(starter_);
+    Column().addSpacing(6);
+    Column().addWidget(starter_);
 
     auto* buttons = new QDialogButtonBox;
     auto* execute = buttons->addButton(tr("&Execute"), QDialogButtonBox::AcceptRole);
@@ -75,8 +70,8 @@ SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
     buttons->addButton(QDialogButtonBox::Cancel)->setObjectName("exit");
     QObject::connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    column->addSpacing(12);
-    column->addWidget(buttons);
+    Column().addSpacing(12);
+    Column().addWidget(buttons);
     Show();
     for (const Option& option : options_) {
         if (!option.button->isChecked()) continue;

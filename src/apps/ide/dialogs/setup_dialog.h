@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 
+#include "ide/dialogs/column_dialog.h"
 #include "store/setup.h"
 
 class QBoxLayout;
@@ -14,7 +14,7 @@ namespace fabula::ide {
 
 /// The dialog of `AdventureSetup`: type, graphics and character sets of a new adventure, each with its
 /// explanation.
-class SetupDialog final : public QDialog {
+class SetupDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit SetupDialog(store::AdventureSetup& setup, QWidget* parent = nullptr);

@@ -20,11 +20,10 @@
 namespace fabula::ide {
 
 SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent), screen_(screen), dialogs_(dialogs), lines_(new QGridLayout) {
-    setObjectName("OpenSort");
-    setWindowTitle(qt::Translated(screen.Caption()));
-    setProperty(qt::kHelpPage, kMainWindowPage);
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
+    : ColumnDialog({"OpenSort", qt::Translated(screen.Caption()), kMainWindowPage}, parent),
+      screen_(screen),
+      dialogs_(dialogs),
+      lines_(new QGridLayout) {
     lines_->setColumnStretch(1, 1);
     lines_->setHorizontalSpacing(8);
 
@@ -37,13 +36,11 @@ SortDialog::SortDialog(authoring::SortScreen& screen, platform::Dialogs& dialogs
 
     // Before the buttons join the dialog, so that the keyboard comes to the lines first.
     ShowLevels();
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    layout->setSpacing(12);
-    layout->addWidget(told);
-    layout->addLayout(lines_);
-    layout->addStretch();
-    layout->addLayout(buttons);
+    Column().setSpacing(12);
+    Column().addWidget(told);
+    Column().addLayout(lines_);
+    Column().addStretch();
+    Column().addLayout(buttons);
     shown_.front().field->setFocus();
 
     connect(plain, &QPushButton::clicked, this, [this] {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <vector>
 
 #include "authoring/desk/sort_screen.h"
+#include "ide/dialogs/column_dialog.h"
 #include "platform/dialogs.h"
 
 class QComboBox;
@@ -14,7 +14,7 @@ namespace fabula::ide {
 
 /// The dialog of the command Sort: a line for each field, with its direction. Accepted by Update. The lists
 /// of the lines are called "field1" and "direction1" and so on.
-class SortDialog final : public QDialog {
+class SortDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// Both outlive the dialog. `dialogs` tells what could not be stored.

@@ -20,7 +20,7 @@ constexpr QSize kVerifySize(640, 420);
 }  // namespace
 
 VerifyDialog::VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent),
+    : ColumnDialog({"VerifyScreen", qt::Translated(verify.Title()), "frmverify.html"}, parent),
       verify_(verify),
       dialogs_(dialogs),
       lines_(new QListWidget),
@@ -29,10 +29,6 @@ VerifyDialog::VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& d
       print_(NewStatusButton(tr("&Print"),
                              {[this] { return verify_.Status(); }, [this] { verify_.SaveStatus(dialogs_); },
                               [this] { PrintText(verify_.Status(), verify_.Title(), dialogs_, this); }})) {
-    setObjectName("VerifyScreen");
-    setWindowTitle(qt::Translated(verify.Title()));
-    setProperty("helpPage", "frmverify.html");
-    setWindowModality(Qt::WindowModal);  // the help can be read beside it
     lines_->setObjectName("status");
     lines_->setAccessibleName(tr("Status"));
     lines_->setWordWrap(true);
@@ -53,12 +49,10 @@ VerifyDialog::VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& d
     buttons->addWidget(goToButton_);
     buttons->addStretch(1);
     buttons->addWidget(ok);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    column->setSpacing(10);
-    column->addWidget(progress_);
-    column->addWidget(lines_, 1);
-    column->addLayout(buttons);
+    Column().setSpacing(10);
+    Column().addWidget(progress_);
+    Column().addWidget(lines_, 1);
+    Column().addLayout(buttons);
     resize(kVerifySize);
 
     QObject::connect(ok, &QPushButton::clicked, this, [this] { Leave(); });

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <functional>
 
 #include "authoring/jobs/verify_screen.h"
+#include "ide/dialogs/column_dialog.h"
 
 class QLabel;
 class QListWidget;
@@ -14,7 +14,7 @@ class QPushButton;
 namespace fabula::ide {
 
 /// The status window of `VerifyScreen`. It begins the check once it is shown.
-class VerifyDialog final : public QDialog {
+class VerifyDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `events` of the screen should be JobEvents, so that the window can be used meanwhile.

@@ -19,7 +19,6 @@ class WordDialog final : public RecordDialog {
   protected:
     void Read() override;
     void Show() override;
-    bool Update() override { return screen_.Update(); }
 
   private:
     void AddTypes();

@@ -26,15 +26,13 @@ CharacterTableDialog::CharacterTableDialog(authoring::CharacterSetScreen& screen
                                            platform::Dialogs& dialogs,
                                            std::function<void(const authoring::ScreenRequest&)> open,
                                            QWidget* parent)
-    : QDialog(parent),
+    : ColumnDialog({"", tr("Character Table"), "charactertable.html"}, parent),
       screen_(screen),
       dialogs_(dialogs),
       open_(std::move(open)),
       set_(new QComboBox),
       table_(new QListWidget),
       chosen_(new QLabel) {
-    setWindowTitle(tr("Character Table"));
-    setProperty("helpPage", "charactertable.html");
     setSizeGripEnabled(true);
     set_->setObjectName("Set");
     for (const int set : screen.Sets())
@@ -62,11 +60,9 @@ CharacterTableDialog::CharacterTableDialog(authoring::CharacterSetScreen& screen
     bottom->addWidget(chosen_, 1);
     for (QPushButton* button : {edit, font, exit})
         bottom->addWidget(button);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
-    layout->addLayout(top);
-    layout->addWidget(table_, 1);
-    layout->addLayout(bottom);
+    Column().addLayout(top);
+    Column().addWidget(table_, 1);
+    Column().addLayout(bottom);
     set_->setCurrentIndex(set_->findData(screen.Set()));
     connect(set_, &QComboBox::currentIndexChanged, this, [this] {
         screen_.Show(set_->currentData().toInt());

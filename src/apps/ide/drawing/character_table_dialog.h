@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <functional>
 
 #include "authoring/drawing/character_set_screen.h"
+#include "ide/dialogs/column_dialog.h"
 
 class QComboBox;
 class QLabel;
@@ -13,7 +13,7 @@ class QListWidget;
 namespace fabula::ide {
 
 /// The characters of a whole set at a glance. Enter and a double click open the editor of one.
-class CharacterTableDialog final : public QDialog {
+class CharacterTableDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     /// `open` shows a character's editor and comes back when it has closed.

@@ -28,14 +28,12 @@ QPixmap PixmapOf(const pictures::Image& image) {
 }  // namespace
 
 ImageImportDialog::ImageImportDialog(pictures::Image image, QWidget* parent)
-    : QDialog(parent),
+    : ColumnDialog({"", tr("Import Image"), "pictureeditor.html"}, parent),
       image_(std::move(image)),
       preview_(new QLabel),
       size_(new QLabel),
       dithering_(new QCheckBox(tr("&Mix colours that the palette lacks"))),
       asDrawstring_(new QCheckBox(tr("Make a &drawstring that draws it"))) {
-    setWindowTitle(tr("Import Image"));
-    setProperty("helpPage", "pictureeditor.html");
     preview_->setObjectName("Preview");
     preview_->setAccessibleName(tr("The picture that the image becomes"));
     size_->setObjectName("DrawstringSize");
@@ -46,12 +44,11 @@ ImageImportDialog::ImageImportDialog(pictures::Image image, QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     for (QCheckBox* box : {dithering_, asDrawstring_})
         connect(box, &QCheckBox::toggled, this, [this] { Fit(); });
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(preview_, 1, Qt::AlignCenter);
-    layout->addWidget(dithering_);
-    layout->addWidget(asDrawstring_);
-    layout->addWidget(size_);
-    layout->addWidget(buttons);
+    Column().addWidget(preview_, 1, Qt::AlignCenter);
+    Column().addWidget(dithering_);
+    Column().addWidget(asDrawstring_);
+    Column().addWidget(size_);
+    Column().addWidget(buttons);
     Fit();
 }
 
@@ -76,7 +73,6 @@ std::optional<ImportedImage> AskImage(platform::Dialogs& dialogs, const std::fil
     const auto file = dialogs.ChooseFile(question);
     if (!file) return std::nullopt;
     ImageImportDialog dialog(pictures::ReadImage(*file), parent);
-    dialog.setWindowModality(Qt::WindowModal);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.Chosen();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDialog>
 #include <filesystem>
 #include <optional>
 
+#include "ide/dialogs/column_dialog.h"
 #include "pictures/cell_image.h"
 #include "platform/dialogs.h"
 
@@ -23,7 +23,7 @@ struct ImportedImage {
 };
 
 /// Shows what a picture made of an image looks like, with and without dithering, before it is taken.
-class ImageImportDialog final : public QDialog {
+class ImageImportDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
     explicit ImageImportDialog(pictures::Image image, QWidget* parent = nullptr);

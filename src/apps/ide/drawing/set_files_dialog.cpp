@@ -16,9 +16,10 @@ namespace fabula::ide {
 using authoring::CharacterSetFiles;
 
 SetFilesDialog::SetFilesDialog(CharacterSetFiles& screen, platform::Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent), screen_(screen), dialogs_(dialogs), sets_(new QListWidget) {
-    setWindowTitle(qt::Translated(screen.Title()));
-    setProperty("helpPage", "charactersetfiles.html");
+    : ColumnDialog({"", qt::Translated(screen.Title()), "charactersetfiles.html"}, parent),
+      screen_(screen),
+      dialogs_(dialogs),
+      sets_(new QListWidget) {
     sets_->setObjectName("Sets");
     sets_->setAccessibleName(qt::Translated(screen.Label()));
     const bool several = screen.GetPurpose() == CharacterSetFiles::Purpose::Save;
@@ -35,11 +36,9 @@ SetFilesDialog::SetFilesDialog(CharacterSetFiles& screen, platform::Dialogs& dia
     buttons->addStretch();
     buttons->addWidget(run);
     buttons->addWidget(exit);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 16, 16, 16);
-    layout->addWidget(label);
-    layout->addWidget(sets_, 1);
-    layout->addLayout(buttons);
+    Column().addWidget(label);
+    Column().addWidget(sets_, 1);
+    Column().addLayout(buttons);
     connect(run, &QPushButton::clicked, this, [this] { Run(); });
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     sets_->setFocus();

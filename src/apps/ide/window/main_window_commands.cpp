@@ -126,7 +126,6 @@ void MainWindow::ShowCharacterTable() {
     CharacterTableDialog dialog(
         screen, services_.dialogs, [this](const authoring::ScreenRequest& request) { Open(request); },
         this);
-    dialog.setWindowModality(Qt::WindowModal);
     dialog.exec();
     ide_.Refresh();
     ShowChanges();
@@ -142,7 +141,6 @@ void MainWindow::LoadOrSaveSets(authoring::CharacterSetFiles::Purpose purpose) {
         return services_.dialogs.Tell(error.what(), "Error");
     }
     SetFilesDialog dialog(screen, services_.dialogs, this);
-    dialog.setWindowModality(Qt::WindowModal);
     dialog.exec();
     ide_.Refresh();
     ShowChanges();
@@ -180,7 +178,6 @@ void MainWindow::OpenExample(const Example& example) {
 void MainWindow::Sort() {
     authoring::SortScreen screen = ide_.OpenSort();
     SortDialog dialog(screen, services_.dialogs, this);
-    dialog.setWindowModality(Qt::WindowModal);
     dialog.exec();
     ide_.SortClosed();
     ShowChanges();

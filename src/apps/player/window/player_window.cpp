@@ -84,16 +84,7 @@ PlayerWindow::PlayerWindow(const WindowServices& services)
     setAcceptDrops(true);
     MakeRecentMenu();
     MakeEndBar();
-    auto* game = new QWidget;
-    auto* column = new QVBoxLayout(game);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(screen_, 1);
-    column->addWidget(findBar_);
-    column->addWidget(endBar_);
-    pages_->addWidget(welcome_);
-    pages_->addWidget(game);
-    setCentralWidget(pages_);
+    MakePages();
     setStatusBar(status_);
     status_->Show(engine::StatusField::Script, "Script Off");
     ApplySettings();
@@ -207,6 +198,19 @@ void PlayerWindow::MakeEndBar() {
     row->addWidget(load);
     endBar_->setFocusProxy(again);
     endBar_->hide();
+}
+
+void PlayerWindow::MakePages() {
+    auto* game = new QWidget;
+    auto* column = new QVBoxLayout(game);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(screen_, 1);
+    column->addWidget(findBar_);
+    column->addWidget(endBar_);
+    pages_->addWidget(welcome_);
+    pages_->addWidget(game);
+    setCentralWidget(pages_);
 }
 
 void PlayerWindow::PlaceWindow() {

@@ -98,6 +98,7 @@ class PlayerWindow final : public QMainWindow {
     void ShowSwitches();
     void MakeRecentMenu();
     void MakeEndBar();
+    void MakePages();
     void PlaceWindow();
 
     void GameStarted(const engine::GameLook& look);
