@@ -23,6 +23,9 @@ struct CreationHost {
     IfidMaker newIfid = NewIfid;
 };
 
+/// Whether `path` may be written: it is a new file, or the person has agreed that it is replaced.
+bool MayReplace(const std::filesystem::path& path, platform::Person& person);
+
 /// Creates the adventure file `path` from the default data, with the type and switches of `setup`. An
 /// existing file is replaced after the person has agreed, or at once with `replace`; it stays as it was
 /// until the new one is complete. Returns false when the person did not agree.

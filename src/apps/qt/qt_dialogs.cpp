@@ -19,9 +19,11 @@ namespace {
 
 /// Games and files speak in these boxes too: what they say is no markup.
 QMessageBox::StandardButton Ask(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons,
-                                std::string_view text, std::string_view title, QWidget* parent) {
+                                std::string_view text, std::string_view title, QWidget* parent,
+                                QMessageBox::StandardButton proposed = QMessageBox::NoButton) {
     QMessageBox box(icon, Translated(title), Translated(text), buttons, parent);
     box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(proposed);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -58,9 +60,11 @@ void QtDialogs::Tell(std::string_view text, std::string_view title) {
     Ask(icon, QMessageBox::Ok, text, title, Parent());
 }
 
+/// A warning is about what can't be had back: a key that is pressed too soon says no to it.
 bool QtDialogs::Confirm(std::string_view text, std::string_view title) {
-    return Ask(QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, text, title, Parent()) ==
-           QMessageBox::Yes;
+    const auto proposed = title == "Warning" ? QMessageBox::No : QMessageBox::Yes;
+    return Ask(QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, text, title, Parent(),
+               proposed) == QMessageBox::Yes;
 }
 
 bool QtDialogs::Proceed(std::string_view text, std::string_view title) {

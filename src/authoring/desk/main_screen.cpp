@@ -134,14 +134,18 @@ std::optional<std::filesystem::path> MainScreen::AskNewFile() {
 bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup,
                               bool starter) {
     const bool replacesOpenOne = desk_ && store::IsSameFile(file, desk_->document.File());
+    // Asked while it is still open: after a no all of it can be undone as before.
+    if (replacesOpenOne && !store::MayReplace(file, host_.dialogs)) return false;
     if (replacesOpenOne) Close();
     const store::CreationHost host{host_.dialogs, host_.clock, host_.events, paths_.defaultData};
     bool created = false;
     Guard([&] {
-        created = store::CreateAdventure(false, file, setup, host, [&](store::Adventure& adventure) {
-            MarkAsNew(adventure);
-            if (starter) interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
-        });
+        created =
+            store::CreateAdventure(replacesOpenOne, file, setup, host, [&](store::Adventure& adventure) {
+                MarkAsNew(adventure);
+                if (starter)
+                    interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
+            });
         if (!created) return;
         host_.dialogs.Tell(file.filename().string() + " DataBase Created", kProgramName);
         auto desk = std::make_unique<Desk>(store::Adventure::OpenForChange(file),
@@ -336,7 +340,8 @@ MainScreen::State MainScreen::GetState() const {
 
 std::string MainScreen::Title() const {
     if (!desk_) return std::string(kProgramName);
-    return std::string(kProgramName) + " - " + desk_->document.File().stem().string();
+    const std::string title = std::string(kProgramName) + " - " + desk_->document.File().stem().string();
+    return desk_->document.IsReadOnly() ? title + " (read only)" : title;
 }
 
 ScreenContext& MainScreen::CurrentContext() {

@@ -127,7 +127,7 @@ class MainScreen {
     // --- What the window shows ---
 
     State GetState() const;
-    /// "Fabula IDE - " and the adventure's name.
+    /// "Fabula IDE - " and the adventure's name; behind it " (read only)" where nothing can be changed.
     std::string Title() const;
     /// The status line: the adventure's type and switches, the table and its number of records, and what
     /// just happened.
@@ -149,6 +149,9 @@ class MainScreen {
     std::string Caption() const;
 
     ActionState StateOf(Command command) const;
+    /// Why an adventure that is open to read refuses a change.
+    static constexpr std::string_view kOnlyToRead =
+        "The adventure is open to read only; Save As makes a copy that can be changed.";
 
     // --- What the author does with it ---
 

@@ -36,6 +36,29 @@ bool AlwaysWorks(Command command) {
     }
 }
 
+/// Commands that change the adventure, and those whose screens do nothing else.
+bool IsForChange(Command command) {
+    switch (command) {
+        case Command::Restore:
+        case Command::ImportGraphic:
+        case Command::BatchImport:
+        case Command::Add:
+        case Command::AddBefore:
+        case Command::Edit:
+        case Command::Delete:
+        case Command::Load:
+        case Command::Sort:
+        case Command::Renumber:
+        case Command::Settings:
+        case Command::ShortDescriptions:
+        case Command::KeyChange:
+        case Command::TravelTable:
+            return true;
+        default:
+            return false;
+    }
+}
+
 bool NeedsRecord(Command command) {
     return command == Command::Edit || command == Command::Delete || command == Command::AddBefore ||
            command == Command::GoToNamed || command == Command::Uses || command == Command::Renumber;
@@ -99,6 +122,7 @@ std::string MainScreen::WhyNot(Command command) const {
     if (running_) return "The game is being tested.";
     if (AlwaysWorks(command)) return "";
     if (!desk_) return "No adventure is open.";
+    if (desk_->document.IsReadOnly() && IsForChange(command)) return std::string(kOnlyToRead);
     if (command == Command::Undo && !desk_->document.UndoName()) return "There is nothing to undo.";
     if (command == Command::Redo && !desk_->document.RedoName()) return "There is nothing to redo.";
     if (command == Command::ImportGraphic && !PictureTarget())

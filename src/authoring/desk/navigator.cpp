@@ -105,6 +105,7 @@ Document* Navigator::OpenDocument() {
     Document& document = main_.CurrentContext().document;
     // A document that was opened since, or goes on with a copy, is not followed yet.
     if (!followed_ || !document.onChange || &followed_->adventure != &document.Adventure()) {
+        if (!document.onChange) ForgetJumps();
         followed_ = std::make_shared<Followed>(document.Adventure());
         ++edition_;
         document.onChange = [this, known = std::weak_ptr(followed_), &document](std::string_view changes) {
@@ -323,7 +324,14 @@ void Navigator::SearchTexts(std::string_view typed, std::vector<JumpLine>& found
     }
 }
 
+/// They led through the adventure that was open before.
+void Navigator::ForgetJumps() {
+    back_.clear();
+    forward_.clear();
+}
+
 void Navigator::GoTo(const Jump& jump) {
+    OpenDocument();
     if (const auto here = Here(); here && *here != jump) {
         back_.push_back(*here);
         forward_.clear();
@@ -341,7 +349,7 @@ void Navigator::Show(const Jump& jump) {
 }
 
 bool Navigator::Back() {
-    if (back_.empty() || OpenDocument() == nullptr) return false;
+    if (OpenDocument() == nullptr || back_.empty()) return false;
     if (const auto here = Here()) forward_.push_back(*here);
     const Jump jump = back_.back();
     back_.pop_back();
@@ -350,7 +358,7 @@ bool Navigator::Back() {
 }
 
 bool Navigator::Forward() {
-    if (forward_.empty() || OpenDocument() == nullptr) return false;
+    if (OpenDocument() == nullptr || forward_.empty()) return false;
     if (const auto here = Here()) back_.push_back(*here);
     const Jump jump = forward_.back();
     forward_.pop_back();

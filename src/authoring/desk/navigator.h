@@ -57,7 +57,7 @@ class Navigator {
     /// Shows the record; where the author was before is kept for Back. A record that has gone is told in
     /// the status line.
     void GoTo(const Jump& jump);
-    /// False when there is nowhere to go.
+    /// Within the open adventure. False when there is nowhere to go.
     bool Back();
     bool Forward();
 
@@ -92,6 +92,7 @@ class Navigator {
     references::PlaceText& Places();
     std::optional<Jump> Here() const;
     void Show(const Jump& jump);
+    void ForgetJumps();
     JumpLine LineFor(const references::Use& use);
     std::optional<JumpLine> LineOf(const references::Target& target, references::WordTypes types);
     void SearchNumber(std::string_view typed, std::vector<JumpLine>& found);

@@ -5,7 +5,9 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QScopeGuard>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -31,6 +33,20 @@ QString FolderShown(const platform::FileQuestion& question) {
 
 platform::FileQuestion Question(const std::filesystem::path& start) {
     return {.title = "Open", .filter = "Games|*.fbd", .extension = "fbd", .start = start};
+}
+
+/// What Enter answers to a question.
+bool AnsweredByEnter(std::string_view title) {
+    QTimer::singleShot(0, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box) QTest::keyClick(box, Qt::Key_Return);
+    });
+    return qt::QtDialogs().Confirm("Go on?", title);
+}
+
+TEST(Confirm, EnterSaysYesToAQuestionAndNoToAWarning) {
+    EXPECT_TRUE(AnsweredByEnter("Confirm"));
+    EXPECT_FALSE(AnsweredByEnter("Warning"));
 }
 
 TEST(ChooseFile, BeginsInTheFolderThatItIsGiven) {

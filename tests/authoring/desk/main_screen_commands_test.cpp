@@ -148,6 +148,33 @@ TEST_F(CommandsTest, NameTheRecordsOfTheTable) {
     EXPECT_EQ(StateOf(Command::Delete).text, "Delete Process Record 3 or above");
 }
 
+TEST_F(CommandsTest, ThatChangeAreOffInAnAdventureThatIsOpenToReadUntilItIsCopied) {
+    const auto file = Make("shared.fbd");
+    const auto elsewhere = store::Adventure::OpenForChange(file);
+    dialogs.AnswerNext(true);
+    ASSERT_TRUE(main->OpenFile(file));
+    main->Show({TableNum::Locations});
+    main->SelectRow(0);
+    const std::vector<Command> changing = {Command::Restore,     Command::ImportGraphic,
+                                           Command::BatchImport, Command::Add,
+                                           Command::Edit,        Command::Delete,
+                                           Command::Sort,        Command::Renumber,
+                                           Command::Settings,    Command::ShortDescriptions,
+                                           Command::KeyChange,   Command::TravelTable};
+    for (const Command command : changing) {
+        EXPECT_EQ(StateOf(command).why,
+                  "The adventure is open to read only; Save As makes a copy that can be changed.")
+            << EntryOf(command).key;
+    }
+    for (const Command command : {Command::SaveAs, Command::Close, Command::Export, Command::Preview,
+                                  Command::Find, Command::Replace, Command::Run, Command::Verify})
+        EXPECT_TRUE(IsEnabled(command)) << EntryOf(command).key;
+    dialogs.AnswerFile(folder / "own.fbd");
+    ASSERT_TRUE(main->SaveAs());
+    for (const Command command : {Command::Add, Command::Edit, Command::Delete, Command::Settings})
+        EXPECT_TRUE(IsEnabled(command)) << EntryOf(command).key;
+}
+
 TEST_F(CommandsTest, DoNothingWhenTheyAreOff) {
     EXPECT_EQ(main->Run(Command::Add), std::nullopt);
     EXPECT_EQ(main->Run(Command::Undo), std::nullopt);

@@ -176,8 +176,10 @@ TEST_F(MainWindowTest, OpensAFileThatCannotBeWrittenToReadAndSaysSo) {
                   ": it can only be read. It is opened to read only; Save As makes a copy that "
                   "can be changed.");
     EXPECT_TRUE(main->CurrentContext().document.IsReadOnly());
+    EXPECT_EQ(main->Title(), "Fabula IDE - fixed (read only)");
     dialogs.AnswerFile(folder / "own.fbd");
     EXPECT_TRUE(main->SaveAs());
+    EXPECT_EQ(main->Title(), "Fabula IDE - own");
     EXPECT_FALSE(main->CurrentContext().document.IsReadOnly());
     StoreMessage(1, "changed");
 }
@@ -231,6 +233,16 @@ TEST_F(MainWindowTest, KeepsTheOpenAdventureWhenItIsNotToBeReplaced) {
     EXPECT_FALSE(New("game.fbd"));
     EXPECT_EQ(main->GetState(), State::Open);
     EXPECT_EQ(Adventure().OpenTable(TableNum::Messages, "def").RecordCount(), 1);
+}
+
+TEST_F(MainWindowTest, UndoesAsBeforeWhenTheOpenAdventureIsNotToBeReplaced) {
+    OpenNew();
+    StoreMessage(0, "old");
+    dialogs.AnswerNext(false);
+    EXPECT_FALSE(New("game.fbd"));
+    EXPECT_EQ(dialogs.Boxes().back().text,
+              "All information in " + (folder / "game.fbd").string() + " will be deleted.");
+    EXPECT_EQ(main->CurrentContext().document.UndoName(), "add message 0");
 }
 
 TEST_F(MainWindowTest, KeepsTheOpenAdventureWhenANewOneCannotBeMade) {

@@ -101,6 +101,36 @@ TEST_F(NavigatorTest, GoesThereAndBackAndForward) {
     EXPECT_FALSE(navigator.Forward());
 }
 
+TEST_F(NavigatorTest, GoesBackWithinTheOpenAdventureOnly) {
+    navigator.GoTo(navigator.Lines()[1].jump);
+    ASSERT_TRUE(navigator.Back());
+    navigator.GoTo(navigator.Lines()[1].jump);
+    main->OpenFile(Make("other.fbd"));
+    main->Show({TableNum::Locations});
+    EXPECT_FALSE(navigator.Back());
+    EXPECT_FALSE(navigator.Forward());
+    EXPECT_EQ(main->Grid().View(), TableView{TableNum::Locations});
+}
+
+TEST_F(NavigatorTest, GoesBackToWhereTheFirstJumpInAnotherAdventureBegan) {
+    navigator.GoTo(navigator.Lines()[1].jump);
+    main->OpenFile(Make("other.fbd"));
+    main->Show({TableNum::Locations});
+    main->SelectRow(0);
+    navigator.GoTo({{TableNum::Flags, 0}, 60});
+    EXPECT_TRUE(navigator.Back());
+    EXPECT_EQ(main->Grid().View(), TableView{TableNum::Locations});
+    EXPECT_FALSE(navigator.Back());
+}
+
+TEST_F(NavigatorTest, GoesBackInACopyToWhereItWasInTheFirstFile) {
+    navigator.GoTo(navigator.Lines()[1].jump);
+    dialogs.AnswerFile(folder / "copy.fbd");
+    ASSERT_TRUE(main->SaveAs());
+    EXPECT_TRUE(navigator.Back());
+    EXPECT_EQ(main->Grid().View().table, TableNum::Messages);
+}
+
 TEST_F(NavigatorTest, FindsRecordsByNumberWordsAndText) {
     EXPECT_THAT(Texts(navigator.Search("m1")), ElementsAre("message 1: It is dark."));
     EXPECT_THAT(Texts(navigator.Search("get lamp")),
