@@ -37,7 +37,7 @@ constexpr KindOption kKinds[] = {
 }  // namespace
 
 SetupDialog::SetupDialog(AdventureSetup& setup, QWidget* parent)
-    : ColumnDialog({"adventureSetup", qt::Translated(AdventureSetup::kTitle), "frmsetup.html"}, parent),
+    : ColumnDialog({"adventureSetup", qt::Translated(authoring::kSetupTitle), "frmsetup.html"}, parent),
       setup_(setup),
       explanation_(new QLabel),
       starter_(new QCheckBox(tr("&Begin with the words and entries that most games have"))) {
