@@ -1,6 +1,7 @@
 #include "interchange/batch/batch_writer.h"
 
 #include "platform/error.h"
+#include "store/record_limits.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -11,8 +12,6 @@ namespace {
 
 using store::Cursor;
 using store::TableNum;
-
-constexpr int kHighestProcess = 999;
 
 void AddLine(std::string& file, std::string_view line) {
     file.append(line).append("\n");
@@ -66,7 +65,7 @@ std::vector<int> ProcessesWithEntries(store::Adventure& adventure,
 
 std::optional<int> ProcessNumber(std::string_view typed) {
     const auto number = text::WholeNumber(text::TrimBlanks(typed));
-    if (!number || *number < 0 || *number > kHighestProcess) return std::nullopt;
+    if (!number || *number < 0 || *number > store::kHighestRecord) return std::nullopt;
     return static_cast<int>(*number);
 }
 
