@@ -1,4 +1,3 @@
-#include <fstream>
 #include <iostream>
 #include <vector>
 
@@ -6,6 +5,7 @@
 
 #include "cli/file_kind_option.h"
 #include "cli/source_adventure.h"
+#include "cli/source_switches.h"
 #include "cli/verbs.h"
 #include "platform/error.h"
 #include "references/lint.h"
@@ -18,9 +18,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 using references::Finding;
-
-/// In a source, a comment with these words switches findings off.
-constexpr std::string_view kDirective = "lint off ";
 
 struct Options {
     std::string file;
@@ -49,14 +46,6 @@ references::LintSwitches SwitchesOf(const std::vector<std::string>& lines) {
         if (!switches.Add(line)) throw UsageError("there is no finding '" + line + "'; --rules shows them");
     }
     return switches;
-}
-
-void AddSwitchesOfSource(const std::string& source, references::LintSwitches& switches) {
-    std::ifstream file(source);
-    for (std::string line; std::getline(file, line);) {
-        const std::size_t at = line.find(kDirective);
-        if (at != std::string::npos) switches.Add(std::string_view(line).substr(at + kDirective.size()));
-    }
 }
 
 /// Writes the switches of the command into the adventure.
@@ -93,12 +82,13 @@ Result LintFile(const Options& options) {
     const std::filesystem::path file = folder.Path() / "lint.fbd";
     std::ostream quiet(nullptr);
     Console console(quiet);
-    interchange::JobResult imported = interchange::ImportIt(KindOfSource(options.file, options.kind),
-                                                            options.file, file, true, console.JobHost());
+    const interchange::FileKind& kind = KindOfSource(options.file, options.kind);
+    interchange::JobResult imported =
+        interchange::ImportIt(kind, options.file, file, true, console.JobHost());
     for (const interchange::Fault& fault : imported.allFaults)
         std::cerr << text::SafeLines(fault.Line()) << "\n";
     if (!imported.done) throw Error("Could not read " + options.file + ".");
-    AddSwitchesOfSource(options.file, switches);
+    AddSwitchesOfSource(kind, options.file, switches);
     switches.Remove(SwitchesOf(options.on));
     const auto adventure = OpenToRead(file.string());
     result.findings = references::Lint(*adventure, switches);
