@@ -41,12 +41,16 @@ void CondActRunner::ResetBudget() {
 }
 
 void CondActRunner::BeginSlice() {
-    sliceBegan_ = {condactsRun_, entriesSeen_, game_.printer.Spent()};
+    sliceBegan_ = {condactsRun_, LookedAt(), game_.printer.Spent()};
+}
+
+std::int64_t CondActRunner::LookedAt() const {
+    return entriesSeen_ + game_.objectsWeighed;
 }
 
 bool CondActRunner::SliceIsOver() const {
     return slice_ > 0 && (condactsRun_ - sliceBegan_.condacts >= slice_ ||
-                          entriesSeen_ - sliceBegan_.entries >= slice_ * kEntriesForACondAct ||
+                          LookedAt() - sliceBegan_.looks >= slice_ * kEntriesForACondAct ||
                           game_.printer.Spent() - sliceBegan_.text >= kSliceText);
 }
 

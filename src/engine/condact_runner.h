@@ -39,8 +39,8 @@ class CondActRunner {
     static constexpr int kFirstCell = 4;
     static constexpr int kCallDepth = 200;
 
-    /// The run rests after `slice` condacts, a hundred times as many entries, or kSliceText bytes of text,
-    /// and then again; 0: it never does.
+    /// The run rests after `slice` condacts, a hundred times as many entries and weighed objects together,
+    /// or kSliceText bytes of text, and then again; 0: it never does.
     CondActRunner(Game& game, std::int64_t condactLimit, std::int64_t slice);
 
     /// Begins a run of one table at an entry and cell; -1 means the first. Run then carries it out.
@@ -138,6 +138,7 @@ class CondActRunner {
     const ProcessTable* Table(ProcessNumber process) const;
     void CountCondAct();
     bool SliceIsOver() const;
+    std::int64_t LookedAt() const;
     void BeginSlice();
 
     Game& game_;
@@ -153,7 +154,7 @@ class CondActRunner {
     /// What has been spent.
     struct Spent {
         std::int64_t condacts = 0;
-        std::int64_t entries = 0;
+        std::int64_t looks = 0;  ///< at entries and at objects that are weighed
         std::int64_t text = 0;
     };
     Spent sliceBegan_;

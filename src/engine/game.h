@@ -88,6 +88,8 @@ class Game {
     bool stopDoAll = false;
     bool restart = false;  ///< the game starts again when it ends
 
+    std::int64_t objectsWeighed = 0;  ///< so far; many of them end a slice of a long turn
+
     /// Verb and adverb that the turn cycle cleared before the sentence came; slot 1 of the history gets
     /// them back.
     bool wordsCleared = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "condacts/limits.h"
 #include "condacts/object_attributes.h"
@@ -44,19 +45,80 @@ bool IsContainer(const Game& game, ObjectNumber object) {
            (DataOf(game, object).attributes & condacts::attribute::kContainer) != 0;
 }
 
-/// `left` counts down with each object: when more are weighed than there are, one lies inside itself.
-int Weigh(const Game& game, ObjectNumber object, int& left) {
-    if (--left < 0) throw RunFailure("object " + std::to_string(object.value) + " lies inside itself");
-    const ObjectData& data = DataOf(game, object);
-    const bool container = (data.attributes & condacts::attribute::kContainer) != 0;
-    if (container && data.weight == 0) return 0;
-    int weight = data.weight;
-    if (!container) return weight;
-    for (const ObjectNumber inside : game.state.Objects()) {
-        if (game.state.ObjectPlace(inside) == Inside(object)) weight += Weigh(game, inside, left);
+/// What lies in which object, found out in one look at all of them.
+class Contents {
+  public:
+    static constexpr int kNothing = -1;
+
+    explicit Contents(const RunState& state)
+        : first_(static_cast<std::size_t>(state.ObjectCount()), kNothing), next_(first_) {
+        for (int number = state.ObjectCount() - 1; number >= 0; --number) {
+            // The place inside an object bears the object's number.
+            const int container = state.ObjectPlace(ObjectNumber(number)).value;
+            if (container < 0 || container >= state.ObjectCount()) continue;
+            next_[static_cast<std::size_t>(number)] = First(container);
+            first_[static_cast<std::size_t>(container)] = number;
+        }
     }
-    return weight;
-}
+
+    /// The objects in one, in the order of their numbers: the first, and the one behind each.
+    int First(int container) const { return first_[static_cast<std::size_t>(container)]; }
+    int Next(int object) const { return next_[static_cast<std::size_t>(object)]; }
+
+  private:
+    std::vector<int> first_;
+    std::vector<int> next_;
+};
+
+/// Weighs objects while none of them moves.
+class Weighing {
+  public:
+    explicit Weighing(Game& game) : game_(game) {}
+
+    int WeightOf(ObjectNumber object) {
+        if (game_.IsMarlo()) {
+            DataOf(game_, object);  // an object that does not exist is a fault there too
+            return 0;
+        }
+        // When more are weighed than there are, one lies inside itself.
+        int left = game_.state.ObjectCount();
+        int weight = 0;
+        std::vector<int> around;  // the containers that hold what is weighed, the outermost first
+        for (int at = object.value;;) {
+            if (--left < 0) throw RunFailure("object " + std::to_string(at) + " lies inside itself");
+            const int inside = Weigh(ObjectNumber(at), weight);
+            if (inside != Contents::kNothing) {
+                around.push_back(at);
+                at = inside;
+                continue;
+            }
+            while (!around.empty() && contents_->Next(at) == Contents::kNothing) {
+                at = around.back();
+                around.pop_back();
+            }
+            if (around.empty()) return weight;
+            at = contents_->Next(at);
+        }
+    }
+
+  private:
+    /// Adds the object's own weight. The first of the objects in it that weigh, too.
+    int Weigh(ObjectNumber object, int& weight) {
+        const ObjectData& data = DataOf(game_, object);
+        ++game_.objectsWeighed;
+        weight += data.weight;
+        const bool container = (data.attributes & condacts::attribute::kContainer) != 0;
+        if (!container || data.weight == 0) return Contents::kNothing;
+        if (!contents_) {
+            contents_.emplace(game_.state);
+            game_.objectsWeighed += game_.state.ObjectCount();
+        }
+        return contents_->First(object.value);
+    }
+
+    Game& game_;
+    std::optional<Contents> contents_;  ///< made when the first container is met
+};
 
 }  // namespace
 
@@ -107,21 +169,18 @@ bool FindObject(Game& game, ObjectNumber& object, const SearchOrder& order) {
 }
 
 int WeighObject(Game& game, ObjectNumber object) {
-    if (game.IsMarlo()) {
-        DataOf(game, object);  // an object that does not exist is a fault there too
-        return 0;
-    }
-    int left = game.state.ObjectCount();
-    return Weigh(game, object, left);
+    return Weighing(game).WeightOf(object);
 }
 
 void WeighCarried(Game& game, FlagNumber flag) {
+    Weighing weighing(game);
     int total = 0;
     for (const ObjectNumber object : game.state.Objects()) {
         if (!game.IsCarried(object) && (game.IsMarlo() || !game.IsWorn(object))) continue;
-        game.SetFlag(flag::kWeightScratch, WeighObject(game, object));
+        game.SetFlag(flag::kWeightScratch, weighing.WeightOf(object));
         total += game.Flag(flag::kWeightScratch);
     }
+    game.objectsWeighed += game.state.ObjectCount();
     game.SetFlag(flag, std::min(total, condacts::limit::kHeaviestLoad));
 }
 

@@ -6,6 +6,7 @@
 #include "platform/whole_file.h"
 #include "store/extensions.h"
 #include "store/file_copy.h"
+#include "store/temporary_file.h"
 #include "text/byte_order_mark.h"
 
 namespace fabula::engine {
@@ -32,6 +33,8 @@ std::string_view Script::StatusText() const {
 
 void Script::StartWriting(const std::filesystem::path& file) {
     store::CheckTarget(file, store::Content::Text, store::extension::kScript);
+    if (Loaded() && !store::IsStream(file) && store::IsSameFile(file, inputName_))
+        throw Error("Could not write the script " + file.string() + ": it is being played.");
     output_.clear();
     output_.open(file, std::ios::binary | std::ios::trunc);
     if (!output_) throw Error("Could not write the script " + file.string() + ".");
@@ -42,9 +45,12 @@ void Script::StartWriting(const std::filesystem::path& file) {
 
 void Script::Load(const std::filesystem::path& file) {
     platform::CheckIsFile(file, "read the script " + file.string());
+    if (Writing() && store::IsSameFile(file, outputName_))
+        throw Error("Could not read the script " + file.string() + ": it is being written.");
     input_.clear();
     input_.open(file, std::ios::binary);
     if (!input_) throw Error("Could not read the script " + file.string() + ".");
+    inputName_ = file;
     for (const char expected : text::kByteOrderMark) {
         if (input_.get() == static_cast<unsigned char>(expected)) continue;
         input_.clear();

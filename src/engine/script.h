@@ -22,7 +22,7 @@ class Script {
     /// "Script Off", "Script Writing", "Script Loaded", "Script Loaded & Writing".
     std::string_view StatusText() const;
 
-    /// Throw fabula::Error when the file can't be opened.
+    /// Throw fabula::Error when the file can't be opened, or is the other one of the two.
     void StartWriting(const std::filesystem::path& file);
     void Load(const std::filesystem::path& file);
     void CloseInput();
@@ -55,6 +55,7 @@ class Script {
     bool atLineStart_ = true;
     bool answerMarked_ = false;  ///< the line holds just the mark of an answer
     std::ifstream input_;
+    std::filesystem::path inputName_;
     std::string failure_;
 };
 

@@ -39,6 +39,14 @@ void TraceSpeech(Game& game) {
     game.trace.Tell(SentenceRead{.words = SentenceWords(game), .isSpoken = true});
 }
 
+/// The words as they were before the first PARSE that understood what was said.
+void TakeWordsBack(Game& game) {
+    for (const StoredFlag& stored : kStoredFlags) {
+        if (game.Flag(stored.store) != 0) game.SetFlag(stored.flag, game.Flag(stored.store));
+        game.SetFlag(stored.store, 0);
+    }
+}
+
 }  // namespace
 
 bool Parse(Game& game) {
@@ -51,14 +59,11 @@ bool Parse(Game& game) {
     TraceSpeech(game);
     if (!speech.empty()) {
         game.command.insert(begin, speech);  // further sentences were said: they wait for the next PARSE
-    } else {
-        std::erase(game.command, kQuote);
-        if (game.command.starts_with(kSentenceEnd)) game.command.erase(0, 1);
+        return !parsed;
     }
-    for (const StoredFlag& stored : kStoredFlags) {
-        if (!parsed && game.Flag(stored.store) != 0) game.SetFlag(stored.flag, game.Flag(stored.store));
-        game.SetFlag(stored.store, 0);
-    }
+    std::erase(game.command, kQuote);
+    if (game.command.starts_with(kSentenceEnd)) game.command.erase(0, 1);
+    if (!parsed) TakeWordsBack(game);
     return !parsed;
 }
 

@@ -2,8 +2,10 @@
 
 #include "pictures/room_bitmaps.h"
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "store/create.h"
 #include "store/file_copy.h"
+#include "text/bad_bytes.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {
@@ -19,7 +21,7 @@ JobResult ResultOf(bool done, const JobStatus& status) {
 
 void SetSaveName(Adventure& adventure, const std::filesystem::path& target) {
     Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
-    settings.SetField("savename", target.stem().string());
+    settings.SetField("savename", text::WithoutBadBytes(target.stem().string()));
     settings.Update();
 }
 
@@ -85,6 +87,7 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
     if (store::IsSameFile(source, target))
         throw Error("Could not write " + target.string() + ": it is the source itself.");
     store::CheckTarget(target, store::Content::Adventure);
+    platform::CheckIsFile(source, "read " + source.string());
     status.AddToStatus("CLS");
     status.AddToStatusCR("Creating default database for " + target.string());
     status.AddToStatusCR("This will take a few minutes.");

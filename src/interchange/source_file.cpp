@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/error.h"
+#include "text/bad_bytes.h"
 #include "text/byte_order_mark.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -51,17 +52,6 @@ class Utf8Detector {
     bool isUtf8_ = true;
     std::string begun_;
 };
-
-std::string WithoutBadBytes(const std::string& bytes) {
-    if (text::IsValidUtf8(bytes)) return bytes;
-    std::string result;
-    for (std::size_t i = 0; i < bytes.size();) {
-        const text::CodePoint point = text::DecodeAt(bytes, i);
-        text::AppendCodePoint(result, point.value >= text::kBadByte ? U'\uFFFD' : point.value);
-        i += point.size;
-    }
-    return result;
-}
 
 }  // namespace
 
@@ -143,7 +133,7 @@ bool SourceFile::Next(std::string& line) {
 
 std::string SourceFile::Decoded(std::string bytes) const {
     std::replace(bytes.begin(), bytes.end(), '\0', ' ');
-    return isUtf8_ ? WithoutBadBytes(bytes) : text::FromWindows1252(bytes);
+    return isUtf8_ ? text::WithoutBadBytes(bytes) : text::FromWindows1252(bytes);
 }
 
 std::vector<std::string_view> SplitWords(std::string_view line) {

@@ -162,7 +162,7 @@ RangeCheck CheckExtraEntries(const std::string& text) {
     if (text.empty()) return {};
     const auto number = NumberOf(text);
     if (!number) return Fault(text + " is not numeric");
-    if (*number + kFixedEntries > kHighestEntry)
+    if (*number > kHighestEntry - kFixedEntries)
         return Fault(text + " extra entries would take it out of the table");
     return {{static_cast<int>(*number)}, ""};
 }

@@ -3,23 +3,26 @@
 #include "platform/error.h"
 #include "text/fields.h"
 #include "text/markup.h"
+#include "text/safe_text.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
 namespace fabula::packages {
 namespace {
 
-/// A text in one line, without what XML can't hold.
+/// A text in one line, without what XML can't hold or a terminal would obey.
 std::string OneLine(std::string_view text) {
     std::string line;
     for (const char c : text) {
         const bool control = static_cast<unsigned char>(c) < ' ';
         line += control ? ' ' : c;
     }
+    std::string shown;
+    text::AppendSafe(line, shown);
     // U+FFFE and U+FFFF are no characters of XML.
     for (const std::string_view none : {"\xEF\xBF\xBE", "\xEF\xBF\xBF"})
-        line = text::ReplaceAll(line, none, " ");
-    return std::string(text::TrimBlanks(text::CollapseBlanks(line)));
+        shown = text::ReplaceAll(shown, none, " ");
+    return std::string(text::TrimBlanks(text::CollapseBlanks(shown)));
 }
 
 /// `name` is one word of the format; `indent` the blanks before it.

@@ -1,6 +1,7 @@
 #include "packages/package_list.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/fields.h"
 #include "text/str_edit.h"
@@ -22,8 +23,10 @@ int RankOf(std::string_view type) {
     return static_cast<int>(std::find(std::begin(kTypes), std::end(kTypes), type) - std::begin(kTypes));
 }
 
-bool IsSameName(std::string_view left, std::string_view right) {
-    return text::EqualsNoCase(text::ReplaceAll(left, "\\", "/"), text::ReplaceAll(right, "\\", "/"));
+/// What two names of one file have in common: "pictures//A.png" and "pictures/a.png" are one in a zip.
+std::string KeyOf(std::string_view name) {
+    const std::optional<std::string> inZip = ZipName(name);
+    return text::LowerCase(inZip ? *inZip : text::ReplaceAll(name, "\\", "/"));
 }
 
 }  // namespace
@@ -39,7 +42,7 @@ bool CanPackage(const store::Adventure& adventure) {
 PackageList::PackageList(store::Adventure& adventure) : facts_(ReadFacts(adventure)) {
     for (PackageRow& row : Stored(adventure)) {
         const bool kept = row.type == package_type::kEngine || row.type == package_type::kFile;
-        if (kept && Find(row.name) == nullptr) rows_.push_back(std::move(row));
+        if (kept) Insert(std::move(row));
     }
     Add(package_type::kDatabase, adventure.CurrentFile().filename().string());
     if (!facts_.picturesInside) AddGraphics(adventure);
@@ -78,10 +81,11 @@ void PackageList::AddGraphics(store::Adventure& adventure) {
 }
 
 const PackageRow* PackageList::Find(std::string_view name) const {
-    for (const PackageRow& row : rows_) {
-        if (IsSameName(row.name, name)) return &row;
-    }
-    return nullptr;
+    const std::string key = KeyOf(name);
+    if (!keys_.contains(key)) return nullptr;
+    const auto found = std::find_if(rows_.begin(), rows_.end(),
+                                    [&](const PackageRow& row) { return KeyOf(row.name) == key; });
+    return &*found;
 }
 
 bool PackageList::HasEngine() const {
@@ -90,19 +94,32 @@ bool PackageList::HasEngine() const {
 }
 
 bool PackageList::Add(std::string_view type, const std::string& name) {
-    if (name.empty() || Find(name) != nullptr) return false;
-    const auto behind = std::find_if(
-        rows_.begin(), rows_.end(), [&](const PackageRow& row) { return RankOf(row.type) > RankOf(type); });
-    rows_.insert(behind, {std::string(type), name, true});
+    return !name.empty() && Insert({std::string(type), name, true});
+}
+
+bool PackageList::Insert(PackageRow row) {
+    if (!keys_.insert(KeyOf(row.name)).second) return false;
+    const auto behind =
+        std::upper_bound(rows_.begin(), rows_.end(), RankOf(row.type),
+                         [](int rank, const PackageRow& other) { return rank < RankOf(other.type); });
+    rows_.insert(behind, std::move(row));
     return true;
 }
 
+void PackageList::RemoveRows(const std::function<bool(const PackageRow&)>& which) {
+    std::erase_if(rows_, [&](const PackageRow& row) {
+        if (!which(row)) return false;
+        keys_.erase(KeyOf(row.name));
+        return true;
+    });
+}
+
 void PackageList::RemoveType(std::string_view type) {
-    std::erase_if(rows_, [&](const PackageRow& row) { return row.type == type; });
+    RemoveRows([&](const PackageRow& row) { return row.type == type; });
 }
 
 void PackageList::Remove(std::string_view name) {
-    std::erase_if(rows_, [&](const PackageRow& row) { return IsSameName(row.name, name); });
+    RemoveRows([key = KeyOf(name)](const PackageRow& row) { return KeyOf(row.name) == key; });
 }
 
 void PackageList::Store(store::Adventure& adventure) const {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,7 +35,7 @@ struct PackageRow {
 bool CanPackage(const store::Adventure& adventure);
 
 /// The list of the files of a game's package: what the table `Package` holds under the game's name, of
-/// which the table takes the first 12 characters. Names that differ by case are one.
+/// which the table takes the first 12 characters. Names that differ by case, or are one in a zip, are one.
 class PackageList {
   public:
     /// Reads the rows; then the database's and the graphics' are built anew, from the adventure as it is,
@@ -61,9 +63,13 @@ class PackageList {
     std::string Package() const;
     std::vector<PackageRow> Stored(store::Adventure& adventure) const;
     void AddGraphics(store::Adventure& adventure);
+    /// Behind the rows of its type and those before it; false when its name is in the list.
+    bool Insert(PackageRow row);
+    void RemoveRows(const std::function<bool(const PackageRow&)>& which);
 
     GameFacts facts_;
-    std::vector<PackageRow> rows_;
+    std::vector<PackageRow> rows_;  ///< in the order of their types
+    std::set<std::string> keys_;    ///< of their names
 };
 
 /// The name of a file in a zip: relative, "/" between folders, never out of the folder, and no control

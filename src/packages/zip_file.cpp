@@ -1,11 +1,13 @@
 #include "packages/zip_file.h"
 
+#include <cstdint>
 #include <limits>
 #include <utility>
 
 #include <minizip/zip.h>
 #include <zlib.h>
 
+#include "platform/whole_file.h"
 #include "store/file_copy.h"
 #include "store/temporary_file.h"
 
@@ -110,12 +112,17 @@ std::string ZipErrorText(int code) {
 
 void WriteZip(const std::filesystem::path& target, const std::vector<PackedFile>& files) {
     if (files.empty()) throw ZipFailure(zip_code::kNothingToDo);
-    const store::TemporaryFile made(target);
+    const bool isStandardOutput = target == store::kStandardOutput;
+    const store::TemporaryFile made(isStandardOutput ? std::filesystem::temp_directory_path() / "fabula.zip"
+                                                     : target);
     Archive archive(made.Path());
     for (const PackedFile& file : files)
         archive.Add(file);
     archive.Close();
-    store::MoveIntoPlace(made.Path(), target);
+    if (!isStandardOutput && !store::IsStream(target)) return store::MoveIntoPlace(made.Path(), target);
+    store::WriteFile(target,
+                     platform::ReadWholeFile(made.Path(), std::numeric_limits<std::uintmax_t>::max(),
+                                             "read the zip again"));
 }
 
 }  // namespace fabula::packages

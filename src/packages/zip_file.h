@@ -43,7 +43,8 @@ struct PackedFile {
 };
 
 /// Writes a zip of the files in their order: beside `target` and in its place when it is complete, so that
-/// a failure leaves what is there. The same files give the same bytes, whenever and wherever. Throws
+/// a failure leaves what is there. A device or a pipe is written to, and so is the standard output for "-".
+/// The same files give the same bytes, whenever and wherever. Throws
 /// ZipFailure, and fabula::Error for a target that can't be replaced.
 void WriteZip(const std::filesystem::path& target, const std::vector<PackedFile>& files);
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "pictures/book_loader.h"
@@ -113,6 +114,7 @@ void StorePicture(store::Adventure& adventure, const Picture& picture, const std
 void AddPictureFolder(store::Adventure& adventure, const std::filesystem::path& folder) {
     PictureBook book = LoadPictureBook(adventure);
     const std::vector<DrawingFile> drawings = FindDrawings(folder);
+    if (drawings.empty()) throw Error("There is no drawing in the folder " + folder.string() + ".");
     const auto isShown = [&book](const DrawingFile& drawing) {
         return drawing.isDefault || book.locations.count(drawing.number) > 0;
     };
@@ -120,9 +122,10 @@ void AddPictureFolder(store::Adventure& adventure, const std::filesystem::path& 
         const auto kind = isShown(drawing) ? PictureKind::Room : PictureKind::Subroutine;
         book.pictures[drawing.number] = ReadPicture(drawing.file, drawing.number, kind);
     }
+    std::vector<std::pair<int, std::string>> bitmaps;
     store::Transaction transaction(adventure);
     for (const DrawingFile& drawing : drawings) {
-        Picture& picture = book.pictures.at(drawing.number);
+        const Picture& picture = book.pictures.at(drawing.number);
         const DrawstringCheck check = ValidateDrawString(book, picture.drawstring, picture.kind);
         if (!check.Passed()) throw Error(drawing.file.string() + ": " + check.fault);
         const std::optional<int> room = drawing.isDefault ? std::nullopt : std::optional(drawing.number);
@@ -131,12 +134,17 @@ void AddPictureFolder(store::Adventure& adventure, const std::filesystem::path& 
                      isShown(drawing) && !drawing.isDefault ? drawing.number : kNoRoom);
         if (bitmap.empty()) continue;
         NameBitmap(adventure, room, bitmap);
-        SaveBitmap(adventure, bitmap, DrawPicture(book, drawing.number));
+        DrawPicture(book, drawing.number);
+        bitmaps.emplace_back(drawing.number, bitmap);
     }
     Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
     settings.SetField("graphics", true);
     settings.Update();
     transaction.Commit();
+    // No bitmap is replaced before all drawings have shown that they can be drawn. They are drawn once more
+    // rather than all kept.
+    for (const auto& [number, bitmap] : bitmaps)
+        SaveBitmap(adventure, bitmap, DrawPicture(book, number));
 }
 
 }  // namespace fabula::pictures

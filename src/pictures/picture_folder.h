@@ -24,8 +24,9 @@ inline constexpr std::uintmax_t kLargestDrawing = 1024 * 1024;
 ///
 /// Each drawing becomes a record of `Pictures`, in place of one with its number. The pictures of rooms are
 /// saved as pictures/NAME/RoomNNN.bmp and pictures/NAME/Default.bmp beside the adventure NAME.fbd, the
-/// rooms name them, and `graphics` is on. Throws fabula::Error for a drawing that does not pass the check
-/// of drawstrings or can't be drawn; the adventure is then as it was.
+/// rooms name them, and `graphics` is on. Throws fabula::Error for a folder without drawings and for one
+/// that does not pass the check of drawstrings or can't be drawn; adventure and bitmaps are then as they
+/// were. A bitmap that can't be written is an error too, but the adventure has its drawings by then.
 void AddPictureFolder(store::Adventure& adventure, const std::filesystem::path& folder);
 
 }  // namespace fabula::pictures

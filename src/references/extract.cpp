@@ -137,7 +137,9 @@ class Extraction {
         use.field = field;
         use.token = token;
         use.access = access;
-        return uses_.emplace_back(KeptUse{use});
+        KeptUse& kept = uses_.emplace_back(KeptUse{use});
+        kept.storeKey = row_.Key();
+        return kept;
     }
 
     void AddWord(std::int64_t number, WordTypes types, std::string_view field, std::size_t token) {

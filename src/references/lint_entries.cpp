@@ -177,7 +177,7 @@ std::optional<std::set<int>> ValuesOf(const LintGame& game, condacts::FlagNumber
             values.insert(*kept.value);
             continue;
         }
-        const std::string_view name = game.EntryOf(kept.use.record).line.tokens[kept.use.token - 1].text;
+        const std::string_view name = game.EntryOf(kept).CondActBefore(kept.use.token);
         if (name == "SET")
             values.insert(condacts::kSet);
         else if (name != "CLEAR")
@@ -195,8 +195,8 @@ void CheckValues(const LintGame& game, Findings& findings) {
         if (!values || values->size() == 1) continue;
         for (const KeptUse& kept : uses) {
             if (kept.use.access != Access::Reads || !kept.value || values->contains(*kept.value)) continue;
-            const LintEntry& entry = game.EntryOf(kept.use.record);
-            if (entry.line.tokens[kept.use.token - 1].text != "EQ") continue;
+            const LintEntry& entry = game.EntryOf(kept);
+            if (entry.CondActBefore(kept.use.token) != "EQ") continue;
             Add(findings, "value-never", entry,
                 "asks for " + std::to_string(*kept.value) + " in flag " +
                     std::to_string(flag.number.value) + ", which it is never given.",

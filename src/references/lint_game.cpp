@@ -1,8 +1,11 @@
 #include "references/lint_game.h"
 
+#include <tuple>
+
 #include "condacts/load.h"
 #include "condacts/object_attributes.h"
 #include "pictures/drawstring.h"
+#include "store/keyed_rows.h"
 #include "text/utf8.h"
 
 namespace fabula::references {
@@ -44,19 +47,32 @@ LintGame::LintGame(store::Adventure& adventure)
       facts(condacts::LoadFacts(adventure)) {
     const store::ReadTransaction reading(adventure);
     Read(adventure);
-    ForEachRow(adventure, TableNum::ProcessTables, "canum, estype, w1num, w2num, condacts, numericcondacts",
-               "estype, w1num, w2num, canum", [&](const PreparedQuery& row) {
-                   auto entry = std::make_unique<LintEntry>();
-                   entry->key = row.Number(0);
-                   entry->process = condacts::ProcessNumber(Int(row, 1));
-                   entry->verb = WordNumber(Int(row, 2));
-                   entry->noun = WordNumber(Int(row, 3));
-                   entry->text = row.Text(4);
-                   entry->numbers = row.Text(5);
-                   entry->line = condacts::ParseLine(entry->text, catalogue);
-                   byKey_.try_emplace(entry->key, entry.get());
-                   entries.push_back(std::move(entry));
-               });
+    ReadEntries(adventure);
+}
+
+void LintGame::ReadEntries(store::Adventure& adventure) {
+    store::KeyedRows rows(adventure, TableNum::ProcessTables,
+                          {"canum", "estype", "w1num", "w2num", "condacts", "numericcondacts"});
+    for (bool more = rows.First(); more; more = rows.Next()) {
+        auto entry = std::make_unique<LintEntry>();
+        entry->storeKey = rows.Key();
+        entry->key = rows.Number(0);
+        entry->process = condacts::ProcessNumber(static_cast<int>(rows.Number(1)));
+        entry->verb = WordNumber(static_cast<int>(rows.Number(2)));
+        entry->noun = WordNumber(static_cast<int>(rows.Number(3)));
+        entry->text = rows.Text(4);
+        entry->numbers = rows.Text(5);
+        entry->line = condacts::ParseLine(entry->text, catalogue);
+        if (entry->line.tokens.empty())
+            entry->compiled = condacts::ParseNumericLine(entry->numbers, catalogue);
+        byStoreKey_.emplace(entry->storeKey, entry.get());
+        entries.push_back(std::move(entry));
+    }
+    const auto place = [](const LintEntry& entry) {
+        return std::tuple(entry.process, entry.verb, entry.noun, entry.key, entry.storeKey);
+    };
+    std::sort(entries.begin(), entries.end(),
+              [&](const auto& a, const auto& b) { return place(*a) < place(*b); });
 }
 
 void LintGame::Read(store::Adventure& adventure) {
@@ -99,8 +115,15 @@ void LintGame::Read(store::Adventure& adventure) {
                });
 }
 
-const LintEntry& LintGame::EntryOf(std::int64_t key) const {
-    return *byKey_.at(key);
+const LintEntry& LintGame::EntryOf(const KeptUse& kept) const {
+    return *byStoreKey_.at(kept.storeKey);
+}
+
+std::string_view LintEntry::CondActBefore(std::size_t token) const {
+    for (const condacts::Statement& statement : UsedLine().statements) {
+        if (statement.name + 1 == token) return statement.condAct->name;
+    }
+    return {};
 }
 
 const std::vector<KeptUse>& LintGame::UsesOf(const Target& target) const {

@@ -22,13 +22,21 @@ namespace fabula::references {
 
 /// An entry of a process table.
 struct LintEntry {
-    std::int64_t key = 0;  ///< `canum`
+    std::int64_t key = 0;       ///< `canum`, which others may bear too
+    std::int64_t storeKey = 0;  ///< that the store knows it by
     condacts::ProcessNumber process;
     condacts::WordNumber verb;
     condacts::WordNumber noun;
     std::string text;
     std::string numbers;
-    condacts::ParsedLine line;  ///< its tokens look into `text`
+    condacts::ParsedLine line;      ///< its tokens look into `text`
+    condacts::ParsedLine compiled;  ///< of an entry without a text; its tokens look into `numbers`
+
+    /// The line that names what the entry uses: its text, or what is compiled where it has lost that.
+    const condacts::ParsedLine& UsedLine() const { return line.tokens.empty() ? compiled : line; }
+    /// The condition or action whose first parameter stands at this word of the line; "" for any other
+    /// word.
+    std::string_view CondActBefore(std::size_t token) const;
 };
 
 struct LintLocation {
@@ -96,14 +104,16 @@ struct LintGame {
     std::set<int> characterSetNumbers;
     std::set<int> characters;  ///< by `charkey`
 
-    /// The entry with this key; it must be there.
-    const LintEntry& EntryOf(std::int64_t key) const;
+    /// The entry that names something; it must be one that does.
+    const LintEntry& EntryOf(const KeptUse& kept) const;
     const std::vector<KeptUse>& UsesOf(const Target& target) const;
 
   private:
     void Read(store::Adventure& adventure);
 
-    std::map<std::int64_t, const LintEntry*> byKey_;
+    void ReadEntries(store::Adventure& adventure);
+
+    std::map<std::int64_t, const LintEntry*> byStoreKey_;
 };
 
 /// Gathers what the checks find.

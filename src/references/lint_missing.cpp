@@ -85,10 +85,11 @@ bool Exists(const LintGame& game, const Use& use) {
     return true;
 }
 
-std::string Subject(const LintGame& game, const Use& use) {
+std::string Subject(const LintGame& game, const KeptUse& kept) {
+    const Use& use = kept.use;
     if (use.table == TableNum::Adventure) return "Play would ";
     if (use.table == TableNum::ProcessTables) {
-        std::string name = NameOf(game.EntryOf(use.record));
+        std::string name = NameOf(game.EntryOf(kept));
         name[0] = 'P';
         return name + " ";
     }
@@ -109,14 +110,14 @@ void CheckMissing(const LintGame& game, Findings& findings) {
                                  condacts::IsSpecialPlace(target.number);
             if (nowhere) {
                 findings.Add("exit-nowhere", use.table, use.record,
-                             Subject(game, use) + "has an exit to " + number + ", which is no place.",
+                             Subject(game, kept) + "has an exit to " + number + ", which is no place.",
                              use.field, use.token);
                 continue;
             }
             const Missing& missing = FindMissing(use);
             std::string sentence(missing.sentence);
             sentence.replace(sentence.find('#'), 1, number);
-            findings.Add(missing.code, use.table, use.record, Subject(game, use) + sentence + ".",
+            findings.Add(missing.code, use.table, use.record, Subject(game, kept) + sentence + ".",
                          use.field, use.token);
         }
     }

@@ -14,6 +14,7 @@
 #include "references/lint_game.h"
 #include "references/place_text.h"
 #include "store/character_key.h"
+#include "store/keyed_rows.h"
 
 namespace fabula::references {
 namespace {
@@ -76,6 +77,8 @@ class Planner {
         kinds_ = {kind_};
         if ((kind_ == Kind::Object || kind_ == Kind::Location) && (IsContainer(from_) || IsContainer(to_)))
             kinds_ = {Kind::Object, Kind::Location};
+        plan_.refusal = DoubleNumber();
+        if (!plan_.refusal.empty()) return std::move(plan_);
         ReadEntries();
         if (!plan_.refusal.empty()) return std::move(plan_);
         ReadRecords();
@@ -94,6 +97,22 @@ class Planner {
         const KindEntry& entry = EntryOf(kind);
         const std::string where = std::string(entry.keyField) + "=" + std::to_string(number);
         return adventure_.Prepare(entry.table, entry.keyField, where).First({});
+    }
+
+    /// Of records with one number it can't be told which of them is meant where it is named.
+    std::string DoubleNumber() const {
+        for (const Kind kind : kinds_) {
+            if (kind == Kind::CharacterSet) continue;  // one record a character
+            const KindEntry& entry = EntryOf(kind);
+            for (const int number : {from_, to_}) {
+                const std::string where = std::string(entry.keyField) + "=" + std::to_string(number);
+                store::PreparedQuery rows = adventure_.Prepare(entry.table, entry.keyField, where);
+                if (rows.First({}) && rows.Next())
+                    return "There is more than one " + Quoted(kind, number) +
+                           ": which one is meant can't be told.";
+            }
+        }
+        return {};
     }
 
     bool IsSystemFlag(FlagNumber number) const {
@@ -160,10 +179,17 @@ class Planner {
         return std::nullopt;
     }
 
-    void Change(TableNum table, std::int64_t record, std::string_view field, text::Value before,
-                text::Value after) {
+    /// A record that changes, by its number and by the key that tells it from others of that number.
+    struct Changed {
+        TableNum table;
+        std::int64_t number;
+        std::int64_t storeKey;
+    };
+
+    void Change(const Changed& record, std::string_view field, text::Value before, text::Value after) {
         if (before == after) return;
-        plan_.changes.push_back({table, record, std::string(field), std::move(before), std::move(after)});
+        plan_.changes.push_back({record.table, record.number, record.storeKey, std::string(field),
+                                 std::move(before), std::move(after)});
     }
 
     void ReadEntries() {
@@ -173,29 +199,24 @@ class Planner {
             for (const KeptUse& kept : uses) {
                 const Use& use = kept.use;
                 if (use.field != "condacts" || use.possible) continue;
-                if (!IsOrder(use)) words[use.record][use.token] = std::to_string(*Mapped(target.number));
+                if (!ComparesOrder(game_.EntryOf(kept).CondActBefore(use.token)))
+                    words[kept.storeKey][use.token] = std::to_string(*Mapped(target.number));
             }
         }
         for (const auto& entry : game_.entries) {
-            for (const condacts::Statement& statement : entry->line.statements)
-                ReadStatement(*entry, statement, words[entry->key]);
+            for (const condacts::Statement& statement : entry->UsedLine().statements)
+                ReadStatement(*entry, statement, words[entry->storeKey]);
         }
         for (const auto& entry : game_.entries) {
-            const auto& changed = words[entry->key];
-            Change(TableNum::ProcessTables, entry->key, "condacts", entry->text,
-                   WithWords(entry->text, changed));
-            if (condacts::SplitLine(entry->numbers).size() == entry->line.tokens.size())
-                Change(TableNum::ProcessTables, entry->key, "numericcondacts", entry->numbers,
-                       WithWords(entry->numbers, changed));
+            const auto& changed = words[entry->storeKey];
+            const Changed record{TableNum::ProcessTables, entry->key, entry->storeKey};
+            Change(record, "condacts", entry->text, WithWords(entry->text, changed));
+            if (condacts::SplitLine(entry->numbers).size() == entry->UsedLine().tokens.size())
+                Change(record, "numericcondacts", entry->numbers, WithWords(entry->numbers, changed));
             if (kind_ == Kind::Process && Mapped(entry->process.value))
-                Change(TableNum::ProcessTables, entry->key, "estype", std::int64_t{entry->process.value},
+                Change(record, "estype", std::int64_t{entry->process.value},
                        std::int64_t{*Mapped(entry->process.value)});
         }
-    }
-
-    bool IsOrder(const Use& use) const {
-        const auto& tokens = game_.EntryOf(use.record).line.tokens;
-        return ComparesOrder(tokens[use.token - 1].text);
     }
 
     /// What a condition or action does with numbers besides naming something by them: it compares them by
@@ -204,7 +225,7 @@ class Planner {
                        std::map<std::size_t, std::string>& words) {
         if (statement.paramsGiven == 0) return;
         const std::string& name = statement.condAct->name;
-        const auto first = condacts::WholeNumber(entry.line.Param(statement, 0));
+        const auto first = condacts::WholeNumber(entry.UsedLine().Param(statement, 0));
         if (!first) return;
         if (name == "ATGT" && Follows(Kind::Location)) return CheckOrder(entry, statement, *first, 1);
         if (name == "ATLT" && Follows(Kind::Location)) return CheckOrder(entry, statement, *first, 0);
@@ -229,7 +250,7 @@ class Planner {
         }
         if (statement.paramsGiven < 2 || statement.condAct->params[1].kind != condacts::ParamKind::Value)
             return;
-        const auto value = condacts::WholeNumber(entry.line.Param(statement, 1));
+        const auto value = condacts::WholeNumber(entry.UsedLine().Param(statement, 1));
         if (!value) return;
         if (name == "GT") return CheckOrder(entry, statement, *value, 1);
         if (name == "LT") return CheckOrder(entry, statement, *value, 0);
@@ -250,7 +271,7 @@ class Planner {
         if ((from_ >= bound) == (to_ >= bound)) return;
         std::string text = statement.condAct->name;
         for (std::size_t i = 0; i < statement.paramsGiven; ++i)
-            text.append(" ").append(entry.line.Param(statement, i));
+            text.append(" ").append(entry.UsedLine().Param(statement, i));
         if (plan_.refusal.empty())
             plan_.refusal = text + " in " + NameOf(entry) + " tells " + std::to_string(from_) + " and " +
                             std::to_string(to_) + " apart by their order.";
@@ -270,36 +291,38 @@ class Planner {
     void ReadKeys(Kind kind) {
         const KindEntry& entry = EntryOf(kind);
         if (kind == Kind::CharacterSet) return ReadCharacters();
-        store::PreparedQuery rows = adventure_.Prepare(entry.table, entry.keyField, "");
-        for (bool more = rows.First({}); more; more = rows.Next()) {
+        store::KeyedRows rows(adventure_, entry.table, {entry.keyField});
+        for (bool more = rows.First(); more; more = rows.Next()) {
             const auto mapped = Mapped(static_cast<int>(rows.Number(0)));
             if (mapped)
-                Change(entry.table, rows.Number(0), entry.keyField, rows.Number(0), std::int64_t{*mapped});
+                Change({entry.table, rows.Number(0), rows.Key()}, entry.keyField, rows.Number(0),
+                       std::int64_t{*mapped});
         }
         if (kind == Kind::Location) ReadPictureKeys();
     }
 
     void ReadCharacters() {
-        store::PreparedQuery rows =
-            adventure_.Prepare(TableNum::Characters, "charkey, charsetnum, charset, charnum", "");
-        for (bool more = rows.First({}); more; more = rows.Next()) {
+        store::KeyedRows rows(adventure_, TableNum::Characters,
+                              {"charkey", "charsetnum", "charset", "charnum"});
+        for (bool more = rows.First(); more; more = rows.Next()) {
             const auto mapped = Mapped(static_cast<int>(rows.Number(1)));
             if (!mapped) continue;
             const std::int64_t key = rows.Number(0);
+            const Changed record{TableNum::Characters, key, rows.Key()};
             std::string digits = std::to_string(*mapped);
             digits.insert(0, 4 - std::min<std::size_t>(4, digits.size()), '0');
-            Change(TableNum::Characters, key, "charset", std::string(rows.Text(2)), "SET " + digits);
-            Change(TableNum::Characters, key, "charsetnum", rows.Number(1), std::int64_t{*mapped});
-            Change(TableNum::Characters, key, "charkey", key,
+            Change(record, "charset", std::string(rows.Text(2)), "SET " + digits);
+            Change(record, "charsetnum", rows.Number(1), std::int64_t{*mapped});
+            Change(record, "charkey", key,
                    std::int64_t{*mapped} * store::kCharactersOfASet + rows.Number(3));
         }
     }
 
     void ReadPictureKeys() {
-        store::PreparedQuery rows = adventure_.Prepare(TableNum::Locations, "locnum, pickey", "");
-        for (bool more = rows.First({}); more; more = rows.Next()) {
+        store::KeyedRows rows(adventure_, TableNum::Locations, {"locnum", "pickey"});
+        for (bool more = rows.First(); more; more = rows.Next()) {
             if (!Mapped(static_cast<int>(rows.Number(0)))) continue;
-            Change(TableNum::Locations, rows.Number(0), "pickey", std::string(rows.Text(1)),
+            Change({TableNum::Locations, rows.Number(0), rows.Key()}, "pickey", std::string(rows.Text(1)),
                    WithNumbers(rows.Text(1), from_, to_));
         }
     }
@@ -315,36 +338,37 @@ class Planner {
     }
 
     void ReadExits() {
-        store::PreparedQuery rows =
-            adventure_.Prepare(TableNum::Locations, "locnum, exits, numericexits", "");
-        for (bool more = rows.First({}); more; more = rows.Next()) {
+        store::KeyedRows rows(adventure_, TableNum::Locations, {"locnum", "exits", "numericexits"});
+        for (bool more = rows.First(); more; more = rows.Next()) {
             for (const auto& [column, field] : {std::pair(1, "exits"), std::pair(2, "numericexits")}) {
                 const std::string line(rows.Text(column));
-                Change(TableNum::Locations, rows.Number(0), field, line,
+                Change({TableNum::Locations, rows.Number(0), rows.Key()}, field, line,
                        WithWords(line, MappedWords(line, 1)));
             }
         }
     }
 
     void ReadPlaces() {
-        store::PreparedQuery rows = adventure_.Prepare(TableNum::Objects, "objnum, objloc, objlocdesc", "");
-        for (bool more = rows.First({}); more; more = rows.Next()) {
+        store::KeyedRows rows(adventure_, TableNum::Objects, {"objnum", "objloc", "objlocdesc"});
+        for (bool more = rows.First(); more; more = rows.Next()) {
             const auto mapped = Mapped(static_cast<int>(rows.Number(1)));
             if (!mapped) continue;
-            Change(TableNum::Objects, rows.Number(0), "objloc", rows.Number(1), std::int64_t{*mapped});
-            Change(TableNum::Objects, rows.Number(0), "objlocdesc", std::string(rows.Text(2)),
-                   WithNumbers(rows.Text(2), from_, to_));
+            const Changed record{TableNum::Objects, rows.Number(0), rows.Key()};
+            Change(record, "objloc", rows.Number(1), std::int64_t{*mapped});
+            Change(record, "objlocdesc", std::string(rows.Text(2)), WithNumbers(rows.Text(2), from_, to_));
         }
-        store::PreparedQuery pictures = adventure_.Prepare(TableNum::Pictures, "locnum, roompicnum", "");
-        for (bool more = pictures.First({}); more; more = pictures.Next()) {
+        store::KeyedRows pictures(adventure_, TableNum::Pictures, {"locnum", "roompicnum"});
+        for (bool more = pictures.First(); more; more = pictures.Next()) {
             const auto mapped = Mapped(static_cast<int>(pictures.Number(1)));
             if (mapped)
-                Change(TableNum::Pictures, pictures.Number(0), "roompicnum", pictures.Number(1),
-                       std::int64_t{*mapped});
+                Change({TableNum::Pictures, pictures.Number(0), pictures.Key()}, "roompicnum",
+                       pictures.Number(1), std::int64_t{*mapped});
         }
-        if (const auto mapped = Mapped(game_.start.value))
-            Change(TableNum::Adventure, 0, "startloc", std::int64_t{game_.start.value},
-                   std::int64_t{*mapped});
+        const auto start = Mapped(game_.start.value);
+        store::KeyedRows settings(adventure_, TableNum::Adventure, {});
+        if (start && settings.First())
+            Change({TableNum::Adventure, 0, settings.Key()}, "startloc", std::int64_t{game_.start.value},
+                   std::int64_t{*start});
     }
 
     void ReadDrawings() {
@@ -353,15 +377,15 @@ class Planner {
             if (!Follows(target.kind) || !Mapped(target.number)) continue;
             for (const KeptUse& kept : uses) {
                 if (kept.use.field == "drawstring")
-                    words[kept.use.record][kept.use.token] = std::to_string(*Mapped(target.number));
+                    words[kept.storeKey][kept.use.token] = std::to_string(*Mapped(target.number));
             }
         }
-        store::PreparedQuery rows = adventure_.Prepare(TableNum::Pictures, "locnum, drawstring", "");
-        for (bool more = rows.First({}); more; more = rows.Next()) {
-            const auto changed = words.find(rows.Number(0));
+        store::KeyedRows rows(adventure_, TableNum::Pictures, {"locnum", "drawstring"});
+        for (bool more = rows.First(); more; more = rows.Next()) {
+            const auto changed = words.find(rows.Key());
             if (changed == words.end()) continue;
             const std::string line(rows.Text(1));
-            Change(TableNum::Pictures, rows.Number(0), "drawstring", line,
+            Change({TableNum::Pictures, rows.Number(0), rows.Key()}, "drawstring", line,
                    WithWords(line, changed->second));
         }
     }
@@ -376,16 +400,15 @@ class Planner {
             for (const KeptUse& kept : uses) {
                 const Use& use = kept.use;
                 if (use.field == "drawstring" || use.field == "condacts") continue;
-                places[{use.table, use.record, std::string(use.field)}][use.token] = *Mapped(target.number);
+                places[{use.table, kept.storeKey, std::string(use.field)}][use.token] =
+                    *Mapped(target.number);
             }
         }
         for (const auto& [place, tags] : places) {
-            const auto& [table, record, field] = place;
-            const KindEntry& entry = EntryOf(*KindOf(table));
-            store::PreparedQuery row = adventure_.Prepare(
-                table, field, std::string(entry.keyField) + "=" + std::to_string(record));
-            if (!row.First({})) continue;
-            const std::string before(row.Text(0));
+            const auto& [table, storeKey, field] = place;
+            store::KeyedRows row(adventure_, table, {EntryOf(*KindOf(table)).keyField, field});
+            if (!row.Only(storeKey)) continue;
+            const std::string before(row.Text(1));
             std::string after = before;
             for (const auto& [at, number] : tags) {
                 const std::size_t equals = after.find('=', at);
@@ -393,7 +416,7 @@ class Planner {
                 if (equals < close && close != std::string::npos)
                     after.replace(equals + 1, close - equals - 1, std::to_string(number));
             }
-            Change(table, record, field, before, after);
+            Change({table, row.Number(0), storeKey}, field, before, after);
         }
     }
 
@@ -421,6 +444,15 @@ class Planner {
     RenumberPlan plan_;
 };
 
+/// The keys of a table's records, in the order in which a cursor without an order of its own walks them.
+std::vector<std::int64_t> StoreKeys(store::Adventure& adventure, TableNum table) {
+    std::vector<std::int64_t> keys;
+    store::KeyedRows rows(adventure, table, {});
+    for (bool more = rows.First(); more; more = rows.Next())
+        keys.push_back(rows.Key());
+    return keys;
+}
+
 }  // namespace
 
 RenumberPlan PlanRenumbering(store::Adventure& adventure, const Target& target, int to) {
@@ -430,13 +462,13 @@ RenumberPlan PlanRenumbering(store::Adventure& adventure, const Target& target, 
 void Renumber(store::Adventure& adventure, const RenumberPlan& plan) {
     std::map<TableNum, std::map<std::int64_t, std::vector<const FieldChange*>>> tables;
     for (const FieldChange& change : plan.changes)
-        tables[change.table][change.record].push_back(&change);
+        tables[change.table][change.storeKey].push_back(&change);
     for (const auto& [table, records] : tables) {
-        const store::TableEntry& entry = *store::FindTable(table);
-        store::Cursor& cursor = adventure.OpenTable(TableNum::Free22, "* from " + std::string(entry.name));
-        const std::string_view key = table == TableNum::ProcessTables ? "canum" : entry.key;
-        for (; !cursor.Eof(); cursor.MoveNext()) {
-            const auto found = records.find(table == TableNum::Adventure ? 0 : cursor.Number(key));
+        const std::vector<std::int64_t> keys = StoreKeys(adventure, table);
+        store::Cursor& cursor =
+            adventure.OpenTable(TableNum::Free22, "* from " + std::string(store::FindTable(table)->name));
+        for (std::size_t i = 0; i < keys.size() && !cursor.Eof(); ++i, cursor.MoveNext()) {
+            const auto found = records.find(keys[i]);
             if (found == records.end()) continue;
             for (const FieldChange* change : found->second)
                 cursor.SetField(change->field, change->after);

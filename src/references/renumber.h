@@ -15,6 +15,7 @@ namespace fabula::references {
 struct FieldChange {
     store::TableNum table = store::TableNum::Adventure;
     std::int64_t record = 0;
+    std::int64_t storeKey = 0;  ///< of the record, whose number others may bear too
     std::string field;
     text::Value before;
     text::Value after;
@@ -35,8 +36,8 @@ struct RenumberPlan {
 /// Places, objects, texts, process tables, flags, pictures and character sets can be numbered anew. A
 /// container and its place keep one number and go together. Numbers that flags hold follow where the
 /// conditions and actions show what they stand for; where they don't, a warning tells. Numbers that the
-/// engine knows, and those that a rule compares by their order with the new one on the other side, are
-/// refused.
+/// engine knows, those that more than one record bears, and those that a rule compares by their order with
+/// the new one on the other side, are refused.
 RenumberPlan PlanRenumbering(store::Adventure& adventure, const Target& target, int to);
 
 /// Does what a plan says, in the adventure as it was when the plan was made. Belongs into one transaction.

@@ -37,6 +37,7 @@ struct KeptUse {
     std::optional<int> value = std::nullopt;
     /// The flag is given a number that does not stand here: PLUS, RANDOM, COPYFF ...
     bool computes = false;
+    std::int64_t storeKey = 0;  ///< of the record that names it, whose number others may bear too
 };
 
 }  // namespace fabula::references

@@ -16,6 +16,7 @@
 #include "store/record_check.h"
 #include "store/schema_section.h"
 #include "store/section_reader.h"
+#include "text/bad_bytes.h"
 
 namespace fabula::store {
 namespace {
@@ -132,7 +133,7 @@ class Creator {
 
     void CompleteSettings(Record& record) const {
         record["advnum"] = std::string("1");
-        record["savename"] = target_.stem().string();
+        record["savename"] = text::WithoutBadBytes(target_.stem().string());
         record["DateCreated"] = Stamp(host_.clock.Now());
         record["unmarloed"] = std::int64_t{0};
         record["advcontactinfo"] = std::string(" ");

@@ -407,6 +407,16 @@ TEST(Weigh, OfAContainerWithoutWeightIsNothingWhateverItHolds) {
     EXPECT_EQ(game.Object(2, {.place = 1, .weight = 60}).Do("WEIGH 1 100")->Flag(100), 0);
 }
 
+TEST(Weigh, OfAContainerGoesOnBehindTheContainersInIt) {
+    GameBuilder game = With({.weight = 1, .container = true});
+    game.Object(2, {.place = 1, .weight = 2, .container = true})
+        .Object(3, {.place = 2, .weight = 4, .container = true})
+        .Object(4, {.place = 3, .weight = 8})
+        .Object(5, {.place = 2, .weight = 16})
+        .Object(6, {.place = 1, .weight = 32, .container = true});
+    EXPECT_EQ(game.Do("WEIGH 1 100")->Flag(100), 63);
+}
+
 TEST(Weigh, HasNoCap) {
     GameBuilder game = With({.weight = 63, .container = true});
     for (int object = 2; object < 8; ++object)
@@ -428,6 +438,14 @@ TEST(Weigh, OfAMarloGameIsNothingForAContainerInsideItselfToo) {
 TEST(Weigh, OfAContainerThatLiesInsideItselfIsARunTimeFailure) {
     EXPECT_EQ(With({.place = 1, .weight = 5, .container = true}).Do("WEIGH 1 100")->Box(),
               "The game has gone wrong and ends. Process 0, entry 0 (record 0), WEIGH 1 100: object 1 lies "
+              "inside itself.");
+}
+
+TEST(Weigh, OfTwoContainersThatLieInsideEachOtherNamesTheOneThatIsMetAgain) {
+    GameBuilder game = With({.place = 2, .weight = 5, .container = true});
+    game.Object(2, {.place = 1, .weight = 5, .container = true});
+    EXPECT_EQ(game.Do("WEIGH 1 100")->Box(),
+              "The game has gone wrong and ends. Process 0, entry 0 (record 0), WEIGH 1 100: object 2 lies "
               "inside itself.");
 }
 

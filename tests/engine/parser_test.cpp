@@ -284,15 +284,45 @@ TEST(Parse, NotUnderstoodGoesOnWithTheEntryAndTheWordsOfTheSentence) {
     EXPECT_EQ(run->Flag(46), 60);
 }
 
-TEST(Parse, ItsStoresAreClearedUnderstoodOrNot) {
-    for (const char* speech : {"SAY \"GET LAMP\"", "SAY \"XYZZY\""}) {
-        GameBuilder game;
-        game.Word("SAY", 20, 0).Word("GET", 30, 0).Word("LAMP", 60, 2).Entry(0, "SAY", "_", "PARSE DONE");
-        const auto run = game.Start();
-        run->Type(speech);
-        for (int store = 1006; store <= 1011; ++store)
-            EXPECT_EQ(run->Flag(store), 0) << speech << store;
-    }
+/// SAY reads speech, which GET LAMP answers by reading more, and MES 2 when there is no more.
+GameBuilder SayingTwice() {
+    GameBuilder game;
+    game.Word("SAY", 20, 0).Word("GET", 30, 0).Word("LAMP", 60, 2).Word("BOB", 61, 2);
+    game.Entry(0, "SAY", "_", "PARSE DONE").Entry(0, "GET", "LAMP", "PARSE SET 200 DONE");
+    return game;
+}
+
+TEST(Parse, KeepsThePlayersOwnWordsWhileWhatIsSaidIsUnderstood) {
+    GameBuilder game;
+    game.Word("SAY", 20, 0).Word("GET", 30, 0).Word("LAMP", 60, 2).Word("BOB", 61, 2);
+    const auto run = game.Entry(0, "SAY", "_", "PARSE DONE").Start();
+    run->Type("SAY BOB \"GET LAMP\"");
+    EXPECT_EQ(run->Flag(33), 30);
+    EXPECT_EQ(run->Flag(1006), 20);
+    EXPECT_EQ(run->Flag(1008), 61);
+}
+
+TEST(Parse, TheLastOneThatIsNotUnderstoodGivesBackThePlayersOwnWords) {
+    const auto run = SayingTwice().Start();
+    run->Type("SAY BOB \"GET LAMP\"");
+    EXPECT_EQ(run->Flag(200), 255);
+    EXPECT_EQ(run->Flag(33), 20);
+    EXPECT_EQ(run->Flag(34), 61);
+}
+
+TEST(Parse, ItsStoresAreClearedWhenTheWordsAreGivenBack) {
+    const auto run = SayingTwice().Start();
+    run->Type("SAY BOB \"GET LAMP\"");
+    for (int store = 1006; store <= 1011; ++store)
+        EXPECT_EQ(run->Flag(store), 0) << store;
+}
+
+TEST(Parse, OfASentenceThatIsNotUnderstoodWithAnotherBehindItGivesNoWordsBackYet) {
+    GameBuilder game;
+    game.Word("SAY", 20, 0).Word("GET", 30, 0).Message(1, "What?").Entry(0, "SAY", "_", "PARSE MES 1 DONE");
+    const auto run = game.Start();
+    run->engine.EnterLine("SAY \"XYZZY. GET\"");
+    EXPECT_EQ(run->Flag(1006), 20);
 }
 
 TEST(Parse, ReadsUpToTheNextQuoteAndLeavesWhatFollows) {

@@ -111,6 +111,25 @@ TEST(ScriptAction, CancelledChangesNothing) {
     EXPECT_EQ(run->Flag(200), 255);
 }
 
+TEST(ScriptAction, Of1OverTheFileThatIsPlayedIsToldAndLeavesIt) {
+    const auto run = Loaded(">>SAY\n>>SAY\n");
+    run->window.AnswerFile(run->File("in.scr"));
+    run->Type("WRITE");
+    EXPECT_EQ(run->person.Boxes().back().text,
+              "Could not write the script " + run->File("in.scr").string() + ": it is being played.");
+    EXPECT_EQ(ReadFile(run->File("in.scr")), ">>SAY\n>>SAY\n");
+    EXPECT_EQ(run->Flag(1001), 2);
+}
+
+TEST(ScriptAction, Of2OfTheFileThatIsWrittenIsTold) {
+    const auto run = Writing();
+    run->window.AnswerFile(run->File("out.scr"));
+    run->Type("PLAY");
+    EXPECT_EQ(run->person.Boxes().back().text,
+              "Could not read the script " + run->File("out.scr").string() + ": it is being written.");
+    EXPECT_EQ(run->Flag(1001), 1);
+}
+
 TEST(ScriptAction, Of0ClosesBoth) {
     const auto run = Writing();
     WriteFile(run->File("in.scr"), ">>SAY\n");

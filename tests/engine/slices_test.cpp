@@ -44,6 +44,32 @@ TEST(Slices, PartALongTurnWithoutChangingWhatItDoes) {
     EXPECT_EQ(run->Said(), "!");
 }
 
+/// A hundred and one objects, all but the light containers that are carried; DO weighs them ten times.
+GameBuilder CarriedContainers() {
+    GameBuilder game;
+    for (int object = 1; object <= 100; ++object)
+        game.Object(object, {.place = kCarriedPlace, .weight = 1, .container = true});
+    std::string line = "DONE";
+    for (int times = 0; times < 10; ++times)
+        line.insert(0, "WEIGHT 200 ");
+    return game.Entry(0, "DO", "_", line);
+}
+
+TEST(Slices, PartATurnThatWeighsMuchWithoutChangingWhatItDoes) {
+    const auto run = CarriedContainers().Slice(20).Start();
+    run->engine.EnterLine("DO");
+    EXPECT_EQ(run->Waits(), Waiting::Turn);
+    GoOnToTheEnd(*run);
+    EXPECT_EQ(run->Flag(200), 100);
+}
+
+TEST(Slices, CountForAWeighingEachObjectAFewTimesHoweverManyAreContainers) {
+    const auto run = CarriedContainers().Slice(20).Start();
+    run->engine.EnterLine("DO");
+    // Ten times all objects, what lies in them, and the hundred that are carried: 3,020 looks or so.
+    EXPECT_EQ(GoOnToTheEnd(*run), 1);
+}
+
 TEST(Slices, LeaveAShortTurnAlone) {
     const auto run = Counting().Slice(1000).Start();
     run->engine.EnterLine("DO");

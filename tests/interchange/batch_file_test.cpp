@@ -37,6 +37,7 @@ class BatchFile : public testing::Test {
         NoObserver nobody;
         JobStatus status(nobody);
         auto records = ReadBatchRecords(adventure_.Folder() / "edited.fbb", *adventure_, status);
+        status_ = status.Text();
         for (const Fault& fault : status.AllFaults())
             faults_.push_back(std::to_string(fault.place->line) + ": " + fault.message);
         return records;
@@ -44,6 +45,7 @@ class BatchFile : public testing::Test {
 
     test::OpenedAdventure adventure_;
     std::vector<std::string> faults_;
+    std::string status_;
 };
 
 TEST_F(BatchFile, HoldsASectionForEachTableInItsOrder) {
@@ -63,6 +65,19 @@ TEST_F(BatchFile, WritesOneLineFieldsAndTextsAsTheTableSays) {
     SetText(0, "A cellar.\u008CIt is damp.");
     EXPECT_EQ(Written(TableNum::Messages),
               "/MSG\nMessage=0\nText=\nA cellar.\nIt is damp.\nENDDESC\nENDRECORD\n/END\n");
+}
+
+TEST_F(BatchFile, ABadByteOfOneTextLeavesTheOthersAsTheyAre) {
+    SetText(0, "Caf\xE9");
+    SetText(1, "Caf\u00E9");
+    const std::string file = Written(TableNum::Messages);
+    EXPECT_THAT(file, HasSubstr("Caf\uFFFD\n"));
+    EXPECT_EQ(Read(file).at(1).entries.at(1).value, "Caf\u00E9");
+}
+
+TEST_F(BatchFile, TellsInWhichEncodingItIsRead) {
+    Read("/MSG\nMessage=0\nText=\nCaf\xE9\nENDDESC\nENDRECORD\n/END\n");
+    EXPECT_EQ(status_, "The text is read as Windows-1252.\n");
 }
 
 TEST_F(BatchFile, HasACommentWhereThereIsOne) {

@@ -29,6 +29,16 @@ class CancelsAfter final : public JobObserver {
     int steps_;
 };
 
+class RecordsStatus final : public JobObserver {
+  public:
+    void StatusAdded(std::string_view text) override { status += text; }
+    void StatusCleared() override {}
+    void Progress(std::int64_t, std::int64_t) override {}
+    bool CancelWanted() override { return false; }
+
+    std::string status;
+};
+
 /// Runs jobs in a folder of their own.
 class Jobs : public testing::Test {
   protected:
@@ -173,6 +183,25 @@ TEST_F(Jobs, ASourceFullOfFaultsIsGivenUp) {
 TEST_F(Jobs, AMissingSourceIsAnErrorAndLeavesNothing) {
     EXPECT_THROW(Import("pcvel", folder_ / "none.sce"), Error);
     EXPECT_EQ(Files(), 0);
+}
+
+TEST_F(Jobs, ASourceThatIsNoFileIsToldWithItsReasonBeforeAnythingIsBegun) {
+    RecordsStatus observer;
+    try {
+        ImportIt(*FindFileKind("pcvel"), folder_.Path(), Target(), false, Host(observer));
+        ADD_FAILURE() << "a folder was read";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.what(), "Could not read " + folder_.Path().string() + ": it is no file.");
+    }
+    EXPECT_EQ(observer.status, "");
+}
+
+TEST_F(Jobs, ANameThatIsNoUtf8IsSavedAsOneThatIs) {
+    const auto source = Write("game.txt", "/CTL\n_\n/VOC\nNORTH 2 noun\n");
+    const std::filesystem::path target = folder_ / "caf\xE9.fbd";
+    ImportIt(*FindFileKind("ace"), source, target, false, Host(nobody_));
+    const auto adventure = store::Adventure::Open(target);
+    EXPECT_EQ(adventure->OpenTable(store::TableNum::Adventure, "savename").Text("savename"), "caf\uFFFD");
 }
 
 TEST_F(Jobs, ABlankSourceIsRefused) {

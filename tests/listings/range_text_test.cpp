@@ -112,6 +112,11 @@ TEST_F(RangeText, ExtraEntriesMayNotLeaveTheTable) {
     EXPECT_EQ(ValidateRange("", TableNum::Flags, *adventure_).numbers, RangeOf{});
 }
 
+TEST_F(RangeText, TheLargestNumberOfExtraEntriesIsTooLarge) {
+    EXPECT_EQ(FaultOf("9223372036854775807", TableNum::Flags),
+              "9223372036854775807 extra entries would take it out of the table");
+}
+
 TEST_F(RangeText, ProcessDescriptionsAcceptAnyText) {
     EXPECT_EQ(FaultOf("1..5--x", TableNum::ProcDesc), "");
 }

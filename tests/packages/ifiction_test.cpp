@@ -54,6 +54,13 @@ TEST(IFictionRecord, HasATitleAndAnAuthorForEveryGameAndIsWellFormed) {
     EXPECT_EQ(about->FirstChildElement("description"), nullptr);
 }
 
+TEST(IFictionRecord, HoldsNothingThatATerminalWouldObeyAndNoBadBytes) {
+    GameFacts facts = LampStory();
+    facts.name = "The\u009B31m L\xE9mp\u202E";
+    EXPECT_NE(IFictionRecord(facts, nullptr).find("<title>The\uFFFD31m L\uFFFDmp\uFFFD</title>"),
+              std::string::npos);
+}
+
 TEST(IFictionRecord, NeedsAnIfid) {
     GameFacts facts = LampStory();
     facts.ifid.clear();

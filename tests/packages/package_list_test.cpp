@@ -38,6 +38,22 @@ TEST(PackageList, APictureNamedBothByARoomAndByPicturesIsListedOnce) {
                 ElementsAre("DB game.fbd", "Graphic Room.bmp", "ReadMe The Lamp.ReadMe"));
 }
 
+TEST(PackageList, APictureWhoseNamesAreOneInAZipIsListedOnce) {
+    PackedGame game;
+    game.SetPicture(0, "pictures/a.png");
+    for (const char* name : {"pictures//a.png", "./pictures/a.png", "pictures\\A.png"}) {
+        game.Add(TableNum::Pictures, {{"locnum", std::int64_t{0}},
+                                      {"picname", std::string(name)},
+                                      {"drawstring", std::string("END")}});
+    }
+    PackageList list(game.Adventure());
+    EXPECT_THAT(Lines(list),
+                ElementsAre("DB game.fbd", "Graphic pictures/a.png", "ReadMe The Lamp.ReadMe"));
+    EXPECT_FALSE(list.Add(package_type::kFile, "pictures/./a.png"));
+    list.Remove("pictures//A.png");
+    EXPECT_TRUE(list.Add(package_type::kFile, "pictures/./a.png"));
+}
+
 TEST(PackageList, WithGraphicsInDbOnNoGraphicRowsAppear) {
     PackedGame game;
     game.SetPicture(0, "room.bmp");

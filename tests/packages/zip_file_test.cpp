@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 
 #include "support/child_process.h"
 #include "support/raw_database.h"
@@ -51,6 +53,23 @@ TEST(WriteZip, GivesTheSameBytesForTheSameFiles) {
     WriteZip(folder / "1.zip", files);
     WriteZip(folder / "2.zip", files);
     EXPECT_TRUE(test::ReadBytes(folder / "1.zip") == test::ReadBytes(folder / "2.zip"));
+}
+
+TEST(WriteZip, WritesIntoAPipeAndLeavesItOne) {
+    const test::TempFolder folder;
+    const std::filesystem::path pipe = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const pid_t writer = test::StartChild([&] {
+        WriteZip(pipe, {{"a", "1"}});
+        return 0;
+    });
+    const std::string zip = test::ReadBytes(pipe);
+    int status = -1;
+    waitpid(writer, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+    WriteZip(folder / "file.zip", {{"a", "1"}});
+    EXPECT_TRUE(zip == test::ReadBytes(folder / "file.zip"));
 }
 
 TEST(WriteZip, ReplacesAnOldZipOfMoreFiles) {

@@ -123,6 +123,17 @@ TEST_F(PictureFolder, DrawstringThatDoesNotPassLeavesTheAdventureAsItWas) {
     EXPECT_EQ(Field(TableNum::Locations, "picloc", "locnum=0"), "");
 }
 
+TEST_F(PictureFolder, DrawingThatDoesNotPassLeavesTheBitmapsOfTheOthersAsTheyWere) {
+    Write("0.draw", "PLOT 0 5 5 END");
+    Write("default.draw", "PLOT 0 5 200 END");
+    EXPECT_NE(Failure(), "");
+    EXPECT_FALSE(Exists("pictures/game/Room000.bmp"));
+}
+
+TEST_F(PictureFolder, WithoutADrawingIsRefused) {
+    EXPECT_EQ(Failure(), "There is no drawing in the folder " + Drawings().string() + ".");
+}
+
 TEST_F(PictureFolder, ColourThatIsNoneIsRefused) {
     Write("0.draw", "DEFPAPER 16 END");
     EXPECT_EQ(Failure(), (Drawings() / "0.draw").string() + ": 16 is no colour for DEFPAPER.");

@@ -241,6 +241,23 @@ TEST(Lint, FindsThirtyFaultsAtOnce) {
     EXPECT_GE(findings.size(), 30U);
 }
 
+TEST(Lint, TellsAnEntryFromAnotherOneWithItsNumber) {
+    const auto game = test::Lighthouse();
+    Entry(*game, "INVEN", "262");
+    Entry(*game, "LET 200 3 EQ 200 4 INVEN", "228 200 3 115 200 4 262");
+    const Fault fault{"value-never", nullptr,
+                      "Process table 10, entry 5000 asks for 4 in flag 200, which it is never given."};
+    EXPECT_TRUE(Tells(Lint(*game), fault));
+}
+
+TEST(Lint, ReadsAnEntryThatHasLostItsText) {
+    const auto game = test::Lighthouse();
+    Entry(*game, "", "224 200 115 200 4 262");
+    const Fault fault{"value-never", nullptr,
+                      "Process table 10, entry 5000 asks for 4 in flag 200, which it is never given."};
+    EXPECT_TRUE(Tells(Lint(*game), fault));
+}
+
 TEST(Lint, CanBeSwitchedOffByRuleAndByRecord) {
     const auto game = test::Lighthouse();
     test::PutMessage(*game, 991, "Never.");

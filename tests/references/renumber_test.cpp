@@ -154,6 +154,47 @@ TEST(Renumbering, WarnsOfMessagesThatAFlagCounts) {
         "Flag 70 is counted, and what it holds is taken for a message: see process table 0, entry 1.");
 }
 
+TEST(Renumbering, EachOfTwoEntriesWithOneNumberKeepsItsOwnLine) {
+    test::OpenedAdventure game;
+    test::PutMessage(*game, 7, "Seven");
+    test::PutEntry(*game, 36, 0, 20, kAnyWord, "EQ 44 101 DONE", "114 44 101 265");
+    test::PutEntry(*game, 36, 0, 21, kAnyWord, "MESSAGE 7 DONE", "250 7 265");
+    Do(*game, Kind::Message, 7, 999);
+    EXPECT_EQ(Field(*game, TableNum::ProcessTables, "w1num=20", "condacts"), "EQ 44 101 DONE");
+    EXPECT_EQ(Field(*game, TableNum::ProcessTables, "w1num=20", "numericcondacts"), "114 44 101 265");
+    EXPECT_EQ(Field(*game, TableNum::ProcessTables, "w1num=21", "condacts"), "MESSAGE 999 DONE");
+    EXPECT_EQ(Field(*game, TableNum::ProcessTables, "w1num=21", "numericcondacts"), "250 999 265");
+}
+
+TEST(Renumbering, OfTwoLocationsWithOneNumberBothKeepTheirOwnExits) {
+    test::OpenedAdventure game;
+    test::PutLocation(*game, 40, "", "");
+    test::PutLocation(*game, 41, "N 40", "2 40");
+    test::PutLocation(*game, 41, "S 40 E 41", "3 40 4 41");
+    Do(*game, Kind::Location, 40, 50);
+    EXPECT_EQ(Field(*game, TableNum::Locations, "numericexits='2 50'", "exits"), "N 50");
+    EXPECT_EQ(Field(*game, TableNum::Locations, "numericexits='3 50 4 41'", "exits"), "S 50 E 41");
+}
+
+TEST(Renumbering, RefusesANumberThatMoreThanOneRecordBears) {
+    test::OpenedAdventure game;
+    test::PutMessage(*game, 7, "Seven");
+    test::PutMessage(*game, 7, "Seven, too");
+    test::PutMessage(*game, 8, "Eight");
+    EXPECT_EQ(PlanRenumbering(*game, {Kind::Message, 7}, 70).refusal,
+              "There is more than one message 7: which one is meant can't be told.");
+    EXPECT_EQ(PlanRenumbering(*game, {Kind::Message, 8}, 7).refusal,
+              "There is more than one message 7: which one is meant can't be told.");
+}
+
+TEST(Renumbering, AnEntryThatHasLostItsTextFollowsInItsCompiledForm) {
+    test::OpenedAdventure game;
+    test::PutMessage(*game, 7, "Seven");
+    test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, "", "101 7 250 7");
+    Do(*game, Kind::Message, 7, 70);
+    EXPECT_EQ(Field(*game, TableNum::ProcessTables, "canum=1", "numericcondacts"), "101 7 250 70");
+}
+
 TEST(Renumbering, TakenBackGivesTheRecordsByteForByte) {
     struct Case {
         Kind kind;

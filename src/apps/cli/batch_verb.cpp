@@ -97,11 +97,14 @@ void AddBatchVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<BatchOptions>();
     AddAdventureOption(verb, options->file)->required();
     verb.add_option("target", options->target, "The batch file that is written; - is standard output");
-    verb.add_option("--read", options->read, "Read this batch file into the adventure instead");
-    verb.add_option("--table", options->table, "Write this table only: Locations, Messages, ...");
-    verb.add_option("--records", options->records, "Of that table only the records 1,3-5");
+    CLI::Option* read =
+        verb.add_option("--read", options->read, "Read this batch file into the adventure instead");
+    verb.add_option("--table", options->table, "Write this table only: Locations, Messages, ...")
+        ->excludes(read);
+    verb.add_option("--records", options->records, "Of that table only the records 1,3-5")->excludes(read);
     verb.add_option("--processes", options->processes,
-                    "Which process tables: (M-N,ALL,comma separated list)");
+                    "Which process tables: (M-N,ALL,comma separated list)")
+        ->excludes(read);
     AddForceFlag(verb, options->force);
     AddJsonFlag(verb, options->json);
     verb.footer(

@@ -94,6 +94,8 @@ int DrawAll(const DrawOptions& options) {
     std::filesystem::create_directories(folder, error);
     if (error) throw Error("Could not make the folder " + folder.string() + ": " + error.message() + ".");
     TerminalPerson person;
+    for (const auto& [number, picture] : book.pictures)
+        CheckTarget({folder / FileNameOf(number), store::Content::Text, {}, {}, options.force}, person);
     CheckTarget({folder / kIndex, store::Content::Text, {}, {}, options.force}, person);
     std::vector<pictures::NumberedPicture> drawn;
     int status = kDone;
@@ -165,13 +167,17 @@ void AddDrawVerb(CLI::App& verb, Chosen& chosen) {
                     "Draw all pictures into a folder, with an index of small ones");
     verb.add_option("--add", options->drawings,
                     "Put the drawings N.draw of a folder into the adventure, as pictures of its rooms");
-    verb.add_option("--check", options->drawstring, "Check a drawstring and show its words");
-    verb.add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use");
-    verb.add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine");
-    verb.add_option("--from-image", options->image,
-                    "Make a picture of an image (PNG, JPEG or BMP) and write it to the file that follows");
-    verb.add_flag("--dither", options->dither, "Mix the colours that the palette lacks");
-    verb.add_flag("--as-drawstring", options->asDrawstring, "Write a drawing that draws the image");
+    CLI::Option* check =
+        verb.add_option("--check", options->drawstring, "Check a drawstring and show its words");
+    verb.add_option("--in", options->checkedIn, "The adventure whose pictures and characters it may use")
+        ->needs(check);
+    verb.add_flag("--subroutine", options->subroutine, "Check it as that of a subroutine")->needs(check);
+    CLI::Option* fromImage = verb.add_option(
+        "--from-image", options->image,
+        "Make a picture of an image (PNG, JPEG or BMP) and write it to the file that follows");
+    verb.add_flag("--dither", options->dither, "Mix the colours that the palette lacks")->needs(fromImage);
+    verb.add_flag("--as-drawstring", options->asDrawstring, "Write a drawing that draws the image")
+        ->needs(fromImage);
     AddForceFlag(verb, options->force);
     Runs(verb, chosen, options, Draw);
 }

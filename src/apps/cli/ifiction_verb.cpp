@@ -3,6 +3,7 @@
 #include "cli/verbs.h"
 #include "packages/cover.h"
 #include "packages/ifiction.h"
+#include "text/safe_text.h"
 
 namespace fabula::cli {
 namespace {
@@ -16,7 +17,7 @@ int PrintRecord(const IfictionOptions& options) {
     const packages::GameFacts facts = packages::ReadFacts(*adventure);
     const packages::CoverSearch search = packages::FindCover(*adventure, facts);
     std::cout << packages::IFictionRecord(facts, search.cover ? &*search.cover : nullptr);
-    if (!search.cover) std::cerr << search.why << "\n";
+    if (!search.cover) std::cerr << text::SafeLines(search.why) << "\n";
     return kDone;
 }
 

@@ -4,8 +4,8 @@
 #include "cli/file_kind_option.h"
 #include "cli/json.h"
 #include "cli/source_adventure.h"
+#include "cli/source_switches.h"
 #include "cli/verbs.h"
-#include "interchange/source_file.h"
 #include "platform/error.h"
 #include "references/lint.h"
 #include "references/place_text.h"
@@ -17,9 +17,6 @@ namespace fabula::cli {
 namespace {
 
 using references::Finding;
-
-/// In a source, a comment with these words switches findings off.
-constexpr std::string_view kDirective = "lint off ";
 
 struct LintOptions {
     std::string file;
@@ -49,14 +46,6 @@ references::LintSwitches SwitchesOf(const std::vector<std::string>& lines) {
         if (!switches.Add(line)) throw UsageError("there is no finding '" + line + "'; --rules shows them");
     }
     return switches;
-}
-
-void AddSwitchesOfSource(const std::string& source, references::LintSwitches& switches) {
-    interchange::SourceFile file(source);
-    for (std::string line; file.Next(line);) {
-        const std::size_t at = line.find(kDirective);
-        if (at != std::string::npos) switches.Add(std::string_view(line).substr(at + kDirective.size()));
-    }
 }
 
 /// Writes the switches of the command into the adventure.
@@ -93,12 +82,13 @@ Result LintFile(const LintOptions& options) {
     const std::filesystem::path file = folder.Path() / "lint.fbd";
     std::ostream quiet(nullptr);
     Console console(quiet);
-    interchange::JobResult imported = interchange::ImportIt(KindOfSource(options.file, options.kind),
-                                                            options.file, file, true, console.JobHost());
+    const interchange::FileKind& kind = KindOfSource(options.file, options.kind);
+    interchange::JobResult imported =
+        interchange::ImportIt(kind, options.file, file, true, console.JobHost());
     for (const interchange::Fault& fault : imported.allFaults)
         std::cerr << text::SafeLines(fault.Line()) << "\n";
     if (!imported.done) throw Error("Could not read " + options.file + ".");
-    AddSwitchesOfSource(options.file, switches);
+    AddSwitchesOfSource(kind, options.file, switches);
     switches.Remove(SwitchesOf(options.on));
     const auto adventure = OpenToRead(file.string());
     result.findings = references::Lint(*adventure, switches);

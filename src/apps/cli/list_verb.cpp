@@ -21,6 +21,10 @@ struct ListOptions {
     bool force = false;
 };
 
+/// The report that asks for a verb and a noun, and what it takes for any.
+constexpr std::string_view kReportOfWords = "verb-noun";
+constexpr std::string_view kAnyListedWord = "_";
+
 const listings::Report& ReportNamed(const std::string& name) {
     const listings::Report* const report = listings::FindReport(name);
     if (report) return *report;
@@ -31,6 +35,9 @@ listings::ReportRequest RequestOf(const listings::Report& report, const ListOpti
                                   store::Adventure& adventure) {
     if (options.asked.range && report.range == listings::RangeOf::Nothing)
         throw UsageError("the report '" + std::string(report.name) + "' takes no range");
+    const bool namesWords = options.asked.verb != kAnyListedWord || options.asked.noun != kAnyListedWord;
+    if (namesWords && report.name != kReportOfWords)
+        throw UsageError("the report '" + std::string(report.name) + "' takes no verb and no noun");
     return listings::RequestOf(report, options.asked, adventure);
 }
 

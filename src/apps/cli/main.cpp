@@ -75,7 +75,11 @@ int main(int argc, char** argv) try {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? cli::kDone : cli::kWrongUsage;
+        const int status = app.exit(error) == 0 ? cli::kDone : cli::kWrongUsage;
+        std::cout.flush();
+        if (std::cout) return status;
+        std::cerr << "fabula: Could not write the output.\n";
+        return cli::kFailed;
     }
     return RunChosen(chosen, app.get_subcommands().front()->get_name());
 } catch (...) {

@@ -6,6 +6,7 @@
 #include "cli/verbs.h"
 #include "packages/package.h"
 #include "store/game_path.h"
+#include "text/safe_text.h"
 #include "text/str_edit.h"
 
 namespace fabula::cli {
@@ -55,8 +56,8 @@ int Pack(const PackageOptions& options) {
     packages::WriteReadMe(*adventure, list, package);
     packages::WriteZip(options.target, package.files);
     for (const std::string& note : package.notes)
-        std::cerr << note << "\n";
-    std::cerr << list.Facts().Title() << " has been ZIPped into " << options.target << "\n";
+        std::cerr << text::SafeLines(note) << "\n";
+    std::cerr << text::SafeLines(list.Facts().Title() + " has been ZIPped into " + options.target) << "\n";
     return kDone;
 }
 
@@ -65,7 +66,7 @@ int Pack(const PackageOptions& options) {
 void AddPackageVerb(CLI::App& verb, Chosen& chosen) {
     const auto options = std::make_shared<PackageOptions>();
     AddAdventureOption(verb, options->file)->required();
-    verb.add_option("target", options->target, "The zip that is written")->required();
+    verb.add_option("target", options->target, "The zip that is written; - is standard output")->required();
     verb.add_option("--version", options->version, "The version of the game, for its ReadMe")->required();
     verb.add_flag("--engine", options->engine, "Pack the engine too");
     verb.add_option("--file", options->files, "Pack this file of the game's folder too; as often as needed")
@@ -73,6 +74,9 @@ void AddPackageVerb(CLI::App& verb, Chosen& chosen) {
     verb.add_option("--readme-text", options->readMeText,
                     "What the ReadMe says before the list of the files");
     verb.add_option("--product-page", options->productPage, "Where the ReadMe says the engine is found");
+    verb.footer(
+        "Its ReadMe is written into the game's folder too, as the game's name with .ReadMe behind it, in\n"
+        "place of one that is there.");
     AddForceFlag(verb, options->force);
     Runs(verb, chosen, options, Pack);
 }

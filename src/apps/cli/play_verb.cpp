@@ -1,4 +1,6 @@
+#include <filesystem>
 #include <fstream>
+#include <vector>
 
 #include <unistd.h>
 
@@ -9,6 +11,7 @@
 #include "platform/clock.h"
 #include "platform/error.h"
 #include "store/extensions.h"
+#include "store/temporary_file.h"
 #include "terminal/line_editor.h"
 #include "terminal/line_reader.h"
 #include "terminal/terminal_game.h"
@@ -54,14 +57,37 @@ std::string TraceHeader(const PlayOptions& options) {
     return header;
 }
 
+/// The files that a game is played with besides its own. A file that is read or written already is no
+/// target: what it holds would be lost.
+class FilesInUse {
+  public:
+    void Add(const std::string& file) {
+        if (!file.empty()) files_.emplace_back(file);
+    }
+    /// Throws fabula::Error when `file` is one of them; a device or a pipe may be.
+    void CheckUnused(const std::string& file) const {
+        if (store::IsStream(file)) return;
+        for (const std::filesystem::path& used : files_) {
+            if (store::IsSameFile(file, used))
+                throw Error("Could not write " + file + ": another option names it too.");
+        }
+    }
+
+  private:
+    std::vector<std::filesystem::path> files_;
+};
+
 /// A text that is written as the game runs, when the command line names a file for it.
 class Record {
   public:
-    Record(const std::string& file, const PlayOptions& options, platform::Person& person) : file_(file) {
+    Record(const std::string& file, const PlayOptions& options, FilesInUse& inUse, platform::Person& person)
+        : file_(file) {
         if (file.empty()) return;
+        inUse.CheckUnused(file);
         CheckTarget({file, store::Content::Text, {}, options.file, options.force}, person);
         stream_.open(file, std::ios::binary);
         if (!stream_) throw Error("Could not write " + file + ".");
+        inUse.Add(file);
     }
 
     bool IsWanted() const { return !file_.empty(); }
@@ -82,14 +108,17 @@ int Play(const PlayOptions& options) {
     const auto adventure = OpenToRead(options.file);
     const std::unique_ptr<terminal::LineSource> input = OpenInput(options);
     TerminalPerson person;
-    Record transcriptFile(options.transcript, options, person);
+    FilesInUse inUse;
+    inUse.Add(options.script);
+    Record transcriptFile(options.transcript, options, inUse, person);
     std::optional<engine::Transcript> transcript;
     if (transcriptFile.IsWanted()) transcript.emplace(transcriptFile.Stream());
-    Record originsFile(options.origins, options, person);
+    Record originsFile(options.origins, options, inUse, person);
     std::optional<engine::OriginLog> origins;
     if (originsFile.IsWanted()) origins.emplace(originsFile.Stream());
     std::optional<engine::TraceFile> trace;
     if (!options.trace.empty()) {
+        inUse.CheckUnused(options.trace);
         CheckTarget(
             {options.trace, store::Content::Text, store::extension::kTrace, options.file, options.force},
             person);

@@ -3,8 +3,8 @@
 #include <iostream>
 
 #include "authoring/files/backups.h"
-#include "cli/terminal_person.h"
 #include "platform/clock.h"
+#include "platform/error.h"
 #include "platform/user_folders.h"
 #include "text/safe_text.h"
 
@@ -23,11 +23,11 @@ void UpgradeTerminal::BeginSteps(std::string_view list) {
 
 void UpgradeTerminal::BeforeChange(store::Adventure& adventure) {
     const auto state = platform::UserStateFolder(platform::Environment::OfTheProgram());
-    if (state.empty()) return;
+    if (state.empty())
+        throw Error("Could not make a backup copy of " + adventure.CurrentFile().string() +
+                    ": neither HOME nor XDG_STATE_HOME names a folder for it.");
     const platform::SystemClock clock;
-    TerminalPerson person;
-    authoring::Backups backups(state / "backups", clock);
-    authoring::BackUpAtOpening(backups, adventure, person);
+    authoring::Backups(state / "backups", clock).Add(adventure);
 }
 
 bool UpgradeTerminal::ShowFlagChange(const upgrades::Report& report) {

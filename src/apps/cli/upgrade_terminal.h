@@ -8,7 +8,7 @@ namespace fabula::cli {
 void TellReport(const upgrades::Report& report);
 
 /// An upgrade at the command line: the steps and the reports go to standard error, the file as it was to
-/// the user's backup copies.
+/// the user's backup copies. Without that copy nothing is upgraded: BeforeChange throws fabula::Error.
 class UpgradeTerminal final : public upgrades::UpgradeHost {
   public:
     void BeginSteps(std::string_view list) override;

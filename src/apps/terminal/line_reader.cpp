@@ -16,6 +16,10 @@ namespace fabula::terminal {
 LineReader::LineReader(const std::filesystem::path& file)
     : descriptor_(open(file.c_str(), O_RDONLY | O_CLOEXEC)), owned_(true) {
     if (descriptor_ < 0) throw Error("Could not read " + file.string() + ".");
+    std::error_code error;  // what can't be told shows when it is read
+    if (!std::filesystem::is_directory(file, error)) return;
+    close(descriptor_);
+    throw Error("Could not read " + file.string() + ": it is a folder.");
 }
 
 LineReader::~LineReader() {

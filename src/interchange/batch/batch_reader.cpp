@@ -18,6 +18,7 @@ class BatchReader {
         : source_(file), adventure_(adventure), status_(status) {}
 
     std::vector<BatchRecord> Read() {
+        if (!source_.EncodingNote().empty()) status_.AddToStatusCR(source_.EncodingNote());
         while (source_.Next(line_)) {
             const std::string_view word = text::TrimBlanks(line_);
             if (word.empty()) continue;

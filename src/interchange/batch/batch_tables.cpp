@@ -2,6 +2,7 @@
 
 #include "interchange/fabula/export_fields.h"
 #include "store/new_flag.h"
+#include "text/bad_bytes.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -81,7 +82,8 @@ bool IsWritten(const BatchField& field, const text::Value& value) {
 }
 
 std::string BatchValue(const BatchField& field, const text::Value& value) {
-    std::string shown = RenderExportValue(field.type, value);
+    // One byte that is no UTF-8 would make a reader take the whole file for another encoding.
+    std::string shown = text::WithoutBadBytes(RenderExportValue(field.type, value));
     if (shown == " ") return "";
     if (field.form != BatchForm::Line)
         return text::ReplaceAll(text::NormalizeLineEnds(shown, text::kLineEndMarker), text::kLineEndMarker,

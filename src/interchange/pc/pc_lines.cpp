@@ -54,6 +54,8 @@ bool PcLines::RdSrcFile(std::string& line, bool skipBlank) {
     while (!failed_ && file_->Next(whole_)) {
         status_.SetBar(file_->BytesRead());
         line = whole_;
+        const std::size_t comment = watch_ ? whole_.find(comment_) : std::string::npos;
+        if (comment != std::string::npos) watch_(std::string_view(whole_).substr(comment + 1), Place());
         if (IsExtra(line, comment_)) TakeExtra(line.substr(1));
         if (line.starts_with(comment_)) TakeName(std::string_view(line).substr(1));
         if (!CutComment(line, comment_)) continue;

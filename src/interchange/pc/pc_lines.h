@@ -1,11 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "interchange/job_status.h"
@@ -22,6 +24,10 @@ class PcLines {
     /// `kind` stands in the status line of each file.
     PcLines(const std::filesystem::path& source, char comment, std::string kind, JobStatus& status,
             Encoding encoding = Encoding::Detect);
+
+    /// Calls `watch` with each comment that is read from here on, without its character.
+    using CommentWatch = std::function<void(std::string_view comment, const SourcePlace& place)>;
+    void WatchComments(CommentWatch watch) { watch_ = std::move(watch); }
 
     /// The next line; false behind the last. With `skipBlank` blank lines are left out.
     bool RdSrcFile(std::string& line, bool skipBlank);
@@ -67,6 +73,7 @@ class PcLines {
     std::optional<std::string> pendingComment_;  ///< read and not taken yet
     std::string adventureName_;
     bool failed_ = false;
+    CommentWatch watch_;
 };
 
 /// Cuts a comment off the line, with the blanks in front of it; false for a line that is nothing but a

@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "condacts/limits.h"
 #include "condacts/load.h"
@@ -51,7 +52,9 @@ class SourceWriter {
           file_(context.target),
           catalogue_(condacts::LoadCatalogue(context.adventure)),
           tags_(context.adventure),
-          texts_(dialect, store::LoadTagCatalogue(context.adventure), dialect.hasTags ? &tags_ : nullptr) {}
+          texts_(dialect, store::LoadTagCatalogue(context.adventure), dialect.hasTags ? &tags_ : nullptr),
+          words_(condacts::LoadWords(context.adventure)),
+          nounVerbs_(NounsThatEntriesTakeForVerbs()) {}
 
     void WriteAll() {
         WriteHead();
@@ -146,10 +149,37 @@ class SourceWriter {
         for (; !words.Eof(); words.MoveNext()) {
             record_ = "Vocabulary " + std::to_string(words.Number("vocindex"));
             const std::string word = Word(words.Text("word"));
-            const auto type = condacts::WordTypeName(static_cast<int>(words.Number("voctypen")));
-            Line(text::FormatText("%a*!%s3!   !%a", {Width(word, kVocabularyColumn), word,
-                                                     words.Field("vocnum"), text::LowerCase(type)}));
+            const auto type = static_cast<int>(words.Number("voctypen"));
+            const text::Value number = words.Field("vocnum");
+            const bool isVerbToo =
+                type == condacts::kNoun && nounVerbs_.erase({text::LowerCase(words.Text("word")),
+                                                             static_cast<int>(words.Number("vocnum"))}) > 0;
+            // In "marlo" the first word is the verb, and so it is in front of its noun. In other games no
+            // sentence has such a verb, and behind its noun none gets it.
+            const bool verbFirst = isVerbToo && context_.adventure.Kind() == store::AdventureKind::Marlo;
+            if (verbFirst) WriteWord(word, number, condacts::kVerb);
+            WriteWord(word, number, type);
+            if (isVerbToo && !verbFirst) WriteWord(word, number, condacts::kVerb);
         }
+    }
+
+    void WriteWord(const std::string& word, const text::Value& number, int type) {
+        Line(text::FormatText("%a*!%s3!   !%a", {Width(word, kVocabularyColumn), word, number,
+                                                 text::LowerCase(condacts::WordTypeName(type))}));
+    }
+
+    /// The nouns, by spelling and number, that entries have for their verbs though they are no directions.
+    /// The older of the older engines knows nothing else, but a reader of these sources leaves such an
+    /// entry out. So these words are written as verbs, too.
+    std::set<std::pair<std::string, int>> NounsThatEntriesTakeForVerbs() {
+        std::set<std::pair<std::string, int>> nouns;
+        store::PreparedQuery entries = context_.adventure.Prepare(TableNum::ProcessTables, "w1", "");
+        for (bool more = entries.First({}); more; more = entries.Next()) {
+            if (words_.Find(entries.Text(0), condacts::IsMovementWordOrReserved) != nullptr) continue;
+            const condacts::Word* noun = words_.FindTyped(entries.Text(0), condacts::kNoun);
+            if (noun != nullptr) nouns.emplace(text::LowerCase(noun->word), noun->number);
+        }
+        return nouns;
     }
 
     void WriteTexts(const PcTextTable& kind, const char* keyword) {
@@ -221,6 +251,7 @@ class SourceWriter {
                 record_ = "ProcessTables " + std::to_string(entries.Number("canum"));
                 for (const std::string& line : CommentLines(entries.Text(store::kCommentField)))
                     TextLine(dialect_.comment + line);
+                CheckWords(entries.Text("w1"), entries.Text("w2"));
                 WriteEntry(Word(entries.Text("w1")), Word(entries.Text("w2")), entries.Text("condacts"));
             }
         }
@@ -235,6 +266,16 @@ class SourceWriter {
             context_.adventure.Prepare(TableNum::ProcDesc, "pmsgnum", "pmsgnum>=0", "pmsgnum desc");
         if (tables.First({})) highest = std::max(highest, tables.Number(0));
         return std::min<std::int64_t>(highest, condacts::limit::kHighestProcess);
+    }
+
+    /// A reader leaves out an entry whose words are not what their places ask for.
+    void CheckWords(std::string_view w1, std::string_view w2) {
+        const bool isVerb = words_.Find(w1, condacts::IsMovementWordOrReserved) != nullptr ||
+                            words_.FindTyped(w1, condacts::kNoun) != nullptr;
+        if (w1 != condacts::kNoWord && !isVerb)
+            Loss("the word " + std::string(w1) + " is not a verb: the entry can't be read back.");
+        if (w2 != condacts::kNoWord && words_.Find(w2, condacts::IsNounOrReserved) == nullptr)
+            Loss("the word " + std::string(w2) + " is not a noun: the entry can't be read back.");
     }
 
     void WriteEntry(std::string w1, std::string w2, std::string_view condActs) {
@@ -289,7 +330,9 @@ class SourceWriter {
     condacts::Catalogue catalogue_;
     AceTags tags_;
     PcTextForm texts_;
-    std::string record_;  ///< what is being written, for reports
+    condacts::WordIndex words_;
+    std::set<std::pair<std::string, int>> nounVerbs_;  ///< still to be written
+    std::string record_;                               ///< what is being written, for reports
 };
 
 bool Export(ExportContext& context, const PcDialect& dialect, const char* completed) {

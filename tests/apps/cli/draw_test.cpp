@@ -102,6 +102,23 @@ TEST_F(DrawVerb, DrawsAllWithAnIndexAndTellsWhatItCouldNotDraw) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Path("all/of/them")), {}), 3);
 }
 
+TEST_F(DrawVerb, DrawsAllOverNoPictureOfTheFolderWithoutForce) {
+    std::ofstream(Path("Picture006.png")) << "precious";
+    const std::string folder = Path(".");
+    EXPECT_EQ(Run({File(), "--all", folder}).status, 1);
+    EXPECT_EQ(BytesOf(Path("Picture006.png")), "precious");
+    EXPECT_FALSE(std::filesystem::exists(Path("Picture005.png")));
+    Run({File(), "--all", folder, "--force"});
+    EXPECT_NE(BytesOf(Path("Picture006.png")), "precious");
+}
+
+TEST_F(DrawVerb, RefusesWhatBelongsToAnotherUseOfIt) {
+    EXPECT_EQ(Run({File(), "5", Path("x.png"), "--dither"}).status, 2);
+    EXPECT_EQ(Run({File(), "5", Path("x.png"), "--as-drawstring"}).status, 2);
+    EXPECT_EQ(Run({File(), "5", Path("x.png"), "--subroutine"}).status, 2);
+    EXPECT_EQ(Run({File(), "5", Path("x.png"), "--in", File()}).status, 2);
+}
+
 TEST_F(DrawVerb, ChecksADrawstring) {
     const ProgramResult good = Run({"--check", "  INK  2 GOSUB sc=3 5 END", "--in", File()});
     EXPECT_EQ(good.status, 0);

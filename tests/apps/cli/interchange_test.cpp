@@ -56,6 +56,13 @@ TEST_F(ImportVerb, ABadSourceFailsAndLeavesNoFile) {
     EXPECT_FALSE(Exists("game.fbd"));
 }
 
+TEST_F(ImportVerb, SaysWhyASourceCannotBeRead) {
+    const ProgramResult missing = Run({"import", "ace", File("none.txt"), File("game.fbd")});
+    EXPECT_EQ(missing.errors, "fabula: Could not read " + File("none.txt") + ": there is no such file.\n");
+    const ProgramResult folder = Run({"import", "ace", File("."), File("game.fbd")});
+    EXPECT_EQ(folder.errors, "fabula: Could not read " + File(".") + ": it is no file.\n");
+}
+
 TEST_F(ImportVerb, AnUnknownKindIsWrongUsage) {
     const ProgramResult result = Run({"import", "word", File("game.txt"), File("game.fbd")});
     EXPECT_EQ(result.status, 2);
@@ -71,6 +78,12 @@ TEST_F(ExportVerb, WritesEachKindAndReadsItBack) {
         EXPECT_EQ(Run({"import", kind, target, File("again.fbd"), "--force"}).status, 0) << kind;
         EXPECT_EQ(Run({"verify", File("again.fbd")}).status, 0) << kind;
     }
+}
+
+TEST_F(ExportVerb, OnlyAnUnVelExtractHasAVersion) {
+    Run({"import", "ace", File("game.txt"), File("game.fbd")});
+    EXPECT_EQ(Run({"export", "ace", File("game.fbd"), File("out.txt"), "--version", "9.9"}).status, 2);
+    EXPECT_FALSE(Exists("out.txt"));
 }
 
 TEST_F(ExportVerb, AFolderOfAnyNameCanHoldTheAdventure) {

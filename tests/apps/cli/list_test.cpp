@@ -72,6 +72,13 @@ TEST_F(List, ReportThatTakesNoRangeSaysSo) {
     EXPECT_EQ(result.errors, "fabula: the report 'objects' takes no range\n");
 }
 
+TEST_F(List, ReportThatTakesNoWordsSaysSo) {
+    const ProgramResult result = Run({"locations", "--verb", "GET"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "fabula: the report 'locations' takes no verb and no noun\n");
+    EXPECT_EQ(Run({"verb-noun", "--verb", "GET", "--range", "0"}).status, 0);
+}
+
 TEST_F(List, UnknownReportIsAWrongUse) {
     const ProgramResult result = Run({"rooms"});
     EXPECT_EQ(result.status, 2);

@@ -69,6 +69,25 @@ TEST_F(Packaging, AsksBeforeAZipIsReplacedAndRefusesAFileOfElsewhere) {
     EXPECT_THAT(result.errors, HasSubstr("The File must be at or below the directory of the game"));
 }
 
+TEST_F(Packaging, TellsATitleWithoutWhatATerminalWouldObey) {
+    RawDatabase(Game()).Run("UPDATE Adventure SET advname='La' || char(27, 7) || 'mp'");
+    const ProgramResult result = Run({"package", Game(), "--version", "1", Path("game.zip")});
+    EXPECT_THAT(result.errors, HasSubstr("La\uFFFD\uFFFDmp has been ZIPped into "));
+}
+
+TEST_F(Packaging, WritesAZipToTheStandardOutput) {
+    const ProgramResult result = Run({"package", Game(), "-", "--version", "1"});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(result.output, StartsWith("PK"));
+    EXPECT_FALSE(std::filesystem::exists("-"));
+}
+
+TEST_F(Packaging, OptionsOfABatchFileThatIsWrittenDoNotReadOne) {
+    Write("game.fbb", "");
+    EXPECT_EQ(Run({"batch", Game(), "--read", Path("game.fbb"), "--table", "Messages"}).status, 2);
+    EXPECT_EQ(Run({"batch", Game(), "--read", Path("game.fbb"), "--processes", "1"}).status, 2);
+}
+
 TEST_F(Packaging, PrintsTheRecordOfAGame) {
     const ProgramResult result = Run({"ifiction", Game()});
     EXPECT_EQ(result.status, 0);

@@ -237,6 +237,30 @@ TEST_F(PlayVerb, TheTranscriptHasAllThatIsShownAndTypedUnbroken) {
               ">yes\nYou said yes.\n?\n");
 }
 
+TEST_F(PlayVerb, AScriptIsNoTargetOfTheSameRun) {
+    std::ofstream(File("s.txt")) << "wait\n";
+    for (const char* option : {"--transcript", "--trace", "--origins"}) {
+        const ProgramResult result =
+            Play("", {"--script", File("s.txt"), option, File("s.txt"), "--force"});
+        EXPECT_EQ(result.status, 1) << option;
+        EXPECT_EQ(result.errors,
+                  "fabula: Could not write " + File("s.txt") + ": another option names it too.\n");
+        EXPECT_EQ(Content(File("s.txt")), "wait\n") << option;
+    }
+}
+
+TEST_F(PlayVerb, TwoThingsThatAreWrittenAreTwoFiles) {
+    EXPECT_EQ(Play("", {"--transcript", File("t.txt"), "--origins", File("t.txt"), "--force"}).status, 1);
+    EXPECT_EQ(Play("", {"--transcript", "/dev/null", "--origins", "/dev/null"}).status, 0);
+}
+
+TEST_F(PlayVerb, AScriptThatIsAFolderIsToldBeforeTheGameBegins) {
+    const ProgramResult result = Play("", {"--script", File(".")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors, "fabula: Could not read " + File(".") + ": it is a folder.\n");
+}
+
 TEST_F(PlayVerb, TheTranscriptIsWrittenAsTheGameGoesOn) {
     Conversation talk(Line::Pipe, Program(), {"play", game_, "--transcript", File("transcript")});
     talk.ReadUntil("\n>");

@@ -92,6 +92,20 @@ TEST_F(LintVerb, SwitchesOffInTheFileAndOnTheLine) {
     EXPECT_EQ(Run({"lint", File("game.fbd"), "--off", "nonsense"}).status, 2);
 }
 
+TEST_F(LintVerb, OnlyACommentSwitchesOff) {
+    std::string game = kUsedGame;
+    game.replace(game.find("/MTX\n/0\n"), 8, "/MTX\n/0\nThe sign says: lint off word-unused\n");
+    Write(game);
+    EXPECT_NE(Run({"lint", "--kind", "ace", File("game.txt")}).output.find("[word-unused]"),
+              std::string::npos);
+}
+
+TEST_F(LintVerb, TellsASwitchThatNamesNoFindingWithItsPlace) {
+    Write(std::string("# lint off wrod-unused\n") + kUsedGame);
+    EXPECT_EQ(Run({"lint", "--kind", "ace", File("game.txt")}).errors,
+              File("game.txt") + ":1: warning: there is no finding 'wrod-unused'; --rules shows them\n");
+}
+
 TEST_F(LintVerb, KeepsSwitchesInTheAdventureUntilTheyAreTakenBack) {
     const std::string game = File("game.fbd");
     EXPECT_EQ(Run({"lint", game, "--keep", "--off", "message-unused 1", "--off", "word-unused", "--off",

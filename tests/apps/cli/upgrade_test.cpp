@@ -1,3 +1,5 @@
+#include <cstdlib>
+
 #include <gtest/gtest.h>
 
 #include "support/places.h"
@@ -52,6 +54,33 @@ TEST_F(UpgradeVerb, DoesItOnce) {
     EXPECT_EQ(second.status, 0);
     EXPECT_EQ(second.errors, "");
     EXPECT_EQ(Run({"upgrade", file_.string(), "--check"}).status, 0);
+}
+
+TEST_F(UpgradeVerb, WithoutABackupCopyDoesNothing) {
+    MakeOld();
+    const std::string before = ReadBytes(file_);
+    setenv("XDG_STATE_HOME", "/dev/full", 1);
+    const ProgramResult result = Run({"upgrade", file_.string()});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors.find("46 - "), std::string::npos) << result.errors;
+    EXPECT_NE(result.errors.find("Could not make a backup copy of " + file_.string()), std::string::npos)
+        << result.errors;
+    EXPECT_TRUE(ReadBytes(file_) == before);
+}
+
+TEST_F(UpgradeVerb, WithoutAFolderForBackupCopiesDoesNothingAndSaysWhy) {
+    MakeOld();
+    const std::string before = ReadBytes(file_);
+    const std::string home = std::getenv("HOME") == nullptr ? "" : std::getenv("HOME");
+    unsetenv("XDG_STATE_HOME");
+    unsetenv("HOME");
+    const ProgramResult result = Run({"upgrade", file_.string()});
+    setenv("HOME", home.c_str(), 1);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.errors.find("neither HOME nor XDG_STATE_HOME names a folder for it."),
+              std::string::npos)
+        << result.errors;
+    EXPECT_TRUE(ReadBytes(file_) == before);
 }
 
 TEST_F(UpgradeVerb, OtherVerbsReadAnUpgradedCopy) {

@@ -40,6 +40,20 @@ TEST_F(PcLinesTest, CommentsAreCutOff) {
     EXPECT_EQ(Read(), RawLines({"a", "b", "d"}));
 }
 
+TEST_F(PcLinesTest, CommentsCanBeWatchedInLinkedFilesToo) {
+    Write("game.sce", "; all\na ; tail\n/LNK part2.sce\n");
+    Write("part2.sce", "b\n;more\n");
+    PcLines source(folder_ / "game.sce", ';', "PCVEL", status_);
+    std::vector<std::string> comments;
+    source.WatchComments([&](std::string_view comment, const SourcePlace& place) {
+        comments.push_back(place.file.filename().string() + " " + std::to_string(place.line) +
+                           std::string(comment));
+    });
+    for (std::string line; source.RdSrcFile(line, true);) {
+    }
+    EXPECT_EQ(comments, RawLines({"game.sce 1 all", "game.sce 2 tail", "part2.sce 2more"}));
+}
+
 TEST_F(PcLinesTest, BlankLinesAreKeptWhenAsked) {
     Write("game.sce", "a\n\n ; comment\n  \nb\n");
     EXPECT_EQ(Read(false), RawLines({"a", "", "  ", "b"}));

@@ -52,6 +52,71 @@ TEST(PcSourceWriter, CutsWordsToTheLettersThatCount) {
     EXPECT_NE(status.find("the word LIGHTHOUSE is cut to LIGHT."), std::string::npos) << status;
 }
 
+/// A game with one entry for the noun LAMP as a verb.
+class NounForVerb : public testing::TestWithParam<store::AdventureKind> {
+  protected:
+    NounForVerb() {
+        Add(TableNum::Vocabulary, {{"vocindex", std::int64_t{900}},
+                                   {"word", std::string("LAMP")},
+                                   {"vocnum", std::int64_t{50}},
+                                   {"voctypen", std::int64_t{2}},
+                                   {"voctype", std::string("Noun")}});
+        Add(TableNum::ProcessTables, {{"canum", std::int64_t{900}},
+                                      {"estype", std::int64_t{0}},
+                                      {"w1", std::string("LAMP")},
+                                      {"w2", std::string("_")},
+                                      {"w1num", std::int64_t{50}},
+                                      {"w2num", std::int64_t{255}},
+                                      {"condacts", std::string("INVEN")},
+                                      {"numericcondacts", std::string("262")}});
+    }
+
+    void Add(TableNum table, const std::vector<std::pair<const char*, text::Value>>& fields) {
+        store::Cursor& record = game_->OpenTable(table, "def");
+        record.AddNew();
+        for (const auto& [field, value] : fields)
+            record.SetField(field, value);
+        record.Update();
+    }
+
+    test::OpenedAdventure game_{GetParam()};
+};
+
+TEST_P(NounForVerb, ComesBackAsTheVerbOfItsEntry) {
+    for (const char* kind : {"pcvel", "ace"}) {
+        const Reading back(kind, Written(*game_, kind));
+        EXPECT_EQ(back.Number(TableNum::ProcessTables, "w1='LAMP'", "w1num"), 50) << back.status;
+        EXPECT_EQ(back.Count(TableNum::Vocabulary, "word='LAMP' and voctypen=2 and vocnum=50"), 1);
+        EXPECT_FALSE(back.Told("Word1 (LAMP) not a verb"));
+    }
+}
+
+TEST_P(NounForVerb, IsAVerbBeforeItIsANounOnlyWhereTheFirstWordIsTheVerb) {
+    const bool verbFirst = GetParam() == store::AdventureKind::Marlo;
+    const std::string source = Written(*game_, "ace");
+    const std::size_t verb = source.find("LAMP     50   verb\r\n");
+    const std::size_t noun = source.find("LAMP     50   noun\r\n");
+    ASSERT_NE(verb, std::string::npos) << source;
+    EXPECT_EQ(verb < noun, verbFirst) << source;
+}
+
+INSTANTIATE_TEST_SUITE_P(PcSourceWriter, NounForVerb,
+                         testing::Values(store::AdventureKind::Fabula, store::AdventureKind::Marlo));
+
+TEST(PcSourceWriter, NamesAnEntryWhoseWordsCannotBeReadBack) {
+    const Reading game("ace", PcSource(kWrittenWords, "/PRO 0\nGO LAMP INVEN\n"));
+    store::Cursor& entry = game->OpenTable(TableNum::ProcessTables, "def", "w1='GO'");
+    entry.SetField("w1", std::string("RED"));
+    entry.SetField("w2", std::string("GO"));
+    entry.Update();
+    std::string status;
+    Written(*game, "ace", &status);
+    EXPECT_NE(status.find("the word RED is not a verb: the entry can't be read back."), std::string::npos)
+        << status;
+    EXPECT_NE(status.find("the word GO is not a noun: the entry can't be read back."), std::string::npos)
+        << status;
+}
+
 TEST(PcSourceWriter, WritesTexts) {
     const Reading game(
         "pcvel", PcSource(kWrittenWords, "/MTX\n/0\nOne & two.\n\nFour.\n/2\n/OTX\n/LTX\n/0\nHall.\n"));
