@@ -53,8 +53,8 @@ class Session {
     bool Start();
     /// Whether there is a state of an earlier session to go on from.
     bool CanResume() const;
-    /// Goes on from it, and Undo never goes back before it. When that is not possible the game goes on as it
-    /// is, and the person is told.
+    /// Goes on from it, and Undo never goes back before it. When that is not possible the game goes on as
+    /// it is, and the person is told.
     bool Resume();
 
     /// The game goes on with a long turn.
