@@ -12,6 +12,7 @@
 
 #include "ide/editors/layout.h"
 #include "platform/error.h"
+#include "qt/fitting_size.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 #include "qt/wrapped_label.h"
@@ -83,7 +84,9 @@ QLineEdit* KeySelectDialog::AddLine(QFormLayout& form, const char* name, const Q
 }
 
 void KeySelectDialog::ShowTable() {
-    screen_.table = qt::FromQt(table_->currentText());
+    // The list shows the tables translated, behind none.
+    const int table = table_->currentIndex();
+    screen_.table = table == 0 ? "" : screen_.Tables()[static_cast<std::size_t>(table - 1)];
     const bool words = screen_.TakesWords();
     key_->setEnabled(!words);
     for (QLineEdit* line : {process_, w1_, w2_})
@@ -117,7 +120,7 @@ KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::D
     layout->addWidget(Note(screen.Instruction()));
     layout->addWidget(rows_);
     layout->addWidget(buttons);
-    resize(kKeysSize);
+    resize(qt::FittingSize(*this, kKeysSize));
     ShowRows();
     connect(rows_, &QTableWidget::cellChanged, this, [this](int row, int) { Leave(row); });
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Finish(); });
