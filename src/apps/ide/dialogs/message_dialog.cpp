@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -14,6 +15,7 @@
 #include "ide/editors/leave_check.h"
 #include "ide/editors/markup_edit.h"
 #include "platform/error.h"
+#include "qt/fitting_size.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -41,7 +43,7 @@ MessageDialog::MessageDialog(authoring::MessageScreen& screen, const authoring::
     AddButtons(*bottom);
     layout->addLayout(bottom);
     ShowRecord();
-    resize(sizeHint().expandedTo({640, 480}));
+    resize(qt::FittingSize(*this, sizeHint().expandedTo({640, 480})));
 }
 
 void MessageDialog::AddMoves(QHBoxLayout& row) {
@@ -123,11 +125,16 @@ void MessageDialog::reject() {
 }
 
 void MessageDialog::Leave() {
+    // The update that is under way has told of it.
+    if (atWork_) return;
+    const QScopedValueRollback atWork(atWork_, true);
     if (!screen_.LeaveText()) text_->ShowFault();
 }
 
 void MessageDialog::ClickUpdate() {
+    if (atWork_) return;
     try {
+        const QScopedValueRollback atWork(atWork_, true);
         if (screen_.Update()) return accept();
     } catch (const Error& error) {
         dialogs_.Tell(error.what(), "Error");

@@ -50,6 +50,7 @@ class MessageDialog final : public QDialog, public RecordEditor {
     QList<QShortcut*> moveKeys_;
     MarkupEdit* text_;
     CommentEdit* comment_ = nullptr;
+    bool atWork_ = false;  ///< a check or an update is under way
 };
 
 }  // namespace fabula::ide

@@ -10,6 +10,7 @@
 #include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
+#include "qt/fitting_size.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
@@ -25,7 +26,7 @@ RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* paren
     setObjectName("RenumberDialog");
     setWindowTitle(qt::Translated(authoring::RenumberScreen::kCaption));
     setProperty(qt::kHelpPage, kMainWindowPage);
-    resize(kRenumberSize);
+    resize(qt::FittingSize(*this, kRenumberSize));
     number_->setObjectName("number");
     number_->setText(qt::ToQt(screen.number));
     number_->selectAll();
