@@ -17,6 +17,7 @@
 #include "engine/sound_player.h"
 #include "ide/printing/paper_output.h"
 #include "ide/window/examples.h"
+#include "ide/window/still_dialogs.h"
 #include "platform/programs.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
@@ -107,6 +108,7 @@ class MainWindow final : public QMainWindow {
     void PlaceWindow();
 
     void ShowChanges();
+    void ShowTitle();
     void ShowRow();
     void ShowPicture();
     void ShowBeside();
@@ -114,6 +116,7 @@ class MainWindow final : public QMainWindow {
     void FoldGroup(int group, bool folded);
     void ChooseNode(int sort);
     bool LeaveRecord();
+    bool MayEnd();
     bool StoreTyped(const std::string& text);
     void StoreBeside();
     void ShowTabs();
@@ -143,6 +146,7 @@ class MainWindow final : public QMainWindow {
     void Renumber();
 
     void New();
+    void SaveAs();
     void Open(const std::filesystem::path& file);
     void OpenExample(const Example& example);
     void DoInLogic(authoring::Command command);
@@ -172,6 +176,7 @@ class MainWindow final : public QMainWindow {
 
     Services services_;
     Places places_;
+    StillDialogs boxes_;
     authoring::MainScreen ide_;
     authoring::Navigator navigator_;
     authoring::FindingsList findingsList_;

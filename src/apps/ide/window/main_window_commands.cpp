@@ -41,10 +41,14 @@ void MainWindow::Do(Command command) {
     const authoring::ActionState state = ide_.StateOf(command);
     if (!state.enabled) return message_->setText(qt::Translated(state.why));
     if (FollowFromPane(command)) return;
-    if (command != Command::Help && !LeaveRecord()) return;
+    // These leave a record in a way of their own, or not at all.
+    const bool leaves = command != Command::Help && command != Command::SaveAs && command != Command::Exit;
+    if (leaves && !LeaveRecord()) return;
     switch (command) {
         case Command::New:
             return New();
+        case Command::SaveAs:
+            return SaveAs();
         case Command::Exit:
             return void(close());
         case Command::Run:
@@ -124,6 +128,8 @@ void MainWindow::DoInLogic(Command command) {
 }
 
 void MainWindow::Open(const authoring::ScreenRequest& request) {
+    if (ide_.CurrentContext().document.IsReadOnly())
+        return services_.dialogs.Tell(authoring::MainScreen::kOnlyToRead, "Fabula IDE");
     try {
         authoring::ScreenContext& context = ide_.CurrentContext();
         if (!OpenDrawingScreen(request, context, services_.settings, this))
@@ -175,6 +181,20 @@ void MainWindow::New() {
     if (dialog.exec() != QDialog::Accepted) return;
     ide_.NewAdventure(*file, setup, dialog.Starter());
     ShowChanges();
+}
+
+/// What was typed beside the rows goes into the copy: the old file may be what can't be written. Where it
+/// is refused it stays as it was typed.
+void MainWindow::SaveAs() {
+    if (!ide_.SaveAs()) return;
+    const std::string saved = ide_.Message();
+    const bool stored = LeaveRecord();
+    ide_.Say(saved);
+    if (stored) return ShowChanges();
+    shownFile_ = ide_.CurrentContext().document.File();
+    ShowTitle();
+    ShowRecent();
+    ShowActions();
 }
 
 void MainWindow::Open(const std::filesystem::path& file) {
