@@ -14,6 +14,7 @@
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
+#include "qt/fitting_size.h"
 #include "qt/icons.h"
 #include "qt/strings.h"
 
@@ -68,7 +69,7 @@ HelpWindow::HelpWindow(const std::filesystem::path& contents)
     setCentralWidget(splitter);
     MakeToolBar();
     FillContents();
-    resize(kDefaultSize);
+    resize(FittingSize(*this, kDefaultSize));
 
     QObject::connect(search_, &QLineEdit::textChanged, this,
                      [this](const QString& words) { Search(words); });

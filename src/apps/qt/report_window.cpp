@@ -9,6 +9,7 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
+#include "qt/fitting_size.h"
 #include "qt/qt_dialogs.h"
 #include "qt/strings.h"
 
@@ -52,7 +53,7 @@ ReportWindow::ReportWindow(std::string_view text, std::string_view title, Answer
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(pane_);
     layout->addWidget(buttons);
-    resize(kSize);
+    resize(FittingSize(*this, kSize));
 }
 
 void ReportWindow::Save() {

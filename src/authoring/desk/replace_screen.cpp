@@ -49,6 +49,11 @@ bool ReplaceScreen::Find() {
     return true;
 }
 
+void ReplaceScreen::Forget() {
+    hits_.clear();
+    status_ = "Find shows what is found now.";
+}
+
 bool ReplaceScreen::Replace() {
     std::vector<references::Hit> ticked;
     for (const Found& found : hits_) {

@@ -32,8 +32,11 @@ class ReplaceScreen {
     /// Looks. False when there is nothing to look for or the expression is none; the author is told.
     bool Find();
     std::vector<Found>& Hits() { return hits_; }
+    /// Forgets what was found: it was looked for with something else than is wanted now.
+    void Forget();
 
-    /// Replaces what is ticked, as one change. False when nothing is; the author is told what was left out.
+    /// Replaces what is ticked as it was found, as one change. False when nothing is; the author is told
+    /// what was left out.
     bool Replace();
 
     /// "12 places in 5 records", "Replaced 12 places in 5 records."; "" before the first search.

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -95,6 +96,13 @@ TEST_P(EveryDialogTest, FitsASmallScreenWithLargeText) {
     dialog->resize(kSmallScreen);
     QApplication::processEvents();
     EXPECT_EQ(ScrollsSideways(*dialog), 0);
+}
+
+TEST_P(EveryDialogTest, OpensWithinTheScreen) {
+    const auto dialog = Open();
+    const QSize room = dialog->screen()->availableSize() * 9 / 10;
+    EXPECT_LE(dialog->width(), room.width());
+    EXPECT_LE(dialog->height(), room.height());
 }
 
 TEST_P(EveryDialogTest, IsDrawnInBothThemes) {

@@ -12,6 +12,7 @@
 
 #include "ide/author.h"
 #include "ide/dialog_stand.h"
+#include "ide/foreign_words.h"
 #include "qt/strings.h"
 #include "support/raw_database.h"
 
@@ -65,6 +66,17 @@ TEST_F(KeyDialogs, ProcessEntriesAreSelectedByTheirWordsAfterAnExplanation) {
     EXPECT_TRUE(verb->isEnabled());
     EXPECT_TRUE(explanation->isVisible());
     EXPECT_TRUE(explanation->text().startsWith("The Table Key for Processes is CaNum"));
+}
+
+TEST_F(KeyDialogs, TablesAreSelectedInEveryLanguageOfTheWindows) {
+    const ForeignWords foreign;
+    KeySelectScreen screen(desk_.context);
+    ide::KeySelectDialog dialog(screen);
+    dialog.findChild<QComboBox*>("table")->setCurrentText("~Messages");
+    dialog.findChild<QLineEdit*>("key")->setText("5");
+    dialog.findChild<QPushButton*>("select")->click();
+    ASSERT_TRUE(dialog.Selection());
+    EXPECT_EQ(dialog.Selection()->table->table, TableNum::Messages);
 }
 
 TEST_F(KeyDialogs, SelectTakesWhatWasTyped) {

@@ -278,6 +278,48 @@ TEST_F(RecordDialogs, TheOfferedNounComesAndGoesWithItsTick) {
     EXPECT_TRUE(offer->isChecked());
 }
 
+TEST_F(RecordDialogs, ANounThatALongerOneBeginsWithStaysAsItIsTypedAndIsOffered) {
+    store::Cursor& words = document_.Adventure().OpenTable(TableNum::Vocabulary, "def");
+    words.AddNew();
+    words.SetField("vocindex", std::int64_t{201});
+    words.SetField("vocnum", std::int64_t{31});
+    words.SetField("word", std::string("SPADES"));
+    words.SetField("voctypen", std::int64_t{2});
+    words.SetField("voctype", std::string("Noun"));
+    words.Update();
+    authoring::ObjectScreen screen(context_, {5, true});
+    ObjectDialog dialog(screen);
+    Open(dialog);
+    auto* noun = Find<QComboBox>(dialog, "noun");
+    noun->setFocus();
+    QTest::keyClicks(noun, "spad");
+    QTest::keyClick(noun, Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_EQ(noun->currentText(), "SPAD");
+    EXPECT_EQ(Find<QCheckBox>(dialog, "makeNoun")->text().remove('&'), "Make the noun SPAD");
+}
+
+TEST_F(RecordDialogs, ALocationThatIsTypedStaysThatNumberWhereALongerOneBeginsWithIt) {
+    store::Cursor& places = document_.Adventure().OpenTable(TableNum::Locations, "def");
+    places.AddNew();
+    places.SetField("locnum", std::int64_t{10});
+    places.SetField("locshortdesc", std::string("The cellar"));
+    places.Update();
+    authoring::ObjectScreen screen(context_, {5, true});
+    ObjectDialog dialog(screen);
+    Open(dialog);
+    Find<QRadioButton>(dialog, "initialPlace3")->click();
+    auto* room = Find<QComboBox>(dialog, "room");
+    room->setFocus();
+    room->lineEdit()->selectAll();
+    QTest::keyClicks(room, "1");
+    EXPECT_EQ(room->currentText(), "1");
+    QTest::keyClicks(room, "0");
+    QTest::keyClick(room, Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_EQ(room->currentText(), "10 - The cellar");
+}
+
 TEST_F(RecordDialogs, WhatAnExitDoesIsToldWhileItIsTyped) {
     authoring::LocationScreen screen(context_, {0, false});
     LocationDialog dialog(screen);

@@ -107,7 +107,7 @@ TEST_F(RecordPaneTest, AnotherWindowStoresItAndTheFieldKeepsTheKeyboard) {
     EXPECT_EQ(Shown(), "The lamp burns!.");
 }
 
-TEST_F(RecordPaneTest, AFaultIsToldWhenAnotherWindowIsChosen) {
+TEST_F(RecordPaneTest, AFaultIsToldWhenTheRowIsLeftAndNotWhenAnotherWindowIsChosen) {
     window_.GoToTable("Response (P0)");
     window_.GoToRow("*");
     window_.Part<QPlainTextEdit>("line").setFocus();
@@ -117,12 +117,14 @@ TEST_F(RecordPaneTest, AFaultIsToldWhenAnotherWindowIsChosen) {
     other.show();
     QApplication::setActiveWindow(&other);
     QApplication::processEvents();
-    ASSERT_FALSE(window_.dialogs.Boxes().empty());
-    EXPECT_EQ(window_.dialogs.Boxes().back().text, "XYZZY is an invalid Condition/Action");
+    EXPECT_TRUE(window_.dialogs.Boxes().empty());
     QApplication::setActiveWindow(&window_.Window());
     QApplication::processEvents();
     EXPECT_EQ(Focus(), "line");
     EXPECT_EQ(window_.Part<QPlainTextEdit>("line").toPlainText(), "XYZZY");
+    window_.ChooseNode("Messages");
+    ASSERT_FALSE(window_.dialogs.Boxes().empty());
+    EXPECT_EQ(window_.dialogs.Boxes().back().text, "XYZZY is an invalid Condition/Action");
 }
 
 TEST_F(RecordPaneTest, AWindowOfItsOwnDoesNotStoreIt) {

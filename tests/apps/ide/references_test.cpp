@@ -1,11 +1,14 @@
 // Uses, jumps, find and replace over all tables and new numbers, by keys and clicks.
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -17,6 +20,7 @@
 #include "ide/dialogs/quick_list_dialog.h"
 #include "ide/dialogs/renumber_dialog.h"
 #include "ide/dialogs/replace_dialog.h"
+#include "ide/foreign_words.h"
 #include "ide/opened_window.h"
 #include "qt/strings.h"
 #include "qt/theme.h"
@@ -318,6 +322,53 @@ TEST_F(ReferenceDialogs, ReplaceLeavesOutWhatIsNotTicked) {
     EXPECT_EQ(Text("msgnum=901"), "an old coin");
     EXPECT_EQ(dialog.findChild<QLabel*>("replaceStatus")->text(), "Replaced 1 place in 1 record.");
     EXPECT_EQ(found->topLevelItemCount(), 0);
+}
+
+TEST_F(ReferenceDialogs, WhatWasFoundGoesWhenSomethingElseIsWanted) {
+    authoring::ReplaceScreen screen(desk_.context);
+    ide::ReplaceDialog dialog(screen);
+    dialog.show();
+    auto* found = dialog.findChild<QTreeWidget*>("found");
+    auto* replace = dialog.findChild<QPushButton*>("replace");
+    QTest::keyClicks(dialog.findChild<QLineEdit*>("what"), "old");
+    const std::vector<std::function<void()>> changes = {
+        [&] { QTest::keyClicks(dialog.findChild<QLineEdit*>("with"), "new"); },
+        [&] { QTest::keyClick(dialog.findChild<QLineEdit*>("what"), Qt::Key_Backspace); },
+        [&] { dialog.findChild<QCheckBox*>("matchCase")->click(); },
+        [&] { dialog.findChild<QCheckBox*>("wholeWords")->click(); },
+        [&] { dialog.findChild<QCheckBox*>("wholeWords")->click(); },
+        [&] { dialog.findChild<QComboBox*>("scope")->setCurrentIndex(1); }};
+    for (const auto& change : changes) {
+        dialog.findChild<QPushButton*>("find")->click();
+        EXPECT_TRUE(replace->isEnabled());
+        change();
+        EXPECT_EQ(found->topLevelItemCount(), 0);
+        EXPECT_FALSE(replace->isEnabled());
+        EXPECT_EQ(dialog.findChild<QLabel*>("replaceStatus")->text(), "Find shows what is found now.");
+        dialog.findChild<QComboBox*>("scope")->setCurrentIndex(0);
+        dialog.findChild<QLineEdit*>("what")->setText("old");
+    }
+    EXPECT_EQ(Text("msgnum=900"), "the old lamp");
+}
+
+TEST_F(ReferenceDialogs, ReplaceLooksInOneTableInEveryLanguageOfTheWindows) {
+    const ForeignWords foreign;
+    authoring::ReplaceScreen screen(desk_.context);
+    ide::ReplaceDialog dialog(screen);
+    auto* scope = dialog.findChild<QComboBox*>("scope");
+    scope->setCurrentText("~messages");
+    ASSERT_GT(scope->currentIndex(), 0);
+    dialog.findChild<QLineEdit*>("what")->setText("coin");
+    dialog.findChild<QPushButton*>("find")->click();
+    EXPECT_EQ(dialog.findChild<QTreeWidget*>("found")->topLevelItemCount(), 1);
+}
+
+TEST_F(ReferenceDialogs, ReplaceOpensWithinTheScreen) {
+    authoring::ReplaceScreen screen(desk_.context);
+    const ide::ReplaceDialog dialog(screen);
+    const QSize room = dialog.screen()->availableSize() * 9 / 10;
+    EXPECT_LE(dialog.width(), room.width());
+    EXPECT_LE(dialog.height(), room.height());
 }
 
 TEST_F(ReferenceDialogs, ChangeNumberShowsWhatWillChange) {

@@ -72,6 +72,15 @@ TEST_F(SettingsDialogTest, IsEditedByKeysAlone) {
     EXPECT_EQ(Stored("advname, author"), "The Cave|Ann");
 }
 
+TEST_F(SettingsDialogTest, AsksNothingAboutTextsWithBlanksThatDoNotBreak) {
+    Set("advdesc", std::string("la\u00A0porte "));
+    Set("advcontactinfo", std::string("A.\u00A0Author"));
+    Open();
+    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_TRUE(desk_.Boxes().empty());
+}
+
 TEST_F(SettingsDialogTest, StoresAllItsControls) {
     Open();
     Part<QLineEdit>("saveName").setText("cave");

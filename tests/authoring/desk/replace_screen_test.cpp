@@ -45,6 +45,15 @@ TEST_F(ReplaceScreenTest, ReplacesWhatIsTickedAsOneStepOfUndo) {
     EXPECT_EQ(Text("901"), "old and older");
 }
 
+TEST_F(ReplaceScreenTest, ReplacesNothingThatItWasToldToForget) {
+    ASSERT_TRUE(screen_.Find());
+    screen_.Forget();
+    EXPECT_TRUE(screen_.Hits().empty());
+    EXPECT_EQ(screen_.Status(), "Find shows what is found now.");
+    EXPECT_FALSE(screen_.Replace());
+    EXPECT_EQ(desk_.document.Changes(), 0);
+}
+
 TEST_F(ReplaceScreenTest, DoesNotTickWhatACheckRefuses) {
     screen_.wanted.replacement = "<none>";
     ASSERT_TRUE(screen_.Find());

@@ -12,6 +12,7 @@
 
 #include "ide/dialogs/option_focus.h"
 #include "ide/editors/edit_controls.h"
+#include "qt/fitting_size.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -42,7 +43,7 @@ DecompileDialog::DecompileDialog(DecompileScreen& screen, QWidget* parent)
         kStatusLines);
     AddProgress();
     AddEnd();
-    resize(kDecompileSize);
+    resize(qt::FittingSize(*this, kDecompileSize));
     screen_.changed = [this] { Show(); };
     Show();
     options_[0]->setFocus();

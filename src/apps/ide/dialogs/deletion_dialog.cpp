@@ -8,6 +8,7 @@
 
 #include "ide/editors/edit_controls.h"
 #include "ide/editors/help_pages.h"
+#include "qt/fitting_size.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
@@ -30,7 +31,7 @@ DeletionDialog::DeletionDialog(const authoring::DeletionUses& uses, QWidget* par
     : ColumnDialog({"DeletionDialog", tr("Delete"), kUsesPage}, parent),
       uses_(uses),
       list_(new QListWidget) {
-    resize(kSize);
+    resize(qt::FittingSize(*this, kSize));
     list_->setObjectName("deletionUses");
     list_->setAccessibleName(tr("Uses of what is to be deleted"));
     list_->setUniformItemSizes(true);

@@ -32,7 +32,7 @@ void FlagDialog::ShowOpened() {
 void FlagDialog::Read() {
     screen_.type.index = type_->currentIndex();
     screen_.use.index = use_->currentIndex();
-    screen_.description = qt::FromQt(description_->toPlainText());
+    screen_.description = qt::FromQt(TextIn(*description_));
 }
 
 }  // namespace fabula::ide

@@ -19,6 +19,7 @@
 #include "ide/dialogs/verify_dialog.h"
 #include "ide/editors/edit_controls.h"
 #include "ide/printing/paper_output.h"
+#include "qt/fitting_size.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -57,7 +58,7 @@ InterchangeDialog::InterchangeDialog(InterchangeScreen& screen, platform::Dialog
     AddStatusWithCaption();
     StartButton().setToolTip(qt::Translated(screen.WhyNot()));
     AddEnd(print_);
-    resize(kInterchangeSize);
+    resize(qt::FittingSize(*this, kInterchangeSize));
 
     screen_.changed = [this] { Show(); };
     screen_.showVerify = [this](authoring::VerifyScreen& verify) {

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "platform/error.h"
+#include "qt/fitting_size.h"
 #include "qt/strings.h"
 #include "qt/wrapped_label.h"
 
@@ -75,7 +76,9 @@ QLineEdit* KeySelectDialog::AddLine(QFormLayout& form, const char* name, const Q
 }
 
 void KeySelectDialog::ShowTable() {
-    screen_.table = qt::FromQt(table_->currentText());
+    // The list shows the tables translated, behind none.
+    const int table = table_->currentIndex();
+    screen_.table = table == 0 ? "" : screen_.Tables()[static_cast<std::size_t>(table - 1)];
     const bool words = screen_.TakesWords();
     key_->setEnabled(!words);
     for (QLineEdit* line : {process_, w1_, w2_})
@@ -112,7 +115,7 @@ KeyChangeDialog::KeyChangeDialog(authoring::KeyChangeScreen& screen, platform::D
     Column().addWidget(Note(screen.Instruction()));
     Column().addWidget(rows_);
     Column().addWidget(buttons);
-    resize(kKeysSize);
+    resize(qt::FittingSize(*this, kKeysSize));
     ShowRows();
     connect(rows_, &QTableWidget::cellChanged, this, [this](int row, int) { Leave(row); });
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Finish(); });

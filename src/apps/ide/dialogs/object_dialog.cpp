@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -32,6 +33,8 @@ QComboBox* NewNounList(const authoring::DropList& list) {
     QComboBox* box = NewDropList(list);
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
+    // Nouns that begin so are offered below: completed in the line, a new one would become one of them.
+    box->completer()->setCompletionMode(QCompleter::PopupCompletion);
     box->lineEdit()->setPlaceholderText(qt::Translated("None"));
     box->setEditText(TextOf(list.Chosen()));
     return box;
@@ -190,6 +193,7 @@ void ObjectDialog::ShowNounOffer() {
 void ObjectDialog::Show() {
     if (screen_.initialPlace) places_->button(static_cast<int>(*screen_.initialPlace))->setChecked(true);
     ShowNoun();
+    ShowLocation(*room_, screen_.room.text);
     inside_->setText(qt::ToQt(screen_.Inside()));
     inside_->setVisible(screen_.container);
     room_->setEnabled(screen_.initialPlace == InitialPlace::InRoom);

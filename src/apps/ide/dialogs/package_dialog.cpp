@@ -132,7 +132,7 @@ void PackageDialog::AddButtons(QVBoxLayout& layout) {
 
 void PackageDialog::Read() {
     screen_.version = qt::FromQt(version_->text());
-    screen_.readMeText = qt::FromQt(readMe_->toPlainText());
+    screen_.readMeText = qt::FromQt(TextIn(*readMe_));
     screen_.lookAtReadMe = look_->isChecked();
 }
 
@@ -148,7 +148,7 @@ void PackageDialog::Show() {
     if (line > 0) files_->setCurrentCell(std::clamp(current, 0, line - 1), 0);
     const QSignalBlocker quiet(engine_);
     engine_->setChecked(screen_.IncludesEngine());
-    if (qt::FromQt(readMe_->toPlainText()) != screen_.readMeText)
+    if (qt::FromQt(TextIn(*readMe_)) != screen_.readMeText)
         readMe_->setPlainText(qt::ToQt(screen_.readMeText));
 }
 

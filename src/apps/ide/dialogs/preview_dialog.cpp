@@ -13,6 +13,7 @@
 #include "ide/editors/edit_controls.h"
 #include "ide/printing/sheet_view.h"
 #include "platform/error.h"
+#include "qt/fitting_size.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
@@ -58,7 +59,7 @@ PreviewDialog::PreviewDialog(listings::PrintPreview& preview, const PrintService
     Column().addLayout(moves);
     Column().addLayout(others);
     Column().addWidget(scroll_, 1);
-    resize(kPreviewSize);
+    resize(qt::FittingSize(*this, kPreviewSize));
     ShowPage();
     scroll_->setFocus();
 }

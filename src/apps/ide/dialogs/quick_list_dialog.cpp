@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "ide/editors/help_pages.h"
+#include "qt/fitting_size.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
@@ -27,7 +28,7 @@ QuickListDialog::QuickListDialog(const QString& title, const QString& hint, Sear
       search_(std::move(search)),
       typed_(new QLineEdit),
       list_(new QListWidget) {
-    resize(kQuickListSize);
+    resize(qt::FittingSize(*this, kQuickListSize));
     typed_->setObjectName("QuickLine");
     typed_->setPlaceholderText(hint);
     typed_->setAccessibleName(title);

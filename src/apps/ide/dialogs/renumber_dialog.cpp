@@ -10,6 +10,7 @@
 #include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
+#include "qt/fitting_size.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
@@ -26,7 +27,7 @@ RenumberDialog::RenumberDialog(authoring::RenumberScreen& screen, QWidget* paren
       screen_(screen),
       number_(new QLineEdit),
       changes_(new QListWidget) {
-    resize(kRenumberSize);
+    resize(qt::FittingSize(*this, kRenumberSize));
     number_->setObjectName("number");
     number_->setText(qt::ToQt(screen.number));
     number_->selectAll();

@@ -12,6 +12,7 @@
 
 #include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
+#include "qt/fitting_size.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
@@ -43,7 +44,7 @@ ReplaceDialog::ReplaceDialog(authoring::ReplaceScreen& screen, QWidget* parent)
       found_(Named(new QTreeWidget, "found")),
       status_(Named(new QLabel, "replaceStatus")),
       replace_(Named(new QPushButton(tr("&Replace")), "replace")) {
-    resize(kReplaceSize);
+    resize(qt::FittingSize(*this, kReplaceSize));
     MakeLines(Column());
     MakeList(Column());
     what_->setFocus();
@@ -67,6 +68,11 @@ void ReplaceDialog::MakeLines(QVBoxLayout& layout) {
     layout.addLayout(form);
     layout.addLayout(ticks);
     connect(find, &QPushButton::clicked, this, [this] { Find(); });
+    for (const QLineEdit* line : {what_, with_})
+        connect(line, &QLineEdit::textChanged, this, [this] { Forget(); });
+    for (const QCheckBox* box : {matchCase_, wholeWords_, expression_})
+        connect(box, &QCheckBox::toggled, this, [this] { Forget(); });
+    connect(scope_, &QComboBox::currentIndexChanged, this, [this] { Forget(); });
 }
 
 void ReplaceDialog::MakeList(QVBoxLayout& layout) {
@@ -102,9 +108,19 @@ void ReplaceDialog::Find() {
     screen_.wanted.matchCase = matchCase_->isChecked();
     screen_.wanted.wholeWords = wholeWords_->isChecked();
     screen_.wanted.expression = expression_->isChecked();
-    screen_.scope = scope_->currentIndex() == 0 ? std::string() : qt::FromQt(scope_->currentText());
+    // The list shows the scopes translated, behind everywhere.
+    const int scope = scope_->currentIndex();
+    screen_.scope =
+        scope == 0 ? "" : authoring::ReplaceScreen::Scopes()[static_cast<std::size_t>(scope - 1)];
     if (screen_.Find()) return ShowFound();
     what_->setFocus();
+}
+
+/// What is replaced is what the list shows: once something else is wanted it shows nothing.
+void ReplaceDialog::Forget() {
+    if (screen_.Hits().empty()) return;
+    screen_.Forget();
+    ShowFound();
 }
 
 void ReplaceDialog::Replace() {

@@ -16,9 +16,10 @@ class QVBoxLayout;
 namespace fabula::ide {
 
 /// The dialog of find and replace over all tables: what, with what and where; below, each place with a
-/// tick, the line it stands in and what would become of it. A double click on a place goes there. Its parts
-/// are found by the names "what", "with", "scope", "matchCase", "wholeWords", "expression", "find",
-/// "found", "replace", "replaceStatus" and "exit".
+/// tick, the line it stands in and what would become of it. They go as soon as something else is wanted:
+/// what is replaced is what is shown. A double click on a place goes there. Its parts are found by the
+/// names "what", "with", "scope", "matchCase", "wholeWords", "expression", "find", "found", "replace",
+/// "replaceStatus" and "exit".
 class ReplaceDialog final : public ColumnDialog {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:
@@ -31,6 +32,7 @@ class ReplaceDialog final : public ColumnDialog {
     void MakeLines(QVBoxLayout& layout);
     void MakeList(QVBoxLayout& layout);
     void Find();
+    void Forget();
     void Replace();
     void ShowFound();
 

@@ -11,6 +11,7 @@
 
 #include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
+#include "qt/fitting_size.h"
 #include "qt/help_request.h"
 #include "qt/strings.h"
 
@@ -61,7 +62,7 @@ RestoreDialog::RestoreDialog(const authoring::RestoreScreen& screen, QWidget* pa
     Column().addWidget(caption);
     Column().addWidget(comparison_, 1);
     Column().addWidget(buttons);
-    resize(kRestoreSize);
+    resize(qt::FittingSize(*this, kRestoreSize));
     connect(copies_, &QTableWidget::currentCellChanged, this, [this] { ShowComparison(); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -14,6 +14,7 @@
 #include "ide/editors/layout.h"
 #include "ide/editors/leave_check.h"
 #include "platform/error.h"
+#include "qt/fitting_size.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -61,7 +62,7 @@ void ScreenDialog::setVisible(bool visible) {
         AddComment();
         AddButtons();
         if (isWindow()) {
-            resize(sizeHint());
+            resize(qt::FittingSize(*this, sizeHint()));
             FocusFirst();
         }
     }
@@ -117,6 +118,8 @@ QSize ScreenDialog::SizeFor(const QSize& contents) const {
 
 void ScreenDialog::CheckOnLeave(QWidget* control, std::function<bool()> check) {
     new LeaveCheck(*control, [this, check = std::move(check)] {
+        // The update that is under way has told of it.
+        if (atWork_) return;
         Read();
         const bool passed = Guarded(check);
         Show();

@@ -256,7 +256,7 @@ void SettingsGamePage::ShowSample() {
 }
 
 void SettingsGamePage::ShowCount() {
-    const auto count = text::Length(qt::FromQt(description_->toPlainText()));
+    const auto count = text::Length(qt::FromQt(TextIn(*description_)));
     count_->setText(tr("%1 of %2 characters").arg(count).arg(SettingsScreen::kLongestText));
 }
 
@@ -274,8 +274,8 @@ void SettingsGamePage::Read() {
     screen_.printWidth.index = printWidth_->currentIndex();
     screen_.graphics = graphics_->isChecked();
     screen_.graphicsInDb = graphicsInDb_->isChecked();
-    screen_.description = qt::FromQt(description_->toPlainText());
-    screen_.contactInfo = qt::FromQt(contact_->toPlainText());
+    screen_.description = qt::FromQt(TextIn(*description_));
+    screen_.contactInfo = qt::FromQt(TextIn(*contact_));
 }
 
 int SettingsGamePage::WidthOfColumn() const {

@@ -10,6 +10,7 @@
 #include "ide/editors/layout.h"
 #include "ide/printing/paper_output.h"
 #include "platform/error.h"
+#include "qt/fitting_size.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -53,7 +54,7 @@ VerifyDialog::VerifyDialog(authoring::VerifyScreen& verify, platform::Dialogs& d
     Column().addWidget(progress_);
     Column().addWidget(lines_, 1);
     Column().addLayout(buttons);
-    resize(kVerifySize);
+    resize(qt::FittingSize(*this, kVerifySize));
 
     QObject::connect(ok, &QPushButton::clicked, this, [this] { Leave(); });
     QObject::connect(goToButton_, &QPushButton::clicked, this, [this] { GoTo(lines_->currentItem()); });

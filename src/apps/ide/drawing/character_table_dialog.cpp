@@ -13,6 +13,7 @@
 #include "ide/editors/layout.h"
 #include "ide/editors/plane_image.h"
 #include "platform/error.h"
+#include "qt/fitting_size.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -79,7 +80,7 @@ CharacterTableDialog::CharacterTableDialog(authoring::CharacterSetScreen& screen
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     Show();
     table_->setFocus();
-    resize(sizeHint().expandedTo({620, 480}));
+    resize(qt::FittingSize(*this, sizeHint().expandedTo({620, 480})));
 }
 
 bool CharacterTableDialog::eventFilter(QObject* receiver, QEvent* event) {

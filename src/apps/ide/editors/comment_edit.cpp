@@ -57,12 +57,12 @@ CommentEdit::CommentEdit(authoring::RecordComment& comment, const QWidget& windo
     row->addWidget(edit_, 1);
     Show();
     connect(edit_, &QPlainTextEdit::textChanged, this,
-            [this] { comment_.text = qt::FromQt(edit_->toPlainText()); });
+            [this] { comment_.text = qt::FromQt(TextIn(*edit_)); });
 }
 
 void CommentEdit::Show() {
     const QString text = qt::ToQt(comment_.text);
-    if (text != edit_->toPlainText()) edit_->setPlainText(text);
+    if (text != TextIn(*edit_)) edit_->setPlainText(text);
 }
 
 }  // namespace fabula::ide

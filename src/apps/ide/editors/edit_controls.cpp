@@ -51,6 +51,10 @@ QPlainTextEdit* NewTextEdit(const std::string& text) {
     return edit;
 }
 
+QString TextIn(const QPlainTextEdit& edit) {
+    return edit.document()->toRawText().replace(QChar::ParagraphSeparator, '\n');
+}
+
 QComboBox* NewDropList(const authoring::DropList& list) {
     auto* box = new QComboBox;
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -72,6 +76,8 @@ QComboBox* NewLocationList(const authoring::ComboBox& box) {
     auto* list = new QComboBox;
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
+    // Completed, the number that is typed would become a longer one.
+    list->setCompleter(nullptr);
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list->setMinimumContentsLength(kShortestList);
     for (const authoring::ListItem& item : box.items)

@@ -25,6 +25,9 @@ QPushButton* NewButton(const QString& text, const char* name);
 /// An editor of a text of several lines, which Tab leaves.
 QPlainTextEdit* NewTextEdit(const std::string& text);
 
+/// What an editor holds as it was typed: unlike toPlainText this keeps blanks that do not break.
+QString TextIn(const QPlainTextEdit& edit);
+
 /// A list of which one line is chosen.
 QComboBox* NewDropList(const authoring::DropList& list);
 

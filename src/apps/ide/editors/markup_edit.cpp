@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "authoring/fields/markup_spans.h"
+#include "ide/editors/edit_controls.h"
 #include "ide/editors/markup_highlighter.h"
 #include "player/panes/text_colours.h"
 #include "qt/strings.h"
@@ -179,8 +180,7 @@ void MarkupEdit::FitLook() {
 }
 
 std::string MarkupEdit::Text() const {
-    // Unlike toPlainText this keeps blanks that do not break.
-    return qt::FromQt(field_->document()->toRawText().replace(QChar::ParagraphSeparator, '\n'));
+    return qt::FromQt(TextIn(*field_));
 }
 
 void MarkupEdit::SetText(std::string_view text) {

@@ -23,6 +23,7 @@
 
 #include "authoring/files/start_up.h"
 #include "ide/editors/help_pages.h"
+#include "ide/editors/wheel_guard.h"
 #include "ide/window/command_actions.h"
 #include "ide/window/empty_page.h"
 #include "ide/window/find_bar.h"
@@ -66,7 +67,8 @@ constexpr const char* kComments = "Desk/Comments";
 MainWindow::MainWindow(const Services& services, Places places)
     : services_(services),
       places_(std::move(places)),
-      ide_({services.dialogs, services.settings, services.clock, services.events}, places_.desk),
+      boxes_(services.dialogs),
+      ide_({boxes_, services.settings, services.clock, services.events}, places_.desk),
       navigator_(ide_),
       findingsList_(ide_, navigator_),
       help_(places_.help, services.dialogs),
@@ -148,6 +150,7 @@ MainWindow::MainWindow(const Services& services, Places places)
     setObjectName("MainScreen");
     setMinimumSize(kSmallestSize);
     setAcceptDrops(true);
+    new WheelGuard(this);
     setProperty(qt::kHelpPage, kMainWindowPage);
     ide_.upgradeBoxes = {.steps = [this](std::string_view steps) { ShowUpgrade(steps); },
                          .chooseType = [this](store::AdventureSetup& setup) { ChooseType(setup); }};
@@ -244,34 +247,36 @@ void MainWindow::MakeMenus() {
 
 void MainWindow::MakeViewSwitches(QMenu& view) {
     const auto add = [&](const char* name, const QString& text, const QKeySequence& key,
-                         const QString& kept) {
+                         const QString& kept, const std::function<void(bool)>& show) {
         QAction* action = view.addAction(text);
         action->setObjectName(name);
         action->setShortcut(key);
         action->setCheckable(true);
         action->setChecked(services_.store.value(kept, false).toBool());
-        QObject::connect(action, &QAction::toggled, this,
-                         [this, kept](bool on) { services_.store.setValue(kept, on); });
+        QObject::connect(action, &QAction::toggled, this, [this, action, kept, show](bool on) {
+            if (LeaveRecord()) {
+                services_.store.setValue(kept, on);
+                return show(on);
+            }
+            // The record stays, and with it what is shown of it.
+            const QSignalBlocker refused(action);
+            action->setChecked(!on);
+        });
         return action;
     };
-    showBeside_ = add("RecordBeside", tr("Record &Beside the Rows"), Qt::Key_F9, kRecordBeside);
-    QObject::connect(showBeside_, &QAction::toggled, this, [this] {
-        if (LeaveRecord()) ShowBeside();
-    });
-    QAction* names = add("WithNames", tr("Process Tables with &Names"), Qt::Key_F8, kWithNames);
+    showBeside_ = add("RecordBeside", tr("Record &Beside the Rows"), Qt::Key_F9, kRecordBeside,
+                      [this](bool) { ShowBeside(); });
+    const QAction* names =
+        add("WithNames", tr("Process Tables with &Names"), Qt::Key_F8, kWithNames, [this](bool on) {
+            ide_.ShowNames(on);
+            ShowChanges();
+        });
     ide_.ShowNames(names->isChecked());
-    QObject::connect(names, &QAction::toggled, this, [this](bool on) {
-        if (!LeaveRecord()) return;
-        ide_.ShowNames(on);
-        ShowChanges();
-    });
-    QAction* comments = add("Comments", tr("Co&mments"), {}, kComments);
-    ide_.ShowComments(comments->isChecked());
-    QObject::connect(comments, &QAction::toggled, this, [this](bool on) {
-        if (!LeaveRecord()) return;
+    const QAction* comments = add("Comments", tr("Co&mments"), {}, kComments, [this](bool on) {
         ide_.ShowComments(on);
         ShowChanges();
     });
+    ide_.ShowComments(comments->isChecked());
 }
 
 void MainWindow::MakeThemeMenu(QMenu& view) {
@@ -352,7 +357,7 @@ void MainWindow::Start(const std::filesystem::path& file) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!LeaveRecord()) return event->ignore();
+    if (!MayEnd()) return event->ignore();
     services_.store.setValue(kGeometry, saveGeometry());
     services_.store.setValue(kSplitter, desk_->saveState());
     services_.store.setValue(kUsesShown, uses_->isVisibleTo(desk_));

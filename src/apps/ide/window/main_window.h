@@ -18,6 +18,7 @@
 #include "engine/sound_player.h"
 #include "ide/printing/paper_output.h"
 #include "ide/window/examples.h"
+#include "ide/window/still_dialogs.h"
 #include "platform/programs.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
@@ -114,6 +115,7 @@ class MainWindow final : public QMainWindow {
     void PlaceWindow();
 
     void ShowChanges();
+    void ShowTitle();
     void ShowRow();
     void ShowPicture();
     void ShowBeside();
@@ -121,6 +123,7 @@ class MainWindow final : public QMainWindow {
     void FoldGroup(int group, bool folded);
     void ChooseNode(int sort);
     bool LeaveRecord();
+    bool MayEnd();
     bool StoreTyped(const std::string& text);
     void StoreBeside();
     void ShowTabs();
@@ -150,6 +153,7 @@ class MainWindow final : public QMainWindow {
     void Renumber();
 
     void New();
+    void SaveAs();
     void Open(const std::filesystem::path& file);
     void OpenExample(const Example& example);
     void DoInLogic(authoring::Command command);
@@ -179,6 +183,7 @@ class MainWindow final : public QMainWindow {
 
     Services services_;
     Places places_;
+    StillDialogs boxes_;
     authoring::MainScreen ide_;
     authoring::Navigator navigator_;
     authoring::FindingsList findingsList_;

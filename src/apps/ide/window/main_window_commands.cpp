@@ -42,7 +42,9 @@ void MainWindow::Do(Command command) {
     const authoring::ActionState state = ide_.StateOf(command);
     if (!state.enabled) return message_->setText(qt::Translated(state.why));
     if (FollowFromPane(command)) return;
-    if (command != Command::Help && !LeaveRecord()) return;
+    // These leave a record in a way of their own, or not at all.
+    const bool leaves = command != Command::Help && command != Command::SaveAs && command != Command::Exit;
+    if (leaves && !LeaveRecord()) return;
     for (const Routine& each : Routines()) {
         if (each.command == command) return each.run(*this);
     }
@@ -56,6 +58,7 @@ std::span<const MainWindow::Routine> MainWindow::Routines() {
     using SetFiles = authoring::CharacterSetFiles::Purpose;
     static constexpr std::array kRoutines = {
         Routine{Command::New, [](MainWindow& window) { window.New(); }},
+        Routine{Command::SaveAs, [](MainWindow& window) { window.SaveAs(); }},
         Routine{Command::Exit, [](MainWindow& window) { window.close(); }},
         Routine{Command::Run, [](MainWindow& window) { window.StartTest(); }},
         Routine{Command::Import, [](MainWindow& window) { window.ImportOrExport(JobMode::Import); }},
@@ -110,6 +113,8 @@ void MainWindow::DoInLogic(Command command) {
 }
 
 void MainWindow::Open(const authoring::ScreenRequest& request) {
+    if (ide_.CurrentContext().document.IsReadOnly())
+        return services_.dialogs.Tell(authoring::MainScreen::kOnlyToRead, "Fabula IDE");
     try {
         authoring::ScreenContext& context = ide_.CurrentContext();
         if (!OpenDrawingScreen(request, context, services_.settings, this))
@@ -159,6 +164,20 @@ void MainWindow::New() {
     if (dialog.exec() != QDialog::Accepted) return;
     ide_.NewAdventure(*file, setup, dialog.Starter());
     ShowChanges();
+}
+
+/// What was typed beside the rows goes into the copy: the old file may be what can't be written. Where it
+/// is refused it stays as it was typed.
+void MainWindow::SaveAs() {
+    if (!ide_.SaveAs()) return;
+    const std::string saved = ide_.Message();
+    const bool stored = LeaveRecord();
+    ide_.Say(saved);
+    if (stored) return ShowChanges();
+    shownFile_ = ide_.CurrentContext().document.File();
+    ShowTitle();
+    ShowRecent();
+    ShowActions();
 }
 
 void MainWindow::Open(const std::filesystem::path& file) {

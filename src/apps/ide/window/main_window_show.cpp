@@ -10,6 +10,7 @@
 #include <QStackedWidget>
 #include <QTableView>
 
+#include "ide/dialogs/leaving.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/picture_view.h"
 #include "ide/editors/record_picture.h"
@@ -45,7 +46,7 @@ constexpr const char* kTheme = "Startup/Theme";
 void MainWindow::ShowChanges() {
     const bool open = ide_.GetState() != authoring::MainScreen::State::NoAdventure;
     const bool changedPage = (pages_->currentWidget() == desk_) != open;
-    setWindowTitle(qt::ToQt(ide_.Title()));
+    ShowTitle();
     pages_->setCurrentWidget(open ? static_cast<QWidget*>(desk_) : empty_);
     const authoring::TreeNode* node = ide_.CurrentNode();
     tree_->Show(ide_.Tree(), node ? node->sort : -1);
@@ -68,6 +69,10 @@ void MainWindow::ShowChanges() {
     beside_->Outdate();
     ShowRow();
     if (ide_.MustExit()) close();
+}
+
+void MainWindow::ShowTitle() {
+    setWindowTitle(qt::Translated(ide_.Title()));
 }
 
 void MainWindow::ShowRow() {
@@ -144,6 +149,18 @@ bool MainWindow::LeaveRecord() {
         },
         Qt::QueuedConnection);
     return false;
+}
+
+/// Before the window closes: what was typed is stored. Where that fails it may be dropped, so that nobody
+/// is kept by a file that can't be written.
+bool MainWindow::MayEnd() {
+    if (LeaveRecord()) return true;
+    bool stored = false;
+    const bool dropped = MayClose(true, services_.dialogs, [&] { stored = LeaveRecord(); });
+    if (!dropped) return stored;
+    records_->CloseCell();
+    beside_->Show(std::nullopt, nullptr);
+    return true;
 }
 
 /// Where a record stands below the rows and has its picture itself, they don't give their room for it.

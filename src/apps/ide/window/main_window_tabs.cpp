@@ -7,6 +7,7 @@
 #include "ide/window/record_panel.h"
 #include "ide/window/tab_strip.h"
 #include "ide/window/tree_panel.h"
+#include "qt/help_window.h"
 #include "qt/strings.h"
 
 // Tabs, and what happens when the author goes to another window.
@@ -50,12 +51,15 @@ void MainWindow::AskTreeMenu(const QPoint& place) {
     menu.exec(tree_->viewport()->mapToGlobal(place));
 }
 
-/// The author has gone to another window. Boxes and lists of this one are not left for.
+/// The author has gone to another window. Boxes and lists of this one are not left for, nor is a record for
+/// the help on it. Nobody is here to be told: what is refused stays as it was typed until it is left.
 void MainWindow::StoreBeside() {
     if (isActiveWindow() || QApplication::activeModalWidget() || QApplication::activePopupWidget()) return;
+    if (help_.Window() && help_.Window()->isActiveWindow()) return;
     for (const QWidget* window = QApplication::activeWindow(); window; window = window->parentWidget()) {
         if (window == this) return;
     }
+    const StillDialogs::Stillness still(boxes_);
     if (records_->LeaveCell()) beside_->Store();
 }
 

@@ -66,6 +66,8 @@ class RecordPanel final : public QWidget {
 
     /// Stores what was typed into a cell. False when it was refused: the cell keeps it and the keyboard.
     bool LeaveCell();
+    /// Takes back what was typed into a cell.
+    void CloseCell();
 
     QTableView& Grid() { return *view_; }
     QLineEdit& FilterLine() { return *filter_; }
@@ -93,7 +95,6 @@ class RecordPanel final : public QWidget {
     bool TypesInto(const QModelIndex& cell) const;
     bool BeginCell(QEvent& event);
     void OpenCell(const QString& text);
-    void CloseCell();
 
     const authoring::TableGrid& grid_;
     RecordEvents events_;

@@ -54,8 +54,8 @@ class PlayedGame {
     bool Start();
     /// Whether there is a state of an earlier time to go on from.
     bool CanResume() const;
-    /// Goes on from it, and Undo never goes back before it. When that is not possible the game goes on as it
-    /// is, and the person is told.
+    /// Goes on from it, and Undo never goes back before it. When that is not possible the game goes on as
+    /// it is, and the person is told.
     bool Resume();
 
     /// The game goes on with a long turn.
