@@ -212,9 +212,11 @@ class MainScreen {
     bool StoreTyped(std::string_view text);
 
     /// Whether process tables show what the numbers in their lines stand for.
+    bool NamesShown() const { return namesShown_; }
     void ShowNames(bool shown);
 
     /// Whether tables show the author's comments as a column.
+    bool CommentsShown() const { return commentsShown_; }
     void ShowComments(bool shown);
 
     /// How the rows of the process table in view are grouped. Each view keeps its own.
