@@ -4,7 +4,7 @@
 
 #include "bench_games.h"
 #include "engine/engine.h"
-#include "engine/origin.h"
+#include "engine/output/origin.h"
 #include "store/adventure.h"
 #include "support/scripted_person.h"
 #include "support/temp_folder.h"

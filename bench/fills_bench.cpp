@@ -5,9 +5,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include "pictures/characters/glyph.h"
 #include "pictures/drawing.h"
 #include "pictures/fills.h"
-#include "pictures/glyph.h"
 
 namespace fabula::pictures {
 namespace {

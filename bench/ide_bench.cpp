@@ -5,8 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "authoring/desk/findings_list.h"
 #include "authoring/desk/main_screen.h"
+#include "authoring/desk/search/findings_list.h"
 #include "bench_games.h"
 #include "support/places.h"
 #include "support/scripted_dialogs.h"

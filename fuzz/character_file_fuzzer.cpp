@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "pictures/character_file.h"
+#include "pictures/characters/character_file.h"
 #include "platform/error.h"
 
 // What can be read can be written, and reads the same again.

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "store/filter.h"
+#include "store/filter/filter.h"
 #include "store/selection.h"
 
 using namespace fabula;

@@ -1,9 +1,9 @@
 #include "engine/diagnostics.h"
 
 #include "condacts/limits.h"
+#include "engine/actions/objects.h"
 #include "engine/engine.h"
 #include "engine/game.h"
-#include "engine/objects.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 

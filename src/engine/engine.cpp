@@ -1,13 +1,13 @@
 #include "engine/engine.h"
 
+#include "engine/actions/location_actions.h"
+#include "engine/actions/state_actions.h"
+#include "engine/cycle/parser.h"
+#include "engine/cycle/prompt.h"
 #include "engine/game.h"
-#include "engine/location_actions.h"
-#include "engine/parser.h"
-#include "engine/prompt.h"
 #include "engine/saved_game.h"
-#include "engine/state_actions.h"
 #include "platform/error.h"
-#include "store/filter.h"
+#include "store/filter/filter.h"
 #include "text/utf8.h"
 
 namespace fabula::engine {

@@ -7,10 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "engine/cycle/process_loop.h"
 #include "engine/game_window.h"
-#include "engine/process_loop.h"
+#include "engine/output/trace_sink.h"
 #include "engine/sound_player.h"
-#include "engine/trace_sink.h"
 #include "platform/person.h"
 #include "platform/random_source.h"
 #include "store/adventure.h"

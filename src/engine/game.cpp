@@ -1,6 +1,6 @@
 #include "engine/game.h"
 
-#include "engine/auto_flags.h"
+#include "engine/actions/auto_flags.h"
 
 namespace fabula::engine {
 

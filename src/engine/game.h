@@ -5,16 +5,16 @@
 #include <string>
 #include <string_view>
 
-#include "engine/condact_runner.h"
+#include "engine/cycle/condact_runner.h"
+#include "engine/cycle/process_loop.h"
 #include "engine/engine.h"
 #include "engine/game_data.h"
 #include "engine/game_texts.h"
 #include "engine/host_parts.h"
-#include "engine/printer.h"
-#include "engine/process_loop.h"
+#include "engine/output/printer.h"
+#include "engine/output/script.h"
+#include "engine/output/trace.h"
 #include "engine/run_state.h"
-#include "engine/script.h"
-#include "engine/trace.h"
 
 namespace fabula::engine {
 

@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/cycle/process_table.h"
 #include "engine/numbers.h"
-#include "engine/process_table.h"
+#include "engine/output/text_settings.h"
 #include "engine/sound_player.h"
-#include "engine/text_settings.h"
 #include "store/adventure.h"
 #include "store/adventure_kind.h"
 

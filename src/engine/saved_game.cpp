@@ -10,7 +10,7 @@
 
 #include "platform/whole_file.h"
 #include "store/extensions.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 
 namespace fabula::engine {
 

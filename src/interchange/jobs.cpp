@@ -1,10 +1,10 @@
 #include "interchange/jobs.h"
 
-#include "pictures/room_bitmaps.h"
+#include "pictures/files/room_bitmaps.h"
 #include "platform/error.h"
 #include "platform/whole_file.h"
 #include "store/create.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "text/bad_bytes.h"
 #include "text/str_edit.h"
 

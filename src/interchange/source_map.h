@@ -8,7 +8,7 @@
 #include <tuple>
 
 #include "interchange/job_status.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::interchange {
 

@@ -5,8 +5,8 @@
 #include "interchange/keyed_table.h"
 #include "platform/error.h"
 #include "platform/event_pump.h"
-#include "store/default_data.h"
-#include "store/section_reader.h"
+#include "store/schema/default_data.h"
+#include "store/schema/section_reader.h"
 
 namespace fabula::interchange {
 namespace {

@@ -10,7 +10,7 @@ namespace fabula::interchange {
 /// created, in one step: a starter file of the default data, chosen by the adventure's type
 /// ("starters/fabula.ini" and so on).
 ///
-/// The file is built as the default data is (store/default_data.h), with an "::INFO" that names the
+/// The file is built as the default data is (store/schema/default_data.h), with an "::INFO" that names the
 /// delimiter and the sections "::MESSAGES", "::VOCABULARY" and "::PROCESSTABLES", each of which may be
 /// missing. Lines outside of sections are remarks.
 ///

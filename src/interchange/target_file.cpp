@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "text/line_ends.h"
 #include "text/utf8.h"
 #include "text/windows1252.h"

@@ -6,7 +6,7 @@
 #include "listings/record.h"
 #include "listings/reports.h"
 #include "pictures/book_loader.h"
-#include "pictures/glyph.h"
+#include "pictures/characters/glyph.h"
 
 namespace fabula::listings {
 namespace {

@@ -8,7 +8,7 @@
 #include "authoring/fields/record_texts.h"
 #include "condacts/catalogue.h"
 #include "condacts/words.h"
-#include "listings/page.h"
+#include "listings/pages/page.h"
 #include "store/adventure.h"
 
 namespace fabula::listings {

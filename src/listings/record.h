@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "listings/page.h"
+#include "listings/pages/page.h"
 #include "text/value.h"
 
 namespace fabula::listings {

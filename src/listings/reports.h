@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "listings/frame.h"
+#include "listings/pages/frame.h"
 #include "store/adventure.h"
 
 namespace fabula::listings {

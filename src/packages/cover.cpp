@@ -1,7 +1,7 @@
 #include "packages/cover.h"
 
-#include "pictures/image.h"
-#include "pictures/image_reader.h"
+#include "pictures/files/image.h"
+#include "pictures/files/image_reader.h"
 #include "platform/error.h"
 #include "platform/whole_file.h"
 #include "store/game_path.h"

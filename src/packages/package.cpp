@@ -5,7 +5,7 @@
 #include "packages/ifiction.h"
 #include "packages/read_me.h"
 #include "platform/whole_file.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "store/game_path.h"
 #include "text/utf8.h"
 

@@ -1,7 +1,7 @@
 #include "packages/package_screen.h"
 
 #include "platform/whole_file.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "store/game_path.h"
 #include "text/str_edit.h"
 

@@ -11,7 +11,7 @@
 #include "condacts/words.h"
 #include "packages/travel_table.h"
 #include "platform/error.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"

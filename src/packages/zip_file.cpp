@@ -8,8 +8,8 @@
 #include <zlib.h>
 
 #include "platform/whole_file.h"
-#include "store/file_copy.h"
-#include "store/temporary_file.h"
+#include "store/file/file_copy.h"
+#include "store/file/temporary_file.h"
 
 namespace fabula::packages {
 namespace {

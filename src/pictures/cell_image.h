@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "pictures/image.h"
+#include "pictures/files/image.h"
 
 namespace fabula::pictures {
 

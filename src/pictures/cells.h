@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "pictures/canvas.h"
-#include "pictures/glyph.h"
+#include "pictures/characters/glyph.h"
 
 namespace fabula::pictures {
 

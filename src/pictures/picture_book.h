@@ -4,7 +4,7 @@
 #include <set>
 #include <string>
 
-#include "pictures/character_sets.h"
+#include "pictures/characters/character_sets.h"
 #include "pictures/command_catalogue.h"
 #include "pictures/palette.h"
 

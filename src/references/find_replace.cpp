@@ -12,7 +12,7 @@
 #include "condacts/validate.h"
 #include "references/kinds.h"
 #include "store/comments.h"
-#include "store/record_check.h"
+#include "store/schema/record_check.h"
 #include "store/tags.h"
 #include "text/line_ends.h"
 #include "text/markup.h"

@@ -12,7 +12,7 @@
 #include "references/extract.h"
 #include "references/use.h"
 #include "store/adventure.h"
-#include "store/change_set.h"
+#include "store/file/change_set.h"
 
 namespace fabula::references {
 

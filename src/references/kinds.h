@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "condacts/numbers.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::references {
 

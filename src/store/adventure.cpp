@@ -5,10 +5,10 @@
 
 #include <sqlite3.h>
 
-#include "store/change_lock.h"
-#include "store/connection.h"
-#include "store/file_check.h"
-#include "store/file_copy.h"
+#include "store/file/change_lock.h"
+#include "store/file/connection.h"
+#include "store/file/file_check.h"
+#include "store/file/file_copy.h"
 #include "store/selection.h"
 #include "text/utf8.h"
 

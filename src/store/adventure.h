@@ -11,10 +11,10 @@
 #include "platform/error.h"
 #include "store/adventure_kind.h"
 #include "store/cursor.h"
-#include "store/filter.h"
+#include "store/filter/filter.h"
 #include "store/prepared_query.h"
-#include "store/schema.h"
-#include "store/table_catalogue.h"
+#include "store/schema/schema.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::store {
 

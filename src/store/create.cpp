@@ -8,14 +8,14 @@
 
 #include "platform/whole_file.h"
 #include "store/adventure.h"
-#include "store/connection.h"
-#include "store/default_data.h"
-#include "store/file_check.h"
-#include "store/file_copy.h"
+#include "store/file/connection.h"
+#include "store/file/file_check.h"
+#include "store/file/file_copy.h"
 #include "store/new_flag.h"
-#include "store/record_check.h"
-#include "store/schema_section.h"
-#include "store/section_reader.h"
+#include "store/schema/default_data.h"
+#include "store/schema/record_check.h"
+#include "store/schema/schema_section.h"
+#include "store/schema/section_reader.h"
 #include "text/bad_bytes.h"
 
 namespace fabula::store {

@@ -8,8 +8,8 @@
 
 #include "platform/error.h"
 #include "platform/whole_file.h"
-#include "store/connection.h"
-#include "store/record_check.h"
+#include "store/file/connection.h"
+#include "store/schema/record_check.h"
 #include "text/utf8.h"
 
 namespace fabula::store {

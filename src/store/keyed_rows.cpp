@@ -4,7 +4,7 @@
 
 #include <sqlite3.h>
 
-#include "store/change_set.h"
+#include "store/file/change_set.h"
 
 namespace fabula::store {
 namespace {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "store/connection.h"
+#include "store/file/connection.h"
 
 namespace fabula::store {
 

@@ -5,7 +5,7 @@
 
 #include <sqlite3.h>
 
-#include "store/connection.h"
+#include "store/file/connection.h"
 #include "store/selection.h"
 
 namespace fabula::store {

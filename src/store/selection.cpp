@@ -1,7 +1,7 @@
 #include "store/selection.h"
 
-#include "store/connection.h"
-#include "store/filter_parser.h"
+#include "store/file/connection.h"
+#include "store/filter/filter_parser.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "store/filter.h"
-#include "store/schema.h"
+#include "store/filter/filter.h"
+#include "store/schema/schema.h"
 #include "text/value.h"
 
 namespace fabula::store {

@@ -5,7 +5,7 @@
 
 #include <sqlite3.h>
 
-#include "store/schema.h"
+#include "store/schema/schema.h"
 
 namespace fabula::store {
 

@@ -5,7 +5,7 @@
 #include "platform/error.h"
 #include "platform/event_pump.h"
 #include "store/adventure_kind.h"
-#include "store/schema_section.h"
+#include "store/schema/schema_section.h"
 #include "text/fields.h"
 #include "text/utf8.h"
 

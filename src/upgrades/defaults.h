@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-#include "store/default_data.h"
-#include "store/schema.h"
-#include "store/section_reader.h"
-#include "store/table_catalogue.h"
+#include "store/schema/default_data.h"
+#include "store/schema/schema.h"
+#include "store/schema/section_reader.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::upgrades {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::upgrades {
 

@@ -4,9 +4,9 @@
 
 namespace fabula::upgrades {
 
-// Tests and effects of the steps that add tables and fields. Which they are stands in store/file_forms.h by
-// the step's number; what they look like, and the rows of `Tables` that tell of them, come from the default
-// data.
+// Tests and effects of the steps that add tables and fields. Which they are stands in
+// store/file/file_forms.h by the step's number; what they look like, and the rows of `Tables` that tell of
+// them, come from the default data.
 
 /// Adds the step's fields, with a value in every record: a blank in texts, 0, off, no bytes.
 void AddBlankFields(Work& work, const Step& step);

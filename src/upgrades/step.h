@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 #include "upgrades/work.h"
 
 namespace fabula::upgrades {

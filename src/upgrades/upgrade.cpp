@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "store/file_forms.h"
-#include "store/schema_change.h"
+#include "store/file/file_forms.h"
+#include "store/schema/schema_change.h"
 #include "store/setup.h"
 #include "upgrades/flag_corrections.h"
 #include "upgrades/step.h"

@@ -5,7 +5,7 @@
 #include "condacts/convert.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 #include "support/template_adventure.h"
 
 namespace fabula::test {

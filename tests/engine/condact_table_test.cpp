@@ -1,4 +1,4 @@
-#include "engine/condact_table.h"
+#include "engine/actions/condact_table.h"
 
 #include <set>
 

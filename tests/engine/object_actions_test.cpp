@@ -1,4 +1,4 @@
-#include "engine/object_actions.h"
+#include "engine/actions/object_actions.h"
 
 #include <type_traits>
 

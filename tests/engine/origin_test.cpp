@@ -1,4 +1,4 @@
-#include "engine/origin.h"
+#include "engine/output/origin.h"
 
 #include <sstream>
 

@@ -1,4 +1,4 @@
-#include "engine/parser.h"
+#include "engine/cycle/parser.h"
 
 #include <gtest/gtest.h>
 

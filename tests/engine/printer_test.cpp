@@ -1,9 +1,9 @@
-#include "engine/printer.h"
+#include "engine/output/printer.h"
 
 #include <gtest/gtest.h>
 
+#include "engine/output/script.h"
 #include "engine/run_failure.h"
-#include "engine/script.h"
 #include "support/recording_window.h"
 #include "support/template_adventure.h"
 

@@ -1,4 +1,4 @@
-#include "engine/process_table.h"
+#include "engine/cycle/process_table.h"
 
 #include <random>
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/condact_table.h"
+#include "engine/actions/condact_table.h"
 #include "engine/game.h"
 #include "support/game_builder.h"
 #include "support/trials.h"

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/game.h"
-#include "engine/trace_file.h"
+#include "engine/output/trace_file.h"
 #include "platform/error.h"
 #include "support/game_builder.h"
 

@@ -1,4 +1,4 @@
-#include "engine/transcript.h"
+#include "engine/output/transcript.h"
 
 #include <sstream>
 

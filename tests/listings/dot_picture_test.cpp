@@ -1,4 +1,4 @@
-#include "listings/dot_picture.h"
+#include "listings/pages/dot_picture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
-#include "listings/frame.h"
+#include "listings/pages/frame.h"
 
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "listings/text_page.h"
+#include "listings/pages/text_page.h"
 
 namespace fabula::listings {
 namespace {

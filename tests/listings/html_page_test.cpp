@@ -1,4 +1,4 @@
-#include "listings/html_page.h"
+#include "listings/pages/html_page.h"
 
 #include <string>
 

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
+#include "listings/pages/text_page.h"
 #include "listings/reports.h"
-#include "listings/text_page.h"
 #include "support/template_adventure.h"
 #include "text/value.h"
 

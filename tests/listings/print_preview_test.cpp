@@ -1,4 +1,4 @@
-#include "listings/print_preview.h"
+#include "listings/pages/print_preview.h"
 
 #include <gtest/gtest.h>
 

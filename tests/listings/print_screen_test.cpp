@@ -1,4 +1,4 @@
-#include "listings/print_screen.h"
+#include "listings/pages/print_screen.h"
 
 #include <string>
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "authoring/desk.h"
-#include "pictures/image.h"
+#include "pictures/files/image.h"
 
 namespace fabula::packages {
 

@@ -1,4 +1,4 @@
-#include "pictures/bdf_font.h"
+#include "pictures/characters/bdf_font.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "pictures/character_sets.h"
+#include "pictures/characters/character_sets.h"
 #include "pictures/command_catalogue.h"
 #include "pictures/drawstring.h"
 

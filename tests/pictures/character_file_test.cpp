@@ -1,4 +1,4 @@
-#include "pictures/character_file.h"
+#include "pictures/characters/character_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "pictures/character_store.h"
+#include "pictures/characters/character_store.h"
 
 #include <fstream>
 #include <iterator>

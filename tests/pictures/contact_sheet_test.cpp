@@ -1,4 +1,4 @@
-#include "pictures/contact_sheet.h"
+#include "pictures/files/contact_sheet.h"
 
 #include <gtest/gtest.h>
 

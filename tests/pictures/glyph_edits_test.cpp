@@ -1,4 +1,4 @@
-#include "pictures/glyph_edits.h"
+#include "pictures/characters/glyph_edits.h"
 
 #include <gtest/gtest.h>
 

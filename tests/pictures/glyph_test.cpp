@@ -1,4 +1,4 @@
-#include "pictures/glyph.h"
+#include "pictures/characters/glyph.h"
 
 #include <gtest/gtest.h>
 

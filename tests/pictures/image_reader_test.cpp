@@ -1,11 +1,11 @@
-#include "pictures/image_reader.h"
+#include "pictures/files/image_reader.h"
 
 #include <gtest/gtest.h>
 #include <turbojpeg.h>
 
-#include "pictures/image.h"
+#include "pictures/files/image.h"
 #include "platform/error.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "support/temp_folder.h"
 
 namespace fabula::pictures {

@@ -1,4 +1,4 @@
-#include "pictures/image.h"
+#include "pictures/files/image.h"
 
 #include <fstream>
 #include <iterator>

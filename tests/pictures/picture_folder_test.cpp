@@ -1,4 +1,4 @@
-#include "pictures/picture_folder.h"
+#include "pictures/files/picture_folder.h"
 
 #include <fstream>
 

@@ -8,7 +8,7 @@
 #include "records.h"
 #include "references/index.h"
 #include "references/lint.h"
-#include "store/change_set.h"
+#include "store/file/change_set.h"
 #include "support/template_adventure.h"
 
 namespace fabula::references {

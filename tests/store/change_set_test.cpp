@@ -1,4 +1,4 @@
-#include "store/change_set.h"
+#include "store/file/change_set.h"
 
 #include <filesystem>
 #include <string>
@@ -7,7 +7,7 @@
 
 #include "platform/error.h"
 #include "store/adventure.h"
-#include "store/change_log.h"
+#include "store/file/change_log.h"
 #include "support/template_adventure.h"
 
 namespace fabula::store {

@@ -1,4 +1,4 @@
-#include "store/connection.h"
+#include "store/file/connection.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>

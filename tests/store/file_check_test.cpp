@@ -1,6 +1,6 @@
 // Files that come from strangers: each is refused with one sentence and left as it was, or opens cleanly.
 
-#include "store/file_check.h"
+#include "store/file/file_check.h"
 
 #include <random>
 

@@ -1,4 +1,4 @@
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 
 #include <algorithm>
 

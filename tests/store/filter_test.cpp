@@ -1,4 +1,4 @@
-#include "store/filter.h"
+#include "store/filter/filter.h"
 
 #include <map>
 

@@ -1,4 +1,4 @@
-#include "store/needed_fields.h"
+#include "store/schema/needed_fields.h"
 
 #include <algorithm>
 

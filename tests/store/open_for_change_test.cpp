@@ -3,7 +3,7 @@
 #include <unistd.h>
 
 #include "store/adventure.h"
-#include "store/change_lock.h"
+#include "store/file/change_lock.h"
 #include "support/child_process.h"
 #include "support/raw_database.h"
 #include "support/template_adventure.h"

@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "store/adventure.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "support/child_process.h"
 #include "support/raw_database.h"
 #include "support/template_adventure.h"

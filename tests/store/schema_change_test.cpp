@@ -1,8 +1,8 @@
-#include "store/schema_change.h"
+#include "store/schema/schema_change.h"
 
 #include <gtest/gtest.h>
 
-#include "store/connection.h"
+#include "store/file/connection.h"
 #include "support/raw_database.h"
 #include "support/template_adventure.h"
 

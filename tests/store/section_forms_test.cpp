@@ -1,14 +1,14 @@
 // Compares the forms of the sections with the default data: which of its fields each names.
 
-#include "store/section_forms.h"
+#include "store/schema/section_forms.h"
 
 #include <map>
 #include <set>
 
 #include <gtest/gtest.h>
 
-#include "store/default_data.h"
-#include "store/schema_section.h"
+#include "store/schema/default_data.h"
+#include "store/schema/schema_section.h"
 #include "support/places.h"
 #include "text/fields.h"
 #include "text/utf8.h"

@@ -6,7 +6,7 @@
 #include <unistd.h>
 
 #include "platform/error.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "support/child_process.h"
 #include "support/raw_database.h"
 #include "support/temp_folder.h"

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "engine/game_window.h"
-#include "engine/origin.h"
+#include "engine/output/origin.h"
 
 namespace fabula::engine {
 

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "old_file.h"
-#include "store/file_forms.h"
+#include "store/file/file_forms.h"
 #include "support/raw_database.h"
 #include "support/temp_folder.h"
 #include "upgrades/step.h"

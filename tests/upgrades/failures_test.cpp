@@ -11,7 +11,7 @@
 
 #include "old_file.h"
 #include "platform/error.h"
-#include "store/file_forms.h"
+#include "store/file/file_forms.h"
 #include "support/child_process.h"
 #include "support/raw_database.h"
 #include "support/temp_folder.h"

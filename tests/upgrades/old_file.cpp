@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "store/file_check.h"
-#include "store/file_forms.h"
+#include "store/file/file_check.h"
+#include "store/file/file_forms.h"
 #include "support/places.h"
 #include "support/raw_database.h"
 #include "support/temp_folder.h"

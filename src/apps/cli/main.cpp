@@ -10,7 +10,7 @@
 
 #include "cli/verbs.h"
 #include "platform/error.h"
-#include "store/filter.h"
+#include "store/filter/filter.h"
 #include "text/safe_text.h"
 
 namespace {

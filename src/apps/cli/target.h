@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/person.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 
 namespace fabula::cli {
 

@@ -8,7 +8,7 @@
 #include "platform/random_source.h"
 #include "platform/user_folders.h"
 #include "player/window/player_window.h"
-#include "qt/help.h"
+#include "qt/help/help.h"
 #include "qt/last_border.h"
 #include "qt/qt_dialogs.h"
 #include "qt/qt_settings.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/transcript.h"
+#include "engine/output/transcript.h"
 #include "terminal/attributes.h"
 #include "terminal/line_source.h"
 #include "terminal/line_wrapper.h"

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <optional>
 
-#include "engine/origin.h"
-#include "engine/trace_sink.h"
+#include "engine/output/origin.h"
+#include "engine/output/trace_sink.h"
 #include "store/adventure.h"
 #include "terminal/terminal_window.h"
 

@@ -3,7 +3,7 @@
 #include "authoring/batch/batch_import.h"
 #include "interchange/batch/batch_writer.h"
 #include "store/extensions.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "authoring/desk/table_view.h"
+#include "authoring/desk/grid/table_view.h"
 #include "authoring/document/screen_context.h"
 
 namespace fabula::authoring {

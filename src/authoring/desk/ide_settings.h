@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "authoring/desk/grid/table_view.h"
 #include "authoring/desk/open_tabs.h"
-#include "authoring/desk/table_view.h"
 #include "platform/recent_files.h"
 #include "platform/settings.h"
 

@@ -4,8 +4,8 @@
 #include <system_error>
 #include <utility>
 
+#include "authoring/desk/grid/sort_order.h"
 #include "authoring/desk/ide_settings.h"
-#include "authoring/desk/sort_order.h"
 #include "authoring/desk/upgrading.h"
 #include "authoring/files/backups.h"
 #include "authoring/files/start_up.h"
@@ -14,7 +14,7 @@
 #include "interchange/starter.h"
 #include "platform/error.h"
 #include "store/create.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "text/utf8.h"
 
 // The life of the window and of the adventure in it. What it shows is in main_screen_views.cpp, what it

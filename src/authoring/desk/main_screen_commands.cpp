@@ -1,7 +1,7 @@
 #include "authoring/desk/batch_commands.h"
 #include "authoring/desk/ide_settings.h"
 #include "authoring/desk/main_screen.h"
-#include "authoring/desk/renumber_screen.h"
+#include "authoring/desk/search/renumber_screen.h"
 #include "authoring/entries/last_records.h"
 #include "authoring/fields/short_desc.h"
 #include "authoring/screens/word_screen.h"

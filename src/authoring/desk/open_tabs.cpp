@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 #include "text/numbers.h"
 
 namespace fabula::authoring {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "authoring/desk/entry_groups.h"
-#include "authoring/desk/table_view.h"
+#include "authoring/desk/grid/entry_groups.h"
+#include "authoring/desk/grid/table_view.h"
 
 namespace fabula::authoring {
 

@@ -12,8 +12,8 @@
 #include <string_view>
 
 #include "store/adventure.h"
-#include "store/change_log.h"
-#include "store/change_set.h"
+#include "store/file/change_log.h"
+#include "store/file/change_set.h"
 
 namespace fabula::authoring {
 

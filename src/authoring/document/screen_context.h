@@ -4,7 +4,7 @@
 
 #include "authoring/document/document.h"
 #include "platform/dialogs.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::authoring {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "pictures/book_loader.h"
+#include "pictures/characters/glyph_edits.h"
 #include "pictures/drawstring.h"
-#include "pictures/glyph_edits.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "authoring/screens/record_screen.h"
-#include "pictures/character_sets.h"
+#include "pictures/characters/character_sets.h"
+#include "pictures/characters/glyph.h"
 #include "pictures/command_catalogue.h"
-#include "pictures/glyph.h"
 
 namespace fabula::authoring {
 

@@ -1,6 +1,6 @@
 #include "authoring/drawing/character_set_files.h"
 
-#include "pictures/character_store.h"
+#include "pictures/characters/character_store.h"
 
 namespace fabula::authoring {
 namespace {

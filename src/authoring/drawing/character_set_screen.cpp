@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "pictures/bdf_font.h"
 #include "pictures/book_loader.h"
+#include "pictures/characters/bdf_font.h"
 #include "platform/whole_file.h"
 #include "store/character_key.h"
 

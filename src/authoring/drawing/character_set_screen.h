@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "authoring/entries/entries.h"
-#include "pictures/character_sets.h"
+#include "pictures/characters/character_sets.h"
 
 namespace fabula::authoring {
 

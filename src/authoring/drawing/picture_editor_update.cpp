@@ -4,7 +4,7 @@
 #include "pictures/drawing.h"
 #include "pictures/drawstring.h"
 #include "pictures/drawstring_check.h"
-#include "pictures/image.h"
+#include "pictures/files/image.h"
 #include "platform/error.h"
 #include "store/game_path.h"
 #include "text/format.h"

@@ -6,7 +6,7 @@
 #include "authoring/document/screen_context.h"
 #include "authoring/entries/deletion.h"
 #include "authoring/settings/settings_followup.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::authoring {
 

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "store/adventure.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::authoring {
 

@@ -5,7 +5,7 @@
 
 #include "condacts/numbers.h"
 #include "store/adventure.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::authoring {
 

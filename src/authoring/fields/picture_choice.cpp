@@ -5,7 +5,7 @@
 #include "platform/error.h"
 #include "platform/whole_file.h"
 #include "store/cursor.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "store/game_path.h"
 
 namespace fabula::authoring {

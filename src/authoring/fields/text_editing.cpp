@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "engine/printer.h"
-#include "engine/script.h"
+#include "engine/output/printer.h"
+#include "engine/output/script.h"
 #include "store/tags.h"
 #include "text/utf8.h"
 

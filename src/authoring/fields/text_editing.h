@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "engine/game_window.h"
-#include "engine/text_settings.h"
+#include "engine/output/text_settings.h"
 #include "store/adventure.h"
 #include "text/tag_catalogue.h"
 

@@ -13,7 +13,7 @@
 #include "platform/error.h"
 #include "platform/file_names.h"
 #include "store/extensions.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "text/numbers.h"
 
 namespace fabula::authoring {

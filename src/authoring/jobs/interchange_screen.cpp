@@ -11,7 +11,7 @@
 #include "platform/error.h"
 #include "platform/whole_file.h"
 #include "store/extensions.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "text/str_edit.h"
 
 namespace fabula::authoring {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "authoring/document/screen_context.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::authoring {
 

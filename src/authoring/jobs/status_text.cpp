@@ -2,7 +2,7 @@
 
 #include "authoring/document/screen_context.h"
 #include "platform/error.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 
 namespace fabula::authoring {
 

@@ -17,7 +17,7 @@
 #include "interchange/keyed_table.h"
 #include "interchange/source_file.h"
 #include "platform/error.h"
-#include "store/record_check.h"
+#include "store/schema/record_check.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"

@@ -3,7 +3,7 @@
 #include "interchange/unmarlo/bit_arrays.h"
 #include "interchange/unmarlo/pictures_of_listing.h"
 #include "interchange/unvel/unvel_section.h"
-#include "pictures/character_sets.h"
+#include "pictures/characters/character_sets.h"
 #include "text/format.h"
 #include "text/str_edit.h"
 

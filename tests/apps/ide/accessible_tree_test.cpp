@@ -15,8 +15,8 @@
 #include <qpa/qplatformintegration.h>
 
 #include "ide/dialog_stand.h"
-#include "ide/dialogs/package_dialog.h"
-#include "ide/dialogs/replace_dialog.h"
+#include "ide/dialogs/jobs/package_dialog.h"
+#include "ide/dialogs/tables/replace_dialog.h"
 #include "ide/driven_window.h"
 #include "ide/editors/picture_view.h"
 #include "platform/settings.h"

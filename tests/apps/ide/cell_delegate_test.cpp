@@ -1,4 +1,4 @@
-#include "ide/window/cell_delegate.h"
+#include "ide/window/grid/cell_delegate.h"
 
 #include <QApplication>
 #include <QImage>
@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ide/window/grid_model.h"
+#include "ide/window/grid/grid_model.h"
 
 namespace fabula::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "ide/window/column_widths.h"
+#include "ide/window/grid/column_widths.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "ide/dialogs/decompile_dialog.h"
+#include "ide/dialogs/jobs/decompile_dialog.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -19,8 +19,8 @@
 
 #include <gtest/gtest.h>
 
+#include "qt/look/theme.h"
 #include "qt/strings.h"
-#include "qt/theme.h"
 
 namespace fabula::test {
 namespace {

@@ -21,7 +21,7 @@
 #include "ide/editors/record_picture.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"
-#include "pictures/picture_folder.h"
+#include "pictures/files/picture_folder.h"
 #include "platform/settings.h"
 #include "qt/strings.h"
 #include "support/active_window.h"

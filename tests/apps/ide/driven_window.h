@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "ide/opened_window.h"
-#include "store/table_catalogue.h"
+#include "store/schema/table_catalogue.h"
 
 namespace fabula::test {
 

@@ -6,8 +6,8 @@
 
 #include "ide/dialog_checks.h"
 #include "ide/dialog_stand.h"
+#include "qt/look/theme.h"
 #include "qt/strings.h"
-#include "qt/theme.h"
 #include "support/active_window.h"
 
 namespace fabula::test {

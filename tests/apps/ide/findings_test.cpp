@@ -12,9 +12,9 @@
 #include <gtest/gtest.h>
 
 #include "ide/opened_window.h"
-#include "ide/window/findings_pane.h"
+#include "ide/window/panes/findings_pane.h"
+#include "qt/look/theme.h"
 #include "qt/strings.h"
-#include "qt/theme.h"
 
 namespace fabula::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "ide/dialogs/interchange_dialog.h"
+#include "ide/dialogs/jobs/interchange_dialog.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "ide/dialogs/key_dialogs.h"
+#include "ide/dialogs/tables/key_dialogs.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/theme.h"
+#include "qt/look/theme.h"
 
 /// Windows need an application, and tests need no screen.
 int main(int argc, char** argv) {

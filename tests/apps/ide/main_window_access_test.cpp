@@ -7,8 +7,8 @@
 
 #include "ide/dialog_checks.h"
 #include "ide/driven_window.h"
+#include "qt/look/theme.h"
 #include "qt/strings.h"
-#include "qt/theme.h"
 
 namespace fabula::test {
 namespace {

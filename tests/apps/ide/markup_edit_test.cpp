@@ -15,7 +15,7 @@
 #include <gtest/gtest.h>
 
 #include "player/panes/text_colours.h"
-#include "qt/theme.h"
+#include "qt/look/theme.h"
 #include "support/active_window.h"
 #include "support/template_adventure.h"
 

@@ -1,4 +1,4 @@
-#include "ide/dialogs/message_dialog.h"
+#include "ide/dialogs/records/message_dialog.h"
 
 #include <QAbstractButton>
 #include <QApplication>

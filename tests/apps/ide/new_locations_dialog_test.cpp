@@ -1,4 +1,4 @@
-#include "ide/dialogs/new_locations_dialog.h"
+#include "ide/dialogs/records/new_locations_dialog.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "authoring/desk.h"
-#include "ide/dialogs/interchange_dialog.h"
+#include "ide/dialogs/jobs/interchange_dialog.h"
 #include "ide/opened_window.h"
 #include "support/active_window.h"
 #include "support/places.h"

@@ -4,8 +4,8 @@
 #include <QTableView>
 #include <QTest>
 
+#include "qt/look/theme.h"
 #include "qt/strings.h"
-#include "qt/theme.h"
 #include "support/places.h"
 
 namespace fabula::test {

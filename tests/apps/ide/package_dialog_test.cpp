@@ -1,4 +1,4 @@
-#include "ide/dialogs/package_dialog.h"
+#include "ide/dialogs/jobs/package_dialog.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -14,7 +14,7 @@
 #include <gtest/gtest.h>
 
 #include "ide/printing/sheet_painter.h"
-#include "listings/outputs.h"
+#include "listings/pages/outputs.h"
 #include "platform/error.h"
 #include "support/places.h"
 #include "support/run_program.h"

@@ -16,9 +16,9 @@
 #include <gtest/gtest.h>
 
 #include "authoring/document/screen_context.h"
-#include "ide/dialogs/keypad_dialog.h"
-#include "ide/dialogs/preview_dialog.h"
-#include "ide/dialogs/print_dialog.h"
+#include "ide/dialogs/jobs/keypad_dialog.h"
+#include "ide/dialogs/jobs/preview_dialog.h"
+#include "ide/dialogs/jobs/print_dialog.h"
 #include "platform/error.h"
 #include "support/places.h"
 #include "support/scripted_dialogs.h"

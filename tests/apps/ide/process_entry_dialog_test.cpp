@@ -1,4 +1,4 @@
-#include "ide/dialogs/process_entry_dialog.h"
+#include "ide/dialogs/records/process_entry_dialog.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

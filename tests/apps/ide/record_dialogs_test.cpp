@@ -17,11 +17,11 @@
 #include <gtest/gtest.h>
 
 #include "authoring/document/document.h"
-#include "ide/dialogs/colour_dialog.h"
-#include "ide/dialogs/flag_dialog.h"
-#include "ide/dialogs/location_dialog.h"
-#include "ide/dialogs/object_dialog.h"
-#include "ide/dialogs/word_dialog.h"
+#include "ide/dialogs/records/flag_dialog.h"
+#include "ide/dialogs/records/location_dialog.h"
+#include "ide/dialogs/records/object_dialog.h"
+#include "ide/dialogs/records/word_dialog.h"
+#include "ide/dialogs/settings/colour_dialog.h"
 #include "qt/strings.h"
 #include "support/active_window.h"
 #include "support/scripted_dialogs.h"

@@ -17,13 +17,13 @@
 #include <gtest/gtest.h>
 
 #include "authoring/desk.h"
-#include "ide/dialogs/quick_list_dialog.h"
-#include "ide/dialogs/renumber_dialog.h"
-#include "ide/dialogs/replace_dialog.h"
+#include "ide/dialogs/records/quick_list_dialog.h"
+#include "ide/dialogs/tables/renumber_dialog.h"
+#include "ide/dialogs/tables/replace_dialog.h"
 #include "ide/foreign_words.h"
 #include "ide/opened_window.h"
+#include "qt/look/theme.h"
 #include "qt/strings.h"
-#include "qt/theme.h"
 
 namespace fabula::test {
 namespace {

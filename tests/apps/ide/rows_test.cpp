@@ -12,9 +12,9 @@
 #include <gtest/gtest.h>
 
 #include "ide/opened_window.h"
-#include "ide/window/tab_strip.h"
+#include "ide/window/grid/tab_strip.h"
+#include "qt/look/theme.h"
 #include "qt/strings.h"
-#include "qt/theme.h"
 
 namespace fabula::test {
 namespace {

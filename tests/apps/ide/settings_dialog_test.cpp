@@ -1,4 +1,4 @@
-#include "ide/dialogs/settings_dialog.h"
+#include "ide/dialogs/settings/settings_dialog.h"
 
 #include <QApplication>
 #include <QCheckBox>

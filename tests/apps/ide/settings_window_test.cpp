@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "ide/opened_window.h"
-#include "qt/help_window.h"
+#include "qt/help/help_window.h"
 #include "support/active_window.h"
 
 // The settings from the window's commands to the adventure and back.

@@ -1,4 +1,4 @@
-#include "ide/dialogs/setup_dialog.h"
+#include "ide/dialogs/settings/setup_dialog.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "ide/dialogs/sort_dialog.h"
+#include "ide/dialogs/tables/sort_dialog.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "authoring/desk.h"
-#include "authoring/desk/sort_order.h"
+#include "authoring/desk/grid/sort_order.h"
 #include "ide/opened_window.h"
 #include "qt/strings.h"
 

@@ -20,7 +20,7 @@
 #include "ide/window/game_test.h"
 #include "player/panes/game_screen.h"
 #include "player/panes/text_pane.h"
-#include "qt/help_window.h"
+#include "qt/help/help_window.h"
 #include "qt/strings.h"
 #include "store/adventure.h"
 #include "support/active_window.h"

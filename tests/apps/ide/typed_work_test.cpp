@@ -11,7 +11,7 @@
 
 #include "ide/driven_window.h"
 #include "ide/editors/cond_act_edit.h"
-#include "qt/help_window.h"
+#include "qt/help/help_window.h"
 #include "qt/strings.h"
 
 // What was typed beside the rows is neither lost nor changed, nor is anything else that nobody has typed.

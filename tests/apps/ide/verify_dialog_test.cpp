@@ -1,4 +1,4 @@
-#include "ide/dialogs/verify_dialog.h"
+#include "ide/dialogs/jobs/verify_dialog.h"
 
 #include <QAction>
 #include <QApplication>

@@ -24,7 +24,7 @@
 #include "player/play/played_game.h"
 #include "player/play/preferred_sound.h"
 #include "player/played_window.h"
-#include "qt/icons.h"
+#include "qt/look/icons.h"
 #include "qt/strings.h"
 #include "support/places.h"
 

@@ -1,4 +1,4 @@
-#include "qt/game_image.h"
+#include "qt/look/game_image.h"
 
 #include <QBuffer>
 #include <QFile>

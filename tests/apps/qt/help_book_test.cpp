@@ -1,4 +1,4 @@
-#include "qt/help_book.h"
+#include "qt/help/help_book.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

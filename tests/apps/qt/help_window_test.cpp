@@ -1,4 +1,4 @@
-#include "qt/help_window.h"
+#include "qt/help/help_window.h"
 
 #include <QAction>
 #include <QApplication>
@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/help.h"
+#include "qt/help/help.h"
 #include "qt/help_folder.h"
 #include "support/scripted_dialogs.h"
 

@@ -1,4 +1,4 @@
-#include "qt/icons.h"
+#include "qt/look/icons.h"
 
 #include <QGuiApplication>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "qt/look.h"
+#include "qt/look/look.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -15,7 +15,7 @@
 #include <gtest/gtest.h>
 
 #include "player/panes/text_colours.h"
-#include "qt/theme.h"
+#include "qt/look/theme.h"
 
 namespace fabula::qt {
 namespace {

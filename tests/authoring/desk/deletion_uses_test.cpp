@@ -1,4 +1,4 @@
-#include "authoring/desk/deletion_uses.h"
+#include "authoring/desk/search/deletion_uses.h"
 
 #include <set>
 

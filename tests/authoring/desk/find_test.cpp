@@ -1,4 +1,4 @@
-#include "authoring/desk/find.h"
+#include "authoring/desk/search/find.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "authoring/desk/findings_list.h"
+#include "authoring/desk/search/findings_list.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

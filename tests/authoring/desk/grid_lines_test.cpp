@@ -1,4 +1,4 @@
-#include "authoring/desk/grid_lines.h"
+#include "authoring/desk/grid/grid_lines.h"
 
 #include <gtest/gtest.h>
 

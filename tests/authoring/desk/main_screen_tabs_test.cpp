@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "authoring/desk/navigator.h"
+#include "authoring/desk/search/navigator.h"
 #include "authoring/main_screen_stand.h"
 
 namespace fabula::authoring {

@@ -1,4 +1,4 @@
-#include "authoring/desk/navigator.h"
+#include "authoring/desk/search/navigator.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "authoring/desk/renumber_screen.h"
+#include "authoring/desk/search/renumber_screen.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

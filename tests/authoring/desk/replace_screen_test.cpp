@@ -1,4 +1,4 @@
-#include "authoring/desk/replace_screen.h"
+#include "authoring/desk/search/replace_screen.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "authoring/desk/sort_order.h"
+#include "authoring/desk/grid/sort_order.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "authoring/desk/sort_screen.h"
+#include "authoring/desk/grid/sort_screen.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "authoring/desk.h"
-#include "authoring/desk/sort_order.h"
+#include "authoring/desk/grid/sort_order.h"
 
 namespace fabula::authoring {
 namespace {

@@ -1,4 +1,4 @@
-#include "authoring/desk/table_grid.h"
+#include "authoring/desk/grid/table_grid.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "authoring/desk/table_rights.h"
+#include "authoring/desk/grid/table_rights.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "authoring/desk/table_tree.h"
+#include "authoring/desk/grid/table_tree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

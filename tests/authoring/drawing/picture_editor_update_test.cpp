@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "authoring/drawing/easel.h"
-#include "pictures/image.h"
+#include "pictures/files/image.h"
 #include "platform/error.h"
 
 namespace fabula::test {

@@ -3,7 +3,7 @@
 #include <QVBoxLayout>
 
 #include "ide/editors/layout.h"
-#include "qt/help_request.h"
+#include "qt/help/help_request.h"
 
 namespace fabula::ide {
 

@@ -7,14 +7,14 @@
 #include "authoring/screens/process_entry_screen.h"
 #include "authoring/screens/word_screen.h"
 #include "authoring/settings/settings_screen.h"
-#include "ide/dialogs/flag_dialog.h"
-#include "ide/dialogs/location_dialog.h"
-#include "ide/dialogs/message_dialog.h"
-#include "ide/dialogs/object_dialog.h"
-#include "ide/dialogs/process_entry_dialog.h"
-#include "ide/dialogs/record_jumps.h"
-#include "ide/dialogs/settings_dialog.h"
-#include "ide/dialogs/word_dialog.h"
+#include "ide/dialogs/records/flag_dialog.h"
+#include "ide/dialogs/records/location_dialog.h"
+#include "ide/dialogs/records/message_dialog.h"
+#include "ide/dialogs/records/object_dialog.h"
+#include "ide/dialogs/records/process_entry_dialog.h"
+#include "ide/dialogs/records/record_jumps.h"
+#include "ide/dialogs/records/word_dialog.h"
+#include "ide/dialogs/settings/settings_dialog.h"
 
 namespace fabula::ide {
 namespace {

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "authoring/desk/navigator.h"
+#include "authoring/desk/search/navigator.h"
 #include "authoring/document/screen_context.h"
 #include "authoring/entries/entries.h"
 #include "engine/sound_player.h"
-#include "ide/dialogs/record_editor.h"
+#include "ide/dialogs/records/record_editor.h"
 
 class QDialog;
 class QWidget;

@@ -18,7 +18,7 @@
 #include "ide/editors/layout.h"
 #include "ide/editors/plane_image.h"
 #include "pictures/palette.h"
-#include "qt/icons.h"
+#include "qt/look/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {

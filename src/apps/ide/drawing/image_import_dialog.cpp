@@ -9,7 +9,7 @@
 #include <algorithm>
 
 #include "pictures/drawstring.h"
-#include "pictures/image_reader.h"
+#include "pictures/files/image_reader.h"
 
 namespace fabula::ide {
 namespace {

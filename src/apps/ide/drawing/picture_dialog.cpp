@@ -20,7 +20,7 @@
 #include "ide/drawing/picture_palette.h"
 #include "ide/drawing/tracing_panel.h"
 #include "ide/editors/edit_controls.h"
-#include "qt/icons.h"
+#include "qt/look/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {

@@ -12,7 +12,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "ide/dialogs/colour_dialog.h"
+#include "ide/dialogs/settings/colour_dialog.h"
 #include "ide/editors/plane_image.h"
 #include "pictures/drawing.h"
 #include "platform/error.h"

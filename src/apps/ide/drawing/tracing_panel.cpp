@@ -9,7 +9,7 @@
 
 #include "ide/drawing/image_import_dialog.h"
 #include "ide/editors/edit_controls.h"
-#include "qt/game_image.h"
+#include "qt/look/game_image.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {

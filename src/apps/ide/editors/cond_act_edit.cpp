@@ -6,7 +6,7 @@
 #include <QScrollBar>
 #include <QStringListModel>
 
-#include "qt/help_request.h"
+#include "qt/help/help_request.h"
 #include "qt/strings.h"
 #include "text/utf8.h"
 

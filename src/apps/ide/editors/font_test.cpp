@@ -3,7 +3,7 @@
 #include <QImage>
 #include <map>
 
-#include "pictures/glyph.h"
+#include "pictures/characters/glyph.h"
 #include "qt/strings.h"
 #include "text/colours.h"
 

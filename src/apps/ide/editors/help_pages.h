@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "authoring/desk/table_grid.h"
-#include "qt/help_request.h"
+#include "authoring/desk/grid/table_grid.h"
+#include "qt/help/help_request.h"
 
 namespace fabula::ide {
 

@@ -1,6 +1,6 @@
 #include "ide/editors/picture_view.h"
 
-#include "qt/game_image.h"
+#include "qt/look/game_image.h"
 #include "store/game_path.h"
 
 namespace fabula::ide {

@@ -9,7 +9,7 @@
 namespace fabula::ide {
 
 /// Shows the picture of a record in small, or says in words why it can't. Without a picture it takes no
-/// room. The file is read within the limits of qt/game_image.h, and only in the game's folder.
+/// room. The file is read within the limits of qt/look/game_image.h, and only in the game's folder.
 class PictureView final : public QLabel {
     Q_DECLARE_TR_FUNCTIONS(Fabula)
   public:

@@ -4,7 +4,7 @@
 #include <QImage>
 
 #include "pictures/canvas.h"
-#include "pictures/glyph.h"
+#include "pictures/characters/glyph.h"
 
 namespace fabula::ide {
 

@@ -4,7 +4,7 @@
 #include "pictures/book_loader.h"
 #include "pictures/drawing.h"
 #include "platform/error.h"
-#include "qt/game_image.h"
+#include "qt/look/game_image.h"
 #include "store/game_path.h"
 
 namespace fabula::ide {

@@ -12,12 +12,12 @@
 #include <QPrinterInfo>
 
 #include "ide/printing/sheet_painter.h"
-#include "listings/frame.h"
-#include "listings/outputs.h"
+#include "listings/pages/frame.h"
+#include "listings/pages/outputs.h"
 #include "listings/record.h"
 #include "platform/error.h"
 #include "qt/strings.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 #include "text/fields.h"
 #include "text/utf8.h"
 

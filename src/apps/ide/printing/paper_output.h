@@ -5,8 +5,8 @@
 #include <functional>
 #include <string>
 
-#include "listings/paper.h"
-#include "listings/print_screen.h"
+#include "listings/pages/paper.h"
+#include "listings/pages/print_screen.h"
 
 class QPagedPaintDevice;
 class QWidget;

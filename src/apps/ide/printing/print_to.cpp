@@ -1,10 +1,10 @@
 #include "ide/printing/print_to.h"
 
 #include "ide/printing/paper_output.h"
-#include "listings/outputs.h"
+#include "listings/pages/outputs.h"
 #include "platform/error.h"
 #include "qt/strings.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 
 namespace fabula::ide {
 

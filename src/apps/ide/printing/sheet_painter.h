@@ -5,7 +5,7 @@
 #include <QRectF>
 #include <cstddef>
 
-#include "listings/paper.h"
+#include "listings/pages/paper.h"
 
 namespace fabula::ide {
 

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <cstddef>
 
-#include "listings/paper.h"
+#include "listings/pages/paper.h"
 
 namespace fabula::ide {
 

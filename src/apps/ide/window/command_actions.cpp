@@ -7,7 +7,7 @@
 #include <QToolButton>
 #include <array>
 
-#include "qt/icons.h"
+#include "qt/look/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {

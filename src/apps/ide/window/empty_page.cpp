@@ -5,7 +5,7 @@
 #include <QResizeEvent>
 #include <QVBoxLayout>
 
-#include "qt/icons.h"
+#include "qt/look/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {

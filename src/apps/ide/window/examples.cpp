@@ -4,7 +4,7 @@
 
 #include "platform/error.h"
 #include "platform/user_folders.h"
-#include "store/file_copy.h"
+#include "store/file/file_copy.h"
 
 namespace fabula::ide {
 namespace {

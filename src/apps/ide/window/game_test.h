@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "authoring/desk/main_screen.h"
-#include "engine/trace_file.h"
+#include "engine/output/trace_file.h"
 #include "player/window/player_window.h"
 
 namespace fabula::ide {

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "authoring/desk/findings_list.h"
 #include "authoring/desk/main_screen.h"
-#include "authoring/desk/navigator.h"
+#include "authoring/desk/search/findings_list.h"
+#include "authoring/desk/search/navigator.h"
 #include "authoring/drawing/character_set_files.h"
 #include "authoring/jobs/interchange_screen.h"
 #include "authoring/jobs/verify_screen.h"
@@ -22,8 +22,8 @@
 #include "platform/programs.h"
 #include "platform/random_source.h"
 #include "platform/timers.h"
-#include "qt/help.h"
-#include "qt/theme.h"
+#include "qt/help/help.h"
+#include "qt/look/theme.h"
 
 class QActionGroup;
 class QLabel;

@@ -10,21 +10,21 @@
 #include <QStackedWidget>
 #include <QTableView>
 
-#include "ide/dialogs/leaving.h"
+#include "ide/dialogs/records/leaving.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/picture_view.h"
 #include "ide/editors/record_picture.h"
 #include "ide/window/command_actions.h"
 #include "ide/window/empty_page.h"
-#include "ide/window/find_bar.h"
-#include "ide/window/findings_pane.h"
+#include "ide/window/grid/find_bar.h"
 #include "ide/window/main_window.h"
-#include "ide/window/record_pane.h"
-#include "ide/window/record_panel.h"
-#include "ide/window/tree_panel.h"
-#include "ide/window/uses_pane.h"
-#include "qt/help_book.h"
-#include "qt/icons.h"
+#include "ide/window/panes/findings_pane.h"
+#include "ide/window/panes/record_pane.h"
+#include "ide/window/panes/record_panel.h"
+#include "ide/window/panes/tree_panel.h"
+#include "ide/window/panes/uses_pane.h"
+#include "qt/help/help_book.h"
+#include "qt/look/icons.h"
 #include "qt/strings.h"
 
 // What the window shows, and the menus and panes that go with it.

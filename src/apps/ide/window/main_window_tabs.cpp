@@ -2,12 +2,12 @@
 #include <QMenu>
 #include <QTreeWidgetItem>
 
+#include "ide/window/grid/tab_strip.h"
 #include "ide/window/main_window.h"
-#include "ide/window/record_pane.h"
-#include "ide/window/record_panel.h"
-#include "ide/window/tab_strip.h"
-#include "ide/window/tree_panel.h"
-#include "qt/help_window.h"
+#include "ide/window/panes/record_pane.h"
+#include "ide/window/panes/record_panel.h"
+#include "ide/window/panes/tree_panel.h"
+#include "qt/help/help_window.h"
 #include "qt/strings.h"
 
 // Tabs, and what happens when the author goes to another window.

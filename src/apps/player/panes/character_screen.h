@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "engine/game_window.h"
-#include "pictures/character_sets.h"
+#include "pictures/characters/character_sets.h"
 
 namespace fabula::player {
 

@@ -1,7 +1,7 @@
 #include "player/play/game_pictures.h"
 
 #include "platform/error.h"
-#include "qt/game_image.h"
+#include "qt/look/game_image.h"
 #include "store/adventure.h"
 #include "store/game_path.h"
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "engine/state_actions.h"
+#include "engine/actions/state_actions.h"
 #include "platform/error.h"
 #include "store/extensions.h"
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "engine/transcript.h"
+#include "engine/output/transcript.h"
 
 namespace fabula::player {
 

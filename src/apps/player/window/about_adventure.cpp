@@ -7,8 +7,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include "qt/game_image.h"
-#include "qt/help_request.h"
+#include "qt/help/help_request.h"
+#include "qt/look/game_image.h"
 #include "qt/strings.h"
 #include "store/adventure.h"
 #include "store/game_path.h"

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "qt/help_request.h"
+#include "qt/help/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::player {

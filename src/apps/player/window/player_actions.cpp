@@ -5,7 +5,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 
-#include "qt/icons.h"
+#include "qt/look/icons.h"
 #include "qt/strings.h"
 
 namespace fabula::player {

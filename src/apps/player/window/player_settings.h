@@ -6,7 +6,7 @@
 #include "platform/recent_files.h"
 #include "player/panes/game_screen.h"
 #include "player/play/preferred_sound.h"
-#include "qt/theme.h"
+#include "qt/look/theme.h"
 
 class QSettings;
 

@@ -16,7 +16,7 @@
 #include "player/play/preferred_sound.h"
 #include "player/window/player_actions.h"
 #include "player/window/player_settings.h"
-#include "qt/help_request.h"
+#include "qt/help/help_request.h"
 
 class QLabel;
 class QSettings;

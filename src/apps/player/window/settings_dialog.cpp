@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 
 #include "player/panes/text_pane.h"
-#include "qt/help_request.h"
+#include "qt/help/help_request.h"
 #include "qt/strings.h"
 
 namespace fabula::player {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+#include "engine/output/trace_event.h"
+
+namespace fabula::engine {
+
+/// Where the events of a trace go. One that overrides nothing else gets them as lines.
+class TraceSink {
+  public:
+    virtual ~TraceSink() = default;
+    virtual void Tell(const TraceEvent& event) {
+        for (const std::string& line : LinesOf(event))
+            WriteLine(line);
+    }
+    /// One line, without its end.
+    virtual void WriteLine(std::string_view line) = 0;
+};
+
+}  // namespace fabula::engine

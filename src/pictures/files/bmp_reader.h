@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "pictures/files/image.h"
+
+namespace fabula::pictures {
+
+/// The image of a Windows bitmap of 1, 4, 8, 24 or 32 bits a pixel that is not compressed. Throws
+/// fabula::Error, naming `fileName`, for any other.
+Image DecodeBmp(std::string_view bytes, std::string_view fileName);
+
+/// Why an image of that size is not read, a sentence; empty when it is.
+std::string SizeFault(std::int64_t width, std::int64_t height);
+
+}  // namespace fabula::pictures

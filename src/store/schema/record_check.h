@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "store/schema/schema.h"
+#include "text/value.h"
+
+namespace fabula::store {
+
+/// Why `value` does not fit the field, naming table and field: "Messages.msgnum holds numbers only";
+/// nullopt when it is of the field's kind and within its range or size. Null fits every field.
+std::optional<std::string> FaultOf(const TableSchema& schema, const Field& field, const text::Value& value);
+
+/// Throws fabula::Error when there is a fault.
+void CheckValue(const TableSchema& schema, const Field& field, const text::Value& value);
+
+}  // namespace fabula::store
