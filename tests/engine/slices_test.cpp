@@ -48,7 +48,7 @@ TEST(Slices, PartALongTurnWithoutChangingWhatItDoes) {
 GameBuilder CarriedContainers() {
     GameBuilder game;
     for (int object = 1; object <= 100; ++object)
-        game.Object(object, {.place = kCarriedPlace, .weight = 1, .container = true});
+        game.Object(object, {.place = condacts::place::kCarried.value, .weight = 1, .container = true});
     std::string line = "DONE";
     for (int times = 0; times < 10; ++times)
         line.insert(0, "WEIGHT 200 ");
