@@ -177,7 +177,7 @@ class SourceWriter {
         for (bool more = entries.First({}); more; more = entries.Next()) {
             if (words_.Find(entries.Text(0), condacts::IsMovementWordOrReserved) != nullptr) continue;
             const condacts::Word* noun = words_.FindTyped(entries.Text(0), condacts::kNoun);
-            if (noun != nullptr) nouns.emplace(text::LowerCase(noun->word), noun->number);
+            if (noun != nullptr) nouns.emplace(text::LowerCase(noun->word), noun->number.value);
         }
         return nouns;
     }
