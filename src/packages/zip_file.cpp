@@ -120,9 +120,8 @@ void WriteZip(const std::filesystem::path& target, const std::vector<PackedFile>
         archive.Add(file);
     archive.Close();
     if (!isStandardOutput && !store::IsStream(target)) return store::MoveIntoPlace(made.Path(), target);
-    store::WriteFile(target,
-                     platform::ReadWholeFile(made.Path(), std::numeric_limits<std::uintmax_t>::max(),
-                                             "read the zip again"));
+    store::WriteFile(target, platform::ReadWholeFile(made.Path(), std::filesystem::file_size(made.Path()),
+                                                     "read the zip again"));
 }
 
 }  // namespace fabula::packages
