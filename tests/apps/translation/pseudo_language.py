@@ -30,7 +30,7 @@ def main(lupdate, lrelease, sentences, sources, output):
     texts = pathlib.Path(output).with_suffix(".ts")
     texts.parent.mkdir(parents=True, exist_ok=True)
     texts.unlink(missing_ok=True)
-    run = subprocess.run([lupdate, sources, sentences, "-target-language", "eo", "-silent", "-ts", texts],
+    run = subprocess.run([lupdate, sources, sentences, "-I", sources, "-target-language", "eo", "-silent", "-ts", texts],
                          capture_output=True, text=True, check=True)
     if run.stderr:
         sys.exit(run.stderr)
