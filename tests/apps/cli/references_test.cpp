@@ -103,7 +103,8 @@ TEST_F(LintVerb, OnlyACommentSwitchesOff) {
 TEST_F(LintVerb, TellsASwitchThatNamesNoFindingWithItsPlace) {
     Write(std::string("# lint off wrod-unused\n") + kUsedGame);
     EXPECT_EQ(Run({"lint", "--kind", "ace", File("game.txt")}).errors,
-              File("game.txt") + ":1: warning: there is no finding 'wrod-unused'; --rules shows them\n");
+              "game.txt Loaded\n" + File("game.txt") +
+                  ":1: warning: there is no finding 'wrod-unused'; --rules shows them\n");
 }
 
 TEST_F(LintVerb, KeepsSwitchesInTheAdventureUntilTheyAreTakenBack) {
