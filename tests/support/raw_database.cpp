@@ -1,7 +1,9 @@
 #include "support/raw_database.h"
 
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
+#include <utility>
 
 #include <sqlite3.h>
 #include <strings.h>
@@ -54,10 +56,10 @@ std::string RawDatabase::Ask(const std::string& sql) const {
 std::string ReadBytes(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     if (!stream) throw std::runtime_error("could not read " + file.string());
-    std::string bytes(std::filesystem::file_size(file), '\0');
-    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!stream) throw std::runtime_error("could not read " + file.string());
-    return bytes;
+    std::ostringstream bytes;
+    bytes << stream.rdbuf();
+    if (stream.bad()) throw std::runtime_error("could not read " + file.string());
+    return std::move(bytes).str();
 }
 
 void WriteBytes(const std::filesystem::path& file, const std::string& bytes) {
