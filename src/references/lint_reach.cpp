@@ -5,6 +5,7 @@
 
 #include "condacts/flags.h"
 #include "condacts/places.h"
+#include "references/condact_access.h"
 #include "references/lint_game.h"
 
 namespace fabula::references {
@@ -16,9 +17,9 @@ using store::TableNum;
 
 /// Actions behind which the player is at the location that they name.
 constexpr std::string_view kGoing[] = {"GOTO", "RESET"};
-/// Actions that give their first or second flag a number that does not stand there.
-constexpr std::string_view kComputedFirst[] = {"PLUS", "MINUS", "RANDOM", "WEIGHT"};
-constexpr std::string_view kComputedSecond[] = {"COPYOF", "ADD", "SUB", "WEIGH"};
+/// Actions whose number does not stand there and is known all the same: MOVE goes by the exits, and what is
+/// copied from flag to flag is followed.
+constexpr std::string_view kFollowed[] = {"MOVE", "COPYFF"};
 
 std::optional<int> NumberAt(const LintEntry& entry, const condacts::Statement& statement, std::size_t i) {
     if (i >= statement.paramsGiven) return std::nullopt;
@@ -84,8 +85,9 @@ class Reach {
             const bool inFirst = first && flags.contains(FlagNumber(*first));
             const bool inSecond = second && flags.contains(FlagNumber(*second));
             if (name == "LET" && inFirst && second) Visit(PlaceNumber(*second));
-            open_ = open_ || (Holds(kComputedSecond, name) && inSecond) ||
-                    (Holds(kComputedFirst, name) && inFirst);
+            const CondActAccess* const access = FindCondActAccess(name);
+            if (access == nullptr || Holds(kFollowed, name)) continue;
+            open_ = open_ || (access->computes == 1 && inFirst) || (access->computes == 2 && inSecond);
         }
     }
 

@@ -1,5 +1,5 @@
 // The steps that add tables and fields. A new one is a row at the end of the table, beside the rows of its
-// fields in store/file_forms.cpp and in the default data; docs/upgrades.md tells the rest.
+// fields in store/file/file_forms.cpp and in the default data; docs/upgrades.md tells the rest.
 
 #include "upgrades/schema_effects.h"
 #include "upgrades/step.h"

@@ -241,6 +241,25 @@ TEST(Lint, FindsThirtyFaultsAtOnce) {
     EXPECT_GE(findings.size(), 30U);
 }
 
+bool CallsLocation24Unreachable(const Adventure& whole, const char* line) {
+    const auto game = whole.CopyInMemory();
+    test::PutLocation(*game, 24, "", "");
+    Entry(*game, line);
+    const auto findings = Lint(*game);
+    return std::ranges::any_of(findings, [](const Finding& finding) {
+        return finding.code == "location-unreachable" && finding.message.ends_with("leads to location 24.");
+    });
+}
+
+TEST(Lint, NoLocationIsUnreachableWhereTheNumberOfThePlaceIsComputed) {
+    const auto whole = test::Lighthouse();
+    for (const char* line : {"AUTOINC 100 1 COPYFF 100 38", "AUTODEC 38 1", "PLUS 100 1 COPYFF 100 38",
+                             "RANDOM 38", "ADD 60 38", "COPYOF 1 38"})
+        EXPECT_FALSE(CallsLocation24Unreachable(*whole, line)) << line;
+    for (const char* line : {"MOVE 38", "COPYFF 100 38", "PLUS 100 1", "LET 38 23"})
+        EXPECT_TRUE(CallsLocation24Unreachable(*whole, line)) << line;
+}
+
 TEST(Lint, TellsAnEntryFromAnotherOneWithItsNumber) {
     const auto game = test::Lighthouse();
     Entry(*game, "INVEN", "262");

@@ -26,7 +26,7 @@ struct Deletion {
 };
 
 /// Shows the author what uses a record, before any question about it; false when it is to stay. Who knows
-/// the uses gives it (desk/deletion_uses.h).
+/// the uses gives it (desk/search/deletion_uses.h).
 using BeforeDelete = std::function<bool(const Deletion& deletion)>;
 
 }  // namespace fabula::authoring
