@@ -24,8 +24,7 @@ echo "tests: default"
 ctest --preset default -j "$(nproc)"
 build sanitize
 echo "tests: sanitize"
-# The sanitizers slow windows down so much that a test which waits for one may need a second try.
-ctest --preset sanitize -j "$(nproc)" --repeat until-pass:2
+ctest --preset sanitize -j "$(nproc)"
 scripts/check_tidy.sh
 build core-only
 build core

@@ -54,12 +54,12 @@ const Word* WordAsked(const CondAct& condAct, std::string_view token, const Word
 }
 
 bool IsNumber(std::string_view token) {
-    return WholeNumber(token.substr(token.starts_with('-') ? 1 : 0)).has_value();
+    return NumberOfToken(token.substr(token.starts_with('-') ? 1 : 0)).has_value();
 }
 
 std::string_view WordOfNumber(const CondAct& condAct, std::string_view token, const WordIndex& words) {
     const WordCondition* condition = FindWordCondition(condAct.name);
-    const std::optional<int> number = WholeNumber(token);
+    const std::optional<int> number = NumberOfToken(token);
     if (condition == nullptr || !number) return "";
     const Word* word = words.FindNumberTyped(WordNumber(*number), condition->wordType);
     return word == nullptr ? std::string_view() : std::string_view(word->word);
@@ -70,7 +70,7 @@ std::string TextParameter(const CondAct& condAct, std::size_t param, std::string
     if (TakesWord(condAct, param)) return std::string(WordOfNumber(condAct, token, words));
     if (AdmitsLocationWords(condAct.params[param])) {
         for (const LocationWord& entry : kLocationWords) {
-            if (WholeNumber(token) == entry.number.value) return std::string(entry.word);
+            if (NumberOfToken(token) == entry.number.value) return std::string(entry.word);
         }
     }
     return std::string(token);

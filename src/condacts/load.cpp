@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "store/new_flag.h"
 #include "text/utf8.h"
 
 namespace fabula::condacts {
@@ -67,7 +68,7 @@ void LoadLocations(Adventure& adventure, Facts& facts) {
 
 void LoadFlags(Adventure& adventure, Facts& facts) {
     ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgchg", [&](const PreparedQuery& row) {
-        const bool system = text::EqualsNoCase(row.Text(1), "system");
+        const bool system = text::EqualsNoCase(row.Text(1), store::kSystemFlagType);
         facts.flags.try_emplace(FlagNumber(Int(row, 0)), Facts::Flag{system, Int(row, 2) != 0});
     });
 }

@@ -60,12 +60,12 @@ ParsedLine ParseLine(std::string_view line, const Catalogue& catalogue, Dialect 
 
 ParsedLine ParseNumericLine(std::string_view line, const Catalogue& catalogue) {
     return Parse(line, [&](std::string_view token) -> const CondAct* {
-        const std::optional<int> number = WholeNumber(token);
+        const std::optional<int> number = NumberOfToken(token);
         return number ? catalogue.Find(*number) : nullptr;
     });
 }
 
-std::optional<int> WholeNumber(std::string_view token) {
+std::optional<int> NumberOfToken(std::string_view token) {
     if (token.empty()) return std::nullopt;
     int value = 0;
     for (const char c : token) {

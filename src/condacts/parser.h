@@ -53,7 +53,7 @@ ParsedLine ParseNumericLine(std::string_view line, const Catalogue& catalogue);
 
 /// The value of a token of digits; nullopt for any other. Every value beyond 16 bits counts as
 /// kBeyondNumbers.
-std::optional<int> WholeNumber(std::string_view token);
+std::optional<int> NumberOfToken(std::string_view token);
 inline constexpr int kBeyondNumbers = kHighestNumber + 1;
 
 /// "XYZ is an invalid Condition/Action"

@@ -129,7 +129,7 @@ Message CheckNumber(const Given& given, const Facts& facts) {
 Message CheckParameter(Given given, const Facts& facts) {
     if (given.param.kind == ParamKind::Word) return CheckWord(given, facts);
     if (IsNegativeNumber(given.token)) return "Parameter cannot be < 0";
-    const std::optional<int> number = WholeNumber(given.token);
+    const std::optional<int> number = NumberOfToken(given.token);
     if (!number) return InvalidNumber(given);
     given.number = *number;
     return CheckNumber(given, facts);

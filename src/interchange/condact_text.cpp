@@ -63,7 +63,7 @@ Converted ConvertUnVelCAs(std::string_view text, const Catalogue& catalogue,
         const condacts::WordCondition* condition = condacts::FindWordCondition(statement.condAct->name);
         for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
             const std::string_view token = parsed.Param(statement, p);
-            const std::optional<int> number = condacts::WholeNumber(token);
+            const std::optional<int> number = condacts::NumberOfToken(token);
             if (condition == nullptr || !number) {
                 Append(converted.line, token);
                 continue;

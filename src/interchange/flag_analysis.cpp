@@ -59,7 +59,7 @@ void FlagAnalysis::CheckForFlags(std::string_view condAct) {
 }
 
 void FlagAnalysis::Count(std::size_t user, std::string_view token) {
-    const std::optional<int> flag = condacts::WholeNumber(token);
+    const std::optional<int> flag = condacts::NumberOfToken(token);
     if (flag && *flag < condacts::limit::kFirstExtendedFlag) uses_[*flag].insert(user);
 }
 

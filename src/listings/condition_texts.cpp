@@ -99,7 +99,7 @@ std::vector<ShownCondAct> ConditionTexts::Shown(std::string_view condActs) const
 ShownParameter ConditionTexts::Parameter(const condacts::CondAct& condAct, std::size_t index,
                                          std::string_view stored) const {
     const condacts::Parameter& parameter = condAct.params.at(index);
-    const std::optional<int> number = condacts::WholeNumber(stored);
+    const std::optional<int> number = condacts::NumberOfToken(stored);
     ShownParameter shown{.text = std::string(stored)};
     if (!number) return shown;
     if (parameter.kind == ParamKind::Word) {

@@ -99,7 +99,7 @@ ExitColumns ExitColumnsFor(store::Adventure& adventure, const Surroundings& arou
 }
 
 void LinkDestination(Record& record, const ExitColumns& columns, const std::string& destination) {
-    const std::optional<int> number = condacts::WholeNumber(destination);
+    const std::optional<int> number = condacts::NumberOfToken(destination);
     if (number)
         record.LinkTo({TableNum::Locations, *number}, static_cast<std::size_t>(columns.destination) - 1,
                       destination.size());

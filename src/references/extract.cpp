@@ -150,7 +150,7 @@ class Extraction {
     void ReadExits() {
         const auto numbers = condacts::SplitLine(row_.Text(2));
         for (std::size_t i = 0; i < numbers.size(); ++i) {
-            const auto number = condacts::WholeNumber(numbers[i].text);
+            const auto number = condacts::NumberOfToken(numbers[i].text);
             if (!number) continue;
             if (i % 2 == 0)
                 AddWord(*number, kVerbOrNoun, "exits", i);
@@ -190,7 +190,7 @@ class Extraction {
             const ParamKind kind = condAct.params[i].kind;
             if (kind == ParamKind::Word) {
                 ReadAskedWord(condAct, token);
-            } else if (const auto number = condacts::WholeNumber(line_.tokens[token].text)) {
+            } else if (const auto number = condacts::NumberOfToken(line_.tokens[token].text)) {
                 ReadParameter(statement, i, *number, access);
             }
         }
@@ -199,7 +199,7 @@ class Extraction {
     void ReadAskedWord(const condacts::CondAct& condAct, std::size_t token) {
         const condacts::WordCondition* condition = condacts::FindWordCondition(condAct.name);
         if (condition == nullptr || numbers_.size() != line_.tokens.size()) return;
-        if (const auto number = condacts::WholeNumber(numbers_[token].text))
+        if (const auto number = condacts::NumberOfToken(numbers_[token].text))
             AddWord(*number, TypeBit(condition->wordType), "condacts", token);
     }
 
@@ -237,7 +237,7 @@ class Extraction {
     void ReadValue(const condacts::Statement& statement, KeptUse& kept) {
         const condacts::FlagNumber flagNumber(kept.use.target.number);
         if (statement.paramsGiven < 2 || !Holds(kWithValue, statement.condAct->name)) return;
-        kept.value = condacts::WholeNumber(line_.Param(statement, 1));
+        kept.value = condacts::NumberOfToken(line_.Param(statement, 1));
         const FlagMeaning* meaning = FindFlagMeaning(flagNumber);
         if (!kept.value || meaning == nullptr) return;
         if (meaning->kind == Kind::Location && condacts::IsSpecialPlace(std::int64_t{*kept.value})) return;
@@ -297,7 +297,7 @@ class Extraction {
             const std::size_t equals = tag.find('=');
             if (equals == std::string_view::npos) continue;
             const std::string name = text::LowerCase(tag.substr(0, equals));
-            const auto value = condacts::WholeNumber(tag.substr(equals + 1));
+            const auto value = condacts::NumberOfToken(tag.substr(equals + 1));
             if (!value) continue;
             if (language_.setTags.contains(name)) Add(Kind::CharacterSet, *value, field, open);
             // Which set it is of depends on what was switched to before.

@@ -26,7 +26,7 @@ std::vector<FlagNumber> FlagsOf(const LintEntry& entry, const condacts::Statemen
     std::vector<FlagNumber> flags;
     for (std::size_t i = 0; i < statement.paramsGiven; ++i) {
         if (statement.condAct->params[i].kind != condacts::ParamKind::Flag) continue;
-        if (const auto number = condacts::WholeNumber(entry.line.Param(statement, i)))
+        if (const auto number = condacts::NumberOfToken(entry.line.Param(statement, i)))
             flags.emplace_back(*number);
     }
     return flags;

@@ -96,7 +96,7 @@ std::optional<LintLine> ReadLine(std::string_view line) {
         const std::string code(tokens[i].text);
         std::size_t next = i + 1;
         for (; next < tokens.size(); ++next) {
-            const auto number = condacts::WholeNumber(tokens[next].text);
+            const auto number = condacts::NumberOfToken(tokens[next].text);
             if (!number) break;
             read.switches.records.insert({code, *number});
         }
@@ -174,7 +174,7 @@ std::string ReasonOf(std::string_view typed) {
         text::NormalizeLineEnds(text::ReplaceAll(typed, text::kLineEndMarker, " "), " ");
     const auto tokens = condacts::SplitLine(line);
     const bool misleads =
-        !tokens.empty() && (IsRule(tokens[0].text) || condacts::WholeNumber(tokens[0].text));
+        !tokens.empty() && (IsRule(tokens[0].text) || condacts::NumberOfToken(tokens[0].text));
     return (misleads ? "- " : "") + std::string(text::TrimBlanks(line));
 }
 

@@ -55,7 +55,7 @@ void CheckLine(const LintEntry& entry, Findings& findings) {
     const auto numbers = condacts::SplitLine(entry.numbers);
     bool fits = numbers.size() == line.tokens.size();
     for (const condacts::Statement& statement : line.statements) {
-        fits = fits && condacts::WholeNumber(numbers[statement.name].text) == statement.condAct->number;
+        fits = fits && condacts::NumberOfToken(numbers[statement.name].text) == statement.condAct->number;
     }
     if (!fits) Add(findings, "line-uncompiled", entry, "is compiled to something else than it says.", 0);
 }
@@ -138,7 +138,7 @@ void CheckConditions(const LintEntry& entry, Findings& findings) {
         }
         const auto number = [&](std::size_t i) -> std::optional<int> {
             if (i >= statement.paramsGiven) return std::nullopt;
-            return condacts::WholeNumber(entry.line.Param(statement, i));
+            return condacts::NumberOfToken(entry.line.Param(statement, i));
         };
         if (known.Take(statement.condAct->name, number(0), number(1))) continue;
         return Add(findings, "entry-contradicts", entry,

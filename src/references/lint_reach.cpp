@@ -23,7 +23,7 @@ constexpr std::string_view kFollowed[] = {"MOVE", "COPYFF"};
 
 std::optional<int> NumberAt(const LintEntry& entry, const condacts::Statement& statement, std::size_t i) {
     if (i >= statement.paramsGiven) return std::nullopt;
-    return condacts::WholeNumber(entry.line.Param(statement, i));
+    return condacts::NumberOfToken(entry.line.Param(statement, i));
 }
 
 /// The search for places that the player can come to.
@@ -54,7 +54,7 @@ class Reach {
 
     void FollowExits(const LintLocation& location) {
         for (std::size_t i = 1; i < location.numbers.size(); i += 2) {
-            if (const auto to = condacts::WholeNumber(location.numbers[i])) Visit(PlaceNumber(*to));
+            if (const auto to = condacts::NumberOfToken(location.numbers[i])) Visit(PlaceNumber(*to));
         }
     }
 

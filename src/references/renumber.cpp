@@ -225,7 +225,7 @@ class Planner {
                        std::map<std::size_t, std::string>& words) {
         if (statement.paramsGiven == 0) return;
         const std::string& name = statement.condAct->name;
-        const auto first = condacts::WholeNumber(entry.UsedLine().Param(statement, 0));
+        const auto first = condacts::NumberOfToken(entry.UsedLine().Param(statement, 0));
         if (!first) return;
         if (name == "ATGT" && Follows(Kind::Location)) return CheckOrder(entry, statement, *first, 1);
         if (name == "ATLT" && Follows(Kind::Location)) return CheckOrder(entry, statement, *first, 0);
@@ -250,7 +250,7 @@ class Planner {
         }
         if (statement.paramsGiven < 2 || statement.condAct->params[1].kind != condacts::ParamKind::Value)
             return;
-        const auto value = condacts::WholeNumber(entry.UsedLine().Param(statement, 1));
+        const auto value = condacts::NumberOfToken(entry.UsedLine().Param(statement, 1));
         if (!value) return;
         if (name == "GT") return CheckOrder(entry, statement, *value, 1);
         if (name == "LT") return CheckOrder(entry, statement, *value, 0);
@@ -331,7 +331,7 @@ class Planner {
         std::map<std::size_t, std::string> words;
         const auto tokens = condacts::SplitLine(line);
         for (std::size_t i = first; i < tokens.size(); i += 2) {
-            const auto number = condacts::WholeNumber(tokens[i].text);
+            const auto number = condacts::NumberOfToken(tokens[i].text);
             if (number && Mapped(*number)) words[i] = std::to_string(*Mapped(*number));
         }
         return words;

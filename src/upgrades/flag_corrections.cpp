@@ -61,7 +61,7 @@ std::set<std::int64_t> FlagNumbers(Work& work) {
 std::optional<int> FlagAt(const ParsedLine& line, const condacts::Statement& statement, std::size_t param) {
     if (param >= statement.paramsGiven) return std::nullopt;
     if (statement.condAct->params[param].kind != condacts::ParamKind::Flag) return std::nullopt;
-    return condacts::WholeNumber(line.Param(statement, param));
+    return condacts::NumberOfToken(line.Param(statement, param));
 }
 
 /// A line with the flags in `moved` under their new numbers; `parsed` is its reading in either form.

@@ -80,20 +80,20 @@ TEST(ParseNumericLine, FindsNamesByTheirNumbers) {
     EXPECT_EQ(parsed.statements[1].condAct->name, "DONE");
 }
 
-TEST(WholeNumber, TakesDigitsOnly) {
-    EXPECT_EQ(WholeNumber("0"), 0);
-    EXPECT_EQ(WholeNumber("007"), 7);
-    EXPECT_EQ(WholeNumber(""), std::nullopt);
-    EXPECT_EQ(WholeNumber("-1"), std::nullopt);
-    EXPECT_EQ(WholeNumber("+1"), std::nullopt);
-    EXPECT_EQ(WholeNumber("1.5"), std::nullopt);
-    EXPECT_EQ(WholeNumber("1x"), std::nullopt);
+TEST(NumberOfToken, TakesDigitsOnly) {
+    EXPECT_EQ(NumberOfToken("0"), 0);
+    EXPECT_EQ(NumberOfToken("007"), 7);
+    EXPECT_EQ(NumberOfToken(""), std::nullopt);
+    EXPECT_EQ(NumberOfToken("-1"), std::nullopt);
+    EXPECT_EQ(NumberOfToken("+1"), std::nullopt);
+    EXPECT_EQ(NumberOfToken("1.5"), std::nullopt);
+    EXPECT_EQ(NumberOfToken("1x"), std::nullopt);
 }
 
-TEST(WholeNumber, AllValuesBeyondSixteenBitsAreOne) {
-    EXPECT_EQ(WholeNumber("32767"), 32767);
-    EXPECT_EQ(WholeNumber("32768"), kBeyondNumbers);
-    EXPECT_EQ(WholeNumber("99999999999999999999"), kBeyondNumbers);
+TEST(NumberOfToken, AllValuesBeyondSixteenBitsAreOne) {
+    EXPECT_EQ(NumberOfToken("32767"), 32767);
+    EXPECT_EQ(NumberOfToken("32768"), kBeyondNumbers);
+    EXPECT_EQ(NumberOfToken("99999999999999999999"), kBeyondNumbers);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "terminal/attributes.h"
 
+#include "text/colours.h"
+
 namespace fabula::terminal {
 namespace {
 
@@ -15,13 +17,15 @@ bool MayBeABackground(int colour) {
 }
 
 std::int8_t Known(int colour) {
-    return colour >= 0 && colour <= 15 ? static_cast<std::int8_t>(colour) : Attributes::kOwn;
+    return colour >= 0 && colour <= text::kHighestColour ? static_cast<std::int8_t>(colour)
+                                                         : Attributes::kOwn;
 }
 
 void AppendColour(int colour, int code, std::string& text) {
     if (colour == Attributes::kOwn) return;
     text += ';';
-    text += std::to_string(code + kAnsiColours[colour & 7] + (colour >= 8 ? kBrightCode : 0));
+    text += std::to_string(code + kAnsiColours[colour & 7] +
+                           (colour >= text::kFirstBrightColour ? kBrightCode : 0));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "authoring/files/start_up.h"
 #include "authoring/files/version_numbers.h"
 #include "authoring/files/work_files.h"
+#include "interchange/file_kinds.h"
 #include "interchange/starter.h"
 #include "platform/error.h"
 #include "store/create.h"
@@ -40,7 +41,7 @@ platform::FileQuestion AdventureQuestion(std::string title, const std::filesyste
 void MarkAsNew(store::Adventure& adventure) {
     store::Transaction transaction(adventure);
     store::Cursor& settings = adventure.OpenTable(TableNum::Adventure, "source");
-    settings.SetField("source", std::string("New"));
+    settings.SetField("source", std::string(interchange::kNewSource));
     settings.Update();
     store::Cursor& system = adventure.OpenTable(TableNum::System, "flagchange");
     system.SetField("flagchange", std::int64_t{1});

@@ -172,7 +172,7 @@ Exits Without(const Word& word, const condacts::WordIndex& words, std::string_vi
     Exits kept;
     for (std::size_t i = 0; i + 1 < numbers.size(); i += 2) {
         const bool named = i + 1 < texts.size();
-        const bool uses = condacts::WholeNumber(numbers[i]) == word.number.value &&
+        const bool uses = condacts::NumberOfToken(numbers[i]) == word.number.value &&
                           !(named && !HasGone(words, word, texts[i]));
         if (uses) {
             ++kept.deleted;

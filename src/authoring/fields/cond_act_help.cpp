@@ -69,7 +69,7 @@ bool AdmitsLocationWords(const Parameter& parameter) {
 
 const condacts::LocationWord* FindLocationWord(const Parameter& parameter, std::string_view token) {
     if (parameter.kind != ParamKind::Location) return nullptr;
-    const std::optional<int> number = condacts::WholeNumber(token);
+    const std::optional<int> number = condacts::NumberOfToken(token);
     const bool words = AdmitsLocationWords(parameter);
     const auto* found =
         std::ranges::find_if(condacts::kLocationWords, [&](const condacts::LocationWord& entry) {
@@ -121,7 +121,7 @@ bool BeginsWith(std::string_view text, std::string_view typed) {
 /// What a number stands for is sought by its words, but not by digits: those are of the number.
 bool BeginsOrHolds(const Completion& completion, std::string_view typed) {
     if (BeginsWith(completion.insert, typed)) return true;
-    return !condacts::WholeNumber(typed) && HasWordWith(completion.shown, typed);
+    return !condacts::NumberOfToken(typed) && HasWordWith(completion.shown, typed);
 }
 
 }  // namespace
@@ -263,7 +263,7 @@ std::optional<NamedRecord> CondActHelp::Named(store::Adventure& adventure, std::
 std::string CondActHelp::MeaningOfNumber(const Parameter& parameter, std::string_view token) const {
     if (const condacts::LocationWord* place = FindLocationWord(parameter, token))
         return std::string(MeaningOf(place->number));
-    const std::optional<int> number = condacts::WholeNumber(token);
+    const std::optional<int> number = condacts::NumberOfToken(token);
     const KindName* name = NameOf(parameter.kind);
     if (!number || name == nullptr) return "";
     const std::vector<ListItem>& records = texts_.Of(parameter.kind);
@@ -304,7 +304,7 @@ std::string CondActHelp::Meaning(std::string_view line, std::size_t cursor) cons
 /// have none.
 std::string CondActHelp::NameIn(const CondAct& condAct, std::size_t place, std::string_view token) const {
     const Parameter& parameter = condAct.params[place];
-    const auto number = condacts::WholeNumber(token);
+    const auto number = condacts::NumberOfToken(token);
     if (parameter.kind != ParamKind::Flag || !number) {
         const std::string meaning = MeaningOfParameter(condAct, place, token);
         return parameter.kind == ParamKind::Process && meaning == kNoDescription ? "" : meaning;
@@ -318,8 +318,8 @@ std::string CondActHelp::NameIn(const CondAct& condAct, std::size_t place, std::
 /// What a value stands for that is compared with a flag or put into it.
 std::string CondActHelp::MeaningOfValue(const CondAct& condAct, std::string_view flagToken,
                                         std::string_view token) const {
-    const auto flag = condacts::WholeNumber(flagToken);
-    const auto number = condacts::WholeNumber(token);
+    const auto flag = condacts::NumberOfToken(flagToken);
+    const auto number = condacts::NumberOfToken(token);
     const HeldNumbers* const held = flag && number && TakesWhatFlagHolds(condAct)
                                         ? FindHeldNumbers(condacts::FlagNumber(*flag))
                                         : nullptr;

@@ -8,7 +8,7 @@
 namespace fabula::authoring {
 
 std::optional<NamedRecord> NamedByNumber(store::TableNum table, std::string_view typed) {
-    const std::optional<int> number = condacts::WholeNumber(text::TrimBlanks(typed));
+    const std::optional<int> number = condacts::NumberOfToken(text::TrimBlanks(typed));
     if (!number) return std::nullopt;
     return NamedRecord{table, *number};
 }

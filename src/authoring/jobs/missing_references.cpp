@@ -85,11 +85,11 @@ class Search {
 
     void CheckExit(PlaceNumber room, std::size_t i, const std::string& word,
                    const std::vector<condacts::Token>& numbers) {
-        const auto number = condacts::WholeNumber(numbers[i].text);
+        const auto number = condacts::NumberOfToken(numbers[i].text);
         if (!number || !HasWord(WordNumber(*number), condacts::IsMovementWord))
             Add(TableNum::Locations, room.value, "exits", word + " is not a valid word", i);
         const std::string_view to = i + 1 < numbers.size() ? numbers[i + 1].text : std::string_view();
-        const auto destination = condacts::WholeNumber(to);
+        const auto destination = condacts::NumberOfToken(to);
         if (destination && IsRoom(PlaceNumber(*destination))) return;
         Add(TableNum::Locations, room.value, "exits",
             "There is not a location with a number of " + std::string(to) + " for " + word, i + 1);

@@ -90,7 +90,7 @@ bool ProcessEntryScreen::Prints(MessageNumber message) const {
     return std::ranges::any_of(parsed.statements, [&](const condacts::Statement& statement) {
         for (std::size_t place = 0; place < statement.paramsGiven; ++place) {
             const bool names = statement.condAct->params[place].kind == condacts::ParamKind::Message;
-            if (names && condacts::WholeNumber(parsed.Param(statement, place)) == message.value)
+            if (names && condacts::NumberOfToken(parsed.Param(statement, place)) == message.value)
                 return true;
         }
         return false;

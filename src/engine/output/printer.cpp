@@ -8,6 +8,7 @@
 #include "engine/output/script.h"
 #include "engine/output/shown_text.h"
 #include "engine/run_failure.h"
+#include "text/colours.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -303,8 +304,8 @@ void Printer::Ink(int colour) {
 void Printer::Bright(bool on) {
     Flush();
     style_.bright = on;
-    if (on && style_.ink < 8) style_.ink += 8;
-    if (!on && style_.ink >= 8) style_.ink -= 8;
+    if (on && style_.ink < text::kFirstBrightColour) style_.ink += text::kFirstBrightColour;
+    if (!on && style_.ink >= text::kFirstBrightColour) style_.ink -= text::kFirstBrightColour;
 }
 
 void Printer::Flash(bool on) {

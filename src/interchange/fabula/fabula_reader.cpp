@@ -268,7 +268,7 @@ class ExportReader {
                 return Refuse("No parameter where there should be one", parsed.tokens.back().text);
             for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
                 const std::string_view token = parsed.Param(statement, p);
-                if (!condacts::WholeNumber(token))
+                if (!condacts::NumberOfToken(token))
                     return Refuse("Invalid number for parameter " + std::to_string(p + 1), token);
             }
         }

@@ -50,7 +50,7 @@ void PcConnections::AddExit(std::string_view word, std::string_view destination)
         job_.Fault(name + " is not a valid word", word);
         return;
     }
-    const std::optional<int> number = condacts::WholeNumber(destination);
+    const std::optional<int> number = condacts::NumberOfToken(destination);
     if (!number) {
         job_.Fault("TO location for " + name + "must be numeric", destination);
         return;

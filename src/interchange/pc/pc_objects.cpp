@@ -53,7 +53,7 @@ void PcObjects::Slash(std::string_view line) {
         job_.Fault(kBadLine);
         return;
     }
-    const std::optional<int> weight = condacts::WholeNumber(tokens[2]);
+    const std::optional<int> weight = condacts::NumberOfToken(tokens[2]);
     if (!weight || *weight > condacts::limit::kHeaviestObject) {
         job_.Fault(std::string(condacts::kWeightFault), tokens[2]);
         return;
@@ -95,7 +95,7 @@ bool PcObjects::SetLocation(Cursor& object, std::string_view location) {
         object.SetField("objlocdesc", condacts::DescriptionOfPlace(*place));
         return true;
     }
-    const std::optional<int> number = condacts::WholeNumber(location);
+    const std::optional<int> number = condacts::NumberOfToken(location);
     if (!number || condacts::IsSpecialPlace(*number) || !locations_.contains(*number)) return false;
     object.SetField("objloc", std::int64_t{*number});
     object.SetField("objlocdesc", "At " + std::to_string(*number) + ".");

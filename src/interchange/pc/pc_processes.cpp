@@ -76,7 +76,7 @@ void PcProcesses::Begin(const std::vector<std::string_view>& words) {
         return;
     }
     ++process_;
-    const auto number = words.size() > 1 ? condacts::WholeNumber(words[1]) : std::nullopt;
+    const auto number = words.size() > 1 ? condacts::NumberOfToken(words[1]) : std::nullopt;
     if (number != process_) {
         const std::string_view given = words.size() > 1 ? words[1] : std::string_view();
         job_.Fault("Changed Process # from " + std::string(given) + " to " + std::to_string(process_),

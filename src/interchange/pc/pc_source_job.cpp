@@ -34,7 +34,7 @@ std::vector<std::string_view> SplitSlashLine(std::string_view line) {
 
 std::optional<std::int64_t> RecordNumber(const std::vector<std::string_view>& words) {
     if (words.empty()) return std::nullopt;
-    const std::optional<int> number = condacts::WholeNumber(words[0]);
+    const std::optional<int> number = condacts::NumberOfToken(words[0]);
     if (!number || *number > condacts::limit::kHighestRecord) return std::nullopt;
     return *number;
 }

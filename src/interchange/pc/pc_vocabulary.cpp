@@ -53,7 +53,7 @@ void PcVocabulary::Slash(std::string_view) {
 
 void PcVocabulary::Line(std::string_view line) {
     const auto tokens = SplitWords(line);
-    const std::optional<int> number = tokens.size() < 3 ? std::nullopt : condacts::WholeNumber(tokens[1]);
+    const std::optional<int> number = tokens.size() < 3 ? std::nullopt : condacts::NumberOfToken(tokens[1]);
     if (!number) {
         job_.Fault(kBadLine, tokens.size() < 2 ? tokens.front() : tokens[1]);
         return;

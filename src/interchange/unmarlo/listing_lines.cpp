@@ -51,7 +51,7 @@ std::string_view CutTrimmed(std::string_view line, Columns columns) {
 }
 
 std::optional<int> ListedNumber(std::string_view token, int highest) {
-    const std::optional<int> number = condacts::WholeNumber(token);
+    const std::optional<int> number = condacts::NumberOfToken(token);
     if (!number || *number > highest) return std::nullopt;
     return number;
 }

@@ -39,7 +39,7 @@ std::optional<int> TakeCode(std::string_view& text) {
     if (!text.starts_with('{')) return std::nullopt;
     const std::size_t end = text.substr(0, kMostDigits + 2).find('}');
     if (end == std::string_view::npos) return std::nullopt;
-    const std::optional<int> number = condacts::WholeNumber(text.substr(1, end - 1));
+    const std::optional<int> number = condacts::NumberOfToken(text.substr(1, end - 1));
     if (!number || *number > kHighestCode) return std::nullopt;
     text.remove_prefix(end + 1);
     return number;
@@ -107,7 +107,7 @@ std::string CodesOf(std::string_view tag) {
     const std::size_t equals = name.find('=');
     if (equals == std::string::npos) return "";
     const std::string_view value = std::string_view(name).substr(equals + 1, name.size() - equals - 2);
-    const std::optional<int> number = condacts::WholeNumber(value);
+    const std::optional<int> number = condacts::NumberOfToken(value);
     if (!number) return "";
     const std::string_view head = std::string_view(name).substr(1, equals - 1);
     if (head == "INK") return Code(kInkCode) + Code(*number);

@@ -156,7 +156,8 @@ bool PlayedGame::Resume() {
             if (!taken)
                 return person_.Tell("The last session can't be resumed: the adventure has changed since.",
                                     "Error");
-            states_.assign(1, std::move(state));
+            states_.clear();
+            states_.push_back(std::move(state));
         } catch (const Error& error) {
             person_.Tell(error.what(), "Error");
         }

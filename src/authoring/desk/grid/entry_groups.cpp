@@ -69,7 +69,7 @@ std::optional<int> EntryGroups::PlaceIn(std::string_view condacts) const {
     const condacts::ParsedLine parsed = condacts::ParseLine(condacts, catalogue_, dialect_);
     for (const condacts::Statement& statement : parsed.statements) {
         if (statement.condAct->name == kAtPlace && statement.paramsGiven > 0)
-            return condacts::WholeNumber(parsed.Param(statement, 0));
+            return condacts::NumberOfToken(parsed.Param(statement, 0));
     }
     return std::nullopt;
 }
@@ -79,7 +79,7 @@ std::optional<int> EntryGroups::ObjectIn(std::string_view noun, std::string_view
     for (const condacts::Statement& statement : parsed.statements) {
         for (std::size_t place = 0; place < statement.paramsGiven; ++place) {
             if (statement.condAct->params[place].kind == ParamKind::Object)
-                return condacts::WholeNumber(parsed.Param(statement, place));
+                return condacts::NumberOfToken(parsed.Param(statement, place));
         }
     }
     const auto known = objectOfNoun_.find(text::UpperCase(noun));

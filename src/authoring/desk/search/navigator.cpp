@@ -280,7 +280,7 @@ std::vector<JumpLine> Navigator::Search(std::string_view typed) {
 }
 
 void Navigator::SearchNumber(std::string_view typed, std::vector<JumpLine>& found) {
-    const auto number = condacts::WholeNumber(typed.substr(1));
+    const auto number = condacts::NumberOfToken(typed.substr(1));
     if (!number) return;
     for (const Shorthand& shorthand : kShorthands) {
         if (text::LowerCase(typed.substr(0, 1)) != std::string(1, shorthand.letter)) continue;

@@ -21,7 +21,7 @@ bool RenumberScreen::CanRenumber(store::TableNum table) {
 }
 
 references::RenumberPlan RenumberScreen::Plan() const {
-    const auto to = condacts::WholeNumber(text::TrimBlanks(number));
+    const auto to = condacts::NumberOfToken(text::TrimBlanks(number));
     if (!to) {
         references::RenumberPlan none;
         none.refusal = "Type the new number.";
@@ -56,7 +56,7 @@ bool RenumberScreen::Update() {
 bool RenumberScreen::Store() {
     const references::RenumberPlan plan = Plan();
     if (!plan.refusal.empty()) return Refuse(context_.dialogs, plan.refusal);
-    const int to = condacts::WholeNumber(text::TrimBlanks(number)).value_or(0);
+    const int to = condacts::NumberOfToken(text::TrimBlanks(number)).value_or(0);
     Change change(context_.document, "number " + name_ + " " + std::to_string(to));
     references::Renumber(context_.document.Adventure(), plan);
     change.Commit();
