@@ -21,7 +21,7 @@ endif()
 # fabula_precompiled(NAME [USES target...] [HEADERS <header>...])
 #
 # Headers that most sources of a kind include, the standard library's before HEADERS, parsed once for all targets that
-# reuse them from NAME. Sources still include what they use: the preset core-only builds them without.
+# reuse them from NAME. Sources still include what they use: the preset core builds them without.
 function(fabula_precompiled name)
     cmake_parse_arguments(arg "" "" "USES;HEADERS;OPTIONS" ${ARGN})
     add_library(${name} OBJECT "${PROJECT_SOURCE_DIR}/cmake/empty.cpp")
@@ -90,7 +90,7 @@ endfunction()
 # fabula_fuzzer(NAME LIBRARY SOURCES file... [SEEDS file...] [OPTIONS option...])
 #
 # One libFuzzer program for one reader, and a test that gives it its seeds and a thousand changes of them, or as many
-# as five seconds take. Its seeds are SEEDS and the files of seeds/READER, where it is named READER_fuzzer. Only with FABULA_FUZZ do the
+# as three seconds take. Its seeds are SEEDS and the files of seeds/READER, where it is named READER_fuzzer. Only with FABULA_FUZZ do the
 # libraries tell it what a change has reached; without, it sees no further than its own source.
 function(fabula_fuzzer name library)
     cmake_parse_arguments(arg "" "" "SOURCES;SEEDS;OPTIONS" ${ARGN})
@@ -103,5 +103,5 @@ function(fabula_fuzzer name library)
     list(APPEND seeds ${arg_SEEDS})
     list(JOIN seeds "," seeds)
     add_test(NAME fuzz.${reader}
-             COMMAND ${name} -runs=1000 -max_total_time=5 -seed=1 -timeout=60 -seed_inputs=${seeds} ${arg_OPTIONS})
+             COMMAND ${name} -runs=1000 -max_total_time=3 -seed=1 -timeout=60 -seed_inputs=${seeds} ${arg_OPTIONS})
 endfunction()
