@@ -46,8 +46,8 @@ endfunction()
 #
 # The library of the folder src/NAME. Its headers are included as "NAME/header.h". Only targets that link it see
 # them: the include path holds nothing but a link to this one folder, so that an include which the links do not
-# allow does not compile. COMPUTES is for what tests keep busy: under the sanitizers it alone is optimised, since
-# optimising the others takes longer than their tests gain by it.
+# allow does not compile. COMPUTES is for what tests keep busy: with FABULA_COMPUTES_OPTIMISED (presets quick and sanitize) it alone is
+# optimised, since optimising the others takes longer than their tests gain by it.
 function(fabula_library name)
     cmake_parse_arguments(arg "COMPUTES" "" "SOURCES;USES;PRIVATE" ${ARGN})
     set(include_root "${PROJECT_BINARY_DIR}/include/${name}")
@@ -56,8 +56,8 @@ function(fabula_library name)
     add_library(${name} STATIC ${arg_SOURCES})
     target_include_directories(${name} PUBLIC "${include_root}")
     target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE ${arg_PRIVATE} fabula_flags)
-    if(arg_COMPUTES AND FABULA_SANITIZE)
-        target_compile_options(${name} PRIVATE -O1)
+    if(arg_COMPUTES AND FABULA_COMPUTES_OPTIMISED)
+        target_compile_options(${name} PRIVATE ${FABULA_COMPUTES_OPTIMISED})
         target_precompile_headers(${name} REUSE_FROM optimised_headers)
     else()
         target_precompile_headers(${name} REUSE_FROM library_headers)
@@ -65,13 +65,14 @@ function(fabula_library name)
     fabula_together(${name})
 endfunction()
 
-# fabula_test(NAME LIBRARY [WINDOWS] SOURCES file... [USES target...])
+# fabula_test(NAME LIBRARY [WINDOWS] [HALVES] SOURCES file... [USES target...])
 #
 # One test program for one library. It links that library (and so what the library stands on) and the extra
-# targets of USES, which hold test helpers only. WINDOWS is for tests of what Qt shows. The test's own code is not
-# optimised, whatever the preset.
+# targets of USES, which hold test helpers only. WINDOWS is for tests of what Qt shows. HALVES is for a program that
+# takes long: ctest runs it as NAME.1 and NAME.2, each every second test. The test's own code is not optimised,
+# whatever the preset.
 function(fabula_test name library)
-    cmake_parse_arguments(arg "WINDOWS" "" "SOURCES;USES" ${ARGN})
+    cmake_parse_arguments(arg "WINDOWS;HALVES" "" "SOURCES;USES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${library} ${arg_USES} platform_doubles places_support fabula_flags
                                           GTest::gtest_main GTest::gmock)
@@ -84,7 +85,16 @@ function(fabula_test name library)
     else()
         target_precompile_headers(${name} REUSE_FROM test_headers)
     endif()
-    add_test(NAME ${name} COMMAND ${name})
+    if(NOT arg_HALVES)
+        add_test(NAME ${name} COMMAND ${name})
+        return()
+    endif()
+    foreach(half 1 2)
+        math(EXPR index "${half} - 1")
+        add_test(NAME ${name}.${half} COMMAND ${name})
+        set_tests_properties(${name}.${half} PROPERTIES
+                             ENVIRONMENT "GTEST_TOTAL_SHARDS=2;GTEST_SHARD_INDEX=${index}")
+    endforeach()
 endfunction()
 
 # fabula_fuzzer(NAME LIBRARY SOURCES file... [SEEDS file...] [OPTIONS option...])
