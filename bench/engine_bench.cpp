@@ -40,13 +40,12 @@ class OriginCounter final : public engine::OriginSink {
 class EventCounter final : public engine::TraceSink {
   public:
     void Tell(const engine::TraceEvent&) override { ++events; }
-    void WriteLine(std::string_view) override {}
 
     std::size_t events = 0;
 };
 
 /// Takes a trace as lines.
-class LineCounter final : public engine::TraceSink {
+class LineCounter final : public engine::TextTrace {
   public:
     void WriteLine(std::string_view line) override { bytes += line.size(); }
 

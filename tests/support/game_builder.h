@@ -52,7 +52,7 @@ class QueuedRandom final : public platform::RandomSource {
     std::deque<int> numbers;
 };
 
-class RecordingTrace final : public engine::TraceSink {
+class RecordingTrace final : public engine::TextTrace {
   public:
     void WriteLine(std::string_view line) override { lines.emplace_back(line); }
     bool Has(std::string_view line) const;
