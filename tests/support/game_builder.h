@@ -33,16 +33,16 @@ struct ObjectSpec {
 class RecordingSound final : public engine::SoundPlayer {
   public:
     void Configure(const engine::SoundSettings& given) override { settings = given; }
-    bool PlayTone(int note, std::chrono::milliseconds length) override {
+    void PlayTone(int note, std::chrono::milliseconds length) override {
         notes.emplace_back(note, length.count());
-        return sounds;
     }
     void SetVoice(int voice) override { voices.push_back(voice); }
 
     engine::SoundSettings settings;
     std::vector<std::pair<int, long long>> notes;  ///< note and milliseconds
     std::vector<int> voices;
-    bool sounds = true;  ///< false: as if there were no device
+
+    using SoundPlayer::SetSilent;  ///< true: as if there were no device
 };
 
 /// Gives the numbers that a test queued, then 50 (or the highest that is asked, if that is lower).
