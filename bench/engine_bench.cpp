@@ -15,8 +15,6 @@ namespace {
 /// A window that takes everything and shows nothing.
 class NoWindow final : public engine::GameWindow {
   public:
-    int PrintWidth() const override { return 80; }
-    int CharacterAdvance() const override { return 1; }
     void Write(std::string_view text, const engine::TextStyle&, engine::TextRole) override {
         bytes += text.size();
     }
@@ -25,6 +23,8 @@ class NoWindow final : public engine::GameWindow {
 
     std::size_t bytes = 0;
 };
+
+constexpr engine::PaneMeasures kPanes{.textWidth = 80, .characterWidth = 80};
 
 /// Learns of every run of text where it comes from, and keeps nothing of it.
 class OriginCounter final : public engine::OriginSink {
@@ -40,13 +40,12 @@ class OriginCounter final : public engine::OriginSink {
 class EventCounter final : public engine::TraceSink {
   public:
     void Tell(const engine::TraceEvent&) override { ++events; }
-    void WriteLine(std::string_view) override {}
 
     std::size_t events = 0;
 };
 
 /// Takes a trace as lines.
-class LineCounter final : public engine::TraceSink {
+class LineCounter final : public engine::TextTrace {
   public:
     void WriteLine(std::string_view line) override { bytes += line.size(); }
 
@@ -67,6 +66,7 @@ class BenchGame {
         adventure_ = store::Adventure::Open(folder_ / "game.fbd", store::OpenMode::ReadOnly);
         engine::Host host{window_, person_, random_, sound_, listeners.trace};
         host.parts.origins = listeners.origins;
+        host.parts.measures = &kPanes;
         engine::Options options;
         options.traceFile = listeners.trace != nullptr;
         engine_ = std::make_unique<engine::Engine>(*adventure_, host, options);

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "condacts/numbers.h"
+#include "condacts/process_numbers.h"
 #include "store/adventure_kind.h"
 #include "store/record_limits.h"
 #include "text/colours.h"
@@ -17,12 +19,12 @@ namespace limit {
 using store::kHighestRecord;
 /// The same of the other types, but for objects, of which kNoObject stands for none.
 inline constexpr int kHighestRecordOfOthers = 255;
-inline constexpr int kNoObject = 255;
-inline constexpr int kHighestObjectOfOthers = kNoObject - 1;
+inline constexpr ObjectNumber kNoObject{255};
+inline constexpr int kHighestObjectOfOthers = kNoObject.value - 1;
 
-inline constexpr int kHighestProcess = 256;
+inline constexpr ProcessNumber kHighestProcess{256};
 /// Tables 0 to 2 are there in every game. Those of "Marlo" have 0 and 1 only.
-inline constexpr int kLastFixedProcess = 2;
+inline constexpr ProcessNumber kLastFixedProcess = kEachTurn;
 
 /// The numbers of an author's words.
 inline constexpr int kLowestWord = 2;

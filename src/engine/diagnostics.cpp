@@ -34,10 +34,10 @@ Diagnostics::Answer Diagnostics::DoIt(std::string_view request) {
     switch (text.front()) {
         case 'F':
         case 'f':
-            return {View(false, rest, "Invalid value for a Flag #: " + std::string(rest))};
+            return {View(rest, false, "Invalid value for a Flag #: " + std::string(rest))};
         case 'O':
         case 'o':
-            return {View(true, rest, "Invalid value for an Object #:")};
+            return {View(rest, true, "Invalid value for an Object #:")};
         case 'S':
         case 's':
             return {SetTo("S(et)", kSet)};
@@ -53,44 +53,48 @@ Diagnostics::Answer Diagnostics::DoIt(std::string_view request) {
             break;
     }
     if (text.front() < '0' || text.front() > '9') return {"Invalid option"};
-    return {View(objectInView_, text, "Invalid value for a Flag #: " + std::string(text))};
+    return {View(text, ObjectInView() != nullptr, "Invalid value for a Flag #: " + std::string(text))};
 }
 
 std::string Diagnostics::DisplayVariable() const {
-    if (!engine_.Running() || !Exists(objectInView_, number_)) return {};
-    const std::string number = std::to_string(number_);
-    if (objectInView_)
-        return "O" + number +
-               " Location = " + std::to_string(Running().state.ObjectPlace(ObjectNumber(number_)).value);
-    return "F" + number + " = " + std::to_string(Running().Flag(FlagNumber(number_)));
+    if (!engine_.Running() || !Exists(inView_)) return {};
+    if (const ObjectNumber* object = ObjectInView())
+        return "O" + std::to_string(object->value) +
+               " Location = " + std::to_string(Running().state.ObjectPlace(*object).value);
+    const FlagNumber inView = std::get<FlagNumber>(inView_);
+    return "F" + std::to_string(inView.value) + " = " + std::to_string(Running().Flag(inView));
 }
 
-bool Diagnostics::Exists(bool object, int number) const {
+bool Diagnostics::Exists(const Variable& variable) const {
     const RunState& state = Running().state;
-    return number >= 0 && number < (object ? state.ObjectCount() : state.FlagCount());
+    if (const auto* object = std::get_if<ObjectNumber>(&variable))
+        return object->value >= 0 && object->value < state.ObjectCount();
+    const int number = std::get<FlagNumber>(variable).value;
+    return number >= 0 && number < state.FlagCount();
 }
 
-std::string Diagnostics::View(bool object, std::string_view number, const std::string& refusal) {
+std::string Diagnostics::View(std::string_view number, bool object, const std::string& refusal) {
     const std::optional<int> value = NumberIn(number);
-    if (!value || !Exists(object, *value)) return refusal;
-    objectInView_ = object;
-    number_ = *value;
+    if (!value) return refusal;
+    const Variable wanted = object ? Variable(ObjectNumber(*value)) : Variable(FlagNumber(*value));
+    if (!Exists(wanted)) return refusal;
+    inView_ = wanted;
     return {};
 }
 
 /// Games of the oldest engine know flags 0 to 32. Of the others only the player's place, the long texts and
 /// the trace are for the author's hand.
-bool Diagnostics::IsProtected() const {
-    if (!Running().IsMarlo() || number_ <= condacts::limit::kHighestMarloFlag) return false;
-    const FlagNumber inView(number_);
+bool Diagnostics::IsProtected(FlagNumber inView) const {
+    if (!Running().IsMarlo() || inView.value <= condacts::limit::kHighestMarloFlag) return false;
     return inView != flag::kLocation && inView != flag::kLongText && inView != flag::kTraceFile &&
            inView != flag::kTrace;
 }
 
 std::string Diagnostics::SetTo(std::string_view name, int value) {
-    if (objectInView_) return std::string(name) + " cannot be used on Objects";
-    if (IsProtected()) return kProtectedRefusal;
-    Running().SetFlag(FlagNumber(number_), value);
+    if (ObjectInView()) return std::string(name) + " cannot be used on Objects";
+    const FlagNumber inView = std::get<FlagNumber>(inView_);
+    if (IsProtected(inView)) return kProtectedRefusal;
+    Running().SetFlag(inView, value);
     return {};
 }
 
@@ -98,23 +102,23 @@ std::string Diagnostics::Assign(std::string_view number) {
     if (text::TrimBlanks(number).empty()) return "no number after the =";
     const std::optional<int> value = NumberIn(number);
     if (!value) return "Value after the = is not numeric";
-    if (!objectInView_) return AssignFlag(*value);
+    const ObjectNumber* object = ObjectInView();
+    if (!object) return AssignFlag(std::get<FlagNumber>(inView_), *value);
     const PlaceNumber where(*value);
     if (where == place::kHere) return "An object cannot be put at location 255";
-    PlaceObject(Running(), ObjectNumber(number_), where);
+    PlaceObject(Running(), *object, where);
     return {};
 }
 
-std::string Diagnostics::AssignFlag(int value) {
-    const FlagNumber inView(number_);
+std::string Diagnostics::AssignFlag(FlagNumber inView, int value) {
     if (inView == flag::kLocation && !Running().data.LocationExists(PlaceNumber(value))) {
         return "Invalid location for Flag 38: " + std::to_string(value);
     }
     if (inView == flag::kTraceFile || inView == flag::kTrace) {
         return "Flags 1004 & 1005 can only be SET or CLEAR";
     }
-    if (IsProtected()) return kProtectedRefusal;
-    Running().SetFlag(FlagNumber(number_), value);
+    if (IsProtected(inView)) return kProtectedRefusal;
+    Running().SetFlag(inView, value);
     return {};
 }
 

@@ -3,6 +3,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
+
+#include "engine/numbers.h"
 
 namespace fabula::engine {
 
@@ -35,17 +38,20 @@ class Diagnostics {
     std::string DisplayVariable() const;
 
   private:
-    std::string View(bool object, std::string_view number, const std::string& refusal);
+    /// What is in view.
+    using Variable = std::variant<FlagNumber, ObjectNumber>;
+
+    const ObjectNumber* ObjectInView() const { return std::get_if<ObjectNumber>(&inView_); }
+    std::string View(std::string_view number, bool object, const std::string& refusal);
     std::string SetTo(std::string_view name, int value);
     std::string Assign(std::string_view number);
-    std::string AssignFlag(int value);
-    bool IsProtected() const;
-    bool Exists(bool object, int number) const;
+    bool IsProtected(FlagNumber inView) const;
+    std::string AssignFlag(FlagNumber inView, int value);
+    bool Exists(const Variable& variable) const;
     Game& Running() const;
 
     Engine& engine_;
-    bool objectInView_ = false;
-    int number_ = 0;
+    Variable inView_ = FlagNumber(0);
 };
 
 }  // namespace fabula::engine

@@ -59,7 +59,7 @@ void Engine::Guard(Step step) {
     } catch (const RunFailure& failure) {
         Fail(failure.what());
     } catch (const Error& error) {
-        sitting_->host.person.Tell(error.what(), kFailureTitle);
+        sitting_->host.teller.Tell(error.what(), kFailureTitle);
         failed_ = true;
         EndGame();
     }
@@ -67,7 +67,7 @@ void Engine::Guard(Step step) {
 
 void Engine::Fail(const std::string& what) {
     const std::string where = game_ ? TextOf(game_->runner.Place()) : "";
-    sitting_->host.person.Tell(
+    sitting_->host.teller.Tell(
         "The game has gone wrong and ends. " + (where.empty() ? "" : where + ": ") + what + ".",
         kFailureTitle);
     failed_ = true;
@@ -156,7 +156,7 @@ void Engine::PlayerIsBack() {
 void Engine::TellScriptFailure() {
     const std::string failure = sitting_->script.TakeFailure();
     if (failure.empty()) return;
-    sitting_->host.person.Tell(failure, "Error");
+    sitting_->host.teller.Tell(failure, "Error");
     if (game_) game_->SetFlag(flag::kScript, sitting_->script.State());
     ShowStatus();
 }
@@ -315,7 +315,7 @@ bool Engine::PlayScriptLine() {
     const std::optional<std::string> line = sitting_->script.NextInput();
     if (!line) {
         sitting_->script.CloseInput();
-        sitting_->host.person.Tell("End-of-file reached.", "Script");
+        sitting_->host.teller.Tell("End-of-file reached.", "Script");
         game_->SetFlag(flag::kScript, sitting_->script.State());
         ShowStatus();
         return false;

@@ -11,8 +11,8 @@
 #include "engine/game_window.h"
 #include "engine/output/trace_sink.h"
 #include "engine/sound_player.h"
-#include "platform/person.h"
 #include "platform/random_source.h"
+#include "platform/teller.h"
 #include "store/adventure.h"
 
 namespace fabula::engine {
@@ -23,7 +23,7 @@ struct Sitting;
 /// What a running game asks of its host. All of it must outlive the engine.
 struct Host {
     GameWindow& window;
-    platform::Person& person;  ///< boxes: refused files, run-time failures
+    platform::Teller& teller;  ///< boxes: refused files, run-time failures
     platform::RandomSource& random;
     SoundPlayer& sound;
     TraceSink* trace = nullptr;  ///< nullptr: nothing is traced

@@ -53,7 +53,7 @@ Game::Game(store::Adventure& adventure, Sitting& theSitting)
       data(adventure),
       texts(adventure, data.type),
       state(data),
-      printer(host.window, data, sitting.script),
+      printer(host.window, parts.measures, data, sitting.script),
       trace(host.trace, state),
       runner(*this, sitting.options.condactLimit, sitting.options.slice),
       loop(*this) {

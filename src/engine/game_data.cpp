@@ -222,7 +222,7 @@ void GameData::ReadProcesses(store::Adventure& adventure) {
     PreparedQuery row =
         adventure.Prepare(TableNum::ProcessTables, fields, "estype>=0", "estype, w1num, w2num, canum");
     for (bool more = row.First({}); more; more = row.Next()) {
-        if (row.Number(0) > condacts::limit::kHighestProcess) break;
+        if (row.Number(0) > condacts::limit::kHighestProcess.value) break;
         const auto process = static_cast<std::size_t>(row.Number(0));
         if (processes.size() <= process) processes.resize(process + 1);
         const Source source{"entry", row.Number(1), process};

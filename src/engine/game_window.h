@@ -76,7 +76,23 @@ struct FileRequest {
 
 // The window of a game as the engine sees it, in narrow parts. The engine calls them while it runs and then
 // returns; it never waits in here, and none gives it an answer: what the player says comes to the engine by
-// the members of Engine, whenever it comes.
+// the members of Engine, whenever it comes, and how wide the panes are stands in PaneMeasures beforehand.
+
+/// A print width at which no line breaks.
+inline constexpr int kNoWidthLimit = 1'000'000;
+
+/// The blank at which no line may break (PaneMeasures::breaksLines).
+inline constexpr std::string_view kNoBreakSpace = "\u00A0";
+
+/// How wide the panes of a window are. The host keeps them true; the engine looks at them before each text.
+struct PaneMeasures {
+    int textWidth = kNoWidthLimit;  ///< of the text pane, in columns; at most kNoWidthLimit
+    /// The window breaks the lines by itself. Blanks that do not break then come as kNoBreakSpace.
+    bool breaksLines = false;
+    int characterWidth = kNoWidthLimit;  ///< of the character pane, in pixels; at most kNoWidthLimit
+    /// The width of one character of the character pane and the gap behind it, in pixels.
+    int characterAdvance = 1;
+};
 
 /// Where texts go: all that a printer needs. Texts are UTF-8 without markup.
 ///
@@ -85,14 +101,6 @@ struct FileRequest {
 class GameWindow {
   public:
     virtual ~GameWindow() = default;
-
-    /// The width at which lines break, asked before each text: columns in the text pane, pixels in the
-    /// character pane. At most kNoWidthLimit, which means that lines never break.
-    virtual int PrintWidth() const = 0;
-    /// Whether the window breaks the lines by itself. Blanks that do not break then come as kNoBreakSpace.
-    virtual bool BreaksLines() const { return false; }
-    /// The width of one character and the gap behind it, in the character pane; in pixels, at least 1.
-    virtual int CharacterAdvance() const = 0;
 
     /// Appends text at the end of the pane (at the cursor of the character pane). A run holds no line ends.
     virtual void Write(std::string_view text, const TextStyle& style, TextRole role) = 0;
@@ -161,7 +169,8 @@ struct WindowParts {
     PictureScreen* pictures = nullptr;
     StatusLine* status = nullptr;
     GameTimers* timers = nullptr;
-    OriginSink* origins = nullptr;  ///< who wants to know where texts come from (origin.h)
+    OriginSink* origins = nullptr;           ///< who wants to know where texts come from (origin.h)
+    const PaneMeasures* measures = nullptr;  ///< of the panes; nullptr: no line breaks
 };
 
 /// A window that is all of them.
@@ -172,13 +181,7 @@ class WholeWindow : public GameWindow,
                     public StatusLine,
                     public GameTimers {
   public:
-    WindowParts Parts() { return {this, this, this, this, this, nullptr}; }
+    WindowParts Parts() { return {this, this, this, this, this}; }
 };
-
-/// The blank at which no line may break (GameWindow::BreaksLines).
-inline constexpr std::string_view kNoBreakSpace = "\u00A0";
-
-/// A print width at which no line breaks.
-inline constexpr int kNoWidthLimit = 1'000'000;
 
 }  // namespace fabula::engine

@@ -16,7 +16,8 @@ class HostParts final : private GameEvents,
           input(parts.input ? *parts.input : *this),
           pictures(parts.pictures ? *parts.pictures : *this),
           status(parts.status ? *parts.status : *this),
-          timers(parts.timers ? *parts.timers : *this) {}
+          timers(parts.timers ? *parts.timers : *this),
+          measures(parts.measures ? *parts.measures : unlimited_) {}
     HostParts(const HostParts&) = delete;
     HostParts& operator=(const HostParts&) = delete;
 
@@ -25,8 +26,11 @@ class HostParts final : private GameEvents,
     PictureScreen& pictures;
     StatusLine& status;
     GameTimers& timers;
+    const PaneMeasures& measures;
 
   private:
+    const PaneMeasures unlimited_;
+
     // What stands in for a part that the host lacks.
     void StartGame(const GameLook&) override {}
     void EndGame() override {}

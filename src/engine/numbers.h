@@ -3,6 +3,7 @@
 #include "condacts/flags.h"
 #include "condacts/numbers.h"
 #include "condacts/places.h"
+#include "condacts/process_numbers.h"
 #include "condacts/system_messages.h"
 #include "condacts/words.h"
 
@@ -24,6 +25,9 @@ using condacts::SystemMessageNumber;
 using condacts::WordNumber;
 
 using condacts::Inside;
+using condacts::kDescribed;
+using condacts::kEachTurn;
+using condacts::kResponses;
 using condacts::kSet;
 
 /// What a flag of a word holds when there is none.
@@ -31,11 +35,6 @@ inline constexpr int kNoWord = condacts::kNoWordNumber.value;
 
 /// The object that lights the dark.
 inline constexpr ObjectNumber kLight{0};
-
-// The tables that the turn cycle itself runs.
-inline constexpr ProcessNumber kResponses{0};  ///< for each sentence
-inline constexpr ProcessNumber kDescribed{1};  ///< behind each description
-inline constexpr ProcessNumber kEachTurn{2};   ///< before each sentence; not in "marlo"
 
 /// All objects of a game, by number: for (const ObjectNumber object : game.state.Objects()).
 class ObjectNumbers {

@@ -16,24 +16,38 @@ struct SoundSettings {
     int bass = 0;
 };
 
+/// The notes that there are, counted in half tones from the channel's note offset.
+inline constexpr int kLowestNote = -60;
+inline constexpr int kHighestNote = 67;
+
 /// What plays a game's notes. A player whose device fails goes silent and tells it once; it never throws.
 class SoundPlayer {
   public:
     virtual ~SoundPlayer() = default;
 
+    /// Nothing sounds, so that there is nothing to wait for. The player keeps this true by itself: nobody
+    /// is asked when it is read.
+    bool IsSilent() const { return silent_; }
+
     /// A game starts with these settings.
     virtual void Configure(const SoundSettings& settings) = 0;
-    /// Starts a note that ends by itself. `note` counts half tones from the channel's note offset and may
-    /// be negative. Returns at once; false when nothing sounds, so that there is nothing to wait for.
-    virtual bool PlayTone(int note, std::chrono::milliseconds length) = 0;
+    /// Starts a note, kLowestNote to kHighestNote, that ends by itself. Returns at once.
+    virtual void PlayTone(int note, std::chrono::milliseconds length) = 0;
     virtual void SetVoice(int voice) = 0;
+
+  protected:
+    void SetSilent(bool silent) { silent_ = silent; }
+
+  private:
+    bool silent_ = false;
 };
 
 /// For programs without sound.
 class SilentPlayer final : public SoundPlayer {
   public:
+    SilentPlayer() { SetSilent(true); }
     void Configure(const SoundSettings&) override {}
-    bool PlayTone(int, std::chrono::milliseconds) override { return false; }
+    void PlayTone(int, std::chrono::milliseconds) override {}
     void SetVoice(int) override {}
 };
 

@@ -13,6 +13,7 @@
 namespace fabula::interchange {
 namespace {
 
+using condacts::FlagNumber;
 using condacts::ParamKind;
 using store::Cursor;
 using store::TableNum;
@@ -21,9 +22,9 @@ bool HasText(std::string_view description) {
     return !text::TrimBlanks(description).empty();
 }
 
-void MarkAsUsed(KeyedTable& flags, int number) {
-    if (!flags.Has(number)) return;
-    Cursor& flag = flags.GoTo(number);
+void MarkAsUsed(KeyedTable& flags, FlagNumber number) {
+    if (!flags.Has(number.value)) return;
+    Cursor& flag = flags.GoTo(number.value);
     if (flag.Number("flgmod") <= 0) return;
     const std::string description(flag.Text("flgdesc"));
     flag.SetField("flgdesc", HasText(description) ? description + " Used by the Adventure."
@@ -41,7 +42,7 @@ FlagAnalysis::FlagAnalysis(store::Adventure& adventure, const condacts::Catalogu
     }
     store::PreparedQuery flags = adventure.Prepare(TableNum::Flags, "flgnum, flgtype", "");
     for (bool more = flags.First({}); more; more = flags.Next()) {
-        const int number = static_cast<int>(flags.Number(0));
+        const FlagNumber number(static_cast<int>(flags.Number(0)));
         highestRecord_ = std::max(highestRecord_, number);
         if (text::EqualsNoCase(flags.Text(1), store::kUserFlagType)) userFlags_.insert(number);
     }
@@ -60,10 +61,10 @@ void FlagAnalysis::CheckForFlags(std::string_view condAct) {
 
 void FlagAnalysis::Count(std::size_t user, std::string_view token) {
     const std::optional<int> flag = condacts::NumberOfToken(token);
-    if (flag && *flag < condacts::limit::kFirstExtendedFlag) uses_[*flag].insert(user);
+    if (flag && *flag < condacts::limit::kFirstExtendedFlag) uses_[FlagNumber(*flag)].insert(user);
 }
 
-bool FlagAnalysis::IsUserFlag(int flag) const {
+bool FlagAnalysis::IsUserFlag(FlagNumber flag) const {
     return flag > highestRecord_ || userFlags_.contains(flag);
 }
 
@@ -71,16 +72,16 @@ void FlagAnalysis::PrintFlagAnal(store::Adventure& adventure, JobStatus& status)
     status.AddToStatus("\nUser Flag Analysis\n\n");
     status.AddToStatus("The commands used for each flag are shown below\n\n");
     KeyedTable flags(adventure, TableNum::Flags, "flgnum");
-    int highest = highestRecord_;
+    FlagNumber highest = highestRecord_;
     for (const auto& [flag, users] : uses_) {
         if (!IsUserFlag(flag)) continue;
         highest = std::max(highest, flag);
-        std::string line = "Flag " + std::to_string(flag) + ": ";
+        std::string line = "Flag " + std::to_string(flag.value) + ": ";
         for (const std::size_t user : users)
             line += " " + users_[user].name;
         status.AddToStatusCR(line);
     }
-    for (int flag = highestRecord_ + 1; flag <= highest; ++flag) {
+    for (int flag = highestRecord_.value + 1; flag <= highest.value; ++flag) {
         store::FillNewFlag(flags.Add(flag), flag, "");
         flags.Update();
     }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "condacts/catalogue.h"
+#include "condacts/numbers.h"
 #include "interchange/job_status.h"
 #include "store/adventure.h"
 
@@ -36,12 +37,12 @@ class FlagAnalysis {
     };
 
     void Count(std::size_t user, std::string_view token);
-    bool IsUserFlag(int flag) const;
+    bool IsUserFlag(condacts::FlagNumber flag) const;
 
     std::vector<FlagUser> users_;
-    std::set<int> userFlags_;
-    int highestRecord_ = -1;
-    std::map<int, std::set<std::size_t>> uses_;  ///< by flag, the users that name it
+    std::set<condacts::FlagNumber> userFlags_;
+    condacts::FlagNumber highestRecord_{-1};
+    std::map<condacts::FlagNumber, std::set<std::size_t>> uses_;  ///< by flag, the users that name it
 };
 
 }  // namespace fabula::interchange

@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "condacts/numbers.h"
 #include "condacts/word_filters.h"
 #include "condacts/words.h"
 #include "listings/condition_texts.h"
@@ -70,14 +71,15 @@ void AddEntry(const Listing& listing, const ConditionTexts& texts, const store::
 constexpr std::size_t kColumnHeadings = 2;  ///< the heads and the rule
 
 /// The description of a process table, in lines of the page.
-std::vector<std::string> DescriptionOf(store::Adventure& adventure, int process) {
+std::vector<std::string> DescriptionOf(store::Adventure& adventure, condacts::ProcessNumber process) {
     store::PreparedQuery row =
-        adventure.Prepare(TableNum::ProcDesc, "pmsgmsg", "pmsgnum=" + std::to_string(process));
+        adventure.Prepare(TableNum::ProcDesc, "pmsgmsg", "pmsgnum=" + std::to_string(process.value));
     if (!row.First({})) return {};
     return WrappedText(row.Text(0), static_cast<int>(kColumns));
 }
 
-std::vector<std::string> HeadingsOf(store::Adventure& adventure, int process, bool verbose) {
+std::vector<std::string> HeadingsOf(store::Adventure& adventure, condacts::ProcessNumber process,
+                                    bool verbose) {
     std::vector<std::string> headings = DescriptionOf(adventure, process);
     headings.push_back(Heading(std::string(kColumnHeads) + (verbose ? "!%t93!Description" : "")));
     headings.push_back(Heading(std::string(kRule) + (verbose ? "!%t93!%c40-" : "")));
@@ -85,20 +87,22 @@ std::vector<std::string> HeadingsOf(store::Adventure& adventure, int process, bo
 }
 
 /// The numbers of the process tables that have entries, or such as a further part of a filter asks for.
-std::vector<int> TablesWithEntries(store::Adventure& adventure, const std::string& words) {
+std::vector<condacts::ProcessNumber> TablesWithEntries(store::Adventure& adventure,
+                                                       const std::string& words) {
     store::PreparedQuery rows =
         adventure.Prepare(TableNum::ProcessTables, "estype", "estype>=0" + words, "estype");
-    std::vector<int> numbers;
+    std::vector<condacts::ProcessNumber> numbers;
     for (bool more = rows.First({}); more; more = rows.Next()) {
-        const int number = static_cast<int>(rows.Number(0));
+        const condacts::ProcessNumber number(static_cast<int>(rows.Number(0)));
         if (numbers.empty() || numbers.back() != number) numbers.push_back(number);
     }
     return numbers;
 }
 
-std::vector<int> AskedTables(const Listing& listing, const ReportRequest& request,
-                             const std::string& words = "") {
-    return request.numbers ? *request.numbers : TablesWithEntries(listing.adventure, words);
+std::vector<condacts::ProcessNumber> AskedTables(const Listing& listing, const ReportRequest& request,
+                                                 const std::string& words = "") {
+    if (!request.numbers) return TablesWithEntries(listing.adventure, words);
+    return {request.numbers->begin(), request.numbers->end()};
 }
 
 void WriteEntries(const Listing& listing, const ConditionTexts& texts, const std::string& where,
@@ -137,11 +141,11 @@ std::string FilterOfWords(store::Adventure& adventure, const ReportRequest& requ
 void WriteProcessTables(const Listing& listing, const ReportRequest& request) {
     const bool verbose = request.detail == Detail::Verbose;
     const ConditionTexts texts(listing.adventure, verbose);
-    for (const int process : AskedTables(listing, request)) {
-        const std::string number = std::to_string(process);
+    for (const condacts::ProcessNumber process : AskedTables(listing, request)) {
+        const std::string number = std::to_string(process.value);
         listing.frame.Begin("Process Table " + number + " Listing",
                             HeadingsOf(listing.adventure, process, verbose),
-                            Place{TableNum::ProcessTables, process});
+                            Place{TableNum::ProcessTables, process.value});
         WriteEntries(listing, texts, "estype=" + number, verbose);
     }
 }
@@ -150,14 +154,14 @@ void WriteVerbAndNoun(const Listing& listing, const ReportRequest& request) {
     const std::string words = FilterOfWords(listing.adventure, request);
     const bool verbose = request.detail == Detail::Verbose;
     const ConditionTexts texts(listing.adventure, verbose);
-    for (const int process : AskedTables(listing, request, words)) {
+    for (const condacts::ProcessNumber process : AskedTables(listing, request, words)) {
         std::vector<std::string> headings = HeadingsOf(listing.adventure, process, verbose);
         // The title does not tell which table is listed, nor does a description that says nothing.
         if (IsEmpty(headings.front())) headings.erase(headings.begin());
         if (headings.size() == kColumnHeadings)
-            headings.insert(headings.begin(), "Process Table " + std::to_string(process));
+            headings.insert(headings.begin(), "Process Table " + std::to_string(process.value));
         listing.frame.Begin("Listing of Specific Verb/Noun", std::move(headings));
-        WriteEntries(listing, texts, "estype=" + std::to_string(process) + words, verbose);
+        WriteEntries(listing, texts, "estype=" + std::to_string(process.value) + words, verbose);
     }
 }
 

@@ -13,6 +13,9 @@ namespace {
 
 constexpr int kHighestChannel = 15;
 constexpr int kHighestData = 127;
+/// Note 0 of a game is middle C.
+constexpr int kNoteOffset = 60;
+static_assert(engine::kLowestNote + kNoteOffset == 0 && engine::kHighestNote + kNoteOffset == kHighestData);
 
 std::uint8_t Data(int value) {
     return static_cast<std::uint8_t>(std::clamp(value, 0, kHighestData));
@@ -45,17 +48,17 @@ void Player::Configure(const engine::SoundSettings& settings) {
     if (otherDevice) CloseMIDI();
     settings_ = settings;
     channel_ = std::clamp(settings.channel, 0, kHighestChannel);
-    failed_ = false;
+    SetSilent(false);
     SendVoice();
 }
 
 bool Player::OpenMidi() {
     if (output_) return true;
-    if (failed_) return false;
+    if (IsSilent()) return false;
     try {
         output_ = open_(settings_.deviceName, settings_.device);
     } catch (const Error& error) {
-        failed_ = true;
+        SetSilent(true);
         tell_(std::string("The game goes on without sound. ") + error.what());
         return false;
     }
@@ -72,14 +75,13 @@ void Player::SendVoice() {
     if (output_) output_->Send({Status(kProgramChange, channel_), Data(settings_.voice)});
 }
 
-bool Player::PlayTone(int note, std::chrono::milliseconds length) {
+void Player::PlayTone(int note, std::chrono::milliseconds length) {
+    if (note < engine::kLowestNote || note > engine::kHighestNote || !OpenMidi()) return;
     const int key = note + kNoteOffset;
-    if (key < 0 || key > kHighestData || !OpenMidi()) return false;
     EndTone();
     output_->Send({Status(kNoteOn, channel_), Data(key), Data(settings_.volume)});
     playing_ = key;
     soundTimer_.Start(length);
-    return true;
 }
 
 void Player::EndTone() {

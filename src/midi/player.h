@@ -26,11 +26,8 @@ class Player final : public engine::SoundPlayer {
     ~Player() override;
 
     void Configure(const engine::SoundSettings& settings) override;
-    bool PlayTone(int note, std::chrono::milliseconds length) override;
+    void PlayTone(int note, std::chrono::milliseconds length) override;
     void SetVoice(int voice) override;
-
-    /// Note 0 of a game is middle C.
-    static constexpr int kNoteOffset = 60;
 
   private:
     bool OpenMidi();
@@ -44,7 +41,6 @@ class Player final : public engine::SoundPlayer {
     engine::SoundSettings settings_;
     int channel_ = 0;
     int playing_ = kNothing;
-    bool failed_ = false;
     std::unique_ptr<Output> output_;
 
     static constexpr int kNothing = -1;

@@ -29,11 +29,12 @@ void ForEachRow(store::Adventure& adventure, TableNum table, std::string_view fi
         use(rows);
 }
 
-std::vector<LintText> Texts(store::Adventure& adventure, TableNum table, std::string_view fields,
-                            std::string_view key) {
-    std::vector<LintText> texts;
+template <class Number>
+std::vector<LintText<Number>> Texts(store::Adventure& adventure, TableNum table, std::string_view fields,
+                                    std::string_view key) {
+    std::vector<LintText<Number>> texts;
     ForEachRow(adventure, table, fields, key, [&](const PreparedQuery& row) {
-        texts.push_back({row.Number(0), std::string(row.Text(1))});
+        texts.push_back({Number(Int(row, 0)), std::string(row.Text(1))});
     });
     return texts;
 }
@@ -91,9 +92,11 @@ void LintGame::Read(store::Adventure& adventure) {
                                       WordNumber(Int(row, 2)), WordNumber(Int(row, 3)),
                                       (row.Number(4) & condacts::attribute::kContainer) != 0});
                });
-    messages = Texts(adventure, TableNum::Messages, "msgnum, msgmsg", "msgnum");
-    systemMessages = Texts(adventure, TableNum::SystemMessages, "smsgnum, smsgmsg", "smsgnum");
-    processes = Texts(adventure, TableNum::ProcDesc, "pmsgnum, pmsgmsg", "pmsgnum");
+    messages = Texts<condacts::MessageNumber>(adventure, TableNum::Messages, "msgnum, msgmsg", "msgnum");
+    systemMessages = Texts<condacts::SystemMessageNumber>(adventure, TableNum::SystemMessages,
+                                                          "smsgnum, smsgmsg", "smsgnum");
+    processes =
+        Texts<condacts::ProcessNumber>(adventure, TableNum::ProcDesc, "pmsgnum, pmsgmsg", "pmsgnum");
     ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgdesc", "flgnum",
                [&](const PreparedQuery& row) {
                    flags.push_back({condacts::FlagNumber(Int(row, 0)),

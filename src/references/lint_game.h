@@ -60,8 +60,9 @@ bool Holds(const std::string_view (&names)[Size], std::string_view name) {
 }
 
 /// Of a message, a system message or a process table.
+template <class Number>
 struct LintText {
-    std::int64_t number = 0;
+    Number number;
     std::string text;
 };
 
@@ -95,9 +96,9 @@ struct LintGame {
     std::vector<std::unique_ptr<LintEntry>> entries;
     std::vector<LintLocation> locations;
     std::vector<LintObject> objects;
-    std::vector<LintText> messages;
-    std::vector<LintText> systemMessages;
-    std::vector<LintText> processes;
+    std::vector<LintText<condacts::MessageNumber>> messages;
+    std::vector<LintText<condacts::SystemMessageNumber>> systemMessages;
+    std::vector<LintText<condacts::ProcessNumber>> processes;
     std::vector<LintFlag> flags;
     std::vector<LintWord> words;
     std::vector<LintPicture> pictures;

@@ -80,11 +80,11 @@ bool SaysNothing(std::string_view text) {
 }
 
 void CheckTexts(const LintGame& game, Findings& findings) {
-    for (const LintText& message : game.messages) {
-        const Target target{Kind::Message, static_cast<int>(message.number)};
+    for (const auto& message : game.messages) {
+        const Target target{Kind::Message, message.number.value};
         if (!SaysNothing(message.text) || game.UsesOf(target).empty()) continue;
-        findings.Add("text-empty", TableNum::Messages, message.number,
-                     "Message " + std::to_string(message.number) + " is printed and says nothing.");
+        findings.Add("text-empty", TableNum::Messages, message.number.value,
+                     "Message " + std::to_string(message.number.value) + " is printed and says nothing.");
     }
 }
 

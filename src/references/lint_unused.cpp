@@ -18,7 +18,7 @@ using store::TableNum;
 constexpr std::string_view kImportedDescription = "Used by this Adventure.";
 
 /// The system messages that every new adventure has.
-constexpr int kLastOfTheData = 55;
+constexpr condacts::SystemMessageNumber kLastOfTheData{55};
 
 bool IsUsed(const LintGame& game, Kind kind, std::int64_t number, WordTypes types = kAnyType) {
     return !game.index.UsesOf({kind, static_cast<int>(number)}, types).empty();
@@ -66,16 +66,17 @@ void CheckUnusedObjects(const LintGame& game, Findings& findings) {
 }
 
 void CheckUnusedTexts(const LintGame& game, Findings& findings) {
-    for (const LintText& message : game.messages) {
-        if (IsUsed(game, Kind::Message, message.number)) continue;
-        findings.Add("message-unused", TableNum::Messages, message.number,
-                     "No rule prints message " + std::to_string(message.number) + ".");
+    for (const auto& message : game.messages) {
+        if (IsUsed(game, Kind::Message, message.number.value)) continue;
+        findings.Add("message-unused", TableNum::Messages, message.number.value,
+                     "No rule prints message " + std::to_string(message.number.value) + ".");
     }
-    for (const LintText& message : game.systemMessages) {
-        if (message.number <= kLastOfTheData || IsUsed(game, Kind::SystemMessage, message.number)) continue;
-        findings.Add(
-            "sysmess-unused", TableNum::SystemMessages, message.number,
-            "Neither the engine nor a rule prints system message " + std::to_string(message.number) + ".");
+    for (const auto& message : game.systemMessages) {
+        if (message.number <= kLastOfTheData || IsUsed(game, Kind::SystemMessage, message.number.value))
+            continue;
+        findings.Add("sysmess-unused", TableNum::SystemMessages, message.number.value,
+                     "Neither the engine nor a rule prints system message " +
+                         std::to_string(message.number.value) + ".");
     }
 }
 
@@ -103,16 +104,16 @@ void CheckProcesses(const LintGame& game, Findings& findings) {
     std::set<condacts::ProcessNumber> withEntries;
     for (const auto& entry : game.entries)
         withEntries.insert(entry->process);
-    for (const LintText& process : game.processes) {
-        const auto& uses = game.UsesOf({Kind::Process, static_cast<int>(process.number)});
+    for (const auto& process : game.processes) {
+        const auto& uses = game.UsesOf({Kind::Process, process.number.value});
         const bool called = std::any_of(uses.begin(), uses.end(),
                                         [](const KeptUse& kept) { return kept.use.field == "condacts"; });
-        const std::string name = std::to_string(process.number);
+        const std::string name = std::to_string(process.number.value);
         if (!called && process.number > condacts::limit::kLastFixedProcess)
-            findings.Add("process-unused", TableNum::ProcDesc, process.number,
+            findings.Add("process-unused", TableNum::ProcDesc, process.number.value,
                          "No rule calls process table " + name + ".");
-        if (called && !withEntries.contains(condacts::ProcessNumber(static_cast<int>(process.number))))
-            findings.Add("process-empty", TableNum::ProcDesc, process.number,
+        if (called && !withEntries.contains(process.number))
+            findings.Add("process-empty", TableNum::ProcDesc, process.number.value,
                          "Process table " + name + " is called and has no entries.");
     }
 }

@@ -125,7 +125,7 @@ class Planner {
             case Kind::Object:
                 return condacts::HighestObject(adventure_.Kind());
             case Kind::Process:
-                return condacts::limit::kHighestProcess;
+                return condacts::limit::kHighestProcess.value;
             case Kind::CharacterSet:
                 return kLastCharacterSet;
             case Kind::Flag:
@@ -165,7 +165,7 @@ class Planner {
             case Kind::SystemMessage:
                 return number <= condacts::message::kNothingThere.value;
             case Kind::Process:
-                return number <= condacts::limit::kLastFixedProcess;
+                return number <= condacts::limit::kLastFixedProcess.value;
             default:
                 return false;
         }

@@ -481,10 +481,24 @@ TEST(Beep, PlaysNothingAndSkipsTheNotesWaitWithSoundOff) {
     EXPECT_EQ(run->Flag(200), 255);
 }
 
+TEST(Beep, WaitsForNoNoteThatThereIsNot) {
+    for (const char* beep : {"CLEAR 1012 BEEP 50 255 SET 200", "CLEAR 1012 BEEP 50 32000 SET 200"}) {
+        const auto run = Sounding().Do(beep);
+        EXPECT_TRUE(run->sound.notes.empty()) << beep;
+        EXPECT_TRUE(run->window.waits.empty()) << beep;
+        EXPECT_EQ(run->Flag(200), 255) << beep;
+    }
+}
+
+TEST(Beep, PlaysTheLowestAndTheHighestNote) {
+    EXPECT_EQ(Sounding().Do("BEEP 1 0")->sound.notes.front().first, -60);
+    EXPECT_EQ(Sounding().Do("BEEP 1 254")->sound.notes.front().first, 67);
+}
+
 TEST(Beep, SkipsTheNotesWaitWhenTheDeviceIsSilent) {
     GameBuilder game = Sounding();
     const auto run = game.Entry(0, "DO", "_", "CLEAR 1012 BEEP 50 144 SET 200").Start();
-    run->sound.sounds = false;
+    run->sound.SetSilent(true);
     run->Type("DO");
     EXPECT_TRUE(run->window.waits.empty());
     EXPECT_EQ(run->Flag(200), 255);

@@ -87,7 +87,7 @@ TEST(Origin, IsTheSameForAllRunsOfAText) {
     GameBuilder game;
     game.Message(1, "plain<BRIGHT>bright</BRIGHT> and the rest of it");
     auto run = game.Entry(0, "DO", "_", "MES 1").Start();
-    run->window.printWidth = 12;
+    run->window.measures.textWidth = 12;
     run->Type("DO");
     for (const char* piece : {"plain", "bright", "rest", "it"})
         EXPECT_EQ(OriginOf(*run, piece), "Process 0, entry 0 (record 0), MES 1 | message 1") << piece;

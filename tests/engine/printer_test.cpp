@@ -19,7 +19,7 @@ class PrinterTest : public testing::Test {
 
     void UseCharacterPane() {
         settings_.characterSets = true;
-        window_.printWidth = 256;
+        window_.measures.characterWidth = 256;
         UseData();
     }
 
@@ -29,7 +29,7 @@ class PrinterTest : public testing::Test {
         settings_.font = 0;
         settings_.fontSize = 12;
         settings_.printWidth = 40;
-        printer_ = std::make_unique<engine::Printer>(window_, settings_, script_);
+        printer_ = std::make_unique<engine::Printer>(window_, window_.measures, settings_, script_);
     }
 
     /// Prints a text and gives the screen.
@@ -65,39 +65,39 @@ TEST_F(PrinterTest, OtherLineEndsEndALineToo) {
 }
 
 TEST_F(PrinterTest, AWordThatDoesNotFitGoesToTheNextLine) {
-    window_.printWidth = 10;
+    window_.measures.textWidth = 10;
     EXPECT_EQ(Screen("aaaa bbbb cccc"), "aaaa bbbb \ncccc");
 }
 
 TEST_F(PrinterTest, AWordThatJustFitsStays) {
-    window_.printWidth = 9;
+    window_.measures.textWidth = 9;
     EXPECT_EQ(Screen("aaaa bbbb cccc"), "aaaa bbbb \ncccc");
 }
 
 TEST_F(PrinterTest, AWordLongerThanTheLineStandsOnALineOfItsOwn) {
-    window_.printWidth = 5;
+    window_.measures.textWidth = 5;
     EXPECT_EQ(Screen("aa bbbbbbbb cc"), "aa \nbbbbbbbb \ncc");
 }
 
 TEST_F(PrinterTest, ALongWordAtTheStartOfALineIsNotPrecededByAnEmptyLine) {
-    window_.printWidth = 5;
+    window_.measures.textWidth = 5;
     EXPECT_EQ(Screen("bbbbbbbb"), "bbbbbbbb");
 }
 
 TEST_F(PrinterTest, WidthsCountCharactersNotBytes) {
-    window_.printWidth = 5;
+    window_.measures.textWidth = 5;
     EXPECT_EQ(Screen("äöü äöü"), "äöü \näöü");
 }
 
 TEST_F(PrinterTest, TheColumnGoesOnFromTextToText) {
-    window_.printWidth = 10;
+    window_.measures.textWidth = 10;
     printer_->PrintText("aaaa ", false, true);
     printer_->PrintText("bbbbbb", false, true);
     EXPECT_EQ(window_.Screen(), "aaaa \nbbbbbb");
 }
 
 TEST_F(PrinterTest, WrappedLineEndsAreToldFromHardOnes) {
-    window_.printWidth = 10;
+    window_.measures.textWidth = 10;
     Screen("aaaa bbbb cccc\u008Cdddd");
     EXPECT_EQ(window_.Text(), "aaaa bbbb cccc\ndddd\n");
 }
@@ -124,19 +124,19 @@ TEST_F(PrinterTest, AnAmpersandBehindAnEntityMakesNoSecondOne) {
 }
 
 TEST_F(PrinterTest, TheBlankEntityDoesNotBreakALine) {
-    window_.printWidth = 10;
+    window_.measures.textWidth = 10;
     EXPECT_EQ(Screen("aaaa bb&sp;cc&sp;dd"), "aaaa \nbb cc dd");
 }
 
 TEST_F(PrinterTest, AWindowThatBreaksLinesGetsTheBlanksThatDoNotBreakAsNoBreakSpaces) {
-    window_.breaksLines = true;
+    window_.measures.breaksLines = true;
     EXPECT_EQ(Screen("aaaa bb&sp;cc\x7F"
                      "dd"),
               "aaaa bb\u00A0cc\u00A0dd");
 }
 
 TEST_F(PrinterTest, TheHardSpaceIsABlankThatDoesNotBreakALine) {
-    window_.printWidth = 10;
+    window_.measures.textWidth = 10;
     EXPECT_EQ(Screen("aaaa bb\x7F"
                      "cc\x7F"
                      "dd"),
@@ -231,7 +231,7 @@ TEST_F(PrinterTest, ACharacterNumberThatIsNoneIsIgnored) {
 }
 
 TEST_F(PrinterTest, AWordIsBrokenBetweenItsTags) {
-    window_.printWidth = 10;
+    window_.measures.textWidth = 10;
     EXPECT_EQ(Screen("aaaa bbb<INK=2>cccc"), "aaaa bbb\ncccc");
 }
 
@@ -285,7 +285,7 @@ TEST_F(PrinterTest, PromptsAreToldFromTheGamesText) {
 TEST_F(PrinterTest, ClearsInTheGamesPaperAndTheInkInForce) {
     printer_->PrintText("abc", false, true);
     printer_->Clear();
-    window_.printWidth = 4;
+    window_.measures.textWidth = 4;
     printer_->PrintText("defg", false, true);
     EXPECT_EQ(window_.Screen(), "defg");
 }

@@ -164,7 +164,7 @@ TEST(WrittenScript, HasNoLooksAndIsNotWrapped) {
                          .Word("LOOK", 110, 0)
                          .Entry(0, "LOOK", "_", "MESSAGE 4")
                          .Start();
-    run->window.printWidth = 8;
+    run->window.measures.textWidth = 8;
     run->window.AnswerFile(run->File("out.scr"));
     run->Type("WRITE");
     run->Type("LOOK");

@@ -33,16 +33,16 @@ struct ObjectSpec {
 class RecordingSound final : public engine::SoundPlayer {
   public:
     void Configure(const engine::SoundSettings& given) override { settings = given; }
-    bool PlayTone(int note, std::chrono::milliseconds length) override {
+    void PlayTone(int note, std::chrono::milliseconds length) override {
         notes.emplace_back(note, length.count());
-        return sounds;
     }
     void SetVoice(int voice) override { voices.push_back(voice); }
 
     engine::SoundSettings settings;
     std::vector<std::pair<int, long long>> notes;  ///< note and milliseconds
     std::vector<int> voices;
-    bool sounds = true;  ///< false: as if there were no device
+
+    using SoundPlayer::SetSilent;  ///< true: as if there were no device
 };
 
 /// Gives the numbers that a test queued, then 50 (or the highest that is asked, if that is lower).
@@ -52,7 +52,7 @@ class QueuedRandom final : public platform::RandomSource {
     std::deque<int> numbers;
 };
 
-class RecordingTrace final : public engine::TraceSink {
+class RecordingTrace final : public engine::TextTrace {
   public:
     void WriteLine(std::string_view line) override { lines.emplace_back(line); }
     bool Has(std::string_view line) const;

@@ -23,7 +23,7 @@ class RecordingWindow final : public WholeWindow, public OriginSink {
         TextRole role = TextRole::Game;
         Origin origin;  ///< where the window's Parts were given to the engine
     };
-    WindowParts Parts() { return {this, this, this, this, this, this}; }
+    WindowParts Parts() { return {this, this, this, this, this, this, &measures}; }
 
     /// What the game said since the last call: line ends as "\n", lines not wrapped, without prompts and
     /// typed lines.
@@ -39,10 +39,8 @@ class RecordingWindow final : public WholeWindow, public OriginSink {
     /// Where the latest run that holds `text` came from; throws as StyleOf does.
     const Origin& OriginOf(std::string_view text) const { return LatestRun(text).origin; }
 
-    /// How wide the pane is, in the unit of PrintWidth. No line breaks at first.
-    int printWidth = kNoWidthLimit;
-    int characterAdvance = 8;
-    bool breaksLines = false;
+    /// Of the panes. No line breaks at first.
+    PaneMeasures measures{.characterAdvance = 8};
 
     GameLook look;
     int starts = 0;
@@ -67,9 +65,6 @@ class RecordingWindow final : public WholeWindow, public OriginSink {
 
     void StartGame(const GameLook& gameLook) override;
     void EndGame() override;
-    int PrintWidth() const override { return printWidth; }
-    bool BreaksLines() const override { return breaksLines; }
-    int CharacterAdvance() const override { return characterAdvance; }
     void Write(std::string_view text, const TextStyle& style, TextRole role) override;
     void Printing(std::string_view, const Origin& origin) override { origin_ = origin; }
     void EndLine(LineEnd kind) override;

@@ -16,9 +16,12 @@ const std::string kDebugHelp =
     "to 0; "
     ":=5 gives it a value, or the object a location.";
 
+constexpr engine::PaneMeasures kPanes{.breaksLines = true};
+
 engine::WindowParts PartsOf(TerminalWindow& window, const PlayOptions& options) {
     engine::WindowParts parts = window.Parts();
     parts.origins = options.origins;
+    parts.measures = &kPanes;
     return parts;
 }
 

@@ -56,7 +56,7 @@ std::optional<std::filesystem::path> TerminalWindow::AskForFile(const engine::Fi
         return std::nullopt;
     }
     if (!request.forWriting || !exists || !screen_.IsInteractive()) return file;
-    if (!Confirm(name.string() + " exists already. Replace it?", request.title)) return std::nullopt;
+    if (!Confirm(name.string() + " exists already. Replace it?")) return std::nullopt;
     return file;
 }
 
@@ -78,8 +78,8 @@ void TerminalWindow::Tell(std::string_view text, std::string_view) {
     screen_.Say(text);
 }
 
-bool TerminalWindow::Confirm(std::string_view text, std::string_view) {
-    const std::string answer = Ask(std::string(text) + " (Y/N)").value_or("");
+bool TerminalWindow::Confirm(const std::string& question) {
+    const std::string answer = Ask(question + " (Y/N)").value_or("");
     return text::UpperCase(text::Left(answer, 1)) == "Y";
 }
 

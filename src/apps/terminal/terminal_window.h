@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "engine/game_window.h"
-#include "platform/person.h"
+#include "platform/teller.h"
 #include "terminal/player_files.h"
 #include "terminal/screen.h"
 
@@ -15,7 +15,7 @@ namespace fabula::terminal {
 
 /// The window of a game on a screen of text, and its boxes. Pictures and status are not shown. Lines break
 /// at the screen's width, not at the game's.
-class TerminalWindow final : public engine::WholeWindow, public platform::Person {
+class TerminalWindow final : public engine::WholeWindow, public platform::Teller {
   public:
     TerminalWindow(Screen& screen, const PlayerFiles& files) : screen_(screen), files_(files) {}
 
@@ -34,9 +34,6 @@ class TerminalWindow final : public engine::WholeWindow, public platform::Person
 
     void StartGame(const engine::GameLook& look) override;
     void EndGame() override;
-    int PrintWidth() const override { return engine::kNoWidthLimit; }
-    bool BreaksLines() const override { return true; }
-    int CharacterAdvance() const override { return 1; }
     void Write(std::string_view text, const engine::TextStyle& style, engine::TextRole role) override;
     void EndLine(engine::LineEnd kind) override;
     void Clear(int paper, int ink) override;
@@ -54,9 +51,9 @@ class TerminalWindow final : public engine::WholeWindow, public platform::Person
     std::optional<std::filesystem::path> AskForFile(const engine::FileRequest& request);
 
     void Tell(std::string_view text, std::string_view title) override;
-    bool Confirm(std::string_view text, std::string_view title) override;
 
   private:
+    bool Confirm(const std::string& question);
     std::optional<std::string> Ask(std::string_view question);
 
     Screen& screen_;

@@ -91,7 +91,7 @@ ScreenRequest AddProcessEntry(ScreenContext& context) {
         context.currentEntry = 0;
         // Games of type Marlo have the first two tables only.
         if (condacts::DialectOf(adventure.AdventureType()) != condacts::Dialect::Marlo)
-            context.currentESNum = condacts::limit::kLastFixedProcess;
+            context.currentESNum = condacts::limit::kLastFixedProcess.value;
     }
     return {.screen = Screen::ProcessEntry,
             .key = {.key = context.nextEntry, .isNew = true},
@@ -154,7 +154,7 @@ bool MayEditWord(ScreenContext& context) {
 
 /// The first three tables are there in every game, and `deed` ("edited") can't be done to them.
 bool MayChangeProcess(ScreenContext& context, std::string_view deed) {
-    if (context.currentEntry > condacts::limit::kLastFixedProcess) return true;
+    if (context.currentEntry > condacts::limit::kLastFixedProcess.value) return true;
     context.dialogs.Tell("That Process table Description cannot be " + std::string(deed),
                          "Process Description Information");
     return false;
@@ -171,7 +171,7 @@ bool StandsBeside(ScreenContext& context) {
         case TableNum::Flags:
             return IsEditableFlag(context).value_or(false);
         case TableNum::ProcDesc:
-            return context.currentEntry > condacts::limit::kLastFixedProcess;
+            return context.currentEntry > condacts::limit::kLastFixedProcess.value;
         default:
             return true;
     }

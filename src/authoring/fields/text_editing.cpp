@@ -13,12 +13,8 @@ namespace {
 /// A game's window that keeps the lines it is given and is nothing else of a window.
 class PreviewWindow final : public engine::GameWindow {
   public:
-    explicit PreviewWindow(int width) : width_(width) {}
-
     std::vector<ShownLine> TakeLines() { return std::move(lines_); }
 
-    int PrintWidth() const override { return width_; }
-    int CharacterAdvance() const override { return 1; }
     void Write(std::string_view text, const engine::TextStyle& style, engine::TextRole) override {
         lines_.back().push_back({std::string(text), style, {}});
     }
@@ -26,7 +22,6 @@ class PreviewWindow final : public engine::GameWindow {
     void Clear(int, int) override {}
 
   private:
-    int width_;
     std::vector<ShownLine> lines_{1};
 };
 
@@ -75,9 +70,10 @@ int TextEditing::PreviewColumns() const {
 
 ShownText TextEditing::Print(std::string_view text, int width) const {
     const std::string_view shown = text::Left(text, kLongestPreview);
-    PreviewWindow window(width);
+    const engine::PaneMeasures measures{.textWidth = width, .characterWidth = width};
+    PreviewWindow window;
     engine::Script noScript;
-    engine::Printer printer(window, settings_, noScript);
+    engine::Printer printer(window, measures, settings_, noScript);
     printer.PrintText(shown, true, true);
     ShownText result{window.TakeLines(), shown.size() == text.size()};
     for (ShownLine& line : result.lines) {

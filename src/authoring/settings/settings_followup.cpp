@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "authoring/fields/picture_choice.h"
+#include "condacts/numbers.h"
 #include "platform/error.h"
 #include "store/cursor.h"
 #include "text/str_edit.h"
@@ -51,13 +52,13 @@ class PictureCopies {
     }
 
     void CopyOfLocations() {
-        for (const int location : Locations(kLocationPicture.path)) {
-            Copy(OpenLocation(location), kLocationPicture, "Location " + std::to_string(location));
+        for (const condacts::PlaceNumber location : Locations(kLocationPicture.path)) {
+            Copy(OpenLocation(location), kLocationPicture, "Location " + std::to_string(location.value));
         }
     }
 
     void ForgetCopies() {
-        for (const int location : Locations(kLocationPicture.oldPath))
+        for (const condacts::PlaceNumber location : Locations(kLocationPicture.oldPath))
             Forget(OpenLocation(location), kLocationPicture);
         Forget(adventure_.OpenTable(TableNum::Adventure, AllOf(kDefaultPicture)), kDefaultPicture);
         if (!Has(adventure_, TableNum::Adventure, kAboutPicture)) return;
@@ -72,20 +73,20 @@ class PictureCopies {
 
   private:
     /// The locations that have something in a field. Their pictures stay in the file until each one's turn.
-    std::vector<int> Locations(std::string_view field) {
+    std::vector<condacts::PlaceNumber> Locations(std::string_view field) {
         store::PreparedQuery row = adventure_.Prepare(TableNum::Locations, "locnum, " + std::string(field),
                                                       std::string(field) + "<>''", "locnum");
-        std::vector<int> locations;
+        std::vector<condacts::PlaceNumber> locations;
         for (bool more = row.First({}); more; more = row.Next()) {
             if (!text::TrimBlanks(row.Text(1)).empty())
-                locations.push_back(static_cast<int>(row.Number(0)));
+                locations.emplace_back(static_cast<int>(row.Number(0)));
         }
         return locations;
     }
 
-    Cursor& OpenLocation(int location) {
+    Cursor& OpenLocation(condacts::PlaceNumber location) {
         return adventure_.OpenTable(TableNum::Locations, AllOf(kLocationPicture),
-                                    "locnum=" + std::to_string(location));
+                                    "locnum=" + std::to_string(location.value));
     }
 
     void Copy(Cursor& record, const PictureFields& fields, const std::string& whose) {

@@ -247,7 +247,8 @@ bool SettingsScreen::TestVoice(engine::SoundPlayer& player) {
                       .balance = balance,
                       .bass = bass});
     voiceTested_ = true;
-    return player.PlayTone(kTestNote, kTestLength);
+    player.PlayTone(kTestNote, kTestLength);
+    return !player.IsSilent();
 }
 
 bool SettingsScreen::CheckAll() {

@@ -26,7 +26,7 @@ struct SearchOrder {
 };
 inline constexpr PlaceNumber kInside{-1};   ///< in the container that `object` names on entry
 inline constexpr PlaceNumber kNowhere{-2};  ///< no further place
-inline constexpr ObjectNumber kNotFound{condacts::limit::kNoObject};
+inline constexpr ObjectNumber kNotFound = condacts::limit::kNoObject;
 
 /// Finds the object that flags 34 and 35 name. `object` is the container to search on entry, the object
 /// found on return, or kNotFound.

@@ -30,6 +30,17 @@ void AddTone(Game& game, int pitch) {
     game.tones.push_back({kSeriesDuration, pitch, true});
 }
 
+/// Starts a tone. How long it sounds: not at all with the sound off, without anything that plays it, and
+/// for a note that there is not.
+milliseconds StartTone(Game& game, const Tone& tone) {
+    const int note = NoteOf(tone.pitch);
+    if (!game.sitting.soundOn || note < kLowestNote || note > kHighestNote) return milliseconds(0);
+    const milliseconds length(tone.duration > 0 ? tone.duration * 10 : 0);
+    game.host.sound.PlayTone(note, length);
+    // What plays it may be found missing at the first tone.
+    return game.host.sound.IsSilent() ? milliseconds(0) : length;
+}
+
 bool RisingTones(Game& game, int value) {
     for (int i = 0; i <= value; ++i)
         AddTone(game, kLowestPitch + i);
@@ -132,9 +143,8 @@ bool PlayTones(Game& game) {
     while (!game.tones.empty()) {
         const Tone tone = game.tones.front();
         game.tones.pop_front();
-        const milliseconds length(tone.duration > 0 ? tone.duration * 10 : 0);
-        const bool sounds = game.sitting.soundOn && game.host.sound.PlayTone(NoteOf(tone.pitch), length);
-        const milliseconds wait = (sounds ? length : milliseconds(0)) + PauseBehind(game, tone);
+        const milliseconds sounds = StartTone(game, tone);
+        const milliseconds wait = sounds + PauseBehind(game, tone);
         if (wait.count() == 0) continue;
         game.runner.Wait(wait);
         return true;

@@ -20,7 +20,7 @@ constexpr FileRequest kWriteScriptRequest = {"Output SCRIPT Name", "Fabula Scrip
 constexpr FileRequest kReadScriptRequest = {"Input SCRIPT Name", "Fabula Script|*.scr", "scr", false};
 
 bool Fail(Game& game, std::string_view message) {
-    game.host.person.Tell(message, kErrorTitle);
+    game.host.teller.Tell(message, kErrorTitle);
     game.done = true;
     return true;
 }

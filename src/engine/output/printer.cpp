@@ -45,8 +45,13 @@ enum TagCode {
 
 }  // namespace
 
-Printer::Printer(GameWindow& window, const TextSettings& settings, Script& script)
-    : window_(window), settings_(settings), script_(script), sizeCode_(settings.fontSize) {
+Printer::Printer(GameWindow& window, const PaneMeasures& measures, const TextSettings& settings,
+                 Script& script)
+    : window_(window),
+      measures_(measures),
+      settings_(settings),
+      script_(script),
+      sizeCode_(settings.fontSize) {
     CharSet(settings.font);
     FontSize(settings.fontSize);
     ResetColours();
@@ -61,8 +66,8 @@ void Printer::PrintText(std::string_view text, bool freshStart, bool restoreAttr
                         TextRecord record) {
     role_ = role;
     record_ = record;
-    width_ = window_.PrintWidth();
-    advance_ = CharacterPane() ? std::max(1, window_.CharacterAdvance()) : 1;
+    width_ = CharacterPane() ? measures_.characterWidth : measures_.textWidth;
+    advance_ = CharacterPane() ? std::max(1, measures_.characterAdvance) : 1;
     if (freshStart) {
         if (column_ > 0) EndLine(LineEnd::Hard);
         ResetColours();
@@ -187,7 +192,7 @@ void Printer::SendPiece(std::string_view piece) {
     const int length = static_cast<int>(std::min<std::size_t>(text::Length(decoded_), kNoWidthLimit));
     if (!CharacterPane() && column_ > 0 && column_ + length > width_) EndLine(LineEnd::Wrapped);
     // Words end at blanks, so that those in a longer piece are the ones that do not break.
-    if (length > 1 && window_.BreaksLines() && decoded_.find(' ') != std::string::npos) {
+    if (length > 1 && measures_.breaksLines && decoded_.find(' ') != std::string::npos) {
         decoded_ = text::ReplaceAll(decoded_, " ", kNoBreakSpace);
     }
     Send(decoded_, length);

@@ -35,7 +35,7 @@ class Script;
 /// A tag that the catalogue lacks is left away.
 class Printer {
   public:
-    Printer(GameWindow& window, const TextSettings& settings, Script& script);
+    Printer(GameWindow& window, const PaneMeasures& measures, const TextSettings& settings, Script& script);
 
     /// From here on `sink` learns where each run of text comes from; nullptr: no one does. `runner` knows
     /// where the game stands.
@@ -92,6 +92,7 @@ class Printer {
     int TextColumn() const { return column_ / advance_; }
 
     GameWindow& window_;
+    const PaneMeasures& measures_;
     const TextSettings& settings_;
     Script& script_;
     OriginSink* origins_ = nullptr;

@@ -14,7 +14,7 @@ namespace fabula::engine {
 std::string TraceFileName(const platform::DateTime& begun);
 
 /// A trace written to a file as the game runs. A disk that fills up ends the trace, not the game.
-class TraceFile final : public TraceSink {
+class TraceFile final : public TextTrace {
   public:
     /// Begins the file with `header`. Throws fabula::Error when it can't be written.
     TraceFile(const std::filesystem::path& file, std::string_view header);

@@ -6,11 +6,17 @@
 
 namespace fabula::engine {
 
-/// Where the events of a trace go. One that overrides nothing else gets them as lines.
+/// Where the events of a trace go.
 class TraceSink {
   public:
     virtual ~TraceSink() = default;
-    virtual void Tell(const TraceEvent& event) {
+    virtual void Tell(const TraceEvent& event) = 0;
+};
+
+/// A trace as text: gets the lines of the events.
+class TextTrace : public TraceSink {
+  public:
+    void Tell(const TraceEvent& event) final {
         for (const std::string& line : LinesOf(event))
             WriteLine(line);
     }

@@ -22,7 +22,6 @@ using store::TableNum;
 constexpr std::string_view kBell = "BELL";
 constexpr std::string_view kInPlaceOfBell = "BEEP 120 100";
 constexpr std::size_t kTokensInPlaceOfBell = 3;
-constexpr int kLastDescribedByDefault = 2;
 
 condacts::Catalogue WithBell(const condacts::Catalogue& catalogue) {
     std::vector<CondAct> condActs = catalogue.All();
@@ -75,16 +74,16 @@ void PcProcesses::Begin(const std::vector<std::string_view>& words) {
         job_.Fault("ERROR: Too many process tables.");
         return;
     }
-    ++process_;
+    ++process_.value;
     const auto number = words.size() > 1 ? condacts::NumberOfToken(words[1]) : std::nullopt;
-    if (number != process_) {
+    if (number != process_.value) {
         const std::string_view given = words.size() > 1 ? words[1] : std::string_view();
-        job_.Fault("Changed Process # from " + std::string(given) + " to " + std::to_string(process_),
+        job_.Fault("Changed Process # from " + std::string(given) + " to " + std::to_string(process_.value),
                    given);
     }
     job_.FaultBehind(words, 2);
-    if (process_ > kLastDescribedByDefault && !descriptions_->Has(process_)) {
-        descriptions_->Add(process_).SetField("pmsgmsg", std::string(" "));
+    if (process_ > condacts::limit::kLastFixedProcess && !descriptions_->Has(process_.value)) {
+        descriptions_->Add(process_.value).SetField("pmsgmsg", std::string(" "));
         descriptions_->Update();
     }
 }
@@ -216,7 +215,7 @@ void PcProcesses::Flush() {
 void PcProcesses::Store() {
     const std::int64_t key = entries_->HighestKey() + 1;
     Cursor& record = entries_->Add(key);
-    record.SetField("estype", std::int64_t{process_});
+    record.SetField("estype", std::int64_t{process_.value});
     record.SetField("w1", entry_->w1);
     record.SetField("w2", entry_->w2);
     record.SetField("w1num", std::int64_t{entry_->w1Number.value});

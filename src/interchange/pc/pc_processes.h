@@ -57,7 +57,7 @@ class PcProcesses final : public PcSection {
     condacts::Catalogue withBell_;  ///< the catalogue and BELL, which this system does not have
     std::unique_ptr<KeyedTable> entries_;
     std::unique_ptr<KeyedTable> descriptions_;
-    int process_ = -1;
+    condacts::ProcessNumber process_{-1};
     bool skipping_ = false;  ///< behind the last table that there may be
     std::unique_ptr<Entry> entry_;
     bool hadBell_ = false;

@@ -265,7 +265,7 @@ class SourceWriter {
         store::PreparedQuery tables =
             context_.adventure.Prepare(TableNum::ProcDesc, "pmsgnum", "pmsgnum>=0", "pmsgnum desc");
         if (tables.First({})) highest = std::max(highest, tables.Number(0));
-        return std::min<std::int64_t>(highest, condacts::limit::kHighestProcess);
+        return std::min<std::int64_t>(highest, condacts::limit::kHighestProcess.value);
     }
 
     /// A reader leaves out an entry whose words are not what their places ask for.

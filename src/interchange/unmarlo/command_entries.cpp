@@ -73,7 +73,7 @@ void AddEntries(ListingJob& job, const EntryCommand (&commands)[count]) {
     for (const EntryCommand& command : commands) {
         if (HasEntry(job.Adventure(), command)) continue;
         ListedEntries(job.Adventure())
-            .Add({0, command.w1, command.w2, EntryWordNumber(words, command.w1),
+            .Add({condacts::kResponses, command.w1, command.w2, EntryWordNumber(words, command.w1),
                   EntryWordNumber(words, command.w2), command.condActs},
                  job.catalogue, words);
     }

@@ -35,7 +35,7 @@ std::string FaultOf(const ParsedLine& parsed) {
 void ListedEntries::Add(const ListedEntry& entry, const condacts::Catalogue& catalogue,
                         const condacts::WordIndex& words) {
     Cursor& record = table_.Add(table_.HighestKey() + 1);
-    record.SetField("estype", std::int64_t{entry.table});
+    record.SetField("estype", std::int64_t{entry.table.value});
     record.SetField("w1", entry.w1);
     record.SetField("w2", entry.w2);
     record.SetField("w1num", std::int64_t{entry.w1Number.value});

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "condacts/process_numbers.h"
 #include "condacts/words.h"
 #include "interchange/unmarlo/listing_job.h"
 
@@ -11,7 +12,7 @@ namespace fabula::interchange {
 
 /// An entry of a process table as a listing has it.
 struct ListedEntry {
-    int table = 0;  ///< `estype`
+    condacts::ProcessNumber table;  ///< `estype`
     std::string w1;
     std::string w2;
     condacts::WordNumber w1Number = condacts::kNoWordNumber;

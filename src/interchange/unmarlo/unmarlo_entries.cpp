@@ -13,12 +13,11 @@ constexpr Columns kSecondWord{11, 4};
 constexpr Columns kCondAct{20, 16};
 constexpr Columns kFirstLetter{6, 1};
 
-constexpr const char* kLoaded[] = {"Loaded Marlo Response Table.\n", "Loaded Marlo Status Table.\n"};
-
 /// The response or the status table. The numbers of words are found when the vocabulary is known.
 class MarloEntries final : public UnMarloSection {
   public:
-    MarloEntries(ListingJob& job, int table) : job_(job), table_(table), entries_(job.Adventure()) {
+    MarloEntries(ListingJob& job, condacts::ProcessNumber table)
+        : job_(job), table_(table), entries_(job.Adventure()) {
         pending_.table = table;
     }
 
@@ -37,7 +36,8 @@ class MarloEntries final : public UnMarloSection {
 
     void Finish() override {
         Flush();
-        job_.Status(kLoaded[table_]);
+        job_.Status(table_ == condacts::kResponses ? "Loaded Marlo Response Table.\n"
+                                                   : "Loaded Marlo Status Table.\n");
     }
 
   private:
@@ -53,14 +53,14 @@ class MarloEntries final : public UnMarloSection {
     }
 
     ListingJob& job_;
-    int table_;
+    condacts::ProcessNumber table_;
     ListedEntries entries_;
     ListedEntry pending_;
 };
 
 }  // namespace
 
-std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, int table) {
+std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, condacts::ProcessNumber table) {
     return std::make_unique<MarloEntries>(job, table);
 }
 

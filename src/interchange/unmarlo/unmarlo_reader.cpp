@@ -136,8 +136,9 @@ class Walk {
     std::unique_ptr<UnMarloSection> SectionOf(std::size_t stage) {
         switch (stage) {
             case 1:
+                return UnMarloEntries(job_, condacts::kResponses);
             case 2:
-                return UnMarloEntries(job_, static_cast<int>(stage) - 1);
+                return UnMarloEntries(job_, condacts::kDescribed);
             case 3:
                 return UnMarloObjects(job_, version_);
             case 4:

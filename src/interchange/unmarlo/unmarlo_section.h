@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "condacts/numbers.h"
 #include "interchange/unmarlo/listing_job.h"
 
 namespace fabula::interchange {
@@ -19,7 +20,7 @@ class UnMarloSection {
 
 // The sections, in the order of the listing; `version` is that of the decompiler.
 
-std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, int table);
+std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, condacts::ProcessNumber table);
 std::unique_ptr<UnMarloSection> UnMarloObjects(ListingJob& job, const std::string& version);
 std::unique_ptr<UnMarloSection> UnMarloLocations(ListingJob& job, const std::string& version);
 std::unique_ptr<UnMarloSection> UnMarloMessages(ListingJob& job, const std::string& version);

@@ -22,7 +22,8 @@ bool IsVerbNounOrReserved(const Word& word) {
 
 class Entries final : public UnVelSection {
   public:
-    Entries(UnVelJob& job, int table) : job_(job), table_(table), entries_(job.Adventure()) {
+    Entries(UnVelJob& job, condacts::ProcessNumber table)
+        : job_(job), table_(table), entries_(job.Adventure()) {
         entry_.table = table;
     }
 
@@ -43,9 +44,9 @@ class Entries final : public UnVelSection {
 
     void Finish() override {
         Flush();
-        if (table_ <= kLastDefaultTable) return;
+        if (table_.value <= kLastDefaultTable) return;
         KeyedTable tables(job_.Adventure(), TableNum::ProcDesc, "pmsgnum");
-        if (!tables.Has(table_)) StoreText(tables, "pmsgmsg", table_, "");
+        if (!tables.Has(table_.value)) StoreText(tables, "pmsgmsg", table_.value, "");
     }
 
   private:
@@ -75,14 +76,14 @@ class Entries final : public UnVelSection {
     }
 
     UnVelJob& job_;
-    int table_;
+    condacts::ProcessNumber table_;
     ListedEntries entries_;
     ListedEntry entry_;
 };
 
 }  // namespace
 
-std::unique_ptr<UnVelSection> UnVelEntries(UnVelJob& job, int table) {
+std::unique_ptr<UnVelSection> UnVelEntries(UnVelJob& job, condacts::ProcessNumber table) {
     return std::make_unique<Entries>(job, table);
 }
 

@@ -77,7 +77,7 @@ std::optional<int> StageOf(std::string_view title) {
         if (row.title == title) return row.stage;
     }
     const auto table = NumberAlone(title, kTableTitle);
-    if (!table || *table > condacts::limit::kHighestProcess) return std::nullopt;
+    if (!table || *table > condacts::limit::kHighestProcess.value) return std::nullopt;
     return kResponsesStage + *table;
 }
 
@@ -181,7 +181,7 @@ class UnVelWalk {
             case kCommentsStage:
                 return nullptr;
             default:
-                return UnVelEntries(job_, stage - kResponsesStage);
+                return UnVelEntries(job_, condacts::ProcessNumber(stage - kResponsesStage));
         }
     }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "condacts/numbers.h"
 #include "condacts/words.h"
 #include "interchange/unmarlo/game_words.h"
 #include "interchange/unmarlo/listing_job.h"
@@ -43,7 +44,7 @@ std::unique_ptr<UnVelSection> UnVelConnections(UnVelJob& job);
 std::unique_ptr<UnVelSection> UnVelObjectWords(UnVelJob& job);
 std::unique_ptr<UnVelSection> UnVelObjectPlaces(UnVelJob& job);
 std::unique_ptr<UnVelSection> UnVelObjectWeights(UnVelJob& job);
-std::unique_ptr<UnVelSection> UnVelEntries(UnVelJob& job, int table);
+std::unique_ptr<UnVelSection> UnVelEntries(UnVelJob& job, condacts::ProcessNumber table);
 std::unique_ptr<UnVelSection> UnVelPictures(UnVelJob& job);
 std::unique_ptr<UnVelSection> UnVelCharacters(UnVelJob& job);
 

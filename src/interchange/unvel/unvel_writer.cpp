@@ -250,7 +250,7 @@ class ExtractWriter {
             store::PreparedQuery rows = context_.adventure.Prepare(table, key, key + ">=0", key + " desc");
             if (rows.First({})) highest = std::max(highest, rows.Number(0));
         }
-        return std::min<std::int64_t>(highest, condacts::limit::kHighestProcess);
+        return std::min<std::int64_t>(highest, condacts::limit::kHighestProcess.value);
     }
 
     void WriteProcesses() {

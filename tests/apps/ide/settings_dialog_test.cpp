@@ -170,7 +170,7 @@ TEST_F(SettingsDialogTest, SoundPageIsUpdatedAfterATestOnly) {
 }
 
 TEST_F(SettingsDialogTest, TestVoiceSaysWhenNothingCanPlay) {
-    sound_.sounds = false;
+    sound_.SetSilent(true);
     Open();
     Part<QPushButton>("testVoice").click();
     EXPECT_EQ(Part<QLabel>("heard").text(),

@@ -116,6 +116,18 @@ TEST(PreferredSound, GivesTheGamesSettingsWithTheDeviceAndTheVolumeOfThePlayer) 
     EXPECT_EQ(sound.settings.voice, 9);
 }
 
+TEST(PreferredSound, IsSilentWhileThePlayerBehindItIs) {
+    RecordingSound sound;
+    player::PreferredSound preferred(sound);
+    EXPECT_FALSE(preferred.IsSilent());
+    sound.SetSilent(true);
+    preferred.PlayTone(0, std::chrono::milliseconds(10));
+    EXPECT_TRUE(preferred.IsSilent());
+    sound.SetSilent(false);
+    preferred.SetChoice({.device = "Piano"});
+    EXPECT_FALSE(preferred.IsSilent());
+}
+
 // Save, Restore, Undo
 
 TEST(WindowCommands, SaveAndRestoreByTheirKeys) {

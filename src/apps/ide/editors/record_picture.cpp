@@ -1,5 +1,6 @@
 #include "ide/editors/record_picture.h"
 
+#include "condacts/numbers.h"
 #include "ide/editors/plane_image.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawing.h"
@@ -25,15 +26,15 @@ QImage KeptImage(store::Adventure& adventure, const std::string& where) {
         QByteArray(reinterpret_cast<const char*>(bytes->data()), static_cast<qsizetype>(bytes->size())));
 }
 
-QImage LocationImage(store::Adventure& adventure, int location) {
-    const std::string where = "locnum=" + std::to_string(location);
+QImage LocationImage(store::Adventure& adventure, condacts::PlaceNumber location) {
+    const std::string where = "locnum=" + std::to_string(location.value);
     const QImage kept = KeptImage(adventure, where);
     if (!kept.isNull()) return kept;
     const store::Cursor& room = adventure.OpenTable(TableNum::Free22, "picloc from locations", where);
     if (room.Eof()) return {};
     const store::GamePath found = store::FindGameFile(adventure.GameDir(), room.Text("picloc"));
     if (found.fault == store::GamePath::Fault::None) return qt::ReadImage(found.file);
-    return DrawnPicture(adventure, location);
+    return DrawnPicture(adventure, location.value);
 }
 
 }  // namespace
@@ -51,7 +52,8 @@ QImage DrawnPicture(store::Adventure& adventure, int number) {
 
 QImage PictureOfRecord(store::Adventure& adventure, TableNum table, int key) {
     if (table == TableNum::Pictures) return DrawnPicture(adventure, key);
-    if (table == TableNum::Locations && adventure.GraphicsOn()) return LocationImage(adventure, key);
+    if (table == TableNum::Locations && adventure.GraphicsOn())
+        return LocationImage(adventure, condacts::PlaceNumber(key));
     return {};
 }
 

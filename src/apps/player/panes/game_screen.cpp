@@ -35,6 +35,9 @@ constexpr char32_t kLastTyped = 126;
 /// What a picture leaves to the text; where it can't, it gives way.
 constexpr int kLeastLines = 5;
 constexpr int kLeastRows = 10;
+/// Whatever the size of the window: the text pane wraps for itself, and the character pane has its pixels.
+constexpr engine::PaneMeasures kPanes{.characterWidth = CharacterScreen::kWidth,
+                                      .characterAdvance = CharacterScreen::kCharacterSize};
 
 }  // namespace
 
@@ -66,6 +69,12 @@ GameScreen::GameScreen(platform::Timers& timers, ScreenEvents events)
 }
 
 GameScreen::~GameScreen() = default;
+
+engine::WindowParts GameScreen::Parts() {
+    engine::WindowParts parts = WholeWindow::Parts();
+    parts.measures = &kPanes;
+    return parts;
+}
 
 void GameScreen::StopAlarms() {
     timeOut_.Stop();
@@ -144,15 +153,6 @@ void GameScreen::EndGame() {
     StopAlarms();
     turnMade_ = true;
     events_.ended();
-}
-
-int GameScreen::PrintWidth() const {
-    // The text pane wraps for itself.
-    return game_.characterSets ? CharacterScreen::kWidth : engine::kNoWidthLimit;
-}
-
-int GameScreen::CharacterAdvance() const {
-    return CharacterScreen::kCharacterSize;
 }
 
 std::string GameScreen::Shown(std::string_view run) const {

@@ -67,6 +67,9 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     /// To be called after each call of the game that may have made a turn.
     void ShowStep();
 
+    /// The parts of the screen, for the engine.
+    engine::WindowParts Parts();
+
     TextPane& Text() { return *text_; }
     CharacterPane& Characters() { return *characters_; }
     PicturePane& Picture() { return *picture_; }
@@ -74,8 +77,6 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
 
     void StartGame(const engine::GameLook& look) override;
     void EndGame() override;
-    int PrintWidth() const override;
-    int CharacterAdvance() const override;
     void Write(std::string_view text, const engine::TextStyle& style, engine::TextRole role) override;
     void EndLine(engine::LineEnd kind) override;
     void Clear(int paper, int ink) override;

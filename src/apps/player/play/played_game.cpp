@@ -31,12 +31,12 @@ std::string SaveNameOf(store::Adventure& adventure) {
 
 /// A game of an older version is upgraded in memory, and the player told so. Where the default data is not
 /// installed, only games of the present form can be played.
-std::unique_ptr<store::Adventure> OpenGame(const std::filesystem::path& file, platform::Person& person) {
+std::unique_ptr<store::Adventure> OpenGame(const std::filesystem::path& file, platform::Teller& teller) {
     const auto folders =
         platform::ProgramDataFolders(platform::RunningProgram(), platform::Environment::OfTheProgram());
     const auto data = platform::FindFile(folders, "Fabula.ini").value_or(std::filesystem::path());
     return upgrades::OpenForReading(file, data,
-                                    [&](std::string_view sentence) { person.Tell(sentence, "Fabula"); });
+                                    [&](std::string_view sentence) { teller.Tell(sentence, "Fabula"); });
 }
 
 /// Set while it lives.
@@ -56,10 +56,10 @@ class Mark {
 PlayedGame::PlayedGame(const std::filesystem::path& file, const std::filesystem::path& dataFolder,
                        const engine::Host& host, platform::Timers& timers, Autosave autosave,
                        const engine::Options& options)
-    : adventure_(OpenGame(file, host.person)),
+    : adventure_(OpenGame(file, host.teller)),
       folder_(FolderOfGame(dataFolder, SaveNameOf(*adventure_), file)),
       engine_(*adventure_, host, InSlices(options)),
-      person_(host.person),
+      teller_(host.teller),
       keeps_(autosave == Autosave::On),
       autosave_(timers, [this] { WriteAutosave(); }) {}
 
@@ -154,12 +154,12 @@ bool PlayedGame::Resume() {
             std::string state = engine::ReadSavedGame(folder_.autosave, game->state);
             taken = engine_.TakeState(state);
             if (!taken)
-                return person_.Tell("The last session can't be resumed: the adventure has changed since.",
+                return teller_.Tell("The last session can't be resumed: the adventure has changed since.",
                                     "Error");
             states_.clear();
             states_.push_back(std::move(state));
         } catch (const Error& error) {
-            person_.Tell(error.what(), "Error");
+            teller_.Tell(error.what(), "Error");
         }
     });
     if (!taken) return ran;

@@ -115,7 +115,7 @@ class PlayedGame {
     std::unique_ptr<store::Adventure> adventure_;
     GameFolder folder_;
     engine::Engine engine_;
-    platform::Person& person_;
+    platform::Teller& teller_;
     FileAsker askForFile_;
     TranscriptFile transcript_;
     bool keeps_;

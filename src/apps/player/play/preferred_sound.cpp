@@ -2,6 +2,10 @@
 
 namespace fabula::player {
 
+PreferredSound::PreferredSound(engine::SoundPlayer& player) : player_(player) {
+    SetSilent(player.IsSilent());
+}
+
 void PreferredSound::SetChoice(const SoundChoice& choice) {
     if (choice == choice_) return;
     choice_ = choice;
@@ -18,10 +22,12 @@ void PreferredSound::Apply() {
     if (!choice_.device.empty()) wanted.deviceName = choice_.device;
     wanted.volume = game_.volume * choice_.volume / 100;
     player_.Configure(wanted);
+    SetSilent(player_.IsSilent());
 }
 
-bool PreferredSound::PlayTone(int note, std::chrono::milliseconds length) {
-    return player_.PlayTone(note, length);
+void PreferredSound::PlayTone(int note, std::chrono::milliseconds length) {
+    player_.PlayTone(note, length);
+    SetSilent(player_.IsSilent());
 }
 
 void PreferredSound::SetVoice(int voice) {

@@ -17,13 +17,13 @@ struct SoundChoice {
 /// Hands a game's tones on, as the player wants to hear them.
 class PreferredSound final : public engine::SoundPlayer {
   public:
-    explicit PreferredSound(engine::SoundPlayer& player) : player_(player) {}
+    explicit PreferredSound(engine::SoundPlayer& player);
 
     /// From the next tone on.
     void SetChoice(const SoundChoice& choice);
 
     void Configure(const engine::SoundSettings& settings) override;
-    bool PlayTone(int note, std::chrono::milliseconds length) override;
+    void PlayTone(int note, std::chrono::milliseconds length) override;
     void SetVoice(int voice) override;
 
   private:
