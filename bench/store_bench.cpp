@@ -39,7 +39,7 @@ void Create(const std::filesystem::path& file) {
     platform::ScriptedPerson person;
     const platform::SystemClock clock;
     platform::NoEvents events;
-    CreateAdventure(true, file, {}, {person, clock, events, test::DefaultData()});
+    CreateAdventure(file, {}, {person, clock, events, test::DefaultData()});
 }
 
 void AddTexts(Adventure& adventure) {

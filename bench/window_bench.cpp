@@ -42,7 +42,7 @@ class Played {
         setup.ChooseCharSets(characterSets);
         const platform::FixedClock clock({2026, 1, 1, 0, 0, 0});
         platform::NoEvents events;
-        store::CreateAdventure(true, file, setup, {dialogs_, clock, events, test::DefaultData()});
+        store::CreateAdventure(file, setup, {dialogs_, clock, events, test::DefaultData()});
         Load(file);
     }
     void Load(const std::filesystem::path& file) { window_.Load(file); }

@@ -23,8 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
     platform::NoEvents events;
     try {
-        store::CreateAdventure(true, folder / "game.fbd", store::AdventureSetup(),
-                               {person, clock, events, file});
+        store::CreateAdventure(folder / "game.fbd", store::AdventureSetup(), {person, clock, events, file});
     } catch (const Error&) {
     }
     std::filesystem::remove_all(folder);

@@ -27,7 +27,7 @@ class DocumentHarness {
         platform::ScriptedPerson person;
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
-        store::CreateAdventure(true, folder / "game.fbd", store::AdventureSetup(),
+        store::CreateAdventure(folder / "game.fbd", store::AdventureSetup(),
                                {person, clock, events, test::DefaultData()});
         document = std::make_unique<authoring::Document>(folder / "game.fbd");
     }

@@ -33,8 +33,7 @@ class ReaderHarness {
         platform::ScriptedPerson person;
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
-        store::CreateAdventure(true, folder_ / "game.fbd", setup,
-                               {person, clock, events, test::DefaultData()});
+        store::CreateAdventure(folder_ / "game.fbd", setup, {person, clock, events, test::DefaultData()});
         adventure_ = store::Adventure::Open(folder_ / "game.fbd");
     }
     ReaderHarness(const ReaderHarness&) = delete;

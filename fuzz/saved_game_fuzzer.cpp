@@ -26,7 +26,7 @@ class GameHarness {
         std::filesystem::create_directories(folder_);
         const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
         platform::NoEvents events;
-        store::CreateAdventure(true, folder_ / "game.fbd", store::AdventureSetup(),
+        store::CreateAdventure(folder_ / "game.fbd", store::AdventureSetup(),
                                {person_, clock, events, test::DefaultData()});
         adventure_ = store::Adventure::Open(folder_ / "game.fbd", store::OpenMode::ReadOnly);
         engine_ = std::make_unique<engine::Engine>(

@@ -70,8 +70,8 @@ class Game {
     std::string cursor;
 
     // The input.
-    std::string command;        ///< text not yet parsed, sentences separated by "\r" (`strCommand`)
-    std::string answer;         ///< to an asking action (`strAnswer`)
+    std::string command;        ///< text not yet parsed, sentences separated by "\r"
+    std::string answer;         ///< to an asking action
     std::string defaultAnswer;  ///< the last character of the question
     bool inputReady = false;    ///< keys are for the game
 

@@ -47,7 +47,7 @@ void ApplySource(Adventure& adventure, const ImportedSettings& imported) {
 /// Builds the new adventure in `file`; false when the reader refused its source.
 bool Build(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& file,
            const std::filesystem::path& target, const JobHost& host, JobStatus& status, SourceMap& places) {
-    store::CreateAdventure(true, file, kind.setup(source),
+    store::CreateAdventure(file, kind.setup(source),
                            {host.person, host.clock, host.events, host.defaultData});
     const auto adventure = Adventure::Open(file);
     store::Transaction transaction(*adventure);
@@ -74,14 +74,10 @@ bool IsBlankPath(const std::filesystem::path& path) {
 }  // namespace
 
 JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
-                   const std::filesystem::path& target, bool replace, const JobHost& host) {
+                   const std::filesystem::path& target, const JobHost& host) {
     JobStatus status(host.observer);
     if (IsBlankPath(source)) {
         host.person.Tell("Source File not specified", "Error");
-        return ResultOf(false, status);
-    }
-    if (!replace && std::filesystem::exists(target) &&
-        !host.person.Confirm("All information in " + target.string() + " will be deleted.", "Warning")) {
         return ResultOf(false, status);
     }
     if (store::IsSameFile(source, target))

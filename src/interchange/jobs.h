@@ -36,12 +36,12 @@ struct JobResult {
 };
 
 /// Reads `source` into a new adventure file. It is made beside `target` and takes its place when all is
-/// well; else nothing is left of it, and `target` is as it was. An existing target is replaced after the
-/// person agreed, or at once with `replace`. What is open elsewhere stays open.
+/// well; else nothing is left of it, and `target` is as it was. An existing target is replaced: who calls
+/// has asked. What is open elsewhere stays open.
 ///
 /// A failing machine is thrown as fabula::Error; nothing is left then either.
 JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
-                   const std::filesystem::path& target, bool replace, const JobHost& host);
+                   const std::filesystem::path& target, const JobHost& host);
 
 /// Checks an adventure for export to a kind, writes what it finds into the status, and gives true when it
 /// may go.

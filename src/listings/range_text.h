@@ -16,11 +16,11 @@ struct RangeCheck {
     bool Passed() const { return fault.empty(); }
 };
 
-/// Checks the text that tells what of a table to list, blanks ignored (ValidateTxtNum):
+/// Checks the text that tells what of a table to list, blanks ignored:
 ///
-///     ProcessTables  numbers and ranges "1,3-5,9", "3-" for all from 3, or ALL; each counts once. What has
-///     no
-///                    record is left out. `special` is a listing of the entries for two words, of one table
+///     ProcessTables  numbers and ranges "1,3-5,9", "3-" for all from 3, or ALL; each counts once. What
+///                    has no record is left out. `special` is a listing of the entries for two words,
+///                    of one table
 ///     Flags          how many flags are listed beyond the first 60; an empty text gives no number
 ///     Pictures       as process tables, but not all of them
 ///     Vocabulary     types of words, as process tables; an empty text is all of them

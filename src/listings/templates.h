@@ -29,8 +29,8 @@ std::vector<std::string> DrawTemplate(std::string_view words, std::string_view n
 /// The words of a file's text, with one blank between two; comments are left out.
 std::string TemplateWords(std::string_view text);
 
-/// The lines that the file `folder`/`name`.tpl draws (PrintTemplateFile), and those of the record of that
-/// name (PrintTemplate). Throws fabula::Error: the name and " is not available" when there is none.
+/// The lines that the file `folder`/`name`.tpl draws, and those of the record of that name. Throws
+/// fabula::Error: the name and " is not available" when there is none.
 std::vector<std::string> DrawTemplateFile(const std::filesystem::path& folder, const std::string& name);
 std::vector<std::string> DrawTemplateRecord(store::Adventure& adventure, const std::string& name);
 

@@ -210,17 +210,10 @@ void WriteNewFile(const std::filesystem::path& file, const DefaultData& data, co
 
 }  // namespace
 
-bool MayReplace(const std::filesystem::path& path, platform::Person& person) {
-    std::error_code error;  // what can't be looked at fails when the file is made
-    return !std::filesystem::exists(path, error) ||
-           person.Confirm("All information in " + path.string() + " will be deleted.", "Warning");
-}
-
-bool CreateAdventure(bool replace, const std::filesystem::path& path, const AdventureSetup& setup,
+void CreateAdventure(const std::filesystem::path& path, const AdventureSetup& setup,
                      const CreationHost& host, const std::function<void(Adventure&)>& finish) {
     std::error_code error;  // what can't be looked at fails when the file is made
     const auto target = std::filesystem::absolute(path, error);
-    if (!replace && !MayReplace(path, host.person)) return false;
     if (!std::filesystem::is_directory(target.parent_path(), error)) {
         throw Error("Could not create " + path.string() + ": there is no folder " +
                     target.parent_path().string() + ".");
@@ -231,7 +224,6 @@ bool CreateAdventure(bool replace, const std::filesystem::path& path, const Adve
     if (finish) finish(*Adventure::Open(temporary.Path()));
     OpenChecked(temporary.Path(), OpenMode::ReadOnly);
     MoveIntoPlace(temporary.Path(), target);
-    return true;
 }
 
 }  // namespace fabula::store

@@ -15,7 +15,7 @@ class Adventure;
 
 /// What the creation of an adventure needs of its surroundings.
 struct CreationHost {
-    platform::Person& person;
+    platform::Person& person;  ///< is told of a line of the default data that is left out
     const platform::Clock& clock;
     platform::EventPump& events;
     std::filesystem::path
@@ -23,19 +23,15 @@ struct CreationHost {
     IfidMaker newIfid = NewIfid;
 };
 
-/// Whether `path` may be written: it is a new file, or the person has agreed that it is replaced.
-bool MayReplace(const std::filesystem::path& path, platform::Person& person);
-
 /// Creates the adventure file `path` from the default data, with the type and switches of `setup`. An
-/// existing file is replaced after the person has agreed, or at once with `replace`; it stays as it was
-/// until the new one is complete. Returns false when the person did not agree.
+/// existing file is replaced; it stays as it was until the new one is complete.
 ///
 /// Throws fabula::Error when the default data is incomplete (with section and line) or a file can't be
 /// written; no half-made file is left.
 ///
 /// `finish` adds to the new adventure before it takes its place; what it throws leaves everything as it
 /// was.
-bool CreateAdventure(bool replace, const std::filesystem::path& path, const AdventureSetup& setup,
+void CreateAdventure(const std::filesystem::path& path, const AdventureSetup& setup,
                      const CreationHost& host, const std::function<void(Adventure&)>& finish = {});
 
 }  // namespace fabula::store

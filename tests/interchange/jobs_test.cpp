@@ -47,8 +47,8 @@ class Jobs : public testing::Test {
         return folder_ / name;
     }
 
-    JobResult Import(const char* kind, const std::filesystem::path& source, bool replace = false) {
-        return ImportIt(*FindFileKind(kind), source, Target(), replace, Host(nobody_));
+    JobResult Import(const char* kind, const std::filesystem::path& source) {
+        return ImportIt(*FindFileKind(kind), source, Target(), Host(nobody_));
     }
 
     JobHost Host(JobObserver& observer) {
@@ -135,22 +135,14 @@ TEST_F(Jobs, AFailedImportLeavesNothing) {
 
 TEST_F(Jobs, AFailedImportLeavesAnExistingTargetAsItWas) {
     Write("new.fbd", "precious");
-    EXPECT_FALSE(Import("fabula", Write("old.ext", "3.0\n"), true).done);
+    EXPECT_FALSE(Import("fabula", Write("old.ext", "3.0\n")).done);
     EXPECT_EQ(TargetText(), "precious");
     EXPECT_EQ(Files(), 2);
 }
 
-TEST_F(Jobs, AnExistingTargetIsReplacedOnlyWhenThePersonAgrees) {
+TEST_F(Jobs, AnExistingTargetIsReplaced) {
     Write("new.fbd", "precious");
-    const auto source = Write("old.sce", PcSource("", ""));
-    person_.AnswerNext(false);
-    EXPECT_FALSE(Import("pcvel", source).done);
-    EXPECT_EQ(TargetText(), "precious");
-    EXPECT_EQ(
-        person_.Boxes(),
-        (std::vector<Shown>{{"All information in " + Target().string() + " will be deleted.", "Warning"}}));
-    person_.AnswerNext(true);
-    EXPECT_TRUE(Import("pcvel", source).done);
+    EXPECT_TRUE(Import("pcvel", Write("old.sce", PcSource("", ""))).done);
     EXPECT_NE(TargetText(), "precious");
 }
 
@@ -163,7 +155,7 @@ TEST_F(Jobs, AnAdventureOpenElsewhereStaysOpen) {
 TEST_F(Jobs, ACancelledImportLeavesNothing) {
     const auto source = Write("old.sce", PcSource("GO 20 verb\nCOME 21 verb\nRUN 22 verb\n", ""));
     CancelsAfter observer(4);
-    const JobResult result = ImportIt(*FindFileKind("pcvel"), source, Target(), false, Host(observer));
+    const JobResult result = ImportIt(*FindFileKind("pcvel"), source, Target(), Host(observer));
     EXPECT_FALSE(result.done);
     EXPECT_TRUE(result.status.ends_with("Import cancelled\nDeleting bad database\n")) << result.status;
     EXPECT_EQ(Files(), 1);
@@ -188,7 +180,7 @@ TEST_F(Jobs, AMissingSourceIsAnErrorAndLeavesNothing) {
 TEST_F(Jobs, ASourceThatIsNoFileIsToldWithItsReasonBeforeAnythingIsBegun) {
     RecordsStatus observer;
     try {
-        ImportIt(*FindFileKind("pcvel"), folder_.Path(), Target(), false, Host(observer));
+        ImportIt(*FindFileKind("pcvel"), folder_.Path(), Target(), Host(observer));
         ADD_FAILURE() << "a folder was read";
     } catch (const Error& error) {
         EXPECT_EQ(error.what(), "Could not read " + folder_.Path().string() + ": it is no file.");
@@ -199,7 +191,7 @@ TEST_F(Jobs, ASourceThatIsNoFileIsToldWithItsReasonBeforeAnythingIsBegun) {
 TEST_F(Jobs, ANameThatIsNoUtf8IsSavedAsOneThatIs) {
     const auto source = Write("game.txt", "/CTL\n_\n/VOC\nNORTH 2 noun\n");
     const std::filesystem::path target = folder_ / "caf\xE9.fbd";
-    ImportIt(*FindFileKind("ace"), source, target, false, Host(nobody_));
+    ImportIt(*FindFileKind("ace"), source, target, Host(nobody_));
     const auto adventure = store::Adventure::Open(target);
     EXPECT_EQ(adventure->OpenTable(store::TableNum::Adventure, "savename").Text("savename"), "caf\uFFFD");
 }

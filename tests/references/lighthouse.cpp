@@ -21,7 +21,7 @@ std::unique_ptr<store::Adventure> Import() {
                                     SourceFolder() / "data" / "Fabula.ini"};
     interchange::ImportIt(*interchange::FindFileKind("ace"),
                           SourceFolder() / "examples" / "lighthouse" / "lighthouse.txt",
-                          folder / "lighthouse.fbd", true, host);
+                          folder / "lighthouse.fbd", host);
     return store::Adventure::Open(folder / "lighthouse.fbd")->CopyInMemory();
 }
 

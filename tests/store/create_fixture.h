@@ -67,16 +67,14 @@ class Create : public testing::Test {
         return setup;
     }
 
-    bool MakeWith(const std::filesystem::path& data, const AdventureSetup& setup = {},
-                  bool replace = false) {
+    void MakeWith(const std::filesystem::path& data, const AdventureSetup& setup = {}) {
         const platform::FixedClock clock({2026, 3, 4, 5, 6, 7});
         platform::NoEvents events;
-        return CreateAdventure(replace, file_, setup,
-                               {person_, clock, events, data, [] { return std::string(kIfid); }});
+        CreateAdventure(file_, setup, {person_, clock, events, data, [] { return std::string(kIfid); }});
     }
-    bool Make(const AdventureSetup& setup = {}, bool replace = false) {
+    void Make(const AdventureSetup& setup = {}) {
         WriteData();
-        return MakeWith(DataFile(), setup, replace);
+        MakeWith(DataFile(), setup);
     }
 
     /// What creation says of the data, without the part that names the file.

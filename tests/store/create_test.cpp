@@ -12,7 +12,7 @@ using test::WriteBytes;
 using CreatedLines = std::vector<std::string>;
 
 TEST_F(Create, MakesAFileThatOpens) {
-    EXPECT_TRUE(MakeWith(test::DefaultData()));
+    MakeWith(test::DefaultData());
     EXPECT_GT(Open()->OpenTable(TableNum::CondActs, "*").RecordCount(), 0);
     EXPECT_TRUE(person_.Boxes().empty());
     EXPECT_EQ(FilesInGames(), std::vector<std::string>{"island.fbd"});
@@ -95,34 +95,15 @@ TEST_F(Create, MarloUsesCharacterSets) {
     EXPECT_TRUE(Open()->CharSetsOn());
 }
 
-TEST_F(Create, AnExistingFileIsReplacedAfterYes) {
+TEST_F(Create, AnExistingFileIsReplacedAtOnce) {
     WriteBytes(file_, "old");
-    person_.AnswerNext(true);
-    EXPECT_TRUE(MakeWith(test::DefaultData()));
-    ASSERT_EQ(person_.Boxes().size(), 1u);
-    EXPECT_EQ(person_.Boxes()[0].text, "All information in " + file_.string() + " will be deleted.");
-    EXPECT_EQ(person_.Boxes()[0].title, "Warning");
-    EXPECT_GT(Open()->OpenTable(TableNum::Flags, "*").RecordCount(), 0);
-}
-
-TEST_F(Create, AnExistingFileStaysAfterNo) {
-    WriteBytes(file_, "old");
-    person_.AnswerNext(false);
-    EXPECT_FALSE(MakeWith(test::DefaultData()));
-    EXPECT_EQ(ReadBytes(file_), "old");
-    EXPECT_EQ(FilesInGames(), std::vector<std::string>{"island.fbd"});
-}
-
-TEST_F(Create, AnExistingFileIsReplacedAtOnceOnRequest) {
-    WriteBytes(file_, "old");
-    EXPECT_TRUE(MakeWith(test::DefaultData(), {}, true));
+    MakeWith(test::DefaultData());
     EXPECT_TRUE(person_.Boxes().empty());
     EXPECT_GT(Open()->OpenTable(TableNum::Flags, "*").RecordCount(), 0);
 }
 
 TEST_F(Create, AFailureLeavesTheOldFile) {
     WriteBytes(file_, "old");
-    person_.AnswerNext(true);
     Replace("VELFLAGS", {"nonsense"});
     EXPECT_THROW(Make(), Error);
     EXPECT_EQ(ReadBytes(file_), "old");
@@ -134,7 +115,7 @@ TEST_F(Create, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
     EXPECT_EQ(test::RunInChild([&] {
                   test::LimitFileSize(64 * 1024);
                   try {
-                      MakeWith(test::DefaultData(), {}, true);
+                      MakeWith(test::DefaultData());
                   } catch (const Error&) {
                       return 0;
                   }
@@ -149,10 +130,9 @@ TEST_F(Create, AFolderThatIsNotThereIsAnError) {
     const platform::FixedClock clock({2026, 3, 4, 5, 6, 7});
     platform::NoEvents events;
     const auto lost = folder_ / "nowhere/game.fbd";
-    EXPECT_THROW(CreateAdventure(false, lost, {}, {person_, clock, events, test::DefaultData()}), Error);
+    EXPECT_THROW(CreateAdventure(lost, {}, {person_, clock, events, test::DefaultData()}), Error);
     const auto longName = folder_.Path() / (std::string(300, 'x') + ".fbd");
-    EXPECT_THROW(CreateAdventure(false, longName, {}, {person_, clock, events, test::DefaultData()}),
-                 Error);
+    EXPECT_THROW(CreateAdventure(longName, {}, {person_, clock, events, test::DefaultData()}), Error);
 }
 
 TEST_F(Create, GivesTheWindowATurnForEveryLineOfData) {
@@ -161,7 +141,7 @@ TEST_F(Create, GivesTheWindowATurnForEveryLineOfData) {
         int turns = 0;
     } events;
     const platform::FixedClock clock({2026, 3, 4, 5, 6, 7});
-    CreateAdventure(false, file_, {}, {person_, clock, events, test::DefaultData()});
+    CreateAdventure(file_, {}, {person_, clock, events, test::DefaultData()});
     EXPECT_GT(events.turns, 1000);
 }
 

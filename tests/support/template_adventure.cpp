@@ -16,7 +16,7 @@ void Create(const std::filesystem::path& file, const store::AdventureSetup& setu
     platform::ScriptedPerson person;
     const platform::FixedClock clock({2026, 1, 2, 3, 4, 5});
     platform::NoEvents events;
-    store::CreateAdventure(true, file, setup,
+    store::CreateAdventure(file, setup,
                            {person, clock, events, DefaultData(), [] { return std::string(kTestIfid); }});
 }
 

@@ -8,6 +8,7 @@
 #include "authoring/desk/ide_settings.h"
 #include "authoring/desk/upgrading.h"
 #include "authoring/files/backups.h"
+#include "authoring/files/may_replace.h"
 #include "authoring/files/start_up.h"
 #include "authoring/files/version_numbers.h"
 #include "authoring/files/work_files.h"
@@ -134,20 +135,18 @@ std::optional<std::filesystem::path> MainScreen::AskNewFile() {
 
 bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup,
                               bool starter) {
+    // Asked while the open one is still open: after a no all of it can be undone as before.
+    if (!MayReplace(file, host_.dialogs)) return false;
     const bool replacesOpenOne = desk_ && store::IsSameFile(file, desk_->document.File());
-    // Asked while it is still open: after a no all of it can be undone as before.
-    if (replacesOpenOne && !store::MayReplace(file, host_.dialogs)) return false;
     if (replacesOpenOne) Close();
     const store::CreationHost host{host_.dialogs, host_.clock, host_.events, paths_.defaultData};
     bool created = false;
     Guard([&] {
-        created =
-            store::CreateAdventure(replacesOpenOne, file, setup, host, [&](store::Adventure& adventure) {
-                MarkAsNew(adventure);
-                if (starter)
-                    interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
-            });
-        if (!created) return;
+        store::CreateAdventure(file, setup, host, [&](store::Adventure& adventure) {
+            MarkAsNew(adventure);
+            if (starter) interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
+        });
+        created = true;
         host_.dialogs.Tell(file.filename().string() + " DataBase Created", kProgramName);
         auto desk = std::make_unique<Desk>(store::Adventure::OpenForChange(file),
                                            store::OpenMode::ReadWrite, host_.dialogs);

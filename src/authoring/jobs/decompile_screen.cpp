@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "authoring/document/screen_context.h"
+#include "authoring/files/may_replace.h"
 #include "interchange/source_file.h"
 #include "platform/error.h"
 #include "store/file/file_copy.h"
@@ -148,7 +149,7 @@ bool DecompileScreen::Run() {
     for (const Step& step : Steps()) {
         if (store::IsSameFile(step.output, input))
             return Refuse(host_.dialogs, "The listing cannot be written over the game itself");
-        if (!MayReplace(step.output)) return false;
+        if (step.output != agreed_ && !MayReplace(step.output, host_.dialogs)) return false;
     }
     return RunSteps();
 }
@@ -175,13 +176,6 @@ bool DecompileScreen::HasProgram(Decompiler decompiler) {
         return Refuse(host_.dialogs,
                       "The executable does not have " + std::string(row.fileName) + " in it.");
     return true;
-}
-
-/// Asks before a file is replaced, unless its dialog has done so.
-bool DecompileScreen::MayReplace(const fs::path& file) {
-    std::error_code missing;  // what can't be looked at fails when it is written
-    if (file == agreed_ || !fs::exists(file, missing)) return true;
-    return host_.dialogs.Confirm("All information in " + file.string() + " will be deleted.", "Warning");
 }
 
 /// UnMarlo writes a listing to be read beside the one that is imported; UnVels writes one for both.

@@ -73,7 +73,6 @@ class DecompileScreen {
 
     bool MayRun();
     bool HasProgram(Decompiler decompiler);
-    bool MayReplace(const std::filesystem::path& file);
     std::vector<Step> Steps() const;
     bool RunSteps();
     bool RunStep(const Step& step);

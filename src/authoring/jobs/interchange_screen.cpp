@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <system_error>
 #include <utility>
 
 #include "authoring/document/screen_context.h"
+#include "authoring/files/may_replace.h"
 #include "authoring/files/start_up.h"
 #include "authoring/jobs/status_text.h"
 #include "platform/error.h"
@@ -197,9 +197,9 @@ bool InterchangeScreen::ImportIt() {
         return Refuse(host_.dialogs, "The database cannot be the source file itself");
     if (adventure_ && store::IsSameFile(target, adventure_->CurrentFile()))
         return Refuse(host_.dialogs, "The database cannot be the open adventure itself");
-    if (!MayReplace(target)) return false;
+    if (target != agreed_ && !MayReplace(target, host_.dialogs)) return false;
     const bool imported =
-        Run([&] { return interchange::ImportIt(Kind(), source, target, true, JobHost()).done; });
+        Run([&] { return interchange::ImportIt(Kind(), source, target, JobHost()).done; });
     if (!imported) return false;
     newFile_ = std::filesystem::absolute(target);
     host_.settings.Set(startup::kSection, startup::kFile, newFile_->string());
@@ -212,7 +212,7 @@ bool InterchangeScreen::ExportIt() {
     source = target.string();
     if (store::IsSameFile(target, adventure_->CurrentFile()))
         return Refuse(host_.dialogs, "The export cannot be written over the adventure itself");
-    if (!MayReplace(target)) return false;
+    if (target != agreed_ && !MayReplace(target, host_.dialogs)) return false;
     const auto verifier = [this](store::Adventure& adventure, const FileKind& kind,
                                  interchange::JobStatus& status) {
         return Verify(adventure, kind, status);
@@ -245,13 +245,6 @@ bool InterchangeScreen::Verify(store::Adventure& adventure, const FileKind& kind
     showVerify(verify);
     status.AddToStatus(verify.Status());
     return verify.Passed();
-}
-
-/// Asks before a file is replaced, unless its dialog has done so.
-bool InterchangeScreen::MayReplace(const path& file) {
-    std::error_code missing;  // what can't be looked at fails when it is written
-    if (file == agreed_ || !std::filesystem::exists(file, missing)) return true;
-    return host_.dialogs.Confirm("All information in " + file.string() + " will be deleted.", "Warning");
 }
 
 bool InterchangeScreen::Run(const std::function<bool()>& job) {

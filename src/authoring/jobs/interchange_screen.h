@@ -126,7 +126,6 @@ class InterchangeScreen final : private interchange::JobObserver {
     bool Verify(store::Adventure& adventure, const interchange::FileKind& kind,
                 interchange::JobStatus& status);
     bool Run(const std::function<bool()>& job);
-    bool MayReplace(const std::filesystem::path& file);
     interchange::JobHost JobHost();
     void Show();
 

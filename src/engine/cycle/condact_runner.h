@@ -20,7 +20,7 @@ namespace fabula::engine {
 class Game;
 struct CondActRoutine;
 
-/// A place in a process table: `CallStack` holds one for each pending PROCESS, behind its parameter.
+/// A place in a process table: the stack of calls holds one for each pending PROCESS, behind its parameter.
 struct TablePosition {
     ProcessNumber process;
     int entry = 0;
@@ -142,7 +142,7 @@ class CondActRunner {
     void BeginSlice();
 
     Game& game_;
-    std::array<Runnable, 200> routines_{};  ///< by number, from kFirstNumber
+    std::array<Runnable, 200> routines_{};  ///< by number, from kFirstCondAct
     std::vector<Frame> frames_;
     std::chrono::milliseconds wait_{0};
     std::optional<FileQuestion> question_;

@@ -88,7 +88,7 @@ class ProcessLoop {
     Game& game_;
     Label afterTable_ = Label::Return;
     Outcome ending_ = Outcome::WaitsForPlayer;
-    /// `lngTurnAtInput`: the turn at which the cycle was entered from a line; none equals kTurnOfAnswer.
+    /// The turn at which the cycle was entered from a line; none equals kTurnOfAnswer.
     int turnAtInput_ = kTurnOfAnswer;
     static constexpr int kTurnOfAnswer = -1;
     bool unwinding_ = false;

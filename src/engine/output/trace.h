@@ -13,7 +13,7 @@ class Trace {
   public:
     Trace(TraceSink* sink, const RunState& state) : sink_(sink), state_(state) {}
 
-    /// `TraceOn`: there is somewhere to write to, and flag 1004 or 1005 is non-zero.
+    /// There is somewhere to write to, and flag 1004 or 1005 is non-zero.
     bool On() const {
         return sink_ && (state_.Flag(flag::kTraceFile) != 0 || state_.Flag(flag::kTrace) != 0);
     }

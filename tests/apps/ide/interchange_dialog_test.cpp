@@ -99,7 +99,7 @@ TEST_F(InterchangeDialogTest, ImportsByKeysAndClicks) {
     EXPECT_EQ(screen_->NewFile(), In("new.fbd"));
     EXPECT_TRUE(Status().startsWith("Creating default database for "));
     EXPECT_EQ(Status().toStdString(), screen_->Status());
-    EXPECT_EQ(Find<QProgressBar>("barProgress").value(), 100);
+    EXPECT_EQ(Find<QProgressBar>("progressBar").value(), 100);
     EXPECT_FALSE(Button("start").isEnabled());
     EXPECT_TRUE(Button("print").isEnabled());
     QTest::keyClick(dialog_.get(), Qt::Key_Escape);

@@ -236,11 +236,11 @@ TEST_P(Rows, LeaveThePictureToARecordBelowThemThatShowsItItself) {
     window_.Open(game.Graphics().Location(0, "You are in the hall.", "The hall").PictureOf(0, "hall.png"));
     window_.Window().resize(800, 600);
     window_.ChooseNode("Locations");
-    const auto& picture = *Grid().parentWidget()->findChild<QLabel*>("imgPicture");
+    const auto& picture = *Grid().parentWidget()->findChild<QLabel*>("pictureView");
     EXPECT_TRUE(picture.isVisible());
     Grid().setFocus();
     Press(Qt::Key_F9);
-    EXPECT_TRUE(Pane().findChild<QLabel*>("imgPicture")->isVisible());
+    EXPECT_TRUE(Pane().findChild<QLabel*>("pictureView")->isVisible());
     EXPECT_FALSE(picture.isVisible());
     window_.Window().resize(1300, 600);
     QApplication::processEvents();

@@ -60,7 +60,7 @@ class BadListing : public testing::TestWithParam<const char*> {
         platform::NoEvents events;
         NoObserver nobody;
         const JobResult result =
-            ImportIt(*FindFileKind(GetParam()), folder / "listing", folder / "game.fbd", false,
+            ImportIt(*FindFileKind(GetParam()), folder / "listing", folder / "game.fbd",
                      {person, clock, events, nobody, test::DefaultData()});
         const bool there = std::filesystem::exists(folder / "game.fbd");
         if (result.done != there) return "done and there differ: " + result.status;

@@ -25,7 +25,7 @@ int Check(const CheckOptions& options) {
     Console console(options.json ? std::cerr : std::cout);
     interchange::JobHost host = console.JobHost();
     host.encoding = options.encoding;
-    const interchange::JobResult imported = interchange::ImportIt(kind, options.source, file, true, host);
+    const interchange::JobResult imported = interchange::ImportIt(kind, options.source, file, host);
     interchange::JobStatus status(console.Observer());
     status.Continue(imported.allFaults);
     if (imported.done) {

@@ -24,8 +24,7 @@ int Import(const ImportOptions& options) {
                 console.Person());
     interchange::JobHost host = console.JobHost();
     host.encoding = options.encoding;
-    const interchange::JobResult result =
-        interchange::ImportIt(kind, options.source, options.file, true, host);
+    const interchange::JobResult result = interchange::ImportIt(kind, options.source, options.file, host);
     if (options.json) PrintAsJson(result.allFaults);
     if (result.faults > 0) std::cerr << CountOf(result.allFaults) << "\n";
     return result.done && result.faults == 0 ? kDone : kFailed;

@@ -83,8 +83,7 @@ Result LintFile(const LintOptions& options) {
     std::ostream quiet(nullptr);
     Console console(quiet);
     const interchange::FileKind& kind = KindOfSource(options.file, options.kind);
-    interchange::JobResult imported =
-        interchange::ImportIt(kind, options.file, file, true, console.JobHost());
+    interchange::JobResult imported = interchange::ImportIt(kind, options.file, file, console.JobHost());
     for (const interchange::Fault& fault : imported.allFaults)
         std::cerr << text::SafeLines(fault.Line()) << "\n";
     if (!imported.done) throw Error("Could not read " + options.file + ".");

@@ -34,7 +34,7 @@ int Create(const NewOptions& options) {
     CheckTarget({options.file, store::Content::Adventure, {}, {}, options.force}, console.Person());
     std::function<void(store::Adventure&)> finish;
     if (options.starter) finish = AddStarterTo;
-    store::CreateAdventure(true, options.file, setup,
+    store::CreateAdventure(options.file, setup,
                            {console.Person(), console.Clock(), console.Events(), DefaultDataFile()},
                            finish);
     return kDone;

@@ -13,7 +13,7 @@ constexpr int kHighestLines = 7;
 }  // namespace
 
 PictureView::PictureView(QWidget* parent) : QLabel(parent) {
-    setObjectName("imgPicture");
+    setObjectName("pictureView");
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     hide();

@@ -165,7 +165,7 @@ bool MainWindow::MayEnd() {
 
 /// Where a record stands below the rows and has its picture itself, they don't give their room for it.
 void MainWindow::ShowPicture() {
-    const bool isBelow = work_->orientation() == Qt::Vertical && beside_->findChild<QLabel*>("imgPicture");
+    const bool isBelow = work_->orientation() == Qt::Vertical && beside_->findChild<QLabel*>("pictureView");
     const bool shown =
         ide_.GetState() == authoring::MainScreen::State::Open && ide_.CurrentRow() >= 0 && !isBelow;
     records_->Picture().Show(shown ? PictureOfRecord(ide_.CurrentContext().document.Adventure(),

@@ -38,8 +38,8 @@ struct WindowServices {
     platform::RandomSource& random;
     QSettings& settings;
     std::filesystem::path dataFolder;  ///< where folders of saved games are made
-    /// The window is shown by the authoring tool (`strMode` is "IDE"): "Debug" is allowed, the window
-    /// closes when the game ends, and nothing of the run is kept.
+    /// The window is shown by the authoring tool: "Debug" is allowed, the window closes when the game ends,
+    /// and nothing of the run is kept.
     bool testRun = false;
     engine::TraceSink* trace = nullptr;  ///< where the steps of the game go; nullptr: nowhere
     engine::Options options{};

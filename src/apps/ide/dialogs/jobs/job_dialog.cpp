@@ -38,7 +38,7 @@ void JobDialog::AddStatus(const QString& name, const QString& hint, int lines) {
 }
 
 void JobDialog::AddEnd(QPushButton* other) {
-    bar_->setObjectName("barProgress");
+    bar_->setObjectName("progressBar");
     bar_->setAccessibleName(tr("Progress"));
     auto* buttons = new QWidget;
     auto* row = new QHBoxLayout(buttons);

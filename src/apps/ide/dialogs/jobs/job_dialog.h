@@ -20,7 +20,7 @@ struct JobWindow {
 };
 
 /// What the windows of jobs that work with files share: a form, the status that the job writes, a bar
-/// ("barProgress"), and the buttons that start ("start" or what the window calls it) and leave ("exit").
+/// ("progressBar"), and the buttons that start ("start" or what the window calls it) and leave ("exit").
 /// While a job runs, Exit is Cancel. The window of a job puts its rows into the form, then calls
 /// `AddStatus` and `AddEnd`.
 class JobDialog : public ColumnDialog {
