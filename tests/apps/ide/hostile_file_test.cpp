@@ -86,15 +86,14 @@ class HostileFile : public testing::TestWithParam<const char*> {
         }
     }
 
-    /// Everything that can be done with the table in view, on its first row and its last.
+    /// Everything that can be done with the table in view, on its last row: each statement changes all.
     void UseTable() {
         auto& grid = window_.Part<QTableView>("Grid");
-        for (const int row : {0, grid.model()->rowCount() - 1}) {
-            if (row < 0 || row >= grid.model()->rowCount()) continue;
-            ShowRow(row);
-            for (const char* command : {"Edit", "NewTab", "AddNewBefore", "Delete", "Undo", "Redo", "Undo"})
-                window_.Action(command).trigger();
-        }
+        if (grid.model()->rowCount() == 0) return;
+        ShowRow(0);
+        ShowRow(grid.model()->rowCount() - 1);
+        for (const char* command : {"Edit", "NewTab", "AddNewBefore", "Delete", "Undo", "Redo", "Undo"})
+            window_.Action(command).trigger();
         window_.Window().grab();
     }
 
