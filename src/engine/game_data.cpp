@@ -83,7 +83,7 @@ std::string Filled(std::string_view text) {
 
 GameData::GameData(store::Adventure& adventure)
     : TextSettings(ReadTextSettings(adventure)),
-      type(store::AdventureKindOf(adventure.AdventureTypeLower())),
+      type(adventure.Kind()),
       significantLetters(condacts::SignificantLetters(type)) {
     ReadSettings(adventure);
     ReadSoundSettings(adventure);

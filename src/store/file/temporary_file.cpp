@@ -13,6 +13,7 @@
 
 #include "platform/error.h"
 #include "text/numbers.h"
+#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {
@@ -29,10 +30,7 @@ constexpr int kMostLinks = 40;
 std::string StemOf(const fs::path& target) {
     std::string stem = target.filename().string();
     if (stem.size() <= kLongestStem) return stem;
-    std::size_t length = kLongestStem;
-    while (length > 0 && (static_cast<unsigned char>(stem[length]) & 0xC0) == 0x80)
-        --length;
-    stem.resize(length);
+    stem.resize(text::CharacterStart(stem, kLongestStem));
     return stem;
 }
 
