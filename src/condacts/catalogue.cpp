@@ -28,10 +28,6 @@ Dialect DialectOf(store::AdventureKind kind) {
     return Dialect::Fabula;
 }
 
-Dialect DialectOf(std::string_view adventureType) {
-    return DialectOf(store::AdventureKindOf(adventureType));
-}
-
 bool CondAct::ExistsIn(Dialect dialect) const {
     switch (dialect) {
         case Dialect::Fabula:

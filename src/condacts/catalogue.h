@@ -44,9 +44,8 @@ inline constexpr int kSystemMessagesTwoToFive = message::kLastPrompt.value;
 /// The kinds of adventure and source that a condition or action may exist in.
 enum class Dialect { Fabula, Vel, Marlo, PCVel };
 
-/// The dialect of an adventure by its type, or by its `adventype`.
+/// The dialect of an adventure by its type.
 Dialect DialectOf(store::AdventureKind kind);
-Dialect DialectOf(std::string_view adventureType);
 
 /// One condition or action.
 struct CondAct {

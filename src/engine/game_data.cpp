@@ -1,6 +1,6 @@
 #include "engine/game_data.h"
 
-#include <charconv>
+#include <algorithm>
 #include <optional>
 
 #include "condacts/convert.h"
@@ -8,6 +8,7 @@
 #include "condacts/load.h"
 #include "condacts/word_filters.h"
 #include "platform/error.h"
+#include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -59,19 +60,15 @@ std::size_t RecordNumber(std::int64_t value, const char* kind) {
 std::uint32_t AppendNumbers(std::string_view text, std::int64_t most, std::vector<std::int16_t>& numbers,
                             const Source& source) {
     std::uint32_t count = 0;
-    std::size_t at = 0;
+    const auto isBlank = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
     while (count < most) {
-        while (at < text.size() && static_cast<unsigned char>(text[at]) <= ' ')
-            ++at;
-        if (at >= text.size()) break;
-        std::int64_t value = 0;
-        const auto [end, error] = std::from_chars(text.data() + at, text.data() + text.size(), value);
-        const auto next = static_cast<std::size_t>(end - text.data());
-        if (error != std::errc{} || (next < text.size() && static_cast<unsigned char>(text[next]) > ' ')) {
+        text.remove_prefix(
+            static_cast<std::size_t>(std::ranges::find_if_not(text, isBlank) - text.begin()));
+        if (text.empty()) break;
+        const auto value = text::TakeLongNumber(text);
+        if (!value || (!text.empty() && !isBlank(text.front())))
             Refuse(NameOf(source) + " holds something that is no number");
-        }
-        numbers.push_back(Number16(value, source));
-        at = next;
+        numbers.push_back(Number16(*value, source));
         ++count;
     }
     return count;
@@ -86,7 +83,7 @@ std::string Filled(std::string_view text) {
 
 GameData::GameData(store::Adventure& adventure)
     : TextSettings(ReadTextSettings(adventure)),
-      type(store::AdventureKindOf(adventure.AdventureTypeLower())),
+      type(adventure.Kind()),
       significantLetters(condacts::SignificantLetters(type)) {
     ReadSettings(adventure);
     ReadSoundSettings(adventure);

@@ -1,16 +1,17 @@
 #include "engine/saved_game.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "condacts/numbers.h"
 #include "platform/whole_file.h"
 #include "store/extensions.h"
 #include "store/file/file_copy.h"
+#include "text/numbers.h"
 
 namespace fabula::engine {
 
@@ -58,19 +59,16 @@ std::vector<std::string_view> SplitLines(std::string_view content) {
 std::optional<std::vector<std::int16_t>> ParseNumbers(std::string_view line, std::size_t count) {
     std::vector<std::int16_t> numbers;
     numbers.reserve(count);
-    const char* at = line.data();
-    const char* const end = at + line.size();
     while (numbers.size() < count) {
-        std::int16_t value = 0;
-        const auto [next, error] = std::from_chars(at, end, value);
-        if (error != std::errc{}) return std::nullopt;
-        numbers.push_back(value);
-        at = next;
-        if (numbers.size() == count) break;
-        if (at == end || *at != ',') return std::nullopt;
-        ++at;
+        if (!numbers.empty()) {
+            if (!line.starts_with(',')) return std::nullopt;
+            line.remove_prefix(1);
+        }
+        const std::optional<int> value = text::TakeNumber(line);
+        if (!value || !condacts::FitsNumber(*value)) return std::nullopt;
+        numbers.push_back(static_cast<std::int16_t>(*value));
     }
-    if (at != end) return std::nullopt;
+    if (!line.empty()) return std::nullopt;
     return numbers;
 }
 

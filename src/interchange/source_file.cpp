@@ -42,8 +42,7 @@ class Utf8Detector {
             const auto byte = static_cast<unsigned char>(bytes[bytes.size() - length]);
             if (byte < 0x80) return 0;
             if (byte < 0xC0) continue;
-            const std::size_t wanted = byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
-            return wanted > length ? length : 0;
+            return text::SequenceLength(bytes[bytes.size() - length]) > length ? length : 0;
         }
         return 0;
     }

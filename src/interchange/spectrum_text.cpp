@@ -1,7 +1,6 @@
 #include "interchange/spectrum_text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <iterator>
 #include <optional>
 
@@ -65,14 +64,6 @@ std::string ReplaceTabs(std::string_view text) {
     return result.append(text.substr(done));
 }
 
-std::optional<unsigned> HexNumber(std::string_view digits) {
-    unsigned number = 0;
-    const char* end = digits.data() + digits.size();
-    if (digits.empty()) return std::nullopt;
-    if (std::from_chars(digits.data(), end, number, 16).ptr != end) return std::nullopt;
-    return number;
-}
-
 std::string ReplaceEscapes(std::string_view text) {
     std::string result;
     while (!text.empty()) {
@@ -81,7 +72,7 @@ std::string ReplaceEscapes(std::string_view text) {
         if (percent == std::string_view::npos) break;
         text.remove_prefix(percent + 1);
         const std::size_t end = text.substr(0, kLongestEscape + 1).find(';');
-        const std::optional<unsigned> number = HexNumber(text.substr(0, end));
+        const auto number = text::HexNumber(text.substr(0, end));
         if (end == std::string_view::npos || !number) {
             result += '%';
             continue;

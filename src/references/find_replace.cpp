@@ -120,17 +120,11 @@ std::string OnOneLine(std::string_view text) {
 
 /// Up to `most` bytes at the end or the start of a text, in whole characters.
 std::string_view EndOf(std::string_view text, std::size_t most) {
-    std::size_t start = text.size() > most ? text.size() - most : 0;
-    while (start < text.size() && (static_cast<unsigned char>(text[start]) & 0xC0) == 0x80)
-        ++start;
-    return text.substr(start);
+    return text.substr(text::NextCharacterStart(text, text.size() > most ? text.size() - most : 0));
 }
 
 std::string_view StartOf(std::string_view text, std::size_t most) {
-    std::size_t end = std::min(text.size(), most);
-    while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
-        --end;
-    return text.substr(0, end);
+    return text.substr(0, text::CharacterStart(text, std::min(text.size(), most)));
 }
 
 std::string Around(const Hit& hit, std::string_view middle, std::size_t around) {

@@ -4,6 +4,7 @@
 #include <pcre2.h>
 
 #include "platform/error.h"
+#include "text/utf8.h"
 
 namespace fabula::references {
 namespace {
@@ -75,10 +76,8 @@ std::vector<Match> Pattern::FindAll(std::string_view text) const {
         if (end > start)
             matches.push_back(
                 {start, end - start, Expanded(text, places, static_cast<std::size_t>(found))});
-        from = end > start ? end : end + 1;
         // On to the next character, not into the midst of one.
-        while (from < text.size() && (static_cast<unsigned char>(text[from]) & 0xC0) == 0x80)
-            ++from;
+        from = text::NextCharacterStart(text, end > start ? end : end + 1);
     }
     return matches;
 }

@@ -9,8 +9,7 @@ AdventureSetup::AdventureSetup(Adventure& adventure) {
     graphics_ = adventure.GraphicsOn();
     charSets_ = adventure.CharSetsOn();
     const bool decompiled = adventure.OpenTable(TableNum::Adventure, "unmarloed").Number("unmarloed") != 0;
-    const auto stored = AdventureKindFrom(adventure.AdventureType());
-    ChooseType(decompiled ? AdventureKind::Marlo : stored.value_or(AdventureKind::Fabula));
+    ChooseType(decompiled ? AdventureKind::Marlo : adventure.Kind());
 }
 
 void AdventureSetup::ChooseType(AdventureKind kind) {

@@ -47,9 +47,7 @@ std::optional<platform::DateTime> ReadMoment(std::string_view text) {
         if (kForm[i] == '0' ? !isDigit : text[i] != kForm[i]) return std::nullopt;
     }
     const auto number = [text](std::size_t begin, std::size_t size) {
-        int value = 0;
-        std::from_chars(text.data() + begin, text.data() + begin + size, value);
-        return value;
+        return SmallNumber(text.substr(begin, size)).value_or(0);
     };
     const platform::DateTime moment{number(0, 4),  number(5, 2),  number(8, 2),
                                     number(11, 2), number(14, 2), number(17, 2)};

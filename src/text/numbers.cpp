@@ -27,6 +27,15 @@ Digits ReadDigits(std::string_view text, int base) {
 }
 
 template <class Number>
+std::optional<Number> TakeDecimal(std::string_view& text) {
+    Number number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc()) return std::nullopt;
+    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+    return number;
+}
+
+template <class Number>
 Number Clamped(std::uint64_t magnitude, bool isNegative) {
     constexpr auto kLargest = static_cast<std::uint64_t>(std::numeric_limits<Number>::max());
     if (isNegative && magnitude > kLargest) return std::numeric_limits<Number>::min();
@@ -59,11 +68,23 @@ std::optional<int> SmallNumber(std::string_view text) {
 }
 
 std::optional<int> TakeNumber(std::string_view& text) {
-    int number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc()) return std::nullopt;
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-    return number;
+    return TakeDecimal<int>(text);
+}
+
+std::optional<std::int64_t> TakeLongNumber(std::string_view& text) {
+    return TakeDecimal<std::int64_t>(text);
+}
+
+std::optional<std::uint32_t> HexNumber(std::string_view text) {
+    const Digits digits = ReadDigits(text, 16);
+    if (digits.count == 0 || digits.count != text.size()) return std::nullopt;
+    if (digits.magnitude > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
+    return static_cast<std::uint32_t>(digits.magnitude);
+}
+
+std::optional<double> RealNumber(std::string_view text) {
+    const std::optional<double> number = TakeDecimal<double>(text);
+    return text.empty() ? number : std::nullopt;
 }
 
 }  // namespace fabula::text

@@ -22,5 +22,16 @@ std::optional<int> SmallNumber(std::string_view text);
 /// Takes the decimal digits, behind an optional minus, at the head of `text` off it and gives their number.
 /// nullopt, and `text` as it was, where there are none or the number is beyond 32 bits.
 std::optional<int> TakeNumber(std::string_view& text);
+/// The same within 64 bits.
+std::optional<std::int64_t> TakeLongNumber(std::string_view& text);
+
+/// The number that the text consists of: hexadecimal digits, and nothing else. nullopt for anything else,
+/// and for a number beyond 32 bits.
+std::optional<std::uint32_t> HexNumber(std::string_view text);
+
+/// The real number that the text consists of: decimal digits with an optional point and exponent ("1.5e3")
+/// behind an optional minus, "inf" and "nan". nullopt for anything else, and for a number that no double
+/// comes near.
+std::optional<double> RealNumber(std::string_view text);
 
 }  // namespace fabula::text

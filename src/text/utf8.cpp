@@ -13,6 +13,11 @@ bool IsAscii(char byte) {
     return static_cast<unsigned char>(byte) < 0x80;
 }
 
+/// Whether the byte goes on with a character.
+bool IsContinuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
 char AsciiLower(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
 }
@@ -130,6 +135,26 @@ bool IsValidUtf8(std::string_view text) {
         at += AsciiRun(text, at);
     }
     return true;
+}
+
+std::size_t SequenceLength(char first) {
+    const auto byte = static_cast<unsigned char>(first);
+    if (byte >= 0xF0 && byte <= 0xF4) return 4;
+    if (byte >= 0xE0 && byte <= 0xEF) return 3;
+    if (byte >= 0xC2 && byte <= 0xDF) return 2;
+    return 1;
+}
+
+std::size_t CharacterStart(std::string_view text, std::size_t at) {
+    while (at > 0 && at < text.size() && IsContinuation(text[at]))
+        --at;
+    return at;
+}
+
+std::size_t NextCharacterStart(std::string_view text, std::size_t at) {
+    while (at < text.size() && IsContinuation(text[at]))
+        ++at;
+    return at;
 }
 
 std::size_t Length(std::string_view text) {

@@ -33,6 +33,14 @@ std::string Encode(std::u32string_view points);
 /// True when the text holds no bad byte.
 bool IsValidUtf8(std::string_view text);
 
+/// How many bytes a character takes that begins with this byte, 1 to 4; 1 for a byte that can't begin one.
+std::size_t SequenceLength(char first);
+
+/// Where the character that goes over byte `at` begins, and where the next one does: `at` itself where one
+/// begins there, and at the end of the text. For cuts at a number of bytes.
+std::size_t CharacterStart(std::string_view text, std::size_t at);
+std::size_t NextCharacterStart(std::string_view text, std::size_t at);
+
 /// The number of code points.
 std::size_t Length(std::string_view text);
 

@@ -43,14 +43,10 @@ TEST(Catalogue, TheFirstOfTwoRowsOfOneNameCounts) {
     EXPECT_EQ(catalogue.Find("TWICE")->number, 1);
 }
 
-TEST(DialectOf, KnowsTheThreeTypesOfAdventureInAnyCase) {
-    EXPECT_EQ(DialectOf("Fabula"), Dialect::Fabula);
-    EXPECT_EQ(DialectOf("VEL"), Dialect::Vel);
-    EXPECT_EQ(DialectOf("marlo"), Dialect::Marlo);
-}
-
-TEST(DialectOf, AnUnknownTypeCountsAsFabula) {
-    EXPECT_EQ(DialectOf("Unknwn"), Dialect::Fabula);
+TEST(DialectOf, IsThatOfTheTypeOfAdventure) {
+    EXPECT_EQ(DialectOf(store::AdventureKind::Fabula), Dialect::Fabula);
+    EXPECT_EQ(DialectOf(store::AdventureKind::Vel), Dialect::Vel);
+    EXPECT_EQ(DialectOf(store::AdventureKind::Marlo), Dialect::Marlo);
 }
 
 }  // namespace

@@ -1,5 +1,8 @@
 #include "text/numbers.h"
 
+#include <cmath>
+#include <limits>
+
 #include <gtest/gtest.h>
 
 namespace fabula::text {
@@ -87,6 +90,50 @@ TEST(TakeNumber, LeavesATextThatDoesNotBeginWithANumber) {
         EXPECT_EQ(TakeNumber(text), std::nullopt) << other;
         EXPECT_EQ(text, other);
     }
+}
+
+TEST(TakeLongNumber, TakesWhatIsWithin64Bits) {
+    std::string_view text = "-9223372036854775808 5000000000";
+    EXPECT_EQ(TakeLongNumber(text), INT64_MIN);
+    EXPECT_EQ(text, " 5000000000");
+    for (const std::string_view other : {"", "-", " 1", "+1", "9223372036854775808"}) {
+        text = other;
+        EXPECT_EQ(TakeLongNumber(text), std::nullopt) << other;
+        EXPECT_EQ(text, other);
+    }
+}
+
+TEST(HexNumber, IsHexadecimalDigitsAndNothingElse) {
+    EXPECT_EQ(HexNumber("0"), 0U);
+    EXPECT_EQ(HexNumber("fF"), 255U);
+    EXPECT_EQ(HexNumber("0001C"), 28U);
+    for (const char* other : {"", " 1", "1 ", "-1", "+1", "0x1", "1g", "&h1"})
+        EXPECT_EQ(HexNumber(other), std::nullopt) << other;
+}
+
+TEST(HexNumber, BeyondItsBitsIsNone) {
+    EXPECT_EQ(HexNumber("FFFFFFFF"), 4294967295U);
+    EXPECT_EQ(HexNumber("0000000000FFFFFFFF"), 4294967295U);
+    EXPECT_EQ(HexNumber("100000000"), std::nullopt);
+    EXPECT_EQ(HexNumber("10000000000000000"), std::nullopt);
+    EXPECT_EQ(HexNumber("99999999999999999999999999"), std::nullopt);
+}
+
+TEST(RealNumber, IsDigitsWithAPointAndAnExponent) {
+    EXPECT_EQ(RealNumber("0"), 0.0);
+    EXPECT_EQ(RealNumber("-2.5"), -2.5);
+    EXPECT_EQ(RealNumber(".5"), 0.5);
+    EXPECT_EQ(RealNumber("5."), 5.0);
+    EXPECT_EQ(RealNumber("1.5e3"), 1500.0);
+    for (const char* other : {"", "-", ".", "+1", " 1", "1 ", "1,5", "1e", "0x1p3", "1.5.2"})
+        EXPECT_EQ(RealNumber(other), std::nullopt) << other;
+}
+
+TEST(RealNumber, BeyondADoubleIsNoneAndInfinityIsWritten) {
+    EXPECT_EQ(RealNumber("1e999"), std::nullopt);
+    EXPECT_EQ(RealNumber("1e-999"), std::nullopt);
+    EXPECT_EQ(RealNumber("-inf"), -std::numeric_limits<double>::infinity());
+    EXPECT_TRUE(std::isnan(RealNumber("nan").value_or(0)));
 }
 
 }  // namespace

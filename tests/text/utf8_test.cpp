@@ -71,6 +71,34 @@ TEST(Utf8, OffsetOfFindsTheByteOfACodePoint) {
     EXPECT_EQ(OffsetOf("aé€b", 9), 7u);
 }
 
+TEST(Utf8, TheFirstByteTellsTheBytesOfACharacter) {
+    for (const char32_t value :
+         {U'a', U'\x7F', U'\x80', U'\u07FF', U'\u0800', U'\uFFFF', U'\U00010000', U'\U0010FFFF'}) {
+        std::string text;
+        AppendCodePoint(text, value);
+        EXPECT_EQ(SequenceLength(text[0]), text.size()) << static_cast<std::uint32_t>(value);
+    }
+    for (const char byte : {'\x80', '\xBF', '\xC0', '\xC1', '\xF5', '\xFF'})
+        EXPECT_EQ(SequenceLength(byte), 1u) << static_cast<int>(byte);
+}
+
+TEST(Utf8, ACutAtAByteGoesBackOrOnToTheStartOfACharacter) {
+    const std::string text = "aé€b";  // at 0, 1, 3 and 6
+    const std::size_t before[] = {0, 1, 1, 3, 3, 3, 6, 7};
+    const std::size_t behind[] = {0, 1, 3, 3, 6, 6, 6, 7};
+    for (std::size_t at = 0; at <= text.size(); ++at) {
+        EXPECT_EQ(CharacterStart(text, at), before[at]) << at;
+        EXPECT_EQ(NextCharacterStart(text, at), behind[at]) << at;
+    }
+}
+
+TEST(Utf8, ATextThatBeginsWithinACharacterIsCutAtItsEnds) {
+    EXPECT_EQ(CharacterStart("\x82\xAC", 1), 0u);
+    EXPECT_EQ(NextCharacterStart("\x82\xAC", 0), 2u);
+    EXPECT_EQ(CharacterStart("", 0), 0u);
+    EXPECT_EQ(NextCharacterStart("", 0), 0u);
+}
+
 TEST(Utf8, LeftAndRightCutAtCodePoints) {
     EXPECT_EQ(Left("élan", 2), "él");
     EXPECT_EQ(Left("élan", 0), "");

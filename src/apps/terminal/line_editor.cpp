@@ -16,15 +16,6 @@ namespace {
 
 constexpr int kHistoryLength = 500;
 
-/// Bytes of a character that begins with `first`; 1 for a byte that can't begin one.
-int SequenceLength(char first) {
-    const auto byte = static_cast<unsigned char>(first);
-    if (byte >= 0xF0 && byte <= 0xF4) return 4;
-    if (byte >= 0xE0 && byte <= 0xEF) return 3;
-    if (byte >= 0xC2 && byte <= 0xDF) return 2;
-    return 1;
-}
-
 }  // namespace
 
 LineEditor::LineEditor() {
@@ -86,7 +77,7 @@ int LineEditor::GetCharacter(EditLine* editor, wchar_t* character) {
 int LineEditor::ReadCharacter(wchar_t& character) {
     std::string bytes(1, '\0');
     if (!AwaitByte(bytes[0])) return timedOut_ ? -1 : 0;
-    while (static_cast<int>(bytes.size()) < SequenceLength(bytes[0])) {
+    while (bytes.size() < text::SequenceLength(bytes[0])) {
         char next = 0;
         if (!AwaitByte(next)) return timedOut_ ? -1 : 0;
         bytes += next;

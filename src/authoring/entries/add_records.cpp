@@ -65,9 +65,9 @@ std::vector<ModelCharacter> ReadFontOfSetZero(store::Adventure& adventure) {
 
 void AddFlags(ScreenContext& context) {
     store::Adventure& adventure = context.document.Adventure();
-    const std::string& type = adventure.AdventureType();
-    if (condacts::DialectOf(type) != condacts::Dialect::Fabula) {
-        Refuse(context.dialogs, "Extended flags cannot be used in a " + type + " type Adventure");
+    if (adventure.Kind() != store::AdventureKind::Fabula) {
+        Refuse(context.dialogs,
+               "Extended flags cannot be used in a " + adventure.AdventureType() + " type Adventure");
         return;
     }
     const int highest = Highest(adventure, TableNum::Flags, "flgnum");

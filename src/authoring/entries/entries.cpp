@@ -51,7 +51,7 @@ const EntryTable* FindEntryTable(TableNum table) {
 }
 
 bool IsFabula(const Adventure& adventure) {
-    return condacts::DialectOf(adventure.AdventureType()) == condacts::Dialect::Fabula;
+    return adventure.Kind() == store::AdventureKind::Fabula;
 }
 
 std::string KeyIs(TableNum table, int key) {
@@ -90,7 +90,7 @@ ScreenRequest AddProcessEntry(ScreenContext& context) {
     if (HighestKey(adventure, TableNum::ProcessTables) < 0) {
         context.currentEntry = 0;
         // Games of type Marlo have the first two tables only.
-        if (condacts::DialectOf(adventure.AdventureType()) != condacts::Dialect::Marlo)
+        if (adventure.Kind() != store::AdventureKind::Marlo)
             context.currentESNum = condacts::limit::kLastFixedProcess.value;
     }
     return {.screen = Screen::ProcessEntry,

@@ -36,7 +36,7 @@ void AddPlace(Adventure& adventure, condacts::PlaceNumber number, const std::str
 }
 
 std::optional<condacts::WordNumber> NumberOfNewNoun(Adventure& adventure) {
-    const bool marlo = condacts::DialectOf(adventure.AdventureType()) == condacts::Dialect::Marlo;
+    const bool marlo = adventure.Kind() == store::AdventureKind::Marlo;
     const int first = marlo ? kFirstMarloNoun : kFirstNounOfIt;
     std::set<int> taken;
     const condacts::WordIndex words = condacts::LoadWords(adventure);

@@ -171,7 +171,7 @@ void ObjectScreen::ClickMakeNoun(bool make) {
 }
 
 std::size_t ObjectScreen::LongestWord() const {
-    return condacts::SignificantLetters(store::AdventureKindOf(Adventure().AdventureType()));
+    return condacts::SignificantLetters(Adventure().Kind());
 }
 
 bool ObjectScreen::LeaveNoun() {
@@ -215,7 +215,7 @@ bool ObjectScreen::CheckContainer() {
 
 bool ObjectScreen::MakesInside() {
     if (makesInside_) return true;
-    const int highest = condacts::HighestRecord(store::AdventureKindOf(Adventure().AdventureType()));
+    const int highest = condacts::HighestRecord(Adventure().Kind());
     if (condacts::IsSpecialPlace(Key().key) || Key().key > highest)
         return RefuseField("container", "There is no location with this object number");
     const std::string number = std::to_string(Key().key);

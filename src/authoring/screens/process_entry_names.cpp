@@ -20,7 +20,7 @@ using condacts::MessageNumber;
 using store::TableNum;
 
 int HighestMessage(const store::Adventure& adventure) {
-    return condacts::HighestRecord(store::AdventureKindOf(adventure.AdventureType()));
+    return condacts::HighestRecord(adventure.Kind());
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "interchange/fabula/export_fields.h"
 
-#include <charconv>
-
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -16,14 +14,6 @@ std::optional<text::Value> ParseTruth(std::string_view text) {
     if (text::EqualsNoCase(text, "true") || text == "1" || text == "-1") return std::int64_t{1};
     if (text::EqualsNoCase(text, "false") || text == "0") return std::int64_t{0};
     return std::nullopt;
-}
-
-std::optional<text::Value> ParseDouble(std::string_view text) {
-    double number = 0;
-    const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-    return number;
 }
 
 /// "yyyy-mm-dd hh:mm:ss"
@@ -60,7 +50,10 @@ std::optional<text::Value> ParseExportValue(FieldType type, ExportUse use, std::
     }
     if (text.empty()) return text::Value();
     if (type == FieldType::Boolean) return ParseTruth(text);
-    if (type == FieldType::Double) return ParseDouble(text);
+    if (type == FieldType::Double) {
+        const auto number = text::RealNumber(text);
+        return number ? std::optional<text::Value>(*number) : std::nullopt;
+    }
     if (type == FieldType::Date) return ParseDate(text);
     if (type == FieldType::LongVarBinary) return std::nullopt;
     const auto number = text::WholeNumber(text);

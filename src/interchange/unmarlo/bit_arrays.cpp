@@ -1,10 +1,10 @@
 #include "interchange/unmarlo/bit_arrays.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "interchange/listing_numbers.h"
 #include "text/format.h"
+#include "text/numbers.h"
 #include "text/utf8.h"
 
 namespace fabula::interchange {
@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::string_view kOpening = "static char ";
 constexpr std::string_view kBrackets = "[]";
+constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef";
 constexpr std::size_t kRows = 8;
 constexpr int kCharactersASet = 1000;
 constexpr std::size_t kLongestSetName = 20;
@@ -33,11 +34,9 @@ void BitArray::TakeLine(std::string_view line) {
     line = line.substr(0, end);
     for (std::size_t at = line.find("0x"); at != std::string_view::npos; at = line.find("0x", at)) {
         at += 2;
-        std::uint8_t row = 0;
-        const char* digits = line.data() + at;
-        const auto read =
-            std::from_chars(digits, digits + std::min<std::size_t>(2, line.size() - at), row, 16);
-        if (read.ptr != digits && rows_.size() < kMostRows) rows_.push_back(ReverseFont(row));
+        const std::string_view digits = line.substr(at, 2);
+        const auto row = text::HexNumber(digits.substr(0, digits.find_first_not_of(kHexDigits)));
+        if (row && rows_.size() < kMostRows) rows_.push_back(ReverseFont(static_cast<std::uint8_t>(*row)));
     }
 }
 

@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "condacts/load.h"
+#include "condacts/process_numbers.h"
 #include "interchange/source_file.h"
 #include "interchange/unmarlo/listing_lines.h"
 #include "interchange/unmarlo/unmarlo_section.h"

@@ -1,6 +1,5 @@
 #include "pictures/characters/bdf_font.h"
 
-#include <charconv>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,6 +8,7 @@
 #include "platform/error.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
+#include "text/numbers.h"
 
 namespace fabula::pictures {
 namespace {
@@ -114,11 +114,9 @@ class Reader {
 
     /// Two hexadecimal digits; a row of at most eight pixels has no more.
     unsigned RowBits(std::string_view line) const {
-        unsigned bits = 0;
-        const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), bits, 16);
-        if (line.size() != 2 || error != std::errc() || end != line.data() + line.size())
-            Fail("expected a row of eight pixels as two hexadecimal digits.");
-        return bits;
+        const auto bits = text::HexNumber(line);
+        if (line.size() != 2 || !bits) Fail("expected a row of eight pixels as two hexadecimal digits.");
+        return *bits;
     }
 
     std::string text_;

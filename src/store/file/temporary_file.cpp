@@ -1,7 +1,6 @@
 #include "store/file/temporary_file.h"
 
 #include <cerrno>
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +12,8 @@
 #include <unistd.h>
 
 #include "platform/error.h"
+#include "text/numbers.h"
+#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {
@@ -29,10 +30,7 @@ constexpr int kMostLinks = 40;
 std::string StemOf(const fs::path& target) {
     std::string stem = target.filename().string();
     if (stem.size() <= kLongestStem) return stem;
-    std::size_t length = kLongestStem;
-    while (length > 0 && (static_cast<unsigned char>(stem[length]) & 0xC0) == 0x80)
-        --length;
-    stem.resize(length);
+    stem.resize(text::CharacterStart(stem, kLongestStem));
     return stem;
 }
 
@@ -43,15 +41,11 @@ std::optional<pid_t> MakerOf(std::string_view name, std::string_view stem) {
     name.remove_prefix(stem.size());
     name.remove_suffix(kEnd.size());
     if (!name.starts_with('.')) return std::nullopt;
-    pid_t maker = 0;
-    const char* const end = name.data() + name.size();
-    const auto process = std::from_chars(name.data() + 1, end, maker);
-    if (process.ec != std::errc{} || maker <= 0 || process.ptr == end || *process.ptr != '-')
-        return std::nullopt;
-    int count = 0;
-    const auto counted = std::from_chars(process.ptr + 1, end, count);
-    if (counted.ec != std::errc{} || counted.ptr != end) return std::nullopt;
-    return maker;
+    name.remove_prefix(1);
+    const std::optional<pid_t> maker = text::TakeNumber(name);
+    if (!maker || *maker <= 0 || !name.starts_with('-')) return std::nullopt;
+    name.remove_prefix(1);
+    return text::SmallNumber(name) ? maker : std::nullopt;
 }
 
 bool IsGone(pid_t process) {

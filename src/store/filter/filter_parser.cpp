@@ -1,8 +1,8 @@
 #include "store/filter/filter_parser.h"
 
 #include <algorithm>
-#include <charconv>
 
+#include "text/numbers.h"
 #include "text/utf8.h"
 
 namespace fabula::store {
@@ -148,18 +148,16 @@ class Parser {
 
     text::Value ParseNumber() {
         const std::string_view digits = tokens_.Next().text;
-        const char* end = digits.data() + digits.size();
-        std::int64_t whole = 0;
-        const auto readWhole = std::from_chars(digits.data(), end, whole);
-        if (readWhole.ec == std::errc{} && readWhole.ptr == end) {
+        std::string_view rest = digits;
+        const auto whole = text::TakeLongNumber(rest);
+        if (whole && rest.empty()) {
             tokens_.Take();
-            return whole;
+            return *whole;
         }
-        double real = 0;
-        const auto read = std::from_chars(digits.data(), end, real);
-        if (read.ec != std::errc{} || read.ptr != end) tokens_.Expected("a number in range");
+        const auto real = text::RealNumber(digits);
+        if (!real) tokens_.Expected("a number in range");
         tokens_.Take();
-        return real;
+        return *real;
     }
 
     /// The class of an operand; nullopt for a parameter, which fits any.

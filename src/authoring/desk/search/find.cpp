@@ -1,12 +1,12 @@
 #include "authoring/desk/search/find.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "authoring/document/screen_context.h"
 #include "store/comments.h"
 #include "store/filter/filter.h"
+#include "text/numbers.h"
 #include "text/utf8.h"
 
 namespace fabula::authoring {
@@ -21,11 +21,8 @@ std::optional<double> NumberIn(std::string_view text) {
     const std::size_t begin = text.find_first_not_of(' ');
     if (begin == std::string_view::npos) return std::nullopt;
     const std::size_t end = text.find_last_not_of(' ') + 1;
-    double number = 0;
-    const auto read = std::from_chars(text.data() + begin, text.data() + end, number);
-    if (read.ec != std::errc() || read.ptr != text.data() + end || !std::isfinite(number))
-        return std::nullopt;
-    return number;
+    const std::optional<double> number = text::RealNumber(text.substr(begin, end - begin));
+    return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
 /// What a field is compared with: a number, or a text that it has to contain.
