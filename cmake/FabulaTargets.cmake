@@ -1,4 +1,4 @@
-# How every target of this project is made, so that each folder's CMakeLists.txt only names its files.
+# How libraries, tests and fuzzers of this project are made, so that each folder's CMakeLists.txt only names its files.
 
 add_library(fabula_flags INTERFACE)
 target_compile_options(fabula_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
@@ -42,23 +42,27 @@ function(fabula_together name)
     set_target_properties(${name} PROPERTIES UNITY_BUILD ${FABULA_TOGETHER} UNITY_BUILD_BATCH_SIZE 40)
 endfunction()
 
-# fabula_library(NAME [COMPUTES] SOURCES file... [USES target...] [PRIVATE target...])
+# fabula_library(NAME [COMPUTES | WINDOWS] SOURCES file... [USES target...] [PRIVATE target...])
 #
-# The library of the folder src/NAME. Its headers are included as "NAME/header.h". Only targets that link it see
+# The library of a folder under src/. Its headers are included as "FOLDER/header.h". Only targets that link it see
 # them: the include path holds nothing but a link to this one folder, so that an include which the links do not
-# allow does not compile. COMPUTES is for what tests keep busy: with FABULA_COMPUTES_OPTIMISED (presets quick and sanitize) it alone is
-# optimised, since optimising the others takes longer than their tests gain by it.
+# allow does not compile. COMPUTES is for what tests keep busy: with FABULA_COMPUTES_OPTIMISED (presets quick and
+# sanitize) it alone is optimised, since optimising the others takes longer than their tests gain by it. WINDOWS is for
+# what shows itself with Qt.
 function(fabula_library name)
-    cmake_parse_arguments(arg "COMPUTES" "" "SOURCES;USES;PRIVATE" ${ARGN})
+    cmake_parse_arguments(arg "COMPUTES;WINDOWS" "" "SOURCES;USES;PRIVATE" ${ARGN})
     set(include_root "${PROJECT_BINARY_DIR}/include/${name}")
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
     file(MAKE_DIRECTORY "${include_root}")
-    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${include_root}/${name}" SYMBOLIC)
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${include_root}/${folder}" SYMBOLIC)
     add_library(${name} STATIC ${arg_SOURCES})
     target_include_directories(${name} PUBLIC "${include_root}")
     target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE ${arg_PRIVATE} fabula_flags)
     if(arg_COMPUTES AND FABULA_COMPUTES_OPTIMISED)
         target_compile_options(${name} PRIVATE ${FABULA_COMPUTES_OPTIMISED})
         target_precompile_headers(${name} REUSE_FROM optimised_headers)
+    elseif(arg_WINDOWS)
+        target_precompile_headers(${name} REUSE_FROM window_headers)
     else()
         target_precompile_headers(${name} REUSE_FROM library_headers)
     endif()
@@ -100,8 +104,8 @@ endfunction()
 # fabula_fuzzer(NAME LIBRARY SOURCES file... [SEEDS file...] [OPTIONS option...])
 #
 # One libFuzzer program for one reader, and a test that gives it its seeds and a thousand changes of them, or as many
-# as three seconds take. Its seeds are SEEDS and the files of seeds/READER, where it is named READER_fuzzer. Only with FABULA_FUZZ do the
-# libraries tell it what a change has reached; without, it sees no further than its own source.
+# as three seconds take. Its seeds are SEEDS and the files of seeds/READER, where it is named READER_fuzzer. Only with
+# FABULA_FUZZ do the libraries tell it what a change has reached; without, it sees no further than its own source.
 function(fabula_fuzzer name library)
     cmake_parse_arguments(arg "" "" "SOURCES;SEEDS;OPTIONS" ${ARGN})
     add_executable(${name} ${arg_SOURCES})

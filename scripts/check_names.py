@@ -12,7 +12,8 @@ import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-TARGET = re.compile(r"(?P<command>fabula_library|fabula_test|add_library|add_executable)\(\s*(?P<name>\w+)(?P<rest>[^)]*)\)")
+TARGET = re.compile(r"(?P<command>fabula_library|fabula_test|add_library|add_executable)"
+                    r"\(\s*(?P<name>\w+)(?P<rest>[^)]*)\)")
 TOGETHER = re.compile(r"fabula_together\((\w+)\)")
 APART = re.compile(r"set_target_properties\((\w+) PROPERTIES UNITY_BUILD OFF")
 TYPE = re.compile(r"(?:class|struct|union|enum(?: class)?) (\w+)|using (\w+) =")

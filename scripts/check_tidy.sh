@@ -2,7 +2,8 @@
 # Looks with clang-tidy (.clang-tidy) at the sources under src/, as the preset sanitize compiles them: that has to be
 # configured, and its precompiled headers built. Sources that are compiled together are looked at together.
 # usage: scripts/check_tidy.sh [--all | COMMIT]
-#   COMMIT  only what holds a source that differs from it; by default from the commit before the last
+#   COMMIT  only what holds a source that differs from it, and for a header that differs the source of its name, or one
+#           that includes it; by default from the commit before the last
 #   --all   everything: about ten minutes of processor time
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -26,6 +27,20 @@ for entry in json.load(open(sys.argv[1])):
 PYTHON
 }
 
+# The sources that show what has changed since a commit.
+changed_since() {
+    git diff --name-only --diff-filter=d "$1" -- 'src/*.cpp' 'src/*.h' | while read -r file; do
+        if [[ $file == *.cpp ]]; then
+            echo "$file"
+        elif [ -e "${file%.h}.cpp" ]; then
+            echo "${file%.h}.cpp"
+        else
+            included=${file#src/}
+            grep -rlF --include='*.cpp' "#include \"${included#apps/}\"" src | sort | head -n 1 || true
+        fi
+    done | sort -u
+}
+
 if [ "${1:-}" = --all ]; then
     files=$(compiled | cut -d' ' -f1)
 else
@@ -34,7 +49,7 @@ else
         echo "clang-tidy: $base is not here to compare with"
         exit 0
     fi
-    changed=$(git diff --name-only --diff-filter=d "$base" -- 'src/*.cpp' 'src/*.h' | sed 's/\.h$/.cpp/' | sort -u)
+    changed=$(changed_since "$base")
     if [ -z "$changed" ]; then
         echo "clang-tidy: no source has changed"
         exit 0

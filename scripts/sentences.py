@@ -28,8 +28,7 @@ TOKEN = re.compile(
 ESCAPES = {"n": "\n", "t": "\t", "r": "\r", "0": "\0"}
 CLOSING = {"(": ")", "[": "]", "{": "}"}
 # Files whose strings are all names of something, or go to a trace.
-SKIPPED = re.compile(r"help_anchors|section_forms|icon_shapes|process_loop|player_settings|/ini_|/tag_catalogue"
-                     r"|apps/(cli|terminal)/")
+SKIPPED = re.compile(r"help_anchors|section_forms|process_loop|player_settings|/tag_catalogue|apps/(cli|terminal)/")
 # Rooms whose words stand as values in sentences: "message" in "delete message 7".
 ROOMS_OF_NOUNS = re.compile(r"/src/(authoring|references|condacts)/")
 # Calls whose strings are names and not texts.

@@ -17,5 +17,6 @@ texts=$folder/fabula_$language.ts
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 python3 "$root/scripts/sentences.py" "$work/sentences.cpp"
-lupdate "$root/src/apps" "$work/sentences.cpp" -I "$root/src/apps" -locations none -no-obsolete -target-language "$language" -ts "$texts"
+lupdate "$root/src/apps" "$work/sentences.cpp" -I "$root/src/apps" -locations none -no-obsolete \
+    -target-language "$language" -ts "$texts"
 lrelease "$texts" -qm "${texts%.ts}.qm"

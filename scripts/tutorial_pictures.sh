@@ -32,7 +32,14 @@ update() { keys ctrl+Return; back; }
 place() { types "$1"; keys alt+d ctrl+a; types "$2"; }
 word() { opens ctrl+n "Vocabulary Editor"; types "$1"; keys "alt+$2"; }
 thing() { opens ctrl+n "Object $1"; types "$2"; keys alt+r alt+m ctrl+a; types "$3"; }
-rule() { opens ctrl+n "Process Table Editor"; keys alt+v; types "$1"; keys alt+n; types "$2"; keys alt+b; types "$3"; shift 3; local part; for part; do keys Tab; types "$part"; done; update; }
+rule() {
+    opens ctrl+n "Process Table Editor"
+    keys alt+v; types "$1"; keys alt+n; types "$2"; keys alt+b; types "$3"
+    shift 3
+    local part
+    for part; do keys Tab; types "$part"; done
+    update
+}
 
 tutorial() {
     local desk=$PWD/build/default/bin/FabulaIDE
@@ -66,7 +73,8 @@ tutorial() {
 
     table loc
     opens Return "Location 0"
-    place "The kitchen" "You are in the kitchen. It is ten at night, and at tea there was cake. The hall is north. In the east wall is the door of the pantry."
+    place "The kitchen" "You are in the kitchen. It is ten at night, and at tea there was cake. The hall is north.\
+ In the east wall is the door of the pantry."
     take location
     update
     opens ctrl+n "Location 1"
@@ -142,7 +150,9 @@ tutorial() {
     rule OPEN DOOR "at 0 notzero @pantry" 'message "It is open.' done
     rule OPEN DOOR "at 0 notcarr @key" 'message "You have nothing to open it with.' done
     rule OPEN DOOR "at 0 set @pantry" 'message "The key turns without a sound. You have done this before.' done
-    rule EAT CAKE "present @cake" 'plus 30 100 message "You eat the cake in the dark, standing up. It is the best cake in the world.' "score turns end"
+    rule EAT CAKE "present @cake" \
+         'plus 30 100 message "You eat the cake in the dark, standing up. It is the best cake in the world.' \
+         "score turns end"
     take rules
 
     opens F4 "Adventure Settings"

@@ -167,10 +167,10 @@ void AddTables(Work& work, const Step& step) {
 }
 
 void TakeTypes(Work& work, const Step& step) {
-    Cursor& rows = work.adventure.OpenTable(TableNum::Tables, "fieldname, fieldtype, fieldsize",
-                                            "tablenum=" + std::to_string(static_cast<int>(step.test.table)),
-                                            std::string_view());
-    const store::TableSchema& declared = work.defaults.Schema(step.test.table);
+    Cursor& rows = work.adventure.OpenTable(
+        TableNum::Tables, "fieldname, fieldtype, fieldsize",
+        "tablenum=" + std::to_string(static_cast<int>(step.condition.table)), std::string_view());
+    const store::TableSchema& declared = work.defaults.Schema(step.condition.table);
     for (; !rows.Eof(); rows.MoveNext()) {
         const auto field = declared.Find(rows.Text("fieldname"));
         const auto type = store::FieldTypeFromTag(rows.Text("fieldtype"));

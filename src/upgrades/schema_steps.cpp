@@ -8,7 +8,7 @@ namespace fabula::upgrades {
 namespace {
 
 using store::TableNum;
-using enum FieldTest::NeededWhen;
+using enum FieldCondition::NeededWhen;
 
 constexpr Step kSteps[] = {
     {1,

@@ -13,15 +13,15 @@ constexpr int kShortWord = 5;
 /// The number of the last step of each group of upgrades. Steps of our own belong to the last.
 constexpr std::array kLastOfGroup = {10, 20, 31, 44};
 
-bool Decides(const FieldTest& test, const Work::FieldRow& row) {
-    if (row.table != static_cast<int>(test.table)) return false;
-    if (!test.field.empty() && !text::EqualsNoCase(row.field, test.field)) return false;
-    switch (test.when) {
-        case FieldTest::NeededWhen::Missing:
+bool Decides(const FieldCondition& condition, const Work::FieldRow& row) {
+    if (row.table != static_cast<int>(condition.table)) return false;
+    if (!condition.field.empty() && !text::EqualsNoCase(row.field, condition.field)) return false;
+    switch (condition.when) {
+        case FieldCondition::NeededWhen::Missing:
             return true;
-        case FieldTest::NeededWhen::Text:
+        case FieldCondition::NeededWhen::Text:
             return text::EqualsNoCase(row.type, "advarwchar");
-        case FieldTest::NeededWhen::Short:
+        case FieldCondition::NeededWhen::Short:
             return row.size == kShortWord;
     }
     return false;
@@ -50,9 +50,9 @@ std::span<const Group> Groups() {
 
 bool IsNeeded(Work& work, const Step& step) {
     if (step.needed) return step.needed(work);
-    const bool found =
-        std::ranges::any_of(work.FieldRows(), [&](const auto& row) { return Decides(step.test, row); });
-    return (step.test.when == FieldTest::NeededWhen::Missing) != found;
+    const bool found = std::ranges::any_of(work.FieldRows(),
+                                           [&](const auto& row) { return Decides(step.condition, row); });
+    return (step.condition.when == FieldCondition::NeededWhen::Missing) != found;
 }
 
 }  // namespace fabula::upgrades

@@ -8,8 +8,8 @@
 
 namespace fabula::upgrades {
 
-/// A test of `Tables`: which row decides whether a step is needed.
-struct FieldTest {
+/// A condition on `Tables`: which row decides whether a step is needed.
+struct FieldCondition {
     enum class NeededWhen {
         Missing,  ///< no row tells of the field; without a field, none tells of the table
         Text,     ///< a row says that its type is `advarwchar`
@@ -20,13 +20,13 @@ struct FieldTest {
     NeededWhen when = NeededWhen::Missing;
 };
 
-/// One step of the chain. It is needed when its test says so, on the file as it then is; its effect makes
-/// the test say no, but for what `reportsOnly`.
+/// One step of the chain. It is needed when its condition says so, on the file as it then is; its effect
+/// makes the condition say no, but for what `reportsOnly`.
 struct Step {
     int number;             ///< corrections count below zero
     std::string_view text;  ///< what the author reads, "1 - Add of AdvDesc & AdvPicLoc to Adventure"
-    FieldTest test;
-    bool (*needed)(Work& work);  ///< in place of `test`; nullptr where that decides
+    FieldCondition condition;
+    bool (*needed)(Work& work);  ///< in place of `condition`; nullptr where that decides
     void (*effect)(Work& work, const Step& step);
     bool reportsOnly = false;  ///< changes nothing that a reader would see
 };

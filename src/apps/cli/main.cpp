@@ -35,7 +35,7 @@ int FailWithCaught(const std::string& doing) {
     } catch (const Error& error) {
         return Fail(error.what(), cli::kFailed);
     } catch (const std::bad_alloc&) {
-        return Fail("There is not enough memory for this.", cli::kFailed);
+        return Fail(failed + "there is not enough memory.", cli::kFailed);
     } catch (const std::exception& error) {
         return Fail(failed + error.what(), cli::kFailed);
     } catch (...) {

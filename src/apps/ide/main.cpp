@@ -3,6 +3,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -93,13 +94,17 @@ void DoWithoutDisplay(int argc, char** argv) {
     if (prints && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-int Run(int argc, char** argv) {
-    DoWithoutDisplay(argc, argv);
-    qt::Program app(argc, argv);
+void NameTheProgram() {
     QApplication::setApplicationName("Fabula");
     QApplication::setApplicationVersion(FABULA_VERSION);
     QApplication::setDesktopFileName("fabula-ide");
     QApplication::setWindowIcon(QIcon::fromTheme("fabula"));
+}
+
+int Run(int argc, char** argv) {
+    DoWithoutDisplay(argc, argv);
+    qt::Program app(argc, argv);
+    NameTheProgram();
     // While a game is tested the window is hidden and another one closes. This one ends the program itself.
     QApplication::setQuitOnLastWindowClosed(false);
 
@@ -123,9 +128,7 @@ int Run(int argc, char** argv) {
     const auto environment = platform::Environment::OfTheProgram();
     const auto folders = platform::ProgramDataFolders(platform::RunningProgram(), environment);
     const qt::Translations translations(folders, QLocale::system());
-    const auto files = authoring::FindProgramFiles(settings, folders, dialogs);
-    if (!files) return EXIT_FAILURE;
-
+    qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
     platform::SeededRandom random(platform::UnpredictableSeed());
     platform::SystemClock clock;
     qt::QtTimers timers;
@@ -134,19 +137,26 @@ int Run(int argc, char** argv) {
     ide::MainWindow* shown = nullptr;
     midi::Player sound(timers, midi::OpenOutput,
                        [&shown](const std::string& sentence) { shown->SoundFailed(sentence); });
-    ide::MainWindow window(
-        {timers, dialogs, settings, store, clock, events, sound, random, programs, midi::DeviceNames},
-        FindPlaces(*files, environment, folders));
-    shown = &window;
-    qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
-    border.SetKeep([&window] { return window.Logic().KeepACopy(ide::TypedTexts()); });
-    window.show();
-    const auto start = [&] {
-        const QStringList named = arguments.positionalArguments();
-        window.Start(named.isEmpty() ? std::filesystem::path() : qt::PathFromQt(named.first()));
+    std::optional<ide::MainWindow> window;
+    const auto make = [&] {
+        const auto files = authoring::FindProgramFiles(settings, folders, dialogs);
+        if (!files) return false;
+        window.emplace(ide::Services{timers, dialogs, settings, store, clock, events, sound, random,
+                                     programs, midi::DeviceNames},
+                       FindPlaces(*files, environment, folders));
+        shown = &*window;
+        window->show();
         return true;
     };
-    border.Run(start, [] { return std::string("the program began"); });
+    const auto start = [&] {
+        const QStringList named = arguments.positionalArguments();
+        window->Start(named.isEmpty() ? std::filesystem::path() : qt::PathFromQt(named.first()));
+        return true;
+    };
+    const auto doing = [] { return std::string("the program began"); };
+    if (!border.Run(make, doing).value_or(false)) return EXIT_FAILURE;
+    border.SetKeep([&window] { return window->Logic().KeepACopy(ide::TypedTexts()); });
+    border.Run(start, doing);
     return app.Run(border);
 }
 

@@ -2,6 +2,9 @@
 #include <QIcon>
 #include <QSettings>
 #include <QStandardPaths>
+#include <cstdlib>
+#include <optional>
+#include <string>
 
 #include "midi/device_output.h"
 #include "midi/player.h"
@@ -48,26 +51,33 @@ int Run(int argc, char** argv) {
                        [&shown](const std::string& sentence) { shown->SoundFailed(sentence); });
 
     qt::Help help(platform::FindFile(folders, "help/contents.html").value_or(""), dialogs);
-    player::PlayerWindow window({.timers = timers,
-                                 .dialogs = dialogs,
-                                 .sound = sound,
-                                 .random = random,
-                                 .settings = settings,
-                                 .dataFolder = dataFolder,
-                                 .soundDevices = midi::DeviceNames,
-                                 .help = [&help](const qt::HelpTopic& topic) { help.Show(topic); }});
-    shown = &window;
-    dialogs.SetParent(&window);
-    // What a game has come to lies in the autosave after each turn.
-    qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
-    const QStringList files = arguments.positionalArguments();
-    const auto start = [&] {
-        if (!files.isEmpty()) window.OpenAtStart(qt::PathFromQt(files.first()));
+    std::optional<player::PlayerWindow> window;
+    const auto make = [&] {
+        window.emplace(
+            player::WindowServices{.timers = timers,
+                                   .dialogs = dialogs,
+                                   .sound = sound,
+                                   .random = random,
+                                   .settings = settings,
+                                   .dataFolder = dataFolder,
+                                   .soundDevices = midi::DeviceNames,
+                                   .help = [&help](const qt::HelpTopic& topic) { help.Show(topic); }});
+        shown = &*window;
+        dialogs.SetParent(&*window);
         return true;
     };
-    border.Run(start, [] { return std::string("the program began"); });
-    window.show();
-    if (const std::string notKept = qt::WhyNotKept(settings); !notKept.empty()) window.Tell(notKept);
+    const QStringList files = arguments.positionalArguments();
+    const auto start = [&] {
+        if (!files.isEmpty()) window->OpenAtStart(qt::PathFromQt(files.first()));
+        return true;
+    };
+    // What a game has come to lies in the autosave after each turn.
+    qt::LastBorder border(dialogs, [](int status) { QApplication::exit(status); });
+    const auto doing = [] { return std::string("the program began"); };
+    if (!border.Run(make, doing).value_or(false)) return EXIT_FAILURE;
+    border.Run(start, doing);
+    window->show();
+    if (const std::string notKept = qt::WhyNotKept(settings); !notKept.empty()) window->Tell(notKept);
     return app.Run(border);
 }
 

@@ -8,6 +8,7 @@
 #include <exception>
 #include <new>
 
+#include "platform/error.h"
 #include "qt/strings.h"
 
 namespace fabula::qt {
@@ -119,13 +120,18 @@ bool Program::notify(QObject* receiver, QEvent* event) {
 }
 
 int RunProgram(const char* name, const std::function<int()>& body) {
+    const std::string failed = "Something failed while the program began: ";
+    std::string sentence;
     try {
         return body();
+    } catch (const Error& error) {
+        sentence = error.what();
     } catch (const std::exception& error) {
-        std::fputs((std::string(name) + ": " + WordsOf(error) + "\n").c_str(), stderr);
+        sentence = failed + WordsOf(error);
     } catch (...) {
-        std::fputs((std::string(name) + ": a fault without a name\n").c_str(), stderr);
+        sentence = failed + kNameless;
     }
+    std::fputs((std::string(name) + ": " + sentence + "\n").c_str(), stderr);
     return EXIT_FAILURE;
 }
 

@@ -56,8 +56,9 @@ class Program final : public QApplication {
     LastBorder* border_ = nullptr;
 };
 
-/// Runs the body of a program's `main`: what it throws outside of any event becomes one sentence on the
-/// standard error and the exit status 1.
+/// Runs the body of a program's `main`: what it throws before there is a border becomes one sentence on the
+/// standard error and the exit status 1. A fabula::Error tells what was being done; of all else it is told
+/// that the program began.
 int RunProgram(const char* name, const std::function<int()>& body);
 
 }  // namespace fabula::qt

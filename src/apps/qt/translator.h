@@ -15,9 +15,9 @@ namespace fabula::qt {
 /// "Could not write %1.", the pattern is translated, and the values are put in. Of several patterns that
 /// fit, the one with most letters of its own is taken.
 ///
-/// A text of several lines is translated line by line. A value that is itself a sentence or a word of the
-/// system, such as a reason or the name of a kind of record, is translated too; all others stay. So a name
-/// that an author chose stays, except in a message where it is spelled as a word of Fabula.
+/// A text of several lines is translated line by line. A value that is itself a sentence or a word of
+/// Fabula, such as a reason or the name of a kind of record, is translated too; all others stay. So a name
+/// that an author chose stays, except in a message where it is spelled as such a word.
 class Translator final : public QTranslator {
   public:
     /// `sentences` has the patterns and outlives this.

@@ -41,8 +41,7 @@ class CharacterEditor final : public RecordScreen {
 
     /// Whether a square is ink; its index is its row times 8 plus its column.
     bool Square(int index) const;
-    /// The squares as a character, and the character of the samples.
-    const pictures::Glyph& Squares() const { return squares_; }
+    /// The character of the samples.
     const pictures::Glyph& Drawn() const { return drawn_; }
     /// The `charvals` of the character that was drawn last.
     std::string CharVals() const { return pictures::FormatCharVals(drawn_); }

@@ -101,9 +101,9 @@ bool Asks(const condacts::ParsedLine& line, condacts::WordType wordType, std::st
 }
 
 /// Tells which process entries use a word that is deleted, by the words that are left.
-class EntryTest {
+class EntryUse {
   public:
-    EntryTest(Adventure& adventure, const Word& word)
+    EntryUse(Adventure& adventure, const Word& word)
         : word_(word),
           catalogue_(condacts::LoadCatalogue(adventure)),
           words_(WordsWithout(adventure, word)) {}
@@ -134,11 +134,11 @@ class EntryTest {
 };
 
 int DeleteEntries(Adventure& adventure, const Word& word) {
-    const EntryTest test(adventure, word);
+    const EntryUse use(adventure, word);
     int deleted = 0;
     Cursor& entries = adventure.OpenTable(TableNum::Free22, "* from processtables");
     for (; !entries.Eof(); entries.MoveNext()) {
-        if (!test.Used(entries)) continue;
+        if (!use.Used(entries)) continue;
         entries.Delete();
         ++deleted;
     }
@@ -210,10 +210,10 @@ std::vector<Affected> AffectedBy(Adventure& adventure, const Word& word) {
         for (Cursor& object = ObjectsOf(adventure, word); !object.Eof(); object.MoveNext())
             affected.push_back({TableNum::Objects, static_cast<int>(object.Number("objnum"))});
     }
-    const EntryTest test(adventure, word);
+    const EntryUse use(adventure, word);
     for (Cursor& entry = adventure.OpenTable(TableNum::Free22, "* from processtables"); !entry.Eof();
          entry.MoveNext()) {
-        if (test.Used(entry))
+        if (use.Used(entry))
             affected.push_back({TableNum::ProcessTables, static_cast<int>(entry.Number("canum")), true});
     }
     if (word.type != condacts::kVerb && word.type != condacts::kNoun) return affected;

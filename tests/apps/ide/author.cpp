@@ -19,7 +19,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ide/window/game_test.h"
+#include "ide/window/trial_run.h"
 #include "qt/strings.h"
 #include "support/active_window.h"
 

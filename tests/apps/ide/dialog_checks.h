@@ -22,8 +22,8 @@ std::vector<std::string> StepsBack(QWidget& window);
 /// How many points of a form lie beside its window, to be scrolled to.
 int ScrollsSideways(const QWidget& window);
 
-/// Saves a picture of a window into the folder FABULA_GRABS, if there is one, in light and in dark: for
-/// those who want to look at it.
+/// Expects a window to be drawn in light and in dark: its paper, and something that stands out from it.
+/// Saves both pictures into the folder FABULA_GRABS, if there is one, for those who want to look at them.
 void GrabInBothThemes(QWidget& window, const QString& name);
 
 }  // namespace fabula::test

@@ -24,7 +24,7 @@
 #include "authoring/desk/commands.h"
 #include "ide/opened_window.h"
 #include "ide/window/examples.h"
-#include "ide/window/game_test.h"
+#include "ide/window/trial_run.h"
 #include "platform/error.h"
 #include "qt/help/help_window.h"
 #include "qt/look/icons.h"

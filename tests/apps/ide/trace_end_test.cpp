@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "ide/opened_window.h"
-#include "ide/window/game_test.h"
+#include "ide/window/trial_run.h"
 #include "support/child_process.h"
 #include "support/raw_database.h"
 

@@ -17,7 +17,7 @@
 #include <gtest/gtest.h>
 
 #include "ide/author.h"
-#include "ide/window/game_test.h"
+#include "ide/window/trial_run.h"
 #include "player/panes/game_screen.h"
 #include "player/panes/text_pane.h"
 #include "qt/help/help_window.h"

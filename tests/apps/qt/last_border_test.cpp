@@ -128,6 +128,15 @@ TEST(RunProgram, MakesASentenceAndStatus1OfWhatTheBodyThrows) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "FabulaIDE: The file is gone.\n");
 }
 
+TEST(RunProgram, TellsWhatWasBeingDoneWithAFaultThatDoesNot) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(qt::RunProgram("FabulaIDE", []() -> int { throw std::bad_alloc(); }), 1);
+    EXPECT_EQ(qt::RunProgram("FabulaIDE", []() -> int { throw 5; }), 1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "FabulaIDE: Something failed while the program began: There is not enough memory for this.\n"
+              "FabulaIDE: Something failed while the program began: A fault without a name.\n");
+}
+
 TEST(RunProgram, GivesTheStatusOfTheBody) {
     EXPECT_EQ(qt::RunProgram("FabulaIDE", [] { return 7; }), 7);
 }

@@ -66,7 +66,7 @@ std::unique_ptr<OpenedRecord> Opened(const authoring::ScreenRequest& request,
     return nullptr;
 }
 
-void ShowSettings(authoring::ScreenContext& context, const SoundTest& sound, QWidget* parent) {
+void ShowSettings(authoring::ScreenContext& context, const SoundTrial& sound, QWidget* parent) {
     authoring::SettingsScreen screen(context, sound.devices());
     SettingsDialog dialog(screen, sound.player, parent);
     dialog.exec();
@@ -80,7 +80,7 @@ std::unique_ptr<OpenedRecord> OpenRecord(const authoring::ScreenRequest& request
 }
 
 std::optional<authoring::Jump> OpenScreen(const authoring::ScreenRequest& request,
-                                          authoring::ScreenContext& context, const SoundTest& sound,
+                                          authoring::ScreenContext& context, const SoundTrial& sound,
                                           authoring::Navigator& navigator, QWidget* parent) {
     if (request.screen == Screen::Settings) {
         ShowSettings(context, sound, parent);

@@ -18,7 +18,7 @@ class QWidget;
 namespace fabula::ide {
 
 /// What the settings try the sound with.
-struct SoundTest {
+struct SoundTrial {
     engine::SoundPlayer& player;
     std::function<std::vector<std::string>()> devices;  ///< the names of the system's MIDI devices
 };
@@ -43,7 +43,7 @@ std::unique_ptr<OpenedRecord> OpenRecord(const authoring::ScreenRequest& request
 /// stored is in the adventure then. Gives the place that the author left it for by F12 or Shift+F12. Throws
 /// fabula::Error when the record can't be read.
 std::optional<authoring::Jump> OpenScreen(const authoring::ScreenRequest& request,
-                                          authoring::ScreenContext& context, const SoundTest& sound,
+                                          authoring::ScreenContext& context, const SoundTrial& sound,
                                           authoring::Navigator& navigator, QWidget* parent);
 
 }  // namespace fabula::ide

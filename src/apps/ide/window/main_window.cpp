@@ -26,7 +26,6 @@
 #include "ide/editors/wheel_guard.h"
 #include "ide/window/command_actions.h"
 #include "ide/window/empty_page.h"
-#include "ide/window/game_test.h"
 #include "ide/window/grid/find_bar.h"
 #include "ide/window/grid/tab_strip.h"
 #include "ide/window/panes/findings_pane.h"
@@ -34,6 +33,7 @@
 #include "ide/window/panes/record_panel.h"
 #include "ide/window/panes/tree_panel.h"
 #include "ide/window/panes/uses_pane.h"
+#include "ide/window/trial_run.h"
 #include "qt/qt_settings.h"
 #include "qt/strings.h"
 

@@ -38,7 +38,7 @@ class CommandActions;
 class EmptyPage;
 class FindBar;
 class FindingsPane;
-class GameTest;
+class TrialRun;
 class RecordPane;
 class RecordPanel;
 class TabStrip;
@@ -89,7 +89,7 @@ class MainWindow final : public QMainWindow {
     void SoundFailed(const std::string& sentence);
 
     /// The game being tested; nullptr when there is none.
-    const GameTest* Test() const { return test_.get(); }
+    const TrialRun* Test() const { return test_.get(); }
     qt::Help& Help() { return help_; }
 
   protected:
@@ -192,7 +192,7 @@ class MainWindow final : public QMainWindow {
     qt::Help help_;
     authoring::TableView shownView_;
     std::filesystem::path shownFile_;  ///< whose table it is; empty for none
-    std::unique_ptr<GameTest> test_;
+    std::unique_ptr<TrialRun> test_;
 
     QStackedWidget* pages_;
     EmptyPage* empty_;

@@ -21,11 +21,11 @@
 #include "ide/drawing/character_table_dialog.h"
 #include "ide/drawing/drawing_screens.h"
 #include "ide/drawing/set_files_dialog.h"
-#include "ide/window/game_test.h"
 #include "ide/window/grid/find_bar.h"
 #include "ide/window/job_events.h"
 #include "ide/window/main_window.h"
 #include "ide/window/panes/record_panel.h"
+#include "ide/window/trial_run.h"
 #include "packages/travel_report.h"
 #include "platform/error.h"
 #include "player/window/about_adventure.h"
@@ -363,7 +363,7 @@ void MainWindow::StartTest() {
     const auto run = ide_.BeginRunTest();
     if (!run) return ShowChanges();
     try {
-        test_ = std::make_unique<GameTest>(
+        test_ = std::make_unique<TrialRun>(
             *run,
             player::WindowServices{.timers = services_.timers,
                                    .dialogs = services_.dialogs,

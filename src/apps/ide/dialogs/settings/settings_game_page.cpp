@@ -14,7 +14,7 @@
 #include "authoring/settings/colour_screen.h"
 #include "ide/dialogs/settings/colour_dialog.h"
 #include "ide/editors/edit_controls.h"
-#include "ide/editors/font_test.h"
+#include "ide/editors/font_sample_label.h"
 #include "ide/editors/layout.h"
 #include "qt/strings.h"
 #include "text/colours.h"
@@ -85,7 +85,7 @@ SettingsGamePage::SettingsGamePage(SettingsScreen& screen, Guard guard)
       font_(NewDropList(screen.font)),
       fontSize_(NewDropList(screen.fontSize)),
       printWidth_(NewDropList(screen.printWidth)),
-      sample_(new FontTest(screen.Adventure())),
+      sample_(new FontSampleLabel(screen.Adventure())),
       graphics_(NewSwitch(tr("Pictu&res"), "graphics", screen.graphics)),
       graphicsInDb_(NewSwitch(tr("Pictures in the data&base"), "graphicsInDb", screen.graphicsInDb)),
       description_(NewTextEdit(screen.description)),

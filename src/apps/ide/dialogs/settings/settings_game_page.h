@@ -19,7 +19,7 @@ class QVBoxLayout;
 
 namespace fabula::ide {
 
-class FontTest;
+class FontSampleLabel;
 
 /// The settings' page of the game as a whole, in two columns where the window is wide enough.
 class SettingsGamePage final : public QWidget {
@@ -84,7 +84,7 @@ class SettingsGamePage final : public QWidget {
     QComboBox* font_;
     QComboBox* fontSize_;
     QComboBox* printWidth_;
-    FontTest* sample_;
+    FontSampleLabel* sample_;
     QCheckBox* graphics_;
     QCheckBox* graphicsInDb_;
     QPlainTextEdit* description_;

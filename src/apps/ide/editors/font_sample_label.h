@@ -9,9 +9,9 @@ namespace fabula::ide {
 
 /// A line of text as a game shows it with the settings as they are chosen: in its font and size, or with
 /// its character set, and in its colours.
-class FontTest final : public QLabel {
+class FontSampleLabel final : public QLabel {
   public:
-    explicit FontTest(store::Adventure& adventure, QWidget* parent = nullptr);
+    explicit FontSampleLabel(store::Adventure& adventure, QWidget* parent = nullptr);
 
     void ShowSample(const authoring::FontSample& sample);
 

@@ -1,4 +1,4 @@
-#include "ide/editors/font_test.h"
+#include "ide/editors/font_sample_label.h"
 
 #include <QImage>
 #include <map>
@@ -15,7 +15,7 @@ constexpr const char* kSampleLines[] = {"You are in a", "dark cave. 123"};
 constexpr int kSampleColumns = 14;
 constexpr int kCell = 8;
 constexpr int kEnlarged = 2;  ///< characters of 8 pixels are small on the screens of today
-constexpr int kFontTestMargin = 12;
+constexpr int kSampleMargin = 12;
 
 QColor ColourOfNumber(int number) {
     const text::Rgb rgb = text::ColourRGB(number);
@@ -41,19 +41,20 @@ void DrawGlyph(QImage& image, const QPoint& place, const pictures::Glyph& glyph,
 
 }  // namespace
 
-FontTest::FontTest(store::Adventure& adventure, QWidget* parent) : QLabel(parent), adventure_(adventure) {
+FontSampleLabel::FontSampleLabel(store::Adventure& adventure, QWidget* parent)
+    : QLabel(parent), adventure_(adventure) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setMargin(kFontTestMargin);
+    setMargin(kSampleMargin);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setMinimumHeight(2 * kFontTestMargin + kEnlarged * kCell * static_cast<int>(std::size(kSampleLines)));
+    setMinimumHeight(2 * kSampleMargin + kEnlarged * kCell * static_cast<int>(std::size(kSampleLines)));
     // A large size asks for more lines, not for a wider window.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
 }
 
-void FontTest::ShowSample(const authoring::FontSample& sample) {
+void FontSampleLabel::ShowSample(const authoring::FontSample& sample) {
     QPalette colours = palette();
     colours.setColor(QPalette::Window, ColourOfNumber(sample.paper));
     colours.setColor(QPalette::WindowText, ColourOfNumber(sample.ink));
@@ -71,7 +72,7 @@ void FontTest::ShowSample(const authoring::FontSample& sample) {
     setText(text);
 }
 
-QPixmap FontTest::Drawn(int charSet, const QColor& ink) const {
+QPixmap FontSampleLabel::Drawn(int charSet, const QColor& ink) const {
     const std::map<int, pictures::Glyph> glyphs = GlyphsOf(adventure_, charSet);
     QImage lines(kCell * kSampleColumns, kCell * static_cast<int>(std::size(kSampleLines)),
                  QImage::Format_ARGB32);

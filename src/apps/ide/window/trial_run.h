@@ -12,14 +12,14 @@
 namespace fabula::ide {
 
 /// A test of the open adventure: the engine's window, which is shown until it closes.
-class GameTest final : public QObject {
+class TrialRun final : public QObject {
   public:
     /// Shows the window on the game. `ended` is called from the event loop when it has closed. With a
     /// trace the game's steps go to a file beside the adventure, told by `begun`. Throws fabula::Error when
     /// that can't be written; when its end can't, a box tells it.
-    GameTest(const authoring::TestRun& run, const player::WindowServices& services,
+    TrialRun(const authoring::TestRun& run, const player::WindowServices& services,
              const platform::DateTime& begun, std::function<void()> ended);
-    ~GameTest() override;
+    ~TrialRun() override;
 
     player::PlayerWindow& Window() const { return *window_; }
     /// The file of the trace; empty without one.

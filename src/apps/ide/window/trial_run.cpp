@@ -1,4 +1,4 @@
-#include "ide/window/game_test.h"
+#include "ide/window/trial_run.h"
 
 #include <QEvent>
 #include <cstdlib>
@@ -19,7 +19,7 @@ std::string TraceHeader(const std::filesystem::path& file, const platform::DateT
 
 }  // namespace
 
-GameTest::GameTest(const authoring::TestRun& run, const player::WindowServices& services,
+TrialRun::TrialRun(const authoring::TestRun& run, const player::WindowServices& services,
                    const platform::DateTime& begun, std::function<void()> ended)
     : dialogs_(services.dialogs), ended_(std::move(ended)) {
     player::WindowServices testing = services;
@@ -37,16 +37,16 @@ GameTest::GameTest(const authoring::TestRun& run, const player::WindowServices& 
     window_->activateWindow();
 }
 
-GameTest::~GameTest() = default;
+TrialRun::~TrialRun() = default;
 
-void GameTest::FinishTrace() {
+void TrialRun::FinishTrace() {
     if (!trace_ || traceFinished_) return;
     traceFinished_ = true;
     if (!trace_->Finish())
         dialogs_.Tell("Could not write all of the trace " + traceFile_.string() + ".", "Error");
 }
 
-bool GameTest::eventFilter(QObject*, QEvent* event) {
+bool TrialRun::eventFilter(QObject*, QEvent* event) {
     // The window is at work on the event that hides it: the owner may end it afterwards.
     if (event->type() == QEvent::Hide && !event->spontaneous())
         QMetaObject::invokeMethod(
