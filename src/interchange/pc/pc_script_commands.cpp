@@ -9,6 +9,7 @@
 #include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
+#include "interchange/given_records.h"
 #include "interchange/keyed_table.h"
 
 namespace fabula::interchange {
@@ -31,18 +32,6 @@ constexpr NeededWord kNeededWords[] = {
     {"SCRIP", condacts::kNoun},
     {"ON", condacts::kPreposition},
     {"OFF", condacts::kPreposition},
-};
-
-struct ScriptCommand {
-    const char* verb;
-    const char* condActs;
-};
-
-constexpr const char* kCommandNoun = "SCRIP";
-constexpr ScriptCommand kCommands[] = {
-    {"TURN", "PREP OFF SCRIPT 0"},
-    {"TURN", "PREP ON SCRIPT 1"},
-    {"LOAD", "SCRIPT 2"},
 };
 
 /// The words of a vocabulary while some are added to it.
@@ -88,17 +77,11 @@ class ScriptVocabulary {
     KeyedTable table_;
 };
 
-bool HasScriptEntry(store::Adventure& adventure, const ScriptCommand& command) {
-    store::PreparedQuery entries =
-        adventure.Prepare(TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?");
-    return entries.First({command.verb, kCommandNoun, command.condActs});
-}
-
-void AddEntry(PcSourceJob& job, const ScriptCommand& command, const condacts::WordIndex& words) {
+void AddEntry(PcSourceJob& job, const GivenEntry& command, const condacts::WordIndex& words) {
     const Word* verb =
-        words.Find(command.verb, [](const Word& word) { return word.type == condacts::kVerb; });
+        words.Find(command.w1, [](const Word& word) { return word.type == condacts::kVerb; });
     const Word* noun =
-        words.Find(kCommandNoun, [](const Word& word) { return word.type == condacts::kNoun; });
+        words.Find(command.w2, [](const Word& word) { return word.type == condacts::kNoun; });
     const condacts::Converted numeric = condacts::CondActsToNumeric(command.condActs, job.catalogue, words);
     if (verb == nullptr || noun == nullptr || !numeric.ok) return;
     KeyedTable entries(job.context.adventure, TableNum::ProcessTables, "canum");
@@ -124,8 +107,8 @@ void AddScriptCommands(PcSourceJob& job) {
             vocabulary.MakeSureOf(needed);
     }
     const condacts::WordIndex words = condacts::LoadWords(adventure);
-    for (const ScriptCommand& command : kCommands) {
-        if (!HasScriptEntry(adventure, command)) AddEntry(job, command, words);
+    for (const GivenEntry& command : kScriptEntries) {
+        if (!HasEntry(adventure, command)) AddEntry(job, command, words);
     }
 }
 
