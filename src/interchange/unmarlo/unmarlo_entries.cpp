@@ -16,9 +16,9 @@ constexpr Columns kFirstLetter{6, 1};
 constexpr const char* kLoaded[] = {"Loaded Marlo Response Table.\n", "Loaded Marlo Status Table.\n"};
 
 /// The response or the status table. The numbers of words are found when the vocabulary is known.
-class MarloEntries final : public UnMarloSection {
+class MarloEntries final : public ListingSection {
   public:
-    MarloEntries(ListingJob& job, int table) : job_(job), table_(table), entries_(job.Adventure()) {
+    MarloEntries(ListingJob& job, int table) : job_(job), entries_(job.Adventure()) {
         pending_.table = table;
     }
 
@@ -26,8 +26,7 @@ class MarloEntries final : public UnMarloSection {
         if (!HasAddress(line)) return;
         if (Cut(line, kFirstLetter) == " ") {
             const auto condAct = TakeCondActs(job_, CutTrimmed(line, kCondAct), nullptr);
-            if (condAct && !condAct->empty())
-                pending_.condActs += (pending_.condActs.empty() ? "" : " ") + *condAct;
+            if (condAct && !condAct->empty()) pending_.AddCondActs(*condAct);
             return;
         }
         Flush();
@@ -37,7 +36,7 @@ class MarloEntries final : public UnMarloSection {
 
     void Finish() override {
         Flush();
-        job_.Status(kLoaded[table_]);
+        job_.Status(kLoaded[pending_.table]);
     }
 
   private:
@@ -46,21 +45,16 @@ class MarloEntries final : public UnMarloSection {
         return text::UpperCase(word);
     }
 
-    void Flush() {
-        if (!pending_.IsEmpty()) entries_.Add(pending_, job_.catalogue, {});
-        pending_ = ListedEntry{};
-        pending_.table = table_;
-    }
+    void Flush() { entries_.Flush(pending_, job_.catalogue, {}); }
 
     ListingJob& job_;
-    int table_;
     ListedEntries entries_;
     ListedEntry pending_;
 };
 
 }  // namespace
 
-std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, int table) {
+std::unique_ptr<ListingSection> UnMarloEntries(ListingJob& job, int table) {
     return std::make_unique<MarloEntries>(job, table);
 }
 

@@ -24,7 +24,7 @@ constexpr TextRow kTextRows[] = {
 };
 
 /// Texts below lines "Message   12". Empty lines at the end of a text part it from what follows.
-class ListedTexts final : public UnVelSection {
+class ListedTexts final : public ListingSection {
   public:
     ListedTexts(UnVelJob& job, UnVelTextKind kind)
         : job_(job),
@@ -92,7 +92,7 @@ class ListedTexts final : public UnVelSection {
 
 }  // namespace
 
-std::unique_ptr<UnVelSection> UnVelTexts(UnVelJob& job, UnVelTextKind kind) {
+std::unique_ptr<ListingSection> UnVelTexts(UnVelJob& job, UnVelTextKind kind) {
     return std::make_unique<ListedTexts>(job, kind);
 }
 
