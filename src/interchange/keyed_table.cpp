@@ -2,7 +2,12 @@
 
 #include <utility>
 
+#include "store/schema/record_fields.h"
+
 namespace fabula::interchange {
+
+KeyedTable::KeyedTable(store::Adventure& adventure, store::TableNum table)
+    : KeyedTable(adventure, table, store::KeyField(table)) {}
 
 KeyedTable::KeyedTable(store::Adventure& adventure, store::TableNum table, std::string keyField)
     : cursor_(adventure.OpenTable(table, "def")), keyField_(std::move(keyField)) {

@@ -38,8 +38,7 @@ constexpr NeededWord kNeededWords[] = {
 class ScriptVocabulary {
   public:
     explicit ScriptVocabulary(store::Adventure& adventure)
-        : words_(condacts::LoadWords(adventure).All()),
-          table_(adventure, TableNum::Vocabulary, "vocindex") {}
+        : words_(condacts::LoadWords(adventure).All()), table_(adventure, TableNum::Vocabulary) {}
 
     void MakeSureOf(const NeededWord& needed) {
         std::vector<Word> sameSpelling;
@@ -84,7 +83,7 @@ void AddEntry(PcSourceJob& job, const GivenEntry& command, const condacts::WordI
         words.Find(command.w2, [](const Word& word) { return word.type == condacts::kNoun; });
     const condacts::Converted numeric = condacts::CondActsToNumeric(command.condActs, job.catalogue, words);
     if (verb == nullptr || noun == nullptr || !numeric.ok) return;
-    KeyedTable entries(job.context.adventure, TableNum::ProcessTables, "canum");
+    KeyedTable entries(job.context.adventure, TableNum::ProcessTables);
     Cursor& record = entries.Add(entries.HighestKey() + 1);
     record.SetField("estype", std::int64_t{0});
     record.SetField("w1", verb->word);

@@ -53,7 +53,7 @@ class ArrayReader {
 class ListedCharacters {
   public:
     explicit ListedCharacters(store::Adventure& adventure)
-        : table_(adventure, store::TableNum::Characters, "charkey") {}
+        : table_(adventure, store::TableNum::Characters) {}
 
     /// Stores characters of a set, from number `first` up. Those that are there are written over.
     void Store(int set, int first, const std::vector<std::string>& characters, const std::string& setName);

@@ -27,7 +27,7 @@ struct ListedEntry {
 class ListedEntries {
   public:
     explicit ListedEntries(store::Adventure& adventure)
-        : table_(adventure, store::TableNum::ProcessTables, "canum") {}
+        : table_(adventure, store::TableNum::ProcessTables) {}
 
     /// Adds an entry at the next key. Its numeric form is made with `words`.
     void Add(const ListedEntry& entry, const condacts::Catalogue& catalogue,

@@ -58,7 +58,7 @@ void ListedPictures::Store() {
     for (bool more = rows.First({}); more; more = rows.Next())
         locations.insert(rows.Number(0));
     rows.Reset();
-    KeyedTable table(job_.Adventure(), TableNum::Pictures, "locnum");
+    KeyedTable table(job_.Adventure(), TableNum::Pictures);
     for (const auto& [number, picture] : read_) {
         if (locations.contains(number)) StorePicture(table, picture);
     }

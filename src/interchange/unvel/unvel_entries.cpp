@@ -44,7 +44,7 @@ class Entries final : public ListingSection {
     void Finish() override {
         Flush();
         if (table_ <= kLastDefaultTable) return;
-        KeyedTable tables(job_.Adventure(), TableNum::ProcDesc, "pmsgnum");
+        KeyedTable tables(job_.Adventure(), TableNum::ProcDesc);
         if (!tables.Has(table_)) StoreText(tables, "pmsgmsg", table_, "");
     }
 

@@ -1,6 +1,7 @@
 #include "condacts/limits.h"
 #include "interchange/unvel/unvel_section.h"
 #include "interchange/unvel/unvel_text.h"
+#include "store/schema/record_fields.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {
@@ -13,14 +14,13 @@ using store::TableNum;
 struct TextRow {
     std::string_view label;
     TableNum table;
-    const char* keyField;
     const char* loaded;
 };
 constexpr TextRow kTextRows[] = {
-    {"Message", TableNum::Messages, "msgnum", "Messages"},
-    {"System Message", TableNum::SystemMessages, "smsgnum", "System Messages"},
-    {"Location", TableNum::Locations, "locnum", "Locations"},
-    {"Object", TableNum::Objects, "objnum", "Object Names"},
+    {"Message", TableNum::Messages, "Messages"},
+    {"System Message", TableNum::SystemMessages, "System Messages"},
+    {"Location", TableNum::Locations, "Locations"},
+    {"Object", TableNum::Objects, "Object Names"},
 };
 
 /// Texts below lines "Message   12". Empty lines at the end of a text part it from what follows.
@@ -30,7 +30,7 @@ class ListedTexts final : public ListingSection {
         : job_(job),
           kind_(kind),
           row_(kTextRows[static_cast<std::size_t>(kind)]),
-          table_(job.Adventure(), row_.table, row_.keyField) {}
+          table_(job.Adventure(), row_.table) {}
 
     void Line(std::string_view line) override {
         if (const auto number = NumberAlone(line, row_.label)) {
@@ -70,9 +70,8 @@ class ListedTexts final : public ListingSection {
     void Store(int number, const std::string& text) {
         switch (kind_) {
             case UnVelTextKind::Messages:
-                return StoreText(table_, "msgmsg", number, text);
             case UnVelTextKind::SystemMessages:
-                return StoreText(table_, "smsgmsg", number, text);
+                return StoreText(table_, store::TextField(row_.table), number, text);
             case UnVelTextKind::Locations:
                 return StoreLocation(table_, number, text);
             case UnVelTextKind::ObjectNames:
