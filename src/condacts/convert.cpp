@@ -11,10 +11,6 @@
 namespace fabula::condacts {
 namespace {
 
-bool AdmitsLocationWords(const Parameter& param) {
-    return param.kind == ParamKind::Location && param.maxValue == kLocationWordsAllowed;
-}
-
 std::optional<PlaceNumber> LocationNumber(std::string_view token) {
     for (const LocationWord& entry : kLocationWords) {
         if (text::EqualsNoCase(entry.word, token)) return entry.number;
@@ -77,6 +73,10 @@ std::string TextParameter(const CondAct& condAct, std::size_t param, std::string
 }
 
 }  // namespace
+
+bool AdmitsLocationWords(const Parameter& parameter) {
+    return parameter.kind == ParamKind::Location && parameter.maxValue == kLocationWordsAllowed;
+}
 
 std::string LocationWordsToNumbers(std::string_view line, const Catalogue& catalogue) {
     const ParsedLine parsed = ParseLine(line, catalogue);

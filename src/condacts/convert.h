@@ -20,6 +20,9 @@ struct Converted {
     std::size_t faultyToken = 0;
 };
 
+/// Whether a parameter may be given by NOTCR, WORN, CARRIED or HERE.
+bool AdmitsLocationWords(const Parameter& parameter);
+
 /// Replaces NOTCR, WORN, CARRIED and HERE by their numbers where a parameter admits them. The tokens come
 /// back separated by single blanks; a line that holds an unknown name is changed only up to it.
 std::string LocationWordsToNumbers(std::string_view line, const Catalogue& catalogue);

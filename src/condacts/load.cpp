@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "store/each_row.h"
 #include "store/new_flag.h"
 #include "text/utf8.h"
 
@@ -12,64 +13,55 @@ namespace fabula::condacts {
 namespace {
 
 using store::Adventure;
+using store::ForEachRow;
 using store::PreparedQuery;
+using store::SmallNumber;
 using store::TableNum;
-
-int Int(const PreparedQuery& row, int column) {
-    return static_cast<int>(row.Number(column));
-}
-
-/// Calls `use` with each row of a table, in its default order.
-template <typename Use>
-void ForEachRow(Adventure& adventure, TableNum table, std::string_view fields, Use use) {
-    PreparedQuery rows = adventure.Prepare(table, fields, "");
-    for (bool more = rows.First({}); more; more = rows.Next())
-        use(rows);
-}
 
 template <typename Number>
 std::set<Number> Numbers(Adventure& adventure, TableNum table, std::string_view key) {
     std::set<Number> numbers;
     ForEachRow(adventure, table, key,
-               [&](const PreparedQuery& row) { numbers.insert(Number(Int(row, 0))); });
+               [&](const PreparedQuery& row) { numbers.insert(Number(SmallNumber(row, 0))); });
     return numbers;
 }
 
 CondAct ReadCondAct(const PreparedQuery& row) {
     CondAct condAct;
-    condAct.number = Int(row, 0);
+    condAct.number = SmallNumber(row, 0);
     condAct.isAction = text::EqualsNoCase(row.Text(1), "action");
     condAct.name = row.Text(2);
-    condAct.paramCount = std::clamp(Int(row, 3), 0, static_cast<int>(condAct.params.size()));
-    condAct.params[0] = {static_cast<ParamKind>(Int(row, 4)), Int(row, 5)};
-    condAct.params[1] = {static_cast<ParamKind>(Int(row, 6)), Int(row, 7)};
+    condAct.paramCount = std::clamp(SmallNumber(row, 3), 0, static_cast<int>(condAct.params.size()));
+    condAct.params[0] = {static_cast<ParamKind>(SmallNumber(row, 4)), SmallNumber(row, 5)};
+    condAct.params[1] = {static_cast<ParamKind>(SmallNumber(row, 6)), SmallNumber(row, 7)};
     return condAct;
 }
 
 void ReadDialects(const PreparedQuery& row, CondAct& condAct) {
-    condAct.fabula = Int(row, 8) != 0;
-    condAct.vel = Int(row, 9) != 0;
-    condAct.marlo = Int(row, 10) != 0;
+    condAct.fabula = SmallNumber(row, 8) != 0;
+    condAct.vel = SmallNumber(row, 9) != 0;
+    condAct.marlo = SmallNumber(row, 10) != 0;
 }
 
 void LoadObjects(Adventure& adventure, Facts& facts) {
     ForEachRow(adventure, TableNum::Objects, "objnum, objattrn", [&](const PreparedQuery& row) {
-        facts.objects.try_emplace(ObjectNumber(Int(row, 0)), Int(row, 1));
+        facts.objects.try_emplace(ObjectNumber(SmallNumber(row, 0)), SmallNumber(row, 1));
     });
 }
 
 void LoadLocations(Adventure& adventure, Facts& facts) {
     ForEachRow(adventure, TableNum::Locations, "locnum, numexits", [&](const PreparedQuery& row) {
-        const PlaceNumber location(Int(row, 0));
+        const PlaceNumber location(SmallNumber(row, 0));
         facts.locations.insert(location);
-        if (Int(row, 1) > 0) facts.locationsWithExits.insert(location);
+        if (SmallNumber(row, 1) > 0) facts.locationsWithExits.insert(location);
     });
 }
 
 void LoadFlags(Adventure& adventure, Facts& facts) {
     ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgchg", [&](const PreparedQuery& row) {
         const bool system = text::EqualsNoCase(row.Text(1), store::kSystemFlagType);
-        facts.flags.try_emplace(FlagNumber(Int(row, 0)), Facts::Flag{system, Int(row, 2) != 0});
+        facts.flags.try_emplace(FlagNumber(SmallNumber(row, 0)),
+                                Facts::Flag{system, SmallNumber(row, 2) != 0});
     });
 }
 
@@ -87,7 +79,7 @@ Catalogue LoadCatalogue(Adventure& adventure) {
     ForEachRow(adventure, TableNum::CondActs, fields, [&](const PreparedQuery& row) {
         CondAct condAct = ReadCondAct(row);
         if (hasDialects) ReadDialects(row, condAct);
-        if (hasPCVel) condAct.pcVel = Int(row, 11) != 0;
+        if (hasPCVel) condAct.pcVel = SmallNumber(row, 11) != 0;
         condActs.push_back(std::move(condAct));
     });
     return Catalogue(std::move(condActs));
@@ -96,8 +88,8 @@ Catalogue LoadCatalogue(Adventure& adventure) {
 WordIndex LoadWords(Adventure& adventure) {
     std::vector<Word> words;
     ForEachRow(adventure, TableNum::Vocabulary, "word, vocnum, voctypen", [&](const PreparedQuery& row) {
-        words.push_back(
-            {std::string(row.Text(0)), WordNumber(Int(row, 1)), static_cast<WordType>(Int(row, 2))});
+        words.push_back({std::string(row.Text(0)), WordNumber(SmallNumber(row, 1)),
+                         static_cast<WordType>(SmallNumber(row, 2))});
     });
     return WordIndex(std::move(words));
 }

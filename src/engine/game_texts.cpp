@@ -5,6 +5,7 @@
 
 #include "condacts/word_filters.h"
 #include "engine/run_failure.h"
+#include "store/schema/record_fields.h"
 
 namespace fabula::engine {
 
@@ -24,12 +25,11 @@ std::string WordFilter(store::AdventureKind type) {
 
 GameTexts::GameTexts(store::Adventure& adventure, store::AdventureKind type)
     : inMemory_(type != store::AdventureKind::Fabula),
-      locations_{"location", adventure.Prepare(TableNum::Locations, "locdesc", "locnum=?"), {}},
+      locations_(TextsOf(adventure, "location", TableNum::Locations)),
       shortLocations_{"location", adventure.Prepare(TableNum::Locations, "locshortdesc", "locnum=?"), {}},
-      objects_{"object", adventure.Prepare(TableNum::Objects, "objdesc", "objnum=?"), {}},
-      messages_{"message", adventure.Prepare(TableNum::Messages, "msgmsg", "msgnum=?"), {}},
-      systemMessages_{
-          "system message", adventure.Prepare(TableNum::SystemMessages, "smsgmsg", "smsgnum=?"), {}},
+      objects_(TextsOf(adventure, "object", TableNum::Objects)),
+      messages_(TextsOf(adventure, "message", TableNum::Messages)),
+      systemMessages_(TextsOf(adventure, "system message", TableNum::SystemMessages)),
       words_(adventure.Prepare(TableNum::Vocabulary, "vocnum, voctypen, Word", WordFilter(type), "")),
       nouns_(adventure.Prepare(TableNum::Vocabulary, "vocnum",
                                condacts::OfWordTypes({condacts::kNoun}) + " and vocnum=?",
@@ -37,11 +37,15 @@ GameTexts::GameTexts(store::Adventure& adventure, store::AdventureKind type)
       wordsByNumber_(adventure.Prepare(TableNum::Vocabulary, "Word", "voctype=? and vocnum=?",
                                        "voctypen, vocnum, word")) {
     if (!inMemory_) return;
-    Load(adventure, locations_, TableNum::Locations, "locnum, locdesc");
+    Load(adventure, locations_, TableNum::Locations, store::KeyAndText(TableNum::Locations));
     Load(adventure, shortLocations_, TableNum::Locations, "locnum, locshortdesc");
-    Load(adventure, objects_, TableNum::Objects, "objnum, objdesc");
-    Load(adventure, messages_, TableNum::Messages, "msgnum, msgmsg");
-    Load(adventure, systemMessages_, TableNum::SystemMessages, "smsgnum, smsgmsg");
+    Load(adventure, objects_, TableNum::Objects, store::KeyAndText(TableNum::Objects));
+    Load(adventure, messages_, TableNum::Messages, store::KeyAndText(TableNum::Messages));
+    Load(adventure, systemMessages_, TableNum::SystemMessages, store::KeyAndText(TableNum::SystemMessages));
+}
+
+GameTexts::Kind GameTexts::TextsOf(store::Adventure& adventure, const char* name, TableNum table) {
+    return {name, adventure.Prepare(table, store::TextField(table), store::KeyField(table) + "=?"), {}};
 }
 
 void GameTexts::Load(store::Adventure& adventure, Kind& kind, TableNum table, std::string_view fields) {

@@ -57,6 +57,8 @@ class GameTexts {
         std::size_t bytes = 0;  ///< of those that were looked up
     };
 
+    /// The look-up of the texts that a table is there for.
+    static Kind TextsOf(store::Adventure& adventure, const char* name, store::TableNum table);
     void Load(store::Adventure& adventure, Kind& kind, store::TableNum table, std::string_view fields);
     std::string_view Find(Kind& kind, int number);
     std::optional<std::string_view> Seek(Kind& kind, int number);

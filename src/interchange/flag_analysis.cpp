@@ -71,7 +71,7 @@ bool FlagAnalysis::IsUserFlag(FlagNumber flag) const {
 void FlagAnalysis::PrintFlagAnal(store::Adventure& adventure, JobStatus& status) const {
     status.AddToStatus("\nUser Flag Analysis\n\n");
     status.AddToStatus("The commands used for each flag are shown below\n\n");
-    KeyedTable flags(adventure, TableNum::Flags, "flgnum");
+    KeyedTable flags(adventure, TableNum::Flags);
     FlagNumber highest = highestRecord_;
     for (const auto& [flag, users] : uses_) {
         if (!IsUserFlag(flag)) continue;

@@ -9,6 +9,12 @@ constexpr std::size_t kLongestName = 255;
 
 }  // namespace
 
+bool HasEntry(store::Adventure& adventure, const GivenEntry& entry) {
+    return adventure
+        .Prepare(store::TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?")
+        .First({entry.w1, entry.w2, entry.condActs});
+}
+
 void NameGame(store::Adventure& adventure, std::string_view name) {
     if (name.empty()) return;
     store::Cursor& settings = adventure.OpenTable(store::TableNum::Adventure, "def");

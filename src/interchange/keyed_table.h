@@ -9,12 +9,12 @@
 
 namespace fabula::interchange {
 
-/// A table as an importer fills it: each record found or added by its number, without a search of the table
-/// for each. It stands on the table's main cursor, which nobody else may open meanwhile. Of records with
-/// one number the first counts.
+/// A table as an importer fills it: each record found or added by its number (store::KeyField), without a
+/// search of the table for each. It stands on the table's main cursor, which nobody else may open
+/// meanwhile. Of records with one number the first counts.
 class KeyedTable {
   public:
-    KeyedTable(store::Adventure& adventure, store::TableNum table, std::string keyField);
+    KeyedTable(store::Adventure& adventure, store::TableNum table);
 
     bool Has(std::int64_t key) const { return positions_.contains(key); }
     /// The highest number; -1 when the table is empty.

@@ -4,8 +4,10 @@
 #include <iterator>
 #include <optional>
 
+#include "pictures/canvas.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
+#include "text/markup.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -13,8 +15,7 @@
 namespace fabula::interchange {
 namespace {
 
-constexpr int kColumns = 32;
-constexpr int kTabColumn = 16;
+constexpr int kColumns = pictures::kCellColumns;
 constexpr std::size_t kLineNumberLength = 6;
 constexpr int kLongestTab = 255;
 constexpr std::string_view kVersionWithoutLayout = "0.8.2";
@@ -160,9 +161,9 @@ std::string ProcessTag(std::string_view& word, int& column) {
         const std::string_view tag = word.substr(0, close + 1);
         const std::string head = text::UpperCase(tag.substr(0, kTabTag.size()));
         if (head == kTabTag) {
-            const bool sameLine = column < kTabColumn;
+            const bool sameLine = column < text::kTabColumn;
             result += sameLine ? tag : text::kLineEndMarker;
-            column = sameLine ? kTabColumn : 0;
+            column = sameLine ? text::kTabColumn : 0;
         } else if (tag.starts_with("<#") ||
                    std::find(std::begin(kKeptTags), std::end(kKeptTags), head) != std::end(kKeptTags)) {
             result += tag;

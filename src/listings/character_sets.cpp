@@ -43,10 +43,11 @@ struct Numbered {
 };
 
 std::shared_ptr<const pictures::Image> ImageOf(const Glyph& glyph) {
-    constexpr int kSize = 8;
-    auto image = std::make_shared<pictures::Image>(kSize, kSize, pictures::MakeColour(255, 255, 255));
-    for (int row = 0; row < kSize; ++row) {
-        for (int column = 0; column < kSize; ++column) {
+    using pictures::kGlyphSide;
+    auto image =
+        std::make_shared<pictures::Image>(kGlyphSide, kGlyphSide, pictures::MakeColour(255, 255, 255));
+    for (int row = 0; row < kGlyphSide; ++row) {
+        for (int column = 0; column < kGlyphSide; ++column) {
             if (pictures::HasBit(glyph, column, row))
                 image->At(column, row) = pictures::MakeColour(0, 0, 0);
         }

@@ -6,6 +6,7 @@
 #include "listings/record.h"
 #include "listings/reports.h"
 #include "store/new_flag.h"
+#include "store/schema/record_fields.h"
 
 namespace fabula::listings {
 namespace {
@@ -19,7 +20,7 @@ constexpr int kMostFields = 4;
 struct TextTable {
     std::string_view title;
     TableNum table{};
-    /// The number first and the text last, with a comma and a blank between.
+    /// The number first and the text last; where it is empty, these are all.
     std::string_view fields;
     std::array<std::string_view, 2> headings;
     std::string_view format;
@@ -34,22 +35,14 @@ constexpr std::string_view kTextFormat = "!%A!%t10!%a";
 constexpr TextArea kTextArea{10, 70};
 
 constexpr TextTable kMessages = {
-    "Messages Table Listing", TableNum::Messages, "msgnum, msgmsg", kTextHeadings, kTextFormat, kTextArea};
-constexpr TextTable kSystemMessages = {"System Messages Table Listing",
-                                       TableNum::SystemMessages,
-                                       "smsgnum, smsgmsg",
-                                       kTextHeadings,
-                                       kTextFormat,
-                                       kTextArea};
-constexpr TextTable kProcessDescriptions = {"Process Descriptions Table Listing",
-                                            TableNum::ProcDesc,
-                                            "pmsgnum, pmsgmsg",
-                                            kTextHeadings,
-                                            kTextFormat,
-                                            kTextArea};
+    "Messages Table Listing", TableNum::Messages, "", kTextHeadings, kTextFormat, kTextArea};
+constexpr TextTable kSystemMessages = {
+    "System Messages Table Listing", TableNum::SystemMessages, "", kTextHeadings, kTextFormat, kTextArea};
+constexpr TextTable kProcessDescriptions = {
+    "Process Descriptions Table Listing", TableNum::ProcDesc, "", kTextHeadings, kTextFormat, kTextArea};
 constexpr TextTable kUserProcessDescriptions = {"Process Descriptions Table User Listing",
                                                 TableNum::ProcDesc,
-                                                "pmsgnum, pmsgmsg",
+                                                "",
                                                 kTextHeadings,
                                                 kTextFormat,
                                                 kTextArea};
@@ -87,7 +80,9 @@ Place LinkOf(const TextTable& table, int number) {
 void WriteTexts(const Listing& listing, const TextTable& table, NoText noText = NoText::Shown,
                 std::string_view where = "") {
     listing.frame.Begin(table.title, {Heading(table.headings[0]), Heading(table.headings[1])});
-    store::PreparedQuery rows = listing.adventure.Prepare(table.table, table.fields, where);
+    store::PreparedQuery rows = listing.adventure.Prepare(
+        table.table, table.fields.empty() ? store::KeyAndText(table.table) : std::string(table.fields),
+        where);
     for (bool more = rows.First({}); more; more = rows.Next()) {
         const auto shown = [&](int field) -> std::string_view {
             const std::string_view stored = rows.Text(field);

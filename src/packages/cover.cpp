@@ -3,6 +3,7 @@
 #include "pictures/files/image.h"
 #include "pictures/files/image_reader.h"
 #include "platform/error.h"
+#include "platform/image_limits.h"
 #include "platform/whole_file.h"
 #include "store/game_path.h"
 
@@ -26,7 +27,7 @@ std::string BytesOf(store::Adventure& adventure, const GameFacts& facts) {
     const store::GamePath found = store::FindGameFile(adventure.GameDir(), facts.aboutPicture);
     if (found.fault != store::GamePath::Fault::None)
         throw Error("The picture " + facts.aboutPicture + " is not in the game's folder.");
-    return platform::ReadWholeFile(found.file, pictures::kLargestImageFile,
+    return platform::ReadWholeFile(found.file, platform::kLargestImageFile,
                                    "read the picture " + facts.aboutPicture);
 }
 

@@ -3,14 +3,15 @@
 #include <cstddef>
 #include <vector>
 
+#include "pictures/characters/glyph.h"
 #include "pictures/palette.h"
 
 namespace fabula::pictures {
 
 inline constexpr int kCanvasWidth = 256;
 inline constexpr int kCanvasHeight = 176;
-/// Cells are 8 by 8 pixels: 32 columns, 22 rows.
-inline constexpr int kCellSize = 8;
+/// Cells are as large as a character, 8 by 8 pixels: 32 columns, 22 rows.
+inline constexpr int kCellSize = kGlyphSide;
 inline constexpr int kCellColumns = kCanvasWidth / kCellSize;
 inline constexpr int kCellRows = kCanvasHeight / kCellSize;
 

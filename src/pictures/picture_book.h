@@ -16,6 +16,9 @@ enum class PictureKind { Room, Subroutine };
 /// The `locpaper` and `locink` of a picture that takes its colour from the adventure's settings.
 inline constexpr int kColourOfTheAdventure = -1;
 
+/// The `roompicnum` of a picture that is no room's.
+inline constexpr int kNoRoom = -1;
+
 /// One picture, a row of the table `Pictures`.
 struct Picture {
     int number = 0;  ///< `locnum`

@@ -24,8 +24,6 @@ using store::TableNum;
 
 namespace flag = condacts::flag;
 
-constexpr int kNoRoom = -1;  ///< `roompicnum` of a picture that is no room's
-
 constexpr WordTypes kVerbOrNoun = TypeBit(condacts::kVerb) | TypeBit(condacts::kNoun);
 
 constexpr FlagMeaning kFlagMeanings[] = {
@@ -248,7 +246,7 @@ class Extraction {
     }
 
     void ReadPicture() {
-        if (row_.Number(2) != kNoRoom) Add(Kind::Location, row_.Number(2), "roompicnum", 0);
+        if (row_.Number(2) != pictures::kNoRoom) Add(Kind::Location, row_.Number(2), "roompicnum", 0);
         const auto words = pictures::DrawstringWords(row_.Text(3));
         for (std::size_t i = 0; i < words.size();) {
             const pictures::Command* command = language_.commands.FindPictureCommand(words[i]);

@@ -5,7 +5,9 @@
 #include "condacts/load.h"
 #include "condacts/object_attributes.h"
 #include "pictures/drawstring.h"
+#include "store/each_row.h"
 #include "store/keyed_rows.h"
+#include "store/schema/record_fields.h"
 #include "text/utf8.h"
 
 namespace fabula::references {
@@ -14,28 +16,18 @@ namespace {
 using condacts::ObjectNumber;
 using condacts::PlaceNumber;
 using condacts::WordNumber;
+using store::ForEachRow;
 using store::PreparedQuery;
+using store::SmallNumber;
 using store::TableNum;
 
-int Int(const PreparedQuery& row, int column) {
-    return static_cast<int>(row.Number(column));
-}
-
-template <typename Use>
-void ForEachRow(store::Adventure& adventure, TableNum table, std::string_view fields,
-                std::string_view order, Use use) {
-    PreparedQuery rows = adventure.Prepare(table, fields, "", order);
-    for (bool more = rows.First({}); more; more = rows.Next())
-        use(rows);
-}
-
 template <class Number>
-std::vector<LintText<Number>> Texts(store::Adventure& adventure, TableNum table, std::string_view fields,
-                                    std::string_view key) {
+std::vector<LintText<Number>> Texts(store::Adventure& adventure, TableNum table) {
     std::vector<LintText<Number>> texts;
-    ForEachRow(adventure, table, fields, key, [&](const PreparedQuery& row) {
-        texts.push_back({Number(Int(row, 0)), std::string(row.Text(1))});
-    });
+    ForEachRow(adventure, table, store::KeyAndText(table), store::KeyField(table),
+               [&](const PreparedQuery& row) {
+                   texts.push_back({Number(SmallNumber(row, 0)), std::string(row.Text(1))});
+               });
     return texts;
 }
 
@@ -80,41 +72,40 @@ void LintGame::Read(store::Adventure& adventure) {
     characterSets = adventure.CharSetsOn();
     draws = adventure.GraphicsOn() || characterSets;
     ForEachRow(adventure, TableNum::Adventure, "startloc", "",
-               [&](const PreparedQuery& row) { start = PlaceNumber(Int(row, 0)); });
-    ForEachRow(adventure, TableNum::Locations, "locnum, exits, numericexits", "locnum",
-               [&](const PreparedQuery& row) {
-                   locations.push_back({PlaceNumber(Int(row, 0)), pictures::DrawstringWords(row.Text(1)),
-                                        pictures::DrawstringWords(row.Text(2))});
-               });
+               [&](const PreparedQuery& row) { start = PlaceNumber(SmallNumber(row, 0)); });
+    ForEachRow(
+        adventure, TableNum::Locations, "locnum, exits, numericexits", "locnum",
+        [&](const PreparedQuery& row) {
+            locations.push_back({PlaceNumber(SmallNumber(row, 0)), pictures::DrawstringWords(row.Text(1)),
+                                 pictures::DrawstringWords(row.Text(2))});
+        });
     ForEachRow(adventure, TableNum::Objects, "objnum, objloc, objnumnoun, objnumadject, objattrn", "objnum",
                [&](const PreparedQuery& row) {
-                   objects.push_back({ObjectNumber(Int(row, 0)), PlaceNumber(Int(row, 1)),
-                                      WordNumber(Int(row, 2)), WordNumber(Int(row, 3)),
+                   objects.push_back({ObjectNumber(SmallNumber(row, 0)), PlaceNumber(SmallNumber(row, 1)),
+                                      WordNumber(SmallNumber(row, 2)), WordNumber(SmallNumber(row, 3)),
                                       (row.Number(4) & condacts::attribute::kContainer) != 0});
                });
-    messages = Texts<condacts::MessageNumber>(adventure, TableNum::Messages, "msgnum, msgmsg", "msgnum");
-    systemMessages = Texts<condacts::SystemMessageNumber>(adventure, TableNum::SystemMessages,
-                                                          "smsgnum, smsgmsg", "smsgnum");
-    processes =
-        Texts<condacts::ProcessNumber>(adventure, TableNum::ProcDesc, "pmsgnum, pmsgmsg", "pmsgnum");
+    messages = Texts<condacts::MessageNumber>(adventure, TableNum::Messages);
+    systemMessages = Texts<condacts::SystemMessageNumber>(adventure, TableNum::SystemMessages);
+    processes = Texts<condacts::ProcessNumber>(adventure, TableNum::ProcDesc);
     ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgdesc", "flgnum",
                [&](const PreparedQuery& row) {
-                   flags.push_back({condacts::FlagNumber(Int(row, 0)),
+                   flags.push_back({condacts::FlagNumber(SmallNumber(row, 0)),
                                     text::EqualsNoCase(row.Text(1), "system"), std::string(row.Text(2))});
                });
     ForEachRow(adventure, TableNum::Vocabulary, "vocindex, word, vocnum, voctypen", "vocindex",
                [&](const PreparedQuery& row) {
                    words.push_back({row.Number(0),
-                                    {std::string(row.Text(1)), WordNumber(Int(row, 2)),
-                                     static_cast<condacts::WordType>(Int(row, 3))}});
+                                    {std::string(row.Text(1)), WordNumber(SmallNumber(row, 2)),
+                                     static_cast<condacts::WordType>(SmallNumber(row, 3))}});
                });
     ForEachRow(adventure, TableNum::Pictures, "locnum, loctype", "locnum", [&](const PreparedQuery& row) {
         pictures.push_back({row.Number(0), text::EqualsNoCase(row.Text(1), "subroutine")});
     });
     ForEachRow(adventure, TableNum::Characters, "charkey, charsetnum", "charkey",
                [&](const PreparedQuery& row) {
-                   characters.insert(Int(row, 0));
-                   characterSetNumbers.insert(Int(row, 1));
+                   characters.insert(SmallNumber(row, 0));
+                   characterSetNumbers.insert(SmallNumber(row, 1));
                });
 }
 

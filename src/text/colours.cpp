@@ -27,10 +27,6 @@ constexpr std::array<Colour, kHighestColour + 1> kColours = {{
     {"Bright White", {255, 255, 255}},
 }};
 
-bool IsColour(int number) {
-    return number >= 0 && number < static_cast<int>(kColours.size());
-}
-
 }  // namespace
 
 std::string_view ColourName(int number) {

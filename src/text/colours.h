@@ -19,6 +19,11 @@ struct Rgb {
 inline constexpr int kHighestColour = 15;
 inline constexpr int kFirstBrightColour = 8;
 
+/// Whether there is a colour of that number.
+constexpr bool IsColour(std::int64_t number) {
+    return number >= 0 && number <= kHighestColour;
+}
+
 /// A colour for each number, such as an adventure may bring for itself.
 using Palette = std::array<Rgb, kHighestColour + 1>;
 

@@ -16,6 +16,13 @@ namespace fabula::text {
 /// The longest word of a description, in code points, its tags and entities not counted.
 inline constexpr std::size_t kLongestWord = 30;
 
+/// Where "<TAB>" goes on: in this column, counted from 0, or at the head of the next line when the text is
+/// there already.
+inline constexpr int kTabColumn = 16;
+
+/// The size in points of a text to which neither a tag nor the settings give one.
+inline constexpr int kDefaultPoints = 12;
+
 /// What a check found: valid, or the first fault.
 struct Verdict {
     std::string message = {};  ///< empty when valid

@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 
+#include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "store/new_flag.h"
@@ -24,8 +25,8 @@ using store::TableNum;
 
 constexpr int kFirstOld = 256;
 constexpr int kLastOld = 275;
-constexpr int kFirstNew = 1000;
-constexpr int kLastNew = 1024;
+constexpr int kFirstNew = condacts::limit::kFirstExtendedFlag;
+constexpr int kLastNew = condacts::limit::kHighestSystemFlag;
 constexpr int kMove = kFirstNew - kFirstOld;
 
 bool IsOld(int flag) {

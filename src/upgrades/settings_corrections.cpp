@@ -1,6 +1,5 @@
 #include "upgrades/settings_corrections.h"
 
-#include "condacts/limits.h"
 #include "text/colours.h"
 #include "text/utf8.h"
 
@@ -9,10 +8,6 @@ namespace {
 
 using store::Cursor;
 using store::TableNum;
-
-bool IsColour(std::int64_t number) {
-    return number >= 0 && number <= condacts::limit::kHighestColour;
-}
 
 /// The number of a colour that was stored as the screen's: red in the lowest byte, then green and blue.
 int NumberOfScreenColour(std::int64_t colour, int fallback) {
@@ -40,7 +35,7 @@ bool HasOldLook(Work& work) {
     if (store::ClassOf(font) != store::FieldClass::Number) return false;
     store::PreparedQuery settings = work.adventure.Prepare(TableNum::Adventure, kLook, "");
     if (!settings.First({})) return false;
-    const bool colours = IsColour(settings.Number(1)) && IsColour(settings.Number(2));
+    const bool colours = text::IsColour(settings.Number(1)) && text::IsColour(settings.Number(2));
     return !colours || (!work.fontTaken && !IsFont(work, settings.Number(0)));
 }
 
@@ -51,8 +46,8 @@ void RenewLook(Work& work, const Step&) {
     if (!IsFont(work, settings.Number("font"))) change.SetField("font", NumberOf(standard, "font"));
     const std::int64_t paper = settings.Number("backcolor");
     const std::int64_t ink = settings.Number("textcolor");
-    if (!IsColour(paper)) change.SetField("backcolor", NumberOfScreenColour(paper, 0));
-    if (!IsColour(ink)) change.SetField("textcolor", NumberOfScreenColour(ink, 1));
+    if (!text::IsColour(paper)) change.SetField("backcolor", NumberOfScreenColour(paper, 0));
+    if (!text::IsColour(ink)) change.SetField("textcolor", NumberOfScreenColour(ink, 1));
     change.Update();
 }
 

@@ -1,5 +1,7 @@
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <optional>
 
 #include <gtest/gtest.h>
 
@@ -280,6 +282,40 @@ TEST(Trace, GivesEventsInPlaceOfLinesToWhoWantsThem) {
 
 TEST(TraceFile, IsNamedByItsBegin) {
     EXPECT_EQ(engine::TraceFileName({2026, 1, 31, 23, 5, 9}), "TRC20260131_230509.trc");
+}
+
+/// The environment's COMPUTER while a test runs.
+class ComputerName {
+  public:
+    explicit ComputerName(const char* name) {
+        if (const char* before = std::getenv("COMPUTER")) before_ = before;
+        Set(name);
+    }
+    ~ComputerName() { Set(before_ ? before_->c_str() : nullptr); }
+    ComputerName(const ComputerName&) = delete;
+    ComputerName& operator=(const ComputerName&) = delete;
+
+  private:
+    static void Set(const char* name) {
+        if (name) {
+            setenv("COMPUTER", name, 1);
+        } else {
+            unsetenv("COMPUTER");
+        }
+    }
+
+    std::optional<std::string> before_;
+};
+
+TEST(TraceHeader, TellsTheFileAndTheTime) {
+    const ComputerName none(nullptr);
+    EXPECT_EQ(engine::TraceHeader("games/x.fbd", {2026, 1, 31, 23, 5, 9}),
+              "games/x.fbd 2026-01-31 23:05:09");
+}
+
+TEST(TraceHeader, EndsWithTheMachineWhereTheEnvironmentNamesIt) {
+    const ComputerName attic("ATTIC");
+    EXPECT_EQ(engine::TraceHeader("x.fbd", {2026, 12, 1, 0, 0, 0}), "x.fbd 2026-12-01 00:00:00 ATTIC");
 }
 
 TEST(TraceFile, HoldsItsHeaderAndLines) {

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "store/adventure.h"
+#include "store/schema/record_fields.h"
 #include "support/template_adventure.h"
 #include "text/fields.h"
 #include "text/str_edit.h"
@@ -147,6 +148,17 @@ TEST_P(Lint, EveryTableHasOneKeyFieldAndItIsTheOneOfTheProgram) {
         EXPECT_EQ(keys.RecordCount(), 1) << table.name;
         EXPECT_TRUE(text::EqualsNoCase(keys.Text("fieldname"), table.key)) << table.name;
         EXPECT_TRUE(text::EqualsNoCase(keys.Text("tablename"), table.name)) << table.name;
+    }
+}
+
+TEST_P(Lint, TheTextOfATableIsOneOfItsFieldsAndATextThere) {
+    for (const TableEntry& table : AllTables()) {
+        const std::string_view text = TextField(table.number);
+        if (text.empty()) continue;
+        const TableSchema& schema = adventure_->Schema(table.number);
+        const auto field = schema.Find(text);
+        ASSERT_TRUE(field.has_value()) << table.name << "." << text;
+        EXPECT_EQ(ClassOf(schema.fields[*field].type), FieldClass::Text) << table.name << "." << text;
     }
 }
 

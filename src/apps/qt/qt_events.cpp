@@ -5,13 +5,14 @@
 namespace fabula::qt {
 namespace {
 
+/// Often enough to look alive, and seldom enough to cost nothing.
 constexpr qint64 kMilliseconds = 40;
 
 }  // namespace
 
 void QtEvents::Pump() {
     if (sinceLast_.elapsed() < kMilliseconds) return;
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QCoreApplication::processEvents(taken_);
     sinceLast_.restart();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 
 #include "platform/event_pump.h"
 
@@ -8,12 +9,16 @@ namespace fabula::qt {
 
 /// Lets the windows be drawn during long work, now and then. What the person does meanwhile waits until the
 /// work is done.
-class QtEvents final : public platform::EventPump {
+class QtEvents : public platform::EventPump {
   public:
-    QtEvents() { sinceLast_.start(); }
-    void Pump() override;
+    explicit QtEvents(QEventLoop::ProcessEventsFlags taken = QEventLoop::ExcludeUserInputEvents)
+        : taken_(taken) {
+        sinceLast_.start();
+    }
+    void Pump() final;
 
   private:
+    QEventLoop::ProcessEventsFlags taken_;
     QElapsedTimer sinceLast_;
 };
 

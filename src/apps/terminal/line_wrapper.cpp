@@ -10,13 +10,12 @@
 namespace fabula::terminal {
 namespace {
 
-constexpr char32_t kNoBreakSpace = U'\u00A0';
-
 /// A character may carry marks that take no column; a line with more than this for each column is full.
 constexpr std::size_t kMostPerColumn = 16;
 
 char32_t Shown(char32_t point) {
-    return point == kNoBreakSpace ? U' ' : point;
+    static const char32_t noBreakSpace = text::DecodeAt(engine::kNoBreakSpace, 0).value;
+    return point == noBreakSpace ? U' ' : point;
 }
 
 }  // namespace

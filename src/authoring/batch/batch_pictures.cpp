@@ -97,7 +97,7 @@ bool StorePicture(BatchWork& work, const BatchChange& change) {
         record.SetField("loctype", std::string(kTypes[kind == pictures::PictureKind::Room ? 0 : 1]));
         record.SetField("locpaper", std::int64_t{pictures::kColourOfTheAdventure});
         record.SetField("locink", std::int64_t{pictures::kColourOfTheAdventure});
-        record.SetField("roompicnum", std::int64_t{-1});
+        record.SetField("roompicnum", std::int64_t{pictures::kNoRoom});
         record.SetField("picname", std::string());
         record.SetField("drawstring", std::string("END"));
     }

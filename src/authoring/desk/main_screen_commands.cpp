@@ -6,6 +6,7 @@
 #include "authoring/fields/short_desc.h"
 #include "authoring/screens/word_screen.h"
 #include "condacts/words.h"
+#include "store/schema/record_fields.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -342,7 +343,7 @@ std::optional<std::string> MainScreen::ClickedOrder() const {
     const GridColumn& clicked = grid_.Columns()[static_cast<std::size_t>(*column)];
     if (clicked.uses) return std::nullopt;
     const std::string& field = clicked.field;
-    const std::string key = KeyField(grid_.View().table);
+    const std::string key = store::KeyField(grid_.View().table);
     std::string order = field + (grid_.SortsDown() ? " desc" : "");
     if (field != key) order += ", " + key;
     return order;

@@ -15,7 +15,7 @@ using store::TableNum;
 
 namespace {
 
-constexpr int kSide = 8;
+constexpr int kSide = pictures::kGlyphSide;
 constexpr int kSquares = kSide * kSide;
 
 /// The words of this editor in the catalogue.

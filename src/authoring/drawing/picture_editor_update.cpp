@@ -98,7 +98,7 @@ void PictureEditor::StorePicture() {
     store::Cursor& record = RecordToStore();
     if (Key().isNew) {
         record.SetField("loctype", kind_);
-        record.SetField("roompicnum", std::int64_t{-1});
+        record.SetField("roompicnum", std::int64_t{pictures::kNoRoom});
     }
     record.SetField("locink", std::int64_t{picture_.ink});
     record.SetField("locpaper", std::int64_t{picture_.paper});

@@ -8,6 +8,7 @@
 
 #include "condacts/catalogue.h"
 #include "condacts/limits.h"
+#include "pictures/picture_book.h"
 #include "store/character_key.h"
 #include "store/new_flag.h"
 #include "text/format.h"
@@ -137,7 +138,7 @@ void AddPictureOf(ScreenContext& context, condacts::PlaceNumber location) {
     pictures.SetField("loctype", std::string("Subroutine"));
     pictures.SetField("drawstring", std::string("END"));
     pictures.SetField("picname", std::string());
-    pictures.SetField("roompicnum", std::int64_t{-1});
+    pictures.SetField("roompicnum", std::int64_t{pictures::kNoRoom});
     pictures.Update();
     change.Commit();
 }

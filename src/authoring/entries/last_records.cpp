@@ -1,6 +1,7 @@
 #include "authoring/entries/last_records.h"
 
 #include "condacts/words.h"
+#include "store/schema/record_fields.h"
 
 namespace fabula::authoring {
 namespace {
@@ -13,23 +14,24 @@ constexpr TableNum kListed[] = {TableNum::Locations,     TableNum::Messages,    
                                 TableNum::ProcessTables, TableNum::SystemMessages, TableNum::Vocabulary,
                                 TableNum::Flags,         TableNum::ProcDesc,       TableNum::Pictures};
 
-/// The field that numbers a table's records, as the table of fields marks it.
-std::string KeyField(Adventure& adventure, TableNum table) {
+/// The field that numbers a table's records, as the file itself marks it: the listing is for looking at
+/// what a file has.
+std::string MarkedKey(Adventure& adventure, TableNum table) {
     PreparedQuery field = adventure.Prepare(TableNum::Tables, "fieldname", "tablenum=? and export=1");
     if (field.First({static_cast<std::int64_t>(table)})) return std::string(field.Text(0));
-    return std::string(store::FindTable(table)->key);
+    return store::KeyField(table);
 }
 
 std::string LastOf(Adventure& adventure, TableNum table) {
     const std::string name(store::FindTable(table)->name);
-    const std::string key = KeyField(adventure, table);
+    const std::string key = MarkedKey(adventure, table);
     PreparedQuery last = adventure.Prepare(table, key, "", key + " desc");
     if (!last.First({})) return name + ": no records";
     return name + ": last " + key + " " + std::to_string(last.Number(0));
 }
 
 std::string LastOfEachType(Adventure& adventure) {
-    const std::string key = KeyField(adventure, TableNum::Vocabulary);
+    const std::string key = MarkedKey(adventure, TableNum::Vocabulary);
     PreparedQuery last =
         adventure.Prepare(TableNum::Vocabulary, key + ", word, vocnum", "voctypen=?", key + " desc");
     std::string lines;

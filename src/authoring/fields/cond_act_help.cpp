@@ -63,14 +63,10 @@ std::string_view MeaningOf(condacts::PlaceNumber place) {
     return place == condacts::place::kCarried ? "carried by the player" : "where the player is";
 }
 
-bool AdmitsLocationWords(const Parameter& parameter) {
-    return parameter.kind == ParamKind::Location && parameter.maxValue == condacts::kLocationWordsAllowed;
-}
-
 const condacts::LocationWord* FindLocationWord(const Parameter& parameter, std::string_view token) {
     if (parameter.kind != ParamKind::Location) return nullptr;
     const std::optional<int> number = condacts::NumberOfToken(token);
-    const bool words = AdmitsLocationWords(parameter);
+    const bool words = condacts::AdmitsLocationWords(parameter);
     const auto* found =
         std::ranges::find_if(condacts::kLocationWords, [&](const condacts::LocationWord& entry) {
             return number == entry.number.value || (words && text::EqualsNoCase(entry.word, token));
@@ -196,7 +192,7 @@ std::vector<Completion> CondActHelp::Parameters(const CondAct& condAct, std::siz
         if (!marloFlag || item.number <= condacts::limit::kHighestMarloFlag)
             items.push_back(Numbered(item));
     }
-    if (!AdmitsLocationWords(parameter)) return items;
+    if (!condacts::AdmitsLocationWords(parameter)) return items;
     for (const condacts::LocationWord& entry : condacts::kLocationWords)
         items.push_back({std::string(entry.word),
                          std::string(entry.word).append("  ").append(MeaningOf(entry.number))});

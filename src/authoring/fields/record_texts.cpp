@@ -5,6 +5,7 @@
 #include "authoring/fields/brief_text.h"
 #include "authoring/fields/location_names.h"
 #include "store/new_flag.h"
+#include "store/schema/record_fields.h"
 
 namespace fabula::authoring {
 namespace {
@@ -13,9 +14,8 @@ using store::Adventure;
 using store::PreparedQuery;
 using store::TableNum;
 
-std::vector<ListItem> Load(Adventure& adventure, TableNum table, const std::string& key,
-                           const std::string& text) {
-    PreparedQuery rows = adventure.Prepare(table, key + ", " + text, "", key);
+std::vector<ListItem> Load(Adventure& adventure, TableNum table) {
+    PreparedQuery rows = adventure.Prepare(table, store::KeyAndText(table), "", store::KeyField(table));
     std::vector<ListItem> items;
     for (bool more = rows.First({}); more; more = rows.Next())
         items.push_back({static_cast<int>(rows.Number(0)), BriefText(rows.Text(1))});
@@ -60,10 +60,10 @@ const std::vector<ListItem>& RecordTexts::Of(condacts::ParamKind kind) const {
 RecordTexts LoadRecordTexts(Adventure& adventure) {
     const store::ReadTransaction reading(adventure);
     return {.locations = LocationNames(adventure),
-            .messages = Load(adventure, TableNum::Messages, "msgnum", "msgmsg"),
-            .objects = Load(adventure, TableNum::Objects, "objnum", "objdesc"),
-            .processes = Load(adventure, TableNum::ProcDesc, "pmsgnum", "pmsgmsg"),
-            .systemMessages = Load(adventure, TableNum::SystemMessages, "smsgnum", "smsgmsg"),
+            .messages = Load(adventure, TableNum::Messages),
+            .objects = Load(adventure, TableNum::Objects),
+            .processes = Load(adventure, TableNum::ProcDesc),
+            .systemMessages = Load(adventure, TableNum::SystemMessages),
             .flags = LoadFlags(adventure)};
 }
 

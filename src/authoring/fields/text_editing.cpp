@@ -5,6 +5,7 @@
 #include "engine/output/printer.h"
 #include "engine/output/script.h"
 #include "store/tags.h"
+#include "text/markup.h"
 #include "text/utf8.h"
 
 namespace fabula::authoring {
@@ -58,7 +59,7 @@ std::string TextEditing::NameOfFont(int font) const {
 
 int TextEditing::FontPoints() const {
     const auto found = settings_.fontSizes.find(settings_.fontSize);
-    if (found == settings_.fontSizes.end() || found->second <= 0) return kDefaultPoints;
+    if (found == settings_.fontSizes.end() || found->second <= 0) return text::kDefaultPoints;
     return found->second;
 }
 

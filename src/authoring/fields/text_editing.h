@@ -49,7 +49,7 @@ class TextEditing {
     /// The look of the game before any tag changes it, in which editors show the text too. The font's name
     /// is "" where the game writes through character sets, or the codes don't know the font.
     std::string FontName() const { return NameOfFont(settings_.font); }
-    int FontPoints() const;  ///< kDefaultPoints where the codes have no size
+    int FontPoints() const;  ///< text::kDefaultPoints where the codes have no size
     int Paper() const { return settings_.backColour; }
     int Ink() const { return settings_.textColour; }
 
@@ -64,7 +64,6 @@ class TextEditing {
     TextCounts Count(std::string_view text) const;
 
     static constexpr int kWidestPreview = 80;
-    static constexpr int kDefaultPoints = 12;
     /// The characters of a text that are shown and counted.
     static constexpr std::size_t kLongestPreview = 32'768;
 

@@ -13,14 +13,6 @@ namespace {
 using store::Cursor;
 using store::TableNum;
 
-constexpr KeyedText kKeyedTexts[] = {
-    {TableNum::Locations, "locnum", "locdesc"},     {TableNum::Objects, "objnum", "objdesc"},
-    {TableNum::Messages, "msgnum", "msgmsg"},       {TableNum::SystemMessages, "smsgnum", "smsgmsg"},
-    {TableNum::ProcessTables, "canum", "condacts"}, {TableNum::Pictures, "locnum", "drawstring"},
-    {TableNum::Flags, "flgnum", "flgdesc"},         {TableNum::ProcDesc, "pmsgnum", "pmsgmsg"},
-    {TableNum::Characters, "charkey", "charvals"},
-};
-
 constexpr std::string_view kExplanation =
     "The Table Key for Processes is CaNum, which is not shown on Process Table Views. However, CaNum is "
     "the "
@@ -39,11 +31,10 @@ constexpr int kTriesBeforeList = 3;
 /// The most free numbers that are listed; far more than an author reads.
 constexpr std::size_t kMostListed = 100000;
 
-const KeyedText* FindKeyedText(std::string_view tableName) {
-    const store::TableEntry* table = store::FindTable(tableName);
-    const auto* found = std::ranges::find_if(
-        kKeyedTexts, [&](const KeyedText& each) { return table && each.table == table->number; });
-    return found == std::end(kKeyedTexts) ? nullptr : found;
+/// A table whose records are told by their text; nullptr for any other, which is not repaired.
+const store::TableEntry* FindRepairable(std::string_view tableName) {
+    const store::TableEntry* const table = store::FindTable(tableName);
+    return table && !store::TextField(table->number).empty() ? table : nullptr;
 }
 
 std::string Equals(std::string_view field, std::int64_t number) {
@@ -57,7 +48,7 @@ KeySelectScreen::KeySelectScreen(ScreenContext& context) : context_(context) {
                                                                 "allowkeychg='Y' and export=1", "tablenum");
          !rows.Eof(); rows.MoveNext()) {
         const std::string name(rows.Text("tablename"));
-        if (FindKeyedText(name)) tables_.push_back(name);
+        if (FindRepairable(name)) tables_.push_back(name);
     }
 }
 
@@ -72,13 +63,13 @@ std::string_view KeySelectScreen::Explanation() const {
 std::optional<std::string> KeySelectScreen::Filter() const {
     const auto number = text::WholeNumber(text::Trimmed(TakesWords() ? process : key));
     if (!number) return std::nullopt;
-    if (!TakesWords()) return Equals(FindKeyedText(table)->key, *number);
+    if (!TakesWords()) return Equals(FindRepairable(table)->key, *number);
     return Equals("estype", *number) + " and w1 = " + store::QuoteText(text::Trimmed(w1)) +
            " and w2 = " + store::QuoteText(text::Trimmed(w2));
 }
 
 std::optional<KeySelection> KeySelectScreen::Select() {
-    const KeyedText* chosen = FindKeyedText(table);
+    const store::TableEntry* chosen = FindRepairable(table);
     if (!chosen) {
         Refuse(context_.dialogs, "Must make a Table Selection");
         return std::nullopt;
@@ -88,7 +79,7 @@ std::optional<KeySelection> KeySelectScreen::Select() {
                      : text::Trimmed(key);
     const auto filter = Filter();
     const bool found =
-        filter && context_.document.Adventure().Prepare(chosen->table, chosen->key, *filter).First({});
+        filter && context_.document.Adventure().Prepare(chosen->number, chosen->key, *filter).First({});
     if (!found) {
         Refuse(context_.dialogs, "There are no records with " + name);
         return std::nullopt;
@@ -100,24 +91,24 @@ KeyChangeScreen::KeyChangeScreen(ScreenContext& context, const KeySelection& sel
     : context_(context), table_(*selection.table), filter_(selection.filter) {
     for (Cursor& records = OpenRecords(); !records.Eof(); records.MoveNext()) {
         const std::int64_t key = records.Number(table_.key);
-        rows_.push_back({std::to_string(key), std::string(records.Text(table_.shown))});
+        rows_.push_back({std::to_string(key), std::string(records.Text(store::TextField(table_.number)))});
         records_.push_back({key, records.AbsolutePosition()});
     }
 }
 
 Cursor& KeyChangeScreen::OpenRecords() const {
-    const std::string name(store::FindTable(table_.table)->name);
+    const std::string name(table_.name);
     return context_.document.Adventure().OpenTable(TableNum::Free23, "* from " + name, filter_, table_.key);
 }
 
 std::string_view KeyChangeScreen::Instruction() const {
-    return table_.table == TableNum::ProcessTables ? kInstruction : std::string_view();
+    return table_.number == TableNum::ProcessTables ? kInstruction : std::string_view();
 }
 
 /// Whether any record of the table has the key; that of a process entry is compared over all processes.
 bool KeyChangeScreen::IsUsed(std::int64_t key) const {
     return context_.document.Adventure()
-        .Prepare(table_.table, table_.key, Equals(table_.key, key))
+        .Prepare(table_.number, table_.key, Equals(table_.key, key))
         .First({});
 }
 
@@ -126,7 +117,7 @@ bool KeyChangeScreen::SetKey(std::size_t row, std::string_view key) {
     const auto number = text::WholeNumber(typed);
     if (!number)
         return Refuse(context_.dialogs, "The value for " + std::string(table_.key) + " is not numeric");
-    const bool isProcess = table_.table == TableNum::ProcessTables;
+    const bool isProcess = table_.number == TableNum::ProcessTables;
     if (isProcess && *number != records_[row].key && IsUsed(*number)) {
         Refuse(context_.dialogs, "The value " + typed + " is already used");
         if (++tries_ % kTriesBeforeList == 0) TellFreeKeys();
@@ -174,7 +165,7 @@ bool KeyChangeScreen::CheckChanges(const std::vector<std::size_t>& changed) cons
 void KeyChangeScreen::Copy(const Record& record, std::int64_t key) const {
     Cursor& records = OpenRecords();
     records.SetAbsolutePosition(record.position);
-    const std::string name(store::FindTable(table_.table)->name);
+    const std::string name(table_.name);
     Cursor& added = context_.document.Adventure().OpenTable(
         TableNum::Free24, "* from " + name, std::string(table_.key) + "<>" + std::string(table_.key));
     added.AddNew();

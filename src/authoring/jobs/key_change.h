@@ -6,20 +6,13 @@
 #include <vector>
 
 #include "authoring/document/screen_context.h"
-#include "store/schema/table_catalogue.h"
+#include "store/schema/record_fields.h"
 
 namespace fabula::authoring {
 
-/// What the repair of keys works with in a table: the key, and a text that is shown beside it.
-struct KeyedText {
-    store::TableNum table;
-    std::string_view key;
-    std::string_view shown;
-};
-
 /// The records that were found under a key: a filter, and what they are called in messages.
 struct KeySelection {
-    const KeyedText* table = nullptr;
+    const store::TableEntry* table = nullptr;
     std::string filter;
     std::string key;
 };
@@ -68,7 +61,7 @@ class KeyChangeScreen {
     };
     const std::vector<Row>& Rows() const { return rows_; }
     std::string_view KeyName() const { return table_.key; }
-    std::string_view ShownName() const { return table_.shown; }
+    std::string_view ShownName() const { return store::TextField(table_.number); }
     /// What is to be known of process entries; "" for other tables.
     std::string_view Instruction() const;
 
@@ -93,7 +86,7 @@ class KeyChangeScreen {
     void TellFreeKeys() const;
 
     ScreenContext& context_;
-    const KeyedText& table_;
+    const store::TableEntry& table_;
     std::string filter_;
     std::vector<Row> rows_;
     std::vector<Record> records_;

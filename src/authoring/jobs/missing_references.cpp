@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include "condacts/object_attributes.h"
 #include "condacts/parser.h"
 #include "condacts/places.h"
 #include "pictures/book_loader.h"
@@ -20,8 +21,6 @@ using condacts::WordNumber;
 using store::Adventure;
 using store::PreparedQuery;
 using store::TableNum;
-
-constexpr std::int64_t kContainer = 1;
 
 PlaceNumber PlaceIn(const PreparedQuery& row, int column) {
     return PlaceNumber(static_cast<int>(row.Number(column)));
@@ -99,7 +98,7 @@ class Search {
         std::map<PlaceNumber, PlaceNumber> inside;  // of containers, as places: where each is
         PreparedQuery containers = adventure_.Prepare(TableNum::Objects, "objnum, objloc, objattrn", "");
         for (bool more = containers.First({}); more; more = containers.Next()) {
-            if ((containers.Number(2) & kContainer) != 0)
+            if ((containers.Number(2) & condacts::attribute::kContainer) != 0)
                 inside.try_emplace(PlaceIn(containers, 0), PlaceIn(containers, 1));
         }
         PreparedQuery rows = adventure_.Prepare(
@@ -111,7 +110,7 @@ class Search {
                 IsRoom(place) || (condacts::IsSpecialPlace(place) && place != condacts::place::kHere);
             if (!isPlace) Add(TableNum::Objects, object.value, "objloc", "Invalid location");
             CheckObjectWords(object, WordIn(rows, 2), WordIn(rows, 3));
-            if ((rows.Number(4) & kContainer) == 0) continue;
+            if ((rows.Number(4) & condacts::attribute::kContainer) == 0) continue;
             const PlaceNumber within = condacts::Inside(object);
             if (!IsRoom(within))
                 Add(TableNum::Objects, object.value, "objattr",

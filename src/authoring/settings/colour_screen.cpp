@@ -5,16 +5,9 @@
 #include "text/colours.h"
 
 namespace fabula::authoring {
-namespace {
-
-bool IsColour(int number) {
-    return number >= 0 && number < ColourScreen::kColours;
-}
-
-}  // namespace
 
 ColourScreen::ColourScreen(Purpose purpose, int current)
-    : purpose_(purpose), current_(IsColour(current) ? current : 0) {}
+    : purpose_(purpose), current_(text::IsColour(current) ? current : 0) {}
 
 std::string_view ColourScreen::Caption() const {
     return purpose_ == Purpose::Ink ? "Set Color for Ink" : "Set Color for Paper";
@@ -25,7 +18,7 @@ std::string ColourScreen::CurrentLine() const {
 }
 
 void ColourScreen::Click(int colour) {
-    if (!IsColour(colour)) throw std::invalid_argument("there is no such colour");
+    if (!text::IsColour(colour)) throw std::invalid_argument("there is no such colour");
     current_ = colour;
 }
 

@@ -11,6 +11,7 @@
 #include "platform/error.h"
 #include "store/ifid.h"
 #include "text/line_ends.h"
+#include "text/markup.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 
@@ -142,7 +143,7 @@ std::string_view SettingsScreen::TypeNote() const {
 FontSample SettingsScreen::FontTest() const {
     FontSample sample{.fontName = std::string(kMissingFont),
                       .charSet = std::nullopt,
-                      .points = TextEditing::kDefaultPoints,
+                      .points = text::kDefaultPoints,
                       .paper = paper,
                       .ink = ink};
     if (const ListItem* size = fontSize.Chosen()) sample.points = size->number;

@@ -9,6 +9,7 @@
 #include "engine/output/shown_text.h"
 #include "engine/run_failure.h"
 #include "text/colours.h"
+#include "text/markup.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -17,7 +18,6 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr int kTabColumn = 16;
 constexpr std::size_t kLongestRun = 64 * 1024;
 
 enum TagCode {
@@ -127,7 +127,7 @@ void Printer::RunTag(std::string_view tag, std::string_view rest) {
     if (found == settings_.tags.end()) return;
     switch (found->code) {
         case kTabTag:
-            if (TextColumn() < kTabColumn) return SendBlanks(kTabColumn - TextColumn());
+            if (TextColumn() < text::kTabColumn) return SendBlanks(text::kTabColumn - TextColumn());
             return EndLine();
         case kOverOn:
             return Over(true);

@@ -16,7 +16,7 @@ void AppendExit(std::string& list, const std::string& token) {
 void PcConnections::Begin(const std::vector<std::string_view>&) {
     Flush();
     if (locations_) return;
-    locations_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Locations, "locnum");
+    locations_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Locations);
 }
 
 void PcConnections::Slash(std::string_view line) {

@@ -43,7 +43,7 @@ void PcObjects::Begin(const std::vector<std::string_view>&) {
         job_.context.adventure.Prepare(store::TableNum::Locations, "locnum", "");
     for (bool more = locations.First({}); more; more = locations.Next())
         locations_.insert(locations.Number(0));
-    objects_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Objects, "objnum");
+    objects_ = std::make_unique<KeyedTable>(job_.context.adventure, store::TableNum::Objects);
 }
 
 void PcObjects::Slash(std::string_view line) {

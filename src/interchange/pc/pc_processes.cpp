@@ -66,8 +66,8 @@ void PcProcesses::Begin(const std::vector<std::string_view>& words) {
     Flush();
     job_.lines.TakeComment();  // what stands in front of the section belongs to none of its entries
     if (!entries_) {
-        entries_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcessTables, "canum");
-        descriptions_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcDesc, "pmsgnum");
+        entries_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcessTables);
+        descriptions_ = std::make_unique<KeyedTable>(job_.context.adventure, TableNum::ProcDesc);
     }
     skipping_ = process_ >= condacts::limit::kHighestProcess;
     if (skipping_) {

@@ -9,6 +9,7 @@
 #include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
+#include "interchange/given_records.h"
 #include "interchange/keyed_table.h"
 
 namespace fabula::interchange {
@@ -33,24 +34,11 @@ constexpr NeededWord kNeededWords[] = {
     {"OFF", condacts::kPreposition},
 };
 
-struct ScriptCommand {
-    const char* verb;
-    const char* condActs;
-};
-
-constexpr const char* kCommandNoun = "SCRIP";
-constexpr ScriptCommand kCommands[] = {
-    {"TURN", "PREP OFF SCRIPT 0"},
-    {"TURN", "PREP ON SCRIPT 1"},
-    {"LOAD", "SCRIPT 2"},
-};
-
 /// The words of a vocabulary while some are added to it.
 class ScriptVocabulary {
   public:
     explicit ScriptVocabulary(store::Adventure& adventure)
-        : words_(condacts::LoadWords(adventure).All()),
-          table_(adventure, TableNum::Vocabulary, "vocindex") {}
+        : words_(condacts::LoadWords(adventure).All()), table_(adventure, TableNum::Vocabulary) {}
 
     void MakeSureOf(const NeededWord& needed) {
         std::vector<Word> sameSpelling;
@@ -88,20 +76,14 @@ class ScriptVocabulary {
     KeyedTable table_;
 };
 
-bool HasScriptEntry(store::Adventure& adventure, const ScriptCommand& command) {
-    store::PreparedQuery entries =
-        adventure.Prepare(TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?");
-    return entries.First({command.verb, kCommandNoun, command.condActs});
-}
-
-void AddEntry(PcSourceJob& job, const ScriptCommand& command, const condacts::WordIndex& words) {
+void AddEntry(PcSourceJob& job, const GivenEntry& command, const condacts::WordIndex& words) {
     const Word* verb =
-        words.Find(command.verb, [](const Word& word) { return word.type == condacts::kVerb; });
+        words.Find(command.w1, [](const Word& word) { return word.type == condacts::kVerb; });
     const Word* noun =
-        words.Find(kCommandNoun, [](const Word& word) { return word.type == condacts::kNoun; });
+        words.Find(command.w2, [](const Word& word) { return word.type == condacts::kNoun; });
     const condacts::Converted numeric = condacts::CondActsToNumeric(command.condActs, job.catalogue, words);
     if (verb == nullptr || noun == nullptr || !numeric.ok) return;
-    KeyedTable entries(job.context.adventure, TableNum::ProcessTables, "canum");
+    KeyedTable entries(job.context.adventure, TableNum::ProcessTables);
     Cursor& record = entries.Add(entries.HighestKey() + 1);
     record.SetField("estype", std::int64_t{0});
     record.SetField("w1", verb->word);
@@ -124,8 +106,8 @@ void AddScriptCommands(PcSourceJob& job) {
             vocabulary.MakeSureOf(needed);
     }
     const condacts::WordIndex words = condacts::LoadWords(adventure);
-    for (const ScriptCommand& command : kCommands) {
-        if (!HasScriptEntry(adventure, command)) AddEntry(job, command, words);
+    for (const GivenEntry& command : kScriptEntries) {
+        if (!HasEntry(adventure, command)) AddEntry(job, command, words);
     }
 }
 

@@ -18,6 +18,7 @@
 #include "interchange/pc/pc_texts.h"
 #include "interchange/target_file.h"
 #include "store/comments.h"
+#include "store/schema/record_fields.h"
 #include "store/tags.h"
 #include "text/fields.h"
 #include "text/format.h"
@@ -184,13 +185,15 @@ class SourceWriter {
 
     void WriteTexts(const PcTextTable& kind, const char* keyword) {
         Keyword(keyword);
-        Cursor& texts = context_.adventure.OpenTable(kind.table, "def", std::nullopt, kind.keyField);
+        const std::string keyField = store::KeyField(kind.table);
+        const std::string textField(store::TextField(kind.table));
+        Cursor& texts = context_.adventure.OpenTable(kind.table, "def", std::nullopt, keyField);
         for (; !texts.Eof(); texts.MoveNext()) {
             context_.status.IncBar(1);
             record_ = std::string(store::FindTable(kind.table)->name) + " " +
-                      std::to_string(texts.Number(kind.keyField)) + ", " + std::string(kind.textField);
-            Line("/" + std::to_string(texts.Number(kind.keyField)));
-            ShowPCVelDesc(texts.Text(kind.textField));
+                      std::to_string(texts.Number(keyField)) + ", " + textField;
+            Line("/" + std::to_string(texts.Number(keyField)));
+            ShowPCVelDesc(texts.Text(textField));
         }
     }
 

@@ -2,6 +2,7 @@
 
 #include "condacts/places.h"
 #include "interchange/given_records.h"
+#include "store/schema/record_fields.h"
 #include "text/line_ends.h"
 
 namespace fabula::interchange {
@@ -36,16 +37,16 @@ void SetObjectDefaults(Cursor& object) {
 }  // namespace
 
 const PcTextTable kPcTextTables[4] = {
-    {TableNum::SystemMessages, "smsgnum", "smsgmsg", "System Message"},
-    {TableNum::Messages, "msgnum", "msgmsg", "Message"},
-    {TableNum::Objects, "objnum", "objdesc", "Object"},
-    {TableNum::Locations, "locnum", "locdesc", "Location"},
+    {TableNum::SystemMessages, "System Message"},
+    {TableNum::Messages, "Message"},
+    {TableNum::Objects, "Object"},
+    {TableNum::Locations, "Location"},
 };
 
 void PcTexts::Begin(const std::vector<std::string_view>&) {
     Flush();
     if (table_) return;
-    table_ = std::make_unique<KeyedTable>(job_.context.adventure, kind_.table, std::string(kind_.keyField));
+    table_ = std::make_unique<KeyedTable>(job_.context.adventure, kind_.table);
 }
 
 void PcTexts::Slash(std::string_view line) {
@@ -81,7 +82,7 @@ void PcTexts::Flush() {
         const bool isNew = !table_->Has(*number_);
         Cursor& record = table_->GoToOrAdd(*number_);
         if (isNew) SetDefaults(record);
-        record.SetField(kind_.textField, job_.texts.FromSource(text_));
+        record.SetField(store::TextField(kind_.table), job_.texts.FromSource(text_));
         table_->Update();
     }
     number_.reset();
@@ -98,12 +99,12 @@ void PcTexts::SetDefaults(Cursor& record) const {
 void PcTexts::AddScriptMessages() {
     const std::int64_t last = table_->HighestKey();
     const auto text = [&](std::int64_t number) {
-        return table_->Has(number) ? std::string(table_->GoTo(number).Text(kind_.textField))
+        return table_->Has(number) ? std::string(table_->GoTo(number).Text(store::TextField(kind_.table)))
                                    : std::string();
     };
     if (text(last - 1) == kScriptMessages[0] && text(last) == kScriptMessages[1]) return;
     for (const std::string_view message : kScriptMessages) {
-        table_->Add(table_->HighestKey() + 1).SetField(kind_.textField, std::string(message));
+        table_->Add(table_->HighestKey() + 1).SetField(store::TextField(kind_.table), std::string(message));
         table_->Update();
     }
 }

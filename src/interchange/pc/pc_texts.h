@@ -13,8 +13,6 @@ namespace fabula::interchange {
 /// What sets the four sections of texts apart.
 struct PcTextTable {
     store::TableNum table;
-    std::string_view keyField;
-    std::string_view textField;
     std::string_view name;  ///< in the status line
 };
 

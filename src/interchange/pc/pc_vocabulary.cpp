@@ -44,7 +44,7 @@ void PcVocabulary::Begin(const std::vector<std::string_view>&) {
     for (const Word& word : reserved.All()) {
         bySpelling_[text::LowerCase(word.word)].push_back(word);
     }
-    table_ = std::make_unique<KeyedTable>(adventure, TableNum::Vocabulary, "vocindex");
+    table_ = std::make_unique<KeyedTable>(adventure, TableNum::Vocabulary);
 }
 
 void PcVocabulary::Slash(std::string_view) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "interchange/listing_numbers.h"
+#include "pictures/characters/glyph.h"
 #include "text/format.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
@@ -13,7 +14,7 @@ namespace {
 constexpr std::string_view kOpening = "static char ";
 constexpr std::string_view kBrackets = "[]";
 constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef";
-constexpr std::size_t kRows = 8;
+constexpr std::size_t kRows = pictures::kGlyphSide;
 constexpr int kCharactersASet = 1000;
 constexpr std::size_t kLongestSetName = 20;
 /// More than the largest array has; what follows is passed over.
@@ -49,6 +50,25 @@ std::vector<std::string> BitArray::Characters(std::size_t most) const {
         characters.push_back(values);
     }
     return characters;
+}
+
+void ArrayReader::Line(std::string_view line) {
+    const std::string_view name = BitArray::NameIn(line);
+    if (!name.empty()) {
+        Finish();
+        name_ = name;
+        line.remove_prefix(line.find('{') + 1);
+    }
+    if (name_.empty()) return;
+    array_.TakeLine(line);
+    if (array_.Closed()) Finish();
+}
+
+void ArrayReader::Finish() {
+    if (name_.empty()) return;
+    take_(name_, array_);
+    name_.clear();
+    array_ = {};
 }
 
 void ListedCharacters::Store(int set, int first, const std::vector<std::string>& characters,

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "interchange/keyed_table.h"
@@ -29,12 +31,29 @@ class BitArray {
     bool closed_ = false;
 };
 
+/// The arrays of a section, line by line. Each is given away with its name as soon as it ends: at its "}",
+/// at the head of the next one, or with the section.
+class ArrayReader {
+  public:
+    using Take = std::function<void(const std::string& name, const BitArray& array)>;
+
+    explicit ArrayReader(Take take) : take_(std::move(take)) {}
+
+    void Line(std::string_view line);
+    void Finish();
+
+  private:
+    Take take_;
+    std::string name_;  ///< of the array that is being read
+    BitArray array_;
+};
+
 /// The rows of the table `Characters` while sets are read into them. Nobody else may open the table
 /// meanwhile.
 class ListedCharacters {
   public:
     explicit ListedCharacters(store::Adventure& adventure)
-        : table_(adventure, store::TableNum::Characters, "charkey") {}
+        : table_(adventure, store::TableNum::Characters) {}
 
     /// Stores characters of a set, from number `first` up. Those that are there are written over.
     void Store(int set, int first, const std::vector<std::string>& characters, const std::string& setName);

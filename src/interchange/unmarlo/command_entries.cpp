@@ -6,6 +6,7 @@
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "condacts/words.h"
+#include "interchange/given_records.h"
 #include "interchange/unmarlo/game_words.h"
 #include "interchange/unmarlo/listed_entries.h"
 
@@ -16,26 +17,15 @@ using condacts::WordIndex;
 using store::Cursor;
 using store::TableNum;
 
-struct EntryCommand {
-    const char* w1;
-    const char* w2;
-    const char* condActs;
-};
-
-constexpr EntryCommand kMarloScript[] = {
+constexpr GivenEntry kMarloScript[] = {
     {"SCRI", "OFF", "SCRIPT 0"},
     {"SCRI", "ON", "SCRIPT 1"},
     {"LOAD", "SCRI", "SCRIPT 2"},
 };
-constexpr EntryCommand kMarloGraphics[] = {
+constexpr GivenEntry kMarloGraphics[] = {
     {"GRAP", "OFF", "LET 28 19 PAUSE 255 DESC"},
     {"GRAP", "ON", "LET 28 19 PAUSE 1 DESC"},
     {"GRAP", "NORM", "LET 28 19 PAUSE 0 DESC"},
-};
-constexpr EntryCommand kVelScript[] = {
-    {"TURN", "SCRIP", "PREP OFF SCRIPT 0"},
-    {"TURN", "SCRIP", "PREP ON SCRIPT 1"},
-    {"LOAD", "SCRIP", "SCRIPT 2"},
 };
 
 /// Entries of TURN GRAPH that hold the text, and what they become.
@@ -53,11 +43,6 @@ constexpr const char* kRedescribeAdvice =
     "Check the R (REDE) command to be sure it does a SET 29 before the DESC so the Room Graphic will show "
     "on a REDESCRIBE.";
 
-bool HasEntry(store::Adventure& adventure, const EntryCommand& command) {
-    return adventure.Prepare(TableNum::ProcessTables, "canum", "estype=0 and w1=? and w2=? and condacts=?")
-        .First({command.w1, command.w2, command.condActs});
-}
-
 /// A word of an entry is looked up as a verb or noun, verbs first.
 condacts::WordNumber EntryWordNumber(const WordIndex& words, const char* word) {
     for (const condacts::WordType type : {condacts::kVerb, condacts::kNoun}) {
@@ -68,9 +53,9 @@ condacts::WordNumber EntryWordNumber(const WordIndex& words, const char* word) {
 }
 
 template <std::size_t count>
-void AddEntries(ListingJob& job, const EntryCommand (&commands)[count]) {
+void AddEntries(ListingJob& job, const GivenEntry (&commands)[count]) {
     const WordIndex words = condacts::LoadWords(job.Adventure());
-    for (const EntryCommand& command : commands) {
+    for (const GivenEntry& command : commands) {
         if (HasEntry(job.Adventure(), command)) continue;
         ListedEntries(job.Adventure())
             .Add({condacts::kResponses, command.w1, command.w2, EntryWordNumber(words, command.w1),
@@ -132,7 +117,7 @@ void AddVelCommands(ListingJob& job) {
         words.MakeSureOf("SCRIP", condacts::kNoun);
         words.MakeSureOf("LOAD", condacts::kVerb);
     }
-    AddEntries(job, kVelScript);
+    AddEntries(job, kScriptEntries);
     RewriteGraphicsEntries(job);
     TellCommands(job, true);
 }

@@ -24,7 +24,7 @@ bool IsFixedKind(WordType type) {
 }  // namespace
 
 GameWords::GameWords(store::Adventure& adventure)
-    : table_(adventure, TableNum::Vocabulary, "vocindex"), words_(condacts::LoadWords(adventure).All()) {
+    : table_(adventure, TableNum::Vocabulary), words_(condacts::LoadWords(adventure).All()) {
     for (const Word& word : words_)
         bySpelling_[word.word].push_back(word);
 }

@@ -32,6 +32,17 @@ std::string FaultOf(const ParsedLine& parsed) {
 
 }  // namespace
 
+void ListedEntry::AddCondActs(std::string_view line) {
+    if (!condActs.empty()) condActs += ' ';
+    condActs += line;
+}
+
+void ListedEntries::Flush(ListedEntry& entry, const condacts::Catalogue& catalogue,
+                          const condacts::WordIndex& words) {
+    if (!entry.IsEmpty()) Add(entry, catalogue, words);
+    entry = {.table = entry.table};
+}
+
 void ListedEntries::Add(const ListedEntry& entry, const condacts::Catalogue& catalogue,
                         const condacts::WordIndex& words) {
     Cursor& record = table_.Add(table_.HighestKey() + 1);

@@ -20,17 +20,21 @@ struct ListedEntry {
     std::string condActs;
 
     bool IsEmpty() const { return condActs.empty(); }
+    /// Adds a further line of conditions and actions behind those that are there.
+    void AddCondActs(std::string_view line);
 };
 
 /// The process tables while a listing is read into them. Nobody else may open the table meanwhile.
 class ListedEntries {
   public:
     explicit ListedEntries(store::Adventure& adventure)
-        : table_(adventure, store::TableNum::ProcessTables, "canum") {}
+        : table_(adventure, store::TableNum::ProcessTables) {}
 
     /// Adds an entry at the next key. Its numeric form is made with `words`.
     void Add(const ListedEntry& entry, const condacts::Catalogue& catalogue,
              const condacts::WordIndex& words);
+    /// Adds what was read of an entry, unless it is empty, and makes it the next one of the same table.
+    void Flush(ListedEntry& entry, const condacts::Catalogue& catalogue, const condacts::WordIndex& words);
 
   private:
     KeyedTable table_;

@@ -50,7 +50,7 @@ void AddScriptMessages(store::Adventure& adventure) {
         store::PreparedQuery there = adventure.Prepare(TableNum::SystemMessages, "smsgnum", "smsgmsg=?");
         if (there.First({message})) continue;
         there.Reset();
-        KeyedTable messages(adventure, TableNum::SystemMessages, "smsgnum");
+        KeyedTable messages(adventure, TableNum::SystemMessages);
         StoreText(messages, "smsgmsg", messages.HighestKey() + 1, message);
     }
 }

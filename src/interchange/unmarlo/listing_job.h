@@ -25,6 +25,15 @@ struct ListingJob {
     store::Adventure& Adventure() const { return context.adventure; }
 };
 
+/// One section of a listing, fed line by line.
+class ListingSection {
+  public:
+    virtual ~ListingSection() = default;
+    virtual void Line(std::string_view line) = 0;
+    /// Its end was met, or the file's: what is pending is stored and the status told.
+    virtual void Finish() = 0;
+};
+
 /// Told of a line that is not as it must be.
 inline constexpr const char* kBadListingLine = "ERROR: This line can't be understood.";
 

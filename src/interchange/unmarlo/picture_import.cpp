@@ -161,7 +161,7 @@ LoadedPictures LoadGraphics(const PictureImport& import, store::Adventure& adven
     }
     LoadedPictures loaded;
     store::Transaction transaction(adventure);
-    KeyedTable table(adventure, TableNum::Pictures, "locnum");
+    KeyedTable table(adventure, TableNum::Pictures);
     for (std::size_t i = 0; i < wanted.numbers.size(); ++i) {
         const int source = wanted.numbers[i];
         const int record = import.target + static_cast<int>(i);
@@ -234,7 +234,7 @@ void MoveToNewLocations(const LoadedPictures& loaded, const NewLocations& places
     }
     for (const LoadedPicture& picture : loaded.pictures)
         adventure.DeleteFrom(TableNum::Pictures, "locnum=" + std::to_string(picture.record));
-    KeyedTable table(adventure, TableNum::Pictures, "locnum");
+    KeyedTable table(adventure, TableNum::Pictures);
     for (const ListedPicture& picture : moved)
         StorePicture(table, picture);
     transaction.Commit();

@@ -4,6 +4,7 @@
 #include "interchange/source_file.h"
 #include "interchange/unmarlo/listing_lines.h"
 #include "pictures/drawstring.h"
+#include "pictures/picture_book.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -15,7 +16,6 @@ using pictures::Command;
 constexpr std::string_view kPlaceHeading = "Location";
 constexpr std::string_view kFlag = "graphics flag";
 constexpr std::size_t kAddressLength = 5;
-constexpr int kColourOfTheAdventure = -1;
 
 struct ListedName {
     std::string_view listed;
@@ -39,7 +39,7 @@ std::optional<int> Assigned(std::string_view line, std::string_view name) {
 }
 
 std::optional<int> Colour(std::optional<int> number) {
-    if (number && (*number < kColourOfTheAdventure || *number > condacts::limit::kHighestColour))
+    if (number && (*number < pictures::kColourOfTheAdventure || *number > condacts::limit::kHighestColour))
         return std::nullopt;
     return number;
 }
@@ -157,7 +157,7 @@ void StorePicture(KeyedTable& pictures, const ListedPicture& picture) {
     record.SetField("locink", std::int64_t{picture.ink});
     record.SetField("drawstring", drawstring);
     record.SetField("picname", std::string());
-    record.SetField("roompicnum", std::int64_t{picture.isSubroutine ? -1 : picture.number});
+    record.SetField("roompicnum", std::int64_t{picture.isSubroutine ? pictures::kNoRoom : picture.number});
     pictures.Update();
 }
 

@@ -7,8 +7,22 @@ namespace fabula::interchange {
 
 using store::TableNum;
 
-ListedPictures::ListedPictures(ListingJob& job)
-    : job_(job), commands_(pictures::LoadPictureBook(job.Adventure()).commands) {}
+ListedPictures::ListedPictures(ListingJob& job, const char* loaded, bool turnsOn)
+    : job_(job),
+      loaded_(loaded),
+      turnsOn_(turnsOn),
+      commands_(pictures::LoadPictureBook(job.Adventure()).commands) {}
+
+void ListedPictures::Line(std::string_view line) {
+    if (goesOn_) goesOn_ = TakeLine(line);
+}
+
+void ListedPictures::Finish() {
+    EndPicture();
+    Store();
+    if (turnsOn_ && !read_.empty()) SetSetting(job_.Adventure(), "graphics", 1);
+    job_.Status(loaded_);
+}
 
 bool ListedPictures::TakeLine(std::string_view line) {
     if (const auto head = PictureHead::Read(line)) {
@@ -38,14 +52,13 @@ void ListedPictures::EndPicture() {
     picture_.reset();
 }
 
-void ListedPictures::Finish() {
-    EndPicture();
+void ListedPictures::Store() {
     std::set<std::int64_t> locations;
     store::PreparedQuery rows = job_.Adventure().Prepare(TableNum::Locations, "locnum", "");
     for (bool more = rows.First({}); more; more = rows.Next())
         locations.insert(rows.Number(0));
     rows.Reset();
-    KeyedTable table(job_.Adventure(), TableNum::Pictures, "locnum");
+    KeyedTable table(job_.Adventure(), TableNum::Pictures);
     for (const auto& [number, picture] : read_) {
         if (locations.contains(number)) StorePicture(table, picture);
     }

@@ -8,24 +8,27 @@
 
 namespace fabula::interchange {
 
-/// The section of the pictures of a listing, line by line. Commands that can't be understood are reported
-/// and left out. Of two pictures of one number the later counts.
-class ListedPictures {
+/// The section of the pictures of a listing. Commands that can't be understood are reported and left out.
+/// Of two pictures of one number the later counts, and of those of the listing each whose location exists.
+class ListedPictures : public ListingSection {
   public:
-    explicit ListedPictures(ListingJob& job);
+    /// `loaded` is told when all is stored. With `turnsOn` a listing that has pictures turns them on in the
+    /// settings; where it is not given, the settings follow what stands elsewhere in the listing.
+    ListedPictures(ListingJob& job, const char* loaded, bool turnsOn = false);
 
-    /// False, with the reason in the status, for a head without ink or paper: no further line counts.
-    bool TakeLine(std::string_view line);
-    /// Stores what was read, each picture whose location exists.
-    void Finish();
-
-    /// How many pictures were read.
-    std::size_t Count() const { return read_.size(); }
+    void Line(std::string_view line) final;
+    void Finish() final;
 
   private:
+    /// False, with the reason in the status, for a head without ink or paper: no further line counts.
+    bool TakeLine(std::string_view line);
     void EndPicture();
+    void Store();
 
     ListingJob& job_;
+    const char* loaded_;
+    bool turnsOn_;
+    bool goesOn_ = true;
     pictures::CommandCatalogue commands_;
     std::map<int, ListedPicture> read_;
     std::optional<ListedPicture> picture_;  ///< the one that is being read

@@ -14,10 +14,9 @@ constexpr Columns kCondAct{20, 16};
 constexpr Columns kFirstLetter{6, 1};
 
 /// The response or the status table. The numbers of words are found when the vocabulary is known.
-class MarloEntries final : public UnMarloSection {
+class MarloEntries final : public ListingSection {
   public:
-    MarloEntries(ListingJob& job, condacts::ProcessNumber table)
-        : job_(job), table_(table), entries_(job.Adventure()) {
+    MarloEntries(ListingJob& job, condacts::ProcessNumber table) : job_(job), entries_(job.Adventure()) {
         pending_.table = table;
     }
 
@@ -25,8 +24,7 @@ class MarloEntries final : public UnMarloSection {
         if (!HasAddress(line)) return;
         if (Cut(line, kFirstLetter) == " ") {
             const auto condAct = TakeCondActs(job_, CutTrimmed(line, kCondAct), nullptr);
-            if (condAct && !condAct->empty())
-                pending_.condActs += (pending_.condActs.empty() ? "" : " ") + *condAct;
+            if (condAct && !condAct->empty()) pending_.AddCondActs(*condAct);
             return;
         }
         Flush();
@@ -36,8 +34,8 @@ class MarloEntries final : public UnMarloSection {
 
     void Finish() override {
         Flush();
-        job_.Status(table_ == condacts::kResponses ? "Loaded Marlo Response Table.\n"
-                                                   : "Loaded Marlo Status Table.\n");
+        job_.Status(pending_.table == condacts::kResponses ? "Loaded Marlo Response Table.\n"
+                                                           : "Loaded Marlo Status Table.\n");
     }
 
   private:
@@ -46,21 +44,16 @@ class MarloEntries final : public UnMarloSection {
         return text::UpperCase(word);
     }
 
-    void Flush() {
-        if (!pending_.IsEmpty()) entries_.Add(pending_, job_.catalogue, {});
-        pending_ = ListedEntry{};
-        pending_.table = table_;
-    }
+    void Flush() { entries_.Flush(pending_, job_.catalogue, {}); }
 
     ListingJob& job_;
-    condacts::ProcessNumber table_;
     ListedEntries entries_;
     ListedEntry pending_;
 };
 
 }  // namespace
 
-std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, condacts::ProcessNumber table) {
+std::unique_ptr<ListingSection> UnMarloEntries(ListingJob& job, condacts::ProcessNumber table) {
     return std::make_unique<MarloEntries>(job, table);
 }
 

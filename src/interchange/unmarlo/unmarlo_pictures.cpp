@@ -11,68 +11,34 @@ namespace {
 constexpr const char* kSetName = "Marlo Default";
 
 /// The arrays of the user-defined graphics and of the font.
-class CharacterArrays final : public UnMarloSection {
+class CharacterArrays final : public ListingSection {
   public:
-    explicit CharacterArrays(ListingJob& job) : job_(job) {}
+    explicit CharacterArrays(ListingJob& job)
+        : arrays_([&job](const std::string& name, const BitArray& array) { Store(job, name, array); }) {}
 
-    void Line(std::string_view line) override {
-        const std::string_view name = BitArray::NameIn(line);
-        if (!name.empty()) {
-            Flush();
-            name_ = name;
-            line.remove_prefix(line.find('{') + 1);
-        }
-        if (name_.empty()) return;
-        array_.TakeLine(line);
-        if (array_.Closed()) Flush();
-    }
-
-    void Finish() override { Flush(); }
+    void Line(std::string_view line) override { arrays_.Line(line); }
+    void Finish() override { arrays_.Finish(); }
 
   private:
-    void Flush() {
-        ListedCharacters characters(job_.Adventure());
-        if (name_ == "udg_bits")
-            characters.Store(0, pictures::kFirstUserGraphic, array_.Characters(kUserGraphics), kSetName);
-        if (name_ == "font_bits")
-            characters.Store(0, pictures::kFirstCharacter, array_.Characters(kFontCharacters), kSetName);
-        name_.clear();
-        array_ = {};
+    static void Store(ListingJob& job, const std::string& name, const BitArray& array) {
+        ListedCharacters characters(job.Adventure());
+        if (name == "udg_bits")
+            characters.Store(0, pictures::kFirstUserGraphic, array.Characters(kUserGraphics), kSetName);
+        if (name == "font_bits")
+            characters.Store(0, pictures::kFirstCharacter, array.Characters(kFontCharacters), kSetName);
     }
 
-    ListingJob& job_;
-    std::string name_;  ///< of the array that is being read
-    BitArray array_;
-};
-
-class MarloPictures final : public UnMarloSection {
-  public:
-    explicit MarloPictures(ListingJob& job) : job_(job), pictures_(job) {}
-
-    void Line(std::string_view line) override {
-        if (goesOn_) goesOn_ = pictures_.TakeLine(line);
-    }
-
-    void Finish() override {
-        pictures_.Finish();
-        if (pictures_.Count() > 0) SetSetting(job_.Adventure(), "graphics", 1);
-        job_.Status(" Graphics records loaded.");
-    }
-
-  private:
-    ListingJob& job_;
-    ListedPictures pictures_;
-    bool goesOn_ = true;
+    ArrayReader arrays_;
 };
 
 }  // namespace
 
-std::unique_ptr<UnMarloSection> UnMarloCharacters(ListingJob& job) {
+std::unique_ptr<ListingSection> UnMarloCharacters(ListingJob& job) {
     return std::make_unique<CharacterArrays>(job);
 }
 
-std::unique_ptr<UnMarloSection> UnMarloPictures(ListingJob& job) {
-    return std::make_unique<MarloPictures>(job);
+std::unique_ptr<ListingSection> UnMarloPictures(ListingJob& job) {
+    return std::make_unique<ListedPictures>(job, " Graphics records loaded.", true);
 }
 
 }  // namespace fabula::interchange

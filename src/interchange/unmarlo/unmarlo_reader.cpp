@@ -134,7 +134,7 @@ class Walk {
         section_.reset();
     }
 
-    std::unique_ptr<UnMarloSection> SectionOf(std::size_t stage) {
+    std::unique_ptr<ListingSection> SectionOf(std::size_t stage) {
         switch (stage) {
             case 1:
                 return UnMarloEntries(job_, condacts::kResponses);
@@ -168,7 +168,7 @@ class Walk {
     ListingJob& job_;
     std::string version_;
     std::size_t stage_ = 0;
-    std::unique_ptr<UnMarloSection> section_;
+    std::unique_ptr<ListingSection> section_;
 };
 
 bool HasPictures(store::Adventure& adventure) {

@@ -9,28 +9,19 @@
 
 namespace fabula::interchange {
 
-/// One section of an UnMarlo listing, fed line by line.
-class UnMarloSection {
-  public:
-    virtual ~UnMarloSection() = default;
-    virtual void Line(std::string_view line) = 0;
-    /// Its end was met, or the file's: what is pending is stored and the status told.
-    virtual void Finish() = 0;
-};
-
 // The sections, in the order of the listing; `version` is that of the decompiler.
 
-std::unique_ptr<UnMarloSection> UnMarloEntries(ListingJob& job, condacts::ProcessNumber table);
-std::unique_ptr<UnMarloSection> UnMarloObjects(ListingJob& job, const std::string& version);
-std::unique_ptr<UnMarloSection> UnMarloLocations(ListingJob& job, const std::string& version);
-std::unique_ptr<UnMarloSection> UnMarloMessages(ListingJob& job, const std::string& version);
-std::unique_ptr<UnMarloSection> UnMarloConnections(ListingJob& job);
-std::unique_ptr<UnMarloSection> UnMarloVocabulary(ListingJob& job);
-std::unique_ptr<UnMarloSection> UnMarloObjectPlaces(ListingJob& job);
-std::unique_ptr<UnMarloSection> UnMarloObjectWords(ListingJob& job);
-std::unique_ptr<UnMarloSection> UnMarloSystemMessages(ListingJob& job, const std::string& version);
-std::unique_ptr<UnMarloSection> UnMarloCharacters(ListingJob& job);
-std::unique_ptr<UnMarloSection> UnMarloPictures(ListingJob& job);
+std::unique_ptr<ListingSection> UnMarloEntries(ListingJob& job, condacts::ProcessNumber table);
+std::unique_ptr<ListingSection> UnMarloObjects(ListingJob& job, const std::string& version);
+std::unique_ptr<ListingSection> UnMarloLocations(ListingJob& job, const std::string& version);
+std::unique_ptr<ListingSection> UnMarloMessages(ListingJob& job, const std::string& version);
+std::unique_ptr<ListingSection> UnMarloConnections(ListingJob& job);
+std::unique_ptr<ListingSection> UnMarloVocabulary(ListingJob& job);
+std::unique_ptr<ListingSection> UnMarloObjectPlaces(ListingJob& job);
+std::unique_ptr<ListingSection> UnMarloObjectWords(ListingJob& job);
+std::unique_ptr<ListingSection> UnMarloSystemMessages(ListingJob& job, const std::string& version);
+std::unique_ptr<ListingSection> UnMarloCharacters(ListingJob& job);
+std::unique_ptr<ListingSection> UnMarloPictures(ListingJob& job);
 
 /// Whether the line bears an address: "0A1F: ...".
 bool HasAddress(std::string_view line);

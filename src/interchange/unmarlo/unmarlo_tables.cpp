@@ -22,7 +22,7 @@ constexpr std::size_t kRoomToken = 7;
 constexpr std::size_t kLettersOfAWord = condacts::SignificantLetters(store::AdventureKind::Marlo);
 constexpr std::string_view kConnectionsFrom = "Connections from ";
 
-class MarloConnections final : public UnMarloSection {
+class MarloConnections final : public ListingSection {
   public:
     explicit MarloConnections(ListingJob& job)
         : job_(job), locations_(job.Adventure(), TableNum::Locations, "locnum") {}
@@ -61,7 +61,7 @@ class MarloConnections final : public UnMarloSection {
 };
 
 /// A listing does not tell the types of words: all are nouns.
-class MarloVocabulary final : public UnMarloSection {
+class MarloVocabulary final : public ListingSection {
   public:
     explicit MarloVocabulary(ListingJob& job) : job_(job), words_(job.Adventure()) {}
 
@@ -90,7 +90,7 @@ class MarloVocabulary final : public UnMarloSection {
     GameWords words_;
 };
 
-class MarloObjectPlaces final : public UnMarloSection {
+class MarloObjectPlaces final : public ListingSection {
   public:
     explicit MarloObjectPlaces(ListingJob& job)
         : job_(job), objects_(job.Adventure(), TableNum::Objects, "objnum") {}
@@ -124,7 +124,7 @@ class MarloObjectPlaces final : public UnMarloSection {
     KeyedTable objects_;
 };
 
-class MarloObjectWords final : public UnMarloSection {
+class MarloObjectWords final : public ListingSection {
   public:
     explicit MarloObjectWords(ListingJob& job)
         : job_(job), objects_(job.Adventure(), TableNum::Objects, "objnum") {}
@@ -158,19 +158,19 @@ class MarloObjectWords final : public UnMarloSection {
 
 }  // namespace
 
-std::unique_ptr<UnMarloSection> UnMarloConnections(ListingJob& job) {
+std::unique_ptr<ListingSection> UnMarloConnections(ListingJob& job) {
     return std::make_unique<MarloConnections>(job);
 }
 
-std::unique_ptr<UnMarloSection> UnMarloVocabulary(ListingJob& job) {
+std::unique_ptr<ListingSection> UnMarloVocabulary(ListingJob& job) {
     return std::make_unique<MarloVocabulary>(job);
 }
 
-std::unique_ptr<UnMarloSection> UnMarloObjectPlaces(ListingJob& job) {
+std::unique_ptr<ListingSection> UnMarloObjectPlaces(ListingJob& job) {
     return std::make_unique<MarloObjectPlaces>(job);
 }
 
-std::unique_ptr<UnMarloSection> UnMarloObjectWords(ListingJob& job) {
+std::unique_ptr<ListingSection> UnMarloObjectWords(ListingJob& job) {
     return std::make_unique<MarloObjectWords>(job);
 }
 

@@ -42,7 +42,7 @@ constexpr TextKind kSystemMessages{"System message ",
                                    nullptr};
 
 /// Texts below lines "0A1F: Message 3:". A line that has no such label is text, whatever stands in it.
-class Texts final : public UnMarloSection {
+class Texts final : public ListingSection {
   public:
     Texts(ListingJob& job, const TextKind& kind, std::string version)
         : job_(job),
@@ -91,19 +91,19 @@ class Texts final : public UnMarloSection {
 
 }  // namespace
 
-std::unique_ptr<UnMarloSection> UnMarloObjects(ListingJob& job, const std::string& version) {
+std::unique_ptr<ListingSection> UnMarloObjects(ListingJob& job, const std::string& version) {
     return std::make_unique<Texts>(job, kObjects, version);
 }
 
-std::unique_ptr<UnMarloSection> UnMarloLocations(ListingJob& job, const std::string& version) {
+std::unique_ptr<ListingSection> UnMarloLocations(ListingJob& job, const std::string& version) {
     return std::make_unique<Texts>(job, kLocations, version);
 }
 
-std::unique_ptr<UnMarloSection> UnMarloMessages(ListingJob& job, const std::string& version) {
+std::unique_ptr<ListingSection> UnMarloMessages(ListingJob& job, const std::string& version) {
     return std::make_unique<Texts>(job, kMessages, version);
 }
 
-std::unique_ptr<UnMarloSection> UnMarloSystemMessages(ListingJob& job, const std::string& version) {
+std::unique_ptr<ListingSection> UnMarloSystemMessages(ListingJob& job, const std::string& version) {
     return std::make_unique<Texts>(job, kSystemMessages, version);
 }
 

@@ -19,7 +19,7 @@ constexpr std::size_t kWordColumn = 15;
 constexpr std::size_t kWordWidth = 5;
 constexpr std::size_t kDestinationWidth = 3;
 
-class Connections final : public UnVelSection {
+class Connections final : public ListingSection {
   public:
     explicit Connections(UnVelJob& job)
         : job_(job), locations_(job.Adventure(), TableNum::Locations, "locnum") {}
@@ -78,7 +78,7 @@ class Connections final : public UnVelSection {
 
 }  // namespace
 
-std::unique_ptr<UnVelSection> UnVelConnections(UnVelJob& job) {
+std::unique_ptr<ListingSection> UnVelConnections(UnVelJob& job) {
     return std::make_unique<Connections>(job);
 }
 

@@ -20,7 +20,7 @@ bool IsVerbNounOrReserved(const Word& word) {
     return word.type == condacts::kVerb || word.type == condacts::kNoun || word.type == condacts::kReserved;
 }
 
-class Entries final : public UnVelSection {
+class Entries final : public ListingSection {
   public:
     Entries(UnVelJob& job, condacts::ProcessNumber table)
         : job_(job), table_(table), entries_(job.Adventure()) {
@@ -39,13 +39,13 @@ class Entries final : public UnVelSection {
         const std::string_view rest = CutTrimmed(line, kCondActColumns);
         if (rest.empty()) return;
         const auto condAct = TakeCondActs(job_.listing, rest, &job_.words);
-        if (condAct) entry_.condActs += (entry_.condActs.empty() ? "" : " ") + *condAct;
+        if (condAct) entry_.AddCondActs(*condAct);
     }
 
     void Finish() override {
         Flush();
         if (table_.value <= kLastDefaultTable) return;
-        KeyedTable tables(job_.Adventure(), TableNum::ProcDesc, "pmsgnum");
+        KeyedTable tables(job_.Adventure(), TableNum::ProcDesc);
         if (!tables.Has(table_.value)) StoreText(tables, "pmsgmsg", table_.value, "");
     }
 
@@ -69,11 +69,7 @@ class Entries final : public UnVelSection {
         word = found != nullptr ? found->word : text::UpperCase(listed);
     }
 
-    void Flush() {
-        if (!entry_.IsEmpty()) entries_.Add(entry_, job_.listing.catalogue, job_.words);
-        entry_ = ListedEntry{};
-        entry_.table = table_;
-    }
+    void Flush() { entries_.Flush(entry_, job_.listing.catalogue, job_.words); }
 
     UnVelJob& job_;
     condacts::ProcessNumber table_;
@@ -83,7 +79,7 @@ class Entries final : public UnVelSection {
 
 }  // namespace
 
-std::unique_ptr<UnVelSection> UnVelEntries(UnVelJob& job, condacts::ProcessNumber table) {
+std::unique_ptr<ListingSection> UnVelEntries(UnVelJob& job, condacts::ProcessNumber table) {
     return std::make_unique<Entries>(job, table);
 }
 

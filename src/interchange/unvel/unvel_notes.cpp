@@ -40,7 +40,7 @@ void StoreFlagNotes(store::Adventure& adventure, const UnVelNotes& notes) {
 }
 
 void StoreProcessNotes(store::Adventure& adventure, const UnVelNotes& notes) {
-    KeyedTable tables(adventure, TableNum::ProcDesc, "pmsgnum");
+    KeyedTable tables(adventure, TableNum::ProcDesc);
     for (const auto& [number, text] : notes.All()) {
         if (number > kLastDefaultTable && number <= condacts::limit::kHighestProcess.value)
             StoreText(tables, "pmsgmsg", number, std::string(text::Left(text, kLongestTableText)));

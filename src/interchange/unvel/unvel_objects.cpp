@@ -40,7 +40,7 @@ constexpr AttributeName kAttributeNames[] = {{"", "", 0},     {"C", "C", 1},    
                                              {"WR", "WR", 2}, {"CW", "CWR", 3}, {"CWR", "CWR", 3}};
 
 /// Finds the record of each line and hands the line to `Set`.
-class ObjectLines : public UnVelSection {
+class ObjectLines : public ListingSection {
   public:
     ObjectLines(UnVelJob& job, const char* loaded)
         : job_(job), loaded_(loaded), objects_(job.Adventure(), TableNum::Objects, "objnum") {}
@@ -145,15 +145,15 @@ class ObjectWeights final : public ObjectLines {
 
 }  // namespace
 
-std::unique_ptr<UnVelSection> UnVelObjectWords(UnVelJob& job) {
+std::unique_ptr<ListingSection> UnVelObjectWords(UnVelJob& job) {
     return std::make_unique<ObjectWords>(job);
 }
 
-std::unique_ptr<UnVelSection> UnVelObjectPlaces(UnVelJob& job) {
+std::unique_ptr<ListingSection> UnVelObjectPlaces(UnVelJob& job) {
     return std::make_unique<ObjectPlaces>(job);
 }
 
-std::unique_ptr<UnVelSection> UnVelObjectWeights(UnVelJob& job) {
+std::unique_ptr<ListingSection> UnVelObjectWeights(UnVelJob& job) {
     return std::make_unique<ObjectWeights>(job);
 }
 

@@ -14,28 +14,11 @@ constexpr std::string_view kSetHeading = "CharSet ";
 constexpr std::string_view kFontName = "font_bits";
 constexpr int kHighestSet = 998;
 
-class Pictures final : public UnVelSection {
+class Characters final : public ListingSection {
   public:
-    explicit Pictures(UnVelJob& job) : job_(job), pictures_(job.listing) {}
-
-    void Line(std::string_view line) override {
-        if (goesOn_) goesOn_ = pictures_.TakeLine(line);
-    }
-
-    void Finish() override {
-        pictures_.Finish();
-        job_.Status("Loaded UnVel Graphics");
-    }
-
-  private:
-    UnVelJob& job_;
-    ListedPictures pictures_;
-    bool goesOn_ = true;
-};
-
-class Characters final : public UnVelSection {
-  public:
-    explicit Characters(UnVelJob& job) : job_(job) {
+    explicit Characters(UnVelJob& job)
+        : job_(job),
+          arrays_([this](const std::string& name, const BitArray& array) { Store(name, array); }) {
         store::PreparedQuery settings = job.Adventure().Prepare(store::TableNum::Adventure, "savename", "");
         if (settings.First({})) saveName_ = settings.Text(0);
     }
@@ -45,50 +28,39 @@ class Characters final : public UnVelSection {
             set_ = ListedNumber(text::TrimBlanks(line.substr(kSetHeading.size())), kHighestSet);
             return;
         }
-        const std::string_view name = BitArray::NameIn(line);
-        if (!name.empty()) {
-            Flush();
-            name_ = name;
-            line.remove_prefix(line.find('{') + 1);
-        }
-        if (name_.empty()) return;
-        array_.TakeLine(line);
-        if (array_.Closed()) Flush();
+        arrays_.Line(line);
     }
 
     void Finish() override {
-        Flush();
+        arrays_.Finish();
         job_.Status("Loaded UnVel Characters");
     }
 
   private:
     /// The set of a font: named by the array, else by the heading above it.
-    std::optional<int> SetOfFont() const {
-        if (name_ == kFontName) return set_;
+    std::optional<int> SetOfFont(std::string_view name) const {
+        if (name == kFontName) return set_;
         const std::string prefix = std::string(kFontName) + "_";
-        if (!name_.starts_with(prefix)) return std::nullopt;
-        return ListedNumber(std::string_view(name_).substr(prefix.size()), kHighestSet);
+        if (!name.starts_with(prefix)) return std::nullopt;
+        return ListedNumber(name.substr(prefix.size()), kHighestSet);
     }
 
     std::string SetName(int set) const {
         return set == 0 ? "Default" : text::FormatText("%a! Set !%n", {saveName_, std::int64_t{set}});
     }
 
-    void Flush() {
-        if (name_.empty()) return;
+    void Store(const std::string& name, const BitArray& array) {
         ListedCharacters characters(job_.Adventure());
-        if (name_ == "udg_bits") {
-            characters.Store(0, pictures::kFirstUserGraphic, array_.Characters(kUserGraphics), SetName(0));
-        } else if (name_ == "shade_bits") {
-            characters.Store(0, 0, array_.Characters(kShades), SetName(0));
-        } else if (const auto set = SetOfFont()) {
-            characters.Store(*set, pictures::kFirstCharacter, array_.Characters(kFontCharacters),
+        if (name == "udg_bits") {
+            characters.Store(0, pictures::kFirstUserGraphic, array.Characters(kUserGraphics), SetName(0));
+        } else if (name == "shade_bits") {
+            characters.Store(0, 0, array.Characters(kShades), SetName(0));
+        } else if (const auto set = SetOfFont(name)) {
+            characters.Store(*set, pictures::kFirstCharacter, array.Characters(kFontCharacters),
                              SetName(*set));
         } else {
-            job_.Status("Invalid data " + name_.substr(0, kLongestShown));
+            job_.Status("Invalid data " + name.substr(0, kLongestShown));
         }
-        name_.clear();
-        array_ = {};
     }
 
     static constexpr std::size_t kLongestShown = 30;
@@ -96,17 +68,16 @@ class Characters final : public UnVelSection {
     UnVelJob& job_;
     std::string saveName_;
     std::optional<int> set_ = 0;
-    std::string name_;  ///< of the array that is being read
-    BitArray array_;
+    ArrayReader arrays_;
 };
 
 }  // namespace
 
-std::unique_ptr<UnVelSection> UnVelPictures(UnVelJob& job) {
-    return std::make_unique<Pictures>(job);
+std::unique_ptr<ListingSection> UnVelPictures(UnVelJob& job) {
+    return std::make_unique<ListedPictures>(job.listing, "Loaded UnVel Graphics");
 }
 
-std::unique_ptr<UnVelSection> UnVelCharacters(UnVelJob& job) {
+std::unique_ptr<ListingSection> UnVelCharacters(UnVelJob& job) {
     return std::make_unique<Characters>(job);
 }
 

@@ -152,7 +152,7 @@ class UnVelWalk {
         section_ = SectionOf(stage);
     }
 
-    std::unique_ptr<UnVelSection> SectionOf(int stage) {
+    std::unique_ptr<ListingSection> SectionOf(int stage) {
         switch (stage) {
             case kVocabularyStage:
                 return UnVelVocabulary(job_);
@@ -205,7 +205,7 @@ class UnVelWalk {
     UnVelNotes flagNotes_{kFlagNote};
     UnVelNotes processNotes_{kProcessNote};
     std::vector<std::pair<std::string, SourcePlace>> comments_;
-    std::unique_ptr<UnVelSection> section_;
+    std::unique_ptr<ListingSection> section_;
 };
 
 bool DrawsPictures(store::Adventure& adventure) {

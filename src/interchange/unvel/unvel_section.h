@@ -27,26 +27,17 @@ struct UnVelJob {
     store::Adventure& Adventure() const { return listing.Adventure(); }
 };
 
-/// One section of an UnVel listing, fed line by line.
-class UnVelSection {
-  public:
-    virtual ~UnVelSection() = default;
-    virtual void Line(std::string_view line) = 0;
-    /// Its end was met, or the file's: what is pending is stored and the status told.
-    virtual void Finish() = 0;
-};
-
 enum class UnVelTextKind { Messages, SystemMessages, Locations, ObjectNames };
 
-std::unique_ptr<UnVelSection> UnVelVocabulary(UnVelJob& job);
-std::unique_ptr<UnVelSection> UnVelTexts(UnVelJob& job, UnVelTextKind kind);
-std::unique_ptr<UnVelSection> UnVelConnections(UnVelJob& job);
-std::unique_ptr<UnVelSection> UnVelObjectWords(UnVelJob& job);
-std::unique_ptr<UnVelSection> UnVelObjectPlaces(UnVelJob& job);
-std::unique_ptr<UnVelSection> UnVelObjectWeights(UnVelJob& job);
-std::unique_ptr<UnVelSection> UnVelEntries(UnVelJob& job, condacts::ProcessNumber table);
-std::unique_ptr<UnVelSection> UnVelPictures(UnVelJob& job);
-std::unique_ptr<UnVelSection> UnVelCharacters(UnVelJob& job);
+std::unique_ptr<ListingSection> UnVelVocabulary(UnVelJob& job);
+std::unique_ptr<ListingSection> UnVelTexts(UnVelJob& job, UnVelTextKind kind);
+std::unique_ptr<ListingSection> UnVelConnections(UnVelJob& job);
+std::unique_ptr<ListingSection> UnVelObjectWords(UnVelJob& job);
+std::unique_ptr<ListingSection> UnVelObjectPlaces(UnVelJob& job);
+std::unique_ptr<ListingSection> UnVelObjectWeights(UnVelJob& job);
+std::unique_ptr<ListingSection> UnVelEntries(UnVelJob& job, condacts::ProcessNumber table);
+std::unique_ptr<ListingSection> UnVelPictures(UnVelJob& job);
+std::unique_ptr<ListingSection> UnVelCharacters(UnVelJob& job);
 
 /// The number of a line that consists of a label and four columns: "Message   12".
 std::optional<int> NumberAlone(std::string_view line, std::string_view label);

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "condacts/parser.h"
+#include "pictures/drawing.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
@@ -30,7 +31,6 @@ constexpr int kTabCode = 6;
 constexpr int kInkCode = 16;
 constexpr int kPaperCode = 17;
 constexpr int kCharacterCode = 23;
-constexpr int kTransparent = 8;
 constexpr int kHighestCode = 255;
 constexpr std::size_t kMostDigits = 3;
 
@@ -54,7 +54,7 @@ std::string Tag(std::string_view name, int value) {
 }
 
 std::string ColourTag(std::string_view name, int colour) {
-    return colour == kTransparent ? "<" + std::string(name) + ">" : Tag(name, colour);
+    return colour == pictures::kTransparent ? "<" + std::string(name) + ">" : Tag(name, colour);
 }
 
 /// The tag of a code that was taken; codes of two parts take their value off the text.
@@ -103,7 +103,7 @@ std::string CodesOf(std::string_view tag) {
     }
     if (name == "<TAB>") return Code(kTabCode);
     if (name == "<INK>") return "(16}";
-    if (name == "<PAPER>") return Code(kPaperCode) + Code(kTransparent);
+    if (name == "<PAPER>") return Code(kPaperCode) + Code(pictures::kTransparent);
     const std::size_t equals = name.find('=');
     if (equals == std::string::npos) return "";
     const std::string_view value = std::string_view(name).substr(equals + 1, name.size() - equals - 2);

@@ -1,6 +1,7 @@
 #include "condacts/limits.h"
 #include "interchange/unvel/unvel_section.h"
 #include "interchange/unvel/unvel_text.h"
+#include "store/schema/record_fields.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {
@@ -13,24 +14,23 @@ using store::TableNum;
 struct TextRow {
     std::string_view label;
     TableNum table;
-    const char* keyField;
     const char* loaded;
 };
 constexpr TextRow kTextRows[] = {
-    {"Message", TableNum::Messages, "msgnum", "Messages"},
-    {"System Message", TableNum::SystemMessages, "smsgnum", "System Messages"},
-    {"Location", TableNum::Locations, "locnum", "Locations"},
-    {"Object", TableNum::Objects, "objnum", "Object Names"},
+    {"Message", TableNum::Messages, "Messages"},
+    {"System Message", TableNum::SystemMessages, "System Messages"},
+    {"Location", TableNum::Locations, "Locations"},
+    {"Object", TableNum::Objects, "Object Names"},
 };
 
 /// Texts below lines "Message   12". Empty lines at the end of a text part it from what follows.
-class ListedTexts final : public UnVelSection {
+class ListedTexts final : public ListingSection {
   public:
     ListedTexts(UnVelJob& job, UnVelTextKind kind)
         : job_(job),
           kind_(kind),
           row_(kTextRows[static_cast<std::size_t>(kind)]),
-          table_(job.Adventure(), row_.table, row_.keyField) {}
+          table_(job.Adventure(), row_.table) {}
 
     void Line(std::string_view line) override {
         if (const auto number = NumberAlone(line, row_.label)) {
@@ -70,9 +70,8 @@ class ListedTexts final : public UnVelSection {
     void Store(int number, const std::string& text) {
         switch (kind_) {
             case UnVelTextKind::Messages:
-                return StoreText(table_, "msgmsg", number, text);
             case UnVelTextKind::SystemMessages:
-                return StoreText(table_, "smsgmsg", number, text);
+                return StoreText(table_, store::TextField(row_.table), number, text);
             case UnVelTextKind::Locations:
                 return StoreLocation(table_, number, text);
             case UnVelTextKind::ObjectNames:
@@ -92,7 +91,7 @@ class ListedTexts final : public UnVelSection {
 
 }  // namespace
 
-std::unique_ptr<UnVelSection> UnVelTexts(UnVelJob& job, UnVelTextKind kind) {
+std::unique_ptr<ListingSection> UnVelTexts(UnVelJob& job, UnVelTextKind kind) {
     return std::make_unique<ListedTexts>(job, kind);
 }
 

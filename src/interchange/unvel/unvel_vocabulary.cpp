@@ -37,7 +37,7 @@ condacts::WordType TypeFrom(std::string_view name) {
     return condacts::kNoun;
 }
 
-class Vocabulary final : public UnVelSection {
+class Vocabulary final : public ListingSection {
   public:
     explicit Vocabulary(UnVelJob& job) : job_(job), words_(job.Adventure()) {}
 
@@ -70,7 +70,7 @@ class Vocabulary final : public UnVelSection {
 
 }  // namespace
 
-std::unique_ptr<UnVelSection> UnVelVocabulary(UnVelJob& job) {
+std::unique_ptr<ListingSection> UnVelVocabulary(UnVelJob& job) {
     return std::make_unique<Vocabulary>(job);
 }
 

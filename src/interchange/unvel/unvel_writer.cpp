@@ -15,6 +15,7 @@
 #include "interchange/unvel/unvel_general_data.h"
 #include "interchange/unvel/unvel_head.h"
 #include "interchange/unvel/unvel_notes.h"
+#include "store/schema/record_fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
@@ -66,11 +67,11 @@ class ExtractWriter {
         WriteHead();
         WriteGeneralData();
         WriteVocabulary();
-        WriteTexts("MESSAGES", TableNum::Messages, "msgnum", "msgmsg", "Message");
-        WriteTexts("SYSTEM MESSAGES", TableNum::SystemMessages, "smsgnum", "smsgmsg", "System Message");
-        WriteTexts("LOCATIONS", TableNum::Locations, "locnum", "locdesc", "Location");
+        WriteTexts("MESSAGES", TableNum::Messages, "Message");
+        WriteTexts("SYSTEM MESSAGES", TableNum::SystemMessages, "System Message");
+        WriteTexts("LOCATIONS", TableNum::Locations, "Location");
         WriteConnections();
-        WriteTexts("OBJECT NAMES", TableNum::Objects, "objnum", "objdesc", "Object");
+        WriteTexts("OBJECT NAMES", TableNum::Objects, "Object");
         WriteObjectWords();
         WriteObjectPlaces();
         WriteObjectWeights();
@@ -159,8 +160,9 @@ class ExtractWriter {
         }
     }
 
-    void WriteTexts(const char* title, TableNum table, std::string_view keyField,
-                    std::string_view textField, const std::string& label) {
+    void WriteTexts(const char* title, TableNum table, const std::string& label) {
+        const std::string keyField = store::KeyField(table);
+        const std::string_view textField = store::TextField(table);
         file_.UnVelHdr(title, true);
         Cursor& texts = Open(table, keyField);
         for (; !texts.Eof(); texts.MoveNext()) {

@@ -13,7 +13,6 @@
 namespace fabula::pictures {
 namespace {
 
-constexpr int kSide = 8;
 constexpr int kHighestEncoding = kLargestNumber;
 /// Sizes and places beyond this are nonsense.
 constexpr int kFarthest = 64;
@@ -74,7 +73,7 @@ class Reader {
 
     void ReadCell(std::string_view line) {
         cell_ = ReadBox(line);
-        if (cell_->width == kSide && cell_->height == kSide) return;
+        if (cell_->width == kGlyphSide && cell_->height == kGlyphSide) return;
         Fail("the font is " + std::to_string(cell_->width) + " by " + std::to_string(cell_->height) +
              " pixels; a character set takes one of 8 by 8.");
     }
@@ -102,7 +101,7 @@ class Reader {
     Glyph ReadBitmap(const Box& box) {
         const int left = box.left - cell_->left;
         const int top = cell_->bottom + cell_->height - box.bottom - box.height;
-        if (left < 0 || top < 0 || left + box.width > kSide || top + box.height > kSide)
+        if (left < 0 || top < 0 || left + box.width > kGlyphSide || top + box.height > kGlyphSide)
             Fail("a character stands out of its cell of 8 by 8.");
         Glyph glyph{};
         for (int row = 0; row < box.height; ++row) {

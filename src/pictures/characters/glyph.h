@@ -7,12 +7,15 @@
 
 namespace fabula::pictures {
 
+/// Pixels of a character, across and down.
+inline constexpr int kGlyphSide = 8;
+
 /// A bitmap of 8 by 8 pixels: one byte a row from the top, bit 7 the left pixel. A character of a set, and
 /// the pattern of a fill.
-using Glyph = std::array<std::uint8_t, 8>;
+using Glyph = std::array<std::uint8_t, kGlyphSide>;
 
 constexpr bool HasBit(const Glyph& glyph, int column, int row) {
-    return (glyph[static_cast<std::size_t>(row)] >> (7 - column) & 1) != 0;
+    return (glyph[static_cast<std::size_t>(row)] >> (kGlyphSide - 1 - column) & 1) != 0;
 }
 
 /// The bitmap of a `charvals` text, eight numbers separated by blanks. Never fails: a number above 255

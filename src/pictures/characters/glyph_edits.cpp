@@ -10,8 +10,8 @@ namespace {
 template <typename Source>
 Glyph Made(Source source) {
     Glyph made{};
-    for (int row = 0; row < 8; ++row) {
-        for (int column = 0; column < 8; ++column)
+    for (int row = 0; row < kGlyphSide; ++row) {
+        for (int column = 0; column < kGlyphSide; ++column)
             made = WithPixel(made, column, row, source(column, row));
     }
     return made;

@@ -4,8 +4,8 @@
 #include <array>
 #include <vector>
 
-#include "pictures/files/image_reader.h"
 #include "platform/error.h"
+#include "platform/image_limits.h"
 
 namespace fabula::pictures {
 namespace {
@@ -109,9 +109,7 @@ Image DecodeBmp(std::string_view bytes, std::string_view fileName) {
 
 std::string SizeFault(std::int64_t width, std::int64_t height) {
     if (width < 1 || height < 1) return "it has no pixels.";
-    if (width <= kLargestImageSide && height <= kLargestImageSide && width * height <= kLargestImageArea)
-        return "";
-    return "it has too many pixels.";
+    return platform::IsImageWithinLimits(width, height) ? "" : "it has too many pixels.";
 }
 
 }  // namespace fabula::pictures

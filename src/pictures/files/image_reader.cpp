@@ -9,6 +9,7 @@
 
 #include "pictures/files/bmp_reader.h"
 #include "platform/error.h"
+#include "platform/image_limits.h"
 #include "platform/whole_file.h"
 
 namespace fabula::pictures {
@@ -85,7 +86,7 @@ Image DecodeImage(std::string_view bytes, std::string_view fileName) {
 
 Image ReadImage(const std::filesystem::path& file) {
     const std::string bytes =
-        platform::ReadWholeFile(file, kLargestImageFile, "read the image " + file.string());
+        platform::ReadWholeFile(file, platform::kLargestImageFile, "read the image " + file.string());
     return DecodeImage(bytes, file.string());
 }
 

@@ -26,7 +26,6 @@ using store::TableNum;
 
 /// No location will ever have it.
 constexpr int kDefaultPictureNumber = store::kHighestRecord + 1;
-constexpr int kNoRoom = -1;  ///< `roompicnum` of a picture that is no room's
 
 /// The words of a drawing without its remarks.
 std::vector<std::string> ReadWords(const std::filesystem::path& file) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/image_limits.h"
 #include "qt/strings.h"
 #include "support/temp_folder.h"
 
@@ -50,8 +51,8 @@ TEST(DecodeImage, ImageThatClaimsAHugeSizeIsNotRead) {
     QByteArray bytes = ImageAs("bmp");
     bytes.replace(18, 4, QByteArray::fromHex("00000010"));
     EXPECT_TRUE(DecodeImage(bytes).isNull());
-    EXPECT_TRUE(DecodeImage(ImageAs("png", {kLargestImageSide + 1, 1})).isNull());
-    EXPECT_FALSE(DecodeImage(ImageAs("png", {kLargestImageSide, 1})).isNull());
+    EXPECT_TRUE(DecodeImage(ImageAs("png", {platform::kLargestImageSide + 1, 1})).isNull());
+    EXPECT_FALSE(DecodeImage(ImageAs("png", {platform::kLargestImageSide, 1})).isNull());
 }
 
 TEST(ReadImage, FileThatIsTooLargeIsNotRead) {
@@ -61,7 +62,7 @@ TEST(ReadImage, FileThatIsTooLargeIsNotRead) {
     file.write(ImageAs("bmp"));
     file.close();
     EXPECT_FALSE(ReadImage(folder / "large.bmp").isNull());
-    ASSERT_TRUE(file.resize(kLargestImageFile + 1));
+    ASSERT_TRUE(file.resize(platform::kLargestImageFile + 1));
     EXPECT_TRUE(ReadImage(folder / "large.bmp").isNull());
 }
 

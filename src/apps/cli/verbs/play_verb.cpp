@@ -16,7 +16,6 @@
 #include "terminal/line_reader.h"
 #include "terminal/terminal_game.h"
 #include "terminal/tty.h"
-#include "text/format.h"
 
 namespace fabula::cli {
 namespace {
@@ -45,16 +44,6 @@ std::unique_ptr<terminal::LineSource> OpenInput(const PlayOptions& options) {
     if (options.script.empty()) return typed;
     return std::make_unique<terminal::LineSequence>(std::make_unique<terminal::LineReader>(options.script),
                                                     std::move(typed));
-}
-
-/// "game.fbd 2026-01-31 23:59:59 COMPUTER"
-std::string TraceHeader(const PlayOptions& options) {
-    const platform::DateTime now = platform::SystemClock().Now();
-    std::string header =
-        options.file + text::FormatText(" !%z4!-!%z2!-!%z2! !%z2!:!%z2!:!%z2",
-                                        {now.year, now.month, now.day, now.hour, now.minute, now.second});
-    if (const char* computer = std::getenv("COMPUTER")) header += " " + std::string(computer);
-    return header;
 }
 
 /// The files that a game is played with besides its own. A file that is read or written already is no
@@ -122,7 +111,7 @@ int Play(const PlayOptions& options) {
         CheckTarget(
             {options.trace, store::Content::Text, store::extension::kTrace, options.file, options.force},
             person);
-        trace.emplace(options.trace, TraceHeader(options));
+        trace.emplace(options.trace, engine::TraceHeader(options.file, platform::SystemClock().Now()));
     }
 
     const bool interactive = terminal::IsInteractive();
@@ -140,7 +129,7 @@ int Play(const PlayOptions& options) {
                                   trace ? &*trace : nullptr, origins ? &*origins : nullptr});
     transcriptFile.Finish("transcript");
     originsFile.Finish("list of origins");
-    if (trace && !trace->Finish()) throw Error("Could not write all of the trace " + options.trace + ".");
+    if (trace) trace->Finish();
     return ended ? kDone : kFailed;
 }
 

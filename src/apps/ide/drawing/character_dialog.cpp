@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "ide/drawing/character_grid.h"
+#include "ide/editors/edit_controls.h"
 #include "ide/editors/layout.h"
 #include "ide/editors/plane_image.h"
 #include "pictures/palette.h"
@@ -108,23 +109,13 @@ CharacterDialog::CharacterDialog(authoring::CharacterEditor& screen, QWidget* pa
     grid_->setFocus();
 }
 
-/// In the next free place of the grid, row by row.
 void CharacterDialog::AddEdit(QGridLayout& grid, const char* name, const QString& text, const QString& tip,
                               std::function<void()> work) {
-    constexpr int kAcross = 3;
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    button->setText(text);
-    button->setAccessibleName(text);
-    button->setToolTip(tip);
-    button->setFocusPolicy(Qt::TabFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(button, &QToolButton::clicked, this, [this, work = std::move(work)] {
-        work();
-        Show();
-    });
-    const int place = grid.count();
-    grid.addWidget(button, place / kAcross, place % kAcross);
+    connect(AddToolButton(grid, name, text, tip), &QToolButton::clicked, this,
+            [this, work = std::move(work)] {
+                work();
+                Show();
+            });
 }
 
 QWidget* CharacterDialog::NewEdits() {

@@ -9,7 +9,7 @@
 namespace fabula::ide {
 namespace {
 
-constexpr int kSquares = 8;
+constexpr int kSquares = pictures::kGlyphSide;
 constexpr int kUsualSide = 36;
 constexpr int kSmallestSide = 14;
 

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "ide/dialogs/settings/colour_dialog.h"
+#include "ide/editors/edit_controls.h"
 #include "ide/editors/plane_image.h"
 #include "pictures/drawing.h"
 #include "platform/error.h"
@@ -23,7 +24,6 @@ namespace fabula::ide {
 namespace {
 
 constexpr int kColours = 8;
-constexpr int kTransparent = 8;
 constexpr int kShades = 16;
 constexpr QSize kThumbnail(64, 44);
 constexpr int kPaletteGap = 4;
@@ -110,19 +110,10 @@ QGridLayout* PicturePalette::AddGroup(const QString& title) {
     return grid;
 }
 
-/// In the next free place of the grid, row by row, three in a row.
 QToolButton* PicturePalette::AddButton(QGridLayout& grid, const char* word, const QString& text,
                                        const QString& tip, std::function<std::string()> line, int columns) {
-    constexpr int kAcross = 3;
-    auto* button = new QToolButton;
-    button->setObjectName(QString("Do%1").arg(word));
-    button->setText(text);
-    button->setAccessibleName(text);
-    button->setToolTip(QString("%1: %2").arg(word, tip));
-    button->setFocusPolicy(Qt::TabFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    const int place = grid.count();
-    grid.addWidget(button, place / kAcross, place % kAcross, 1, columns);
+    auto* button =
+        AddToolButton(grid, QString("Do%1").arg(word), text, QString("%1: %2").arg(word, tip), columns);
     connect(button, &QToolButton::clicked, this, [this, line = std::move(line)] { commanded(line()); });
     return button;
 }
@@ -165,14 +156,14 @@ void PicturePalette::AddColourRow(QGridLayout& grid, const char* word, const QSt
     auto* caption = new QLabel(label);
     grid.addWidget(caption, 2 * row, 0, 1, kColours + 1);
     const bool isInk = row == 0;
-    for (int number = 0; number <= kTransparent; ++number) {
+    for (int number = 0; number <= pictures::kTransparent; ++number) {
         auto* button = new QToolButton;
         const QString name =
-            number == kTransparent ? tr("transparent") : qt::Translated(text::ColourName(number));
+            number == pictures::kTransparent ? tr("transparent") : qt::Translated(text::ColourName(number));
         button->setObjectName(QString("%1%2").arg(word).arg(number));
         button->setAccessibleName(QString("%1 %2").arg(label, name));
         button->setToolTip(QString("%1 %2: %3").arg(word).arg(number).arg(name));
-        if (number == kTransparent)
+        if (number == pictures::kTransparent)
             button->setText("8");
         else
             button->setIcon(ColourSwatch(number, 12));

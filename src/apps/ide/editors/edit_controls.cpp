@@ -2,10 +2,12 @@
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QToolButton>
 
 #include "qt/strings.h"
 #include "text/numbers.h"
@@ -41,6 +43,21 @@ QPushButton* NewButton(const QString& text, const char* name) {
     button->setObjectName(name);
     button->setAccessibleName(PlainLabel(text));
     button->setAutoDefault(false);
+    return button;
+}
+
+QToolButton* AddToolButton(QGridLayout& grid, const QString& name, const QString& text, const QString& tip,
+                           int columns) {
+    constexpr int kAcross = 3;
+    auto* button = new QToolButton;
+    button->setObjectName(name);
+    button->setText(text);
+    button->setAccessibleName(text);
+    button->setToolTip(tip);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    const int place = grid.count();
+    grid.addWidget(button, place / kAcross, place % kAcross, 1, columns);
     return button;
 }
 

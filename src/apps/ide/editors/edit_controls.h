@@ -7,8 +7,10 @@
 
 class QComboBox;
 class QFormLayout;
+class QGridLayout;
 class QPlainTextEdit;
 class QPushButton;
+class QToolButton;
 class QWidget;
 
 namespace fabula::ide {
@@ -21,6 +23,11 @@ void AddToForm(QFormLayout& form, const QString& label, QWidget* control, const 
 
 /// A button that Return elsewhere does not press.
 QPushButton* NewButton(const QString& text, const char* name);
+
+/// A tool button in the next free place of a grid of three columns, row by row, where it takes `columns` of
+/// them. Clicks leave the keyboard where it is.
+QToolButton* AddToolButton(QGridLayout& grid, const QString& name, const QString& text, const QString& tip,
+                           int columns = 1);
 
 /// An editor of a text of several lines, which Tab leaves.
 QPlainTextEdit* NewTextEdit(const std::string& text);

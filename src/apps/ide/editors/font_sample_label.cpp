@@ -4,8 +4,8 @@
 #include <map>
 
 #include "pictures/characters/glyph.h"
+#include "qt/colours.h"
 #include "qt/strings.h"
-#include "text/colours.h"
 
 namespace fabula::ide {
 namespace {
@@ -13,13 +13,12 @@ namespace {
 /// In two lines, since characters of a set are wide.
 constexpr const char* kSampleLines[] = {"You are in a", "dark cave. 123"};
 constexpr int kSampleColumns = 14;
-constexpr int kCell = 8;
+constexpr int kCell = pictures::kGlyphSide;
 constexpr int kEnlarged = 2;  ///< characters of 8 pixels are small on the screens of today
 constexpr int kSampleMargin = 12;
 
 QColor ColourOfNumber(int number) {
-    const text::Rgb rgb = text::ColourRGB(number);
-    return QColor(rgb.red, rgb.green, rgb.blue);
+    return qt::ToQt(text::ColourRGB(number));
 }
 
 std::map<int, pictures::Glyph> GlyphsOf(store::Adventure& adventure, int charSet) {

@@ -14,7 +14,9 @@
 #include "ide/editors/edit_controls.h"
 #include "ide/editors/markup_highlighter.h"
 #include "player/panes/text_colours.h"
+#include "qt/colours.h"
 #include "qt/strings.h"
+#include "text/markup.h"
 #include "text/safe_text.h"
 
 namespace fabula::ide {
@@ -32,10 +34,6 @@ class Modest final : public Edit {
   public:
     QSize sizeHint() const override { return {Edit::sizeHint().width(), Edit::minimumHeight()}; }
 };
-
-QColor ToColour(text::Rgb rgb) {
-    return QColor(rgb.red, rgb.green, rgb.blue);
-}
 
 QFont GameFont(const std::string& name, double points) {
     QFont font = name.empty() ? QApplication::font() : QFont(qt::ToQt(name));
@@ -58,12 +56,12 @@ QTextCharFormat FormatOf(const authoring::ShownRun& run, const player::TextColou
     QTextCharFormat format;
     const player::TextColours::Run shown = colours.Of(run.style);
     if (!run.fontName.empty()) format.setFontFamilies({qt::ToQt(run.fontName)});
-    const int points = run.style.fontSize > 0 ? run.style.fontSize : authoring::TextEditing::kDefaultPoints;
+    const int points = run.style.fontSize > 0 ? run.style.fontSize : text::kDefaultPoints;
     format.setFontPointSize(points * zoom);
     if (run.style.bright) format.setFontWeight(QFont::Bold);
     if (run.style.flash) format.setUnderlineStyle(QTextCharFormat::DotLine);
-    format.setForeground(ToColour(shown.ink));
-    if (shown.paper) format.setBackground(ToColour(*shown.paper));
+    format.setForeground(qt::ToQt(shown.ink));
+    if (shown.paper) format.setBackground(qt::ToQt(*shown.paper));
     return format;
 }
 
@@ -157,8 +155,8 @@ void MarkupEdit::FitLook() {
     const text::Rgb ink = text::ColourRGB(editing_.Ink());
     QPalette game = QApplication::palette();
     if (player::Contrast(paper, ink) >= kVisible) {
-        game.setColor(QPalette::Base, ToColour(paper));
-        game.setColor(QPalette::Text, ToColour(ink));
+        game.setColor(QPalette::Base, qt::ToQt(paper));
+        game.setColor(QPalette::Text, qt::ToQt(ink));
     }
     field_->setPalette(game);
     field_->setFont(font);
@@ -168,8 +166,8 @@ void MarkupEdit::FitLook() {
     static_cast<MarkupHighlighter*>(highlighter)
         ->SetColours(game.color(QPalette::Base), game.color(QPalette::Text));
     if (preview_ == nullptr) return;
-    game.setColor(QPalette::Base, ToColour(paper));
-    game.setColor(QPalette::Text, ToColour(ink));
+    game.setColor(QPalette::Base, qt::ToQt(paper));
+    game.setColor(QPalette::Text, qt::ToQt(ink));
     preview_->setPalette(game);
     preview_->setFont(font);
     preview_->document()->setDocumentMargin(kMarkupMargin);

@@ -5,6 +5,7 @@
 #include "pictures/book_loader.h"
 #include "pictures/drawing.h"
 #include "platform/error.h"
+#include "platform/image_limits.h"
 #include "qt/look/game_image.h"
 #include "store/game_path.h"
 
@@ -21,7 +22,7 @@ QImage KeptImage(store::Adventure& adventure, const std::string& where) {
     if (room.Eof()) return {};
     const text::Value value = room.Field("picgraphic");
     const auto* bytes = std::get_if<text::Blob>(&value);
-    if (bytes == nullptr || static_cast<qint64>(bytes->size()) > qt::kLargestImageFile) return {};
+    if (bytes == nullptr || bytes->size() > platform::kLargestImageFile) return {};
     return qt::DecodeImage(
         QByteArray(reinterpret_cast<const char*>(bytes->data()), static_cast<qsizetype>(bytes->size())));
 }

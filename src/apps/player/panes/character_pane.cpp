@@ -9,8 +9,8 @@
 #include <algorithm>
 
 #include "player/panes/flash_time.h"
+#include "qt/colours.h"
 #include "qt/strings.h"
-#include "text/colours.h"
 
 namespace fabula::player {
 
@@ -21,8 +21,7 @@ constexpr int kSize = CharacterScreen::kCharacterSize;
 constexpr int kWantedRows = 16;
 
 QRgb ToRgb(int number) {
-    const text::Rgb colour = text::ColourRGB(number);
-    return qRgb(colour.red, colour.green, colour.blue);
+    return qt::ToQt(text::ColourRGB(number)).rgb();
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "engine/game_window.h"
+#include "pictures/canvas.h"
 #include "pictures/characters/character_sets.h"
 
 namespace fabula::player {
@@ -17,8 +18,8 @@ namespace fabula::player {
 /// downwards as the game writes. The newest rows are the screen; what went before is kept for looking back.
 class CharacterScreen {
   public:
-    static constexpr int kColumns = 32;
-    static constexpr int kCharacterSize = 8;
+    static constexpr int kColumns = pictures::kCellColumns;
+    static constexpr int kCharacterSize = pictures::kGlyphSide;
     static constexpr int kWidth = kColumns * kCharacterSize;
 
     /// One character as it was drawn. Inverse and over are already in it.

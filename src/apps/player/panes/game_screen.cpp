@@ -14,8 +14,8 @@
 #include "player/panes/text_pane.h"
 #include "player/play/game_pictures.h"
 #include "player/play/played_game.h"
+#include "qt/colours.h"
 #include "qt/strings.h"
-#include "text/colours.h"
 #include "text/safe_text.h"
 #include "text/utf8.h"
 
@@ -122,10 +122,8 @@ void GameScreen::ChoosePane() {
 
 void GameScreen::ColourPicture() {
     QPalette surroundings = text_->palette();
-    if (ShowsCharacters()) {
-        const text::Rgb paper = text::ColourRGB(game_.style.paper);
-        surroundings.setColor(QPalette::Base, QColor(paper.red, paper.green, paper.blue));
-    }
+    if (ShowsCharacters())
+        surroundings.setColor(QPalette::Base, qt::ToQt(text::ColourRGB(game_.style.paper)));
     picture_->setPalette(surroundings);
 }
 

@@ -7,14 +7,15 @@
 #include <algorithm>
 
 #include "player/panes/flash_time.h"
+#include "qt/colours.h"
 #include "qt/strings.h"
+#include "text/markup.h"
 
 namespace fabula::player {
 
 namespace {
 
 constexpr int kStyleProperty = QTextFormat::UserProperty + 1;
-constexpr int kDefaultPoints = 12;
 constexpr std::chrono::milliseconds kSoon{1};
 constexpr std::size_t kMostFlashing = 200;
 
@@ -24,10 +25,6 @@ QTextBlockFormat LineFormat() {
     QTextBlockFormat format;
     format.setLineHeight(kPercent, QTextBlockFormat::ProportionalHeight);
     return format;
-}
-
-QColor ToColour(text::Rgb rgb) {
-    return QColor(rgb.red, rgb.green, rgb.blue);
 }
 
 }  // namespace
@@ -70,8 +67,8 @@ void TextPane::StartGame(const TextLook& look) {
 void TextPane::ApplyColours() {
     colours_ = TextColours(look_.style.paper, look_.style.ink, look_.page);
     QPalette shown = palette();
-    shown.setColor(QPalette::Base, ToColour(colours_.Base()));
-    shown.setColor(QPalette::Text, ToColour(colours_.Text()));
+    shown.setColor(QPalette::Base, qt::ToQt(colours_.Base()));
+    shown.setColor(QPalette::Text, qt::ToQt(colours_.Text()));
     setPalette(shown);
 }
 
@@ -114,7 +111,7 @@ QString TextPane::BaseFamily() const {
 }
 
 double TextPane::PointsOf(int fontSize) const {
-    const double ordinary = look_.style.fontSize > 0 ? look_.style.fontSize : kDefaultPoints;
+    const double ordinary = look_.style.fontSize > 0 ? look_.style.fontSize : text::kDefaultPoints;
     const double own = fontSize > 0 ? fontSize : ordinary;
     const double wanted = choice_.points > 0 ? own * choice_.points / ordinary : own;
     return wanted * zoom_ / 100.0;
@@ -238,8 +235,8 @@ QTextCharFormat TextPane::FormatOf(const RunStyle& run) const {
         format.setFontPointSize(PointsOf(style.fontSize));
     if (style.bright) format.setFontWeight(QFont::Bold);
     const TextColours::Run colours = colours_.Of(style);
-    if (colours.ink != colours_.Text()) format.setForeground(ToColour(colours.ink));
-    if (colours.paper) format.setBackground(ToColour(*colours.paper));
+    if (colours.ink != colours_.Text()) format.setForeground(qt::ToQt(colours.ink));
+    if (colours.paper) format.setBackground(qt::ToQt(*colours.paper));
     return format;
 }
 

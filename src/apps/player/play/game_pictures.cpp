@@ -1,6 +1,7 @@
 #include "player/play/game_pictures.h"
 
 #include "platform/error.h"
+#include "platform/image_limits.h"
 #include "qt/look/game_image.h"
 #include "store/adventure.h"
 #include "store/game_path.h"
@@ -13,7 +14,7 @@ using store::TableNum;
 
 QByteArray BytesOf(const text::Value& value) {
     const auto* bytes = std::get_if<text::Blob>(&value);
-    if (bytes == nullptr || static_cast<qint64>(bytes->size()) > qt::kLargestImageFile) return {};
+    if (bytes == nullptr || bytes->size() > platform::kLargestImageFile) return {};
     return {reinterpret_cast<const char*>(bytes->data()), static_cast<qsizetype>(bytes->size())};
 }
 

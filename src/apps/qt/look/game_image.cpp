@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/error.h"
+#include "platform/image_limits.h"
 #include "platform/whole_file.h"
 
 namespace fabula::qt {
@@ -36,7 +37,8 @@ const char* FormatOf(const QByteArray& bytes) {
 
 QImage DecodeImage(const QByteArray& bytes) {
     const char* format = FormatOf(bytes);
-    if (format == nullptr || bytes.size() > kLargestImageFile) return {};
+    if (format == nullptr || static_cast<std::uintmax_t>(bytes.size()) > platform::kLargestImageFile)
+        return {};
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer, format);
@@ -44,15 +46,14 @@ QImage DecodeImage(const QByteArray& bytes) {
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     // A reader that can't tell the size beforehand is stopped by its own limit of memory.
-    if (size.width() > kLargestImageSide || size.height() > kLargestImageSide) return {};
-    if (qint64{size.width()} * size.height() > kLargestImageArea) return {};
+    if (!platform::IsImageWithinLimits(size.width(), size.height())) return {};
     return reader.read();
 }
 
 QImage ReadImage(const std::filesystem::path& path) {
     try {
         const std::string bytes =
-            platform::ReadWholeFile(path, std::uintmax_t{kLargestImageFile}, "read an image");
+            platform::ReadWholeFile(path, platform::kLargestImageFile, "read an image");
         return DecodeImage(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
     } catch (const Error&) {
         return {};  // it is shown as no image, whatever the reason

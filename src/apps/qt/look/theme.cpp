@@ -10,45 +10,41 @@ namespace fabula::qt {
 
 namespace {
 
-QPalette LightPalette() {
-    QPalette palette(QColor(0xf3, 0xf3, 0xf1));
-    palette.setColor(QPalette::WindowText, QColor(0x1d, 0x1f, 0x21));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xf7, 0xf7, 0xf5));
-    palette.setColor(QPalette::Text, QColor(0x1d, 0x1f, 0x21));
-    palette.setColor(QPalette::Button, QColor(0xea, 0xea, 0xe7));
-    palette.setColor(QPalette::ButtonText, QColor(0x1d, 0x1f, 0x21));
-    palette.setColor(QPalette::ToolTipBase, Qt::white);
-    palette.setColor(QPalette::ToolTipText, QColor(0x1d, 0x1f, 0x21));
-    palette.setColor(QPalette::Highlight, QColor(0x1f, 0x5f, 0xbf));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xd3, 0xdd, 0xea));
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(0x1d, 0x1f, 0x21));
-    palette.setColor(QPalette::Link, QColor(0x1f, 0x5f, 0xbf));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x66, 0x69, 0x6c));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(0x96, 0x98, 0x9b));
-    return palette;
-}
+/// A role of the windows in both themes, 0xRRGGBB.
+struct RoleColours {
+    QPalette::ColorGroup group;
+    QPalette::ColorRole role;
+    QRgb light;
+    QRgb dark;
+};
 
-QPalette DarkPalette() {
-    QPalette palette(QColor(0x2b, 0x2d, 0x30));
-    palette.setColor(QPalette::WindowText, QColor(0xe2, 0xe3, 0xe5));
-    palette.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
-    palette.setColor(QPalette::AlternateBase, QColor(0x25, 0x27, 0x2a));
-    palette.setColor(QPalette::Text, QColor(0xe2, 0xe3, 0xe5));
-    palette.setColor(QPalette::Button, QColor(0x3a, 0x3d, 0x41));
-    palette.setColor(QPalette::ButtonText, QColor(0xe2, 0xe3, 0xe5));
-    palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3d, 0x41));
-    palette.setColor(QPalette::ToolTipText, QColor(0xe2, 0xe3, 0xe5));
-    palette.setColor(QPalette::Highlight, QColor(0x34, 0x75, 0xd1));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x3a, 0x47, 0x59));
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(0xe2, 0xe3, 0xe5));
-    palette.setColor(QPalette::Link, QColor(0x7a, 0xb0, 0xf5));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9d, 0xa2));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(0x7d, 0x80, 0x85));
+/// Further roles, such as the edges of buttons, follow from this one.
+constexpr RoleColours kWindows{QPalette::All, QPalette::Window, 0xf3f3f1, 0x2b2d30};
+
+constexpr RoleColours kRoles[] = {
+    {QPalette::All, QPalette::WindowText, 0x1d1f21, 0xe2e3e5},
+    {QPalette::All, QPalette::Base, 0xffffff, 0x1e1f22},
+    {QPalette::All, QPalette::AlternateBase, 0xf7f7f5, 0x25272a},
+    {QPalette::All, QPalette::Text, 0x1d1f21, 0xe2e3e5},
+    {QPalette::All, QPalette::Button, 0xeaeae7, 0x3a3d41},
+    {QPalette::All, QPalette::ButtonText, 0x1d1f21, 0xe2e3e5},
+    {QPalette::All, QPalette::ToolTipBase, 0xffffff, 0x3a3d41},
+    {QPalette::All, QPalette::ToolTipText, 0x1d1f21, 0xe2e3e5},
+    {QPalette::All, QPalette::Highlight, 0x1f5fbf, 0x3475d1},
+    {QPalette::All, QPalette::HighlightedText, 0xffffff, 0xffffff},
+    {QPalette::Inactive, QPalette::Highlight, 0xd3ddea, 0x3a4759},
+    {QPalette::Inactive, QPalette::HighlightedText, 0x1d1f21, 0xe2e3e5},
+    {QPalette::All, QPalette::Link, 0x1f5fbf, 0x7ab0f5},
+    {QPalette::All, QPalette::PlaceholderText, 0x66696c, 0x9a9da2},
+    {QPalette::Disabled, QPalette::WindowText, 0x96989b, 0x7d8085},
+    {QPalette::Disabled, QPalette::Text, 0x96989b, 0x7d8085},
+    {QPalette::Disabled, QPalette::ButtonText, 0x96989b, 0x7d8085},
+};
+
+QPalette PaletteOf(QRgb RoleColours::*theme) {
+    QPalette palette(QColor(kWindows.*theme));
+    for (const RoleColours& colours : kRoles)
+        palette.setColor(colours.group, colours.role, QColor(colours.*theme));
     return palette;
 }
 
@@ -82,15 +78,15 @@ void ApplyTheme(Theme theme) {
     UseLook();
     switch (theme) {
         case Theme::Light:
-            QApplication::setPalette(LightPalette());
+            QApplication::setPalette(PaletteOf(&RoleColours::light));
             break;
         case Theme::Dark:
-            QApplication::setPalette(DarkPalette());
+            QApplication::setPalette(PaletteOf(&RoleColours::dark));
             break;
         // A palette that sets nothing gives way to the one of the desktop.
         case Theme::System:
             QApplication::setPalette(QPalette());
-            if (!DesktopHasColours()) QApplication::setPalette(LightPalette());
+            if (!DesktopHasColours()) QApplication::setPalette(PaletteOf(&RoleColours::light));
             break;
     }
 }

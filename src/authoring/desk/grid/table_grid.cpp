@@ -8,6 +8,7 @@
 
 #include "authoring/fields/cond_act_help.h"
 #include "store/filter/filter.h"
+#include "store/schema/record_fields.h"
 #include "text/line_ends.h"
 #include "text/utf8.h"
 
@@ -139,7 +140,7 @@ void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance, bool 
 }
 
 void TableGrid::ReadRecords(store::Adventure& adventure) {
-    const std::string key = KeyField(view_.table);
+    const std::string key = store::KeyField(view_.table);
     const store::TableSchema& schema = adventure.Schema(view_.table);
     const bool countsRecords =
         store::ClassOf(schema.fields[schema.Find(key).value()].type) == store::FieldClass::Text;

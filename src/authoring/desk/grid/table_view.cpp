@@ -1,6 +1,5 @@
 #include "authoring/desk/grid/table_view.h"
 
-#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -45,12 +44,6 @@ std::string FilterOf(const TableView& view) {
         default:
             return "";
     }
-}
-
-std::string KeyField(TableNum table) {
-    const store::TableEntry* const entry = store::FindTable(table);
-    if (!entry) throw std::logic_error("a table number without a table has no key");
-    return std::string(entry->key);
 }
 
 std::string CaptionWord(const TableView& view) {

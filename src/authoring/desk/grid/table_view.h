@@ -19,9 +19,6 @@ struct TableView {
 /// The filter of the view's records; "" for all of them.
 std::string FilterOf(const TableView& view);
 
-/// The field that numbers the table's records.
-std::string KeyField(store::TableNum table);
-
 /// The words for a record of the view in the texts of commands, as they stand there: "Location",
 /// "Vocabulary ", "Process Record 1", "Process Record 3 or above". Tables without commands have none.
 std::string CaptionWord(const TableView& view);

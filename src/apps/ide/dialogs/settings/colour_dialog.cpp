@@ -13,18 +13,16 @@
 
 #include "ide/dialogs/records/update_and_exit.h"
 #include "ide/editors/layout.h"
+#include "qt/colours.h"
 #include "qt/strings.h"
-#include "text/colours.h"
 
 namespace fabula::ide {
 
 /// Framed, so that it can be told from any window.
 QIcon ColourSwatch(int number, int height) {
-    const text::Rgb colour = text::ColourRGB(number);
     QPixmap patch(2 * height, height);
     patch.fill(Qt::gray);
-    QPainter(&patch).fillRect(patch.rect().adjusted(1, 1, -1, -1),
-                              QColor(colour.red, colour.green, colour.blue));
+    QPainter(&patch).fillRect(patch.rect().adjusted(1, 1, -1, -1), qt::ToQt(text::ColourRGB(number)));
     return patch;
 }
 
