@@ -21,8 +21,7 @@ inline constexpr int kNoObject = 255;
 inline constexpr int kHighestObjectOfOthers = kNoObject - 1;
 
 inline constexpr int kHighestProcess = 256;
-/// Tables 0 to 2 are there in every game. Those of "Marlo" have 0 and 1 only.
-inline constexpr int kLastFixedProcess = 2;
+using store::kLastFixedProcess;
 
 /// The numbers of an author's words.
 inline constexpr int kLowestWord = 2;

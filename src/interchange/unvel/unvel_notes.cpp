@@ -42,7 +42,7 @@ void StoreFlagNotes(store::Adventure& adventure, const UnVelNotes& notes) {
 void StoreProcessNotes(store::Adventure& adventure, const UnVelNotes& notes) {
     KeyedTable tables(adventure, TableNum::ProcDesc, "pmsgnum");
     for (const auto& [number, text] : notes.All()) {
-        if (number > kLastDefaultTable && number <= condacts::limit::kHighestProcess)
+        if (number > condacts::limit::kLastFixedProcess && number <= condacts::limit::kHighestProcess)
             StoreText(tables, "pmsgmsg", number, std::string(text::Left(text, kLongestTableText)));
     }
 }
