@@ -279,7 +279,7 @@ class Extraction {
 
     /// A pattern is made of two of the first 16 characters of set 0.
     void ReadPattern(int pattern, std::size_t token) {
-        constexpr int kShades = 16;
+        constexpr int kShades = pictures::kLastShade + 1;
         const int first = pattern / kShades;
         const int second = pattern % kShades;
         Add(Kind::Character, first, "drawstring", token);

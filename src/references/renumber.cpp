@@ -22,8 +22,6 @@ namespace {
 using condacts::FlagNumber;
 using store::TableNum;
 
-constexpr int kLastCharacterSet = 998;
-
 std::string Quoted(Kind kind, int number) {
     return std::string(EntryOf(kind).name) + " " + std::to_string(number);
 }
@@ -127,7 +125,7 @@ class Planner {
             case Kind::Process:
                 return condacts::limit::kHighestProcess;
             case Kind::CharacterSet:
-                return kLastCharacterSet;
+                return store::kHighestNewCharacterSet;
             case Kind::Flag:
                 return condacts::limit::kHighestSystemFlag;
             default:
