@@ -6,6 +6,7 @@
 #include "condacts/object_attributes.h"
 #include "pictures/drawstring.h"
 #include "store/keyed_rows.h"
+#include "store/new_flag.h"
 #include "text/utf8.h"
 
 namespace fabula::references {
@@ -97,7 +98,8 @@ void LintGame::Read(store::Adventure& adventure) {
     ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgdesc", "flgnum",
                [&](const PreparedQuery& row) {
                    flags.push_back({condacts::FlagNumber(Int(row, 0)),
-                                    text::EqualsNoCase(row.Text(1), "system"), std::string(row.Text(2))});
+                                    text::EqualsNoCase(row.Text(1), store::kSystemFlagType),
+                                    std::string(row.Text(2))});
                });
     ForEachRow(adventure, TableNum::Vocabulary, "vocindex, word, vocnum, voctypen", "vocindex",
                [&](const PreparedQuery& row) {
