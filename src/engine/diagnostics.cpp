@@ -100,7 +100,8 @@ std::string Diagnostics::Assign(std::string_view number) {
     if (!value) return "Value after the = is not numeric";
     if (!objectInView_) return AssignFlag(*value);
     const PlaceNumber where(*value);
-    if (where == place::kHere) return "An object cannot be put at location 255";
+    if (where == place::kHere)
+        return "An object cannot be put at location " + std::to_string(place::kHere.value);
     PlaceObject(Running(), ObjectNumber(number_), where);
     return {};
 }
