@@ -9,6 +9,18 @@ namespace flag {
 
 inline constexpr FlagNumber kDark{0};          ///< non-zero: dark, unless object 0 is present
 inline constexpr FlagNumber kCarriedCount{1};  ///< objects carried; worn ones do not count
+
+// They count down to 0: by each description, and by each turn.
+inline constexpr FlagNumber kDescriptions{2};
+inline constexpr FlagNumber kDarkDescriptions{3};   ///< those in the dark
+inline constexpr FlagNumber kUnlitDescriptions{4};  ///< those in the dark without a light
+inline constexpr FlagNumber kTurns1{5};
+inline constexpr FlagNumber kTurns2{6};
+inline constexpr FlagNumber kTurns3{7};
+inline constexpr FlagNumber kTurns4{8};
+inline constexpr FlagNumber kDarkTurns{9};
+inline constexpr FlagNumber kUnlitTurns{10};
+
 inline constexpr FlagNumber kPauseFunction{28};
 inline constexpr FlagNumber kGraphicsMode{29};
 inline constexpr FlagNumber kScore{30};

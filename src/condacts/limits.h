@@ -23,8 +23,8 @@ inline constexpr ObjectNumber kNoObject{255};
 inline constexpr int kHighestObjectOfOthers = kNoObject.value - 1;
 
 inline constexpr ProcessNumber kHighestProcess{256};
-/// Tables 0 to 2 are there in every game. Those of "Marlo" have 0 and 1 only.
-inline constexpr ProcessNumber kLastFixedProcess = kEachTurn;
+inline constexpr ProcessNumber kLastFixedProcess{store::kLastFixedProcess};
+static_assert(kLastFixedProcess == kEachTurn);
 
 /// The numbers of an author's words.
 inline constexpr int kLowestWord = 2;

@@ -2,7 +2,7 @@
 
 namespace fabula::condacts {
 
-std::string OfWordTypes(std::initializer_list<WordType> types) {
+std::string OfWordTypes(std::span<const WordType> types) {
     std::string filter;
     for (const WordType type : types) {
         filter += filter.empty() ? "(voctypen=" : " or voctypen=";
@@ -11,8 +11,12 @@ std::string OfWordTypes(std::initializer_list<WordType> types) {
     return filter + ")";
 }
 
+std::string OfWordTypes(std::initializer_list<WordType> types) {
+    return OfWordTypes(std::span(types.begin(), types.size()));
+}
+
 std::string OfEntryVerbs() {
-    return OfWordTypes({kVerb, kNoun, kReserved});
+    return OfWordTypes(kEntryVerbTypes);
 }
 
 std::string ButReserved() {

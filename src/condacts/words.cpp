@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "condacts/limits.h"
 #include "text/utf8.h"
 
 namespace fabula::condacts {
@@ -38,6 +39,10 @@ bool AnyWord(const Word& /*word*/) {
 
 bool IsNounOrReserved(const Word& word) {
     return word.type == kNoun || word.type == kReserved;
+}
+
+bool MayBeEntryVerb(const Word& word) {
+    return std::ranges::find(kEntryVerbTypes, word.type) != std::end(kEntryVerbTypes);
 }
 
 bool IsAdjectiveOrReserved(const Word& word) {
@@ -82,7 +87,7 @@ const Word* WordIndex::FindTyped(std::string_view spelling, WordType wordType) c
 
 const Word* WordIndex::FindAsked(std::string_view spelling, WordType wordType) const {
     if (Has(spelling)) return FindTyped(spelling, wordType);
-    const std::string_view cut = spelling.substr(0, kOlderLetters);
+    const std::string_view cut = spelling.substr(0, SignificantLetters(store::AdventureKind::Vel));
     const Word* found = FindTyped(cut, wordType);
     if (found == nullptr) return nullptr;
     const auto otherwise = [&](std::size_t i) {

@@ -24,6 +24,9 @@ enum WordType : int {
     kReserved = 7,
 };
 
+/// The types of the words that may stand where an entry has its verb.
+inline constexpr WordType kEntryVerbTypes[] = {kVerb, kNoun, kReserved};
+
 /// The name of a type as `voctype` holds it: "Verb", ... "Conjugation", "Pronoun", "RESERVED"; "" for a
 /// number that is no type.
 std::string_view WordTypeName(int wordType);
@@ -33,9 +36,6 @@ inline constexpr std::string_view kNoWord = "_";
 inline constexpr WordNumber kNoWordNumber{255};
 /// The number of the other word that stands for any word in an entry; not in games of type "Marlo".
 inline constexpr WordNumber kAnyWordNumber{1};
-
-/// How many letters of a word count in the older games.
-inline constexpr std::size_t kOlderLetters = 5;
 
 /// Nouns below this number may stand in for a verb and name a direction.
 inline constexpr WordNumber kFirstPlainNoun{20};
@@ -52,6 +52,8 @@ using WordTest = bool (*)(const Word&);
 
 bool AnyWord(const Word& word);
 bool IsNounOrReserved(const Word& word);
+/// Of the kEntryVerbTypes.
+bool MayBeEntryVerb(const Word& word);
 bool IsAdjectiveOrReserved(const Word& word);
 /// A verb, or a noun that may stand in for one.
 bool IsVerbOrNoun(const Word& word);

@@ -105,7 +105,8 @@ std::string Diagnostics::Assign(std::string_view number) {
     const ObjectNumber* object = ObjectInView();
     if (!object) return AssignFlag(std::get<FlagNumber>(inView_), *value);
     const PlaceNumber where(*value);
-    if (where == place::kHere) return "An object cannot be put at location 255";
+    if (where == place::kHere)
+        return "An object cannot be put at location " + std::to_string(place::kHere.value);
     PlaceObject(Running(), *object, where);
     return {};
 }

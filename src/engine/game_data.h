@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "condacts/limits.h"
 #include "engine/cycle/process_table.h"
 #include "engine/numbers.h"
 #include "engine/output/text_settings.h"
@@ -42,7 +43,7 @@ class GameData : public TextSettings {
 
     store::AdventureKind type = store::AdventureKind::Fabula;
     bool IsMarlo() const { return type == store::AdventureKind::Marlo; }
-    int significantLetters = 30;
+    int significantLetters = condacts::SignificantLetters(store::AdventureKind::Fabula);
 
     std::string title;  ///< of the window
     std::string saveName;

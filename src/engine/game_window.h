@@ -69,8 +69,8 @@ enum class StatusField {
 /// A question for the name of a file: SAVE, LOAD and SCRIPT.
 struct FileRequest {
     std::string_view title;      ///< "Save as a Fabula Save File"
-    std::string_view filter;     ///< "Fabula Save File|*.sav"
-    std::string_view extension;  ///< "sav"; appended by the engine to a name without one
+    std::string_view kind;       ///< of file: "Fabula Save File"
+    std::string_view extension;  ///< ".sav"; appended by the engine to a name without one
     bool forWriting = false;     ///< whoever asks the player lets him agree before a file is overwritten
 };
 

@@ -11,6 +11,7 @@
 #include "interchange/unvel/unvel_reader.h"
 #include "interchange/unvel/unvel_writer.h"
 #include "store/extensions.h"
+#include "store/game_source.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
@@ -84,6 +85,7 @@ const FileKind kKinds[] = {
      .settings = {"UnVel", 1, true, false, 0, 0, 0},
      .rules = {"Vel", Dialect::Vel, "vel", true},
      .isInExportDialog = true,
+     .hasVersions = true,
      .savesPictures = true,
      .readHead = ReadHeadOfUnVel},
     {.word = "pcvel",
@@ -145,7 +147,7 @@ const FileKind& UsualFileKind() {
 }
 
 const FileKind& FirstExportKind(std::string_view source) {
-    if (text::EqualsNoCase(source, kNewSource)) return *FindFileKind(kKindOfNewGames);
+    if (text::EqualsNoCase(source, store::kNewSource)) return *FindFileKind(kKindOfNewGames);
     for (const FileKind& kind : kKinds) {
         if (kind.isInExportDialog && text::EqualsNoCase(kind.settings.source, source)) return kind;
     }

@@ -54,6 +54,7 @@ struct FileKind {
     ImportedSettings settings;
     ExportRules rules;              ///< of a kind that can be written
     bool isInExportDialog = false;  ///< the job dialog offers to write it
+    bool hasVersions = false;       ///< its files are written in several forms, by a version
     bool savesPictures = false;     ///< pictures that come in as drawings are saved as bitmaps, too
     /// Of a listing whose pictures can be loaded by themselves: reads its head, false when that is refused.
     bool (*readHead)(ListingLines& lines, platform::Person& person, JobStatus& status) = nullptr;
@@ -73,9 +74,6 @@ const FileKind* FindFileKind(std::string_view wordOrName);
 
 /// The kind that is chosen at first where nothing tells a better one.
 const FileKind& UsualFileKind();
-
-/// The `source` of games that were made here.
-inline constexpr std::string_view kNewSource = "New";
 
 /// What a game is exported as at first, by the `source` that it came from: its own kind where the job
 /// dialog writes that, an export file for games that were made here, otherwise the usual kind.

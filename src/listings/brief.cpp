@@ -5,6 +5,7 @@
 
 #include "listings/record.h"
 #include "listings/reports.h"
+#include "listings/table_titles.h"
 #include "store/new_flag.h"
 
 namespace fabula::listings {
@@ -15,17 +16,16 @@ using store::TableNum;
 /// A table of a brief listing: the number, and the fields of which the first that says something is told.
 struct BriefTable {
     TableNum table{};
-    std::string_view name;
     std::string_view fields;
     int texts = 1;
 };
 
 constexpr std::array<BriefTable, 5> kTables = {{
-    {TableNum::Locations, "Location Table", "locnum, locshortdesc, locdesc", 2},
-    {TableNum::Objects, "Object Table", "objnum, objdesc"},
-    {TableNum::Messages, "Messages Table", "msgnum, msgmsg"},
-    {TableNum::SystemMessages, "System Message Table", "smsgnum, smsgmsg"},
-    {TableNum::Flags, "Flag Descriptions Table", "flgnum, flgdesc, flguse", 2},
+    {TableNum::Locations, "locnum, locshortdesc, locdesc", 2},
+    {TableNum::Objects, "objnum, objdesc"},
+    {TableNum::Messages, "msgnum, msgmsg"},
+    {TableNum::SystemMessages, "smsgnum, smsgmsg"},
+    {TableNum::Flags, "flgnum, flgdesc, flguse", 2},
 }};
 
 constexpr std::string_view kFormat = "!%A!%t10!%a";
@@ -48,11 +48,14 @@ std::string FirstLine(std::string_view text) {
 
 }  // namespace
 
+bool HasBrief(TableNum number) {
+    return std::ranges::find(kTables, number, &BriefTable::table) != kTables.end();
+}
+
 void WriteBrief(const Listing& listing, TableNum number) {
-    const auto table =
-        std::ranges::find_if(kTables, [&](const BriefTable& each) { return each.table == number; });
+    const auto table = std::ranges::find(kTables, number, &BriefTable::table);
     if (table == kTables.end()) throw std::logic_error("a table without a brief listing");
-    listing.frame.Begin("Brief " + std::string(table->name),
+    listing.frame.Begin("Brief " + PrintTitle(number),
                         {Heading("!Number!%t10!Description"), Heading("!%c6-!%t10!%c70-")});
     store::PreparedQuery rows = listing.adventure.Prepare(number, table->fields, "");
     for (bool more = rows.First({}); more; more = rows.Next()) {

@@ -29,8 +29,9 @@ struct Group {
 };
 constexpr Group kGroups[] = {
     {"SHADES (0-15)", 0, pictures::kLastShade},
-    {"DEFAULT CHARACTER SET (32-127) NOT MODIFIABLE", pictures::kFirstCharacter, 127},
-    {"DEFAULT SPECIAL CHARACTERS (128-143) NOT MODIFIABLE", 128, pictures::kSolidCharacter},
+    {"DEFAULT CHARACTER SET (32-127) NOT MODIFIABLE", pictures::kFirstCharacter, pictures::kLastOfFont},
+    {"DEFAULT SPECIAL CHARACTERS (128-143) NOT MODIFIABLE", pictures::kFirstBlock,
+     pictures::kSolidCharacter},
     {"UDGs (144 to 164)", pictures::kFirstUserGraphic, pictures::kLastCharacter},
 };
 constexpr std::string_view kPatternsHeading = "QSHADE Characters (1-255)";

@@ -42,16 +42,18 @@ enum class RangeOf { Nothing, ProcessTables, Flags, Pictures, WordTypes, Names }
 
 /// A report.
 struct Report {
-    std::string_view name;    ///< "system-messages"
-    store::TableNum table{};  ///< that it tells of
-    std::string_view tells;   ///< what it lists, for those who choose
+    std::string_view name;     ///< "system-messages"
+    store::TableNum table{};   ///< that it tells of
+    std::string_view tells;    ///< what it lists, for those who choose
+    std::string_view caption;  ///< in the print window of its table; "" where that does not offer it
     RangeOf range = RangeOf::Nothing;
     /// Throws fabula::Error when the adventure can't be read, and for a word or a template that is not
     /// there.
     void (*write)(const Listing& listing, const ReportRequest& request);
+    bool isOfBook = false;  ///< part of a complete listing
 };
 
-/// All reports, in the order of a complete listing and then the others.
+/// All reports, those of a complete listing in its order.
 std::span<const Report> AllReports();
 /// The report of that name; nullptr when there is none.
 const Report* FindReport(std::string_view name);
@@ -89,5 +91,6 @@ void WriteAdventure(const Listing& listing, const ReportRequest& request);
 /// One line for each record of a table: its number and the first line of its text. Locations, objects,
 /// messages, system messages and flags have one.
 void WriteBrief(const Listing& listing, store::TableNum table);
+bool HasBrief(store::TableNum table);
 
 }  // namespace fabula::listings

@@ -105,7 +105,7 @@ void WriteTexts(const Listing& listing, const TextTable& table, NoText noText = 
 /// The highest number of a flag of the user; -1 when there is none.
 int LastUserFlag(store::Adventure& adventure) {
     store::PreparedQuery flags =
-        adventure.Prepare(TableNum::Flags, "flgnum", store::kUserFlags, "flgnum desc");
+        adventure.Prepare(TableNum::Flags, "flgnum", store::OfUserFlags(), "flgnum desc");
     return flags.First({}) ? static_cast<int>(flags.Number(0)) : -1;
 }
 

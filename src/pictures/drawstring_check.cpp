@@ -76,7 +76,8 @@ std::string CheckCharacter(const Parameter& p) {
         return p.Say(" is an invalid character number for set ", p.previous);
     }
     if (p.value < kFirstCharacter || p.value > kLastCharacter) {
-        const std::string message = "Characters must be between 32 and 164 inclusive";
+        const std::string message = "Characters must be between " + std::to_string(kFirstCharacter) +
+                                    " and " + std::to_string(kLastCharacter) + " inclusive";
         return typed ? message : message + " for command " + std::string(p.command);
     }
     return "";

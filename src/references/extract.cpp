@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "condacts/flags.h"
+#include "condacts/held_numbers.h"
 #include "condacts/load.h"
 #include "condacts/object_attributes.h"
 #include "condacts/parser.h"
@@ -22,35 +22,8 @@ using condacts::ParamKind;
 using store::KeyedRows;
 using store::TableNum;
 
-namespace flag = condacts::flag;
-
 constexpr WordTypes kVerbOrNoun = TypeBit(condacts::kVerb) | TypeBit(condacts::kNoun);
 
-constexpr FlagMeaning kFlagMeanings[] = {
-    {flag::kVerb, Kind::Word, kVerbOrNoun},
-    {flag::kNoun, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kAdjective, Kind::Word, TypeBit(condacts::kAdjective)},
-    {flag::kAdverb, Kind::Word, TypeBit(condacts::kAdverb)},
-    {flag::kLocation, Kind::Location},
-    {flag::kPrompt, Kind::SystemMessage},
-    {flag::kPreposition, Kind::Word, TypeBit(condacts::kPreposition)},
-    {flag::kNoun2, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kAdjective2, Kind::Word, TypeBit(condacts::kAdjective)},
-    {flag::kPronounNoun, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kPronounAdjective, Kind::Word, TypeBit(condacts::kAdjective)},
-    {flag::kDoAllPlace, Kind::Location},
-    {flag::kObject, Kind::Object},
-    {flag::kObjectPlace, Kind::Location},
-    {flag::kKeptVerb, Kind::Word, kVerbOrNoun},
-    {flag::kKeptAdverb, Kind::Word, TypeBit(condacts::kAdverb)},
-    {flag::kKeptNoun, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kKeptAdjective, Kind::Word, TypeBit(condacts::kAdjective)},
-    {flag::kKeptPronounNoun, Kind::Word, TypeBit(condacts::kNoun)},
-    {flag::kKeptPronounAdjective, Kind::Word, TypeBit(condacts::kAdjective)},
-};
-
-/// Names whose second parameter is a number that the flag is compared with or given.
-constexpr std::string_view kWithValue[] = {"EQ", "NOTEQ", "GT", "LT", "LET"};
 constexpr std::string_view kOrders[] = {"ATGT", "ATLT", "RAMLOAD"};
 /// Names with a location that is the place inside an object of the same number.
 constexpr std::string_view kWithContainer[] = {"PUTIN", "TAKEOUT", "AUTOP", "AUTOT"};
@@ -80,6 +53,11 @@ std::optional<Kind> KindOfParameter(ParamKind kind) {
             break;
     }
     return std::nullopt;
+}
+
+/// Whether the number behind a flag is compared with what the flag holds, or given to it.
+bool TakesNumberBehind(const condacts::CondAct& condAct) {
+    return condacts::TakesNumberOfFlag(condAct.name) != condacts::TakesNumber::No;
 }
 
 bool IsNoWord(std::int64_t number) {
@@ -234,10 +212,10 @@ class Extraction {
     /// The number that a flag is compared with or given, and what it means where the engine says so.
     void ReadValue(const condacts::Statement& statement, KeptUse& kept) {
         const condacts::FlagNumber flagNumber(kept.use.target.number);
-        if (statement.paramsGiven < 2 || !Holds(kWithValue, statement.condAct->name)) return;
+        if (statement.paramsGiven < 2 || !TakesNumberBehind(*statement.condAct)) return;
         kept.value = condacts::NumberOfToken(line_.Param(statement, 1));
-        const FlagMeaning* meaning = FindFlagMeaning(flagNumber);
-        if (!kept.value || meaning == nullptr) return;
+        const auto meaning = FindFlagMeaning(flagNumber);
+        if (!kept.value || !meaning) return;
         if (meaning->kind == Kind::Location && condacts::IsSpecialPlace(std::int64_t{*kept.value})) return;
         if (meaning->kind == Kind::Word && IsNoWord(*kept.value)) return;
         KeptUse& meant = Add(meaning->kind, *kept.value, "condacts", kept.use.token + 1);
@@ -277,7 +255,7 @@ class Extraction {
 
     /// A pattern is made of two of the first 16 characters of set 0.
     void ReadPattern(int pattern, std::size_t token) {
-        constexpr int kShades = 16;
+        constexpr int kShades = pictures::kLastShade + 1;
         const int first = pattern / kShades;
         const int second = pattern % kShades;
         Add(Kind::Character, first, "drawstring", token);
@@ -364,10 +342,12 @@ std::vector<KeptUse> UsesIn(const KeyedRows& row, const SourceTable& table, cons
     return Extraction(row, table.table, language).Run();
 }
 
-const FlagMeaning* FindFlagMeaning(condacts::FlagNumber flag) {
-    const auto* found = std::find_if(std::begin(kFlagMeanings), std::end(kFlagMeanings),
-                                     [&](const FlagMeaning& meaning) { return meaning.flag == flag; });
-    return found == std::end(kFlagMeanings) ? nullptr : found;
+std::optional<FlagMeaning> FindFlagMeaning(condacts::FlagNumber flag) {
+    const condacts::HeldNumber* const held = condacts::FindHeldNumber(flag);
+    if (held == nullptr) return std::nullopt;
+    if (held->kind != ParamKind::Word) return FlagMeaning{flag, KindOfParameter(held->kind).value()};
+    const bool isVerb = held->wordType == condacts::kVerb;
+    return FlagMeaning{flag, Kind::Word, isVerb ? kVerbOrNoun : TypeBit(held->wordType)};
 }
 
 bool ComparesOrder(std::string_view condAct) {

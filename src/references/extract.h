@@ -48,7 +48,7 @@ struct FlagMeaning {
     Kind kind;
     WordTypes wordTypes = kAnyType;
 };
-const FlagMeaning* FindFlagMeaning(condacts::FlagNumber flag);
+std::optional<FlagMeaning> FindFlagMeaning(condacts::FlagNumber flag);
 
 /// Whether a condition or action takes the number that it names for a border between others ("ATLT 19"): it
 /// is no name then that could follow a new number.

@@ -1,7 +1,5 @@
 #include "references/flag_contents.h"
 
-#include <algorithm>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -12,13 +10,9 @@ namespace {
 
 using condacts::FlagNumber;
 
-/// Two flags of which each holds what the other one may.
-constexpr std::string_view kLinks[] = {"COPYFF", "SAME", "NOTSAME"};
-constexpr std::string_view kCounts[] = {"PLUS", "MINUS", "ADD", "SUB", "RANDOM", "AUTOINC", "AUTODEC"};
-
-template <std::size_t Size>
-bool Has(const std::string_view (&names)[Size], std::string_view name) {
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+/// Whether of two flags each holds what the other one may.
+bool Links(Flow flow) {
+    return flow == Flow::Copies || flow == Flow::Compares;
 }
 
 /// The flags that a statement names.
@@ -40,14 +34,14 @@ FlagContents::FlagContents(const LintGame& game) {
         for (const condacts::Statement& statement : entry->line.statements) {
             const std::vector<FlagNumber> flags = FlagsOf(*entry, statement);
             if (flags.empty()) continue;
-            const std::string& name = statement.condAct->name;
             for (const FlagNumber flag : flags) {
-                if (const FlagMeaning* meaning = FindFlagMeaning(flag)) kinds_[flag].insert(meaning->kind);
+                if (const auto meaning = FindFlagMeaning(flag)) kinds_[flag].insert(meaning->kind);
             }
-            const CondActAccess* access = FindCondActAccess(name);
-            if (access != nullptr && access->carries) kinds_[flags[0]].insert(*access->carries);
-            if (Has(kLinks, name) && flags.size() == 2) links.emplace_back(flags[0], flags[1]);
-            if (Has(kCounts, name)) counted_.insert(flags.back());
+            const CondActAccess* access = FindCondActAccess(statement.condAct->name);
+            if (access == nullptr) continue;
+            if (access->carries) kinds_[flags[0]].insert(*access->carries);
+            if (Links(access->flow) && flags.size() == 2) links.emplace_back(flags[0], flags[1]);
+            if (access->flow == Flow::Counts) counted_.insert(flags.back());
         }
     }
     for (bool grown = true; grown;) {

@@ -121,7 +121,7 @@ void Index::AppendValues(const Target& target, std::vector<Use>& found) const {
     for (auto carrier = carriers_.lower_bound({target.kind, FlagNumber(0)});
          carrier != carriers_.end() && carrier->first.first == target.kind; ++carrier) {
         const FlagNumber flag = carrier->first.second;
-        if (FindFlagMeaning(flag) != nullptr) continue;
+        if (FindFlagMeaning(flag)) continue;
         ForEachUse(Target::Of(flag), [&](const KeptUse& kept) {
             if (kept.value != target.number) return;
             Use use = kept.use;
@@ -139,7 +139,7 @@ void Index::AppendCarriers(const Target& target, std::vector<Use>& found) const 
     for (auto carrier = carriers_.lower_bound({target.kind, FlagNumber(0)});
          carrier != carriers_.end() && carrier->first.first == target.kind; ++carrier) {
         const FlagNumber flag = carrier->first.second;
-        if (FindFlagMeaning(flag) != nullptr || !IsComputed(flag)) continue;
+        if (FindFlagMeaning(flag) || !IsComputed(flag)) continue;
         ForEachUse(Target::Of(flag), [&](const KeptUse& kept) {
             if (kept.carries != target.kind || kept.computes) return;
             Use use = kept.use;

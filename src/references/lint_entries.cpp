@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "condacts/flags.h"
+#include "references/condact_access.h"
 #include "references/lint_game.h"
 
 namespace fabula::references {
@@ -13,8 +14,6 @@ namespace {
 
 using store::TableNum;
 
-/// Actions behind which nothing of the entry runs.
-constexpr std::string_view kEnds[] = {"DONE", "NOTDONE", "OK", "DESC", "RESET", "END"};
 /// Conditions that may turn out otherwise when they are asked again.
 constexpr std::string_view kAskedAgain[] = {"CHANCE", "YESNO", "QUIT"};
 
@@ -157,7 +156,7 @@ void CheckActions(const LintEntry& entry, Findings& findings) {
     if (!acts && !entry.line.unknownName)
         Add(findings, "entry-idle", entry, "does nothing: it has no action.", 0);
     for (std::size_t i = 0; i + 1 < statements.size(); ++i) {
-        if (!Holds(kEnds, statements[i].condAct->name)) continue;
+        if (!EndsTable(statements[i].condAct->name)) continue;
         return Add(findings, "action-dead", entry,
                    "never comes to " + TextOf(entry, statements[i + 1]) + ", for " +
                        statements[i].condAct->name + " ends it.",

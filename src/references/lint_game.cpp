@@ -7,6 +7,7 @@
 #include "pictures/drawstring.h"
 #include "store/each_row.h"
 #include "store/keyed_rows.h"
+#include "store/new_flag.h"
 #include "store/schema/record_fields.h"
 #include "text/utf8.h"
 
@@ -91,7 +92,8 @@ void LintGame::Read(store::Adventure& adventure) {
     ForEachRow(adventure, TableNum::Flags, "flgnum, flgtype, flgdesc", "flgnum",
                [&](const PreparedQuery& row) {
                    flags.push_back({condacts::FlagNumber(SmallNumber(row, 0)),
-                                    text::EqualsNoCase(row.Text(1), "system"), std::string(row.Text(2))});
+                                    text::EqualsNoCase(row.Text(1), store::kSystemFlagType),
+                                    std::string(row.Text(2))});
                });
     ForEachRow(adventure, TableNum::Vocabulary, "vocindex, word, vocnum, voctypen", "vocindex",
                [&](const PreparedQuery& row) {

@@ -4,13 +4,12 @@
 #include <vector>
 
 #include "condacts/words.h"
+#include "references/condact_access.h"
 #include "references/lint_game.h"
 
 namespace fabula::references {
 namespace {
 
-/// Actions that end the table, whatever happened before them in their entry.
-constexpr std::string_view kEndsTable[] = {"DONE", "NOTDONE", "OK", "DESC", "RESET", "END"};
 /// Conditions that may be false at one moment and true at the next with nothing done between.
 constexpr std::string_view kUnsteady[] = {"CHANCE", "YESNO", "QUIT", "TIMEOUT"};
 /// How far behind an entry those that it may hide are looked for.
@@ -46,7 +45,7 @@ Form FormOf(const LintEntry& entry) {
         acting = true;
         // MOVE is a condition, too, and DOALL and waits may leave the entry.
         if (name == "MOVE" || name == "DOALL" || name == "ANYKEY") return form;
-        if (Holds(kEndsTable, name)) {
+        if (EndsTable(name)) {
             form.ends = true;
             return form;
         }

@@ -17,9 +17,12 @@ using store::TableNum;
 
 /// Actions behind which the player is at the location that they name.
 constexpr std::string_view kGoing[] = {"GOTO", "RESET"};
-/// Actions whose number does not stand there and is known all the same: MOVE goes by the exits, and what is
-/// copied from flag to flag is followed.
-constexpr std::string_view kFollowed[] = {"MOVE", "COPYFF"};
+
+/// Whether the number does not stand there and is known all the same: exits are looked at for themselves,
+/// and what is copied from flag to flag is followed.
+bool IsFollowed(const CondActAccess& access) {
+    return access.flow == Flow::Walks || access.flow == Flow::Copies;
+}
 
 std::optional<int> NumberAt(const LintEntry& entry, const condacts::Statement& statement, std::size_t i) {
     if (i >= statement.paramsGiven) return std::nullopt;
@@ -66,7 +69,7 @@ class Reach {
             before = flags.size();
             for (const auto& entry : game_.entries) {
                 for (const condacts::Statement& statement : entry->line.statements) {
-                    if (statement.condAct->name != "COPYFF") continue;
+                    if (FlowOf(statement.condAct->name) != Flow::Copies) continue;
                     const auto from = NumberAt(*entry, statement, 0);
                     const auto to = NumberAt(*entry, statement, 1);
                     if (from && to && flags.contains(FlagNumber(*to))) flags.insert(FlagNumber(*from));
@@ -86,7 +89,7 @@ class Reach {
             const bool inSecond = second && flags.contains(FlagNumber(*second));
             if (name == "LET" && inFirst && second) Visit(PlaceNumber(*second));
             const CondActAccess* const access = FindCondActAccess(name);
-            if (access == nullptr || Holds(kFollowed, name)) continue;
+            if (access == nullptr || IsFollowed(*access)) continue;
             open_ = open_ || (access->computes == 1 && inFirst) || (access->computes == 2 && inSecond);
         }
     }

@@ -22,8 +22,6 @@ namespace {
 using condacts::FlagNumber;
 using store::TableNum;
 
-constexpr int kLastCharacterSet = 998;
-
 std::string Quoted(Kind kind, int number) {
     return std::string(EntryOf(kind).name) + " " + std::to_string(number);
 }
@@ -127,7 +125,7 @@ class Planner {
             case Kind::Process:
                 return condacts::limit::kHighestProcess.value;
             case Kind::CharacterSet:
-                return kLastCharacterSet;
+                return store::kHighestNewCharacterSet;
             case Kind::Flag:
                 return condacts::limit::kHighestSystemFlag;
             default:
@@ -148,7 +146,8 @@ class Planner {
                 return "The engine itself knows " + Quoted(kind_, number) + " by its number.";
         }
         if (kind_ == Kind::Location && condacts::IsSpecialPlace(to_))
-            return "252 to 255 are no places that one can enter.";
+            return std::to_string(condacts::place::kNotCreated.value) + " to " +
+                   std::to_string(condacts::place::kHere.value) + " are no places that one can enter.";
         if (kind_ == Kind::Object && to_ > condacts::place::kNotCreated.value - 1 && IsContainer(from_) &&
             condacts::IsSpecialPlace(to_))
             return "A container can't bear the number of a place that is none.";
@@ -240,7 +239,7 @@ class Planner {
     void ReadFlag(const LintEntry& entry, const condacts::Statement& statement, FlagNumber flag,
                   std::map<std::size_t, std::string>& words) {
         const std::string& name = statement.condAct->name;
-        const bool known = FindFlagMeaning(flag) != nullptr;
+        const bool known = FindFlagMeaning(flag).has_value();
         if (!known && contents_.IsCounted(flag) && name != "EQ" && name != "LET") {
             if (countedFlags_.insert(flag).second)
                 plan_.warnings.push_back("Flag " + std::to_string(flag.value) +

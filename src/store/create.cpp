@@ -11,6 +11,7 @@
 #include "store/file/connection.h"
 #include "store/file/file_check.h"
 #include "store/file/file_copy.h"
+#include "store/game_source.h"
 #include "store/new_flag.h"
 #include "store/schema/default_data.h"
 #include "store/schema/record_check.h"
@@ -146,7 +147,7 @@ class Creator {
         record["graphicsadded"] = std::int64_t{0};
         record["oldadvpicloc"] = std::string(" ");
         record["olddefpicloc"] = std::string(" ");
-        record["source"] = std::string("Unknown");
+        record["source"] = std::string(kUnknownSource);
     }
 
     /// Flags are numbered without a gap: the engine keeps one place for each record.

@@ -1,8 +1,16 @@
 #include "store/new_flag.h"
 
 #include "store/cursor.h"
+#include "store/filter/filter.h"
 
 namespace fabula::store {
+namespace {
+
+std::string OfFlagType(std::string_view type) {
+    return "flgtype=" + QuoteText(type);
+}
+
+}  // namespace
 
 std::vector<std::pair<std::string, text::Value>> FieldsOfNewFlag(std::int64_t number,
                                                                  std::string description) {
@@ -21,8 +29,16 @@ void FillNewFlag(Cursor& flag, std::int64_t number, std::string description) {
         flag.SetField(field, value);
 }
 
+std::string OfUserFlags() {
+    return OfFlagType(kUserFlagType);
+}
+
+std::string OfEditableUserFlags() {
+    return "flgmod>0 and " + OfUserFlags();
+}
+
 std::string SystemFlag(std::int64_t number) {
-    return "flgtype='System' and flgnum=" + std::to_string(number);
+    return OfFlagType(kSystemFlagType) + " and flgnum=" + std::to_string(number);
 }
 
 }  // namespace fabula::store

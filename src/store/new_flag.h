@@ -16,8 +16,8 @@ class Cursor;
 inline constexpr std::string_view kSystemFlagType = "System";
 inline constexpr std::string_view kUserFlagType = "User";
 /// Filters of `Flags`: the flags of the user, and those of them that the author may describe.
-inline constexpr const char* kUserFlags = "flgtype='User'";
-inline constexpr const char* kEditableUserFlags = "flgmod>0 and flgtype='User'";
+std::string OfUserFlags();
+std::string OfEditableUserFlags();
 /// The filter that finds one flag of type System.
 std::string SystemFlag(std::int64_t number);
 

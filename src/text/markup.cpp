@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "text/character_numbers.h"
 #include "text/colours.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
@@ -118,7 +119,8 @@ std::string FaultOfTagValue(std::string_view tag, std::string_view value, std::s
         return "Invalid color " + valueText + " for tag " + tagText;
     if (kind == "FO" && !tags.HasCode(*number))
         return "Invalid fontsize of " + valueText + " for tag " + tagText;
-    const bool isCharacter = *number >= 0 && *number <= 164 && (*number < 16 || *number > 31);
+    const bool isCharacter =
+        *number >= 0 && *number <= kLastCharacter && (*number <= kLastShade || *number >= kFirstCharacter);
     if (kind == "CH" && !isCharacter) return "Invalid value of " + valueText + "for # tag";
     return {};
 }

@@ -4,6 +4,7 @@
 
 #include <utf8proc.h>
 
+#include "text/character_numbers.h"
 #include "text/utf8.h"
 
 namespace fabula::text {
@@ -18,14 +19,9 @@ constexpr char32_t kLastOverride = U'\u202E';
 constexpr char32_t kFirstIsolate = U'\u2066';
 constexpr char32_t kLastIsolate = U'\u2069';
 
-constexpr char32_t kFirstBlock = 128;
-constexpr char32_t kLastBlock = 143;
-constexpr char32_t kFirstUserDefined = 144;
-constexpr char32_t kLastUserDefined = 164;
-
-/// By number less 128.
+/// By number less that of the first.
 constexpr std::u32string_view kBlocks = U" ▝▘▀▗▐▚▜▖▞▌▛▄▟▙█";
-static_assert(kBlocks.size() == kLastBlock - kFirstBlock + 1);
+static_assert(kBlocks.size() == kSolidCharacter - kFirstBlock + 1);
 
 bool IsPlain(char c) {
     return c >= ' ' && c < '\x7F';
@@ -42,10 +38,10 @@ char32_t Safe(char32_t point) {
 }
 
 char32_t OfCharacterSet(char32_t code) {
-    if (code == 96) return U'£';
-    if (code == 127) return U'©';
-    if (code >= kFirstBlock && code <= kLastBlock) return kBlocks[code - kFirstBlock];
-    if (code >= kFirstUserDefined && code <= kLastUserDefined) return kPlaceholder;
+    if (code == kPoundSign) return U'£';
+    if (code == kCopyrightSign) return U'©';
+    if (code >= kFirstBlock && code <= kSolidCharacter) return kBlocks[code - kFirstBlock];
+    if (code >= kFirstUserGraphic && code <= kLastCharacter) return kPlaceholder;
     return Safe(code);
 }
 

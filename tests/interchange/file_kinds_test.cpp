@@ -61,6 +61,21 @@ TEST(FileKinds, ThatCanBeWrittenHaveRulesAndOnlyTheseAreOffered) {
     }
 }
 
+TEST(FileKinds, AskForTheFilesThatTheyWrite) {
+    for (const FileKind& kind : FileKinds()) {
+        if (!kind.CanWrite()) continue;
+        const std::string pattern = "*" + std::string(kind.extension);
+        EXPECT_TRUE(kind.exportDialog.filter.ends_with("|" + pattern)) << kind.word;
+        const std::string_view proposed = kind.exportDialog.defaultName;
+        EXPECT_TRUE(proposed.empty() || proposed == pattern) << kind.word;
+    }
+}
+
+TEST(FileKinds, OnlyUnVelExtractsComeInSeveralForms) {
+    for (const FileKind& kind : FileKinds())
+        EXPECT_EQ(kind.hasVersions, kind.word == "unvel") << kind.word;
+}
+
 TEST(FileKinds, HaveTheTextsOfTheirDialogs) {
     const FileKind& pc = *FindFileKind("PCVEL");
     EXPECT_EQ(pc.importDialog.defaultName, "*.sce");

@@ -185,6 +185,31 @@ TEST_F(Printing, EveryTableThatMayBePrintedHasATitle) {
     }
 }
 
+TEST_F(Printing, OffersTheListingsOfATable) {
+    const auto captions = [this](TableNum table) {
+        std::vector<std::string> texts;
+        for (const authoring::ListItem& item : Screen(table).form.items)
+            texts.push_back(item.text);
+        return texts;
+    };
+    using Captions = std::vector<std::string>;
+    EXPECT_EQ(captions(TableNum::Adventure), Captions{"Settings"});
+    EXPECT_EQ(captions(TableNum::ProcessTables), Captions{"Processes"});
+    EXPECT_EQ(captions(TableNum::Vocabulary), (Captions{"By Type and Word", "By Type and Word Number"}));
+    EXPECT_EQ(captions(TableNum::Flags), (Captions{"All Flags", "User Flags"}));
+    EXPECT_EQ(captions(TableNum::ProcDesc), (Captions{"All Process Tables", "Described Process Tables"}));
+    EXPECT_EQ(captions(TableNum::Characters),
+              (Captions{"Pictures of the Characters", "Full Listing with Values"}));
+    EXPECT_EQ(captions(TableNum::Pictures), (Captions{"Pictures and Commands", "GOSUB Report"}));
+}
+
+TEST_F(Printing, GivesTheListingThatWasChosen) {
+    PrintScreen screen = Screen(TableNum::Vocabulary);
+    EXPECT_EQ(screen.Check()->report->name, "vocabulary");
+    screen.form.index = 1;
+    EXPECT_EQ(screen.Check()->report->name, "vocabulary-numbers");
+}
+
 TEST_F(Printing, SizesOfKeypadsNameTheirTemplates) {
     EXPECT_EQ(TemplateOfSize(0, dialogs_), "keypad_small");
     EXPECT_EQ(TemplateOfSize(1, dialogs_), "keypad_large");

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "pictures/book_loader.h"
+#include "pictures/characters/character_sets.h"
 #include "platform/error.h"
 #include "support/scripted_person.h"
 #include "support/template_adventure.h"
@@ -57,6 +58,11 @@ class CharacterStore : public testing::Test {
     test::OpenedAdventure adventure_;
     ScriptedPerson person_;
 };
+
+TEST_F(CharacterStore, KeepsNamesOfSetsAsLongAsTheyMayBe) {
+    const store::TableSchema& schema = adventure_->Schema(TableNum::Characters);
+    EXPECT_EQ(schema.fields.at(*schema.Find("charsetname")).size, static_cast<int>(kLongestSetName));
+}
 
 TEST_F(CharacterStore, ListsItsSets) {
     EXPECT_EQ(ListSets(*adventure_), (Lines{"0 - Default", "4 - Runes"}));

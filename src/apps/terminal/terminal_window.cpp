@@ -47,7 +47,7 @@ std::optional<std::filesystem::path> TerminalWindow::AskForFile(const engine::Fi
     const std::optional<std::string> line = Ask(request.title);
     if (!line || line->empty()) return std::nullopt;
     std::filesystem::path name = *line;
-    if (!name.has_extension()) name += "." + std::string(request.extension);
+    if (!name.has_extension()) name += request.extension;
     const std::filesystem::path file = files_.Place(name, request.forWriting);
     std::error_code ignored;
     const bool exists = std::filesystem::exists(file, ignored);

@@ -2,6 +2,7 @@
 
 #include "authoring/batch/batch_import.h"
 #include "interchange/batch/batch_writer.h"
+#include "platform/file_question.h"
 #include "store/extensions.h"
 #include "store/file/file_copy.h"
 #include "text/str_edit.h"
@@ -16,13 +17,9 @@ constexpr std::string_view kExport = "Batch Export";
 constexpr std::string_view kImport = "Batch Import";
 constexpr std::string_view kAll = "ALL";
 
-platform::FileQuestion BatchFileQuestion(ScreenContext& context, std::string title) {
-    platform::FileQuestion question;
-    question.title = std::move(title);
-    question.filter = "Fabula Batch File|*.fbb";
-    question.extension = "fbb";
-    question.start = context.document.File().parent_path();
-    return question;
+platform::FileQuestion BatchFileQuestion(const ScreenContext& context, std::string_view title) {
+    return platform::QuestionFor(title, "Fabula Batch File", store::extension::kBatch,
+                                 context.document.File().parent_path());
 }
 
 /// Asks which process tables; false when the author gave up or typed no list.

@@ -12,11 +12,13 @@
 #include "authoring/files/start_up.h"
 #include "authoring/files/version_numbers.h"
 #include "authoring/files/work_files.h"
-#include "interchange/file_kinds.h"
 #include "interchange/starter.h"
 #include "platform/error.h"
+#include "platform/file_question.h"
 #include "store/create.h"
+#include "store/extensions.h"
 #include "store/file/file_copy.h"
+#include "store/game_source.h"
 #include "text/utf8.h"
 
 // The life of the window and of the adventure in it. What it shows is in main_screen_views.cpp, what it
@@ -29,20 +31,15 @@ using store::TableNum;
 
 constexpr std::string_view kProgramName = "Fabula IDE";
 
-platform::FileQuestion AdventureQuestion(std::string title, const std::filesystem::path& folder) {
-    platform::FileQuestion question;
-    question.title = std::move(title);
-    question.filter = "Fabula Database|*.fbd";
-    question.extension = "fbd";
-    question.start = folder;
-    return question;
+platform::FileQuestion AdventureQuestion(std::string_view title, const std::filesystem::path& folder) {
+    return platform::QuestionFor(title, "Fabula Database", store::extension::kAdventure, folder);
 }
 
 /// What a new adventure says of itself, besides what the default data gives it.
 void MarkAsNew(store::Adventure& adventure) {
     store::Transaction transaction(adventure);
     store::Cursor& settings = adventure.OpenTable(TableNum::Adventure, "source");
-    settings.SetField("source", std::string(interchange::kNewSource));
+    settings.SetField("source", std::string(store::kNewSource));
     settings.Update();
     store::Cursor& system = adventure.OpenTable(TableNum::System, "flagchange");
     system.SetField("flagchange", std::int64_t{1});

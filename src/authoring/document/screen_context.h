@@ -4,12 +4,13 @@
 
 #include "authoring/document/document.h"
 #include "platform/dialogs.h"
+#include "store/record_limits.h"
 #include "store/schema/table_catalogue.h"
 
 namespace fabula::authoring {
 
-/// The process table that the grid shows: one of the first three, or all the others in one view.
-inline constexpr int kOtherProcesses = 3;
+/// The process table that the grid shows: one of those that every game has, or all the others in one view.
+inline constexpr int kOtherProcesses = store::kLastFixedProcess + 1;
 
 /// What the main window and the screens share while an adventure is open.
 struct ScreenContext {

@@ -1,11 +1,13 @@
 #include "authoring/drawing/character_set_files.h"
 
 #include "pictures/characters/character_store.h"
+#include "platform/file_question.h"
+#include "store/extensions.h"
 
 namespace fabula::authoring {
 namespace {
 
-constexpr const char* kCharacterFilter = "Character Set File|*.chr";
+constexpr std::string_view kCharacterSetFile = "Character Set File";
 
 }  // namespace
 
@@ -20,7 +22,7 @@ bool CharacterSetFiles::Begin() {
     }
     platform::FileQuestion question;
     question.title = Title();
-    question.filter = kCharacterFilter;
+    question.filter = platform::FilterOf(kCharacterSetFile, store::extension::kCharacterSets);
     question.start = adventure.GameDir();
     const auto file = context_.dialogs.ChooseFile(question);
     if (!file) return false;
@@ -47,12 +49,10 @@ bool CharacterSetFiles::Run() {
 
 bool CharacterSetFiles::Save() {
     if (selected.empty()) return Refuse(context_.dialogs, "No Set is selected");
-    platform::FileQuestion question;
-    question.title = "Save as a Character Set File";
-    question.filter = kCharacterFilter;
-    question.extension = "chr";
+    platform::FileQuestion question =
+        platform::QuestionFor("Save as a Character Set File", kCharacterSetFile,
+                              store::extension::kCharacterSets, context_.document.Adventure().GameDir());
     question.forWriting = true;
-    question.start = context_.document.Adventure().GameDir();
     const auto file = context_.dialogs.ChooseFile(question);
     return file && pictures::SaveSets(context_.document.Adventure(), Selected(), *file, context_.dialogs);
 }

@@ -65,7 +65,7 @@ void CharacterSetScreen::MoveChoice(int by) {
 std::optional<ScreenRequest> CharacterSetScreen::Open() {
     if (characters_.empty()) return std::nullopt;
     const int number = characters_[chosen_].number;
-    if (!IsEditableCharacter(set_, number)) {
+    if (!pictures::IsEditableCharacter(set_, number)) {
         Refuse(context_.dialogs, "Character " + std::to_string(number) + " cannot be edited");
         return std::nullopt;
     }
@@ -90,7 +90,7 @@ bool CharacterSetScreen::TakeFont() {
     for (; !records.Eof(); records.MoveNext()) {
         const int number = static_cast<int>(records.Number("charnum"));
         const auto found = font.find(number);
-        if (found == font.end() || !IsEditableCharacter(set_, number)) continue;
+        if (found == font.end() || !pictures::IsEditableCharacter(set_, number)) continue;
         records.SetField("charvals", pictures::FormatCharVals(found->second));
         records.Update();
         ++taken;

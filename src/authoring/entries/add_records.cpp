@@ -8,6 +8,7 @@
 
 #include "condacts/catalogue.h"
 #include "condacts/limits.h"
+#include "pictures/characters/character_sets.h"
 #include "pictures/picture_book.h"
 #include "store/character_key.h"
 #include "store/new_flag.h"
@@ -24,9 +25,11 @@ using store::TableNum;
 constexpr int kFlagsAtATime = 25;
 constexpr int kMostAddedFlags = 999;
 
-constexpr int kHighestSet = 998;
-constexpr std::size_t kLongestSetName = 20;
-constexpr const char* kFontOfSetZero = "charsetnum=0 and charnum>=32 and charnum<=127";
+/// The filter of the characters that a new set begins with.
+std::string FontOfSetZero() {
+    return "charsetnum=0 and charnum>=" + std::to_string(pictures::kFirstCharacter) +
+           " and charnum<=" + std::to_string(pictures::kLastOfFont);
+}
 
 /// The highest value of a number field; -1 in a table without a record from 0 on.
 int Highest(store::Adventure& adventure, TableNum table, const std::string& field) {
@@ -43,8 +46,9 @@ std::optional<std::string> AskSetName(platform::Dialogs& dialogs, int set) {
                              .proposal = "My Set " + std::to_string(set)});
         if (!name) return std::nullopt;
         std::string trimmed(text::TrimBlanks(*name));
-        if (!trimmed.empty() && text::Length(trimmed) <= kLongestSetName) return trimmed;
-        Refuse(dialogs, "Set name cannot be blank or more than 20 characters");
+        if (!trimmed.empty() && text::Length(trimmed) <= pictures::kLongestSetName) return trimmed;
+        Refuse(dialogs, "Set name cannot be blank or more than " +
+                            std::to_string(pictures::kLongestSetName) + " characters");
     }
 }
 
@@ -55,7 +59,7 @@ struct ModelCharacter {
 
 std::vector<ModelCharacter> ReadFontOfSetZero(store::Adventure& adventure) {
     store::PreparedQuery row =
-        adventure.Prepare(TableNum::Characters, "charnum, charvals", kFontOfSetZero, "charnum");
+        adventure.Prepare(TableNum::Characters, "charnum, charvals", FontOfSetZero(), "charnum");
     std::vector<ModelCharacter> characters;
     for (bool more = row.First({}); more; more = row.Next())
         characters.push_back({row.Number(0), std::string(row.Text(1))});
@@ -73,7 +77,8 @@ void AddFlags(ScreenContext& context) {
     }
     const int highest = Highest(adventure, TableNum::Flags, "flgnum");
     if (highest - condacts::limit::kHighestSystemFlag > kMostAddedFlags) {
-        Refuse(context.dialogs, "There are over 999 flags.\nNo more flags can be added.");
+        Refuse(context.dialogs, "There are over " + std::to_string(kMostAddedFlags) +
+                                    " flags.\nNo more flags can be added.");
         return;
     }
     const std::string range =
@@ -94,8 +99,9 @@ void AddFlags(ScreenContext& context) {
 void AddCharacterSet(ScreenContext& context) {
     store::Adventure& adventure = context.document.Adventure();
     const int highest = Highest(adventure, TableNum::Characters, "charsetnum");
-    if (highest >= kHighestSet) {
-        Refuse(context.dialogs, "There is a limit of 998 character sets");
+    if (highest >= store::kHighestNewCharacterSet) {
+        Refuse(context.dialogs,
+               "There is a limit of " + std::to_string(store::kHighestNewCharacterSet) + " character sets");
         return;
     }
     const int set = highest + 1;

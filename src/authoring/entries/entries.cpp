@@ -9,6 +9,7 @@
 #include "condacts/catalogue.h"
 #include "condacts/limits.h"
 #include "condacts/words.h"
+#include "pictures/characters/character_sets.h"
 #include "store/character_key.h"
 
 namespace fabula::authoring {
@@ -40,8 +41,6 @@ constexpr EntryTable kEntryTables[] = {
     {TableNum::Pictures, "picture", Screen::Picture, "", true},
 };
 
-constexpr int kLastShade = 15;
-constexpr int kFirstUserGraphic = 144;
 constexpr int kUntouchableFlag = 0;  ///< `flgmod` of a flag that the author may not edit
 
 const EntryTable* FindEntryTable(TableNum table) {
@@ -187,7 +186,8 @@ bool MayEdit(ScreenContext& context) {
         case TableNum::ProcDesc:
             return MayChangeProcess(context, "edited");
         case TableNum::Characters:
-            if (IsEditableCharacter(key / store::kCharactersOfASet, key % store::kCharactersOfASet))
+            if (pictures::IsEditableCharacter(key / store::kCharactersOfASet,
+                                              key % store::kCharactersOfASet))
                 return true;
             return Refuse(context.dialogs, "Character " + std::to_string(key % store::kCharactersOfASet) +
                                                " cannot be edited");
@@ -223,10 +223,6 @@ bool DeleteRecord(ScreenContext& context, std::string_view one, const std::strin
 }
 
 }  // namespace
-
-bool IsEditableCharacter(int set, int number) {
-    return set > 0 || number <= kLastShade || number >= kFirstUserGraphic;
-}
 
 std::optional<ScreenRequest> Entries::AddEntry() {
     const TableNum table = context_.currentTable;

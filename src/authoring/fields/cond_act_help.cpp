@@ -316,9 +316,9 @@ std::string CondActHelp::MeaningOfValue(const CondAct& condAct, std::string_view
                                         std::string_view token) const {
     const auto flag = condacts::NumberOfToken(flagToken);
     const auto number = condacts::NumberOfToken(token);
-    const HeldNumbers* const held = flag && number && TakesWhatFlagHolds(condAct)
-                                        ? FindHeldNumbers(condacts::FlagNumber(*flag))
-                                        : nullptr;
+    const condacts::HeldNumber* const held = flag && number && TakesWhatFlagHolds(condAct)
+                                                 ? FindNamedNumber(condacts::FlagNumber(*flag))
+                                                 : nullptr;
     if (held == nullptr) return "";
     if (held->kind != ParamKind::Word)
         return Quoted(held->kind, MeaningOfNumber({.kind = held->kind}, token));

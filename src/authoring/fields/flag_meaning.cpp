@@ -1,9 +1,9 @@
 #include "authoring/fields/flag_meaning.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "condacts/flags.h"
-#include "condacts/words.h"
 
 namespace fabula::authoring {
 namespace {
@@ -11,37 +11,44 @@ namespace {
 namespace flag = condacts::flag;
 using condacts::ParamKind;
 
-constexpr HeldNumbers kHeld[] = {
-    {flag::kVerb, "verb", ParamKind::Word, condacts::kVerb},
-    {flag::kNoun, "noun", ParamKind::Word, condacts::kNoun},
-    {flag::kAdjective, "adjective", ParamKind::Word, condacts::kAdjective},
-    {flag::kAdverb, "adverb", ParamKind::Word, condacts::kAdverb},
-    {flag::kLocation, "place of the player", ParamKind::Location},
-    {flag::kPrompt, "prompt", ParamKind::SystemMessage},
-    {flag::kPreposition, "preposition", ParamKind::Word, condacts::kPreposition},
-    {flag::kNoun2, "second noun", ParamKind::Word, condacts::kNoun},
-    {flag::kAdjective2, "second adjective", ParamKind::Word, condacts::kAdjective},
-    {flag::kPronounNoun, "noun of the pronoun", ParamKind::Word, condacts::kNoun},
-    {flag::kPronounAdjective, "adjective of the pronoun", ParamKind::Word, condacts::kAdjective},
-    {flag::kObject, "object last referred to", ParamKind::Object},
-    {flag::kObjectPlace, "place of that object", ParamKind::Location},
+struct NameOfFlag {
+    condacts::FlagNumber flag;
+    std::string_view name;
+};
+
+/// What flags hold whose numbers name something.
+constexpr NameOfFlag kNames[] = {
+    {flag::kVerb, "verb"},
+    {flag::kNoun, "noun"},
+    {flag::kAdjective, "adjective"},
+    {flag::kAdverb, "adverb"},
+    {flag::kLocation, "place of the player"},
+    {flag::kPrompt, "prompt"},
+    {flag::kPreposition, "preposition"},
+    {flag::kNoun2, "second noun"},
+    {flag::kAdjective2, "second adjective"},
+    {flag::kPronounNoun, "noun of the pronoun"},
+    {flag::kPronounAdjective, "adjective of the pronoun"},
+    {flag::kObject, "object last referred to"},
+    {flag::kObjectPlace, "place of that object"},
 };
 
 /// What an import writes into flags that a game uses.
 constexpr std::string_view kMarkOfAnImport = "Used by this Adventure";
 
-constexpr std::string_view kWithValue[] = {"EQ", "NOTEQ", "LET"};
+std::string_view FixedName(condacts::FlagNumber flag) {
+    const auto* const found = std::ranges::find(kNames, flag, &NameOfFlag::flag);
+    return found == std::end(kNames) ? "" : found->name;
+}
 
 }  // namespace
 
-const HeldNumbers* FindHeldNumbers(condacts::FlagNumber flag) {
-    const auto* const found =
-        std::ranges::find_if(kHeld, [flag](const HeldNumbers& held) { return held.flag == flag; });
-    return found == std::end(kHeld) ? nullptr : found;
+const condacts::HeldNumber* FindNamedNumber(condacts::FlagNumber flag) {
+    return FixedName(flag).empty() ? nullptr : condacts::FindHeldNumber(flag);
 }
 
 std::string FlagName(condacts::FlagNumber flag, std::string_view description) {
-    if (const HeldNumbers* const held = FindHeldNumbers(flag)) return std::string(held->name);
+    if (const std::string_view name = FixedName(flag); !name.empty()) return std::string(name);
     std::size_t end = description.size();
     for (const std::string_view stop : {". ", ", ", "; ", " ("})
         end = std::min(end, description.find(stop));
@@ -52,7 +59,7 @@ std::string FlagName(condacts::FlagNumber flag, std::string_view description) {
 
 bool TakesWhatFlagHolds(const condacts::CondAct& condAct) {
     return condAct.params[0].kind == ParamKind::Flag && condAct.params[1].kind == ParamKind::Value &&
-           std::ranges::find(kWithValue, condAct.name) != std::end(kWithValue);
+           condacts::TakesNumberOfFlag(condAct.name) == condacts::TakesNumber::AsTheSame;
 }
 
 }  // namespace fabula::authoring

@@ -9,6 +9,7 @@
 #include "authoring/files/start_up.h"
 #include "authoring/jobs/status_text.h"
 #include "platform/error.h"
+#include "platform/file_question.h"
 #include "platform/whole_file.h"
 #include "store/extensions.h"
 #include "store/file/file_copy.h"
@@ -163,8 +164,10 @@ void InterchangeScreen::ChooseSource() {
 void InterchangeScreen::ChooseDatabase() {
     path start = text::Trimmed(database);
     if (start.empty()) start = path(text::Trimmed(source)).parent_path();
-    const auto file =
-        host_.dialogs.ChooseFile({"Create a Fabula Database", "Fabula Database|*.fbd", "fbd", true, start});
+    platform::FileQuestion question = platform::QuestionFor("Create a Fabula Database", "Fabula Database",
+                                                            store::extension::kAdventure, start);
+    question.forWriting = true;
+    const auto file = host_.dialogs.ChooseFile(question);
     if (!file) return;
     database = file->string();
     agreed_ = *file;

@@ -10,6 +10,7 @@
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "condacts/validate.h"
+#include "pictures/characters/character_sets.h"
 #include "text/str_edit.h"
 #include "text/utf8.h"
 
@@ -116,16 +117,16 @@ class Verification {
     }
 
     void CheckMarlo() {
-        Step("Verifying Object table for weights > 63");
-        PreparedQuery heavy = adventure_.Prepare(
-            TableNum::Objects, "objnum", "objweight>" + std::to_string(condacts::limit::kHeaviestObject));
+        const std::string heaviest = std::to_string(condacts::limit::kHeaviestObject);
+        const std::string lastType = std::to_string(condacts::kReserved);
+        Step("Verifying Object table for weights > " + heaviest);
+        PreparedQuery heavy = adventure_.Prepare(TableNum::Objects, "objnum", "objweight>" + heaviest);
         for (bool more = heavy.First({}); more; more = heavy.Next()) {
-            Fail("Object # " + std::to_string(heavy.Number(0)) + " has a weight > 63.");
+            Fail("Object # " + std::to_string(heavy.Number(0)) + " has a weight > " + heaviest + ".");
         }
-        Step("Verifying Vocabulary for Vocabulary Type > 7");
+        Step("Verifying Vocabulary for Vocabulary Type > " + lastType);
         bool wordsFit = true;
-        PreparedQuery words = adventure_.Prepare(TableNum::Vocabulary, "word",
-                                                 "voctypen>" + std::to_string(condacts::kReserved));
+        PreparedQuery words = adventure_.Prepare(TableNum::Vocabulary, "word", "voctypen>" + lastType);
         for (bool more = words.First({}); more; more = words.Next()) {
             Fail("Word " + std::string(words.Text(0)) + " has an invalid Word Type.");
             wordsFit = false;
@@ -280,8 +281,8 @@ class Verification {
                 "allowed in " +
                 std::string(rules_->name));
         }
-        if (CountRecords(adventure_, TableNum::Characters, "charnum", "charnum>143") >
-            kMostGraphicCharacters) {
+        if (CountRecords(adventure_, TableNum::Characters, "charnum",
+                         "charnum>" + std::to_string(pictures::kSolidCharacter)) > kMostGraphicCharacters) {
             Step("There are more than 19 UDGs. Only the first 19 will be exported.");
         }
     }

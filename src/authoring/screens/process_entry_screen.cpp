@@ -4,7 +4,9 @@
 #include <cstdint>
 
 #include "condacts/convert.h"
+#include "condacts/limits.h"
 #include "condacts/parser.h"
+#include "condacts/process_filters.h"
 #include "condacts/validate.h"
 #include "condacts/word_filters.h"
 #include "text/numbers.h"
@@ -20,8 +22,7 @@ using condacts::Word;
 using condacts::WordNumber;
 using store::TableNum;
 
-/// The tables below this number are there in every game.
-constexpr int kFirstNewProcess = 3;
+constexpr int kFirstNewProcess = condacts::limit::kLastFixedProcess.value + 1;
 
 std::string NumberText(std::int64_t number) {
     return std::to_string(number);
@@ -115,8 +116,8 @@ void ProcessEntryScreen::Propose(const ScreenRequest& request) {
     Choose(noun, condacts::kNoWord, condacts::kNoWordNumber, condacts::kReserved);
     int table = context_.currentESNum;
     if (table >= kOtherProcesses) {
-        store::PreparedQuery current =
-            Adventure().Prepare(TableNum::ProcessTables, "estype", "canum=? and estype>2");
+        store::PreparedQuery current = Adventure().Prepare(
+            TableNum::ProcessTables, "estype", "canum=? and " + condacts::BehindFixedProcesses("estype"));
         const bool inView = current.First({std::int64_t{context_.currentEntry}});
         table = inView ? static_cast<int>(current.Number(0)) : kOtherProcesses;
     }

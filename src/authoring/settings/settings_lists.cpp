@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "interchange/file_kinds.h"
+#include "store/game_source.h"
 #include "store/setup.h"
 
 namespace fabula::authoring {
@@ -13,7 +14,6 @@ using store::TableNum;
 
 constexpr int kChannels = 16;
 constexpr int kUsualWidths[] = {32, 35, 40, 42, 51, 64, 72, 80, 100, 120, 132};
-constexpr const char* kUnknownSource = "Unknown!";
 
 bool IsMarlo(std::string_view type) {
     return store::AdventureKindFrom(type) == store::AdventureKind::Marlo;
@@ -83,7 +83,8 @@ std::vector<ListItem> PrintWidthItems(int present) {
 std::vector<ListItem> SourceItems() {
     const auto kinds = interchange::FileKinds();
     const int last = static_cast<int>(kinds.size()) + 1;
-    std::vector<ListItem> items{{0, std::string(interchange::kNewSource)}, {last, kUnknownSource}};
+    std::vector<ListItem> items{{0, std::string(store::kNewSource)},
+                                {last, std::string(kUnknownSourceShown)}};
     for (const interchange::FileKind& kind : kinds)
         items.push_back({kind.settings.sourceRow, std::string(kind.settings.source)});
     std::ranges::sort(items, {}, &ListItem::number);

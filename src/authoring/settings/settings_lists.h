@@ -25,6 +25,8 @@ std::vector<ListItem> ChannelItems();
 std::vector<ListItem> PrintWidthItems(int present);
 /// Where a game may have come from.
 std::vector<ListItem> SourceItems();
+/// What stands there for store::kUnknownSource.
+inline constexpr std::string_view kUnknownSourceShown = "Unknown!";
 
 /// The types that a game of type `present` may be given, and what the author is told of them.
 std::vector<ListItem> TypeItems(std::string_view present);

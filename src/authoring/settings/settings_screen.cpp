@@ -9,6 +9,7 @@
 #include "authoring/fields/text_field.h"
 #include "authoring/settings/settings_lists.h"
 #include "platform/error.h"
+#include "store/game_source.h"
 #include "store/ifid.h"
 #include "text/line_ends.h"
 #include "text/markup.h"
@@ -90,7 +91,7 @@ void SettingsScreen::ReadGame(const Cursor& record) {
     maxObjects = std::to_string(record.Number("maxobj"));
     maxWeight = std::to_string(record.Number("maxweight"));
     const std::string origin = text::Trimmed(record.Text("source"));
-    source.ChooseText(origin == "Unknown" ? "Unknown!" : origin);
+    source.ChooseText(origin == store::kUnknownSource ? std::string(kUnknownSourceShown) : origin);
 }
 
 void SettingsScreen::ReadLook(const Cursor& record) {

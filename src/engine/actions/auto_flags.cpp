@@ -14,9 +14,11 @@ struct DefaultKind {
     int kind;
 };
 
-constexpr DefaultKind kDefaultKinds[] = {{FlagNumber(2), -4}, {FlagNumber(3), -5}, {FlagNumber(4), -6},
-                                         {FlagNumber(5), -1}, {FlagNumber(6), -1}, {FlagNumber(7), -1},
-                                         {FlagNumber(8), -1}, {FlagNumber(9), -2}, {FlagNumber(10), -3}};
+constexpr DefaultKind kDefaultKinds[] = {
+    {flag::kDescriptions, -4}, {flag::kDarkDescriptions, -5}, {flag::kUnlitDescriptions, -6},
+    {flag::kTurns1, -1},       {flag::kTurns2, -1},           {flag::kTurns3, -1},
+    {flag::kTurns4, -1},       {flag::kDarkTurns, -2},        {flag::kUnlitTurns, -3},
+};
 
 bool IsDue(const Game& game, int kind, bool isDescribe) {
     const bool dark = game.Flag(flag::kDark) != 0;

@@ -5,6 +5,7 @@
 #include "engine/game.h"
 #include "engine/saved_game.h"
 #include "platform/error.h"
+#include "store/extensions.h"
 #include "text/markup.h"
 
 namespace fabula::engine {
@@ -13,11 +14,17 @@ namespace {
 
 constexpr std::string_view kErrorTitle = "Error";
 
-constexpr FileRequest kSaveRequest = {"Save as a Fabula Save File", "Fabula Save File|*.sav", "sav", true};
-constexpr FileRequest kLoadRequest = {"Open Existing Fabula Save File", "Fabula Save File|*.sav", "sav",
-                                      false};
-constexpr FileRequest kWriteScriptRequest = {"Output SCRIPT Name", "Fabula Script|*.scr", "scr", true};
-constexpr FileRequest kReadScriptRequest = {"Input SCRIPT Name", "Fabula Script|*.scr", "scr", false};
+constexpr std::string_view kSaveFile = "Fabula Save File";
+constexpr std::string_view kScriptFile = "Fabula Script";
+
+constexpr FileRequest kSaveRequest = {"Save as a Fabula Save File", kSaveFile, store::extension::kSavedGame,
+                                      true};
+constexpr FileRequest kLoadRequest = {"Open Existing Fabula Save File", kSaveFile,
+                                      store::extension::kSavedGame, false};
+constexpr FileRequest kWriteScriptRequest = {"Output SCRIPT Name", kScriptFile, store::extension::kScript,
+                                             true};
+constexpr FileRequest kReadScriptRequest = {"Input SCRIPT Name", kScriptFile, store::extension::kScript,
+                                            false};
 
 bool Fail(Game& game, std::string_view message) {
     game.host.teller.Tell(message, kErrorTitle);

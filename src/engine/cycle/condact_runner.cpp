@@ -316,7 +316,7 @@ bool CondActRunner::LeaveBecause(Leaving why) {
 
 void CondActRunner::GiveFile(const std::optional<std::filesystem::path>& file) {
     question_->file = file;
-    if (file && !file->has_extension()) *question_->file += "." + std::string(question_->request.extension);
+    if (file && !file->has_extension()) *question_->file += question_->request.extension;
 }
 
 void CondActRunner::UseFile() {

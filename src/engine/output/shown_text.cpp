@@ -1,5 +1,6 @@
 #include "engine/output/shown_text.h"
 
+#include "text/character_numbers.h"
 #include "text/line_ends.h"
 #include "text/markup.h"
 #include "text/utf8.h"
@@ -9,7 +10,6 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr char kHardSpace = 127;
 constexpr char kMarkerLead = text::kLineEndMarker[0];
 
 bool IsMarker(std::string_view text, std::size_t at) {
@@ -39,17 +39,15 @@ void AppendShown(std::string_view text, bool characterPane, std::string& shown) 
     }
     if (characterPane) return;
     for (std::size_t at = begin; at < shown.size(); ++at) {
-        if (shown[at] == kHardSpace) shown[at] = ' ';
+        if (shown[at] == text::kHardSpace[0]) shown[at] = ' ';
     }
 }
 
 void AppendCharacter(int number, bool characterPane, std::string& shown) {
-    constexpr int kPound = 96;
-    constexpr int kCopyright = 127;
-    if (number < 32 || number > 255) return;
+    if (number < text::kFirstCharacter || number > 255) return;
     if (characterPane) return text::AppendCodePoint(shown, static_cast<char32_t>(number));
-    if (number == kPound) return text::AppendCodePoint(shown, U'\u00A3');
-    if (number == kCopyright) return text::AppendCodePoint(shown, U'\u00A9');
+    if (number == text::kPoundSign) return text::AppendCodePoint(shown, U'\u00A3');
+    if (number == text::kCopyrightSign) return text::AppendCodePoint(shown, U'\u00A9');
     shown += text::FromWindows1252(std::string(1, static_cast<char>(number)));
 }
 

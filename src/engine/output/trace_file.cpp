@@ -12,9 +12,9 @@ namespace fabula::engine {
 
 std::string TraceFileName(const platform::DateTime& begun) {
     char name[80];
-    std::snprintf(name, sizeof name, "TRC%04d%02d%02d_%02d%02d%02d.trc", begun.year, begun.month, begun.day,
+    std::snprintf(name, sizeof name, "TRC%04d%02d%02d_%02d%02d%02d", begun.year, begun.month, begun.day,
                   begun.hour, begun.minute, begun.second);
-    return name;
+    return std::string(name).append(store::extension::kTrace);
 }
 
 std::string TraceHeader(const std::filesystem::path& adventure, const platform::DateTime& begun) {

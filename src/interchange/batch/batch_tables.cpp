@@ -1,5 +1,7 @@
 #include "interchange/batch/batch_tables.h"
 
+#include "condacts/process_filters.h"
+#include "condacts/word_filters.h"
 #include "interchange/fabula/export_fields.h"
 #include "store/new_flag.h"
 #include "text/bad_bytes.h"
@@ -13,16 +15,16 @@ namespace {
 using store::TableNum;
 
 constexpr BatchTable kTables[] = {
-    {TableNum::Pictures, "/GRA", ""},
-    {TableNum::ProcDesc, "/PRD", "pmsgnum>2"},
-    {TableNum::Flags, "/FLG", store::kUserFlags},
-    {TableNum::Vocabulary, "/VOC", "voctypen<>7"},
-    {TableNum::SystemMessages, "/SMS", ""},
-    {TableNum::ProcessTables, "/PRO", ""},
-    {TableNum::Adventure, "/ADV", ""},
-    {TableNum::Objects, "/OBJ", ""},
-    {TableNum::Messages, "/MSG", ""},
-    {TableNum::Locations, "/LOC", ""},
+    {TableNum::Pictures, "/GRA", nullptr},
+    {TableNum::ProcDesc, "/PRD", [] { return condacts::BehindFixedProcesses("pmsgnum"); }},
+    {TableNum::Flags, "/FLG", store::OfUserFlags},
+    {TableNum::Vocabulary, "/VOC", condacts::ButReserved},
+    {TableNum::SystemMessages, "/SMS", nullptr},
+    {TableNum::ProcessTables, "/PRO", nullptr},
+    {TableNum::Adventure, "/ADV", nullptr},
+    {TableNum::Objects, "/OBJ", nullptr},
+    {TableNum::Messages, "/MSG", nullptr},
+    {TableNum::Locations, "/LOC", nullptr},
 };
 
 constexpr std::string_view kEndMarkers[] = {

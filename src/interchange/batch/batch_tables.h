@@ -38,7 +38,7 @@ struct BatchField {
 struct BatchTable {
     store::TableNum number;
     std::string_view marker;  ///< "/LOC"
-    std::string_view filter;  ///< of the records that travel; "" for all
+    std::string (*filter)();  ///< of the records that travel; nullptr for all
 };
 
 inline constexpr std::string_view kBatchSectionEnd = "/END";

@@ -110,7 +110,7 @@ std::string ExportTable(store::Adventure& adventure, const BatchSelection& selec
         if (table.number == TableNum::ProcessTables) {
             AddProcesses(adventure, table, selection, file);
         } else {
-            AddSection(adventure, table, std::string(table.filter), selection, file);
+            AddSection(adventure, table, table.filter ? table.filter() : std::string(), selection, file);
         }
     }
     return file;

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "condacts/limits.h"
+
 namespace fabula::interchange {
 
 /// What sets the two kinds of source apart.
@@ -14,7 +16,9 @@ struct PcDialect {
     bool getsScriptCommands;  ///< the game gets the words and entries that control scripts
 };
 
-inline constexpr PcDialect kPcSource{"PCVEL", ';', 5, false, true};
-inline constexpr PcDialect kAceSource{"ACE", '#', 30, true, false};
+inline constexpr PcDialect kPcSource{"PCVEL", ';', condacts::SignificantLetters(store::AdventureKind::Vel),
+                                     false, true};
+inline constexpr PcDialect kAceSource{
+    "ACE", '#', condacts::SignificantLetters(store::AdventureKind::Fabula), true, false};
 
 }  // namespace fabula::interchange

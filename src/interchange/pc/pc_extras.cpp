@@ -32,7 +32,7 @@ constexpr std::string_view kCommentMark = "! comment ";
 struct ExtraTable {
     TableNum table;
     std::string_view keyField;             ///< "" for the settings
-    std::string_view where;                ///< which records are written
+    std::string where;                     ///< which records are written
     bool isOnlyForGraphics;                ///< written only when the game draws or has character sets
     bool mayBeAdded;                       ///< reading may add a record
     std::vector<std::string_view> fields;  ///< none: all that travel
@@ -49,7 +49,7 @@ const std::vector<ExtraTable>& ExtraTables() {
         {TableNum::Adventure, "", "", false, false, {}},
         {TableNum::Locations, "locnum", "", false, false, {"locshortdesc", "picloc", "pickey"}},
         {TableNum::ProcDesc, "pmsgnum", "", false, false, {"pmsgmsg"}},
-        {TableNum::Flags, "flgnum", store::kEditableUserFlags, false, false, {"flguse", "flgdesc"}},
+        {TableNum::Flags, "flgnum", store::OfEditableUserFlags(), false, false, {"flguse", "flgdesc"}},
         {TableNum::Characters, "charkey", "", true, true, {}},
         {TableNum::Pictures, "locnum", "", false, true, {}},
     };

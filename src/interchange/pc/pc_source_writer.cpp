@@ -10,6 +10,7 @@
 #include "condacts/limits.h"
 #include "condacts/load.h"
 #include "condacts/parser.h"
+#include "condacts/process_filters.h"
 #include "interchange/fabula/export_fields.h"
 #include "interchange/pc/ace_tags.h"
 #include "interchange/pc/pc_extras.h"
@@ -311,7 +312,8 @@ class SourceWriter {
         Comment("/FLG This is added to give documentation on the flags.");
         Document(TableNum::Flags, "flgnum", "flgdesc", "flgmod>0 and flgdesc<>''");
         Comment("/PRD This is added to give documentation on the Processes > 2.");
-        Document(TableNum::ProcDesc, "pmsgnum", "pmsgmsg", "pmsgnum>2 and pmsgmsg <> ''");
+        Document(TableNum::ProcDesc, "pmsgnum", "pmsgmsg",
+                 condacts::BehindFixedProcesses("pmsgnum") + " and pmsgmsg <> ''");
     }
 
     void Document(TableNum table, std::string_view keyField, std::string_view textField,

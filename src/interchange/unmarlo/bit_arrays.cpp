@@ -4,6 +4,7 @@
 
 #include "interchange/listing_numbers.h"
 #include "pictures/characters/glyph.h"
+#include "store/character_key.h"
 #include "text/format.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
@@ -15,8 +16,6 @@ constexpr std::string_view kOpening = "static char ";
 constexpr std::string_view kBrackets = "[]";
 constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef";
 constexpr std::size_t kRows = pictures::kGlyphSide;
-constexpr int kCharactersASet = 1000;
-constexpr std::size_t kLongestSetName = 20;
 /// More than the largest array has; what follows is passed over.
 constexpr std::size_t kMostRows = kRows * 256;
 
@@ -76,10 +75,10 @@ void ListedCharacters::Store(int set, int first, const std::vector<std::string>&
     const std::string label = text::FormatText("SET !%z4", {std::int64_t{set}});
     for (std::size_t i = 0; i < characters.size(); ++i) {
         const std::int64_t number = first + static_cast<int>(i);
-        store::Cursor& record = table_.GoToOrAdd(std::int64_t{set} * kCharactersASet + number);
+        store::Cursor& record = table_.GoToOrAdd(std::int64_t{set} * store::kCharactersOfASet + number);
         record.SetField("charset", label);
         record.SetField("charsetnum", std::int64_t{set});
-        record.SetField("charsetname", std::string(text::Left(setName, kLongestSetName)));
+        record.SetField("charsetname", std::string(text::Left(setName, pictures::kLongestSetName)));
         record.SetField("charnum", number);
         record.SetField("charvals", characters[i]);
         table_.Update();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "interchange/keyed_table.h"
+#include "pictures/characters/character_sets.h"
 
 namespace fabula::interchange {
 
@@ -63,8 +64,8 @@ class ListedCharacters {
 };
 
 /// How many characters of each kind a listing has.
-inline constexpr std::size_t kUserGraphics = 21;
-inline constexpr std::size_t kFontCharacters = 96;
-inline constexpr std::size_t kShades = 16;
+inline constexpr std::size_t kUserGraphics = pictures::kLastCharacter - pictures::kFirstUserGraphic + 1;
+inline constexpr std::size_t kFontCharacters = pictures::kLastOfFont - pictures::kFirstCharacter + 1;
+inline constexpr std::size_t kShades = pictures::kLastShade + 1;
 
 }  // namespace fabula::interchange

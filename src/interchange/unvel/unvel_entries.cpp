@@ -1,3 +1,4 @@
+#include "condacts/limits.h"
 #include "interchange/unmarlo/listed_entries.h"
 #include "interchange/unmarlo/listing_lines.h"
 #include "interchange/unvel/unvel_section.h"
@@ -15,10 +16,6 @@ using store::TableNum;
 constexpr Columns kFirstWordColumns{0, 6};
 constexpr Columns kSecondWordColumns{6, 5};
 constexpr Columns kCondActColumns{17, 80};
-
-bool IsVerbNounOrReserved(const Word& word) {
-    return word.type == condacts::kVerb || word.type == condacts::kNoun || word.type == condacts::kReserved;
-}
 
 class Entries final : public ListingSection {
   public:
@@ -44,7 +41,7 @@ class Entries final : public ListingSection {
 
     void Finish() override {
         Flush();
-        if (table_.value <= kLastDefaultTable) return;
+        if (table_ <= condacts::limit::kLastFixedProcess) return;
         KeyedTable tables(job_.Adventure(), TableNum::ProcDesc);
         if (!tables.Has(table_.value)) StoreText(tables, "pmsgmsg", table_.value, "");
     }
@@ -52,7 +49,7 @@ class Entries final : public ListingSection {
   private:
     /// In a game of the older engine a verb may have come in as a noun.
     const Word* FirstWord(std::string_view word) const {
-        if (!job_.isMarlo) return job_.words.Find(word, IsVerbNounOrReserved);
+        if (!job_.isMarlo) return job_.words.Find(word, condacts::MayBeEntryVerb);
         const Word* found = job_.words.Find(word, condacts::IsMovementWordOrReserved);
         return found != nullptr ? found : job_.words.Find(word, condacts::IsNounOrReserved);
     }

@@ -42,7 +42,8 @@ void StoreFlagNotes(store::Adventure& adventure, const UnVelNotes& notes) {
 void StoreProcessNotes(store::Adventure& adventure, const UnVelNotes& notes) {
     KeyedTable tables(adventure, TableNum::ProcDesc);
     for (const auto& [number, text] : notes.All()) {
-        if (number > kLastDefaultTable && number <= condacts::limit::kHighestProcess.value)
+        if (number > condacts::limit::kLastFixedProcess.value &&
+            number <= condacts::limit::kHighestProcess.value)
             StoreText(tables, "pmsgmsg", number, std::string(text::Left(text, kLongestTableText)));
     }
 }

@@ -4,6 +4,7 @@
 #include "interchange/unmarlo/pictures_of_listing.h"
 #include "interchange/unvel/unvel_section.h"
 #include "pictures/characters/character_sets.h"
+#include "store/character_key.h"
 #include "text/format.h"
 #include "text/str_edit.h"
 
@@ -12,7 +13,6 @@ namespace {
 
 constexpr std::string_view kSetHeading = "CharSet ";
 constexpr std::string_view kFontName = "font_bits";
-constexpr int kHighestSet = 998;
 
 class Characters final : public ListingSection {
   public:
@@ -25,7 +25,8 @@ class Characters final : public ListingSection {
 
     void Line(std::string_view line) override {
         if (line.starts_with(kSetHeading)) {
-            set_ = ListedNumber(text::TrimBlanks(line.substr(kSetHeading.size())), kHighestSet);
+            set_ = ListedNumber(text::TrimBlanks(line.substr(kSetHeading.size())),
+                                store::kHighestNewCharacterSet);
             return;
         }
         arrays_.Line(line);
@@ -42,7 +43,7 @@ class Characters final : public ListingSection {
         if (name == kFontName) return set_;
         const std::string prefix = std::string(kFontName) + "_";
         if (!name.starts_with(prefix)) return std::nullopt;
-        return ListedNumber(name.substr(prefix.size()), kHighestSet);
+        return ListedNumber(name.substr(prefix.size()), store::kHighestNewCharacterSet);
     }
 
     std::string SetName(int set) const {

@@ -12,9 +12,6 @@
 
 namespace fabula::interchange {
 
-/// The tables that every adventure has come first.
-inline constexpr int kLastDefaultTable = 2;
-
 /// What the sections of an UnVel listing share besides.
 struct UnVelJob {
     ListingJob& listing;

@@ -161,10 +161,9 @@ void WriteUnVelPictures(ExportContext& context, UnVelFile& file) {
 
 void WriteUnVelCharacters(ExportContext& context, UnVelFile& file) {
     const pictures::CharacterSets sets = pictures::LoadCharacterSets(context.adventure);
-    constexpr int kLastOfFont = pictures::kFirstCharacter + static_cast<int>(kFontCharacters) - 1;
     file.Record("Characters");
     file.UnVelHdr("Charset 0", true);
-    WriteArray(file, "font_bits", Range(sets, 0, pictures::kFirstCharacter, kLastOfFont));
+    WriteArray(file, "font_bits", Range(sets, 0, pictures::kFirstCharacter, pictures::kLastOfFont));
     file.UnVelHdr("UDG data", true);
     WriteArray(
         file, "udg_bits",
@@ -174,7 +173,7 @@ void WriteUnVelCharacters(ExportContext& context, UnVelFile& file) {
     for (const int set : sets.Sets()) {
         if (set == 0) continue;
         file.UnVelHdr("CharSet " + std::to_string(set), true);
-        WriteArray(file, "font_bits", Range(sets, set, pictures::kFirstCharacter, kLastOfFont));
+        WriteArray(file, "font_bits", Range(sets, set, pictures::kFirstCharacter, pictures::kLastOfFont));
     }
 }
 

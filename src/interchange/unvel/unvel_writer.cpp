@@ -8,6 +8,7 @@
 #include "condacts/load.h"
 #include "condacts/parser.h"
 #include "condacts/places.h"
+#include "condacts/process_filters.h"
 #include "interchange/fabula/export_fields.h"
 #include "interchange/pc/pc_extras.h"
 #include "interchange/source_file.h"
@@ -27,7 +28,7 @@ namespace {
 using store::Cursor;
 using store::TableNum;
 
-constexpr std::size_t kLetters = 5;
+constexpr std::size_t kLetters = condacts::SignificantLetters(store::AdventureKind::Vel);
 constexpr const char* kConnectionLine = "Location!%s4!:  !%a5!%s3";
 /// Exits behind the first of a location stand below it; the oldest form puts them a column further right.
 constexpr const char* kNextConnection = "%t16!%a5!%s3";
@@ -81,7 +82,7 @@ class ExtractWriter {
         WriteNotes("FLAG DESCRIPTIONS", "on the Flags", TableNum::Flags, "flgnum", "flgdesc",
                    "flgmod>0 and flgdesc<>''", "; Flag  !%s4");
         WriteNotes("PROCESS TABLE DESCRIPTIONS", "on the Processes", TableNum::ProcDesc, "pmsgnum",
-                   "pmsgmsg", "pmsgnum>2", "; Process!%s4");
+                   "pmsgmsg", condacts::BehindFixedProcesses("pmsgnum"), "; Process!%s4");
         WriteCommentSection();
         file_.Finish();
     }

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "authoring/document/screen_context.h"
-#include "condacts/words.h"
+#include "condacts/word_filters.h"
 #include "listings/range_text.h"
 
 namespace fabula::listings {
@@ -12,72 +12,9 @@ namespace {
 
 using store::TableNum;
 
-struct TableTitle {
-    TableNum table{};
-    int process = 0;
-    std::string_view title;
-};
-
-constexpr TableTitle kTitles[] = {
-    {TableNum::Locations, 0, "Location Table"},
-    {TableNum::Messages, 0, "Messages Table"},
-    {TableNum::SystemMessages, 0, "System Message Table"},
-    {TableNum::Objects, 0, "Object Table"},
-    {TableNum::Adventure, 0, "Adventure Settings"},
-    {TableNum::ProcessTables, 0, "Response (P0) Table"},
-    {TableNum::ProcessTables, 1, "Process 1 Table"},
-    {TableNum::ProcessTables, 2, "Process 2 Table"},
-    {TableNum::ProcessTables, authoring::kOtherProcesses, "Other Process Tables"},
-    {TableNum::Vocabulary, 0, "Vocabulary Table"},
-    {TableNum::Flags, 0, "Flag Descriptions Table"},
-    {TableNum::ProcDesc, 0, "Process Descriptions Table"},
-    {TableNum::Characters, 0, "Character Set Table"},
-    {TableNum::Pictures, 0, "Graphics Table"},
-    {TableNum::Templates, 0, "Keypad Templates"},
-};
-
-/// The listings of a table, the first one chosen at first.
-struct Form {
-    TableNum table{};
-    std::string_view text;
-    std::string_view report;
-};
-
-constexpr Form kForms[] = {
-    {TableNum::Locations, "Locations", "locations"},
-    {TableNum::Messages, "Messages", "messages"},
-    {TableNum::SystemMessages, "System Messages", "system-messages"},
-    {TableNum::Objects, "Objects", "objects"},
-    {TableNum::Adventure, "Settings", "settings"},
-    {TableNum::ProcessTables, "Processes", "processes"},
-    {TableNum::Vocabulary, "By Type and Word", "vocabulary"},
-    {TableNum::Vocabulary, "By Type and Word Number", "vocabulary-numbers"},
-    {TableNum::Flags, "All Flags", "flags"},
-    {TableNum::Flags, "User Flags", "user-flags"},
-    {TableNum::ProcDesc, "All Process Tables", "process-descriptions"},
-    {TableNum::ProcDesc, "Described Process Tables", "user-process-descriptions"},
-    {TableNum::Characters, "Pictures of the Characters", "character-sets"},
-    {TableNum::Characters, "Full Listing with Values", "character-sets-full"},
-    {TableNum::Pictures, "Pictures and Commands", "graphics"},
-    {TableNum::Pictures, "GOSUB Report", "gosub"},
-    {TableNum::Templates, "Keypad Template", "templates"},
-};
-
-/// The types of word that an entry may begin with.
-constexpr int kVerbTypes[] = {condacts::kVerb, condacts::kNoun, condacts::kReserved};
-
-std::string WordTypesFilter(const std::vector<int>& types) {
-    std::string filter;
-    for (const int type : types) {
-        if (!filter.empty()) filter += " or ";
-        filter += "voctypen=" + std::to_string(type);
-    }
-    return filter;
-}
-
-std::vector<authoring::ListItem> WordItems(store::Adventure& adventure, const std::vector<int>& types) {
+std::vector<authoring::ListItem> WordItems(store::Adventure& adventure, const std::string& types) {
     store::PreparedQuery rows =
-        adventure.Prepare(TableNum::Vocabulary, "vocnum, word", WordTypesFilter(types), "word, voctypen");
+        adventure.Prepare(TableNum::Vocabulary, "vocnum, word", types, "word, voctypen");
     std::vector<authoring::ListItem> words;
     for (bool more = rows.First({}); more; more = rows.Next())
         words.push_back({static_cast<int>(rows.Number(0)), std::string(rows.Text(1))});
@@ -86,29 +23,19 @@ std::vector<authoring::ListItem> WordItems(store::Adventure& adventure, const st
 
 }  // namespace
 
-std::string PrintTitle(TableNum table, int process) {
-    for (const TableTitle& title : kTitles) {
-        if (title.table == table && title.process == process) return std::string(title.title);
-    }
-    return "";
-}
-
-bool HasPrintTitle(TableNum table) {
-    return std::ranges::any_of(kTitles, [&](const TableTitle& title) { return title.table == table; });
-}
-
 PrintScreen::PrintScreen(store::Adventure& adventure, TableNum table, int process, Purpose purpose,
                          platform::Dialogs& dialogs)
     : adventure_(adventure), table_(table), process_(process), purpose_(purpose), dialogs_(dialogs) {
-    for (std::size_t i = 0; i < std::size(kForms); ++i) {
-        if (kForms[i].table == table)
-            form.items.push_back({static_cast<int>(i), std::string(kForms[i].text)});
+    const auto reports = AllReports();
+    for (std::size_t i = 0; i < reports.size(); ++i) {
+        if (reports[i].table == table && !reports[i].caption.empty())
+            form.items.push_back({static_cast<int>(i), std::string(reports[i].caption)});
     }
     form.index = form.items.empty() ? -1 : 0;
     if (!HasSpecial()) return;
-    for (const int type : kVerbTypes)
+    for (const int type : condacts::kEntryVerbTypes)
         wordType.items.push_back({type, std::string(condacts::WordTypeName(type))});
-    noun.items = WordItems(adventure, {condacts::kNoun, condacts::kReserved});
+    noun.items = WordItems(adventure, condacts::OfWordTypes({condacts::kNoun, condacts::kReserved}));
 }
 
 std::string PrintScreen::Title() const {
@@ -120,7 +47,7 @@ const Report& PrintScreen::ChosenReport() const {
     if (complete) return *FindReport("adventure");
     if (special) return *FindReport("verb-noun");
     const authoring::ListItem* const chosen = form.Chosen();
-    return *FindReport(kForms[chosen ? static_cast<std::size_t>(chosen->number) : 0].report);
+    return chosen ? AllReports()[static_cast<std::size_t>(chosen->number)] : *FindReport("locations");
 }
 
 bool PrintScreen::HasDetail() const {
@@ -160,7 +87,8 @@ void PrintScreen::ClickSpecial(bool on) {
 void PrintScreen::ChooseWordType(int index) {
     wordType.index = index;
     const authoring::ListItem* const type = wordType.Chosen();
-    verb.items = type ? WordItems(adventure_, {type->number}) : std::vector<authoring::ListItem>();
+    verb.items = type ? WordItems(adventure_, condacts::OfWordTypes({condacts::WordType{type->number}}))
+                      : std::vector<authoring::ListItem>();
     verb.index = -1;
 }
 

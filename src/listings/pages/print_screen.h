@@ -7,6 +7,7 @@
 
 #include "authoring/fields/controls.h"
 #include "listings/reports.h"
+#include "listings/table_titles.h"
 #include "platform/dialogs.h"
 
 namespace fabula::listings {
@@ -17,13 +18,6 @@ struct PrintJob {
     ReportRequest request;
     std::string title;  ///< of the table: "Location Table"
 };
-
-/// The title of a table as the print windows name it; of process tables that of one of the first three, or
-/// of the others (authoring::kOtherProcesses).
-std::string PrintTitle(store::TableNum table, int process);
-
-/// Whether the table has a listing, and thus a print window.
-bool HasPrintTitle(store::TableNum table);
 
 /// The window that sets up a listing of the table in the grid: in which form, and of which records. What is
 /// wrong is told in a box, and nothing is printed then.

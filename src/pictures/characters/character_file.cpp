@@ -20,7 +20,6 @@ constexpr std::string_view kDelimiterKey = "Delim";
 constexpr std::string_view kDelimiter = "|";
 constexpr std::string_view kSetLine = "SET";
 constexpr std::string_view kEndOfSet = "ENDSET";
-constexpr std::size_t kLongestSetName = 20;
 constexpr std::int64_t kHighestCharacter = store::kCharactersOfASet - 1;
 
 /// Walks the lines of a file and tells faults with the line's number.
@@ -84,15 +83,11 @@ CharacterFileSet ReadSet(std::string_view setLine, std::string_view delimiter, L
     set.line = setLine;
     set.name = lines.Next();
     if (text::Length(set.name) > kLongestSetName)
-        lines.Fail("the name of a set has at most 20 characters.");
+        lines.Fail("the name of a set has at most " + std::to_string(kLongestSetName) + " characters.");
     for (std::string_view line = lines.Next(); line != kEndOfSet; line = lines.Next()) {
         set.characters.push_back(ReadCharacter(line, delimiter, lines));
     }
     return set;
-}
-
-bool Travels(const Character& character) {
-    return character.set > 0 || character.number <= kLastShade || character.number >= kFirstUserGraphic;
 }
 
 }  // namespace
@@ -124,7 +119,7 @@ std::string WriteCharacterFile(const CharacterSets& sets, const std::vector<int>
         add(text::FormatText("SET!%z4", {std::int64_t{number}}));
         bool named = false;
         for (const Character* character : sets.OfSet(number)) {
-            if (!Travels(*character)) continue;
+            if (!IsEditableCharacter(character->set, character->number)) continue;
             if (!named) add(character->setName);
             named = true;
             std::string line = std::to_string(character->number);

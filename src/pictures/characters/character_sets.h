@@ -1,11 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "pictures/characters/glyph.h"
+#include "text/character_numbers.h"
 
 namespace fabula::pictures {
 
@@ -17,13 +19,23 @@ struct Character {
     Glyph glyph{};
 };
 
-/// Numbers of characters: 0 to 15 shades, 32 to 127 the font, 128 to 143 block graphics (143 is the solid
-/// cell), 144 to 164 user-defined graphics. Shades and block graphics stand in set 0 alone.
-inline constexpr int kLastShade = 15;
-inline constexpr int kFirstCharacter = 32;
-inline constexpr int kSolidCharacter = 143;
-inline constexpr int kFirstUserGraphic = 144;
-inline constexpr int kLastCharacter = 164;
+// Shades and block graphics stand in set 0 alone.
+using text::kFirstBlock;
+using text::kFirstCharacter;
+using text::kFirstUserGraphic;
+using text::kLastCharacter;
+using text::kLastOfFont;
+using text::kLastShade;
+using text::kSolidCharacter;
+
+/// How many characters the name of a set has at most.
+inline constexpr std::size_t kLongestSetName = 20;
+
+/// Whether an author may change the character: in set 0 the shades and the user-defined graphics, in the
+/// others all.
+constexpr bool IsEditableCharacter(int set, int number) {
+    return set > 0 || !text::IsFixedCharacter(number);
+}
 
 /// The character sets of an adventure, by set and number.
 class CharacterSets {

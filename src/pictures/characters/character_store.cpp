@@ -72,10 +72,8 @@ void StoreSet(store::Adventure& adventure, const CharacterFileSet& set, int targ
 
 /// The font and the block graphics of set 0 are the same in every adventure.
 bool MayBecomeSetZero(const CharacterFileSet& set) {
-    constexpr int kFirstFixed = 16;
-    constexpr int kLastFixed = 143;
     const auto isFixed = [](const Character& character) {
-        return character.number >= kFirstFixed && character.number <= kLastFixed;
+        return text::IsFixedCharacter(character.number);
     };
     return set.name == "Default" && std::none_of(set.characters.begin(), set.characters.end(), isFixed);
 }

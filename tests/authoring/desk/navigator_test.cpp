@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "authoring/main_screen_stand.h"
+#include "references/find_replace.h"
 
 namespace fabula::authoring {
 namespace {
@@ -139,6 +140,32 @@ TEST_F(NavigatorTest, FindsRecordsByNumberWordsAndText) {
     EXPECT_THAT(Texts(navigator.Search("WICK")), ElementsAre("message 0: You lower the wick."));
     EXPECT_THAT(navigator.Search("m99"), IsEmpty());
     EXPECT_THAT(navigator.Search(""), IsEmpty());
+}
+
+TEST_F(NavigatorTest, FindsATextWhereverOneCanBeReplaced) {
+    using enum references::SearchedField::Form;
+    for (const references::SearchedField& field : references::SearchedFields()) {
+        if (field.form != Markup && field.form != Note) continue;
+        Change change(main->CurrentContext().document, "edit a text");
+        store::Cursor& records = Adventure().OpenTable(field.table, "def");
+        if (records.Eof()) {
+            records.AddNew();
+            records.SetField(field.key, std::int64_t{0});
+        }
+        records.SetField(field.field, std::string("A quizzical beast."));
+        records.Update();
+        EXPECT_EQ(navigator.Search("quizzical").size(), 1U) << field.field;
+    }
+}
+
+TEST_F(NavigatorTest, ShowsTheShortDescriptionOfALocationBeforeTheLongOne) {
+    Change change(main->CurrentContext().document, "edit location 0");
+    store::Cursor& location = Adventure().OpenTable(TableNum::Locations, "def", "locnum=0");
+    location.SetField("locdesc", std::string("You stand on a quizzical beach."));
+    location.SetField("locshortdesc", std::string("A quizzical beach."));
+    location.Update();
+    change.Commit();
+    EXPECT_THAT(Texts(navigator.Search("quizzical")), ElementsAre("location 0: A quizzical beach."));
 }
 
 TEST_F(NavigatorTest, HasNothingWithoutAnAdventure) {

@@ -2,11 +2,13 @@
 
 #include <ctime>
 #include <fstream>
+#include <map>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "store/extensions.h"
 #include "support/temp_folder.h"
 
 namespace fabula::authoring {
@@ -45,6 +47,17 @@ TEST_F(WorkFilesTest, SavedGamesGoOnlyWhenOver60DaysOld) {
     EXPECT_EQ(CleanUp(), 1);
     EXPECT_FALSE(exists(older));
     EXPECT_TRUE(exists(old));
+}
+
+TEST_F(WorkFilesTest, OfTheFilesOfThisProgramOldTracesExportsSavedGamesAndScriptsGo) {
+    namespace extension = store::extension;
+    std::map<std::string_view, path> files;
+    for (const std::string_view each : extension::kAll)
+        files[each] = Make(std::string("game").append(each).c_str(), 1000);
+    EXPECT_EQ(CleanUp(), 4);
+    for (const std::string_view gone :
+         {extension::kTrace, extension::kExport, extension::kSavedGame, extension::kScript})
+        EXPECT_FALSE(exists(files.at(gone))) << gone;
 }
 
 TEST_F(WorkFilesTest, AgeIsCountedInWholeDays) {

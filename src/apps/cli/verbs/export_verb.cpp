@@ -15,9 +15,6 @@ struct ExportOptions {
     std::string version;
 };
 
-/// The kind whose files come in several forms.
-constexpr std::string_view kKindWithVersions = "unvel";
-
 bool VerifyFirst(store::Adventure& adventure, const interchange::FileKind& kind,
                  interchange::JobStatus& status) {
     return authoring::VerifyAdventure(adventure, &kind, status);
@@ -25,7 +22,7 @@ bool VerifyFirst(store::Adventure& adventure, const interchange::FileKind& kind,
 
 int Export(const ExportOptions& options) {
     const interchange::FileKind& kind = WritableKind(options.kind);
-    if (!options.version.empty() && kind.word != kKindWithVersions)
+    if (!options.version.empty() && !kind.hasVersions)
         throw UsageError("only UnVel extracts have a --version");
     Console console(std::cerr);
     CheckTarget({options.target, store::Content::Text, kind.extension, options.file, options.force},

@@ -24,7 +24,7 @@ namespace fabula::ide {
 namespace {
 
 constexpr int kColours = 8;
-constexpr int kShades = 16;
+constexpr int kShades = pictures::kLastShade + 1;
 constexpr QSize kThumbnail(64, 44);
 constexpr int kPaletteGap = 4;
 

@@ -4,6 +4,7 @@
 
 #include "engine/actions/state_actions.h"
 #include "platform/error.h"
+#include "platform/file_question.h"
 #include "store/extensions.h"
 
 namespace fabula::player {
@@ -20,7 +21,7 @@ bool PlayerScreen::Open() {
     const auto& recent = host_.recent.Files();
     const auto start = recent.empty() ? std::filesystem::current_path() : recent.front().parent_path();
     const auto file = host_.dialogs.ChooseFile(
-        {.title = "Open VEL Database", .filter = "VEL Database|*.fbd", .extension = "fbd", .start = start});
+        platform::QuestionFor("Open VEL Database", "VEL Database", store::extension::kAdventure, start));
     return file && Load(*file);
 }
 
@@ -104,11 +105,10 @@ void PlayerScreen::Save() {
 std::optional<std::filesystem::path> PlayerScreen::AskForFile(const engine::FileRequest& request) {
     std::error_code ignored;
     std::filesystem::create_directories(game_->SaveFolder(), ignored);
-    return host_.dialogs.ChooseFile({.title = std::string(request.title),
-                                     .filter = std::string(request.filter),
-                                     .extension = std::string(request.extension),
-                                     .forWriting = request.forWriting,
-                                     .start = game_->SaveFolder()});
+    platform::FileQuestion question =
+        platform::QuestionFor(request.title, request.kind, request.extension, game_->SaveFolder());
+    question.forWriting = request.forWriting;
+    return host_.dialogs.ChooseFile(question);
 }
 
 std::optional<std::filesystem::path> PlayerScreen::AskForSavedGame(bool forWriting) {

@@ -3,6 +3,8 @@
 #include <string_view>
 #include <utility>
 
+#include "condacts/process_filters.h"
+
 namespace fabula::authoring {
 
 using store::TableNum;
@@ -39,7 +41,7 @@ std::string FilterOf(const TableView& view) {
         case TableNum::DataBases:
             return "dbnum>=0";
         case TableNum::ProcessTables:
-            if (view.process >= kOtherProcesses) return "estype>2";
+            if (view.process >= kOtherProcesses) return condacts::BehindFixedProcesses("estype");
             return "estype=" + std::to_string(view.process);
         default:
             return "";
@@ -48,8 +50,9 @@ std::string FilterOf(const TableView& view) {
 
 std::string CaptionWord(const TableView& view) {
     if (view.table == TableNum::ProcessTables)
-        return "Process Record " +
-               (view.process < kOtherProcesses ? std::to_string(view.process) : std::string("3 or above"));
+        return "Process Record " + (view.process < kOtherProcesses
+                                        ? std::to_string(view.process)
+                                        : std::to_string(kOtherProcesses) + " or above");
     for (const auto& [table, word] : kWords) {
         if (table == view.table) return std::string(word);
     }

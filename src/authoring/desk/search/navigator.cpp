@@ -7,6 +7,7 @@
 #include "authoring/entries/record_keys.h"
 #include "authoring/fields/brief_text.h"
 #include "condacts/parser.h"
+#include "references/find_replace.h"
 #include "text/utf8.h"
 
 namespace fabula::authoring {
@@ -38,28 +39,44 @@ constexpr Shorthand kShorthands[] = {
     {'d', TableNum::Pictures},
 };
 
-/// Texts that are searched for a part of them.
+/// The tables whose texts are searched for a part of them, in the order of what is shown.
+constexpr TableNum kSearchedTables[] = {
+    TableNum::Vocabulary, TableNum::Objects,  TableNum::Locations,      TableNum::Flags,
+    TableNum::ProcDesc,   TableNum::Messages, TableNum::SystemMessages,
+};
+
 struct SearchedText {
     TableNum table;
     std::string_view key;
     std::string_view text;
 };
-constexpr SearchedText kSearchedTexts[] = {
-    {TableNum::Vocabulary, "vocindex", "word"},      {TableNum::Objects, "objnum", "objdesc"},
-    {TableNum::Locations, "locnum", "locshortdesc"}, {TableNum::Locations, "locnum", "locdesc"},
-    {TableNum::Flags, "flgnum", "flgdesc"},          {TableNum::ProcDesc, "pmsgnum", "pmsgmsg"},
-    {TableNum::Messages, "msgnum", "msgmsg"},        {TableNum::SystemMessages, "smsgnum", "smsgmsg"},
-};
+
+constexpr std::string_view kShortDescription = "locshortdesc";
 
 std::string Plural(std::size_t count, std::string_view one) {
     return std::to_string(count) + " " + std::string(one) + (count == 1 ? "" : "s");
 }
 
-/// The text that says most of a record of a table.
-const SearchedText* FindText(TableNum table) {
-    const auto* found = std::find_if(std::begin(kSearchedTexts), std::end(kSearchedTexts),
-                                     [&](const SearchedText& entry) { return entry.table == table; });
-    return found == std::end(kSearchedTexts) ? nullptr : found;
+/// The texts of a table, the one that says most of a record in a few words first.
+std::vector<SearchedText> TextsOf(TableNum table) {
+    using enum references::SearchedField::Form;
+    if (table == TableNum::Vocabulary) return {{table, "vocindex", "word"}};
+    std::vector<SearchedText> texts;
+    for (const references::SearchedField& each : references::SearchedFields()) {
+        if (each.table != table || (each.form != Markup && each.form != Note)) continue;
+        texts.insert(each.field == kShortDescription ? texts.begin() : texts.end(),
+                     {table, each.key, each.field});
+    }
+    return texts;
+}
+
+std::vector<SearchedText> AllTexts() {
+    std::vector<SearchedText> texts;
+    for (const TableNum table : kSearchedTables) {
+        const auto more = TextsOf(table);
+        texts.insert(texts.end(), more.begin(), more.end());
+    }
+    return texts;
 }
 
 }  // namespace
@@ -245,9 +262,10 @@ std::optional<JumpLine> Navigator::LineOf(const Target& target, references::Word
 JumpLine Navigator::LineTo(TableNum table, std::int64_t key) {
     OpenDocument();
     JumpLine line{JumpTo(table, key), Places().RecordName(table, key)};
-    if (const SearchedText* shown = FindText(table); shown != nullptr && table != TableNum::Vocabulary) {
+    const auto texts = TextsOf(table);
+    if (!texts.empty() && table != TableNum::Vocabulary) {
         PreparedQuery row =
-            followed_->adventure.Prepare(table, shown->text, std::string(shown->key) + "=?");
+            followed_->adventure.Prepare(table, texts[0].text, std::string(texts[0].key) + "=?");
         if (row.First({key})) {
             const std::string text = BriefText(row.Text(0));
             if (!text.empty()) line.text.append(": ").append(text);
@@ -309,7 +327,7 @@ void Navigator::SearchEntries(std::string_view typed, std::vector<JumpLine>& fou
 void Navigator::SearchTexts(std::string_view typed, std::vector<JumpLine>& found) {
     const std::string wanted = text::LowerCase(typed);
     std::set<std::pair<TableNum, std::int64_t>> seen;
-    for (const SearchedText& searched : kSearchedTexts) {
+    for (const SearchedText& searched : AllTexts()) {
         const std::string fields = std::string(searched.key) + ", " + std::string(searched.text);
         PreparedQuery rows = followed_->adventure.Prepare(searched.table, fields, "", searched.key);
         for (bool more = rows.First({}); more && found.size() < kMostFound; more = rows.Next()) {
