@@ -44,6 +44,26 @@ TEST(WordIndex, TakesNoFlagAndNoPlainNumberForAWord) {
     static_assert(!std::is_invocable_v<Find, const WordIndex&, WordNumber, int>);
 }
 
+TEST(WordIndex, ACutWordThatAReservedOneOfAnotherNumberFitsTooNamesNone) {
+    const WordIndex words({{"UNDER", WordNumber(6), kPreposition}, {"UNDER", WordNumber(9), kReserved}});
+    EXPECT_EQ(words.FindAsked("UNDERNEATH", kPreposition), nullptr);
+    EXPECT_EQ(words.FindAsked("UNDER", kPreposition)->number, WordNumber(6));
+}
+
+TEST(Clashes, OneSpellingMayBeTwoVerbsOrTwoNounsOfDifferentNumbers) {
+    const std::vector<Word> same{{"LIGHT", WordNumber(30), kVerb}, {"LIGHT", WordNumber(51), kNoun}};
+    EXPECT_TRUE(Clashes({"LIGHT", WordNumber(30), kVerb}, same));
+    EXPECT_FALSE(Clashes({"LIGHT", WordNumber(51), kVerb}, same));
+    EXPECT_TRUE(Clashes({"LIGHT", WordNumber(51), kNoun}, same));
+    EXPECT_FALSE(Clashes({"LIGHT", WordNumber(30), kNoun}, same));
+}
+
+TEST(Clashes, AWordOfAnyOtherTypeStandsAlone) {
+    const std::vector<Word> same{{"LIGHT", WordNumber(30), kVerb}};
+    EXPECT_TRUE(Clashes({"LIGHT", WordNumber(60), kAdjective}, same));
+    EXPECT_FALSE(Clashes({"LIGHT", WordNumber(60), kAdjective}, {}));
+}
+
 TEST(MovementWords, AreVerbsAndNounsBelowTwenty) {
     EXPECT_TRUE(IsMovementWord({"GO", WordNumber(100), kVerb}));
     EXPECT_TRUE(IsMovementWord({"NORTH", WordNumber(19), kNoun}));

@@ -134,6 +134,25 @@ TEST(Runaway, AGameThatPausesWithoutEndIsNoticed) {
               "100000 times without waiting for the player.");
 }
 
+TEST(Runaway, RestartsAndPausesAreCountedFromTheLastTimeThatThePlayerWasAsked) {
+    GameBuilder game(AdventureKind::Marlo);
+    std::string pauses;
+    for (int i = 0; i < 1000; ++i)
+        pauses += "PAUSE 1 ";
+    game.Word("WAIT", 90, 0);
+    game.Entry(0, "DO", "_", "LET 28 12 PAUSE 1").Entry(0, "WAIT", "_", pauses);
+    const auto run = game.Start();
+    for (int again = 0; again < 12; ++again)
+        run->Type("DO");
+    for (int again = 0; again < 101; ++again) {
+        run->Type("WAIT");
+        while (run->Waits() == Waiting::Pause)
+            run->engine.WaitTick();
+    }
+    EXPECT_TRUE(run->person.Boxes().empty());
+    EXPECT_EQ(run->Waits(), Waiting::Sentence);
+}
+
 TEST(Runaway, AGameThatPrintsWithoutEndIsNoticed) {
     GameBuilder game;
     game.Message(1, std::string(100000, 'x')).Entry(1, "_", "_", "MES 1 DESC");

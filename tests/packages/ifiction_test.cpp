@@ -61,6 +61,12 @@ TEST(IFictionRecord, HoldsNothingThatATerminalWouldObeyAndNoBadBytes) {
               std::string::npos);
 }
 
+TEST(IFictionRecord, HoldsNoNoncharacterThatXmlForbids) {
+    GameFacts facts = LampStory();
+    facts.name = "The\uFFFELamp\uFFFF";
+    EXPECT_NE(IFictionRecord(facts, nullptr).find("<title>The Lamp</title>"), std::string::npos);
+}
+
 TEST(IFictionRecord, NeedsAnIfid) {
     GameFacts facts = LampStory();
     facts.ifid.clear();

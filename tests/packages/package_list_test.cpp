@@ -89,6 +89,32 @@ TEST(PackageList, IsKeptUnderTheFirstTwelveCharactersOfTheName) {
     EXPECT_THAT(game.Rows(TableNum::Package, "pkgpackage", "pkgtype='DB'"), ElementsAre("The Lighthou"));
 }
 
+TEST(PackageList, FilesOfAnotherNameOfTheGameAreNotItsOwnAndStay) {
+    PackedGame game;
+    PackageList lamp(game.Adventure());
+    lamp.Add(package_type::kFile, "map.txt");
+    lamp.Store(game.Adventure());
+    game.Set("advname", std::string("The Cellar"));
+    const PackageList cellar(game.Adventure());
+    EXPECT_THAT(Lines(cellar), ElementsAre("DB game.fbd", "ReadMe The Cellar.ReadMe"));
+    cellar.Store(game.Adventure());
+    game.Set("advname", std::string("The Lamp"));
+    EXPECT_THAT(Lines(PackageList(game.Adventure())),
+                ElementsAre("DB game.fbd", "File map.txt", "ReadMe The Lamp.ReadMe"));
+}
+
+TEST(ZipName, IsRelativeAndBelowTheFolder) {
+    EXPECT_EQ(ZipName("pictures\\höhle.png"), "pictures/höhle.png");
+    EXPECT_EQ(ZipName("./a//b"), "a/b");
+    for (const char* none : {"", ".", "..", "a/../b", "/a", "\\a", "C:a", "a/C:/b"})
+        EXPECT_EQ(ZipName(none), std::nullopt) << none;
+}
+
+TEST(ZipName, HoldsNoControlCharacterAndNoBadByte) {
+    for (const char* none : {"a\nb", "a\x1F", "a\x7F", "\xE9", "a\xC3"})
+        EXPECT_EQ(ZipName(none), std::nullopt) << none;
+}
+
 TEST(PackageList, StoredTwiceWritesOnce) {
     PackedGame game;
     PackageList(game.Adventure()).Store(game.Adventure());

@@ -111,6 +111,38 @@ TEST_F(PackageScreenTest, OffersToCopyAFileFromElsewhere) {
     EXPECT_EQ(test::ReadBytes(Folder() / "map.txt"), "a map");
 }
 
+TEST_F(PackageScreenTest, AddsNothingThatIsNoFileOrHasNoNameForAZip) {
+    std::filesystem::create_directory(Folder() / "maps");
+    Write("two\nlines.txt");
+    const auto screen = Open();
+    for (const char* name : {"maps", "two\nlines.txt"}) {
+        dialogs.AnswerFile(Folder() / name);
+        screen->AddFile();
+    }
+    EXPECT_THAT(Names(*screen), ElementsAre("game.fbd", "The Lamp.ReadMe"));
+    EXPECT_EQ(Boxes().size(), 2U);
+    EXPECT_EQ(Boxes().back(), "A file of this name can't be packed: two\nlines.txt");
+}
+
+TEST_F(PackageScreenTest, WritesOverNoFileOfThePlayersAndTheAuthors) {
+    Write("lamp.sav", "a saved game");
+    Write("lamp.chr", "a character set");
+    const test::TempFolder elsewhere;
+    std::ofstream(elsewhere / "map.txt") << "a map";
+    const auto screen = Open();
+    dialogs.AnswerFile(Folder() / "lamp.sav");
+    EXPECT_FALSE(screen->Package());
+    dialogs.AnswerFile(elsewhere / "map.txt");
+    dialogs.AnswerNext(true);
+    dialogs.AnswerFile(Folder() / "lamp.chr");
+    screen->AddFile();
+    EXPECT_EQ(test::ReadBytes(Folder() / "lamp.sav"), "a saved game");
+    EXPECT_EQ(test::ReadBytes(Folder() / "lamp.chr"), "a character set");
+    EXPECT_THAT(Names(*screen), ElementsAre("game.fbd", "The Lamp.ReadMe"));
+    EXPECT_EQ(Boxes().back(), "Could not write " + (Folder() / "lamp.chr").string() +
+                                  ": by its name it is a file of another kind, *.chr.");
+}
+
 TEST_F(PackageScreenTest, AnEngineThatIsNotFoundLeavesTheBoxUnticked) {
     const auto screen = Open();
     screen->ClickIncludeEngine(true);

@@ -90,6 +90,21 @@ TEST_F(TravelReport, OfFaultyDataIsNotWrittenAndChangesNothing) {
     EXPECT_EQ(desk.Everything(), before);
 }
 
+TEST_F(TravelReport, ThatCannotBeWrittenChangesNothing) {
+    const auto before = desk.Everything();
+    std::filesystem::create_directory(folder / kTravelReport);
+    EXPECT_THROW(Convert(kCave), Error);
+    EXPECT_EQ(desk.Everything(), before);
+    EXPECT_FALSE(desk.document.UndoName());
+}
+
+TEST_F(TravelReport, GivesEachNewWordAnIndexOfItsOwn) {
+    desk.AddWord(300, "ABOVE", 21, 2);
+    Convert("3\n1\t2\t2\t3\n-1\n4\n2\tROAD\n3\tHILL\n-1\n0\n");
+    EXPECT_THAT(desk.Rows(TableNum::Vocabulary, "vocindex,word", "vocindex>299", "vocindex"),
+                ElementsAre("300|ABOVE", "301|ROAD", "302|HILL"));
+}
+
 TEST_F(TravelReport, WithoutDataIsRefused) {
     interchange::NoObserver nobody;
     interchange::JobStatus status(nobody);

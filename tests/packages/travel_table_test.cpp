@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/error.h"
 #include "support/temp_folder.h"
 
 namespace fabula::packages {
@@ -75,6 +76,14 @@ TEST_F(TravelTableTest, TellsWhatItCannotRead) {
                                     "9: A word needs its number in front.",
                                     "12: The marks of messages are 000, 100, 200, 300, 400 and 500.",
                                     "14: The section has no -1."));
+}
+
+TEST_F(TravelTableTest, ATableOfTooManyRowsIsAnError) {
+    std::string rows;
+    for (std::size_t i = 0; i < kMostTravelRows; ++i)
+        rows += "1\t2\n";
+    EXPECT_EQ(Read("3\n" + rows + "-1\n0\n").rows.size(), kMostTravelRows);
+    EXPECT_THROW(Read("3\n" + rows + "1\t2\n-1\n0\n"), Error);
 }
 
 TEST_F(TravelTableTest, StopsAtALineThatIsNoSection) {

@@ -110,5 +110,31 @@ TEST(WriteZip, LeavesTheOldZipWhenTheDiskIsFull) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
 }
 
+/// What a disk is full of that has room for `bytes` only: the code of the failure, or 0.
+int CodeWithRoomFor(long bytes, const std::filesystem::path& file, const std::vector<PackedFile>& files) {
+    return test::RunInChild([&] {
+        test::LimitFileSize(bytes);
+        try {
+            WriteZip(file, files);
+        } catch (const ZipFailure& failure) {
+            return failure.Code();
+        }
+        return 0;
+    });
+}
+
+TEST(WriteZip, ThatLacksTheLastByteOfItsRoomReplacesNothing) {
+    const test::TempFolder folder;
+    const std::vector<PackedFile> files = {{"a", "1"}, {"b", "2"}};
+    WriteZip(folder / "whole.zip", files);
+    const auto size = static_cast<long>(std::filesystem::file_size(folder / "whole.zip"));
+    test::WriteBytes(folder / "game.zip", "as it was");
+    EXPECT_EQ(CodeWithRoomFor(size - 1, folder / "game.zip", files), 14);
+    EXPECT_EQ(CodeWithRoomFor(1, folder / "game.zip", files), 14);
+    EXPECT_EQ(test::ReadBytes(folder / "game.zip"), "as it was");
+    EXPECT_EQ(CodeWithRoomFor(size, folder / "game.zip", files), 0);
+    EXPECT_TRUE(test::ReadBytes(folder / "game.zip") == test::ReadBytes(folder / "whole.zip"));
+}
+
 }  // namespace
 }  // namespace fabula::packages

@@ -119,6 +119,39 @@ TEST(Renumbering, ADrawingFollowsThePictureThatItCalls) {
     EXPECT_EQ(Field(*game, TableNum::Pictures, "locnum=12", "drawstring"), "END");
 }
 
+TEST(Renumbering, ALocationTakesItsRoomsPictureAndTheWordsForItsPlaceWithIt) {
+    test::OpenedAdventure game;
+    test::PutLocation(*game, 40, "", "");
+    test::PutPicture(*game, 9, "END", 40);
+    test::PutObject(*game, 3, 40, kAnyWord, kAnyWord);
+    game->OpenTable(TableNum::Objects, "def", "objnum=3")
+        .SetField("objlocdesc", std::string("In Room 40."));
+    game->Table(TableNum::Objects).Update();
+    Do(*game, Kind::Location, 40, 50);
+    EXPECT_EQ(Field(*game, TableNum::Pictures, "locnum=9", "roompicnum"), "50");
+    EXPECT_EQ(Field(*game, TableNum::Objects, "objnum=3", "objlocdesc"), "In Room 50.");
+}
+
+TEST(Renumbering, ACharacterSetTakesItsCharactersAndTheirKeysWithIt) {
+    test::OpenedAdventure game;
+    for (const std::int64_t number : {65, 66}) {
+        store::Cursor& characters = game->OpenTable(TableNum::Characters, "def");
+        characters.AddNew();
+        characters.SetField("charkey", 4000 + number);
+        characters.SetField("charset", std::string("SET 0004"));
+        characters.SetField("charsetnum", std::int64_t{4});
+        characters.SetField("charnum", number);
+        characters.Update();
+    }
+    Do(*game, Kind::CharacterSet, 4, 12);
+    EXPECT_EQ(Field(*game, TableNum::Characters, "charkey=12065", "charset"), "SET 0012");
+    EXPECT_EQ(Field(*game, TableNum::Characters, "charkey=12066", "charsetnum"), "12");
+    EXPECT_EQ(Field(*game, TableNum::Characters, "charsetnum=4", "charkey"), "(none)");
+    EXPECT_EQ(PlanRenumbering(*game, {Kind::CharacterSet, 12}, 998).refusal, "");
+    EXPECT_EQ(PlanRenumbering(*game, {Kind::CharacterSet, 12}, 999).refusal,
+              "The numbers of a character set go from 0 to 998.");
+}
+
 TEST(Renumbering, RefusesWhatARuleComparesByItsOrder) {
     test::OpenedAdventure game;
     test::PutLocation(*game, 40, "", "");
@@ -126,6 +159,38 @@ TEST(Renumbering, RefusesWhatARuleComparesByItsOrder) {
     EXPECT_EQ(PlanRenumbering(*game, {Kind::Location, 40}, 50).refusal,
               "ATGT 45 in process table 0, entry 1 tells 40 and 50 apart by their order.");
     EXPECT_EQ(PlanRenumbering(*game, {Kind::Location, 40}, 45).refusal, "");
+}
+
+TEST(Renumbering, TheBorderOfAnOrderLiesWhereTheRuleDrawsIt) {
+    struct Case {
+        const char* line;
+        Kind kind;
+        int lowestAbove;  ///< the lowest number on the upper side
+    };
+    for (const auto& [line, kind, lowestAbove] :
+         {Case{"ATGT 45 INVEN", Kind::Location, 46}, Case{"ATLT 45 INVEN", Kind::Location, 45},
+          Case{"GT 38 45 INVEN", Kind::Location, 46}, Case{"LT 38 45 INVEN", Kind::Location, 45},
+          Case{"RAMLOAD 74", Kind::Flag, 75}}) {
+        test::OpenedAdventure game;
+        for (const int location : {44, 45, 46})
+            test::PutLocation(*game, location, "", "");
+        test::PutEntry(*game, 1, 0, kAnyWord, kAnyWord, line);
+        const std::string above = PlanRenumbering(*game, {kind, lowestAbove}, lowestAbove - 1).refusal;
+        EXPECT_EQ(above, std::string(line).substr(0, std::string(line).find(" INVEN")) +
+                             " in process table 0, entry 1 tells " + std::to_string(lowestAbove) + " and " +
+                             std::to_string(lowestAbove - 1) + " apart by their order.");
+        EXPECT_EQ(PlanRenumbering(*game, {kind, lowestAbove}, lowestAbove + 5).refusal, "") << line;
+    }
+}
+
+TEST(Renumbering, PlayStillBeginsInTheSameRoomWhenItSwapsWithAnother) {
+    test::OpenedAdventure game;
+    test::PutLocation(*game, 40, "N 41", "2 41");
+    test::PutLocation(*game, 41, "S 40", "3 40");
+    game->OpenTable(TableNum::Adventure, "startloc").SetField("startloc", std::int64_t{40});
+    game->Table(TableNum::Adventure).Update();
+    Do(*game, Kind::Location, 40, 41);
+    EXPECT_EQ(Field(*game, TableNum::Adventure, "", "startloc"), "41");
 }
 
 TEST(Renumbering, RefusesWhatTheEngineKnows) {

@@ -147,6 +147,15 @@ TEST_F(Targets, ATranscriptOrTraceOnAFullDiskFails) {
     EXPECT_EQ(result.errors, "fabula: Could not write all of the list of origins /dev/full.\n");
 }
 
+TEST(FullDisk, AHelpThatCanNotBeWrittenIsToldInOneSentence) {
+    for (const char* command : {"exec \"$0\" --help >/dev/full", "exec \"$0\" --version >/dev/full",
+                                "exec \"$0\" dump --help >/dev/full"}) {
+        const ProgramResult result = RunProgram("/bin/sh", {"-c", command, Program()});
+        EXPECT_EQ(result.status, 1) << command;
+        EXPECT_EQ(result.errors, "fabula: Could not write the output.\n") << command;
+    }
+}
+
 TEST_F(Targets, APipeInPlaceOfAFileThatIsReadIsRefusedWithoutAWait) {
     ASSERT_EQ(mkfifo(File("pipe").c_str(), 0600), 0);
     for (const std::vector<std::string>& arguments :

@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -437,6 +438,35 @@ TEST(MainWindow, EnterOnARowThatCannotBeEditedSaysWhy) {
     opened.Part<QTableView>("Grid").setFocus();
     opened.Press(Qt::Key_Return);
     EXPECT_EQ(opened.Part<QLabel>("status").text(), "Special Codes does not offer this.");
+}
+
+TEST(MainWindow, CharactersOfAnAdventureThatIsOpenToReadOnlyAreShownAndNotEdited) {
+    OpenedWindow opened;
+    const auto file = opened.folder / "game.fbd";
+    Game().Write(file);
+    std::filesystem::permissions(file, static_cast<std::filesystem::perms>(0444));
+    opened.Window().Start(file);
+    const std::string before = ReadBytes(file);
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+        auto* table = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(table, nullptr);
+        shown = table->windowTitle() == "Character Table";
+        table->findChild<QListWidget*>("Characters")->setCurrentRow(1);
+        QTimer::singleShot(0, [&] {
+            // An editor that opened all the same is left.
+            auto* editor = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            EXPECT_EQ(editor, table);
+            if (editor && editor != table) editor->reject();
+        });
+        table->findChild<QPushButton*>("Edit")->click();
+        QApplication::processEvents();
+        table->reject();
+    });
+    opened.Action("CharTable").trigger();
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(opened.dialogs.Boxes().back().text, authoring::MainScreen::kOnlyToRead);
+    EXPECT_EQ(ReadBytes(file), before);
 }
 
 TEST(MainWindow, F1TellsAboutTheTableInView) {

@@ -3,10 +3,12 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSlider>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QWheelEvent>
 #include <fstream>
 #include <functional>
 
@@ -48,6 +50,31 @@ class SettingsInTheWindow : public testing::Test {
 
     OpenedWindow opened_;
 };
+
+TEST_F(SettingsInTheWindow, TheWheelOverASliderMovesItOnlyWithTheKeyboardOnIt) {
+    EditSettings([this](QDialog& dialog) {
+        auto& volume = *dialog.findChild<QSlider*>("volume");
+        auto& balance = *dialog.findChild<QSlider*>("balance");
+        auto& pages = *dialog.findChild<QTabWidget*>("pages");
+        while (!volume.isVisible() && pages.currentIndex() + 1 < pages.count())
+            pages.setCurrentIndex(pages.currentIndex() + 1);
+        ASSERT_TRUE(volume.isVisible());
+        const auto turnTheWheelOver = [](QWidget& control) {
+            QWheelEvent turn({5, 5}, control.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {},
+                             Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&control, &turn);
+        };
+        balance.setFocus();
+        const int before = volume.value();
+        ASSERT_GT(before, volume.minimum());
+        turnTheWheelOver(volume);
+        EXPECT_EQ(volume.value(), before);
+        volume.setFocus();
+        turnTheWheelOver(volume);
+        EXPECT_LT(volume.value(), before);
+        opened_.dialogs.AnswerLeaving(platform::Leaving::Discard);
+    });
+}
 
 TEST_F(SettingsInTheWindow, AreEditedUndoneAndDoneAgain) {
     EditSettings([](QDialog& dialog) {

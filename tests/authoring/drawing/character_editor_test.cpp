@@ -1,6 +1,7 @@
 #include "authoring/drawing/character_editor.h"
 
 #include <fstream>
+#include <functional>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -289,6 +290,46 @@ TEST_F(CharacterSetScreenTest, ALoadOfAFileThatIsNoneDoesNotBegin) {
     desk_.dialogs.AnswerFile(file);
     EXPECT_FALSE(load.Begin());
     EXPECT_THAT(desk_.Boxes(), ElementsAre(file.string() + " is not a Character Set File"));
+}
+
+/// The adventure of a desk, open a second time, to read only.
+class ReadOnlyCharacters : public CharacterSetScreenTest {
+  protected:
+    static std::string RefusalOf(const std::function<void()>& act) {
+        try {
+            act();
+        } catch (const Error& refused) {
+            return refused.what();
+        }
+        return "it was done";
+    }
+
+    authoring::Document reader_{desk_.document.File(), store::OpenMode::ReadOnly};
+    authoring::ScreenContext context_{reader_, desk_.dialogs};
+};
+
+TEST_F(ReadOnlyCharacters, AreShownAndNotStored) {
+    const Snapshot before = desk_.Everything();
+    authoring::CharacterEditor editor(context_, {.key = kGraphic});
+    editor.Do(CharacterEdit::Invert);
+    EXPECT_EQ(RefusalOf([&] { editor.Update(); }),
+              "Could not write to the adventure: it can only be read.");
+    EXPECT_TRUE(editor.Changed());
+    EXPECT_EQ(desk_.Everything(), before);
+    EXPECT_FALSE(reader_.UndoName());
+}
+
+TEST_F(ReadOnlyCharacters, TakeNoFont) {
+    const Snapshot before = desk_.Everything();
+    authoring::CharacterSetScreen screen(context_);
+    screen.Show(1);
+    desk_.dialogs.AnswerFile(Write("tiny.bdf",
+                                   "STARTFONT 2.1\nFONTBOUNDINGBOX 8 8 0 0\nSTARTCHAR A\nENCODING 65\n"
+                                   "BBX 8 1 0 0\nBITMAP\n01\nENDCHAR\nENDFONT\n"));
+    EXPECT_EQ(RefusalOf([&] { screen.TakeFont(); }),
+              "Could not write to the adventure: it can only be read.");
+    EXPECT_EQ(desk_.Everything(), before);
+    EXPECT_FALSE(reader_.UndoName());
 }
 
 }  // namespace
