@@ -1,11 +1,16 @@
 #include "interchange/keyed_table.h"
 
+#include <utility>
+
 #include "store/schema/record_fields.h"
 
 namespace fabula::interchange {
 
 KeyedTable::KeyedTable(store::Adventure& adventure, store::TableNum table)
-    : cursor_(adventure.OpenTable(table, "def")), keyField_(store::KeyField(table)) {
+    : KeyedTable(adventure, table, store::KeyField(table)) {}
+
+KeyedTable::KeyedTable(store::Adventure& adventure, store::TableNum table, std::string keyField)
+    : cursor_(adventure.OpenTable(table, "def")), keyField_(std::move(keyField)) {
     const std::size_t column = cursor_.Column(keyField_);
     for (; !cursor_.Eof(); cursor_.MoveNext()) {
         positions_.try_emplace(cursor_.Number(column), cursor_.AbsolutePosition());

@@ -15,6 +15,8 @@ namespace fabula::interchange {
 class KeyedTable {
   public:
     KeyedTable(store::Adventure& adventure, store::TableNum table);
+    /// By the field that the file itself marks as the key.
+    KeyedTable(store::Adventure& adventure, store::TableNum table, std::string keyField);
 
     bool Has(std::int64_t key) const { return positions_.contains(key); }
     /// The highest number; -1 when the table is empty.
