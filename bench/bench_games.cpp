@@ -1,6 +1,6 @@
 #include "bench_games.h"
 
-#include "support/starter_game.h"
+#include "support/games/starter_game.h"
 
 namespace fabula::bench {
 namespace {

@@ -6,7 +6,7 @@
 #include "engine/engine.h"
 #include "engine/output/origin.h"
 #include "store/adventure.h"
-#include "support/scripted_person.h"
+#include "support/doubles/scripted_person.h"
 #include "support/temp_folder.h"
 
 namespace fabula::bench {

@@ -8,8 +8,8 @@
 #include "authoring/desk/main_screen.h"
 #include "authoring/desk/search/findings_list.h"
 #include "bench_games.h"
+#include "support/doubles/scripted_dialogs.h"
 #include "support/places.h"
-#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::authoring {

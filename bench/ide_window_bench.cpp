@@ -21,9 +21,9 @@
 #include "qt/qt_programs.h"
 #include "qt/qt_settings.h"
 #include "qt/strings.h"
-#include "support/manual_timers.h"
+#include "support/doubles/manual_timers.h"
+#include "support/doubles/scripted_dialogs.h"
 #include "support/places.h"
-#include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace {

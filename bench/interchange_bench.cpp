@@ -15,7 +15,7 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 
-#include "support/listing_writers.h"
+#include "support/games/listing_writers.h"
 #include "support/places.h"
 
 extern char** environ;

@@ -19,8 +19,8 @@
 #include "player/window/player_window.h"
 #include "qt/qt_timers.h"
 #include "qt/strings.h"
-#include "support/game_builder.h"
-#include "support/scripted_dialogs.h"
+#include "support/doubles/scripted_dialogs.h"
+#include "support/games/game_builder.h"
 #include "support/temp_folder.h"
 
 namespace {

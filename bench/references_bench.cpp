@@ -3,7 +3,7 @@
 #include "bench_games.h"
 #include "references/find_replace.h"
 #include "references/index.h"
-#include "references/lint.h"
+#include "references/lint/lint.h"
 #include "support/temp_folder.h"
 
 namespace fabula::references {

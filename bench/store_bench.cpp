@@ -9,8 +9,8 @@
 
 #include "store/adventure.h"
 #include "store/create.h"
+#include "support/doubles/scripted_person.h"
 #include "support/places.h"
-#include "support/scripted_person.h"
 
 namespace fabula::store {
 namespace {

@@ -20,7 +20,7 @@
 #include "qt/qt_dialogs.h"
 #include "qt/strings.h"
 #include "store/create.h"
-#include "support/manual_timers.h"
+#include "support/doubles/manual_timers.h"
 #include "support/places.h"
 
 namespace {

@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-#include "condacts/convert.h"
-#include "condacts/parser.h"
-#include "condacts/validate.h"
-#include "interchange/condact_text.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/parser.h"
+#include "condacts/language/validate.h"
+#include "interchange/shared/condact_text.h"
 #include "sample.h"
 
 using namespace fabula;

@@ -9,7 +9,7 @@
 
 #include "platform/error.h"
 #include "store/create.h"
-#include "support/scripted_person.h"
+#include "support/doubles/scripted_person.h"
 
 using namespace fabula;
 

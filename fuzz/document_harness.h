@@ -12,8 +12,8 @@
 #include "platform/clock.h"
 #include "platform/event_pump.h"
 #include "store/create.h"
+#include "support/doubles/scripted_person.h"
 #include "support/places.h"
-#include "support/scripted_person.h"
 
 namespace fabula::fuzz {
 

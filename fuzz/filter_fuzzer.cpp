@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "store/filter/filter.h"
-#include "store/selection.h"
+#include "store/query/selection.h"
 
 using namespace fabula;
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "interchange/pc/pc_text_form.h"
-#include "interchange/spectrum_text.h"
+#include "interchange/unmarlo/spectrum_text.h"
 
 using namespace fabula;
 

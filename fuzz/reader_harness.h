@@ -9,14 +9,14 @@
 #include <unistd.h>
 
 #include "interchange/file_kinds.h"
-#include "interchange/job_status.h"
+#include "interchange/shared/job_status.h"
 #include "platform/clock.h"
 #include "platform/error.h"
 #include "platform/event_pump.h"
 #include "store/adventure.h"
 #include "store/create.h"
+#include "support/doubles/scripted_person.h"
 #include "support/places.h"
-#include "support/scripted_person.h"
 
 namespace fabula::fuzz {
 

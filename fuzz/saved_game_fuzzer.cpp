@@ -11,9 +11,9 @@
 #include "engine/engine.h"
 #include "platform/event_pump.h"
 #include "store/create.h"
+#include "support/doubles/recording_window.h"
+#include "support/doubles/scripted_person.h"
 #include "support/places.h"
-#include "support/recording_window.h"
-#include "support/scripted_person.h"
 
 using namespace fabula;
 

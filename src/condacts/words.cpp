@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "condacts/limits.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::condacts {
 namespace {

@@ -8,7 +8,7 @@
 #include "engine/saved_game.h"
 #include "platform/error.h"
 #include "store/filter/filter.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::engine {
 

@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <optional>
 
-#include "condacts/convert.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
 #include "condacts/word_filters.h"
 #include "platform/error.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::engine {
 

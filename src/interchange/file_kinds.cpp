@@ -12,9 +12,9 @@
 #include "interchange/unvel/unvel_writer.h"
 #include "store/extensions.h"
 #include "store/game_source.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

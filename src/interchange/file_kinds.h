@@ -4,8 +4,8 @@
 #include <span>
 #include <string_view>
 
-#include "condacts/catalogue.h"
-#include "interchange/job_host.h"
+#include "condacts/language/catalogue.h"
+#include "interchange/shared/job_host.h"
 #include "store/setup.h"
 
 namespace fabula::interchange {

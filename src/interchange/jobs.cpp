@@ -5,7 +5,7 @@
 #include "platform/whole_file.h"
 #include "store/create.h"
 #include "store/file/file_copy.h"
-#include "text/bad_bytes.h"
+#include "text/encoding/bad_bytes.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {

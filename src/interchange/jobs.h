@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "interchange/file_kinds.h"
-#include "interchange/job_status.h"
-#include "interchange/source_map.h"
+#include "interchange/shared/job_status.h"
+#include "interchange/shared/source_map.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
 #include "platform/person.h"

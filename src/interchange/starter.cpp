@@ -1,8 +1,8 @@
 #include "interchange/starter.h"
 
-#include "condacts/convert.h"
-#include "condacts/load.h"
-#include "interchange/keyed_table.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
+#include "interchange/shared/keyed_table.h"
 #include "platform/error.h"
 #include "platform/event_pump.h"
 #include "store/schema/default_data.h"

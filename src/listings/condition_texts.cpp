@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "condacts/load.h"
-#include "condacts/parser.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/places.h"
 
 namespace fabula::listings {

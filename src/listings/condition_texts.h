@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "authoring/fields/record_texts.h"
-#include "condacts/catalogue.h"
+#include "authoring/fields/texts/record_texts.h"
+#include "condacts/language/catalogue.h"
 #include "condacts/words.h"
 #include "listings/pages/page.h"
 #include "store/adventure.h"

@@ -8,7 +8,7 @@
 #include "listings/reports.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::listings {
 namespace {

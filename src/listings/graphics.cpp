@@ -10,7 +10,7 @@
 #include "pictures/drawing.h"
 #include "pictures/drawstring.h"
 #include "platform/error.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::listings {
 namespace {

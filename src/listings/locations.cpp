@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "condacts/parser.h"
+#include "condacts/language/parser.h"
 #include "listings/conditional_exits.h"
 #include "listings/record.h"
 #include "listings/reports.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::listings {
 namespace {

@@ -4,10 +4,10 @@
 #include <optional>
 #include <set>
 
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::listings {
 namespace {

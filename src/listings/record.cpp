@@ -2,12 +2,12 @@
 
 #include <utility>
 
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
-#include "text/safe_text.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 #include "text/wrap.h"
 
 namespace fabula::listings {

@@ -7,11 +7,11 @@
 #include "listings/reports.h"
 #include "platform/error.h"
 #include "platform/whole_file.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::listings {
 namespace {

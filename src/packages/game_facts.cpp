@@ -2,9 +2,9 @@
 
 #include "platform/error.h"
 #include "store/ifid.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::packages {
 namespace {

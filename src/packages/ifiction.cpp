@@ -1,11 +1,11 @@
 #include "packages/ifiction.h"
 
 #include "platform/error.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/markup.h"
-#include "text/safe_text.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::packages {
 namespace {

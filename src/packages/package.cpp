@@ -7,7 +7,7 @@
 #include "platform/whole_file.h"
 #include "store/file/file_copy.h"
 #include "store/game_path.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::packages {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::packages {
 namespace {

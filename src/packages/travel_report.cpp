@@ -5,17 +5,17 @@
 #include <set>
 
 #include "authoring/document/screen_context.h"
+#include "condacts/language/load.h"
+#include "condacts/language/recompile.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "condacts/recompile.h"
 #include "condacts/words.h"
 #include "packages/travel_table.h"
 #include "platform/error.h"
 #include "store/file/file_copy.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::packages {
 namespace {

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "authoring/document/document.h"
-#include "interchange/job_status.h"
+#include "interchange/shared/job_status.h"
 
 namespace fabula::packages {
 

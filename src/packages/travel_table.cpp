@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "interchange/source_file.h"
+#include "interchange/shared/source_file.h"
 #include "platform/error.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"

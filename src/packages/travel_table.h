@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "interchange/job_status.h"
+#include "interchange/shared/job_status.h"
 
 namespace fabula::packages {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "store/adventure.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::pictures {
 namespace {

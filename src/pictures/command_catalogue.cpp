@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::pictures {
 

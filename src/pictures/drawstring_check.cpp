@@ -6,8 +6,8 @@
 
 #include "pictures/drawing.h"
 #include "pictures/drawstring.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::pictures {
 namespace {

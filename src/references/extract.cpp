@@ -3,17 +3,17 @@
 #include <algorithm>
 #include <utility>
 
-#include "condacts/held_numbers.h"
-#include "condacts/load.h"
+#include "condacts/language/held_numbers.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/object_attributes.h"
-#include "condacts/parser.h"
 #include "condacts/places.h"
 #include "condacts/words.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"
 #include "references/condact_access.h"
 #include "store/character_key.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::references {
 namespace {

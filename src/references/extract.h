@@ -5,12 +5,12 @@
 #include <string_view>
 #include <vector>
 
-#include "condacts/catalogue.h"
+#include "condacts/language/catalogue.h"
 #include "condacts/numbers.h"
 #include "pictures/command_catalogue.h"
 #include "references/use.h"
 #include "store/adventure.h"
-#include "store/keyed_rows.h"
+#include "store/query/keyed_rows.h"
 
 namespace fabula::references {
 

@@ -6,18 +6,18 @@
 #include <tuple>
 #include <utility>
 
-#include "condacts/convert.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
-#include "condacts/validate.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
+#include "condacts/language/validate.h"
 #include "references/kinds.h"
 #include "store/comments.h"
 #include "store/schema/record_check.h"
 #include "store/tags.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/markup.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::references {
 namespace {

@@ -4,7 +4,7 @@
 #include <set>
 
 #include "condacts/numbers.h"
-#include "references/lint_game.h"
+#include "references/lint/lint_game.h"
 
 namespace fabula::references {
 

@@ -4,7 +4,7 @@
 #include <tuple>
 #include <utility>
 
-#include "store/keyed_rows.h"
+#include "store/query/keyed_rows.h"
 
 namespace fabula::references {
 namespace {

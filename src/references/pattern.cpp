@@ -4,7 +4,7 @@
 #include <pcre2.h>
 
 #include "platform/error.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::references {
 namespace {

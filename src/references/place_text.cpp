@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <vector>
 
-#include "condacts/load.h"
-#include "condacts/parser.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "pictures/drawstring.h"
 #include "references/extract.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::references {
 namespace {

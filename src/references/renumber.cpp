@@ -11,10 +11,10 @@
 #include "condacts/system_messages.h"
 #include "pictures/drawstring.h"
 #include "references/flag_contents.h"
-#include "references/lint_game.h"
+#include "references/lint/lint_game.h"
 #include "references/place_text.h"
 #include "store/character_key.h"
-#include "store/keyed_rows.h"
+#include "store/query/keyed_rows.h"
 
 namespace fabula::references {
 namespace {

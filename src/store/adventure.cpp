@@ -9,8 +9,8 @@
 #include "store/file/connection.h"
 #include "store/file/file_check.h"
 #include "store/file/file_copy.h"
-#include "store/selection.h"
-#include "text/utf8.h"
+#include "store/query/selection.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::store {
 namespace {

@@ -10,9 +10,9 @@
 
 #include "platform/error.h"
 #include "store/adventure_kind.h"
-#include "store/cursor.h"
 #include "store/filter/filter.h"
-#include "store/prepared_query.h"
+#include "store/query/cursor.h"
+#include "store/query/prepared_query.h"
 #include "store/schema/schema.h"
 #include "store/schema/table_catalogue.h"
 

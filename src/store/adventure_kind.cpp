@@ -1,6 +1,6 @@
 #include "store/adventure_kind.h"
 
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::store {
 namespace {

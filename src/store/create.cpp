@@ -17,7 +17,7 @@
 #include "store/schema/record_check.h"
 #include "store/schema/schema_section.h"
 #include "store/schema/section_reader.h"
-#include "text/bad_bytes.h"
+#include "text/encoding/bad_bytes.h"
 
 namespace fabula::store {
 namespace {

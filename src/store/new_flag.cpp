@@ -1,7 +1,7 @@
 #include "store/new_flag.h"
 
-#include "store/cursor.h"
 #include "store/filter/filter.h"
+#include "store/query/cursor.h"
 
 namespace fabula::store {
 namespace {

@@ -7,10 +7,10 @@
 #include <limits>
 #include <optional>
 
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::text {
 namespace {

@@ -5,11 +5,11 @@
 
 #include "text/character_numbers.h"
 #include "text/colours.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::text {
 namespace {

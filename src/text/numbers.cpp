@@ -4,8 +4,8 @@
 #include <charconv>
 #include <limits>
 
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::text {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <stdexcept>
 
+#include "text/encoding/scramble.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
-#include "text/scramble.h"
-#include "text/utf8.h"
 
 namespace fabula::text {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::text {
 

@@ -2,8 +2,8 @@
 
 #include <set>
 
+#include "text/encoding/utf8.h"
 #include "text/format.h"
-#include "text/utf8.h"
 
 namespace fabula::upgrades {
 namespace {

@@ -6,8 +6,8 @@
 #include "platform/event_pump.h"
 #include "store/adventure_kind.h"
 #include "store/schema/schema_section.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
-#include "text/utf8.h"
 
 namespace fabula::upgrades {
 namespace {

@@ -5,14 +5,14 @@
 #include <optional>
 #include <set>
 
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
 #include "store/new_flag.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::upgrades {
 namespace {

@@ -4,17 +4,17 @@
 #include <map>
 #include <set>
 
-#include "condacts/convert.h"
-#include "condacts/load.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
 #include "platform/error.h"
 #include "store/comments.h"
 #include "store/file/file_forms.h"
 #include "store/ifid.h"
 #include "store/new_flag.h"
 #include "store/schema/schema_change.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::upgrades {
 namespace {

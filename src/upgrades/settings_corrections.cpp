@@ -1,7 +1,7 @@
 #include "upgrades/settings_corrections.h"
 
 #include "text/colours.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::upgrades {
 namespace {

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "condacts/convert.h"
-#include "condacts/load.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
 #include "condacts/places.h"
 #include "store/tags.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/markup.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 #include "upgrades/descriptions.h"
 
 namespace fabula::upgrades {

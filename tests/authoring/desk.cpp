@@ -2,11 +2,11 @@
 
 #include <ostream>
 
-#include "condacts/convert.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "store/schema/table_catalogue.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::test {
 namespace {

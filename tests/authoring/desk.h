@@ -11,7 +11,7 @@
 #include "authoring/document/document.h"
 #include "authoring/document/screen_context.h"
 #include "store/setup.h"
-#include "support/scripted_dialogs.h"
+#include "support/doubles/scripted_dialogs.h"
 #include "support/temp_folder.h"
 #include "text/value.h"
 

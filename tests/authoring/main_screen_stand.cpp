@@ -1,7 +1,7 @@
 #include "authoring/main_screen_stand.h"
 
+#include "support/games/template_adventure.h"
 #include "support/places.h"
-#include "support/template_adventure.h"
 
 namespace fabula::test {
 

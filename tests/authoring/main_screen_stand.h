@@ -10,7 +10,7 @@
 #include "platform/event_pump.h"
 #include "platform/settings.h"
 #include "store/setup.h"
-#include "support/scripted_dialogs.h"
+#include "support/doubles/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "condacts/catalogue.h"
-#include "condacts/facts.h"
+#include "condacts/language/catalogue.h"
+#include "condacts/language/facts.h"
 
 namespace fabula::condacts {
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/game_builder.h"
+#include "support/games/game_builder.h"
 
 namespace fabula::test {
 namespace {

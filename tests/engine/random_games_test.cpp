@@ -4,7 +4,7 @@
 
 #include "engine/actions/condact_table.h"
 #include "engine/game.h"
-#include "support/game_builder.h"
+#include "support/games/game_builder.h"
 #include "support/trials.h"
 
 namespace fabula::test {

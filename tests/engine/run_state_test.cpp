@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/game.h"
-#include "support/game_builder.h"
+#include "support/games/game_builder.h"
 
 namespace fabula::test {
 namespace {

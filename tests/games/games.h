@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "support/starter_game.h"
+#include "support/games/starter_game.h"
 
 namespace fabula::test {
 

@@ -7,8 +7,8 @@
 
 #include "platform/error.h"
 #include "reading.h"
+#include "support/doubles/scripted_person.h"
 #include "support/places.h"
-#include "support/scripted_person.h"
 #include "support/temp_folder.h"
 
 namespace fabula::interchange {

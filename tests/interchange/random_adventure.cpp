@@ -4,9 +4,9 @@
 #include <random>
 #include <set>
 
-#include "condacts/convert.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "text/value.h"
 
 namespace fabula::interchange {

@@ -7,8 +7,8 @@
 
 #include "interchange/file_kinds.h"
 #include "store/adventure.h"
-#include "support/scripted_person.h"
-#include "support/template_adventure.h"
+#include "support/doubles/scripted_person.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::interchange {
 

@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "condacts/convert.h"
-#include "condacts/load.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
 #include "random_adventure.h"
 #include "reading.h"
 #include "support/trials.h"

@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "condacts/load.h"
-#include "condacts/validate.h"
+#include "condacts/language/load.h"
+#include "condacts/language/validate.h"
 #include "platform/error.h"
+#include "support/games/template_adventure.h"
 #include "support/places.h"
-#include "support/template_adventure.h"
 
 namespace fabula::interchange {
 namespace {

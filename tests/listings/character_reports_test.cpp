@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "listed_adventure.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::listings {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "listings/pages/text_page.h"
 #include "listings/reports.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 #include "text/value.h"
 
 namespace fabula::listings {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "midi/player.h"
-#include "support/game_builder.h"
-#include "support/manual_timers.h"
+#include "support/doubles/manual_timers.h"
+#include "support/games/game_builder.h"
 
 namespace fabula::midi {
 namespace {

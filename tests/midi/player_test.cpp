@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
-#include "support/manual_timers.h"
+#include "support/doubles/manual_timers.h"
 
 namespace fabula::midi {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "midi/player.h"
 #include "platform/error.h"
-#include "support/game_builder.h"
-#include "support/manual_timers.h"
+#include "support/doubles/manual_timers.h"
+#include "support/games/game_builder.h"
 
 namespace fabula::midi {
 namespace {

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "packed_game.h"
+#include "support/games/template_adventure.h"
 #include "support/raw_database.h"
-#include "support/template_adventure.h"
 #include "zipped.h"
 
 namespace fabula::packages {

@@ -4,7 +4,7 @@
 
 #include "pictures/drawing.h"
 #include "pictures/drawstring_check.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::pictures {
 namespace {

@@ -1,4 +1,4 @@
-#include "support/manual_timers.h"
+#include "support/doubles/manual_timers.h"
 
 #include <string>
 

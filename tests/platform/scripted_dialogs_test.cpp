@@ -1,4 +1,4 @@
-#include "support/scripted_dialogs.h"
+#include "support/doubles/scripted_dialogs.h"
 
 #include <stdexcept>
 

@@ -1,4 +1,4 @@
-#include "support/scripted_person.h"
+#include "support/doubles/scripted_person.h"
 
 #include <stdexcept>
 

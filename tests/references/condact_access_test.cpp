@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "condacts/load.h"
+#include "condacts/language/load.h"
 #include "lighthouse.h"
 
 namespace fabula::references {

@@ -4,7 +4,7 @@
 
 #include "platform/error.h"
 #include "records.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::references {
 namespace {

@@ -7,7 +7,7 @@
 #include "records.h"
 #include "references/index.h"
 #include "store/file/change_set.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::references {
 namespace {

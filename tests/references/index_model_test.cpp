@@ -8,7 +8,7 @@
 
 #include "records.h"
 #include "references/index.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::references {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "condacts/words.h"
 #include "records.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::references {
 namespace {

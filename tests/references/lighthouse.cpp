@@ -4,8 +4,8 @@
 #include "interchange/jobs.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
+#include "support/doubles/scripted_person.h"
 #include "support/places.h"
-#include "support/scripted_person.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

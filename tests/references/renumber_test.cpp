@@ -7,9 +7,9 @@
 #include "lighthouse.h"
 #include "records.h"
 #include "references/index.h"
-#include "references/lint.h"
+#include "references/lint/lint.h"
 #include "store/file/change_set.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::references {
 namespace {

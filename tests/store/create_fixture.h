@@ -12,9 +12,9 @@
 
 #include "store/adventure.h"
 #include "store/create.h"
+#include "support/doubles/scripted_person.h"
 #include "support/places.h"
 #include "support/raw_database.h"
-#include "support/scripted_person.h"
 #include "support/temp_folder.h"
 #include "text/fields.h"
 

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "support/conversation.h"
+#include "support/games/template_adventure.h"
 #include "support/raw_database.h"
-#include "support/template_adventure.h"
 
 namespace fabula::store {
 namespace {

@@ -7,8 +7,8 @@
 
 #include "store/adventure.h"
 #include "support/child_process.h"
+#include "support/games/template_adventure.h"
 #include "support/raw_database.h"
-#include "support/template_adventure.h"
 
 namespace fabula::store {
 namespace {

@@ -5,8 +5,8 @@
 #include "store/adventure.h"
 #include "store/file/change_lock.h"
 #include "support/child_process.h"
+#include "support/games/template_adventure.h"
 #include "support/raw_database.h"
-#include "support/template_adventure.h"
 
 namespace fabula::store {
 namespace {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "store/adventure.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::store {
 namespace {

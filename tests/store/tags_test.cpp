@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 #include "text/markup.h"
 
 namespace fabula::store {

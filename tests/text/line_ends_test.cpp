@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "random_text.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::text {
 namespace {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "random_text.h"
-#include "support/scripted_person.h"
-#include "text/utf8.h"
+#include "support/doubles/scripted_person.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::text {
 namespace {

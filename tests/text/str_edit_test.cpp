@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "random_text.h"
-#include "text/scramble.h"
+#include "text/encoding/scramble.h"
 
 namespace fabula::text {
 namespace {

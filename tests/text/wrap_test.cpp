@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "random_text.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::text {
 namespace {

@@ -4,11 +4,11 @@
 
 #include "store/file/file_check.h"
 #include "store/file/file_forms.h"
+#include "support/games/template_adventure.h"
 #include "support/places.h"
 #include "support/raw_database.h"
 #include "support/temp_folder.h"
-#include "support/template_adventure.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::test {
 namespace {

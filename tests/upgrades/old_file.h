@@ -7,7 +7,7 @@
 
 #include "store/adventure.h"
 #include "store/setup.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 #include "upgrades/upgrade.h"
 
 namespace fabula::test {

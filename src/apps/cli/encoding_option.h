@@ -4,7 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "interchange/source_file.h"
+#include "interchange/shared/source_file.h"
 
 namespace fabula::cli {
 

@@ -11,7 +11,7 @@
 #include "cli/verbs.h"
 #include "platform/error.h"
 #include "store/filter/filter.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "cli/file_kind_option.h"
 #include "cli/verb.h"
 #include "platform/error.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::cli {
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "cli/console.h"
+#include "cli/host/console.h"
 #include "interchange/file_kinds.h"
 #include "interchange/jobs.h"
 

@@ -5,7 +5,7 @@
 
 #include "interchange/pc/pc_dialect.h"
 #include "interchange/pc/pc_lines.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 
 namespace fabula::cli {
 namespace {

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "interchange/file_kinds.h"
-#include "references/lint.h"
+#include "references/lint/lint.h"
 
 namespace fabula::cli {
 

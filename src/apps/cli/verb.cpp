@@ -1,8 +1,8 @@
 #include "cli/verb.h"
 
+#include "cli/host/terminal_person.h"
+#include "cli/host/upgrade_terminal.h"
 #include "cli/installation.h"
-#include "cli/terminal_person.h"
-#include "cli/upgrade_terminal.h"
 #include "upgrades/upgrade.h"
 
 namespace fabula::cli {

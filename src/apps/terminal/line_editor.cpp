@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "platform/error.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::terminal {
 namespace {

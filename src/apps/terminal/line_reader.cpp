@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "platform/error.h"
-#include "text/byte_order_mark.h"
+#include "text/encoding/byte_order_mark.h"
 
 namespace fabula::terminal {
 

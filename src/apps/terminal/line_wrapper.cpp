@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "engine/game_window.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::terminal {
 namespace {

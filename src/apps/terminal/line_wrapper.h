@@ -15,7 +15,7 @@ namespace fabula::terminal {
 /// than a line is cut. A no-break space is shown as a blank and keeps its neighbours together. Widths are
 /// columns: a character takes 0 to 2.
 ///
-/// Texts must be safe (text/safe_text.h) and hold no line ends.
+/// Texts must be safe (text/encoding/safe_text.h) and hold no line ends.
 class LineWrapper {
   public:
     /// Without `attributes` every character looks the same, and no sequence is written.

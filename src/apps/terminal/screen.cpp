@@ -5,7 +5,7 @@
 #include "engine/game_window.h"
 #include "platform/error.h"
 #include "terminal/tty.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 #include "text/str_edit.h"
 
 namespace fabula::terminal {

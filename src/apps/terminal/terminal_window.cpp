@@ -1,7 +1,7 @@
 #include "terminal/terminal_window.h"
 
 #include "platform/error.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::terminal {
 

@@ -10,9 +10,9 @@
 #include "authoring/entries/entries.h"
 #include "platform/error.h"
 #include "store/record_limits.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -9,9 +9,9 @@
 #include "pictures/drawstring_check.h"
 #include "store/comments.h"
 #include "store/game_path.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 // Pictures, checked as their editor checks them; what they draw is not drawn.
 

@@ -11,9 +11,9 @@
 #include "condacts/word_filters.h"
 #include "condacts/words.h"
 #include "store/comments.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 // The records that have a screen of their own.
 

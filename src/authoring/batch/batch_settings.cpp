@@ -3,9 +3,9 @@
 #include "authoring/batch/batch_work.h"
 #include "authoring/settings/settings_screen.h"
 #include "condacts/limits.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 // The one record of the settings.
 

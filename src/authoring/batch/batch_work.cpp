@@ -1,8 +1,8 @@
 #include "authoring/batch/batch_work.h"
 
 #include "store/game_path.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 

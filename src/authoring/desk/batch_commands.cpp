@@ -5,8 +5,8 @@
 #include "platform/file_question.h"
 #include "store/extensions.h"
 #include "store/file/file_copy.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

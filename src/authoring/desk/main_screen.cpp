@@ -19,7 +19,7 @@
 #include "store/extensions.h"
 #include "store/file/file_copy.h"
 #include "store/game_source.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 // The life of the window and of the adventure in it. What it shows is in main_screen_views.cpp, what it
 // does on command in main_screen_commands.cpp.

@@ -3,12 +3,12 @@
 #include "authoring/desk/main_screen.h"
 #include "authoring/desk/search/renumber_screen.h"
 #include "authoring/entries/last_records.h"
-#include "authoring/fields/short_desc.h"
+#include "authoring/fields/texts/short_desc.h"
 #include "authoring/screens/word_screen.h"
 #include "condacts/words.h"
 #include "store/schema/record_fields.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 // What the commands do, and when they can be used.
 

@@ -5,8 +5,8 @@
 #include "pictures/book_loader.h"
 #include "pictures/characters/glyph_edits.h"
 #include "pictures/drawstring.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 

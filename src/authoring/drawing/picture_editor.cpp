@@ -7,8 +7,8 @@
 #include "pictures/drawstring.h"
 #include "pictures/drawstring_check.h"
 #include "platform/error.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 // The picture and its drawstring: loading, status, stepping, and taking operations back.
 

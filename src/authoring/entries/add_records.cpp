@@ -6,15 +6,15 @@
 #include <utility>
 #include <vector>
 
-#include "condacts/catalogue.h"
+#include "condacts/language/catalogue.h"
 #include "condacts/limits.h"
 #include "pictures/characters/character_sets.h"
 #include "pictures/picture_book.h"
 #include "store/character_key.h"
 #include "store/new_flag.h"
+#include "text/encoding/utf8.h"
 #include "text/format.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <string_view>
 
-#include "condacts/load.h"
+#include "condacts/language/load.h"
 #include "condacts/words.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -6,11 +6,11 @@
 #include <utility>
 #include <vector>
 
-#include "condacts/load.h"
-#include "condacts/parser.h"
-#include "condacts/recompile.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
+#include "condacts/language/recompile.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

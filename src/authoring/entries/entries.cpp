@@ -6,7 +6,7 @@
 #include "authoring/entries/add_records.h"
 #include "authoring/entries/delete_word.h"
 #include "authoring/entries/record_keys.h"
-#include "condacts/catalogue.h"
+#include "condacts/language/catalogue.h"
 #include "condacts/limits.h"
 #include "condacts/words.h"
 #include "pictures/characters/character_sets.h"

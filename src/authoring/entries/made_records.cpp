@@ -5,9 +5,9 @@
 #include <set>
 
 #include "authoring/entries/record_keys.h"
-#include "condacts/catalogue.h"
+#include "condacts/language/catalogue.h"
+#include "condacts/language/load.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
 #include "condacts/words.h"
 
 namespace fabula::authoring {

@@ -5,12 +5,12 @@
 
 #include "authoring/fields/cond_act_place.h"
 #include "authoring/fields/flag_meaning.h"
-#include "condacts/convert.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
+#include "condacts/language/validate.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
 #include "condacts/places.h"
-#include "condacts/validate.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::authoring {
 namespace {

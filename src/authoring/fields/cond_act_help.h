@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "authoring/fields/named_record.h"
-#include "authoring/fields/record_texts.h"
-#include "condacts/catalogue.h"
-#include "condacts/facts.h"
-#include "condacts/parser.h"
+#include "authoring/fields/texts/record_texts.h"
+#include "condacts/language/catalogue.h"
+#include "condacts/language/facts.h"
+#include "condacts/language/parser.h"
 
 namespace fabula::authoring {
 

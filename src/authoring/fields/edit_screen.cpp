@@ -3,8 +3,8 @@
 #include <string>
 
 #include "store/tags.h"
+#include "text/encoding/utf8.h"
 #include "text/markup.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "condacts/catalogue.h"
-#include "condacts/held_numbers.h"
+#include "condacts/language/catalogue.h"
+#include "condacts/language/held_numbers.h"
 
 namespace fabula::authoring {
 

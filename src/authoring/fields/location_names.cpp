@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "authoring/fields/brief_text.h"
+#include "authoring/fields/texts/brief_text.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "condacts/parser.h"
+#include "condacts/language/parser.h"
 #include "text/str_edit.h"
 
 namespace fabula::authoring {

@@ -4,9 +4,9 @@
 
 #include "platform/error.h"
 #include "platform/whole_file.h"
-#include "store/cursor.h"
 #include "store/file/file_copy.h"
 #include "store/game_path.h"
+#include "store/query/cursor.h"
 
 namespace fabula::authoring {
 

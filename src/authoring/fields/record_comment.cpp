@@ -1,6 +1,6 @@
 #include "authoring/fields/record_comment.h"
 
-#include "authoring/fields/text_field.h"
+#include "authoring/fields/texts/text_field.h"
 #include "store/comments.h"
 
 namespace fabula::authoring {

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "authoring/document/screen_context.h"
-#include "store/cursor.h"
+#include "store/query/cursor.h"
 
 namespace fabula::authoring {
 

@@ -1,10 +1,10 @@
 #include <algorithm>
 
-#include "authoring/fields/brief_text.h"
 #include "authoring/fields/cond_act_place.h"
-#include "condacts/validate.h"
+#include "authoring/fields/texts/brief_text.h"
+#include "condacts/language/validate.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 // Names in place of numbers: records that are found by their texts while a line is typed.
 

@@ -8,8 +8,8 @@
 
 #include "platform/error.h"
 #include "platform/whole_file.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -11,9 +11,9 @@
 #include <fnmatch.h>
 #include <sys/stat.h>
 
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -4,13 +4,13 @@
 
 #include "authoring/document/screen_context.h"
 #include "authoring/files/may_replace.h"
-#include "interchange/source_file.h"
+#include "interchange/shared/source_file.h"
 #include "platform/error.h"
 #include "store/file/file_copy.h"
 #include "store/file/temporary_file.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <set>
 
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -4,8 +4,8 @@
 #include <set>
 #include <utility>
 
+#include "condacts/language/parser.h"
 #include "condacts/object_attributes.h"
-#include "condacts/parser.h"
 #include "condacts/places.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "condacts/facts.h"
+#include "condacts/language/facts.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {

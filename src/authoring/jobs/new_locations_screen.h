@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "authoring/document/document.h"
-#include "interchange/unmarlo/picture_import.h"
+#include "interchange/picture_import.h"
 #include "platform/dialogs.h"
 
 namespace fabula::authoring {

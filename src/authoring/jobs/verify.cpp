@@ -5,14 +5,14 @@
 #include <utility>
 
 #include "authoring/jobs/missing_references.h"
-#include "condacts/convert.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
+#include "condacts/language/validate.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
-#include "condacts/validate.h"
 #include "pictures/characters/character_sets.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "interchange/file_kinds.h"
-#include "interchange/job_status.h"
-#include "interchange/source_map.h"
+#include "interchange/shared/job_status.h"
+#include "interchange/shared/source_map.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {

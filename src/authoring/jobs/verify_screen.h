@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "authoring/jobs/verify.h"
-#include "interchange/job_status.h"
+#include "interchange/shared/job_status.h"
 #include "platform/dialogs.h"
 #include "platform/event_pump.h"
 #include "store/adventure.h"

@@ -1,6 +1,6 @@
 #include "authoring/screens/flag_screen.h"
 
-#include "authoring/fields/text_field.h"
+#include "authoring/fields/texts/text_field.h"
 #include "store/new_flag.h"
 
 namespace fabula::authoring {

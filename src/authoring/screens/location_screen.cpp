@@ -10,15 +10,15 @@
 #include "authoring/entries/record_keys.h"
 #include "authoring/fields/location_names.h"
 #include "authoring/fields/picture_choice.h"
-#include "authoring/fields/text_field.h"
+#include "authoring/fields/texts/text_field.h"
+#include "condacts/language/load.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
 #include "condacts/places.h"
 #include "condacts/words.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "authoring/entries/record_keys.h"
-#include "authoring/fields/text_field.h"
+#include "authoring/fields/texts/text_field.h"
 
 namespace fabula::authoring {
 

@@ -5,19 +5,19 @@
 
 #include "authoring/entries/made_records.h"
 #include "authoring/entries/record_keys.h"
-#include "authoring/fields/brief_text.h"
 #include "authoring/fields/location_names.h"
-#include "authoring/fields/text_field.h"
+#include "authoring/fields/texts/brief_text.h"
+#include "authoring/fields/texts/text_field.h"
+#include "condacts/language/load.h"
+#include "condacts/language/recompile.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
 #include "condacts/object_attributes.h"
 #include "condacts/places.h"
-#include "condacts/recompile.h"
 #include "condacts/words.h"
 #include "store/adventure_kind.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

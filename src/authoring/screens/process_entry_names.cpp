@@ -2,14 +2,14 @@
 #include <cstdint>
 
 #include "authoring/entries/record_keys.h"
-#include "authoring/fields/text_field.h"
+#include "authoring/fields/texts/text_field.h"
 #include "authoring/screens/process_entry_screen.h"
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/parser.h"
 #include "platform/error.h"
 #include "store/adventure_kind.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 // Names in place of numbers: records that a line names, and messages that come with it.
 

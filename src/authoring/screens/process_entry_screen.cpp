@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "condacts/convert.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/parser.h"
+#include "condacts/language/validate.h"
 #include "condacts/limits.h"
-#include "condacts/parser.h"
 #include "condacts/process_filters.h"
-#include "condacts/validate.h"
 #include "condacts/word_filters.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

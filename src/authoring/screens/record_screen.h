@@ -5,7 +5,7 @@
 
 #include "authoring/fields/edit_screen.h"
 #include "authoring/fields/record_comment.h"
-#include "store/cursor.h"
+#include "store/query/cursor.h"
 
 namespace fabula::authoring {
 

@@ -4,11 +4,11 @@
 #include <cstdint>
 
 #include "authoring/entries/correct_word.h"
+#include "condacts/language/recompile.h"
 #include "condacts/limits.h"
-#include "condacts/recompile.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -6,7 +6,7 @@
 #include "authoring/fields/picture_choice.h"
 #include "condacts/numbers.h"
 #include "platform/error.h"
-#include "store/cursor.h"
+#include "store/query/cursor.h"
 #include "text/str_edit.h"
 
 namespace fabula::authoring {

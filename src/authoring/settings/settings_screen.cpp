@@ -5,8 +5,8 @@
 
 #include "authoring/fields/location_names.h"
 #include "authoring/fields/picture_choice.h"
-#include "authoring/fields/text_editing.h"
-#include "authoring/fields/text_field.h"
+#include "authoring/fields/texts/text_editing.h"
+#include "authoring/fields/texts/text_field.h"
 #include "authoring/settings/settings_lists.h"
 #include "platform/error.h"
 #include "store/game_source.h"

@@ -8,7 +8,7 @@
 #include "authoring/fields/controls.h"
 #include "authoring/fields/edit_screen.h"
 #include "engine/sound_player.h"
-#include "store/cursor.h"
+#include "store/query/cursor.h"
 
 namespace fabula::authoring {
 

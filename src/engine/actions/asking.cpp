@@ -2,7 +2,7 @@
 
 #include "engine/game.h"
 #include "engine/output/messages.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::engine {
 

@@ -1,8 +1,8 @@
 #include "engine/cycle/parser.h"
 
 #include "engine/game.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::engine {
 

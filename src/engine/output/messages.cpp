@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "engine/game.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::engine {
 

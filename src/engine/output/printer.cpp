@@ -9,10 +9,10 @@
 #include "engine/output/shown_text.h"
 #include "engine/run_failure.h"
 #include "text/colours.h"
+#include "text/encoding/utf8.h"
 #include "text/markup.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::engine {
 

@@ -7,7 +7,7 @@
 #include "store/extensions.h"
 #include "store/file/file_copy.h"
 #include "store/file/temporary_file.h"
-#include "text/byte_order_mark.h"
+#include "text/encoding/byte_order_mark.h"
 
 namespace fabula::engine {
 

@@ -1,10 +1,10 @@
 #include "engine/output/shown_text.h"
 
 #include "text/character_numbers.h"
+#include "text/encoding/utf8.h"
+#include "text/encoding/windows1252.h"
 #include "text/line_ends.h"
 #include "text/markup.h"
-#include "text/utf8.h"
-#include "text/windows1252.h"
 
 namespace fabula::engine {
 

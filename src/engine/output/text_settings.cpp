@@ -1,7 +1,7 @@
 #include "engine/output/text_settings.h"
 
 #include "store/adventure.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::engine {
 

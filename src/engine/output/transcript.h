@@ -8,7 +8,8 @@ namespace fabula::engine {
 /// Everything that is shown and typed, as it happens and unbroken: lines end where the game ends them. What
 /// was typed stands behind a ">" at the head of its line, also where the game shows no prompt.
 ///
-/// It reaches the stream's file whenever something was typed. Texts must be safe (text/safe_text.h).
+/// It reaches the stream's file whenever something was typed. Texts must be safe
+/// (text/encoding/safe_text.h).
 class Transcript {
   public:
     explicit Transcript(std::ostream& stream) : stream_(stream) {}

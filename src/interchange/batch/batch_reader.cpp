@@ -4,10 +4,10 @@
 #include <optional>
 #include <utility>
 
-#include "interchange/source_file.h"
+#include "interchange/shared/source_file.h"
 #include "platform/error.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

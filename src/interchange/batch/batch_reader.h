@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "interchange/batch/batch_tables.h"
-#include "interchange/job_status.h"
+#include "interchange/shared/job_status.h"
 
 namespace fabula::interchange {
 

@@ -2,12 +2,12 @@
 
 #include "condacts/process_filters.h"
 #include "condacts/word_filters.h"
-#include "interchange/fabula/export_fields.h"
+#include "interchange/shared/export_fields.h"
 #include "store/new_flag.h"
-#include "text/bad_bytes.h"
+#include "text/encoding/bad_bytes.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

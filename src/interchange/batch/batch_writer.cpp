@@ -2,10 +2,10 @@
 
 #include "platform/error.h"
 #include "store/record_limits.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

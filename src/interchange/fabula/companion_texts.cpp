@@ -3,14 +3,14 @@
 #include <cstdint>
 #include <optional>
 
-#include "condacts/convert.h"
-#include "condacts/parser.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/parser.h"
 #include "condacts/places.h"
 #include "condacts/words.h"
-#include "interchange/source_file.h"
+#include "interchange/shared/source_file.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

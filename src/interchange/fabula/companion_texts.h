@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "condacts/catalogue.h"
+#include "condacts/language/catalogue.h"
 #include "condacts/words.h"
-#include "store/cursor.h"
+#include "store/query/cursor.h"
 
 namespace fabula::interchange {
 

@@ -9,19 +9,19 @@
 #include <utility>
 #include <vector>
 
-#include "condacts/load.h"
-#include "condacts/parser.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/word_filters.h"
 #include "interchange/fabula/companion_texts.h"
-#include "interchange/fabula/export_fields.h"
-#include "interchange/keyed_table.h"
-#include "interchange/source_file.h"
+#include "interchange/shared/export_fields.h"
+#include "interchange/shared/keyed_table.h"
+#include "interchange/shared/source_file.h"
 #include "platform/error.h"
 #include "store/schema/record_check.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "interchange/job_host.h"
+#include "interchange/shared/job_host.h"
 #include "store/setup.h"
 
 namespace fabula::interchange {

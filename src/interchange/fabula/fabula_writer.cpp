@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "interchange/fabula/export_fields.h"
-#include "interchange/target_file.h"
+#include "interchange/shared/export_fields.h"
+#include "interchange/shared/target_file.h"
+#include "text/encoding/utf8.h"
 #include "text/format.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "condacts/limits.h"
 #include "text/colours.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -1,6 +1,6 @@
 #include "interchange/pc/pc_connections.h"
 
-#include "condacts/parser.h"
+#include "condacts/language/parser.h"
 #include "condacts/places.h"
 
 namespace fabula::interchange {

@@ -6,8 +6,8 @@
 #include <set>
 #include <string>
 
-#include "interchange/keyed_table.h"
 #include "interchange/pc/pc_source_job.h"
+#include "interchange/shared/keyed_table.h"
 
 namespace fabula::interchange {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "interchange/pc/pc_extras.h"
+#include "interchange/shared/source_extras.h"
 #include "platform/error.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "interchange/job_status.h"
-#include "interchange/source_file.h"
+#include "interchange/shared/job_status.h"
+#include "interchange/shared/source_file.h"
 
 namespace fabula::interchange {
 

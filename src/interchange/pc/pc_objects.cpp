@@ -3,10 +3,10 @@
 #include <optional>
 #include <utility>
 
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/parser.h"
 #include "condacts/places.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -3,8 +3,8 @@
 #include <memory>
 #include <set>
 
-#include "interchange/keyed_table.h"
 #include "interchange/pc/pc_source_job.h"
+#include "interchange/shared/keyed_table.h"
 
 namespace fabula::interchange {
 

@@ -2,11 +2,11 @@
 
 #include <optional>
 
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/parser.h"
-#include "interchange/condact_text.h"
+#include "interchange/shared/condact_text.h"
 #include "store/comments.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "interchange/keyed_table.h"
 #include "interchange/pc/pc_source_job.h"
+#include "interchange/shared/keyed_table.h"
 
 namespace fabula::interchange {
 

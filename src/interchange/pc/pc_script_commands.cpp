@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "condacts/convert.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
-#include "interchange/given_records.h"
-#include "interchange/keyed_table.h"
+#include "interchange/shared/given_records.h"
+#include "interchange/shared/keyed_table.h"
 
 namespace fabula::interchange {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <functional>
 
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/parser.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
 

@@ -6,14 +6,14 @@
 #include <string_view>
 #include <vector>
 
-#include "condacts/catalogue.h"
+#include "condacts/language/catalogue.h"
 #include "condacts/words.h"
-#include "interchange/flag_analysis.h"
-#include "interchange/job_host.h"
 #include "interchange/pc/ace_tags.h"
 #include "interchange/pc/pc_dialect.h"
 #include "interchange/pc/pc_lines.h"
 #include "interchange/pc/pc_text_form.h"
+#include "interchange/shared/flag_analysis.h"
+#include "interchange/shared/job_host.h"
 
 namespace fabula::interchange {
 

@@ -4,18 +4,18 @@
 #include <memory>
 #include <string>
 
-#include "condacts/load.h"
-#include "interchange/given_records.h"
+#include "condacts/language/load.h"
 #include "interchange/pc/pc_connections.h"
-#include "interchange/pc/pc_extras.h"
 #include "interchange/pc/pc_objects.h"
 #include "interchange/pc/pc_processes.h"
 #include "interchange/pc/pc_script_commands.h"
 #include "interchange/pc/pc_source_job.h"
 #include "interchange/pc/pc_texts.h"
 #include "interchange/pc/pc_vocabulary.h"
+#include "interchange/shared/given_records.h"
+#include "interchange/shared/source_extras.h"
 #include "store/tags.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -7,26 +7,26 @@
 #include <string_view>
 #include <utility>
 
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
 #include "condacts/process_filters.h"
-#include "interchange/fabula/export_fields.h"
 #include "interchange/pc/ace_tags.h"
-#include "interchange/pc/pc_extras.h"
 #include "interchange/pc/pc_lines.h"
 #include "interchange/pc/pc_source_job.h"
 #include "interchange/pc/pc_texts.h"
-#include "interchange/target_file.h"
+#include "interchange/shared/export_fields.h"
+#include "interchange/shared/source_extras.h"
+#include "interchange/shared/target_file.h"
 #include "store/comments.h"
 #include "store/schema/record_fields.h"
 #include "store/tags.h"
+#include "text/encoding/utf8.h"
+#include "text/encoding/windows1252.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
-#include "text/windows1252.h"
 
 namespace fabula::interchange {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interchange/job_host.h"
+#include "interchange/shared/job_host.h"
 
 namespace fabula::interchange {
 

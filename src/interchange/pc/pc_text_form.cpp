@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "interchange/pc/pc_lines.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/markup.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

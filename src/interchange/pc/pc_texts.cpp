@@ -1,7 +1,7 @@
 #include "interchange/pc/pc_texts.h"
 
 #include "condacts/places.h"
-#include "interchange/given_records.h"
+#include "interchange/shared/given_records.h"
 #include "store/schema/record_fields.h"
 #include "text/line_ends.h"
 

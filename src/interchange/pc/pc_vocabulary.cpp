@@ -2,11 +2,11 @@
 
 #include <optional>
 
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
 #include "condacts/word_filters.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -1,7 +1,7 @@
-#include "interchange/unmarlo/listed_entries.h"
-#include "interchange/unmarlo/listing_lines.h"
+#include "interchange/listing/listed_entries.h"
+#include "interchange/listing/listing_lines.h"
 #include "interchange/unmarlo/unmarlo_section.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -1,7 +1,7 @@
 // The characters and pictures at the end of an UnMarlo listing.
 
-#include "interchange/unmarlo/bit_arrays.h"
-#include "interchange/unmarlo/pictures_of_listing.h"
+#include "interchange/listing/bit_arrays.h"
+#include "interchange/listing/pictures_of_listing.h"
 #include "interchange/unmarlo/unmarlo_section.h"
 #include "pictures/characters/character_sets.h"
 

@@ -2,10 +2,10 @@
 
 #include <iterator>
 
-#include "condacts/load.h"
+#include "condacts/language/load.h"
 #include "condacts/process_numbers.h"
-#include "interchange/source_file.h"
-#include "interchange/unmarlo/listing_lines.h"
+#include "interchange/listing/listing_lines.h"
+#include "interchange/shared/source_file.h"
 #include "interchange/unmarlo/unmarlo_section.h"
 #include "interchange/unmarlo/word_numbers.h"
 #include "text/str_edit.h"

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <string>
 
-#include "interchange/job_host.h"
-#include "interchange/unmarlo/listing_lines.h"
+#include "interchange/listing/listing_lines.h"
+#include "interchange/shared/job_host.h"
 #include "store/setup.h"
 
 namespace fabula::interchange {

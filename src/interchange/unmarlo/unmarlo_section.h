@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "condacts/numbers.h"
-#include "interchange/unmarlo/listing_job.h"
+#include "interchange/listing/listing_job.h"
 
 namespace fabula::interchange {
 

@@ -4,12 +4,12 @@
 #include "condacts/limits.h"
 #include "condacts/places.h"
 #include "condacts/words.h"
-#include "interchange/source_file.h"
-#include "interchange/unmarlo/game_words.h"
+#include "interchange/listing/game_words.h"
+#include "interchange/shared/source_file.h"
 #include "interchange/unmarlo/unmarlo_section.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -1,5 +1,5 @@
-#include "interchange/source_file.h"
-#include "interchange/spectrum_text.h"
+#include "interchange/shared/source_file.h"
+#include "interchange/unmarlo/spectrum_text.h"
 #include "interchange/unmarlo/unmarlo_section.h"
 #include "text/line_ends.h"
 

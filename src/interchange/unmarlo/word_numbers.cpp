@@ -1,10 +1,10 @@
 #include "interchange/unmarlo/word_numbers.h"
 
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
-#include "interchange/source_file.h"
-#include "interchange/unmarlo/command_entries.h"
+#include "interchange/listing/command_entries.h"
+#include "interchange/shared/source_file.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "interchange/unmarlo/game_words.h"
-#include "interchange/unmarlo/listing_job.h"
+#include "interchange/listing/game_words.h"
+#include "interchange/listing/listing_job.h"
 
 namespace fabula::interchange {
 

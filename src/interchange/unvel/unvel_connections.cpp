@@ -1,5 +1,5 @@
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/parser.h"
 #include "condacts/words.h"
 #include "interchange/unvel/unvel_section.h"
 #include "text/str_edit.h"

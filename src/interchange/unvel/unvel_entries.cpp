@@ -1,9 +1,9 @@
 #include "condacts/limits.h"
-#include "interchange/unmarlo/listed_entries.h"
-#include "interchange/unmarlo/listing_lines.h"
+#include "interchange/listing/listed_entries.h"
+#include "interchange/listing/listing_lines.h"
 #include "interchange/unvel/unvel_section.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -2,9 +2,9 @@
 
 #include "interchange/unvel/unvel_section.h"
 #include "interchange/unvel/unvel_text.h"
+#include "text/encoding/utf8.h"
+#include "text/encoding/windows1252.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
-#include "text/windows1252.h"
 
 namespace fabula::interchange {
 namespace {

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "interchange/job_host.h"
-#include "interchange/target_file.h"
+#include "interchange/shared/job_host.h"
+#include "interchange/shared/target_file.h"
 
 namespace fabula::interchange {
 

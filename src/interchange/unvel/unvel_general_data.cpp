@@ -2,10 +2,10 @@
 
 #include <cstdlib>
 
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/parser.h"
-#include "interchange/source_file.h"
-#include "interchange/unmarlo/listing_lines.h"
+#include "interchange/listing/listing_lines.h"
+#include "interchange/shared/source_file.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interchange/unmarlo/listing_job.h"
+#include "interchange/listing/listing_job.h"
 
 namespace fabula::interchange {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "interchange/source_file.h"
+#include "interchange/shared/source_file.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "interchange/unmarlo/listing_lines.h"
+#include "interchange/listing/listing_lines.h"
 #include "platform/person.h"
 #include "store/setup.h"
 

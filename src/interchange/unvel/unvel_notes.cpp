@@ -1,11 +1,11 @@
 #include "interchange/unvel/unvel_notes.h"
 
 #include "condacts/limits.h"
-#include "interchange/keyed_table.h"
-#include "interchange/unmarlo/listing_job.h"
+#include "interchange/listing/listing_job.h"
+#include "interchange/shared/keyed_table.h"
 #include "interchange/unvel/unvel_section.h"
 #include "interchange/unvel/unvel_text.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -2,11 +2,11 @@
 
 #include "condacts/limits.h"
 #include "condacts/places.h"
-#include "interchange/source_file.h"
+#include "interchange/shared/source_file.h"
 #include "interchange/unvel/unvel_file.h"
 #include "interchange/unvel/unvel_section.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

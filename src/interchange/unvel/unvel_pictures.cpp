@@ -1,7 +1,7 @@
 // The pictures and characters of an UnVel listing.
 
-#include "interchange/unmarlo/bit_arrays.h"
-#include "interchange/unmarlo/pictures_of_listing.h"
+#include "interchange/listing/bit_arrays.h"
+#include "interchange/listing/pictures_of_listing.h"
 #include "interchange/unvel/unvel_section.h"
 #include "pictures/characters/character_sets.h"
 #include "store/character_key.h"

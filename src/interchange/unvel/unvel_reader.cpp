@@ -5,17 +5,17 @@
 #include <utility>
 #include <vector>
 
+#include "condacts/language/load.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "interchange/given_records.h"
-#include "interchange/pc/pc_extras.h"
-#include "interchange/source_file.h"
-#include "interchange/unmarlo/command_entries.h"
+#include "interchange/listing/command_entries.h"
+#include "interchange/shared/given_records.h"
+#include "interchange/shared/source_extras.h"
+#include "interchange/shared/source_file.h"
 #include "interchange/unvel/unvel_general_data.h"
 #include "interchange/unvel/unvel_head.h"
 #include "interchange/unvel/unvel_notes.h"
 #include "interchange/unvel/unvel_section.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -7,8 +7,8 @@
 
 #include "condacts/numbers.h"
 #include "condacts/words.h"
-#include "interchange/unmarlo/game_words.h"
-#include "interchange/unmarlo/listing_job.h"
+#include "interchange/listing/game_words.h"
+#include "interchange/listing/listing_job.h"
 
 namespace fabula::interchange {
 

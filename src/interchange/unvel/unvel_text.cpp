@@ -4,11 +4,11 @@
 #include <iterator>
 #include <optional>
 
-#include "condacts/parser.h"
+#include "condacts/language/parser.h"
 #include "pictures/drawing.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -1,7 +1,7 @@
-#include "condacts/load.h"
+#include "condacts/language/load.h"
 #include "interchange/unvel/unvel_section.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

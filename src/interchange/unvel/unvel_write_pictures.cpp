@@ -1,8 +1,8 @@
 #include <map>
 
-#include "interchange/listing_numbers.h"
-#include "interchange/unmarlo/bit_arrays.h"
-#include "interchange/unmarlo/listing_lines.h"
+#include "interchange/listing/bit_arrays.h"
+#include "interchange/listing/listing_lines.h"
+#include "interchange/listing/listing_numbers.h"
 #include "interchange/unvel/unvel_file.h"
 #include "pictures/book_loader.h"
 #include "pictures/drawstring.h"

@@ -4,23 +4,23 @@
 #include <iterator>
 #include <set>
 
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/limits.h"
-#include "condacts/load.h"
-#include "condacts/parser.h"
 #include "condacts/places.h"
 #include "condacts/process_filters.h"
-#include "interchange/fabula/export_fields.h"
-#include "interchange/pc/pc_extras.h"
-#include "interchange/source_file.h"
+#include "interchange/shared/export_fields.h"
+#include "interchange/shared/source_extras.h"
+#include "interchange/shared/source_file.h"
 #include "interchange/unvel/unvel_file.h"
 #include "interchange/unvel/unvel_general_data.h"
 #include "interchange/unvel/unvel_head.h"
 #include "interchange/unvel/unvel_notes.h"
 #include "store/schema/record_fields.h"
+#include "text/encoding/utf8.h"
 #include "text/format.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::interchange {
 namespace {

@@ -5,10 +5,10 @@
 #include <utility>
 
 #include "listings/record.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
-#include "text/utf8.h"
 
 namespace fabula::listings {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "listings/record.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::listings {
 namespace {

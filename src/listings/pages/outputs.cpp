@@ -2,7 +2,7 @@
 
 #include "listings/pages/html_page.h"
 #include "listings/pages/text_page.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::listings {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "listings/pages/dot_picture.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::listings {
 namespace {

@@ -6,11 +6,11 @@
 #include "pictures/drawstring.h"
 #include "platform/error.h"
 #include "store/character_key.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
 
 namespace fabula::pictures {
 namespace {

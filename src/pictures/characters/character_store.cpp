@@ -13,8 +13,8 @@
 #include "platform/whole_file.h"
 #include "store/adventure.h"
 #include "store/file/file_copy.h"
+#include "text/encoding/windows1252.h"
 #include "text/str_edit.h"
-#include "text/windows1252.h"
 
 namespace fabula::pictures {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "platform/error.h"
 #include "store/file/file_copy.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::pictures {
 namespace {

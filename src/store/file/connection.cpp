@@ -5,7 +5,7 @@
 #include <sqlite3.h>
 
 #include "store/filter/filter.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::store {
 namespace {

@@ -16,7 +16,7 @@
 #include "store/file/connection.h"
 #include "store/file/file_check.h"
 #include "store/file/temporary_file.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::store {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "store/comments.h"
 #include "store/schema/needed_fields.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::store {
 namespace {

@@ -12,8 +12,8 @@
 #include <unistd.h>
 
 #include "platform/error.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {

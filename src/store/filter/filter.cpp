@@ -3,7 +3,7 @@
 #include <cmath>
 #include <optional>
 
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::store {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {

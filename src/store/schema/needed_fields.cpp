@@ -1,7 +1,7 @@
 #include "store/schema/needed_fields.h"
 
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
-#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "platform/error.h"
 #include "platform/whole_file.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
-#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {

@@ -5,12 +5,12 @@
 
 #include "store/character_key.h"
 #include "store/schema/record_check.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/format.h"
 #include "text/line_ends.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::store {
 namespace {

@@ -1,6 +1,6 @@
 #include "store/schema/table_catalogue.h"
 
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::store {
 namespace {

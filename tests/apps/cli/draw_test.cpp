@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "store/adventure.h"
+#include "support/games/template_adventure.h"
 #include "support/places.h"
 #include "support/run_program.h"
-#include "support/template_adventure.h"
 
 namespace fabula::test {
 namespace {

@@ -5,8 +5,8 @@
 #include "support/places.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
-#include "text/safe_text.h"
-#include "text/utf8.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::test {
 namespace {

@@ -1,6 +1,6 @@
 #include "waiting_game.h"
 
-#include "support/starter_game.h"
+#include "support/games/starter_game.h"
 
 namespace fabula::test {
 namespace {

@@ -30,8 +30,8 @@
 #include "platform/clock.h"
 #include "platform/settings.h"
 #include "qt/qt_programs.h"
+#include "support/doubles/scripted_pump.h"
 #include "support/places.h"
-#include "support/scripted_pump.h"
 
 namespace fabula::test {
 namespace {

@@ -13,9 +13,9 @@
 #include "qt/help_folder.h"
 #include "qt/qt_programs.h"
 #include "qt/qt_settings.h"
-#include "support/game_builder.h"
-#include "support/manual_timers.h"
-#include "support/scripted_dialogs.h"
+#include "support/doubles/manual_timers.h"
+#include "support/doubles/scripted_dialogs.h"
+#include "support/games/game_builder.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

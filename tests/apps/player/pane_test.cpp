@@ -10,7 +10,7 @@
 #include "player/panes/pane_keys.h"
 #include "player/panes/picture_pane.h"
 #include "player/panes/text_pane.h"
-#include "support/manual_timers.h"
+#include "support/doubles/manual_timers.h"
 
 namespace fabula::player {
 namespace {

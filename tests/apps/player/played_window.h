@@ -7,9 +7,9 @@
 #include <string>
 
 #include "player/window/player_window.h"
-#include "support/game_builder.h"
-#include "support/manual_timers.h"
-#include "support/scripted_dialogs.h"
+#include "support/doubles/manual_timers.h"
+#include "support/doubles/scripted_dialogs.h"
+#include "support/games/game_builder.h"
 #include "support/temp_folder.h"
 
 namespace fabula::test {

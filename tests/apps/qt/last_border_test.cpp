@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
-#include "support/scripted_dialogs.h"
+#include "support/doubles/scripted_dialogs.h"
 
 namespace fabula::test {
 namespace {

@@ -9,7 +9,7 @@
 #include "authoring/main_screen_stand.h"
 #include "platform/error.h"
 #include "platform/whole_file.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::authoring {
 namespace {

@@ -8,9 +8,9 @@
 #include "authoring/document/screen_context.h"
 #include "platform/error.h"
 #include "support/child_process.h"
-#include "support/scripted_dialogs.h"
+#include "support/doubles/scripted_dialogs.h"
+#include "support/games/template_adventure.h"
 #include "support/temp_folder.h"
-#include "support/template_adventure.h"
 
 namespace fabula::authoring {
 namespace {

@@ -12,8 +12,8 @@
 #include "authoring/main_screen_stand.h"
 #include "platform/error.h"
 #include "support/child_process.h"
+#include "support/games/template_adventure.h"
 #include "support/raw_database.h"
-#include "support/template_adventure.h"
 
 namespace fabula::authoring {
 namespace {

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
-#include "support/scripted_dialogs.h"
-#include "support/template_adventure.h"
+#include "support/doubles/scripted_dialogs.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::authoring {
 namespace {

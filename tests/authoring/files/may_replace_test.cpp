@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/scripted_person.h"
+#include "support/doubles/scripted_person.h"
 #include "support/temp_folder.h"
 
 namespace fabula::authoring {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::authoring {
 namespace {

@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
-#include "support/scripted_dialogs.h"
-#include "support/scripted_pump.h"
+#include "support/doubles/scripted_dialogs.h"
+#include "support/doubles/scripted_pump.h"
 #include "support/temp_folder.h"
 
 namespace fabula::authoring {

@@ -5,11 +5,11 @@
 #include <gtest/gtest.h>
 
 #include "authoring/document/document.h"
+#include "support/doubles/scripted_dialogs.h"
+#include "support/doubles/scripted_pump.h"
+#include "support/games/template_adventure.h"
 #include "support/places.h"
 #include "support/raw_database.h"
-#include "support/scripted_dialogs.h"
-#include "support/scripted_pump.h"
-#include "support/template_adventure.h"
 
 namespace fabula::authoring {
 namespace {

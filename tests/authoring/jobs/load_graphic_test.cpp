@@ -7,8 +7,8 @@
 
 #include "authoring/desk.h"
 #include "authoring/jobs/interchange_screen.h"
+#include "support/doubles/scripted_pump.h"
 #include "support/places.h"
-#include "support/scripted_pump.h"
 
 namespace fabula::authoring {
 namespace {

@@ -10,7 +10,7 @@
 
 #include "authoring/desk.h"
 #include "authoring/jobs/verify.h"
-#include "condacts/load.h"
+#include "condacts/language/load.h"
 #include "support/trials.h"
 
 namespace fabula::authoring {

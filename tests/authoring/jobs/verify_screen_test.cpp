@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "support/scripted_dialogs.h"
-#include "support/scripted_pump.h"
-#include "support/template_adventure.h"
+#include "support/doubles/scripted_dialogs.h"
+#include "support/doubles/scripted_pump.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::authoring {
 namespace {

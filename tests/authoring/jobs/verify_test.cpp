@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "condacts/convert.h"
-#include "condacts/load.h"
-#include "support/template_adventure.h"
+#include "condacts/language/convert.h"
+#include "condacts/language/load.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::authoring {
 namespace {

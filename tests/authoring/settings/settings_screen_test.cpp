@@ -9,7 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "authoring/fields/text_editing.h"
+#include "authoring/fields/texts/text_editing.h"
 #include "authoring/settings_stand.h"
 #include "platform/error.h"
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "store/tags.h"
-#include "support/template_adventure.h"
+#include "support/games/template_adventure.h"
 
 namespace fabula::interchange {
 namespace {

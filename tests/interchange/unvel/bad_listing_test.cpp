@@ -10,7 +10,7 @@
 
 #include "interchange/jobs.h"
 #include "interchange/reading.h"
-#include "support/listing_writers.h"
+#include "support/games/listing_writers.h"
 #include "support/places.h"
 #include "support/trials.h"
 

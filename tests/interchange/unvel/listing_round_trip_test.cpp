@@ -9,7 +9,7 @@
 #include "interchange/reading.h"
 #include "interchange/unvel/unvel_head.h"
 #include "interchange/unvel/unvel_writer.h"
-#include "support/listing_writers.h"
+#include "support/games/listing_writers.h"
 #include "support/trials.h"
 #include "text/value.h"
 

@@ -2,7 +2,7 @@
 
 #include "interchange/reading.h"
 #include "interchange/unvel/unvel_general_data.h"
-#include "support/listing_writers.h"
+#include "support/games/listing_writers.h"
 
 namespace fabula::interchange {
 namespace {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "interchange/reading.h"
-#include "support/listing_writers.h"
+#include "support/games/listing_writers.h"
 
 namespace fabula::interchange {
 namespace {

@@ -1,8 +1,8 @@
 #include <set>
 
 #include "authoring/batch/batch_import.h"
-#include "cli/console.h"
-#include "cli/fault_report.h"
+#include "cli/host/console.h"
+#include "cli/host/fault_report.h"
 #include "cli/target.h"
 #include "cli/verbs.h"
 #include "interchange/batch/batch_writer.h"

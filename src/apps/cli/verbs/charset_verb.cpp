@@ -2,16 +2,16 @@
 #include <iostream>
 #include <vector>
 
+#include "cli/host/terminal_person.h"
 #include "cli/target.h"
-#include "cli/terminal_person.h"
 #include "cli/verbs.h"
 #include "pictures/characters/character_store.h"
 #include "store/adventure.h"
 #include "store/character_key.h"
 #include "store/extensions.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 #include "text/format.h"
-#include "text/safe_text.h"
-#include "text/utf8.h"
 
 namespace fabula::cli {
 namespace {

@@ -1,10 +1,10 @@
 #include <filesystem>
 
 #include "authoring/jobs/verify.h"
-#include "cli/console.h"
 #include "cli/encoding_option.h"
-#include "cli/fault_report.h"
 #include "cli/file_kind_option.h"
+#include "cli/host/console.h"
+#include "cli/host/fault_report.h"
 #include "cli/source_adventure.h"
 #include "cli/verbs.h"
 

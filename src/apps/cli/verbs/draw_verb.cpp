@@ -3,8 +3,8 @@
 #include <optional>
 #include <vector>
 
+#include "cli/host/terminal_person.h"
 #include "cli/target.h"
-#include "cli/terminal_person.h"
 #include "cli/verbs.h"
 #include "pictures/book_loader.h"
 #include "pictures/cell_image.h"
@@ -17,7 +17,7 @@
 #include "pictures/files/picture_folder.h"
 #include "platform/error.h"
 #include "store/adventure.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 
 namespace fabula::cli {
 namespace {

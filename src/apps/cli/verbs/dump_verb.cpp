@@ -4,9 +4,9 @@
 #include "cli/json.h"
 #include "cli/verbs.h"
 #include "store/adventure.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
-#include "text/safe_text.h"
-#include "text/utf8.h"
 
 namespace fabula::cli {
 namespace {

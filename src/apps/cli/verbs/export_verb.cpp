@@ -1,6 +1,6 @@
 #include "authoring/jobs/verify.h"
-#include "cli/console.h"
 #include "cli/file_kind_option.h"
+#include "cli/host/console.h"
 #include "cli/target.h"
 #include "cli/verbs.h"
 

@@ -3,7 +3,7 @@
 #include "cli/verbs.h"
 #include "packages/cover.h"
 #include "packages/ifiction.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 
 namespace fabula::cli {
 namespace {

@@ -1,10 +1,10 @@
 #include <optional>
 
-#include "cli/console.h"
 #include "cli/file_kind_option.h"
+#include "cli/host/console.h"
 #include "cli/verbs.h"
 #include "condacts/numbers.h"
-#include "interchange/unmarlo/picture_import.h"
+#include "interchange/picture_import.h"
 #include "store/record_limits.h"
 #include "text/fields.h"
 #include "text/numbers.h"

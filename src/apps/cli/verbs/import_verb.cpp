@@ -1,7 +1,7 @@
-#include "cli/console.h"
 #include "cli/encoding_option.h"
-#include "cli/fault_report.h"
 #include "cli/file_kind_option.h"
+#include "cli/host/console.h"
+#include "cli/host/fault_report.h"
 #include "cli/target.h"
 #include "cli/verbs.h"
 

@@ -7,11 +7,11 @@
 #include "cli/source_switches.h"
 #include "cli/verbs.h"
 #include "platform/error.h"
-#include "references/lint.h"
+#include "references/lint/lint.h"
 #include "references/place_text.h"
 #include "store/extensions.h"
-#include "text/safe_text.h"
-#include "text/utf8.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::cli {
 namespace {

@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
+#include "cli/host/terminal_person.h"
 #include "cli/target.h"
-#include "cli/terminal_person.h"
 #include "cli/verbs.h"
 #include "listings/pages/outputs.h"
 #include "listings/report_options.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::cli {
 namespace {

@@ -1,4 +1,4 @@
-#include "cli/console.h"
+#include "cli/host/console.h"
 #include "cli/installation.h"
 #include "cli/target.h"
 #include "cli/verbs.h"

@@ -1,12 +1,12 @@
 #include <iostream>
 
-#include "cli/console.h"
+#include "cli/host/console.h"
 #include "cli/installation.h"
 #include "cli/target.h"
 #include "cli/verbs.h"
 #include "packages/package.h"
 #include "store/game_path.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 #include "text/str_edit.h"
 
 namespace fabula::cli {

@@ -4,8 +4,8 @@
 
 #include <unistd.h>
 
+#include "cli/host/terminal_person.h"
 #include "cli/target.h"
-#include "cli/terminal_person.h"
 #include "cli/verbs.h"
 #include "engine/output/trace_file.h"
 #include "platform/clock.h"

@@ -4,7 +4,7 @@
 #include "platform/error.h"
 #include "references/place_text.h"
 #include "references/renumber.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 
 namespace fabula::cli {
 namespace {

@@ -10,7 +10,7 @@
 #include "terminal/player_files.h"
 #include "terminal/terminal_game.h"
 #include "terminal/unified_diff.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 
 namespace fabula::cli {
 namespace {

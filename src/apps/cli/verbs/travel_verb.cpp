@@ -1,7 +1,7 @@
 #include <iostream>
 
-#include "cli/console.h"
-#include "cli/fault_report.h"
+#include "cli/host/console.h"
+#include "cli/host/fault_report.h"
 #include "cli/target.h"
 #include "cli/verbs.h"
 #include "packages/travel_report.h"

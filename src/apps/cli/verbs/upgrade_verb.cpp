@@ -1,9 +1,9 @@
 #include <iostream>
 
+#include "cli/host/upgrade_terminal.h"
 #include "cli/installation.h"
-#include "cli/upgrade_terminal.h"
 #include "cli/verbs.h"
-#include "text/safe_text.h"
+#include "text/encoding/safe_text.h"
 #include "upgrades/upgrade.h"
 
 namespace fabula::cli {

@@ -8,9 +8,9 @@
 #include "references/index.h"
 #include "references/place_text.h"
 #include "store/record_limits.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
-#include "text/safe_text.h"
-#include "text/utf8.h"
 
 namespace fabula::cli {
 namespace {

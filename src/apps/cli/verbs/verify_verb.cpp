@@ -1,7 +1,7 @@
 #include "authoring/jobs/verify.h"
-#include "cli/fault_report.h"
 #include "cli/file_kind_option.h"
-#include "cli/job_terminal.h"
+#include "cli/host/fault_report.h"
+#include "cli/host/job_terminal.h"
 #include "cli/verbs.h"
 
 namespace fabula::cli {

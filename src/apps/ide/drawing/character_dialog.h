@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "authoring/drawing/character_editor.h"
-#include "ide/dialogs/records/screen_dialog.h"
+#include "ide/dialogs/screen_dialog.h"
 
 class QGridLayout;
 class QLabel;

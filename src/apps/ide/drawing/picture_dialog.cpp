@@ -13,7 +13,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "authoring/fields/brief_text.h"
+#include "authoring/fields/texts/brief_text.h"
 #include "ide/drawing/command_list.h"
 #include "ide/drawing/image_import_dialog.h"
 #include "ide/drawing/picture_canvas.h"

@@ -5,7 +5,7 @@
 
 #include "authoring/drawing/picture_editor.h"
 #include "authoring/drawing/tracing_image.h"
-#include "ide/dialogs/records/screen_dialog.h"
+#include "ide/dialogs/screen_dialog.h"
 #include "platform/settings.h"
 
 class QCheckBox;

@@ -8,7 +8,7 @@
 
 #include "qt/help/help_request.h"
 #include "qt/strings.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::ide {
 namespace {

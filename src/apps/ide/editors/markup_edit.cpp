@@ -10,14 +10,14 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "authoring/fields/markup_spans.h"
+#include "authoring/fields/texts/markup_spans.h"
 #include "ide/editors/edit_controls.h"
 #include "ide/editors/markup_highlighter.h"
 #include "player/panes/text_colours.h"
 #include "qt/colours.h"
 #include "qt/strings.h"
+#include "text/encoding/safe_text.h"
 #include "text/markup.h"
-#include "text/safe_text.h"
 
 namespace fabula::ide {
 namespace {

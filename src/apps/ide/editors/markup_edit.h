@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "authoring/fields/text_editing.h"
+#include "authoring/fields/texts/text_editing.h"
 
 class QAbstractScrollArea;
 class QFontMetrics;

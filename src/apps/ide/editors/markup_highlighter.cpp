@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-#include "authoring/fields/markup_spans.h"
+#include "authoring/fields/texts/markup_spans.h"
 #include "player/panes/text_colours.h"
 #include "qt/strings.h"
 

@@ -18,8 +18,8 @@
 #include "platform/error.h"
 #include "qt/strings.h"
 #include "store/file/file_copy.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
-#include "text/utf8.h"
 
 namespace fabula::ide {
 namespace {

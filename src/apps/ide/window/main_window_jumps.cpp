@@ -14,7 +14,7 @@
 #include "ide/window/panes/uses_pane.h"
 #include "platform/error.h"
 #include "qt/strings.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 // Ways through the adventure: uses, jumps, find and replace over all tables, numbers.
 

@@ -10,7 +10,7 @@
 #include <QStackedWidget>
 #include <QTableView>
 
-#include "ide/dialogs/records/leaving.h"
+#include "ide/dialogs/leaving.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/picture_view.h"
 #include "ide/editors/record_picture.h"

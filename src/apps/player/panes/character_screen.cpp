@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "text/safe_text.h"
-#include "text/utf8.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::player {
 

@@ -16,8 +16,8 @@
 #include "player/play/played_game.h"
 #include "qt/colours.h"
 #include "qt/strings.h"
-#include "text/safe_text.h"
-#include "text/utf8.h"
+#include "text/encoding/safe_text.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::player {
 

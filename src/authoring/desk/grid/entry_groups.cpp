@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <limits>
 
-#include "condacts/load.h"
-#include "condacts/parser.h"
+#include "condacts/language/load.h"
+#include "condacts/language/parser.h"
 #include "condacts/words.h"
-#include "store/prepared_query.h"
-#include "text/utf8.h"
+#include "store/query/prepared_query.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "authoring/fields/record_texts.h"
-#include "condacts/catalogue.h"
-#include "condacts/facts.h"
+#include "authoring/fields/texts/record_texts.h"
+#include "condacts/language/catalogue.h"
+#include "condacts/language/facts.h"
 #include "store/adventure.h"
 
 namespace fabula::authoring {

@@ -1,8 +1,8 @@
 #include "authoring/desk/grid/sort_order.h"
 
-#include "store/selection.h"
+#include "store/query/selection.h"
+#include "text/encoding/utf8.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -5,9 +5,9 @@
 #include <stdexcept>
 
 #include "authoring/desk/grid/sort_order.h"
+#include "text/encoding/utf8.h"
 #include "text/fields.h"
 #include "text/str_edit.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 

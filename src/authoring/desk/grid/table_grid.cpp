@@ -9,8 +9,8 @@
 #include "authoring/fields/cond_act_help.h"
 #include "store/filter/filter.h"
 #include "store/schema/record_fields.h"
+#include "text/encoding/utf8.h"
 #include "text/line_ends.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -5,7 +5,7 @@
 #include <set>
 #include <string_view>
 
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -6,8 +6,8 @@
 #include "authoring/document/screen_context.h"
 #include "store/comments.h"
 #include "store/filter/filter.h"
+#include "text/encoding/utf8.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
 
 namespace fabula::authoring {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "authoring/desk/search/navigator.h"
-#include "references/lint.h"
+#include "references/lint/lint.h"
 
 namespace fabula::authoring {
 
@@ -33,8 +33,8 @@ struct FindingKind {
     std::string reason = {};  ///< why it is
 };
 
-/// The list of what the open adventure has that can't be meant (references/lint.h), of all kinds or of one,
-/// and the switches that the adventure keeps. The adventure is looked through by `Read` and by nothing
+/// The list of what the open adventure has that can't be meant (references/lint/lint.h), of all kinds or of
+/// one, and the switches that the adventure keeps. The adventure is looked through by `Read` and by nothing
 /// else, since it takes a moment.
 class FindingsList {
   public:

@@ -5,10 +5,10 @@
 #include <set>
 
 #include "authoring/entries/record_keys.h"
-#include "authoring/fields/brief_text.h"
-#include "condacts/parser.h"
+#include "authoring/fields/texts/brief_text.h"
+#include "condacts/language/parser.h"
 #include "references/find_replace.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::authoring {
 

@@ -1,6 +1,6 @@
 #include "authoring/desk/search/renumber_screen.h"
 
-#include "condacts/parser.h"
+#include "condacts/language/parser.h"
 #include "platform/error.h"
 #include "references/place_text.h"
 #include "text/str_edit.h"

@@ -10,7 +10,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "ide/dialogs/records/option_focus.h"
+#include "ide/dialogs/option_focus.h"
 #include "ide/editors/edit_controls.h"
 #include "qt/fitting_size.h"
 #include "qt/strings.h"

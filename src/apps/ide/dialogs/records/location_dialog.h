@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "authoring/fields/text_editing.h"
+#include "authoring/fields/texts/text_editing.h"
 #include "authoring/screens/location_screen.h"
 #include "ide/dialogs/records/record_dialog.h"
 #include "ide/editors/markup_edit.h"

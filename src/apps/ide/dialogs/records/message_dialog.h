@@ -3,9 +3,9 @@
 #include <QCoreApplication>
 #include <QList>
 
-#include "authoring/fields/text_editing.h"
+#include "authoring/fields/texts/text_editing.h"
 #include "authoring/screens/message_screen.h"
-#include "ide/dialogs/records/screen_dialog.h"
+#include "ide/dialogs/screen_dialog.h"
 
 class QHBoxLayout;
 class QLabel;

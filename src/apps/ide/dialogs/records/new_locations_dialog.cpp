@@ -7,7 +7,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include "ide/dialogs/records/update_and_exit.h"
+#include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/look/wrapped_label.h"

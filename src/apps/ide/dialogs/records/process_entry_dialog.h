@@ -6,7 +6,7 @@
 #include <string>
 
 #include "authoring/screens/process_entry_screen.h"
-#include "ide/dialogs/records/screen_dialog.h"
+#include "ide/dialogs/screen_dialog.h"
 
 class QComboBox;
 class QLabel;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "authoring/screens/record_screen.h"
-#include "ide/dialogs/records/screen_dialog.h"
+#include "ide/dialogs/screen_dialog.h"
 #include "ide/editors/edit_controls.h"
 
 class QBoxLayout;

@@ -6,7 +6,7 @@
 #include "ide/dialogs/records/quick_list_dialog.h"
 #include "platform/error.h"
 #include "qt/strings.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::ide {
 

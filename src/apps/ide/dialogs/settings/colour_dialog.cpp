@@ -11,7 +11,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "ide/dialogs/records/update_and_exit.h"
+#include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/layout.h"
 #include "qt/colours.h"
 #include "qt/strings.h"

@@ -4,7 +4,7 @@
 
 #include "authoring/settings/settings_screen.h"
 #include "engine/sound_player.h"
-#include "ide/dialogs/records/screen_dialog.h"
+#include "ide/dialogs/screen_dialog.h"
 
 class QComboBox;
 class QTabWidget;

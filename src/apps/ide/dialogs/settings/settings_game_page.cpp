@@ -18,7 +18,7 @@
 #include "ide/editors/layout.h"
 #include "qt/strings.h"
 #include "text/colours.h"
-#include "text/utf8.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::ide {
 

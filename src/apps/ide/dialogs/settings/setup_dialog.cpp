@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 #include "authoring/settings/setup_texts.h"
-#include "ide/dialogs/records/option_focus.h"
+#include "ide/dialogs/option_focus.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {

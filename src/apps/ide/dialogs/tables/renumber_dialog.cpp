@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ide/dialogs/records/update_and_exit.h"
+#include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
 #include "qt/fitting_size.h"

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ide/dialogs/records/update_and_exit.h"
+#include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/edit_controls.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
