@@ -40,7 +40,9 @@ void ListedEntry::AddCondActs(std::string_view line) {
 void ListedEntries::Flush(ListedEntry& entry, const condacts::Catalogue& catalogue,
                           const condacts::WordIndex& words) {
     if (!entry.IsEmpty()) Add(entry, catalogue, words);
-    entry = {.table = entry.table};
+    const condacts::ProcessNumber table = entry.table;
+    entry = ListedEntry{};
+    entry.table = table;
 }
 
 void ListedEntries::Add(const ListedEntry& entry, const condacts::Catalogue& catalogue,
