@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/host_parts.h"
 #include "engine/output/script.h"
 #include "engine/run_failure.h"
 #include "support/doubles/recording_window.h"
@@ -67,6 +68,21 @@ TEST_F(PrinterTest, OtherLineEndsEndALineToo) {
 TEST_F(PrinterTest, AWordThatDoesNotFitGoesToTheNextLine) {
     window_.measures.textWidth = 10;
     EXPECT_EQ(Screen("aaaa bbbb cccc"), "aaaa bbbb \ncccc");
+}
+
+TEST_F(PrinterTest, AWidthThatChangesHoldsFromTheNextTextOn) {
+    window_.measures.textWidth = 20;
+    printer_->PrintText("aaaa bbbb cccc\u008C", false, true);
+    window_.measures.textWidth = 10;
+    printer_->PrintText("aaaa bbbb cccc", false, true);
+    EXPECT_EQ(window_.Screen(), "aaaa bbbb cccc\naaaa bbbb \ncccc");
+}
+
+TEST_F(PrinterTest, AHostThatTellsNoMeasuresGetsItsLinesWhole) {
+    const engine::HostParts none{engine::WindowParts{}};
+    engine::Printer(window_, none.measures, settings_, script_)
+        .PrintText(std::string(2000, 'a') + " b", false, true);
+    EXPECT_EQ(window_.Screen(), std::string(2000, 'a') + " b");
 }
 
 TEST_F(PrinterTest, AWordThatJustFitsStays) {
