@@ -166,9 +166,10 @@ TEST(TimeOutTick, TakesItsMarkAwayAndStartsAgain) {
 
 TEST(TimeOutTick, ThrowsAwayWhatWasTyped) {
     const auto run = Timed().Start();
+    run->Said();
     Press(*run, "do");
     run->engine.TimeOutTick();
-    run->Said();
+    EXPECT_EQ(run->Said(), "You doze. (35)");
     run->engine.Key(Engine::kEnter);
     EXPECT_EQ(run->Said(), "");
 }

@@ -219,6 +219,17 @@ TEST(Renumbering, WarnsOfMessagesThatAFlagCounts) {
         "Flag 70 is counted, and what it holds is taken for a message: see process table 0, entry 1.");
 }
 
+TEST(Renumbering, WarnsOfObjectsThatChangeTheirPlaceInLists) {
+    test::OpenedAdventure game;
+    for (const int object : {3, 4, 6})
+        test::PutObject(*game, object, 252, kAnyWord, kAnyWord);
+    const std::vector<std::string> warning{
+        "Objects are listed in the order of their numbers, which this changes."};
+    EXPECT_EQ(PlanRenumbering(*game, {Kind::Object, 3}, 4).warnings, warning);
+    EXPECT_EQ(PlanRenumbering(*game, {Kind::Object, 3}, 5).warnings, warning);
+    EXPECT_EQ(PlanRenumbering(*game, {Kind::Object, 4}, 5).warnings, std::vector<std::string>{});
+}
+
 TEST(Renumbering, EachOfTwoEntriesWithOneNumberKeepsItsOwnLine) {
     test::OpenedAdventure game;
     test::PutMessage(*game, 7, "Seven");

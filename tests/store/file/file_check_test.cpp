@@ -141,6 +141,13 @@ TEST_F(FileCheck, AHeaderThatOnlyReadersWouldTakeForAWriteAheadLogIsRefused) {
     EXPECT_EQ(Refusal(), kDamaged);
 }
 
+TEST_F(FileCheck, AHeaderThatOnlyWritersWouldTakeForAWriteAheadLogIsDamaged) {
+    std::string bytes = ReadBytes(file_);
+    bytes[18] = 2;
+    WriteBytes(file_, bytes);
+    EXPECT_EQ(Refusal(), kDamaged);
+}
+
 TEST_F(FileCheck, ATruncatedFileIsRefusedWhereverItEnds) {
     const std::string whole = ReadBytes(file_);
     for (std::size_t length = 0; length < whole.size(); length += 4096 + 511) {

@@ -99,6 +99,14 @@ TEST_F(SaveCopy, WorksFromAFileThatIsOpenForReading) {
     EXPECT_THROW(adventure_->DeleteFrom(TableNum::Messages), Error);
 }
 
+TEST_F(SaveCopy, ThatCouldNotBeOpenedAgainReplacesNothing) {
+    WriteBytes(target_, "as it was");
+    test::RawDatabase(adventure_.File()).Run("CREATE TABLE stranger(number INTEGER)");
+    EXPECT_THROW(adventure_->SaveCopy(target_), OpenError);
+    EXPECT_EQ(ReadBytes(target_), "as it was");
+    EXPECT_EQ(FilesIn(folder_.Path()), std::vector<std::string>{"copy.fbd"});
+}
+
 TEST_F(SaveCopy, WorksWhileALookUpIsNotReadToItsEnd) {
     AddMessage(1, "one");
     AddMessage(2, "two");

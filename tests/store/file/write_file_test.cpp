@@ -1,5 +1,7 @@
 // What keeps a write that fails from taking away the file that was there before.
 
+#include <string>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -13,7 +15,8 @@
 
 namespace {
 
-int flushedFolders = 0;
+/// What was flushed, in order: "d" for a folder, "f" for a file.
+std::string flushed;
 
 }  // namespace
 
@@ -21,7 +24,7 @@ int flushedFolders = 0;
 /// power.
 extern "C" int fsync(int handle) {
     struct stat status = {};
-    if (fstat(handle, &status) == 0 && S_ISDIR(status.st_mode)) ++flushedFolders;
+    if (fstat(handle, &status) == 0) flushed += S_ISDIR(status.st_mode) ? 'd' : 'f';
     return static_cast<int>(syscall(SYS_fsync, handle));
 }
 
@@ -45,11 +48,11 @@ TEST(WriteFile, ThatCannotWriteToTheEndReplacesNothing) {
     EXPECT_EQ(test::ReadBytes(file), "a good save");
 }
 
-TEST(WriteFile, WaitsUntilTheFolderHasTheNewName) {
+TEST(WriteFile, WaitsUntilTheDiskHasTheBytesAndThenUntilTheFolderHasTheNewName) {
     const test::TempFolder folder;
-    flushedFolders = 0;
+    flushed.clear();
     WriteFile(folder / "game.sav", "text");
-    EXPECT_EQ(flushedFolders, 1);
+    EXPECT_EQ(flushed, "fd");
 }
 
 }  // namespace
