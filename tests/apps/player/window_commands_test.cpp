@@ -303,6 +303,20 @@ TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenTheWindowCloses) {
     EXPECT_EQ(played.dialogs.Boxes()[0].text, "Could not write the transcript /dev/full. It is closed.");
 }
 
+TEST(WindowCommands, TranscriptNeverTakesThePlaceOfAnAdventure) {
+    PlayedWindow played;
+    played.Load(CommandsGame());
+    const auto game = played.folder / "game.fbd";
+    const auto size = std::filesystem::file_size(game);
+    played.dialogs.AnswerFile(game);
+    played.Action("Transcript").trigger();
+    ASSERT_EQ(played.dialogs.Boxes().size(), 1U);
+    EXPECT_EQ(played.dialogs.Boxes()[0].text,
+              "Could not write " + game.string() + ": it is an adventure.");
+    EXPECT_EQ(std::filesystem::file_size(game), size);
+    EXPECT_FALSE(played.Action("Transcript").isChecked());
+}
+
 // Find and full screen
 
 TEST(WindowCommands, FindGoesUpThroughTheTextAndBackToTheGame) {
