@@ -76,8 +76,8 @@ void AddVerbs(CLI::App& app, std::string_view first, cli::Chosen& chosen) {
 
 /// Whether the first word is meant as a verb, and is none.
 bool IsNoVerb(std::string_view first) {
-    return !first.starts_with('-') && std::ranges::find(cli::kVerbs, first, &cli::Verb::name) ==
-                                          std::end(cli::kVerbs);
+    return !first.starts_with('-') &&
+           std::ranges::find(cli::kVerbs, first, &cli::Verb::name) == std::end(cli::kVerbs);
 }
 
 }  // namespace

@@ -152,7 +152,8 @@ class ExtractWriter {
     void WriteVocabulary() {
         file_.UnVelHdr("Vocabulary", true);
         Cursor& words = Open(TableNum::Vocabulary, "vocnum,word", "vocnum>0");
-        std::map<std::pair<std::int64_t, std::string>, std::int64_t> written;  // the numbers by type and word
+        // The numbers by type and word.
+        std::map<std::pair<std::int64_t, std::string>, std::int64_t> written;
         for (; !words.Eof(); words.MoveNext()) {
             Record(TableNum::Vocabulary, words.Number("vocindex"));
             const std::string type(condacts::WordTypeName(static_cast<int>(words.Number("voctypen"))));

@@ -344,8 +344,7 @@ TEST(WindowCommands, TranscriptNeverTakesThePlaceOfAnAdventure) {
     played.dialogs.AnswerFile(game);
     played.Action("Transcript").trigger();
     ASSERT_EQ(played.dialogs.Boxes().size(), 1U);
-    EXPECT_EQ(played.dialogs.Boxes()[0].text,
-              "Could not write " + game.string() + ": it is an adventure.");
+    EXPECT_EQ(played.dialogs.Boxes()[0].text, "Could not write " + game.string() + ": it is an adventure.");
     EXPECT_EQ(std::filesystem::file_size(game), size);
     EXPECT_FALSE(played.Action("Transcript").isChecked());
 }
