@@ -167,17 +167,26 @@ bool Engine::TakesInput() const {
 }
 
 void Engine::Key(char32_t key) {
-    if (!TakesInput()) return;
-    Game& game = *game_;
-    if (game.timeOutRunning) StartTimeOut(game);
-    if (key == kEnter || game.Flag(flag::kAnyKey) != 0) return PressEnter();
-    if (key == kBackspace) {
-        RemoveLast(game.command);
-        RemoveLast(game.answer);
-    } else {
-        AppendKey(game.Flag(flag::kAsking) != 0 ? game.answer : game.command, key);
+    Keys({&key, 1});
+}
+
+void Engine::Keys(std::u32string_view keys) {
+    bool typed = false;
+    for (const char32_t key : keys) {
+        if (!TakesInput()) return;
+        Game& game = *game_;
+        if (game.timeOutRunning && !typed) StartTimeOut(game);
+        typed = key != kEnter && game.Flag(flag::kAnyKey) == 0;
+        if (!typed) {
+            PressEnter();
+        } else if (key == kBackspace) {
+            RemoveLast(game.command);
+            RemoveLast(game.answer);
+        } else {
+            AppendKey(game.Flag(flag::kAsking) != 0 ? game.answer : game.command, key);
+        }
     }
-    Guard([&] { ShowTyped(game); });
+    if (typed) Guard([&] { ShowTyped(*game_); });
 }
 
 void Engine::EnterLine(std::string_view line) {

@@ -87,6 +87,8 @@ class Engine {
     /// One key of the player, as a code point: kEnter, kBackspace or a character. Ignored while the game
     /// does not wait for the player.
     void Key(char32_t key);
+    /// Several keys, one after the other. The line that is typed is shown once, behind the last of them.
+    void Keys(std::u32string_view keys);
 
     /// A whole line, as if typed and ended by Enter; it may be empty. Ignored as Key is.
     void EnterLine(std::string_view line);

@@ -31,6 +31,14 @@ TEST(Key, IsShownInUpperCaseWithTheCursorBehind) {
     EXPECT_EQ(run->window.cursor, "_");
 }
 
+TEST(Key, SeveralAreShownOnceBehindTheLast) {
+    const auto run = InputWorld().Start();
+    run->engine.Keys(U"do\bx\r");
+    EXPECT_EQ(run->window.Screen(), "Room 0?\n>DX\n(6)?\n>");
+    run->engine.Keys(U"do");
+    EXPECT_EQ(run->window.typed, "DO");
+}
+
 TEST(Key, EnterRunsTheLine) {
     const auto run = InputWorld().Start();
     run->Said();

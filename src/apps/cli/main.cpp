@@ -18,8 +18,18 @@ namespace {
 using namespace fabula;
 
 int Fail(const std::string& sentence, int status) {
-    std::cerr << "fabula: " << text::SafeLines(sentence) << "\n";
+    std::string line;
+    text::AppendSafe(sentence, line);
+    std::cerr << "fabula: " << line << "\n";
     return status;
+}
+
+/// What the parser refuses, in one line.
+int FailUsage(const CLI::ParseError& error) {
+    constexpr std::string_view kNoValue = "Could not convert: ";
+    std::string sentence = error.what();
+    if (sentence.starts_with(kNoValue)) sentence = sentence.substr(kNoValue.size()) + " is no value for it";
+    return Fail(sentence + "; --help tells more.", cli::kWrongUsage);
 }
 
 /// Tells in one sentence what is being caught. What has no sentence of its own is told with what was being
@@ -64,20 +74,31 @@ void AddVerbs(CLI::App& app, std::string_view first, cli::Chosen& chosen) {
         verb.add(*app.add_subcommand(verb.name, verb.does), chosen);
 }
 
+/// Whether the first word is meant as a verb, and is none.
+bool IsNoVerb(std::string_view first) {
+    return !first.starts_with('-') &&
+           std::ranges::find(cli::kVerbs, first, &cli::Verb::name) == std::end(cli::kVerbs);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) try {
     CLI::App app("Makes and plays text adventures.", "fabula");
     app.set_version_flag("--version", "fabula " FABULA_VERSION);
     app.require_subcommand(1);
+    const std::string verbs = "; fabula --help names them.";
+    if (argc < 2) return Fail("What is to be done is named by a verb" + verbs, cli::kWrongUsage);
+    if (IsNoVerb(argv[1]))
+        return Fail("There is no verb '" + std::string(argv[1]) + "'" + verbs, cli::kWrongUsage);
     cli::Chosen chosen;
-    AddVerbs(app, argc > 1 ? argv[1] : "", chosen);
+    AddVerbs(app, argv[1], chosen);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        const int status = app.exit(error) == 0 ? cli::kDone : cli::kWrongUsage;
+        if (error.get_exit_code() != 0) return FailUsage(error);
+        app.exit(error);
         std::cout.flush();
-        if (std::cout) return status;
+        if (std::cout) return cli::kDone;
         std::cerr << "fabula: Could not write the output.\n";
         return cli::kFailed;
     }

@@ -2,12 +2,15 @@
 
 #include <string>
 
+#include "cli/verb.h"
 #include "platform/error.h"
 
 namespace fabula::cli {
 
 void CheckTarget(const Target& target, platform::Person& person) {
     const std::string name = target.file.string();
+    if (name.find_first_not_of(' ') == std::string::npos)
+        throw UsageError("The name of the file to write is empty.");
     if (store::IsSameFile(target.file, target.source))
         throw Error("Could not write " + name + ": it is the source itself.");
     store::CheckTarget(target.file, target.content, target.extension);

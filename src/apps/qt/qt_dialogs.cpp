@@ -13,6 +13,7 @@
 #include "qt/report_window.h"
 #include "qt/strings.h"
 #include "text/fields.h"
+#include "text/str_edit.h"
 
 namespace fabula::qt {
 namespace {
@@ -44,8 +45,11 @@ std::string QtFilter(const std::string& filter) {
         for (char& letter : pattern) {
             if (letter == ';') letter = ' ';
         }
+        // Many names tell their pattern already.
+        std::string name = FromQt(Translated(parts[part]));
+        if (const auto told = name.rfind("(*"); name.ends_with(')') && told != name.npos) name.resize(told);
         if (part > 0) shown += ";;";
-        shown.append(FromQt(Translated(parts[part]))).append(" (").append(pattern).append(")");
+        shown.append(text::TrimBlanks(name)).append(" (").append(pattern).append(")");
     }
     return shown;
 }

@@ -9,17 +9,25 @@
 #include <unistd.h>
 
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "text/encoding/byte_order_mark.h"
 
 namespace fabula::terminal {
 
+namespace {
+
+/// A pipe ends, as a file does; a device may never.
+const std::filesystem::path& FileOrPipe(const std::filesystem::path& file) {
+    std::error_code error;  // what can't be looked at can't be read either
+    if (!std::filesystem::is_fifo(file, error)) platform::CheckIsFile(file, "read " + file.string());
+    return file;
+}
+
+}  // namespace
+
 LineReader::LineReader(const std::filesystem::path& file)
-    : descriptor_(open(file.c_str(), O_RDONLY | O_CLOEXEC)), owned_(true) {
+    : descriptor_(open(FileOrPipe(file).c_str(), O_RDONLY | O_CLOEXEC)), owned_(true) {
     if (descriptor_ < 0) throw Error("Could not read " + file.string() + ".");
-    std::error_code error;  // what can't be told shows when it is read
-    if (!std::filesystem::is_directory(file, error)) return;
-    close(descriptor_);
-    throw Error("Could not read " + file.string() + ": it is a folder.");
 }
 
 LineReader::~LineReader() {

@@ -99,12 +99,6 @@ std::string MeaningOfName(const CondAct& condAct) {
     return meaning;
 }
 
-/// What the game says stands in quotes.
-std::string Quoted(ParamKind kind, const std::string& meaning) {
-    if (kind != ParamKind::Message && kind != ParamKind::SystemMessage) return meaning;
-    return std::string("\u201C").append(meaning).append("\u201D");
-}
-
 bool IsLetterOfAText(char c) {
     return static_cast<unsigned char>(c) > ' ' &&
            std::string_view(".,;:!?\"'()-").find(c) == std::string_view::npos;
@@ -256,17 +250,30 @@ std::optional<NamedRecord> CondActHelp::Named(store::Adventure& adventure, std::
     return NamedByNumber(*name->table, token);
 }
 
+const ListItem* CondActHelp::RecordOf(ParamKind kind, std::string_view token) const {
+    const std::optional<int> number = condacts::NumberOfToken(token);
+    const std::vector<ListItem>& records = texts_.Of(kind);
+    const auto record = std::find_if(records.begin(), records.end(),
+                                     [&](const ListItem& item) { return item.number == number; });
+    return record == records.end() ? nullptr : &*record;
+}
+
 std::string CondActHelp::MeaningOfNumber(const Parameter& parameter, std::string_view token) const {
     if (const condacts::LocationWord* place = FindLocationWord(parameter, token))
         return std::string(MeaningOf(place->number));
     const std::optional<int> number = condacts::NumberOfToken(token);
     const KindName* name = NameOf(parameter.kind);
     if (!number || name == nullptr) return "";
-    const std::vector<ListItem>& records = texts_.Of(parameter.kind);
-    const auto record = std::find_if(records.begin(), records.end(),
-                                     [&](const ListItem& item) { return item.number == *number; });
-    if (record == records.end()) return "there is no " + std::string(name->noun) + " " + std::string(token);
+    const ListItem* const record = RecordOf(parameter.kind, token);
+    if (record == nullptr) return "there is no " + std::string(name->noun) + " " + std::string(token);
     return record->text.empty() ? std::string(kNoDescription) : record->text;
+}
+
+/// What the game says stands in quotes.
+std::string CondActHelp::Quoted(ParamKind kind, std::string_view token, const std::string& meaning) const {
+    const bool isSaid = kind == ParamKind::Message || kind == ParamKind::SystemMessage;
+    if (!isSaid || RecordOf(kind, token) == nullptr) return meaning;
+    return std::string("\u201C").append(meaning).append("\u201D");
 }
 
 std::string CondActHelp::MeaningOfParameter(const CondAct& condAct, std::size_t place,
@@ -321,7 +328,7 @@ std::string CondActHelp::MeaningOfValue(const CondAct& condAct, std::string_view
                                                  : nullptr;
     if (held == nullptr) return "";
     if (held->kind != ParamKind::Word)
-        return Quoted(held->kind, MeaningOfNumber({.kind = held->kind}, token));
+        return Quoted(held->kind, token, MeaningOfNumber({.kind = held->kind}, token));
     const condacts::WordNumber asked(*number);
     if (asked == condacts::kNoWordNumber) return "none";
     const condacts::Word* const word = facts_.words.FindNumberTyped(asked, held->wordType);
@@ -344,7 +351,7 @@ std::vector<ExplainedCondAct> CondActHelp::Explain(std::string_view line) const 
                                                 : NameIn(condAct, place, token);
             if (meaning.empty()) continue;
             if (!each.meaning.empty()) each.meaning += isValue ? ": " : ", ";
-            each.meaning += Quoted(condAct.params[place].kind, meaning);
+            each.meaning += Quoted(condAct.params[place].kind, token, meaning);
         }
         explained.push_back(std::move(each));
     }

@@ -137,6 +137,9 @@ class CondActHelp {
     std::string MeaningOfValue(const condacts::CondAct& condAct, std::string_view flagToken,
                                std::string_view token) const;
     std::string MeaningOfNumber(const condacts::Parameter& parameter, std::string_view token) const;
+    /// The record that a number names; nullptr where there is none.
+    const ListItem* RecordOf(condacts::ParamKind kind, std::string_view token) const;
+    std::string Quoted(condacts::ParamKind kind, std::string_view token, const std::string& meaning) const;
 
     condacts::Catalogue catalogue_;
     condacts::Facts facts_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/error.h"
+#include "platform/whole_file.h"
 #include "text/encoding/bad_bytes.h"
 #include "text/encoding/byte_order_mark.h"
 #include "text/encoding/utf8.h"
@@ -58,8 +59,8 @@ SourceFile::SourceFile(const std::filesystem::path& file, Encoding encoding)
     : file_(file), buffer_(kBufferSize) {
     const std::string doing = "Could not read the source " + file.string();
     // A pipe or device would wait for ever: only files are opened.
+    platform::CheckIsFile(file, "read the source " + file.string());
     std::error_code error;
-    if (!std::filesystem::is_regular_file(file, error)) throw Error(doing + ".");
     const std::uintmax_t size = std::filesystem::file_size(file, error);
     if (error) throw Error(doing + ".");
     if (size > kLargestSource) throw Error(doing + ": it is too large.");

@@ -47,8 +47,12 @@ class Vocabulary final : public ListingSection {
         const auto number = ListedNumber(CutTrimmed(line, kNumber), condacts::kNoWordNumber.value);
         const condacts::WordType type = TypeFrom(CutTrimmed(line, kType));
         const bool isWord = !word.empty() && word.find(' ') == std::string::npos;
-        if (!isWord || !number || words_.Has(word, type)) {
+        if (!isWord || !number) {
             job_.Fault(kBadListingLine);
+            return;
+        }
+        if (words_.Has(word, type)) {
+            job_.Fault("ERROR: Duplicate Word.\nWord " + word + " deleted.");
             return;
         }
         if (!words_.Add({word, condacts::WordNumber(*number), type}))

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <set>
 
 #include "condacts/language/load.h"
@@ -153,11 +154,20 @@ class ExtractWriter {
     void WriteVocabulary() {
         file_.UnVelHdr("Vocabulary", true);
         Cursor& words = Open(TableNum::Vocabulary, "vocnum,word", "vocnum>0");
+        // The numbers by type and word.
+        std::map<std::pair<std::int64_t, std::string>, std::int64_t> written;
         for (; !words.Eof(); words.MoveNext()) {
             Record(TableNum::Vocabulary, words.Number("vocindex"));
             const std::string type(condacts::WordTypeName(static_cast<int>(words.Number("voctypen"))));
-            file_.Line(text::FormatText(
-                "%a!%t7!%s4!%a", {file_.Word(words.Text("word"), kLetters), words.Field("vocnum"), type}));
+            const std::string word = file_.Word(words.Text("word"), kLetters);
+            const auto [place, isNew] =
+                written.try_emplace({words.Number("voctypen"), word}, words.Number("vocnum"));
+            if (isNew) {
+                file_.Line(text::FormatText("%a!%t7!%s4!%a", {word, words.Field("vocnum"), type}));
+            } else if (place->second != words.Number("vocnum")) {
+                file_.Loss("the word " + std::string(words.Text("word")) + " would be " + word +
+                           ", which is another word. It is left out.");
+            }
         }
     }
 

@@ -174,6 +174,11 @@ TEST_F(DrawVerb, MakesAPictureOfAnImageAndADrawingThatDrawsIt) {
     EXPECT_TRUE(BytesOf(Path("drawn.bmp")) == BytesOf(Path("made.bmp")));
 }
 
+TEST_F(DrawVerb, ReadsTheWhitePictureThatIsInstalled) {
+    const std::string white = (SourceFolder() / "data/pictures/white.bmp").string();
+    EXPECT_EQ(Run({"--from-image", white, Path("white.png")}).status, 0);
+}
+
 TEST_F(DrawVerb, NamesAnImageThatItCannotRead) {
     std::ofstream(folder_ / "none.png") << "no image";
     const ProgramResult result = Run({"--from-image", Path("none.png"), Path("made.bmp")});

@@ -124,6 +124,13 @@ TEST_F(List, FullDiskLeavesTheOldListing) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator()), 1);
 }
 
+TEST_F(List, AFileByTheNameOfAnotherFormIsRefused) {
+    const ProgramResult result = Run({"locations", "--output", File("rooms.pdf")});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "fabula: a listing is a *.txt or *.html file, not *.pdf\n");
+    EXPECT_FALSE(fs::exists(File("rooms.pdf")));
+}
+
 TEST_F(List, TemplateIsNamedByTheRange) {
     EXPECT_NE(Run({"templates", "--range", "keypad_small"}).output.find("|INS|HOM|PUP|"),
               std::string::npos);

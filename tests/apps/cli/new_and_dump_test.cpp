@@ -109,7 +109,7 @@ TEST_F(DumpVerb, AFaultInTheFilterIsWrongUsageAndToldWithItsPlace) {
     const ProgramResult result = Run({"dump", File(), "vocabulary", "--where", "word=5"});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
-    EXPECT_EQ(result.errors, "fabula: at 6: expected a text in quotes\n");
+    EXPECT_EQ(result.errors, "fabula: --where word=5: at 6: expected a text in quotes\n");
 }
 
 TEST_F(DumpVerb, ATableThatDoesNotExistIsWrongUsage) {

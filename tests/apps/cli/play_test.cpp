@@ -225,7 +225,7 @@ TEST_F(PlayVerb, AScriptIsPlayedBeforeTheInput) {
 TEST_F(PlayVerb, AScriptThatIsNotThereIsToldSo) {
     const ProgramResult result = Play("", {"--script", "/nowhere/script"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, "fabula: Could not read /nowhere/script.\n");
+    EXPECT_EQ(result.errors, "fabula: Could not read /nowhere/script: there is no such file.\n");
 }
 
 TEST_F(PlayVerb, TheTranscriptHasAllThatIsShownAndTypedUnbroken) {
@@ -258,7 +258,13 @@ TEST_F(PlayVerb, AScriptThatIsAFolderIsToldBeforeTheGameBegins) {
     const ProgramResult result = Play("", {"--script", File(".")});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
-    EXPECT_EQ(result.errors, "fabula: Could not read " + File(".") + ": it is a folder.\n");
+    EXPECT_EQ(result.errors, "fabula: Could not read " + File(".") + ": it is no file.\n");
+}
+
+TEST_F(PlayVerb, AScriptThatIsADeviceWithoutAnEndIsRefused) {
+    const ProgramResult result = Play("", {"--script", "/dev/zero"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "fabula: Could not read /dev/zero: it is no file.\n");
 }
 
 TEST_F(PlayVerb, TheTranscriptIsWrittenAsTheGameGoesOn) {

@@ -56,6 +56,12 @@ TEST_F(UsesVerb, TakesAWordByItsLetters) {
     EXPECT_EQ(Run({"uses", File("game.fbd"), "thing", "1"}).status, 2);
 }
 
+TEST_F(UsesVerb, TellsThatThereIsNoSuchRecord) {
+    const ProgramResult result = Run({"uses", File("game.fbd"), "message", "9999"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "fabula: There is no message 9999.\n");
+}
+
 TEST_F(UsesVerb, WritesJson) {
     const Json list = Json::parse(Run({"uses", File("game.fbd"), "location", "1", "--json"}).output);
     ASSERT_EQ(list.size(), 2U);

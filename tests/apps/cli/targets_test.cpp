@@ -1,5 +1,6 @@
 // Nothing that a verb writes eats its source, another file of the program's, or a file that nobody gave up.
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -166,6 +167,23 @@ TEST_F(Targets, APipeInPlaceOfAFileThatIsReadIsRefusedWithoutAWait) {
         EXPECT_EQ(result.status, 1) << arguments[0];
         EXPECT_NE(result.errors, "") << arguments[0];
     }
+}
+
+TEST_F(Targets, AnEmptyNameIsRefusedBeforeAnythingIsRead) {
+    const std::vector<std::vector<std::string>> commands = {
+        {"export", "ace", File("game.fbd"), ""},
+        {"import", "ace", File("game.txt"), ""},
+    };
+    for (const auto& arguments : commands) {
+        const ProgramResult result = Run(arguments);
+        EXPECT_EQ(result.status, 2) << arguments[0];
+        EXPECT_EQ(result.errors, "fabula: The name of the file to write is empty.\n") << arguments[0];
+    }
+}
+
+TEST_F(Targets, AFailureIsOneLineWhateverTheNameOfTheFile) {
+    const std::string errors = Run({"verify", File("no\nsuch.fbd")}).errors;
+    EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1) << errors;
 }
 
 TEST_F(Targets, AStarterThatCannotBeAddedLeavesTheOldAdventure) {

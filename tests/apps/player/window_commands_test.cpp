@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFontComboBox>
@@ -206,6 +207,38 @@ TEST(WindowCommands, UndoGoesBackIntoAGameThatEnded) {
     EXPECT_EQ(QApplication::focusWidget(), &played.Window().Screen().Text());
 }
 
+TEST(WindowCommands, UndoIntoAGameThatEndedKeepsWhatWasRead) {
+    PlayedWindow played;
+    played.Load(CommandsGame());
+    played.Type("e\n");
+    played.Type("stop\nn\n");
+    const std::string read = played.Text();
+    played.Press(Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_TRUE(played.Text().starts_with(read)) << played.Text();
+    const std::string added = played.Text().substr(read.size());
+    EXPECT_NE(added.find("Room 1?\n>"), std::string::npos) << added;
+    EXPECT_EQ(added.find("Room 0"), std::string::npos) << added;
+}
+
+TEST(WindowCommands, UndoBeginsATurnOfItsOwn) {
+    PlayedWindow played;
+    played.Load(CommandsGame());
+    played.Type("e\n");
+    played.Type("w\n");
+    const int before = played.Window().Screen().Text().TurnStart();
+    played.Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_GT(played.Window().Screen().Text().TurnStart(), before);
+}
+
+TEST(WindowCommands, PastedTextBeyondTheLongestLineIsDropped) {
+    PlayedWindow played;
+    played.Load(CommandsGame());
+    played.Said();
+    QApplication::clipboard()->setText(QString(1'000'000, 'x'));
+    played.Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(played.Said(), std::string(4096, 'X'));
+}
+
 TEST(WindowCommands, GameThatGoesWrongCanBeGoneBackTo) {
     PlayedWindow played;
     played.Load(CommandsGame());
@@ -313,6 +346,19 @@ TEST(WindowCommands, TranscriptOnAFullDiskIsToldWhenTheWindowCloses) {
     played.Window().close();
     ASSERT_EQ(played.dialogs.Boxes().size(), 1U);
     EXPECT_EQ(played.dialogs.Boxes()[0].text, "Could not write the transcript /dev/full. It is closed.");
+}
+
+TEST(WindowCommands, TranscriptNeverTakesThePlaceOfAnAdventure) {
+    PlayedWindow played;
+    played.Load(CommandsGame());
+    const auto game = played.folder / "game.fbd";
+    const auto size = std::filesystem::file_size(game);
+    played.dialogs.AnswerFile(game);
+    played.Action("Transcript").trigger();
+    ASSERT_EQ(played.dialogs.Boxes().size(), 1U);
+    EXPECT_EQ(played.dialogs.Boxes()[0].text, "Could not write " + game.string() + ": it is an adventure.");
+    EXPECT_EQ(std::filesystem::file_size(game), size);
+    EXPECT_FALSE(played.Action("Transcript").isChecked());
 }
 
 // Find and full screen

@@ -9,6 +9,10 @@ TEST(QtFilter, PutsThePatternInBrackets) {
     EXPECT_EQ(QtFilter("Fabula Save File|*.sav"), "Fabula Save File (*.sav)");
 }
 
+TEST(QtFilter, ANameThatTellsItsPatternDoesNotTellItTwice) {
+    EXPECT_EQ(QtFilter("Text files (*.txt)|*.txt"), "Text files (*.txt)");
+}
+
 TEST(QtFilter, WithoutAPatternShowsAllFiles) {
     EXPECT_EQ(QtFilter("Anything"), "Anything (*)");
 }

@@ -209,6 +209,8 @@ TEST(ALineExplained, IsItsConditionsAndActionsOneByOneWithWhatTheyStandFor) {
 TEST(ALineExplained, TellsWhatIsNotThere) {
     const HelpOf help;
     EXPECT_THAT(help->Explain("AT 77"), ElementsAre(Condition("AT 77", "there is no location 77")));
+    EXPECT_THAT(help->Explain("MESSAGE 77"), ElementsAre(Action("MESSAGE 77", "there is no message 77")))
+        << "in quotes it would be a text of the game";
 }
 
 TEST(ALineExplained, EndsAtANameThatIsNone) {

@@ -133,6 +133,20 @@ TEST(SourceFile, SaysNothingOfPlainTextAndOfAMarkedFile) {
               "Caf\u00E9|");
 }
 
+TEST(SourceFile, ToldWhyItCannotBeRead) {
+    const auto reasonOf = [](const char* file) -> std::string {
+        try {
+            const SourceFile source(file);
+        } catch (const Error& error) {
+            return error.what();
+        }
+        return "none";
+    };
+    EXPECT_EQ(reasonOf("/nowhere/source"),
+              "Could not read the source /nowhere/source: there is no such file.");
+    EXPECT_EQ(reasonOf("/dev/null"), "Could not read the source /dev/null: it is no file.");
+}
+
 TEST(SourceFile, TheEncodingCanBeDecided) {
     EXPECT_EQ(Note("Caf\xC3\xA9", Encoding::Windows1252),
               "Caf\u00C3\u00A9|The text is read as Windows-1252.");

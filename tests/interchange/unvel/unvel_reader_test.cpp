@@ -179,6 +179,12 @@ TEST(UnVelReader, TypesOfWordsAreThoseOfTheListAndElseNouns) {
     EXPECT_EQ(type("word='I'"), 2);
 }
 
+TEST(UnVelReader, AWordTwiceIsToldAsSuch) {
+    UnVelParts parts;
+    parts.words += "LAMP    50Noun\nLAMP    51Noun\n";
+    EXPECT_NE(ReadUnVel(parts).status.find("Duplicate Word"), std::string::npos);
+}
+
 TEST(UnVelReader, TheGamesOwnWordsGoBeforeTheDefaultOnes) {
     const Reading game = ReadUnVel({});
     EXPECT_EQ(game.Count(TableNum::Vocabulary, "word='UNDER'"), 1);

@@ -53,6 +53,15 @@ void AddEntry(store::Adventure& adventure, int table, const char* w1, const char
                {"condacts", std::string(condActs)}});
 }
 
+void AddWord(store::Adventure& adventure, const char* word, int number) {
+    AddRecord(adventure, TableNum::Vocabulary,
+              {{"vocindex", std::int64_t{900 + number}},
+               {"vocnum", std::int64_t{number}},
+               {"word", std::string(word)},
+               {"voctypen", std::int64_t{2}},
+               {"voctype", std::string("Noun")}});
+}
+
 void AddObject(store::Adventure& adventure, int number, int place) {
     AddRecord(adventure, TableNum::Objects,
               {{"objnum", std::int64_t{number}},
@@ -84,6 +93,20 @@ TEST(UnVelWriter, TheFormIsAskedForOrThatOfTheSettingsOrTheNewest) {
     settings.Update();
     EXPECT_TRUE(WrittenExtract(*game).Has("\r\n2.2.0\r\n"));
     EXPECT_TRUE(WrittenExtract(*game, "2.1.0").Has("\r\n2.1.0\r\n"));
+}
+
+TEST(UnVelWriter, AWordThatIsCutToAnotherOneIsLeftOutAndTold) {
+    const test::OpenedAdventure game(AdventureKind::Vel);
+    AddWord(*game, "QUARTER", 60);
+    AddWord(*game, "QUARTERMASTER", 61);
+    AddWord(*game, "QUARTERS", 60);
+    const WrittenExtract extract(*game);
+    EXPECT_TRUE(extract.Has("QUART    60Noun\r\n")) << extract.text;
+    EXPECT_EQ(extract.text.find("QUART"), extract.text.rfind("QUART")) << "one word is written once";
+    EXPECT_NE(extract.status.find(
+                  "the word QUARTERMASTER would be QUART, which is another word. It is left out."),
+              std::string::npos)
+        << extract.status;
 }
 
 TEST(UnVelWriter, AFormThatIsUnknownIsRefused) {

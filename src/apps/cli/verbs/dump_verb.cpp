@@ -4,6 +4,7 @@
 #include "cli/json.h"
 #include "cli/verbs.h"
 #include "store/adventure.h"
+#include "store/filter/filter.h"
 #include "text/encoding/safe_text.h"
 #include "text/encoding/utf8.h"
 #include "text/numbers.h"
@@ -54,12 +55,35 @@ void AppendEscaped(const std::string& json, std::string& line) {
     }
 }
 
+/// The option, with its value, by which the selection is refused.
+std::string RefusedOption(store::Adventure& adventure, store::TableNum table, const DumpOptions& options) {
+    try {
+        adventure.OpenTable(table, options.fields, "");
+    } catch (const store::FilterError&) {
+        return "--fields " + options.fields;
+    }
+    try {
+        adventure.OpenTable(table, "*", options.where);
+    } catch (const store::FilterError&) {
+        return "--where " + options.where;
+    }
+    return "--order " + options.order;
+}
+
+store::Cursor& Selected(store::Adventure& adventure, store::TableNum table, const DumpOptions& options) {
+    std::optional<std::string_view> order;
+    if (!options.order.empty()) order = options.order;
+    try {
+        return adventure.OpenTable(table, options.fields, options.where, order);
+    } catch (const store::FilterError& error) {
+        throw UsageError(RefusedOption(adventure, table, options) + ": " + error.what());
+    }
+}
+
 int Dump(const DumpOptions& options) {
     const store::TableEntry& table = TableNamed(options.table);
     const auto adventure = OpenToRead(options.file);
-    std::optional<std::string_view> order;
-    if (!options.order.empty()) order = options.order;
-    store::Cursor& cursor = adventure->OpenTable(table.number, options.fields, options.where, order);
+    store::Cursor& cursor = Selected(*adventure, table.number, options);
     for (; !cursor.Eof(); cursor.MoveNext()) {
         Json record = Json::object();
         for (std::size_t i = 0; i < cursor.Fields().size(); ++i) {

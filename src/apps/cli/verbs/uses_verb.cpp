@@ -40,6 +40,12 @@ Kind KindNamed(const std::string& name) {
     throw UsageError("there is no '" + name + "' that is used; there are " + names);
 }
 
+bool IsThere(store::Adventure& adventure, const Target& target) {
+    const references::KindEntry& entry = references::EntryOf(target.kind);
+    const std::string where = std::string(entry.keyField) + "=" + std::to_string(target.number);
+    return adventure.Prepare(entry.table, entry.keyField, where).First({});
+}
+
 std::vector<Question> QuestionsAbout(store::Adventure& adventure, Kind kind, const std::string& what) {
     const std::string name = std::string(references::EntryOf(kind).name) + " " + what;
     if (const auto number = text::WholeNumber(what)) {
@@ -90,6 +96,9 @@ int Uses(const UsesOptions& options) {
     Json list = Json::array();
     for (const Question& question : QuestionsAbout(*adventure, kind, options.what)) {
         const auto uses = index.UsesOf(question.target, question.types);
+        // What is not there may still be named somewhere.
+        if (uses.empty() && !IsThere(*adventure, question.target))
+            throw Error("There is no " + question.name + ".");
         if (!options.json) {
             std::cout << text::SafeLines(question.name) << ": "
                       << (uses.empty()

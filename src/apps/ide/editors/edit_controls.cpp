@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include "ide/editors/text_edit.h"
 #include "qt/strings.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
@@ -29,6 +30,7 @@ void AddToForm(QFormLayout& form, const QString& label, QWidget* control, const 
     if (control->accessibleName().isEmpty()) control->setAccessibleName(PlainLabel(label));
     // The line of a list that can be typed into is a control of its own.
     const auto* list = qobject_cast<QComboBox*>(control);
+    if (auto* line = qobject_cast<QLineEdit*>(control)) DropPastedControls(*line);
     if (list != nullptr && list->isEditable()) list->lineEdit()->setAccessibleName(list->accessibleName());
     auto* caption = new QLabel(label);
     caption->setBuddy(control);
@@ -62,7 +64,7 @@ QToolButton* AddToolButton(QGridLayout& grid, const QString& name, const QString
 }
 
 QPlainTextEdit* NewTextEdit(const std::string& text) {
-    auto* edit = new QPlainTextEdit(qt::ToQt(text));
+    auto* edit = new TextEdit(qt::ToQt(text));
     edit->setTabChangesFocus(true);
     edit->setMinimumHeight(6 * edit->fontMetrics().lineSpacing());
     return edit;

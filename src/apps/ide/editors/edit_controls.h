@@ -19,6 +19,7 @@ namespace fabula::ide {
 QString PlainLabel(QString label);
 
 /// Adds a control, found by `name`, to a form. The label holds its mnemonic and is its accessible name too.
+/// A line to type in drops control characters from what is pasted.
 void AddToForm(QFormLayout& form, const QString& label, QWidget* control, const char* name);
 
 /// A button that Return elsewhere does not press.
@@ -29,7 +30,8 @@ QPushButton* NewButton(const QString& text, const char* name);
 QToolButton* AddToolButton(QGridLayout& grid, const QString& name, const QString& text, const QString& tip,
                            int columns = 1);
 
-/// An editor of a text of several lines, which Tab leaves.
+/// An editor of a text of several lines, which Tab leaves. Control characters are dropped from what is
+/// pasted.
 QPlainTextEdit* NewTextEdit(const std::string& text);
 
 /// What an editor holds as it was typed: unlike toPlainText this keeps blanks that do not break.

@@ -29,7 +29,7 @@ constexpr std::array kPages = {
     PageOfTable{TableNum::CondActs, "conditions.html"},
     PageOfTable{TableNum::Commands, "drawing.html"},
     PageOfTable{TableNum::Codes, "markup.html"},
-    PageOfTable{TableNum::Characters, "markup.html"},
+    PageOfTable{TableNum::Characters, "charactereditor.html"},
     PageOfTable{TableNum::Sounds, "sound.html"},
     PageOfTable{TableNum::Package, "packaging.html"},
 };

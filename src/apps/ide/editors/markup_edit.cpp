@@ -13,6 +13,7 @@
 #include "authoring/fields/texts/markup_spans.h"
 #include "ide/editors/edit_controls.h"
 #include "ide/editors/markup_highlighter.h"
+#include "ide/editors/text_edit.h"
 #include "player/panes/text_colours.h"
 #include "qt/colours.h"
 #include "qt/strings.h"
@@ -69,7 +70,7 @@ QTextCharFormat FormatOf(const authoring::ShownRun& run, const player::TextColou
 
 MarkupEdit::MarkupEdit(const authoring::TextEditing& editing, const MarkupEditKind& kind,
                        const QString& fieldName, QWidget* parent)
-    : QWidget(parent), editing_(editing), kind_(kind), field_(new Modest<QPlainTextEdit>) {
+    : QWidget(parent), editing_(editing), kind_(kind), field_(new Modest<TextEdit>) {
     auto* name = new QLabel(kind.name);
     name->setBuddy(field_);
     field_->setObjectName(fieldName);

@@ -81,7 +81,8 @@ std::string PdfOf(const listings::Paper& paper, const QString& title) {
 
 bool PrintOnPrinter(const listings::Paper& paper, const QString& title, QWidget* parent) {
     if (QPrinterInfo::availablePrinters().isEmpty())
-        throw Error("Could not print the listing: this system has no printer. Save As makes a PDF file.");
+        throw Error(
+            "Could not print the listing: this system has no printer. Save As of Print makes a PDF file.");
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(title);
     SetUp(printer);

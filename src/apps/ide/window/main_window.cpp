@@ -22,6 +22,7 @@
 #include <algorithm>
 
 #include "authoring/files/start_up.h"
+#include "ide/editors/alt_guard.h"
 #include "ide/editors/help_pages.h"
 #include "ide/editors/wheel_guard.h"
 #include "ide/window/command_actions.h"
@@ -151,6 +152,7 @@ MainWindow::MainWindow(const Services& services, Places places)
     setMinimumSize(kSmallestSize);
     setAcceptDrops(true);
     new WheelGuard(this);
+    new AltGuard(this);
     setProperty(qt::kHelpPage, kMainWindowPage);
     ide_.upgradeBoxes = {.steps = [this](std::string_view steps) { ShowUpgrade(steps); },
                          .chooseType = [this](store::AdventureSetup& setup) { ChooseType(setup); }};

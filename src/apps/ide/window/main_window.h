@@ -122,6 +122,7 @@ class MainWindow final : public QMainWindow {
     void ChooseLine(int line);
     void FoldGroup(int group, bool folded);
     void ChooseNode(int sort);
+    bool OpensOwnTable(const authoring::TreeNode& node) const;
     bool LeaveRecord();
     bool MayEnd();
     bool StoreTyped(const std::string& text);

@@ -140,7 +140,10 @@ void MainWindow::GoToAnything() {
 }
 
 void MainWindow::ChooseCommand() {
-    std::vector<Command> fitting;
+    std::vector<std::function<void()>> fitting;
+    const auto fits = [](const std::string& line, const std::string& typed) {
+        return text::LowerCase(line).find(text::LowerCase(typed)) != std::string::npos;
+    };
     QuickListDialog dialog(
         tr("Commands"), tr("A part of a command's name"),
         [&](const std::string& typed) {
@@ -150,15 +153,21 @@ void MainWindow::ChooseCommand() {
                 const authoring::ActionState state = ide_.StateOf(entry.id);
                 if (!state.enabled || entry.id == Command::Palette) continue;
                 std::string line = qt::FromQt(actions_->Of(entry.id)->text().remove('&').remove("..."));
-                if (text::LowerCase(line).find(text::LowerCase(typed)) == std::string::npos) continue;
+                if (!fits(line, typed)) continue;
                 if (!entry.shortcut.empty()) line.append("  (").append(entry.shortcut).append(")");
-                fitting.push_back(entry.id);
+                fitting.emplace_back([this, id = entry.id] { Do(id); });
+                lines.push_back(line);
+            }
+            for (const authoring::TreeNode& node : ide_.Tree()) {
+                const std::string line = qt::FromQt(qt::Translated(node.name));
+                if (!OpensOwnTable(node) || !fits(line, typed)) continue;
+                fitting.emplace_back([this, sort = node.sort] { ChooseNode(sort); });
                 lines.push_back(line);
             }
             return lines;
         },
         this);
-    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) Do(fitting[*dialog.Chosen()]);
+    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) fitting[*dialog.Chosen()]();
 }
 
 void MainWindow::Replace() {

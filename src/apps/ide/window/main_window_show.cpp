@@ -189,11 +189,16 @@ void MainWindow::ShowStatus() {
     adventureStatus_->setVisible(!adventureStatus_->text().isEmpty());
 }
 
+/// A group of nodes opens what its first node opens, unless it is a table itself.
+bool MainWindow::OpensOwnTable(const authoring::TreeNode& node) const {
+    return !node.group || authoring::NodeOf(ide_.Tree(), node.view) == &node;
+}
+
 void MainWindow::ShowTables() {
     tableMenu_->clear();
     const authoring::TreeNode* current = ide_.CurrentNode();
     for (const authoring::TreeNode& node : ide_.Tree()) {
-        if (node.group) continue;
+        if (!OpensOwnTable(node)) continue;
         QAction* action =
             tableMenu_->addAction(qt::IconOf(node.icon), qt::Translated(node.name).replace('&', "&&"), this,
                                   [this, sort = node.sort] { ChooseNode(sort); });

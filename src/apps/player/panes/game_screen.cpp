@@ -131,10 +131,16 @@ void GameScreen::FocusInput() {
     panes_->currentWidget()->setFocus();
 }
 
+/// What the game shows now is not for the player.
+bool GameScreen::IsUnseen() const {
+    return played_ != nullptr && played_->PlaysUnseen();
+}
+
 void GameScreen::StartGame(const engine::GameLook& look) {
     StopAlarms();
     game_ = look;
     HidePicture();
+    if (IsUnseen()) return events_.started(look);
     TextLook textLook{.style = look.style, .columns = look.printWidth, .page = look_.page};
     if (!look.characterSets) textLook.family = qt::ToQt(played_->FontName(look.style.font));
     text_->StartGame(textLook);
@@ -164,6 +170,7 @@ std::string GameScreen::Shown(std::string_view run) const {
 }
 
 void GameScreen::Write(std::string_view run, const engine::TextStyle& style, engine::TextRole role) {
+    if (IsUnseen()) return;
     WriteUnwrapped(Shown(run), style, role);
     if (game_.characterSets) characters_->Screen().Write(run, style);
     afterBlank_ = run.ends_with(' ');
@@ -183,6 +190,7 @@ engine::Transcript* GameScreen::Transcript() const {
 }
 
 void GameScreen::EndLine(engine::LineEnd kind) {
+    if (IsUnseen()) return;
     // A blank that finds its row full is the break itself, and is not written.
     const bool blankBreak = game_.characterSets && characters_->Screen().RowIsFull() && !afterBlank_;
     if (game_.characterSets) characters_->Screen().EndLine();
@@ -195,12 +203,14 @@ void GameScreen::EndLine(engine::LineEnd kind) {
 }
 
 void GameScreen::Clear(int paper, int ink) {
+    if (IsUnseen()) return;
     if (auto* lines = Transcript()) lines->NewPage();
     text_->ClearPage(paper, ink);
     if (game_.characterSets) characters_->Screen().Clear(paper, ink);
 }
 
 void GameScreen::ShowInput(std::string_view typed, std::string_view cursor) {
+    if (IsUnseen()) return;
     typed_ = typed;
     text_->ShowInput(qt::ToQt(Shown(typed)), qt::ToQt(Shown(cursor)));
     if (game_.characterSets) characters_->Screen().ShowInput(typed, cursor);
@@ -216,6 +226,7 @@ void GameScreen::EndInput(std::string_view typed) {
 }
 
 void GameScreen::ShowPicture(const engine::Picture& picture) {
+    if (IsUnseen()) return;
     const QImage image = pictures_->Load(picture);
     picture_->Show(image);
     FitPicture();
@@ -290,6 +301,11 @@ void GameScreen::GoOn() {
     ShowStep();
 }
 
+void GameScreen::BeginTurn() {
+    text_->BeginTurn();
+    turnMade_ = true;
+}
+
 void GameScreen::StopTurn() {
     if (played_ == nullptr || !played_->StopTurn()) return;
     wait_.Stop();
@@ -304,10 +320,11 @@ void GameScreen::Send(char32_t key) {
 
 void GameScreen::Type(const std::string& typed) {
     if (played_ == nullptr) return;
-    for (const char32_t point : text::Decode(typed)) {
-        if (point >= text::kBadByte || (game_.characterSets && point > kLastTyped)) continue;
-        Send(point);
-    }
+    std::u32string keys = text::Decode(typed);
+    std::erase_if(keys, [this](char32_t point) {
+        return point >= text::kBadByte || (game_.characterSets && point > kLastTyped);
+    });
+    played_->Keys(keys);
     ShowStep();
 }
 
@@ -341,10 +358,8 @@ void GameScreen::Press(PaneKey key) {
 }
 
 void GameScreen::ReplaceLine(const std::string& line) {
-    for (std::size_t left = text::Length(typed_); left > 0; --left)
-        Send(Engine::kBackspace);
-    for (const char32_t point : text::Decode(line))
-        Send(point);
+    const std::u32string erased(text::Length(typed_), Engine::kBackspace);
+    played_->Keys(erased + text::Decode(line));
 }
 
 void GameScreen::ShowStep() {

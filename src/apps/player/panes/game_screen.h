@@ -59,6 +59,8 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
 
     void SetLook(const ScreenLook& look);
 
+    /// What is shown from here on is a turn of its own, although no line of the player begins it.
+    void BeginTurn();
     /// Gives up the turn that goes on or pauses.
     void StopTurn();
 
@@ -97,6 +99,7 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     void Type(const std::string& text);
     void Press(PaneKey key);
     void Send(char32_t key);
+    bool IsUnseen() const;
     void ReplaceLine(const std::string& line);
     void TimeOutTick();
     void WaitTick();

@@ -372,8 +372,12 @@ void TextPane::EndInput(const QString& typed) {
         inputBehindQueue_.reset();
         if (!typed.isEmpty()) Take({Step::Kind::Run, typed, TypedStyle()});
     }
-    if (!typed.isEmpty()) Take({Step::Kind::TurnBegins});
+    if (!typed.isEmpty()) BeginTurn();
     EndLine();
+}
+
+void TextPane::BeginTurn() {
+    Take({Step::Kind::TurnBegins});
 }
 
 void TextPane::ToggleFlash() {

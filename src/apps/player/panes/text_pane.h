@@ -70,6 +70,8 @@ class TextPane final : public QTextEdit {
     void ClearPage(int paper, int ink);
     void ShowInput(const QString& typed, const QString& cursor);
     void EndInput(const QString& typed);
+    /// The latest turn begins with the line that is being written.
+    void BeginTurn();
 
     /// The turn that has just been written is to be seen from its beginning: as much of it as the pane
     /// holds, with the end in sight when all of it fits.

@@ -133,7 +133,10 @@ bool PlayedGame::Undo() {
     if (CanSave()) states_.pop_back();
     bool taken = false;
     Run([&] {
-        if (WaitingFor() == Waiting::Nothing) engine_.Initialize();
+        if (WaitingFor() == Waiting::Nothing) {
+            const Mark unseen(unseen_);
+            engine_.Initialize();
+        }
         taken = engine_.TakeState(states_.back());
     });
     if (keeps_) autosave_.Start(kAutosaveDelay);
@@ -171,8 +174,12 @@ bool PlayedGame::Resume() {
 }
 
 bool PlayedGame::Key(char32_t key) {
-    const bool typing = TakesLine() && key != engine::Engine::kEnter;
-    if (!Run([&] { engine_.Key(key); })) return false;
+    return Keys({&key, 1});
+}
+
+bool PlayedGame::Keys(std::u32string_view keys) {
+    const bool typing = TakesLine() && keys.find(engine::Engine::kEnter) == keys.npos;
+    if (!Run([&] { engine_.Keys(keys); })) return false;
     if (!typing) AfterTurn();
     return true;
 }

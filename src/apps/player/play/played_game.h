@@ -80,6 +80,8 @@ class PlayedGame {
     static constexpr std::size_t kMostStates = 100;
 
     bool Key(char32_t key);
+    /// Several keys in one step, as Engine::Keys.
+    bool Keys(std::u32string_view keys);
     bool EnterLine(std::string_view line);
     bool TimeOutTick();
     bool WaitTick();
@@ -94,6 +96,9 @@ class PlayedGame {
     bool SoundOn() const { return engine_.SoundOn(); }
     std::string FontName(int number) const { return engine_.FontName(number); }
     bool IsBusy() const { return busy_; }
+    /// A game that has ended is being begun anew for a state that it is to go on from: the opening that it
+    /// plays is not for the player, and what was shown stays.
+    bool PlaysUnseen() const { return unseen_; }
 
     /// What the player has written of this game.
     TranscriptFile& Transcript() { return transcript_; }
@@ -123,6 +128,7 @@ class PlayedGame {
     /// What the game was when it waited for a line, the latest at the end.
     std::vector<std::string> states_;
     bool busy_ = false;
+    bool unseen_ = false;
     bool resumed_ = false;  ///< it goes on from an earlier session
     bool failureTold_ = false;
     std::string failure_;

@@ -1,16 +1,23 @@
 #include "player/play/transcript_file.h"
 
+#include <cerrno>
+#include <system_error>
+
 #include "platform/error.h"
+#include "store/file/file_copy.h"
 
 namespace fabula::player {
 
 void TranscriptFile::Open(const std::filesystem::path& file) {
+    store::CheckTarget(file, store::Content::Text);
     if (const auto failure = Close()) throw Error(*failure);
     file_ = file;
     output_.open(file, std::ios::binary | std::ios::trunc);
     if (!output_) {
+        const int error = errno;
         output_.clear();
-        throw Error("Could not write the transcript " + file.string() + ".");
+        throw Error("Could not write the transcript " + file.string() + ": " +
+                    std::generic_category().message(error) + ".");
     }
     lines_.emplace(output_);
 }

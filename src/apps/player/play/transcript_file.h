@@ -12,7 +12,8 @@ namespace fabula::player {
 /// The file of a transcript that the player switches on and off while a game goes on.
 class TranscriptFile {
   public:
-    /// Starts a new file; one that was open is closed. Throws fabula::Error when it can't be written.
+    /// Starts a new file; one that was open is closed. Throws fabula::Error when it can't be written, or
+    /// store::CheckTarget has something against it: that changes nothing.
     void Open(const std::filesystem::path& file);
     /// The sentence that tells a failure to write its end; nullopt when there was none, or nothing to
     /// close.

@@ -103,7 +103,7 @@ constexpr std::array<PlayerWindow::Routine, kCommandCount> PlayerWindow::kRoutin
     {Command::Save, [](PlayerWindow& window) { window.logic_.Save(); }},
     {Command::Restore, [](PlayerWindow& window) { window.Step(&PlayerScreen::Restore); }},
     {Command::Exit, [](PlayerWindow& window) { window.close(); }},
-    {Command::Undo, [](PlayerWindow& window) { window.Step(&PlayerScreen::Undo); }},
+    {Command::Undo, [](PlayerWindow& window) { window.Undo(); }},
     {Command::Stop, [](PlayerWindow& window) { window.screen_->StopTurn(); }},
     {Command::StartAgain, [](PlayerWindow& window) { window.Step(&PlayerScreen::StartAgain); }},
     {Command::Next, [](PlayerWindow& window) { window.Step(&PlayerScreen::Next); }},
@@ -147,6 +147,12 @@ void PlayerWindow::Step(bool (PlayerScreen::*step)()) {
     if (logic_.IsRunning()) screen_->FocusInput();
 }
 
+void PlayerWindow::Undo() {
+    if (PlayedGame* const game = logic_.Playing(); game == nullptr || !game->CanUndo()) return;
+    screen_->BeginTurn();
+    Step(&PlayerScreen::Undo);
+}
+
 /// Shows what can be done now, and what the game waits for.
 void PlayerWindow::Follow() {
     if (debugWindow_) debugWindow_->Follow();
@@ -187,7 +193,7 @@ void PlayerWindow::MakeEndBar() {
     ending_ = new QLabel;
     ending_->setObjectName("Ending");
     QObject::connect(again, &QPushButton::clicked, this, [this] { Step(&PlayerScreen::StartAgain); });
-    QObject::connect(back, &QPushButton::clicked, this, [this] { Step(&PlayerScreen::Undo); });
+    QObject::connect(back, &QPushButton::clicked, this, [this] { Undo(); });
     QObject::connect(load, &QPushButton::clicked, this, [this] { AskForGame(); });
     ending_->setWordWrap(true);
     rows->addWidget(ending_);

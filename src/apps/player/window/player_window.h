@@ -94,6 +94,7 @@ class PlayerWindow final : public QMainWindow {
     void Attach(PlayedGame* game);
     void ShowLoaded(bool loaded);
     void Step(bool (PlayerScreen::*step)());
+    void Undo();
     void Follow();
     void ShowSwitches();
     void MakeRecentMenu();

@@ -7,11 +7,14 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
 #include "player/panes/text_pane.h"
+#include "qt/fitting_size.h"
 #include "qt/help/help_request.h"
 #include "qt/strings.h"
 
@@ -45,7 +48,9 @@ SettingsDialog::SettingsDialog(const PlayerSettings& settings, const std::vector
     sample_->setAccessibleDescription(tr("A text as games will look"));
     sample_->setReadOnly(true);
     sample_->setMinimumHeight(kSampleHeight);
-    auto* column = new QVBoxLayout(this);
+    // What does not fit the screen scrolls; the buttons stay in sight.
+    auto* groups = new QWidget;
+    auto* column = new QVBoxLayout(groups);
     column->addWidget(MakeText());
     column->addWidget(MakeColours());
     column->addWidget(sample_, 1);
@@ -53,7 +58,17 @@ SettingsDialog::SettingsDialog(const PlayerSettings& settings, const std::vector
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QObject::connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    column->addWidget(buttons);
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(groups);
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(scroll, 1);
+    rows->addWidget(buttons);
+    const QSize whole = groups->sizeHint() + QSize(0, buttons->sizeHint().height() + 3 * rows->spacing());
+    const QSize edges(4 * rows->contentsMargins().left() + scroll->verticalScrollBar()->sizeHint().width(),
+                      2 * rows->contentsMargins().top());
+    resize(qt::FittingSize(*this, whole + edges));
     const engine::TextStyle style = TextLook().style;
     sample_->StartGame({.style = style});
     sample_->Write("You are standing at the foot of a tower.", style, {});

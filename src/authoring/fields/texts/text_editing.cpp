@@ -41,8 +41,9 @@ void CountLine(const ShownLine& line, TextCounts& counts) {
 }  // namespace
 
 std::string CountsLine(const TextCounts& counts) {
-    return std::to_string(counts.words) + (counts.words == 1 ? " word, " : " words, ") +
-           std::to_string(counts.letters) + (counts.letters == 1 ? " letter" : " letters");
+    return (counts.complete ? "" : "more than ") + std::to_string(counts.words) +
+           (counts.words == 1 ? " word, " : " words, ") + std::to_string(counts.letters) +
+           (counts.letters == 1 ? " letter" : " letters");
 }
 
 TextEditing::TextEditing(store::Adventure& adventure)
@@ -90,8 +91,9 @@ ShownText TextEditing::Show(std::string_view text, int most) const {
 }
 
 TextCounts TextEditing::Count(std::string_view text) const {
-    TextCounts counts;
-    for (const ShownLine& line : Print(text, engine::kNoWidthLimit).lines)
+    const ShownText shown = Print(text, engine::kNoWidthLimit);
+    TextCounts counts{.complete = shown.complete};
+    for (const ShownLine& line : shown.lines)
         CountLine(line, counts);
     return counts;
 }

@@ -31,11 +31,12 @@ struct ShownText {
 struct TextCounts {
     int words = 0;
     int letters = 0;
+    bool complete = true;  ///< false when the text is longer than kLongestPreview, and so not all counted
 
     friend bool operator==(const TextCounts&, const TextCounts&) = default;
 };
 
-/// "12 words, 64 letters"; "1 word, 1 letter".
+/// "12 words, 64 letters"; "1 word, 1 letter"; "more than 7562 words, 25206 letters".
 std::string CountsLine(const TextCounts& counts);
 
 /// What the editors of texts know of an adventure, as of their opening: its tags, and the look of its game.

@@ -260,7 +260,7 @@ TEST_F(PlayerScreenTest, TranscriptThatCanNotBeMadeIsTold) {
     Load();
     dialogs_.AnswerFile("/no/such/folder/t.txt");
     screen_->WriteTranscript(true);
-    EXPECT_EQ(Box(), "Could not write the transcript /no/such/folder/t.txt.");
+    EXPECT_EQ(Box(), "Could not write the transcript /no/such/folder/t.txt: No such file or directory.");
     EXPECT_FALSE(screen_->WritesTranscript());
 }
 

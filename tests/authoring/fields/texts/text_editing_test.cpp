@@ -157,6 +157,10 @@ TEST_F(TextEditingTest, CountsAlikeHoweverNarrowTheGameIs) {
     EXPECT_EQ(Count("remember me"), (TextCounts{2, 10}));
 }
 
+TEST(CountsLine, TellsThatALongTextIsNotCountedToItsEnd) {
+    EXPECT_EQ(CountsLine({7562, 25206, false}), "more than 7562 words, 25206 letters");
+}
+
 TEST(CountsLine, HasSingularAndPlural) {
     EXPECT_EQ(CountsLine({12, 64}), "12 words, 64 letters");
     EXPECT_EQ(CountsLine({1, 1}), "1 word, 1 letter");

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QVBoxLayout>
@@ -27,7 +28,8 @@ QuickListDialog::QuickListDialog(const QString& title, const QString& hint, Sear
     : ColumnDialog({"QuickListDialog", title, kMainWindowPage}, parent),
       search_(std::move(search)),
       typed_(new QLineEdit),
-      list_(new QListWidget) {
+      list_(new QListWidget),
+      nothing_(new QLabel(tr("Nothing found."))) {
     resize(qt::FittingSize(*this, kQuickListSize));
     typed_->setObjectName("QuickLine");
     typed_->setPlaceholderText(hint);
@@ -39,6 +41,8 @@ QuickListDialog::QuickListDialog(const QString& title, const QString& hint, Sear
     Column().setContentsMargins(kQuickListMargin, kQuickListMargin, kQuickListMargin, kQuickListMargin);
     Column().addWidget(typed_);
     Column().addWidget(list_);
+    nothing_->setObjectName("QuickNothing");
+    Column().addWidget(nothing_);
     connect(typed_, &QLineEdit::textChanged, this, [this] { Fill(); });
     connect(typed_, &QLineEdit::returnPressed, this, [this] {
         if (list_->currentRow() >= 0) accept();
@@ -57,6 +61,7 @@ void QuickListDialog::Fill() {
     for (const std::string& line : search_(qt::FromQt(typed_->text())))
         list_->addItem(qt::ToQt(line));
     if (list_->count() > 0) list_->setCurrentRow(0);
+    nothing_->setVisible(list_->count() == 0);
 }
 
 bool QuickListDialog::eventFilter(QObject* receiver, QEvent* event) {

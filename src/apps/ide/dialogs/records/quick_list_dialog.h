@@ -8,6 +8,7 @@
 
 #include "ide/dialogs/column_dialog.h"
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 
@@ -36,6 +37,7 @@ class QuickListDialog final : public ColumnDialog {
     Search search_;
     QLineEdit* typed_;
     QListWidget* list_;
+    QLabel* nothing_;  ///< says that nothing fits
 };
 
 }  // namespace fabula::ide

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ide/dialogs/leaving.h"
 #include "platform/error.h"
 #include "qt/strings.h"
 
@@ -181,6 +182,7 @@ bool RecordPane::eventFilter(QObject*, QEvent* event) {
 void RecordPane::Escape() {
     if (!record_ || record_->Editor().CloseList()) return;
     if (!record_->Editor().HasChanges()) return events_.left();
+    if (!MayClose(true, context_->dialogs, [this] { record_->Editor().Store(); })) return;
     Show(std::optional(*request_), context_);
     Enter();
 }

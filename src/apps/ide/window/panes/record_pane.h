@@ -12,8 +12,8 @@
 namespace fabula::ide {
 
 /// The record of the current row beside the rows, ready to be edited: its dialog, without a window of its
-/// own. What was typed is stored when the author leaves the record, by Update, or by Ctrl+Enter; Esc takes
-/// it back, and with nothing typed goes back to the rows.
+/// own. What was typed is stored when the author leaves the record, by Update, or by Ctrl+Enter; Esc asks
+/// whether to take it back, and with nothing typed goes back to the rows.
 class RecordPane final : public QWidget {
   public:
     struct Events {

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -96,6 +97,13 @@ TEST_F(MessageDialogTest, ARefusedTextKeepsTheKeyboardWithItsFaultChosen) {
     EXPECT_EQ(dialogs_.Boxes().size(), 1U);
     EXPECT_EQ(QApplication::focusWidget(), Field());
     EXPECT_EQ(Field()->textCursor().selectedText(), "&");
+}
+
+TEST_F(MessageDialogTest, ControlCharactersAreDroppedFromWhatIsPasted) {
+    QApplication::clipboard()->setText(QString("\x01red\x1b[31m\tand\nmore") + QChar(0));
+    Field()->selectAll();
+    Field()->paste();
+    EXPECT_EQ(Field()->toPlainText(), "red[31m\tand\nmore");
 }
 
 TEST_F(MessageDialogTest, EscapeWithoutAChangeAsksNothing) {

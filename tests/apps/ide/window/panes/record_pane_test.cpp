@@ -151,11 +151,15 @@ TEST_F(RecordPaneTest, CtrlEnterStoresItAndGoesBackToTheRow) {
     EXPECT_EQ(Shown(), "It is very dark.");
 }
 
-TEST_F(RecordPaneTest, EscapeTakesBackWhatWasTypedAndThenGoesBackToTheRow) {
+TEST_F(RecordPaneTest, EscapeAsksBeforeItTakesBackWhatWasTypedAndThenGoesBackToTheRow) {
     window_.GoToTable("Messages");
     window_.GoToRow("0");
     Press(Qt::Key_Return);
     Replace("The lamp burns.");
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(window_.dialogs.Boxes().back().text, "What was changed here is not stored yet.");
+    EXPECT_EQ(Shown(), "The lamp burns.");
+    window_.dialogs.AnswerLeaving(platform::Leaving::Discard);
     Press(Qt::Key_Escape);
     EXPECT_EQ(Shown(), "The lamp is lit.");
     EXPECT_EQ(Focus(), "text");
@@ -164,11 +168,23 @@ TEST_F(RecordPaneTest, EscapeTakesBackWhatWasTypedAndThenGoesBackToTheRow) {
     EXPECT_EQ(UndoText(), "&Undo");
 }
 
+TEST_F(RecordPaneTest, EscapeStoresWhatWasTypedWhenTheAuthorWantsThat) {
+    window_.GoToTable("Messages");
+    window_.GoToRow("0");
+    Press(Qt::Key_Return);
+    Replace("The lamp burns.");
+    window_.dialogs.AnswerLeaving(platform::Leaving::Store);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Message(0), "The lamp burns.");
+    EXPECT_EQ(Focus(), "Grid");
+}
+
 TEST_F(RecordPaneTest, EscapeTakesBackAnExitThatIsTyped) {
     window_.GoToTable("Locations");
     window_.Part<QComboBox>("exitWord").setFocus();
     window_.Type("NORTH The loft");
     EXPECT_NE(window_.Part<QLabel>("whatAddDoes").text(), "");
+    window_.dialogs.AnswerLeaving(platform::Leaving::Discard);
     Press(Qt::Key_Escape);
     EXPECT_EQ(window_.Part<QComboBox>("exitWord").currentText(), "");
     EXPECT_EQ(window_.Part<QLabel>("whatAddDoes").text(), "");

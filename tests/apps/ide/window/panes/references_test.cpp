@@ -116,6 +116,31 @@ TEST_P(References, ThePaletteDoesACommandByAPartOfItsName) {
     EXPECT_TRUE(Uses().isVisible());
 }
 
+TEST_P(References, ThePaletteOpensATableByAPartOfItsName) {
+    QTimer::singleShot(0, [] {
+        auto* dialog = dynamic_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        QTest::keyClicks(dialog->findChild<QLineEdit*>("QuickLine"), "system mess");
+        QTest::keyClick(dialog->findChild<QLineEdit*>("QuickLine"), Qt::Key_Return);
+    });
+    window_.Press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::SystemMessages);
+}
+
+TEST_P(References, ThePaletteSaysThatNothingFits) {
+    QTimer::singleShot(0, [] {
+        auto* dialog = dynamic_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        const auto* nothing = dialog->findChild<QLabel*>("QuickNothing");
+        EXPECT_FALSE(nothing->isVisible());
+        QTest::keyClicks(dialog->findChild<QLineEdit*>("QuickLine"), "zzz");
+        EXPECT_TRUE(nothing->isVisible());
+        EXPECT_EQ(nothing->text(), "Nothing found.");
+        QTest::keyClick(dialog->findChild<QLineEdit*>("QuickLine"), Qt::Key_Escape);
+    });
+    window_.Press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+}
+
 constexpr int kTurnsToWait = 1000;
 
 /// Does something in the dialog of this name when it has opened.

@@ -1,0 +1,28 @@
+#include "ide/editors/alt_guard.h"
+
+#include <QLineEdit>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace fabula::test {
+namespace {
+
+TEST(AltGuard, ALetterWithAltThatChoosesNothingTypesNothing) {
+    const ide::AltGuard guard(nullptr);
+    QLineEdit line;
+    QTest::keyClick(&line, Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(line.text(), "");
+    QTest::keyClick(&line, Qt::Key_R);
+    EXPECT_EQ(line.text(), "r");
+}
+
+TEST(AltGuard, AThirdLevelOfTheKeyboardIsTyped) {
+    const ide::AltGuard guard(nullptr);
+    QLineEdit line;
+    QTest::sendKeyEvent(QTest::Click, &line, Qt::Key_Q, "@", Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(line.text(), "@");
+}
+
+}  // namespace
+}  // namespace fabula::test
