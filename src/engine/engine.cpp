@@ -361,7 +361,10 @@ bool Engine::LoadFrom(const std::filesystem::path& file) {
 
 bool Engine::TakeState(std::string_view state) {
     if (!game_ || !RestoreFrom(*game_, state)) return false;
-    StopTimeOut(*game_);
+    // What still runs is of the game before, whose flags have gone with it.
+    if (game_->timeOutRunning) sitting_->parts.timers.StopTimeOut();
+    game_->timeOutRunning = false;
+    if (TimeOutIsArmed(*game_)) ClearTimeOutMark(*game_);
     scriptPlaying_ = false;
     tickPending_ = false;
     game_->tones.clear();

@@ -377,6 +377,20 @@ TEST(LoadFrom, ForgetsTheLineThatWasHalfTyped) {
     EXPECT_EQ(run->Flag(200), 0);
 }
 
+TEST(LoadFrom, ATimeOutOfTheGameBeforeDoesNotGoOn) {
+    const auto run = SavedWorld().Start();
+    run->engine.SaveTo(run->File("auto.sav"));
+    run->SetFlag(48, 3);
+    run->SetFlag(49, 4);
+    run->Type("STEP");
+    ASSERT_TRUE(run->window.timeOut.has_value());
+    ASSERT_TRUE(run->engine.LoadFrom(run->File("auto.sav")));
+    EXPECT_FALSE(run->window.timeOut.has_value());
+    run->Said();
+    run->engine.TimeOutTick();
+    EXPECT_EQ(run->Said(), "");
+}
+
 // RAMSAVE and RAMLOAD
 
 TEST(RamSave, KeepsTheStateForRamload) {
