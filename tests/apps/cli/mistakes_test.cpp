@@ -190,6 +190,11 @@ TEST_F(Mistakes, TheGameHasNoneOfItself) {
     EXPECT_TRUE(result.output.ends_with("No Errors Found\nVerify Completed\n")) << result.output;
 }
 
+TEST_F(Mistakes, TheFolderThatIsMadeForACheckIsNotTold) {
+    const ProgramResult result = Run({"check", Path()}, SourceWith(nullptr));
+    EXPECT_TRUE(result.output.starts_with("Creating default database for check.fbd\n")) << result.output;
+}
+
 TEST_F(Mistakes, AreAllToldWithTheirPlaceOnOneLine) {
     for (const Mistake& mistake : kMistakes) {
         SCOPED_TRACE(mistake.name);

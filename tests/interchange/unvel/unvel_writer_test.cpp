@@ -101,7 +101,7 @@ TEST(UnVelWriter, AWordThatIsCutToAnotherOneIsLeftOutAndTold) {
     AddWord(*game, "QUARTERMASTER", 61);
     AddWord(*game, "QUARTERS", 60);
     const WrittenExtract extract(*game);
-    EXPECT_TRUE(extract.Has("QUART    60Noun\r\n")) << extract.text;
+    EXPECT_TRUE(extract.Has("QUART   60Noun\r\n")) << extract.text;
     EXPECT_EQ(extract.text.find("QUART"), extract.text.rfind("QUART")) << "one word is written once";
     EXPECT_NE(extract.status.find(
                   "the word QUARTERMASTER would be QUART, which is another word. It is left out."),

@@ -5,8 +5,10 @@
 #include "cli/file_kind_option.h"
 #include "cli/host/console.h"
 #include "cli/host/fault_report.h"
+#include "cli/installation.h"
 #include "cli/source_adventure.h"
 #include "cli/verbs.h"
+#include "text/str_edit.h"
 
 namespace fabula::cli {
 namespace {
@@ -18,13 +20,33 @@ struct CheckOptions {
     bool json = false;
 };
 
+/// Hands a job's status on without the folder in which the adventure is made, which nobody is to look for.
+class WithoutFolder final : public interchange::JobObserver {
+  public:
+    WithoutFolder(interchange::JobObserver& shown, const std::filesystem::path& folder)
+        : shown_(shown), folder_(folder.string() + "/") {}
+
+    void StatusAdded(std::string_view text) override {
+        shown_.StatusAdded(text::ReplaceAll(text, folder_, ""));
+    }
+    void StatusCleared() override { shown_.StatusCleared(); }
+    void ProgressLine(std::string_view text) override { shown_.ProgressLine(text); }
+    void Progress(std::int64_t value, std::int64_t maximum) override { shown_.Progress(value, maximum); }
+    bool CancelWanted() override { return shown_.CancelWanted(); }
+
+  private:
+    interchange::JobObserver& shown_;
+    std::string folder_;
+};
+
 int Check(const CheckOptions& options) {
     const interchange::FileKind& kind = KindOfSource(options.source, options.kind);
     const ScratchFolder folder;
     const std::filesystem::path file = folder.Path() / "check.fbd";
     Console console(options.json ? std::cerr : std::cout);
-    interchange::JobHost host = console.JobHost();
-    host.encoding = options.encoding;
+    WithoutFolder observer(console.Observer(), folder.Path());
+    const interchange::JobHost host{console.Person(), console.Clock(),   console.Events(),
+                                    observer,         DefaultDataFile(), options.encoding};
     const interchange::JobResult imported = interchange::ImportIt(kind, options.source, file, host);
     interchange::JobStatus status(console.Observer());
     status.Continue(imported.allFaults);

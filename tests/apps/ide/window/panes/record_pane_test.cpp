@@ -156,6 +156,7 @@ TEST_F(RecordPaneTest, EscapeAsksBeforeItTakesBackWhatWasTypedAndThenGoesBackToT
     window_.GoToRow("0");
     Press(Qt::Key_Return);
     Replace("The lamp burns.");
+    window_.dialogs.AnswerLeaving(platform::Leaving::KeepEditing);
     Press(Qt::Key_Escape);
     EXPECT_EQ(window_.dialogs.Boxes().back().text, "What was changed here is not stored yet.");
     EXPECT_EQ(Shown(), "The lamp burns.");
