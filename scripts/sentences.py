@@ -210,7 +210,8 @@ def is_read(line, nouns, fields):
     if not re.search(r"[A-Za-z]{2}", words) or QUERY.search(words) or NAME.search(words):
         return False
     if "%1" in line:
-        return len(re.findall(r"[A-Za-z]", words)) >= (3 if re.match(r"&?[A-Z]&?[a-z]", words) else 4)
+        short = re.match(r"&?[A-Z]&?[a-z]|: \d", words)  # "Add %1" and "%1: 1 use", but neither "%1.tpl" nor "add %1"
+        return len(re.findall(r"[A-Za-z]", words)) >= (3 if short else 4)
     if " " in words:
         return True
     bare = words.replace("&", "").rstrip(".:…!?")

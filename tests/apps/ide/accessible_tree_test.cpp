@@ -4,8 +4,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTableView>
 #include <QTest>
 
@@ -15,11 +13,8 @@
 #include <qpa/qplatformintegration.h>
 
 #include "ide/dialog_stand.h"
-#include "ide/dialogs/jobs/package_dialog.h"
-#include "ide/dialogs/tables/replace_dialog.h"
 #include "ide/driven_window.h"
 #include "ide/editors/picture_view.h"
-#include "platform/settings.h"
 #include "qt/strings.h"
 #include "support/active_window.h"
 
@@ -54,26 +49,6 @@ TEST_P(AccessibleDialog, TellsFaultsAsTheyStand) {
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, AccessibleDialog, testing::ValuesIn(EveryDialog()),
                          [](const auto& given) { return std::string(given.param.name); });
-
-TEST(AccessibleDialogs, OfReferencesTellTheirContent) {
-    Desk desk;
-    Furnish(desk);
-    authoring::ReplaceScreen replace(desk.context);
-    ide::ReplaceDialog replacing(replace);
-    replacing.show();
-    replacing.findChild<QLineEdit*>("what")->setText("a");
-    replacing.findChild<QPushButton*>("find")->click();
-    EXPECT_EQ(WrongInAccessibleTree(replacing), Wrong{});
-}
-
-TEST(AccessibleDialogs, OfAPackageTellTheirContent) {
-    Desk desk;
-    platform::MemorySettings settings;
-    const auto screen = packages::PackageScreen::Open(desk.context, settings, {});
-    ide::PackageDialog dialog(*screen);
-    dialog.show();
-    EXPECT_EQ(WrongInAccessibleTree(dialog), Wrong{});
-}
 
 class AccessibleMainWindow : public testing::Test {
   protected:

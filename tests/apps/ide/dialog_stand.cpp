@@ -1,26 +1,37 @@
 #include "ide/dialog_stand.h"
 
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <filesystem>
 #include <ostream>
 
+#include "authoring/desk/search/deletion_uses.h"
+#include "authoring/desk/search/navigator.h"
 #include "authoring/screens/message_screen.h"
 #include "ide/dialogs/jobs/decompile_dialog.h"
 #include "ide/dialogs/jobs/interchange_dialog.h"
 #include "ide/dialogs/jobs/keypad_dialog.h"
+#include "ide/dialogs/jobs/package_dialog.h"
 #include "ide/dialogs/jobs/preview_dialog.h"
 #include "ide/dialogs/jobs/print_dialog.h"
 #include "ide/dialogs/jobs/restore_dialog.h"
 #include "ide/dialogs/jobs/verify_dialog.h"
+#include "ide/dialogs/records/deletion_dialog.h"
 #include "ide/dialogs/records/flag_dialog.h"
 #include "ide/dialogs/records/location_dialog.h"
 #include "ide/dialogs/records/message_dialog.h"
 #include "ide/dialogs/records/new_locations_dialog.h"
 #include "ide/dialogs/records/object_dialog.h"
 #include "ide/dialogs/records/process_entry_dialog.h"
+#include "ide/dialogs/records/quick_list_dialog.h"
 #include "ide/dialogs/records/word_dialog.h"
 #include "ide/dialogs/settings/colour_dialog.h"
 #include "ide/dialogs/settings/settings_dialog.h"
 #include "ide/dialogs/settings/setup_dialog.h"
 #include "ide/dialogs/tables/key_dialogs.h"
+#include "ide/dialogs/tables/renumber_dialog.h"
+#include "ide/dialogs/tables/replace_dialog.h"
 #include "ide/dialogs/tables/sort_dialog.h"
 #include "ide/drawing/character_dialog.h"
 #include "ide/drawing/character_table_dialog.h"
@@ -32,6 +43,7 @@
 #include "qt/qt_programs.h"
 #include "support/doubles/scripted_pump.h"
 #include "support/places.h"
+#include "support/temp_folder.h"
 
 namespace fabula::test {
 namespace {
@@ -234,6 +246,75 @@ Opened OpenKeyChange(Desk& desk) {
     return Keep<ide::KeyChangeDialog>(std::make_shared<Parts>(desk));
 }
 
+/// What uses message 0 is looked for by the main window, which has a copy of the adventure open.
+Opened OpenDeletion(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : main({of.dialogs, settings, clock, pump}, {test::DefaultData(), {}, {}, "1.2.3"}),
+              navigator(WithCopy(of.document.File())),
+              uses(navigator, {.table = TableNum::Messages, .key = 0}),
+              dialog(uses) {}
+        authoring::MainScreen& WithCopy(const std::filesystem::path& game) {
+            std::filesystem::copy_file(game, folder / "game.fbd");
+            main.OpenFile(folder / "game.fbd");
+            return main;
+        }
+        TempFolder folder;
+        platform::FixedClock clock{{2026, 3, 9, 8, 5, 7}};
+        ScriptedPump pump;
+        platform::MemorySettings settings;
+        authoring::MainScreen main;
+        authoring::Navigator navigator;
+        authoring::DeletionUses uses;
+        ide::DeletionDialog dialog;
+    };
+    return Keep<ide::DeletionDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenQuickList(Desk&) {
+    struct Parts {
+        static QString Word(const char* caption) { return QCoreApplication::translate("Fabula", caption); }
+        ide::QuickListDialog dialog{
+            Word("Go To"), Word("m40, lantern, get lamp ..."), [](const std::string&) {
+                return std::vector<std::string>{"location 0: The hall", "object 0: a brass lamp"};
+            }};
+    };
+    return Keep<ide::QuickListDialog>(std::make_shared<Parts>());
+}
+
+/// As it stands when something was found.
+Opened OpenReplace(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : screen(of.context), dialog(screen) {
+            dialog.findChild<QLineEdit*>("what")->setText("lamp");
+            dialog.findChild<QPushButton*>("find")->click();
+        }
+        authoring::ReplaceScreen screen;
+        ide::ReplaceDialog dialog;
+    };
+    return Keep<ide::ReplaceDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenRenumber(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of) : screen(of.context, TableNum::Messages, 0), dialog(screen) {}
+        authoring::RenumberScreen screen;
+        ide::RenumberDialog dialog;
+    };
+    return Keep<ide::RenumberDialog>(std::make_shared<Parts>(desk));
+}
+
+Opened OpenPackage(Desk& desk) {
+    struct Parts {
+        explicit Parts(Desk& of)
+            : screen(packages::PackageScreen::Open(of.context, settings, {})), dialog(*screen) {}
+        platform::MemorySettings settings;
+        std::unique_ptr<packages::PackageScreen> screen;
+        ide::PackageDialog dialog;
+    };
+    return Keep<ide::PackageDialog>(std::make_shared<Parts>(desk));
+}
+
 Opened OpenRestore(Desk& desk) {
     struct Parts {
         explicit Parts(Desk& of)
@@ -338,6 +419,10 @@ const std::vector<DialogStand>& EveryDialog() {
         {"SaveSets", "Save Character Set(s)", "Sets", OpenSetFiles},
         {"ImportImage", "Import Image", "Dithering", OpenImageImport},
         {"Colors", "Set Color for Paper", "colour3", OpenColors},
+        {"Delete", "Delete", "deletionUses", OpenDeletion},
+        {"GoTo", "Go To", "QuickLine", OpenQuickList},
+        {"Replace", "Find and Replace", "what", OpenReplace},
+        {"Renumber", "Change Number", "number", OpenRenumber},
         {"Sort", "Sort Vocabulary", "field1", OpenSort},
         {"Import", "Import of source file", "source",
          [](Desk& desk) { return OpenImport(desk, authoring::JobMode::Import); }},
@@ -350,6 +435,7 @@ const std::vector<DialogStand>& EveryDialog() {
         {"Preview", "Print Preview for Flag Descriptions Table", "pages", OpenPreview},
         {"Keypad", "Size of your KeyPad", "size1", OpenKeypad},
         {"Verify", "Verify Adventure", "status", OpenVerify},
+        {"Package", "Package Your Adventure", "version", OpenPackage},
         {"Restore", "Restore a Backup", "copies", OpenRestore},
         {"KeySelect", "Correct Table Key: Select", "table", OpenKeySelect},
         {"KeyChange", "Change incorrect key and Finish", "rows", OpenKeyChange},

@@ -3,27 +3,22 @@
 #include <QMenu>
 #include <QTimer>
 #include <QTreeWidgetItemIterator>
+#include <functional>
 
 #include <gtest/gtest.h>
 
-#include "authoring/desk.h"
-#include "ide/dialogs/jobs/package_dialog.h"
-#include "ide/dialogs/records/quick_list_dialog.h"
-#include "ide/dialogs/tables/renumber_dialog.h"
-#include "ide/dialogs/tables/replace_dialog.h"
 #include "ide/opened_window.h"
-#include "platform/settings.h"
 #include "player/played_window.h"
 #include "player/window/about_adventure.h"
 #include "player/window/settings_dialog.h"
 #include "qt/help/help_window.h"
+#include "qt/qt_dialogs.h"
 #include "qt/report_window.h"
 #include "qt/strings.h"
 #include "translation/pseudo_language.h"
 #include "translation/shown_texts.h"
 
-// The windows of both programs, and the dialogs that need more than a desk, in a language whose words are
-// 40 % longer.
+// The windows of both programs, and the player's dialogs, in a language whose words are 40 % longer.
 
 namespace fabula::test {
 namespace {
@@ -42,6 +37,9 @@ const Texts kInTheGame = {"Fabula( IDE.*)?",
                           "[A-Z]\\w+[A-Z]\\w+",
                           "\\[.*\\] \\(.*\\)"};
 
+/// Said by Qt, in its own translation.
+constexpr const char* kYesAndNo = "&?(Yes|No)";
+
 constexpr QSize kUsual(1000, 700);
 
 class TranslatedWindow : public testing::Test {
@@ -56,6 +54,20 @@ class TranslatedWindow : public testing::Test {
         window.resize(window.minimumSizeHint());
         Settle();
         EXPECT_EQ(CutTexts(window), "") << "at its smallest";
+    }
+    /// Looks at the box that `ask` shows, as it stands, and closes it.
+    static void CheckBox(const std::function<void()>& ask) {
+        bool shown = false;
+        QTimer::singleShot(0, [&shown] {
+            QWidget& box = *QApplication::activeModalWidget();
+            shown = true;
+            Settle();
+            EXPECT_EQ(UntranslatedTexts(box, {kYesAndNo}), "");
+            EXPECT_EQ(CutTexts(box), "");
+            box.close();
+        });
+        ask();
+        EXPECT_TRUE(shown);
     }
     /// Lays out what has changed, and what follows from that.
     static void Settle() {
@@ -138,37 +150,14 @@ TEST_F(TranslatedWindow, OfAReport) {
     Check(window);
 }
 
-TEST_F(TranslatedWindow, ToGoToARecord) {
-    ide::QuickListDialog dialog("[...]", "[...]", [](const std::string&) { return Texts{"message 3"}; });
-    Check(dialog);
-}
-
-class TranslatedDialogOfTheDesk : public TranslatedWindow {
-  protected:
-    TranslatedDialogOfTheDesk() {
-        desk_.Add(store::TableNum::Messages,
-                  {{"msgnum", std::int64_t{900}}, {"msgmsg", std::string("the old lamp")}});
-    }
-    Desk desk_;
-};
-
-TEST_F(TranslatedDialogOfTheDesk, ToReplace) {
-    authoring::ReplaceScreen screen(desk_.context);
-    ide::ReplaceDialog dialog(screen);
-    Check(dialog);
-}
-
-TEST_F(TranslatedDialogOfTheDesk, ToChangeANumber) {
-    authoring::RenumberScreen screen(desk_.context, store::TableNum::Messages, 900);
-    ide::RenumberDialog dialog(screen);
-    Check(dialog);
-}
-
-TEST_F(TranslatedDialogOfTheDesk, ToPackAGame) {
-    platform::MemorySettings settings;
-    const auto screen = packages::PackageScreen::Open(desk_.context, settings, {});
-    ide::PackageDialog dialog(*screen);
-    Check(dialog);
+TEST_F(TranslatedWindow, OfTheBoxes) {
+    qt::QtDialogs dialogs;
+    CheckBox([&] { dialogs.Tell("Source File not specified", "Error"); });
+    CheckBox([&] { dialogs.Confirm("All information in /g.fbd will be deleted.", "Warning"); });
+    CheckBox([&] { dialogs.AskLeaving("What was changed here is not stored yet.", "Close"); });
+    CheckBox([&] {
+        dialogs.AskText({.prompt = "(M-N,ALL,comma separated list)", .title = "Error", .proposal = "ALL"});
+    });
 }
 
 }  // namespace

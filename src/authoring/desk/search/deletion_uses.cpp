@@ -44,7 +44,7 @@ DeletionUses::DeletionUses(Navigator& navigator, const Deletion& deletion) {
         const Jump jump = navigator.JumpTo(affected.table, affected.key);
         lines_.push_back({jump, navigator.NameOf(jump).append(FateOf(affected))});
     }
-    title_ = navigator.NameOf(record) + ": " + Counted(uses, "use", "uses");
+    title_ = TitleOfUses(navigator.NameOf(record), uses);
     deletion.table == TableNum::Vocabulary ? TellOfWord(deletion) : TellOfPlain(uses);
 }
 

@@ -172,6 +172,11 @@ std::optional<std::pair<Target, references::WordTypes>> TargetOf(store::Adventur
 
 }  // namespace
 
+std::string TitleOfUses(const std::string& name, std::size_t count) {
+    if (count == 1) return name + ": 1 use";
+    return name + ": " + std::to_string(count) + " uses";
+}
+
 std::string Navigator::Title() {
     const auto here = Here();
     if (!here || OpenDocument() == nullptr) return {};
@@ -179,7 +184,7 @@ std::string Navigator::Title() {
     const std::size_t count = Lines().size();
     if (here->view.table == TableNum::ProcessTables) return name + " names " + Plural(count, "record");
     if (!references::KindOf(here->view.table)) return {};
-    return name + (count == 0 ? ": not used" : ": " + Plural(count, "use"));
+    return count == 0 ? name + ": not used" : TitleOfUses(name, count);
 }
 
 std::vector<JumpLine> Navigator::Lines() {

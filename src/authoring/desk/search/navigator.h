@@ -29,6 +29,9 @@ struct JumpLine {
     bool possible = false;  ///< a use that only may be one
 };
 
+/// What stands above the uses of a record: "message 7: 3 uses".
+std::string TitleOfUses(const std::string& name, std::size_t count);
+
 /// Ways through the open adventure: what uses the selected record, what that names, any record by a few
 /// letters, and back and forward through the jumps. The index of references is made when it is first asked
 /// for, and follows the document's changes.

@@ -13,6 +13,7 @@
 
 #include "ide/editors/edit_controls.h"
 #include "ide/editors/layout.h"
+#include "qt/fitting_size.h"
 #include "qt/help/help_request.h"
 #include "qt/look/wrapped_label.h"
 #include "qt/strings.h"
@@ -24,7 +25,7 @@ using packages::PackageScreen;
 namespace {
 
 constexpr int kLettersOfTheList = 70;
-constexpr int kLinesOfTheReadMe = 5;
+constexpr int kFewestLinesOfTheReadMe = 2;
 
 QPushButton* AddButton(QHBoxLayout& row, const QString& text, const char* name) {
     auto* button = NewButton(text, name);
@@ -59,6 +60,8 @@ PackageDialog::PackageDialog(PackageScreen& screen, QWidget* parent)
     AddReadMe(Column());
     AddButtons(Column());
     Show();
+    const int width = fontMetrics().averageCharWidth() * kLettersOfTheList;
+    resize(qt::FittingSize(*this, {width, sizeHint().height()}));
     version_->setFocus();
 }
 
@@ -72,7 +75,6 @@ void PackageDialog::AddList(QVBoxLayout& layout) {
     files_->setSelectionBehavior(QAbstractItemView::SelectRows);
     files_->setSelectionMode(QAbstractItemView::SingleSelection);
     files_->setTabKeyNavigation(false);
-    files_->setMinimumWidth(fontMetrics().averageCharWidth() * kLettersOfTheList);
     layout.addWidget(files_, 2);
     auto* row = new QHBoxLayout;
     auto* add = AddButton(*row, tr("&Add Files..."), "addFiles");
@@ -102,7 +104,7 @@ void PackageDialog::AddReadMe(QVBoxLayout& layout) {
     readMe_->setObjectName("readMe");
     readMe_->setAccessibleName(tr("What is added to the ReadMe"));
     readMe_->setTabChangesFocus(true);
-    readMe_->setMinimumHeight(fontMetrics().lineSpacing() * kLinesOfTheReadMe);
+    readMe_->setMinimumHeight(fontMetrics().lineSpacing() * kFewestLinesOfTheReadMe);
     layout.addWidget(readMe_, 1);
     auto* row = new QHBoxLayout;
     auto* browse = AddButton(*row, tr("&Browse for Readme..."), "browse");

@@ -10,6 +10,7 @@
 #include "ide/editors/help_pages.h"
 #include "qt/fitting_size.h"
 #include "qt/help/help_request.h"
+#include "qt/look/wrapped_label.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -18,10 +19,9 @@ namespace {
 constexpr QSize kSize(640, 360);
 
 QLabel* NewSentence(const std::string& text, const char* name) {
-    auto* label = new QLabel(qt::ToQt(text));
+    auto* label = new qt::WrappedLabel(qt::Translated(text));
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
     return label;
 }
 
