@@ -11,7 +11,7 @@ void AddEncodingOption(CLI::App& verb, interchange::Encoding& encoding) {
     };
     verb.add_option_function<std::string>(
             "--encoding", choose, "utf-8 or windows-1252, where the source itself doesn't tell rightly")
-        ->check(CLI::IsMember({"utf-8", "windows-1252"}, CLI::ignore_case));
+        ->transform(CLI::IsMember({"utf-8", "windows-1252"}, CLI::ignore_case));
 }
 
 }  // namespace fabula::cli

@@ -161,6 +161,8 @@ TEST_F(CheckVerb, TellsHowItReadASourceWithoutAMark) {
               std::string::npos);
     const ProgramResult decided = Run({"check", File("utf8.txt"), "--encoding", "windows-1252"});
     EXPECT_NE(decided.output.find("The text is read as Windows-1252.\n"), std::string::npos);
+    const ProgramResult inCapitals = Run({"check", File("utf8.txt"), "--encoding", "UTF-8"});
+    EXPECT_NE(inCapitals.output.find("The text is read as UTF-8.\n"), std::string::npos);
     EXPECT_EQ(Run({"check", File("utf8.txt"), "--encoding", "latin"}).status, 2);
 }
 
