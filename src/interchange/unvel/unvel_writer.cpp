@@ -151,20 +151,38 @@ class ExtractWriter {
         file_.Line(std::string(kGeneralDashes, '-'));
     }
 
+    /// What stands in the extract for one or more words of a type, and which word that is.
+    struct Listed {
+        std::string word;
+        std::set<std::int64_t> numbers;
+    };
+    using ListedWords = std::map<std::pair<std::int64_t, std::string>, Listed>;
+
+    /// By type and letters. A word that needs no cut comes before those that become it, and else the first.
+    static ListedWords WordsToList(Cursor& words) {
+        ListedWords listed;
+        for (; !words.Eof(); words.MoveNext()) {
+            const std::string word(words.Text("word"));
+            const std::string cut(text::Left(word, kLetters));
+            Listed& place = listed[{words.Number("voctypen"), cut}];
+            if (place.word.empty() || (word == cut && place.word != word)) place = {word, {}};
+            if (place.word == word) place.numbers.insert(words.Number("vocnum"));
+        }
+        return listed;
+    }
+
     void WriteVocabulary() {
         file_.UnVelHdr("Vocabulary", true);
+        const ListedWords listed = WordsToList(Open(TableNum::Vocabulary, "vocnum,word", "vocnum>0"));
         Cursor& words = Open(TableNum::Vocabulary, "vocnum,word", "vocnum>0");
-        // The numbers by type and word.
-        std::map<std::pair<std::int64_t, std::string>, std::int64_t> written;
         for (; !words.Eof(); words.MoveNext()) {
             Record(TableNum::Vocabulary, words.Number("vocindex"));
             const std::string type(condacts::WordTypeName(static_cast<int>(words.Number("voctypen"))));
             const std::string word = file_.Word(words.Text("word"), kLetters);
-            const auto [place, isNew] =
-                written.try_emplace({words.Number("voctypen"), word}, words.Number("vocnum"));
-            if (isNew) {
+            const Listed& place = listed.at({words.Number("voctypen"), word});
+            if (place.word == words.Text("word")) {
                 file_.Line(text::FormatText("%a!%t7!%s4!%a", {word, words.Field("vocnum"), type}));
-            } else if (place->second != words.Number("vocnum")) {
+            } else if (!place.numbers.contains(words.Number("vocnum"))) {
                 file_.Loss("the word " + std::string(words.Text("word")) + " would be " + word +
                            ", which is another word. It is left out.");
             }

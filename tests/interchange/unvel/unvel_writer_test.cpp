@@ -95,6 +95,29 @@ TEST(UnVelWriter, TheFormIsAskedForOrThatOfTheSettingsOrTheNewest) {
     EXPECT_TRUE(WrittenExtract(*game, "2.1.0").Has("\r\n2.1.0\r\n"));
 }
 
+TEST(UnVelWriter, TwoWordsOfOneSpellingAreBothWritten) {
+    const test::OpenedAdventure game(AdventureKind::Vel);
+    AddWord(*game, "GLEAM", 60);
+    AddWord(*game, "GLEAM", 61);
+    const WrittenExtract extract(*game);
+    EXPECT_TRUE(extract.Has("GLEAM   60Noun\r\n")) << extract.text;
+    EXPECT_TRUE(extract.Has("GLEAM   61Noun\r\n")) << extract.text;
+    EXPECT_EQ(extract.status.find("another word"), std::string::npos) << extract.status;
+}
+
+TEST(UnVelWriter, AWordThatNeedsNoCutComesBeforeThoseThatBecomeIt) {
+    const test::OpenedAdventure game(AdventureKind::Vel);
+    AddWord(*game, "QUARTERMASTER", 60);
+    AddWord(*game, "QUART", 61);
+    const WrittenExtract extract(*game);
+    EXPECT_TRUE(extract.Has("QUART   61Noun\r\n")) << extract.text;
+    EXPECT_EQ(extract.text.find("QUART   60"), std::string::npos);
+    EXPECT_NE(extract.status.find(
+                  "the word QUARTERMASTER would be QUART, which is another word. It is left out."),
+              std::string::npos)
+        << extract.status;
+}
+
 TEST(UnVelWriter, AWordThatIsCutToAnotherOneIsLeftOutAndTold) {
     const test::OpenedAdventure game(AdventureKind::Vel);
     AddWord(*game, "QUARTER", 60);
