@@ -1,6 +1,7 @@
 #include "ide/editors/alt_guard.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -17,7 +18,11 @@ bool AltGuard::eventFilter(QObject* receiver, QEvent* event) {
     // Characters of the third level of a keyboard may come with Ctrl and Alt together.
     const bool isLetter = !key->text().isEmpty() && key->text().at(0).isPrint();
     if (!isLetter || (key->modifiers() & ~Qt::ShiftModifier) != Qt::AltModifier) return false;
-    if (!qobject_cast<QLineEdit*>(receiver) && !qobject_cast<QPlainTextEdit*>(receiver)) return false;
+    const auto* list = qobject_cast<QComboBox*>(receiver);
+    const bool isTypedInto = (list != nullptr && list->isEditable()) ||
+                             qobject_cast<QLineEdit*>(receiver) != nullptr ||
+                             qobject_cast<QPlainTextEdit*>(receiver) != nullptr;
+    if (!isTypedInto) return false;
     event->ignore();
     return true;
 }

@@ -8,6 +8,7 @@
 #include <QSet>
 
 #include "ide/editors/edit_controls.h"
+#include "ide/editors/text_edit.h"
 #include "qt/strings.h"
 
 namespace fabula::ide {
@@ -39,7 +40,7 @@ QString WithFreeMnemonic(const QString& caption, const QWidget& window) {
 }  // namespace
 
 CommentEdit::CommentEdit(authoring::RecordComment& comment, const QWidget& window)
-    : comment_(comment), edit_(new QPlainTextEdit) {
+    : comment_(comment), edit_(new TextEdit) {
     const QString caption = tr("Comment:");
     auto* label = new QLabel(WithFreeMnemonic(caption, window));
     label->setBuddy(edit_);

@@ -31,7 +31,10 @@ void AddToForm(QFormLayout& form, const QString& label, QWidget* control, const 
     // The line of a list that can be typed into is a control of its own.
     const auto* list = qobject_cast<QComboBox*>(control);
     if (auto* line = qobject_cast<QLineEdit*>(control)) DropPastedControls(*line);
-    if (list != nullptr && list->isEditable()) list->lineEdit()->setAccessibleName(list->accessibleName());
+    if (list != nullptr && list->isEditable()) {
+        list->lineEdit()->setAccessibleName(list->accessibleName());
+        DropPastedControls(*list->lineEdit());
+    }
     auto* caption = new QLabel(label);
     caption->setBuddy(control);
     // Beside a control of one line the label stands at its middle.

@@ -17,7 +17,9 @@ void DropPastedControls(QLineEdit& line) {
         const QString clean = WithoutControls(text);
         if (clean == text) return;
         const auto before = WithoutControls(text.left(line.cursorPosition())).size();
-        line.setText(clean);
+        // Unlike setText this can be taken back, and counts as typed.
+        line.selectAll();
+        line.insert(clean);
         line.setCursorPosition(static_cast<int>(before));
     });
 }

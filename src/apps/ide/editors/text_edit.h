@@ -13,7 +13,8 @@ namespace fabula::ide {
 QString WithoutControls(QString text);
 
 /// From here on the line drops the control characters that are pasted into it. Those that it came with stay
-/// until then.
+/// until then. Who listens to textEdited reads the line: what comes with the signal may be what it was
+/// before.
 void DropPastedControls(QLineEdit& line);
 
 /// An editor of plain text that drops control characters from what is pasted.

@@ -13,6 +13,7 @@
 
 #include "ide/editors/edit_controls.h"
 #include "ide/editors/layout.h"
+#include "ide/editors/text_edit.h"
 #include "qt/fitting_size.h"
 #include "qt/help/help_request.h"
 #include "qt/look/wrapped_label.h"
@@ -48,7 +49,7 @@ PackageDialog::PackageDialog(PackageScreen& screen, QWidget* parent)
       version_(new QLineEdit(qt::ToQt(screen.version))),
       engine_(NewBox(PackageScreen::kIncludeEngine, "includeEngine")),
       files_(new QTableWidget(0, 2)),
-      readMe_(new QPlainTextEdit),
+      readMe_(new TextEdit),
       look_(NewBox(PackageScreen::kLookAtReadMe, "lookAtReadMe")) {
     Column().setSpacing(10);
     auto* form = new QFormLayout;

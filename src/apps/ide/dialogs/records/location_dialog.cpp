@@ -131,8 +131,8 @@ void LocationDialog::AddExits() {
     connect(rows_, &QTableWidget::cellChanged, this, [this] { ReadRows(); });
     AddControl(tr("&Exits:"), rows_, "exitRows");
     AddControl(tr("As one &line:"), exits_, "exits");
-    connect(exits_, &QLineEdit::textEdited, this, [this](const QString& text) {
-        screen_.exits = qt::FromQt(text);
+    connect(exits_, &QLineEdit::textEdited, this, [this] {
+        screen_.exits = qt::FromQt(exits_->text());
         ShowRows();
     });
 }

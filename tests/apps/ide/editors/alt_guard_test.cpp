@@ -1,5 +1,6 @@
 #include "ide/editors/alt_guard.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 
@@ -15,6 +16,16 @@ TEST(AltGuard, ALetterWithAltThatChoosesNothingTypesNothing) {
     EXPECT_EQ(line.text(), "");
     QTest::keyClick(&line, Qt::Key_R);
     EXPECT_EQ(line.text(), "r");
+}
+
+TEST(AltGuard, ALetterWithAltTypesNothingInAListThatIsTypedInto) {
+    const ide::AltGuard guard(nullptr);
+    QComboBox list;
+    list.setEditable(true);
+    QTest::keyClick(&list, Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(list.currentText(), "");
+    QTest::keyClick(&list, Qt::Key_R);
+    EXPECT_EQ(list.currentText(), "r");
 }
 
 TEST(AltGuard, AThirdLevelOfTheKeyboardIsTyped) {
