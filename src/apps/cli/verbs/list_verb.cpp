@@ -41,19 +41,20 @@ listings::ReportRequest RequestOf(const listings::Report& report, const ListOpti
     return listings::RequestOf(report, options.asked, adventure);
 }
 
-/// A file by another name would be taken for what it isn't, such as a *.pdf.
+/// What other programs would take a listing for.
+constexpr std::string_view kOtherForms[] = {".doc", ".docx", ".odt", ".pdf", ".ps", ".rtf"};
+
 void CheckForm(const std::filesystem::path& output) {
     const std::string extension = text::LowerCase(output.extension().string());
-    const bool isListing = extension.empty() || extension == ".txt" || listings::IsHtmlName(output);
-    if (!isListing && !store::IsStream(output))
+    if (std::ranges::find(kOtherForms, extension) != std::end(kOtherForms))
         throw UsageError("a listing is a *.txt or *.html file, not *" + extension);
 }
 
 int MakeListing(const ListOptions& options) {
     const listings::Report& report = ReportNamed(options.report);
     TerminalPerson person;
-    CheckTarget({options.output, store::Content::Text, {}, options.file, options.force}, person);
     CheckForm(options.output);
+    CheckTarget({options.output, store::Content::Text, {}, options.file, options.force}, person);
     const auto adventure = OpenToRead(options.file);
     const listings::ReportRequest request = RequestOf(report, options, *adventure);
     store::WriteFile(options.output, listings::IsHtmlName(options.output)
