@@ -35,8 +35,10 @@ TEST(Key, SeveralAreShownOnceBehindTheLast) {
     const auto run = InputWorld().Start();
     run->engine.Keys(U"do\bx\r");
     EXPECT_EQ(run->window.Screen(), "Room 0?\n>DX\n(6)?\n>");
+    const int shownBefore = run->window.inputsShown;
     run->engine.Keys(U"do");
     EXPECT_EQ(run->window.typed, "DO");
+    EXPECT_EQ(run->window.inputsShown, shownBefore + 1);
 }
 
 TEST(Key, EnterRunsTheLine) {

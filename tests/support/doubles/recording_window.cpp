@@ -44,6 +44,7 @@ void RecordingWindow::Clear(int, int) {
 
 void RecordingWindow::ShowInput(std::string_view line, std::string_view cursorText) {
     typed = line;
+    ++inputsShown;
     cursor = cursorText;
 }
 

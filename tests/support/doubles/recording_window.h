@@ -46,7 +46,8 @@ class RecordingWindow final : public WholeWindow, public OriginSink {
     int starts = 0;
     int ends = 0;
     int clears = 0;
-    std::string typed;  ///< as the last ShowInput showed it
+    std::string typed;    ///< as the last ShowInput showed it
+    int inputsShown = 0;  ///< by ShowInput
     std::string cursor;
     bool nextEnabled = false;
     std::map<StatusField, std::string> status;
