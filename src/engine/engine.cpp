@@ -364,6 +364,7 @@ bool Engine::TakeState(std::string_view state) {
     // What still runs is of the game before, whose flags have gone with it.
     if (game_->timeOutRunning) sitting_->parts.timers.StopTimeOut();
     game_->timeOutRunning = false;
+    game_->timeOutInterval = 0;
     if (TimeOutIsArmed(*game_)) ClearTimeOutMark(*game_);
     scriptPlaying_ = false;
     tickPending_ = false;

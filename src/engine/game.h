@@ -96,7 +96,7 @@ class Game {
     int clearedVerb = kNoWord;
     int clearedAdverb = kNoWord;
 
-    int timeOutInterval = 0;      ///< in ms, as TIME set it; 0 before
+    int timeOutInterval = 0;      ///< in ms, as TIME set it; 0 before, and in a state that was loaded
     bool timeOutRunning = false;  ///< the window's timer runs
     std::deque<Tone> tones;       ///< still to be played
 
