@@ -255,9 +255,8 @@ class Extraction {
 
     /// A pattern is made of two of the first 16 characters of set 0.
     void ReadPattern(int pattern, std::size_t token) {
-        constexpr int kShades = pictures::kLastShade + 1;
-        const int first = pattern / kShades;
-        const int second = pattern % kShades;
+        const int first = pattern / pictures::kShades;
+        const int second = pattern % pictures::kShades;
         Add(Kind::Character, first, "drawstring", token);
         if (second != first) Add(Kind::Character, second, "drawstring", token);
     }

@@ -6,6 +6,7 @@ namespace fabula::text {
 // cell), 144 to 164 user-defined graphics.
 
 inline constexpr int kLastShade = 15;
+inline constexpr int kShades = kLastShade + 1;
 inline constexpr int kFirstCharacter = 32;
 inline constexpr int kPoundSign = 96;
 inline constexpr int kCopyrightSign = 127;

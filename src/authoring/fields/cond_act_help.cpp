@@ -272,7 +272,8 @@ std::string CondActHelp::MeaningOfNumber(const Parameter& parameter, std::string
 /// What the game says stands in quotes.
 std::string CondActHelp::Quoted(ParamKind kind, std::string_view token, const std::string& meaning) const {
     const bool isSaid = kind == ParamKind::Message || kind == ParamKind::SystemMessage;
-    if (!isSaid || RecordOf(kind, token) == nullptr) return meaning;
+    const ListItem* const record = RecordOf(kind, token);
+    if (!isSaid || record == nullptr || record->text.empty()) return meaning;
     return std::string("\u201C").append(meaning).append("\u201D");
 }
 

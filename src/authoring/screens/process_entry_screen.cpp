@@ -22,8 +22,6 @@ using condacts::Word;
 using condacts::WordNumber;
 using store::TableNum;
 
-constexpr int kFirstNewProcess = condacts::limit::kLastFixedProcess.value + 1;
-
 std::string NumberText(std::int64_t number) {
     return std::to_string(number);
 }
@@ -128,7 +126,7 @@ ProcessNumber ProcessEntryScreen::NextProcess() const {
     store::PreparedQuery highest =
         Adventure().Prepare(TableNum::ProcessTables, "estype", "", "estype desc");
     const int next = highest.First({}) ? NumberAfter(highest.Number(0)) : 0;
-    return ProcessNumber(std::max(next, kFirstNewProcess));
+    return ProcessNumber(std::max(next, condacts::limit::kLastFixedProcess.value + 1));
 }
 
 bool ProcessEntryScreen::LeaveProcess() {

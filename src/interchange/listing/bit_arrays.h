@@ -66,6 +66,5 @@ class ListedCharacters {
 /// How many characters of each kind a listing has.
 inline constexpr std::size_t kUserGraphics = pictures::kLastCharacter - pictures::kFirstUserGraphic + 1;
 inline constexpr std::size_t kFontCharacters = pictures::kLastOfFont - pictures::kFirstCharacter + 1;
-inline constexpr std::size_t kShades = pictures::kLastShade + 1;
 
 }  // namespace fabula::interchange

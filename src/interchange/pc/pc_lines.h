@@ -38,7 +38,7 @@ class PcLines {
     /// A link could not be followed.
     bool Failed() const { return failed_; }
 
-    /// The comments behind which the source hides what its sections have no place for (pc_extras.h), so
+    /// The comments behind which the source hides what its sections have no place for (source_extras.h), so
     /// far, without the comment character.
     struct Extra {
         std::string text;

@@ -55,7 +55,7 @@ class Characters final : public ListingSection {
         if (name == "udg_bits") {
             characters.Store(0, pictures::kFirstUserGraphic, array.Characters(kUserGraphics), SetName(0));
         } else if (name == "shade_bits") {
-            characters.Store(0, 0, array.Characters(kShades), SetName(0));
+            characters.Store(0, 0, array.Characters(pictures::kShades), SetName(0));
         } else if (const auto set = SetOfFont(name)) {
             characters.Store(*set, pictures::kFirstCharacter, array.Characters(kFontCharacters),
                              SetName(*set));

@@ -26,6 +26,7 @@ using text::kFirstUserGraphic;
 using text::kLastCharacter;
 using text::kLastOfFont;
 using text::kLastShade;
+using text::kShades;
 using text::kSolidCharacter;
 
 /// How many characters the name of a set has at most.

@@ -24,7 +24,6 @@ namespace fabula::ide {
 namespace {
 
 constexpr int kColours = 8;
-constexpr int kShades = pictures::kLastShade + 1;
 constexpr QSize kThumbnail(64, 44);
 constexpr int kPaletteGap = 4;
 
@@ -237,7 +236,7 @@ void PicturePalette::AddPatterns() {
     firstShade_ = AddList(*grid, "FirstShade", tr("First shade"), 0, 0);
     secondShade_ = AddList(*grid, "SecondShade", tr("Second shade"), 0, 1);
     for (QComboBox* list : {firstShade_, secondShade_}) {
-        for (int shade = 0; shade < kShades; ++shade) {
+        for (int shade = 0; shade < pictures::kShades; ++shade) {
             const pictures::Character* found = editor_.Book().characters.FindFirst(shade);
             list->addItem(found ? PatternIcon(found->glyph) : QIcon(), QString::number(shade), shade);
         }
