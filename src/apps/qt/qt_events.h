@@ -7,10 +7,10 @@
 
 namespace fabula::qt {
 
-/// Lets the windows be drawn during long work, now and then. What the person does meanwhile waits until the
-/// work is done.
+/// Lets the windows be drawn during long work, now and then.
 class QtEvents : public platform::EventPump {
   public:
+    /// `taken`: which events are dealt with; by default what the person does waits until the work is done.
     explicit QtEvents(QEventLoop::ProcessEventsFlags taken = QEventLoop::ExcludeUserInputEvents)
         : taken_(taken) {
         sinceLast_.start();

@@ -13,7 +13,7 @@ class LineReader final : public LineSource {
   public:
     /// From a descriptor that is open, and stays so.
     explicit LineReader(int descriptor) : descriptor_(descriptor) {}
-    /// From a file. Throws fabula::Error when it can't be opened.
+    /// From a file or a pipe. Throws fabula::Error for what is neither, and when it can't be opened.
     explicit LineReader(const std::filesystem::path& file);
     LineReader(const LineReader&) = delete;
     LineReader& operator=(const LineReader&) = delete;

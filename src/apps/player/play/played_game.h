@@ -80,7 +80,7 @@ class PlayedGame {
     static constexpr std::size_t kMostStates = 100;
 
     bool Key(char32_t key);
-    /// Several keys in one step, as Engine::Keys.
+    /// Several keys in one step, as Engine::Keys; at most one line, its Enter last.
     bool Keys(std::u32string_view keys);
     bool EnterLine(std::string_view line);
     bool TimeOutTick();
