@@ -68,6 +68,10 @@ bool Clashes(const Word& word, std::span<const Word> sameSpelling) {
     });
 }
 
+std::string DuplicateWordFault(std::string_view word) {
+    return "ERROR: Duplicate Word.\nWord " + std::string(word) + " deleted.";
+}
+
 WordIndex::WordIndex(std::vector<Word> words) : words_(std::move(words)) {
     for (std::size_t i = 0; i < words_.size(); ++i) {
         bySpelling_[text::LowerCase(words_[i].word)].push_back(i);

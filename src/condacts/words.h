@@ -64,6 +64,9 @@ bool IsMovementWordOrReserved(const Word& word);
 /// a noun beside a noun of its number, and a word of any other type beside any word.
 bool Clashes(const Word& word, std::span<const Word> sameSpelling);
 
+/// What a source is told whose word clashes.
+std::string DuplicateWordFault(std::string_view word);
+
 /// A vocabulary in memory, in its order: where several words fit, the first in that order is found.
 /// Spelling is compared without regard to case.
 class WordIndex {

@@ -68,7 +68,7 @@ void PcVocabulary::Line(std::string_view line) {
     }
     auto& sameSpelling = bySpelling_[text::LowerCase(word.word)];
     if (condacts::Clashes(word, sameSpelling)) {
-        job_.Fault("ERROR: Duplicate Word.\nWord " + word.word + " deleted.", tokens[0]);
+        job_.Fault(condacts::DuplicateWordFault(word.word), tokens[0]);
         return;
     }
     sameSpelling.push_back(word);

@@ -52,7 +52,7 @@ class Vocabulary final : public ListingSection {
             return;
         }
         if (words_.Has(word, type)) {
-            job_.Fault("ERROR: Duplicate Word.\nWord " + word + " deleted.");
+            job_.Fault(condacts::DuplicateWordFault(word));
             return;
         }
         if (!words_.Add({word, condacts::WordNumber(*number), type}))

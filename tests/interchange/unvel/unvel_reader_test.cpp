@@ -182,7 +182,10 @@ TEST(UnVelReader, TypesOfWordsAreThoseOfTheListAndElseNouns) {
 TEST(UnVelReader, AWordTwiceIsToldAsSuch) {
     UnVelParts parts;
     parts.words += "LAMP    50Noun\nLAMP    51Noun\n";
-    EXPECT_NE(ReadUnVel(parts).status.find("Duplicate Word"), std::string::npos);
+    const Reading game = ReadUnVel(parts);
+    EXPECT_NE(game.status.find("ERROR: Duplicate Word.\nWord LAMP deleted."), std::string::npos)
+        << game.status;
+    EXPECT_EQ(game.Number(TableNum::Vocabulary, "word='LAMP'", "vocnum"), 50);
 }
 
 TEST(UnVelReader, TheGamesOwnWordsGoBeforeTheDefaultOnes) {

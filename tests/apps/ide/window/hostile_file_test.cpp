@@ -86,7 +86,8 @@ class HostileFile : public testing::TestWithParam<const char*> {
         }
     }
 
-    /// Everything that can be done with the table in view, on its last row: each statement changes all.
+    /// Everything that can be done with the table in view, on its last row: each statement changes all
+    /// rows alike, so that the first is no other case.
     void UseTable() {
         auto& grid = window_.Part<QTableView>("Grid");
         if (grid.model()->rowCount() == 0) return;

@@ -148,6 +148,16 @@ TEST_F(TextEditingTest, CountsAWordOverATagOnceAndOneAtALineEndTwice) {
     EXPECT_EQ(Count("one<br>two"), (TextCounts{2, 6}));
 }
 
+TEST_F(TextEditingTest, SaysThatALongTextIsNotCountedToItsEnd) {
+    std::string text;
+    for (int word = 0; word < 20'000; ++word)
+        text += "word ";
+    const TextCounts counts = Count(text);
+    EXPECT_FALSE(counts.complete);
+    EXPECT_GT(counts.words, 1'000);
+    EXPECT_LT(counts.words, 20'000);
+}
+
 TEST_F(TextEditingTest, CountsNoHardBlank) {
     EXPECT_EQ(Count("a&sp;b"), (TextCounts{2, 2}));
 }
