@@ -181,9 +181,9 @@ TEST(UnVelReader, TypesOfWordsAreThoseOfTheListAndElseNouns) {
 
 TEST(UnVelReader, AWordTwiceIsToldAsSuch) {
     UnVelParts parts;
-    parts.words += "LAMP    50Noun\nLAMP    51Noun\n";
+    parts.words += "LAMP    51Noun\n";
     const Reading game = ReadUnVel(parts);
-    EXPECT_NE(game.status.find("ERROR: Duplicate Word.\nWord LAMP deleted."), std::string::npos)
+    EXPECT_NE(game.status.find("ERROR: Duplicate Word. Word LAMP deleted."), std::string::npos)
         << game.status;
     EXPECT_EQ(game.Number(TableNum::Vocabulary, "word='LAMP'", "vocnum"), 50);
 }

@@ -17,9 +17,9 @@ void DropPastedControls(QLineEdit& line) {
         const QString clean = WithoutControls(text);
         if (clean == text) return;
         const auto before = WithoutControls(text.left(line.cursorPosition())).size();
-        // Unlike setText this can be taken back, and counts as typed.
-        line.selectAll();
-        line.insert(clean);
+        // Nothing to go back to: an undo would bring the control characters in again.
+        line.setText(clean);
+        line.setModified(true);
         line.setCursorPosition(static_cast<int>(before));
     });
 }
