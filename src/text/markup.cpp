@@ -180,6 +180,10 @@ std::string StripTags(std::string_view text, std::string& removed) {
     return rest;
 }
 
+int ShownPoints(int fontSize) {
+    return fontSize > 0 ? std::min(fontSize, kMostPoints) : kDefaultPoints;
+}
+
 std::string ReplaceEntities(std::string_view text) {
     std::string shown(text);
     for (const Entity& entity : kEntities)

@@ -23,6 +23,14 @@ inline constexpr int kTabColumn = 16;
 /// The size in points of a text to which neither a tag nor the settings give one.
 inline constexpr int kDefaultPoints = 12;
 
+/// The largest size in points at which a text is shown: a few words of it still fill a screen. A file may
+/// ask for more.
+inline constexpr int kMostPoints = 144;
+
+/// The points, 1 to kMostPoints, at which a text of a file's `fontSize` is shown: kDefaultPoints where that
+/// is 0 or less.
+int ShownPoints(int fontSize);
+
 /// What a check found: valid, or the first fault.
 struct Verdict {
     std::string message = {};  ///< empty when valid

@@ -271,6 +271,19 @@ TEST(StripTags, AMegabyteIsStripped) {
     EXPECT_EQ(removed, Repeated("<x>", 250'000));
 }
 
+TEST(ShownPoints, AreThoseOfTheFileUpToTheLargestThatAScreenHolds) {
+    EXPECT_EQ(ShownPoints(1), 1);
+    EXPECT_EQ(ShownPoints(24), 24);
+    EXPECT_EQ(ShownPoints(144), 144);
+    EXPECT_EQ(ShownPoints(145), 144);
+    EXPECT_EQ(ShownPoints(2'147'483'647), 144);
+}
+
+TEST(ShownPoints, AreTwelveWhereAFileGivesNone) {
+    EXPECT_EQ(ShownPoints(0), 12);
+    EXPECT_EQ(ShownPoints(-1), 12);
+}
+
 TEST(ReplaceEntities, ShowsTheFourEntities) {
     EXPECT_EQ(ReplaceEntities("a &lt;b&gt;&sp;&amp; c"), "a <b> & c");
     EXPECT_EQ(ReplaceEntities("&nbsp;&LT;"), "&nbsp;&LT;");

@@ -147,7 +147,7 @@ FontSample SettingsScreen::FontTest() const {
                       .points = text::kDefaultPoints,
                       .paper = paper,
                       .ink = ink};
-    if (const ListItem* size = fontSize.Chosen()) sample.points = size->number;
+    if (const ListItem* size = fontSize.Chosen()) sample.points = text::ShownPoints(size->number);
     const ListItem* chosen = font.Chosen();
     if (chosen == nullptr) return sample;
     if (charSets) {

@@ -85,6 +85,12 @@ TEST_F(TextPaneTest, PaperIsShownWhereItIsNotThatOfTheGame) {
     EXPECT_EQ(FormatAt(1).background().style(), Qt::NoBrush);
 }
 
+TEST_F(TextPaneTest, ASizeThatNoScreenHoldsIsTheLargestThatOneHolds) {
+    pane_.Write("a", kStyle, "");
+    pane_.Write("b", {.fontSize = 32'767, .paper = 15, .ink = 0}, "");
+    EXPECT_EQ(FormatAt(1).fontPointSize(), 144);
+}
+
 TEST_F(TextPaneTest, ZoomChangesEverySize) {
     pane_.Write("a", kStyle, "");
     pane_.Write("b", {.fontSize = 24, .paper = 15, .ink = 0}, "");

@@ -57,8 +57,7 @@ QTextCharFormat FormatOf(const authoring::ShownRun& run, const player::TextColou
     QTextCharFormat format;
     const player::TextColours::Run shown = colours.Of(run.style);
     if (!run.fontName.empty()) format.setFontFamilies({qt::ToQt(run.fontName)});
-    const int points = run.style.fontSize > 0 ? run.style.fontSize : text::kDefaultPoints;
-    format.setFontPointSize(points * zoom);
+    format.setFontPointSize(text::ShownPoints(run.style.fontSize) * zoom);
     if (run.style.bright) format.setFontWeight(QFont::Bold);
     if (run.style.flash) format.setUnderlineStyle(QTextCharFormat::DotLine);
     format.setForeground(qt::ToQt(shown.ink));

@@ -111,8 +111,8 @@ QString TextPane::BaseFamily() const {
 }
 
 double TextPane::PointsOf(int fontSize) const {
-    const double ordinary = look_.style.fontSize > 0 ? look_.style.fontSize : text::kDefaultPoints;
-    const double own = fontSize > 0 ? fontSize : ordinary;
+    const double ordinary = text::ShownPoints(look_.style.fontSize);
+    const double own = fontSize > 0 ? text::ShownPoints(fontSize) : ordinary;
     const double wanted = choice_.points > 0 ? own * choice_.points / ordinary : own;
     return wanted * zoom_ / 100.0;
 }

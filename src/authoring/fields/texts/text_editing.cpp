@@ -60,8 +60,7 @@ std::string TextEditing::NameOfFont(int font) const {
 
 int TextEditing::FontPoints() const {
     const auto found = settings_.fontSizes.find(settings_.fontSize);
-    if (found == settings_.fontSizes.end() || found->second <= 0) return text::kDefaultPoints;
-    return found->second;
+    return text::ShownPoints(found == settings_.fontSizes.end() ? 0 : found->second);
 }
 
 int TextEditing::PreviewColumns() const {

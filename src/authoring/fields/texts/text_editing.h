@@ -50,7 +50,7 @@ class TextEditing {
     /// The look of the game before any tag changes it, in which editors show the text too. The font's name
     /// is "" where the game writes through character sets, or the codes don't know the font.
     std::string FontName() const { return NameOfFont(settings_.font); }
-    int FontPoints() const;  ///< text::kDefaultPoints where the codes have no size
+    int FontPoints() const;  ///< as it is shown (text::ShownPoints)
     int Paper() const { return settings_.backColour; }
     int Ink() const { return settings_.textColour; }
 
