@@ -5,6 +5,7 @@ data/Fabula.ini, for those who translate the windows.
     sentences.py OUTPUT [ROOT]
 
 OUTPUT is a C++ file: lupdate finds the sentences in it, and the windows know from it how sentences with values are made.
+OUTPUT.json beside it keeps what each source held when it was last read, so that the next run reads only what has changed.
 A sentence that is put together, as in `"Could not write " + name + "."` or by append(), is one line with a place for each
 value: "Could not write %1.". Texts of several lines are several sentences, as they are translated line by line; a filter
 of files ("Text|*.txt") is its names. What is written in tr() is lupdate's own affair and is not listed.
@@ -13,6 +14,8 @@ A string that no person reads (a query, a name of a field, a key of the settings
 costs a translator a look; one too few stays in English, so in doubt a string is listed.
 """
 
+import hashlib
+import json
 import pathlib
 import re
 import sys
@@ -240,22 +243,51 @@ def written(line):
     return '"' + line.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
 
+def strings_of(source):
+    """The lines of all strings of a source, each once."""
+    chains = []
+    sentences_in(tree_of(tokens_of(source)), chains)
+    ways = (way for chain in chains for way in whole(chain))
+    return list(dict.fromkeys(line for way in ways for line in lines_of(pattern_of(way))))
+
+
+class ReadBefore:
+    """What sources held, by their contents and by this script; only what is asked for is kept for the next run."""
+
+    def __init__(self, file):
+        self.file = file
+        self.script = pathlib.Path(__file__).read_bytes()
+        self.now = {}
+        try:
+            self.before = json.loads(file.read_text(encoding="utf-8"))
+        except (OSError, ValueError):
+            self.before = {}  # not there yet, or half written: everything is read anew
+
+    def strings_of(self, source):
+        key = hashlib.sha256(self.script + source).hexdigest()
+        self.now[key] = self.before[key] if key in self.before else strings_of(source.decode("utf-8"))
+        return self.now[key]
+
+    def keep(self):
+        if self.now != self.before:
+            self.file.write_text(json.dumps(self.now), encoding="utf-8")
+
+
 def main(output, root=pathlib.Path(__file__).resolve().parent.parent):
     root = pathlib.Path(root)
     rows = rows_of_data(root)
     fields = field_names(rows)
     found = {}
+    read_before = ReadBefore(pathlib.Path(output + ".json"))
     sources = (str(path) for path in (root / "src").rglob("*") if path.suffix in (".cpp", ".h"))
     for name in sorted(sources):
         if SKIPPED.search(name):
             continue
         nouns = bool(ROOMS_OF_NOUNS.search(name))
-        chains = []
-        sentences_in(tree_of(tokens_of(pathlib.Path(name).read_text(encoding="utf-8"))), chains)
-        for pieces in (way for chain in chains for way in whole(chain)):
-            for line in lines_of(pattern_of(pieces)):
-                if is_read(line, nouns, fields):
-                    found.setdefault(line, None)
+        for line in read_before.strings_of(pathlib.Path(name).read_bytes()):
+            if is_read(line, nouns, fields):
+                found.setdefault(line, None)
+    read_before.keep()
     found.update(dict.fromkeys(names_in_data(rows)))
     text = ("// Made by scripts/sentences.py.\n#include \"qt/sentences.h\"\n\n#include <QtGlobal>\n\n"
             "namespace fabula::qt {\nnamespace {\n\nconstexpr const char* kSentences[] = {\n"
