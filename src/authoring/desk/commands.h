@@ -114,6 +114,8 @@ struct ActionState {
     std::string text;      ///< with the record's name and the key that gives it: "Add Location (CTRL/N)"
     std::string menuText;  ///< for a menu, which shows the key itself: "&Add Location"
     std::string why;       ///< when it is not enabled: the reason, a sentence
+
+    friend bool operator==(const ActionState&, const ActionState&) = default;
 };
 
 }  // namespace fabula::authoring

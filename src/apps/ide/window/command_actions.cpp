@@ -75,22 +75,30 @@ void CommandActions::FillGroup(QMenu& menu, Menu of, int group) const {
     }
 }
 
-void CommandActions::Refresh(const StateOf& stateOf) const {
+void CommandActions::Refresh(const StateOf& stateOf) {
     for (const CommandEntry& entry : authoring::AllCommands()) {
         const authoring::ActionState state = stateOf(entry.id);
         QAction* action = Of(entry.id);
         action->setEnabled(state.enabled);
-        action->setChecked(state.checked);
-        action->setText(qt::Translated(state.menuText));
-        const QString tip =
-            qt::Translated(state.enabled || state.why.empty() ? std::string(entry.tip) : state.why);
-        const QString text = qt::Translated(state.text);
-        action->setStatusTip(tip);
-        action->setToolTip("<p>" + text.toHtmlEscaped() + "<br>" + tip.toHtmlEscaped() + "</p>");
-        // A screen reader would read the markup of the tip.
-        for (QObject* object : action->associatedObjects()) {
-            if (auto* button = qobject_cast<QToolButton*>(object)) button->setAccessibleDescription(tip);
-        }
+        action->setChecked(state.checked);  // always: a click has turned it before it was refused
+        authoring::ActionState& shown = shown_[entry.id];
+        if (shown == state) continue;
+        shown = state;
+        ShowTexts(*action, entry, state);
+    }
+}
+
+void CommandActions::ShowTexts(QAction& action, const CommandEntry& entry,
+                               const authoring::ActionState& state) {
+    action.setText(qt::Translated(state.menuText));
+    const QString tip =
+        qt::Translated(state.enabled || state.why.empty() ? std::string(entry.tip) : state.why);
+    const QString text = qt::Translated(state.text);
+    action.setStatusTip(tip);
+    action.setToolTip("<p>" + text.toHtmlEscaped() + "<br>" + tip.toHtmlEscaped() + "</p>");
+    // A screen reader would read the markup of the tip.
+    for (QObject* object : action.associatedObjects()) {
+        if (auto* button = qobject_cast<QToolButton*>(object)) button->setAccessibleDescription(tip);
     }
 }
 

@@ -32,11 +32,15 @@ class CommandActions final : public QObject {
     void FillGroup(QMenu& menu, authoring::Menu of, int group) const;
 
     /// Shows texts, marks and whether commands are enabled as they are now. What is off says why in its
-    /// tips.
-    void Refresh(const StateOf& stateOf) const;
+    /// tips. The menus and bars must be filled before.
+    void Refresh(const StateOf& stateOf);
 
   private:
+    static void ShowTexts(QAction& action, const authoring::CommandEntry& entry,
+                          const authoring::ActionState& state);
+
     std::map<authoring::Command, QAction*> actions_;
+    std::map<authoring::Command, authoring::ActionState> shown_;
 };
 
 }  // namespace fabula::ide
