@@ -164,10 +164,12 @@ constexpr int kFewestPoints = 200;
 /// How many points stand out from the paper by half of what black does from white, counted until they are
 /// more than the fewest.
 int OtherThan(const QImage& drawn, const QColor& paper) {
+    const int grey = qGray(paper.rgb());
     int count = 0;
     for (int y = 0; y < drawn.height() && count <= kFewestPoints; ++y) {
-        for (int x = 0; x < drawn.width(); ++x)
-            count += std::abs(drawn.pixelColor(x, y).lightness() - paper.lightness()) > 100 ? 1 : 0;
+        const auto* row = reinterpret_cast<const QRgb*>(drawn.constScanLine(y));
+        count += static_cast<int>(std::count_if(
+            row, row + drawn.width(), [grey](QRgb point) { return std::abs(qGray(point) - grey) > 100; }));
     }
     return count;
 }

@@ -30,7 +30,7 @@ class DrivenWindow : public OpenedWindow {
   public:
     explicit DrivenWindow(store::AdventureKind kind);
 
-    /// Walks through the tree to a table.
+    /// Opens the groups of the tree and clicks on a table.
     void GoToTable(const char* node);
     /// Walks through the rows to the one that begins with this text.
     void GoToRow(const std::string& first);
