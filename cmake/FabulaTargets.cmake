@@ -18,10 +18,11 @@ else()
     target_compile_options(fabula_flags INTERFACE -fpch-preprocess)
 endif()
 
-# fabula_precompiled(NAME [USES target...] [HEADERS <header>...])
+# fabula_precompiled(NAME [USES target...] [HEADERS <header>...] [OPTIONS option...])
 #
 # Headers that most sources of a kind include, the standard library's before HEADERS, parsed once for all targets that
-# reuse them from NAME. Sources still include what they use: the preset core builds them without.
+# reuse them from NAME and are compiled with the same OPTIONS. Sources still include what they use: the preset core builds
+# them without.
 function(fabula_precompiled name)
     cmake_parse_arguments(arg "" "" "USES;HEADERS;OPTIONS" ${ARGN})
     add_library(${name} OBJECT "${PROJECT_SOURCE_DIR}/cmake/empty.cpp")
