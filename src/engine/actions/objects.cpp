@@ -12,15 +12,13 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr WordNumber kFirstMarloWearable{200};
-
 const ObjectData& DataOf(const Game& game, ObjectNumber object) {
     if (!game.state.HasObject(object)) FailMissing("object", object.value);
     return game.data.Object(object);
 }
 
 bool IsWearable(const Game& game, const ObjectData& object) {
-    if (game.IsMarlo()) return object.noun >= kFirstMarloWearable;
+    if (game.IsMarlo()) return object.noun >= condacts::kFirstMarloWearable;
     return (object.attributes & condacts::attribute::kWearable) != 0;
 }
 

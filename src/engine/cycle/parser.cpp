@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::string_view kNoWordText = "Null";
 
-constexpr WordNumber kFirstReferableNoun{50};
-constexpr WordNumber kFirstPlainNoun{condacts::kFirstPlainNoun};
+using condacts::kFirstPlainNoun;
+using condacts::kFirstReferableNoun;
 
 constexpr FlagNumber kResetFlags[] = {flag::kVerb,        flag::kAdverb, flag::kNoun,      flag::kAdjective,
                                       flag::kPreposition, flag::kNoun2,  flag::kAdjective2};

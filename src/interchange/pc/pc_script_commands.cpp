@@ -19,9 +19,6 @@ using condacts::Word;
 using store::Cursor;
 using store::TableNum;
 
-/// Numbers below are directions and conversion nouns.
-constexpr int kFirstFreeNumber = 20;
-
 struct NeededWord {
     const char* word;
     condacts::WordType type;
@@ -62,7 +59,7 @@ class ScriptVocabulary {
 
   private:
     std::optional<condacts::WordNumber> FreeNumber(condacts::WordType type) const {
-        for (int i = kFirstFreeNumber; i <= condacts::limit::kHighestWord; ++i) {
+        for (int i = condacts::kFirstPlainNoun.value; i <= condacts::limit::kHighestWord; ++i) {
             const condacts::WordNumber number(i);
             const bool taken = std::any_of(words_.begin(), words_.end(), [&](const Word& word) {
                 return word.type == type && word.number == number;
