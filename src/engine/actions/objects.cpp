@@ -25,9 +25,8 @@ bool IsWearable(const Game& game, const ObjectData& object) {
 bool IsNamed(const Game& game, const ObjectData& object) {
     if (object.noun != game.Word(flag::kNoun)) return false;
     if (game.IsMarlo()) return true;
-    constexpr WordNumber kNone{kNoWord};
     const WordNumber adjective = game.Word(flag::kAdjective);
-    return object.adjective == adjective || object.adjective == kNone || adjective == kNone;
+    return object.adjective == adjective || object.adjective == kNoWordNumber || adjective == kNoWordNumber;
 }
 
 /// The first object at a place that the words name.

@@ -191,7 +191,7 @@ bool Again(Game& game) {
     game.state.wordText = game.state.oldWordText;
     std::string told = "Re-executing ";
     for (const NumberedWords& kind : kToldWords) {
-        if (game.Flag(kind.flag) == kNoWord) continue;
+        if (game.Word(kind.flag) == kNoWordNumber) continue;
         const std::string word = game.texts.WordOf(game.Word(kind.flag), condacts::WordTypeName(kind.type));
         if (!word.empty()) told += text::EscapeMarkup(word) + " ";
     }
