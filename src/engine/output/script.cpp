@@ -116,7 +116,7 @@ std::optional<std::string> Script::ReadLine() {
     std::string line;
     for (int c = input_.get(); c != std::ifstream::traits_type::eof(); c = input_.get()) {
         if (c == '\n') return line;
-        if (c != '\r' && line.size() < kLongestScriptLine) line += static_cast<char>(c);
+        if (c != '\r' && line.size() < kLongestTypedLine) line += static_cast<char>(c);
     }
     if (line.empty()) return std::nullopt;
     return line;
