@@ -9,6 +9,7 @@
 #include "condacts/language/load.h"
 #include "condacts/language/parser.h"
 #include "condacts/limits.h"
+#include "condacts/word_record.h"
 #include "interchange/shared/given_records.h"
 #include "interchange/shared/keyed_table.h"
 
@@ -49,11 +50,7 @@ class ScriptVocabulary {
         const Word word{needed.word, number.value_or(condacts::WordNumber(0)), needed.type};
         if (!number || condacts::Clashes(word, sameSpelling)) return;
         words_.push_back(word);
-        Cursor& record = table_.Add(table_.HighestKey() + 1);
-        record.SetField("word", word.word);
-        record.SetField("vocnum", std::int64_t{word.number.value});
-        record.SetField("voctypen", std::int64_t{word.type});
-        record.SetField("voctype", std::string(condacts::WordTypeName(word.type)));
+        condacts::SetWord(table_.Add(table_.HighestKey() + 1), word);
         table_.Update();
     }
 
