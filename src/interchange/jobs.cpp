@@ -29,7 +29,7 @@ void SetSaveName(Adventure& adventure, const std::filesystem::path& target) {
 void ApplyLook(Adventure& adventure, const ImportedSettings& imported) {
     if (!imported.setsLook) return;
     Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
-    settings.SetField("backcolor", std::int64_t{imported.backColour});
+    settings.SetField("BackColor", std::int64_t{imported.backColour});
     settings.SetField("textcolor", std::int64_t{imported.textColour});
     settings.SetField("defprintwidth", std::int64_t{imported.printWidth});
     settings.Update();

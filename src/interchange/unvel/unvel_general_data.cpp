@@ -32,7 +32,7 @@ void SetInk(ListingJob& job, std::string_view value, bool) {
 }
 
 void SetPaper(ListingJob& job, std::string_view value, bool) {
-    SetColour(job, "backcolor", value);
+    SetColour(job, "BackColor", value);
 }
 
 void SetFont(ListingJob& job, std::string_view value, bool) {
