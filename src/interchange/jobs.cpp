@@ -77,7 +77,7 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
                    const std::filesystem::path& target, const JobHost& host) {
     JobStatus status(host.observer);
     if (IsBlankPath(source)) {
-        host.person.Tell("Source File not specified", "Error");
+        host.person.Tell(kNoSourceFile, "Error");
         return ResultOf(false, status);
     }
     if (store::IsSameFile(source, target))
@@ -117,7 +117,7 @@ JobResult ExportIt(const FileKind& kind, Adventure& adventure, const std::filesy
     JobStatus status(host.observer);
     status.AddToStatus("CLS");
     if (IsBlankPath(target)) {
-        host.person.Tell("Source File not specified", "Error");
+        host.person.Tell(kNoSourceFile, "Error");
         return ResultOf(false, status);
     }
     try {

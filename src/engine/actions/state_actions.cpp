@@ -92,8 +92,7 @@ bool SaveInto(Game& game, const std::filesystem::path& file) {
 
 bool LoadOutOf(Game& game, const std::filesystem::path& file) {
     try {
-        if (!RestoreFrom(game, ReadSavedGame(file, game.state)))
-            return Fail(game, "Invalid Save File for this Adventure");
+        if (!RestoreFrom(game, ReadSavedGame(file, game.state))) return Fail(game, kInvalidSave);
     } catch (const Error& error) {
         return Fail(game, error.what());
     }

@@ -24,7 +24,7 @@ bool IsFont(Adventure& adventure, int code) {
 void SetColour(ListingJob& job, const char* field, std::string_view value) {
     const auto colour = GetColor(value);
     if (colour) SetSetting(job.Adventure(), field, *colour);
-    if (!colour) job.Fault(kBadListingLine);
+    if (!colour) job.Fault(kBadLine);
 }
 
 void SetInk(ListingJob& job, std::string_view value, bool) {
