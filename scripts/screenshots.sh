@@ -88,7 +88,9 @@ cellar-light cellar light 3
 cellar-dark cellar dark 54
 TABLE
 
-while read -r name game theme table rest; do
+# A row that ends with a backslash goes on in the next line.
+# shellcheck disable=SC2162
+while read name game theme table rest; do
     # shellcheck disable=SC2086
     if wanted "$name"; then desk "$name" "$game" "$theme" "$table" $rest; fi
 done <<'TABLE'
@@ -99,7 +101,8 @@ desk-processes-dark lighthouse dark 6 Fabula F8
 desk-vocabulary-light lighthouse light 8
 desk-messages-dark signal_box dark 2
 desk-location-editor-light lighthouse light 1 Location Home Down Down Down Down Down Down Down Return
-desk-process-editor-dark lighthouse dark 6 Process ctrl+k s w a p Return Down Return ctrl+Home ctrl+Right ctrl+Right ctrl+Right ctrl+Right
+desk-process-editor-dark lighthouse dark 6 Process ctrl+k s w a p Return Down Return \
+    ctrl+Home ctrl+Right ctrl+Right ctrl+Right ctrl+Right
 desk-settings-light lighthouse light 5 Settings F4
 desk-picture-editor-light lighthouse light 34 Picture Home Down Down Down Return r e d r a w Return Prior shift+Right
 desk-picture-editor-dark lighthouse dark 34 Picture Home Down Return r e d r a w Return g r i d Return

@@ -2,6 +2,10 @@
 
 namespace fabula::condacts {
 
+std::string NoLocationMessage(std::string_view number) {
+    return "There is not a location with a number of " + std::string(number);
+}
+
 std::string DescriptionOfPlace(PlaceNumber number) {
     if (number == place::kNotCreated) return "Not created.";
     if (number == place::kWorn) return "Worn.";

@@ -49,6 +49,10 @@ inline constexpr LocationWord kLocationWords[] = {
     {"HERE", place::kHere},
 };
 
+/// What is told of a location that a record or a line names and the game lacks, by its number as it was
+/// written: "There is not a location with a number of 5".
+std::string NoLocationMessage(std::string_view number);
+
 /// What the tables of objects say of a place: "Not created.", "Worn.", "Carried.", else "In Room 5.".
 std::string DescriptionOfPlace(PlaceNumber number);
 

@@ -37,8 +37,14 @@ inline constexpr WordNumber kNoWordNumber{255};
 /// The number of the other word that stands for any word in an entry; not in games of type "Marlo".
 inline constexpr WordNumber kAnyWordNumber{1};
 
+/// Verbs below this number are directions: one that leads nowhere has an answer of its own.
+inline constexpr WordNumber kFirstPlainVerb{14};
 /// Nouns below this number may stand in for a verb and name a direction.
 inline constexpr WordNumber kFirstPlainNoun{20};
+/// A pronoun can stand for nouns from this number on. Games of type "Marlo" remember only those above it.
+inline constexpr WordNumber kFirstReferableNoun{50};
+/// The nouns from this number on name what can be worn, in games of type "Marlo".
+inline constexpr WordNumber kFirstMarloWearable{200};
 
 /// A row of the vocabulary. One spelling may have several, with other numbers or types.
 struct Word {

@@ -13,6 +13,10 @@ namespace {
 
 constexpr const char* kProtectedRefusal = "Cannot change that flag in Marlo";
 
+std::string InvalidFlag(std::string_view given) {
+    return "Invalid value for a Flag #: " + std::string(given);
+}
+
 /// A whole number of 16 bits, with blanks around it.
 std::optional<int> NumberIn(std::string_view text) {
     const std::optional<int> value = text::SmallNumber(text::TrimBlanks(text));
@@ -34,7 +38,7 @@ Diagnostics::Answer Diagnostics::DoIt(std::string_view request) {
     switch (text.front()) {
         case 'F':
         case 'f':
-            return {View(rest, false, "Invalid value for a Flag #: " + std::string(rest))};
+            return {View(rest, false, InvalidFlag(rest))};
         case 'O':
         case 'o':
             return {View(rest, true, "Invalid value for an Object #:")};
@@ -53,7 +57,7 @@ Diagnostics::Answer Diagnostics::DoIt(std::string_view request) {
             break;
     }
     if (text.front() < '0' || text.front() > '9') return {"Invalid option"};
-    return {View(text, ObjectInView() != nullptr, "Invalid value for a Flag #: " + std::string(text))};
+    return {View(text, ObjectInView() != nullptr, InvalidFlag(text))};
 }
 
 std::string Diagnostics::DisplayVariable() const {

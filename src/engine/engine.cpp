@@ -20,12 +20,9 @@ constexpr std::int64_t kMostPauses = 100'000;
 
 constexpr std::string_view kFailureTitle = "Run-time failure";
 
-/// The longest line that can be typed, in bytes.
-constexpr std::size_t kLongestLine = 4096;
-
 /// Keys are taken in upper case; control characters are no keys.
 void AppendKey(std::string& line, char32_t key) {
-    if (key < 32 || line.size() >= kLongestLine) return;
+    if (key < 32 || line.size() >= kLongestTypedLine) return;
     text::AppendCodePoint(line, key >= U'a' && key <= U'z' ? key - 32 : key);
 }
 

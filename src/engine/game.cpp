@@ -16,7 +16,7 @@ void SetStartFlags(Game& game) {
     for (const FlagNumber wordFlag :
          {flag::kVerb, flag::kNoun, flag::kAdjective, flag::kAdverb, flag::kPreposition, flag::kNoun2,
           flag::kAdjective2, flag::kPronounNoun, flag::kPronounAdjective}) {
-        game.SetFlag(wordFlag, kNoWord);
+        game.SetFlag(wordFlag, kNoWordNumber.value);
     }
     game.SetFlag(flag::kMaxObjects, game.data.maxObjects);
     game.SetFlag(flag::kMaxWeight, game.data.maxWeight);

@@ -93,8 +93,8 @@ class Game {
     /// Verb and adverb that the turn cycle cleared before the sentence came; slot 1 of the history gets
     /// them back.
     bool wordsCleared = false;
-    int clearedVerb = kNoWord;
-    int clearedAdverb = kNoWord;
+    WordNumber clearedVerb = kNoWordNumber;
+    WordNumber clearedAdverb = kNoWordNumber;
 
     int timeOutInterval = 0;      ///< in ms, as TIME set it; 0 before, and in a state that was loaded
     bool timeOutRunning = false;  ///< the window's timer runs

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "condacts/flags.h"
 #include "condacts/numbers.h"
 #include "condacts/places.h"
@@ -30,8 +32,9 @@ using condacts::kEachTurn;
 using condacts::kResponses;
 using condacts::kSet;
 
-/// What a flag of a word holds when there is none.
-inline constexpr int kNoWord = condacts::kNoWordNumber.value;
+/// What a flag of a word holds when there is none, and the text that goes with it.
+using condacts::kNoWordNumber;
+inline constexpr std::string_view kNoWordText = "Null";
 
 /// The object that lights the dark.
 inline constexpr ObjectNumber kLight{0};

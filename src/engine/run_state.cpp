@@ -25,8 +25,8 @@ RunState::RunState(const GameData& data)
       slots_(stride_ * kSlots),
       now_(slots_.data()),
       ram_(stride_) {
-    wordText.fill("Null");
-    oldWordText.fill("Null");
+    wordText.fill(std::string(kNoWordText));
+    oldWordText.fill(std::string(kNoWordText));
 }
 
 std::int16_t* RunState::Slot(int slot) {

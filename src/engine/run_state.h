@@ -83,7 +83,7 @@ class RunState {
     /// All of them, by flag. No part of the history.
     std::vector<AutoFlag> autoFlags;
 
-    /// The text of the word behind flags 33 to 47, "Null" for none, and that of the sentence before.
+    /// The text of the word behind flags 33 to 47, kNoWordText for none, and that of the sentence before.
     static constexpr FlagNumber kFirstWordFlag = flag::kVerb;
     std::array<std::string, 15> wordText;
     std::array<std::string, 15> oldWordText;

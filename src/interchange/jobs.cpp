@@ -29,7 +29,7 @@ void SetSaveName(Adventure& adventure, const std::filesystem::path& target) {
 void ApplyLook(Adventure& adventure, const ImportedSettings& imported) {
     if (!imported.setsLook) return;
     Cursor& settings = adventure.OpenTable(TableNum::Adventure, "def");
-    settings.SetField("backcolor", std::int64_t{imported.backColour});
+    settings.SetField("BackColor", std::int64_t{imported.backColour});
     settings.SetField("textcolor", std::int64_t{imported.textColour});
     settings.SetField("defprintwidth", std::int64_t{imported.printWidth});
     settings.Update();
@@ -77,7 +77,7 @@ JobResult ImportIt(const FileKind& kind, const std::filesystem::path& source,
                    const std::filesystem::path& target, const JobHost& host) {
     JobStatus status(host.observer);
     if (IsBlankPath(source)) {
-        host.person.Tell("Source File not specified", "Error");
+        host.person.Tell(kNoSourceFile, "Error");
         return ResultOf(false, status);
     }
     if (store::IsSameFile(source, target))
@@ -117,7 +117,7 @@ JobResult ExportIt(const FileKind& kind, Adventure& adventure, const std::filesy
     JobStatus status(host.observer);
     status.AddToStatus("CLS");
     if (IsBlankPath(target)) {
-        host.person.Tell("Source File not specified", "Error");
+        host.person.Tell(kNoSourceFile, "Error");
         return ResultOf(false, status);
     }
     try {

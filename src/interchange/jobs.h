@@ -35,6 +35,9 @@ struct JobResult {
     SourceMap places;              ///< of an import: where the records stand in the source
 };
 
+/// Told where no file is named.
+inline constexpr const char* kNoSourceFile = "Source File not specified";
+
 /// Reads `source` into a new adventure file. It is made beside `target` and takes its place when all is
 /// well; else nothing is left of it, and `target` is as it was. An existing target is replaced: who calls
 /// has asked. What is open elsewhere stays open.

@@ -58,8 +58,7 @@ std::map<int, ListedPicture> FindPictures(ListingLines& lines, const std::vector
             if (!head->number || std::find(wanted.begin(), wanted.end(), *head->number) == wanted.end())
                 continue;
             if (!head->ink || !head->paper) {
-                status.AddToStatusCR("No Ink or Paper found for graphic record " +
-                                     std::to_string(*head->number));
+                status.AddToStatusCR(NoColoursMessage(*head->number));
                 continue;
             }
             picture = ListedPicture{*head->number, head->isSubroutine, *head->ink, *head->paper, ""};
@@ -79,6 +78,10 @@ void AddSubroutines(std::string_view drawstring, std::set<int>& numbers) {
     for (std::size_t i = 0; i + kToNumber < words.size(); ++i) {
         if (words[i] == kGoSub) numbers.insert(pictures::ParameterValue(words[i + kToNumber]).value_or(0));
     }
+}
+
+std::string NoSuchLocation(int number) {
+    return std::to_string(number) + " is an invalid location for this database";
 }
 
 bool HasLocation(store::Adventure& adventure, int number) {
@@ -172,7 +175,7 @@ LoadedPictures LoadGraphics(const PictureImport& import, store::Adventure& adven
             continue;
         }
         if (!table.Has(record) && !HasLocation(adventure, record)) {
-            status.AddToStatusCR(std::to_string(record) + " is an invalid location for this database");
+            status.AddToStatusCR(NoSuchLocation(record));
             continue;
         }
         ListedPicture moved = picture->second;
@@ -214,8 +217,7 @@ std::string CheckNewLocations(const LoadedPictures& loaded, const NewLocations& 
         if (!goesTo) return head + " is not numeric";
         if (*goesTo < 0 || *goesTo > condacts::limit::kHighestRecord || !taken.insert(*goesTo).second)
             return head + " is not a valid graphics location";
-        if (!HasLocation(adventure, *goesTo))
-            return std::to_string(*goesTo) + " is an invalid location for this database";
+        if (!HasLocation(adventure, *goesTo)) return NoSuchLocation(*goesTo);
     }
     return "";
 }

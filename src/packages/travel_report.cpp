@@ -8,7 +8,7 @@
 #include "condacts/language/load.h"
 #include "condacts/language/recompile.h"
 #include "condacts/limits.h"
-#include "condacts/words.h"
+#include "condacts/word_record.h"
 #include "packages/travel_table.h"
 #include "platform/error.h"
 #include "store/file/file_copy.h"
@@ -67,10 +67,8 @@ class Verbs {
         store::Cursor& record = adventure_.OpenTable(TableNum::Free22, "* from vocabulary", "vocindex<0");
         record.AddNew();
         record.SetField("vocindex", std::int64_t{nextIndex_++});
-        record.SetField("vocnum", number);
-        record.SetField("word", spelling);
-        record.SetField("voctypen", std::int64_t{condacts::kVerb});
-        record.SetField("voctype", std::string(condacts::WordTypeName(condacts::kVerb)));
+        condacts::SetWord(record,
+                          {spelling, condacts::WordNumber(static_cast<int>(number)), condacts::kVerb});
         record.Update();
         ++added_;
     }

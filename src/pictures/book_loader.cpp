@@ -53,12 +53,17 @@ PictureBook LoadPictureBook(store::Adventure& adventure) {
     book.characters = LoadCharacterSets(adventure);
     book.pictures = LoadPictures(adventure);
     book.locations = LoadLocations(adventure);
-    const Cursor& settings = adventure.OpenTable(TableNum::Adventure, "backcolor, textcolor");
-    if (!settings.Eof()) {
-        book.backColour = IndexToColour(Number(settings, "backcolor"));
-        book.textColour = IndexToColour(Number(settings, "textcolor"));
+    if (const std::optional<GameColours> colours = LoadColours(adventure)) {
+        book.backColour = IndexToColour(colours->paper);
+        book.textColour = IndexToColour(colours->ink);
     }
     return book;
+}
+
+std::optional<GameColours> LoadColours(store::Adventure& adventure) {
+    const Cursor& settings = adventure.OpenTable(TableNum::Adventure, "BackColor, textcolor");
+    if (settings.Eof()) return std::nullopt;
+    return GameColours{Number(settings, "BackColor"), Number(settings, "textcolor")};
 }
 
 CommandCatalogue LoadCommands(store::Adventure& adventure) {

@@ -22,6 +22,8 @@ struct RangeRule {
     std::string_view message;
     bool namesCommand;  ///< the command's word follows the message
 };
+constexpr std::string_view kRelativeX = " is an invalid relative X number for command ";
+constexpr std::string_view kRelativeY = " is an invalid relative Y number for command ";
 constexpr std::array kRangeRules = {
     RangeRule{"CX", 0, 31, " is an invalid Column number for command ", true},
     RangeRule{"HE", 0, 21, " is an invalid height for command ", true},
@@ -30,12 +32,12 @@ constexpr std::array kRangeRules = {
     RangeRule{"QS", 1, 255, " is an invalid Marlo Shade (1-255)", false},
     RangeRule{"R1", -1, 1, " is an invalid value for RPLOT", false},
     RangeRule{"RO", 0, 21, " is an invalid row number for command ", true},
-    RangeRule{"RX", -255, 255, " is an invalid relative X number for command ", true},
-    RangeRule{"RY", -175, 175, " is an invalid relative Y number for command ", true},
+    RangeRule{"RX", -255, 255, kRelativeX, true},
+    RangeRule{"RY", -175, 175, kRelativeY, true},
     RangeRule{"SH", 0, 15, " is an invalid shade (0-15)", false},
     RangeRule{"WI", 0, 31, " is an invalid width for command ", true},
-    RangeRule{"XP", kNoLowerBound, 255, " is an invalid relative X number for command ", true},
-    RangeRule{"YP", kNoLowerBound, 175, " is an invalid relative Y number for command ", true},
+    RangeRule{"XP", kNoLowerBound, 255, kRelativeX, true},
+    RangeRule{"YP", kNoLowerBound, 175, kRelativeY, true},
 };
 constexpr std::array kOverAndInverse = {0, 1, 10, 11};
 

@@ -1,6 +1,5 @@
 #include "store/create.h"
 
-#include <cstdio>
 #include <set>
 #include <sstream>
 
@@ -18,16 +17,10 @@
 #include "store/schema/schema_section.h"
 #include "store/schema/section_reader.h"
 #include "text/encoding/bad_bytes.h"
+#include "text/moment.h"
 
 namespace fabula::store {
 namespace {
-
-std::string Stamp(const platform::DateTime& date) {
-    char text[40];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", date.year, date.month, date.day,
-                  date.hour, date.minute, date.second);
-    return text;
-}
 
 /// Adds records to the tables of a file in the making.
 class RecordWriter {
@@ -135,7 +128,7 @@ class Creator {
     void CompleteSettings(Record& record) const {
         record["advnum"] = std::string("1");
         record["savename"] = text::WithoutBadBytes(target_.stem().string());
-        record["DateCreated"] = Stamp(host_.clock.Now());
+        record["DateCreated"] = text::StoredMoment(host_.clock.Now());
         record["unmarloed"] = std::int64_t{0};
         record["advcontactinfo"] = std::string(" ");
         record["graphics"] = std::int64_t{setup_.Graphics()};

@@ -9,6 +9,7 @@
 
 #include "text/encoding/utf8.h"
 #include "text/line_ends.h"
+#include "text/moment.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 
@@ -37,23 +38,6 @@ struct NumberOf {
     std::int64_t operator()(std::monostate) const { FailNoNumber(); }
     std::int64_t operator()(const Blob&) const { FailNoNumber(); }
 };
-
-/// A moment of the form "yyyy-mm-dd hh:mm:ss".
-std::optional<platform::DateTime> ReadMoment(std::string_view text) {
-    constexpr std::string_view kForm = "0000-00-00 00:00:00";
-    if (text.size() != kForm.size()) return std::nullopt;
-    for (std::size_t i = 0; i < kForm.size(); ++i) {
-        const bool isDigit = text[i] >= '0' && text[i] <= '9';
-        if (kForm[i] == '0' ? !isDigit : text[i] != kForm[i]) return std::nullopt;
-    }
-    const auto number = [text](std::size_t begin, std::size_t size) {
-        return SmallNumber(text.substr(begin, size)).value_or(0);
-    };
-    const platform::DateTime moment{number(0, 4),  number(5, 2),  number(8, 2),
-                                    number(11, 2), number(14, 2), number(17, 2)};
-    if (moment.month < 1 || moment.month > 12) return std::nullopt;
-    return moment;
-}
 
 std::string TimeText(const platform::DateTime& moment) {
     char text[48];

@@ -22,12 +22,12 @@ bool IsFont(Work& work, std::int64_t font) {
     return work.adventure.CharSetsOn() && Finds(work, TableNum::Characters, "charsetnum=" + number);
 }
 
-constexpr std::string_view kLook = "font, backcolor, textcolor";
+constexpr std::string_view kLook = "font, BackColor, textcolor";
 
 }  // namespace
 
 bool HasOldLook(Work& work) {
-    if (!work.Has(TableNum::Adventure, {"font", "backcolor", "textcolor"})) return false;
+    if (!work.Has(TableNum::Adventure, {"font", "BackColor", "textcolor"})) return false;
     if (!work.Has(TableNum::Codes, {"codenum"})) return false;
     const store::FieldType font = work.adventure.Schema(TableNum::Adventure)
                                       .fields[*work.adventure.Schema(TableNum::Adventure).Find("font")]
@@ -44,9 +44,9 @@ void RenewLook(Work& work, const Step&) {
     const Cursor& settings = work.adventure.OpenTable(TableNum::Adventure, kLook);
     Cursor& change = work.adventure.Table(TableNum::Adventure);
     if (!IsFont(work, settings.Number("font"))) change.SetField("font", NumberOf(standard, "font"));
-    const std::int64_t paper = settings.Number("backcolor");
+    const std::int64_t paper = settings.Number("BackColor");
     const std::int64_t ink = settings.Number("textcolor");
-    if (!text::IsColour(paper)) change.SetField("backcolor", NumberOfScreenColour(paper, 0));
+    if (!text::IsColour(paper)) change.SetField("BackColor", NumberOfScreenColour(paper, 0));
     if (!text::IsColour(ink)) change.SetField("textcolor", NumberOfScreenColour(ink, 1));
     change.Update();
 }

@@ -93,7 +93,7 @@ TEST_F(Jobs, AnImportedPcGameHasItsSettings) {
     EXPECT_EQ(settings.Text("adventype"), "VEL");
     EXPECT_EQ(settings.Text("source"), "PCVel");
     EXPECT_EQ(settings.Text("savename"), "new");
-    EXPECT_EQ(settings.Number("backcolor"), 15);
+    EXPECT_EQ(settings.Number("BackColor"), 15);
     EXPECT_EQ(settings.Number("textcolor"), 0);
     EXPECT_EQ(settings.Number("defprintwidth"), 80);
     EXPECT_FALSE(settings.Truth("graphics"));
@@ -107,7 +107,7 @@ TEST_F(Jobs, AnImportedAceGameHasItsSettings) {
     store::Cursor& settings = adventure->OpenTable(TableNum::Adventure, "def");
     EXPECT_EQ(settings.Text("adventype"), "Fabula");
     EXPECT_EQ(settings.Text("source"), "ACE");
-    EXPECT_EQ(settings.Number("backcolor"), 15);
+    EXPECT_EQ(settings.Number("BackColor"), 15);
     EXPECT_EQ(settings.Number("textcolor"), 0);
     EXPECT_TRUE(adventure->OpenTable(TableNum::System, "def").Truth("flagchange"));
 }
@@ -120,7 +120,7 @@ TEST_F(Jobs, AnImportedExportFileKeepsItsOwnSettings) {
     EXPECT_EQ(settings.Text("adventype"), "VEL");
     EXPECT_EQ(settings.Text("source"), "FabulaExp");
     EXPECT_EQ(settings.Text("savename"), "cellar");
-    EXPECT_EQ(settings.Number("backcolor"), 3);
+    EXPECT_EQ(settings.Number("BackColor"), 3);
     EXPECT_TRUE(adventure->OpenTable(TableNum::System, "def").Truth("flagchange"));
 }
 

@@ -57,8 +57,11 @@ INSTANTIATE_TEST_SUITE_P(Markers, StoredLines,
                                          Marker{"  CRYPTED  ", "crypt"}));
 
 TEST_F(Create, AnyOtherFirstLineMeansPlainText) {
+    Make();
+    const LinesOfForms plain = Everything(*Open());
     lines_[0] = "Default data of the system";
     Make();
+    EXPECT_EQ(Everything(*Open()), plain);
 }
 
 }  // namespace

@@ -119,8 +119,8 @@ constexpr OldData kOldData[] = {
      "UPDATE Messages SET msgmsg='one'||char(140)||'two'||char(140)||'three' WHERE msgnum=0"},
     {"UPDATE Messages SET msgmsg='four'||char(30)||'five' WHERE msgnum=1",
      "UPDATE Messages SET msgmsg='four'||char(140)||'five' WHERE msgnum=1"},
-    {"UPDATE Adventure SET backcolor=16777215, textcolor=58880",
-     "UPDATE Adventure SET backcolor=15, textcolor=4"},
+    {"UPDATE Adventure SET BackColor=16777215, textcolor=58880",
+     "UPDATE Adventure SET BackColor=15, textcolor=4"},
     {"UPDATE ProcessTables SET condacts='PLACE 0 NOTCR', numericcondacts='208 0 NOTCR', numcas=2 WHERE "
      "canum=1",
      "UPDATE ProcessTables SET condacts='PLACE 0 252', numericcondacts='208 0 252', numcas=2 WHERE "

@@ -86,12 +86,12 @@ const Case kCases[] = {
      "b\u008C"
      "c\u008C"
      "d"},
-    {"ScreenColours", "UPDATE Adventure SET backcolor=16777215, textcolor=58880",
+    {"ScreenColours", "UPDATE Adventure SET BackColor=16777215, textcolor=58880",
      "14 - Colors, Font Name or Size not correct for new default fonts & colors\n",
-     "SELECT backcolor || ' ' || textcolor FROM Adventure", "15 4"},
-    {"ScreenColoursThatAreNone", "UPDATE Adventure SET backcolor=1234567, textcolor=1234567",
+     "SELECT BackColor || ' ' || textcolor FROM Adventure", "15 4"},
+    {"ScreenColoursThatAreNone", "UPDATE Adventure SET BackColor=1234567, textcolor=1234567",
      "14 - Colors, Font Name or Size not correct for new default fonts & colors\n",
-     "SELECT backcolor || ' ' || textcolor FROM Adventure", "7 0"},
+     "SELECT BackColor || ' ' || textcolor FROM Adventure", "7 0"},
     {"AFontThatIsNoCode", "UPDATE Adventure SET font=9999",
      "14 - Colors, Font Name or Size not correct for new default fonts & colors\n",
      "SELECT font FROM Adventure", "0"},

@@ -10,20 +10,6 @@
 
 namespace fabula::cli {
 
-/// A folder for one run, deleted with what it holds.
-class ScratchFolder {
-  public:
-    ScratchFolder();
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    ~ScratchFolder();
-
-    const std::filesystem::path& Path() const { return path_; }
-
-  private:
-    std::filesystem::path path_;
-};
-
 /// The kind of source that `kind` names, or else the one whose files have the extension of `source`. Throws
 /// UsageError when neither tells.
 const interchange::FileKind& KindOfSource(const std::string& source, const std::string& kind);

@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include "terminal/scratch_folder.h"
+
 namespace fabula::terminal {
 
 /// Where the files lie that the player names in a game.
@@ -23,15 +25,12 @@ class NamedFiles final : public PlayerFiles {
 class ScratchFiles final : public PlayerFiles {
   public:
     explicit ScratchFiles(std::filesystem::path scriptFolder);
-    ScratchFiles(const ScratchFiles&) = delete;
-    ScratchFiles& operator=(const ScratchFiles&) = delete;
-    ~ScratchFiles() override;
 
     std::filesystem::path Place(const std::filesystem::path& name, bool forWriting) const override;
 
   private:
     std::filesystem::path scriptFolder_;
-    std::filesystem::path scratch_;
+    ScratchFolder scratch_;
 };
 
 }  // namespace fabula::terminal

@@ -30,13 +30,9 @@ void AddError(Converted& converted, const std::string& message, std::size_t toke
     converted.ok = false;
 }
 
-std::string WrongType(std::string_view token, const CondAct& condAct) {
-    return "word " + std::string(token) + " Type doesn't agree with " + condAct.name;
-}
-
 void AddMissingParameters(Converted& converted, const Statement& statement) {
     if (statement.paramsGiven < static_cast<std::size_t>(statement.condAct->paramCount)) {
-        AddError(converted, "No parameter where there should be one", statement.name);
+        AddError(converted, kMissingParameter, statement.name);
     }
 }
 
@@ -108,12 +104,11 @@ Converted CondActsToNumeric(std::string_view line, const Catalogue& catalogue, c
             const std::size_t place = statement.name + 1 + p;
             if (!TakesWord(condAct, p)) {
                 Append(converted.line, token);
-                if (!IsNumber(token))
-                    AddError(converted, "Invalid number for parameter " + std::to_string(p + 1), place);
+                if (!IsNumber(token)) AddError(converted, InvalidNumberMessage(p + 1), place);
             } else if (const Word* word = WordAsked(condAct, token, words)) {
                 Append(converted.line, std::to_string(word->number.value));
             } else {
-                AddError(converted, WrongType(token, condAct), place);
+                AddError(converted, WrongWordTypeMessage(token, condAct), place);
             }
         }
         AddMissingParameters(converted, statement);
@@ -136,7 +131,8 @@ Converted NumericToCondActs(std::string_view numericLine, const Catalogue& catal
             const std::string_view token = parsed.Param(statement, p);
             const std::string text = TextParameter(condAct, p, token, words);
             Append(converted.line, text);
-            if (text.empty()) AddError(converted, WrongType(token, condAct), statement.name + 1 + p);
+            if (text.empty())
+                AddError(converted, WrongWordTypeMessage(token, condAct), statement.name + 1 + p);
         }
         AddMissingParameters(converted, statement);
     }

@@ -79,4 +79,12 @@ std::string InvalidCondActMessage(std::string_view name) {
     return std::string(name) + " is an invalid Condition/Action";
 }
 
+std::string InvalidNumberMessage(std::size_t parameter) {
+    return "Invalid number for parameter " + std::to_string(parameter);
+}
+
+std::string WrongWordTypeMessage(std::string_view word, const CondAct& condAct) {
+    return "word " + std::string(word) + " Type doesn't agree with " + condAct.name;
+}
+
 }  // namespace fabula::condacts

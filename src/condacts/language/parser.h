@@ -56,7 +56,13 @@ ParsedLine ParseNumericLine(std::string_view line, const Catalogue& catalogue);
 std::optional<int> NumberOfToken(std::string_view token);
 inline constexpr int kBeyondNumbers = kHighestNumber + 1;
 
+// What is told of a line that can't stand.
 /// "XYZ is an invalid Condition/Action"
 std::string InvalidCondActMessage(std::string_view name);
+/// "Invalid number for parameter 1"; the first parameter is 1.
+std::string InvalidNumberMessage(std::size_t parameter);
+/// "word LAMP Type doesn't agree with ADJECT1"
+std::string WrongWordTypeMessage(std::string_view word, const CondAct& condAct);
+inline constexpr const char* kMissingParameter = "No parameter where there should be one";
 
 }  // namespace fabula::condacts

@@ -28,7 +28,7 @@ struct Given {
 };
 
 std::string InvalidNumber(const Given& given) {
-    return "Invalid number for parameter " + std::to_string(given.place);
+    return InvalidNumberMessage(static_cast<std::size_t>(given.place));
 }
 
 bool IsNegativeNumber(std::string_view token) {
@@ -146,7 +146,7 @@ std::vector<Fault> FaultsOf(const ParsedLine& line, const Statement& statement, 
             faults.push_back({*message, statement.name + 1 + p});
     }
     if (statement.paramsGiven < static_cast<std::size_t>(condAct.paramCount))
-        faults.push_back({"No parameter where there should be one", statement.name});
+        faults.push_back({kMissingParameter, statement.name});
     return faults;
 }
 

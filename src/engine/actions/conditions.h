@@ -10,7 +10,7 @@ namespace fabula::engine {
 /// The five word conditions. A game that clears a word flag to 0 instead of 255 has no word there either.
 inline bool WordIs(const Game& game, FlagNumber wordFlag, WordNumber word) {
     const int value = game.Flag(wordFlag);
-    return value == word.value || (word.value == kNoWord && value == 0);
+    return value == word.value || (word == kNoWordNumber && value == 0);
 }
 
 inline bool At(Game& game, PlaceNumber location) {

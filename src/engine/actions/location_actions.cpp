@@ -9,8 +9,6 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr WordNumber kFirstPlainVerb{14};
-
 /// Where an exit leads from a location for a verb.
 std::optional<PlaceNumber> FindExit(const Game& game, PlaceNumber location, WordNumber verb) {
     const auto exits = game.data.ExitsOf(location);
@@ -64,7 +62,7 @@ ExitSearch SearchConnections(Game& game, PlaceNumber location) {
         Desc(game);
         return ExitSearch::Moved;
     }
-    return verb < kFirstPlainVerb ? ExitSearch::NoExit : ExitSearch::NoDirection;
+    return verb < condacts::kFirstPlainVerb ? ExitSearch::NoExit : ExitSearch::NoDirection;
 }
 
 }  // namespace fabula::engine

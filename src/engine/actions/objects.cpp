@@ -12,24 +12,21 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr WordNumber kFirstMarloWearable{200};
-
 const ObjectData& DataOf(const Game& game, ObjectNumber object) {
     if (!game.state.HasObject(object)) FailMissing("object", object.value);
     return game.data.Object(object);
 }
 
 bool IsWearable(const Game& game, const ObjectData& object) {
-    if (game.IsMarlo()) return object.noun >= kFirstMarloWearable;
+    if (game.IsMarlo()) return object.noun >= condacts::kFirstMarloWearable;
     return (object.attributes & condacts::attribute::kWearable) != 0;
 }
 
 bool IsNamed(const Game& game, const ObjectData& object) {
     if (object.noun != game.Word(flag::kNoun)) return false;
     if (game.IsMarlo()) return true;
-    constexpr WordNumber kNone{kNoWord};
     const WordNumber adjective = game.Word(flag::kAdjective);
-    return object.adjective == adjective || object.adjective == kNone || adjective == kNone;
+    return object.adjective == adjective || object.adjective == kNoWordNumber || adjective == kNoWordNumber;
 }
 
 /// The first object at a place that the words name.

@@ -92,8 +92,7 @@ bool SaveInto(Game& game, const std::filesystem::path& file) {
 
 bool LoadOutOf(Game& game, const std::filesystem::path& file) {
     try {
-        if (!RestoreFrom(game, ReadSavedGame(file, game.state)))
-            return Fail(game, "Invalid Save File for this Adventure");
+        if (!RestoreFrom(game, ReadSavedGame(file, game.state))) return Fail(game, kInvalidSave);
     } catch (const Error& error) {
         return Fail(game, error.what());
     }
@@ -191,7 +190,7 @@ bool Again(Game& game) {
     game.state.wordText = game.state.oldWordText;
     std::string told = "Re-executing ";
     for (const NumberedWords& kind : kToldWords) {
-        if (game.Flag(kind.flag) == kNoWord) continue;
+        if (game.Word(kind.flag) == kNoWordNumber) continue;
         const std::string word = game.texts.WordOf(game.Word(kind.flag), condacts::WordTypeName(kind.type));
         if (!word.empty()) told += text::EscapeMarkup(word) + " ";
     }

@@ -25,5 +25,7 @@ const FileRequest& SavedGameRequest(bool forWriting);
 
 /// What LOAD does with a saved game: false, with nothing changed, when it is none of this adventure.
 bool RestoreFrom(Game& game, std::string_view savedGame);
+/// What is told of one that is none.
+inline constexpr const char* kInvalidSave = "Invalid Save File for this Adventure";
 
 }  // namespace fabula::engine

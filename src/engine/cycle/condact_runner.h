@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/actions/condact_table.h"
 #include "engine/game_data.h"
 #include "engine/game_window.h"
 #include "engine/output/origin.h"
@@ -18,7 +19,6 @@
 namespace fabula::engine {
 
 class Game;
-struct CondActRoutine;
 
 /// A place in a process table: the stack of calls holds one for each pending PROCESS, behind its parameter.
 struct TablePosition {
@@ -142,7 +142,7 @@ class CondActRunner {
     void BeginSlice();
 
     Game& game_;
-    std::array<Runnable, 200> routines_{};  ///< by number, from kFirstCondAct
+    std::array<Runnable, kLastCondAct - kFirstCondAct + 1> routines_{};  ///< by number, from kFirstCondAct
     std::vector<Frame> frames_;
     std::chrono::milliseconds wait_{0};
     std::optional<FileQuestion> question_;

@@ -8,10 +8,8 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr std::string_view kNoWordText = "Null";
-
-constexpr WordNumber kFirstReferableNoun{50};
-constexpr WordNumber kFirstPlainNoun{condacts::kFirstPlainNoun};
+using condacts::kFirstPlainNoun;
+using condacts::kFirstReferableNoun;
 
 constexpr FlagNumber kResetFlags[] = {flag::kVerb,        flag::kAdverb, flag::kNoun,      flag::kAdjective,
                                       flag::kPreposition, flag::kNoun2,  flag::kAdjective2};
@@ -27,7 +25,7 @@ void CopyWord(Game& game, FlagNumber from, FlagNumber to) {
 }
 
 bool HasWord(const Game& game, FlagNumber wordFlag) {
-    return game.Flag(wordFlag) != kNoWord;
+    return game.Word(wordFlag) != kNoWordNumber;
 }
 
 /// A new sentence begins: the history moves on, and the words of the last one are cleared.
@@ -35,14 +33,15 @@ void BeginSentence(Game& game) {
     game.state.ShiftHistory();
     if (game.wordsCleared) {
         const auto before = game.state.Flags(1);
-        before[static_cast<std::size_t>(flag::kVerb.value)] = static_cast<std::int16_t>(game.clearedVerb);
+        before[static_cast<std::size_t>(flag::kVerb.value)] =
+            static_cast<std::int16_t>(game.clearedVerb.value);
         before[static_cast<std::size_t>(flag::kAdverb.value)] =
-            static_cast<std::int16_t>(game.clearedAdverb);
+            static_cast<std::int16_t>(game.clearedAdverb.value);
         game.wordsCleared = false;
     }
     game.state.oldWordText = game.state.wordText;
     for (std::size_t i = game.IsMarlo() ? kMarloKeeps : 0; i < std::size(kResetFlags); ++i) {
-        SetWord(game, kResetFlags[i], WordNumber(kNoWord), kNoWordText);
+        SetWord(game, kResetFlags[i], kNoWordNumber, kNoWordText);
     }
 }
 
@@ -72,7 +71,7 @@ class SentenceReader {
     }
 
     void Finish() {
-        if (!adverbSeen_) SetWord(game_, flag::kAdverb, WordNumber(kNoWord), kNoWordText);
+        if (!adverbSeen_) SetWord(game_, flag::kAdverb, kNoWordNumber, kNoWordText);
         KeepForPronoun(flag::kNoun2, flag::kAdjective2);
         KeepForPronoun(flag::kNoun, flag::kAdjective);
         if (game_.Word(flag::kNoun) < kFirstPlainNoun && !verbSeen_)

@@ -18,11 +18,11 @@ ProcessLoop::Outcome ProcessLoop::Start() {
 ProcessLoop::Outcome ProcessLoop::Enter() {
     if (!game_.wordsCleared) {
         game_.wordsCleared = true;
-        game_.clearedVerb = game_.Flag(flag::kVerb);
-        game_.clearedAdverb = game_.Flag(flag::kAdverb);
+        game_.clearedVerb = game_.Word(flag::kVerb);
+        game_.clearedAdverb = game_.Word(flag::kAdverb);
     }
-    game_.SetFlag(flag::kVerb, kNoWord);
-    game_.SetFlag(flag::kAdverb, kNoWord);
+    game_.SetFlag(flag::kVerb, kNoWordNumber.value);
+    game_.SetFlag(flag::kAdverb, kNoWordNumber.value);
     turnAtInput_ = game_.TurnNumber();
     game_.startX = -1;
     game_.startY = -1;

@@ -6,8 +6,6 @@ namespace fabula::engine {
 
 namespace {
 
-constexpr WordNumber kWild{kNoWord};
-
 std::uint64_t Key(WordNumber verb, WordNumber noun, int entry) {
     return std::uint64_t{static_cast<std::uint16_t>(verb.value)} << 48 |
            std::uint64_t{static_cast<std::uint16_t>(noun.value)} << 32 | static_cast<std::uint32_t>(entry);
@@ -16,7 +14,7 @@ std::uint64_t Key(WordNumber verb, WordNumber noun, int entry) {
 }  // namespace
 
 void ProcessTable::BuildIndex(bool oneIsWild) {
-    const auto word = [&](WordNumber number) { return IsWild(number, oneIsWild) ? kWild : number; };
+    const auto word = [&](WordNumber number) { return IsWild(number, oneIsWild) ? kNoWordNumber : number; };
     index_.clear();
     index_.reserve(entries_.size());
     for (int entry = 0; entry < Count(); ++entry)
@@ -31,8 +29,8 @@ int ProcessTable::FindExact(int from, WordNumber verb, WordNumber noun) const {
 }
 
 int ProcessTable::FindMatch(int from, WordNumber verb, WordNumber noun) const {
-    return std::min({FindExact(from, verb, noun), FindExact(from, verb, kWild),
-                     FindExact(from, kWild, noun), FindExact(from, kWild, kWild)});
+    return std::min({FindExact(from, verb, noun), FindExact(from, verb, kNoWordNumber),
+                     FindExact(from, kNoWordNumber, noun), FindExact(from, kNoWordNumber, kNoWordNumber)});
 }
 
 }  // namespace fabula::engine

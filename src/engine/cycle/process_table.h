@@ -33,14 +33,14 @@ class ProcessTable {
     int FindMatch(int from, WordNumber verb, WordNumber noun) const;
 
     static constexpr bool IsWild(WordNumber word, bool oneIsWild) {
-        return word.value == kNoWord || (oneIsWild && word.value == condacts::kAnyWordNumber.value);
+        return word == kNoWordNumber || (oneIsWild && word == condacts::kAnyWordNumber);
     }
 
   private:
     int FindExact(int from, WordNumber verb, WordNumber noun) const;
 
     std::vector<ProcessEntry> entries_;
-    /// Verb, noun and place of each entry in one number, sorted; wild words are kNoWord.
+    /// Verb, noun and place of each entry in one number, sorted; wild words are kNoWordNumber.
     std::vector<std::uint64_t> index_;
 };
 

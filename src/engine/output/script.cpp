@@ -16,6 +16,14 @@ namespace {
 constexpr std::string_view kMark = ">>";
 constexpr std::string_view kPlayedMark = ">>Read:>>";
 
+std::string CannotWriteScript(const std::string& file) {
+    return "Could not write the script " + file;
+}
+
+std::string CannotReadScript(const std::filesystem::path& file) {
+    return "Could not read the script " + file.string();
+}
+
 }  // namespace
 
 std::string_view Script::StatusText() const {
@@ -34,10 +42,10 @@ std::string_view Script::StatusText() const {
 void Script::StartWriting(const std::filesystem::path& file) {
     store::CheckTarget(file, store::Content::Text, store::extension::kScript);
     if (Loaded() && !store::IsStream(file) && store::IsSameFile(file, inputName_))
-        throw Error("Could not write the script " + file.string() + ": it is being played.");
+        throw Error(CannotWriteScript(file.string()) + ": it is being played.");
     output_.clear();
     output_.open(file, std::ios::binary | std::ios::trunc);
-    if (!output_) throw Error("Could not write the script " + file.string() + ".");
+    if (!output_) throw Error(CannotWriteScript(file.string()) + ".");
     outputName_ = file.string();
     atLineStart_ = true;
     answerMarked_ = false;
@@ -46,10 +54,10 @@ void Script::StartWriting(const std::filesystem::path& file) {
 void Script::Load(const std::filesystem::path& file) {
     platform::CheckIsFile(file, "read the script " + file.string());
     if (Writing() && store::IsSameFile(file, outputName_))
-        throw Error("Could not read the script " + file.string() + ": it is being written.");
+        throw Error(CannotReadScript(file) + ": it is being written.");
     input_.clear();
     input_.open(file, std::ios::binary);
-    if (!input_) throw Error("Could not read the script " + file.string() + ".");
+    if (!input_) throw Error(CannotReadScript(file) + ".");
     inputName_ = file;
     for (const char expected : text::kByteOrderMark) {
         if (input_.get() == static_cast<unsigned char>(expected)) continue;
@@ -82,7 +90,7 @@ void Script::Write(std::string_view text) {
 void Script::CheckOutput() {
     if (!output_.is_open() || output_) return;
     output_.close();
-    failure_ = "Could not write the script " + outputName_ + ". It is closed.";
+    failure_ = CannotWriteScript(outputName_) + ". It is closed.";
 }
 
 void Script::WriteText(std::string_view text) {
@@ -116,7 +124,7 @@ std::optional<std::string> Script::ReadLine() {
     std::string line;
     for (int c = input_.get(); c != std::ifstream::traits_type::eof(); c = input_.get()) {
         if (c == '\n') return line;
-        if (c != '\r' && line.size() < kLongestScriptLine) line += static_cast<char>(c);
+        if (c != '\r' && line.size() < kLongestTypedLine) line += static_cast<char>(c);
     }
     if (line.empty()) return std::nullopt;
     return line;

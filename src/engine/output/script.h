@@ -59,7 +59,8 @@ class Script {
     std::string failure_;
 };
 
-/// The longest line that is read from a script, in bytes; what a line holds beyond it is left away.
-inline constexpr std::size_t kLongestScriptLine = 4096;
+/// The longest line that can be typed, and that is read from a script with its mark, in bytes; what a line
+/// holds beyond it is left away.
+inline constexpr std::size_t kLongestTypedLine = 4096;
 
 }  // namespace fabula::engine

@@ -191,7 +191,7 @@ class ExportReader {
         }
         const auto value =
             ParseExportValue(table.Schema().fields[column->index].type, column->field.use, line.value);
-        if (!value) return Refuse("The value is not of the type of its field.", line.value);
+        if (!value) return Refuse(kWrongTypeOfField, line.value);
         if (text::EqualsNoCase(column->field.name, "numericcondacts") && !TakesNumbers(line.value))
             return false;
         try {
@@ -265,11 +265,11 @@ class ExportReader {
         }
         for (const condacts::Statement& statement : parsed.statements) {
             if (statement.paramsGiven < static_cast<std::size_t>(statement.condAct->paramCount))
-                return Refuse("No parameter where there should be one", parsed.tokens.back().text);
+                return Refuse(condacts::kMissingParameter, parsed.tokens.back().text);
             for (std::size_t p = 0; p < statement.paramsGiven; ++p) {
                 const std::string_view token = parsed.Param(statement, p);
                 if (!condacts::NumberOfToken(token))
-                    return Refuse("Invalid number for parameter " + std::to_string(p + 1), token);
+                    return Refuse(condacts::InvalidNumberMessage(p + 1), token);
             }
         }
         return true;

@@ -65,6 +65,8 @@ class ListedCharacters {
 
 /// How many characters of each kind a listing has.
 inline constexpr std::size_t kUserGraphics = pictures::kLastCharacter - pictures::kFirstUserGraphic + 1;
+/// Of the user-defined graphics a listing is written with the first ones alone.
+inline constexpr int kWrittenUserGraphics = 19;
 inline constexpr std::size_t kFontCharacters = pictures::kLastOfFont - pictures::kFirstCharacter + 1;
 
 }  // namespace fabula::interchange

@@ -5,6 +5,7 @@
 
 #include "condacts/language/load.h"
 #include "condacts/limits.h"
+#include "condacts/word_record.h"
 
 namespace fabula::interchange {
 namespace {
@@ -12,7 +13,6 @@ namespace {
 using condacts::Word;
 using condacts::WordNumber;
 using condacts::WordType;
-using store::Cursor;
 using store::TableNum;
 
 constexpr std::int64_t kHighestIndex = std::numeric_limits<std::int16_t>::max();
@@ -44,11 +44,7 @@ std::optional<WordNumber> GameWords::NumberOf(const std::string& word, WordType 
 
 bool GameWords::Add(const Word& word) {
     if (table_.HighestKey() >= kHighestIndex) return false;
-    Cursor& record = table_.Add(table_.HighestKey() + 1);
-    record.SetField("word", word.word);
-    record.SetField("vocnum", std::int64_t{word.number.value});
-    record.SetField("voctypen", std::int64_t{word.type});
-    record.SetField("voctype", std::string(condacts::WordTypeName(word.type)));
+    condacts::SetWord(table_.Add(table_.HighestKey() + 1), word);
     table_.Update();
     bySpelling_[word.word].push_back(word);
     words_.push_back(word);

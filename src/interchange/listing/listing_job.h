@@ -34,9 +34,6 @@ class ListingSection {
     virtual void Finish() = 0;
 };
 
-/// Told of a line that is not as it must be.
-inline constexpr const char* kBadListingLine = "ERROR: This line can't be understood.";
-
 /// Stores a location as listings make it: without exits and pictures. One of that number is written over.
 void StoreLocation(KeyedTable& locations, std::int64_t number, const std::string& text);
 /// Stores an object as listings make it: without words, not created, of weight 1.

@@ -119,6 +119,10 @@ std::optional<PictureHead> PictureHead::Read(std::string_view line) {
     return head;
 }
 
+std::string NoColoursMessage(int picture) {
+    return "No Ink or Paper found for graphic record " + std::to_string(picture);
+}
+
 ListedCommand TranslateCommand(std::string_view line, const pictures::CommandCatalogue& commands) {
     if (line.size() >= kAddressLength && line[kAddressLength - 1] == ':')
         line.remove_prefix(kAddressLength);

@@ -30,6 +30,9 @@ struct PictureHead {
     static std::optional<PictureHead> Read(std::string_view line);
 };
 
+/// What is told of a head without its colours.
+std::string NoColoursMessage(int picture);
+
 /// One command of a listing in the language of drawstrings, or why it is none.
 struct ListedCommand {
     std::string words;  ///< empty where there is a fault, and for a blank line

@@ -28,11 +28,11 @@ bool ListedPictures::TakeLine(std::string_view line) {
     if (const auto head = PictureHead::Read(line)) {
         EndPicture();
         if (!head->number) {
-            job_.Fault(kBadListingLine);
+            job_.Fault(kBadLine);
             return true;
         }
         if (!head->ink || !head->paper) {
-            job_.Status("No Ink or Paper found for graphic record " + std::to_string(*head->number));
+            job_.Status(NoColoursMessage(*head->number));
             job_.Status("No further graphics records created");
             return false;
         }

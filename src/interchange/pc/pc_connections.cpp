@@ -56,8 +56,7 @@ void PcConnections::AddExit(std::string_view word, std::string_view destination)
         return;
     }
     if (!locations_->Has(*number) || condacts::IsSpecialPlace(*number)) {
-        job_.Fault("There is not a location with a number of " + std::string(destination) + " for " + name,
-                   destination);
+        job_.Fault(condacts::NoLocationMessage(destination) + " for " + name, destination);
         return;
     }
     const condacts::PlaceNumber to(*number);

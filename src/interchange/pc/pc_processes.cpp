@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "condacts/language/parser.h"
+#include "condacts/language/validate.h"
 #include "condacts/limits.h"
 #include "interchange/shared/condact_text.h"
 #include "store/comments.h"
@@ -200,8 +201,7 @@ void PcProcesses::Refuse(const std::string& why, std::string_view at) {
 void PcProcesses::Flush() {
     if (!entry_) return;
     if (entry_->good && entry_->condActs.empty()) {
-        job_.context.status.AddFault("Cannot have a record with no Condition/Actions", entry_->place,
-                                     entry_->Name());
+        job_.context.status.AddFault(condacts::kNoCondActs, entry_->place, entry_->Name());
     }
     if (entry_->good) {
         Store();

@@ -9,6 +9,7 @@
 #include "condacts/language/load.h"
 #include "condacts/language/parser.h"
 #include "condacts/limits.h"
+#include "condacts/word_record.h"
 #include "interchange/shared/given_records.h"
 #include "interchange/shared/keyed_table.h"
 
@@ -18,9 +19,6 @@ namespace {
 using condacts::Word;
 using store::Cursor;
 using store::TableNum;
-
-/// Numbers below are directions and conversion nouns.
-constexpr int kFirstFreeNumber = 20;
 
 struct NeededWord {
     const char* word;
@@ -52,17 +50,13 @@ class ScriptVocabulary {
         const Word word{needed.word, number.value_or(condacts::WordNumber(0)), needed.type};
         if (!number || condacts::Clashes(word, sameSpelling)) return;
         words_.push_back(word);
-        Cursor& record = table_.Add(table_.HighestKey() + 1);
-        record.SetField("word", word.word);
-        record.SetField("vocnum", std::int64_t{word.number.value});
-        record.SetField("voctypen", std::int64_t{word.type});
-        record.SetField("voctype", std::string(condacts::WordTypeName(word.type)));
+        condacts::SetWord(table_.Add(table_.HighestKey() + 1), word);
         table_.Update();
     }
 
   private:
     std::optional<condacts::WordNumber> FreeNumber(condacts::WordType type) const {
-        for (int i = kFirstFreeNumber; i <= condacts::limit::kHighestWord; ++i) {
+        for (int i = condacts::kFirstPlainNoun.value; i <= condacts::limit::kHighestWord; ++i) {
             const condacts::WordNumber number(i);
             const bool taken = std::any_of(words_.begin(), words_.end(), [&](const Word& word) {
                 return word.type == type && word.number == number;

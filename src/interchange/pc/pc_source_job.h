@@ -17,8 +17,7 @@
 
 namespace fabula::interchange {
 
-/// Told of a line that is not as it must be, and of what stands behind its last word.
-inline constexpr const char* kBadLine = "ERROR: This line can't be understood.";
+/// Told of what stands behind the last word of a line.
 inline constexpr const char* kRestNotRead = "ERROR: The rest of this line is not read.";
 
 /// What the sections of a source share while it is read.

@@ -128,7 +128,7 @@ class SourceReader {
         }
         EndSection();
         if (*index < current_) {
-            job_.Fault("ERROR: The section stands behind one that must follow it.", keyword);
+            job_.Fault(kSectionBehind, keyword);
             return;
         }
         current_ = *index;
@@ -150,7 +150,7 @@ class SourceReader {
 bool Load(ImportContext& context, const PcDialect& dialect) {
     PcLines lines(context.source, dialect.comment, std::string(dialect.kind), context.status,
                   context.encoding);
-    context.status.AddToStatusCR("Look for a User Flag Analysis at end of Status");
+    context.status.AddToStatusCR(kLookForFlags);
     const condacts::Catalogue catalogue = condacts::LoadCatalogue(context.adventure);
     const AceTags tags(context.adventure);
     PcSourceJob job{

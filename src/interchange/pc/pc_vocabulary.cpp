@@ -6,6 +6,7 @@
 #include "condacts/language/parser.h"
 #include "condacts/limits.h"
 #include "condacts/word_filters.h"
+#include "condacts/word_record.h"
 #include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
@@ -72,11 +73,7 @@ void PcVocabulary::Line(std::string_view line) {
         return;
     }
     sameSpelling.push_back(word);
-    store::Cursor& record = table_->Add(table_->HighestKey() + 1);
-    record.SetField("vocnum", std::int64_t{word.number.value});
-    record.SetField("word", word.word);
-    record.SetField("voctypen", std::int64_t{word.type});
-    record.SetField("voctype", std::string(condacts::WordTypeName(word.type)));
+    condacts::SetWord(table_->Add(table_->HighestKey() + 1), word);
     table_->Update();
 }
 

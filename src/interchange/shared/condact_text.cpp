@@ -73,8 +73,7 @@ Converted ConvertUnVelCAs(std::string_view text, const Catalogue& catalogue,
             if (!word) {
                 converted.ok = false;
                 converted.faultyToken = statement.name + 1 + p;
-                converted.errors =
-                    "word " + std::string(token) + " Type doesn't agree with " + statement.condAct->name;
+                converted.errors = condacts::WrongWordTypeMessage(token, *statement.condAct);
                 return converted;
             }
             Append(converted.line, *word);

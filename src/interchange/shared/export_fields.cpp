@@ -2,6 +2,7 @@
 
 #include "text/encoding/utf8.h"
 #include "text/line_ends.h"
+#include "text/moment.h"
 #include "text/numbers.h"
 #include "text/str_edit.h"
 
@@ -14,17 +15,6 @@ std::optional<text::Value> ParseTruth(std::string_view text) {
     if (text::EqualsNoCase(text, "true") || text == "1" || text == "-1") return std::int64_t{1};
     if (text::EqualsNoCase(text, "false") || text == "0") return std::int64_t{0};
     return std::nullopt;
-}
-
-/// "yyyy-mm-dd hh:mm:ss"
-std::optional<text::Value> ParseDate(std::string_view text) {
-    constexpr std::string_view kForm = "0000-00-00 00:00:00";
-    if (text.size() != kForm.size()) return std::nullopt;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool digit = text[i] >= '0' && text[i] <= '9';
-        if (kForm[i] == '0' ? !digit : text[i] != kForm[i]) return std::nullopt;
-    }
-    return std::string(text);
 }
 
 }  // namespace
@@ -54,7 +44,8 @@ std::optional<text::Value> ParseExportValue(FieldType type, ExportUse use, std::
         const auto number = text::RealNumber(text);
         return number ? std::optional<text::Value>(*number) : std::nullopt;
     }
-    if (type == FieldType::Date) return ParseDate(text);
+    if (type == FieldType::Date)
+        return text::IsMoment(text) ? std::optional<text::Value>(std::string(text)) : std::nullopt;
     if (type == FieldType::LongVarBinary) return std::nullopt;
     const auto number = text::WholeNumber(text);
     return number ? std::optional<text::Value>(*number) : std::nullopt;

@@ -13,6 +13,9 @@
 
 namespace fabula::interchange {
 
+/// Told at the begin of an import that ends with one.
+inline constexpr const char* kLookForFlags = "Look for a User Flag Analysis at end of Status";
+
 /// Tells an author which flags an imported game uses, and by which conditions and actions, and marks these
 /// flags as used. Built-in flags are not told. Flags from 1000 up are all built in and are not
 /// counted.

@@ -1,13 +1,9 @@
 #include "interchange/shared/given_records.h"
 
+#include "store/schema/record_check.h"
 #include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
-namespace {
-
-constexpr std::size_t kLongestName = 255;
-
-}  // namespace
 
 bool HasEntry(store::Adventure& adventure, const GivenEntry& entry) {
     return adventure
@@ -18,7 +14,8 @@ bool HasEntry(store::Adventure& adventure, const GivenEntry& entry) {
 void NameGame(store::Adventure& adventure, std::string_view name) {
     if (name.empty()) return;
     store::Cursor& settings = adventure.OpenTable(store::TableNum::Adventure, "def");
-    settings.SetField("advname", std::string(text::Left(name, kLongestName)));
+    const std::size_t longest = store::LongestText(adventure.Schema(store::TableNum::Adventure), "advname");
+    settings.SetField("advname", std::string(text::Left(name, longest)));
     settings.Update();
 }
 

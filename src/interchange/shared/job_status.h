@@ -10,6 +10,12 @@
 
 namespace fabula::interchange {
 
+// What readers of several kinds of source tell.
+inline constexpr const char* kBadLine = "ERROR: This line can't be understood.";
+inline constexpr const char* kTooManyWords = "ERROR: There are too many words.";
+inline constexpr const char* kSectionBehind = "ERROR: The section stands behind one that must follow it.";
+inline constexpr const char* kWrongTypeOfField = "The value is not of the type of its field.";
+
 /// Who watches a job: a window with a status box and a bar, or a terminal.
 class JobObserver {
   public:

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "interchange/shared/export_fields.h"
+#include "interchange/shared/job_status.h"
 #include "interchange/shared/source_file.h"
 #include "platform/error.h"
 #include "store/comments.h"
@@ -207,7 +208,7 @@ std::string Apply(Adventure& adventure, TableNum table, const ExportField& field
     const store::TableSchema& schema = adventure.Schema(table);
     const auto index = schema.Find(field.name);
     const auto value = index ? ParseExportValue(schema.fields[*index].type, field.use, text) : std::nullopt;
-    if (!value) return "The value is not of the type of its field.";
+    if (!value) return kWrongTypeOfField;
     try {
         store::CheckValue(schema, schema.fields[*index], *value);
     } catch (const Error& error) {
@@ -281,7 +282,6 @@ std::optional<std::string_view> LineOfComment(std::string_view line) {
 }
 
 std::string ApplyExtra(Adventure& adventure, std::string_view line) {
-    constexpr const char* kNotUnderstood = "ERROR: This line can't be understood.";
     line.remove_prefix(std::min(line.find_first_not_of("! "), line.size()));
     const std::string_view tableName = TakeWord(line);
     const ExtraTable* table = FindExtraTable(tableName);
@@ -294,14 +294,14 @@ std::string ApplyExtra(Adventure& adventure, std::string_view line) {
                 return ApplyComment(adventure, commented, keyField, key, line);
         }
     }
-    if (table == nullptr) return kNotUnderstood;
+    if (table == nullptr) return kBadLine;
     for (const ExportField& field : FieldsOf(adventure, *table)) {
         if (!text::EqualsNoCase(field.name, name)) continue;
         return Apply(adventure, table->table, field, line, [&] {
             return OpenRecord(adventure, table->table, table->keyField, key, table->mayBeAdded);
         });
     }
-    return kNotUnderstood;
+    return kBadLine;
 }
 
 }  // namespace fabula::interchange

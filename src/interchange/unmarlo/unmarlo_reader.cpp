@@ -210,7 +210,7 @@ std::optional<UnMarloHead> ReadUnMarloHead(ListingLines& lines, JobStatus& statu
 
 bool LoadUnMarlo(ImportContext& context) {
     context.status.AddToStatusCR("Loading UnMarloed source " + context.source.string());
-    context.status.AddToStatusCR("Look for a User Flag Analysis at end of Status");
+    context.status.AddToStatusCR(kLookForFlags);
     ListingLines lines(context.source, context.status);
     const auto head = ReadUnMarloHead(lines, context.status);
     if (!head) return false;

@@ -31,7 +31,7 @@ class MarloConnections final : public ListingSection {
         if (HasMark(line, kConnectionsFrom)) {
             Flush();
             number_ = NumberBehind(line, 2);
-            if (!number_) job_.Fault(kBadListingLine);
+            if (!number_) job_.Fault(kBadLine);
             return;
         }
         const std::string connection = text::StrEdit(Cut(line, kConnection), "compress");
@@ -73,11 +73,10 @@ class MarloVocabulary final : public ListingSection {
         const bool isWord = !whole.empty() && whole != ":" && whole.find(' ') == std::string_view::npos;
         const std::string word = text::UpperCase(text::Left(whole, kLettersOfAWord));
         if (!number || !isWord || words_.Has(word, condacts::kNoun)) {
-            job_.Fault(kBadListingLine);
+            job_.Fault(kBadLine);
             return;
         }
-        if (!words_.Add({word, condacts::WordNumber(*number), condacts::kNoun}))
-            job_.Fault("ERROR: There are too many words.");
+        if (!words_.Add({word, condacts::WordNumber(*number), condacts::kNoun})) job_.Fault(kTooManyWords);
     }
 
     void Finish() override {
@@ -98,7 +97,7 @@ class MarloObjectPlaces final : public ListingSection {
     void Line(std::string_view line) override {
         if (!HasMark(line, "Object ")) return;
         const std::optional<int> number = NumberBehind(line, 1);
-        if (!number) job_.Fault(kBadListingLine);
+        if (!number) job_.Fault(kBadLine);
         if (!number || !objects_.Has(*number)) return;
         SetPlace(objects_.GoTo(*number), PlaceIn(line));
         objects_.Update();
@@ -135,7 +134,7 @@ class MarloObjectWords final : public ListingSection {
         const auto tokens = SplitWords(label);
         const std::optional<int> number = NumberBehind(line, 1);
         if (!HasMark(line, "Object ") || !number || tokens.size() <= kNoun) {
-            if (!TrimRight(line).empty()) job_.Fault(kBadListingLine);
+            if (!TrimRight(line).empty()) job_.Fault(kBadLine);
             return;
         }
         if (!objects_.Has(*number)) return;

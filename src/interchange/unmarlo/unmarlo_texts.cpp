@@ -54,7 +54,7 @@ class Texts final : public ListingSection {
         if (HasAddress(line) && HasMark(line, kind_.label)) {
             Flush();
             number_ = NumberBehind(line, kind_.labelWords);
-            if (!number_) job_.Fault(kBadListingLine);
+            if (!number_) job_.Fault(kBadLine);
             return;
         }
         text_ += TrimRight(line);

@@ -36,7 +36,7 @@ class Connections final : public ListingSection {
                                               condacts::limit::kHighestRecord);
         const Word* found = Find(word);
         if (!number_ || !destination || found == nullptr) {
-            job_.Fault(kBadListingLine);
+            job_.Fault(kBadLine);
             return;
         }
         const std::string separator = exits_.empty() ? "" : " ";

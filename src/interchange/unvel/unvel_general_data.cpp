@@ -1,11 +1,10 @@
 #include "interchange/unvel/unvel_general_data.h"
 
-#include <cstdlib>
-
 #include "condacts/language/parser.h"
 #include "condacts/limits.h"
 #include "interchange/listing/listing_lines.h"
 #include "interchange/shared/source_file.h"
+#include "text/numbers.h"
 #include "text/str_edit.h"
 
 namespace fabula::interchange {
@@ -25,7 +24,7 @@ bool IsFont(Adventure& adventure, int code) {
 void SetColour(ListingJob& job, const char* field, std::string_view value) {
     const auto colour = GetColor(value);
     if (colour) SetSetting(job.Adventure(), field, *colour);
-    if (!colour) job.Fault(kBadListingLine);
+    if (!colour) job.Fault(kBadLine);
 }
 
 void SetInk(ListingJob& job, std::string_view value, bool) {
@@ -33,7 +32,7 @@ void SetInk(ListingJob& job, std::string_view value, bool) {
 }
 
 void SetPaper(ListingJob& job, std::string_view value, bool) {
-    SetColour(job, "backcolor", value);
+    SetColour(job, "BackColor", value);
 }
 
 void SetFont(ListingJob& job, std::string_view value, bool) {
@@ -74,11 +73,10 @@ bool IsEnd(std::string_view line) {
 
 std::optional<int> GetColor(std::string_view token) {
     if (const auto number = ListedNumber(token, condacts::limit::kHighestColour)) return number;
-    const std::string text(token);
-    char* end = nullptr;
-    const double number = std::strtod(text.c_str(), &end);
-    if (text.find('.') == std::string::npos || end != text.c_str() + text.size()) return std::nullopt;
-    return number > kLastColourBeforeWhite ? kWhite : 0;
+    if (token.find('.') == std::string_view::npos) return std::nullopt;
+    const std::optional<double> number = text::RealNumber(token);
+    if (!number) return std::nullopt;
+    return *number > kLastColourBeforeWhite ? kWhite : 0;
 }
 
 void ReadGeneralData(ListingJob& job, bool isMarlo) {

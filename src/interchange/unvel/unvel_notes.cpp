@@ -5,6 +5,7 @@
 #include "interchange/shared/keyed_table.h"
 #include "interchange/unvel/unvel_section.h"
 #include "interchange/unvel/unvel_text.h"
+#include "store/schema/record_check.h"
 #include "text/encoding/utf8.h"
 
 namespace fabula::interchange {
@@ -12,8 +13,6 @@ namespace {
 
 using store::Cursor;
 using store::TableNum;
-
-constexpr std::size_t kLongestTableText = 255;
 
 }  // namespace
 
@@ -41,10 +40,11 @@ void StoreFlagNotes(store::Adventure& adventure, const UnVelNotes& notes) {
 
 void StoreProcessNotes(store::Adventure& adventure, const UnVelNotes& notes) {
     KeyedTable tables(adventure, TableNum::ProcDesc);
+    const std::size_t longest = store::LongestText(adventure.Schema(TableNum::ProcDesc), "pmsgmsg");
     for (const auto& [number, text] : notes.All()) {
         if (number > condacts::limit::kLastFixedProcess.value &&
             number <= condacts::limit::kHighestProcess.value)
-            StoreText(tables, "pmsgmsg", number, std::string(text::Left(text, kLongestTableText)));
+            StoreText(tables, "pmsgmsg", number, std::string(text::Left(text, longest)));
     }
 }
 

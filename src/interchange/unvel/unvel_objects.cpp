@@ -51,12 +51,12 @@ class ObjectLines : public ListingSection {
         if (digits.ends_with(':')) digits.remove_suffix(1);
         const auto number = ListedNumber(digits, condacts::limit::kHighestRecord);
         if (Cut(line, kObjectHead) != "Object" || !number) {
-            job_.Fault(kBadListingLine);
+            job_.Fault(kBadLine);
             return;
         }
         if (!objects_.Has(*number)) return;
         Cursor& object = objects_.GoTo(*number);
-        if (!Set(object, line)) job_.Fault(kBadListingLine);
+        if (!Set(object, line)) job_.Fault(kBadLine);
         objects_.Update();
     }
 

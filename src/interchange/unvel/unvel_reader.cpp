@@ -142,7 +142,7 @@ class UnVelWalk {
         EndSection();
         // Pictures and characters come in either order.
         if (stage <= stage_ && !(stage == kPicturesStage && stage_ == kCharactersStage)) {
-            job_.Fault("ERROR: The section stands behind one that must follow it.");
+            job_.Fault(kSectionBehind);
             return;
         }
         stage_ = stage;
@@ -217,7 +217,7 @@ bool DrawsPictures(store::Adventure& adventure) {
 
 bool LoadUnVel(ImportContext& context) {
     context.status.AddToStatusCR("Loading UnVEL " + context.source.string());
-    context.status.AddToStatusCR("Look for a User Flag Analysis at end of Status");
+    context.status.AddToStatusCR(kLookForFlags);
     ListingLines lines(context.source, context.status);
     const auto head = ReadUnVelHead(lines, context.person);
     if (!head) return false;

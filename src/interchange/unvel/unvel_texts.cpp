@@ -39,7 +39,7 @@ class ListedTexts final : public ListingSection {
             return;
         }
         if (!number_) {
-            if (!line.empty()) job_.Fault(kBadListingLine);
+            if (!line.empty()) job_.Fault(kBadLine);
             return;
         }
         if (line.empty()) {

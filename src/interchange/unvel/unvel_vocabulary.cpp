@@ -48,15 +48,14 @@ class Vocabulary final : public ListingSection {
         const condacts::WordType type = TypeFrom(CutTrimmed(line, kType));
         const bool isWord = !word.empty() && word.find(' ') == std::string::npos;
         if (!isWord || !number) {
-            job_.Fault(kBadListingLine);
+            job_.Fault(kBadLine);
             return;
         }
         if (words_.Has(word, type)) {
             job_.Fault(condacts::DuplicateWordFault(word));
             return;
         }
-        if (!words_.Add({word, condacts::WordNumber(*number), type}))
-            job_.Fault("ERROR: There are too many words.");
+        if (!words_.Add({word, condacts::WordNumber(*number), type})) job_.Fault(kTooManyWords);
     }
 
     /// The default words follow at once, since entries are looked up in the whole vocabulary.

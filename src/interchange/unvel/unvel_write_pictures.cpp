@@ -109,7 +109,6 @@ class PictureWriter {
 };
 
 constexpr std::size_t kSixInALine = 6;
-constexpr int kMostUserGraphics = 19;
 
 /// One array: the characters of a set from `first` to `last`, eight mirrored rows to a line.
 void WriteArray(UnVelFile& file, const std::string& name, const std::vector<std::vector<int>>& characters) {
@@ -165,9 +164,9 @@ void WriteUnVelCharacters(ExportContext& context, UnVelFile& file) {
     file.UnVelHdr("Charset 0", true);
     WriteArray(file, "font_bits", Range(sets, 0, pictures::kFirstCharacter, pictures::kLastOfFont));
     file.UnVelHdr("UDG data", true);
-    WriteArray(
-        file, "udg_bits",
-        Range(sets, 0, pictures::kFirstUserGraphic, pictures::kFirstUserGraphic + kMostUserGraphics - 1));
+    WriteArray(file, "udg_bits",
+               Range(sets, 0, pictures::kFirstUserGraphic,
+                     pictures::kFirstUserGraphic + kWrittenUserGraphics - 1));
     file.UnVelHdr("Shade data", true);
     WriteArray(file, "shade_bits", Range(sets, 0, 0, pictures::kLastShade));
     for (const int set : sets.Sets()) {

@@ -135,7 +135,7 @@ class ExtractWriter {
         TextItem("Snapshot type", "None");
         Cursor& settings = context_.adventure.OpenTable(TableNum::Adventure, "def");
         Item(kInkLabel, settings.Number("textcolor"));
-        Item(kPaperLabel, settings.Number("backcolor"));
+        Item(kPaperLabel, settings.Number("BackColor"));
         Item(kFontLabel, settings.Number("font"));
         const std::int64_t conveyable = settings.Number("maxobj");
         const bool pictures = settings.Truth("graphics");

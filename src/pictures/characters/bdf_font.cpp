@@ -17,6 +17,8 @@ constexpr int kHighestEncoding = kLargestNumber;
 /// Sizes and places beyond this are nonsense.
 constexpr int kFarthest = 64;
 
+constexpr const char* kNoNumber = "a number is missing or is none.";
+
 /// A rectangle of pixels in the font's own coordinates: y goes up, from the base line.
 struct Box {
     int width = 0;
@@ -62,7 +64,7 @@ class Reader {
     int Number(std::string_view line, std::size_t place, int lowest, int highest) const {
         const std::vector<std::string> words = DrawstringWords(line);
         const auto value = place < words.size() ? ParameterValue(words[place]) : std::nullopt;
-        if (!value || *value < lowest || *value > highest) Fail("a number is missing or is none.");
+        if (!value || *value < lowest || *value > highest) Fail(kNoNumber);
         return *value;
     }
 
@@ -94,7 +96,7 @@ class Reader {
     int EncodingOf(std::string_view line) const {
         const std::vector<std::string> words = DrawstringWords(line);
         const auto value = words.size() > 1 ? ParameterValue(words[1]) : std::nullopt;
-        if (!value || *value < -1 || *value > kHighestEncoding) Fail("a number is missing or is none.");
+        if (!value || *value < -1 || *value > kHighestEncoding) Fail(kNoNumber);
         return *value;
     }
 

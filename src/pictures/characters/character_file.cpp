@@ -109,13 +109,17 @@ CharacterFile ReadCharacterFile(std::string_view text, std::string_view fileName
     return file;
 }
 
+std::string NoSetMessage(std::string_view set) {
+    return "There is no character set " + std::string(set) + ".";
+}
+
 std::string WriteCharacterFile(const CharacterSets& sets, const std::vector<int>& numbers) {
     std::string text;
     const auto add = [&text](std::string_view line) { text.append(line).append(text::kLineEnd); };
     add(kFirstLine);
     add(std::string(kDelimiterKey).append("=").append(kDelimiter));
     for (const int number : numbers) {
-        if (!sets.HasSet(number)) throw Error("There is no character set " + std::to_string(number) + ".");
+        if (!sets.HasSet(number)) throw Error(NoSetMessage(std::to_string(number)));
         add(text::FormatText("SET!%z4", {std::int64_t{number}}));
         bool named = false;
         for (const Character* character : sets.OfSet(number)) {

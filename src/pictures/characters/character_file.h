@@ -37,6 +37,9 @@ struct CharacterFile {
 /// characters.
 CharacterFile ReadCharacterFile(std::string_view text, std::string_view fileName);
 
+/// "There is no character set 3."
+std::string NoSetMessage(std::string_view set);
+
 /// The text of a file with those sets, in that order. Of set 0 only the shades and the user-defined
 /// graphics are written, for the rest of it is the same everywhere. Throws fabula::Error for a set that
 /// does not exist.

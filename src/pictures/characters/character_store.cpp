@@ -107,7 +107,7 @@ bool SaveSets(store::Adventure& adventure, const std::vector<std::string>& selec
     std::vector<int> numbers;
     for (const std::string& line : selected) {
         const std::optional<int> number = ParameterValue(Key(line));
-        if (!number) throw Error("There is no character set " + line + ".");
+        if (!number) throw Error(NoSetMessage(line));
         numbers.push_back(*number);
     }
     WriteText(file, WriteCharacterFile(LoadCharacterSets(adventure), numbers));

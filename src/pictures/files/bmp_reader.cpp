@@ -45,9 +45,7 @@ class BmpReader {
     }
 
   private:
-    [[noreturn]] void Fail(const std::string& why) const {
-        throw Error("Could not read the image " + std::string(fileName_) + ": " + why);
-    }
+    [[noreturn]] void Fail(const std::string& why) const { FailToRead(fileName_, why); }
 
     std::uint8_t Byte(std::size_t at) const {
         if (at >= bytes_.size()) Fail("it ends too early.");
@@ -105,6 +103,11 @@ class BmpReader {
 
 Image DecodeBmp(std::string_view bytes, std::string_view fileName) {
     return BmpReader(bytes, fileName).Read();
+}
+
+void FailToRead(std::string_view fileName, std::string_view why) {
+    std::string message = "Could not read the image ";
+    throw Error(message.append(fileName).append(": ").append(why));
 }
 
 std::string SizeFault(std::int64_t width, std::int64_t height) {

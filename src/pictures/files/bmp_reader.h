@@ -12,6 +12,8 @@ namespace fabula::pictures {
 /// fabula::Error, naming `fileName`, for any other.
 Image DecodeBmp(std::string_view bytes, std::string_view fileName);
 
+/// Throws fabula::Error: the image of that file can't be read, and why, a sentence.
+[[noreturn]] void FailToRead(std::string_view fileName, std::string_view why);
 /// Why an image of that size is not read, a sentence; empty when it is.
 std::string SizeFault(std::int64_t width, std::int64_t height);
 

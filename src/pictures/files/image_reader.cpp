@@ -38,14 +38,14 @@ Image DecodePng(std::string_view bytes, std::string_view fileName) {
     const auto fail = [&] {
         const std::string why = png.message;
         png_image_free(&png);
-        throw Error("Could not read the image " + std::string(fileName) + ": " + why + ".");
+        FailToRead(fileName, why + ".");
     };
     if (png_image_begin_read_from_memory(&png, bytes.data(), bytes.size()) == 0) fail();
     const std::int64_t width = png.width;
     const std::int64_t height = png.height;
     if (const std::string fault = SizeFault(width, height); !fault.empty()) {
         png_image_free(&png);
-        throw Error("Could not read the image " + std::string(fileName) + ": " + fault);
+        FailToRead(fileName, fault);
     }
     png.format = PNG_FORMAT_RGB;
     png_color white{255, 255, 255};
@@ -54,24 +54,27 @@ Image DecodePng(std::string_view bytes, std::string_view fileName) {
     return FromRgb(rgb, static_cast<int>(width), static_cast<int>(height));
 }
 
+std::string Reason(tjhandle reader) {
+    return std::string(tjGetErrorStr2(reader)) + ".";
+}
+
 Image DecodeJpeg(std::string_view bytes, std::string_view fileName) {
-    const std::string doing = "Could not read the image " + std::string(fileName) + ": ";
     const std::unique_ptr<void, int (*)(tjhandle)> reader(tjInitDecompress(), tjDestroy);
-    if (!reader) throw Error(doing + "there is no memory for it.");
+    if (!reader) FailToRead(fileName, "there is no memory for it.");
     const auto* begin = reinterpret_cast<const unsigned char*>(bytes.data());
     int width = 0;
     int height = 0;
     int sampling = 0;
     int colours = 0;
     if (tjDecompressHeader3(reader.get(), begin, bytes.size(), &width, &height, &sampling, &colours) != 0)
-        throw Error(doing + tjGetErrorStr2(reader.get()) + ".");
-    if (const std::string fault = SizeFault(width, height); !fault.empty()) throw Error(doing + fault);
+        FailToRead(fileName, Reason(reader.get()));
+    if (const std::string fault = SizeFault(width, height); !fault.empty()) FailToRead(fileName, fault);
     std::vector<unsigned char> rgb = RgbBuffer(width, height);
     // An image that ends too early is broken, although the reader would fill it up.
     const int flags = TJFLAG_STOPONWARNING | TJFLAG_LIMITSCANS;
     if (tjDecompress2(reader.get(), begin, bytes.size(), rgb.data(), width, 0, height, TJPF_RGB, flags) !=
         0)
-        throw Error(doing + tjGetErrorStr2(reader.get()) + ".");
+        FailToRead(fileName, Reason(reader.get()));
     return FromRgb(rgb, width, height);
 }
 
@@ -81,7 +84,7 @@ Image DecodeImage(std::string_view bytes, std::string_view fileName) {
     if (bytes.starts_with(kPngStart)) return DecodePng(bytes, fileName);
     if (bytes.starts_with(kJpegStart)) return DecodeJpeg(bytes, fileName);
     if (bytes.starts_with(kBmpStart)) return DecodeBmp(bytes, fileName);
-    throw Error("Could not read the image " + std::string(fileName) + ": it is no PNG, JPEG or BMP file.");
+    FailToRead(fileName, "it is no PNG, JPEG or BMP file.");
 }
 
 Image ReadImage(const std::filesystem::path& file) {

@@ -73,7 +73,7 @@ bool IsRule(std::string_view code) {
 }
 
 /// What a line of switches takes besides its reason, in characters; with it at most as many as a header.
-constexpr std::size_t kLongestLine = 255 - kLongestReason - 1;
+constexpr std::size_t kLongestLine = store::kDefaultTextSize - kLongestReason - 1;
 
 void AddLines(store::Adventure& adventure, const LintLine& added) {
     store::Cursor& headers = adventure.OpenTable(store::TableNum::Header, "def");

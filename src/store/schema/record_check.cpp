@@ -32,7 +32,7 @@ std::optional<std::string> FaultOfNumber(FieldType type, std::int64_t number) {
 }
 
 std::optional<std::string> FaultOfText(const Field& field, const std::string& text) {
-    const auto most = static_cast<std::size_t>(field.size > 0 ? field.size : kDefaultTextSize);
+    const std::size_t most = LongestText(field);
     if (field.type != FieldType::VarWChar || text.size() <= most || text::Length(text) <= most) {
         return std::nullopt;
     }
@@ -59,6 +59,14 @@ std::optional<std::string> FaultOfValue(const Field& field, const text::Value& v
 }
 
 }  // namespace
+
+std::size_t LongestText(const Field& field) {
+    return static_cast<std::size_t>(field.size > 0 ? field.size : kDefaultTextSize);
+}
+
+std::size_t LongestText(const TableSchema& schema, std::string_view field) {
+    return LongestText(schema.fields.at(schema.Find(field).value()));
+}
 
 std::optional<std::string> FaultOf(const TableSchema& schema, const Field& field,
                                    const text::Value& value) {

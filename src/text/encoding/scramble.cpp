@@ -13,9 +13,9 @@ constexpr int kFirst = 32;
 constexpr int kCount = 95;
 
 constexpr std::string_view kTable1 =
-    R"TABLE(SGh1J.:Pa>YLn/=Q56k%z*VM3H\cvK2"f?}7WN@`e_BTb^ {A<-)(rR[]Zoiqt0+uU'!x#m4O~&Ejd9Iw,yl;FpXgs|8CD$)TABLE";
+    R"T(SGh1J.:Pa>YLn/=Q56k%z*VM3H\cvK2"f?}7WN@`e_BTb^ {A<-)(rR[]Zoiqt0+uU'!x#m4O~&Ejd9Iw,yl;FpXgs|8CD$)T";
 constexpr std::string_view kTable2 =
-    R"TABLE(Eva<&xzPqWF[*$IiJ>;=@}#O\A+3|_G/"sTc{DhLbnd l0HV64NU!Bg,'~CwjeomX]-^kS`(prt)RQ87y9.Z2?15M%uY:Kf)TABLE";
+    R"T(Eva<&xzPqWF[*$IiJ>;=@}#O\A+3|_G/"sTc{DhLbnd l0HV64NU!Bg,'~CwjeomX]-^kS`(prt)RQ87y9.Z2?15M%uY:Kf)T";
 
 /// By character minus kFirst, what stands for it.
 using Substitution = std::array<char, kCount>;

@@ -1,3 +1,6 @@
+// The commands of the main window, one after the other, on one stand: when they are on, what they do, and
+// where the grid goes.
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

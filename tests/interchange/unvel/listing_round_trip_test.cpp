@@ -94,7 +94,7 @@ std::vector<std::string> Carried(store::Adventure& adventure) {
         }
     };
     add(TableNum::Adventure,
-        {"advname", "textcolor", "backcolor", "font", "graphics", "charsets", "adventype"}, "", "advnum");
+        {"advname", "textcolor", "BackColor", "font", "graphics", "charsets", "adventype"}, "", "advnum");
     if (adventure.AdventureType() != "Marlo") add(TableNum::Adventure, {"maxobj"}, "", "advnum");
     add(TableNum::Pictures,
         {"locnum", "loctype", "locpaper", "locink", "drawstring", "picname", "roompicnum"}, "locnum>=0",

@@ -2,6 +2,7 @@
 
 #include "interchange/reading.h"
 #include "interchange/unvel/unvel_general_data.h"
+#include "support/decimal_comma.h"
 #include "support/games/listing_writers.h"
 
 namespace fabula::interchange {
@@ -356,6 +357,13 @@ TEST(GetColor, FractionsAreSevenAboveSixAndElseZero) {
     EXPECT_EQ(GetColor("15"), 15);
     EXPECT_EQ(GetColor("16"), std::nullopt);
     EXPECT_EQ(GetColor("red"), std::nullopt);
+}
+
+TEST(GetColor, AFractionHasAPointWhereTheDesktopCountsWithACommaToo) {
+    const test::DecimalComma desktop;
+    EXPECT_EQ(GetColor("16777215.0"), 7);
+    EXPECT_EQ(GetColor("0.0"), 0);
+    EXPECT_EQ(GetColor("16777215,0"), std::nullopt);
 }
 
 }  // namespace

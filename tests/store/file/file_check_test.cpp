@@ -1,4 +1,5 @@
 // Files that come from strangers: each is refused with one sentence and left as it was, or opens cleanly.
+// One way to damage a file is a test of a few lines; all of them share how a refusal is told.
 
 #include "store/file/file_check.h"
 

@@ -1,4 +1,5 @@
-// Reads the default data as a linter would, by what a new adventure of each type holds.
+// Reads the default data as a linter would, by what a new adventure of each type holds. Half of the file is
+// tables of what must be there, which the tests beside them read.
 
 #include <algorithm>
 #include <bit>

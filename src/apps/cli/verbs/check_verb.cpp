@@ -8,6 +8,7 @@
 #include "cli/installation.h"
 #include "cli/source_adventure.h"
 #include "cli/verbs.h"
+#include "terminal/scratch_folder.h"
 #include "text/str_edit.h"
 
 namespace fabula::cli {
@@ -41,7 +42,7 @@ class WithoutFolder final : public interchange::JobObserver {
 
 int Check(const CheckOptions& options) {
     const interchange::FileKind& kind = KindOfSource(options.source, options.kind);
-    const ScratchFolder folder;
+    const terminal::ScratchFolder folder;
     const std::filesystem::path file = folder.Path() / "check.fbd";
     Console console(options.json ? std::cerr : std::cout);
     WithoutFolder observer(console.Observer(), folder.Path());

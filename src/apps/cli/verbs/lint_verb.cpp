@@ -10,6 +10,7 @@
 #include "references/lint/lint.h"
 #include "references/place_text.h"
 #include "store/extensions.h"
+#include "terminal/scratch_folder.h"
 #include "text/encoding/safe_text.h"
 #include "text/encoding/utf8.h"
 
@@ -78,7 +79,7 @@ Result LintFile(const LintOptions& options) {
     if (options.keep)
         throw UsageError("only an adventure keeps switches; a source has them in its comments");
     references::LintSwitches switches = SwitchesOf(options.off);
-    const ScratchFolder folder;
+    const terminal::ScratchFolder folder;
     const std::filesystem::path file = folder.Path() / "lint.fbd";
     std::ostream quiet(nullptr);
     Console console(quiet);

@@ -11,6 +11,7 @@
 #include "engine/game_window.h"
 #include "pictures/canvas.h"
 #include "pictures/characters/character_sets.h"
+#include "player/panes/kept_lines.h"
 
 namespace fabula::player {
 
@@ -85,7 +86,7 @@ class CharacterScreen {
     pictures::CharacterSets sets_;
     std::vector<Row> rows_{1};
     std::size_t top_ = 0;
-    std::size_t kept_ = 5000;
+    std::size_t kept_ = kDefaultKeptLines;
     int paper_ = 0;
     Place cursor_;
     engine::TextStyle style_;

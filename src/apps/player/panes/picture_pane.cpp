@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "pictures/canvas.h"
+
 namespace fabula::player {
 
 namespace {
@@ -28,7 +30,8 @@ void PicturePane::Show(const QImage& image) {
 }
 
 QSize PicturePane::sizeHint() const {
-    return image_.isNull() ? QSize(256, 176) : image_.size().boundedTo(QSize(1024, 352));
+    return image_.isNull() ? QSize(pictures::kCanvasWidth, pictures::kCanvasHeight)
+                           : image_.size().boundedTo(QSize(1024, 352));
 }
 
 int PicturePane::HeightIn(QSize column) const {

@@ -10,6 +10,7 @@
 
 #include "engine/game_window.h"
 #include "platform/timers.h"
+#include "player/panes/kept_lines.h"
 #include "player/panes/pane_keys.h"
 #include "player/panes/text_colours.h"
 
@@ -25,12 +26,10 @@ struct TextLook {
 
 /// What the player wants otherwise than the game has it.
 struct TextChoice {
-    QString family{};           ///< of all text; "" for the game's own fonts
-    int points = 0;             ///< of ordinary text, other sizes in proportion; 0 for the game's own
-    int columns = 0;            ///< the width of a line at most; 0 for the game's own
-    int lines = kDefaultLines;  ///< how much is kept to look back at
-
-    static constexpr int kDefaultLines = 5000;
+    QString family{};               ///< of all text; "" for the game's own fonts
+    int points = 0;                 ///< of ordinary text, other sizes in proportion; 0 for the game's own
+    int columns = 0;                ///< the width of a line at most; 0 for the game's own
+    int lines = kDefaultKeptLines;  ///< how much is kept to look back at
 
     friend bool operator==(const TextChoice&, const TextChoice&) = default;
 };

@@ -82,7 +82,7 @@ bool PlayerScreen::Restore() {
     const auto file = AskForSavedGame(false);
     if (!file) return false;
     try {
-        if (!game_->RestoreFrom(*file)) host_.dialogs.Tell("Invalid Save File for this Adventure", "Error");
+        if (!game_->RestoreFrom(*file)) host_.dialogs.Tell(engine::kInvalidSave, "Error");
     } catch (const Error& error) {
         host_.dialogs.Tell(error.what(), "Error");
     }

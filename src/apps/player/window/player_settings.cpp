@@ -110,8 +110,7 @@ PlayerSettings PlayerSettings::Load(const QSettings& store) {
     settings.text.family = store.value("Startup/Font").toString();
     settings.text.points = NumberOrNone(store, "Startup/FontSize", kLeastPoints, kMostPoints);
     settings.text.columns = NumberOrNone(store, "Startup/LineWidth", kLeastColumns, kMostColumns);
-    settings.text.lines =
-        Number(store, "Startup/KeptLines", kLeastLines, kMostLines, TextChoice::kDefaultLines);
+    settings.text.lines = Number(store, "Startup/KeptLines", kLeastLines, kMostLines, kDefaultKeptLines);
     settings.colours =
         static_cast<Colours>(Number(store, "Startup/Colours", 0, static_cast<int>(Colours::Dark), 0));
     settings.sound.device = qt::FromQt(store.value("Startup/SoundDevice").toString());

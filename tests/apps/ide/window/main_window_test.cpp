@@ -1,3 +1,6 @@
+// What the window itself binds, a test for each thing: they all stand on one window with one game, and what
+// has a subject of its own is in the files beside.
+
 #include "ide/window/main_window.h"
 
 #include <QApplication>
