@@ -214,7 +214,7 @@ TEST_F(CharacterSetScreenTest, OpensTheEditorOfTheChosenCharacter) {
     ASSERT_TRUE(request);
     EXPECT_EQ(request->screen, authoring::Screen::Character);
     EXPECT_EQ(request->key.key, 1);
-    screen.MoveChoice(20);
+    screen.Choose(21);
     EXPECT_FALSE(screen.Open());
     EXPECT_THAT(desk_.Boxes(), ElementsAre("Character 37 cannot be edited"));
     screen.Show(1);
