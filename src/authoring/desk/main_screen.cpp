@@ -10,6 +10,7 @@
 #include "authoring/files/backups.h"
 #include "authoring/files/may_replace.h"
 #include "authoring/files/start_up.h"
+#include "authoring/files/starter_file.h"
 #include "authoring/files/version_numbers.h"
 #include "authoring/files/work_files.h"
 #include "interchange/starter.h"
@@ -19,7 +20,6 @@
 #include "store/extensions.h"
 #include "store/file/file_copy.h"
 #include "store/game_source.h"
-#include "text/encoding/utf8.h"
 
 // The life of the window and of the adventure in it. What it shows is in main_screen_views.cpp, what it
 // does on command in main_screen_commands.cpp.
@@ -45,10 +45,6 @@ void MarkAsNew(store::Adventure& adventure) {
     system.SetField("flagchange", std::int64_t{1});
     system.Update();
     transaction.Commit();
-}
-
-std::filesystem::path StarterFor(const std::filesystem::path& defaultData, store::AdventureKind kind) {
-    return defaultData.parent_path() / "starters" / (text::LowerCase(store::NameOf(kind)) + ".ini");
 }
 
 }  // namespace
@@ -141,7 +137,7 @@ bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::Ad
     Guard([&] {
         store::CreateAdventure(file, setup, host, [&](store::Adventure& adventure) {
             MarkAsNew(adventure);
-            if (starter) interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
+            if (starter) interchange::AddStarter(adventure, StarterFile(paths_.defaultData, setup.Type()));
         });
         created = true;
         host_.dialogs.Tell(file.filename().string() + " DataBase Created", kProgramName);
