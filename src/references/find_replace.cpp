@@ -82,7 +82,7 @@ class Checks {
 
   private:
     std::string FaultOfLine(const std::string& line) const {
-        if (condacts::CountTokens(line) == 0) return "Cannot have a record with no Condition/Actions";
+        if (condacts::CountTokens(line) == 0) return std::string(condacts::kNoCondActs);
         const auto fault = condacts::ValidateCondActs(line, catalogue_, facts_);
         return fault ? fault->message : std::string();
     }

@@ -20,6 +20,9 @@ struct Fault {
     friend bool operator==(const Fault&, const Fault&) = default;
 };
 
+/// What is told of a record whose line holds no condition and no action.
+inline constexpr std::string_view kNoCondActs = "Cannot have a record with no Condition/Actions";
+
 /// Checks a whole line in text form against the catalogue and the adventure as it is. A line that passes
 /// compiles (CondActsToNumeric, once its location words are numbers). Names of another
 /// dialect than the adventure's are unknown. Gives the first fault, or nullopt for a line that is valid; an
