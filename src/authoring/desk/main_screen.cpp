@@ -309,9 +309,9 @@ void MainScreen::Close() {
     message_.clear();
 }
 
-std::optional<TestRun> MainScreen::BeginRunTest() {
+std::optional<Trial> MainScreen::BeginTrial() {
     if (!desk_ || running_) return std::nullopt;
-    TestRun run{.file = desk_->document.File(), .trace = TraceMode(host_.settings)};
+    Trial run{.file = desk_->document.File(), .trace = TraceMode(host_.settings)};
     if (run.trace) run.debugAtOnce = host_.dialogs.Confirm("Debug immediately", "Run & Test");
     RememberView();
     const bool ready = Guard([&] { ReadInPlainOrder(desk_->document.Adventure()); });
@@ -320,7 +320,7 @@ std::optional<TestRun> MainScreen::BeginRunTest() {
     return run;
 }
 
-void MainScreen::EndRunTest() {
+void MainScreen::EndTrial() {
     if (!running_) return;
     running_ = false;
     Guard([&] { ReadAgain(); });

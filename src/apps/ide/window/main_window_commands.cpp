@@ -360,7 +360,7 @@ void MainWindow::ConvertTravelTable() {
 }
 
 void MainWindow::StartTest() {
-    const auto run = ide_.BeginRunTest();
+    const auto run = ide_.BeginTrial();
     if (!run) return ShowChanges();
     try {
         test_ = std::make_unique<TrialRun>(
@@ -386,7 +386,7 @@ void MainWindow::SoundFailed(const std::string& sentence) {
 
 void MainWindow::EndTest() {
     test_.reset();
-    ide_.EndRunTest();
+    ide_.EndTrial();
     show();
     activateWindow();
     ShowChanges();
