@@ -70,6 +70,7 @@ std::optional<ScreenRequest> CharacterSetScreen::Open() {
 }
 
 bool CharacterSetScreen::TakeFont() {
+    context_.document.CheckMayChange();
     platform::FileQuestion question;
     question.title = "Take Characters from a Font of 8 by 8";
     question.filter = "Font in the Bitmap Distribution Format|*.bdf|All Files|*.*";
