@@ -20,6 +20,7 @@
 #include "store/extensions.h"
 #include "store/file/file_copy.h"
 #include "store/game_source.h"
+#include "text/encoding/utf8.h"
 
 // The life of the window and of the adventure in it. What it shows is in main_screen_views.cpp, what it
 // does on command in main_screen_commands.cpp.
@@ -123,7 +124,10 @@ std::optional<std::filesystem::path> MainScreen::AskNewFile() {
     platform::FileQuestion question = AdventureQuestion("Create a Fabula Database", Folder());
     question.forWriting = true;
     question.asksToOverwrite = false;
-    return host_.dialogs.ChooseFile(question);
+    auto file = host_.dialogs.ChooseFile(question);
+    if (file && !text::EqualsNoCase(file->extension().string(), store::extension::kAdventure))
+        *file += store::extension::kAdventure;
+    return file;
 }
 
 bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup,

@@ -138,6 +138,10 @@ TEST_F(MainWindowTest, AsksForTheFileOfANewAdventure) {
     EXPECT_EQ(question.extension, "fbd");
     EXPECT_TRUE(question.forWriting);
     EXPECT_FALSE(question.asksToOverwrite);
+    for (const auto& [typed, made] : {std::pair("story.txt", "story.txt.fbd"), {"LOUD.FBD", "LOUD.FBD"}}) {
+        dialogs.AnswerFile(folder / typed);
+        EXPECT_EQ(main->AskNewFile(), folder / made);
+    }
 }
 
 TEST_F(MainWindowTest, OpensANewAdventureOnItsSettings) {
