@@ -70,8 +70,8 @@ GameScreen::GameScreen(platform::Timers& timers, ScreenEvents events)
 
 GameScreen::~GameScreen() = default;
 
-engine::WindowParts GameScreen::Parts() {
-    engine::WindowParts parts = WholeWindow::Parts();
+engine::WindowParts GameScreen::PartsWithPanes() {
+    engine::WindowParts parts = Parts();
     parts.measures = &kPanes;
     return parts;
 }

@@ -69,8 +69,8 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     /// To be called after each call of the game that may have made a turn.
     void ShowStep();
 
-    /// The parts of the screen, for the engine.
-    engine::WindowParts Parts();
+    /// The parts of the window, for the engine, with what it has to know of the panes.
+    engine::WindowParts PartsWithPanes();
 
     TextPane& Text() { return *text_; }
     CharacterPane& Characters() { return *characters_; }

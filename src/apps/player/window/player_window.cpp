@@ -69,7 +69,7 @@ PlayerWindow::PlayerWindow(const WindowServices& services)
               .trace = services.trace,
               .options = services.options},
              {.window = *screen_,
-              .parts = screen_->Parts(),
+              .parts = screen_->PartsWithPanes(),
               .attach = [this](PlayedGame* game) { Attach(game); },
               .say = [this](const std::string& sentence) { Tell(sentence); }}),
       findBar_(new FindBar(
