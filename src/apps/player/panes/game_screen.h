@@ -121,6 +121,8 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     ScreenLook look_;
     std::string typed_;  ///< what stands in the input
     bool turnMade_ = false;
+    bool begun_ = false;       ///< the panes show the game that is attached
+    bool lineUnseen_ = false;  ///< nothing of it was shown yet, since its opening is not for the player
     engine::TextStyle style_;  ///< of the latest run
     bool afterBlank_ = false;  ///< the latest run ended with a blank
     platform::Alarm timeOut_;

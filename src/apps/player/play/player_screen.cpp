@@ -33,9 +33,7 @@ bool PlayerScreen::Load(const std::filesystem::path& file) {
     game_ = std::move(opened);
     if (!host_.isTrial) host_.recent.AddMRUItem(std::filesystem::absolute(file));
     view_.attach(game_.get());
-    const bool resume = WantsToResume();
-    game_->Start();
-    if (resume && IsRunning()) game_->Resume();
+    if (!WantsToResume() || !game_->Resume()) game_->Start();
     return true;
 }
 
