@@ -132,7 +132,7 @@ TEST_F(Targets, AnAdventureIsNotCalledLikeAnotherKindOfFile) {
     EXPECT_EQ(Run({"new", File("plain")}).status, 0) << "a name without an ending is taken as it is";
 }
 
-TEST(CommandLine, AnUnknownOptionIsNamed) {
+TEST(UnknownOption, IsNamedWhereverItStands) {
     for (const std::vector<std::string>& arguments :
          {std::vector<std::string>{"--bogus"}, {"verify", "--bogus"}, {"--bogus", "verify", "game.fbd"}}) {
         const ProgramResult result = RunProgram(Program(), arguments, "");
