@@ -310,6 +310,21 @@ TEST_F(SettingsDialogTest, OpensInASizeThatHoldsItsColumns) {
     EXPECT_EQ(test::ScrollsSideways(*dialog_), 0);
 }
 
+TEST_F(SettingsDialogTest, ShowsTheWholeIfid) {
+    QFont large = QApplication::font();
+    const QFont before = large;
+    for (const int points : {9, 18}) {
+        large.setPointSize(points);
+        QApplication::setFont(large);
+        Open();
+        const QLineEdit& ifid = Part<QLineEdit>("ifid");
+        ASSERT_EQ(ifid.text().size(), 36);
+        EXPECT_GT(ifid.width(), ifid.fontMetrics().horizontalAdvance(ifid.text())) << points;
+        dialog_.reset();
+    }
+    QApplication::setFont(before);
+}
+
 TEST_F(SettingsDialogTest, FitsASmallScreen) {
     Open();
     dialog_->resize(640, 400);
