@@ -237,6 +237,7 @@ void PrintDialog::ClickSave() {
              .start = adventure.parent_path() / (adventure.stem().string() + "-listing.pdf")});
         if (!file) return false;
         WriteListing(*file, *job, services_.adventure);
+        saved_ = *file;
         accept();
         return true;
     });
