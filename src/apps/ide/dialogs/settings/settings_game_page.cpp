@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QTextDocument>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -28,7 +29,7 @@ namespace {
 
 constexpr int kBetweenColumns = 32;
 constexpr int kLettersOfASettingsColumn = 40;  ///< a column is not less wide
-constexpr int kLettersOfALine = 17;            ///< for which a QLineEdit asks for room
+constexpr int kLettersOfALineEdit = 17;        ///< for which a QLineEdit asks for room
 
 QLineEdit* NewLine(const std::string& text) {
     auto* line = new QLineEdit(qt::ToQt(text));
@@ -46,7 +47,8 @@ QCheckBox* NewSwitch(const QString& text, const char* name, bool on) {
 
 /// How wide a line has to be for all of its text to be seen.
 int WholeWidth(const QLineEdit& line) {
-    const int frame = line.sizeHint().width() - kLettersOfALine * line.fontMetrics().horizontalAdvance('x');
+    const int frame =
+        line.sizeHint().width() - kLettersOfALineEdit * line.fontMetrics().horizontalAdvance('x');
     return line.fontMetrics().horizontalAdvance(line.text()) + frame;
 }
 
@@ -147,6 +149,12 @@ void SettingsGamePage::AddGame(QFormLayout& form) {
     // The note is written for a caption, in which an ampersand is doubled.
     form.addRow(NewNote(qt::Translated(screen_.TypeNote()).replace("&&", "&"), "typeNote"));
     AddToForm(form, tr("Start &location:"), start_, "startPlace");
+    // A place may be called by more than a line shows.
+    const auto tellWhole = [this](const QString& place) {
+        start_->setToolTip(Qt::convertFromPlainText(place, Qt::WhiteSpaceNormal));
+    };
+    tellWhole(start_->currentText());
+    connect(start_, &QComboBox::currentTextChanged, this, tellWhole);
     AddToForm(form, tr("Maximum &objects:"), objects_, "maxObjects");
     AddToForm(form, tr("Maximum &weight:"), weight_, "maxWeight");
     weight_->setEnabled(screen_.HasWeights());

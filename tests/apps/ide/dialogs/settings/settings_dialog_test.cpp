@@ -325,6 +325,13 @@ TEST_F(SettingsDialogTest, ShowsTheWholeIfid) {
     QApplication::setFont(before);
 }
 
+TEST_F(SettingsDialogTest, ATipTellsTheWholeStartLocation) {
+    Open();
+    auto& start = Part<QComboBox>("startPlace");
+    start.setEditText("a place with a name that is longer than any line of the settings");
+    EXPECT_TRUE(start.toolTip().contains("longer than any line of the settings"));
+}
+
 TEST_F(SettingsDialogTest, FitsASmallScreen) {
     Open();
     dialog_->resize(640, 400);
