@@ -1,6 +1,5 @@
 #include "listings/table_titles.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "authoring/document/screen_context.h"
@@ -41,10 +40,6 @@ std::string PrintTitle(TableNum table, int process) {
         if (title.table == table && title.process == process) return std::string(title.title);
     }
     return "";
-}
-
-bool HasPrintTitle(TableNum table) {
-    return std::ranges::any_of(kTitles, [&](const TableTitle& title) { return title.table == table; });
 }
 
 }  // namespace fabula::listings

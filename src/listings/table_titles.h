@@ -10,7 +10,4 @@ namespace fabula::listings {
 /// of the others (authoring::kOtherProcesses). "" for a table without a listing.
 std::string PrintTitle(store::TableNum table, int process = 0);
 
-/// Whether the table has a listing, and thus a print window.
-bool HasPrintTitle(store::TableNum table);
-
 }  // namespace fabula::listings

@@ -88,11 +88,6 @@ const PackageRow* PackageList::Find(std::string_view name) const {
     return &*found;
 }
 
-bool PackageList::HasEngine() const {
-    return std::any_of(rows_.begin(), rows_.end(),
-                       [](const PackageRow& row) { return row.type == package_type::kEngine; });
-}
-
 bool PackageList::Add(std::string_view type, const std::string& name) {
     return !name.empty() && Insert({std::string(type), name, true});
 }

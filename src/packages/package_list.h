@@ -48,7 +48,6 @@ class PackageList {
     std::string ReadMeName() const { return AsFileName(facts_.Title()) + ".ReadMe"; }
 
     const PackageRow* Find(std::string_view name) const;
-    bool HasEngine() const;
 
     /// Adds a row in its place. False when the name is in the list.
     bool Add(std::string_view type, const std::string& name);

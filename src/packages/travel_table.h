@@ -24,7 +24,7 @@ struct TravelObject {
     std::vector<std::string> messages;  ///< behind the marks 000, 100, ... 500
 };
 
-/// What this system takes of the data file of a classic cave game.
+/// What Fabula takes of the data file of a classic cave game.
 struct TravelTable {
     std::vector<TravelRow> rows;       ///< in the order of the file
     std::map<int, std::string> words;  ///< the first word of each number

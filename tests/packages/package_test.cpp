@@ -94,10 +94,11 @@ TEST(IncludeEngine, TakesThatOfTheFolderFromVersionSixOn) {
     EXPECT_EQ(IncludeEngine(game.Adventure(), list, {}), "Engine not found on folder for this database");
     game.Write("fabulaengine.exe", engine(5));
     EXPECT_EQ(IncludeEngine(game.Adventure(), list, {}), "Wrong version of Engine. Must be 6.0 or above.");
-    EXPECT_FALSE(list.HasEngine());
+    EXPECT_FALSE(list.Find("fabulaengine.exe"));
     game.Write("fabulaengine.exe", engine(6));
     EXPECT_EQ(IncludeEngine(game.Adventure(), list, {}), "");
-    EXPECT_TRUE(list.HasEngine());
+    ASSERT_TRUE(list.Find("fabulaengine.exe"));
+    EXPECT_EQ(list.Find("fabulaengine.exe")->type, package_type::kEngine);
 }
 
 TEST(IncludeEngine, TakesTheInstalledOneWhereTheFolderHasNone) {

@@ -5,9 +5,11 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
+#include "cli/host/standard_output.h"
 #include "cli/verbs.h"
 #include "platform/error.h"
 #include "store/filter/filter.h"
@@ -24,10 +26,14 @@ int Fail(const std::string& sentence, int status) {
     return status;
 }
 
-/// What the parser refuses, in one line.
-int FailUsage(const CLI::ParseError& error) {
+/// What the parser refuses, in one line. What it does not know comes before what it misses: that may be
+/// meant by it.
+int FailUsage(const CLI::App& app, const CLI::ParseError& error) {
     constexpr std::string_view kNoValue = "Could not convert: ";
+    const std::vector<std::string> unknown = app.remaining(true);
     std::string sentence = error.what();
+    if (!unknown.empty() && unknown.front().starts_with('-'))
+        sentence = "There is no option '" + unknown.front() + "'";
     if (sentence.starts_with(kNoValue)) sentence = sentence.substr(kNoValue.size()) + " is no value for it";
     return Fail(sentence + "; --help tells more.", cli::kWrongUsage);
 }
@@ -53,11 +59,10 @@ int FailWithCaught(const std::string& doing) {
     }
 }
 
-int RunChosen(const cli::Chosen& chosen, const std::string& verb) {
+int RunChosen(const cli::Chosen& chosen, const std::string& verb, cli::StandardOutput& output) {
     try {
         const int status = chosen.body();
-        std::cout.flush();
-        if (!std::cout) throw Error("Could not write the output.");
+        output.Finish();
         return status;
     } catch (...) {
         return FailWithCaught("'fabula " + verb + "' ran");
@@ -83,6 +88,7 @@ bool IsNoVerb(std::string_view first) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+    cli::StandardOutput output;
     CLI::App app("Makes and plays text adventures.", "fabula");
     app.set_version_flag("--version", "fabula " FABULA_VERSION);
     app.require_subcommand(1);
@@ -95,14 +101,12 @@ int main(int argc, char** argv) try {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() != 0) return FailUsage(error);
+        if (error.get_exit_code() != 0) return FailUsage(app, error);
         app.exit(error);
-        std::cout.flush();
-        if (std::cout) return cli::kDone;
-        std::cerr << "fabula: Could not write the output.\n";
-        return cli::kFailed;
+        output.Finish();
+        return cli::kDone;
     }
-    return RunChosen(chosen, app.get_subcommands().front()->get_name());
+    return RunChosen(chosen, app.get_subcommands().front()->get_name(), output);
 } catch (...) {
     return FailWithCaught("the command line was read");
 }

@@ -4,6 +4,8 @@
 
 #include "cli/verb.h"
 #include "platform/error.h"
+#include "store/extensions.h"
+#include "text/encoding/utf8.h"
 
 namespace fabula::cli {
 
@@ -14,6 +16,11 @@ void CheckTarget(const Target& target, platform::Person& person) {
     if (store::IsSameFile(target.file, target.source))
         throw Error("Could not write " + name + ": it is the source itself.");
     store::CheckTarget(target.file, target.content, target.extension);
+    const std::string ending = target.file.extension().string();
+    if (target.content == store::Content::Adventure && !store::IsStream(target.file) && !ending.empty() &&
+        !text::EqualsNoCase(ending, store::extension::kAdventure))
+        throw Error("Could not write " + name + ": the name of an adventure ends in " +
+                    std::string(store::extension::kAdventure) + ", not in " + ending + ".");
     std::error_code error;  // what can't be looked at fails when it is written
     const bool replaces = target.file != store::kStandardOutput && !store::IsStream(target.file) &&
                           std::filesystem::exists(target.file, error);

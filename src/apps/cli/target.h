@@ -18,9 +18,9 @@ struct Target {
     bool force = false;
 };
 
-/// Makes sure that the file may be written: that it is not its own source and that store::CheckTarget has
-/// nothing against it; and when there is a file already, that it was to be replaced (--force) or that the
-/// person agrees. Throws fabula::Error otherwise.
+/// Makes sure that the file may be written: that it is not its own source, that an adventure is not called
+/// like another kind of file, and that store::CheckTarget has nothing against it; and when there is a file
+/// already, that it was to be replaced (--force) or that the person agrees. Throws fabula::Error otherwise.
 void CheckTarget(const Target& target, platform::Person& person);
 
 }  // namespace fabula::cli

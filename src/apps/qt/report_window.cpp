@@ -45,9 +45,9 @@ ReportWindow::ReportWindow(std::string_view text, std::string_view title, Answer
     auto* buttons = new QDialogButtonBox(
         answer == Answer::Close ? QDialogButtonBox::Close : QDialogButtonBox::Ok | QDialogButtonBox::Cancel,
         this);
-    connect(AddAction(*buttons, tr("&Print…"), "print"), &QPushButton::clicked, this,
+    connect(AddAction(*buttons, tr("&Print..."), "print"), &QPushButton::clicked, this,
             [this] { print(*pane_->document()); });
-    connect(AddAction(*buttons, tr("&Save…"), "save"), &QPushButton::clicked, this, [this] { Save(); });
+    connect(AddAction(*buttons, tr("&Save..."), "save"), &QPushButton::clicked, this, [this] { Save(); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);

@@ -1,8 +1,11 @@
 #include "terminal/output.h"
 
 #include <cerrno>
+#include <system_error>
 
 #include <unistd.h>
+
+#include "platform/error.h"
 
 namespace fabula::terminal {
 namespace {
@@ -20,15 +23,20 @@ void Output::Write(std::string_view text) {
 
 void Output::Flush() {
     std::string_view rest = buffer_;
-    while (descriptor_ != kNowhere && !rest.empty() && !failed_) {
+    while (descriptor_ != kNowhere && !rest.empty() && !Failed()) {
         const ssize_t written = write(descriptor_, rest.data(), rest.size());
         if (written >= 0) {
             rest.remove_prefix(static_cast<std::size_t>(written));
         } else if (errno != EINTR) {
-            failed_ = true;
+            error_ = errno;
         }
     }
     buffer_.clear();
+}
+
+void Output::Check() const {
+    if (Failed())
+        throw Error("Could not write the output: " + std::generic_category().message(error_) + ".");
 }
 
 }  // namespace fabula::terminal

@@ -136,7 +136,7 @@ void Screen::Finish() {
 }
 
 void Screen::Check() const {
-    if (output_.Failed()) throw Error("Could not write the output.");
+    output_.Check();
     if (transcript_ && transcript_->Failed()) throw Error("Could not write the transcript.");
 }
 

@@ -2,6 +2,7 @@
 #include <optional>
 
 #include "authoring/batch/batch_work.h"
+#include "authoring/fields/picture_choice.h"
 #include "authoring/fields/record_comment.h"
 #include "condacts/limits.h"
 #include "pictures/book_loader.h"
@@ -63,7 +64,7 @@ bool StoreFile(BatchWork& work, const BatchChange& change, store::Cursor& record
     const std::string name(text::TrimBlanks(*typed));
     const auto found = store::FindGameFile(work.Adventure().GameDir(), name).fault;
     if (!name.empty() && found == store::GamePath::Fault::Outside)
-        return change.Refuse("picname", "The Picture must be at or below the directory of the game");
+        return change.Refuse("picname", kPictureOutside);
     record.SetField("picname", name);
     return true;
 }

@@ -1,5 +1,6 @@
 #include "authoring/batch/batch_work.h"
 
+#include "authoring/fields/picture_choice.h"
 #include "store/game_path.h"
 #include "text/encoding/utf8.h"
 #include "text/str_edit.h"
@@ -44,7 +45,7 @@ bool CheckPictureFile(BatchWork& work, const BatchChange& change, std::string_vi
     if (!name || text::TrimBlanks(*name).empty()) return true;
     switch (store::FindGameFile(work.Adventure().GameDir(), *name).fault) {
         case store::GamePath::Fault::Outside:
-            return change.Refuse(field, "The Picture must be at or below the directory of the game");
+            return change.Refuse(field, kPictureOutside);
         case store::GamePath::Fault::Missing:
             return change.Refuse(field, "There is no picture " + *name + " in the game's folder.");
         case store::GamePath::Fault::None:

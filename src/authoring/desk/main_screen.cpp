@@ -10,6 +10,7 @@
 #include "authoring/files/backups.h"
 #include "authoring/files/may_replace.h"
 #include "authoring/files/start_up.h"
+#include "authoring/files/starter_file.h"
 #include "authoring/files/version_numbers.h"
 #include "authoring/files/work_files.h"
 #include "interchange/starter.h"
@@ -45,10 +46,6 @@ void MarkAsNew(store::Adventure& adventure) {
     system.SetField("flagchange", std::int64_t{1});
     system.Update();
     transaction.Commit();
-}
-
-std::filesystem::path StarterFor(const std::filesystem::path& defaultData, store::AdventureKind kind) {
-    return defaultData.parent_path() / "starters" / (text::LowerCase(store::NameOf(kind)) + ".ini");
 }
 
 }  // namespace
@@ -127,7 +124,10 @@ std::optional<std::filesystem::path> MainScreen::AskNewFile() {
     platform::FileQuestion question = AdventureQuestion("Create a Fabula Database", Folder());
     question.forWriting = true;
     question.asksToOverwrite = false;
-    return host_.dialogs.ChooseFile(question);
+    auto file = host_.dialogs.ChooseFile(question);
+    if (file && !text::EqualsNoCase(file->extension().string(), store::extension::kAdventure))
+        *file += store::extension::kAdventure;
+    return file;
 }
 
 bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::AdventureSetup& setup,
@@ -141,7 +141,7 @@ bool MainScreen::NewAdventure(const std::filesystem::path& file, const store::Ad
     Guard([&] {
         store::CreateAdventure(file, setup, host, [&](store::Adventure& adventure) {
             MarkAsNew(adventure);
-            if (starter) interchange::AddStarter(adventure, StarterFor(paths_.defaultData, setup.Type()));
+            if (starter) interchange::AddStarter(adventure, StarterFile(paths_.defaultData, setup.Type()));
         });
         created = true;
         host_.dialogs.Tell(file.filename().string() + " DataBase Created", kProgramName);
@@ -313,9 +313,9 @@ void MainScreen::Close() {
     message_.clear();
 }
 
-std::optional<TestRun> MainScreen::BeginRunTest() {
+std::optional<Trial> MainScreen::BeginTrial() {
     if (!desk_ || running_) return std::nullopt;
-    TestRun run{.file = desk_->document.File(), .trace = TraceMode(host_.settings)};
+    Trial run{.file = desk_->document.File(), .trace = TraceMode(host_.settings)};
     if (run.trace) run.debugAtOnce = host_.dialogs.Confirm("Debug immediately", "Run & Test");
     RememberView();
     const bool ready = Guard([&] { ReadInPlainOrder(desk_->document.Adventure()); });
@@ -324,7 +324,7 @@ std::optional<TestRun> MainScreen::BeginRunTest() {
     return run;
 }
 
-void MainScreen::EndRunTest() {
+void MainScreen::EndTrial() {
     if (!running_) return;
     running_ = false;
     Guard([&] { ReadAgain(); });

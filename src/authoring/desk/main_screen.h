@@ -51,8 +51,8 @@ struct IdePaths {
     std::string version;  ///< of the running program: "major.minor.revision"
 };
 
-/// How a game is to be tested.
-struct TestRun {
+/// How the author wants to try the game.
+struct Trial {
     std::filesystem::path file;
     bool trace = false;  ///< trace mode is on
     bool debugAtOnce =
@@ -192,10 +192,10 @@ class MainScreen {
     std::optional<int> PictureTarget() const;
     void PicturesLoaded(int changesBefore);
 
-    /// Begins a test of the open adventure; nullopt when there is none. The window then hides, shows the
-    /// engine's window on the file, and calls EndRunTest when that has closed.
-    std::optional<TestRun> BeginRunTest();
-    void EndRunTest();
+    /// Begins a trial of the open adventure; nullopt when there is none. The window then hides, shows the
+    /// engine's window on the file, and calls EndTrial when that has closed.
+    std::optional<Trial> BeginTrial();
+    void EndTrial();
 
     /// The record of the current row, where a pane beside the rows can show its screen; nullopt where it
     /// can't be edited, or its editor needs a window of its own. What the pane stores then is told by

@@ -97,6 +97,10 @@ void Document::TellOf(std::string_view changes) const {
     if (onChange) onChange(changes);
 }
 
+void Document::CheckMayChange() {
+    const store::Transaction nothing(*adventure_);
+}
+
 Change::Change(Document& document, std::string name)
     : document_(document), name_(std::move(name)), transaction_(document.Adventure()) {
     if (document_.depth_ == 0) recorder_.emplace(document.Adventure());

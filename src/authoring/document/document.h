@@ -45,6 +45,8 @@ class Document {
     store::Adventure& Adventure() { return *adventure_; }
     /// Whether the adventure is open for reading only.
     bool IsReadOnly() const { return !log_; }
+    /// Throws what a change would throw that can't be written: before the author is asked for more.
+    void CheckMayChange();
     const std::filesystem::path& File() const { return adventure_->CurrentFile(); }
 
     /// The name of the change that `Undo` would take back or `Redo` make again ("delete word LAMP");

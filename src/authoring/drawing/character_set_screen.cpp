@@ -57,11 +57,6 @@ void CharacterSetScreen::Choose(std::size_t character) {
     if (character < characters_.size()) chosen_ = character;
 }
 
-void CharacterSetScreen::MoveChoice(int by) {
-    const auto target = static_cast<std::ptrdiff_t>(chosen_) + by;
-    if (target >= 0) Choose(static_cast<std::size_t>(target));
-}
-
 std::optional<ScreenRequest> CharacterSetScreen::Open() {
     if (characters_.empty()) return std::nullopt;
     const int number = characters_[chosen_].number;
@@ -75,6 +70,7 @@ std::optional<ScreenRequest> CharacterSetScreen::Open() {
 }
 
 bool CharacterSetScreen::TakeFont() {
+    context_.document.CheckMayChange();
     platform::FileQuestion question;
     question.title = "Take Characters from a Font of 8 by 8";
     question.filter = "Font in the Bitmap Distribution Format|*.bdf|All Files|*.*";

@@ -25,8 +25,6 @@ class CharacterSetScreen {
     const std::vector<pictures::Character>& Characters() const { return characters_; }
     std::size_t Chosen() const { return chosen_; }
     void Choose(std::size_t character);
-    /// Moves the choice by so many characters, as far as there are any.
-    void MoveChoice(int by);
 
     /// The colours of the adventure, as palette numbers.
     int Ink() const { return ink_; }

@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include "authoring/drawing/picture_editor.h"
+#include "authoring/fields/picture_choice.h"
 #include "pictures/drawing.h"
 #include "pictures/drawstring.h"
 #include "pictures/drawstring_check.h"
@@ -19,12 +20,6 @@ namespace fs = std::filesystem;
 
 using store::TableNum;
 
-namespace {
-
-constexpr std::string_view kOutside = "The Picture must be at or below the directory of the game";
-
-}  // namespace
-
 bool PictureEditor::Browse() {
     const fs::path folder = Adventure().GameDir();
     platform::FileQuestion question;
@@ -41,7 +36,7 @@ bool PictureEditor::Browse() {
     const std::optional<fs::path> file = Dialogs().ChooseFile(question);
     if (!file) return false;
     const std::optional<std::string> stored = store::PathInGame(folder, *file);
-    if (!stored) return Refuse(Dialogs(), kOutside);
+    if (!stored) return Refuse(Dialogs(), kPictureOutside);
     fileName = *stored;
     return true;
 }
@@ -66,7 +61,7 @@ bool PictureEditor::UpdateFields() {
     bool saveBitmap = good && !fileName.empty();
     if (saveBitmap) {
         const fs::path file = BitmapFile();
-        if (!store::PathInGame(Adventure().GameDir(), file)) return Refuse(Dialogs(), kOutside);
+        if (!store::PathInGame(Adventure().GameDir(), file)) return Refuse(Dialogs(), kPictureOutside);
         std::error_code error;
         if (fs::exists(file, error))
             saveBitmap = Dialogs().Confirm("File " + fileName + " Exists. OverWrite", "File Exists");

@@ -33,9 +33,6 @@ struct ScreenRequest {
     SettingsBefore settings = {};
 };
 
-/// The commands on the entries of a table.
-enum class EntryCommand { Add, AddBefore, Edit, Delete };
-
 /// Add entry, Add entry before, Edit entry and Delete entry, on the table and the record that the context
 /// stands on (`currentTable`, `currentEntry`, `currentESNum`). They number new records, keep the limits of
 /// the adventure's type, and do to the other tables what a deletion asks for. Questions, refusals and

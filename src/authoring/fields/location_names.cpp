@@ -42,4 +42,11 @@ std::string NameIn(const std::vector<ListItem>& locations, condacts::PlaceNumber
     return found == locations.end() ? "" : found->text;
 }
 
+std::string NoSuchLocation(std::string_view number, std::string_view word) {
+    std::string message = "There is not a location with a number of ";
+    message += number;
+    if (!word.empty()) message.append(" for ").append(word);
+    return message;
+}
+
 }  // namespace fabula::authoring

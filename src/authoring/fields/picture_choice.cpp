@@ -24,16 +24,15 @@ fs::path StartOf(const fs::path& folder, std::string_view current) {
 /// Copies a picture from elsewhere to where the author says.
 std::optional<std::string> CopyIntoGame(ScreenContext& context, const fs::path& picture) {
     const fs::path folder = context.document.Adventure().GameDir();
-    const bool wanted = context.dialogs.Confirm(
-        "The Picture must be at or below the directory of the game\nWould you like to copy it there",
-        "Error");
-    if (!wanted) return std::nullopt;
-    platform::FileQuestion question;
-    question.title = "Save Name for Fabula Directory Tree";
-    question.filter = "All Files|*.*";
-    question.forWriting = true;
-    question.start = folder / picture.filename();
-    const std::optional<fs::path> copy = context.dialogs.ChooseFile(question);
+    std::string question(kPictureOutside);
+    question += "\nWould you like to copy it there";
+    if (!context.dialogs.Confirm(question, "Error")) return std::nullopt;
+    platform::FileQuestion target;
+    target.title = "Save Name for Fabula Directory Tree";
+    target.filter = "All Files|*.*";
+    target.forWriting = true;
+    target.start = folder / picture.filename();
+    const std::optional<fs::path> copy = context.dialogs.ChooseFile(target);
     if (!copy) return std::nullopt;
     std::optional<std::string> stored = store::PathInGame(folder, *copy);
     if (!stored) {

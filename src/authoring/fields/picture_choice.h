@@ -9,6 +9,10 @@
 
 namespace fabula::authoring {
 
+/// What is told of a picture elsewhere than in the game's folder.
+inline constexpr std::string_view kPictureOutside =
+    "The Picture must be at or below the directory of the game";
+
 /// The button `ChoosePicture`: lets the author choose a picture's file, in a box with this title. It must
 /// lie at or below the game's folder; a copy of one that does not is offered, under a name that the author
 /// gives. `current` is the picture so far, or "". Gives the path for the record, relative to the game's

@@ -207,11 +207,6 @@ std::vector<CountDifference> CompareCounts(store::Adventure& backup, store::Adve
     return differences;
 }
 
-void RestoreBackup(const path& backup, const path& target) {
-    // The copy that an upgrade left is of the older form.
-    store::Adventure::Open(backup, store::OpenMode::ReadOnly, store::Ages::Any)->SaveCopy(target);
-}
-
 void BackUpAtOpening(Backups& backups, store::Adventure& adventure, platform::Person& person) {
     try {
         backups.Add(adventure);

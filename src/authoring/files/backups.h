@@ -63,10 +63,6 @@ struct CountDifference {
 /// The tables whose counts differ, in the order of their numbers.
 std::vector<CountDifference> CompareCounts(store::Adventure& backup, store::Adventure& now);
 
-/// Puts a backup in the place of `target`, which must not be open for change: a document is closed before.
-/// Throws fabula::Error; `target` is then as it was.
-void RestoreBackup(const std::filesystem::path& backup, const std::filesystem::path& target);
-
 /// Makes the backup copy of an adventure that was just opened. When that fails the person is told, and work
 /// goes on.
 void BackUpAtOpening(Backups& backups, store::Adventure& adventure, platform::Person& person);

@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include "authoring/fields/location_names.h"
 #include "condacts/language/parser.h"
 #include "condacts/object_attributes.h"
 #include "condacts/places.h"
@@ -65,8 +66,7 @@ class Search {
     void CheckStart() {
         PreparedQuery settings = adventure_.Prepare(TableNum::Adventure, "startloc", "");
         if (!settings.First({}) || IsRoom(PlaceIn(settings, 0))) return;
-        Add(TableNum::Adventure, 0, "startloc",
-            "There is not a location with a number of " + std::to_string(settings.Number(0)));
+        Add(TableNum::Adventure, 0, "startloc", NoSuchLocation(std::to_string(settings.Number(0))));
     }
 
     void CheckExits() {
@@ -90,8 +90,7 @@ class Search {
         const std::string_view to = i + 1 < numbers.size() ? numbers[i + 1].text : std::string_view();
         const auto destination = condacts::NumberOfToken(to);
         if (destination && IsRoom(PlaceNumber(*destination))) return;
-        Add(TableNum::Locations, room.value, "exits",
-            "There is not a location with a number of " + std::string(to) + " for " + word, i + 1);
+        Add(TableNum::Locations, room.value, "exits", NoSuchLocation(to, word), i + 1);
     }
 
     void CheckObjects() {

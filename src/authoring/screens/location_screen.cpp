@@ -162,13 +162,10 @@ bool LocationScreen::Exists(PlaceNumber location) const {
 
 /// `word` is that of the exit; "" for the location alone.
 std::string LocationScreen::FaultOfLocation(std::string_view number, std::string_view word) const {
-    const std::string typed(number);
     const std::string of(word);
     const std::optional<PlaceNumber> location = LocationNumber(number);
     if (!location) return "TO location " + (of.empty() ? "" : "for " + of) + "must be numeric";
-    if (Exists(*location)) return "";
-    const std::string message = "There is not a location with a number of " + typed;
-    return of.empty() ? message : message + " for " + of;
+    return Exists(*location) ? "" : NoSuchLocation(number, word);
 }
 
 bool LocationScreen::CheckLocation(std::string_view control, std::string_view number,

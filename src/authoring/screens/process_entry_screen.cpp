@@ -289,7 +289,7 @@ bool ProcessEntryScreen::UpdateFields() {
         !AddPending())
         return false;
     line = condacts::LocationWordsToNumbers(line, help_.Catalogue());
-    if (line.empty()) return RefuseField("line", "Cannot have a record with no Condition/Actions");
+    if (line.empty()) return RefuseField("line", condacts::kNoCondActs);
     Change change(context_.document, ChangeName());
     Store(change);
     change.Commit();

@@ -183,7 +183,7 @@ bool SettingsScreen::LeaveStartPlace() {
     const bool exists = number && std::any_of(startPlace.items.begin(), startPlace.items.end(),
                                               [&](const ListItem& item) { return item.number == *number; });
     if (exists) return true;
-    return RefuseField("startPlace", "There is not a location with a number of " + typed);
+    return RefuseField("startPlace", NoSuchLocation(typed));
 }
 
 bool SettingsScreen::CheckNumber(std::string_view control, std::string_view what, std::string_view typed,

@@ -122,6 +122,26 @@ TEST_F(Targets, AReadOnlyFileIsKeptWithForceToo) {
     EXPECT_EQ(Content(File("out.txt")), "precious");
 }
 
+TEST_F(Targets, AnAdventureIsNotCalledLikeAnotherKindOfFile) {
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"new", File("x.txt")},
+                                                      {"import", "ace", File("game.txt"), File("x.txt")}}) {
+        ExpectRefused(arguments, File("x.txt"), "the name of an adventure ends in .fbd, not in .txt");
+        EXPECT_FALSE(fs::exists(File("x.txt")));
+    }
+    EXPECT_EQ(Run({"new", File("LOUD.FBD")}).status, 0);
+    EXPECT_EQ(Run({"new", File("plain")}).status, 0) << "a name without an ending is taken as it is";
+}
+
+TEST(UnknownOption, IsNamedWhereverItStands) {
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"--bogus"}, {"verify", "--bogus"}, {"--bogus", "verify", "game.fbd"}}) {
+        const ProgramResult result = RunProgram(Program(), arguments, "");
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors, "fabula: There is no option '--bogus'; --help tells more.\n")
+            << arguments[0];
+    }
+}
+
 TEST_F(Targets, ADeviceIsWrittenToWithoutForce) {
     EXPECT_EQ(Run({"export", "ace", File("game.fbd"), "/dev/null"}).status, 0);
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
@@ -153,7 +173,21 @@ TEST(FullDisk, AHelpThatCanNotBeWrittenIsToldInOneSentence) {
                                 "exec \"$0\" dump --help >/dev/full"}) {
         const ProgramResult result = RunProgram("/bin/sh", {"-c", command, Program()});
         EXPECT_EQ(result.status, 1) << command;
-        EXPECT_EQ(result.errors, "fabula: Could not write the output.\n") << command;
+        EXPECT_EQ(result.errors, "fabula: Could not write the output: No space left on device.\n")
+            << command;
+    }
+}
+
+TEST_F(Targets, AnOutputThatCanNotBeWrittenIsToldWithTheReasonByEveryVerb) {
+    const std::vector<std::string> verbs = {
+        "dump \"$1\" Locations", "uses \"$1\" location 0", "verify \"$1\"",
+        "list \"$1\" locations", "tables \"$1\"",          "play \"$1\" </dev/null",
+    };
+    for (const std::string& verb : verbs) {
+        const std::string command = "exec \"$0\" " + verb + " >/dev/full";
+        const ProgramResult result = RunProgram("/bin/sh", {"-c", command, Program(), File("game.fbd")});
+        EXPECT_EQ(result.status, 1) << verb;
+        EXPECT_EQ(result.errors, "fabula: Could not write the output: No space left on device.\n") << verb;
     }
 }
 

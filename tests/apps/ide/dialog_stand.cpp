@@ -275,7 +275,7 @@ Opened OpenQuickList(Desk&) {
     struct Parts {
         static QString Word(const char* caption) { return QCoreApplication::translate("Fabula", caption); }
         ide::QuickListDialog dialog{
-            Word("Go To"), Word("m40, lantern, get lamp ..."), [](const std::string&) {
+            Word("Go To"), Word("m40, lantern, get lamp, messages ..."), [](const std::string&) {
                 return std::vector<std::string>{"location 0: The hall", "object 0: a brass lamp"};
             }};
     };

@@ -11,8 +11,8 @@
 
 namespace fabula::test {
 
-PlayedWindow::PlayedWindow(bool testRun)
-    : testRun_(testRun), settings_(qt::PathToQt(folder / "settings.ini"), QSettings::IniFormat) {
+PlayedWindow::PlayedWindow(bool isTrial)
+    : isTrial_(isTrial), settings_(qt::PathToQt(folder / "settings.ini"), QSettings::IniFormat) {
     Open();
 }
 
@@ -26,7 +26,7 @@ void PlayedWindow::Open() {
                                .random = random,
                                .settings = settings_,
                                .dataFolder = folder / "data",
-                               .testRun = testRun_,
+                               .isTrial = isTrial_,
                                .help = [this](const qt::HelpTopic& topic) { asked = topic; }});
     window_->show();
     QApplication::setActiveWindow(window_.get());

@@ -18,8 +18,8 @@ namespace fabula::test {
 /// is shown and given keys as a person would.
 class PlayedWindow {
   public:
-    /// `testRun`: as the authoring tool shows it.
-    explicit PlayedWindow(bool testRun = false);
+    /// `isTrial`: as the authoring tool shows it.
+    explicit PlayedWindow(bool isTrial = false);
     ~PlayedWindow();
 
     /// Writes a game into the folder and loads it.
@@ -56,7 +56,7 @@ class PlayedWindow {
   private:
     void Open();
 
-    bool testRun_;
+    bool isTrial_;
     QSettings settings_;
     std::unique_ptr<player::PlayerWindow> window_;
     std::size_t told_ = 0;

@@ -273,6 +273,12 @@ void ResumeInRoom1(PlayedWindow& played) {
     ASSERT_TRUE(played.Text().ends_with("Room 1?\n>")) << played.Text();
 }
 
+TEST(WindowCommands, AResumedGameShowsItsPlaceAndNotItsOpening) {
+    PlayedWindow played;
+    ResumeInRoom1(played);
+    EXPECT_EQ(played.Text(), "Room 1?\n>");
+}
+
 TEST(WindowCommands, UndoAfterResumeGoesBackToWhereTheSessionWasResumedAndNoFurther) {
     PlayedWindow played;
     ResumeInRoom1(played);

@@ -137,7 +137,7 @@ TEST_F(CommandsTest, OfTheSettingsHaveNoFind) {
 
 TEST_F(CommandsTest, AreOffWhileTheGameRuns) {
     OpenNew();
-    main->BeginRunTest();
+    main->BeginTrial();
     EXPECT_THAT(Enabled(*main), IsEmpty());
     EXPECT_EQ(StateOf(Command::Open).why, "The game is being tested.");
 }

@@ -138,6 +138,10 @@ TEST_F(MainWindowTest, AsksForTheFileOfANewAdventure) {
     EXPECT_EQ(question.extension, "fbd");
     EXPECT_TRUE(question.forWriting);
     EXPECT_FALSE(question.asksToOverwrite);
+    for (const auto& [typed, made] : {std::pair("story.txt", "story.txt.fbd"), {"LOUD.FBD", "LOUD.FBD"}}) {
+        dialogs.AnswerFile(folder / typed);
+        EXPECT_EQ(main->AskNewFile(), folder / made);
+    }
 }
 
 TEST_F(MainWindowTest, OpensANewAdventureOnItsSettings) {
@@ -417,13 +421,13 @@ TEST_F(MainWindowTest, PutsSortOrdersBackForATestAndRestoresThemBehindIt) {
     ASSERT_TRUE(main->OpenSort().Update());
     main->SortClosed();
     EXPECT_EQ(Adventure().Sorts().objects, "objweight, objnum");
-    const auto run = main->BeginRunTest();
+    const auto run = main->BeginTrial();
     ASSERT_TRUE(run.has_value());
     EXPECT_EQ(run->file, folder / "game.fbd");
     EXPECT_FALSE(run->trace);
     EXPECT_EQ(Adventure().Sorts().objects, "objnum");
     EXPECT_EQ(main->GetState(), State::EngineRunning);
-    main->EndRunTest();
+    main->EndTrial();
     EXPECT_EQ(Adventure().Sorts().objects, "objweight, objnum");
     EXPECT_EQ(main->GetState(), State::Open);
 }
@@ -434,8 +438,8 @@ TEST_F(MainWindowTest, ComesBackFromATestToTheSameRow) {
         StoreMessage(number, "text");
     main->Show({TableNum::Messages});
     main->SelectRow(3);
-    main->BeginRunTest();
-    main->EndRunTest();
+    main->BeginTrial();
+    main->EndTrial();
     EXPECT_EQ(main->Grid().View(), TableView{TableNum::Messages});
     EXPECT_EQ(main->CurrentRow(), 3);
 }
@@ -444,22 +448,22 @@ TEST_F(MainWindowTest, AsksInTraceModeWhetherToDebugImmediately) {
     OpenNew();
     main->Run(Command::Trace);
     dialogs.AnswerNext(true);
-    auto run = main->BeginRunTest();
+    auto run = main->BeginTrial();
     EXPECT_EQ(dialogs.Boxes().at(0).text, "Debug immediately");
     EXPECT_TRUE(run->trace);
     EXPECT_TRUE(run->debugAtOnce);
-    main->EndRunTest();
+    main->EndTrial();
     dialogs.AnswerNext(false);
-    run = main->BeginRunTest();
+    run = main->BeginTrial();
     EXPECT_TRUE(run->trace);
     EXPECT_FALSE(run->debugAtOnce);
 }
 
 TEST_F(MainWindowTest, TestsNothingWithoutAnAdventureAndNoGameTwice) {
-    EXPECT_EQ(main->BeginRunTest(), std::nullopt);
+    EXPECT_EQ(main->BeginTrial(), std::nullopt);
     OpenNew();
-    EXPECT_TRUE(main->BeginRunTest().has_value());
-    EXPECT_EQ(main->BeginRunTest(), std::nullopt);
+    EXPECT_TRUE(main->BeginTrial().has_value());
+    EXPECT_EQ(main->BeginTrial(), std::nullopt);
 }
 
 }  // namespace

@@ -50,18 +50,6 @@ TEST_F(Upgrades, TheFileAsItWasIsKeptAsABackupCopy) {
               "0");
 }
 
-TEST_F(Upgrades, TheFileAsItWasCanBeRestored) {
-    const auto file = MakeOld(kWithoutSource);
-    EXPECT_TRUE(stand_.main->OpenFile(file));
-    stand_.main->Close();
-    const Backups backups(stand_.paths.state / "backups", stand_.clock);
-    ASSERT_EQ(backups.Of(file).size(), 1u);
-    RestoreBackup(backups.Of(file)[0], file);
-    EXPECT_EQ(test::RawDatabase(file).Ask(
-                  "SELECT count(*) FROM pragma_table_info('Adventure') WHERE name='source'"),
-              "0");
-}
-
 TEST_F(Upgrades, AnUpgradedFileIsOpenForChangeOnce) {
     const auto file = MakeOld(kWithoutSource);
     EXPECT_TRUE(stand_.main->OpenFile(file));

@@ -214,7 +214,7 @@ TEST_F(CharacterSetScreenTest, OpensTheEditorOfTheChosenCharacter) {
     ASSERT_TRUE(request);
     EXPECT_EQ(request->screen, authoring::Screen::Character);
     EXPECT_EQ(request->key.key, 1);
-    screen.MoveChoice(20);
+    screen.Choose(21);
     EXPECT_FALSE(screen.Open());
     EXPECT_THAT(desk_.Boxes(), ElementsAre("Character 37 cannot be edited"));
     screen.Show(1);
@@ -319,15 +319,13 @@ TEST_F(ReadOnlyCharacters, AreShownAndNotStored) {
     EXPECT_FALSE(reader_.UndoName());
 }
 
-TEST_F(ReadOnlyCharacters, TakeNoFont) {
+TEST_F(ReadOnlyCharacters, TakeNoFontAndAreRefusedBeforeOneIsAskedFor) {
     const Snapshot before = desk_.Everything();
     authoring::CharacterSetScreen screen(context_);
     screen.Show(1);
-    desk_.dialogs.AnswerFile(Write("tiny.bdf",
-                                   "STARTFONT 2.1\nFONTBOUNDINGBOX 8 8 0 0\nSTARTCHAR A\nENCODING 65\n"
-                                   "BBX 8 1 0 0\nBITMAP\n01\nENDCHAR\nENDFONT\n"));
     EXPECT_EQ(RefusalOf([&] { screen.TakeFont(); }),
               "Could not write to the adventure: it can only be read.");
+    EXPECT_TRUE(desk_.dialogs.Questions().empty());
     EXPECT_EQ(desk_.Everything(), before);
     EXPECT_FALSE(reader_.UndoName());
 }

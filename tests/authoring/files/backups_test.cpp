@@ -159,25 +159,6 @@ TEST_F(BackupsTest, AreComparedByTheCountsOfTheirRecords) {
     EXPECT_EQ(CompareCounts(*backup, *adventure_), expected);
 }
 
-TEST_F(BackupsTest, AreRestoredInThePlaceOfAClosedAdventure) {
-    Rename("First");
-    const auto copy = backups_.Add(*adventure_);
-    Rename("Second");
-    adventure_.Close();
-    RestoreBackup(*copy, adventure_.File());
-    EXPECT_EQ(TitleIn(adventure_.File()), "First");
-    EXPECT_TRUE(std::filesystem::exists(*copy));
-}
-
-TEST_F(BackupsTest, AreNotRestoredOverAnAdventureThatIsOpenForChange) {
-    const auto copy = backups_.Add(*adventure_);
-    Rename("Second");
-    adventure_.Close();
-    const auto open = store::Adventure::OpenForChange(adventure_.File());
-    EXPECT_THROW(RestoreBackup(*copy, adventure_.File()), Error);
-    EXPECT_EQ(open->OpenTable(TableNum::Adventure, "def").Text("advname"), "Second");
-}
-
 TEST_F(BackupsTest, OtherFilesInTheFolderStay) {
     const auto first = backups_.Add(*adventure_);
     const path notes = first->parent_path() / "game_notes.fbd";

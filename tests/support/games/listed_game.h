@@ -8,9 +8,9 @@
 
 namespace fabula::test {
 
-/// A game of an older engine as its decompiler knows it, and as this system holds it.
+/// A game of an older engine as its decompiler knows it, and as Fabula holds it.
 struct ListedGame {
-    /// A text, in its three forms: with this system's markup, and as each decompiler writes it.
+    /// A text, in its three forms: with the markup of Fabula, and as each decompiler writes it.
     struct Text {
         std::string markup;
         std::string unMarlo;

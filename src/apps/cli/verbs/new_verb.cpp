@@ -1,3 +1,4 @@
+#include "authoring/files/starter_file.h"
 #include "cli/host/console.h"
 #include "cli/installation.h"
 #include "cli/target.h"
@@ -19,8 +20,7 @@ struct NewOptions {
 };
 
 void AddStarterTo(store::Adventure& adventure) {
-    const std::string name = adventure.AdventureTypeLower() + ".ini";
-    interchange::AddStarter(adventure, DefaultDataFile().parent_path() / "starters" / name);
+    interchange::AddStarter(adventure, authoring::StarterFile(DefaultDataFile(), adventure.Kind()));
 }
 
 int Create(const NewOptions& options) {

@@ -59,8 +59,8 @@ EmptyPage::EmptyPage(Actions actions, QWidget* parent) : QScrollArea(parent), ac
     auto* create =
         add("new", "new", tr("&New Adventure"),
             tr("An empty game with the words and messages that every game needs."), actions_.create);
-    add("open", "open", tr("&Open…"), tr("An adventure file that you have."), actions_.open);
-    add("start", "import", tr("&Import…"), tr("A game from an export file, a source or a listing."),
+    add("open", "open", tr("&Open..."), tr("An adventure file that you have."), actions_.open);
+    add("start", "import", tr("&Import..."), tr("A game from an export file, a source or a listing."),
         actions_.import);
     add("tutorial", "book", tr("&A First Game"), tr("A small game in half an hour, step by step."),
         actions_.tutorial);

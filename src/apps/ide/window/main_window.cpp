@@ -22,8 +22,8 @@
 #include <algorithm>
 
 #include "authoring/files/start_up.h"
+#include "ide/dialogs/help_pages.h"
 #include "ide/editors/alt_guard.h"
-#include "ide/editors/help_pages.h"
 #include "ide/editors/wheel_guard.h"
 #include "ide/window/command_actions.h"
 #include "ide/window/empty_page.h"

@@ -148,6 +148,15 @@ class MainWindow final : public QMainWindow {
     void GoToNamed();
     bool FollowFromPane(authoring::Command command);
     bool AskBeforeDelete(const authoring::Deletion& deletion);
+    /// What a list of the window offers, and what it then does.
+    struct Step {
+        std::string name;
+        std::function<void()> take;
+    };
+    using Steps = std::vector<Step>;
+    void AddTables(const std::function<bool(std::string_view name)>& fits, Steps& steps);
+    void ChooseStep(const QString& title, const QString& hint,
+                    const std::function<Steps(const std::string& typed)>& found);
     void GoToAnything();
     void ChooseCommand();
     void Replace();

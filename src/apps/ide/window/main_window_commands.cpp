@@ -234,6 +234,7 @@ void MainWindow::KeyChange() {
 }
 
 void MainWindow::Print(listings::PrintScreen::Purpose purpose) {
+    std::filesystem::path saved;
     try {
         store::Adventure& adventure = ide_.CurrentContext().document.Adventure();
         const authoring::TableView view = ide_.Grid().View();
@@ -241,6 +242,7 @@ void MainWindow::Print(listings::PrintScreen::Purpose purpose) {
         listings::PrintScreen screen(adventure, view.table, view.process, purpose, services_.dialogs);
         PrintDialog dialog(screen, services, this);
         const bool ready = dialog.exec() == QDialog::Accepted && dialog.Job();
+        saved = dialog.Saved();
         if (ready && purpose == listings::PrintScreen::Purpose::Preview) {
             listings::PrintPreview preview(*dialog.Job(), adventure);
             PreviewDialog(preview, services, this).exec();
@@ -249,6 +251,7 @@ void MainWindow::Print(listings::PrintScreen::Purpose purpose) {
         services_.dialogs.Tell(error.what(), "Error");
     }
     ide_.Refresh();
+    if (!saved.empty()) ide_.Say("Saved the listing as " + saved.filename().string() + ".");
     ShowChanges();
 }
 
@@ -360,7 +363,7 @@ void MainWindow::ConvertTravelTable() {
 }
 
 void MainWindow::StartTest() {
-    const auto run = ide_.BeginRunTest();
+    const auto run = ide_.BeginTrial();
     if (!run) return ShowChanges();
     try {
         test_ = std::make_unique<TrialRun>(
@@ -386,7 +389,7 @@ void MainWindow::SoundFailed(const std::string& sentence) {
 
 void MainWindow::EndTest() {
     test_.reset();
-    ide_.EndRunTest();
+    ide_.EndTrial();
     show();
     activateWindow();
     ShowChanges();

@@ -25,12 +25,12 @@ using authoring::JumpLine;
 
 namespace {
 
-std::vector<std::string> TextsOf(const std::vector<JumpLine>& lines) {
-    std::vector<std::string> texts;
-    texts.reserve(lines.size());
-    for (const JumpLine& line : lines)
-        texts.push_back(line.text);
-    return texts;
+bool Holds(std::string_view line, std::string_view typed) {
+    return text::LowerCase(line).find(text::LowerCase(typed)) != std::string::npos;
+}
+
+bool BeginsWith(std::string_view line, std::string_view typed) {
+    return text::LowerCase(line).starts_with(text::LowerCase(typed));
 }
 
 }  // namespace
@@ -127,47 +127,54 @@ bool MainWindow::AskBeforeDelete(const authoring::Deletion& deletion) {
     return goesOn;
 }
 
+/// The tables whose names fit, and how to show them.
+void MainWindow::AddTables(const std::function<bool(std::string_view name)>& fits, Steps& steps) {
+    for (const authoring::TreeNode& node : ide_.Tree()) {
+        const std::string name = qt::FromQt(qt::Translated(node.name));
+        if (OpensOwnTable(node) && fits(name))
+            steps.push_back({name, [this, sort = node.sort] { ChooseNode(sort); }});
+    }
+}
+
+/// Lets one of the steps be chosen that `found` gives for what is typed, and does it.
+void MainWindow::ChooseStep(const QString& title, const QString& hint,
+                            const std::function<Steps(const std::string& typed)>& found) {
+    Steps steps;
+    const auto names = [&](const std::string& typed) {
+        steps = found(typed);
+        std::vector<std::string> lines;
+        for (const Step& step : steps)
+            lines.push_back(step.name);
+        return lines;
+    };
+    QuickListDialog dialog(title, hint, names, this);
+    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) steps[*dialog.Chosen()].take();
+}
+
 void MainWindow::GoToAnything() {
-    std::vector<JumpLine> found;
-    QuickListDialog dialog(
-        tr("Go To"), tr("m40, lantern, get lamp ..."),
-        [&](const std::string& typed) {
-            found = navigator_.Search(typed);
-            return TextsOf(found);
-        },
-        this);
-    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) Jump(found[*dialog.Chosen()].jump);
+    ChooseStep(tr("Go To"), tr("m40, lantern, get lamp, messages ..."), [this](const std::string& typed) {
+        Steps steps;
+        if (!typed.empty())
+            AddTables([&](std::string_view name) { return BeginsWith(name, typed); }, steps);
+        for (const JumpLine& found : navigator_.Search(typed))
+            steps.push_back({found.text, [this, jump = found.jump] { Jump(jump); }});
+        return steps;
+    });
 }
 
 void MainWindow::ChooseCommand() {
-    std::vector<std::function<void()>> fitting;
-    const auto fits = [](const std::string& line, const std::string& typed) {
-        return text::LowerCase(line).find(text::LowerCase(typed)) != std::string::npos;
-    };
-    QuickListDialog dialog(
-        tr("Commands"), tr("A part of a command's name"),
-        [&](const std::string& typed) {
-            fitting.clear();
-            std::vector<std::string> lines;
-            for (const authoring::CommandEntry& entry : authoring::AllCommands()) {
-                const authoring::ActionState state = ide_.StateOf(entry.id);
-                if (!state.enabled || entry.id == Command::Palette) continue;
-                std::string line = qt::FromQt(actions_->Of(entry.id)->text().remove('&').remove("..."));
-                if (!fits(line, typed)) continue;
-                if (!entry.shortcut.empty()) line.append("  (").append(entry.shortcut).append(")");
-                fitting.emplace_back([this, id = entry.id] { Do(id); });
-                lines.push_back(line);
-            }
-            for (const authoring::TreeNode& node : ide_.Tree()) {
-                const std::string line = qt::FromQt(qt::Translated(node.name));
-                if (!OpensOwnTable(node) || !fits(line, typed)) continue;
-                fitting.emplace_back([this, sort = node.sort] { ChooseNode(sort); });
-                lines.push_back(line);
-            }
-            return lines;
-        },
-        this);
-    if (dialog.exec() == QDialog::Accepted && dialog.Chosen()) fitting[*dialog.Chosen()]();
+    ChooseStep(tr("Commands"), tr("A part of a command's name"), [this](const std::string& typed) {
+        Steps steps;
+        for (const authoring::CommandEntry& entry : authoring::AllCommands()) {
+            if (!ide_.StateOf(entry.id).enabled || entry.id == Command::Palette) continue;
+            std::string line = qt::FromQt(actions_->Of(entry.id)->text().remove('&').remove("..."));
+            if (!Holds(line, typed)) continue;
+            if (!entry.shortcut.empty()) line.append("  (").append(entry.shortcut).append(")");
+            steps.push_back({line, [this, id = entry.id] { Do(id); }});
+        }
+        AddTables([&](std::string_view name) { return Holds(name, typed); }, steps);
+        return steps;
+    });
 }
 
 void MainWindow::Replace() {

@@ -10,8 +10,8 @@
 #include <QStackedWidget>
 #include <QTableView>
 
+#include "ide/dialogs/help_pages.h"
 #include "ide/dialogs/leaving.h"
-#include "ide/editors/help_pages.h"
 #include "ide/editors/picture_view.h"
 #include "ide/editors/record_picture.h"
 #include "ide/window/command_actions.h"

@@ -6,11 +6,11 @@
 
 namespace fabula::ide {
 
-TrialRun::TrialRun(const authoring::TestRun& run, const player::WindowServices& services,
+TrialRun::TrialRun(const authoring::Trial& run, const player::WindowServices& services,
                    const platform::DateTime& begun, std::function<void()> ended)
     : dialogs_(services.dialogs), ended_(std::move(ended)) {
     player::WindowServices testing = services;
-    testing.testRun = true;
+    testing.isTrial = true;
     if (run.trace) {
         traceFile_ = run.file.parent_path() / engine::TraceFileName(begun);
         trace_.emplace(traceFile_, engine::TraceHeader(run.file, begun));

@@ -11,13 +11,13 @@
 
 namespace fabula::ide {
 
-/// A test of the open adventure: the engine's window, which is shown until it closes.
+/// A trial of the open adventure: the engine's window, which is shown until it closes.
 class TrialRun final : public QObject {
   public:
     /// Shows the window on the game. `ended` is called from the event loop when it has closed. With a
     /// trace the game's steps go to a file beside the adventure, told by `begun`. Throws fabula::Error when
     /// that can't be written; when its end can't, a box tells it.
-    TrialRun(const authoring::TestRun& run, const player::WindowServices& services,
+    TrialRun(const authoring::Trial& run, const player::WindowServices& services,
              const platform::DateTime& begun, std::function<void()> ended);
     ~TrialRun() override;
 

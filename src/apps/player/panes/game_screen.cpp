@@ -70,8 +70,8 @@ GameScreen::GameScreen(platform::Timers& timers, ScreenEvents events)
 
 GameScreen::~GameScreen() = default;
 
-engine::WindowParts GameScreen::Parts() {
-    engine::WindowParts parts = WholeWindow::Parts();
+engine::WindowParts GameScreen::PartsWithPanes() {
+    engine::WindowParts parts = Parts();
     parts.measures = &kPanes;
     return parts;
 }
@@ -86,6 +86,7 @@ void GameScreen::Attach(PlayedGame* game) {
     StopAlarms();
     history_ = {};
     typed_.clear();
+    begun_ = lineUnseen_ = false;
     played_ = game;
     pictures_.reset();
     if (played_ == nullptr) return;
@@ -140,7 +141,9 @@ void GameScreen::StartGame(const engine::GameLook& look) {
     StopAlarms();
     game_ = look;
     HidePicture();
-    if (IsUnseen()) return events_.started(look);
+    if (IsUnseen() && begun_) return events_.started(look);
+    begun_ = true;
+    lineUnseen_ = IsUnseen();
     TextLook textLook{.style = look.style, .columns = look.printWidth, .page = look_.page};
     if (!look.characterSets) textLook.family = qt::ToQt(played_->FontName(look.style.font));
     text_->StartGame(textLook);
@@ -171,6 +174,7 @@ std::string GameScreen::Shown(std::string_view run) const {
 
 void GameScreen::Write(std::string_view run, const engine::TextStyle& style, engine::TextRole role) {
     if (IsUnseen()) return;
+    lineUnseen_ = false;
     WriteUnwrapped(Shown(run), style, role);
     if (game_.characterSets) characters_->Screen().Write(run, style);
     afterBlank_ = run.ends_with(' ');
@@ -190,7 +194,8 @@ engine::Transcript* GameScreen::Transcript() const {
 }
 
 void GameScreen::EndLine(engine::LineEnd kind) {
-    if (IsUnseen()) return;
+    // The first line of what is shown does not end one that was not.
+    if (IsUnseen() || std::exchange(lineUnseen_, false)) return;
     // A blank that finds its row full is the break itself, and is not written.
     const bool blankBreak = game_.characterSets && characters_->Screen().RowIsFull() && !afterBlank_;
     if (game_.characterSets) characters_->Screen().EndLine();
@@ -203,7 +208,8 @@ void GameScreen::EndLine(engine::LineEnd kind) {
 }
 
 void GameScreen::Clear(int paper, int ink) {
-    if (IsUnseen()) return;
+    // A page on which nothing is shown yet has the colours that an opening gives it.
+    if (IsUnseen() && !lineUnseen_) return;
     if (auto* lines = Transcript()) lines->NewPage();
     text_->ClearPage(paper, ink);
     if (game_.characterSets) characters_->Screen().Clear(paper, ink);

@@ -69,8 +69,8 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     /// To be called after each call of the game that may have made a turn.
     void ShowStep();
 
-    /// The parts of the screen, for the engine.
-    engine::WindowParts Parts();
+    /// The parts of the window, for the engine, with what it has to know of the panes.
+    engine::WindowParts PartsWithPanes();
 
     TextPane& Text() { return *text_; }
     CharacterPane& Characters() { return *characters_; }
@@ -121,6 +121,8 @@ class GameScreen final : public QWidget, public engine::WholeWindow {
     ScreenLook look_;
     std::string typed_;  ///< what stands in the input
     bool turnMade_ = false;
+    bool begun_ = false;       ///< the panes show the game that is attached
+    bool lineUnseen_ = false;  ///< nothing of it was shown yet, since its opening is not for the player
     engine::TextStyle style_;  ///< of the latest run
     bool afterBlank_ = false;  ///< the latest run ended with a blank
     platform::Alarm timeOut_;

@@ -13,11 +13,11 @@ namespace {
 using Use = CommandEntry::Use;
 
 constexpr std::array kCommands = {
-    CommandEntry{Command::Open, "LoadAdv", Menu::File, 0, "&Load a Game…", "Load a Game", "Ctrl+O", "open",
-                 "Open the file of a game and play it", Use::ToolBar},
-    CommandEntry{Command::Save, "Save", Menu::File, 1, "&Save…", "Save", "Ctrl+S", "save",
+    CommandEntry{Command::Open, "LoadAdv", Menu::File, 0, "&Load a Game...", "Load a Game", "Ctrl+O",
+                 "open", "Open the file of a game and play it", Use::ToolBar},
+    CommandEntry{Command::Save, "Save", Menu::File, 1, "&Save...", "Save", "Ctrl+S", "save",
                  "Keep in a file how the game stands", Use::ToolBar},
-    CommandEntry{Command::Restore, "Restore", Menu::File, 1, "R&estore…", "Restore", "Ctrl+R", "load",
+    CommandEntry{Command::Restore, "Restore", Menu::File, 1, "R&estore...", "Restore", "Ctrl+R", "load",
                  "Go back to how the game stood when it was saved", Use::ToolBar},
     CommandEntry{Command::Exit, "Exit", Menu::File, 2, "E&xit", "Exit", "Ctrl+Q", "exit", "End the program",
                  Use::ToolBar},
@@ -32,12 +32,12 @@ constexpr std::array kCommands = {
                  "Play the script on", Use::ToolBar},
     CommandEntry{Command::Sound, "Sound", Menu::Game, 1, "&Sound", "Sound", "Ctrl+M", "sound",
                  "Switch the sound on or off", Use::ToolBar, true},
-    CommandEntry{Command::Transcript, "Transcript", Menu::Game, 1, "&Transcript…", "Transcript", "", "text",
-                 "Write all that is shown and typed to a file", Use::Menu, true},
+    CommandEntry{Command::Transcript, "Transcript", Menu::Game, 1, "&Transcript...", "Transcript", "",
+                 "text", "Write all that is shown and typed to a file", Use::Menu, true},
     CommandEntry{Command::Debug, "Debug", Menu::Game, 2, "&Debug", "Debug", "", "trace",
                  "Show and change flags and objects", Use::ToolBar},
 
-    CommandEntry{Command::Find, "Find", Menu::View, 0, "&Find in the Text…", "Find", "Ctrl+F", "find",
+    CommandEntry{Command::Find, "Find", Menu::View, 0, "&Find in the Text...", "Find", "Ctrl+F", "find",
                  "Look for words in what the game has written"},
     CommandEntry{Command::FindNext, "FindNext", Menu::View, 0, "Find Ne&xt", "Find Next", "F3", "find-next",
                  "Look for the same further on"},
@@ -56,7 +56,7 @@ constexpr std::array kCommands = {
     CommandEntry{Command::PlainText, "PlainText", Menu::View, 3, "&Character Games as Plain Text",
                  "Plain Text", "", "", "Show games that draw their letters as ordinary text", Use::Menu,
                  true},
-    CommandEntry{Command::Settings, "Settings", Menu::View, 4, "&Settings…", "Settings", "Ctrl+,", "gear",
+    CommandEntry{Command::Settings, "Settings", Menu::View, 4, "&Settings...", "Settings", "Ctrl+,", "gear",
                  "Choose fonts, colours and sound"},
 
     CommandEntry{Command::ThemeSystem, "ThemeSystem", Menu::Theme, 0,
@@ -128,7 +128,7 @@ ActionState StateOf(Command command, const PlayState& state) {
         case Command::Next:
             return {.enabled = state.scriptLoaded, .visible = state.scriptLoaded};
         case Command::Debug:
-            return {.enabled = state.testRun, .visible = state.testRun};
+            return {.enabled = state.isTrial, .visible = state.isTrial};
         case Command::Find:
         case Command::FindNext:
         case Command::FindBefore:

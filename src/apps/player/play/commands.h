@@ -73,7 +73,7 @@ const CommandEntry& EntryOf(Command command);
 struct PlayState {
     const PlayedGame* game = nullptr;  ///< the game, or nullptr
     bool scriptLoaded = false;
-    bool testRun = false;     ///< the authoring tool shows the window
+    bool isTrial = false;     ///< the authoring tool shows the window
     bool characters = false;  ///< the game is shown in the pane of characters
 };
 

@@ -149,10 +149,14 @@ bool PlayedGame::CanResume() const {
 }
 
 bool PlayedGame::Resume() {
+    const bool began = Run([this] {
+        const Mark unseen(unseen_);
+        engine_.Initialize();
+    });
     const engine::Game* const game = engine_.Running();
-    if (game == nullptr) return false;
+    if (!began || game == nullptr) return false;
     bool taken = false;
-    const bool ran = Run([&] {
+    Run([&] {
         try {
             std::string state = engine::ReadSavedGame(folder_.autosave, game->state);
             taken = engine_.TakeState(state);
@@ -165,12 +169,12 @@ bool PlayedGame::Resume() {
             teller_.Tell(error.what(), "Error");
         }
     });
-    if (!taken) return ran;
+    if (!taken) return false;
     resumed_ = true;
     // In the midst of a turn that file is the state before it; else the game as it stands is the first one.
     if (CanSave()) states_.clear();
     AfterTurn();
-    return ran;
+    return true;
 }
 
 bool PlayedGame::Key(char32_t key) {

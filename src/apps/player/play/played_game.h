@@ -54,8 +54,8 @@ class PlayedGame {
     bool Start();
     /// Whether there is a state of an earlier time to go on from.
     bool CanResume() const;
-    /// Goes on from it, and Undo never goes back before it. When that is not possible the game goes on as
-    /// it is, and the person is told.
+    /// Starts the game and goes on from it, and Undo never goes back before it. The opening is not shown.
+    /// False when that is not possible: the person was told, and the game is to be started.
     bool Resume();
 
     /// The game goes on with a long turn.
@@ -96,8 +96,8 @@ class PlayedGame {
     bool SoundOn() const { return engine_.SoundOn(); }
     std::string FontName(int number) const { return engine_.FontName(number); }
     bool IsBusy() const { return busy_; }
-    /// A game that has ended is being begun anew for a state that it is to go on from: the opening that it
-    /// plays is not for the player, and what was shown stays.
+    /// A game is being begun for a state that it is to go on from: the opening that it plays is not for the
+    /// player, and what was shown of a game before it stays.
     bool PlaysUnseen() const { return unseen_; }
 
     /// What the player has written of this game.

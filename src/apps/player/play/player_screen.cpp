@@ -31,11 +31,9 @@ bool PlayerScreen::Load(const std::filesystem::path& file) {
     if (!opened) return false;
     End();
     game_ = std::move(opened);
-    if (!host_.testRun) host_.recent.AddMRUItem(std::filesystem::absolute(file));
+    if (!host_.isTrial) host_.recent.AddMRUItem(std::filesystem::absolute(file));
     view_.attach(game_.get());
-    const bool resume = WantsToResume();
-    game_->Start();
-    if (resume && IsRunning()) game_->Resume();
+    if (!WantsToResume() || !game_->Resume()) game_->Start();
     return true;
 }
 
@@ -45,7 +43,7 @@ std::unique_ptr<PlayedGame> PlayerScreen::Opened(const std::filesystem::path& fi
         auto opened = std::make_unique<PlayedGame>(
             file, host_.dataFolder,
             engine::Host{view_.window, host_.dialogs, host_.random, host_.sound, host_.trace, view_.parts},
-            host_.timers, host_.testRun ? Autosave::Off : Autosave::On, host_.options);
+            host_.timers, host_.isTrial ? Autosave::Off : Autosave::On, host_.options);
         opened->AskForFilesBy([this](const engine::FileRequest& request) { return AskForFile(request); });
         return opened;
     } catch (const Error& error) {

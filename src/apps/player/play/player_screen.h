@@ -23,7 +23,7 @@ struct PlayerHost {
     platform::RandomSource& random;
     platform::RecentFiles& recent;     ///< the games that were played last
     std::filesystem::path dataFolder;  ///< where folders of saved games are made
-    bool testRun = false;              ///< nothing of the run is kept
+    bool isTrial = false;              ///< nothing of the run is kept
     engine::TraceSink* trace = nullptr;
     engine::Options options{};
 };

@@ -65,11 +65,11 @@ PlayerWindow::PlayerWindow(const WindowServices& services)
               .random = services.random,
               .recent = settings_.recent,
               .dataFolder = services.dataFolder,
-              .testRun = services.testRun,
+              .isTrial = services.isTrial,
               .trace = services.trace,
               .options = services.options},
              {.window = *screen_,
-              .parts = screen_->Parts(),
+              .parts = screen_->PartsWithPanes(),
               .attach = [this](PlayedGame* game) { Attach(game); },
               .say = [this](const std::string& sentence) { Tell(sentence); }}),
       findBar_(new FindBar(
@@ -158,7 +158,7 @@ void PlayerWindow::Follow() {
     if (debugWindow_) debugWindow_->Follow();
     actions_.Follow({.game = logic_.Playing(),
                      .scriptLoaded = scriptLoaded_,
-                     .testRun = services_.testRun,
+                     .isTrial = services_.isTrial,
                      .characters = logic_.Playing() && screen_->ShowsCharacters()});
     ShowSwitches();
     logic_.FollowWait();
@@ -188,7 +188,7 @@ void PlayerWindow::MakeEndBar() {
     auto* back = new QPushButton(tr("Undo"));
     back->setObjectName("GoBack");
     back->setToolTip(tr("Go back to before the latest line"));
-    auto* load = new QPushButton(tr("Load…"));
+    auto* load = new QPushButton(tr("Load..."));
     load->setAccessibleName(tr("Load a Game"));
     ending_ = new QLabel;
     ending_->setObjectName("Ending");
@@ -277,7 +277,7 @@ void PlayerWindow::GameStarted(const engine::GameLook& look) {
 
 void PlayerWindow::GameEnded() {
     // The engine is still at work: a window that closes lets it finish first.
-    if (services_.testRun) return closing_.Start(std::chrono::milliseconds(0));
+    if (services_.isTrial) return closing_.Start(std::chrono::milliseconds(0));
     const bool failed = logic_.Playing() && logic_.Playing()->HasFailed();
     ending_->setText(failed ? tr("The game went wrong. Undo goes back to before.") : tr("The end."));
     endBar_->show();

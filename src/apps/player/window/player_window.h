@@ -40,7 +40,7 @@ struct WindowServices {
     std::filesystem::path dataFolder;  ///< where folders of saved games are made
     /// The window is shown by the authoring tool: "Debug" is allowed, the window closes when the game ends,
     /// and nothing of the run is kept.
-    bool testRun = false;
+    bool isTrial = false;
     engine::TraceSink* trace = nullptr;  ///< where the steps of the game go; nullptr: nowhere
     engine::Options options{};
     /// The names of the devices that sounds can come from.

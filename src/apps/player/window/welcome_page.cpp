@@ -21,7 +21,7 @@ WelcomePage::WelcomePage(std::function<void()> choose, Open open, QWidget* paren
     large.setWeight(QFont::DemiBold);
     title->setFont(large);
     auto* hint = new QLabel(tr("Load a game and play it."));
-    auto* load = new QPushButton(tr("Load a Game…"));
+    auto* load = new QPushButton(tr("Load a Game..."));
     load->setDefault(true);
     load->setMinimumHeight(load->sizeHint().height() * 5 / 4);
     QObject::connect(load, &QPushButton::clicked, this, std::move(choose));

@@ -4,6 +4,7 @@
 #include <set>
 #include <stdexcept>
 
+#include "authoring/desk/grid/field_titles.h"
 #include "authoring/desk/grid/sort_order.h"
 #include "text/encoding/utf8.h"
 #include "text/fields.h"
@@ -15,9 +16,10 @@ using store::TableNum;
 
 namespace {
 
-std::string TitleOf(const std::string& name, const std::string& other) {
-    if (other.empty() || text::EqualsNoCase(name, other)) return name;
-    return other + " (" + name + ")";
+std::string TitleOf(TableNum table, const std::string& name, std::string_view other) {
+    const std::string title = FieldTitle(table, name, other);
+    if (text::EqualsNoCase(name, title)) return name;
+    return title + " (" + name + ")";
 }
 
 }  // namespace
@@ -42,7 +44,7 @@ void SortScreen::ReadFields() {
         const std::string name(rows.Text(0));
         const auto place = schema.Find(name);
         if (!place || store::ClassOf(schema.fields[*place].type) == store::FieldClass::Binary) continue;
-        fields_.push_back({text::LowerCase(name), TitleOf(name, std::string(rows.Text(1)))});
+        fields_.push_back({text::LowerCase(name), TitleOf(table_, name, rows.Text(1))});
     }
 }
 

@@ -6,6 +6,7 @@
 #include <numeric>
 #include <variant>
 
+#include "authoring/desk/grid/field_titles.h"
 #include "authoring/fields/cond_act_help.h"
 #include "store/filter/filter.h"
 #include "store/schema/record_fields.h"
@@ -116,9 +117,8 @@ void TableGrid::ReadColumns(store::Adventure& adventure, bool maintenance, bool 
         const auto see = rows.Number("see");
         const bool shown = see == kSeenAlways && (maintenance || !IsSameInAll(field, view_));
         if (shown || (maintenance && see == kSeenInMaintenance) || (comments && see == kSeenWithComments)) {
-            const std::string_view other = rows.Text("altname");
-            columns_.push_back({field,
-                                other.empty() ? field : std::string(text::Left(other, kLongestTitle)),
+            const std::string title = FieldTitle(view_.table, field, rows.Text("altname"));
+            columns_.push_back({field, std::string(text::Left(title, kLongestTitle)),
                                 static_cast<int>(rows.Number("gridwidth")), rows.Text("expand") == "Y",
                                 store::IsNumber(schema.fields[*place].type)});
         } else if (rows.Text("search") == "Y" || text::EqualsNoCase(field, kProcessField) ||

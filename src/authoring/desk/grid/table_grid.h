@@ -25,7 +25,7 @@ struct ExplainedCondAct;
 /// A column of the grid.
 struct GridColumn {
     std::string field;
-    std::string title;    ///< the other name of the field when it has one, else its name
+    std::string title;    ///< FieldTitle
     int width = 0;        ///< in points of the screen at its normal size; 0: the window finds one
     bool expand = false;  ///< the author may change the width, which is then kept
     bool number = false;  ///< it holds numbers: shown at the right, sorted by value

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "authoring/desk/grid/field_titles.h"
 #include "authoring/document/screen_context.h"
 #include "store/comments.h"
 #include "store/filter/filter.h"
@@ -60,8 +61,7 @@ void FindBox::SetUpFindComboBox(store::Adventure& adventure, TableNum table) {
         const bool isComment = text::EqualsNoCase(name, store::kCommentField);
         if (type == store::FieldType::LongVarWChar && !isComment) longText = fields_.size();
         if (name == before) chosen_ = fields_.size();
-        const std::string_view other = rows.Text("altname");
-        fields_.push_back({name, other.empty() ? name : std::string(other), store::IsNumber(type)});
+        fields_.push_back({name, FieldTitle(table, name, rows.Text("altname")), store::IsNumber(type)});
     }
     if (chosen_ || fields_.empty()) return;
     const auto firstText =

@@ -279,6 +279,7 @@ TEST(MainWindow, PrintsTheTableInTheGrid) {
     std::ifstream file(opened.folder / "messages.txt");
     const std::string listed((std::istreambuf_iterator<char>(file)), {});
     EXPECT_NE(listed.find("0        The lamp is lit."), std::string::npos);
+    EXPECT_EQ(opened.Part<QLabel>("status").text(), "Saved the listing as messages.txt.");
 }
 
 TEST(MainWindow, PreviewOpensBehindItsSetup) {

@@ -36,7 +36,7 @@ class PlayerScreenTest : public testing::Test {
     }
 
     /// Ends the program and starts it again.
-    void Restart(bool testRun = false) {
+    void Restart(bool isTrial = false) {
         if (screen_) screen_->End();
         screen_.emplace(player::PlayerHost{.timers = timers_,
                                            .dialogs = dialogs_,
@@ -44,7 +44,7 @@ class PlayerScreenTest : public testing::Test {
                                            .random = random_,
                                            .recent = recent_,
                                            .dataFolder = folder_ / "data",
-                                           .testRun = testRun},
+                                           .isTrial = isTrial},
                         player::GameView{.window = window_,
                                          .parts = window_.Parts(),
                                          .attach = [this](PlayedGame* game) { attach_(game); },

@@ -97,6 +97,22 @@ TEST(SetupGrid, TitlesColumnsByTheOtherNameOfAFieldOrElseByItsName) {
     EXPECT_EQ(catalogue.Columns().back().title, "PCVel");
 }
 
+TEST(SetupGrid, TitlesTheColumnsOfCharactersSoundsAndTemplatesInWords) {
+    const test::OpenedAdventure adventure;
+    const auto titles = [&](TableNum table) {
+        std::vector<std::string> shown;
+        for (const GridColumn& column : GridOf(*adventure, {table}).Columns())
+            shown.push_back(column.title);
+        return shown;
+    };
+    EXPECT_THAT(titles(TableNum::Characters),
+                ElementsAre("Set", "Name of the set", "Character", "Rows of dots"));
+    EXPECT_THAT(titles(TableNum::Sounds), ElementsAre("Note", "Frequency"));
+    EXPECT_THAT(titles(TableNum::Templates), ElementsAre("Name", "Commands"));
+    EXPECT_THAT(Fields(GridOf(*adventure, {TableNum::Characters})),
+                ElementsAre("CharSet", "charsetname", "charnum", "charvals"));
+}
+
 TEST(SetupGrid, TellsWhichColumnsMayBeWidenedAndWhichHoldNumbers) {
     const test::OpenedAdventure adventure;
     const TableGrid grid = GridOf(*adventure, {TableNum::Locations});

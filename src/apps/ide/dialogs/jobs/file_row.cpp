@@ -19,7 +19,7 @@ void FileRow::Show(const QString& file) const {
 }
 
 FileRow AddFileRow(QFormLayout& form, const char* name, const QString& label, const char* buttonName) {
-    FileRow line{new QLineEdit, new QPushButton(qt::Translated("Choose…"))};
+    FileRow line{new QLineEdit, new QPushButton(qt::Translated("Choose..."))};
     line.field->setObjectName(name);
     line.field->setAccessibleName(QString(label).remove('&').remove(':'));
     line.button->setObjectName(buttonName);

@@ -30,7 +30,7 @@ PreviewDialog::PreviewDialog(listings::PrintPreview& preview, const PrintService
     : ColumnDialog({"PrintPreview", qt::Translated(preview.Title()), "frmprintpreview.html"}, parent),
       preview_(preview),
       services_(services),
-      place_(new QLabel(tr("Making the pages…"))),
+      place_(new QLabel(tr("Making the pages..."))),
       scroll_(new QScrollArea),
       sheet_(new SheetView) {
     auto* moves = new QHBoxLayout;

@@ -140,7 +140,7 @@ void PrintDialog::AddButtons(QVBoxLayout& column) {
     print->setDefault(true);
     connect(print, &QPushButton::clicked, this, [this] { ClickPrint(); });
     if (screen_.For() == PrintScreen::Purpose::Print) {
-        auto* save = add(tr("Save &As…"), "save");
+        auto* save = add(tr("Save &As..."), "save");
         save->setToolTip(tr("Save the listing as a PDF file, a web page or a text"));
         connect(save, &QPushButton::clicked, this, [this] { ClickSave(); });
     }
@@ -237,6 +237,7 @@ void PrintDialog::ClickSave() {
              .start = adventure.parent_path() / (adventure.stem().string() + "-listing.pdf")});
         if (!file) return false;
         WriteListing(*file, *job, services_.adventure);
+        saved_ = *file;
         accept();
         return true;
     });

@@ -35,6 +35,8 @@ class PrintDialog final : public ColumnDialog {
 
     /// The job of a preview, once the window has closed with OK.
     const std::optional<listings::PrintJob>& Job() const { return job_; }
+    /// The file that the listing was saved as; empty when it was not.
+    const std::filesystem::path& Saved() const { return saved_; }
 
   private:
     void AddForm(QFormLayout& form);
@@ -54,6 +56,7 @@ class PrintDialog final : public ColumnDialog {
     listings::PrintScreen& screen_;
     PrintServices services_;
     std::optional<listings::PrintJob> job_;
+    std::filesystem::path saved_;
     QComboBox* form_ = nullptr;
     QComboBox* detail_ = nullptr;
     QCheckBox* special_ = nullptr;

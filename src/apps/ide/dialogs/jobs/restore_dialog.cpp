@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ide/editors/help_pages.h"
+#include "ide/dialogs/help_pages.h"
 #include "ide/editors/layout.h"
 #include "qt/fitting_size.h"
 #include "qt/help/help_request.h"

@@ -16,14 +16,14 @@ QPushButton* NewStatusButton(const QString& caption, const StatusActions& action
     button->setAutoDefault(false);
     auto* menu = new QMenu(button);
     menu->setToolTipsVisible(true);
-    auto* print = menu->addAction(qt::Translated("&Print…"));
+    auto* print = menu->addAction(qt::Translated("&Print..."));
     print->setObjectName("printStatus");
     QObject::connect(print, &QAction::triggered, button, [actions] { actions.print(); });
     auto* copy = menu->addAction(qt::Translated("&Copy to Clipboard"));
     copy->setObjectName("copyStatus");
     QObject::connect(copy, &QAction::triggered, button,
                      [actions] { QApplication::clipboard()->setText(qt::ToQt(actions.text())); });
-    auto* save = menu->addAction(qt::Translated("&Save to File…"));
+    auto* save = menu->addAction(qt::Translated("&Save to File..."));
     save->setObjectName("saveStatus");
     QObject::connect(save, &QAction::triggered, button, [actions] { actions.save(); });
     button->setMenu(menu);

@@ -100,7 +100,7 @@ void VerifyDialog::ShowStatus() {
     for (std::size_t end; (end = status.find('\n', shown_)) != std::string::npos; shown_ = end + 1)
         lines_->addItem(qt::Translated(std::string_view(status).substr(shown_, end - shown_)));
     const QString step = qt::Translated(verify_.ProgressLine()).trimmed();
-    progress_->setText(step.isEmpty() ? tr("Checking…") : tr("Checking… %1").arg(step));
+    progress_->setText(step.isEmpty() ? tr("Checking...") : tr("Checking... %1").arg(step));
     print_->setEnabled(verify_.Finished());
 }
 

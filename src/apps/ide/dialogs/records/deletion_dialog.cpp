@@ -6,8 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ide/dialogs/help_pages.h"
 #include "ide/editors/edit_controls.h"
-#include "ide/editors/help_pages.h"
 #include "qt/fitting_size.h"
 #include "qt/help/help_request.h"
 #include "qt/look/wrapped_label.h"

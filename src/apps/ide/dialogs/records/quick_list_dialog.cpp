@@ -7,7 +7,7 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
-#include "ide/editors/help_pages.h"
+#include "ide/dialogs/help_pages.h"
 #include "qt/fitting_size.h"
 #include "qt/help/help_request.h"
 #include "qt/strings.h"

@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QTextDocument>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -27,8 +28,8 @@ using authoring::SettingsScreen;
 namespace {
 
 constexpr int kBetweenColumns = 32;
-constexpr int kLettersOfASettingsColumn =
-    40;  ///< below this width there is one column, and labels stand above
+constexpr int kLettersOfASettingsColumn = 40;  ///< a column is not less wide
+constexpr int kLettersOfALineEdit = 17;        ///< for which a QLineEdit asks for room
 
 QLineEdit* NewLine(const std::string& text) {
     auto* line = new QLineEdit(qt::ToQt(text));
@@ -42,6 +43,13 @@ QCheckBox* NewSwitch(const QString& text, const char* name, bool on) {
     box->setAccessibleName(PlainLabel(text));
     box->setChecked(on);
     return box;
+}
+
+/// How wide a line has to be for all of its text to be seen.
+int WholeWidth(const QLineEdit& line) {
+    const int frame =
+        line.sizeHint().width() - kLettersOfALineEdit * line.fontMetrics().horizontalAdvance('x');
+    return line.fontMetrics().horizontalAdvance(line.text()) + frame;
 }
 
 /// Lists are as wide as the form and not as their longest line.
@@ -107,6 +115,7 @@ SettingsGamePage::SettingsGamePage(SettingsScreen& screen, Guard guard)
         KeepNarrow(*list);
     ShowSample();
     ShowCount();
+    besideLabels_ = WidthBesideLabels();
 }
 
 /// A form behind its heading.
@@ -131,15 +140,21 @@ void SettingsGamePage::AddGame(QFormLayout& form) {
     AddToForm(form, tr("&Version:"), version_, "version");
     if (!screen_.Ifid().empty()) {
         // It is there to be read and copied.
-        auto* ifid = new QLineEdit(qt::ToQt(screen_.Ifid()));
-        ifid->setReadOnly(true);
-        ifid->setCursorPosition(0);  // its beginning, where it is wider than the field
-        AddToForm(form, tr("IFID:"), ifid, "ifid");
+        ifid_ = new QLineEdit(qt::ToQt(screen_.Ifid()));
+        ifid_->setReadOnly(true);
+        ifid_->setCursorPosition(0);
+        AddToForm(form, tr("IFID:"), ifid_, "ifid");
     }
     AddToForm(form, tr("T&ype:"), type_, "type");
     // The note is written for a caption, in which an ampersand is doubled.
     form.addRow(NewNote(qt::Translated(screen_.TypeNote()).replace("&&", "&"), "typeNote"));
     AddToForm(form, tr("Start &location:"), start_, "startPlace");
+    // A place may be called by more than a line shows.
+    const auto tellWhole = [this](const QString& place) {
+        start_->setToolTip(Qt::convertFromPlainText(place, Qt::WhiteSpaceNormal));
+    };
+    tellWhole(start_->currentText());
+    connect(start_, &QComboBox::currentTextChanged, this, tellWhole);
     AddToForm(form, tr("Maximum &objects:"), objects_, "maxObjects");
     AddToForm(form, tr("Maximum &weight:"), weight_, "maxWeight");
     weight_->setEnabled(screen_.HasWeights());
@@ -283,15 +298,24 @@ int SettingsGamePage::WidthOfColumn() const {
                      left_->minimumSizeHint().width(), right_->minimumSizeHint().width()});
 }
 
+/// The width of a column in which the whole IFID is seen beside its label.
+int SettingsGamePage::WidthBesideLabels() const {
+    if (ifid_ == nullptr) return WidthOfColumn();
+    ifid_->setMinimumWidth(WholeWidth(*ifid_));
+    const int width = WidthOfColumn();
+    ifid_->setMinimumWidth(0);
+    return width;
+}
+
 QSize SettingsGamePage::sizeHint() const {
-    return {2 * (WidthOfColumn() + kDialogMargin) + kBetweenColumns, QWidget::sizeHint().height()};
+    const int column = std::max(WidthOfColumn(), besideLabels_);
+    return {2 * (column + kDialogMargin) + kBetweenColumns, QWidget::sizeHint().height()};
 }
 
 void SettingsGamePage::resizeEvent(QResizeEvent* event) {
     const bool both = width() >= sizeHint().width();
     columns_->setDirection(both ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    const bool narrow =
-        width() < kLettersOfASettingsColumn * fontMetrics().averageCharWidth() + 2 * kDialogMargin;
+    const bool narrow = width() < besideLabels_ + 2 * kDialogMargin;
     for (QFormLayout* form : forms_)
         form->setRowWrapPolicy(narrow ? QFormLayout::WrapAllRows : QFormLayout::DontWrapRows);
     QWidget::resizeEvent(event);

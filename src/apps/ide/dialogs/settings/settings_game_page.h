@@ -55,6 +55,7 @@ class SettingsGamePage final : public QWidget {
     };
 
     int WidthOfColumn() const;
+    int WidthBesideLabels() const;
     QFormLayout* NewForm(QVBoxLayout& column, const QString& heading);
     void AddGame(QFormLayout& form);
     void AddLook(QFormLayout& form);
@@ -71,11 +72,13 @@ class SettingsGamePage final : public QWidget {
     QWidget* left_;
     QWidget* right_;
     std::vector<QFormLayout*> forms_;  ///< whose labels stand beside the controls where there is room
+    int besideLabels_ = 0;             ///< the width of a column that leaves them that room
 
     QLineEdit* name_;
     QLineEdit* author_;
     QLineEdit* saveName_;
     QLineEdit* version_;
+    QLineEdit* ifid_ = nullptr;  ///< where the adventure has one
     QComboBox* type_;
     QComboBox* start_;
     QLineEdit* objects_;

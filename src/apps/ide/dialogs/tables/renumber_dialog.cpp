@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ide/dialogs/help_pages.h"
 #include "ide/dialogs/update_and_exit.h"
-#include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
 #include "qt/fitting_size.h"
 #include "qt/help/help_request.h"

@@ -10,7 +10,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "ide/editors/help_pages.h"
+#include "ide/dialogs/help_pages.h"
 #include "ide/editors/layout.h"
 #include "qt/fitting_size.h"
 #include "qt/help/help_request.h"

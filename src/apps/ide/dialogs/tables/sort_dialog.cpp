@@ -8,9 +8,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ide/dialogs/help_pages.h"
 #include "ide/dialogs/update_and_exit.h"
 #include "ide/editors/edit_controls.h"
-#include "ide/editors/help_pages.h"
 #include "ide/editors/layout.h"
 #include "platform/error.h"
 #include "qt/help/help_request.h"

@@ -14,7 +14,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ide/editors/help_pages.h"
+#include "ide/dialogs/help_pages.h"
 #include "platform/error.h"
 #include "qt/strings.h"
 

@@ -310,6 +310,28 @@ TEST_F(SettingsDialogTest, OpensInASizeThatHoldsItsColumns) {
     EXPECT_EQ(test::ScrollsSideways(*dialog_), 0);
 }
 
+TEST_F(SettingsDialogTest, ShowsTheWholeIfid) {
+    QFont large = QApplication::font();
+    const QFont before = large;
+    for (const int points : {9, 18}) {
+        large.setPointSize(points);
+        QApplication::setFont(large);
+        Open();
+        const QLineEdit& ifid = Part<QLineEdit>("ifid");
+        ASSERT_EQ(ifid.text().size(), 36);
+        EXPECT_GT(ifid.width(), ifid.fontMetrics().horizontalAdvance(ifid.text())) << points;
+        dialog_.reset();
+    }
+    QApplication::setFont(before);
+}
+
+TEST_F(SettingsDialogTest, ATipTellsTheWholeStartLocation) {
+    Open();
+    auto& start = Part<QComboBox>("startPlace");
+    start.setEditText("a place with a name that is longer than any line of the settings");
+    EXPECT_TRUE(start.toolTip().contains("longer than any line of the settings"));
+}
+
 TEST_F(SettingsDialogTest, FitsASmallScreen) {
     Open();
     dialog_->resize(640, 400);

@@ -105,6 +105,17 @@ TEST_P(References, ControlPGoesToARecordByItsNumber) {
     EXPECT_EQ(window_.Logic().CurrentRow(), 1);
 }
 
+TEST_P(References, ControlPGoesToATableByTheBeginningOfItsName) {
+    QTimer::singleShot(0, [] {
+        auto* dialog = dynamic_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        QTest::keyClicks(dialog->findChild<QLineEdit*>("QuickLine"), "locat");
+        QTest::keyClick(dialog->findChild<QLineEdit*>("QuickLine"), Qt::Key_Return);
+    });
+    window_.Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(window_.Logic().Grid().View().table, TableNum::Locations);
+}
+
 TEST_P(References, ThePaletteDoesACommandByAPartOfItsName) {
     QTimer::singleShot(0, [] {
         auto* dialog = dynamic_cast<ide::QuickListDialog*>(QApplication::activeModalWidget());

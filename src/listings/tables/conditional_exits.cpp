@@ -1,4 +1,4 @@
-#include "listings/conditional_exits.h"
+#include "listings/tables/conditional_exits.h"
 
 #include <optional>
 #include <utility>

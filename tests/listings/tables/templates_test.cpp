@@ -1,4 +1,4 @@
-#include "listings/templates.h"
+#include "listings/tables/templates.h"
 
 #include <fstream>
 #include <string>
@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "listed_adventure.h"
+#include "listings/listed_adventure.h"
 #include "platform/error.h"
 #include "support/places.h"
 

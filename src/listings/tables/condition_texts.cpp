@@ -1,4 +1,4 @@
-#include "listings/condition_texts.h"
+#include "listings/tables/condition_texts.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "listed_adventure.h"
-#include "listings/gosub.h"
+#include "listings/listed_adventure.h"
+#include "listings/tables/gosub.h"
 #include "pictures/book_loader.h"
 
 namespace fabula::listings {

@@ -6,9 +6,9 @@
 #include "condacts/numbers.h"
 #include "condacts/word_filters.h"
 #include "condacts/words.h"
-#include "listings/condition_texts.h"
 #include "listings/record.h"
 #include "listings/reports.h"
+#include "listings/tables/condition_texts.h"
 #include "platform/error.h"
 
 namespace fabula::listings {

@@ -1,4 +1,4 @@
-#include "ide/editors/help_pages.h"
+#include "ide/dialogs/help_pages.h"
 
 #include <array>
 

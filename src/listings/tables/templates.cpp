@@ -1,4 +1,4 @@
-#include "listings/templates.h"
+#include "listings/tables/templates.h"
 
 #include <algorithm>
 #include <optional>

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "condacts/numbers.h"
-#include "listings/condition_texts.h"
+#include "listings/tables/condition_texts.h"
 #include "store/adventure.h"
 
 namespace fabula::listings {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "listed_adventure.h"
+#include "listings/listed_adventure.h"
 
 namespace fabula::listings {
 namespace {

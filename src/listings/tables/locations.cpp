@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "condacts/language/parser.h"
-#include "listings/conditional_exits.h"
 #include "listings/record.h"
 #include "listings/reports.h"
+#include "listings/tables/conditional_exits.h"
 #include "text/encoding/utf8.h"
 
 namespace fabula::listings {

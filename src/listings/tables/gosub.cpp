@@ -1,4 +1,4 @@
-#include "listings/gosub.h"
+#include "listings/tables/gosub.h"
 
 #include <cstdint>
 #include <set>
