@@ -20,11 +20,9 @@ constexpr std::uintmax_t kLargestFont = 16 * 1024 * 1024;
 CharacterSetScreen::CharacterSetScreen(ScreenContext& context) : context_(context) {
     if (context.currentTable == TableNum::Characters)
         set_ = context.currentEntry / store::kCharactersOfASet;
-    const store::Cursor& colours =
-        context.document.Adventure().OpenTable(TableNum::Adventure, "backcolor, textcolor");
-    if (!colours.Eof()) {
-        paper_ = static_cast<int>(colours.Number("backcolor"));
-        ink_ = static_cast<int>(colours.Number("textcolor"));
+    if (const auto colours = pictures::LoadColours(context.document.Adventure())) {
+        paper_ = colours->paper;
+        ink_ = colours->ink;
     }
     Read();
     const int number = context.currentEntry % store::kCharactersOfASet;

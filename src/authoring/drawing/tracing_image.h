@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "pictures/canvas.h"
 #include "platform/settings.h"
 
 namespace fabula::authoring {
@@ -15,7 +16,8 @@ struct TracingImage {
     int strength = 50;  ///< in hundredths
     int left = 0;       ///< its top left, in pixels of the picture
     int top = 0;
-    int width = 256;  ///< as wide as it is shown, in pixels of the picture; its height follows
+    int width =
+        pictures::kCanvasWidth;  ///< as wide as it is shown, in pixels of the picture; its height follows
 
     friend bool operator==(const TracingImage&, const TracingImage&) = default;
 };

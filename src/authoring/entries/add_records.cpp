@@ -8,6 +8,7 @@
 
 #include "condacts/language/catalogue.h"
 #include "condacts/limits.h"
+#include "pictures/book_loader.h"
 #include "pictures/characters/character_sets.h"
 #include "pictures/picture_book.h"
 #include "store/character_key.h"
@@ -129,18 +130,15 @@ void AddPictureOf(ScreenContext& context, condacts::PlaceNumber location) {
     if (!adventure.GraphicsOn()) return;
     const std::string key = "locnum=" + std::to_string(location.value);
     if (adventure.OpenTable(TableNum::Free22, "locnum from locations", key).Eof()) return;
-    store::PreparedQuery colours = adventure.Prepare(TableNum::Adventure, "BackColor, textcolor", "");
-    if (!colours.First({})) return;
-    const std::int64_t paper = colours.Number(0);
-    const std::int64_t ink = colours.Number(1);
-    colours.Reset();
+    const auto colours = pictures::LoadColours(adventure);
+    if (!colours) return;
     Cursor& pictures = adventure.OpenTable(TableNum::Free22, "* from pictures", key);
     if (!pictures.Eof()) return;
     Change change(context.document, Change::WithLatest{});
     pictures.AddNew();
     pictures.SetField("locnum", std::int64_t{location.value});
-    pictures.SetField("locpaper", paper);
-    pictures.SetField("locink", ink);
+    pictures.SetField("locpaper", std::int64_t{colours->paper});
+    pictures.SetField("locink", std::int64_t{colours->ink});
     pictures.SetField("loctype", std::string("Subroutine"));
     pictures.SetField("drawstring", std::string("END"));
     pictures.SetField("picname", std::string());

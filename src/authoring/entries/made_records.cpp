@@ -8,6 +8,7 @@
 #include "condacts/language/catalogue.h"
 #include "condacts/language/load.h"
 #include "condacts/limits.h"
+#include "condacts/word_record.h"
 #include "condacts/words.h"
 
 namespace fabula::authoring {
@@ -16,7 +17,8 @@ namespace {
 using store::Adventure;
 using store::TableNum;
 
-constexpr int kFirstNounOfIt = 51;
+/// Above it the games of all types remember a noun for a pronoun.
+constexpr int kFirstNounOfIt = condacts::kFirstReferableNoun.value + 1;
 /// In the oldest games the words below are directions.
 constexpr int kFirstMarloNoun = 13;
 
@@ -57,10 +59,7 @@ void AddNoun(Adventure& adventure, const std::string& word, condacts::WordNumber
     store::Cursor& record = adventure.OpenTable(TableNum::Free22, "* from vocabulary", "vocindex<0");
     record.AddNew();
     record.SetField("vocindex", std::int64_t{*key});
-    record.SetField("word", word);
-    record.SetField("vocnum", std::int64_t{number.value});
-    record.SetField("voctypen", std::int64_t{condacts::kNoun});
-    record.SetField("voctype", std::string(condacts::WordTypeName(condacts::kNoun)));
+    condacts::SetWord(record, {.word = word, .number = number, .type = condacts::kNoun});
     record.Update();
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "authoring/fields/texts/brief_text.h"
+#include "condacts/places.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
@@ -43,8 +44,7 @@ std::string NameIn(const std::vector<ListItem>& locations, condacts::PlaceNumber
 }
 
 std::string NoSuchLocation(std::string_view number, std::string_view word) {
-    std::string message = "There is not a location with a number of ";
-    message += number;
+    std::string message = condacts::NoLocationMessage(number);
     if (!word.empty()) message.append(" for ").append(word);
     return message;
 }

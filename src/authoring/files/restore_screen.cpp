@@ -1,9 +1,9 @@
 #include "authoring/files/restore_screen.h"
 
-#include <cstdio>
 #include <utility>
 
 #include "platform/error.h"
+#include "text/moment.h"
 
 namespace fabula::authoring {
 namespace {
@@ -16,11 +16,7 @@ RestoreScreen::RestoreScreen(std::vector<Backup> backups, store::Adventure& now)
     : copies_(std::move(backups)), now_(now) {}
 
 std::string RestoreScreen::MadeOf(std::size_t copy) const {
-    const platform::DateTime& made = copies_.at(copy).made;
-    char shown[64];
-    std::snprintf(shown, sizeof shown, "%04d-%02d-%02d %02d:%02d:%02d", made.year, made.month, made.day,
-                  made.hour, made.minute, made.second);
-    return shown;
+    return text::StoredMoment(copies_.at(copy).made);
 }
 
 std::string RestoreScreen::SizeOf(std::size_t copy) const {

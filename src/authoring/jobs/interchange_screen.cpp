@@ -8,6 +8,7 @@
 #include "authoring/files/may_replace.h"
 #include "authoring/files/start_up.h"
 #include "authoring/jobs/status_text.h"
+#include "interchange/jobs.h"
 #include "platform/error.h"
 #include "platform/file_question.h"
 #include "platform/whole_file.h"
@@ -183,7 +184,7 @@ std::string InterchangeScreen::Placed(const std::string& typed) const {
 
 bool InterchangeScreen::RunJob() {
     if (!CanRun()) return false;
-    if (text::Trimmed(source).empty()) return Refuse(host_.dialogs, "Source File not specified");
+    if (text::Trimmed(source).empty()) return Refuse(host_.dialogs, interchange::kNoSourceFile);
     source = Placed(source);
     if (mode_ == JobMode::LoadGraphic) return LoadGraphics();
     database = Placed(database);

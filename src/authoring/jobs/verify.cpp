@@ -10,6 +10,7 @@
 #include "condacts/language/parser.h"
 #include "condacts/language/validate.h"
 #include "condacts/limits.h"
+#include "interchange/listing/bit_arrays.h"
 #include "pictures/characters/character_sets.h"
 #include "text/encoding/utf8.h"
 #include "text/str_edit.h"
@@ -48,7 +49,6 @@ constexpr LimitRow kLimits[] = {
 
 constexpr const char* kInvalid = " is an invalid Condition/Action";
 constexpr int kRowsAProgressLine = 5;
-constexpr std::int64_t kMostGraphicCharacters = 19;
 
 int CountRecords(Adventure& adventure, TableNum table, const char* key, std::string_view where) {
     PreparedQuery rows = adventure.Prepare(table, key, where);
@@ -282,8 +282,10 @@ class Verification {
                 std::string(rules_->name));
         }
         if (CountRecords(adventure_, TableNum::Characters, "charnum",
-                         "charnum>" + std::to_string(pictures::kSolidCharacter)) > kMostGraphicCharacters) {
-            Step("There are more than 19 UDGs. Only the first 19 will be exported.");
+                         "charnum>" + std::to_string(pictures::kSolidCharacter)) >
+            interchange::kWrittenUserGraphics) {
+            const std::string most = std::to_string(interchange::kWrittenUserGraphics);
+            Step("There are more than " + most + " UDGs. Only the first " + most + " will be exported.");
         }
     }
 

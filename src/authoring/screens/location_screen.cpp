@@ -27,8 +27,6 @@ using condacts::PlaceNumber;
 using condacts::WordNumber;
 using store::TableNum;
 
-constexpr int kBehindDirections = 14;
-
 /// What was typed for a location and can't be any.
 constexpr PlaceNumber kNoPlace{-1};
 
@@ -73,7 +71,7 @@ std::optional<PlaceNumber> LocationNumber(std::string_view typed) {
 
 /// Directions come first, by their number: what is typed is completed by the first word that fits.
 int ProbableRank(const ListItem& word) {
-    return std::min(word.number, kBehindDirections);
+    return std::min(word.number, condacts::kFirstPlainVerb.value);
 }
 
 /// The end of a change's name: " with new location 3, the way back from location 7".

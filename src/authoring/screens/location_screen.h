@@ -10,6 +10,7 @@
 #include "authoring/screens/record_screen.h"
 #include "condacts/numbers.h"
 #include "condacts/words.h"
+#include "store/schema/schema.h"
 
 namespace fabula::authoring {
 
@@ -79,7 +80,7 @@ class LocationScreen final : public RecordScreen {
     std::optional<NamedRecord> NamedInExits(std::size_t cursor) const;
 
     static constexpr std::string_view kPictureTitle = "Load Room Picture";
-    static constexpr std::size_t kLongestShortDesc = 255;
+    static constexpr std::size_t kLongestShortDesc = store::kDefaultTextSize;
 
   protected:
     bool FieldsChanged() const override { return Typed() != opened_ || HasPendingExit(); }

@@ -7,8 +7,10 @@
 
 #include "authoring/fields/controls.h"
 #include "authoring/fields/edit_screen.h"
+#include "condacts/numbers.h"
 #include "engine/sound_player.h"
 #include "store/query/cursor.h"
+#include "store/schema/schema.h"
 
 namespace fabula::authoring {
 
@@ -122,9 +124,10 @@ class SettingsScreen final : public EditScreen {
     static constexpr std::string_view kAboutPictureTitle = "Load About Adventure Picture";
     static constexpr std::string_view kMissingFont = "Ariel";
     static constexpr int kMostObjects = 25;
-    static constexpr int kMostWeight = 32767;  ///< the highest number of a flag
+    static constexpr int kMostWeight = condacts::kHighestNumber;  ///< of a flag
     static constexpr int kLoudest = 127;
-    static constexpr std::size_t kLongestText = 255;  ///< of names, and of the description
+    static constexpr std::size_t kLongestText =
+        store::kDefaultTextSize;  ///< of names, and of the description
 
   private:
     store::Cursor& OpenSettings() const;

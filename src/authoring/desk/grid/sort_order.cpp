@@ -50,7 +50,7 @@ std::string FaultOfSort(const store::Adventure& adventure, TableNum table, std::
     const std::string name = schema.name;
     if (text::StrEdit(order, "trim").empty()) return "An order names at least one field.";
     if (text::Length(order) > static_cast<std::size_t>(store::kDefaultTextSize))
-        return "An order is at most 255 characters long.";
+        return "An order is at most " + std::to_string(store::kDefaultTextSize) + " characters long.";
     if (!store::IsOrderOf(schema, order))
         return "'" + std::string(order) + "' is no order of the fields of " + name + ".";
     return "";
