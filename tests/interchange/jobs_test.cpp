@@ -196,6 +196,18 @@ TEST_F(Jobs, ANameThatIsNoUtf8IsSavedAsOneThatIs) {
     EXPECT_EQ(adventure->OpenTable(store::TableNum::Adventure, "savename").Text("savename"), "caf\uFFFD");
 }
 
+TEST_F(Jobs, ASourceThatIsTheTargetByAnotherNameIsNotWrittenOver) {
+    const auto source = Write("game.txt", "/CTL\n_\n");
+    std::filesystem::create_hard_link(source, Target());
+    try {
+        Import("ace", source);
+        FAIL();
+    } catch (const Error& error) {
+        EXPECT_EQ(error.what(), "Could not write " + Target().string() + ": it is the source itself.");
+    }
+    EXPECT_EQ(std::filesystem::file_size(source), 7U);
+}
+
 TEST_F(Jobs, ABlankSourceIsRefused) {
     EXPECT_FALSE(Import("pcvel", " ").done);
     EXPECT_EQ(person_.Boxes(), (std::vector<Shown>{{"Source File not specified", "Error"}}));

@@ -102,6 +102,7 @@ TEST_F(PictureImportTest, AFileThatIsNoListingIsRefusedInItsOwnWords) {
 
 TEST(RecordList, NumbersAndRangesAreTaken) {
     EXPECT_EQ(ParseRecordList(" 3, 7-9,3").numbers, (std::vector<int>{3, 7, 8, 9}));
+    EXPECT_EQ(ParseRecordList("998-999").numbers, (std::vector<int>{998, 999}));
 }
 
 TEST(RecordList, EachFaultHasItsMessage) {

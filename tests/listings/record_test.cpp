@@ -72,6 +72,19 @@ TEST(Record, AsideGoesBesideTheLineOrBelowWhatStandsThere) {
     EXPECT_EQ(TextsOf(record), (Texts{"AT 1     first", "         one", "         second"}));
 }
 
+TEST(Record, AsideGoesBelowATextThatHasReachedItsColumn) {
+    Record record;
+    record.Row("%a", {std::string("AT 1")});
+    record.Aside("first", {5, 8});
+    EXPECT_EQ(TextsOf(record), (Texts{"AT 1", "    first"}));
+}
+
+TEST(Record, ValuesOfARowAreMadeSafe) {
+    Record record;
+    record.Row("%a", {std::string("a\x1B[2J")});
+    EXPECT_EQ(TextsOf(record), (Texts{"a\uFFFD[2J"}));
+}
+
 TEST(Record, PlaceBelongsToTheFirstLine) {
     const Place place{store::TableNum::Messages, 7};
     Record record(place);

@@ -87,6 +87,13 @@ TEST_F(PlayerTest, NoteThatNoDeviceHasSendsNothing) {
     for (const int note : {-61, 68, 65535})
         player_.PlayTone(note, milliseconds(10));
     EXPECT_TRUE(sent_.empty());
+    EXPECT_TRUE(opened_.empty());
+}
+
+TEST_F(PlayerTest, HighestNoteOfMidiIsPlayed) {
+    player_.Configure(Settings());
+    player_.PlayTone(67, milliseconds(10));
+    EXPECT_EQ(sent_, (Messages{{192, 0, 0}, {144, 127, 64}}));
 }
 
 TEST_F(PlayerTest, VoiceIsAProgramChange) {
@@ -113,6 +120,43 @@ TEST_F(PlayerTest, ChannelAndVolumeStayInTheRangeOfMidi) {
     player_.Configure(settings);
     player_.PlayTone(0, milliseconds(10));
     EXPECT_EQ(sent_.back(), (Message{159, 60, 127}));
+}
+
+TEST_F(PlayerTest, ChannelAndVolumeAndVoiceBelowZeroCountAsZero) {
+    engine::SoundSettings settings;
+    settings.channel = -1;
+    settings.volume = -1;
+    settings.voice = -1;
+    player_.Configure(settings);
+    player_.PlayTone(0, milliseconds(10));
+    EXPECT_EQ(sent_, (Messages{{192, 0, 0}, {144, 60, 0}}));
+}
+
+TEST_F(PlayerTest, NextGameOnTheSameDeviceEndsTheToneAndSendsItsVoice) {
+    player_.Configure(Settings());
+    player_.PlayTone(0, milliseconds(500));
+    sent_.clear();
+    engine::SoundSettings next = Settings();
+    next.voice = 7;
+    player_.Configure(next);
+    EXPECT_EQ(sent_, (Messages{{128, 60, 0}, {192, 7, 0}}));
+}
+
+TEST_F(PlayerTest, GameWithTheDeviceOfAnotherNumberOpensThatOne) {
+    player_.Configure(OnDevice("", 2));
+    player_.PlayTone(0, milliseconds(10));
+    player_.Configure(OnDevice("", 3));
+    player_.PlayTone(0, milliseconds(10));
+    EXPECT_EQ(opened_, (std::vector<std::string>{"#2", "#3"}));
+}
+
+TEST_F(PlayerTest, EndOfThePlayerEndsItsTone) {
+    {
+        Player player(timers_, Open(), [](const auto&) {});
+        player.Configure(Settings());
+        player.PlayTone(0, milliseconds(500));
+    }
+    EXPECT_EQ(sent_.back(), (Message{128, 60, 0}));
 }
 
 TEST_F(PlayerTest, DeviceIsOpenedAtTheFirstToneAndKept) {

@@ -121,6 +121,27 @@ TEST(SynthOutput, BeepOfTwiceTheLengthEndsThatMuchLater) {
     EXPECT_NEAR(EndOf(longer, during) - EndOf(shorter, during), 300, 10);
 }
 
+TEST(SynthOutput, NoteEndsOnTheChannelThatItBeganOn) {
+    const test::TempFolder folder;
+    {
+        SynthOutput synth(FindSoundFont().value(), folder / "sound.raw");
+        synth.Send({kProgramChange + 3, 80, 0});
+        synth.Send({kNoteOn + 3, 69, 100});
+        synth.Render(milliseconds(300));
+        synth.Send({kNoteOff + 3, 69, 0});
+        synth.Render(milliseconds(600));
+    }
+    const auto samples = Samples(folder / "sound.raw");
+    const double during = Loudness(samples, 8820, 12348);
+    EXPECT_GT(during, 1000.0);
+    EXPECT_LT(Loudness(samples, 30870, 38000), during / 100);
+}
+
+TEST(SynthOutput, SoundFileThatCanNotBeWrittenIsAnError) {
+    const test::TempFolder folder;
+    EXPECT_THROW(SynthOutput(FindSoundFont().value(), folder / "none" / "sound.raw"), Error);
+}
+
 TEST(SynthOutput, SoundFontThatIsNoneIsAnError) {
     const test::TempFolder folder;
     EXPECT_THROW(SynthOutput(folder / "none.sf2", folder / "sound.raw"), Error);

@@ -237,6 +237,21 @@ TEST(GoSub, ThatMultipliesWithoutEndFails) {
         drawn.substr(0, drawn.find(':')) + ": with its subroutines it runs more than 50000 commands.");
 }
 
+TEST(CommDraw, RunsFiftyThousandCommandsAndNotOneMore) {
+    std::string most;
+    for (int i = 1; i < kMostCommands; ++i)
+        most += "FLASH 0 ";
+    EXPECT_EQ(DrawingFault(TestBook(), most + "END"), "drawn");
+    EXPECT_NE(DrawingFault(TestBook(), most + "FLASH 0 END"), "drawn");
+}
+
+TEST(CommDraw, KeepsTheCursorWithinTheLargestNumber) {
+    const PictureBook book = TestBook();
+    Drawing drawing(book);
+    drawing.CommDraw(Picture{}, "ABSMOVE -32767 -32767 RELMOVE -32767 -32767 END");
+    EXPECT_EQ(drawing.State().cursor, (Point{-kLargestNumber, -kLargestNumber}));
+}
+
 TEST(GoSub, ADrawAfterAFailureIsNotHarmed) {
     PictureBook book = TestBook();
     AddPicture(book, 5, "GOSUB sc=0 5 END");

@@ -81,6 +81,20 @@ TEST_F(SteppedDrawingTest, AfterAChangeInTheMiddleTheNewWordsCount) {
     ExpectSame(stepped_.Planes(), Draw(book_, JoinWords(words_)));
 }
 
+TEST_F(SteppedDrawingTest, PlaceBehindAParameterThatHasChangedIsDrawnAnewWhenItIsSteppedBackTo) {
+    StepWords words;
+    for (int i = 0; i < SteppedDrawing::kInterval; ++i)
+        words.insert(words.end(), {"RPLOT", "0", "1", "0"});
+    words.push_back("END");
+    const std::size_t end = words.size() - 1;
+    stepped_.GoTo(words, end);
+    words[end - 1] = "1";
+    stepped_.Forget(end - 1);
+    stepped_.GoTo(words, words.size());
+    stepped_.GoTo(words, end);
+    ExpectSame(stepped_.Planes(), DrawnUpTo(book_, words, end));
+}
+
 TEST_F(SteppedDrawingTest, ADrawstringWithMoreCommandsThanItKeepsSnapshotsOfIsSteppedBackAllTheSame) {
     const int many = static_cast<int>(SteppedDrawing::kMostSnapshots) * SteppedDrawing::kInterval * 3;
     StepWords words;

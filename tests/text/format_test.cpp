@@ -141,6 +141,11 @@ TEST(FormatText, AWidthThatIsNoNumberCountsAsNone) {
     EXPECT_EQ(FormatText("%a*!|", {-4, "ab"}), "ab|");
 }
 
+TEST(FormatText, TheLargestWidthIs32767) {
+    EXPECT_EQ(FormatText("%a32767!|", {"ab"}), "ab" + std::string(32765, ' ') + "|");
+    EXPECT_EQ(FormatText("%a32768!|", {"ab"}), "ab|");
+}
+
 TEST(FormatText, BlanksAroundAWidthDoNotCount) {
     EXPECT_EQ(FormatText("%a5 !|", {"ab"}), "ab   |");
 }
@@ -182,6 +187,10 @@ TEST(FormatText, TabulatesToAColumnCountedFromOne) {
     EXPECT_EQ(FormatText("%t6!%a", {"text"}), "     text");
     EXPECT_EQ(FormatText("!%a!%t10!%c30-!", {"AB"}), "AB       ------------------------------");
     EXPECT_EQ(FormatText("été!%t6!x", {}), "été  x");
+}
+
+TEST(FormatText, ALaterTabulationCountsTheCharactersInFrontOfAnEarlierOneOnce) {
+    EXPECT_EQ(FormatText("été!%t6!é!%t10!x", {}), "été  é   x");
 }
 
 TEST(FormatText, TabulatingAddsNothingWhereTheColumnIsReachedExactly) {

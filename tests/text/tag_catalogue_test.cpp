@@ -23,6 +23,7 @@ TEST(TagCatalogue, WithCharacterSetsTheirNumbersCountAndFontsDoNot) {
     const TagCatalogue tags({{12, "", 0, "", "Arial"}}, std::set<int>{0, 3});
     EXPECT_TRUE(tags.HasCharacterSet(3));
     EXPECT_FALSE(tags.HasCharacterSet(12));
+    EXPECT_FALSE(tags.HasCharacterSet(4294967299));
 }
 
 TEST(TagCatalogue, WithoutCharacterSetsTheNumbersOfFontsCount) {

@@ -55,7 +55,10 @@ std::string SignOf(std::string_view word, std::string_view name) {
     if (text::Length(word) == 1) return std::string(word);
     const auto code = text::WholeNumber(word);
     constexpr std::int64_t kLastCode = 0x10FFFF;
-    if (!code || *code < 0 || *code > kLastCode)
+    constexpr std::int64_t kFirstSurrogate = 0xD800;
+    constexpr std::int64_t kLastSurrogate = 0xDFFF;
+    const bool isSurrogate = code && *code >= kFirstSurrogate && *code <= kLastSurrogate;
+    if (!code || *code < 0 || *code > kLastCode || isSurrogate)
         Refuse(name, "\"" + std::string(word) + "\" is no sign and no code of one");
     std::string sign;
     text::AppendCodePoint(sign, static_cast<char32_t>(*code));

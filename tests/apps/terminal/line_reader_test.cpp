@@ -90,6 +90,25 @@ TEST(LineReader, AFileThatIsNotThereIsToldSo) {
     EXPECT_THROW(LineReader(std::filesystem::path("/nowhere/lines")), Error);
 }
 
+TEST(LineReader, OnlyTheFirstLineMayBeginWithAByteOrderMark) {
+    Pipe pipe;
+    pipe.Write("\xEF\xBB\xBFone\n\xEF\xBB\xBFtwo\n");
+    LineReader reader(pipe.ReadEnd());
+    EXPECT_EQ(reader.Read({}).text, "one");
+    EXPECT_EQ(reader.Read({}).text, "\xEF\xBB\xBFtwo");
+}
+
+TEST(LineReader, WhatCanNotBeReadIsAnErrorAndNoEnd) {
+    const int onlyForWriting = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    LineReader reader(onlyForWriting);
+    EXPECT_THROW(reader.Read({}), Error);
+    close(onlyForWriting);
+}
+
+TEST(LineReader, ADeviceIsRefused) {
+    EXPECT_THROW(LineReader(std::filesystem::path("/dev/zero")), Error);
+}
+
 TEST(LineReader, ASequenceGivesTheLinesOfTheFirstThenThoseOfTheSecond) {
     Pipe first;
     first.Write("one\n");

@@ -171,6 +171,22 @@ TEST_F(BatchFile, TellsEveryLineThatItCannotRead) {
                             "12: The record has no ENDRECORD.", "14: The section has no /END."));
 }
 
+TEST_F(BatchFile, ARecordWithAFaultDoesNotComeInAndTheNextOneDoes) {
+    const auto records = Read(
+        "/MSG\nMessage=1\nMessage=2\nENDRECORD\nMessage=3\nText=here\nENDRECORD\nMessage=4\nENDRECORD\n"
+        "/END\n");
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].entries.at(0).value, "4");
+}
+
+TEST_F(BatchFile, HoldsAHundredThousandRecordsAndNotOneMore) {
+    std::string most = "/MSG\n";
+    for (std::size_t i = 0; i < kMostBatchRecords; ++i)
+        most += "Message=1\nENDRECORD\n";
+    EXPECT_EQ(Read(most + "/END\n").size(), kMostBatchRecords);
+    EXPECT_THROW(Read(most + "Message=1\nENDRECORD\n/END\n"), Error);
+}
+
 TEST_F(BatchFile, TellsATextWithoutItsEnd) {
     Read("/MSG\nMessage=1\nText=\nand on and on\nENDRECORD\n/END\n");
     EXPECT_THAT(faults_, ElementsAre("3: The text has no ENDDESC.", "1: The section has no /END."));

@@ -220,6 +220,8 @@ TEST(LoadFabula, RefusesALineThatIsNoFieldAndTellsWhere) {
     ExpectRefused("2|msgnum|3\nnonsense\n",
                   "game.ext:3:1: fault: The line does not begin with the number of a table.\n");
     ExpectRefused("99|x|y\n", "The line does not begin with the number of a table.");
+    ExpectRefused(std::to_string(store::kHighestTable + 1) + "|x|y\n",
+                  "The line does not begin with the number of a table.");
     ExpectRefused("-1|x|y\n", "The line does not begin with the number of a table.");
 }
 
@@ -234,8 +236,15 @@ TEST(LoadFabula, RefusesAValueThatIsNotOfItsType) {
     ExpectRefused("2|msgnum|three\n", "The value is not of the type of its field.");
     ExpectRefused("5|advnum|1\n5|sound|maybe\n", "The value is not of the type of its field.");
     ExpectRefused("5|advnum|1\n5|DateCreated|yesterday\n", "The value is not of the type of its field.");
+    ExpectRefused("5|advnum|1\n5|DateCreated|2001/03/05 14:07:09\n",
+                  "The value is not of the type of its field.");
     ExpectRefused("2|msgnum|99999\n", "game.ext:2:10: fault: ");
     ExpectRefused("5|advnum|1\n5|author|" + std::string(300, 'x') + "\n", "game.ext:3:10: fault: ");
+}
+
+TEST(LoadFabula, RefusesAListOfConditionsThatLacksAParameter) {
+    ExpectRefused("6|canum|1\n6|estype|1\n6|numericcondacts|101\n",
+                  "No parameter where there should be one");
 }
 
 TEST(LoadFabula, RefusesARecordWithoutItsKey) {

@@ -109,6 +109,16 @@ TEST(ExportFabula, NamesWhatWillNotComeBackAndGoesOn) {
     EXPECT_TRUE(Has(file, "2|msgmsg|a<CR>b\r\n"));
 }
 
+TEST(ExportFabula, ATagInATextOfOneLineComesBackAndIsNoLoss) {
+    const test::OpenedAdventure adventure;
+    Cursor& settings = adventure->OpenTable(TableNum::Adventure, "def");
+    settings.SetField("author", std::string("Ann<CR>Bob"));
+    settings.Update();
+    std::string status;
+    EXPECT_TRUE(Has(Written(*adventure, "fabula", &status), "5|author|Ann<CR>Bob\r\n"));
+    EXPECT_EQ(status, "");
+}
+
 TEST(ExportFabula, ACharacterThatCannotBeWrittenFailsWithItsRecord) {
     const test::OpenedAdventure adventure;
     SetMessage(*adventure, 5, "Say 中.");

@@ -108,6 +108,15 @@ TEST_F(PcLinesTest, ALinkOutOfTheFolderIsRefused) {
     EXPECT_NE(status_.Text().find("ERROR: The link leaves the folder of the source."), std::string::npos);
 }
 
+TEST_F(PcLinesTest, ALinkIntoAFolderWhoseNameOnlyBeginsLikeThatOfTheSourceIsRefused) {
+    Write("games/game.sce", "/LNK ../games2/part.sce\n");
+    Write("games2/part.sce", "secret\n");
+    PcLines source(folder_ / "games/game.sce", ';', "PCVEL", status_);
+    std::string line;
+    EXPECT_FALSE(source.RdSrcFile(line, true));
+    EXPECT_TRUE(source.Failed());
+}
+
 TEST_F(PcLinesTest, ASymbolicLinkOutOfTheFolderIsRefused) {
     const test::TempFolder elsewhere;
     std::ofstream(elsewhere / "secret.sce") << "secret\n";

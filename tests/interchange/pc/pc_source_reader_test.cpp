@@ -243,12 +243,24 @@ TEST(PcSourceTexts, ComeInAtTheNumbersGiven) {
     EXPECT_EQ(game.Text(TableNum::Locations, "locnum=999", "locdesc"), "B.");
 }
 
+TEST(PcSourceVocabulary, TakesTheNumbersUpTo254) {
+    const Reading game("pcvel", PcSource("OWL 254 noun\nELK 255 noun\n", ""));
+    EXPECT_EQ(game.Count(TableNum::Vocabulary, "word='OWL'"), 1);
+    EXPECT_EQ(game.Count(TableNum::Vocabulary, "word='ELK'"), 0);
+    EXPECT_EQ(game.faults, 1);
+}
+
 TEST(PcSourceConnections, BecomeTheExitsOfTheirLocation) {
     const Reading game = PcGame(std::string(kReadRooms) + "/CON\n/0\nnorth 1\nGO 0\n/1\nSOUTH 0 NORTH 1\n");
     EXPECT_EQ(game.Text(TableNum::Locations, "locnum=0", "exits"), "NORTH 1 GO 0");
     EXPECT_EQ(game.Text(TableNum::Locations, "locnum=0", "numericexits"), "2 1 20 0");
     EXPECT_EQ(game.Number(TableNum::Locations, "locnum=0", "numexits"), 4) << "tokens, two for each exit";
     EXPECT_EQ(game.Text(TableNum::Locations, "locnum=1", "exits"), "SOUTH 0 NORTH 1");
+}
+
+TEST(PcSourceConnections, AWordMayLeadElsewhereFromAnotherLocation) {
+    EXPECT_EQ(PcGame(std::string(kReadRooms) + "/CON\n/0\nNORTH 1\n/1\nNORTH 0\n").faults, 0);
+    EXPECT_EQ(PcGame(std::string(kReadRooms) + "/CON\n/0\nNORTH 1\nNORTH 0\n").faults, 1);
 }
 
 TEST(PcSourceConnections, BadOnesAreToldAndDropped) {
@@ -317,6 +329,18 @@ TEST(PcSourceObjects, BadLinesLeaveTheObjectAsItIs) {
     EXPECT_TRUE(game.ToldAt(23, "ERROR: This line can't be understood."));
     EXPECT_EQ(game.Number(TableNum::Objects, "objnum=0", "objloc"), 252);
     EXPECT_EQ(game.faults, 5);
+}
+
+TEST(PcSourceObjects, WeighAtMost63) {
+    EXPECT_EQ(Objects("/0 3 63 N N _ _\n").Number(TableNum::Objects, "objnum=0", "objweight"), 63);
+}
+
+TEST(PcSourceObjects, NoneBeginsWhereThePlayerIs) {
+    for (const char* line : {"/0 HERE 1 N N _ _\n", "/0 255 1 N N _ _\n"}) {
+        const Reading game = Objects(line);
+        EXPECT_TRUE(game.ToldAt(21, "Invalid location")) << line;
+        EXPECT_EQ(game.Number(TableNum::Objects, "objnum=0", "objloc"), 252) << line;
+    }
 }
 
 Reading Processes(const std::string& lines) {

@@ -21,6 +21,14 @@ TEST(Extras, OfTheSettingsAreTaken) {
               "Ann Other");
 }
 
+TEST(SourceName, IsKeptAsFarAsItsFieldHasRoomForCharacters) {
+    std::string name;
+    for (int i = 0; i < 255; ++i)
+        name += "é";
+    const Reading game("pcvel", "; Adventure Name: " + name + "é\n" + PcSource("", kRooms));
+    EXPECT_EQ(game.Text(TableNum::Adventure, "", "advname"), name);
+}
+
 TEST(Extras, OfALocationAreTakenWhereverTheyStand) {
     const Reading game = WithComment("#! Locations 1 locshortdesc The cellar<CR>again");
     EXPECT_EQ(game.Text(TableNum::Locations, "locnum=1", "locshortdesc"), "The cellar\u008Cagain");
@@ -36,6 +44,25 @@ TEST(Extras, ThatMeanNothingAreTold) {
     EXPECT_TRUE(WithComment("#! Locations 7 locshortdesc x").ToldAt(1, "There is no such record."));
     EXPECT_TRUE(
         WithComment("#! Adventure startloc Hall").ToldAt(1, "The value is not of the type of its field."));
+}
+
+TEST(Extras, AValueThatIsTooLongForItsFieldIsToldAndTheGameComesIn) {
+    const Reading game = WithComment("#! Adventure author " + std::string(300, 'x'));
+    EXPECT_TRUE(game.ok);
+    EXPECT_EQ(game.faults, 1);
+    EXPECT_EQ(game.Text(TableNum::Locations, "locnum=1", "locdesc"), "Cellar.");
+}
+
+TEST(Extras, OfANumberBelowZeroAddNoRecord) {
+    const Reading game = WithComment("#! Pictures -5 drawstring END");
+    EXPECT_TRUE(game.ToldAt(1, "There is no such record."));
+    EXPECT_EQ(game.Count(TableNum::Pictures, "locnum<0"), 0);
+}
+
+TEST(Comments, AnEmptyLineOfACommentMayHaveLostTheBlankAtItsEnd) {
+    EXPECT_EQ(LineOfComment("! comment "), "");
+    EXPECT_EQ(LineOfComment("! comment"), "");
+    EXPECT_EQ(LineOfComment("! comments"), std::nullopt);
 }
 
 TEST(Extras, OrdinaryCommentsAreNone) {

@@ -86,6 +86,13 @@ TEST(SourceFile, AMissingFileIsAnError) {
     EXPECT_THROW(SourceFile("/no/such/file"), Error);
 }
 
+TEST(SourceFile, AFileThatIsTooLargeIsAnError) {
+    const test::TempFolder folder;
+    std::ofstream(folder / "large.txt") << "a\n";
+    std::filesystem::resize_file(folder / "large.txt", kLargestSource + 1);
+    EXPECT_THROW(SourceFile(folder / "large.txt"), Error);
+}
+
 TEST(SourceFile, AFolderIsAnError) {
     const test::TempFolder folder;
     EXPECT_THROW(SourceFile source(folder.Path()), Error);

@@ -264,5 +264,17 @@ TEST(UnVelWriter, TheEndIsTold) {
     EXPECT_EQ(extract.person.Boxes().back().text, "UnVel Export completed");
 }
 
+TEST(ExportUnVel, ACharacterThatCannotBeWrittenIsAQuestionMarkAndALoss) {
+    const test::OpenedAdventure adventure;
+    store::Cursor& messages = adventure->OpenTable(store::TableNum::Messages, "def");
+    messages.AddNew();
+    messages.SetField("msgnum", 5);
+    messages.SetField("msgmsg", "Say 中.");
+    messages.Update();
+    std::string status;
+    EXPECT_NE(Written(*adventure, "unvel", &status).find("Say ?.\r\n"), std::string::npos);
+    EXPECT_NE(status.find("the character U+4E2D can't be written."), std::string::npos) << status;
+}
+
 }  // namespace
 }  // namespace fabula::interchange

@@ -26,6 +26,14 @@ TEST(Frame, HeaderHasTitleInTheMiddlePageNumberNameAndHeadings) {
               "--- -----------\n");
 }
 
+TEST(Frame, NameOfTheAdventureAndTitleAreSafeToShow) {
+    TextPage page;
+    Frame frame(page, "The\x1B[2JMill");
+    frame.Begin("Keypad\x1B[2J", {});
+    EXPECT_EQ(page.Text().find('\x1B'), std::string::npos);
+    EXPECT_NE(page.Text().find("The\uFFFD[2JMill\n"), std::string::npos);
+}
+
 TEST(Frame, BlanksBeforeTheTitleAreRoundedDown) {
     TextPage page;
     Frame frame(page, "");

@@ -36,6 +36,7 @@ TEST(HtmlPage, TextOfTheGameIsEscaped) {
     EXPECT_NE(file.find("&lt;script&gt;alert(&quot;x&quot;)&lt;/script&gt;"), std::string::npos);
     EXPECT_NE(file.find("<h1>&lt;b&gt;Mill&lt;/b&gt;</h1>"), std::string::npos);
     EXPECT_NE(file.find(">A &amp; B</h2>"), std::string::npos);
+    EXPECT_NE(file.find(">A &amp; B</a></li>"), std::string::npos);
 }
 
 TEST(HtmlPage, ContentsLeadToEachReport) {
@@ -111,6 +112,17 @@ TEST(HtmlPage, PicturesArePartOfTheFile) {
                         "src=\"data:image/png;base64,iVBORw0KGgo"),
               std::string::npos);
     EXPECT_NE(file.find("<figcaption>65</figcaption></figure>"), std::string::npos);
+}
+
+TEST(HtmlPage, DescriptionOfAPictureDoesNotEndItsAttribute) {
+    HtmlPage page("Mill");
+    page.BeginReport("R", std::nullopt);
+    Line line;
+    line.pictures.push_back({.lines = 2,
+                             .image = std::make_shared<pictures::Image>(1, 1, pictures::Colour{}),
+                             .description = "a \" onload=\"x"});
+    page.Put(line);
+    EXPECT_NE(page.Finish().find("alt=\"a &quot; onload=&quot;x\""), std::string::npos);
 }
 
 TEST(HtmlPage, PictureInALineCoversItsColumns) {

@@ -67,5 +67,11 @@ TEST_F(Preview, SheetsOfWideListingsHaveTheirColumns) {
     EXPECT_GT(objects.Pages().Columns(), 100u);
 }
 
+TEST(Paper, SheetHasNoMoreColumnsThanItsBound) {
+    Paper paper;
+    paper.Put({.text = std::string(kMostSheetColumns + 600, 'x')});
+    EXPECT_EQ(paper.Columns(), kMostSheetColumns);
+}
+
 }  // namespace
 }  // namespace fabula::listings

@@ -85,10 +85,11 @@ TEST_F(PictureReports, APictureThatDoesNotFitBeginsOnANewPage) {
 }
 
 TEST_F(PictureReports, PictureThatCannotBeDrawnTellsWhyAndListsItsCommands) {
-    Picture(5, "GOSUB 0 99 END");
+    Picture(5, "GOSUB sc=0 99 END");
     const std::string listed = Listed(*adventure_, "graphics");
-    EXPECT_NE(listed.find("99"), std::string::npos);
-    EXPECT_TRUE(listed.ends_with("GOSUB     0      99\nEND\n")) << listed;
+    EXPECT_NE(listed.find("\nPicture 5 can't be drawn: there is no picture 99 for its GOSUB.\n"),
+              std::string::npos);
+    EXPECT_TRUE(listed.ends_with("GOSUB     sc=0   99\nEND\n")) << listed;
 }
 
 TEST_F(PictureReports, ParametersThatAreMissingAreNotMadeUp) {
@@ -110,6 +111,17 @@ TEST_F(PictureReports, GosubListClosesOverNestedSubroutines) {
     Picture(8, "GOSUB 0 7 END");
     Picture(9, "END");
     EXPECT_EQ(Needed({1}), (Numbers{1, 7, 8, 9}));
+}
+
+TEST_F(PictureReports, PictureThatIsCalledAndDoesNotExistIsAmongThoseNeeded) {
+    Picture(1, "GOSUB 0 7 GOSUB 0 8 END");
+    Picture(8, "END");
+    EXPECT_EQ(Needed({1}), (Numbers{1, 7, 8}));
+}
+
+TEST_F(PictureReports, CallWithoutItsNumberCallsNothing) {
+    Picture(1, "GOSUB 0 7 GOSUB 0");
+    EXPECT_EQ(Needed({1}), (Numbers{1, 7}));
 }
 
 TEST_F(PictureReports, PictureThatCallsItselfAppearsOnce) {

@@ -123,6 +123,14 @@ TEST_F(TableReports, ExtraEntriesCountFromFlag60) {
               "59       Switch    x\n60       Switch    x\n61       Switch    x\n");
 }
 
+TEST_F(TableReports, ExtraEntriesEndWithTheHighestFlagOfTheUserToo) {
+    Empty(*adventure_, TableNum::Flags);
+    Flag(60, "User", "Switch", "x");
+    Flag(61, "System", "Switch", "beyond", 1);
+    EXPECT_EQ(Behind(Listed(*adventure_, "user-flags", {.extraEntries = 5}), "------"),
+              "60       Switch    x\n");
+}
+
 TEST_F(TableReports, UserListingOfProcessDescriptionsLeavesUnderscoresOut) {
     Empty(*adventure_, TableNum::ProcDesc);
     AddRecord(*adventure_, TableNum::ProcDesc,

@@ -47,6 +47,31 @@ TEST(Template, DrawsNoMoreThanItsBounds) {
     EXPECT_THROW(DrawTemplate("150 a 150 a 0 1", "t"), Error);
 }
 
+TEST(Template, DrawsUpToItsBounds) {
+    EXPECT_EQ(DrawTemplate("200 a 0 1000", "t"), Lines(1000, std::string(200, 'a')));
+}
+
+TEST(Template, CodeThatNoSignHasIsRefused) {
+    for (const char* words : {"1 1114112 0 1", "1 55296 0 1", "1 57343 0 1"})
+        EXPECT_THROW(DrawTemplate(words, "t"), Error) << words;
+    EXPECT_EQ(DrawTemplate("1 57344 0 1", "t"), Lines{"\uE000"});
+}
+
+TEST(Template, RecordThatIsTooLargeIsRefusedThoughItPrintsNothing) {
+    const test::OpenedAdventure adventure;
+    std::string commands;
+    while (commands.size() <= kLargestTemplate)
+        commands += "1 a 0 0 ";
+    AddRecord(*adventure, store::TableNum::Templates,
+              {{"tempname", std::string("large")}, {"commands", commands}});
+    try {
+        DrawTemplateRecord(*adventure, "large");
+        FAIL();
+    } catch (const Error& error) {
+        EXPECT_STREQ(error.what(), "The template large can't be printed: it is too large.");
+    }
+}
+
 TEST(Template, FileAndRecordDrawTheSame) {
     const test::OpenedAdventure adventure;
     const auto folder = test::SourceFolder() / "data/templates";

@@ -56,6 +56,10 @@ TEST(ReadBdfFont, PutsASmallCharacterWhereTheFontSays) {
               (Glyph{0, 0, 0, 0, 0, 0b00011000, 0b00001000, 0b00010000}));
 }
 
+TEST(ReadBdfFont, WhatStandsInARowBesideASmallCharacterDoesNotCount) {
+    EXPECT_EQ(ReadBdfFont(Changed("BITMAP\nC0", "BITMAP\nFF"), "tiny.bdf"), ReadBdfFont(kFont, "tiny.bdf"));
+}
+
 TEST(ReadBdfFont, ReadsTheLineEndsOfOtherSystems) {
     std::string text(kFont);
     for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 2))
@@ -87,6 +91,8 @@ TEST(ReadBdfFont, RefusesRowsThatAreNone) {
 
 TEST(ReadBdfFont, RefusesACharacterThatStandsOutOfItsCell) {
     EXPECT_EQ(MessageFor(Changed("BBX 2 3 3 -1", "BBX 2 3 7 -1")),
+              "tiny.bdf, line 23: a character stands out of its cell of 8 by 8.");
+    EXPECT_EQ(MessageFor(Changed("BBX 2 3 3 -1", "BBX 2 3 3 -2")),
               "tiny.bdf, line 23: a character stands out of its cell of 8 by 8.");
 }
 

@@ -79,6 +79,12 @@ TEST(ReadCharacterFile, TheDelimiterIsWhateverTheFileSays) {
     EXPECT_EQ(file.sets[0].characters[0].glyph, (Glyph{1, 2, 3, 4, 5, 6, 7, 8}));
 }
 
+TEST(ReadCharacterFile, TheNameOfASetMayHaveTwentyLetters) {
+    const std::string name = "ÄÖÜ and a few letter";
+    EXPECT_EQ(ReadCharacterFile("CHARSETS\nDelim=|\nSET0003\n" + name + "\nENDSET\n", "f").sets[0].name,
+              name);
+}
+
 TEST(ReadCharacterFile, TakesEveryKindOfLineEnd) {
     const CharacterFile file =
         ReadCharacterFile("CHARSETS\r\nDelim=|\r\nSET0003\r\nRunes\r\n65|1|2|3|4|5|6|7|8\r\nENDSET", "f");

@@ -1,6 +1,7 @@
 #include "pictures/files/image_reader.h"
 
 #include <gtest/gtest.h>
+#include <png.h>
 #include <turbojpeg.h>
 
 #include "pictures/files/image.h"
@@ -36,6 +37,32 @@ std::string JpegOf(int width, int height, unsigned char grey) {
     return text;
 }
 
+/// Red, blue, red above blue, red, red.
+std::string BitmapOfOneBit() {
+    return {
+        "BM\x46\0\0\0\0\0\0\0\x3E\0\0\0"
+        "\x28\0\0\0\x03\0\0\0\xFE\xFF\xFF\xFF\x01\0\x01\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
+        "\0\0\xE6\0\xE6\0\0\0"  // red, blue
+        "\x40\0\0\0"            // red, blue, red
+        "\x80\0\0\0",
+        70};
+}
+
+/// A black pixel that is not seen at all.
+std::string TransparentPng() {
+    png_image png{};
+    png.version = PNG_IMAGE_VERSION;
+    png.width = 1;
+    png.height = 1;
+    png.format = PNG_FORMAT_RGBA;
+    const unsigned char pixel[4] = {};
+    std::string bytes(PNG_IMAGE_PNG_SIZE_MAX(png), '\0');
+    png_alloc_size_t size = bytes.size();
+    EXPECT_NE(png_image_write_to_memory(&png, bytes.data(), &size, 0, pixel, 0, nullptr), 0);
+    bytes.resize(size);
+    return bytes;
+}
+
 std::string ReadingFault(const std::string& bytes) {
     try {
         DecodeImage(bytes, "x");
@@ -62,16 +89,28 @@ TEST(DecodeImage, ReadsAJpeg) {
 }
 
 TEST(DecodeImage, ReadsABitmapOfOneBitWithItsColoursFromTheTop) {
-    std::string bytes(
-        "BM\x46\0\0\0\0\0\0\0\x3E\0\0\0"
-        "\x28\0\0\0\x03\0\0\0\xFE\xFF\xFF\xFF\x01\0\x01\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
-        "\0\0\xE6\0\xE6\0\0\0"  // red, blue
-        "\x40\0\0\0"            // red, blue, red
-        "\x80\0\0\0",
-        70);
-    const Image image = DecodeImage(bytes, "x");
+    const Image image = DecodeImage(BitmapOfOneBit(), "x");
     EXPECT_EQ(image.pixels,
               (std::vector<Colour>{kRedPoint, kBluePoint, kRedPoint, kBluePoint, kRedPoint, kRedPoint}));
+}
+
+TEST(DecodeImage, ColourThatAShortPaletteLacksIsBlack) {
+    std::string bytes = BitmapOfOneBit();
+    bytes[46] = 1;
+    const Image image = DecodeImage(bytes, "x");
+    EXPECT_EQ(image.At(0, 0), kRedPoint);
+    EXPECT_EQ(image.At(1, 0), MakeColour(0, 0, 0));
+}
+
+TEST(DecodeImage, PaletteThatClaimsMoreColoursThanThereCanBeIsReadAsFarAsItCounts) {
+    std::string bytes = BitmapOfOneBit();
+    bytes[46] = 100;
+    EXPECT_EQ(DecodeImage(bytes, "x").pixels, DecodeImage(BitmapOfOneBit(), "x").pixels);
+}
+
+TEST(DecodeImage, WhatIsTransparentBecomesWhite) {
+    const std::string bytes = TransparentPng();
+    EXPECT_EQ(DecodeImage(bytes, "x").At(0, 0), MakeColour(255, 255, 255));
 }
 
 TEST(DecodeImage, RefusesWhatIsNoImage) {
@@ -104,6 +143,21 @@ TEST(DecodeImage, RefusesABitmapThatIsCompressed) {
     bytes[30] = 1;
     EXPECT_EQ(ReadingFault(bytes),
               "Could not read the image x: it is compressed, or of a kind that is not read.");
+}
+
+TEST(DecodeImage, RefusesABitmapWithMasksButOfThirtyTwoBits) {
+    std::string bytes = EncodeBmp(SmallImage());
+    bytes[30] = 3;
+    EXPECT_EQ(ReadingFault(bytes),
+              "Could not read the image x: it is compressed, or of a kind that is not read.");
+}
+
+TEST(DecodeImage, RefusesAJpegThatClaimsMorePixelsThanAreRead) {
+    std::string bytes = JpegOf(16, 16, 9);
+    const std::size_t frame = bytes.find("\xFF\xC0");
+    ASSERT_NE(frame, std::string::npos);
+    bytes[frame + 5] = '\x7F';  // of the height
+    EXPECT_EQ(ReadingFault(bytes), "Could not read the image x: it has too many pixels.");
 }
 
 TEST(ReadImage, NamesTheFileThatIsMissing) {

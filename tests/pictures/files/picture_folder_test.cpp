@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "pictures/book_loader.h"
+#include "pictures/files/image_reader.h"
 #include "platform/error.h"
 #include "support/games/template_adventure.h"
 
@@ -130,6 +131,19 @@ TEST_F(PictureFolder, DrawingThatDoesNotPassLeavesTheBitmapsOfTheOthersAsTheyWer
     EXPECT_FALSE(Exists("pictures/game/Room000.bmp"));
 }
 
+TEST_F(PictureFolder, DrawingThatCannotBeDrawnLeavesTheBitmapsOfTheOthersAsTheyWere) {
+    Write("0.draw", "PLOT 0 5 5 END");
+    Add();
+    const std::filesystem::path bitmap = adventure_.Folder() / "pictures/game/Room000.bmp";
+    const std::vector<Colour> before = ReadImage(bitmap).pixels;
+    Write("0.draw", "PLOT 0 6 6 END");
+    Write("500.draw", "GOSUB sc=0 500 END");
+    Write("default.draw", "GOSUB sc=0 500 END");
+    EXPECT_NE(Failure(), "");
+    EXPECT_EQ(ReadImage(bitmap).pixels, before);
+    EXPECT_EQ(Field(TableNum::Pictures, "drawstring", "locnum=0"), "PLOT 0 5 5 END");
+}
+
 TEST_F(PictureFolder, WithoutADrawingIsRefused) {
     EXPECT_EQ(Failure(), "There is no drawing in the folder " + Drawings().string() + ".");
 }
@@ -142,6 +156,11 @@ TEST_F(PictureFolder, ColourThatIsNoneIsRefused) {
 TEST_F(PictureFolder, FileNameThatIsNoNumberIsRefused) {
     Write("tower.draw", "END");
     EXPECT_EQ(Failure(), (Drawings() / "tower.draw").string() + " is named after no picture.");
+}
+
+TEST_F(PictureFolder, NumberThatNoPictureMayHaveIsRefused) {
+    Write("1000.draw", "END");
+    EXPECT_EQ(Failure(), (Drawings() / "1000.draw").string() + " is named after no picture.");
 }
 
 }  // namespace

@@ -38,6 +38,10 @@ TEST(SafeText, BytesThatAreNoUtf8AreReplaced) {
     EXPECT_EQ(Safe("a\x9B\xC3z"), "a\uFFFD\uFFFDz");
 }
 
+TEST(SafeText, TheNoBreakSpaceBehindTheControlCharactersStays) {
+    EXPECT_EQ(Safe("a\u00A0b"), "a\u00A0b");
+}
+
 TEST(SafeText, ATabBecomesABlankAndALineSeparatorIsReplaced) {
     EXPECT_EQ(Safe("a\tb\u2028c\u2029"), "a b\uFFFDc\uFFFD");
 }
