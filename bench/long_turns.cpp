@@ -63,7 +63,7 @@ void Play(const char* name, const test::GameBuilder& game) {
                                  .random = random,
                                  .settings = settings,
                                  .dataFolder = folder / "data",
-                                 .testRun = false,
+                                 .isTrial = false,
                                  .trace = nullptr,
                                  .options = {},
                                  .help = [](const qt::HelpTopic&) {}});
