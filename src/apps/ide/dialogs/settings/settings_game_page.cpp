@@ -8,7 +8,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QTextDocument>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -30,6 +29,10 @@ namespace {
 constexpr int kBetweenColumns = 32;
 constexpr int kLettersOfASettingsColumn = 40;  ///< a column is not less wide
 constexpr int kLettersOfALineEdit = 17;        ///< for which a QLineEdit asks for room
+
+int WidthOfColumns(int column) {
+    return 2 * (column + kDialogMargin) + kBetweenColumns;
+}
 
 QLineEdit* NewLine(const std::string& text) {
     auto* line = new QLineEdit(qt::ToQt(text));
@@ -150,11 +153,8 @@ void SettingsGamePage::AddGame(QFormLayout& form) {
     form.addRow(NewNote(qt::Translated(screen_.TypeNote()).replace("&&", "&"), "typeNote"));
     AddToForm(form, tr("Start &location:"), start_, "startPlace");
     // A place may be called by more than a line shows.
-    const auto tellWhole = [this](const QString& place) {
-        start_->setToolTip(Qt::convertFromPlainText(place, Qt::WhiteSpaceNormal));
-    };
-    tellWhole(start_->currentText());
-    connect(start_, &QComboBox::currentTextChanged, this, tellWhole);
+    start_->setToolTip(start_->currentText());
+    connect(start_, &QComboBox::currentTextChanged, start_, &QWidget::setToolTip);
     AddToForm(form, tr("Maximum &objects:"), objects_, "maxObjects");
     AddToForm(form, tr("Maximum &weight:"), weight_, "maxWeight");
     weight_->setEnabled(screen_.HasWeights());
@@ -308,14 +308,13 @@ int SettingsGamePage::WidthBesideLabels() const {
 }
 
 QSize SettingsGamePage::sizeHint() const {
-    const int column = std::max(WidthOfColumn(), besideLabels_);
-    return {2 * (column + kDialogMargin) + kBetweenColumns, QWidget::sizeHint().height()};
+    return {WidthOfColumns(std::max(WidthOfColumn(), besideLabels_)), QWidget::sizeHint().height()};
 }
 
 void SettingsGamePage::resizeEvent(QResizeEvent* event) {
-    const bool both = width() >= sizeHint().width();
+    const bool both = width() >= WidthOfColumns(WidthOfColumn());
     columns_->setDirection(both ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    const bool narrow = width() < besideLabels_ + 2 * kDialogMargin;
+    const bool narrow = !both && width() < besideLabels_ + 2 * kDialogMargin;
     for (QFormLayout* form : forms_)
         form->setRowWrapPolicy(narrow ? QFormLayout::WrapAllRows : QFormLayout::DontWrapRows);
     QWidget::resizeEvent(event);
