@@ -309,11 +309,34 @@ TEST_F(Corrected, TextsFromBeforeTheMarkupAreBroughtIntoItAndListed) {
 }
 
 TEST_F(Corrected, TextsOfTheFirstVersionsWithMarkupStayAsTheyAre) {
-    Run("UPDATE System SET sysexportversion='2.0.5'; UPDATE Messages SET msgmsg='Fish &amp; chips' WHERE "
+    Run("UPDATE System SET sysexportversion='2.0.0'; UPDATE Messages SET msgmsg='Fish &amp; chips' WHERE "
         "msgnum=0");
     Open();
     EXPECT_EQ(Ask("SELECT msgmsg FROM Messages WHERE msgnum=0"), "Fish &amp; chips");
     EXPECT_TRUE(host_.reports.empty());
+}
+
+TEST_F(Corrected, OfAVersionThreePartsCount) {
+    Run("UPDATE System SET sysexportversion='1.9.9.9.9'; UPDATE Messages SET msgmsg='Fish & chips' WHERE "
+        "msgnum=0");
+    Open();
+    EXPECT_EQ(Ask("SELECT msgmsg FROM Messages WHERE msgnum=0"), "Fish &amp; chips");
+}
+
+TEST_F(Corrected, ATemplateThatTheAuthorHasChangedStaysAsItIsInARefresh) {
+    Run("UPDATE System SET sysinidate='1999-01-01';"
+        "UPDATE Templates SET commands='mine' WHERE tempname='keypad_small'");
+    Open();
+    EXPECT_EQ(Ask("SELECT count(*) || max(commands) FROM Templates WHERE tempname='keypad_small'"),
+              "1mine");
+}
+
+TEST_F(Corrected, AnUpgradedAdventureHasTheSettingsThatItNowHas) {
+    Run("UPDATE Adventure SET adventype='Unknwn'");
+    host_.answer = ChosenType{"VEL", true, true};
+    const auto adventure = OpenUpgraded(file_, test::DefaultDataFile(), host_);
+    EXPECT_EQ(adventure->AdventureTypeLower(), "vel");
+    EXPECT_TRUE(adventure->GraphicsOn());
 }
 
 TEST_F(Corrected, ADateThatDiffersBringsTheCataloguesUpToDate) {
