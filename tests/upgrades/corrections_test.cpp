@@ -231,6 +231,12 @@ TEST_F(Corrected, TheFirstAndTheLastOfTheMovedFlagsAreReported) {
     EXPECT_NE(host_.reports[0].text.find("SET 275\n"), std::string::npos);
 }
 
+TEST_F(Corrected, AColourOfTheScreenHasRedInItsLowestByte) {
+    Run("UPDATE Adventure SET backcolor=230, textcolor=15073280");
+    Open();
+    EXPECT_EQ(Ask("SELECT backcolor || ' ' || textcolor FROM Adventure"), "2 1");
+}
+
 TEST_F(Corrected, AFlagThatHasItsNewNumberAlreadyIsThereOnce) {
     Run("UPDATE Flags SET flgtype='System' WHERE flgnum=260");
     Open();
