@@ -220,6 +220,46 @@ TEST_F(Corrected, TheFlagMoveIsReportedAtEachStartUntilItIsCancelled) {
     EXPECT_EQ(host_.reports.size(), 2u);
 }
 
+TEST_F(Corrected, TheFirstAndTheLastOfTheMovedFlagsAreReported) {
+    Run("UPDATE System SET flagchange=0; UPDATE ProcessTables SET condacts='SET 256', numericcondacts='224 "
+        "256' "
+        "WHERE canum=1; UPDATE ProcessTables SET condacts='SET 275', numericcondacts='224 275' WHERE "
+        "canum=2");
+    Open();
+    ASSERT_EQ(host_.reports.size(), 1u);
+    EXPECT_NE(host_.reports[0].text.find("SET 256\n"), std::string::npos);
+    EXPECT_NE(host_.reports[0].text.find("SET 275\n"), std::string::npos);
+}
+
+TEST_F(Corrected, AColourOfTheScreenHasRedInItsLowestByte) {
+    Run("UPDATE Adventure SET backcolor=230, textcolor=15073280");
+    Open();
+    EXPECT_EQ(Ask("SELECT backcolor || ' ' || textcolor FROM Adventure"), "2 1");
+}
+
+TEST_F(Corrected, AFlagThatHasItsNewNumberAlreadyIsThereOnce) {
+    Run("UPDATE Flags SET flgtype='System' WHERE flgnum=260");
+    Open();
+    EXPECT_EQ(Ask("SELECT count(*) FROM Flags WHERE flgnum=1004"), "1");
+    EXPECT_EQ(Ask("SELECT flgtype FROM Flags WHERE flgnum=260"), "User");
+}
+
+TEST_F(Corrected, AnEntryThatNamesNoMovedFlagStaysAsItWasTyped) {
+    Run("UPDATE Flags SET flgtype='System' WHERE flgnum=260;"
+        "UPDATE ProcessTables SET condacts='SET  60  DONE', numericcondacts='224 60 265' WHERE canum=1");
+    Open();
+    EXPECT_EQ(Ask("SELECT condacts FROM ProcessTables WHERE canum=1"), "SET  60  DONE");
+}
+
+TEST_F(Corrected, EachOfTheFourOldSeparatorsBecomesALineEnd) {
+    Run("UPDATE Messages SET msgmsg='a' || char(28) || char(29) || char(30) || char(31) || 'b' WHERE "
+        "msgnum=0");
+    Open();
+    EXPECT_EQ(Ask("SELECT msgmsg FROM Messages WHERE msgnum=0"),
+              "a\u008C\u008C\u008C\u008C"
+              "b");
+}
+
 TEST_F(Corrected, WithoutUsesTheFlagMoveIsDoneAtOnce) {
     Run("UPDATE System SET flagchange=0");
     Open();
