@@ -101,7 +101,8 @@ TEST(SetupGrid, TitlesTheColumnsOfCharactersSoundsAndTemplatesInWords) {
     const test::OpenedAdventure adventure;
     const auto titles = [&](TableNum table) {
         std::vector<std::string> shown;
-        for (const GridColumn& column : GridOf(*adventure, {table}).Columns())
+        const auto grid = GridOf(*adventure, {table});
+        for (const GridColumn& column : grid.Columns())
             shown.push_back(column.title);
         return shown;
     };
