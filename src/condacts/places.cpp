@@ -2,8 +2,10 @@
 
 namespace fabula::condacts {
 
-std::string NoLocationMessage(std::string_view number) {
-    return "There is not a location with a number of " + std::string(number);
+std::string NoLocationMessage(std::string_view number, std::string_view word) {
+    // Each a whole sentence, for translators.
+    if (word.empty()) return "There is not a location with a number of " + std::string(number);
+    return "There is not a location with a number of " + std::string(number) + " for " + std::string(word);
 }
 
 std::string DescriptionOfPlace(PlaceNumber number) {

@@ -50,8 +50,8 @@ inline constexpr LocationWord kLocationWords[] = {
 };
 
 /// What is told of a location that a record or a line names and the game lacks, by its number as it was
-/// written: "There is not a location with a number of 5".
-std::string NoLocationMessage(std::string_view number);
+/// written, and by the word that leads there: "There is not a location with a number of 5 for NORTH".
+std::string NoLocationMessage(std::string_view number, std::string_view word = {});
 
 /// What the tables of objects say of a place: "Not created.", "Worn.", "Carried.", else "In Room 5.".
 std::string DescriptionOfPlace(PlaceNumber number);

@@ -23,9 +23,8 @@ inline constexpr int kTabColumn = 16;
 /// The size in points of a text to which neither a tag nor the settings give one.
 inline constexpr int kDefaultPoints = 12;
 
-/// The largest size in points at which a text is shown: a few words of it still fill a screen. A file may
-/// ask for more.
-inline constexpr int kMostPoints = 144;
+/// The largest size in points at which a text is shown, that of the largest title. A file may ask for more.
+inline constexpr int kMostPoints = 288;
 
 /// The points, 1 to kMostPoints, at which a text of a file's `fontSize` is shown: kDefaultPoints where that
 /// is 0 or less.

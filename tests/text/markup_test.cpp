@@ -274,9 +274,9 @@ TEST(StripTags, AMegabyteIsStripped) {
 TEST(ShownPoints, AreThoseOfTheFileUpToTheLargestThatAScreenHolds) {
     EXPECT_EQ(ShownPoints(1), 1);
     EXPECT_EQ(ShownPoints(24), 24);
-    EXPECT_EQ(ShownPoints(144), 144);
-    EXPECT_EQ(ShownPoints(145), 144);
-    EXPECT_EQ(ShownPoints(2'147'483'647), 144);
+    EXPECT_EQ(ShownPoints(288), 288);
+    EXPECT_EQ(ShownPoints(289), 288);
+    EXPECT_EQ(ShownPoints(2'147'483'647), 288);
 }
 
 TEST(ShownPoints, AreTwelveWhereAFileGivesNone) {

@@ -32,8 +32,10 @@ int FailUsage(const CLI::App& app, const CLI::ParseError& error) {
     constexpr std::string_view kNoValue = "Could not convert: ";
     const std::vector<std::string> unknown = app.remaining(true);
     std::string sentence = error.what();
-    if (!unknown.empty() && unknown.front().starts_with('-'))
-        sentence = "There is no option '" + unknown.front() + "'";
+    const auto option = std::ranges::find_if(unknown, [](const std::string& word) {
+        return word.starts_with('-') && word != "-" && word != "--";
+    });
+    if (option != unknown.end()) sentence = "There is no option '" + *option + "'";
     if (sentence.starts_with(kNoValue)) sentence = sentence.substr(kNoValue.size()) + " is no value for it";
     return Fail(sentence + "; --help tells more.", cli::kWrongUsage);
 }

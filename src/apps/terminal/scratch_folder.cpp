@@ -1,6 +1,8 @@
 #include "terminal/scratch_folder.h"
 
+#include <cerrno>
 #include <string>
+#include <system_error>
 
 #include <stdlib.h>
 
@@ -9,8 +11,10 @@
 namespace fabula::terminal {
 
 ScratchFolder::ScratchFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "fabula-XXXXXX").string();
-    if (!mkdtemp(name.data())) throw Error("Could not make a folder for temporary files.");
+    std::error_code fault;
+    std::string name = (std::filesystem::temp_directory_path(fault) / "fabula-XXXXXX").string();
+    if (!fault && !mkdtemp(name.data())) fault = std::error_code(errno, std::generic_category());
+    if (fault) throw Error("Could not make a folder for temporary files: " + fault.message() + ".");
     path_ = name;
 }
 

@@ -17,7 +17,7 @@ namespace {
 using store::Adventure;
 using store::TableNum;
 
-/// Above it the games of all types remember a noun for a pronoun.
+/// The first noun that games of all types remember for a pronoun.
 constexpr int kFirstNounOfIt = condacts::kFirstReferableNoun.value + 1;
 /// In the oldest games the words below are directions.
 constexpr int kFirstMarloNoun = 13;

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "authoring/fields/texts/brief_text.h"
-#include "condacts/places.h"
 #include "text/fields.h"
 #include "text/line_ends.h"
 #include "text/str_edit.h"
@@ -41,12 +40,6 @@ std::string NameIn(const std::vector<ListItem>& locations, condacts::PlaceNumber
     const auto found = std::find_if(locations.begin(), locations.end(),
                                     [number](const ListItem& item) { return item.number == number.value; });
     return found == locations.end() ? "" : found->text;
-}
-
-std::string NoSuchLocation(std::string_view number, std::string_view word) {
-    std::string message = condacts::NoLocationMessage(number);
-    if (!word.empty()) message.append(" for ").append(word);
-    return message;
 }
 
 }  // namespace fabula::authoring

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "authoring/fields/controls.h"
@@ -16,9 +15,5 @@ std::vector<ListItem> LocationNames(store::Adventure& adventure);
 
 /// The name in such a list; "" for a number that is not in it.
 std::string NameIn(const std::vector<ListItem>& locations, condacts::PlaceNumber number);
-
-/// Says that there is no location of a number, as it was typed or stored; `word` is that of the exit which
-/// leads there, where one does.
-std::string NoSuchLocation(std::string_view number, std::string_view word = {});
 
 }  // namespace fabula::authoring

@@ -4,7 +4,6 @@
 #include <set>
 #include <utility>
 
-#include "authoring/fields/location_names.h"
 #include "condacts/language/parser.h"
 #include "condacts/object_attributes.h"
 #include "condacts/places.h"
@@ -66,7 +65,8 @@ class Search {
     void CheckStart() {
         PreparedQuery settings = adventure_.Prepare(TableNum::Adventure, "startloc", "");
         if (!settings.First({}) || IsRoom(PlaceIn(settings, 0))) return;
-        Add(TableNum::Adventure, 0, "startloc", NoSuchLocation(std::to_string(settings.Number(0))));
+        Add(TableNum::Adventure, 0, "startloc",
+            condacts::NoLocationMessage(std::to_string(settings.Number(0))));
     }
 
     void CheckExits() {
@@ -90,7 +90,7 @@ class Search {
         const std::string_view to = i + 1 < numbers.size() ? numbers[i + 1].text : std::string_view();
         const auto destination = condacts::NumberOfToken(to);
         if (destination && IsRoom(PlaceNumber(*destination))) return;
-        Add(TableNum::Locations, room.value, "exits", NoSuchLocation(to, word), i + 1);
+        Add(TableNum::Locations, room.value, "exits", condacts::NoLocationMessage(to, word), i + 1);
     }
 
     void CheckObjects() {

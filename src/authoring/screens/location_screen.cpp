@@ -163,7 +163,7 @@ std::string LocationScreen::FaultOfLocation(std::string_view number, std::string
     const std::string of(word);
     const std::optional<PlaceNumber> location = LocationNumber(number);
     if (!location) return "TO location " + (of.empty() ? "" : "for " + of) + "must be numeric";
-    return Exists(*location) ? "" : NoSuchLocation(number, word);
+    return Exists(*location) ? "" : condacts::NoLocationMessage(number, word);
 }
 
 bool LocationScreen::CheckLocation(std::string_view control, std::string_view number,

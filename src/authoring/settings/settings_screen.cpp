@@ -8,6 +8,7 @@
 #include "authoring/fields/texts/text_editing.h"
 #include "authoring/fields/texts/text_field.h"
 #include "authoring/settings/settings_lists.h"
+#include "condacts/places.h"
 #include "platform/error.h"
 #include "store/game_source.h"
 #include "store/ifid.h"
@@ -183,7 +184,7 @@ bool SettingsScreen::LeaveStartPlace() {
     const bool exists = number && std::any_of(startPlace.items.begin(), startPlace.items.end(),
                                               [&](const ListItem& item) { return item.number == *number; });
     if (exists) return true;
-    return RefuseField("startPlace", NoSuchLocation(typed));
+    return RefuseField("startPlace", condacts::NoLocationMessage(typed));
 }
 
 bool SettingsScreen::CheckNumber(std::string_view control, std::string_view what, std::string_view typed,

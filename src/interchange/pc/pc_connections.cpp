@@ -56,7 +56,7 @@ void PcConnections::AddExit(std::string_view word, std::string_view destination)
         return;
     }
     if (!locations_->Has(*number) || condacts::IsSpecialPlace(*number)) {
-        job_.Fault(condacts::NoLocationMessage(destination) + " for " + name, destination);
+        job_.Fault(condacts::NoLocationMessage(destination, name), destination);
         return;
     }
     const condacts::PlaceNumber to(*number);

@@ -106,8 +106,7 @@ Image DecodeBmp(std::string_view bytes, std::string_view fileName) {
 }
 
 void FailToRead(std::string_view fileName, std::string_view why) {
-    std::string message = "Could not read the image ";
-    throw Error(message.append(fileName).append(": ").append(why));
+    throw Error("Could not read the image " + std::string(fileName) + ": " + std::string(why));
 }
 
 std::string SizeFault(std::int64_t width, std::int64_t height) {

@@ -133,12 +133,22 @@ TEST_F(Targets, AnAdventureIsNotCalledLikeAnotherKindOfFile) {
 }
 
 TEST(UnknownOption, IsNamedWhereverItStands) {
-    for (const std::vector<std::string>& arguments :
-         {std::vector<std::string>{"--bogus"}, {"verify", "--bogus"}, {"--bogus", "verify", "game.fbd"}}) {
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"--bogus"},
+                                                      {"verify", "--bogus"},
+                                                      {"--bogus", "verify", "game.fbd"},
+                                                      {"verify", "a.fbd", "b", "--bogus"}}) {
         const ProgramResult result = RunProgram(Program(), arguments, "");
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.errors, "fabula: There is no option '--bogus'; --help tells more.\n")
             << arguments[0];
+    }
+}
+
+TEST(UnknownOption, IsNoLoneDash) {
+    for (const std::string dash : {"-", "--"}) {
+        const ProgramResult result = RunProgram(Program(), {"verify", dash, "a.fbd", "b", "-"}, "");
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors.find("no option"), std::string::npos) << result.errors;
     }
 }
 
@@ -178,7 +188,7 @@ TEST(FullDisk, AHelpThatCanNotBeWrittenIsToldInOneSentence) {
     }
 }
 
-TEST_F(Targets, AnOutputThatCanNotBeWrittenIsToldWithTheReasonByEveryVerb) {
+TEST_F(Targets, AnOutputThatCanNotBeWrittenIsToldWithTheReason) {
     const std::vector<std::string> verbs = {
         "dump \"$1\" Locations", "uses \"$1\" location 0", "verify \"$1\"",
         "list \"$1\" locations", "tables \"$1\"",          "play \"$1\" </dev/null",

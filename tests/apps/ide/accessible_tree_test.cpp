@@ -138,6 +138,7 @@ TEST_F(AccessibleMainWindow, WalkingInTheTreeMovesNoFocusInTheRows) {
     QApplication::processEvents();
     for (const std::string& part : listener.Take())
         EXPECT_EQ(part, "Tree");
+    EXPECT_EQ(window_.Logic().Grid().View().table, store::TableNum::Vocabulary);
 }
 
 TEST_F(AccessibleMainWindow, WalkingInTheRowsTellsEachRow) {

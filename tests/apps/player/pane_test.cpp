@@ -88,7 +88,7 @@ TEST_F(TextPaneTest, PaperIsShownWhereItIsNotThatOfTheGame) {
 TEST_F(TextPaneTest, ASizeThatNoScreenHoldsIsTheLargestThatOneHolds) {
     pane_.Write("a", kStyle, "");
     pane_.Write("b", {.fontSize = 32'767, .paper = 15, .ink = 0}, "");
-    EXPECT_EQ(FormatAt(1).fontPointSize(), 144);
+    EXPECT_EQ(FormatAt(1).fontPointSize(), 288);
 }
 
 TEST_F(TextPaneTest, ZoomChangesEverySize) {

@@ -20,7 +20,7 @@ const std::vector<std::string> kOfTheGame = {
     "[a-z0-9]+",
     "\\w+ \\([a-z0-9]+\\)",
     "ProcessTables|SystemMessages|ProcDesc",
-    "\\d+ ?- ?.*",
+    "(<p[^>]*>)?\\d+ ?- ?.*",
     "MIDI Mapper|Fabula",
     "You are in a dark cave. 123",
     "\\d+: Subroutine",

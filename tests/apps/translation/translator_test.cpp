@@ -64,6 +64,17 @@ TEST_F(Translated, TheReasonBehindAFailureIsTranslatedToo) {
               "[Çóùĺď ñóţ óƥéñ cave.fbd: [ìţ ìš ďàṁàĝéď~~~].~~~~~~ ~]");
 }
 
+TEST_F(Translated, NothingStaysOfASentenceThatALibraryMakesOfParts) {
+    for (const char* sentence : {"There is not a location with a number of 9",
+                                 "There is not a location with a number of 9 for NORTH",
+                                 "Could not read the image x.png: it is no PNG, JPEG or BMP file.",
+                                 "Could not read the image x.png: it has too many pixels."}) {
+        const std::string translated = Of(sentence);
+        for (const char* word : {"location", "number", " for ", "Could", "image", "JPEG or", "many"})
+            EXPECT_EQ(translated.find(word), std::string::npos) << translated;
+    }
+}
+
 TEST_F(Translated, EachLineForItself) {
     EXPECT_EQ(Of("Sound ON\n  Sound OFF\n"), "[Šóùñď ÓÑ~]\n  [Šóùñď ÓƑƑ~~]\n");
 }

@@ -13,6 +13,7 @@
 #include "support/games/template_adventure.h"
 #include "text/encoding/utf8.h"
 #include "text/fields.h"
+#include "text/markup.h"
 #include "text/str_edit.h"
 
 namespace fabula::store {
@@ -240,6 +241,11 @@ TEST_P(Lint, TheSettingsNameTheTypeAndStartInTheOneRoom) {
     const std::string font = std::to_string(All(TableNum::Adventure).Number("Font"));
     EXPECT_NE(All(TableNum::Codes, "codenum=" + font).Text("FontName"), "");
     EXPECT_EQ(adventure_->Sorts().vocabulary, "voctypen, vocnum, word");
+}
+
+TEST_P(Lint, NoSizeIsLargerThanTextsAreShown) {
+    EXPECT_EQ(All(TableNum::Codes, "FontSize>" + std::to_string(text::kMostPoints)).RecordCount(), 0);
+    EXPECT_GT(All(TableNum::Codes, "FontSize=" + std::to_string(text::kMostPoints)).RecordCount(), 0);
 }
 
 TEST_P(Lint, NothingIsThereThatAnImportWouldMeet) {

@@ -114,7 +114,7 @@ double TextPane::PointsOf(int fontSize) const {
     const double ordinary = text::ShownPoints(look_.style.fontSize);
     const double own = fontSize > 0 ? text::ShownPoints(fontSize) : ordinary;
     const double wanted = choice_.points > 0 ? own * choice_.points / ordinary : own;
-    return wanted * zoom_ / 100.0;
+    return std::min<double>(wanted, text::kMostPoints) * zoom_ / 100.0;
 }
 
 QTextCursor TextPane::End() const {

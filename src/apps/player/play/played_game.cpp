@@ -136,6 +136,7 @@ bool PlayedGame::Undo() {
         if (WaitingFor() == Waiting::Nothing) {
             const Mark unseen(unseen_);
             engine_.Initialize();
+            GiveFiles();
         }
         taken = engine_.TakeState(states_.back());
     });
@@ -152,9 +153,11 @@ bool PlayedGame::Resume() {
     const bool began = Run([this] {
         const Mark unseen(unseen_);
         engine_.Initialize();
+        GiveFiles();
     });
     const engine::Game* const game = engine_.Running();
-    if (!began || game == nullptr) return false;
+    // What has gone wrong has been told, and would go wrong again.
+    if (!began || game == nullptr) return began && engine_.HasFailed();
     bool taken = false;
     Run([&] {
         try {

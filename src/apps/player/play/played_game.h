@@ -55,7 +55,8 @@ class PlayedGame {
     /// Whether there is a state of an earlier time to go on from.
     bool CanResume() const;
     /// Starts the game and goes on from it, and Undo never goes back before it. The opening is not shown.
-    /// False when that is not possible: the person was told, and the game is to be started.
+    /// False when that is not possible: the game is to be started. The person was told, unless the opening
+    /// ends the game, which is then to be seen. True where the opening goes wrong, since that was told.
     bool Resume();
 
     /// The game goes on with a long turn.

@@ -4,7 +4,7 @@
 #include <string>
 #include <system_error>
 
-#include "authoring/fields/location_names.h"
+#include "condacts/places.h"
 #include "interchange/shared/job_status.h"
 #include "interchange/shared/source_file.h"
 #include "store/tags.h"
@@ -66,7 +66,7 @@ class Loader {
             return "A short description has at most " + std::to_string(longest_) + " letters";
         store::Cursor& record = adventure_.OpenTable(TableNum::Locations, "locnum, locshortdesc",
                                                      "locnum=" + std::to_string(*location));
-        if (record.Eof()) return NoSuchLocation(std::to_string(*location));
+        if (record.Eof()) return condacts::NoLocationMessage(std::to_string(*location));
         record.SetField("locshortdesc", description.empty() ? " " : std::string(description));
         record.Update();
         return {};

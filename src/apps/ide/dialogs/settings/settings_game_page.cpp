@@ -153,8 +153,12 @@ void SettingsGamePage::AddGame(QFormLayout& form) {
     form.addRow(NewNote(qt::Translated(screen_.TypeNote()).replace("&&", "&"), "typeNote"));
     AddToForm(form, tr("Start &location:"), start_, "startPlace");
     // A place may be called by more than a line shows.
-    start_->setToolTip(start_->currentText());
-    connect(start_, &QComboBox::currentTextChanged, start_, &QWidget::setToolTip);
+    const auto tell = [start = start_](const QString& place) {
+        start->setToolTip(qt::TipOf(place));
+        start->setAccessibleDescription(place);
+    };
+    tell(start_->currentText());
+    connect(start_, &QComboBox::currentTextChanged, start_, tell);
     AddToForm(form, tr("Maximum &objects:"), objects_, "maxObjects");
     AddToForm(form, tr("Maximum &weight:"), weight_, "maxWeight");
     weight_->setEnabled(screen_.HasWeights());
@@ -304,6 +308,8 @@ int SettingsGamePage::WidthBesideLabels() const {
     ifid_->setMinimumWidth(WholeWidth(*ifid_));
     const int width = WidthOfColumn();
     ifid_->setMinimumWidth(0);
+    for (QFormLayout* form : forms_)
+        form->invalidate();
     return width;
 }
 

@@ -332,6 +332,15 @@ TEST_F(SettingsDialogTest, ATipTellsTheWholeStartLocation) {
     auto& start = Part<QComboBox>("startPlace");
     start.setEditText("a place with a name that is longer than any line of the settings");
     EXPECT_TRUE(start.toolTip().contains("longer than any line of the settings"));
+    EXPECT_EQ(start.accessibleDescription().toStdString(), start.currentText().toStdString());
+}
+
+TEST_F(SettingsDialogTest, ATipShowsMarkupInANameAsItStands) {
+    Open();
+    auto& start = Part<QComboBox>("startPlace");
+    start.setEditText("<img src=\"file:///dev/zero\">");
+    EXPECT_TRUE(start.toolTip().contains("&lt;img"));
+    EXPECT_FALSE(start.toolTip().contains("<img"));
 }
 
 TEST_F(SettingsDialogTest, FitsASmallScreen) {
